@@ -1,0 +1,1 @@
+#include <linkdbgui/VelkLinkDbGuiGlobal.h>

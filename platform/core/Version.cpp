@@ -1,0 +1,6 @@
+#include "Version.h"
+
+QString velkVersion()
+{
+    return QStringLiteral("0.1.0");
+}

@@ -1,0 +1,3 @@
+#include "PRefPtr.h"
+
+PRefObject::~PRefObject() = default;

@@ -1,0 +1,1 @@
+#include <geomcoregui/VelkGeomCoreGuiGlobal.h>

@@ -1,0 +1,1 @@
+#include "ExitStatus.h"

@@ -1,0 +1,6 @@
+#include <tools/velkmap/ExitStatus.h>
+
+int main()
+{
+    return int(velkmap::ExitStatus::Done);
+}
