@@ -1,1 +1,59 @@
-#include "ExitStatus.h"
+#include "Commands.h"
+
+#include <core/Version.h>
+
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace velkmap {
+
+namespace {
+
+void printHelp(QTextStream &out)
+{
+    out << "Usage: velkmap COMMAND [options]\n"
+           "Carries the table lines of a catalog release over to the next release.\n\n"
+           "Commands:\n";
+    for (const Command &command : commands())
+        out << "  " << command.name.leftJustified(8) << command.summary << '\n';
+    out << "\n'velkmap COMMAND --help' tells a command's options; 'velkmap --version' the "
+           "version.\n"
+           "\nExit status: 0 done, 1 wrong usage, 2 input could not be read,\n"
+           "3 the result could not be written.\n";
+}
+
+} // namespace
+
+const QList<Command> &commands()
+{
+    static const QList<Command> list = {};
+    return list;
+}
+
+ExitStatus run(const QStringList &arguments, QTextStream &out, QTextStream &err)
+{
+    if (arguments.isEmpty()) {
+        printHelp(err);
+        return ExitStatus::WrongUsage;
+    }
+    const QString &name = arguments.first();
+    if (name == "--help" || name == "-h" || name == "help") {
+        printHelp(out);
+        return ExitStatus::Done;
+    }
+    if (name == "--version") {
+        out << "velkmap " << velkVersion() << '\n';
+        return ExitStatus::Done;
+    }
+    const auto &list = commands();
+    const auto found =
+        std::ranges::find_if(list, [&](const Command &command) { return command.name == name; });
+    if (found == list.end()) {
+        err << "velkmap: there is no command '" << name << "'\nTry 'velkmap --help'.\n";
+        return ExitStatus::WrongUsage;
+    }
+    return found->run(arguments.mid(1), out, err);
+}
+
+} // namespace velkmap

@@ -1,6 +1,17 @@
-#include <tools/velkmap/ExitStatus.h>
+#include <tools/velkmap/Commands.h>
 
-int main()
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <clocale>
+#include <cstdio>
+
+int main(int argc, char **argv)
 {
-    return int(velkmap::ExitStatus::Done);
+    const QCoreApplication application(argc, argv);
+    // Numbers are read and written alike on every desk.
+    std::setlocale(LC_NUMERIC, "C");
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    return int(velkmap::run(QCoreApplication::arguments().mid(1), out, err));
 }

@@ -1,0 +1,62 @@
+#include "CommandLine.h"
+
+#include <QTextStream>
+
+namespace velkmap {
+
+CommandLine::CommandLine(const QString &name, const QString &description)
+    : m_name(name)
+{
+    m_parser.setApplicationDescription(description);
+    m_parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
+    addFlag("help", "Shows this text.");
+}
+
+void CommandLine::addRequired(const QString &option, const QString &value,
+                              const QString &description)
+{
+    m_required << option;
+    m_parser.addOption({option, description, value});
+}
+
+void CommandLine::addOptional(const QString &option, const QString &value,
+                              const QString &description, const QString &defaultValue)
+{
+    m_parser.addOption({option, description, value, defaultValue});
+}
+
+void CommandLine::addFlag(const QString &option, const QString &description)
+{
+    m_parser.addOption({option, description});
+}
+
+std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, QTextStream &out,
+                                             QTextStream &err)
+{
+    const bool understood = m_parser.parse(QStringList{"velkmap " + m_name} + arguments);
+    if (isSet("help")) {
+        QString help = m_parser.helpText();
+        const qsizetype begin = help.indexOf(' ');
+        const qsizetype end = help.indexOf('\n');
+        help.replace(begin, end - begin, " velkmap " + m_name + " [options]");
+        out << help;
+        return ExitStatus::Done;
+    }
+    if (!understood)
+        return wrongUsage(m_parser.errorText(), err);
+    if (!m_parser.positionalArguments().isEmpty())
+        return wrongUsage("unexpected argument: " + m_parser.positionalArguments().first(), err);
+    for (const QString &option : m_required) {
+        if (m_parser.value(option).isEmpty())
+            return wrongUsage("--" + option + " is missing", err);
+    }
+    return std::nullopt;
+}
+
+ExitStatus CommandLine::wrongUsage(const QString &what, QTextStream &err) const
+{
+    err << "velkmap " << m_name << ": " << what << "\nTry 'velkmap " << m_name << " --help'.\n";
+    return ExitStatus::WrongUsage;
+}
+
+} // namespace velkmap
