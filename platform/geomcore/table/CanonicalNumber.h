@@ -1,0 +1,47 @@
+#pragma once
+
+#include <geomcore/VelkGeomCoreGlobal.h>
+
+#include <QtGlobal>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace VKTab {
+
+/// A decimal number in a form that can be compared and hashed without floating point: equal values
+/// have equal numbers. Values are rounded (half away from zero) to Digits significant digits, so
+/// 0.1 + 0.2 as a program wrote it equals 0.3.
+class VELKGEOMCORE_EXPORT CanonicalNumber
+{
+public:
+    static constexpr int Digits = 10;
+
+    /// Zero.
+    CanonicalNumber() = default;
+
+    /// The number that \a text writes: optional sign, digits with an optional decimal point or
+    /// \a decimalChar, optional exponent; blanks around do not matter. Without a value if the text
+    /// is anything else ("M8", "1 1/4in") or beyond 1e±8000.
+    [[nodiscard]] static std::optional<CanonicalNumber> parse(std::string_view text,
+                                                              char decimalChar = '.');
+
+    /// Sign, exponent and digits in one integer; equal if and only if the numbers are.
+    [[nodiscard]] quint64 packed() const { return m_packed; }
+    [[nodiscard]] bool isZero() const { return m_packed == 0; }
+    [[nodiscard]] bool isNegative() const { return (m_packed >> 63) != 0; }
+    /// The nearest double.
+    [[nodiscard]] double toDouble() const;
+    /// Shortest plain notation with '.', or with an exponent beyond 1e±15.
+    [[nodiscard]] std::string toText() const;
+
+    friend bool operator==(CanonicalNumber, CanonicalNumber) = default;
+
+private:
+    /// Bit 63 sign, bits 48 to 62 exponent + 16384, bits 0 to 47 the digits as an integer that is
+    /// no multiple of 10. Zero is 0.
+    quint64 m_packed = 0;
+};
+
+} // namespace VKTab

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "CellKey.h"
+#include "TableData.h"
+
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace VKTab {
+
+/// Hash index of a table's rows over a set of its columns. Immutable and shared between threads
+/// after construction, which reads the table once.
+class VELKGEOMCORE_EXPORT LineIndex
+{
+public:
+    struct Key
+    {
+        int column = 0;
+        CompareMode compare = CompareMode::Number;
+        friend bool operator==(const Key &, const Key &) = default;
+    };
+
+    /// Without keys all rows are equal.
+    LineIndex(std::shared_ptr<const TableData> table, std::vector<Key> keys);
+    ~LineIndex();
+    LineIndex(const LineIndex &) = delete;
+    LineIndex &operator=(const LineIndex &) = delete;
+
+    [[nodiscard]] const TableData &table() const { return *m_table; }
+    [[nodiscard]] const std::vector<Key> &keys() const { return m_keys; }
+    /// Number of rows that differ from each other in the columns.
+    [[nodiscard]] int distinctCount() const { return m_distinct; }
+
+    /// First row, in table order, that equals \a row of this table on the columns.
+    [[nodiscard]] int firstOf(int row) const;
+    /// The next row that equals \a row; -1 after the last. Walk from firstOf() or from a hit.
+    [[nodiscard]] int nextOf(int row) const;
+    /// Whether no other row equals \a row.
+    [[nodiscard]] bool isUnique(int row) const
+    {
+        return m_next.empty() || m_next[size_t(row)] == row;
+    }
+    /// First row whose key cells equal \a cells (one for each key, in their order); -1 if none
+    /// does.
+    [[nodiscard]] int find(std::span<const CellKey> cells) const;
+
+    /// Looks up the rows of another table. One for each thread; keeps references to index and
+    /// table.
+    class VELKGEOMCORE_EXPORT Probe
+    {
+    public:
+        /// \a columns of \a other, one for each key of the index. A column -1 is "no value" in all
+        /// rows.
+        Probe(const LineIndex &index, const TableData &other, std::vector<int> columns);
+
+        /// First row of the index's table that equals \a row of the other; -1 if there is none.
+        /// Rows asked in order are fastest: the row after the last hit is tried first.
+        [[nodiscard]] int find(int row);
+        /// find() for rows.size() rows in order from \a firstRow on, with overlapping memory
+        /// access.
+        void find(int firstRow, std::span<int> rows);
+
+    private:
+        [[nodiscard]] quint64 load(int row);
+        [[nodiscard]] bool equals(int indexRow);
+        [[nodiscard]] int tryNext(int row);
+
+        const LineIndex &m_index;
+        const TableData &m_other;
+        std::vector<int> m_columns;
+        int m_width = 0;
+        bool m_sameLayout = false;
+        int m_expected = 0;
+        int m_misses = 0;
+        std::vector<std::string_view> m_cells;
+        std::vector<std::string_view> m_indexCells;
+        std::vector<CellKey> m_keys;
+        std::string m_scratch;
+        std::string m_indexScratch;
+    };
+
+private:
+    struct Slot
+    {
+        quint32 tag = 0;
+        qint32 tail = -1; ///< Last of the equal rows; -1 if the slot is free.
+    };
+
+    void build();
+    void insert(int row, quint64 hash);
+    [[nodiscard]] bool rowsEqual(int a, int b) const;
+
+    std::shared_ptr<const TableData> m_table;
+    std::vector<Key> m_keys;
+    std::vector<Slot> m_slots;
+    /// Ring of equal rows in ascending order; empty while all rows differ.
+    std::vector<qint32> m_next;
+    int m_width = 0;
+    int m_distinct = 0;
+};
+
+} // namespace VKTab
