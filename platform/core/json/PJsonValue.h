@@ -1,0 +1,91 @@
+#pragma once
+
+#include <core/VelkCoreGlobal.h>
+
+#include <QByteArray>
+#include <QExplicitlySharedDataPointer>
+#include <QString>
+#include <QStringList>
+
+class PJsonNode;
+
+/// A JSON value. Copies share their content until one of them is changed. Text that was parsed and
+/// that nobody looked into is kept as it was written, and goes out again byte for byte; numbers
+/// keep their written form. Looking into one value from several threads is safe, changing it is
+/// not.
+class VELKCORE_EXPORT PJsonValue
+{
+public:
+    enum Type {
+        Null = 0,
+        Bool,
+        Number,
+        Text,
+        Array,
+        Object,
+    };
+
+    explicit PJsonValue(Type type = Null);
+    PJsonValue(const QString &text);
+    PJsonValue(const PJsonValue &other);
+    PJsonValue(PJsonValue &&other) noexcept;
+    PJsonValue &operator=(const PJsonValue &other);
+    PJsonValue &operator=(PJsonValue &&other) noexcept;
+    ~PJsonValue();
+
+    [[nodiscard]] static PJsonValue fromBool(bool value);
+    [[nodiscard]] static PJsonValue fromInt(qint64 value);
+    /// Not a number and infinities have no JSON form and become null.
+    [[nodiscard]] static PJsonValue fromDouble(double value);
+    /// Takes over text that JsonWriter wrote, unchecked. It is indented for the depth at which it
+    /// comes to stand when the document is written.
+    [[nodiscard]] static PJsonValue fromWritten(const QByteArray &json);
+
+    /// Reads a whole document (RFC 8259, UTF-8, with or without byte order mark). Of members of one
+    /// name the last counts. False if the file cannot be read, is empty or is no JSON: then this
+    /// value is null, and \a error names the file, line and column (in bytes), both from 1.
+    [[nodiscard]] bool parseFile(const QString &nativePath, QString *error = nullptr);
+    [[nodiscard]] bool parse(const QByteArray &json, QString *error = nullptr);
+    /// Values nested deeper than this are refused.
+    static constexpr int MaxDepth = 512;
+
+    [[nodiscard]] Type type() const;
+    [[nodiscard]] bool isNull() const { return type() == Null; }
+    [[nodiscard]] bool isArray() const { return type() == Array; }
+    [[nodiscard]] bool isObject() const { return type() == Object; }
+
+    [[nodiscard]] bool toBool(bool other = false) const;
+    /// \a other also for numbers that are no integer or too large.
+    [[nodiscard]] qint64 toInt(qint64 other = 0) const;
+    [[nodiscard]] double toDouble(double other = 0) const;
+    /// \a other unless it is a text.
+    [[nodiscard]] QString toText(const QString &other = QString()) const;
+
+    /// Members of an object or elements of an array; 0 for all else.
+    [[nodiscard]] int size() const;
+    /// Null for what is not there.
+    [[nodiscard]] PJsonValue at(int index) const;
+    void append(const PJsonValue &value);
+
+    /// Names of the members in their order.
+    [[nodiscard]] QStringList keys() const;
+    [[nodiscard]] bool contains(const QString &key) const;
+    /// Null for what is not there.
+    [[nodiscard]] PJsonValue value(const QString &key) const;
+    /// The member, made (null, as the last one) if it is missing. A value that is no object becomes
+    /// an empty object first. The reference is valid until this value is changed.
+    PJsonValue &operator[](const QString &key);
+    bool remove(const QString &key);
+
+    /// UTF-8. Compact has no blanks; otherwise a row for each member and element, a blank a level,
+    /// arrays of plain values on one row, and a final line feed.
+    [[nodiscard]] QByteArray toByteArray(bool compact) const;
+    /// The text as it was parsed or taken over, else as toByteArray(true).
+    [[nodiscard]] QByteArray rawText() const;
+
+private:
+    explicit PJsonValue(PJsonNode *node);
+    friend class PJsonNode;
+
+    QExplicitlySharedDataPointer<PJsonNode> d;
+};

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "PrjMappingC.h"
+
+#include <geomcore/VelkGeomCoreGlobal.h>
+
+#include <QList>
+#include <QSharedDataPointer>
+#include <QString>
+
+class PJsonValue;
+class ReleaseMappingData;
+
+/// One release step of a catalog: a source date, a target date and the mappings of all its
+/// projects. A copy-on-write value that shares its pages of mappings: replacing one mapping costs
+/// microseconds, whatever the size of the release.
+class VELKGEOMCORE_EXPORT ReleaseMappingC
+{
+public:
+    ReleaseMappingC();
+    ReleaseMappingC(const ReleaseMappingC &other);
+    ReleaseMappingC(ReleaseMappingC &&other) noexcept;
+    ReleaseMappingC &operator=(const ReleaseMappingC &other);
+    ReleaseMappingC &operator=(ReleaseMappingC &&other) noexcept;
+    ~ReleaseMappingC();
+
+    /// Also the release's key in the mapping file and in the keys of change maps.
+    [[nodiscard]] QString getSourceDate() const;
+    void setSourceDate(const QString &date);
+    [[nodiscard]] QString getTargetDate() const;
+    void setTargetDate(const QString &date);
+
+    /// In stored order. Costs a list of handles: to look only, use the two below.
+    [[nodiscard]] QList<PrjMappingC> getMappingList() const;
+    [[nodiscard]] int countMappings() const;
+    /// \a position counts from 0 in stored order; not valid out of range.
+    [[nodiscard]] PrjMappingC mappingAt(int position) const;
+    /// The first in stored order that has path, version and table version; an empty table version
+    /// matches any. Not valid if there is none. One look-up in an index, so fit for painting.
+    [[nodiscard]] PrjMappingC findMapping(const QString &sourcePath, const QString &sourceVersion,
+                                          const QString &tableVersion) const;
+    /// Replaces exactly the mapping that findMapping gives for the new one's path, version and
+    /// table version, or appends.
+    void addMapping(const PrjMappingC &mapping);
+    /// The rolled up states of all mappings, kept while mappings come and go.
+    [[nodiscard]] PRJMAPPING::MappingState getMappingState() const;
+
+    /// Writes the release as one JSON object; \a headsOnly leaves out the mappings. The same
+    /// records give the same bytes.
+    void toJson(PJsonValue &out, bool headsOnly) const;
+    /// Reads what toJson wrote, "mappings" may be missing. False if anything is not as it should
+    /// be: then \a error tells what, where in the text and at which member, and this release is as
+    /// before. Members of other names are passed over.
+    bool fromJson(const PJsonValue &in, QString *error = nullptr);
+
+    /// Appends without looking for an equal key, as a reader of stored releases must.
+    void appendMapping(const PrjMappingC &mapping);
+
+private:
+    QSharedDataPointer<ReleaseMappingData> d;
+};
+Q_DECLARE_TYPEINFO(ReleaseMappingC, Q_RELOCATABLE_TYPE);
