@@ -1,0 +1,3 @@
+#pragma once
+
+#include "Content.h" // IWYU pragma: export

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "ResolveRangeOptionsI.h" // IWYU pragma: export
