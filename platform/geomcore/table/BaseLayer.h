@@ -56,15 +56,15 @@ public:
     [[nodiscard]] bool isDefValue(const VarId &id, const LineId &line) const override;
     [[nodiscard]] QVariant getCellProperty(const VarId &id, const LineId &line,
                                            CellPropId property) const override;
-    [[nodiscard]] std::optional<QString>
-    mapToVisibleValue(const VarId &id, const LineId &line, const Value &value) const override;
+    [[nodiscard]] std::optional<QString> mapToVisibleValue(const VarId &id, const LineId &line,
+                                                           const Value &value) const override;
     void fillLineData(const LineId &line, const LineI &shown, ValueMap &values) const override;
     bool setValue(const VarId &id, const LineId &line, const Value &value) override;
     [[nodiscard]] QString translateText(const QString &text, const VarId &id) const override;
 
     [[nodiscard]] QList<FilterCondition> getFilterConditions() const override;
-    [[nodiscard]] boost::shared_ptr<FilterBase>
-    getFilter(const QList<FilterCondition> &conditions, const Content &content) const override;
+    [[nodiscard]] boost::shared_ptr<FilterBase> getFilter(const QList<FilterCondition> &conditions,
+                                                          const Content &content) const override;
     [[nodiscard]] QHash<VarId, QStringList> getRangeFilter(const LineId &line) const override;
     [[nodiscard]] Value getRangeValueCustomDefault(const VarId &id) const override;
     [[nodiscard]] QStringList getVarGroups() const override;

@@ -33,12 +33,12 @@ class TableData;
 class TabOptions;
 
 /// One table in memory: its layers, variables, lines, filters, selection, options. A handle: copies
-/// see the same table. A default content is an empty table, which is not valid but takes options and
-/// listeners before a reader fills it.
+/// see the same table. A default content is an empty table, which is not valid but takes options
+/// and listeners before a reader fills it.
 ///
 /// Reading is safe on any thread, beside the thread that owns the table and may write. Writing
-/// (every operation that is not const, writes through a line or through the modify layer) belongs to
-/// one thread, the owner's; listeners are called on it.
+/// (every operation that is not const, writes through a line or through the modify layer) belongs
+/// to one thread, the owner's; listeners are called on it.
 class VELKGEOMCORE_EXPORT Content
 {
 public:
@@ -62,7 +62,8 @@ public:
     // Lines. An id that names no line gives an invalid line or info.
 
     /// Neither form shows put-in values to any other line of the table. With `detached` the line is
-    /// ready for the values of an iterator, without it takes room for them when the first is put in.
+    /// ready for the values of an iterator, without it takes room for them when the first is put
+    /// in.
     [[nodiscard]] Line getLine(const LineId &id, bool detached) const;
     [[nodiscard]] LineInfo getLineInfo(const LineId &id) const;
     /// All lines in file order, filtered-out ones included. Built at the first request and shared
@@ -130,8 +131,8 @@ public:
     [[nodiscard]] bool isPlain() const;
 
     /// Makes this the table of the given file; null makes it empty. Changes, selection, filters and
-    /// added layers of a former table go, options and listeners stay. A reference to nothing becomes
-    /// a reference to a new table.
+    /// added layers of a former table go, options and listeners stay. A reference to nothing
+    /// becomes a reference to a new table.
     void setFileLayer(const boost::shared_ptr<FileLayer> &layer);
 
     /// Where to listen. Of a reference to nothing it is a hub that never calls anybody.

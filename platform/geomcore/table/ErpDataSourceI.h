@@ -23,7 +23,8 @@ public:
 
     /// The columns; ids and sources are set by the layer.
     [[nodiscard]] virtual QList<Var> columns() const = 0;
-    /// The values of a line by column name, empty if it has none; nothing if they could not be read.
+    /// The values of a line by column name, empty if it has none; nothing if they could not be
+    /// read.
     [[nodiscard]] virtual std::optional<QHash<QString, Value>> values(const LineId &line) = 0;
 };
 

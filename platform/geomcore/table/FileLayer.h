@@ -34,8 +34,8 @@ public:
     void fillLineData(const LineId &line, const LineI &shown, ValueMap &values) const override;
     bool setValue(const VarId &id, const LineId &line, const Value &value) override;
     [[nodiscard]] QString translateText(const QString &text, const VarId &id) const override;
-    [[nodiscard]] boost::shared_ptr<FilterBase>
-    getFilter(const QList<FilterCondition> &conditions, const Content &content) const override;
+    [[nodiscard]] boost::shared_ptr<FilterBase> getFilter(const QList<FilterCondition> &conditions,
+                                                          const Content &content) const override;
     [[nodiscard]] bool isValid() const override;
 
     /// Null for a layer without data.

@@ -4,8 +4,8 @@
 
 #include "FindResult.h"
 #include "FindValue.h"
-#include "TabVarValue.h"
 #include "TableEnums.h"
+#include "TabVarValue.h"
 
 #include <QFlags>
 #include <QList>
@@ -28,8 +28,8 @@ public:
     };
     Q_DECLARE_FLAGS(FindFlags, FindFlag)
 
-    /// One find value for each value whose variable the table has and the filter takes, in the order
-    /// given; others are dropped.
+    /// One find value for each value whose variable the table has and the filter takes, in the
+    /// order given; others are dropped.
     [[nodiscard]] QList<FindValue> toValueList(const Content &content,
                                                const QList<TabVarValue> &values,
                                                VarTypeFilterFlags filter) const;

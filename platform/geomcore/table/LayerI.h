@@ -43,8 +43,8 @@ struct LayerChange
 };
 
 /// A named set of columns added to a table. A layer answers for its own variables and for the lines
-/// that it knows something of; for all others it gives null values, empty texts and false. The order
-/// of the virtual operations is part of the interface.
+/// that it knows something of; for all others it gives null values, empty texts and false. The
+/// order of the virtual operations is part of the interface.
 ///
 /// Reading is safe on any thread beside the one thread that writes.
 class VELKGEOMCORE_EXPORT LayerI
@@ -86,7 +86,8 @@ public:
     [[nodiscard]] virtual QVariant getLineProperty(const LineId &line,
                                                    LinePropId property) const = 0;
     /// An empty text when unset.
-    [[nodiscard]] virtual QVariant getLineKeyValue(const LineId &line, const QString &key) const = 0;
+    [[nodiscard]] virtual QVariant getLineKeyValue(const LineId &line,
+                                                   const QString &key) const = 0;
     /// The properties that the layer knows of its lines.
     [[nodiscard]] virtual QList<LinePropId> getLineProperties() const = 0;
     [[nodiscard]] virtual QList<LineId> getHiddenLines() const = 0;
@@ -133,11 +134,12 @@ public:
     /// Puts variables in order by a list of names, in which "..." stands for all others and a
     /// missing "..." for others at the end. Unknown names are passed over; variables that the
     /// predicate refuses are left out.
-    [[nodiscard]] virtual QList<VarId>
-    evaluateColumnMapping(const QList<Var> &vars, const QHash<QString, Var> &byName,
-                          const QStringList &order, const VarPredicate &accepts) const = 0;
-    /// The variables of each group, in the order of `vars`. `groups` gives the groups of a variable;
-    /// one without an entry has those of its own description in `byName`.
+    [[nodiscard]] virtual QList<VarId> evaluateColumnMapping(const QList<Var> &vars,
+                                                             const QHash<QString, Var> &byName,
+                                                             const QStringList &order,
+                                                             const VarPredicate &accepts) const = 0;
+    /// The variables of each group, in the order of `vars`. `groups` gives the groups of a
+    /// variable; one without an entry has those of its own description in `byName`.
     [[nodiscard]] virtual QMap<QString, QList<VarId>>
     evaluateVariableToGroupMapping(const QMap<VarId, QStringList> &groups, const QList<Var> &vars,
                                    const QHash<QString, Var> &byName) const = 0;

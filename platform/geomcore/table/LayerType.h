@@ -6,8 +6,8 @@
 
 namespace VKTab {
 
-/// Number of a layer type, never 0; the same name gives the same number for the life of the process.
-/// Any thread.
+/// Number of a layer type, never 0; the same name gives the same number for the life of the
+/// process. Any thread.
 VELKGEOMCORE_EXPORT int registerLayerType(const QString &name);
 
 /// Types of the library's own layers.

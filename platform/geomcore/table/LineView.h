@@ -48,8 +48,8 @@ public:
     /// The line shows exactly what the file has, so the table may be read directly.
     [[nodiscard]] bool isPlain() const;
 
-    /// Bytes of the file's cell, whatever was put over it: for a range column this is the range that
-    /// the line offers. The result points into the table or into `scratch`.
+    /// Bytes of the file's cell, whatever was put over it: for a range column this is the range
+    /// that the line offers. The result points into the table or into `scratch`.
     [[nodiscard]] std::string_view cell(int column, std::string &scratch) const;
     /// What the line shows, UTF-8, in plain notation (blanks at both ends removed, numbers with a
     /// decimal point), empty for a missing value. Points into the table or into `scratch`.

@@ -24,7 +24,8 @@ public:
     [[nodiscard]] QHash<VarId, QStringList> getRangeFilter(const LineId &line) const override;
     [[nodiscard]] bool isValid() const override;
 
-    /// Changes several cells of a line at once; listeners hear of it once. True if anything changed.
+    /// Changes several cells of a line at once; listeners hear of it once. True if anything
+    /// changed.
     bool setValues(const LineId &line, const ValueMap &values);
     /// No cell of the table is changed. Cheap.
     [[nodiscard]] bool isPlain() const { return hasNoValues(); }

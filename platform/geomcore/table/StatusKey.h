@@ -10,8 +10,8 @@
 
 namespace VKTab {
 
-/// Definition of one status column of a table: its name and its states. A value: what is added after
-/// a copy was handed on does not reach the copy.
+/// Definition of one status column of a table: its name and its states. A value: what is added
+/// after a copy was handed on does not reach the copy.
 class VELKGEOMCORE_EXPORT StatusKey
 {
 public:

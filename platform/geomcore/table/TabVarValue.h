@@ -8,9 +8,10 @@ class TabVarValue
 {
 public:
     TabVarValue() = default;
-    /// `unit` of the value, its place in the list of values that it was taken from (from 0), and the
-    /// length of that list.
-    TabVarValue(const QString &name, const QString &value, const QString &unit, int place, int count)
+    /// `unit` of the value, its place in the list of values that it was taken from (from 0), and
+    /// the length of that list.
+    TabVarValue(const QString &name, const QString &value, const QString &unit, int place,
+                int count)
         : m_name(name)
         , m_value(value)
         , m_unit(unit)

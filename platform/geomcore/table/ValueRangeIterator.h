@@ -17,13 +17,13 @@ class Content;
 class LineI;
 
 /// Walk over the value combinations of a line's ranges. The variable named last runs fastest, each
-/// range in its written order. Every combination is put into the line; after the last one the values
-/// are taken out, and the line shows what its table has. An iterator that ends before the last
-/// combination leaves that one in the line.
+/// range in its written order. Every combination is put into the line; after the last one the
+/// values are taken out, and the line shows what its table has. An iterator that ends before the
+/// last combination leaves that one in the line.
 ///
-/// A variable takes part if it is a range variable whose cell lists values or steps; a cell with one
-/// plain value, an empty one, or one that is no range does not. Values that were chosen from a range
-/// by LineI::apply do not narrow the walk.
+/// A variable takes part if it is a range variable whose cell lists values or steps; a cell with
+/// one plain value, an empty one, or one that is no range does not. Values that were chosen from a
+/// range by LineI::apply do not narrow the walk.
 class VELKGEOMCORE_EXPORT ValueRangeIterator
 {
 public:

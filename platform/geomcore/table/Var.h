@@ -52,8 +52,8 @@ public:
     [[nodiscard]] QString getZTypeAsString() const;
     void setZTypeAsString(const QString &type);
 
-    /// Value-range variable: a line offers a range of values instead of one. So is every variable of
-    /// type VarTypeRange, and any other for which it was set.
+    /// Value-range variable: a line offers a range of values instead of one. So is every variable
+    /// of type VarTypeRange, and any other for which it was set.
     [[nodiscard]] bool isFW() const;
     void setFW(bool range);
     [[nodiscard]] bool isNumeric() const;

@@ -15,11 +15,11 @@ class Content;
 class Line;
 } // namespace VKTab
 
-/// The plain, range and computed variables of the file with their values on a line, untranslated and
-/// in plain notation, hidden ones and empty values included; columns of added layers are left out.
-/// `excluded` holds the ids of variables to leave out. This form reads the line as the table has it:
-/// a range variable has the stored text, or the value that was applied to it. Empty for an id
-/// without line.
+/// The plain, range and computed variables of the file with their values on a line, untranslated
+/// and in plain notation, hidden ones and empty values included; columns of added layers are left
+/// out. `excluded` holds the ids of variables to leave out. This form reads the line as the table
+/// has it: a range variable has the stored text, or the value that was applied to it. Empty for an
+/// id without line.
 [[nodiscard]] VELKGEOMCORE_EXPORT QHash<QString, MapVarValueC>
 createVarsetFromVKTable(const VKTab::Content &content, const VKTab::LineId &line,
                         const QSet<int> &excluded);
