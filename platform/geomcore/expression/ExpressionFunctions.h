@@ -1,0 +1,51 @@
+#pragma once
+
+#include "NodeBase.h"
+#include "Operand.h"
+
+#include <QStringView>
+
+#include <span>
+
+namespace VKTab {
+
+/// A function of the formula language.
+struct ExpressionFunction
+{
+    using Evaluate = Operand (*)(std::span<const Operand> arguments,
+                                 std::pmr::memory_resource &memory);
+
+    const char *name;
+    int minArguments;
+    /// -1: any number.
+    int maxArguments;
+    NodeType result;
+    /// Null for IF, of which only the chosen branch is evaluated.
+    Evaluate evaluate;
+
+    /// IF takes a comparison as its first argument, all other arguments are values.
+    [[nodiscard]] bool isConditional() const { return evaluate == nullptr; }
+};
+
+/// The function of that name, letter case ignored; null if there is none. Lives as long as the
+/// library.
+[[nodiscard]] const ExpressionFunction *findFunction(QStringView name);
+
+/// All functions, sorted by name.
+[[nodiscard]] VELKGEOMCORE_EXPORT std::span<const ExpressionFunction> expressionFunctions();
+
+/// Evaluation of the functions that make or take apart texts.
+namespace TextFunctions {
+Operand length(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand subText(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand upper(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand lower(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand trim(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand concat(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand find(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand replace(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand number(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand text(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+} // namespace TextFunctions
+
+} // namespace VKTab
