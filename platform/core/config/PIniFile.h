@@ -84,7 +84,6 @@ private:
     {
         QString section;
         std::vector<Line> lines;
-        bool removed = false;
     };
     struct Position
     {
@@ -102,14 +101,18 @@ private:
     void parseLine(const QByteArray &bytes, int number);
     bool parseHeading(QStringView text, int number);
     bool parseKey(QStringView text, Line &line);
+    void parseValue(QStringView text, Line &line);
     void note(int line, const QString &message);
     void addBlock(const QString &section);
     void addLine(Line line);
     [[nodiscard]] const Line *find(const QString &section, const QString &key) const;
-    void insertKey(const QString &section, Line line);
     [[nodiscard]] Line makeLine(const QString &key, const QString &value,
                                 const QByteArray &comment) const;
-    void endLastLine();
+    void insertKey(const QString &section, Line line);
+    void addSection(const QString &section);
+    void reopenPreamble();
+    void endLine(Line &line) const;
+    [[nodiscard]] static size_t endOfText(const std::vector<Line> &lines);
 
     std::vector<Block> m_blocks;
     QHash<QString, Section> m_sections;

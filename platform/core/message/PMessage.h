@@ -8,6 +8,8 @@
 
 #include <QString>
 
+class PStringMessageImpl;
+
 /// Messages to the user. They go to the innermost PStringMessageImpl of the calling thread, or to
 /// the process's sink. Any thread.
 class VELKCORE_EXPORT PMessage
@@ -28,4 +30,11 @@ public:
     /// "error", "warning", "question" or "info".
     [[nodiscard]] static QString severityName(PMsgDlgModes mode);
     [[nodiscard]] static bool isQuestion(PMsgDlgModes mode);
+
+private:
+    friend class PStringMessageImpl;
+
+    /// To the given capture, or to the sink if that is null.
+    static PMsgReply showOutside(PStringMessageImpl *capture, const QString &text,
+                                 PMsgDlgModes mode);
 };

@@ -35,7 +35,6 @@ private:
 
     PMsgReply take(const QString &text, PMsgDlgModes mode);
     [[nodiscard]] static PStringMessageImpl *innermost();
-    static PMsgReply dispatch(PStringMessageImpl *to, const QString &text, PMsgDlgModes mode);
 
     const PMsgReply m_reply;
     const bool m_log;

@@ -1,0 +1,247 @@
+#include "PIniFile.h"
+
+#include "PIniText.h"
+
+#include <QFile>
+#include <QStringDecoder>
+
+using namespace Internal;
+
+namespace {
+
+const QByteArray ByteOrderMark("\xef\xbb\xbf");
+
+QByteArrayView withoutLineEnd(QByteArrayView line)
+{
+    if (line.endsWith('\n'))
+        line.chop(1);
+    if (line.endsWith('\r'))
+        line.chop(1);
+    return line;
+}
+
+bool isComment(QStringView text)
+{
+    return text.startsWith(u';') || text.startsWith(u'#');
+}
+
+} // namespace
+
+// Reading
+
+bool PIniFile::load(const QString &nativePath)
+{
+    clear();
+    m_fileName = nativePath;
+    QFile file(nativePath);
+    if (!file.open(QIODevice::ReadOnly)) {
+        m_errorText = QStringLiteral("%1: cannot be read: %2").arg(nativePath, file.errorString());
+        return false;
+    }
+    const QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        m_errorText = QStringLiteral("%1: cannot be read: %2").arg(nativePath, file.errorString());
+        return false;
+    }
+    parse(content, nativePath);
+    return true;
+}
+
+void PIniFile::clear()
+{
+    *this = PIniFile();
+}
+
+void PIniFile::parse(const QByteArray &content, const QString &fileName)
+{
+    clear();
+    m_fileName = fileName;
+    m_byteOrderMark = content.startsWith(ByteOrderMark);
+    addBlock(QString());
+    qsizetype begin = m_byteOrderMark ? ByteOrderMark.size() : 0;
+    const qsizetype firstEnd = content.indexOf('\n', begin);
+    if (firstEnd > 0 && content.at(firstEnd - 1) == '\r')
+        m_lineEnd = "\r\n";
+    for (int number = 1; begin < content.size(); ++number) {
+        const qsizetype found = content.indexOf('\n', begin);
+        const qsizetype end = found < 0 ? content.size() : found + 1;
+        parseLine(content.mid(begin, end - begin), number);
+        begin = end;
+    }
+}
+
+void PIniFile::parseLine(const QByteArray &bytes, int number)
+{
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString decoded = decode(withoutLineEnd(bytes));
+    if (decode.hasError())
+        note(number, QStringLiteral("not UTF-8"));
+    Line line;
+    line.bytes = bytes;
+    line.number = number;
+    const QStringView text = QStringView(decoded).trimmed();
+    if (!text.isEmpty() && !isComment(text)) {
+        if (!text.startsWith(u'['))
+            line.isKey = parseKey(text, line);
+        else if (!parseHeading(text, number))
+            note(number, QStringLiteral("section heading without end"));
+    }
+    addLine(std::move(line));
+}
+
+bool PIniFile::parseHeading(QStringView text, int number)
+{
+    QStringView name = text.mid(1).trimmed();
+    qsizetype close = -1;
+    QString section;
+    if (name.startsWith(u'"')) {
+        const QuotedText quotedName = readQuoted(name);
+        close = quotedName.end < 0 ? -1 : name.indexOf(u']', quotedName.end);
+        if (close < 0 || !name.mid(quotedName.end, close - quotedName.end).trimmed().isEmpty())
+            return false;
+        section = quotedName.text;
+    } else {
+        close = name.indexOf(u']');
+        if (close < 0)
+            return false;
+        section = name.left(close).trimmed().toString();
+    }
+    const QStringView rest = name.mid(close + 1).trimmed();
+    if (!rest.isEmpty() && !isComment(rest))
+        note(number, QStringLiteral("text behind the section heading is ignored"));
+    addBlock(section);
+    return true;
+}
+
+bool PIniFile::parseKey(QStringView text, Line &line)
+{
+    qsizetype equals = -1;
+    if (text.startsWith(u'"')) {
+        const QuotedText key = readQuoted(text);
+        if (key.end >= 0) {
+            equals = text.indexOf(u'=', key.end);
+            if (equals >= 0 && !text.mid(key.end, equals - key.end).trimmed().isEmpty())
+                equals = -1;
+        }
+        line.key = key.text;
+    } else {
+        equals = text.indexOf(u'=');
+        line.key = text.left(qMax(equals, qsizetype(0))).trimmed().toString();
+        if (line.key.isEmpty())
+            equals = -1;
+    }
+    if (equals < 0) {
+        note(line.number, QStringLiteral("neither section, key nor comment"));
+        return false;
+    }
+    parseValue(text.mid(equals + 1).trimmed(), line);
+    return true;
+}
+
+void PIniFile::parseValue(QStringView text, Line &line)
+{
+    line.value = text.toString();
+    if (!text.startsWith(u'"'))
+        return;
+    const QuotedText value = readQuoted(text);
+    if (value.end < 0) {
+        note(line.number, QStringLiteral("quote without end; the text is taken as it stands"));
+        return;
+    }
+    const QStringView rest = text.mid(value.end);
+    if (!rest.trimmed().isEmpty() && !isComment(rest.trimmed())) {
+        note(line.number, QStringLiteral("text behind the quotes; all is taken as it stands"));
+        return;
+    }
+    if (!value.unknownEscape.isEmpty())
+        note(line.number,
+             QStringLiteral("unknown escape %1 is taken as it stands").arg(value.unknownEscape));
+    line.value = value.text;
+    line.comment = rest.toUtf8();
+}
+
+void PIniFile::note(int line, const QString &message)
+{
+    m_diagnostics.append({line, message});
+}
+
+QStringList PIniFile::diagnosticTexts() const
+{
+    QStringList texts;
+    for (const Diagnostic &diagnostic : m_diagnostics)
+        texts.append(QStringLiteral("%1:%2: %3")
+                         .arg(m_fileName, QString::number(diagnostic.line), diagnostic.message));
+    return texts;
+}
+
+void PIniFile::addBlock(const QString &section)
+{
+    if (!m_sections.contains(section))
+        m_sectionOrder.append(section);
+    m_sections[section].blocks.append(int(m_blocks.size()));
+    m_blocks.push_back({section, {}});
+}
+
+void PIniFile::addLine(Line line)
+{
+    Block &block = m_blocks.back();
+    if (line.isKey) {
+        Section &section = m_sections[block.section];
+        if (!section.last.contains(line.key))
+            section.keys.append(line.key);
+        section.last[line.key] = {int(m_blocks.size()) - 1, int(block.lines.size())};
+    }
+    block.lines.push_back(std::move(line));
+}
+
+// Asking
+
+QStringList PIniFile::sections() const
+{
+    QStringList result;
+    for (const QString &section : m_sectionOrder) {
+        if (hasSection(section))
+            result.append(section);
+    }
+    return result;
+}
+
+bool PIniFile::hasSection(const QString &section) const
+{
+    const auto found = m_sections.constFind(section);
+    return found != m_sections.cend() && (!section.isEmpty() || !found->keys.isEmpty());
+}
+
+QStringList PIniFile::keys(const QString &section) const
+{
+    return m_sections.value(section).keys;
+}
+
+const PIniFile::Line *PIniFile::find(const QString &section, const QString &key) const
+{
+    const auto found = m_sections.constFind(section);
+    if (found == m_sections.cend())
+        return nullptr;
+    const auto position = found->last.constFind(key);
+    if (position == found->last.cend())
+        return nullptr;
+    return &m_blocks[size_t(position->block)].lines[size_t(position->line)];
+}
+
+bool PIniFile::contains(const QString &section, const QString &key) const
+{
+    return find(section, key) != nullptr;
+}
+
+QString PIniFile::value(const QString &section, const QString &key,
+                        const QString &defaultValue) const
+{
+    const Line *found = find(section, key);
+    return found ? found->value : defaultValue;
+}
+
+int PIniFile::line(const QString &section, const QString &key) const
+{
+    const Line *found = find(section, key);
+    return found ? found->number : 0;
+}
