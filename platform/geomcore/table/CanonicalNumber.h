@@ -11,12 +11,14 @@
 namespace VKTab {
 
 /// A decimal number in a form that can be compared and hashed without floating point: equal values
-/// have equal numbers. Values are rounded (half away from zero) to Digits significant digits, so
-/// 0.1 + 0.2 as a program wrote it equals 0.3.
+/// have equal numbers. A fraction is rounded (half away from zero) so that the number has Digits
+/// significant digits: 0.1 + 0.2 as a program wrote it equals 0.3. Integers are never rounded,
+/// since two long order numbers are not one; with more than MaxIntegerDigits digits they are texts.
 class VELKGEOMCORE_EXPORT CanonicalNumber
 {
 public:
     static constexpr int Digits = 10;
+    static constexpr int MaxIntegerDigits = 14;
 
     /// Zero.
     CanonicalNumber() = default;

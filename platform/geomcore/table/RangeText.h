@@ -7,6 +7,7 @@
 #include <QStringView>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace VKTab {
@@ -24,6 +25,9 @@ public:
     /// without a step, a step that is not above 0, an end below the begin. \a error then says what.
     [[nodiscard]] static std::optional<RangeText> parse(QStringView text, char decimalChar = '.',
                                                         QString *error = nullptr);
+
+    /// Whether UTF-8 \a text surely is a range, by a glance: false says nothing.
+    [[nodiscard]] static bool isSimple(std::string_view text);
 
     [[nodiscard]] bool isEmpty() const { return m_parts.empty(); }
     /// Number of values, without making them; one that stands twice counts twice.
@@ -50,7 +54,12 @@ private:
         qint64 last = 0;
         qint64 step = 0; ///< 0: a single value.
         int scale = 0;
+
+        [[nodiscard]] qint64 count() const;
+        [[nodiscard]] QString value(qint64 index) const;
+        [[nodiscard]] bool containsNumber(QStringView value, char decimalChar) const;
     };
+    [[nodiscard]] bool containsSteps(const Part &steps) const;
     [[nodiscard]] static std::optional<Part> parsePart(QStringView text, char decimalChar,
                                                        QString *error);
 

@@ -3,6 +3,7 @@
 #include "InternedColumn.h"
 #include "TableDescriptor.h"
 
+#include <array>
 #include <memory>
 #include <span>
 #include <string>
@@ -64,7 +65,10 @@ public:
     [[nodiscard]] bool hasQuotes(int row) const { return (m_rows[size_t(row)] & QuoteBit) != 0; }
     /// Splits a row; \a cells has columnCount() elements. Views point into the table, except for
     /// cells with doubled quotes, which are unquoted into \a scratch and valid until it changes.
-    void cells(int row, std::span<std::string_view> cells, std::string &scratch) const;
+    void cells(int row, std::span<std::string_view> cells, std::string &scratch) const
+    {
+        firstCells(row, cells, scratch);
+    }
     /// As above, for the first cells.size() columns only.
     void firstCells(int row, std::span<std::string_view> cells, std::string &scratch) const;
     /// One cell, unquoted.
@@ -72,7 +76,9 @@ public:
     [[nodiscard]] QString text(int row, int column) const;
     [[nodiscard]] bool isMissing(std::string_view cell) const
     {
-        return cell.empty() ? m_emptyIsMissing : m_descriptor.isMissing(cell);
+        if (cell.empty())
+            return m_emptyIsMissing;
+        return m_maybeMissing[uchar(cell.front())] && m_descriptor.isMissing(cell);
     }
 
     /// First component of a line's id; the data row from 1 if the table has no column of ids.
@@ -101,6 +107,8 @@ private:
     static constexpr quint64 QuoteBit = quint64(1) << 63;
 
     TableData();
+    void setMissing();
+    void intern(int column, InternedColumn &out) const;
     [[nodiscard]] quint64 rowBegin(size_t row) const { return m_rows[row] & ~QuoteBit; }
 
     const char *m_bytes = nullptr;
@@ -110,6 +118,8 @@ private:
     size_t m_rowCount = 0;
     int m_columnCount = 0;
     bool m_emptyIsMissing = true;
+    /// Whether a cell that begins with that byte may mean "no value".
+    std::array<bool, 256> m_maybeMissing{};
     TableDescriptor m_descriptor;
     QString m_fileName;
     std::vector<int> m_lineNumbers;    ///< Empty: the data row.

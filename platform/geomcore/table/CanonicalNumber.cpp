@@ -1,0 +1,127 @@
+#include "CanonicalNumber.h"
+
+#include "CellKey.h"
+
+#include <charconv>
+#include <cstdlib>
+
+namespace VKTab {
+
+namespace {
+
+constexpr int ExponentBias = 16384;
+constexpr int ExponentLimit = 8000;
+constexpr quint64 DigitsMask = (quint64(1) << 48) - 1;
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+/// Significant digits as they come in, the power of ten of the last one kept, and whether to round
+/// up.
+struct Mantissa
+{
+    quint64 value = 0;
+    int kept = 0;
+    qint64 exponent = 0;
+    bool roundUp = false;
+    bool rounded = false;
+    bool any = false;
+    bool tooLong = false;
+
+    void add(char digit, bool fraction)
+    {
+        any = true;
+        if (fraction && kept >= CanonicalNumber::Digits) {
+            roundUp = rounded ? roundUp : digit >= '5';
+            rounded = true;
+            return;
+        }
+        tooLong = tooLong || kept >= CanonicalNumber::MaxIntegerDigits;
+        value = tooLong ? value : value * 10 + quint64(digit - '0');
+        kept += value != 0;
+        exponent -= fraction;
+    }
+};
+
+/// Reads an exponent's digits; saturates far beyond the limit.
+bool readExponent(const char *&at, const char *end, qint64 &exponent)
+{
+    const bool negative = at < end && *at == '-';
+    at += at < end && (*at == '-' || *at == '+');
+    if (at == end)
+        return false;
+    qint64 value = 0;
+    for (; at < end && isDigit(*at); ++at)
+        value = value > 1000000 ? value : value * 10 + (*at - '0');
+    exponent += negative ? -value : value;
+    return at == end;
+}
+
+} // namespace
+
+std::optional<CanonicalNumber> CanonicalNumber::parse(std::string_view text, char decimalChar)
+{
+    text = trimmedCell(text);
+    const char *at = text.data();
+    const char *const end = at + text.size();
+    const bool negative = at < end && *at == '-';
+    at += at < end && (*at == '-' || *at == '+');
+    Mantissa mantissa;
+    for (; at < end && isDigit(*at); ++at)
+        mantissa.add(*at, false);
+    if (at < end && (*at == '.' || *at == decimalChar)) {
+        for (++at; at < end && isDigit(*at); ++at)
+            mantissa.add(*at, true);
+    }
+    if (!mantissa.any || mantissa.tooLong)
+        return {};
+    if (at < end) {
+        if ((*at | 0x20) != 'e' || !readExponent(++at, end, mantissa.exponent))
+            return {};
+    }
+    CanonicalNumber result;
+    quint64 digits = mantissa.value + (mantissa.roundUp ? 1 : 0);
+    if (digits == 0)
+        return result;
+    for (; digits % 10 == 0; digits /= 10)
+        ++mantissa.exponent;
+    if (mantissa.exponent > ExponentLimit || mantissa.exponent < -ExponentLimit)
+        return {};
+    result.m_packed =
+        quint64(negative) << 63 | quint64(mantissa.exponent + ExponentBias) << 48 | digits;
+    return result;
+}
+
+double CanonicalNumber::toDouble() const
+{
+    const std::string text = toText();
+    double value = 0.0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+std::string CanonicalNumber::toText() const
+{
+    if (isZero())
+        return "0";
+    std::string digits = std::to_string(m_packed & DigitsMask);
+    const int exponent = int(m_packed >> 48 & 0x7FFF) - ExponentBias;
+    const int point = int(digits.size()) + exponent; // digits before the decimal point
+    if (point > 16 || point < -14) {
+        const int power = point - 1;
+        if (digits.size() > 1)
+            digits.insert(1, 1, '.');
+        digits += "e" + std::to_string(power);
+    } else if (exponent >= 0) {
+        digits.append(size_t(exponent), '0');
+    } else if (point > 0) {
+        digits.insert(size_t(point), 1, '.');
+    } else {
+        digits = "0." + std::string(size_t(-point), '0') + digits;
+    }
+    return isNegative() ? "-" + digits : digits;
+}
+
+} // namespace VKTab
