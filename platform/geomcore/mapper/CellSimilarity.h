@@ -1,0 +1,38 @@
+#pragma once
+
+#include "TextSimilarity.h"
+
+#include <optional>
+#include <string_view>
+
+namespace Mapper {
+
+/// From 0 to 1 by relative distance; numbers of different sign, and 0 beside another number, have
+/// nothing in common.
+[[nodiscard]] double numberSimilarity(double a, double b);
+
+/// From 0 to 1: a source value inside the range has 1, two ranges as many as they have in common
+/// (Dice). \a decimalChar is that of the target cell.
+[[nodiscard]] double rangeSimilarity(std::string_view source, std::string_view targetRange,
+                                     char decimalChar);
+
+/// A value of a source line, prepared to be compared with many target cells.
+class ComparableCell
+{
+public:
+    /// In plain notation; an empty text is no value.
+    explicit ComparableCell(std::string_view text);
+
+    [[nodiscard]] bool hasValue() const { return !m_text.empty(); }
+    [[nodiscard]] std::string_view text() const { return m_text; }
+    [[nodiscard]] const std::optional<double> &number() const { return m_number; }
+    /// From 0 to 1 with a cell that has a value.
+    [[nodiscard]] double similarity(std::string_view cell, char decimalChar) const;
+
+private:
+    std::string_view m_text;
+    std::optional<double> m_number;
+    mutable std::optional<ComparableText> m_comparable;
+};
+
+} // namespace Mapper
