@@ -80,18 +80,19 @@ public:
 
 private:
     [[nodiscard]] Origin columnOrigin(const QString &name) const;
+    [[nodiscard]] MapVarValueC valueOf(const QString &name, const LineView &line,
+                                       const Results &results) const;
     void setOrigin(const QString &target, const Origin &origin);
 
     QHash<QString, Origin> m_touched;
     /// Keys of m_touched in the order of their first appearance.
     QStringList m_touchedNames;
-    /// Variables of the table in the order of its columns, and their columns and kinds.
     struct TableVariable
     {
         QString name;
         int column;
-        bool numeric;
     };
+    /// In order of columns.
     QList<TableVariable> m_variables;
     std::vector<BoundExpression> m_formulas;
 };

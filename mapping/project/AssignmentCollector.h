@@ -1,0 +1,23 @@
+#pragma once
+
+#include <linkdbgui/VelkLinkDbGuiGlobal.h>
+
+#include <geomcore/expression/NodeVisitor.h>
+#include <geomcore/table/VarId.h>
+
+#include <QSet>
+
+/// Collects the variables that a statement assigns. A formula assigns exactly one.
+class VELKLINKDBGUI_EXPORT AssignmentCollector : public VKTab::NodeVisitor
+{
+public:
+    ~AssignmentCollector() override;
+
+    /// Goes on through the whole statement.
+    int visitNode(const VKTab::NodeBase &node, int depth, int index) override;
+
+    [[nodiscard]] const QSet<VKTab::VarId> &getVarIds() const { return m_ids; }
+
+private:
+    QSet<VKTab::VarId> m_ids;
+};

@@ -1,0 +1,7 @@
+#include "NodeVisitor.h"
+
+namespace VKTab {
+
+NodeVisitor::~NodeVisitor() = default;
+
+} // namespace VKTab

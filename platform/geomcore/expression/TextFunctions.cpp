@@ -1,0 +1,168 @@
+#include "ExpressionFunctions.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <vector>
+
+namespace VKTab {
+
+namespace {
+
+using Arguments = std::span<const Operand>;
+using Memory = std::pmr::memory_resource;
+
+constexpr int mostDecimals = 15;
+
+/// Whether the byte begins a character in UTF-8.
+bool beginsCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
+double characterCount(std::string_view text)
+{
+    return double(std::count_if(text.begin(), text.end(), beginsCharacter));
+}
+
+/// Byte offset behind the first count characters, at most the end.
+size_t offsetOf(std::string_view text, double count)
+{
+    size_t pos = 0;
+    for (double passed = 0; pos < text.size(); ++pos) {
+        if (beginsCharacter(text[pos]) && ++passed > count)
+            break;
+    }
+    return pos;
+}
+
+template<class Change>
+Operand changed(const Operand &argument, Memory &memory, Change change)
+{
+    const auto text = argument.toText(memory);
+    if (!text)
+        return {};
+    const QString wide = QString::fromUtf8(text->data(), qsizetype(text->size()));
+    return Operand::ofText(keepText(change(wide).toUtf8().toStdString(), memory));
+}
+
+} // namespace
+
+namespace TextFunctions {
+
+Operand length(Arguments arguments, Memory &memory)
+{
+    const auto text = arguments[0].toText(memory);
+    return text ? Operand::ofNumber(characterCount(*text)) : Operand();
+}
+
+/// Characters count from 1; what lies outside the text is left out.
+Operand subText(Arguments arguments, Memory &memory)
+{
+    const auto text = arguments[0].toText(memory);
+    const auto start = arguments[1].toNumber();
+    const auto count = arguments.size() > 2 ? arguments[2].toNumber()
+                                            : std::optional(double(text ? text->size() : 0));
+    if (!text || !start || !count)
+        return {};
+    const double first = std::trunc(*start) - 1;
+    const double last = arguments.size() > 2 ? first + std::trunc(*count) : *count;
+    const size_t begin = offsetOf(*text, std::max(first, 0.0));
+    const size_t end = offsetOf(*text, std::max(last, 0.0));
+    return Operand::ofText(end > begin ? text->substr(begin, end - begin) : std::string_view());
+}
+
+Operand upper(Arguments arguments, Memory &memory)
+{
+    return changed(arguments[0], memory, [](const QString &text) { return text.toUpper(); });
+}
+
+Operand lower(Arguments arguments, Memory &memory)
+{
+    return changed(arguments[0], memory, [](const QString &text) { return text.toLower(); });
+}
+
+Operand trim(Arguments arguments, Memory &memory)
+{
+    return changed(arguments[0], memory, [](const QString &text) { return text.trimmed(); });
+}
+
+Operand concat(Arguments arguments, Memory &memory)
+{
+    std::pmr::string result(&memory);
+    for (const Operand &argument : arguments) {
+        const auto text = argument.toText(memory);
+        if (!text)
+            return {};
+        result += *text;
+    }
+    return Operand::ofText(keepText(result, memory));
+}
+
+/// Place of the first occurrence, counted from 1; 0 if there is none.
+Operand find(Arguments arguments, Memory &memory)
+{
+    const auto text = arguments[0].toText(memory);
+    const auto part = arguments[1].toText(memory);
+    if (!text || !part)
+        return {};
+    const size_t pos = text->find(*part);
+    if (pos == std::string_view::npos)
+        return Operand::ofNumber(0);
+    return Operand::ofNumber(characterCount(text->substr(0, pos)) + 1);
+}
+
+/// Every occurrence; an empty text to look for changes nothing.
+Operand replace(Arguments arguments, Memory &memory)
+{
+    const auto text = arguments[0].toText(memory);
+    const auto before = arguments[1].toText(memory);
+    const auto after = arguments[2].toText(memory);
+    if (!text || !before || !after)
+        return {};
+    if (before->empty())
+        return Operand::ofText(*text);
+    std::pmr::string result(&memory);
+    size_t from = 0;
+    for (size_t hit = text->find(*before); hit != std::string_view::npos;
+         hit = text->find(*before, from)) {
+        result.append(*text, from, hit - from).append(*after);
+        from = hit + before->size();
+    }
+    result.append(*text, from);
+    return Operand::ofText(keepText(result, memory));
+}
+
+/// Reads a text as a number, also one in quotes.
+Operand number(Arguments arguments, Memory &memory)
+{
+    if (const auto x = arguments[0].toNumber())
+        return Operand::ofNumber(*x);
+    const auto text = arguments[0].toText(memory);
+    const auto x = text ? parseDecimal(*text) : std::nullopt;
+    return x ? Operand::ofNumber(*x) : Operand();
+}
+
+/// With a number of decimals: fixed notation, so ROUND is not needed before.
+Operand text(Arguments arguments, Memory &memory)
+{
+    if (arguments.size() == 1) {
+        const auto plain = arguments[0].toText(memory);
+        return plain ? Operand::ofText(*plain) : Operand();
+    }
+    const auto x = arguments[0].toNumber();
+    const auto decimals = arguments[1].toNumber();
+    if (!x || !decimals || *decimals < 0 || *decimals > mostDecimals)
+        return {};
+    std::array<char, 512> buffer; // 309 digits before the point are possible
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), *x,
+                                   std::chars_format::fixed, int(*decimals));
+    return Operand::ofText(keepText({buffer.data(), size_t(end.ptr - buffer.data())}, memory));
+}
+
+} // namespace TextFunctions
+
+} // namespace VKTab

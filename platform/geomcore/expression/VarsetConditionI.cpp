@@ -1,0 +1,3 @@
+#include "VarsetConditionI.h"
+
+VarsetConditionI::~VarsetConditionI() = default;

@@ -1,0 +1,3 @@
+#include "VarsetModifierI.h"
+
+VarsetModifierI::~VarsetModifierI() = default;
