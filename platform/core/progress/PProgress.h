@@ -41,6 +41,9 @@ public:
     /// Any thread.
     void requestCancel() { m_cancel->request(); }
 
+    /// For the whole process; 50 ms at first. Any thread.
+    static void setInterval(std::chrono::milliseconds interval);
+
     [[nodiscard]] const QString &text() const { return m_text; }
     [[nodiscard]] double from() const { return m_from; }
     [[nodiscard]] double to() const { return m_to; }
@@ -58,12 +61,12 @@ public:
 private:
     friend class PProgressHandOver;
     using Clock = std::chrono::steady_clock;
-    enum class Event { Started, Changed, Text, Done };
 
     void check();
-    void tell(Event event, Clock::time_point now);
+    void tell(PProgressEvent event, Clock::time_point now);
     void adaptStride(Clock::time_point now);
     [[nodiscard]] PProgressInfo info(Clock::time_point now) const;
+    void enterThread();
     void leaveThread();
 
     qint64 m_count = 0;

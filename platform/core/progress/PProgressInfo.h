@@ -13,11 +13,13 @@
 class VELKCORE_EXPORT PProgressCancel
 {
 public:
-    explicit PProgressCancel(std::shared_ptr<const PProgressCancel> outer = {})
-        : m_outer(std::move(outer))
+    /// A request to one that is not allowed has no effect.
+    PProgressCancel(bool allowed, std::shared_ptr<const PProgressCancel> outer)
+        : m_allowed(allowed)
+        , m_outer(std::move(outer))
     {
     }
-    void request() { m_requested.store(true, std::memory_order_relaxed); }
+    void request() { m_requested.store(m_allowed, std::memory_order_relaxed); }
     /// Requested here or for a progress round it.
     [[nodiscard]] bool isRequested() const
     {
@@ -26,8 +28,11 @@ public:
 
 private:
     std::atomic<bool> m_requested{false};
+    const bool m_allowed;
     const std::shared_ptr<const PProgressCancel> m_outer;
 };
+
+enum class PProgressEvent { Started, Changed, Text, Done };
 
 /// State of a progress at one moment, a value for observers.
 struct PProgressInfo
