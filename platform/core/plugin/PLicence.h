@@ -13,5 +13,5 @@ public:
     /// Yes unless the host has set a query that says no.
     [[nodiscard]] static bool isLicensed(const QString &feature);
     /// Empty brings back the default. It may be called on any thread.
-    static void setQuery(std::function<bool(const QString &feature)> query);
+    static void setQuery(std::function<bool(const QString &feature)> newQuery);
 };

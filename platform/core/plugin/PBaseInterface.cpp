@@ -1,0 +1,3 @@
+#include "PBaseInterface.h"
+
+PBaseInterface::~PBaseInterface() = default;

@@ -1,0 +1,3 @@
+#include "PLinkDbGuiI.h"
+
+PLinkDbGuiI::~PLinkDbGuiI() = default;

@@ -1,0 +1,139 @@
+#include <core/config/PConfigService.h>
+#include <core/message/StaticLogger.h>
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <iostream>
+#include <thread>
+
+class tst_StaticLogger : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        StaticLogger::setLevels("");
+        StaticLogger::setOutput({});
+    }
+
+    void level_data()
+    {
+        QTest::addColumn<QString>("levels");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("none") << "" << 10000;
+        QTest::newRow("itself") << "a.b.c=5000" << 5000;
+        QTest::newRow("above it") << "a.b=5000" << 5000;
+        QTest::newRow("far above it") << " a = 5000 " << 5000;
+        QTest::newRow("all") << "*=4000" << 4000;
+        QTest::newRow("longest wins") << "*=1;a.b=5000;a=2" << 5000;
+        QTest::newRow("part of a name is no name") << "a.b.=5000;a.=3;a.b.c.d=4" << 10000;
+        QTest::newRow("no number") << "a.b.c=all" << 10000;
+        QTest::newRow("never -2") << "a.b.c=-2" << 0;
+    }
+    void level()
+    {
+        QFETCH(QString, levels);
+        StaticLoggerRecord record("a.b.c");
+        QCOMPARE(record.level.load(), -2);
+        StaticLogger::setLevels(levels);
+        StaticLogger::init(record);
+        QTEST(record.level.load(), "expected");
+        StaticLogger::release(record);
+        QCOMPARE(record.level.load(), -2);
+    }
+    void knownRecordsFollowAndReleasedOnesDoNot()
+    {
+        StaticLoggerRecord known("a");
+        StaticLoggerRecord released("a");
+        StaticLogger::init(known);
+        StaticLogger::init(known);
+        StaticLogger::init(released);
+        StaticLogger::release(released);
+        StaticLogger::setLevels("a=7");
+        QCOMPARE(known.level.load(), 7);
+        QCOMPARE(released.level.load(), -2);
+        StaticLogger::release(known);
+        StaticLogger::setLevels("a=8");
+        QCOMPARE(known.level.load(), -2);
+    }
+    void outputGetsAllParts()
+    {
+        QList<StaticLogger::Entry> entries;
+        StaticLogger::setOutput([&](const StaticLogger::Entry &entry) { entries.append(entry); });
+        StaticLogger::log(5000, "linkdbgui\\DocumentListDialog", "void f()", 12, "Größe");
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(entries[0].level, 5000);
+        QCOMPARE(entries[0].file, QString("linkdbgui\\DocumentListDialog"));
+        QCOMPARE(entries[0].function, QString("void f()"));
+        QCOMPARE(entries[0].line, 12);
+        QCOMPARE(entries[0].message, QString("Größe"));
+    }
+    void threadsLogOneAtATime()
+    {
+        int lines = 0;
+        StaticLogger::setOutput([&](const StaticLogger::Entry &) { ++lines; });
+        std::vector<std::thread> threads;
+        for (int t = 0; t < 4; ++t) {
+            threads.emplace_back([] {
+                StaticLoggerRecord record("t");
+                StaticLogger::init(record);
+                for (int i = 0; i < 1000; ++i)
+                    StaticLogger::log(1, "f", "g", i, "m");
+                StaticLogger::release(record);
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(lines, 4000);
+    }
+
+    void configured_data()
+    {
+        QTest::addColumn<QString>("environment");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::newRow("configuration alone") << "" << QByteArray("3000 10000");
+        QTest::newRow("environment first") << "a.b=2000;c=1" << QByteArray("2000 1");
+    }
+    /// In a process of its own: the levels are read once.
+    void configured()
+    {
+        QFETCH(QString, environment);
+        QTemporaryDir dir;
+        QFile file(dir.filePath("logging.cfg"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[Levels]\na = 3000\n");
+        file.close();
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("TORMEVA_SETUP", dir.path());
+        env.insert("VELK_LOG_LEVELS", environment);
+        process.setProcessEnvironment(env);
+        process.start(QCoreApplication::applicationFilePath(), {"--levels"});
+        QVERIFY(process.waitForFinished());
+        QTEST(process.readAllStandardOutput().trimmed(), "expected");
+        const QByteArray line = process.readAllStandardError();
+        QVERIFY2(line.endsWith(" 5000 f.cpp:7 void g(): text\n"), line.constData());
+        QVERIFY2(line.startsWith("20") && line.contains("Z 5000"), "the time is told in UTC");
+    }
+};
+
+int main(int argc, char **argv)
+{
+    if (argc > 1 && qstrcmp(argv[1], "--levels") == 0) {
+        StaticLoggerRecord a("a.b");
+        StaticLoggerRecord c("c");
+        StaticLogger::init(a);
+        StaticLogger::init(c);
+        std::cout << a.level << ' ' << c.level << '\n';
+        StaticLogger::log(5000, "f.cpp", "void g()", 7, "text");
+        return 0;
+    }
+    QCoreApplication app(argc, argv);
+    tst_StaticLogger test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_StaticLogger.moc"
