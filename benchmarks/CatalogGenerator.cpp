@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdlib>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 namespace velkbench {
@@ -134,8 +135,10 @@ std::vector<std::uint32_t> CatalogGenerator::newOrder(int project) const
 void CatalogGenerator::appendHeader(std::string &out) const
 {
     out += "Key,Dia,L,Mat";
-    for (int column = 4; column < m_shape.variables; ++column)
-        out += ",V" + std::to_string(column);
+    for (int column = 4; column < m_shape.variables; ++column) {
+        out += ",V";
+        out += std::to_string(column);
+    }
     out += '\n';
 }
 
@@ -163,35 +166,43 @@ void CatalogGenerator::appendCell(std::string &out, int column, std::uint64_t ra
 {
     if (m_shape.ranges && column == m_shape.variables - 1) {
         const std::uint64_t from = 5 * (1 + random % 20);
-        out += std::to_string(from) + ".." + std::to_string(from + 50) + "/5";
+        out += std::to_string(from);
+        out += "..";
+        out += std::to_string(from + 50);
+        out += "/5";
     } else if (column == 1) {
-        out += 'M' + std::to_string(3 + random % 34);
+        out += 'M';
+        out += std::to_string(3 + random % 34);
     } else if (column == 2) {
         out += std::to_string(5 * (1 + random % 200));
     } else if (column == 3 || column % 2 == 1) {
         out += Materials[random % Materials.size()];
     } else {
-        out += std::to_string(random % 1000) + '.';
+        out += std::to_string(random % 1000);
+        out += '.';
         appendPadded(out, random / 1000 % 100, 2);
     }
 }
 
 std::string CatalogGenerator::descriptor(const std::string &name, const std::string &date) const
 {
-    std::string fields;
+    static constexpr std::array<const char *, 4> Names{"Key", "Dia", "L", "Mat"};
+    std::ostringstream out;
+    out << "{\n  \"name\": \"" << name << "\",\n  \"normNumber\": \"BN 1\",\n"
+        << "  \"finalDate\": \"" << date << "\",\n  \"primaryKey\": [\"Key\"],\n  \"fields\": [";
     for (int column = 0; column < m_shape.variables; ++column) {
         const bool isRange = m_shape.ranges && column == m_shape.variables - 1;
         const bool isNumber = isRange || (column >= 2 && column % 2 == 0);
-        static constexpr std::array<const char *, 4> Names{"Key", "Dia", "L", "Mat"};
-        const std::string field = column < 4 ? Names[size_t(column)] : "V" + std::to_string(column);
-        fields += fields.empty() ? "" : ",";
-        fields += "\n    {\"name\": \"" + field + "\", \"type\": \"" +
-                  (isNumber ? "number" : "string") + "\", \"kind\": \"" +
-                  (isRange ? "range" : "plain") + "\"}";
+        out << (column == 0 ? "\n" : ",\n") << "    {\"name\": \"";
+        if (column < 4)
+            out << Names[size_t(column)];
+        else
+            out << 'V' << column;
+        out << "\", \"type\": \"" << (isNumber ? "number" : "string") << "\", \"kind\": \""
+            << (isRange ? "range" : "plain") << "\"}";
     }
-    return "{\n  \"name\": \"" + name + "\",\n  \"normNumber\": \"BN 1\",\n" +
-           "  \"finalDate\": \"" + date + "\",\n  \"primaryKey\": [\"Key\"],\n  \"fields\": [" +
-           fields + "\n  ]\n}\n";
+    out << "\n  ]\n}\n";
+    return out.str();
 }
 
 TemporaryFolder::TemporaryFolder()
