@@ -46,10 +46,7 @@ function(velk_defaults target)
   target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_FOREACH
                              BOOST_BIND_GLOBAL_PLACEHOLDERS)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wshadow -Wnon-virtual-dtor
-                         $<$<BOOL:${VELK_WARNINGS_AS_ERRORS}>:-Werror>
-                         # g++ 12 reports these wrongly for "text" + std::string in optimised
-                         # builds (GCC bug 105651); clang checks the same in the dev build.
-                         $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-stringop-overflow -Wno-array-bounds>)
+                         $<$<BOOL:${VELK_WARNINGS_AS_ERRORS}>:-Werror>)
   if(VELK_PCH)
     target_precompile_headers(${target} PRIVATE ${ARGN})
   endif()
@@ -69,6 +66,10 @@ function(velk_library name)
   endforeach()
   list(FILTER files EXCLUDE REGEX "/pch\\.h$")
   add_library(${name} SHARED ${files})
+  # Makes the moc step notice headers that were added since it last ran.
+  set(headers ${files})
+  list(FILTER headers INCLUDE REGEX "\\.h$")
+  set_property(TARGET ${name} PROPERTY AUTOGEN_TARGET_DEPENDS ${headers})
   target_include_directories(${name} PUBLIC "${ARG_INCLUDE}" SYSTEM PRIVATE ${RAPIDJSON_INCLUDE_DIR})
   target_compile_definitions(${name} PRIVATE ${ARG_MACRO})
   target_link_libraries(${name} PUBLIC ${ARG_DEPENDS})

@@ -2,16 +2,18 @@
 
 #include <gui/VelkGuiGlobal.h>
 
-#include <core/progress/PProgressInfo.h>
+#include <core/progress/PProgressObserverNode.h>
 
 /// Takes events of progresses on any thread and tells them on its own.
 class VELKGUI_EXPORT ProgressEventAccumulatorBase
 {
 public:
+    using Event = PProgressObserverNode::Event;
+
     ProgressEventAccumulatorBase() = default;
     virtual ~ProgressEventAccumulatorBase();
     ProgressEventAccumulatorBase(const ProgressEventAccumulatorBase &) = delete;
     ProgressEventAccumulatorBase &operator=(const ProgressEventAccumulatorBase &) = delete;
 
-    virtual void post(PProgressEvent event, const PProgressInfo &info) = 0;
+    virtual void post(Event event, const PProgressInfo &info) = 0;
 };

@@ -1,0 +1,114 @@
+#include "PApplication.h"
+
+#include <core/message/PMessage.h>
+
+#include <QDir>
+#include <QFile>
+#include <QUiLoader>
+#include <QWidget>
+
+#include <memory>
+
+namespace {
+
+const QString windowSection = QStringLiteral("Windows");
+
+PApplication *hostApplication = nullptr;
+
+/// Configuration of a program without host: has nothing and keeps nothing.
+class NoConfig : public PConfig
+{
+public:
+    PConfigVal getItemValue(const QString &, const QString &,
+                            const QString &defaultValue) const override
+    {
+        return PConfigVal(defaultValue);
+    }
+    bool SetValue(const QString &, const QString &, const PConfigVal &) override { return false; }
+    PStringList sections() const override { return {}; }
+    PStringList keys(const QString &) const override { return {}; }
+    PString lastError() const override { return {}; }
+};
+
+void logForm(const QString &form, const QString &cause)
+{
+    PMessage::LogToWindow(
+        PString::translate("Die Maske %1 kann nicht geladen werden: %2", "VelkLinkDbGui")
+            .arg(form, cause));
+}
+
+} // namespace
+
+PApplication::PApplication(const PRefPtr<PConfig> &configuration)
+    : m_configuration(configuration ? configuration : PRefPtr<PConfig>(new NoConfig))
+{
+    if (!QDir::searchPaths("forms").contains(":/forms"))
+        QDir::addSearchPath("forms", ":/forms");
+    hostApplication = this;
+}
+
+PApplication::~PApplication()
+{
+    if (hostApplication == this)
+        hostApplication = nullptr;
+}
+
+PRefPtr<PConfig> PApplication::getAppConfig()
+{
+    return VelkApp()->m_configuration;
+}
+
+QWidget *PApplication::createWidget(const QString &form, QWidget *parent, bool show)
+{
+    QFile file(form);
+    if (!file.open(QIODevice::ReadOnly)) {
+        logForm(form, file.errorString());
+        return nullptr;
+    }
+    QUiLoader loader;
+    QWidget *widget = loader.load(&file, parent);
+    if (!widget)
+        logForm(form, loader.errorString());
+    else if (show)
+        widget->show();
+    return widget;
+}
+
+void PApplication::setupWindow(QWidget *window)
+{
+    if (window->objectName().isEmpty())
+        return;
+    const QString stored =
+        getAppConfig()->getItemValue(window->objectName(), windowSection, QString()).GetString();
+    if (!stored.isEmpty())
+        window->restoreGeometry(QByteArray::fromBase64(stored.toLatin1()));
+}
+
+void PApplication::saveWindow(const QWidget *window)
+{
+    if (window->objectName().isEmpty())
+        return;
+    getAppConfig()->SetValue(window->objectName(), windowSection,
+                             QString::fromLatin1(window->saveGeometry().toBase64()));
+}
+
+void PApplication::setInitialized()
+{
+    if (m_initialized)
+        return;
+    m_initialized = true;
+    Q_EMIT applicationInitialized();
+}
+
+PApplication *VelkApp()
+{
+    if (hostApplication)
+        return hostApplication;
+    // Lives until the process ends, since windows may be closed as late as that.
+    static auto *const withoutHost = [] {
+        auto *const application = new PApplication({});
+        hostApplication = nullptr;
+        return application;
+    }();
+    return withoutHost;
+}
