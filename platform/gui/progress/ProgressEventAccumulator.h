@@ -17,7 +17,7 @@ public:
     ProgressEventAccumulator(int milliseconds, int limit);
     ~ProgressEventAccumulator() override;
 
-    void post(Event event, const PProgressInfo &info) override;
+    void post(PProgressEvent event, const PProgressInfo &info) override;
 
 private:
     std::unique_ptr<ProgressEventAccumulatorPrivate> d;

@@ -2,18 +2,16 @@
 
 #include <gui/VelkGuiGlobal.h>
 
-#include <core/progress/PProgressObserverNode.h>
+#include <core/progress/PProgressInfo.h>
 
 /// Takes events of progresses on any thread and tells them on its own.
 class VELKGUI_EXPORT ProgressEventAccumulatorBase
 {
 public:
-    using Event = PProgressObserverNode::Event;
-
     ProgressEventAccumulatorBase() = default;
     virtual ~ProgressEventAccumulatorBase();
     ProgressEventAccumulatorBase(const ProgressEventAccumulatorBase &) = delete;
     ProgressEventAccumulatorBase &operator=(const ProgressEventAccumulatorBase &) = delete;
 
-    virtual void post(Event event, const PProgressInfo &info) = 0;
+    virtual void post(PProgressEvent event, const PProgressInfo &info) = 0;
 };

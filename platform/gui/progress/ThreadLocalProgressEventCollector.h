@@ -19,7 +19,7 @@ public:
     void progressDone(const PProgressInfo &info) override;
 
 private:
-    void post(ProgressEventAccumulatorBase::Event event, const PProgressInfo &info);
+    void post(PProgressEvent event, const PProgressInfo &info);
 
     ProgressEventAccumulatorBase *const m_accumulator;
     const bool m_nested;
