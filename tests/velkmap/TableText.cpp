@@ -1,0 +1,20 @@
+#include "TableText.h"
+
+#include <geomcore/table/TableData.h>
+
+std::shared_ptr<const VKTab::TableData> tableOf(const QByteArray &text, const QStringList &key)
+{
+    VKTab::TableDescriptor descriptor;
+    descriptor.primaryKey = key;
+    const QByteArray csv = QByteArray(text).replace(';', '\n') + '\n';
+    const auto result = VKTab::TableData::fromMemory(descriptor, csv);
+    if (!result)
+        qFatal("%s", qPrintable(result.errors.first().toString()));
+    return result.data;
+}
+
+velkmap::LineCells cellsOf(const QByteArray &text, velkmap::VariableNames &names,
+                           const QStringList &key)
+{
+    return {*tableOf(text, key), names};
+}

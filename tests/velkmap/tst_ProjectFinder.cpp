@@ -1,0 +1,235 @@
+#include "TableText.h"
+
+#include <tools/velkmap/ProjectFinder.h>
+#include <tools/velkmap/ProjectName.h>
+#include <tools/velkmap/ReleaseIndex.h>
+
+#include <QTest>
+
+using velkmap::LineCells;
+using velkmap::ProjectFinder;
+using velkmap::ReleaseIndex;
+using velkmap::VariableNames;
+
+namespace {
+
+/// A new release: pairs of path and table.
+using Release = QList<QPair<QString, QByteArray>>;
+
+/// Twelve lines of three variables from \a first on.
+QByteArray lines(int first, int count)
+{
+    QByteArray text;
+    for (int i = first; i < first + count; ++i)
+        text += ";M" + QByteArray::number(i) + ',' + QByteArray::number(2 * i + 1) + ',' +
+                QByteArray::number(i * i);
+    return text;
+}
+
+QByteArray bolts(int first = 1, int count = 12)
+{
+    return "size,s,k" + lines(first, count);
+}
+
+} // namespace
+
+class tst_ProjectFinder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void finds_data();
+    void finds();
+    void manyProjectsWithTheSameLines();
+    void searchesDoNotDisturbEachOther();
+    void foldedNames_data();
+    void foldedNames();
+    void likeness_data();
+    void likeness();
+};
+
+void tst_ProjectFinder::finds_data()
+{
+    QTest::addColumn<QByteArray>("old");
+    QTest::addColumn<QStringList>("key");
+    QTest::addColumn<Release>("release");
+    QTest::addColumn<QStringList>("found");
+    const QStringList none;
+    const QStringList key{"size"};
+
+    QTest::newRow("same path") << bolts() << none
+                               << Release{{"new/a/bolt.prj", bolts()}, {"new/b/x.prj", bolts()}}
+                               << QStringList{"new/a/bolt.prj"};
+    QTest::newRow("same path with other lines")
+        << bolts() << none << Release{{"new/a/bolt.prj", "t;1"}} << QStringList{"new/a/bolt.prj"};
+    QTest::newRow("moved, name in another form")
+        << bolts() << none << Release{{"new/b/BO-LT.prj", bolts()}, {"new/b/other.prj", bolts()}}
+        << QStringList{"new/b/BO-LT.prj"};
+    QTest::newRow("two of that name, the one with the lines first")
+        << bolts() << none << Release{{"new/b/bolt.prj", bolts(1, 6)}, {"new/c/Bolt.prj", bolts()}}
+        << QStringList{"new/c/Bolt.prj", "new/b/bolt.prj"};
+    QTest::newRow("two of that name, one without any line")
+        << bolts() << none << Release{{"new/b/bolt.prj", "x;1"}, {"new/c/bolt.prj", bolts()}}
+        << QStringList{"new/c/bolt.prj"};
+    QTest::newRow("of that name, none with any line")
+        << bolts() << none << Release{{"new/b/bolt.prj", "x;1"}, {"new/c/bolt.prj", "y;1"}}
+        << QStringList{"new/b/bolt.prj"};
+    QTest::newRow("renamed") << bolts() << none
+                             << Release{{"new/a/nut.prj", bolts(50)}, {"new/a/screw.prj", bolts()}}
+                             << QStringList{"new/a/screw.prj"};
+    QTest::newRow("renamed, lines in between and in another order")
+        << bolts(1, 6) << none
+        << Release{{"new/a/screw.prj", "size,s,k;M0,1,1" + lines(4, 3) + lines(1, 3)}}
+        << QStringList{"new/a/screw.prj"};
+    QTest::newRow("renamed and one value of each line changed")
+        << QByteArray("size,s,k,e;M1,2,3,4;M2,3,4,5;M3,4,5,6") << none
+        << Release{{"new/a/screw.prj", "size,s,k,e;M1,2,3,9;M2,3,9,5;M-3,4,5,6"}}
+        << QStringList{"new/a/screw.prj"};
+    QTest::newRow("renamed, with a variable less and one more")
+        << QByteArray("size,s,k,e;M1,2,3,4;M2,3,4,5") << none
+        << Release{{"new/a/screw.prj", "size,s,k,t;M1,2,3,7;M2,3,4,7"}}
+        << QStringList{"new/a/screw.prj"};
+    QTest::newRow("split") << bolts() << none
+                           << Release{{"new/a/long.prj", bolts(1, 5)},
+                                      {"new/a/short.prj", bolts(6, 7)}}
+                           << QStringList{"new/a/short.prj", "new/a/long.prj"};
+    QTest::newRow("split in three, none with half of the lines")
+        << bolts() << none
+        << Release{{"new/a/p.prj", bolts(1, 3)},
+                   {"new/a/q.prj", bolts(4, 4)},
+                   {"new/a/r.prj", bolts(8, 5)}}
+        << QStringList{"new/a/r.prj", "new/a/q.prj", "new/a/p.prj"};
+    QTest::newRow("merged") << bolts(1, 6) << none << Release{{"new/a/all.prj", bolts()}}
+                            << QStringList{"new/a/all.prj"};
+    QTest::newRow("copied, the one of the likelier name first")
+        << bolts() << none << Release{{"new/a/boat.prj", bolts()}, {"new/a/bolt2.prj", bolts()}}
+        << QStringList{"new/a/bolt2.prj", "new/a/boat.prj"};
+    QTest::newRow("half as good as the best")
+        << bolts() << none << Release{{"new/a/p.prj", bolts(1, 8)}, {"new/a/q.prj", bolts()}}
+        << QStringList{"new/a/q.prj"};
+    QTest::newRow("rest moved to another project")
+        << bolts() << key
+        << Release{{"new/a/bolt.prj", bolts(1, 10)}, {"new/a/big.prj", bolts(11, 2)}}
+        << QStringList{"new/a/bolt.prj", "new/a/big.prj"};
+    QTest::newRow("rest in two projects alike is not looked for")
+        << bolts() << key
+        << Release{{"new/a/bolt.prj", bolts(1, 10)},
+                   {"new/a/p.prj", bolts(11, 2)},
+                   {"new/a/q.prj", bolts(11, 2)}}
+        << QStringList{"new/a/bolt.prj"};
+    QTest::newRow("changed lines are not looked for elsewhere")
+        << bolts(1, 2) << key
+        << Release{{"new/a/bolt.prj", "size,s,k;M1,3,1;M2,7,7"}, {"new/a/p.prj", bolts(2, 2)}}
+        << QStringList{"new/a/bolt.prj"};
+    QTest::newRow("gone") << bolts() << key << Release{{"new/a/nut.prj", bolts(50)}} << none;
+    QTest::newRow("only one variable in common")
+        << bolts() << key << Release{{"new/a/nut.prj", "size,m;M1,1;M2,1;M3,1"}} << none;
+    QTest::newRow("old table without lines")
+        << QByteArray("size,s,k") << key
+        << Release{{"new/a/bolt.prj", bolts()}, {"new/a/p.prj", "size,s,k"}}
+        << QStringList{"new/a/bolt.prj"};
+    QTest::newRow("no table at all, moved")
+        << QByteArray("x") << none << Release{{"new/b/bolt.prj", "x"}}
+        << QStringList{"new/b/bolt.prj"};
+    QTest::newRow("new table without lines")
+        << bolts() << none << Release{{"new/a/p.prj", "size,s,k"}} << none;
+    QTest::newRow("empty release") << bolts() << none << Release() << none;
+}
+
+void tst_ProjectFinder::finds()
+{
+    QFETCH(QByteArray, old);
+    QFETCH(QStringList, key);
+    QFETCH(Release, release);
+    VariableNames names;
+    ReleaseIndex index;
+    for (const auto &[path, table] : release)
+        index.add(path, cellsOf(table, names));
+    index.finish();
+    QStringList found;
+    for (const int table : ProjectFinder(index).find("old/a/bolt.prj", cellsOf(old, names, key)))
+        found << index.path(table);
+    QTEST(found, "found");
+}
+
+void tst_ProjectFinder::manyProjectsWithTheSameLines()
+{
+    VariableNames names;
+    ReleaseIndex index;
+    for (int i = 0; i <= ReleaseIndex::CommonLimit; ++i)
+        index.add(QString("new/a/copy%1.prj").arg(i), cellsOf(bolts(), names));
+    index.finish();
+    const LineCells old = cellsOf(bolts(), names);
+    QVERIFY2(ProjectFinder(index).find("old/a/bolt.prj", old).empty(), "common lines say nothing");
+    QCOMPARE(ProjectFinder(index).find("old/b/copy7.prj", old), std::vector<int>{7});
+}
+
+void tst_ProjectFinder::searchesDoNotDisturbEachOther()
+{
+    VariableNames names;
+    ReleaseIndex index;
+    index.add("new/a/p.prj", cellsOf(bolts(1, 12), names));
+    index.add("new/a/q.prj", cellsOf(bolts(21, 12), names));
+    index.finish();
+    const LineCells first = cellsOf(bolts(1, 12), names);
+    const LineCells second = cellsOf(bolts(21, 12), names);
+    const ProjectFinder finder(index);
+    QCOMPARE(finder.find("old/a/x.prj", first), std::vector<int>{0});
+    QCOMPARE(finder.find("old/a/x.prj", second), std::vector<int>{1});
+    QCOMPARE(finder.find("old/a/x.prj", first), std::vector<int>{0});
+}
+
+void tst_ProjectFinder::foldedNames_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("plain") << "cat/a/bolt.prj"
+                           << "bolt";
+    QTest::newRow("case and separators") << "cat/a/ISO_7380-2 def.prj"
+                                         << "iso73802def";
+    QTest::newRow("dots") << "cat/ASMEB18.2.1.prj"
+                          << "asmeb1821";
+    QTest::newRow("no directory") << "bolt.prj"
+                                  << "bolt";
+    QTest::newRow("no extension") << "cat/bolt"
+                                  << "bolt";
+    QTest::newRow("dot first") << "cat/.bolt"
+                               << "bolt";
+    QTest::newRow("letters of other scripts")
+        << QString::fromUtf8("cat/Größe Ж.prj") << QString::fromUtf8("größeж");
+}
+
+void tst_ProjectFinder::foldedNames()
+{
+    QFETCH(QString, path);
+    QTEST(velkmap::foldedName(path), "name");
+}
+
+void tst_ProjectFinder::likeness_data()
+{
+    QTest::addColumn<QString>("a");
+    QTest::addColumn<QString>("b");
+    QTest::addColumn<double>("likeness");
+    QTest::newRow("equal") << "bolt"
+                           << "bolt" << 1.0;
+    QTest::newRow("nothing") << "bolt"
+                             << "nux" << 0.0;
+    QTest::newRow("in order") << "bolt"
+                              << "belts" << 2.0 * 3 / 9;
+    QTest::newRow("out of order") << "ab"
+                                  << "ba" << 0.5;
+    QTest::newRow("empty") << ""
+                           << "bolt" << 0.0;
+    QTest::newRow("both empty") << ""
+                                << "" << 0.0;
+}
+
+void tst_ProjectFinder::likeness()
+{
+    QFETCH(QString, a);
+    QFETCH(QString, b);
+    QTEST(velkmap::nameLikeness(a, b), "likeness");
+}
+
+QTEST_GUILESS_MAIN(tst_ProjectFinder)
+#include "tst_ProjectFinder.moc"
