@@ -1,5 +1,7 @@
 #include "Commands.h"
 
+#include "ImportCommand.h"
+
 #include <core/Version.h>
 
 #include <QTextStream>
@@ -27,7 +29,10 @@ void printHelp(QTextStream &out)
 
 const QList<Command> &commands()
 {
-    static const QList<Command> list = {};
+    static const QList<Command> list = {
+        {QStringLiteral("import"),
+         QStringLiteral("makes a catalog from a folder tree of CSV tables"), runImport},
+    };
     return list;
 }
 

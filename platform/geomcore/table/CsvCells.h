@@ -1,6 +1,9 @@
 #pragma once
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <QtGlobal>
+
 #include <span>
 #include <string>
 #include <string_view>
@@ -37,6 +40,6 @@ void splitQuoted(std::string_view row, std::span<std::string_view> cells, std::s
 
 /// Appends a cell, quoted if it has to be: it holds a comma, a quote or a line break, or begins or
 /// ends with a blank.
-void appendCell(std::string &out, std::string_view text);
+VELKGEOMCORE_EXPORT void appendCell(std::string &out, std::string_view text);
 
 } // namespace VKTab

@@ -23,9 +23,10 @@ TableReadResult TableData::read(const QString &descriptorFile)
     return read(*descriptor, QDir::toNativeSeparators(descriptor->csvFile(descriptorFile)));
 }
 
-TableReadResult TableData::read(const TableDescriptor &descriptor, const QString &csvFile)
+TableReadResult TableData::read(const TableDescriptor &descriptor, const QString &csvFile,
+                                HeaderRule rule)
 {
-    return TableDataReader(descriptor, csvFile).readFile();
+    return TableDataReader(descriptor, csvFile, rule).readFile();
 }
 
 TableReadResult TableData::fromMemory(const TableDescriptor &descriptor, const QByteArray &csv,

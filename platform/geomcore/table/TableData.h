@@ -23,6 +23,12 @@ struct TableReadResult
     explicit operator bool() const { return data != nullptr; }
 };
 
+/// What to do with a header row that does not name every column differently.
+enum class HeaderRule : quint8 {
+    Exact,  ///< The read fails.
+    Repair, ///< The names are completed, see uniqueColumnNames().
+};
+
 /// The lines of a table as they lie in its CSV file: RFC 4180, UTF-8 with or without a byte order
 /// mark, CRLF or LF, first row the names of the columns. The file is mapped and its structure
 /// checked once; cells are views into the mapping. Immutable after reading: any thread may read it,
@@ -43,7 +49,8 @@ public:
     [[nodiscard]] static TableReadResult read(const QString &descriptorFile);
     /// Reads the lines of \a csvFile for a descriptor at hand.
     [[nodiscard]] static TableReadResult read(const TableDescriptor &descriptor,
-                                              const QString &csvFile);
+                                              const QString &csvFile,
+                                              HeaderRule rule = HeaderRule::Exact);
     /// The same on bytes in memory, which stay shared. \a name stands for the file in errors.
     [[nodiscard]] static TableReadResult fromMemory(const TableDescriptor &descriptor,
                                                     const QByteArray &csv,
@@ -54,11 +61,15 @@ public:
     [[nodiscard]] const TableDescriptor &descriptor() const { return m_descriptor; }
     /// Native path of the CSV file, or the name given to fromMemory().
     [[nodiscard]] const QString &fileName() const { return m_fileName; }
+    /// The header row as it is written, also where names were repaired.
+    [[nodiscard]] const QStringList &header() const { return m_header; }
     [[nodiscard]] int rowCount() const { return int(m_rowCount); }
     [[nodiscard]] int columnCount() const { return m_columnCount; }
     /// Column of that exact name; -1 if there is none.
     [[nodiscard]] int columnOf(QStringView name) const;
 
+    /// The whole file.
+    [[nodiscard]] std::string_view bytes() const { return {m_bytes, size_t(m_size)}; }
     /// The bytes of a row without its line end.
     [[nodiscard]] std::string_view rawRow(int row) const;
     /// Whether a cell of the row is quoted. The cells of other rows are their bytes.
@@ -122,6 +133,7 @@ private:
     std::array<bool, 256> m_maybeMissing{};
     TableDescriptor m_descriptor;
     QString m_fileName;
+    QStringList m_header;
     std::vector<int> m_lineNumbers;    ///< Empty: the data row.
     std::vector<int> m_lineSubNumbers; ///< Empty: 0.
     /// Rows by line number if the numbers lie densely, else rows sorted by id.

@@ -2,6 +2,7 @@
 
 #include "CsvCells.h"
 #include "CsvScan.h"
+#include "HeaderNames.h"
 #include "RangeText.h"
 #include "TableDataPrivate.h"
 #include "Utf8Check.h"
@@ -15,8 +16,9 @@ namespace VKTab {
 
 static_assert(CsvScan::QuoteBit == quint64(1) << 63);
 
-TableDataReader::TableDataReader(TableDescriptor descriptor, QString fileName)
+TableDataReader::TableDataReader(TableDescriptor descriptor, QString fileName, HeaderRule rule)
     : m_data(new TableData)
+    , m_rule(rule)
 {
     m_data->m_descriptor = std::move(descriptor);
     m_data->m_fileName = std::move(fileName);
@@ -98,7 +100,8 @@ bool TableDataReader::readHeader(quint64 &bodyBegin)
     QStringList names;
     for (const std::string &cell : header.cells)
         names.append(QString::fromUtf8(cell.data(), qsizetype(cell.size())));
-    fitFields(names);
+    m_data->m_header = names;
+    fitFields(m_rule == HeaderRule::Repair ? uniqueColumnNames(names) : names);
     checkNames();
     bodyBegin = header.end;
     return m_errors.isEmpty();

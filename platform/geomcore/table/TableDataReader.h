@@ -9,7 +9,8 @@ namespace VKTab {
 class TableDataReader
 {
 public:
-    TableDataReader(TableDescriptor descriptor, QString fileName);
+    TableDataReader(TableDescriptor descriptor, QString fileName,
+                    HeaderRule rule = HeaderRule::Exact);
 
     [[nodiscard]] TableReadResult readFile();
     [[nodiscard]] TableReadResult readBytes(const QByteArray &csv);
@@ -32,6 +33,7 @@ private:
 
     std::shared_ptr<TableData> m_data;
     TableErrorList m_errors;
+    HeaderRule m_rule;
 };
 
 } // namespace VKTab

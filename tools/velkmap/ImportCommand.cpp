@@ -1,0 +1,214 @@
+#include "ImportCommand.h"
+
+#include "CommandLine.h"
+#include "TableImport.h"
+#include "TypeRecognition.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QSet>
+#include <QTextStream>
+
+#include <algorithm>
+
+using namespace VKTab;
+
+namespace velkmap {
+
+namespace {
+
+const QString Description = QStringLiteral(
+    "Makes a catalog of projects and tables from a folder tree of CSV tables (RFC 4180, UTF-8). "
+    "Each NAME.csv becomes NAME.prj, NAME.json (the descriptor) and NAME.csv below CATALOG, at the "
+    "same relative path. Column types, value ranges, decimal commas and key columns are recognised "
+    "and printed. What is wrong can be corrected in the descriptor: a later import keeps it. It "
+    "also keeps the ids of lines whose key is still there.");
+
+/// One run of the command.
+class ImportRun
+{
+public:
+    ImportRun(QTextStream &out, QTextStream &err)
+        : m_out(out)
+        , m_err(err)
+    {
+    }
+
+    ExitStatus run(const QString &from, const QString &into, ImportOptions options);
+
+private:
+    QStringList findTables(const QDir &from);
+    bool importTable(const QString &relative, const QString &csvFile, const QString &target);
+    void print(const QString &relative, const TableImport &table);
+    void noteLeftOvers(const QDir &into, const QStringList &tables);
+    void printSummary();
+
+    QTextStream &m_out;
+    QTextStream &m_err;
+    ImportOptions m_options;
+    ExitStatus m_status = ExitStatus::Done;
+    int m_new = 0;
+    int m_changed = 0;
+    int m_unchanged = 0;
+    int m_failed = 0;
+    qint64 m_lines = 0;
+};
+
+QString withoutEnding(const QString &csvFile)
+{
+    return csvFile.chopped(4);
+}
+
+/// Normalised to UTC; empty if it is no date.
+QString utcDate(const QString &text)
+{
+    QDateTime instant = QDateTime::fromString(text.trimmed(), Qt::ISODate);
+    if (instant.timeSpec() == Qt::LocalTime)
+        instant = QDateTime(instant.date(), instant.time(), Qt::UTC);
+    return instant.isValid() ? instant.toUTC().toString(Qt::ISODate) : QString();
+}
+
+ExitStatus ImportRun::run(const QString &from, const QString &into, ImportOptions options)
+{
+    m_options = std::move(options);
+    const QStringList tables = findTables(QDir(from));
+    if (tables.isEmpty() && m_status == ExitStatus::Done) {
+        m_err << "velkmap import: there is no CSV file below " << from << '\n';
+        return ExitStatus::InputUnreadable;
+    }
+    for (const QString &table : tables) {
+        const QString target = QDir(into).filePath(withoutEnding(table));
+        if (!importTable(withoutEnding(table), QDir(from).filePath(table), target))
+            return ExitStatus::ResultUnwritable;
+    }
+    noteLeftOvers(QDir(into), tables);
+    printSummary();
+    return m_status;
+}
+
+QStringList ImportRun::findTables(const QDir &from)
+{
+    QStringList tables;
+    QDirIterator entries(from.path(), QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QFileInfo entry(entries.next());
+        if (entry.isDir() && !entry.isReadable()) {
+            m_err << entry.filePath() << ": the directory cannot be read\n";
+            m_status = ExitStatus::InputUnreadable;
+        } else if (entry.isFile() && entry.suffix().toLower() == QLatin1String("csv")) {
+            tables.append(from.relativeFilePath(entry.filePath()));
+        }
+    }
+    std::sort(tables.begin(), tables.end());
+    return tables;
+}
+
+bool ImportRun::importTable(const QString &relative, const QString &csvFile, const QString &target)
+{
+    TableImport table(csvFile, target, m_options);
+    const bool readable = table.prepare();
+    const bool written = !readable || table.write();
+    for (const TableError &error : table.errors())
+        m_err << error.toString() << '\n';
+    if (!readable) {
+        ++m_failed;
+        m_status = ExitStatus::InputUnreadable;
+    } else if (written) {
+        print(relative, table);
+    }
+    return written;
+}
+
+void ImportRun::print(const QString &relative, const TableImport &table)
+{
+    static const char *const states[] = {"new", "changed", "unchanged"};
+    int *const counts[] = {&m_new, &m_changed, &m_unchanged};
+    ++*counts[int(table.state())];
+    m_lines += table.lineCount();
+    const TableDescriptor &descriptor = table.descriptor();
+    m_out << relative << ": " << table.lineCount() << (table.lineCount() == 1 ? " line" : " lines");
+    if (!descriptor.primaryKey.isEmpty())
+        m_out << ", key " << descriptor.primaryKey.join(QStringLiteral(", "));
+    m_out << ", " << states[int(table.state())] << '\n';
+    QStringList columns;
+    for (const TableField &field : descriptor.fields) {
+        if (field.name != descriptor.lineIdField)
+            columns.append(field.name + u' ' + describeField(field));
+    }
+    m_out << "  " << columns.join(QStringLiteral(", ")) << '\n';
+    for (const QString &note : table.notes())
+        m_out << "  note: " << note << '\n';
+}
+
+void ImportRun::noteLeftOvers(const QDir &into, const QStringList &tables)
+{
+    QSet<QString> expected;
+    for (const QString &table : tables)
+        expected.insert(withoutEnding(table) + QStringLiteral(".prj"));
+    QStringList left;
+    QDirIterator entries(into.path(), {QStringLiteral("*.prj")}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString name = into.relativeFilePath(entries.next());
+        if (!expected.contains(name))
+            left.append(name);
+    }
+    std::sort(left.begin(), left.end());
+    for (const QString &name : std::as_const(left))
+        m_out << "note: " << name << " has no CSV file any more and stays as it is\n";
+}
+
+void ImportRun::printSummary()
+{
+    m_out << m_new + m_changed + m_unchanged << " tables with " << m_lines << " lines: " << m_new
+          << " new, " << m_changed << " changed, " << m_unchanged << " unchanged";
+    if (m_failed > 0)
+        m_out << "; " << m_failed << " could not be imported";
+    m_out << '\n';
+}
+
+bool lieInside(const QString &inner, const QString &outer)
+{
+    const QString path = QDir::cleanPath(QDir(inner).absolutePath()) + u'/';
+    return path.startsWith(QDir::cleanPath(QDir(outer).absolutePath()) + u'/');
+}
+
+} // namespace
+
+ExitStatus runImport(const QStringList &arguments, QTextStream &out, QTextStream &err)
+{
+    CommandLine line(QStringLiteral("import"), Description);
+    line.addRequired(QStringLiteral("from"), QStringLiteral("CSV_DIR"),
+                     QStringLiteral("Folder tree of CSV files."));
+    line.addRequired(QStringLiteral("into"), QStringLiteral("ROOT/CATALOG"),
+                     QStringLiteral("Folder of the catalog; made if it is missing."));
+    line.addOptional(
+        QStringLiteral("date"), QStringLiteral("ISO8601"),
+        QStringLiteral("Date of projects and tables, UTC unless it has an offset. "
+                       "Without it: now, and only for tables that are new or changed."));
+    line.addOptional(QStringLiteral("key"), QStringLiteral("COLUMN"),
+                     QStringLiteral("Key column of all tables that have it."));
+    if (const auto status = line.parse(arguments, out, err))
+        return *status;
+    const QString from = QDir::cleanPath(line.value(QStringLiteral("from")));
+    const QString into = QDir::cleanPath(line.value(QStringLiteral("into")));
+    if (lieInside(into, from) || lieInside(from, into))
+        return line.wrongUsage(QStringLiteral("--from and --into lie inside each other"), err);
+    ImportOptions options;
+    options.keyColumn = line.value(QStringLiteral("key"));
+    options.dateIsGiven = line.isSet(QStringLiteral("date"));
+    options.date = options.dateIsGiven ? utcDate(line.value(QStringLiteral("date")))
+                                       : QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
+    if (options.date.isEmpty())
+        return line.wrongUsage(
+            QStringLiteral("--date is no date; write it as 2026-01-31T12:00:00Z"), err);
+    if (!QFileInfo(from).isDir() || !QFileInfo(from).isReadable()) {
+        err << "velkmap import: " << from << " is no readable directory\n";
+        return ExitStatus::InputUnreadable;
+    }
+    return ImportRun(out, err).run(from, into, options);
+}
+
+} // namespace velkmap
