@@ -28,14 +28,19 @@ public:
 
     void progressStarted(const PProgressInfo &info) override;
     void progressChanged(const PProgressInfo &info) override;
+    void progressText(const PProgressInfo &info) override;
     void progressDone(const PProgressInfo &info) override;
 
     /// What all delegates show progress with; null brings back the small window. GUI thread, while
     /// no delegate is active.
     static void setDisplay(std::shared_ptr<ProgressDisplayI> display);
-    /// Milliseconds of work after which the display appears, 500 at first.
-    static void setDelay(int milliseconds);
+    /// Milliseconds of work after which the display appears, and between its changes; 500 and 100
+    /// at first. GUI thread.
+    static void setTimes(int delay, int interval);
 
 private:
+    /// True if the event belongs to the GUI thread and was passed on to the outer observer.
+    bool take(PProgressEvent event, const PProgressInfo &info);
+
     std::unique_ptr<DefaultObserverDelegatePrivate> d;
 };

@@ -1,0 +1,3 @@
+#include "ProgressDisplayI.h"
+
+ProgressDisplayI::~ProgressDisplayI() = default;

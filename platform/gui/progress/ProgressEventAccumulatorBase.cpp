@@ -1,0 +1,3 @@
+#include "ProgressEventAccumulatorBase.h"
+
+ProgressEventAccumulatorBase::~ProgressEventAccumulatorBase() = default;

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ProgressDisplayI.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+/// Keeps the user from changing what a piece of work is busy with, as long as it lives: drops key,
+/// mouse, close and drop events of the application except for the progress display and for modal
+/// dialogs that opened since. A request to quit is repeated at the end.
+class ProgressInputFilter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ProgressInputFilter(std::shared_ptr<ProgressDisplayI> display);
+    ~ProgressInputFilter() override;
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
+private:
+    [[nodiscard]] bool mayPass(const QObject *receiver) const;
+    [[nodiscard]] bool mayClose(const QObject *receiver) const;
+
+    const std::shared_ptr<ProgressDisplayI> m_display;
+    const QPointer<QWidget> m_modalBefore;
+    bool m_quitWaits = false;
+};
