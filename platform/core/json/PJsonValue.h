@@ -7,12 +7,12 @@
 #include <QString>
 #include <QStringList>
 
+class JsonWriter;
 class PJsonNode;
 
 /// A JSON value. Copies share their content until one of them is changed. Text that was parsed and
-/// that nobody looked into is kept as it was written, and goes out again byte for byte; numbers
-/// keep their written form. Looking into one value from several threads is safe, changing it is
-/// not.
+/// that nobody changed is kept as it was written and goes out again byte for byte; numbers keep
+/// their written form. Looking into one value from several threads is safe, changing it is not.
 class VELKCORE_EXPORT PJsonValue
 {
 public:
@@ -37,15 +37,16 @@ public:
     [[nodiscard]] static PJsonValue fromInt(qint64 value);
     /// Not a number and infinities have no JSON form and become null.
     [[nodiscard]] static PJsonValue fromDouble(double value);
-    /// Takes over text that JsonWriter wrote, unchecked. It is indented for the depth at which it
-    /// comes to stand when the document is written.
+    /// Takes over text that JsonWriter wrote at level 0, unchecked. It is indented for the depth at
+    /// which it comes to stand when the document is written.
     [[nodiscard]] static PJsonValue fromWritten(const QByteArray &json);
 
     /// Reads a whole document (RFC 8259, UTF-8, with or without byte order mark). Of members of one
-    /// name the last counts. False if the file cannot be read, is empty or is no JSON: then this
-    /// value is null, and \a error names the file, line and column (in bytes), both from 1.
-    [[nodiscard]] bool parseFile(const QString &nativePath, QString *error = nullptr);
-    [[nodiscard]] bool parse(const QByteArray &json, QString *error = nullptr);
+    /// name the last counts. False if the file cannot be read, is empty, is no JSON or holds a
+    /// number beyond the range of a double: then this value is null, and \a error names the file,
+    /// line and column (in bytes), both from 1.
+    bool parseFile(const QString &nativePath, QString *error = nullptr);
+    bool parse(const QByteArray &json, QString *error = nullptr);
     /// Values nested deeper than this are refused.
     static constexpr int MaxDepth = 512;
 
@@ -55,7 +56,7 @@ public:
     [[nodiscard]] bool isObject() const { return type() == Object; }
 
     [[nodiscard]] bool toBool(bool other = false) const;
-    /// \a other also for numbers that are no integer or too large.
+    /// \a other also for numbers that are not written as an integer, and for too large ones.
     [[nodiscard]] qint64 toInt(qint64 other = 0) const;
     [[nodiscard]] double toDouble(double other = 0) const;
     /// \a other unless it is a text.
@@ -63,11 +64,12 @@ public:
 
     /// Members of an object or elements of an array; 0 for all else.
     [[nodiscard]] int size() const;
-    /// Null for what is not there.
+    /// Element or member by its place; null for what is not there.
     [[nodiscard]] PJsonValue at(int index) const;
+    /// A value that is no array becomes an empty array first.
     void append(const PJsonValue &value);
 
-    /// Names of the members in their order.
+    /// Names of the members in their order; empty unless it is an object.
     [[nodiscard]] QStringList keys() const;
     [[nodiscard]] bool contains(const QString &key) const;
     /// Null for what is not there.
@@ -75,17 +77,22 @@ public:
     /// The member, made (null, as the last one) if it is missing. A value that is no object becomes
     /// an empty object first. The reference is valid until this value is changed.
     PJsonValue &operator[](const QString &key);
+    /// False if it is not there.
     bool remove(const QString &key);
 
     /// UTF-8. Compact has no blanks; otherwise a row for each member and element, a blank a level,
     /// arrays of plain values on one row, and a final line feed.
     [[nodiscard]] QByteArray toByteArray(bool compact) const;
-    /// The text as it was parsed or taken over, else as toByteArray(true).
+    /// The text as it was parsed or taken over if nobody changed the value, else as
+    /// toByteArray(true).
     [[nodiscard]] QByteArray rawText() const;
 
 private:
-    explicit PJsonValue(PJsonNode *node);
     friend class PJsonNode;
+    explicit PJsonValue(PJsonNode *node);
+    bool adopt(const QByteArray &json, QString *error);
+    PJsonNode &changeable(Type wanted);
+    void write(JsonWriter &writer, bool compact) const;
 
-    QExplicitlySharedDataPointer<PJsonNode> d;
+    QExplicitlySharedDataPointer<PJsonNode> d; ///< null stands for the value null
 };

@@ -150,7 +150,8 @@ private:
     void insert(Place place, const Row &row, const ExtendedTextPtr &extended);
     void replace(const Place &place, const Row &row, const ExtendedTextPtr &extended);
     Place splitPage(const Place &place);
-    void splitChunk(std::size_t chunk);
+    std::size_t splitChunk(std::size_t chunk);
+    void updateFirstLines(const Place &place);
     void dropPage(const Place &place);
     void mergeWithNext(const Place &place);
 

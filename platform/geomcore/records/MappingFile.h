@@ -6,21 +6,32 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QSharedDataPointer>
 #include <QString>
 #include <QStringList>
 
+class MappingFileData;
+
 /// A mapping file: one JSON object with a member for each release, named by its source date. Reads
 /// the releases that are wanted into records in one pass over the file; the others stay text and go
-/// out again byte for byte.
+/// out again byte for byte. A copy-on-write value.
 class VELKGEOMCORE_EXPORT MappingFile
 {
 public:
+    MappingFile();
+    MappingFile(const MappingFile &other);
+    MappingFile &operator=(const MappingFile &other);
+    ~MappingFile();
+
     /// Reads the file; \a sourceDate chooses the release that becomes records, empty chooses all.
     /// False if the file cannot be read, is no JSON or a wanted release is not as it should be:
     /// then \a error names file, line, column and member, and this object is as before. A date that
     /// the file does not hold is no error.
     [[nodiscard]] bool read(const QString &nativePath, const QString &sourceDate = QString(),
                             QString *error = nullptr);
+    /// The same with the bytes of a file; \a error names no file.
+    [[nodiscard]] bool parse(const QByteArray &json, const QString &sourceDate = QString(),
+                             QString *error = nullptr);
 
     /// In the order of the file.
     [[nodiscard]] QStringList sourceDates() const;
@@ -39,14 +50,5 @@ public:
     [[nodiscard]] bool write(const QString &nativePath, QString *error = nullptr) const;
 
 private:
-    struct Member
-    {
-        QString sourceDate;
-        bool asRecords;
-        ReleaseMappingC release;
-        QByteArray text; ///< unless asRecords
-    };
-    friend class MappingFileReader;
-
-    QList<Member> m_members;
+    QSharedDataPointer<MappingFileData> d;
 };

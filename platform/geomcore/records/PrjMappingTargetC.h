@@ -37,6 +37,7 @@ public:
     /// Relative to `$TORMEVA_DATA/23d-libs`; empty: the not-found target.
     [[nodiscard]] QString getTargetPath() const;
     void setTargetPath(const QString &path);
+    [[nodiscard]] bool isNotFoundTarget() const;
     [[nodiscard]] QString getTargetVersion() const;
     void setTargetVersion(const QString &version);
     [[nodiscard]] QString getTabVersion() const;
@@ -57,6 +58,8 @@ public:
     /// text is kept literally. Fastest in ascending order of \a sourceLineId.
     void addLineId(int sourceLineId, int targetLineId, PRJMAPPING::CheckState state,
                    const QString &extended);
+    /// As addLineId, with the conflict flag of \a line.
+    void setMappedLine(int sourceLineId, const PrjMappingTargetLineC &line);
     void removeLineId(int sourceLineId);
     /// True: only those that are not Verified; a confirmed decision survives.
     void clearLines(bool keepVerified);

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "CatalogStructureNodeI.h"
+#include "ReleaseMappingTree.h"
+
+#include <geomcore/records/ReleaseMappingC.h>
+
+/// A directory of the tree of a release. Remembers its rolled up state until invalidateState, so
+/// that painting it does not walk all its projects.
+class ReleaseMappingDirectoryNode : public CatalogStructureNodeI
+{
+public:
+    /// \a projects are all below this directory; \a depth is the path component by which its
+    /// children are told apart.
+    ReleaseMappingDirectoryNode(const QList<ProjectKey> &projects,
+                                const boost::shared_ptr<ReleaseMappingC> &release,
+                                const QString &name, int depth);
+    ~ReleaseMappingDirectoryNode() override;
+
+    int getNodeType() const override;
+    QString getName() const override;
+    QString getPath() const override;
+    /// Has StateUsable set, which says here that the value has been computed.
+    QFlags<PRJMAPPING::MappingState_> getMappingState() const override;
+    PrjMappingC getMapping() const override;
+    bool hasConflicts() const override;
+    QList<boost::shared_ptr<CatalogStructureNodeI>> getChildren() const override;
+    void invalidateState() override;
+
+private:
+    const QList<ProjectKey> m_projects;
+    const boost::shared_ptr<ReleaseMappingC> m_release;
+    const QString m_name;
+    const int m_depth;
+    mutable QFlags<PRJMAPPING::MappingState_> m_cachedState;
+    mutable QList<boost::shared_ptr<CatalogStructureNodeI>> m_children;
+};

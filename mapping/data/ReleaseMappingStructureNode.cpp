@@ -1,0 +1,58 @@
+#include "ReleaseMappingStructureNode.h"
+
+#include "ReleaseMappingTree.h"
+
+ReleaseMappingStructureNode::ReleaseMappingStructureNode(
+    const QString &name, const boost::shared_ptr<ReleaseMappingC> &release)
+    : m_name(name)
+    , m_release(release)
+{
+}
+
+ReleaseMappingStructureNode::~ReleaseMappingStructureNode() = default;
+
+int ReleaseMappingStructureNode::getNodeType() const
+{
+    return 0;
+}
+
+QString ReleaseMappingStructureNode::getName() const
+{
+    return m_name;
+}
+
+QString ReleaseMappingStructureNode::getPath() const
+{
+    return QString();
+}
+
+QFlags<PRJMAPPING::MappingState_> ReleaseMappingStructureNode::getMappingState() const
+{
+    return m_release->getMappingState();
+}
+
+PrjMappingC ReleaseMappingStructureNode::getMapping() const
+{
+    return PrjMappingC();
+}
+
+bool ReleaseMappingStructureNode::hasConflicts() const
+{
+    return false;
+}
+
+QList<boost::shared_ptr<CatalogStructureNodeI>> ReleaseMappingStructureNode::getChildren() const
+{
+    if (m_children.isEmpty()) {
+        QList<ProjectKey> keys;
+        keys.reserve(m_release->countMappings());
+        for (int i = 0; i < m_release->countMappings(); ++i) {
+            const PrjMappingC mapping = m_release->mappingAt(i);
+            keys.emplaceBack(mapping.getSourcePath(), mapping.getSourceVersion());
+        }
+        m_children = buildReleaseChildren(keys, m_release, 1);
+    }
+    return m_children;
+}
+
+void ReleaseMappingStructureNode::invalidateState() {}

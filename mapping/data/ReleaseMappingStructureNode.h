@@ -1,0 +1,29 @@
+#pragma once
+
+#include "CatalogStructureNodeI.h"
+
+#include <geomcore/records/ReleaseMappingC.h>
+
+/// Root of the tree of a release.
+class ReleaseMappingStructureNode : public CatalogStructureNodeI
+{
+public:
+    ReleaseMappingStructureNode(const QString &name,
+                                const boost::shared_ptr<ReleaseMappingC> &release);
+    ~ReleaseMappingStructureNode() override;
+
+    int getNodeType() const override;
+    QString getName() const override;
+    QString getPath() const override;
+    QFlags<PRJMAPPING::MappingState_> getMappingState() const override;
+    PrjMappingC getMapping() const override;
+    /// Always false: nobody sees the root.
+    bool hasConflicts() const override;
+    QList<boost::shared_ptr<CatalogStructureNodeI>> getChildren() const override;
+    void invalidateState() override;
+
+private:
+    const QString m_name;
+    const boost::shared_ptr<ReleaseMappingC> m_release;
+    mutable QList<boost::shared_ptr<CatalogStructureNodeI>> m_children;
+};

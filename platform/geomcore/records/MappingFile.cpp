@@ -1,0 +1,140 @@
+#include "MappingFile.h"
+
+#include "ReleaseReader.h"
+#include "ReleaseWriter.h"
+
+#include <core/json/JsonWriter.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+
+class MappingFileData : public QSharedData
+{
+public:
+    [[nodiscard]] const MappingFileMember *find(const QString &sourceDate) const
+    {
+        const auto at = std::find_if(members.begin(), members.end(), [&](const auto &member) {
+            return member.sourceDate == sourceDate;
+        });
+        return at == members.end() ? nullptr : &*at;
+    }
+
+    QList<MappingFileMember> members;
+};
+
+namespace {
+
+bool report(QString *error, const QString &path, const QString &what)
+{
+    if (error)
+        *error = QStringLiteral("%1: %2").arg(path, what);
+    return false;
+}
+
+} // namespace
+
+MappingFile::MappingFile()
+    : d(new MappingFileData)
+{
+}
+
+MappingFile::MappingFile(const MappingFile &) = default;
+
+MappingFile &MappingFile::operator=(const MappingFile &) = default;
+
+MappingFile::~MappingFile() = default;
+
+bool MappingFile::read(const QString &nativePath, const QString &sourceDate, QString *error)
+{
+    QFile file(nativePath);
+    if (!file.open(QIODevice::ReadOnly))
+        return report(error, nativePath, file.errorString());
+    if (!QFileInfo(nativePath).isFile())
+        return report(error, nativePath, QStringLiteral("It is no regular file."));
+    const QByteArray json = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return report(error, nativePath, file.errorString());
+    QString what;
+    if (parse(json, sourceDate, &what))
+        return true;
+    if (error)
+        *error = QStringLiteral("%1, %2").arg(nativePath, what);
+    return false;
+}
+
+bool MappingFile::parse(const QByteArray &json, const QString &sourceDate, QString *error)
+{
+    return readMappingFile(json, sourceDate, d->members, error);
+}
+
+QStringList MappingFile::sourceDates() const
+{
+    QStringList dates;
+    for (const MappingFileMember &member : d->members)
+        dates += member.sourceDate;
+    return dates;
+}
+
+bool MappingFile::contains(const QString &sourceDate) const
+{
+    return d->find(sourceDate) != nullptr;
+}
+
+ReleaseMappingC MappingFile::release(const QString &sourceDate) const
+{
+    const MappingFileMember *member = d->find(sourceDate);
+    return member ? member->release : ReleaseMappingC();
+}
+
+QList<ReleaseMappingC> MappingFile::releases() const
+{
+    QList<ReleaseMappingC> list;
+    for (const MappingFileMember &member : d->members) {
+        if (member.isRecords)
+            list += member.release;
+    }
+    return list;
+}
+
+void MappingFile::setRelease(const ReleaseMappingC &release)
+{
+    const MappingFileMember member{release.getSourceDate(), true, release, {}};
+    const MappingFileMember *known = std::as_const(*d).find(member.sourceDate);
+    if (known)
+        d->members[known - std::as_const(d->members).constData()] = member;
+    else
+        d->members.append(member);
+}
+
+QByteArray MappingFile::toByteArray() const
+{
+    JsonWriter writer(JsonWriter::Indented);
+    writer.beginObject();
+    for (const MappingFileMember &member : d->members) {
+        writer.key(QStringView(member.sourceDate));
+        if (member.isRecords)
+            writeRelease(writer, member.release, false);
+        else
+            writer.written(member.text);
+    }
+    writer.endObject();
+    writer.lineFeed();
+    return writer.take();
+}
+
+bool MappingFile::write(const QString &nativePath, QString *error) const
+{
+    const QFileInfo info(nativePath);
+    if (info.exists() && !info.isFile())
+        return report(error, nativePath, QStringLiteral("It is no regular file."));
+    QSaveFile file(nativePath);
+    if (!file.open(QIODevice::WriteOnly))
+        return report(error, nativePath, file.errorString());
+    file.write(toByteArray());
+    if (!file.commit())
+        return report(error, nativePath, file.errorString());
+    return true;
+}

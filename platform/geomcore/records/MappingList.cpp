@@ -1,0 +1,71 @@
+#include "MappingList.h"
+
+int MappingList::find(const QString &path, const QString &version,
+                      const QString &tableVersion) const
+{
+    if (!m_index)
+        return -1;
+    const auto positions = m_index->byPath.constFind(path);
+    if (positions == m_index->byPath.constEnd())
+        return -1;
+    for (int i = positions->first; i >= 0; i = m_index->next[std::size_t(i)]) {
+        const PrjMappingC &mapping = at(i);
+        if (mapping.getSourceVersion() == version &&
+            (tableVersion.isEmpty() || mapping.getTabVersion() == tableVersion))
+            return i;
+    }
+    return -1;
+}
+
+void MappingList::append(const PrjMappingC &mapping)
+{
+    if (m_size % PageSize == 0)
+        m_pages.emplace_back(new Page);
+    m_pages.back().detach();
+    m_pages.back()->mappings.push_back(mapping);
+    ++m_size;
+    enter(mapping.getSourcePath());
+    countStates(mapping, 1);
+}
+
+void MappingList::replace(int position, const PrjMappingC &mapping)
+{
+    QExplicitlySharedDataPointer<Page> &page = m_pages[std::size_t(position / PageSize)];
+    page.detach();
+    PrjMappingC &stored = page->mappings[std::size_t(position % PageSize)];
+    countStates(stored, -1);
+    stored = mapping;
+    countStates(stored, 1);
+}
+
+PRJMAPPING::MappingState MappingList::state() const
+{
+    PRJMAPPING::MappingState state;
+    for (std::size_t i = 0; i < m_states.size(); ++i)
+        state.setFlag(PRJMAPPING::RolledUpStates[i], m_states[i] > 0);
+    return state;
+}
+
+void MappingList::countStates(const PrjMappingC &mapping, int factor)
+{
+    const PRJMAPPING::MappingState state = mapping.getMappingState();
+    for (std::size_t i = 0; i < m_states.size(); ++i)
+        m_states[i] += state.testFlag(PRJMAPPING::RolledUpStates[i]) ? factor : 0;
+}
+
+void MappingList::enter(const QString &path)
+{
+    if (m_index)
+        m_index.detach();
+    else
+        m_index = new Index;
+    const int position = m_size - 1;
+    m_index->next.push_back(-1);
+    const auto known = m_index->byPath.find(path);
+    if (known == m_index->byPath.end()) {
+        m_index->byPath.insert(path, {position, position});
+        return;
+    }
+    m_index->next[std::size_t(known->last)] = position;
+    known->last = position;
+}

@@ -1,0 +1,421 @@
+#include "ReleaseBuilder.h"
+
+#include <core/json/PJsonValue.h>
+#include <geomcore/expression/VarsetConditionC.h>
+#include <geomcore/expression/VarsetValueMappingC.h>
+#include <geomcore/expression/VarsetVarMappingC.h>
+
+#include <iterator>
+
+/// Indexes into Members.
+enum ReleaseBuilder::Key : int {
+    NoKey = -1,
+    SourceDate,
+    TargetDate,
+    MappingsKey,
+    SourcePath,
+    SourceVersion,
+    MappingTabVersion,
+    State,
+    TargetsKey,
+    Path,
+    Version,
+    TabVersion,
+    Valid,
+    ConditionsKey,
+    ModifiersKey,
+    LinesKey,
+    ModifierKind,
+    ModifierSource,
+    ModifierTarget,
+    ModifierFormula,
+};
+
+const ReleaseBuilder::Member ReleaseBuilder::Members[] = {
+    {Release, "sourceDate", TextKind, true, Outside},
+    {Release, "targetDate", TextKind, true, Outside},
+    {Release, "mappings", ArrayKind, false, Mappings},
+    {Mapping, "sourcePath", TextKind, true, Outside},
+    {Mapping, "sourceVersion", TextKind, true, Outside},
+    {Mapping, "tabVersion", TextKind, true, Outside},
+    {Mapping, "state", IntegerKind, true, Outside},
+    {Mapping, "targets", ArrayKind, true, Targets},
+    {Target, "path", TextKind, true, Outside},
+    {Target, "version", TextKind, true, Outside},
+    {Target, "tabVersion", TextKind, true, Outside},
+    {Target, "valid", BooleanKind, true, Outside},
+    {Target, "conditions", ArrayKind, true, Conditions},
+    {Target, "modifiers", ArrayKind, true, Modifiers},
+    {Target, "lines", ArrayKind, true, Lines},
+    {Modifier, "kind", TextKind, true, Outside},
+    {Modifier, "source", TextKind, false, Outside},
+    {Modifier, "target", TextKind, false, Outside},
+    {Modifier, "formula", TextKind, false, Outside},
+};
+
+namespace {
+
+QString fromUtf8(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+QString rowLayout()
+{
+    return QStringLiteral("must be [source line, target line, state], then the extended text if "
+                          "there is one, then true for a conflict");
+}
+
+} // namespace
+
+QString ReleaseBuilder::error() const
+{
+    QStringList path;
+    if (m_place >= Mappings)
+        path += m_place == Mappings ? QStringLiteral("mappings")
+                                    : QStringLiteral("mappings[%1]").arg(m_mappings.size());
+    if (m_place >= Targets)
+        path += m_place == Targets ? QStringLiteral("targets")
+                                   : QStringLiteral("targets[%1]").arg(m_targets.size());
+    const QString element = QStringLiteral("[%1]").arg(m_element);
+    if (m_place == Conditions)
+        path += QStringLiteral("conditions") + element;
+    else if (m_place == Modifiers || m_place == Modifier)
+        path += QStringLiteral("modifiers") + element;
+    else if (m_place == Lines || m_place == Row)
+        path += QStringLiteral("lines") + element;
+    if (m_key != NoKey)
+        path += fromUtf8(Members[m_key].name);
+    return path.isEmpty() ? QStringLiteral("The release ") + m_message
+                          : path.join(u'.') + u' ' + m_message;
+}
+
+bool ReleaseBuilder::startObject()
+{
+    if (m_passNext || m_passedOver > 0)
+        return startPassingOver();
+    if (m_key == NoKey && m_place == Outside) {
+        *this = ReleaseBuilder();
+        begin(Release);
+    } else if (m_key == NoKey && m_place == Mappings) {
+        m_mapping = PrjMappingC();
+        m_targets.clear();
+        begin(Mapping);
+    } else if (m_key == NoKey && m_place == Targets) {
+        m_target = PrjMappingTargetC();
+        begin(Target);
+    } else if (m_key == NoKey && m_place == Modifiers) {
+        ++m_element;
+        begin(Modifier);
+    } else {
+        return anythingElse();
+    }
+    return true;
+}
+
+bool ReleaseBuilder::endObject()
+{
+    if (m_passedOver > 0) {
+        --m_passedOver;
+        return true;
+    }
+    if (m_place == Modifier)
+        return endModifier();
+    if (!checkComplete(m_place))
+        return false;
+    if (m_place == Target) {
+        m_place = Targets;
+        m_targets.append(m_target);
+    } else if (m_place == Mapping) {
+        for (const PrjMappingTargetC &target : std::as_const(m_targets))
+            m_mapping.addTarget(target);
+        m_mapping.setMappingState(m_state);
+        m_mappings.append(m_mapping);
+        m_place = Mappings;
+    } else {
+        for (const PrjMappingC &mapping : std::as_const(m_mappings))
+            m_release.appendMapping(mapping);
+        m_mappings.clear();
+        m_place = Outside;
+    }
+    return true;
+}
+
+bool ReleaseBuilder::startArray()
+{
+    if (m_passNext || m_passedOver > 0)
+        return startPassingOver();
+    if (m_place == Lines) {
+        ++m_element;
+        m_column = 0;
+        m_extended.clear();
+        m_conflict = false;
+        m_place = Row;
+        return true;
+    }
+    if (!expect(ArrayKind))
+        return false;
+    enterArray();
+    return true;
+}
+
+bool ReleaseBuilder::endArray()
+{
+    if (m_passedOver > 0) {
+        --m_passedOver;
+        return true;
+    }
+    switch (m_place) {
+    case Row:
+        return endRow();
+    case Mappings:
+        m_place = Release;
+        break;
+    case Targets:
+        m_place = Mapping;
+        break;
+    default:
+        m_place = Target;
+        break;
+    }
+    return true;
+}
+
+bool ReleaseBuilder::key(std::string_view name)
+{
+    if (m_passedOver > 0)
+        return true;
+    for (int i = 0; i < int(std::size(Members)); ++i) {
+        if (Members[i].place == m_place && Members[i].name == name) {
+            m_key = i;
+            m_seen |= 1U << unsigned(i);
+            return true;
+        }
+    }
+    m_passNext = true;
+    return true;
+}
+
+bool ReleaseBuilder::boolean(bool flag)
+{
+    if (passOver())
+        return true;
+    if (m_place == Row && (m_column == 3 || m_column == 4)) {
+        if (m_column == 3 || !flag)
+            return fail(rowLayout());
+        m_conflict = true;
+        m_column = 5;
+        return true;
+    }
+    if (!expect(BooleanKind))
+        return false;
+    m_target.setValid(flag);
+    m_key = NoKey;
+    return true;
+}
+
+bool ReleaseBuilder::text(std::string_view utf8)
+{
+    if (passOver())
+        return true;
+    if (m_place == Row && m_column == 3) {
+        m_extended = fromUtf8(utf8);
+        m_column = 4;
+        return true;
+    }
+    if (m_place == Conditions) {
+        ++m_element;
+        m_target.addCondition(VarsetConditionC::fromText(fromUtf8(utf8)));
+        return true;
+    }
+    if (!expect(TextKind))
+        return false;
+    setText(fromUtf8(utf8));
+    m_key = NoKey;
+    return true;
+}
+
+bool ReleaseBuilder::anythingElse()
+{
+    if (passOver())
+        return true;
+    if (m_key != NoKey)
+        return expect(Members[m_key].kind == TextKind ? IntegerKind : TextKind);
+    switch (m_place) {
+    case Outside:
+        return fail(QStringLiteral("must be an object"));
+    case Row:
+        return fail(rowLayout());
+    case Conditions:
+        ++m_element;
+        return fail(QStringLiteral("must be a text"));
+    case Lines:
+        ++m_element;
+        return fail(QStringLiteral("must be an array"));
+    case Modifiers:
+        ++m_element;
+        [[fallthrough]];
+    default:
+        return fail(QStringLiteral("must hold nothing but objects"));
+    }
+}
+
+bool ReleaseBuilder::fail(const QString &message)
+{
+    m_message = message;
+    return false;
+}
+
+bool ReleaseBuilder::passOver()
+{
+    const bool pass = m_passNext || m_passedOver > 0;
+    m_passNext = false;
+    return pass;
+}
+
+bool ReleaseBuilder::startPassingOver()
+{
+    m_passNext = false;
+    if (++m_passedOver > PJsonValue::MaxDepth)
+        return fail(QStringLiteral("holds values that are nested too deeply"));
+    return true;
+}
+
+bool ReleaseBuilder::expect(Kind kind)
+{
+    if (m_key == NoKey)
+        return anythingElse();
+    if (Members[m_key].kind == kind)
+        return true;
+    static const QString Expected[] = {
+        QStringLiteral("must be a text"), QStringLiteral("must be an integer from 0 to 2147483647"),
+        QStringLiteral("must be true or false"), QStringLiteral("must be an array")};
+    return fail(Expected[Members[m_key].kind]);
+}
+
+bool ReleaseBuilder::otherInteger(qint64 number)
+{
+    if (passOver())
+        return true;
+    if (m_key != NoKey && Members[m_key].kind == IntegerKind &&
+        (number < 0 || number > std::numeric_limits<int>::max()))
+        return expect(TextKind);
+    if (!expect(IntegerKind))
+        return false;
+    m_state = PRJMAPPING::MappingState::fromInt(int(number));
+    m_key = NoKey;
+    return true;
+}
+
+void ReleaseBuilder::begin(Place place)
+{
+    m_place = place;
+    for (int i = 0; i < int(std::size(Members)); ++i) {
+        if (Members[i].place == place)
+            m_seen &= ~(1U << unsigned(i));
+    }
+}
+
+void ReleaseBuilder::enterArray()
+{
+    m_place = Members[m_key].inside;
+    m_element = -1;
+    switch (m_key) {
+    case MappingsKey:
+        m_mappings.clear();
+        break;
+    case TargetsKey:
+        m_targets.clear();
+        break;
+    case ConditionsKey:
+        m_target.clearConditions();
+        break;
+    case ModifiersKey:
+        m_target.clearModifier();
+        break;
+    default:
+        m_target.clearLines(false);
+        break;
+    }
+    m_key = NoKey;
+}
+
+void ReleaseBuilder::setText(const QString &text)
+{
+    switch (m_key) {
+    case SourceDate:
+        return m_release.setSourceDate(text);
+    case TargetDate:
+        return m_release.setTargetDate(text);
+    case SourcePath:
+        return m_mapping.setSourcePath(text);
+    case SourceVersion:
+        return m_mapping.setSourceVersion(text);
+    case MappingTabVersion:
+        return m_mapping.setTabVersion(text);
+    case Path:
+        return m_target.setTargetPath(text);
+    case Version:
+        return m_target.setTargetVersion(text);
+    case TabVersion:
+        return m_target.setTabVersion(text);
+    case ModifierKind:
+        m_modifierKind = text;
+        return;
+    case ModifierSource:
+        m_modifierSource = text;
+        return;
+    case ModifierTarget:
+        m_modifierTarget = text;
+        return;
+    default:
+        m_modifierFormula = text;
+        return;
+    }
+}
+
+bool ReleaseBuilder::checkComplete(Place place)
+{
+    for (int i = 0; i < int(std::size(Members)); ++i) {
+        const Member &member = Members[i];
+        if (member.place == place && member.required && !(m_seen & (1U << unsigned(i))))
+            return fail(QStringLiteral("lacks the member \"%1\"").arg(fromUtf8(member.name)));
+    }
+    if (place == Mapping && !m_mapping.isValid())
+        return fail(QStringLiteral("has an empty \"sourcePath\""));
+    return true;
+}
+
+bool ReleaseBuilder::endModifier()
+{
+    constexpr quint32 Names = 1U << ModifierSource | 1U << ModifierTarget;
+    if (!checkComplete(Modifier))
+        return false;
+    if (m_modifierKind == QLatin1String("var") && (m_seen & Names) == Names)
+        m_target.addModifier(new VarsetVarMappingC(m_modifierSource, m_modifierTarget));
+    else if (m_modifierKind == QLatin1String("value") && m_seen & (1U << ModifierFormula))
+        m_target.addModifier(VarsetValueMappingC::fromText(m_modifierFormula));
+    else
+        return fail(QStringLiteral("must be of kind \"var\" with \"source\" and \"target\", or of "
+                                   "kind \"value\" with \"formula\""));
+    m_place = Modifiers;
+    return true;
+}
+
+bool ReleaseBuilder::endRow()
+{
+    if (m_column < 3 || m_row[2] < 0)
+        return fail(rowLayout());
+    const LineTable &lines = m_target.lines();
+    if (!lines.isEmpty() && m_row[0] <= m_lastLine && lines.contains(m_row[0]))
+        return fail(QStringLiteral("names source line %1 once more").arg(m_row[0]));
+    m_lastLine = m_row[0];
+    ExtendedTextPtr extended;
+    if (!m_extended.isEmpty())
+        extended = new ExtendedText(m_extended);
+    m_target.setMappedLine(
+        m_row[0],
+        PrjMappingTargetLineC(m_row[1], PRJMAPPING::CheckState(m_row[2]), m_conflict, extended));
+    m_place = Lines;
+    return true;
+}

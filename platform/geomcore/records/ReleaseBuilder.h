@@ -1,0 +1,108 @@
+#pragma once
+
+#include "ReleaseMappingC.h"
+
+#include <array>
+#include <limits>
+#include <string_view>
+
+/// Builds a release from the events of a JSON reader, in the layout of the mapping file. Each event
+/// gives false at the first thing that is not as it should be; error() then says what and where.
+/// Members of unknown names are passed over; of members of one name the last counts.
+class ReleaseBuilder
+{
+public:
+    [[nodiscard]] const ReleaseMappingC &release() const { return m_release; }
+    /// Nothing is being read: either no event came yet, or the release's closing brace did.
+    [[nodiscard]] bool isIdle() const { return m_place == Outside; }
+    /// The member and what is wrong with it.
+    [[nodiscard]] QString error() const;
+
+    bool startObject();
+    bool endObject();
+    bool startArray();
+    bool endArray();
+    bool key(std::string_view name);
+    bool integer(qint64 number)
+    {
+        if (m_place == Row && m_column < 3 && number >= std::numeric_limits<int>::min() &&
+            number <= std::numeric_limits<int>::max()) {
+            m_row[m_column++] = int(number);
+            return true;
+        }
+        return otherInteger(number);
+    }
+    bool boolean(bool flag);
+    bool text(std::string_view utf8);
+    /// A null, a fraction, or a number that is too large.
+    bool anythingElse();
+
+private:
+    enum Place {
+        Outside,
+        Release,
+        Mappings,
+        Mapping,
+        Targets,
+        Target,
+        Conditions,
+        Modifiers,
+        Modifier,
+        Lines,
+        Row,
+    };
+    enum Kind {
+        TextKind,
+        IntegerKind,
+        BooleanKind,
+        ArrayKind,
+    };
+    enum Key : int;
+    struct Member
+    {
+        Place place;
+        std::string_view name;
+        Kind kind;
+        bool required;
+        Place inside; ///< where an array leads to
+    };
+    static const Member Members[];
+
+    bool fail(const QString &message);
+    bool passOver();
+    bool startPassingOver();
+    bool expect(Kind kind);
+    bool otherInteger(qint64 number);
+    void begin(Place place);
+    void enterArray();
+    void setText(const QString &text);
+    bool checkComplete(Place place);
+    bool endModifier();
+    bool endRow();
+
+    ReleaseMappingC m_release;
+    PrjMappingC m_mapping;
+    PRJMAPPING::MappingState m_state;
+    QList<PrjMappingC> m_mappings;
+    QList<PrjMappingTargetC> m_targets;
+    PrjMappingTargetC m_target;
+    QString m_modifierKind;
+    QString m_modifierSource;
+    QString m_modifierTarget;
+    QString m_modifierFormula;
+
+    Place m_place = Outside;
+    int m_key = -1;          ///< of Members, whose value comes next
+    quint32 m_seen = 0;      ///< a bit for each of Members
+    int m_passedOver = 0;    ///< depth inside a value that is passed over, from 1
+    bool m_passNext = false; ///< the next value is passed over
+
+    int m_element = -1; ///< index of the condition, modifier or row
+    int m_lastLine = 0;
+    std::array<int, 3> m_row{};
+    unsigned m_column = 0;
+    QString m_extended;
+    bool m_conflict = false;
+
+    QString m_message;
+};

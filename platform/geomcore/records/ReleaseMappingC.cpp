@@ -1,0 +1,109 @@
+#include "ReleaseMappingC.h"
+
+#include "MappingList.h"
+#include "ReleaseReader.h"
+#include "ReleaseWriter.h"
+
+#include <core/json/JsonWriter.h>
+#include <core/json/PJsonValue.h>
+
+class ReleaseMappingData : public QSharedData
+{
+public:
+    QString sourceDate;
+    QString targetDate;
+    MappingList mappings;
+};
+
+ReleaseMappingC::ReleaseMappingC()
+    : d(new ReleaseMappingData)
+{
+}
+
+ReleaseMappingC::ReleaseMappingC(const ReleaseMappingC &) = default;
+
+ReleaseMappingC::ReleaseMappingC(ReleaseMappingC &&) noexcept = default;
+
+ReleaseMappingC &ReleaseMappingC::operator=(const ReleaseMappingC &) = default;
+
+ReleaseMappingC &ReleaseMappingC::operator=(ReleaseMappingC &&) noexcept = default;
+
+ReleaseMappingC::~ReleaseMappingC() = default;
+
+QString ReleaseMappingC::getSourceDate() const
+{
+    return d->sourceDate;
+}
+
+void ReleaseMappingC::setSourceDate(const QString &date)
+{
+    d->sourceDate = date;
+}
+
+QString ReleaseMappingC::getTargetDate() const
+{
+    return d->targetDate;
+}
+
+void ReleaseMappingC::setTargetDate(const QString &date)
+{
+    d->targetDate = date;
+}
+
+QList<PrjMappingC> ReleaseMappingC::getMappingList() const
+{
+    QList<PrjMappingC> list;
+    list.reserve(countMappings());
+    for (int i = 0; i < countMappings(); ++i)
+        list.append(d->mappings.at(i));
+    return list;
+}
+
+int ReleaseMappingC::countMappings() const
+{
+    return d->mappings.size();
+}
+
+PrjMappingC ReleaseMappingC::mappingAt(int position) const
+{
+    return position >= 0 && position < countMappings() ? d->mappings.at(position) : PrjMappingC();
+}
+
+PrjMappingC ReleaseMappingC::findMapping(const QString &sourcePath, const QString &sourceVersion,
+                                         const QString &tableVersion) const
+{
+    return mappingAt(d->mappings.find(sourcePath, sourceVersion, tableVersion));
+}
+
+void ReleaseMappingC::addMapping(const PrjMappingC &mapping)
+{
+    MappingList &mappings = d->mappings;
+    const int position =
+        mappings.find(mapping.getSourcePath(), mapping.getSourceVersion(), mapping.getTabVersion());
+    if (position >= 0)
+        mappings.replace(position, mapping);
+    else
+        mappings.append(mapping);
+}
+
+void ReleaseMappingC::appendMapping(const PrjMappingC &mapping)
+{
+    d->mappings.append(mapping);
+}
+
+PRJMAPPING::MappingState ReleaseMappingC::getMappingState() const
+{
+    return d->mappings.state();
+}
+
+void ReleaseMappingC::toJson(PJsonValue &out, bool headsOnly) const
+{
+    JsonWriter writer(JsonWriter::Indented);
+    writeRelease(writer, *this, headsOnly);
+    out = PJsonValue::fromWritten(writer.take());
+}
+
+bool ReleaseMappingC::fromJson(const PJsonValue &in, QString *error)
+{
+    return readRelease(in.rawText(), *this, error);
+}

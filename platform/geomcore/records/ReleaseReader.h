@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ReleaseMappingC.h"
+
+#include <QByteArray>
+#include <QList>
+
+/// Reads a text in the layout of the mapping file's releases. False if anything is not as it should
+/// be: \a error then tells line, column and member, and \a release is as before.
+[[nodiscard]] bool readRelease(const QByteArray &json, ReleaseMappingC &release, QString *error);
+
+/// A member of a mapping file.
+struct MappingFileMember
+{
+    QString sourceDate;
+    bool isRecords = false;
+    ReleaseMappingC release; ///< if isRecords
+    QByteArray text;         ///< unless isRecords: the value as it is written
+};
+
+/// Reads a whole mapping file in one pass. The member named \a sourceDate becomes records, all if
+/// that is empty. False if anything is not as it should be, as above.
+[[nodiscard]] bool readMappingFile(const QByteArray &json, const QString &sourceDate,
+                                   QList<MappingFileMember> &members, QString *error);

@@ -1,0 +1,103 @@
+#include <core/json/JsonWriter.h>
+#include <core/json/PJsonValue.h>
+
+#include <QTest>
+
+#include <limits>
+
+class tst_JsonWriter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void layouts_data()
+    {
+        QTest::addColumn<int>("layout");
+        QTest::addColumn<int>("level");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("compact") << int(JsonWriter::Compact) << 0
+                                 << QByteArray(
+                                        R"({"rows":[[1,-2,0.5],["a",true,null]],"none":{}})");
+        QTest::newRow("indented")
+            << int(JsonWriter::Indented) << 0
+            << QByteArray("{\n \"rows\": [\n  [1,-2,0.5],\n  [\"a\",true,null]\n ],\n"
+                          " \"none\": {}\n}");
+        QTest::newRow("indented for a depth")
+            << int(JsonWriter::Indented) << 2
+            << QByteArray("{\n   \"rows\": [\n    [1,-2,0.5],\n    [\"a\",true,null]\n   ],\n"
+                          "   \"none\": {}\n  }");
+    }
+    void layouts()
+    {
+        QFETCH(int, layout);
+        QFETCH(int, level);
+        QFETCH(QByteArray, text);
+        JsonWriter writer(JsonWriter::Layout(layout), level);
+        writer.beginObject();
+        writer.key("rows");
+        writer.beginArray();
+        writer.beginArray(true);
+        writer.value(1);
+        writer.value(-2);
+        writer.value(0.5);
+        writer.endArray();
+        writer.beginArray(true);
+        writer.value("a");
+        writer.value(true);
+        writer.null();
+        writer.endArray();
+        writer.endArray();
+        writer.key(QStringView(u"none"));
+        writer.beginObject();
+        writer.endObject();
+        writer.endObject();
+        QCOMPARE(writer.size(), text.size());
+        QCOMPARE(writer.take(), text);
+        QCOMPARE(writer.take(), QByteArray());
+    }
+
+    void numbers_data()
+    {
+        QTest::addColumn<qint64>("number");
+        QTest::newRow("zero") << qint64(0);
+        QTest::newRow("smallest") << std::numeric_limits<qint64>::min();
+        QTest::newRow("largest") << std::numeric_limits<qint64>::max();
+    }
+    void numbers()
+    {
+        QFETCH(qint64, number);
+        JsonWriter writer(JsonWriter::Compact);
+        writer.value(number);
+        QCOMPARE(writer.take(), QByteArray::number(number));
+    }
+
+    void growsAcrossAllKindsOfValues()
+    {
+        JsonWriter writer(JsonWriter::Indented);
+        QByteArray expected = "[";
+        writer.beginArray(true);
+        for (int i = 0; i < 2000; ++i) {
+            const QByteArray text(i % 300, 'x');
+            writer.value(std::string_view(text.constData(), std::size_t(text.size())));
+            writer.value(i);
+            writer.value(i + 0.5);
+            expected += (i == 0 ? "\"" : ",\"") + text + "\"," + QByteArray::number(i) + ',' +
+                        QByteArray::number(i) + ".5";
+        }
+        writer.endArray();
+        QCOMPARE(writer.take(), expected + ']');
+    }
+
+    void writtenTextIsIndented()
+    {
+        JsonWriter writer(JsonWriter::Indented);
+        writer.beginArray();
+        writer.written("[\n 1\n]", 1);
+        writer.written("[\n 1\n]");
+        writer.endArray();
+        QCOMPARE(writer.take(), QByteArray("[\n [\n  1\n ],\n [\n 1\n]\n]"));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_JsonWriter)
+#include "tst_JsonWriter.moc"

@@ -1,0 +1,314 @@
+#include <geomcore/records/LineTable.h>
+
+#include <QMap>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <limits>
+
+namespace {
+
+using Reference = QMap<int, PrjMappingTargetLineC>;
+
+PrjMappingTargetLineC makeLine(int target, int state, bool conflict = false,
+                               const QString &extended = QString())
+{
+    ExtendedTextPtr text;
+    if (!extended.isEmpty())
+        text = new ExtendedText(extended);
+    return PrjMappingTargetLineC(target, PRJMAPPING::CheckState(state), conflict, text);
+}
+
+LineCounts recount(const Reference &reference)
+{
+    LineCounts counts;
+    for (const PrjMappingTargetLineC &line : reference)
+        counts.add(line.getTargetLineId(), line.getState(), line.getConflict());
+    return counts;
+}
+
+/// Empty if the table holds exactly the reference's entries, in order.
+QString difference(const LineTable &table, const Reference &reference)
+{
+    auto expected = reference.constBegin();
+    for (const LineTable::Iterator &entry : table) {
+        if (expected == reference.constEnd() || expected.key() != entry.sourceLine() ||
+            !(expected.value() == entry.line()))
+            return QStringLiteral("differs at line %1").arg(entry.sourceLine());
+        if (!(table.value(expected.key()) == expected.value()) || !table.contains(expected.key()))
+            return QStringLiteral("look-up fails for line %1").arg(expected.key());
+        ++expected;
+    }
+    if (expected != reference.constEnd())
+        return QStringLiteral("lacks line %1").arg(expected.key());
+    if (!(table.counts() == recount(reference)))
+        return QStringLiteral("counts differ");
+    return QString();
+}
+
+PrjMappingTargetLineC randomLine(QRandomGenerator &random)
+{
+    const int target = random.bounded(4) == 0 ? -1 : int(random.bounded(1000));
+    const QString extended =
+        random.bounded(8) == 0 ? QStringLiteral("{A=%1} -> 2").arg(random.bounded(9)) : QString();
+    return makeLine(target, random.bounded(5), random.bounded(6) == 0, extended);
+}
+
+} // namespace
+
+class tst_LineTable : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void emptyTable()
+    {
+        LineTable table;
+        QVERIFY(table.isEmpty());
+        QVERIFY(table.begin() == table.end());
+        QVERIFY(!table.contains(0));
+        QVERIFY(table.findRow(0) == nullptr);
+        QVERIFY(table.value(5) == PrjMappingTargetLineC(-1, PRJMAPPING::ToCheck, ""));
+        QVERIFY(!table.remove(0));
+        table.setConflict(0, true);
+        table.setAllStates(PRJMAPPING::Verified);
+        table.removeUnverified();
+        QVERIFY(table.isEmpty());
+        QCOMPARE(table.counts().lines(), 0);
+    }
+
+    void fills_data()
+    {
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("step");
+        QTest::addColumn<int>("count");
+        QTest::newRow("one") << 7 << 1 << 1;
+        QTest::newRow("one page") << 1 << 1 << 256;
+        QTest::newRow("one more than a page") << 1 << 1 << 257;
+        QTest::newRow("several parts of the directory") << 1 << 1 << 40000;
+        QTest::newRow("descending") << 20000 << -1 << 20000;
+        QTest::newRow("sparse") << -1000000000 << 100003 << 20000;
+        QTest::newRow("sparse, descending") << 1000000000 << -100003 << 20000;
+        QTest::newRow("from the smallest id") << std::numeric_limits<int>::min() << 429496 << 10000;
+    }
+    void fills()
+    {
+        QFETCH(int, first);
+        QFETCH(int, step);
+        QFETCH(int, count);
+        LineTable table;
+        Reference reference;
+        for (int i = 0; i < count; ++i) {
+            const int id = first + i * step;
+            const PrjMappingTargetLineC line = makeLine(i, i % 3);
+            table.set(id, line);
+            reference.insert(id, line);
+        }
+        QCOMPARE(difference(table, reference), QString());
+        QVERIFY(!table.contains(first - (step > 0 ? 1 : -1)));
+        QVERIFY(!table.contains(0) || reference.contains(0));
+    }
+
+    void extremeIds()
+    {
+        LineTable table;
+        Reference reference;
+        for (int id :
+             {0, std::numeric_limits<int>::max(), -1, std::numeric_limits<int>::min(), 1}) {
+            table.set(id, makeLine(id, 2));
+            reference.insert(id, makeLine(id, 2));
+        }
+        QCOMPARE(difference(table, reference), QString());
+    }
+
+    void randomOperationsEqualAMap_data()
+    {
+        QTest::addColumn<int>("idRange");
+        QTest::addColumn<int>("operations");
+        QTest::newRow("few ids") << 50 << 5000;
+        QTest::newRow("dense ids") << 3000 << 30000;
+        QTest::newRow("sparse ids") << 500000000 << 30000;
+    }
+    void randomOperationsEqualAMap()
+    {
+        QFETCH(int, idRange);
+        QFETCH(int, operations);
+        QRandomGenerator random(4711);
+        LineTable table;
+        Reference reference;
+        LineTable snapshot;
+        Reference snapshotReference;
+        for (int i = 0; i < operations; ++i) {
+            int id = int(random.bounded(idRange)) - idRange / 2;
+            if (random.bounded(2) == 0 && !reference.isEmpty()) {
+                const auto known = reference.lowerBound(id);
+                id = known == reference.end() ? id : known.key();
+            }
+            const int kind = int(random.bounded(20));
+            if (kind < 11) {
+                const PrjMappingTargetLineC line = randomLine(random);
+                table.set(id, line);
+                reference.insert(id, line);
+            } else if (kind < 17) {
+                QCOMPARE(table.remove(id), reference.remove(id) == 1);
+            } else if (kind < 19) {
+                const bool conflict = random.bounded(2) == 0;
+                table.setConflict(id, conflict);
+                if (reference.contains(id)) {
+                    const PrjMappingTargetLineC old = reference.value(id);
+                    reference.insert(id, makeLine(old.getTargetLineId(), old.getState(), conflict,
+                                                  old.getExtended()));
+                }
+            } else if (random.bounded(200) == 0) {
+                QCOMPARE(difference(snapshot, snapshotReference), QString());
+                snapshot = table;
+                snapshotReference = reference;
+            }
+        }
+        QVERIFY(!reference.isEmpty());
+        QCOMPARE(difference(table, reference), QString());
+        QCOMPARE(difference(snapshot, snapshotReference), QString());
+    }
+
+    void emptiedFromEitherEnd_data()
+    {
+        QTest::addColumn<bool>("ascending");
+        QTest::newRow("ascending") << true;
+        QTest::newRow("descending") << false;
+    }
+    void emptiedFromEitherEnd()
+    {
+        QFETCH(bool, ascending);
+        constexpr int Count = 20000;
+        LineTable table;
+        Reference reference;
+        for (int i = 0; i < Count; ++i) {
+            table.set(i, makeLine(i, 0));
+            reference.insert(i, makeLine(i, 0));
+        }
+        for (int i = 0; i < Count; ++i) {
+            const int id = ascending ? i : Count - 1 - i;
+            QVERIFY(table.remove(id));
+            reference.remove(id);
+            if (i % 4999 == 0)
+                QCOMPARE(difference(table, reference), QString());
+        }
+        QVERIFY(table.isEmpty());
+        table.set(3, makeLine(1, 1));
+        QCOMPARE(table.counts().lines(), 1);
+    }
+
+    void thinnedOutPagesKeepTheirTexts()
+    {
+        LineTable table;
+        Reference reference;
+        for (int i = 0; i < 5000; ++i) {
+            const QString extended = i % 700 == 0 ? QString::number(i) : QString();
+            table.set(i, makeLine(i, 0, false, extended));
+            if (i % 10 == 0)
+                reference.insert(i, makeLine(i, 0, false, extended));
+        }
+        for (int i = 0; i < 5000; ++i) {
+            if (i % 10 != 0)
+                table.remove(i);
+        }
+        QCOMPARE(difference(table, reference), QString());
+    }
+
+    void copiesAreTheirOwn()
+    {
+        LineTable table;
+        Reference reference;
+        for (int i = 0; i < 100000; ++i) {
+            table.set(i, makeLine(i, 1));
+            reference.insert(i, makeLine(i, 1));
+        }
+        LineTable copy = table;
+        copy.set(50000, makeLine(7, 2, true, "text"));
+        copy.setConflict(3, true);
+        copy.remove(99999);
+        copy.set(-5, makeLine(-1, 0));
+        QCOMPARE(difference(table, reference), QString());
+        QVERIFY(copy.value(50000) == makeLine(7, 2, true, "text"));
+        QCOMPARE(copy.counts().lines(), 100000);
+        QCOMPARE(copy.counts().conflicts(), 2);
+    }
+
+    void removeUnverifiedKeepsConfirmedOnes()
+    {
+        QRandomGenerator random(1);
+        LineTable table;
+        Reference reference;
+        for (int i = 0; i < 3000; ++i) {
+            const PrjMappingTargetLineC line = randomLine(random);
+            table.set(i, line);
+            if (line.getState() == PRJMAPPING::Verified)
+                reference.insert(i, line);
+        }
+        table.removeUnverified();
+        QCOMPARE(difference(table, reference), QString());
+        table.removeUnverified();
+        QCOMPARE(difference(table, reference), QString());
+    }
+
+    void setAllStatesKeepsAllElse()
+    {
+        QRandomGenerator random(2);
+        LineTable table;
+        Reference reference;
+        for (int i = 0; i < 3000; ++i) {
+            const PrjMappingTargetLineC line = randomLine(random);
+            table.set(i, line);
+            reference.insert(
+                i, makeLine(line.getTargetLineId(), 2, line.getConflict(), line.getExtended()));
+        }
+        const LineTable before = table;
+        table.setAllStates(PRJMAPPING::Verified);
+        QCOMPARE(difference(table, reference), QString());
+        QCOMPARE(table.counts().verified(), 3000);
+        QVERIFY(before.counts().verified() < 3000);
+    }
+
+    void clear()
+    {
+        LineTable table;
+        table.set(1, makeLine(1, 2, true));
+        table.clear();
+        QVERIFY(table.isEmpty());
+        QCOMPARE(table.counts(), LineCounts());
+    }
+
+    void counts_data()
+    {
+        QTest::addColumn<int>("target");
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QList<int>>("counts");
+        // notFound, mapped, toCheck, verified, unmapped, assigned, unverified
+        QTest::newRow("to check") << 5 << 0 << QList<int>{0, 0, 1, 0, 0, 0, 1};
+        QTest::newRow("mapped") << 5 << 1 << QList<int>{0, 1, 0, 0, 0, 1, 0};
+        QTest::newRow("verified") << 5 << 2 << QList<int>{0, 0, 0, 1, 0, 0, 0};
+        QTest::newRow("state 3") << 5 << 3 << QList<int>{0, 0, 0, 0, 0, 0, 1};
+        QTest::newRow("no line, to check") << -1 << 0 << QList<int>{1, 0, 0, 0, 1, 0, 0};
+        QTest::newRow("no line, mapped") << -1 << 1 << QList<int>{1, 1, 0, 0, 1, 0, 0};
+        QTest::newRow("expired") << -1 << 2 << QList<int>{1, 0, 0, 1, 0, 0, 0};
+        QTest::newRow("no line, state 7") << -1 << 7 << QList<int>{1, 0, 0, 0, 1, 0, 0};
+        QTest::newRow("line -2 is a line") << -2 << 0 << QList<int>{0, 0, 1, 0, 0, 0, 1};
+    }
+    void counts()
+    {
+        QFETCH(int, target);
+        QFETCH(int, state);
+        QFETCH(QList<int>, counts);
+        LineTable table;
+        table.set(1, makeLine(target, state));
+        const LineCounts &c = table.counts();
+        QCOMPARE(c.lines(), 1);
+        QCOMPARE((QList<int>{c.notFound(), c.mapped(), c.toCheck(), c.verified(), c.unmapped(),
+                             c.assigned(), c.unverified()}),
+                 counts);
+        QCOMPARE(int(table.value(1).getState()), state);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_LineTable)
+#include "tst_LineTable.moc"
