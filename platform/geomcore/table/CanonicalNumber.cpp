@@ -64,6 +64,49 @@ bool readExponent(const char *&at, const char *end, qint64 &exponent)
 std::optional<CanonicalNumber> CanonicalNumber::parse(std::string_view text, char decimalChar)
 {
     text = trimmedCell(text);
+    if (text.size() <= Digits + 1 && !text.empty() && isDigit(text.front())) {
+        CanonicalNumber result;
+        if (parseShort(text, decimalChar, result))
+            return result;
+    }
+    return parseAny(text, decimalChar);
+}
+
+bool CanonicalNumber::parseShort(std::string_view text, char decimalChar, CanonicalNumber &out)
+{
+    quint64 value = 0;
+    int digits = 0;
+    int fraction = 0;
+    bool point = false;
+    for (char c : text) {
+        if (isDigit(c)) {
+            value = value * 10 + quint64(c - '0');
+            ++digits;
+            fraction += point;
+        } else if (!point && (c == '.' || c == decimalChar)) {
+            point = true;
+        } else {
+            return false;
+        }
+    }
+    if (digits > Digits)
+        return false;
+    out.set(false, value, -fraction);
+    return true;
+}
+
+void CanonicalNumber::set(bool negative, quint64 digits, qint64 exponent)
+{
+    m_packed = 0;
+    if (digits == 0)
+        return;
+    for (; digits % 10 == 0; digits /= 10)
+        ++exponent;
+    m_packed = quint64(negative) << 63 | quint64(exponent + ExponentBias) << 48 | digits;
+}
+
+std::optional<CanonicalNumber> CanonicalNumber::parseAny(std::string_view text, char decimalChar)
+{
     const char *at = text.data();
     const char *const end = at + text.size();
     const bool negative = at < end && *at == '-';
@@ -81,16 +124,11 @@ std::optional<CanonicalNumber> CanonicalNumber::parse(std::string_view text, cha
         if ((*at | 0x20) != 'e' || !readExponent(++at, end, mantissa.exponent))
             return {};
     }
-    CanonicalNumber result;
-    quint64 digits = mantissa.value + (mantissa.roundUp ? 1 : 0);
-    if (digits == 0)
-        return result;
-    for (; digits % 10 == 0; digits /= 10)
-        ++mantissa.exponent;
-    if (mantissa.exponent > ExponentLimit || mantissa.exponent < -ExponentLimit)
+    const qint64 magnitude = mantissa.value == 0 ? 0 : mantissa.exponent;
+    if (magnitude > ExponentLimit || magnitude < -ExponentLimit)
         return {};
-    result.m_packed =
-        quint64(negative) << 63 | quint64(mantissa.exponent + ExponentBias) << 48 | digits;
+    CanonicalNumber result;
+    result.set(negative, mantissa.value + (mantissa.roundUp ? 1 : 0), mantissa.exponent);
     return result;
 }
 

@@ -41,6 +41,11 @@ public:
     friend bool operator==(CanonicalNumber, CanonicalNumber) = default;
 
 private:
+    /// Digits with at most one decimal point; false if the text is anything else.
+    static bool parseShort(std::string_view text, char decimalChar, CanonicalNumber &out);
+    static std::optional<CanonicalNumber> parseAny(std::string_view text, char decimalChar);
+    void set(bool negative, quint64 digits, qint64 exponent);
+
     /// Bit 63 sign, bits 48 to 62 exponent + 16384, bits 0 to 47 the digits as an integer that is
     /// no multiple of 10. Zero is 0.
     quint64 m_packed = 0;

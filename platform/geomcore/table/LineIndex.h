@@ -9,6 +9,9 @@
 
 namespace VKTab {
 
+class KeyColumns;
+struct LineKeys;
+
 /// Hash index of a table's rows over a set of its columns. Immutable and shared between threads
 /// after construction, which reads the table once.
 class VELKGEOMCORE_EXPORT LineIndex
@@ -39,7 +42,7 @@ public:
     /// Whether no other row equals \a row.
     [[nodiscard]] bool isUnique(int row) const
     {
-        return m_next.empty() || m_next[size_t(row)] == row;
+        return m_next.empty() || (m_first[size_t(row)] == row && m_next[size_t(row)] < 0);
     }
     /// First row whose key cells equal \a cells (one for each key, in their order); -1 if none
     /// does.
@@ -52,51 +55,43 @@ public:
     public:
         /// \a columns of \a other, one for each key of the index. A column -1 is "no value" in all
         /// rows.
-        Probe(const LineIndex &index, const TableData &other, std::vector<int> columns);
+        Probe(const LineIndex &index, const TableData &other, const std::vector<int> &columns);
+        ~Probe();
+        Probe(Probe &&other) noexcept;
 
         /// First row of the index's table that equals \a row of the other; -1 if there is none.
         /// Rows asked in order are fastest: the row after the last hit is tried first.
         [[nodiscard]] int find(int row);
-        /// find() for rows.size() rows in order from \a firstRow on, with overlapping memory
-        /// access.
+        /// The same for rows.size() rows from \a firstRow on, with overlapping memory access.
         void find(int firstRow, std::span<int> rows);
 
     private:
-        [[nodiscard]] quint64 load(int row);
-        [[nodiscard]] bool equals(int indexRow);
-        [[nodiscard]] int tryNext(int row);
-
-        const LineIndex &m_index;
-        const TableData &m_other;
-        std::vector<int> m_columns;
-        int m_width = 0;
-        bool m_sameLayout = false;
-        int m_expected = 0;
-        int m_misses = 0;
-        std::vector<std::string_view> m_cells;
-        std::vector<std::string_view> m_indexCells;
-        std::vector<CellKey> m_keys;
-        std::string m_scratch;
-        std::string m_indexScratch;
+        struct Private;
+        std::unique_ptr<Private> d;
     };
 
 private:
     struct Slot
     {
         quint32 tag = 0;
-        qint32 tail = -1; ///< Last of the equal rows; -1 if the slot is free.
+        qint32 last = -1; ///< Last of the equal rows; -1 if the slot is free.
     };
 
     void build();
-    void insert(int row, quint64 hash);
-    [[nodiscard]] bool rowsEqual(int a, int b) const;
+    void insert(int row, const LineKeys &keys, LineKeys &other);
+    /// First row in a slot of that hash for which equal(row) holds; -1 if there is none.
+    template<class Equal>
+    [[nodiscard]] int walk(quint64 hash, Equal equal) const;
+    [[nodiscard]] size_t slotOf(quint64 hash) const { return size_t(hash) & (m_slots.size() - 1); }
 
     std::shared_ptr<const TableData> m_table;
     std::vector<Key> m_keys;
-    std::vector<Slot> m_slots;
-    /// Ring of equal rows in ascending order; empty while all rows differ.
+    std::unique_ptr<KeyColumns> m_columns;
+    std::vector<Slot> m_slots; ///< A power of two, at most half of them taken.
+    /// First of the rows that equal a row, and the next one or -1; both empty while all rows
+    /// differ.
+    std::vector<qint32> m_first;
     std::vector<qint32> m_next;
-    int m_width = 0;
     int m_distinct = 0;
 };
 

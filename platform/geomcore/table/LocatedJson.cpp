@@ -92,13 +92,14 @@ private:
         LocatedJson *node = add(type);
         if (m_open.size() == MaxDepth)
             return fail(node->begin, QStringLiteral("more than 64 levels deep"));
+        m_last = node->begin + 1; // the event comes before the bracket is taken
         m_open.push_back(node);
         return true;
     }
 
     bool close()
     {
-        m_open.back()->end = m_last = position();
+        m_open.back()->end = m_last = position() + 1; // likewise
         m_open.pop_back();
         return true;
     }

@@ -144,7 +144,7 @@ std::optional<RangeText::Part> RangeText::parsePart(QStringView text, char decim
     auto from = readDecimal(text.first(dots), decimalChar);
     auto to = readDecimal(text.sliced(dots + 2, slash - dots - 2), decimalChar);
     auto step = readDecimal(text.sliced(slash + 1), decimalChar);
-    if (!from || !to || !step)
+    if (!from || !to || !step || text.at(dots + 2) == u'.')
         return fail(error,
                     QStringLiteral("begin, end and step of \"%1\" are to be numbers of at most "
                                    "15 digits")
