@@ -150,8 +150,8 @@ bool PIniFile::save(const QString &nativePath)
 {
     QSaveFile file(nativePath);
     const QByteArray content = toByteArray();
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
+                         file.flush() && file.commit();
     m_errorText =
         written ? QString()
                 : QStringLiteral("%1: cannot be written: %2").arg(nativePath, file.errorString());
