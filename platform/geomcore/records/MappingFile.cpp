@@ -11,6 +11,10 @@
 
 #include <algorithm>
 
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 class MappingFileData : public QSharedData
 {
 public:
@@ -32,6 +36,19 @@ bool report(QString *error, const QString &path, const QString &what)
     if (error)
         *error = QStringLiteral("%1: %2").arg(path, what);
     return false;
+}
+
+/// Gets the bytes onto the disk; gives the cause if that fails. QSaveFile::commit alone would
+/// neither notice that what is still buffered finds no room nor that the disk refuses it.
+QString writeThrough(QSaveFile &file, const QByteArray &bytes)
+{
+    if (file.write(bytes) != bytes.size() || !file.flush())
+        return file.errorString();
+#ifdef Q_OS_UNIX
+    if (::fsync(file.handle()) != 0)
+        return qt_error_string();
+#endif
+    return QString();
 }
 
 } // namespace
@@ -133,7 +150,9 @@ bool MappingFile::write(const QString &nativePath, QString *error) const
     QSaveFile file(nativePath);
     if (!file.open(QIODevice::WriteOnly))
         return report(error, nativePath, file.errorString());
-    file.write(toByteArray());
+    const QString failure = writeThrough(file, toByteArray());
+    if (!failure.isEmpty())
+        return report(error, nativePath, failure); // the file beside goes with its object
     if (!file.commit())
         return report(error, nativePath, file.errorString());
     return true;
