@@ -1,0 +1,35 @@
+#pragma once
+
+#include <core/text/PPathName.h>
+#include <core/text/PRefPtr.h>
+#include <geomcore/VelkGeomCoreGlobal.h>
+
+#include <memory>
+
+/// The catalogs below one root directory. Every operation may be called on any thread.
+class VELKGEOMCORE_EXPORT IndexTreeC : public PRefObject
+{
+public:
+    /// A tree over the standard root, "$TORMEVA_DATA/23d-libs".
+    IndexTreeC();
+    explicit IndexTreeC(const PPathName &catalogRoot);
+    ~IndexTreeC() override;
+
+    /// The tree of the process.
+    [[nodiscard]] static PRefPtr<IndexTreeC> instance();
+
+    /// Directory whose subdirectories are the catalogs. References in it are resolved when the file
+    /// system is asked.
+    [[nodiscard]] PPathName catalogRoot() const;
+    void setCatalogRoot(const PPathName &root);
+
+    /// File of a project path that begins with the catalog's name, with "/" or "\", as mappings
+    /// store it; a separator before it does not matter. Absolute paths of files that are there,
+    /// paths that begin with a reference and addresses come back as they are; an empty path stays
+    /// empty. Whether the file exists is the caller's to ask.
+    [[nodiscard]] PPathName compatiblePathToResolvedPath(const PPathName &path) const;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};

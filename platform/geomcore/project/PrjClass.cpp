@@ -1,0 +1,73 @@
+#include "PrjClass.h"
+
+#include "PrjFile.h"
+
+#include <QLockFile>
+
+PrjClass::PrjClass(bool keepRelative, bool create, bool lock)
+    : m_keepRelative(keepRelative)
+    , m_create(create)
+    , m_lock(lock)
+{
+}
+
+PrjClass::~PrjClass() = default;
+
+int PrjClass::read(const QString &nativePath, int parts)
+{
+    m_path = nativePath;
+    m_valid = false;
+    m_errorText.clear();
+    m_lexems.clear();
+    m_variables.clear();
+    m_tableReference.clear();
+    if (!takeLock())
+        return -1;
+    PrjFile file;
+    if (file.Load(nativePath, m_create) != 1) {
+        m_errorText = file.errorText();
+        return -1;
+    }
+    if (parts & ReadLexems) {
+        for (const QString &name : file.lexemNames())
+            m_lexems.insert(name, file.GetLexemValue(name));
+    }
+    if (parts & ReadVariables)
+        m_variables = file.variables();
+    if (parts & ReadTable) {
+        m_tableReference = file.GetLexemValue(QStringLiteral("SACHM"));
+        if (!m_keepRelative)
+            m_tableReference = tableFile();
+    }
+    m_valid = true;
+    return 1;
+}
+
+bool PrjClass::takeLock()
+{
+    m_lockFile.reset();
+    if (!m_lock)
+        return true;
+    m_lockFile = std::make_unique<QLockFile>(m_path + QStringLiteral(".lock"));
+    if (m_lockFile->tryLock(0))
+        return true;
+    qint64 process = 0;
+    QString host;
+    QString application;
+    const bool known = m_lockFile->getLockInfo(&process, &host, &application);
+    m_errorText = m_path + (known ? QStringLiteral(": is locked by %1 on %2 (process %3)")
+                                        .arg(application, host)
+                                        .arg(process)
+                                  : QStringLiteral(": the lock file beside it cannot be written"));
+    m_lockFile.reset();
+    return false;
+}
+
+QString PrjClass::tableFile() const
+{
+    if (m_tableReference.isEmpty())
+        return {};
+    return PPathName::MergeDirAndFile(PPathName(m_path).directory(), PPathName(m_tableReference),
+                                      true)
+        .native();
+}
