@@ -6,6 +6,8 @@
 
 namespace VKTab {
 
+struct BaseLayerShared;
+
 /// Layer with everything kept in memory. A subclass overrides only what it changes: every operation
 /// works for a layer with one variable and no lines of its own. A copy is independent; nobody
 /// listens to it yet.
@@ -98,6 +100,8 @@ protected:
     /// Stores values without a look at whose variables they are; null values clear. Tells listeners
     /// once. True if anything changed.
     bool storeValues(const LineId &line, const ValueMap &values);
+    /// copyLine() without a look at whose variables they are.
+    void copyStored(const LineId &from, const LineId &to, const QList<Var> &vars, bool withStatus);
     /// No value is stored at all.
     [[nodiscard]] bool hasNoValues() const;
     /// The stored value, without a look at whose variable it is.
@@ -107,9 +111,7 @@ protected:
     [[nodiscard]] ValueMap storedValues(const LineId &line) const;
 
 private:
-    struct State;
-    struct Shared;
-    std::unique_ptr<Shared> m_shared;
+    std::unique_ptr<BaseLayerShared> m_shared;
 };
 
 } // namespace VKTab

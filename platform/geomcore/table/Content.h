@@ -85,6 +85,12 @@ public:
     /// All variables in display order, hidden ones included.
     [[nodiscard]] ColumnMapping getColumnMapping() const;
 
+    /// Text of the range that a line offers for a variable, whatever was chosen from it; empty if
+    /// the variable is no range.
+    [[nodiscard]] QString getRangeText(const VarId &id, const LineId &line) const;
+    /// Decimal character of a variable's cells, besides the point that is always understood.
+    [[nodiscard]] char getDecimalChar(const VarId &id) const;
+
     // Facts about the table.
 
     [[nodiscard]] QVariant getKeyValue(KeyValueId id) const;
@@ -143,6 +149,7 @@ protected:
 
 private:
     friend class ContentData;
+    friend class LineSearch;
     friend class LineView;
 
     std::shared_ptr<ContentData> d; // null for a reference to nothing
@@ -161,6 +168,6 @@ public:
     ~ContentRef() override;
 };
 
-} // namespace VKTab
+Q_DECLARE_OPERATORS_FOR_FLAGS(Content::InvalidateFlags)
 
-Q_DECLARE_OPERATORS_FOR_FLAGS(VKTab::Content::InvalidateFlags)
+} // namespace VKTab

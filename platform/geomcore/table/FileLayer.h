@@ -7,6 +7,7 @@
 namespace VKTab {
 
 class TableData;
+class TableDescriptor;
 
 /// The variables and lines of a table file. Shares the file's data with its copies; what can be
 /// changed in it are key values, attributes of variables and filter conditions. A layer without
@@ -17,7 +18,7 @@ public:
     FileLayer();
     explicit FileLayer(std::shared_ptr<const TableData> data);
     /// The head of a table without its lines.
-    explicit FileLayer(const class TableDescriptor &descriptor);
+    explicit FileLayer(const TableDescriptor &descriptor);
     FileLayer(const FileLayer &other);
     ~FileLayer() override;
 
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] QList<LineInfo> getLineInfoList() const override;
     [[nodiscard]] QVariant getLineProperty(const LineId &line, LinePropId property) const override;
     [[nodiscard]] QList<LinePropId> getLineProperties() const override;
+    [[nodiscard]] Value getValue(const VarId &id, const LineId &line,
+                                 const LineI &shown) const override;
     [[nodiscard]] Value getValue(const VarId &id, const LineId &line) const override;
     [[nodiscard]] bool isLocked(const VarId &id, const LineId &line) const override;
     [[nodiscard]] bool isDefValue(const VarId &id, const LineId &line) const override;
@@ -40,7 +43,7 @@ public:
 
     /// Null for a layer without data.
     [[nodiscard]] const std::shared_ptr<const TableData> &data() const { return m_data; }
-    [[nodiscard]] const class TableDescriptor &descriptor() const { return *m_descriptor; }
+    [[nodiscard]] const TableDescriptor &descriptor() const { return *m_descriptor; }
 
     /// The date on which the table was finished, ISO 8601; empty if unknown. `key` names a further
     /// date of the table's attributes, an empty one the final date itself.
@@ -50,7 +53,7 @@ private:
     void takeDescriptor();
 
     std::shared_ptr<const TableData> m_data;
-    std::shared_ptr<const class TableDescriptor> m_descriptor; // never null
+    std::shared_ptr<const TableDescriptor> m_descriptor; // never null
 };
 
 } // namespace VKTab

@@ -43,6 +43,6 @@ public:
                                               FindFlags flags) const;
 };
 
-} // namespace VKTab
+Q_DECLARE_OPERATORS_FOR_FLAGS(Finder::FindFlags)
 
-Q_DECLARE_OPERATORS_FOR_FLAGS(VKTab::Finder::FindFlags)
+} // namespace VKTab

@@ -34,6 +34,8 @@ public:
     [[nodiscard]] Value getValue(const Var &var, FormatFlags format,
                                  EvalFlags eval = {}) const override;
     [[nodiscard]] QVariant getLineKeyValue(const QString &key) const override;
+    [[nodiscard]] bool hasValue(const Var &var, const Value &value,
+                                bool rangeContains) const override;
     void putValue(const VarId &id, const Value &value) override;
     void takeValue(const VarId &id) override;
     void takeValues() override;

@@ -37,6 +37,13 @@ public:
     /// Value of a status key on this line, an empty text when unset.
     [[nodiscard]] virtual QVariant getLineKeyValue(const QString &key) const = 0;
 
+    /// True if the line has the value. Of a range variable the range that the line offers counts,
+    /// not what was chosen from it: with `rangeContains` the value must be in it, without it must
+    /// be its text. Numbers compare by value to ten significant digits, other texts exactly after
+    /// trimming; a missing value equals an empty one.
+    [[nodiscard]] virtual bool hasValue(const Var &var, const Value &value,
+                                        bool rangeContains) const = 0;
+
     /// Puts a value into the line.
     virtual void putValue(const VarId &id, const Value &value) = 0;
     /// Takes the value of one variable out, so that the line shows the table's again.

@@ -1,5 +1,6 @@
 #include "TableData.h"
 
+#include "ComputedColumns.h"
 #include "CsvCells.h"
 #include "LineId.h"
 #include "TableDataPrivate.h"
@@ -130,6 +131,13 @@ int TableData::rowOf(int lineNumber, int lineSubNumber) const
 bool TableData::isMarked(int row) const
 {
     return std::binary_search(m_markedRows.begin(), m_markedRows.end(), row);
+}
+
+const ComputedColumns &TableData::computed() const
+{
+    std::call_once(m_computedOnce,
+                   [this] { m_computed = std::make_unique<const ComputedColumns>(*this); });
+    return *m_computed;
 }
 
 } // namespace VKTab

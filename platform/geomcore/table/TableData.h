@@ -5,6 +5,7 @@
 
 #include <array>
 #include <memory>
+#include <mutex>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +13,7 @@
 
 namespace VKTab {
 
+class ComputedColumns;
 class LineId;
 class TableData;
 
@@ -114,6 +116,9 @@ public:
 
     /// The column with its values interned; made at the first call, which may come from any thread.
     [[nodiscard]] const InternedColumn &interned(int column) const;
+    /// The formulas of computed fields without a column; made at the first call, which may come
+    /// from any thread.
+    [[nodiscard]] const ComputedColumns &computed() const;
 
 private:
     friend class TableDataReader;
@@ -147,6 +152,8 @@ private:
     TableErrorList m_warnings;
     std::unique_ptr<Source> m_source;
     std::unique_ptr<Interned[]> m_interned;
+    mutable std::once_flag m_computedOnce;
+    mutable std::unique_ptr<const ComputedColumns> m_computed;
 };
 
 } // namespace VKTab

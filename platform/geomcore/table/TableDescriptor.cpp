@@ -38,8 +38,9 @@ bool TableDescriptor::isMissing(std::string_view cell) const
 {
     const std::string_view text = trimmedCell(cell);
     const QUtf8StringView utf8(text.data(), qsizetype(text.size()));
-    return std::any_of(missingValues.cbegin(), missingValues.cend(),
-                       [utf8](const QString &missing) { return QAnyStringView::compare(utf8, missing) == 0; });
+    return std::any_of(
+        missingValues.cbegin(), missingValues.cend(),
+        [utf8](const QString &missing) { return QAnyStringView::compare(utf8, missing) == 0; });
 }
 
 QString TableDescriptor::csvFile(const QString &descriptorFile) const

@@ -15,6 +15,7 @@ namespace VKTab {
 
 class Content;
 class LineI;
+class Var;
 
 /// Walk over the value combinations of a line's ranges. The variable named last runs fastest, each
 /// range in its written order. Every combination is put into the line; after the last one the
@@ -44,10 +45,10 @@ private:
     {
         VarId id;
         RangeText values;
-        qint64 count = 0;
         qint64 place = 0;
     };
 
+    void addRange(const Var &var);
     bool step();
 
     std::unique_ptr<Content> m_content;

@@ -1,0 +1,7 @@
+#include "ErpDataSourceI.h"
+
+namespace VKTab {
+
+ErpDataSourceI::~ErpDataSourceI() = default;
+
+} // namespace VKTab

@@ -1,0 +1,7 @@
+#include "FilterRule.h"
+
+namespace VKTab {
+
+FilterRule::~FilterRule() = default;
+
+} // namespace VKTab

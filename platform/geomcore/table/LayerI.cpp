@@ -1,0 +1,7 @@
+#include "LayerI.h"
+
+namespace VKTab {
+
+LayerI::~LayerI() = default;
+
+} // namespace VKTab

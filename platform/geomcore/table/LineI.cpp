@@ -1,0 +1,7 @@
+#include "LineI.h"
+
+namespace VKTab {
+
+LineI::~LineI() = default;
+
+} // namespace VKTab
