@@ -56,8 +56,7 @@ QByteArray size()
 /// Registers before there is an application, which comes and goes twice.
 int runWithoutApplication(const char *resourceFile)
 {
-    const QString path = QString::fromUtf8(resourceFile);
-    QResource::registerResource(path);
+    QResource::registerResource(QString::fromUtf8(resourceFile));
     PTranslateManager::registerModule("Sample");
     std::cout << size().constData();
     for (int i = 0; i < 2; ++i) {
@@ -68,7 +67,6 @@ int runWithoutApplication(const char *resourceFile)
         std::cout << ' ' << size().constData();
     }
     std::cout << ' ' << size().constData() << '\n';
-    QResource::unregisterResource(path);
     return 0;
 }
 
@@ -86,7 +84,6 @@ private Q_SLOTS:
         QVERIFY(QResource::registerResource(m_resource));
         PTranslateManager::instance().setLanguage("");
     }
-    void cleanupTestCase() { QVERIFY(QResource::unregisterResource(m_resource)); }
     void cleanup()
     {
         PTranslateManager::instance().setLanguage("");

@@ -218,17 +218,14 @@ private Q_SLOTS:
     {
         int depth = 0;
         int deepest = 0;
-        const auto work = [&] {
+        QTimer timer;
+        timer.callOnTimeout([&] {
             deepest = std::max(deepest, ++depth);
             PProgress inner(0, 3);
             inner.nextStep();
             --depth;
-        };
-        QTimer timers[3];
-        for (QTimer &timer : timers) {
-            timer.callOnTimeout(work);
-            timer.start(0);
-        }
+        });
+        timer.start(0);
         DefaultObserverDelegate delegate;
         delegate.activate(1);
         PProgress progress(0, 10);

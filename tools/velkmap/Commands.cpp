@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "CreateCommand.h"
 #include "ImportCommand.h"
 
 #include <core/Version.h>
@@ -32,6 +33,9 @@ const QList<Command> &commands()
     static const QList<Command> list = {
         {QStringLiteral("import"),
          QStringLiteral("makes a catalog from a folder tree of CSV tables"), runImport},
+        {QStringLiteral("create"),
+         QStringLiteral("writes a release mapping with the target projects of each old project"),
+         runCreate},
     };
     return list;
 }

@@ -1,0 +1,300 @@
+#include "TestCatalog.h"
+
+#include <core/progress/PProgress.h>
+#include <core/progress/PProgressObserverBase.h>
+#include <tools/velkmap/ReleaseMappingBuilder.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using velkmap::ReleaseMappingBuilder;
+using Outcome = ReleaseMappingBuilder::Outcome;
+
+namespace {
+
+const QByteArray Bolts = "size,s,k;M3,5.5,2;M4,7,2.8;M5,8,3.5";
+const QByteArray Nuts = "size,s,m;M3,5.5,2.4;M4,7,3.2;M5,8,4.7";
+
+/// Two releases in a directory of their own.
+struct Releases
+{
+    QTemporaryDir directory;
+    TestCatalog source{directory.filePath("r1/old")};
+    TestCatalog target{directory.filePath("r2/new")};
+
+    [[nodiscard]] ReleaseMappingBuilder::Input input() const
+    {
+        ReleaseMappingBuilder::Input input;
+        input.sourceRoot = directory.filePath("r1");
+        input.targetRoot = directory.filePath("r2/");
+        input.sourceCatalog = "old";
+        input.targetCatalog = "new";
+        return input;
+    }
+};
+
+/// "source: target target", one for each mapping.
+QStringList told(const ReleaseMappingC &release)
+{
+    QStringList texts;
+    for (const PrjMappingC &mapping : release.getMappingList()) {
+        QString text = mapping.getSourcePath() + ':';
+        for (const PrjMappingTargetC &target : mapping.getTargets())
+            text += ' ' + target.getTargetPath();
+        texts << text;
+    }
+    return texts;
+}
+
+} // namespace
+
+class tst_ReleaseMappingBuilder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void mapsEachOldProject();
+    void recordsVersionsAndDates();
+    void givenDatesWin();
+    void datesCompareInUtc();
+    void targetsAreValidAndWithoutLines();
+    void brokenSourceTable();
+    void brokenTargetTable();
+    void missingTableFile();
+    void projectWithoutTable();
+    void missingCatalog_data();
+    void missingCatalog();
+    void noDate();
+    void emptyCatalog();
+    void cancelled();
+    void buildsTwice();
+};
+
+void tst_ReleaseMappingBuilder::mapsEachOldProject()
+{
+    Releases releases;
+    releases.source.add("b/bolt", Bolts);
+    releases.source.add("a/nut", Nuts);
+    releases.source.add("a/gone", "x,y;1,2");
+    releases.source.add("c/ring", "d1,d2;10,20;12,24;14,28;16,32");
+    releases.source.add("c/empty", "d1,d2");
+    releases.target.add("b/bolt", Bolts);
+    releases.target.add("z/hexnut", Nuts);
+    releases.target.add("c/ring-small", "d1,d2;10,20;12,24");
+    releases.target.add("c/ring-large", "d1,d2;14,28;16,32");
+    releases.target.add("c/new", "t;1");
+
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(builder.messages(), QStringList());
+    QCOMPARE(told(builder.release()),
+             QStringList({"old/a/gone.prj:", "old/a/nut.prj: new/z/hexnut.prj",
+                          "old/b/bolt.prj: new/b/bolt.prj", "old/c/empty.prj:",
+                          "old/c/ring.prj: new/c/ring-large.prj new/c/ring-small.prj"}));
+    QCOMPARE(builder.counts().same, 1);
+    QCOMPARE(builder.counts().moved, 1);
+    QCOMPARE(builder.counts().several, 1);
+    QCOMPARE(builder.counts().gone, 2);
+    QCOMPARE(builder.counts().unreadable, 0);
+}
+
+void tst_ReleaseMappingBuilder::recordsVersionsAndDates()
+{
+    Releases releases;
+    releases.source.add("a/bolt", Bolts, {}, "2021-03-01T08:00:00Z", "2021-02-01T07:00:00Z");
+    releases.source.add("a/nut", Nuts, {}, "2020-01-01T00:00:00Z");
+    releases.target.add("a/bolt", Bolts, {}, "2024-06-30T23:59:58Z", "2024-06-01T01:02:03Z");
+
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    const ReleaseMappingC &release = builder.release();
+    QCOMPARE(release.getSourceDate(), "2021-03-01T08:00:00Z");
+    QCOMPARE(release.getTargetDate(), "2024-06-30T23:59:58Z");
+    const PrjMappingC bolt =
+        release.findMapping("old/a/bolt.prj", "v210301080000", "v210201070000");
+    QVERIFY(bolt.isValid());
+    QCOMPARE(bolt.findTarget(0).getTargetVersion(), "v240630235958");
+    QCOMPARE(bolt.findTarget(0).getTabVersion(), "v240601010203");
+    QVERIFY(release.findMapping("old/a/nut.prj", "v200101000000", "").isValid());
+}
+
+void tst_ReleaseMappingBuilder::givenDatesWin()
+{
+    Releases releases;
+    releases.source.add("a/bolt", Bolts, {}, "2021-03-01T08:00:00Z");
+    releases.target.add("a/bolt", Bolts, {}, {});
+    ReleaseMappingBuilder::Input input = releases.input();
+    input.sourceDate = "2000-01-01T00:00:00Z";
+    input.targetDate = "2001-01-01T00:00:00Z";
+    ReleaseMappingBuilder builder(input);
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(builder.release().getSourceDate(), "2000-01-01T00:00:00Z");
+    QCOMPARE(builder.release().getTargetDate(), "2001-01-01T00:00:00Z");
+}
+
+void tst_ReleaseMappingBuilder::datesCompareInUtc()
+{
+    Releases releases;
+    releases.source.add("a/bolt", Bolts, {}, "2021-03-01T23:30:00-02:00");
+    releases.source.add("a/nut", Nuts, {}, "2021-03-02T01:00:00");
+    releases.target.add("a/bolt", Bolts);
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(builder.release().getSourceDate(), "2021-03-02T01:30:00Z");
+}
+
+void tst_ReleaseMappingBuilder::targetsAreValidAndWithoutLines()
+{
+    Releases releases;
+    releases.source.add("a/bolt", Bolts);
+    releases.target.add("a/bolt", Bolts);
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    const PrjMappingC mapping = builder.release().mappingAt(0);
+    QCOMPARE(mapping.countTargets(), 1);
+    QVERIFY(mapping.findTarget(0).isValid());
+    QCOMPARE(mapping.findTarget(0).countLines(), 0);
+    QCOMPARE(mapping.getMappingState(), PRJMAPPING::MappingState(PRJMAPPING::StateIncomplete));
+}
+
+void tst_ReleaseMappingBuilder::brokenSourceTable()
+{
+    Releases releases;
+    releases.source.add("a/bolt", "size,s;\"M3,5");
+    releases.source.add("a/nut", Nuts);
+    releases.target.add("a/bolt", Bolts);
+    releases.target.add("a/nut", Nuts);
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Incomplete);
+    QCOMPARE(builder.messages().size(), 1);
+    QVERIFY(builder.messages().first().contains("bolt.csv"));
+    QCOMPARE(told(builder.release()),
+             QStringList({"old/a/bolt.prj: new/a/bolt.prj", "old/a/nut.prj: new/a/nut.prj"}));
+    const auto state = [&builder](int i) {
+        return builder.release().mappingAt(i).getMappingState();
+    };
+    QVERIFY(state(0).testFlag(PRJMAPPING::StateTableError));
+    QVERIFY(!state(1).testFlag(PRJMAPPING::StateTableError));
+    QCOMPARE(builder.release().mappingAt(0).getSourceVersion(), "v220501100000");
+    QCOMPARE(builder.counts().unreadable, 1);
+    QCOMPARE(builder.counts().same, 1);
+}
+
+void tst_ReleaseMappingBuilder::brokenTargetTable()
+{
+    Releases releases;
+    releases.source.add("a/bolt", Bolts);
+    releases.target.add("a/bolt", "size,s;\"M3,5");
+    releases.target.add("b/copy", Bolts);
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Incomplete);
+    QCOMPARE(builder.messages().size(), 1);
+    QCOMPARE(told(builder.release()), QStringList("old/a/bolt.prj: new/a/bolt.prj new/b/copy.prj"));
+    QVERIFY(!builder.release().getMappingState().testFlag(PRJMAPPING::StateTableError));
+}
+
+void tst_ReleaseMappingBuilder::missingTableFile()
+{
+    Releases releases;
+    releases.source.add("a/bolt", Bolts);
+    QVERIFY(QFile::remove(releases.directory.filePath("r1/old/a/bolt.json")));
+    releases.target.add("a/bolt", Bolts);
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Incomplete);
+    QVERIFY(builder.messages().first().contains("bolt.json"));
+    QVERIFY(builder.release().getMappingState().testFlag(PRJMAPPING::StateTableError));
+}
+
+void tst_ReleaseMappingBuilder::projectWithoutTable()
+{
+    Releases releases;
+    releases.source.addWithoutTable("a/bolt");
+    releases.target.addWithoutTable("b/bolt");
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(told(builder.release()), QStringList("old/a/bolt.prj: new/b/bolt.prj"));
+    QCOMPARE(builder.release().mappingAt(0).getTabVersion(), QString());
+}
+
+void tst_ReleaseMappingBuilder::missingCatalog_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("old") << "nothing"
+                         << "new"
+                         << "/r1/nothing: there is no such catalog";
+    QTest::newRow("new") << "old"
+                         << "nothing"
+                         << "/r2/nothing: there is no such catalog";
+}
+
+void tst_ReleaseMappingBuilder::missingCatalog()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, target);
+    QFETCH(QString, message);
+    Releases releases;
+    releases.source.add("a/bolt", Bolts);
+    releases.target.add("a/bolt", Bolts);
+    ReleaseMappingBuilder::Input input = releases.input();
+    input.sourceCatalog = source;
+    input.targetCatalog = target;
+    ReleaseMappingBuilder builder(input);
+    QCOMPARE(builder.build(), Outcome::Unreadable);
+    QCOMPARE(builder.messages(), QStringList(releases.directory.path() + message));
+    QCOMPARE(builder.release().countMappings(), 0);
+}
+
+void tst_ReleaseMappingBuilder::noDate()
+{
+    Releases releases;
+    releases.source.add("a/bolt", Bolts, {}, {});
+    releases.target.add("a/bolt", Bolts, {}, "yesterday");
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Unreadable);
+    QCOMPARE(builder.messages(),
+             QStringList({releases.directory.filePath("r1/old") + ": no project has a date",
+                          releases.directory.filePath("r2/new") + ": no project has a date"}));
+}
+
+void tst_ReleaseMappingBuilder::emptyCatalog()
+{
+    Releases releases;
+    releases.target.add("a/bolt", Bolts);
+    ReleaseMappingBuilder::Input input = releases.input();
+    input.sourceDate = "2000-01-01T00:00:00Z";
+    ReleaseMappingBuilder builder(input);
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(builder.release().countMappings(), 0);
+}
+
+void tst_ReleaseMappingBuilder::cancelled()
+{
+    Releases releases;
+    releases.source.add("a/bolt", Bolts);
+    releases.target.add("a/bolt", Bolts);
+    PProgress outer(0, 1, 1.0, true);
+    outer.requestCancel();
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Cancelled);
+    QCOMPARE(builder.release().countMappings(), 0);
+}
+
+void tst_ReleaseMappingBuilder::buildsTwice()
+{
+    Releases releases;
+    releases.source.add("a/bolt", "size,s;\"M3,5");
+    releases.target.add("a/bolt", Bolts);
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Incomplete);
+    releases.source.add("a/bolt", Bolts);
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(builder.messages(), QStringList());
+    QCOMPARE(builder.release().countMappings(), 1);
+    QCOMPARE(builder.counts().unreadable, 0);
+}
+
+QTEST_GUILESS_MAIN(tst_ReleaseMappingBuilder)
+#include "tst_ReleaseMappingBuilder.moc"
