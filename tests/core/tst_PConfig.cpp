@@ -3,6 +3,7 @@
 #include <core/message/PMessage.h>
 #include <core/message/PScriptedMessageSink.h>
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -68,6 +69,31 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QTEST(PConfigVal(text).GetInt(7), "expected");
+    }
+    void otherLocales_data()
+    {
+        QTest::addColumn<QString>("zone");
+        QTest::addColumn<QString>("locale");
+        QTest::newRow("German") << "Europe/Berlin"
+                                << "de_DE.UTF-8";
+        QTest::newRow("Arabic digits") << "Asia/Kathmandu"
+                                       << "ar_EG.UTF-8";
+        QTest::newRow("plain") << "America/St_Johns"
+                               << "C";
+    }
+    /// Runs the tests of numbers again in such an environment.
+    void otherLocales()
+    {
+        QFETCH(QString, zone);
+        QFETCH(QString, locale);
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("TZ", zone);
+        env.insert("LC_ALL", locale);
+        process.setProcessEnvironment(env);
+        process.start(QCoreApplication::applicationFilePath(), {"intOf", "boolOf"});
+        QVERIFY(process.waitForFinished());
+        QVERIFY2(process.exitCode() == 0, process.readAllStandardOutput().constData());
     }
     void setValueOfAValue()
     {

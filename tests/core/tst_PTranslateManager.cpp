@@ -56,7 +56,8 @@ QByteArray size()
 /// Registers before there is an application, which comes and goes twice.
 int runWithoutApplication(const char *resourceFile)
 {
-    QResource::registerResource(QString::fromUtf8(resourceFile));
+    const QString path = QString::fromUtf8(resourceFile);
+    QResource::registerResource(path);
     PTranslateManager::registerModule("Sample");
     std::cout << size().constData();
     for (int i = 0; i < 2; ++i) {
@@ -67,6 +68,7 @@ int runWithoutApplication(const char *resourceFile)
         std::cout << ' ' << size().constData();
     }
     std::cout << ' ' << size().constData() << '\n';
+    QResource::unregisterResource(path);
     return 0;
 }
 
@@ -84,6 +86,7 @@ private Q_SLOTS:
         QVERIFY(QResource::registerResource(m_resource));
         PTranslateManager::instance().setLanguage("");
     }
+    void cleanupTestCase() { QVERIFY(QResource::unregisterResource(m_resource)); }
     void cleanup()
     {
         PTranslateManager::instance().setLanguage("");

@@ -71,6 +71,31 @@ private Q_SLOTS:
         QCOMPARE(entries[0].line, 12);
         QCOMPARE(entries[0].message, QString("Größe"));
     }
+    void otherLocales_data()
+    {
+        QTest::addColumn<QString>("zone");
+        QTest::addColumn<QString>("locale");
+        QTest::newRow("German") << "Europe/Berlin"
+                                << "de_DE.UTF-8";
+        QTest::newRow("Arabic digits") << "Asia/Kathmandu"
+                                       << "ar_EG.UTF-8";
+        QTest::newRow("plain") << "America/St_Johns"
+                               << "C";
+    }
+    /// Runs the test of what is written again in such an environment.
+    void otherLocales()
+    {
+        QFETCH(QString, zone);
+        QFETCH(QString, locale);
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("TZ", zone);
+        env.insert("LC_ALL", locale);
+        process.setProcessEnvironment(env);
+        process.start(QCoreApplication::applicationFilePath(), {"configured"});
+        QVERIFY(process.waitForFinished());
+        QVERIFY2(process.exitCode() == 0, process.readAllStandardOutput().constData());
+    }
     void threadsLogOneAtATime()
     {
         int lines = 0;

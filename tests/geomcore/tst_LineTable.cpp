@@ -292,6 +292,8 @@ private Q_SLOTS:
         QTest::newRow("no line, mapped") << -1 << 1 << QList<int>{1, 1, 0, 0, 1, 0, 0};
         QTest::newRow("expired") << -1 << 2 << QList<int>{1, 0, 0, 1, 0, 0, 0};
         QTest::newRow("no line, state 7") << -1 << 7 << QList<int>{1, 0, 0, 0, 1, 0, 0};
+        QTest::newRow("largest state")
+            << 5 << std::numeric_limits<int>::max() << QList<int>{0, 0, 0, 0, 0, 0, 1};
         QTest::newRow("line -2 is a line") << -2 << 0 << QList<int>{0, 0, 1, 0, 0, 0, 1};
     }
     void counts()

@@ -218,14 +218,17 @@ private Q_SLOTS:
     {
         int depth = 0;
         int deepest = 0;
-        QTimer timer;
-        timer.callOnTimeout([&] {
+        const auto work = [&] {
             deepest = std::max(deepest, ++depth);
             PProgress inner(0, 3);
             inner.nextStep();
             --depth;
-        });
-        timer.start(0);
+        };
+        QTimer timers[3];
+        for (QTimer &timer : timers) {
+            timer.callOnTimeout(work);
+            timer.start(0);
+        }
         DefaultObserverDelegate delegate;
         delegate.activate(1);
         PProgress progress(0, 10);

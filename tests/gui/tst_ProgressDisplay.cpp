@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
@@ -103,6 +104,31 @@ private Q_SLOTS:
         QTEST(withPlainBlanks(progressDetails(info)), "expected");
     }
 
+    void otherLocales_data()
+    {
+        QTest::addColumn<QString>("zone");
+        QTest::addColumn<QString>("locale");
+        QTest::newRow("German") << "Europe/Berlin"
+                                << "de_DE.UTF-8";
+        QTest::newRow("Arabic digits") << "Asia/Kathmandu"
+                                       << "ar_EG.UTF-8";
+        QTest::newRow("plain") << "America/St_Johns"
+                               << "C";
+    }
+    /// Runs the tests of texts again in such an environment.
+    void otherLocales()
+    {
+        QFETCH(QString, zone);
+        QFETCH(QString, locale);
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("TZ", zone);
+        env.insert("LC_ALL", locale);
+        process.setProcessEnvironment(env);
+        process.start(QCoreApplication::applicationFilePath(), {"time", "details"});
+        QVERIFY(process.waitForFinished());
+        QVERIFY2(process.exitCode() == 0, process.readAllStandardOutput().constData());
+    }
     void showsARowForEachProgress()
     {
         ProgressDisplay display;
@@ -170,7 +196,8 @@ private Q_SLOTS:
         DefaultObserverDelegate::setTimes(0, 0);
         PProgress::setInterval(std::chrono::milliseconds(0));
         QDialog dialog;
-        dialog.open();
+        dialog.setWindowModality(Qt::ApplicationModal);
+        dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         QTimer clicker;
         clicker.callOnTimeout([] {

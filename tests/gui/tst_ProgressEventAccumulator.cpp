@@ -195,12 +195,12 @@ private Q_SLOTS:
         const auto display = std::make_shared<RecordingDisplay>();
         DefaultObserverDelegate::setDisplay(display);
         DefaultObserverDelegate::setTimes(0, 0);
+        std::atomic<bool> seen = false;
         {
             DefaultObserverDelegate delegate;
             delegate.activate(1);
             ProgressEventAccumulator accumulator(0, -1);
             QThreadPool pool;
-            std::atomic<bool> seen = false;
             display->onShow = [&seen](const QList<PProgressInfo> &) {
                 seen = true;
             };

@@ -27,7 +27,7 @@ public:
 
         [[nodiscard]] PRJMAPPING::CheckState state() const
         {
-            return PRJMAPPING::CheckState(qint32(packed) >> 1);
+            return PRJMAPPING::CheckState(packed >> 1U);
         }
         [[nodiscard]] bool conflict() const { return (packed & 1U) != 0; }
     };

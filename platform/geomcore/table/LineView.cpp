@@ -43,9 +43,11 @@ LineView::LineView(const Content &content, const LineId &id)
     if (!content.d)
         return;
     const auto structure = content.d->structure();
+    m_row = structure->lineInfo(id).getRow();
+    if (m_row < 0)
+        return;
     m_table = structure->table().get();
     m_modify = structure->modify().get();
-    m_row = structure->lineInfo(id).getRow();
 }
 
 LineId LineView::lineId() const

@@ -1,0 +1,137 @@
+#include "RecordSamples.h"
+
+#include <geomcore/records/MappingFile.h>
+
+#include <QFile>
+#include <QTest>
+
+#include <rapidjson/document.h>
+#include <rapidjson/schema.h>
+
+namespace {
+
+QByteArray fileBytes(const QString &name)
+{
+    QFile file(QStringLiteral(VELK_SOURCE_DIR "/docs/") + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray releaseWith(const QByteArray &lines, const QByteArray &modifiers = {})
+{
+    return R"({"2022":{"sourceDate":"2022","targetDate":"","mappings":[{"sourcePath":"a",)"
+           R"("sourceVersion":"","tabVersion":"","state":0,"targets":[{"path":"","version":"",)"
+           R"("tabVersion":"","valid":true,"conditions":[],"modifiers":[)" +
+           modifiers + R"(],"lines":[)" + lines + "]}]}]}}";
+}
+
+} // namespace
+
+/// The published schema says the same as the reader.
+class tst_MappingSchema : public QObject
+{
+    Q_OBJECT
+
+private:
+    bool fits(const QByteArray &json) const
+    {
+        rapidjson::Document document;
+        document.Parse(json.constData());
+        rapidjson::SchemaValidator validator(*m_schema);
+        return !document.HasParseError() && document.Accept(validator);
+    }
+
+    std::unique_ptr<rapidjson::SchemaDocument> m_schema;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        rapidjson::Document document;
+        document.Parse(fileBytes("schema/mapping.schema.json").constData());
+        QVERIFY(!document.HasParseError());
+        m_schema = std::make_unique<rapidjson::SchemaDocument>(document);
+    }
+
+    void whatIsWrittenFits()
+    {
+        for (quint32 seed = 0; seed < 30; ++seed) {
+            QRandomGenerator random(seed);
+            MappingFile file;
+            file.setRelease(RecordSamples::randomRelease(random, "2020"));
+            file.setRelease(RecordSamples::randomRelease(random, "2022"));
+            QVERIFY(fits(file.toByteArray()));
+        }
+        QVERIFY(fits(MappingFile().toByteArray()));
+    }
+
+    void exampleOfTheDocumentation()
+    {
+        const QByteArray text = fileBytes("formats.md");
+        const qsizetype section = text.indexOf("## Mapping file");
+        const qsizetype begin = text.indexOf("```json\n", section) + 8;
+        const QByteArray example = text.mid(begin, text.indexOf("```", begin) - begin);
+        QVERIFY(fits(example));
+        MappingFile file;
+        QString error;
+        QVERIFY2(file.parse(example, QString(), &error), qPrintable(error));
+        QCOMPARE(file.toByteArray(), example);
+        // The flags are what these lines give.
+        PrjMappingC mapping = file.releases().first().mappingAt(0);
+        const PRJMAPPING::MappingState stored = mapping.getMappingState();
+        mapping.updateMappingState();
+        QCOMPARE(mapping.getMappingState(), stored);
+    }
+
+    void schemaAndReaderAgree_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<bool>("good");
+        const auto line = [](const char *name, const char *row, bool good) {
+            QTest::newRow(name) << releaseWith(row) << good;
+        };
+        line("plain row", "[1,2,0]", true);
+        line("state 3", "[1,2,3]", true);
+        line("extended", "[1,2,0,\"x\"]", true);
+        line("conflict", "[1,2,0,\"\",true]", true);
+        line("row of two", "[1,2]", false);
+        line("row of six", "[1,2,0,\"\",true,0]", false);
+        line("conflict false", "[1,2,0,\"\",false]", false);
+        line("negative state", "[1,2,-1]", false);
+        line("fraction", "[1,2.5,0]", false);
+        line("beyond an int", "[1,2147483648,0]", false);
+        line("text as a line", "[\"1\",2,0]", false);
+        line("object as a row", "{}", false);
+        const auto modifier = [](const char *name, const char *text, bool good) {
+            QTest::newRow(name) << releaseWith("", text) << good;
+        };
+        modifier("variable", R"({"kind":"var","source":"","target":"B"})", true);
+        modifier("formula", R"({"kind":"value","formula":"A = 1"})", true);
+        modifier("variable without target", R"({"kind":"var","source":"A"})", false);
+        modifier("unknown kind", R"({"kind":"x","source":"A","target":"B"})", false);
+        modifier("without kind", R"({"source":"A","target":"B"})", false);
+        QTest::newRow("no release") << QByteArray("{}") << true;
+        QTest::newRow("array") << QByteArray("[]") << false;
+        QTest::newRow("heads only")
+            << QByteArray(R"({"2022":{"sourceDate":"2022","targetDate":""}})") << true;
+        QTest::newRow("without target date")
+            << QByteArray(R"({"2022":{"sourceDate":"2022"}})") << false;
+        for (const char *member :
+             {"sourcePath", "sourceVersion", "tabVersion", "state", "targets", "path", "version",
+              "valid", "conditions", "modifiers", "lines"}) {
+            QByteArray json = releaseWith("");
+            const QByteArray name = '"' + QByteArray(member) + "\":";
+            QTest::addRow("without %s", member) << json.replace(name, "\"other\":") << false;
+        }
+        QTest::newRow("empty source path")
+            << releaseWith("").replace("\"sourcePath\":\"a\"", "\"sourcePath\":\"\"") << false;
+    }
+    void schemaAndReaderAgree()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(bool, good);
+        QCOMPARE(fits(json), good);
+        QCOMPARE(MappingFile().parse(json), good);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_MappingSchema)
+#include "tst_MappingSchema.moc"
