@@ -2,7 +2,7 @@
 # precompiled headers, compiler cache, fast linker, sanitizers, test labels.
 
 option(VELK_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
-option(VELK_PCH "Use one precompiled header per library" ON)
+option(VELK_PCH "Use one precompiled header per library" OFF)
 set(VELK_SANITIZE "" CACHE STRING "Comma separated list of sanitizers")
 
 set(CMAKE_CXX_STANDARD 20)

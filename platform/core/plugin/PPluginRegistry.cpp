@@ -1,5 +1,7 @@
 #include "PPluginRegistry.h"
 
+#include <QMetaMethod>
+
 PPluginRegistry &PPluginRegistry::instance()
 {
     // Made by the first library that registers, and never destroyed, as libraries may go late.
