@@ -1,0 +1,679 @@
+#include <geomcore/project/PrjFile.h>
+#include <geomcore/table/TableData.h>
+#include <tools/velkmap/ImportCommand.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextStream>
+
+using namespace VKTab;
+using velkmap::ExitStatus;
+
+namespace {
+
+void writeFile(const QString &name, const QByteArray &bytes)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(name).path()));
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+QByteArray readFile(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class tst_Import : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void makesACatalog();
+    void recognises_data();
+    void recognises();
+    void recognisesKeys_data();
+    void recognisesKeys();
+    void copiesCellsUnaltered();
+    void oddHeaders_data();
+    void oddHeaders();
+    void keepsIdsByKey();
+    void keepsIdsWithoutKey();
+    void neverGivesAnIdAgain();
+    void keepsIdsOfRepeatedKeys();
+    void keepsCorrectedDescriptor();
+    void keepsCorrectedProject();
+    void ownIdColumnOfTheInput();
+    void nameOfIdColumnTaken();
+    void unchangedTablesStay();
+    void keyOption();
+    void dates_data();
+    void dates();
+    void badTables_data();
+    void badTables();
+    void goodTablesBesideBadOnes();
+    void brokenFormerTable();
+    void notesContradictions();
+    void leftOvers();
+    void wrongUsage_data();
+    void wrongUsage();
+    void help();
+    void nothingToImport();
+    void unwritable();
+    void randomReimports();
+
+private:
+    ExitStatus import(const QStringList &more = {"--date", "2026-01-31T12:00:00Z"});
+    QString from(const QString &name) const { return m_dir->filePath("csv/" + name); }
+    QString into(const QString &name) const { return m_dir->filePath("root/cat/" + name); }
+    std::shared_ptr<const TableData> table(const QString &name) const
+    {
+        return TableData::read(into(name + ".json")).data;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    QString m_out;
+    QString m_err;
+};
+
+void tst_Import::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir(m_dir->path()).mkpath("csv"));
+}
+
+void tst_Import::cleanup()
+{
+    m_dir.reset();
+}
+
+ExitStatus tst_Import::import(const QStringList &more)
+{
+    m_out.clear();
+    m_err.clear();
+    QTextStream out(&m_out);
+    QTextStream err(&m_err);
+    const QStringList arguments{"--from", m_dir->filePath("csv"), "--into",
+                                m_dir->filePath("root/cat")};
+    return velkmap::runImport(arguments + more, out, err);
+}
+
+void tst_Import::makesACatalog()
+{
+    writeFile(from("nuts/M8.2/ISO4032.csv"), "Dia,P,L\nM8,1.25,10;12;16\nM10,1.5,\n");
+    writeFile(from("a.CSV"), "x\n1\n");
+    writeFile(from("readme.txt"), "no table");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(m_err, QString());
+    QCOMPARE(m_out, QStringLiteral("a: 1 line, key x, new\n"
+                                   "  x integer\n"
+                                   "nuts/M8.2/ISO4032: 2 lines, key Dia, new\n"
+                                   "  Dia string, P number, L range of integers\n"
+                                   "2 tables with 3 lines: 2 new, 0 changed, 0 unchanged\n"));
+    PrjFile project;
+    QCOMPARE(project.Load(into("nuts/M8.2/ISO4032.prj"), false), 1);
+    QCOMPARE(project.GetLexemValue("NAME"), QStringLiteral("ISO4032"));
+    QCOMPARE(project.GetLexemValue("DATE"), QStringLiteral("2026-01-31T12:00:00Z"));
+    QCOMPARE(project.GetLexemValue("SACHM"), QStringLiteral("ISO4032.json"));
+    const auto read = table("nuts/M8.2/ISO4032");
+    QVERIFY(read);
+    QCOMPARE(read->descriptor().name, QStringLiteral("ISO4032"));
+    QCOMPARE(read->descriptor().normNumber, QStringLiteral("ISO4032"));
+    QCOMPARE(read->descriptor().lineDesignation, QStringLiteral("Dia"));
+    QCOMPARE(read->descriptor().finalDate, QStringLiteral("2026-01-31T12:00:00Z"));
+    QCOMPARE(read->descriptor().primaryKey, QStringList{"Dia"});
+    QCOMPARE(read->descriptor().missingValues, (QStringList{"", "None"}));
+    QCOMPARE(read->descriptor().lineIdField, QStringLiteral("LineId"));
+    QVERIFY(read->descriptor().fields.last().hidden);
+    QCOMPARE(read->descriptor().fields.last().kind, FieldKind::Internal);
+    QCOMPARE(readFile(into("nuts/M8.2/ISO4032.csv")),
+             QByteArray("Dia,P,L,LineId\nM8,1.25,10;12;16,1\nM10,1.5,,2\n"));
+    QVERIFY(QFile::exists(into("a.csv")));
+    QVERIFY(!QFile::exists(into("readme.txt")));
+    QCOMPARE(QDir(into("nuts/M8.2")).entryList(QDir::Files).size(), 3);
+}
+
+void tst_Import::recognises_data()
+{
+    QTest::addColumn<QByteArray>("cells");
+    QTest::addColumn<QString>("described");
+
+    QTest::newRow("integers") << QByteArray("1\n-20\n+3\n0\n") << "integer";
+    QTest::newRow("numbers") << QByteArray("1\n2.5\n.5\n") << "number";
+    QTest::newRow("exponents") << QByteArray("1e3\n2\n") << "number";
+    QTest::newRow("trailing zero") << QByteArray("9.0\n9\n") << "number";
+    QTest::newRow("long fractions") << QByteArray("12.8316097327394\n1\n") << "number";
+    QTest::newRow("decimal comma") << QByteArray("\"18,95\"\n20\n") << "number with decimal comma";
+    QTest::newRow("comma and point")
+        << QByteArray("15.1\n\"18,95\"\n") << "number with decimal comma";
+    QTest::newRow("missing values") << QByteArray("1\n\nNone\n2\n") << "integer";
+    QTest::newRow("nothing but missing values") << QByteArray("None\n\n") << "string";
+    QTest::newRow("no lines") << QByteArray("") << "string";
+    QTest::newRow("one text") << QByteArray("1\nM8\n") << "string";
+    QTest::newRow("sizes") << QByteArray("1 1/4in\n#10\n(M14)\nST4.2\n6 mm\nG1/4\n") << "string";
+    QTest::newRow("leading zeros are codes") << QByteArray("007\n12\n") << "string";
+    QTest::newRow("zero alone") << QByteArray("0\n0.5\n") << "number";
+    QTest::newRow("list") << QByteArray("10;12;16\n10\n") << "range of integers";
+    QTest::newRow("list with fractions") << QByteArray("5\n5;5.5\n7\n") << "range of numbers";
+    QTest::newRow("steps") << QByteArray("10..50/5\n") << "range of integers";
+    QTest::newRow("list with comma")
+        << QByteArray("\"1,5;2,5\"\n") << "range of numbers with decimal comma";
+    QTest::newRow("texts in lists") << QByteArray("M8;M10\nM12\n") << "range of strings";
+    QTest::newRow("mostly single texts") << QByteArray("M8;M10\nM12\nM14\n") << "string";
+    QTest::newRow("sentences") << QByteArray("see below; or not\nwell; then\n") << "string";
+    QTest::newRow("one wrong range in ten")
+        << QByteArray("1;2\n2;3\n3;4\n4;5\n5;6\n6;7\n7;8\n8;9\n9;10\n10..50\n")
+        << "range of integers";
+    QTest::newRow("too many wrong ranges") << QByteArray("1;2\n2;3\n10..50\n") << "string";
+}
+
+void tst_Import::recognises()
+{
+    QFETCH(QByteArray, cells);
+    QFETCH(QString, described);
+    QByteArray csv("key,cell\n");
+    int row = 0;
+    for (QByteArray cell : cells.split('\n').mid(0, cells.count('\n')))
+        csv += 'k' + QByteArray::number(++row) + ',' + cell + '\n';
+    writeFile(from("t.csv"), csv);
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(m_out.section(u'\n', 1, 1).section(", cell ", 1), described);
+    const auto read = table("t");
+    QVERIFY(read);
+    QCOMPARE(read->descriptor().fields.at(1).decimalChar, described.contains("comma") ? ',' : '.');
+    QCOMPARE(read->descriptor().fields.at(1).isRange(), described.startsWith("range"));
+    QCOMPARE(m_out.contains("has no step"),
+             described.startsWith("range") && cells.contains("10..50\n"));
+}
+
+void tst_Import::recognisesKeys_data()
+{
+    QTest::addColumn<QByteArray>("csv");
+    QTest::addColumn<QStringList>("key");
+    QTest::addColumn<QString>("note");
+
+    const QByteArray repeated("a,b\n1,x\n2,x\n3,x\n4,x\n5,x\n6,x\n7,x\n8,x\n9,x\n9,x\n");
+    QTest::newRow("first column") << QByteArray("a,b\n1,x\n2,y\n") << QStringList{"a"} << "";
+    QTest::newRow("first column, nearly unique")
+        << repeated << QStringList{"a"}
+        << "  note: the key \"a\" is missing or repeated in 1 of 10 lines\n";
+    QTest::newRow("later text column") << QByteArray("a,b\n1,x\n1,y\n") << QStringList{"b"} << "";
+    QTest::newRow("measures are no keys")
+        << QByteArray("a,b\n1,1.5\n1,2.5\n") << QStringList{}
+        << "  note: no key column was found; a line's id is its row\n";
+    QTest::newRow("ranges are no keys")
+        << QByteArray("a,b\n1,1;2\n1,3;4\n") << QStringList{}
+        << "  note: no key column was found; a line's id is its row\n";
+    QTest::newRow("missing cell") << QByteArray("a,b\n1,x\n2,\n2,y\n") << QStringList{}
+                                  << "  note: no key column was found; a line's id is its row\n";
+    QTest::newRow("no lines") << QByteArray("a,b\n") << QStringList{"a"} << "";
+}
+
+void tst_Import::recognisesKeys()
+{
+    QFETCH(QByteArray, csv);
+    QFETCH(QStringList, key);
+    QFETCH(QString, note);
+    writeFile(from("t.csv"), csv);
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(table("t")->descriptor().primaryKey, key);
+    QCOMPARE(table("t")->descriptor().lineIdField.isEmpty(), key.isEmpty());
+    if (note.isEmpty())
+        QVERIFY(!m_out.contains("note"));
+    else
+        QVERIFY2(m_out.contains(note), qPrintable(m_out));
+}
+
+void tst_Import::copiesCellsUnaltered()
+{
+    writeFile(from("t.csv"), "\xEF\xBB\xBF"
+                             "a,\"b, c\"\r\n\"1\"\"\", 9.0 \r\n\"x\r\ny\",\"None\"");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(readFile(into("t.csv")), QByteArray("a,\"b, c\",LineId\r\n\"1\"\"\", 9.0 ,1\r\n"
+                                                 "\"x\r\ny\",\"None\",2\r\n"));
+    writeFile(from("u.csv"), "a,b\n1,1.5\n1,2.5\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(readFile(into("u.csv")), readFile(from("u.csv")));
+}
+
+void tst_Import::oddHeaders_data()
+{
+    QTest::addColumn<QByteArray>("header");
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QString>("note");
+
+    QTest::newRow("differ in case alone")
+        << QByteArray("Dia,dia,b") << QStringList{"Dia", "dia", "b"}
+        << "  note: \"Dia\", \"dia\" differ in case alone\n";
+    QTest::newRow("twice") << QByteArray("a,b,b") << QStringList{"a", "b", "b_2"}
+                           << "  note: column 3 is named \"b\" once more and is called \"b_2\"\n";
+    QTest::newRow("three times")
+        << QByteArray("a,a,a") << QStringList{"a", "a_2", "a_3"}
+        << "  note: column 3 is named \"a\" once more and is called \"a_3\"\n";
+    QTest::newRow("suffix taken")
+        << QByteArray("a,a,a_2") << QStringList{"a", "a_3", "a_2"}
+        << "  note: column 2 is named \"a\" once more and is called \"a_3\"\n";
+    QTest::newRow("no name") << QByteArray("a,,b") << QStringList{"a", "Column2", "b"}
+                             << "  note: column 2 has no name and is called \"Column2\"\n";
+    QTest::newRow("no name, its name taken")
+        << QByteArray("Column2,,b") << QStringList{"Column2", "Column2_2", "b"}
+        << "  note: column 2 has no name and is called \"Column2_2\"\n";
+    QTest::newRow("blanks and numbers")
+        << QByteArray("20 series,5 mm,00") << QStringList{"20 series", "5 mm", "00"} << "";
+    QTest::newRow("quotes and commas")
+        << QByteArray("\"a,b\",\"c\"\"d\",\" e\"") << QStringList{"a,b", "c\"d", " e"} << "";
+}
+
+void tst_Import::oddHeaders()
+{
+    QFETCH(QByteArray, header);
+    QFETCH(QStringList, names);
+    QFETCH(QString, note);
+    writeFile(from("t.csv"), header + "\n1,2,3\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    const auto read = table("t");
+    QVERIFY(read);
+    QCOMPARE(read->header(), names + QStringList{"LineId"});
+    QCOMPARE(read->text(0, 1), QStringLiteral("2"));
+    QVERIFY2(note.isEmpty() ? !m_out.contains("note") : m_out.contains(note), qPrintable(m_out));
+    QCOMPARE(import({}), ExitStatus::Done);
+    QVERIFY(m_out.contains("0 new, 0 changed, 1 unchanged"));
+}
+
+void tst_Import::keepsIdsByKey()
+{
+    writeFile(from("t.csv"), "k,v\nM8,1\nM10,2\nM12,3\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(from("t.csv"), "k,v\nM9,7\nM12,3\n M8 ,1\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QVERIFY(m_out.contains("changed"));
+    QCOMPARE(readFile(into("t.csv")), QByteArray("k,v,LineId\nM9,7,4\nM12,3,3\n M8 ,1,1\n"));
+    writeFile(from("n.csv"), "k,v\n9.0,1\n10,2\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(from("n.csv"), "k,v\n10.00,2\n9,1\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(readFile(into("n.csv")), QByteArray("k,v,LineId\n10.00,2,2\n9,1,1\n"));
+}
+
+void tst_Import::keepsIdsWithoutKey()
+{
+    // The key column goes: lines are known again by all that is left.
+    writeFile(from("t.csv"), "k,v,w\nM8,1,1.5\nM10,1,2.5\nM12,1,3.5\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(from("t.csv"), "v,w\n1,3.5\n1,9.5\n1,1.5\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QVERIFY(m_out.contains("  note: the column \"k\" is gone\n"));
+    QCOMPARE(readFile(into("t.csv")), QByteArray("v,w,LineId\n1,3.5,3\n1,9.5,4\n1,1.5,1\n"));
+    QCOMPARE(table("t")->descriptor().primaryKey, QStringList());
+    // A table that never had one counts its rows.
+    writeFile(from("u.csv"), "v,w\n1,1.5\n1,2.5\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(from("u.csv"), "v,w\n1,9.5\n1,1.5\n1,2.5\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(readFile(into("u.csv")), readFile(from("u.csv")));
+}
+
+void tst_Import::neverGivesAnIdAgain()
+{
+    writeFile(from("t.csv"), "k\nM8\nM10\nM12\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(from("t.csv"), "k\nM8\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(table("t")->descriptor().nextLineId, 4);
+    writeFile(from("t.csv"), "k\nM8\nM20\nM12\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(readFile(into("t.csv")), QByteArray("k,LineId\nM8,1\nM20,4\nM12,5\n"));
+    QCOMPARE(table("t")->descriptor().nextLineId, 6);
+}
+
+void tst_Import::keepsIdsOfRepeatedKeys()
+{
+    QByteArray csv("k,v\n");
+    for (int i = 1; i <= 20; ++i)
+        csv += QByteArray::number(i) + ",x\n";
+    writeFile(from("t.csv"), csv + "6,first\n6,second\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(from("t.csv"), csv + "99,new\n6,first\n6,second\n6,third\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    const auto read = table("t");
+    QCOMPARE(read->lineNumber(5), 6);
+    QCOMPARE(read->lineNumber(20), 23);
+    QCOMPARE(read->lineNumber(21), 21);
+    QCOMPARE(read->lineNumber(22), 22);
+    QCOMPARE(read->lineNumber(23), 24);
+}
+
+void tst_Import::keepsCorrectedDescriptor()
+{
+    writeFile(from("t.csv"), "Dia,L,b\nM8,10;20,1\nM10,20,2\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    TableErrorList errors;
+    auto corrected = TableDescriptor::read(into("t.json"), errors);
+    QVERIFY(corrected);
+    corrected->title = QStringLiteral("Schraube");
+    corrected->lineDesignation = QStringLiteral("DIN 931 - {Dia} x {L}");
+    corrected->primaryKey = QStringList{"Dia", "b"};
+    corrected->fields[1].kind = FieldKind::Plain;
+    corrected->fields[1].type = FieldType::String;
+    corrected->fields[2].title = QStringLiteral("Breite");
+    corrected->fields.append(
+        TableField{.name = "V", .kind = FieldKind::Computed, .formula = "V = b * 2"});
+    corrected->unknown.append({QStringLiteral("licence"), QByteArray("\"free\"")});
+    writeFile(into("t.json"), corrected->toJson());
+    writeFile(from("t.csv"), "Dia,b,L,new\nM12,3,30;40,x\nM8,1,10;20,y\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QVERIFY(m_out.contains("  note: new column \"new\"\n"));
+    QVERIFY2(
+        m_out.contains("  note: the column \"L\" is string by the descriptor, but its cells look "
+                       "like range of integers\n"),
+        qPrintable(m_out));
+    const auto read = TableDescriptor::read(into("t.json"), errors);
+    QCOMPARE(read->title, QStringLiteral("Schraube"));
+    QCOMPARE(read->lineDesignation, QStringLiteral("DIN 931 - {Dia} x {L}"));
+    QCOMPARE(read->primaryKey, (QStringList{"Dia", "b"}));
+    QCOMPARE(read->fields.at(read->indexOf(u"L")).kind, FieldKind::Plain);
+    QCOMPARE(read->fields.at(read->indexOf(u"b")).title, QStringLiteral("Breite"));
+    QCOMPARE(read->fields.at(read->indexOf(u"V")).formula, QStringLiteral("V = b * 2"));
+    QCOMPARE(read->fields.at(read->indexOf(u"new")).type, FieldType::String);
+    QCOMPARE(read->unknown, corrected->unknown);
+    QCOMPARE(readFile(into("t.csv")),
+             QByteArray("Dia,b,L,new,LineId\nM12,3,30;40,x,3\nM8,1,10;20,y,1\n"));
+}
+
+void tst_Import::keepsCorrectedProject()
+{
+    writeFile(from("t.csv"), "a\n1\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(into("t.prj"), "; mine\n[PROJECT]\nNAME = My name\nSACHM = t.json\nVERSIONPRJ=v9\n");
+    QCOMPARE(import({"--date", "2027-01-01"}), ExitStatus::Done);
+    PrjFile project;
+    QCOMPARE(project.Load(into("t.prj"), false), 1);
+    QCOMPARE(project.GetLexemValue("NAME"), QStringLiteral("My name"));
+    QCOMPARE(project.GetLexemValue("VERSIONPRJ"), QStringLiteral("v9"));
+    QCOMPARE(project.GetLexemValue("DATE"), QStringLiteral("2027-01-01T00:00:00Z"));
+    QVERIFY(readFile(into("t.prj")).startsWith("; mine\n"));
+}
+
+void tst_Import::ownIdColumnOfTheInput()
+{
+    writeFile(from("t.csv"), "a,nr\nx,70\ny,80\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    TableErrorList errors;
+    auto corrected = TableDescriptor::read(into("t.json"), errors);
+    corrected->lineIdField = QStringLiteral("nr");
+    corrected->fields.removeLast();
+    writeFile(into("t.json"), corrected->toJson());
+    writeFile(into("t.csv"), readFile(from("t.csv")));
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(readFile(into("t.csv")), readFile(from("t.csv")));
+    QCOMPARE(table("t")->lineNumber(1), 80);
+    writeFile(from("t.csv"), "a,nr\nx,70\ny,70\n");
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QCOMPARE(m_err, from("t.csv") + ": row 3, column 2: the line id 70 is that of row 2 already\n");
+    QCOMPARE(table("t")->lineNumber(1), 80);
+}
+
+void tst_Import::nameOfIdColumnTaken()
+{
+    writeFile(from("t.csv"), "LineId,a\nx,1\ny,2\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(table("t")->descriptor().lineIdField, QStringLiteral("LineId_2"));
+    QCOMPARE(readFile(into("t.csv")), QByteArray("LineId,a,LineId_2\nx,1,1\ny,2,2\n"));
+}
+
+void tst_Import::unchangedTablesStay()
+{
+    writeFile(from("t.csv"), "a\n1\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    const QByteArray descriptor = readFile(into("t.json"));
+    const QDateTime time = QFileInfo(into("t.csv")).lastModified();
+    QCOMPARE(import({}), ExitStatus::Done);
+    QVERIFY(m_out.contains("t: 1 line, key a, unchanged\n"));
+    QCOMPARE(readFile(into("t.json")), descriptor);
+    QCOMPARE(QFileInfo(into("t.csv")).lastModified(), time);
+    QCOMPARE(import({"--date", "2030-01-01"}), ExitStatus::Done);
+    QVERIFY(readFile(into("t.json")) != descriptor);
+}
+
+void tst_Import::keyOption()
+{
+    writeFile(from("t.csv"), "a,b,c\n1,x,7\n2,y,8\n");
+    writeFile(from("u.csv"), "a\n1\n");
+    QCOMPARE(import({"--date", "2026-01-01", "--key", "b"}), ExitStatus::Done);
+    QCOMPARE(table("t")->descriptor().primaryKey, QStringList{"b"});
+    QCOMPARE(table("u")->descriptor().primaryKey, QStringList{"a"});
+    QVERIFY(
+        m_out.contains("u: 1 line, key a, new\n  a integer\n  note: there is no column \"b\"\n"));
+    // Of a later import it changes what the descriptor says, and lines keep their ids by it.
+    writeFile(from("t.csv"), "a,b,c\n2,y,8\n1,x,7\n");
+    QCOMPARE(import({"--key", "c"}), ExitStatus::Done);
+    QCOMPARE(table("t")->descriptor().primaryKey, QStringList{"c"});
+    QCOMPARE(table("t")->lineNumber(0), 2);
+}
+
+void tst_Import::dates_data()
+{
+    QTest::addColumn<QString>("date");
+    QTest::addColumn<QString>("stored");
+
+    QTest::newRow("UTC") << "2026-01-31T12:00:00Z"
+                         << "2026-01-31T12:00:00Z";
+    QTest::newRow("day alone") << "2026-01-31"
+                               << "2026-01-31T00:00:00Z";
+    QTest::newRow("no offset is UTC") << "2026-01-31T12:00:00"
+                                      << "2026-01-31T12:00:00Z";
+    QTest::newRow("offset") << "2026-01-31T12:00:00+02:00"
+                            << "2026-01-31T10:00:00Z";
+}
+
+void tst_Import::dates()
+{
+    QFETCH(QString, date);
+    QFETCH(QString, stored);
+    writeFile(from("t.csv"), "a\n1\n");
+    qputenv("TZ", "America/New_York");
+    const ExitStatus status = import({"--date", date});
+    qunsetenv("TZ");
+    QCOMPARE(status, ExitStatus::Done);
+    QCOMPARE(table("t")->descriptor().finalDate, stored);
+}
+
+void tst_Import::badTables_data()
+{
+    QTest::addColumn<QByteArray>("csv");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("empty") << QByteArray()
+                           << ": row 1: the file is empty; its first row must name the columns\n";
+    QTest::newRow("quote left open")
+        << QByteArray("a,b\n1,\"2\n") << ": row 2, column 2: a quote is left open\n";
+    QTest::newRow("too few cells")
+        << QByteArray("a,b\n1\n")
+        << ": row 2, column 2: 1 cell instead of 2, as the header row has\n";
+    QTest::newRow("too many cells") << QByteArray("a,b\n1,3,5\n")
+                                    << ": row 2, column 3: 3 cells instead of 2, as the header row "
+                                       "has\n";
+    QTest::newRow("no UTF-8")
+        << QByteArray("a,b\n1,\xE4\n")
+        << ": row 2, column 2: the bytes are no UTF-8; save the file as UTF-8\n";
+}
+
+void tst_Import::badTables()
+{
+    QFETCH(QByteArray, csv);
+    QFETCH(QString, message);
+    writeFile(from("t.csv"), csv);
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QCOMPARE(m_err, from("t.csv") + message);
+    QVERIFY(!QFile::exists(into("t.prj")));
+    QVERIFY(!QFile::exists(into("t.csv")));
+}
+
+void tst_Import::goodTablesBesideBadOnes()
+{
+    writeFile(from("a.csv"), "a\n1\n");
+    writeFile(from("b.csv"), "a,b\n1\n");
+    writeFile(from("c.csv"), "a\n\"\n");
+    writeFile(from("d.csv"), "a\n2\n");
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QCOMPARE(m_err.count(u'\n'), 2);
+    QVERIFY(m_err.contains(from("b.csv")) && m_err.contains(from("c.csv")));
+    QVERIFY(table("a") && table("d"));
+    QVERIFY(m_out.endsWith("2 tables with 2 lines: 2 new, 0 changed, 0 unchanged; 2 could not be "
+                           "imported\n"));
+}
+
+void tst_Import::brokenFormerTable()
+{
+    writeFile(from("t.csv"), "a\n1\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(into("t.json"), "{ \"fields\": 7 }");
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QCOMPARE(m_err,
+             into("t.json") + ": row 1, column 13: expected a list of fields\n" + into("t.json") +
+                 ": the table as it was imported before cannot be read, so its line ids cannot "
+                 "be kept; correct it, or remove it to start anew\n");
+    QCOMPARE(readFile(into("t.json")), QByteArray("{ \"fields\": 7 }"));
+    QVERIFY(QFile::remove(into("t.json")));
+    QCOMPARE(import(), ExitStatus::Done);
+}
+
+void tst_Import::notesContradictions()
+{
+    writeFile(from("t.csv"), "k,v,w\na,1,10\nb,2,20\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    writeFile(from("t.csv"), "k,v,w\na,M8,10;20\nb,2,20\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QVERIFY(m_out.contains("the column \"v\" is integer by the descriptor, but its cells look like "
+                           "string"));
+    QVERIFY(m_out.contains(
+        "the column \"w\" is integer by the descriptor, but its cells look like range "
+        "of integers"));
+    QCOMPARE(table("t")->descriptor().fields.at(1).type, FieldType::Integer);
+}
+
+void tst_Import::leftOvers()
+{
+    writeFile(from("x/t.csv"), "a\n1\n");
+    writeFile(from("u.csv"), "a\n1\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QVERIFY(QFile::remove(from("x/t.csv")));
+    QCOMPARE(import(), ExitStatus::Done);
+    QVERIFY(m_out.contains("note: x/t.prj has no CSV file any more and stays as it is\n"));
+    QVERIFY(table("x/t"));
+}
+
+void tst_Import::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+
+    const QString dir = QDir::tempPath();
+    QTest::newRow("nothing") << QStringList{} << "--from";
+    QTest::newRow("no target") << QStringList{"--from", dir} << "--into";
+    QTest::newRow("unknown option")
+        << QStringList{"--from", dir, "--into", "/x/y", "--fast"} << "fast";
+    QTest::newRow("no date") << QStringList{"--from", dir, "--into", "/x/y", "--date", "31.1.2026"}
+                             << "--date is no date; write it as 2026-01-31T12:00:00Z";
+    QTest::newRow("same directory")
+        << QStringList{"--from", dir, "--into", dir} << "--from and --into lie inside each other";
+    QTest::newRow("target inside") << QStringList{"--from", dir, "--into", dir + "/a/b"}
+                                   << "--from and --into lie inside each other";
+    QTest::newRow("input inside") << QStringList{"--from", dir + "/a/../b", "--into", dir}
+                                  << "--from and --into lie inside each other";
+}
+
+void tst_Import::wrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    QTextStream out(&m_out);
+    QTextStream err(&m_err);
+    m_err.clear();
+    QCOMPARE(velkmap::runImport(arguments, out, err), ExitStatus::WrongUsage);
+    QVERIFY2(m_err.contains(message), qPrintable(m_err));
+}
+
+void tst_Import::help()
+{
+    QCOMPARE(import({"--help"}), ExitStatus::Done);
+    for (const char *option : {"--from", "--into", "--date", "--key"})
+        QVERIFY(m_out.contains(option));
+    QVERIFY(!QFileInfo::exists(m_dir->filePath("root")));
+}
+
+void tst_Import::nothingToImport()
+{
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QCOMPARE(m_err, "velkmap import: there is no CSV file below " + m_dir->filePath("csv") + "\n");
+    QVERIFY(QDir(m_dir->filePath("csv")).removeRecursively());
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QCOMPARE(m_err, "velkmap import: " + m_dir->filePath("csv") + " is no readable directory\n");
+}
+
+void tst_Import::unwritable()
+{
+    writeFile(from("t.csv"), "a\n1\n");
+    writeFile(m_dir->filePath("root/cat"), "a file where the catalog is to be");
+    QCOMPARE(import(), ExitStatus::ResultUnwritable);
+    QVERIFY2(m_err.contains(m_dir->filePath("root/cat")), qPrintable(m_err));
+    QVERIFY(QFile::remove(m_dir->filePath("root/cat")));
+    QVERIFY(QDir().mkpath(into("t.json")));
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QVERIFY(QDir().rmdir(into("t.json")));
+    QVERIFY(QDir().mkpath(into("t.prj")));
+    QCOMPARE(import(), ExitStatus::ResultUnwritable);
+    QVERIFY(m_err.startsWith(into("t.prj") + ": cannot be written: "));
+    QVERIFY(!QFile::exists(into("t.csv")));
+    QVERIFY(!QFile::exists(into("t.json")));
+}
+
+void tst_Import::randomReimports()
+{
+    // Any sequence of insertions, removals and moves: a key keeps its id as long as it stays, and
+    // no id is given twice.
+    QRandomGenerator random(3);
+    QStringList keys;
+    QHash<QString, int> ids;
+    QSet<int> everGiven;
+    int serial = 0;
+    for (int round = 0; round < 25; ++round) {
+        for (int i = random.bounded(1, 5); i > 0; --i)
+            keys.insert(random.bounded(int(keys.size()) + 1), QStringLiteral("K%1").arg(++serial));
+        for (int i = random.bounded(3); i > 0 && keys.size() > 1; --i)
+            keys.removeAt(random.bounded(int(keys.size())));
+        keys.move(random.bounded(int(keys.size())), random.bounded(int(keys.size())));
+        QByteArray csv("key,v\n");
+        for (const QString &key : std::as_const(keys))
+            csv += key.toUtf8() + ',' + QByteArray::number(random.bounded(3)) + '\n';
+        writeFile(from("t.csv"), csv);
+        QCOMPARE(import(), ExitStatus::Done);
+        const auto read = table("t");
+        QVERIFY(read);
+        QCOMPARE(read->rowCount(), int(keys.size()));
+        QHash<QString, int> now;
+        for (int row = 0; row < read->rowCount(); ++row)
+            now.insert(read->text(row, 0), read->lineNumber(row));
+        for (const QString &key : std::as_const(keys)) {
+            if (ids.contains(key))
+                QCOMPARE(now.value(key), ids.value(key));
+            else
+                QVERIFY(!everGiven.contains(now.value(key)));
+            everGiven.insert(now.value(key));
+        }
+        ids = now;
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_Import)
+#include "tst_Import.moc"
