@@ -55,7 +55,7 @@ std::vector<BoundExpression::Slot> slotsOf(const Program *program, const TableDa
 
 int columnOfVariable(const TableData *table, QStringView name)
 {
-    const int column = table ? table->columnOf(name) : -1;
+    const int column = table && !name.isEmpty() ? table->descriptor().indexOf(name) : -1;
     if (column < 0)
         return -1;
     return table->descriptor().fields[column].kind <= FieldKind::Computed ? column : -1;

@@ -16,6 +16,8 @@ using Memory = std::pmr::memory_resource;
 
 constexpr double degrees = 180 / std::numbers::pi;
 constexpr int mostDigits = 15;
+/// 1.005 is a little less than that in binary, and yet its half is to be rounded up.
+constexpr double halfwayTolerance = 4e-16;
 
 template<double (*Function)(double)>
 Operand unary(Arguments arguments, Memory &)
@@ -134,18 +136,13 @@ double larger(double a, double b)
     return std::max(a, b);
 }
 
-/// Half away from zero.
 Operand roundTo(Arguments arguments, Memory &)
 {
     const auto x = arguments[0].toNumber();
     const auto digits = arguments.size() > 1 ? arguments[1].toNumber() : std::optional(0.0);
     if (!x || !digits || std::abs(*digits) > mostDigits)
         return {};
-    const double scale = std::pow(10, std::abs(std::trunc(*digits)));
-    const double result =
-        *digits < 0 ? std::round(*x / scale) * scale : std::round(*x * scale) / scale;
-    // A number too large to be scaled has no such digits.
-    return Operand::ofNumber(std::isfinite(result) ? result : *x);
+    return Operand::ofNumber(rounded(*x, int(*digits)));
 }
 
 Operand defined(Arguments arguments, Memory &)
@@ -186,6 +183,15 @@ constexpr std::array functions = {
 };
 
 } // namespace
+
+double rounded(double x, int digits)
+{
+    const double scale = std::pow(10, std::abs(digits));
+    const double scaled = digits < 0 ? x / scale : x * scale;
+    const double whole = std::round(scaled + scaled * halfwayTolerance);
+    const double result = digits < 0 ? whole * scale : whole / scale;
+    return std::isfinite(result) ? result : x; // too large to have such digits
+}
 
 const ExpressionFunction *findFunction(QStringView name)
 {

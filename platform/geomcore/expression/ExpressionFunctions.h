@@ -34,6 +34,10 @@ struct ExpressionFunction
 /// All functions, sorted by name.
 [[nodiscard]] VELKGEOMCORE_EXPORT std::span<const ExpressionFunction> expressionFunctions();
 
+/// The number with that many decimals, half away from zero as the decimal notation has it; negative
+/// digits round before the decimal point.
+[[nodiscard]] double rounded(double x, int digits);
+
 /// Evaluation of the functions that make or take apart texts.
 namespace TextFunctions {
 Operand length(std::span<const Operand> arguments, std::pmr::memory_resource &memory);

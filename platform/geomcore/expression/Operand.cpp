@@ -12,6 +12,7 @@ namespace {
 
 constexpr double relativeTolerance = 1e-9;
 constexpr int textDigits = 15;
+constexpr double largestWhole = 1e15;
 
 bool isBlank(char c)
 {
@@ -40,6 +41,23 @@ bool beginsNumber(std::string_view text)
     return !text.empty() && isDigit(text.front());
 }
 
+/// Room for one number in the notation of decimalText.
+struct NumberText
+{
+    std::string_view write(double number)
+    {
+        char *const end = buffer.data() + buffer.size();
+        // Whole numbers are common, and four times as fast this way. Also makes "0" of -0.
+        const bool whole = std::abs(number) < largestWhole && std::trunc(number) == number;
+        const auto result = whole ? std::to_chars(buffer.data(), end, qint64(number))
+                                  : std::to_chars(buffer.data(), end, number,
+                                                  std::chars_format::general, textDigits);
+        return {buffer.data(), size_t(result.ptr - buffer.data())};
+    }
+
+    std::array<char, 32> buffer;
+};
+
 } // namespace
 
 std::optional<double> parseDecimal(std::string_view text)
@@ -59,13 +77,8 @@ std::optional<double> parseDecimal(std::string_view text)
 
 std::string decimalText(double number)
 {
-    if (number == 0)
-        return "0"; // also for -0.0
-    std::array<char, 32> buffer;
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                            std::chars_format::general, textDigits);
-    Q_UNUSED(error);
-    return std::string(buffer.data(), end);
+    NumberText text;
+    return std::string(text.write(number));
 }
 
 bool nearlyEqual(double a, double b)
@@ -131,7 +144,7 @@ std::optional<std::string_view> Operand::toText(std::pmr::memory_resource &memor
     if (kind == Kind::Missing || kind == Kind::Logical)
         return std::nullopt;
     if (kind == Kind::Number && text.empty())
-        return keepText(decimalText(number), memory);
+        return keepText(NumberText().write(number), memory);
     return text;
 }
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <memory_resource>
+#include <type_traits>
 
 namespace VKTab {
 
@@ -58,7 +59,7 @@ public:
         : m_program(program)
         , m_source(source)
         , m_memory(m_buffer.data(), m_buffer.size())
-        , m_stack(size_t(program.m_stackSize), Operand(), &m_memory)
+        , m_stack(stackIn(m_memory, size_t(program.m_stackSize)))
     {
     }
 
@@ -73,6 +74,14 @@ public:
     std::pmr::memory_resource &memory() { return m_memory; }
 
 private:
+    /// Not initialised: a place is written before it is read.
+    static Operand *stackIn(std::pmr::memory_resource &memory, size_t size)
+    {
+        static_assert(std::is_trivially_copyable_v<Operand> &&
+                      std::is_trivially_destructible_v<Operand>);
+        return static_cast<Operand *>(memory.allocate(size * sizeof(Operand), alignof(Operand)));
+    }
+
     Operand &top() { return m_stack[m_top - 1]; }
     Operand take() { return m_stack[--m_top]; }
     void push(const Operand &operand) { m_stack[m_top++] = operand; }
@@ -131,7 +140,7 @@ private:
     void call(const Instruction &instruction)
     {
         m_top -= size_t(instruction.count);
-        const std::span<const Operand> arguments(m_stack.data() + m_top, size_t(instruction.count));
+        const std::span<const Operand> arguments(m_stack + m_top, size_t(instruction.count));
         push(instruction.function->evaluate(arguments, m_memory));
     }
 
@@ -186,7 +195,7 @@ private:
     const OperandSource &m_source;
     alignas(std::max_align_t) std::array<std::byte, 1024> m_buffer;
     std::pmr::monotonic_buffer_resource m_memory;
-    std::pmr::vector<Operand> m_stack;
+    Operand *const m_stack;
     size_t m_top = 0;
 };
 

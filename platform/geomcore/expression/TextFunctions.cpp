@@ -158,7 +158,8 @@ Operand text(Arguments arguments, Memory &memory)
     if (!x || !decimals || *decimals < 0 || *decimals > mostDecimals)
         return {};
     std::array<char, 512> buffer; // 309 digits before the point are possible
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), *x,
+    const double shown = rounded(*x, int(*decimals)) + 0.0; // no -0
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), shown,
                                    std::chars_format::fixed, int(*decimals));
     return Operand::ofText(keepText({buffer.data(), size_t(end.ptr - buffer.data())}, memory));
 }

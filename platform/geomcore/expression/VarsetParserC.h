@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MapVarValueC.h"
+#include "NodeBase.h"
 
 #include <geomcore/table/VarId.h>
 
@@ -12,7 +13,6 @@
 class VarsetNames;
 namespace VKTab {
 class Line;
-class NodeBase;
 } // namespace VKTab
 
 /// Parser of the formula language against sample values of two tables, of which only the names
