@@ -1,6 +1,9 @@
 #include <geomcore/table/TableDescriptor.h>
 
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -110,6 +113,7 @@ private Q_SLOTS:
     void csvFile();
     void translates();
     void anyBytesNeverCrash();
+    void schemaNamesTheMembers();
 };
 
 void tst_TableDescriptor::readsAll()
@@ -375,6 +379,38 @@ void tst_TableDescriptor::anyBytesNeverCrash()
         if (read)
             QCOMPARE(*parse(read->toJson()), *read);
     }
+}
+
+void tst_TableDescriptor::schemaNamesTheMembers()
+{
+    QFile file(QStringLiteral(VELK_SOURCE_DIR "/docs/schema/table.schema.json"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject members = schema["properties"].toObject();
+    const QJsonObject fieldMembers = schema["$defs"]["field"]["properties"].toObject();
+    // What the library knows it refuses as null, all else it keeps.
+    for (const QString &name : members.keys())
+        QVERIFY2(!parse("{\"" + name.toUtf8() + "\": null}"), qPrintable(name));
+    for (const QString &name : fieldMembers.keys())
+        QVERIFY2(!parse("{\"fields\": [{\"" + name.toUtf8() + "\": null}]}"), qPrintable(name));
+    QVERIFY(parse("{\"other\": null, \"fields\": [{\"name\": \"a\", \"other\": null}]}"));
+    // The full example holds every member that is ever written.
+    const QJsonObject full = QJsonDocument::fromJson(Full).object();
+    for (const QString &name : members.keys())
+        QVERIFY2(full.contains(name), qPrintable(name));
+    QSet<QString> written;
+    for (const QJsonValue &field : full["fields"].toArray())
+        for (const QString &name : field.toObject().keys())
+            written.insert(name);
+    for (const QString &name : fieldMembers.keys())
+        QVERIFY2(written.contains(name), qPrintable(name));
+    const QJsonObject field = schema["$defs"]["field"].toObject();
+    for (const QJsonValue &type : field["properties"]["type"]["enum"].toArray())
+        QVERIFY(parse("{\"fields\": [{\"name\": \"a\", \"type\": \"" + type.toString().toUtf8() +
+                      "\"}]}"));
+    for (const QJsonValue &kind : field["properties"]["kind"]["enum"].toArray())
+        QVERIFY(parse("{\"fields\": [{\"name\": \"a\", \"formula\": \"a = 1\", \"kind\": \"" +
+                      kind.toString().toUtf8() + "\"}]}"));
 }
 
 QTEST_GUILESS_MAIN(tst_TableDescriptor)
