@@ -1,7 +1,9 @@
 #include "Commands.h"
 
 #include "CreateCommand.h"
+#include "ExportCommand.h"
 #include "ImportCommand.h"
+#include "StatsCommand.h"
 
 #include <core/Version.h>
 
@@ -31,11 +33,10 @@ void printHelp(QTextStream &out)
 const QList<Command> &commands()
 {
     static const QList<Command> list = {
-        {QStringLiteral("import"),
-         QStringLiteral("makes a catalog from a folder tree of CSV tables"), runImport},
-        {QStringLiteral("create"),
-         QStringLiteral("writes a release mapping with the target projects of each old project"),
-         runCreate},
+        {"import", "makes a catalog of a folder tree of CSV tables", runImport},
+        {"create", "writes a release mapping with the targets of each old project", runCreate},
+        {"stats", "counts the lines by their state", runStats},
+        {"export", "writes a release mapping as a CSV file", runExport},
     };
     return list;
 }

@@ -8,6 +8,7 @@ enum class ExitStatus {
     WrongUsage = 1,
     InputUnreadable = 2,
     ResultUnwritable = 3,
+    Interrupted = 130, ///< by Ctrl+C; what was done is kept
 };
 
 } // namespace velkmap

@@ -1,0 +1,200 @@
+#include <geomcore/records/MappingFile.h>
+#include <tools/velkmap/Commands.h>
+#include <tools/velkmap/ExportCommand.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextStream>
+
+using velkmap::ExitStatus;
+
+namespace {
+
+PrjMappingTargetC target(const QString &path)
+{
+    PrjMappingTargetC result;
+    result.setTargetPath(path);
+    result.setValid(true);
+    return result;
+}
+
+// Every state with and without target line, a conflict, a text with everything that CSV quotes.
+ReleaseMappingC someRelease()
+{
+    PrjMappingC mapping;
+    mapping.setSourcePath("cat/a,b.prj");
+    mapping.setSourceVersion("v260101000000");
+    PrjMappingTargetC first = target("cat2/first.prj");
+    first.addLineId(7, 70, PRJMAPPING::Mapped, "");
+    first.addLineId(3, 30, PRJMAPPING::ToCheck, "");
+    first.addLineId(5, 50, PRJMAPPING::Verified, "{L=1} -> 2\n\"x\"");
+    first.setLineConflicted(3, true);
+    PrjMappingTargetC second = target("cat2/second.prj");
+    second.addLineId(4, 40, PRJMAPPING::Mapped, "");
+    PrjMappingTargetC none = target("");
+    none.addLineId(1, -1, PRJMAPPING::ToCheck, "");
+    none.addLineId(2, -1, PRJMAPPING::Mapped, "");
+    none.addLineId(6, -1, PRJMAPPING::Verified, "");
+    mapping.addTarget(first);
+    mapping.addTarget(second);
+    mapping.addTarget(none);
+    PrjMappingC broken;
+    broken.setSourcePath("cat/broken.prj");
+    broken.setSourceVersion("v260101000000");
+    broken.setMappingState(PRJMAPPING::StateTableError);
+    ReleaseMappingC release;
+    release.setSourceDate("v260101000000");
+    release.setTargetDate("v270101000000");
+    release.addMapping(mapping);
+    release.addMapping(broken);
+    return release;
+}
+
+} // namespace
+
+class tst_StatsExport : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QString m_out;
+    QString m_err;
+
+    ExitStatus run(const QStringList &arguments)
+    {
+        m_out.clear();
+        m_err.clear();
+        QTextStream out(&m_out);
+        QTextStream err(&m_err);
+        return velkmap::run(arguments, out, err);
+    }
+    QString writeMapping(const QString &name)
+    {
+        MappingFile file;
+        ReleaseMappingC other;
+        other.setSourceDate("v200101000000");
+        file.setRelease(other);
+        file.setRelease(someRelease());
+        return file.write(m_dir.filePath(name)) ? m_dir.filePath(name) : QString();
+    }
+
+private Q_SLOTS:
+    void exportsOneRowASourceLineInOrder()
+    {
+        QCOMPARE(velkmap::exportedRows(someRelease()),
+                 QByteArray("source_path,source_version,source_line,target_path,target_line,state,"
+                            "conflict,extended\n"
+                            "\"cat/a,b.prj\",v260101000000,1,,-1,0,0,\n"
+                            "\"cat/a,b.prj\",v260101000000,2,,-1,1,0,\n"
+                            "\"cat/a,b.prj\",v260101000000,3,cat2/first.prj,30,0,1,\n"
+                            "\"cat/a,b.prj\",v260101000000,4,cat2/second.prj,40,1,0,\n"
+                            "\"cat/a,b.prj\",v260101000000,5,cat2/first.prj,50,2,0,"
+                            "\"{L=1} -> 2\n\"\"x\"\"\"\n"
+                            "\"cat/a,b.prj\",v260101000000,6,,-1,2,0,\n"
+                            "\"cat/a,b.prj\",v260101000000,7,cat2/first.prj,70,1,0,\n"));
+    }
+
+    void exportWritesTheFile()
+    {
+        const QString mapping = writeMapping("export.json");
+        const QString csv = m_dir.filePath("out.csv");
+        QCOMPARE(run({"export", "--mapping", mapping, "--csv", csv}), ExitStatus::Done);
+        QFile file(csv);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), velkmap::exportedRows(someRelease()));
+        QVERIFY(m_err.isEmpty());
+    }
+
+    void exportThatCannotBeWritten()
+    {
+        const QString mapping = writeMapping("unwritable.json");
+        QCOMPARE(run({"export", "--mapping", mapping, "--csv", m_dir.filePath("no/dir/out.csv")}),
+                 ExitStatus::ResultUnwritable);
+        QVERIFY2(m_err.contains("no/dir/out.csv"), qPrintable(m_err));
+    }
+
+    void statsCountAsTheHandlerDoes()
+    {
+        const QString mapping = writeMapping("stats.json");
+        QCOMPARE(run({"stats", "--mapping", mapping}), ExitStatus::Done);
+        const QStringList rows = m_out.split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(rows.size(), 4);
+        QCOMPARE(rows.at(0).simplified(),
+                 QString("lines notFound mapped toCheck verified project"));
+        QCOMPARE(rows.at(1).simplified(), QString("7 3 3 1 2 cat/a,b.prj"));
+        QCOMPARE(rows.at(2).simplified(),
+                 QString("0 0 0 0 0 cat/broken.prj (table could not be read)"));
+        QCOMPARE(rows.at(3).simplified(), QString("7 3 3 1 2 in all"));
+    }
+
+    void statsAsJson()
+    {
+        const QString mapping = writeMapping("json.json");
+        QCOMPARE(run({"stats", "--mapping", mapping, "--json"}), ExitStatus::Done);
+        const QJsonObject stats = QJsonDocument::fromJson(m_out.toUtf8()).object();
+        QCOMPARE(stats.value("sourceDate").toString(), QString("v260101000000"));
+        QCOMPARE(stats.value("lines").toInt(), 7);
+        QCOMPARE(stats.value("notFound").toInt(), 3);
+        QCOMPARE(stats.value("mapped").toInt(), 3);
+        QCOMPARE(stats.value("toCheck").toInt(), 1);
+        QCOMPARE(stats.value("verified").toInt(), 2);
+        const QJsonArray projects = stats.value("projects").toArray();
+        QCOMPARE(projects.size(), 2);
+        QCOMPARE(projects.at(0).toObject().value("sourcePath").toString(), QString("cat/a,b.prj"));
+        QCOMPARE(projects.at(0).toObject().value("tableError").toBool(), false);
+        QCOMPARE(projects.at(1).toObject().value("tableError").toBool(), true);
+    }
+
+    void releaseIsChosenByDate()
+    {
+        const QString mapping = writeMapping("dates.json");
+        QCOMPARE(run({"stats", "--mapping", mapping, "--release", "v200101000000"}),
+                 ExitStatus::Done);
+        QVERIFY(m_out.split('\n').at(1).endsWith("in all"));
+        QCOMPARE(run({"stats", "--mapping", mapping, "--release", "v1"}),
+                 ExitStatus::InputUnreadable);
+        QVERIFY2(m_err.contains("there is no release v1; the file holds v200101000000, "
+                                "v260101000000"),
+                 qPrintable(m_err));
+    }
+
+    void badMappingFiles_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("no JSON") << QByteArray("hello");
+        QTest::newRow("cut off") << QByteArray("{\"v1\": {\"sourceDate\": \"v1\"");
+        QTest::newRow("no release") << QByteArray("{}");
+        QTest::newRow("release is a number") << QByteArray("{\"v1\": 5}");
+    }
+    void badMappingFiles()
+    {
+        QFETCH(QByteArray, content);
+        const QString path = m_dir.filePath("bad.json");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        for (const char *command : {"stats", "export"}) {
+            QCOMPARE(
+                run(QStringList{command, "--mapping", path, "--csv", m_dir.filePath("bad.csv")}.mid(
+                    0, QByteArray(command) == "stats" ? 3 : 5)),
+                ExitStatus::InputUnreadable);
+            QVERIFY2(m_err.contains(path), qPrintable(m_err));
+            QVERIFY(!QFile::exists(m_dir.filePath("bad.csv")));
+        }
+    }
+
+    void missingMappingFile()
+    {
+        QCOMPARE(run({"stats", "--mapping", m_dir.filePath("none.json")}),
+                 ExitStatus::InputUnreadable);
+        QVERIFY2(m_err.contains("none.json"), qPrintable(m_err));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_StatsExport)
+#include "tst_StatsExport.moc"
