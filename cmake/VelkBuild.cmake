@@ -47,11 +47,12 @@ function(velk_defaults target)
                              BOOST_BIND_GLOBAL_PLACEHOLDERS)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wshadow -Wnon-virtual-dtor
                          $<$<BOOL:${VELK_WARNINGS_AS_ERRORS}>:-Werror>
-                         # g++ 12 reports these wrongly, for "text" + std::string in optimised
-                         # builds (GCC bug 105651) and for designated initialisers; clang checks
-                         # the same in the dev build.
+                         # g++ 12 reports these wrongly in optimised builds: for "text" +
+                         # std::string (GCC bug 105651), variants and designated initialisers;
+                         # clang checks the same in the dev build.
                          $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-stringop-overflow
-                         -Wno-array-bounds -Wno-missing-field-initializers>)
+                         -Wno-array-bounds -Wno-maybe-uninitialized
+                         -Wno-missing-field-initializers>)
   if(VELK_PCH)
     target_precompile_headers(${target} PRIVATE ${ARGN})
   endif()
