@@ -31,6 +31,15 @@ QByteArray bolts(int first = 1, int count = 12)
     return "size,s,k" + lines(first, count);
 }
 
+/// The same lines, each with another value in k.
+QByteArray otherBolts(int first, int count)
+{
+    QByteArray text = "size,s,k";
+    for (int i = first; i < first + count; ++i)
+        text += ";M" + QByteArray::number(i) + ',' + QByteArray::number(2 * i + 1) + ",0.1";
+    return text;
+}
+
 } // namespace
 
 class tst_ProjectFinder : public QObject
@@ -99,6 +108,20 @@ void tst_ProjectFinder::finds_data()
                    {"new/a/q.prj", bolts(4, 4)},
                    {"new/a/r.prj", bolts(8, 5)}}
         << QStringList{"new/a/r.prj", "new/a/q.prj", "new/a/p.prj"};
+    QTest::newRow("split in three, one value of each line changed")
+        << bolts() << none
+        << Release{{"new/a/p.prj", otherBolts(1, 3)},
+                   {"new/a/q.prj", otherBolts(4, 4)},
+                   {"new/a/r.prj", otherBolts(8, 5)}}
+        << QStringList{"new/a/r.prj", "new/a/q.prj", "new/a/p.prj"};
+    QTest::newRow("one changed line is no part")
+        << bolts() << none
+        << Release{{"new/a/p.prj", otherBolts(1, 1)}, {"new/a/r.prj", otherBolts(2, 11)}}
+        << QStringList{"new/a/r.prj"};
+    QTest::newRow("one changed line of few is no part")
+        << bolts(1, 6) << none
+        << Release{{"new/a/p.prj", otherBolts(1, 1)}, {"new/a/r.prj", otherBolts(2, 5)}}
+        << QStringList{"new/a/r.prj"};
     QTest::newRow("merged") << bolts(1, 6) << none << Release{{"new/a/all.prj", bolts()}}
                             << QStringList{"new/a/all.prj"};
     QTest::newRow("copied, the one of the likelier name first")

@@ -130,10 +130,12 @@ std::vector<int> ReleaseIndex::holders(const LineCells &cells, const std::vector
     };
     const auto kept = touched.begin() + std::min<std::ptrdiff_t>(limit, std::ssize(touched));
     std::ranges::partial_sort(touched, kept, better);
+    std::vector<int> tables(touched.begin(), kept);
+    const int fewest = tables.empty() ? 0 : m_votes[size_t(tables.front())] / MinorShare;
+    std::erase_if(tables, [&](int table) { return m_votes[size_t(table)] < fewest; });
     for (const int table : touched)
         m_votes[size_t(table)] = 0;
-    touched.erase(kept, touched.end());
-    return touched;
+    return tables;
 }
 
 } // namespace velkmap

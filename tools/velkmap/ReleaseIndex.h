@@ -31,11 +31,12 @@ public:
     [[nodiscard]] std::vector<int> withName(const QString &foldedName) const;
 
     /// Tables that hold values of these lines, those that hold most of them first, \a limit at
-    /// most. Values and lines that more than CommonLimit tables hold count for nothing. One search
-    /// at a time.
+    /// most. Values and lines that more than CommonLimit tables hold count for nothing; a table
+    /// with less than a MinorShare-th of the best one's values is left out. One search at a time.
     [[nodiscard]] std::vector<int> holders(const LineCells &cells, const std::vector<int> &rows,
                                            int limit) const;
     static constexpr int CommonLimit = 256;
+    static constexpr int MinorShare = 32;
 
 private:
     /// Upper 40 bits of a hash and the number of a table: 8 bytes for each value of a table.
