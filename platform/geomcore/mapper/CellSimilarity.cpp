@@ -4,7 +4,6 @@
 
 #include <geomcore/table/CanonicalNumber.h>
 #include <geomcore/table/CellKey.h>
-#include <geomcore/table/RangeText.h>
 
 #include <algorithm>
 #include <cmath>
@@ -12,27 +11,6 @@
 namespace Mapper {
 
 using VKTab::CanonicalNumber;
-using VKTab::RangeText;
-
-namespace {
-
-/// Ranges with more values are compared as a whole.
-constexpr qint64 MaxRangeValues = 1000;
-
-QString toText(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
-
-qint64 commonValues(const RangeText &a, const RangeText &b)
-{
-    qint64 common = 0;
-    for (qint64 i = 0; i < a.count(); ++i)
-        common += b.contains(a.value(i)) ? 1 : 0;
-    return common;
-}
-
-} // namespace
 
 double numberSimilarity(double a, double b)
 {
@@ -42,20 +20,6 @@ double numberSimilarity(double a, double b)
         return 0;
     const double distance = std::fabs(a - b) / std::max(std::fabs(a), std::fabs(b));
     return std::max(0.0, 1.0 - distance / NumberRange);
-}
-
-double rangeSimilarity(std::string_view source, std::string_view targetRange, char decimalChar)
-{
-    const std::optional<RangeText> from = RangeText::parse(toText(source));
-    const std::optional<RangeText> to = RangeText::parse(toText(targetRange), decimalChar);
-    if (!from || !to || from->isEmpty() || to->isEmpty())
-        return source == targetRange ? 1 : 0;
-    if (from->count() == 1)
-        return to->contains(from->value(0)) ? 1 : 0;
-    if (from->count() > MaxRangeValues || to->count() > MaxRangeValues)
-        return from->canonicalText() == to->canonicalText() ? 1 : 0;
-    return std::min(1.0,
-                    2.0 * double(commonValues(*from, *to)) / double(from->count() + to->count()));
 }
 
 ComparableCell::ComparableCell(std::string_view text)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include "TextSimilarity.h"
 
 #include <optional>
@@ -9,15 +11,10 @@ namespace Mapper {
 
 /// From 0 to 1 by relative distance; numbers of different sign, and 0 beside another number, have
 /// nothing in common.
-[[nodiscard]] double numberSimilarity(double a, double b);
-
-/// From 0 to 1: a source value inside the range has 1, two ranges as many as they have in common
-/// (Dice). \a decimalChar is that of the target cell.
-[[nodiscard]] double rangeSimilarity(std::string_view source, std::string_view targetRange,
-                                     char decimalChar);
+[[nodiscard]] VELKGEOMCORE_EXPORT double numberSimilarity(double a, double b);
 
 /// A value of a source line, prepared to be compared with many target cells.
-class ComparableCell
+class VELKGEOMCORE_EXPORT ComparableCell
 {
 public:
     /// In plain notation; an empty text is no value.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <array>
 #include <cstdint>
 #include <unordered_map>
@@ -9,7 +11,7 @@ namespace Mapper {
 
 /// Set of line numbers that remembers the order of insertion. Made for numbers that lie close
 /// together: a page of bits serves 4096 of them.
-class LineIdSet
+class VELKGEOMCORE_EXPORT LineIdSet
 {
 public:
     /// False if the number was there already.

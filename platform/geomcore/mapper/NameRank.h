@@ -1,5 +1,7 @@
 #pragma once
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <QStringView>
 
 namespace Mapper {
@@ -12,6 +14,6 @@ enum class NameRank {
 };
 
 /// Paths relative to the catalog root; the first component, the catalog, does not count.
-[[nodiscard]] NameRank nameRank(QStringView sourcePath, QStringView targetPath);
+[[nodiscard]] VELKGEOMCORE_EXPORT NameRank nameRank(QStringView sourcePath, QStringView targetPath);
 
 } // namespace Mapper

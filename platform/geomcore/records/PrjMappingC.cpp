@@ -167,6 +167,16 @@ PrjMappingTargetC PrjMappingC::findTarget(int index) const
     return d->targets.value(index);
 }
 
+const PrjMappingTargetC &PrjMappingC::targetAt(int index) const
+{
+    return d->targets.at(index);
+}
+
+PrjMappingTargetC &PrjMappingC::editTarget(int index)
+{
+    return d->targets[index];
+}
+
 int PrjMappingC::addTarget(const PrjMappingTargetC &target)
 {
     return insertTarget(countTargets(), target);

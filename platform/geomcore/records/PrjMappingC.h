@@ -53,6 +53,12 @@ public:
     [[nodiscard]] int countTargets() const;
     /// Not valid for an unknown index.
     [[nodiscard]] PrjMappingTargetC findTarget(int index) const;
+    /// The target itself instead of a copy; the index must be a known one. Valid until targets come
+    /// or go.
+    [[nodiscard]] const PrjMappingTargetC &targetAt(int index) const;
+    /// As above, to be changed in place; then call updateMappingState(). Not to be kept while this
+    /// mapping is copied.
+    [[nodiscard]] PrjMappingTargetC &editTarget(int index);
     /// Appends, and gives the new index.
     int addTarget(const PrjMappingTargetC &target);
     /// Appends a valid target; two empty texts make the not-found target.

@@ -1,0 +1,264 @@
+#include "BoundTarget.h"
+
+#include "ExactSearch.h"
+#include "PairJoinBuilder.h"
+#include "SimilaritySearch.h"
+#include "SourceTable.h"
+#include "TargetTable.h"
+
+#include <geomcore/expression/VarsetConditionC.h>
+#include <geomcore/expression/VarsetValueMappingC.h>
+#include <geomcore/expression/VarsetVarMappingC.h>
+#include <geomcore/table/LineView.h>
+#include <geomcore/table/TableData.h>
+
+namespace Mapper {
+
+using Origin = VKTab::BoundModifiers::Origin;
+
+namespace {
+
+/// Equal rows that are looked through for one with the same ranges.
+constexpr int MaxEqual = 64;
+
+bool hasConfirmedLine(const PrjMappingTargetC &target)
+{
+    if (target.lineCounts().verified() == 0)
+        return false;
+    for (const LineTable::Iterator &entry : target.lines()) {
+        if (entry.state() == PRJMAPPING::Verified && entry.targetLine() != -1)
+            return true;
+    }
+    return false;
+}
+
+PrjMappingTargetC withoutLines(PrjMappingTargetC target)
+{
+    target.clearLines(false);
+    return target;
+}
+
+QString modifierText(const VarsetModifierI *modifier)
+{
+    if (const auto *var = dynamic_cast<const VarsetVarMappingC *>(modifier))
+        return var->getSourceVarName() + u'\x1f' + var->getTargetVarName();
+    const auto *value = dynamic_cast<const VarsetValueMappingC *>(modifier);
+    return value ? value->getFormula() : QString();
+}
+
+} // namespace
+
+BoundTarget::BoundTarget(int index, const PrjMappingTargetC &target,
+                         const std::shared_ptr<const TargetTable> &table, const SourceTable &source,
+                         const QStringList &ranges, bool shownOnly)
+    : m_index(index)
+    , m_target(withoutLines(target))
+    , m_path(target.getTargetPath())
+    , m_table(table)
+    , m_source(source)
+    , m_ranges(ranges)
+    , m_shownOnly(shownOnly)
+    , m_hasVerified(hasConfirmedLine(target))
+    , m_conditions(target.getConditions(), source.data().get())
+    , m_modifiers(target.getVarsetModifier(), source.data().get())
+{
+    if (m_table && m_source.isValid())
+        bindVariables();
+}
+
+BoundTarget::~BoundTarget() = default;
+
+void BoundTarget::bindVariables()
+{
+    const std::vector<TargetVariable> &variables = m_table->variables();
+    for (size_t i = 0; i < variables.size(); ++i) {
+        const Origin origin = m_modifiers.origin(variables[i].name);
+        if (origin.kind == Origin::Absent)
+            continue;
+        m_variables.push_back(int(i));
+        m_origins.push_back(origin);
+    }
+    bindUses();
+}
+
+void BoundTarget::bindUses()
+{
+    std::vector<int> uses(size_t(m_source.data()->descriptor().fields.size()));
+    for (const Origin &origin : m_origins) {
+        if (origin.kind != Origin::Column)
+            return;
+        ++uses[size_t(origin.index)];
+    }
+    m_uses = std::move(uses);
+}
+
+bool BoundTarget::countComparedFast(const LineInput &line, int &compared, int &values) const
+{
+    if (m_uses.empty() || !line.view)
+        return false;
+    values = m_source.countValues(*line.view, m_uses, compared);
+    return true;
+}
+
+QStringList BoundTarget::comparedSourceNames() const
+{
+    QStringList names;
+    for (size_t i = 0; i < m_variables.size(); ++i) {
+        if (m_origins[i].kind == Origin::Column)
+            names.append(m_source.data()->descriptor().fields[m_origins[i].index].name);
+        else
+            names.append(m_table->variables()[size_t(m_variables[i])].name);
+    }
+    return names;
+}
+
+bool BoundTarget::conditionsHold(const LineInput &line) const
+{
+    return line.view ? m_conditions.holds(*line.view) : m_target.conditionsHold(*line.varset);
+}
+
+QStringList BoundTarget::failingConditions(const LineInput &line) const
+{
+    QStringList texts;
+    for (const VarsetConditionI *condition : m_target.getConditions()) {
+        if (line.view ? condition->holds(*line.view) : condition->holds(*line.varset))
+            continue;
+        const auto *known = dynamic_cast<const VarsetConditionC *>(condition);
+        texts.append(known ? known->getCondition() : QString());
+    }
+    return texts;
+}
+
+BoundTarget::Varset BoundTarget::updateVarset(const LineInput &line) const
+{
+    return line.view ? m_modifiers.varset(*line.view) : m_target.updateVarset(*line.varset);
+}
+
+void BoundTarget::takeValues(const LineInput &line, TargetValues &values) const
+{
+    if (!line.view) {
+        takeValues(updateVarset(line), values);
+        return;
+    }
+    setSearch(m_variables, values);
+    m_modifiers.evaluate(*line.view, values.results);
+    for (size_t i = 0; i < m_origins.size(); ++i) {
+        LineTexts::Value &value = values.texts.values[i];
+        value.text =
+            m_modifiers.text(m_origins[i], *line.view, values.results, values.texts.scratch[i]);
+        const bool column = m_origins[i].kind == Origin::Column;
+        value.decimalChar = column ? m_source.decimalChar(m_origins[i].index) : '.';
+    }
+}
+
+void BoundTarget::takeValues(const Varset &targetVarset, TargetValues &values) const
+{
+    std::vector<int> variables;
+    const std::vector<TargetVariable> &all = m_table->variables();
+    for (size_t i = 0; i < all.size(); ++i) {
+        if (targetVarset.contains(all[i].name))
+            variables.push_back(int(i));
+    }
+    setSearch(variables, values);
+    for (size_t i = 0; i < variables.size(); ++i) {
+        const QString &name = all[size_t(variables[i])].name;
+        LineTexts::Value &value = values.texts.values[i];
+        values.texts.scratch[i] =
+            targetVarset.value(name).getValue().toString().trimmed().toStdString();
+        value.text = values.texts.scratch[i];
+        const Origin origin = m_modifiers.origin(name);
+        const bool column = origin.kind == Origin::Column;
+        value.decimalChar = column ? m_source.decimalChar(origin.index) : '.';
+    }
+}
+
+void BoundTarget::setSearch(const std::vector<int> &variables, TargetValues &values) const
+{
+    if (!m_search || m_search->variables() != variables)
+        m_search = m_table->exactSearch(variables);
+    values.search = m_search;
+    values.texts.resize(variables.size());
+}
+
+std::vector<int> BoundTarget::equalRows(const TargetValues &values, int limit) const
+{
+    std::vector<int> rows;
+    values.search->forEach(values.texts, [&](int row) {
+        if (!m_shownOnly || m_table->isShown(row))
+            rows.push_back(row);
+        return int(rows.size()) < limit;
+    });
+    return rows;
+}
+
+BoundTarget::Hit BoundTarget::findEqual(const TargetValues &values) const
+{
+    if (values.search->onlyIndex()) {
+        const std::vector<int> rows = equalRows(values, 2);
+        return rows.empty() ? Hit() : Hit{rows.front(), rows.size() > 1};
+    }
+    const std::vector<int> rows = equalRows(values, MaxEqual);
+    for (int row : rows) {
+        if (values.search->hasSameRanges(values.texts, row))
+            return {row, rows.size() > 1};
+    }
+    return rows.empty() ? Hit() : Hit{rows.front(), rows.size() > 1};
+}
+
+const PairJoin *BoundTarget::join() const
+{
+    if (!m_join && m_table && m_source.isValid()) {
+        const auto build = [this] {
+            return PairJoinBuilder(m_source, *this, m_ranges).build();
+        };
+        // What was changed in the source table is not in the signature.
+        m_join = m_source.content().isPlain()
+                     ? m_table->joins().get(m_source.data(), signature(), build)
+                     : build();
+    }
+    return m_join.get();
+}
+
+std::string BoundTarget::signature() const
+{
+    QStringList parts{m_shownOnly ? QStringLiteral("shown") : QStringLiteral("all"),
+                      m_ranges.join(u'\x1f')};
+    for (const VarsetConditionI *condition : m_target.getConditions()) {
+        const auto *known = dynamic_cast<const VarsetConditionC *>(condition);
+        parts.append(known ? known->getCondition() : QString());
+    }
+    parts.append(QStringLiteral("\x1d"));
+    for (const VarsetModifierI *modifier : m_target.getVarsetModifier())
+        parts.append(modifierText(modifier));
+    return parts.join(u'\x1e').toStdString();
+}
+
+const IdentityKey &BoundTarget::identity() const
+{
+    if (!m_identity)
+        m_identity = std::make_unique<IdentityKey>(m_source, *this);
+    return *m_identity;
+}
+
+SimilaritySearch BoundTarget::similarity(const TargetValues &values) const
+{
+    return {*m_table, values.search->variables()};
+}
+
+std::vector<int> BoundTarget::plainColumns() const
+{
+    if (m_shownOnly && !m_table->isEverythingShown())
+        return {};
+    if (!m_table->exactSearch(m_variables)->onlyIndex())
+        return {};
+    std::vector<int> columns;
+    const int stored = m_source.data()->columnCount();
+    for (const Origin &origin : m_origins) {
+        if (origin.kind != Origin::Column || origin.index >= stored)
+            return {};
+        columns.push_back(origin.index);
+    }
+    return columns;
+}
+
+} // namespace Mapper

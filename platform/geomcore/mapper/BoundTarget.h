@@ -1,0 +1,117 @@
+#pragma once
+
+#include "IdentityKey.h"
+#include "LineInput.h"
+#include "NameRank.h"
+#include "TargetValues.h"
+
+#include <geomcore/expression/BoundConditions.h>
+#include <geomcore/expression/BoundModifiers.h>
+#include <geomcore/records/PrjMappingTargetC.h>
+
+#include <QStringList>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Mapper {
+
+class PairJoin;
+class SimilaritySearch;
+class SourceTable;
+class TargetTable;
+
+/// One target of the working mapping with everything that does not depend on the line worked out
+/// once: its table, its conditions and modifiers on the columns of the source table, the variables
+/// that both have. One thread.
+class BoundTarget
+{
+public:
+    using Varset = QHash<QString, MapVarValueC>;
+    struct Hit
+    {
+        int row = -1;
+        bool several = false;
+    };
+
+    /// \a table is null if it cannot be read: the target then holds no line. \a ranges are the
+    /// ranges of the source table that conditions of the mapping read. The source outlives this.
+    BoundTarget(int index, const PrjMappingTargetC &target,
+                const std::shared_ptr<const TargetTable> &table, const SourceTable &source,
+                const QStringList &ranges, bool shownOnly);
+    ~BoundTarget();
+    BoundTarget(const BoundTarget &) = delete;
+    BoundTarget &operator=(const BoundTarget &) = delete;
+
+    [[nodiscard]] int index() const { return m_index; }
+    [[nodiscard]] const QString &path() const { return m_path; }
+    [[nodiscard]] bool isOpen() const { return m_table != nullptr; }
+    [[nodiscard]] const std::shared_ptr<const TargetTable> &table() const { return m_table; }
+    [[nodiscard]] bool shownOnly() const { return m_shownOnly; }
+    /// A person has confirmed a line of this target.
+    [[nodiscard]] bool hasVerified() const { return m_hasVerified; }
+    /// Variables of the target's table that lines of the source table have values for.
+    [[nodiscard]] const std::vector<int> &variables() const { return m_variables; }
+
+    [[nodiscard]] bool conditionsHold(const LineInput &line) const;
+    /// Texts of the conditions that do not hold.
+    [[nodiscard]] QStringList failingConditions(const LineInput &line) const;
+    [[nodiscard]] Varset updateVarset(const LineInput &line) const;
+
+    /// The line's values as this target sees them.
+    void takeValues(const LineInput &line, TargetValues &values) const;
+    /// The same from the varset that updateVarset gave.
+    void takeValues(const Varset &targetVarset, TargetValues &values) const;
+
+    /// Rows with equal values that may be proposed, in display order, at most \a limit.
+    [[nodiscard]] std::vector<int> equalRows(const TargetValues &values, int limit) const;
+    /// The row to be proposed: the first with the same ranges, else the first.
+    [[nodiscard]] Hit findEqual(const TargetValues &values) const;
+
+    /// Null without a source table.
+    [[nodiscard]] const PairJoin *join() const;
+    [[nodiscard]] const IdentityKey &identity() const;
+    [[nodiscard]] SimilaritySearch similarity(const TargetValues &values) const;
+
+    /// Counts the values of a stored line, and those of them that the target has variables for,
+    /// without taking them. False if the variables come from more than single columns.
+    [[nodiscard]] bool countComparedFast(const LineInput &line, int &compared, int &values) const;
+    /// Variables of the source table that the target's values are made of.
+    [[nodiscard]] QStringList comparedSourceNames() const;
+
+    /// What PairJoinBuilder needs to join without looking at single lines: the columns of the
+    /// source table, one for each variable. Empty if there is more to it.
+    [[nodiscard]] std::vector<int> plainColumns() const;
+    [[nodiscard]] const VKTab::BoundConditions &conditions() const { return m_conditions; }
+    /// Origins of the values of variables(), in their order.
+    [[nodiscard]] const std::vector<VKTab::BoundModifiers::Origin> &origins() const
+    {
+        return m_origins;
+    }
+
+private:
+    void bindVariables();
+    void bindUses();
+    void setSearch(const std::vector<int> &variables, TargetValues &values) const;
+    [[nodiscard]] std::string signature() const;
+
+    const int m_index;
+    const PrjMappingTargetC m_target;
+    const QString m_path;
+    const std::shared_ptr<const TargetTable> m_table;
+    const SourceTable &m_source;
+    const QStringList m_ranges;
+    const bool m_shownOnly;
+    bool m_hasVerified = false;
+    VKTab::BoundConditions m_conditions;
+    VKTab::BoundModifiers m_modifiers;
+    std::vector<int> m_variables;
+    std::vector<VKTab::BoundModifiers::Origin> m_origins;
+    std::vector<int> m_uses; ///< By source column: variables that are that column; empty if others.
+    mutable std::shared_ptr<const ExactSearch> m_search;
+    mutable std::shared_ptr<const PairJoin> m_join;
+    mutable std::unique_ptr<IdentityKey> m_identity;
+};
+
+} // namespace Mapper

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "LineInput.h"
+#include "MapperFlags.h"
+#include "TargetSet.h"
+
+#include <QStringList>
+
+namespace Mapper {
+
+/// Checks one assignment of a source line to a line of a target.
+///
+/// Values are equal and unambiguous if the target line has equal values, no other line of the
+/// target has, no other project among the targets whose conditions hold has, and no other source
+/// line could go to the same line; if enough of the line's values are compared; and, where the
+/// program chose the project, if name or a confirmed line connect it with the source and most lines
+/// of both tables agree: in a table that was reworked a single equal line is chance.
+class LineCheck
+{
+public:
+    using Varset = QHash<QString, MapVarValueC>;
+    struct Assignment
+    {
+        LineInput line;
+        int targetIndex = -1;
+        int targetLine = -1;
+        /// What updateVarset gave; null: to be worked out from the line.
+        const Varset *targetVarset = nullptr;
+        /// The program chose the target.
+        bool automatic = true;
+    };
+
+    /// \a mapping is the one that the targets belong to.
+    LineCheck(TargetSet &targets, const PrjMappingC &mapping);
+
+    /// Whether there is nothing to be said against it.
+    [[nodiscard]] bool passes(const Assignment &assignment, CheckModeFlags mode);
+    /// What is to be said against it, one message for each difference.
+    [[nodiscard]] QStringList messages(const Assignment &assignment, CheckModeFlags mode);
+
+private:
+    // Each of these is true if all is well; else it leaves messages, unless only the answer counts.
+    bool run(CheckModeFlags mode);
+    bool checkLine(CheckModeFlags mode);
+    bool checkValues(int row);
+    bool checkEqual(int row);
+    bool checkDifferences(int row);
+    bool checkAlone(int row);
+    bool checkOtherTargets();
+    bool checkClaims(int row);
+    bool checkCompared();
+    bool checkProject();
+    bool checkDesignations(int row);
+    bool checkConditions();
+
+    bool complain(const QString &message);
+    [[nodiscard]] bool usesJoins() const;
+    void takeValues();
+    [[nodiscard]] int equalRowOf(const BoundTarget &target);
+    [[nodiscard]] QStringList namesNotCompared() const;
+
+    TargetSet &m_targets;
+    const PrjMappingC &m_mapping;
+    const BoundTarget *m_target = nullptr;
+    const Assignment *m_assignment = nullptr;
+    bool m_quiet = false;
+    bool m_hasValues = false;
+    TargetValues m_values;
+    TargetValues m_otherValues;
+    QStringList m_messages;
+};
+
+} // namespace Mapper

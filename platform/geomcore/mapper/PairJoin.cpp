@@ -1,0 +1,33 @@
+#include "PairJoin.h"
+
+namespace Mapper {
+
+PairJoin::PairJoin(int sourceRows, int targetRows)
+    : m_hits(size_t(sourceRows), -1)
+    , m_several(sourceRows, false)
+    , m_claims(size_t(targetRows), 0)
+{
+}
+
+PairJoin::Neighbours PairJoin::neighbours(int sourceRow) const
+{
+    std::call_once(m_once, [this] { findNeighbours(); });
+    return {m_above[size_t(sourceRow)], m_below[size_t(sourceRow)]};
+}
+
+void PairJoin::findNeighbours() const
+{
+    const int count = int(m_hits.size());
+    m_above.resize(m_hits.size());
+    m_below.resize(m_hits.size());
+    for (int row = 0, last = -1; row < count; ++row) {
+        m_above[size_t(row)] = last;
+        last = hit(row) >= 0 ? row : last;
+    }
+    for (int row = count - 1, next = count; row >= 0; --row) {
+        m_below[size_t(row)] = next;
+        next = hit(row) >= 0 ? row : next;
+    }
+}
+
+} // namespace Mapper

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <geomcore/table/LineSet.h>
+
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace Mapper {
+
+/// Which lines of a source table have equal lines in a target table, all at once. Immutable once
+/// built; any thread.
+class PairJoin
+{
+public:
+    PairJoin(int sourceRows, int targetRows);
+
+    [[nodiscard]] int sourceRows() const { return int(m_hits.size()); }
+    /// The row proposed for a source row; -1 if none is equal. Of several equal rows it is the
+    /// first in display order. If several source lines are equal as well, these are paired off in
+    /// order: each takes the first that follows the row of the line before it.
+    [[nodiscard]] int hit(int sourceRow) const { return m_hits[size_t(sourceRow)]; }
+    /// Whether several target rows are equal.
+    [[nodiscard]] bool isSeveral(int sourceRow) const { return m_several.contains(sourceRow); }
+    /// How many source lines have this row as an equal one: 0, 1 or 2 for more. Of several equal
+    /// rows the first counts.
+    [[nodiscard]] int claims(int targetRow) const { return m_claims[size_t(targetRow)]; }
+    /// From 0 to 1: how many of the source lines that should have an equal line have one; 1 if none
+    /// should.
+    [[nodiscard]] double agreement() const { return m_agreement; }
+
+    struct Neighbours
+    {
+        int above = -1;
+        int below = -1; ///< Number of source rows if there is none.
+    };
+    /// The nearest source rows that have a hit. The first call looks through all rows.
+    [[nodiscard]] Neighbours neighbours(int sourceRow) const;
+
+private:
+    friend class PairJoinBuilder;
+
+    void findNeighbours() const;
+
+    std::vector<int> m_hits;
+    VKTab::LineSet m_several;
+    std::vector<quint8> m_claims;
+    double m_agreement = 0;
+    mutable std::once_flag m_once;
+    mutable std::vector<int> m_above;
+    mutable std::vector<int> m_below;
+};
+
+} // namespace Mapper

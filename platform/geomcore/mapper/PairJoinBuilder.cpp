@@ -1,0 +1,202 @@
+#include "PairJoinBuilder.h"
+
+#include "BoundTarget.h"
+#include "ExactSearch.h"
+#include "SimilarityRules.h"
+#include "SourceTable.h"
+#include "TargetTable.h"
+
+#include <geomcore/table/Line.h>
+#include <geomcore/table/LineIndex.h>
+#include <geomcore/table/LineView.h>
+#include <geomcore/table/ResolveRangeOptionsC.h>
+#include <geomcore/table/TableData.h>
+#include <geomcore/table/ValueRangeIterator.h>
+
+#include <algorithm>
+#include <array>
+
+namespace Mapper {
+
+using VKTab::LineIndex;
+using VKTab::LineView;
+
+namespace {
+
+/// Equal rows of one line that are counted as claimed by it.
+constexpr int MaxClaimed = 16;
+/// Equal rows that are stepped over in search of the next one to pair off.
+constexpr int MaxSteps = 1000;
+
+LineInput inputOf(const SourceTable &source, int row, const LineView &view)
+{
+    LineInput input;
+    input.lineId = source.data()->lineNumber(row);
+    input.row = row;
+    input.view = &view;
+    return input;
+}
+
+} // namespace
+
+PairJoinBuilder::PairJoinBuilder(const SourceTable &source, const BoundTarget &target,
+                                 const QStringList &ranges)
+    : m_source(source)
+    , m_target(target)
+    , m_ranges(ranges)
+    , m_join(
+          std::make_shared<PairJoin>(source.data()->rowCount(), target.table()->data().rowCount()))
+{
+}
+
+std::shared_ptr<const PairJoin> PairJoinBuilder::build()
+{
+    if (m_target.variables().empty())
+        return m_join;
+    const bool simple =
+        m_ranges.isEmpty() && m_source.content().isPlain() && !m_target.plainColumns().empty();
+    if (simple)
+        joinInPlace(*m_target.table()->exactSearch(m_target.variables())->onlyIndex());
+    else
+        joinLineByLine();
+    pairOff();
+    computeAgreement();
+    return m_join;
+}
+
+void PairJoinBuilder::joinInPlace(const LineIndex &index)
+{
+    const VKTab::TableData &source = *m_source.data();
+    const std::vector<VKTab::CellKey> noValues(index.keys().size());
+    const int blank = index.find(noValues); // a line without any value equals nothing
+    const bool conditional = !m_target.conditions().isEmpty();
+    LineIndex::Probe probe(index, source, m_target.plainColumns());
+    std::array<int, 256> rows{};
+    for (int from = 0; from < source.rowCount(); from += int(rows.size())) {
+        const int count = std::min(int(rows.size()), source.rowCount() - from);
+        probe.find(from, std::span(rows.data(), size_t(count)));
+        for (int i = 0; i < count; ++i) {
+            if (conditional && !m_target.conditions().holds(LineView(source, from + i)))
+                continue;
+            ++m_lines;
+            const int hit = rows[size_t(i)];
+            if (hit < 0 || hit == blank)
+                continue;
+            ++m_hits;
+            m_join->m_hits[size_t(from + i)] = hit;
+            if (!index.isUnique(hit))
+                m_join->m_several.insert(from + i);
+            claim(hit);
+        }
+    }
+}
+
+void PairJoinBuilder::joinLineByLine()
+{
+    for (int row = 0; row < m_source.data()->rowCount(); ++row)
+        joinLine(row);
+}
+
+void PairJoinBuilder::joinLine(int row)
+{
+    const int before = m_lines;
+    std::vector<int> claimed;
+    const VKTab::LineId id = m_source.data()->lineId(row);
+    joinView(row, LineView(m_source.content(), id), claimed);
+    if (!m_ranges.isEmpty()) {
+        VKTab::Line line = m_source.content().getLine(id, true);
+        const VKTab::ResolveRangeOptionsC options;
+        VKTab::ValueRangeIterator combinations(m_source.content(), line, options);
+        combinations.setVariablesToResolve(m_ranges);
+        while (combinations.next())
+            joinView(row, LineView(line), claimed);
+    }
+    m_lines = std::min(m_lines, before + 1); // however many combinations
+    m_hits += claimed.empty() ? 0 : 1;
+    for (int target : claimed)
+        claim(target);
+}
+
+void PairJoinBuilder::joinView(int row, const LineView &view, std::vector<int> &claimed)
+{
+    const LineInput input = inputOf(m_source, row, view);
+    if (!m_target.conditionsHold(input))
+        return;
+    ++m_lines;
+    m_target.takeValues(input, m_values);
+    const std::vector<int> rows = m_target.equalRows(m_values, MaxClaimed);
+    if (rows.empty())
+        return;
+    if (m_join->m_hits[size_t(row)] < 0) {
+        const BoundTarget::Hit hit = m_target.findEqual(m_values);
+        m_join->m_hits[size_t(row)] = hit.row;
+        if (hit.several)
+            m_join->m_several.insert(row);
+    }
+    const bool first = m_values.search->onlyIndex() != nullptr;
+    for (int target : rows) {
+        if (std::find(claimed.begin(), claimed.end(), target) == claimed.end())
+            claimed.push_back(target);
+        if (first)
+            break;
+    }
+}
+
+void PairJoinBuilder::claim(int targetRow)
+{
+    quint8 &claims = m_join->m_claims[size_t(targetRow)];
+    claims = quint8(std::min(claims + 1, 2));
+}
+
+void PairJoinBuilder::pairOff()
+{
+    if (!m_target.table()->exactSearch(m_target.variables())->onlyIndex())
+        return;
+    int last = -1;
+    for (int row = 0; row < int(m_join->m_hits.size()); ++row) {
+        int &hit = m_join->m_hits[size_t(row)];
+        if (hit >= 0 && m_join->isSeveral(row) && m_join->claims(hit) > 1)
+            hit = nextEqual(hit, last);
+        last = hit >= 0 ? hit : last;
+    }
+}
+
+int PairJoinBuilder::nextEqual(int first, int after)
+{
+    const LineIndex &index = *m_target.table()->exactSearch(m_target.variables())->onlyIndex();
+    int &lastPaired = m_lastOfRing.try_emplace(first, -1).first->second;
+    int row = lastPaired >= 0 && lastPaired <= after ? lastPaired : first;
+    for (int steps = 0; row >= 0 && steps < MaxSteps; ++steps) {
+        const bool proposable = !m_target.shownOnly() || m_target.table()->isShown(row);
+        if (row > after && proposable)
+            break;
+        row = index.nextOf(row);
+    }
+    lastPaired = row >= 0 ? row : first;
+    return lastPaired;
+}
+
+void PairJoinBuilder::computeAgreement()
+{
+    int expected = std::min(m_lines, m_target.table()->data().rowCount());
+    if (m_hits < EnoughAgreement * expected && m_target.identity().isValid())
+        expected = countKnownKeys();
+    m_join->m_agreement = expected == 0 ? 1 : std::min(1.0, double(m_hits) / expected);
+}
+
+int PairJoinBuilder::countKnownKeys() const
+{
+    int known = 0;
+    TargetValues values;
+    for (int row = 0; row < m_source.data()->rowCount(); ++row) {
+        const LineView view(m_source.content(), m_source.data()->lineId(row));
+        const LineInput input = inputOf(m_source, row, view);
+        if (!m_target.conditionsHold(input))
+            continue;
+        m_target.takeValues(input, values);
+        known += m_target.identity().rows(input, values, 1).empty() ? 0 : 1;
+    }
+    return known;
+}
+
+} // namespace Mapper

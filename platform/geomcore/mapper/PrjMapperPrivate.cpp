@@ -1,0 +1,271 @@
+#include "PrjMapperPrivate.h"
+
+#include "ExactSearch.h"
+#include "LineCheck.h"
+#include "PairJoin.h"
+#include "Proposals.h"
+#include "TargetTable.h"
+#include "TargetTables.h"
+
+#include <geomcore/index/IndexTreeC.h>
+#include <geomcore/table/LineView.h>
+#include <geomcore/table/TableData.h>
+
+#include <algorithm>
+
+using Mapper::BoundTarget;
+using Mapper::LineInput;
+using Mapper::PairJoin;
+using Mapper::Proposal;
+using Mapper::TargetSet;
+
+namespace {
+
+/// The same but for their lines. Conditions and modifiers are shared immutable objects.
+bool haveSameTargets(const PrjMappingC &a, const PrjMappingC &b)
+{
+    if (a.getSourcePath() != b.getSourcePath() || a.countTargets() > b.countTargets())
+        return false;
+    for (int i = 0; i < a.countTargets(); ++i) {
+        const PrjMappingTargetC &first = a.targetAt(i);
+        const PrjMappingTargetC &second = b.targetAt(i);
+        if (first.getTargetPath() != second.getTargetPath() ||
+            first.getConditions() != second.getConditions() ||
+            first.getVarsetModifier() != second.getVarsetModifier())
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+PrjMapperPrivate::PrjMapperPrivate(const PRefPtr<IndexTreeC> &tree)
+    : indexTree(tree)
+{
+}
+
+PrjMapperPrivate::~PrjMapperPrivate() = default;
+
+void PrjMapperPrivate::setWorking(const PrjMappingC &mapping)
+{
+    working.set(mapping);
+    m_targets.reset();
+}
+
+void PrjMapperPrivate::adoptNode()
+{
+    if (!nodeHandedOut)
+        return;
+    nodeHandedOut = false;
+    setWorking(node.getMapping());
+}
+
+TargetSet &PrjMapperPrivate::targets()
+{
+    if (!m_targets)
+        m_targets = bind(working.mapping());
+    return *m_targets;
+}
+
+std::unique_ptr<TargetSet> PrjMapperPrivate::bind(const PrjMappingC &mapping) const
+{
+    const auto open = [tree = indexTree](const QString &path) {
+        const PPathName file = tree->compatiblePathToResolvedPath(PPathName(path));
+        return Mapper::TargetTables::instance().open(file.native());
+    };
+    return std::make_unique<TargetSet>(mapping, source, open, !creatorMode);
+}
+
+bool PrjMapperPrivate::isOwn(const PrjMapperLineC &line) const
+{
+    return line.m_pairs.isEmpty() && line.m_working == working.shared();
+}
+
+LineInput PrjMapperPrivate::input(int lineId, const Varset &varset) const
+{
+    LineInput input;
+    input.lineId = lineId;
+    input.row = source.rowOf(lineId);
+    input.varset = &varset;
+    return input;
+}
+
+LineInput PrjMapperPrivate::input(int lineId, const VKTab::LineView &view, Varset &converted) const
+{
+    if (!source.isValid() || view.table() != source.data().get()) {
+        converted = Mapper::varsetOf(view);
+        return input(lineId, converted);
+    }
+    LineInput input;
+    input.lineId = lineId;
+    input.row = view.row();
+    input.view = &view;
+    input.stored = view.isPlain();
+    return input;
+}
+
+PrjMapperLineC PrjMapperPrivate::toMapperLine(const PrjMappingLineC &line) const
+{
+    PrjMapperLineC result;
+    if (!line.isValid())
+        return result;
+    result.m_sourceLineId = line.getSourceLineId();
+    result.m_targetIndex = line.getTargetIndex();
+    result.m_targetLineId = line.getTargetLineId();
+    result.m_state = line.getCheckState();
+    result.m_valid = true;
+    result.m_inRealTarget = line.isInRealTarget();
+    result.m_found = line.isFound();
+    result.m_working = working.shared();
+    return result;
+}
+
+PrjMapperLineC PrjMapperPrivate::proposedLine(int lineId, const Proposal &proposal) const
+{
+    PrjMapperLineC result;
+    result.m_sourceLineId = lineId;
+    result.m_valid = true;
+    if (!proposal.target)
+        return result;
+    result.m_targetIndex = proposal.target->index();
+    const VKTab::LineId id = proposal.target->table()->data().lineId(proposal.row);
+    result.m_targetLineId = id.value(0);
+    result.m_inRealTarget = true;
+    result.m_found = true;
+    result.m_working = working.shared();
+    result.setLineId(id);
+    return result;
+}
+
+PrjMapperLineC PrjMapperPrivate::createLine(const LineInput &line, bool firstTargetOnly)
+{
+    working.note(line.lineId);
+    collectOpenTargets(line, firstTargetOnly);
+    Proposal proposal = findEqual(line);
+    if (!proposal.target && !hasEqualCombination(line))
+        proposal = Mapper::Proposals(targets(), m_open).find(line);
+    return proposedLine(line.lineId, proposal);
+}
+
+void PrjMapperPrivate::collectOpenTargets(const LineInput &line, bool firstOnly)
+{
+    m_open.clear();
+    TargetSet &all = targets();
+    for (int i = 0; i < all.count(); ++i) {
+        const BoundTarget *target = all.at(i, working.mapping());
+        if (!target || !target->conditionsHold(line))
+            continue;
+        if (target->isOpen())
+            m_open.push_back(target);
+        if (firstOnly)
+            return;
+    }
+}
+
+Proposal PrjMapperPrivate::findEqual(const LineInput &line)
+{
+    const bool joined = line.stored && targets().ranges().isEmpty();
+    for (const BoundTarget *target : m_open) {
+        const PairJoin *join = line.row >= 0 ? target->join() : nullptr;
+        if (join && joined) {
+            if (join->hit(line.row) >= 0)
+                return {target, join->hit(line.row)};
+            continue;
+        }
+        target->takeValues(line, m_values);
+        const BoundTarget::Hit hit = target->findEqual(m_values);
+        if (hit.row < 0)
+            continue;
+        const int paired = join && hit.several ? join->hit(line.row) : -1;
+        if (paired >= 0 && m_values.search->equals(m_values.texts, paired))
+            return {target, paired};
+        return {target, hit.row};
+    }
+    return {};
+}
+
+bool PrjMapperPrivate::hasEqualCombination(const LineInput &line)
+{
+    TargetSet &all = targets();
+    if (line.row < 0 || all.ranges().isEmpty())
+        return false;
+    for (int i = 0; i < all.count(); ++i) {
+        const BoundTarget *target = all.at(i, working.mapping());
+        const PairJoin *join = target ? target->join() : nullptr;
+        if (join && join->hit(line.row) >= 0)
+            return true;
+    }
+    return false;
+}
+
+PrjMapperPrivate::Bound PrjMapperPrivate::boundFor(const PrjMapperLineC &line)
+{
+    if (isOwn(line))
+        return {&targets(), &working.mapping(), {}};
+    const PrjMappingC *mapping = line.currentMapping();
+    // A line that was looked up before the last change.
+    if (mapping && haveSameTargets(*mapping, working.mapping()))
+        return {&targets(), &working.mapping(), {}};
+    Bound bound;
+    bound.owned = bind(mapping ? *mapping : PrjMappingC());
+    bound.targets = bound.owned.get();
+    bound.mapping = mapping;
+    return bound;
+}
+
+PrjMapperPrivate::Varset PrjMapperPrivate::updateVarset(const PrjMapperLineC &line,
+                                                        const LineInput &input,
+                                                        VarsetModeFlags mode)
+{
+    const Varset own = input.view ? Mapper::varsetOf(*input.view) : *input.varset;
+    if (!line.currentMapping())
+        return mode & VarsetTargetVariables ? Varset() : own;
+    const Bound bound = boundFor(line);
+    const BoundTarget *target = bound.targets->at(line.getTargetIndex(), *bound.mapping);
+    Varset values = target ? target->updateVarset(input) : own;
+    if (!(mode & VarsetTargetVariables))
+        return values;
+    values.removeIf([&](const Varset::iterator &value) {
+        return !target || !target->isOpen() ||
+               !target->table()->content().getVar(value.key()).isValid();
+    });
+    return values;
+}
+
+bool PrjMapperPrivate::passes(const PrjMapperLineC &line, const LineInput &input,
+                              CheckModeFlags mode)
+{
+    if (!line.isValid() || !line.isFound())
+        return false;
+    const Bound bound = boundFor(line);
+    Mapper::LineCheck::Assignment assignment;
+    assignment.line = input;
+    assignment.targetIndex = line.getTargetIndex();
+    assignment.targetLine = line.getTargetLineId();
+    assignment.automatic = line.m_pairs.isEmpty();
+    return Mapper::LineCheck(*bound.targets, *bound.mapping).passes(assignment, mode);
+}
+
+PrjMapperCheckResultC PrjMapperPrivate::check(const PrjMapperLineC &line, const LineInput &input,
+                                              const Varset *targetVarset, CheckModeFlags mode,
+                                              const QString &text)
+{
+    if (!line.isValid() || !line.isFound())
+        return {false, QString(), QString(), {}, {}, {}};
+    const Bound bound = boundFor(line);
+    Mapper::LineCheck::Assignment assignment;
+    assignment.line = input;
+    assignment.targetIndex = line.getTargetIndex();
+    assignment.targetLine = line.getTargetLineId();
+    assignment.targetVarset = targetVarset;
+    assignment.automatic = line.m_pairs.isEmpty();
+    QStringList messages =
+        Mapper::LineCheck(*bound.targets, *bound.mapping).messages(assignment, mode);
+    if (messages.isEmpty())
+        return {true, QString(), QString(), {}, {}, {}};
+    for (QString &message : messages)
+        message.prepend(text);
+    const Varset own = input.view ? Mapper::varsetOf(*input.view) : *input.varset;
+    const Varset seen = targetVarset ? *targetVarset : updateVarset(line, input, {});
+    return {false, QString(), QString(), messages, own, seen};
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "PrjMapperC.h"
+#include "Proposals.h"
+#include "SourceTable.h"
+#include "TargetSet.h"
+#include "WorkingMapping.h"
+
+#include <core/text/PPathName.h>
+
+#include <memory>
+#include <vector>
+
+/// What PrjMapperC works with. Targets are bound at the first need after a change of anything that
+/// they depend on.
+class PrjMapperPrivate
+{
+public:
+    using Varset = PrjMapperC::Varset;
+
+    explicit PrjMapperPrivate(const PRefPtr<IndexTreeC> &tree);
+    ~PrjMapperPrivate();
+
+    void setWorking(const PrjMappingC &mapping);
+    /// Takes over what was assigned to the node since it was handed out.
+    void adoptNode();
+    /// The working mapping's targets.
+    [[nodiscard]] Mapper::TargetSet &targets();
+    [[nodiscard]] std::unique_ptr<Mapper::TargetSet> bind(const PrjMappingC &mapping) const;
+    /// The line is one that this mapper looked up in the working mapping as it still is.
+    [[nodiscard]] bool isOwn(const PrjMapperLineC &line) const;
+
+    [[nodiscard]] Mapper::LineInput input(int lineId, const Varset &varset) const;
+    /// \a converted takes the values if the view is not one of the source table.
+    [[nodiscard]] Mapper::LineInput input(int lineId, const VKTab::LineView &view,
+                                          Varset &converted) const;
+
+    [[nodiscard]] PrjMapperLineC toMapperLine(const PrjMappingLineC &line) const;
+    [[nodiscard]] PrjMapperLineC createLine(const Mapper::LineInput &line, bool firstTargetOnly);
+    [[nodiscard]] Varset updateVarset(const PrjMapperLineC &line, const Mapper::LineInput &input,
+                                      VarsetModeFlags mode);
+    [[nodiscard]] PrjMapperCheckResultC check(const PrjMapperLineC &line,
+                                              const Mapper::LineInput &input,
+                                              const Varset *targetVarset, CheckModeFlags mode,
+                                              const QString &text);
+    [[nodiscard]] bool passes(const PrjMapperLineC &line, const Mapper::LineInput &input,
+                              CheckModeFlags mode);
+
+    /// Ranges of the source table that conditions of the line's mapping read.
+    [[nodiscard]] QStringList rangesFor(const PrjMapperLineC &line)
+    {
+        return boundFor(line).targets->ranges();
+    }
+
+    const PRefPtr<IndexTreeC> indexTree;
+    bool creatorMode = false;
+    PPathName sourceProject;
+    Mapper::SourceTable source;
+    Mapper::WorkingMapping working;
+    MappingNodeC node;
+    bool nodeHandedOut = false;
+
+private:
+    struct Bound
+    {
+        Mapper::TargetSet *targets = nullptr;
+        const PrjMappingC *mapping = nullptr;
+        std::unique_ptr<Mapper::TargetSet> owned;
+    };
+    /// The targets of the mapping that the line's last pair holds.
+    [[nodiscard]] Bound boundFor(const PrjMapperLineC &line);
+    void collectOpenTargets(const Mapper::LineInput &line, bool firstOnly);
+    [[nodiscard]] Mapper::Proposal findEqual(const Mapper::LineInput &line);
+    [[nodiscard]] bool hasEqualCombination(const Mapper::LineInput &line);
+    [[nodiscard]] PrjMapperLineC proposedLine(int lineId, const Mapper::Proposal &proposal) const;
+
+    friend class PrjMapperC;
+    std::unique_ptr<Mapper::TargetSet> m_targets;
+    std::vector<const Mapper::BoundTarget *> m_open;
+    Mapper::TargetValues m_values;
+};

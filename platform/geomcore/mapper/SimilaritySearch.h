@@ -1,0 +1,47 @@
+#pragma once
+
+#include "LineTexts.h"
+
+#include <memory>
+#include <vector>
+
+namespace Mapper {
+
+class NearCells;
+class ComparableCell;
+class TargetTable;
+
+/// Finds the line of a table that is most similar to given values on a set of variables. Looks only
+/// at lines that share something with the values in the variables that choose best.
+class SimilaritySearch
+{
+public:
+    struct Result
+    {
+        int row = -1; ///< The most similar one, the first in display order of several.
+        double best = 0;
+        double second = 0; ///< 0 if there is no other.
+    };
+
+    SimilaritySearch(const TargetTable &table, const std::vector<int> &variables);
+
+    /// From 0 to 1: mean over the variables in which either side has a value; one without a value
+    /// counts 0.
+    [[nodiscard]] double similarity(const LineTexts &line, int row) const;
+    /// \a alsoRow is looked at in any case unless it is -1. \a shownOnly leaves out lines that the
+    /// project hides.
+    [[nodiscard]] Result find(const LineTexts &line, int alsoRow, bool shownOnly) const;
+    /// The best among these rows.
+    [[nodiscard]] Result best(const LineTexts &line, const std::vector<int> &rows) const;
+
+private:
+    using Cells = std::vector<ComparableCell>;
+
+    [[nodiscard]] double similarity(const LineTexts &line, const Cells &cells, int row) const;
+    [[nodiscard]] std::vector<int> candidates(const Cells &cells) const;
+
+    const TargetTable &m_table;
+    std::vector<int> m_variables;
+};
+
+} // namespace Mapper

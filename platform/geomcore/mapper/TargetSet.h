@@ -1,0 +1,51 @@
+#pragma once
+
+#include "BoundTarget.h"
+#include "NameRank.h"
+#include "SourceTable.h"
+
+#include <geomcore/records/PrjMappingC.h>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace Mapper {
+
+/// The targets of one mapping, each bound at the first need. One thread.
+class TargetSet
+{
+public:
+    /// Gives the table of a target path, null if it cannot be read.
+    using Open = std::function<std::shared_ptr<const TargetTable>(const QString &targetPath)>;
+
+    /// The source outlives this. \a shownOnly: lines that a target project hides do not count.
+    TargetSet(const PrjMappingC &mapping, const SourceTable &source, Open open, bool shownOnly);
+
+    [[nodiscard]] int count() const { return int(m_targets.size()); }
+    /// Null for the not-found target and for an unknown index. \a mapping is the one given at
+    /// construction, but for its lines.
+    [[nodiscard]] const BoundTarget *at(int index, const PrjMappingC &mapping);
+    /// What the name says; a project with a confirmed line counts as one of the same name at least.
+    [[nodiscard]] NameRank rank(const BoundTarget &target) const;
+    /// Ranges of the source table that conditions of any target read.
+    [[nodiscard]] const QStringList &ranges() const { return m_ranges; }
+    [[nodiscard]] const QString &sourcePath() const { return m_sourcePath; }
+    [[nodiscard]] const SourceTable &source() const { return m_source; }
+
+private:
+    struct Slot
+    {
+        bool bound = false;
+        std::unique_ptr<const BoundTarget> target;
+    };
+
+    const SourceTable &m_source;
+    const Open m_open;
+    const bool m_shownOnly;
+    const QString m_sourcePath;
+    QStringList m_ranges;
+    std::vector<Slot> m_targets;
+};
+
+} // namespace Mapper

@@ -1,0 +1,139 @@
+#include "TargetTable.h"
+
+#include "DesignationIndex.h"
+#include "ElementIndex.h"
+#include "ExactSearch.h"
+#include "NearCells.h"
+#include "PairJoin.h"
+#include "SourceTable.h"
+
+#include <geomcore/table/FileLayer.h>
+#include <geomcore/table/LineMapping.h>
+#include <geomcore/table/LineView.h>
+#include <geomcore/table/TableData.h>
+
+namespace Mapper {
+
+using VKTab::FieldKind;
+using VKTab::LineIndex;
+using VKTab::LineSet;
+using VKTab::LineView;
+using VKTab::TableField;
+
+namespace {
+
+/// The names under which a project's own choice of lines stands in a table.
+const QString projectConditions[] = {QStringLiteral("PRJLINECOND"), QStringLiteral("BYPRJ")};
+
+bool isCompared(const TableField &field)
+{
+    return field.kind == FieldKind::Plain || field.kind == FieldKind::Range ||
+           field.kind == FieldKind::Computed;
+}
+
+} // namespace
+
+TargetTable::TargetTable(const VKTab::Content &content)
+    : m_content(content)
+    , m_data(content.getTableData())
+{
+    const QList<TableField> &fields = m_data->descriptor().fields;
+    for (int column = 0; column < int(fields.size()); ++column) {
+        const TableField &field = fields[column];
+        if (isCompared(field)) {
+            m_variables.push_back({field.name, column, field.isRange(),
+                                   column < m_data->columnCount(), field.decimalChar});
+        }
+    }
+    takeFilterConditions();
+}
+
+TargetTable::~TargetTable() = default;
+
+void TargetTable::takeFilterConditions()
+{
+    const VKTab::LineMapping shown = m_content.getLineMapping();
+    if (shown.count() != m_data->rowCount()) {
+        auto rows = std::make_unique<LineSet>(m_data->rowCount(), false);
+        for (int i = 0; i < shown.count(); ++i)
+            rows->insert(m_data->rowOf(shown.getLineId(i)));
+        m_shown = std::move(rows);
+    }
+    for (const QString &name : projectConditions)
+        m_content.getFileLayer()->removeFilterCondition(name);
+}
+
+int TargetTable::variableOf(const QString &name) const
+{
+    for (size_t i = 0; i < m_variables.size(); ++i) {
+        if (m_variables[i].name == name)
+            return int(i);
+    }
+    return -1;
+}
+
+std::string_view TargetTable::text(int row, int variable, std::string &scratch) const
+{
+    const TargetVariable &target = m_variables[size_t(variable)];
+    if (!target.stored)
+        return LineView(*m_data, row).text(target.column, scratch);
+    const std::string_view cell = m_data->cell(row, target.column, scratch);
+    return m_data->isMissing(cell) ? std::string_view() : VKTab::trimmedCell(cell);
+}
+
+std::string TargetTable::normDesignation(int row) const
+{
+    std::string scratch;
+    return DesignationPattern::ofDesignation(m_data->descriptor()).text([&](const QString &name) {
+        const int variable = variableOf(name);
+        return variable < 0 ? std::string() : std::string(text(row, variable, scratch));
+    });
+}
+
+std::shared_ptr<const ExactSearch> TargetTable::exactSearch(const std::vector<int> &variables) const
+{
+    return m_exact.get(variables, [&] { return std::make_shared<ExactSearch>(*this, variables); });
+}
+
+std::shared_ptr<const LineIndex> TargetTable::lineIndex(const std::vector<int> &variables) const
+{
+    return m_indexes.get(variables, [&] {
+        std::vector<LineIndex::Key> keys;
+        for (int variable : variables) {
+            keys.push_back({m_variables[size_t(variable)].column, VKTab::CompareMode::Number});
+        }
+        return std::make_shared<LineIndex>(m_data, std::move(keys));
+    });
+}
+
+std::shared_ptr<const ElementIndex> TargetTable::elementIndex(int variable) const
+{
+    return m_elements.get(variable,
+                          [&] { return std::make_shared<ElementIndex>(*this, variable); });
+}
+
+std::shared_ptr<const NearCells> TargetTable::nearCells(int variable) const
+{
+    return m_columns.get(variable, [&] { return std::make_shared<NearCells>(*this, variable); });
+}
+
+std::shared_ptr<const DesignationIndex> TargetTable::designations() const
+{
+    return m_designations.get(0, [&] { return std::make_shared<DesignationIndex>(*this); });
+}
+
+std::shared_ptr<const std::vector<int>> TargetTable::keyVariables() const
+{
+    return m_keyVariables.get(0, [&] {
+        auto variables = std::make_shared<std::vector<int>>();
+        for (int column : keyColumnsOf(m_data)) {
+            const int variable = variableOf(m_data->descriptor().fields[column].name);
+            if (variable < 0 || m_variables[size_t(variable)].range)
+                return std::make_shared<std::vector<int>>();
+            variables->push_back(variable);
+        }
+        return variables;
+    });
+}
+
+} // namespace Mapper

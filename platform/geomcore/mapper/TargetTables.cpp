@@ -1,0 +1,92 @@
+#include "TargetTables.h"
+
+#include "TargetTable.h"
+
+#include <geomcore/project/PrjClass.h>
+#include <geomcore/table/Reader.h>
+#include <geomcore/table/TableData.h>
+
+#include <algorithm>
+
+namespace Mapper {
+
+namespace {
+
+QStringList filesOf(const QString &projectPath, const PrjClass &project,
+                    const VKTab::Content &content)
+{
+    QStringList files{projectPath};
+    if (!project.tableFile().isEmpty())
+        files.append(project.tableFile());
+    if (const auto data = content.getTableData())
+        files.append(data->fileName());
+    return files;
+}
+
+} // namespace
+
+TargetTables &TargetTables::instance()
+{
+    static TargetTables tables;
+    return tables;
+}
+
+std::shared_ptr<const TargetTable> TargetTables::open(const QString &nativeProjectPath)
+{
+    const std::shared_ptr<Entry> entry = entryFor(nativeProjectPath);
+    std::shared_ptr<const TargetTable> table;
+    {
+        const std::lock_guard lock(entry->mutex);
+        table = entry->table.lock();
+        if (!table || FileStamps(entry->stamps.paths()) != entry->stamps)
+            table = read(*entry);
+    }
+    keep(entry, table);
+    return table;
+}
+
+std::shared_ptr<const TargetTable> TargetTables::read(Entry &entry)
+{
+    const refHandle<PrjClass> project(new PrjClass(false, false, false));
+    project->read(entry.path, PrjClass::ReadAll);
+    const bool told = entry.failed && FileStamps(entry.stamps.paths()) == entry.stamps;
+    VKTab::Content content;
+    VKTab::Reader reader;
+    const bool wasRead = reader.readByProject(project, content, !told) == 1;
+    entry.failed = !wasRead;
+    entry.stamps = FileStamps(filesOf(entry.path, *project, content));
+    const auto table = wasRead ? std::make_shared<const TargetTable>(content) : nullptr;
+    entry.table = table;
+    return table;
+}
+
+std::shared_ptr<TargetTables::Entry> TargetTables::entryFor(const QString &path)
+{
+    const std::lock_guard lock(m_mutex);
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&](const auto &entry) { return entry->path == path; });
+    if (found != m_entries.end()) {
+        m_entries.splice(m_entries.begin(), m_entries, found);
+        return m_entries.front();
+    }
+    auto entry = std::make_shared<Entry>();
+    entry->path = path;
+    m_entries.push_front(entry);
+    if (m_entries.size() > MaxKnown)
+        m_entries.pop_back();
+    return entry;
+}
+
+void TargetTables::keep(const std::shared_ptr<Entry> &entry,
+                        const std::shared_ptr<const TargetTable> &table)
+{
+    const std::lock_guard lock(m_mutex);
+    entry->kept = table;
+    size_t kept = 0;
+    for (const std::shared_ptr<Entry> &other : m_entries) {
+        if (other->kept && ++kept > MaxKept)
+            other->kept.reset();
+    }
+}
+
+} // namespace Mapper
