@@ -38,6 +38,9 @@ endif()
 if(VELK_SANITIZE)
   add_compile_options(-fsanitize=${VELK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
                       -O1)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    add_compile_options(-fsanitize-ignorelist=${CMAKE_SOURCE_DIR}/cmake/sanitizers.ignore)
+  endif()
   add_link_options(-fsanitize=${VELK_SANITIZE})
 endif()
 
