@@ -40,6 +40,26 @@ class tst_PrjClass : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void relativePathFindsItsTable()
+    {
+        const QTemporaryDir dir;
+        QVERIFY(QDir(dir.path()).mkpath("a/b"));
+        QFile file(dir.filePath("a/b/p.prj"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[PROJECT]\nSACHM=p.json\n");
+        file.close();
+        const QString former = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(dir.path()));
+        PrjClass project(false, false, false);
+        const int result = project.read("a/b/p.prj", 7);
+        const QString table = project.tableFile();
+        QDir::setCurrent(former);
+        QCOMPARE(result, 1);
+        QCOMPARE(QFileInfo(table).canonicalPath(),
+                 QFileInfo(dir.filePath("a/b/p.prj")).canonicalPath());
+        QCOMPARE(QFileInfo(table).fileName(), QString("p.json"));
+    }
+
     void init();
     void cleanup();
     void fileReads();

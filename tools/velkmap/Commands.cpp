@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "AssignCommand.h"
 #include "CreateCommand.h"
 #include "ExportCommand.h"
 #include "ImportCommand.h"
@@ -35,6 +36,7 @@ const QList<Command> &commands()
     static const QList<Command> list = {
         {"import", "makes a catalog of a folder tree of CSV tables", runImport},
         {"create", "writes a release mapping with the targets of each old project", runCreate},
+        {"assign", "assigns the lines of a release mapping", runAssign},
         {"stats", "counts the lines by their state", runStats},
         {"export", "writes a release mapping as a CSV file", runExport},
     };

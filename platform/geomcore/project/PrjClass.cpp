@@ -2,6 +2,7 @@
 
 #include "PrjFile.h"
 
+#include <QDir>
 #include <QLockFile>
 
 PrjClass::PrjClass(bool keepRelative, bool create, bool lock)
@@ -15,7 +16,8 @@ PrjClass::~PrjClass() = default;
 
 int PrjClass::read(const QString &nativePath, int parts)
 {
-    m_path = nativePath;
+    // Absolute, so that the table's path is right wherever it is asked for.
+    m_path = QDir::isRelativePath(nativePath) ? QDir().absoluteFilePath(nativePath) : nativePath;
     m_valid = false;
     m_errorText.clear();
     m_lexems.clear();
