@@ -62,6 +62,7 @@ private Q_SLOTS:
     void badTables_data();
     void badTables();
     void goodTablesBesideBadOnes();
+    void sameNameTwice();
     void brokenFormerTable();
     void notesContradictions();
     void leftOvers();
@@ -531,6 +532,15 @@ void tst_Import::goodTablesBesideBadOnes()
     QVERIFY(table("a") && table("d"));
     QVERIFY(m_out.endsWith("2 tables with 2 lines: 2 new, 0 changed, 0 unchanged; 2 could not be "
                            "imported\n"));
+}
+
+void tst_Import::sameNameTwice()
+{
+    writeFile(from("a.CSV"), "a\n1\n");
+    writeFile(from("a.csv"), "a\n2\n");
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QCOMPARE(m_err, from("a.csv") + ": would become the same table as a.CSV; rename one\n");
+    QCOMPARE(table("a")->text(0, 0), QStringLiteral("1"));
 }
 
 void tst_Import::brokenFormerTable()

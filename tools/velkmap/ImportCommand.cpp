@@ -102,6 +102,15 @@ QStringList ImportRun::findTables(const QDir &from)
         }
     }
     std::sort(tables.begin(), tables.end());
+    const auto sameTable = [this, &from](const QString &a, const QString &b) {
+        if (withoutEnding(a) != withoutEnding(b))
+            return false;
+        m_err << from.filePath(b) << ": would become the same table as " << a << "; rename one\n";
+        m_status = ExitStatus::InputUnreadable;
+        ++m_failed;
+        return true;
+    };
+    tables.erase(std::unique(tables.begin(), tables.end(), sameTable), tables.end());
     return tables;
 }
 

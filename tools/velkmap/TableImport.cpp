@@ -207,24 +207,24 @@ void TableImport::makeCsv()
     const size_t lineFeed = source.find('\n');
     const bool crlf =
         lineFeed != std::string_view::npos && lineFeed > 0 && source[lineFeed - 1] == '\r';
-    const std::string lineEnd = crlf ? "\r\n" : "\n";
-    std::string out;
-    out.reserve(source.size() + m_lineNumbers.size() * 8 + 64);
+    const QByteArray lineEnd = crlf ? "\r\n" : "\n";
+    std::string header;
     QStringList names = uniqueColumnNames(m_source->header());
     if (m_addsIds)
         names.append(m_descriptor.lineIdField);
     for (qsizetype i = 0; i < names.size(); ++i) {
-        out += i == 0 ? "" : ",";
-        appendCell(out, names.at(i).toStdString());
+        header += i == 0 ? "" : ",";
+        appendCell(header, names.at(i).toStdString());
     }
-    out += lineEnd;
+    m_csv.reserve(qsizetype(source.size() + header.size() + m_lineNumbers.size() * 12));
+    m_csv.append(header.data(), qsizetype(header.size())).append(lineEnd);
     for (int row = 0; row < m_source->rowCount(); ++row) {
-        out += m_source->rawRow(row);
+        const std::string_view cells = m_source->rawRow(row);
+        m_csv.append(cells.data(), qsizetype(cells.size()));
         if (m_addsIds)
-            out += ',' + std::to_string(m_lineNumbers[size_t(row)]);
-        out += lineEnd;
+            m_csv.append(',').append(QByteArray::number(m_lineNumbers[size_t(row)]));
+        m_csv.append(lineEnd);
     }
-    m_csv = QByteArray(out.data(), qsizetype(out.size()));
 }
 
 void TableImport::compareWithFormer()

@@ -109,7 +109,6 @@ void CsvScan::scanQuoted()
     }
     m_quoteBit = QuoteBit;
     m_at = quint64(end - m_bytes.data());
-    m_checked = std::max(m_checked, m_at);
 }
 
 void CsvScan::endRow(quint64 lineFeed)
