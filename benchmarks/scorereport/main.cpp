@@ -45,7 +45,7 @@ QList<Run> runsOf(const QString &folder)
 /// False if the road or the truth cannot be had; the reason is printed.
 bool printScore(const Run &run, QTextStream &out, QStringList &wrong)
 {
-    const QTemporaryDir work;
+    const QTemporaryDir work(SampleRoad::workTemplate());
     const SampleRoad road =
         SampleRoad::run(run.oldTables(), run.newTables(), run.columns, work.path());
     TruthFile truth;

@@ -6,6 +6,7 @@
 #include <tools/velkmap/Commands.h>
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTextStream>
 
 namespace {
@@ -30,6 +31,12 @@ QString import(const QString &tables, const QString &root, const QString &date)
 }
 
 } // namespace
+
+QString SampleRoad::workTemplate()
+{
+    const QFileInfo memory("/dev/shm");
+    return (memory.isWritable() ? memory.filePath() : QDir::tempPath()) + "/velkroad-XXXXXX";
+}
 
 SampleRoad SampleRoad::run(const QString &oldTables, const QString &newTables, Columns columns,
                            const QString &workDirectory)

@@ -16,6 +16,10 @@ struct SampleRoad
     /// releases are named "catalog".
     [[nodiscard]] static SampleRoad run(const QString &oldTables, const QString &newTables,
                                         Columns columns, const QString &workDirectory);
+    /// Template for a QTemporaryDir, in memory where the system offers that: an import makes a
+    /// thousand small files and waits for the disk after each.
+    [[nodiscard]] static QString workTemplate();
+
     /// create and assign for catalogs at hand.
     [[nodiscard]] static SampleRoad run(const QString &oldRoot, const QString &newRoot,
                                         const QString &catalog, const QString &mappingFile);
