@@ -54,12 +54,11 @@ bool ReleaseMappingHandler::commitModifications()
     PJsonValue value;
     d->release->toJson(value, false);
     document[d->release->getSourceDate()] = value;
-    const QByteArray bytes = document.toByteArray(false);
 
     QFile file(path.native());
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    const bool written = file.write(bytes) == bytes.size();
+    const bool written = document.writeTo(file, false);
     // A full disk may show only when what was taken is handed on.
     return file.flush() && written;
 }

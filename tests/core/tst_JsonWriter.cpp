@@ -1,6 +1,7 @@
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
 
+#include <QBuffer>
 #include <QTest>
 
 #include <limits>
@@ -94,8 +95,82 @@ private Q_SLOTS:
         writer.beginArray();
         writer.written("[\n 1\n]", 1);
         writer.written("[\n 1\n]");
+        writer.written("[\n    1\n   ]", -2);
+        writer.written("[\n    1\n   ]", -9);
         writer.endArray();
-        QCOMPARE(writer.take(), QByteArray("[\n [\n  1\n ],\n [\n 1\n]\n]"));
+        QCOMPARE(writer.take(),
+                 QByteArray("[\n [\n  1\n ],\n [\n 1\n],\n [\n  1\n ],\n [\n1\n]\n]"));
+    }
+
+    void rows()
+    {
+        JsonWriter writer(JsonWriter::Indented);
+        writer.beginArray();
+        writer.row({});
+        writer.row({7});
+        writer.row({std::numeric_limits<int>::min(), 0, std::numeric_limits<int>::max()});
+        writer.endArray();
+        QCOMPARE(writer.take(), QByteArray("[\n [],\n [7],\n [-2147483648,0,2147483647]\n]"));
+    }
+
+    void deepLevels()
+    {
+        JsonWriter writer(JsonWriter::Indented);
+        for (int i = 0; i < 100; ++i)
+            writer.beginArray();
+        for (int i = 0; i < 100; ++i)
+            writer.endArray();
+        QByteArray expected = "[";
+        for (int i = 1; i < 100; ++i)
+            expected += '\n' + QByteArray(i, ' ') + '[';
+        expected += ']';
+        for (int i = 98; i >= 0; --i)
+            expected += '\n' + QByteArray(i, ' ') + ']';
+        QCOMPARE(writer.take(), expected);
+    }
+
+    void intoADevice()
+    {
+        const QByteArray large(600000, 'x');
+        const auto write = [&](JsonWriter &writer) {
+            writer.beginArray();
+            for (int i = 0; i < 100000; ++i)
+                writer.row({i, -i});
+            writer.written('"' + large + '"');
+            writer.value(QStringView(QString::fromLatin1(large)));
+            for (int i = 0; i < 1000; ++i)
+                writer.value("text");
+            writer.endArray();
+        };
+        JsonWriter collected(JsonWriter::Indented);
+        write(collected);
+        QBuffer device;
+        QVERIFY(device.open(QIODevice::WriteOnly));
+        JsonWriter handedOn(device, JsonWriter::Indented);
+        write(handedOn);
+        QVERIFY(handedOn.finish());
+        QCOMPARE(handedOn.size(), collected.size());
+        QCOMPARE(device.data(), collected.take());
+    }
+
+    void refusingDevice_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::newRow("at the end") << 3;
+        QTest::newRow("in between") << 100000;
+    }
+    void refusingDevice()
+    {
+        QFETCH(int, rows);
+        QBuffer closed;
+        QVERIFY(closed.open(QIODevice::ReadOnly));
+        QTest::ignoreMessage(QtWarningMsg, "QIODevice::write (QBuffer): ReadOnly device");
+        JsonWriter writer(closed, JsonWriter::Indented);
+        writer.beginArray();
+        for (int i = 0; i < rows; ++i)
+            writer.row({i});
+        writer.endArray();
+        QVERIFY(!writer.finish());
     }
 };
 

@@ -1,5 +1,7 @@
+#include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
 
+#include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -169,6 +171,53 @@ private Q_SLOTS:
         byText["x"]["y"]["c"] = PJsonValue();
         byTree["x"]["y"]["c"] = PJsonValue();
         QCOMPARE(byText.toByteArray(false), byTree.toByteArray(false));
+    }
+
+    void fromWriter()
+    {
+        int calls = 0;
+        const PJsonValue value = PJsonValue::fromWriter(PJsonValue::Object, [&](JsonWriter &w) {
+            ++calls;
+            w.beginObject();
+            w.key("a");
+            w.beginArray();
+            w.row({1, 2});
+            w.endArray();
+            w.endObject();
+        });
+        QCOMPARE(calls, 0);
+        QVERIFY(value.isObject());
+        PJsonValue document;
+        document["x"] = value;
+        QCOMPARE(calls, 0);
+        QCOMPARE(document.toByteArray(false),
+                 QByteArray("{\n \"x\": {\n  \"a\": [\n   [1,2]\n  ]\n }\n}\n"));
+        QCOMPARE(document.toByteArray(true), QByteArray("{\"x\":{\"a\":[[1,2]]}}"));
+        QCOMPARE(value.rawText(), QByteArray("{\"a\":[[1,2]]}"));
+        calls = 0;
+        QCOMPARE(value.value("a").at(0).at(1).toInt(), 2);
+        QCOMPARE(value.keys(), QStringList{"a"});
+        QCOMPARE(calls, 1);
+        PJsonValue changed = value;
+        changed["b"] = PJsonValue();
+        QCOMPARE(changed.toByteArray(true), QByteArray("{\"a\":[[1,2]],\"b\":null}"));
+        document["y"] = changed;
+        QCOMPARE(document.value("y").toByteArray(false), changed.toByteArray(false));
+        QCOMPARE(value.toByteArray(true), QByteArray("{\"a\":[[1,2]]}"));
+    }
+
+    void writeTo()
+    {
+        const PJsonValue value = parsed("{ \"a\" : [ 1 ] }");
+        for (bool compact : {false, true}) {
+            QBuffer buffer;
+            QVERIFY(buffer.open(QIODevice::WriteOnly));
+            QVERIFY(value.writeTo(buffer, compact));
+            QCOMPARE(buffer.data(), value.toByteArray(compact));
+        }
+        QFile full("/dev/full");
+        QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        QVERIFY(!value.writeTo(full, false));
     }
 
     void compactKeepsBlanksInTexts()

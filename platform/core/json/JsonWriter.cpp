@@ -1,10 +1,21 @@
 #include "JsonWriter.h"
 
+#include <QIODevice>
+
+#include <rapidjson/internal/itoa.h>
+
 #include <charconv>
 #include <cmath>
 #include <cstring>
 
 namespace {
+
+using rapidjson::internal::i32toa;
+using rapidjson::internal::i64toa;
+
+/// A device is given pieces of about this size.
+constexpr qsizetype PieceSize = 256 * 1024;
+constexpr std::string_view Blanks = "                ";
 
 bool mustBeEscaped(char c)
 {
@@ -53,6 +64,27 @@ JsonWriter::JsonWriter(Layout layout, int level)
 {
 }
 
+JsonWriter::JsonWriter(QIODevice &device, Layout layout)
+    : m_device(&device)
+    , m_layout(layout)
+    , m_level(0)
+{
+}
+
+void JsonWriter::row(std::initializer_list<int> numbers)
+{
+    beforeValue();
+    char *at = reserve(qsizetype(numbers.size()) * 12 + 2);
+    *at++ = '[';
+    for (int number : numbers) {
+        at = i32toa(number, at);
+        *at++ = ',';
+    }
+    at -= numbers.size() > 0 ? 1 : 0;
+    *at++ = ']';
+    m_at = at;
+}
+
 void JsonWriter::key(std::string_view name)
 {
     startRow();
@@ -63,8 +95,10 @@ void JsonWriter::key(std::string_view name)
 
 void JsonWriter::key(QStringView name)
 {
-    const QByteArray utf8 = name.toUtf8();
-    key(std::string_view(utf8.constData(), std::size_t(utf8.size())));
+    startRow();
+    putText(name);
+    put(m_layout == Indented ? ": " : ":");
+    m_afterKey = true;
 }
 
 void JsonWriter::value(std::string_view utf8)
@@ -75,15 +109,20 @@ void JsonWriter::value(std::string_view utf8)
 
 void JsonWriter::value(QStringView text)
 {
-    const QByteArray utf8 = text.toUtf8();
-    value(std::string_view(utf8.constData(), std::size_t(utf8.size())));
+    beforeValue();
+    putText(text);
+}
+
+void JsonWriter::value(int number)
+{
+    beforeValue();
+    m_at = i32toa(number, reserve(12));
 }
 
 void JsonWriter::value(qint64 number)
 {
     beforeValue();
-    char *at = reserve(24);
-    m_at = std::to_chars(at, m_end, number).ptr;
+    m_at = i64toa(number, reserve(24));
 }
 
 void JsonWriter::value(bool flag)
@@ -112,27 +151,38 @@ void JsonWriter::null()
 void JsonWriter::written(QByteArrayView json, int indentBy)
 {
     beforeValue();
+    if (indentBy == 0) {
+        put(std::string_view(json.data(), std::size_t(json.size())));
+        return;
+    }
     const char *from = json.data();
     const char *const end = from + json.size();
     while (from != end) {
-        const void *feed =
-            indentBy > 0 ? std::memchr(from, '\n', std::size_t(end - from)) : nullptr;
+        const void *feed = std::memchr(from, '\n', std::size_t(end - from));
         const char *to = feed ? static_cast<const char *>(feed) + 1 : end;
         put(std::string_view(from, std::size_t(to - from)));
-        if (feed) {
+        from = to;
+        if (feed && indentBy > 0) {
             std::memset(reserve(indentBy), ' ', std::size_t(indentBy));
             m_at += indentBy;
         }
-        from = to;
+        for (int i = indentBy; feed && i < 0 && from != end && *from == ' '; ++i)
+            ++from;
     }
 }
 
 QByteArray JsonWriter::take()
 {
-    m_buffer.truncate(size());
+    m_buffer.truncate(pending());
     m_at = m_end = nullptr;
     m_first = true;
     return std::exchange(m_buffer, QByteArray());
+}
+
+bool JsonWriter::finish()
+{
+    handOn();
+    return !m_refused;
 }
 
 void JsonWriter::beforeValue()
@@ -145,16 +195,23 @@ void JsonWriter::beforeValue()
 
 void JsonWriter::startRow()
 {
-    char *at = reserve(m_level + 2);
+    char *at = reserve(m_level + 2 + qsizetype(Blanks.size()));
     if (!m_first)
         *at++ = ',';
-    if (m_layout == Indented && !m_oneRow && (size() > 0)) {
-        *at++ = '\n';
-        std::memset(at, ' ', std::size_t(m_level));
-        at += m_level;
-    }
+    if (m_layout == Indented && !m_oneRow && size() > 0)
+        at = putLineFeed(at);
     m_at = at;
     m_first = false;
+}
+
+char *JsonWriter::putLineFeed(char *at)
+{
+    *at++ = '\n';
+    // A copy of fixed size is quicker; what is too much is written over.
+    std::memcpy(at, Blanks.data(), Blanks.size());
+    if (m_level > int(Blanks.size()))
+        std::memset(at, ' ', std::size_t(m_level));
+    return at + m_level;
 }
 
 void JsonWriter::open(char bracket, bool oneRow)
@@ -170,12 +227,9 @@ void JsonWriter::open(char bracket, bool oneRow)
 void JsonWriter::close(char bracket)
 {
     --m_level;
-    char *at = reserve(m_level + 2);
-    if (m_layout == Indented && !m_oneRow && !m_first) {
-        *at++ = '\n';
-        std::memset(at, ' ', std::size_t(m_level));
-        at += m_level;
-    }
+    char *at = reserve(m_level + 2 + qsizetype(Blanks.size()));
+    if (m_layout == Indented && !m_oneRow && !m_first)
+        at = putLineFeed(at);
     *at++ = bracket;
     m_at = at;
     m_first = false;
@@ -184,8 +238,15 @@ void JsonWriter::close(char bracket)
 
 void JsonWriter::put(std::string_view text)
 {
-    std::memcpy(reserve(qsizetype(text.size())), text.data(), text.size());
-    m_at += text.size();
+    const auto size = qsizetype(text.size());
+    if (m_device && size > PieceSize) {
+        handOn();
+        m_refused = m_refused || m_device->write(text.data(), size) != size;
+        m_handedOn += size;
+        return;
+    }
+    std::memcpy(reserve(size), text.data(), text.size());
+    m_at += size;
 }
 
 void JsonWriter::putText(std::string_view utf8)
@@ -207,10 +268,39 @@ void JsonWriter::putText(std::string_view utf8)
     m_at = at;
 }
 
+void JsonWriter::putText(QStringView text)
+{
+    // Nearly every text is plain ASCII and needs no copy in between.
+    char *at = reserve(text.size() + 2);
+    *at++ = '"';
+    for (QChar c : text) {
+        if (c.unicode() >= 0x80 || mustBeEscaped(char(c.unicode()))) {
+            const QByteArray utf8 = text.toUtf8();
+            putText(std::string_view(utf8.constData(), std::size_t(utf8.size())));
+            return;
+        }
+        *at++ = char(c.unicode());
+    }
+    *at++ = '"';
+    m_at = at;
+}
+
 void JsonWriter::grow(qsizetype size)
 {
-    const qsizetype used = this->size();
-    m_buffer.resize(qMax(qsizetype(256), qMax(used + size, 2 * m_buffer.size())));
+    handOn();
+    const qsizetype used = pending();
+    const qsizetype least = m_device ? PieceSize : 256;
+    m_buffer.resize(qMax(qMax(least, used + size), m_device ? 0 : 2 * m_buffer.size()));
     m_at = m_buffer.data() + used;
     m_end = m_buffer.data() + m_buffer.size();
+}
+
+void JsonWriter::handOn()
+{
+    const qsizetype size = pending();
+    if (!m_device || size == 0)
+        return;
+    m_refused = m_refused || m_device->write(m_buffer.constData(), size) != size;
+    m_handedOn += size;
+    m_at = m_buffer.data();
 }

@@ -1,6 +1,7 @@
 #include "PJsonNode.h"
 
 #include "JsonText.h"
+#include "JsonWriter.h"
 
 #include <algorithm>
 
@@ -76,12 +77,19 @@ PJsonNode::PJsonNode(const QByteArray &owner, QByteArrayView text, int writtenLe
 {
 }
 
+PJsonNode::PJsonNode(PJsonValue::Type type, const std::function<void(JsonWriter &)> &write)
+    : m_type(type)
+    , m_writer(write)
+{
+}
+
 PJsonNode::PJsonNode(const PJsonNode &other)
     : QSharedData(other)
     , m_type(other.m_type)
     , m_writtenLevel(other.m_writtenLevel)
     , m_owner(other.m_owner)
     , m_text(other.m_text)
+    , m_writer(other.m_writer)
 {
     if (const PJsonMembers *members = other.m_members.load(std::memory_order_acquire))
         m_members.store(new PJsonMembers(*members), std::memory_order_relaxed);
@@ -96,7 +104,15 @@ const PJsonMembers &PJsonNode::members() const
 {
     if (const PJsonMembers *known = m_members.load(std::memory_order_acquire))
         return *known;
-    std::unique_ptr<PJsonMembers> found = split();
+    std::unique_ptr<PJsonMembers> found;
+    if (m_writer) {
+        JsonWriter writer(JsonWriter::Indented);
+        m_writer(writer);
+        const QByteArray text = writer.take();
+        found = split(text, text, 0);
+    } else {
+        found = split(m_owner, m_text, m_writtenLevel);
+    }
     PJsonMembers *expected = nullptr;
     if (m_members.compare_exchange_strong(expected, found.get(), std::memory_order_acq_rel))
         return *found.release();
@@ -108,19 +124,21 @@ PJsonMembers &PJsonNode::changeMembers()
     auto &own = const_cast<PJsonMembers &>(members());
     m_text = QByteArrayView();
     m_owner.clear();
+    m_writer = nullptr;
     m_writtenLevel = -1;
     return own;
 }
 
-std::unique_ptr<PJsonMembers> PJsonNode::split() const
+std::unique_ptr<PJsonMembers> PJsonNode::split(const QByteArray &owner, QByteArrayView text,
+                                               int level) const
 {
     auto result = std::make_unique<PJsonMembers>();
     if (m_type != PJsonValue::Object && m_type != PJsonValue::Array)
         return result;
-    const int level = m_writtenLevel < 0 ? -1 : m_writtenLevel + 1;
-    JsonText::Walker walker(m_text);
+    const int inside = level < 0 ? -1 : level + 1;
+    JsonText::Walker walker(text);
     while (walker.next()) {
-        const PJsonValue value(new PJsonNode(m_owner, walker.value(), level));
+        const PJsonValue value(new PJsonNode(owner, walker.value(), inside));
         if (m_type == PJsonValue::Object)
             result->set(JsonText::unquoted(walker.quotedName()), value);
         else

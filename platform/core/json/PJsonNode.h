@@ -7,6 +7,7 @@
 #include <QSharedData>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -26,8 +27,8 @@ private:
     QHash<QString, int> m_index; ///< only from a certain number of members on
 };
 
-/// What a PJsonValue shares: its text, its members, or both. The members of an unchanged text are
-/// found when first asked for, on whatever thread, and then kept beside it.
+/// What a PJsonValue shares: its text or what writes it, its members, or both. The members of an
+/// unchanged text are found when first asked for, on whatever thread, and then kept beside it.
 class PJsonNode : public QSharedData
 {
 public:
@@ -35,6 +36,8 @@ public:
     explicit PJsonNode(PJsonValue::Type type);
     /// Part of a text that has been checked, or that JsonWriter wrote at \a writtenLevel.
     PJsonNode(const QByteArray &owner, QByteArrayView text, int writtenLevel);
+    /// An object or array that is written when it is wanted.
+    PJsonNode(PJsonValue::Type type, const std::function<void(JsonWriter &)> &write);
     PJsonNode(const PJsonNode &other);
     PJsonNode &operator=(const PJsonNode &) = delete;
     ~PJsonNode();
@@ -44,16 +47,20 @@ public:
     [[nodiscard]] QByteArrayView text() const { return m_text; }
     /// Depth for which JsonWriter indented the text; -1 for a text of unknown layout.
     [[nodiscard]] int writtenLevel() const { return m_writtenLevel; }
+    /// Null unless the value is written when it is wanted; it then has no text.
+    [[nodiscard]] const std::function<void(JsonWriter &)> &writer() const { return m_writer; }
     [[nodiscard]] const PJsonMembers &members() const;
     /// The members to be changed: the text is dropped.
     PJsonMembers &changeMembers();
 
 private:
-    [[nodiscard]] std::unique_ptr<PJsonMembers> split() const;
+    [[nodiscard]] std::unique_ptr<PJsonMembers> split(const QByteArray &owner, QByteArrayView text,
+                                                      int level) const;
 
     PJsonValue::Type m_type;
     int m_writtenLevel = -1;
     QByteArray m_owner; ///< keeps m_text alive
     QByteArrayView m_text;
+    std::function<void(JsonWriter &)> m_writer;
     mutable std::atomic<PJsonMembers *> m_members{nullptr};
 };

@@ -99,6 +99,11 @@ PJsonValue PJsonValue::fromWritten(const QByteArray &json)
     return text.isEmpty() ? PJsonValue() : PJsonValue(new PJsonNode(json, text, 0));
 }
 
+PJsonValue PJsonValue::fromWriter(Type type, const std::function<void(JsonWriter &)> &write)
+{
+    return PJsonValue(new PJsonNode(type, write));
+}
+
 bool PJsonValue::parseFile(const QString &nativePath, QString *error)
 {
     d.reset();
@@ -227,9 +232,18 @@ QByteArray PJsonValue::toByteArray(bool compact) const
     return writer.take();
 }
 
+bool PJsonValue::writeTo(QIODevice &device, bool compact) const
+{
+    JsonWriter writer(device, compact ? JsonWriter::Compact : JsonWriter::Indented);
+    write(writer, compact);
+    if (!compact)
+        writer.lineFeed();
+    return writer.finish();
+}
+
 QByteArray PJsonValue::rawText() const
 {
-    return d && d->hasText() ? d->text().toByteArray() : toByteArray(true);
+    return d && d->hasText() && !d->writer() ? d->text().toByteArray() : toByteArray(true);
 }
 
 PJsonNode &PJsonValue::changeable(Type wanted)
@@ -245,6 +259,10 @@ void PJsonValue::write(JsonWriter &writer, bool compact) const
 {
     if (!d) {
         writer.null();
+        return;
+    }
+    if (d->writer()) {
+        d->writer()(writer);
         return;
     }
     if (d->hasText()) {

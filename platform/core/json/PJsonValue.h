@@ -7,8 +7,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class JsonWriter;
 class PJsonNode;
+class QIODevice;
 
 /// A JSON value. Copies share their content until one of them is changed. Text that was parsed and
 /// that nobody changed is kept as it was written and goes out again byte for byte; numbers keep
@@ -37,9 +40,14 @@ public:
     [[nodiscard]] static PJsonValue fromInt(qint64 value);
     /// Not a number and infinities have no JSON form and become null.
     [[nodiscard]] static PJsonValue fromDouble(double value);
-    /// Takes over text that JsonWriter wrote at level 0, unchecked. It is indented for the depth at
-    /// which it comes to stand when the document is written.
+    /// Takes over text that JsonWriter wrote at level 0, unchecked. When the document is written
+    /// its rows are moved to the depth at which it comes to stand.
     [[nodiscard]] static PJsonValue fromWritten(const QByteArray &json);
+    /// A value that is written only when the document is, straight into it, or when somebody looks
+    /// into it. \a write writes one value of the type (an object or array), the same every time, on
+    /// whatever thread, and owns all that it needs.
+    [[nodiscard]] static PJsonValue fromWriter(Type type,
+                                               const std::function<void(JsonWriter &)> &write);
 
     /// Reads a whole document (RFC 8259, UTF-8, with or without byte order mark). Of members of one
     /// name the last counts. False if the file cannot be read, is empty, is no JSON or holds a
@@ -83,6 +91,8 @@ public:
     /// UTF-8. Compact has no blanks; otherwise a row for each member and element, a blank a level,
     /// arrays of plain values on one row, and a final line feed.
     [[nodiscard]] QByteArray toByteArray(bool compact) const;
+    /// The same into a device, piece by piece. False if the device did not take everything.
+    [[nodiscard]] bool writeTo(QIODevice &device, bool compact) const;
     /// The text as it was parsed or taken over if nobody changed the value, else as
     /// toByteArray(true).
     [[nodiscard]] QByteArray rawText() const;

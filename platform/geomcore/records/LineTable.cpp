@@ -6,6 +6,8 @@ namespace {
 
 constexpr std::size_t PageRows = 256;
 constexpr std::size_t ChunkPages = 64;
+/// Room that a new page begins with, enough for most of the many small tables.
+constexpr std::size_t FirstRows = 16;
 /// A page that shrinks below this is merged with the next one if both together stay below
 /// MergedRows.
 constexpr std::size_t SmallPageRows = 64;
@@ -54,7 +56,10 @@ void setExtended(LineTable::Page &page, std::size_t row, const ExtendedTextPtr &
 
 LineTable::PageRef newPage(int firstLine)
 {
-    return {firstLine, QExplicitlySharedDataPointer<LineTable::Page>(new LineTable::Page)};
+    LineTable::PageRef ref{firstLine,
+                           QExplicitlySharedDataPointer<LineTable::Page>(new LineTable::Page)};
+    ref.page->rows.reserve(FirstRows);
+    return ref;
 }
 
 } // namespace

@@ -56,63 +56,67 @@ public:
     class Iterator
     {
     public:
-        explicit Iterator(const std::vector<ChunkRef> &chunks, std::size_t chunk = 0)
+        /// The end of every table.
+        Iterator() = default;
+        explicit Iterator(const std::vector<ChunkRef> &chunks)
             : m_chunks(&chunks)
-            , m_chunk(chunk)
         {
+            enterPage();
         }
-        [[nodiscard]] int sourceLine() const { return row().sourceLine; }
-        [[nodiscard]] int targetLine() const { return row().targetLine; }
-        [[nodiscard]] PRJMAPPING::CheckState state() const { return row().state(); }
-        [[nodiscard]] bool conflict() const { return row().conflict(); }
+        [[nodiscard]] const Row &row() const { return *m_row; }
+        [[nodiscard]] int sourceLine() const { return m_row->sourceLine; }
+        [[nodiscard]] int targetLine() const { return m_row->targetLine; }
+        [[nodiscard]] PRJMAPPING::CheckState state() const { return m_row->state(); }
+        [[nodiscard]] bool conflict() const { return m_row->conflict(); }
         /// Null for the empty text.
         [[nodiscard]] const ExtendedText *extended() const
         {
-            const Page &at = page();
-            return at.extended.empty() ? nullptr : at.extended[m_row].data();
+            return m_extended ? m_extended->data() : nullptr;
         }
         [[nodiscard]] PrjMappingTargetLineC line() const
         {
-            const Page &at = page();
             return PrjMappingTargetLineC(targetLine(), state(), conflict(),
-                                         at.extended.empty() ? ExtendedTextPtr()
-                                                             : at.extended[m_row]);
+                                         m_extended ? *m_extended : ExtendedTextPtr());
         }
         const Iterator &operator*() const { return *this; }
         Iterator &operator++()
         {
-            if (++m_row == page().rows.size())
-                nextPage();
+            m_extended += m_extended ? 1 : 0;
+            if (++m_row == m_pageEnd) {
+                ++m_page;
+                enterPage();
+            }
             return *this;
         }
-        friend bool operator==(const Iterator &a, const Iterator &b)
-        {
-            return a.m_chunk == b.m_chunk && a.m_page == b.m_page && a.m_row == b.m_row;
-        }
+        friend bool operator==(const Iterator &a, const Iterator &b) { return a.m_row == b.m_row; }
 
     private:
-        [[nodiscard]] const Page &page() const
+        void enterPage()
         {
-            return *(*m_chunks)[m_chunk].chunk->pages[m_page].page;
-        }
-        [[nodiscard]] const Row &row() const { return page().rows[m_row]; }
-        void nextPage()
-        {
-            m_row = 0;
-            if (++m_page == (*m_chunks)[m_chunk].chunk->pages.size()) {
+            if (m_chunk < m_chunks->size() && m_page == (*m_chunks)[m_chunk].chunk->pages.size()) {
                 m_page = 0;
                 ++m_chunk;
             }
+            m_row = nullptr;
+            m_extended = nullptr;
+            if (m_chunk == m_chunks->size())
+                return;
+            const Page &page = *(*m_chunks)[m_chunk].chunk->pages[m_page].page;
+            m_row = page.rows.data();
+            m_pageEnd = m_row + page.rows.size();
+            m_extended = page.extended.empty() ? nullptr : page.extended.data();
         }
 
-        const std::vector<ChunkRef> *m_chunks;
-        std::size_t m_chunk;
+        const std::vector<ChunkRef> *m_chunks = nullptr;
+        std::size_t m_chunk = 0;
         std::size_t m_page = 0;
-        std::size_t m_row = 0;
+        const Row *m_row = nullptr; ///< null at the end
+        const Row *m_pageEnd = nullptr;
+        const ExtendedTextPtr *m_extended = nullptr; ///< of the row; null if the page has no texts
     };
 
     [[nodiscard]] Iterator begin() const { return Iterator(m_chunks); }
-    [[nodiscard]] Iterator end() const { return Iterator(m_chunks, m_chunks.size()); }
+    [[nodiscard]] Iterator end() const { return Iterator(); }
 
     [[nodiscard]] bool isEmpty() const { return m_chunks.empty(); }
     [[nodiscard]] const LineCounts &counts() const { return m_counts; }

@@ -38,17 +38,31 @@ bool report(QString *error, const QString &path, const QString &what)
     return false;
 }
 
-/// Gets the bytes onto the disk; gives the cause if that fails. QSaveFile::commit alone would
-/// neither notice that what is still buffered finds no room nor that the disk refuses it.
-QString writeThrough(QSaveFile &file, const QByteArray &bytes)
+/// Gets what was written onto the disk. QSaveFile::commit alone would neither notice that what is
+/// still buffered finds no room nor that the disk refuses it. Gives the cause if that fails.
+QString handOn(QSaveFile &file)
 {
-    if (file.write(bytes) != bytes.size() || !file.flush())
+    if (!file.flush())
         return file.errorString();
 #ifdef Q_OS_UNIX
     if (::fsync(file.handle()) != 0)
         return qt_error_string();
 #endif
     return QString();
+}
+
+void writeMembers(JsonWriter &writer, const QList<MappingFileMember> &members)
+{
+    writer.beginObject();
+    for (const MappingFileMember &member : members) {
+        writer.key(QStringView(member.sourceDate));
+        if (member.isRecords)
+            writeRelease(writer, member.release, false);
+        else
+            writer.written(member.text);
+    }
+    writer.endObject();
+    writer.lineFeed();
 }
 
 } // namespace
@@ -129,16 +143,7 @@ void MappingFile::setRelease(const ReleaseMappingC &release)
 QByteArray MappingFile::toByteArray() const
 {
     JsonWriter writer(JsonWriter::Indented);
-    writer.beginObject();
-    for (const MappingFileMember &member : d->members) {
-        writer.key(QStringView(member.sourceDate));
-        if (member.isRecords)
-            writeRelease(writer, member.release, false);
-        else
-            writer.written(member.text);
-    }
-    writer.endObject();
-    writer.lineFeed();
+    writeMembers(writer, d->members);
     return writer.take();
 }
 
@@ -150,9 +155,14 @@ bool MappingFile::write(const QString &nativePath, QString *error) const
     QSaveFile file(nativePath);
     if (!file.open(QIODevice::WriteOnly))
         return report(error, nativePath, file.errorString());
-    const QString failure = writeThrough(file, toByteArray());
+    JsonWriter writer(file, JsonWriter::Indented);
+    writeMembers(writer, d->members);
+    // Without commit() the file beside goes with its object.
+    if (!writer.finish())
+        return report(error, nativePath, file.errorString());
+    const QString failure = handOn(file);
     if (!failure.isEmpty())
-        return report(error, nativePath, failure); // the file beside goes with its object
+        return report(error, nativePath, failure);
     if (!file.commit())
         return report(error, nativePath, file.errorString());
     return true;

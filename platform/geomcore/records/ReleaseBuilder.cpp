@@ -5,6 +5,7 @@
 #include <geomcore/expression/VarsetValueMappingC.h>
 #include <geomcore/expression/VarsetVarMappingC.h>
 
+#include <bit>
 #include <iterator>
 
 /// Indexes into Members.
@@ -31,7 +32,7 @@ enum ReleaseBuilder::Key : int {
     ModifierFormula,
 };
 
-const ReleaseBuilder::Member ReleaseBuilder::Members[] = {
+constexpr ReleaseBuilder::Member ReleaseBuilder::Members[] = {
     {Release, "sourceDate", TextKind, true, Outside},
     {Release, "targetDate", TextKind, true, Outside},
     {Release, "mappings", ArrayKind, false, Mappings},
@@ -60,6 +61,15 @@ QString fromUtf8(std::string_view text)
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
 
+template<class Members, class Condition>
+constexpr quint32 bitsOf(const Members &members, Condition condition)
+{
+    quint32 bits = 0;
+    for (std::size_t i = 0; i < std::size(members); ++i)
+        bits |= condition(members[i]) ? 1U << i : 0U;
+    return bits;
+}
+
 QString rowLayout()
 {
     return QStringLiteral("must be [source line, target line, state], then the extended text if "
@@ -73,7 +83,7 @@ QString ReleaseBuilder::error() const
     QStringList path;
     if (m_place >= Mappings)
         path += m_place == Mappings ? QStringLiteral("mappings")
-                                    : QStringLiteral("mappings[%1]").arg(m_mappings.size());
+                                    : QStringLiteral("mappings[%1]").arg(m_release.countMappings());
     if (m_place >= Targets)
         path += m_place == Targets ? QStringLiteral("targets")
                                    : QStringLiteral("targets[%1]").arg(m_targets.size());
@@ -129,13 +139,11 @@ bool ReleaseBuilder::endObject()
     } else if (m_place == Mapping) {
         for (const PrjMappingTargetC &target : std::as_const(m_targets))
             m_mapping.addTarget(target);
+        m_targets.clear();
         m_mapping.setMappingState(m_state);
-        m_mappings.append(m_mapping);
+        m_release.appendMapping(m_mapping);
         m_place = Mappings;
     } else {
-        for (const PrjMappingC &mapping : std::as_const(m_mappings))
-            m_release.appendMapping(mapping);
-        m_mappings.clear();
         m_place = Outside;
     }
     return true;
@@ -230,7 +238,13 @@ bool ReleaseBuilder::text(std::string_view utf8)
     }
     if (!expect(TextKind))
         return false;
-    setText(fromUtf8(utf8));
+    // Versions recur, and one that recurs is shared.
+    LastText &last = m_last[std::size_t(m_key)];
+    if (last.utf8 != utf8) {
+        last.utf8 = utf8;
+        last.text = fromUtf8(utf8);
+    }
+    setText(last.text);
     m_key = NoKey;
     return true;
 }
@@ -310,10 +324,7 @@ bool ReleaseBuilder::otherInteger(qint64 number)
 void ReleaseBuilder::begin(Place place)
 {
     m_place = place;
-    for (int i = 0; i < int(std::size(Members)); ++i) {
-        if (Members[i].place == place)
-            m_seen &= ~(1U << unsigned(i));
-    }
+    m_seen &= ~bitsOf(Members, [place](const Member &member) { return member.place == place; });
 }
 
 void ReleaseBuilder::enterArray()
@@ -322,7 +333,7 @@ void ReleaseBuilder::enterArray()
     m_element = -1;
     switch (m_key) {
     case MappingsKey:
-        m_mappings.clear();
+        m_release.clearMappings();
         break;
     case TargetsKey:
         m_targets.clear();
@@ -376,10 +387,12 @@ void ReleaseBuilder::setText(const QString &text)
 
 bool ReleaseBuilder::checkComplete(Place place)
 {
-    for (int i = 0; i < int(std::size(Members)); ++i) {
-        const Member &member = Members[i];
-        if (member.place == place && member.required && !(m_seen & (1U << unsigned(i))))
-            return fail(QStringLiteral("lacks the member \"%1\"").arg(fromUtf8(member.name)));
+    const quint32 missing = ~m_seen & bitsOf(Members, [place](const Member &member) {
+        return member.place == place && member.required;
+    });
+    if (missing != 0) {
+        const Member &first = Members[std::countr_zero(missing)];
+        return fail(QStringLiteral("lacks the member \"%1\"").arg(fromUtf8(first.name)));
     }
     if (place == Mapping && !m_mapping.isValid())
         return fail(QStringLiteral("has an empty \"sourcePath\""));

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <limits>
+#include <string>
 #include <string_view>
 
 /// Builds a release from the events of a JSON reader, in the layout of the mapping file. Each event
@@ -67,6 +68,11 @@ private:
         Place inside; ///< where an array leads to
     };
     static const Member Members[];
+    struct LastText
+    {
+        std::string utf8;
+        QString text;
+    };
 
     bool fail(const QString &message);
     bool passOver();
@@ -83,7 +89,6 @@ private:
     ReleaseMappingC m_release;
     PrjMappingC m_mapping;
     PRJMAPPING::MappingState m_state;
-    QList<PrjMappingC> m_mappings;
     QList<PrjMappingTargetC> m_targets;
     PrjMappingTargetC m_target;
     QString m_modifierKind;
@@ -104,5 +109,6 @@ private:
     QString m_extended;
     bool m_conflict = false;
 
+    std::array<LastText, 19> m_last; ///< of each of Members
     QString m_message;
 };

@@ -91,6 +91,11 @@ void ReleaseMappingC::appendMapping(const PrjMappingC &mapping)
     d->mappings.append(mapping);
 }
 
+void ReleaseMappingC::clearMappings()
+{
+    d->mappings = MappingList();
+}
+
 PRJMAPPING::MappingState ReleaseMappingC::getMappingState() const
 {
     return d->mappings.state();
@@ -98,9 +103,9 @@ PRJMAPPING::MappingState ReleaseMappingC::getMappingState() const
 
 void ReleaseMappingC::toJson(PJsonValue &out, bool headsOnly) const
 {
-    JsonWriter writer(JsonWriter::Indented);
-    writeRelease(writer, *this, headsOnly);
-    out = PJsonValue::fromWritten(writer.take());
+    out = PJsonValue::fromWriter(PJsonValue::Object, [copy = *this, headsOnly](JsonWriter &writer) {
+        writeRelease(writer, copy, headsOnly);
+    });
 }
 
 bool ReleaseMappingC::fromJson(const PJsonValue &in, QString *error)

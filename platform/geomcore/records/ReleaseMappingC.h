@@ -55,6 +55,7 @@ public:
 
     /// Appends without looking for an equal key, as a reader of stored releases must.
     void appendMapping(const PrjMappingC &mapping);
+    void clearMappings();
 
 private:
     QSharedDataPointer<ReleaseMappingData> d;

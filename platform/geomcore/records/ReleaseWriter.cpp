@@ -43,13 +43,17 @@ void writeLines(JsonWriter &writer, const LineTable &lines)
     writer.key("lines");
     writer.beginArray();
     for (const LineTable::Iterator &line : lines) {
+        const ExtendedText *extended = line.extended();
+        if (!extended && !line.conflict()) {
+            const LineTable::Row row = line.row();
+            writer.row({row.sourceLine, row.targetLine, int(row.state())});
+            continue;
+        }
         writer.beginArray(true);
         writer.value(line.sourceLine());
         writer.value(line.targetLine());
         writer.value(int(line.state()));
-        const ExtendedText *extended = line.extended();
-        if (extended || line.conflict())
-            writer.value(extended ? QStringView(extended->text) : QStringView());
+        writer.value(extended ? QStringView(extended->text) : QStringView());
         if (line.conflict())
             writer.value(true);
         writer.endArray();
