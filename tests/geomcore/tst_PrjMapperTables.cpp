@@ -1,0 +1,184 @@
+#include "MapperFixture.h"
+
+#include <core/message/PMessageSink.h>
+
+#include <QFile>
+#include <QTest>
+
+#include <mutex>
+#include <thread>
+
+namespace {
+
+class LogSink : public PMessageSink
+{
+public:
+    PMsgReply show(const QString &, PMsgDlgModes) override { return PMsgReply::Ok; }
+    void logToWindow(const QString &text) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_texts.append(text);
+    }
+    QStringList take()
+    {
+        const std::lock_guard lock(m_mutex);
+        return std::exchange(m_texts, {});
+    }
+
+private:
+    std::mutex m_mutex;
+    QStringList m_texts;
+};
+
+const QByteArray table = "D,k:n\nM8,5\nM9,6\n";
+
+/// Proposal for line 1 of a mapper of its own.
+QString proposal(const TestCatalog &catalog)
+{
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    return fixture.proposal(1);
+}
+
+} // namespace
+
+/// What mappers share.
+class tst_PrjMapperTables : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writtenTableIsReadAnew();
+    void writtenProjectIsReadAnew();
+    void tableThatAppears();
+    void openTableStaysWithItsMapper();
+    void failureIsToldOnce();
+    void otherSourceTable();
+    void manyTables();
+    void severalThreads();
+};
+
+void tst_PrjMapperTables::writtenTableIsReadAnew()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("new/a.prj", table);
+    QCOMPARE(proposal(catalog), "0:1 ok");
+    catalog.write("new/a.prj", "D,k:n\nX10,1\nM9,6\nM8,5\n");
+    QCOMPARE(proposal(catalog), "0:3 ok");
+}
+
+void tst_PrjMapperTables::writtenProjectIsReadAnew()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("new/a.prj", table);
+    catalog.write("new/b.prj", "D,k:n\nM9,6\nM8,5\n");
+    QCOMPARE(proposal(catalog), "0:1 ok");
+    catalog.writeFile("new/a.prj", "[PROJECT]\nNAME=other\nSACHM=b.json\n");
+    QCOMPARE(proposal(catalog), "0:2 ok");
+}
+
+void tst_PrjMapperTables::tableThatAppears()
+{
+    const auto sink = std::make_shared<LogSink>();
+    const PMessageSinkScope scope(sink);
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    QCOMPARE(proposal(catalog), "none");
+    catalog.write("new/a.prj", table);
+    QCOMPARE(proposal(catalog), "0:1 ok");
+    QVERIFY(QFile::remove(catalog.file("new/a.csv")));
+    QCOMPARE(proposal(catalog), "none");
+}
+
+void tst_PrjMapperTables::openTableStaysWithItsMapper()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("new/a.prj", table);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    QCOMPARE(fixture.proposal(1), "0:1 ok");
+    QVERIFY(QFile::remove(catalog.file("new/a.csv")));
+    catalog.write("new/a.prj", "D,k:n\nM9,6\nM8,5\n");
+    QCOMPARE(fixture.proposal(1), "0:1 ok");
+    QCOMPARE(fixture.proposal(2), "0:2 ok");
+    QCOMPARE(proposal(catalog), "0:2 ok");
+}
+
+void tst_PrjMapperTables::failureIsToldOnce()
+{
+    const auto sink = std::make_shared<LogSink>();
+    const PMessageSinkScope scope(sink);
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("new/a.prj", table);
+    catalog.writeFile("new/a.json", "{");
+    QCOMPARE(proposal(catalog), "none");
+    QCOMPARE(sink->take().size(), 1);
+    QCOMPARE(proposal(catalog), "none");
+    QCOMPARE(sink->take(), QStringList());
+    catalog.writeFile("new/a.json", "{}}");
+    QCOMPARE(proposal(catalog), "none");
+    QCOMPARE(sink->take().size(), 1);
+}
+
+void tst_PrjMapperTables::otherSourceTable()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("old/b.prj", "D,k:n\nM9,6\nM8,5\n");
+    catalog.write("new/a.prj", table);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    QCOMPARE(fixture.proposal(1), "0:1 ok");
+    fixture.source = catalog.read("old/b.prj");
+    fixture.mapper.setSourceTable(fixture.source);
+    QCOMPARE(fixture.proposal(1), "0:2 ok");
+}
+
+void tst_PrjMapperTables::manyTables()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    QStringList paths;
+    for (int i = 0; i < 30; ++i) {
+        paths.append(QStringLiteral("new/%1/a.prj").arg(i));
+        catalog.write(paths.last(), i == 17 ? table : QByteArray("D,k:n\nX1,100\n"));
+    }
+    for (int round = 0; round < 2; ++round) {
+        MapperFixture fixture(catalog, paths);
+        fixture.start();
+        QCOMPARE(fixture.proposal(2), "17:2 ok");
+    }
+}
+
+void tst_PrjMapperTables::severalThreads()
+{
+    QByteArray many = "D,k:n,l:n\n";
+    for (int i = 0; i < 300; ++i)
+        many += "M" + QByteArray::number(i) + "," + QByteArray::number(i % 50) + ",1\n";
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", many);
+    for (const char *path : {"new/a.prj", "new/b.prj", "new/c.prj"})
+        catalog.write(path, QByteArray(many).replace(",1\n", ",2\n"));
+    std::vector<QStringList> results(4);
+    std::vector<std::thread> threads;
+    for (QStringList &result : results) {
+        threads.emplace_back([&catalog, &result] {
+            MapperFixture fixture(catalog, {"new/b.prj", "new/c.prj", "new/a.prj"});
+            fixture.start();
+            for (int line = 1; line <= 300; line += 7)
+                result.append(fixture.proposal(line));
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    QVERIFY(results.front().contains("2:8"));
+    for (const QStringList &result : results)
+        QCOMPARE(result, results.front());
+}
+
+QTEST_GUILESS_MAIN(tst_PrjMapperTables)
+#include "tst_PrjMapperTables.moc"
