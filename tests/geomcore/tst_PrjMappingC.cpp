@@ -246,7 +246,7 @@ private Q_SLOTS:
     {
         PrjMappingC mapping;
         mapping.addTarget(targetWith("a", {1}, 5));
-        const PrjMappingLineC line = mapping.findLine(2, {});
+        const PrjMappingLineC line = mapping.findLine(2, QHash<QString, MapVarValueC>());
         QVERIFY(!line.isValid());
         QVERIFY(!line.isFound());
         QCOMPARE(line.getSourceLineId(), 2);
@@ -324,7 +324,7 @@ private Q_SLOTS:
         QFETCH(bool, found);
         PrjMappingC mapping;
         mapping.addTarget(targetWith(path, {7}, line));
-        const PrjMappingLineC result = mapping.findLine(7, {});
+        const PrjMappingLineC result = mapping.findLine(7, QHash<QString, MapVarValueC>());
         QVERIFY(result.isValid());
         QCOMPARE(result.isFound(), found);
     }
