@@ -61,6 +61,7 @@ private Q_SLOTS:
     void formerTableGoes();
     void longForm();
     void marksBadRanges();
+    void tellsAFew();
     void fails_data();
     void fails();
     void silent();
@@ -167,6 +168,20 @@ void tst_Reader::marksBadRanges()
              QStringList{path("t.csv") +
                          ": row 2, column 2: \"10..20\" is no value range of L: \"10..20\" "
                          "has no step; write it as 10..50/5"});
+}
+
+void tst_Reader::tellsAFew()
+{
+    QByteArray csv("Dia,L,Id\n");
+    for (int i = 1; i <= 25; ++i)
+        csv += "8,10..20," + QByteArray::number(i) + "\n";
+    writeFile(path("t.csv"), csv);
+    ContentRef content{Content()};
+    Reader reader;
+    QCOMPARE(reader.readByProject(project(), content, true), 1);
+    QCOMPARE(reader.errors().size(), 25);
+    QCOMPARE(m_sink->logged.size(), 21);
+    QCOMPARE(m_sink->logged.last(), path("t.csv") + ": 5 more cells are wrong");
 }
 
 void tst_Reader::fails_data()

@@ -15,10 +15,8 @@ int Reader::readByProject(const refHandle<PrjClass> &project, Content &content, 
     const bool read = fill(project, content);
     if (!read)
         content.setFileLayer(nullptr);
-    if (tell) {
-        for (const TableError &error : std::as_const(m_errors))
-            PMessage::LogToWindow(error.toString());
-    }
+    if (tell)
+        tellErrors();
     return read ? 1 : -1;
 }
 
@@ -29,6 +27,16 @@ int Reader::readByProject(const refHandle<PrjClass> &project, Content &content,
     if (options)
         content.setOptions(options);
     return readByProject(project, content, tell);
+}
+
+void Reader::tellErrors() const
+{
+    for (const TableError &error : m_errors.first(qMin(m_errors.size(), MaxTold)))
+        PMessage::LogToWindow(error.toString());
+    if (m_errors.size() > MaxTold)
+        PMessage::LogToWindow(QStringLiteral("%1: %2 more cells are wrong")
+                                  .arg(m_errors.first().file)
+                                  .arg(m_errors.size() - MaxTold));
 }
 
 bool Reader::fill(const refHandle<PrjClass> &project, Content &content)

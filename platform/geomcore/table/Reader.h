@@ -32,7 +32,11 @@ public:
     /// What the last read found: why it failed, or of a table that was read its marked lines.
     [[nodiscard]] const TableErrorList &errors() const { return m_errors; }
 
+    /// So many errors of a table go to the log window, then only their number.
+    static constexpr qsizetype MaxTold = 20;
+
 private:
+    void tellErrors() const;
     [[nodiscard]] bool fill(const refHandle<PrjClass> &project, Content &content);
 
     TableErrorList m_errors;
