@@ -1,1 +1,0 @@
-#include <geomcoregui/VelkGeomCoreGuiGlobal.h>

@@ -1,0 +1,22 @@
+#include "TableBar.h"
+
+#include <core/text/PString.h>
+
+#include <QToolButton>
+
+QString tableText(const char *text)
+{
+    return PString::translate(text, "VelkLinkDbGui");
+}
+
+QToolButton *makeBarButton(const QString &objectName, const QString &sign, const QString &meaning,
+                           QWidget *parent)
+{
+    auto *const button = new QToolButton(parent);
+    button->setObjectName(objectName);
+    button->setAutoRaise(true);
+    button->setText(sign);
+    button->setToolTip(meaning);
+    button->setAccessibleName(meaning);
+    return button;
+}

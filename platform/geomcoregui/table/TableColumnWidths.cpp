@@ -1,0 +1,137 @@
+#include "TableColumnWidths.h"
+
+#include "TableGrid.h"
+#include "VkTableModel.h"
+
+#include <gui/application/PApplication.h>
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QUrl>
+
+namespace {
+
+const QString section = QStringLiteral("TableColumns");
+constexpr int sampleRows = 60;
+constexpr int widest = 360; // at zoom factor 1
+
+/// A text without the signs that separate names, widths and keys.
+QString encoded(const QString &text)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(text));
+}
+
+} // namespace
+
+TableColumnWidths::TableColumnWidths(TableGrid *grid, VkTableModel *model)
+    : QObject(grid)
+    , m_grid(grid)
+    , m_model(model)
+{
+    connect(grid->horizontalHeader(), &QHeaderView::sectionResized, this,
+            &TableColumnWidths::onResized);
+    connect(grid->horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this,
+            &TableColumnWidths::fit);
+}
+
+TableColumnWidths::~TableColumnWidths()
+{
+    store();
+}
+
+QString TableColumnWidths::tableKey() const
+{
+    const VKTab::ContentRef table = m_model->getTable();
+    const QString path = table.getKeyValue(VKTab::KeyProjectPath).toString();
+    return encoded(path.isEmpty() ? table.getKeyValue(VKTab::KeyNormNumber).toString() : path);
+}
+
+QString TableColumnWidths::nameOf(int column) const
+{
+    const QString key =
+        m_model->headerData(column, Qt::Horizontal, VkTableModel::StatusKeyRole).toString();
+    return key.isEmpty() ? m_model->variable(column).getName() : QStringLiteral("*") + key;
+}
+
+void TableColumnWidths::load()
+{
+    store();
+    m_widths.clear();
+    m_key = tableKey();
+    if (m_key.isEmpty())
+        return;
+    const QString stored =
+        PApplication::getAppConfig()->getItemValue(m_key, section, QString()).GetString();
+    for (const QString &entry : stored.split(u';', Qt::SkipEmptyParts)) {
+        const qsizetype colon = entry.indexOf(u':');
+        const int width = QStringView(entry).mid(colon + 1).toInt();
+        if (colon > 0 && width > 0)
+            m_widths[QUrl::fromPercentEncoding(entry.left(colon).toLatin1())] = width;
+    }
+}
+
+void TableColumnWidths::store()
+{
+    if (!std::exchange(m_changed, false) || m_key.isEmpty())
+        return;
+    QStringList entries;
+    for (const auto &[name, width] : m_widths)
+        entries.append(encoded(name) + u':' + QString::number(width));
+    PApplication::getAppConfig()->SetValue(m_key, section, entries.join(u';'));
+}
+
+void TableColumnWidths::apply()
+{
+    const QScopedValueRollback guard(m_applying, true);
+    QHeaderView *const header = m_grid->horizontalHeader();
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        const auto known = m_widths.find(nameOf(column));
+        header->resizeSection(column, known == m_widths.end() ? neededWidth(column)
+                                                              : qRound(known->second * m_zoom));
+    }
+}
+
+void TableColumnWidths::setZoomFactor(double factor)
+{
+    m_zoom = factor;
+    apply();
+}
+
+void TableColumnWidths::fit(int column)
+{
+    m_changed = m_widths.erase(nameOf(column)) > 0 || m_changed;
+    const QScopedValueRollback guard(m_applying, true);
+    m_grid->horizontalHeader()->resizeSection(column, neededWidth(column));
+}
+
+void TableColumnWidths::fitAll()
+{
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        fit(column);
+}
+
+int TableColumnWidths::neededWidth(int column) const
+{
+    const int margin = 2 * m_grid->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 6;
+    if (column < m_model->statusColumnCount())
+        return m_grid->iconSize().width() + 2 * margin;
+    QFont italic = m_grid->font(); // ranges; a little wider than upright
+    italic.setItalic(true);
+    const QFontMetrics metrics(italic);
+    int width = m_grid->horizontalHeader()->sectionSizeHint(column);
+    const int begin = std::max(0, m_grid->rowAt(0));
+    const int end = std::min(m_model->rowCount(), begin + sampleRows);
+    for (int row = begin; row < end; ++row) {
+        const QString text = m_model->index(row, column).data().toString();
+        width = std::max(width, metrics.horizontalAdvance(text) + 2 * margin);
+    }
+    return std::min(width, qRound(widest * m_zoom));
+}
+
+void TableColumnWidths::onResized(int column, int, int newSize)
+{
+    if (m_applying || newSize <= 0 || column >= m_model->columnCount())
+        return;
+    m_widths[nameOf(column)] = std::max(1, qRound(newSize / m_zoom));
+    m_changed = true;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <map>
+
+class TableGrid;
+class VkTableModel;
+
+/// Widths of a grid's columns: those that a user gave to them, from the application's configuration
+/// by table and variable, else what captions and first lines need. Widths are kept as of zoom
+/// factor 1.
+class TableColumnWidths : public QObject
+{
+    Q_OBJECT
+
+public:
+    TableColumnWidths(TableGrid *grid, VkTableModel *model);
+    /// Stores what is not stored yet.
+    ~TableColumnWidths() override;
+
+    /// Reads the widths for the model's table.
+    void load();
+    /// Gives the columns their widths.
+    void apply();
+    void setZoomFactor(double factor);
+    /// Gives columns the widths that their contents need and forgets the user's.
+    void fit(int column);
+    void fitAll();
+
+private:
+    void onResized(int column, int oldSize, int newSize);
+    void store();
+    [[nodiscard]] int neededWidth(int column) const;
+    [[nodiscard]] QString nameOf(int column) const;
+    [[nodiscard]] QString tableKey() const;
+
+    TableGrid *m_grid;
+    VkTableModel *m_model;
+    double m_zoom = 1;
+    bool m_applying = false;
+    bool m_changed = false;
+    QString m_key; // of the loaded widths
+    std::map<QString, int> m_widths;
+};

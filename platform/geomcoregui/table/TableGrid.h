@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QTableView>
+
+class TableDelegate;
+
+/// The grid of a table view: rows of one height, whole lines selected, and what a mouse or a key
+/// does to cells. Knows its model as a VkTableModel.
+class TableGrid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit TableGrid(QWidget *parent);
+    ~TableGrid() override;
+
+    /// Cells that hold the text are marked; none for an empty text.
+    void setMarkedText(const QString &text);
+    /// Letters belong to the shortcuts of the window; finding has its bar.
+    void keyboardSearch(const QString &text) override;
+
+Q_SIGNALS:
+    /// A click on a cell or, with an index that is not valid, below the last line.
+    void cellClicked(const QModelIndex &index, Qt::MouseButton button);
+    /// The current line became another by keyboard.
+    void lineEntered(const QModelIndex &index);
+    /// A left click on an icon, or Space or Enter there.
+    void iconActivated(const QModelIndex &index);
+    /// The row that the menu is for, or -1.
+    void menuRequested(int row, const QPoint &globalPosition);
+    /// Steps of the wheel with Ctrl held; above 0 is larger.
+    void zoomRequested(int steps);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+
+private:
+    [[nodiscard]] bool isIcon(const QModelIndex &index) const;
+    [[nodiscard]] bool showStatusToolTip(const QPoint &position, const QPoint &globalPosition);
+    void announceClick(const QModelIndex &index, const QMouseEvent &event);
+
+    TableDelegate *m_delegate;
+    QPersistentModelIndex m_pressed;
+    bool m_pressedBelow = false;
+    int m_wheelRest = 0; // eighths of a degree that make no step yet
+};

@@ -1,0 +1,190 @@
+#include "TableCellText.h"
+#include "VkTableModelPrivate.h"
+
+#include <core/text/PString.h>
+#include <geomcore/table/RangeText.h>
+#include <geomcore/table/StatusValue.h>
+
+#include <QFileInfo>
+#include <QTextDocumentFragment>
+
+namespace {
+
+PString translated(const char *text)
+{
+    return PString::translate(text, "VelkLinkDbGui");
+}
+
+bool alignsRight(const VKTab::Var &var)
+{
+    return var.isNumeric() || var.getVida().isRightAligned();
+}
+
+QString plain(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+} // namespace
+
+QVariant VkTableModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const TableColumn &column = *d->column(index.column());
+    if (role == LineIdRole)
+        return QVariant::fromValue(lineId(index.row()));
+    return column.isStatus() ? d->statusData(index.row(), column, index.column(), role)
+                             : d->valueData(index.row(), column.var, role);
+}
+
+QVariant VkTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Horizontal) {
+        const TableColumn *const column = d->column(section);
+        return column ? d->columnHeader(*column, role) : QVariant();
+    }
+    if (role == Qt::TextAlignmentRole)
+        return int(Qt::AlignRight | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole)
+        return {};
+    const VKTab::LineId id = lineId(section);
+    return id.isValid() ? QVariant(id.value(0)) : QVariant();
+}
+
+const VKTab::Line &VkTableModelPrivate::lineAt(int row) const
+{
+    const VKTab::LineId id = rows.lineId(row);
+    if (id != lineId || !line.isValid()) {
+        line = table.getLine(id, false);
+        lineId = id;
+    }
+    return line;
+}
+
+QVariant VkTableModelPrivate::statusData(int row, const TableColumn &column, int index,
+                                         int role) const
+{
+    if (role == VkTableModel::StatusKeyRole)
+        return column.status.getName();
+    if (role == VkTableModel::VarIdRole)
+        return -1;
+    if (role == Qt::TextAlignmentRole)
+        return int(Qt::AlignCenter);
+    if (role == Qt::ToolTipRole)
+        return toolTip(row, column, index, nullptr);
+    const VKTab::StatusValue *const shown = state(row, column);
+    if (!shown)
+        return {};
+    if (role == Qt::AccessibleTextRole) {
+        // A handler may be costly and is asked when its tool tip is shown.
+        return shown->getToolTipText().isEmpty() ? shown->getText()
+                                                 : plain(shown->getToolTipText());
+    }
+    const QIcon image = icon(shown->getImageFile());
+    if (role == Qt::DecorationRole && !image.isNull())
+        return image;
+    if (role == Qt::DisplayRole && image.isNull())
+        return shown->getText();
+    return {};
+}
+
+QVariant VkTableModelPrivate::valueData(int row, const VKTab::Var &var, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return shownText(lineAt(row), var);
+    case Qt::ToolTipRole:
+        return valueToolTip(row, var);
+    case Qt::TextAlignmentRole:
+        return int((alignsRight(var) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    case VkTableModel::VarIdRole:
+        return var.getVarId().value();
+    case VkTableModel::StatusKeyRole:
+        return QString();
+    case VkTableModel::RangeRole:
+        return rangeText(row, var);
+    default:
+        return {};
+    }
+}
+
+QString VkTableModelPrivate::rangeText(int row, const VKTab::Var &var) const
+{
+    return var.isFW() ? table.getRangeText(var.getVarId(), rows.lineId(row)) : QString();
+}
+
+QString VkTableModelPrivate::valueToolTip(int row, const VKTab::Var &var) const
+{
+    constexpr qint64 most = 50;
+    const QString text = rangeText(row, var);
+    const auto range = VKTab::RangeText::parse(text, table.getDecimalChar(var.getVarId()));
+    if (!range || range->isEmpty())
+        return {};
+    QStringList values;
+    for (qint64 i = 0; i < std::min(range->count(), most); ++i)
+        values.append(range->value(i));
+    if (range->count() > most)
+        values.append(QStringLiteral("…"));
+    return translated("Wertebereich (%1 Werte): %2")
+        .arg(QString::number(range->count()), values.join(QStringLiteral("; ")));
+}
+
+const VKTab::StatusValue *VkTableModelPrivate::state(int row, const TableColumn &column) const
+{
+    const QString text = lineAt(row).getLineKeyValue(column.status.getName()).toString();
+    return text.isEmpty() ? nullptr : column.status.findValue(text);
+}
+
+QString VkTableModelPrivate::toolTip(int row, const TableColumn &column, int index,
+                                     QWidget *widget) const
+{
+    const VKTab::StatusValue *const shown = state(row, column);
+    if (!shown)
+        return {};
+    if (const auto &handler = shown->getToolTipHandler2()) {
+        // The handler may have the model draw other lines.
+        const VKTab::Line asked = table.getLine(rows.lineId(row), false);
+        const VKTab::StatusValue::ToolTipHandler held = handler;
+        return held(asked, rows.placeAt(row) + 1, index, widget);
+    }
+    return shown->getToolTipText();
+}
+
+QIcon VkTableModelPrivate::icon(const QString &file) const
+{
+    if (file.isEmpty())
+        return {};
+    const auto known = icons.constFind(file);
+    if (known != icons.constEnd())
+        return *known;
+    const QIcon made = QFileInfo::exists(file) ? QIcon(file) : QIcon();
+    icons.insert(file, made);
+    return made;
+}
+
+QVariant VkTableModelPrivate::columnHeader(const TableColumn &column, int role) const
+{
+    if (role == VkTableModel::StatusKeyRole)
+        return column.status.getName();
+    if (column.isStatus()) {
+        return role == Qt::ToolTipRole || role == Qt::AccessibleTextRole
+                   ? QVariant(QString(translated("Status")))
+                   : QVariant();
+    }
+    const VKTab::Var &var = column.var;
+    const QString unit =
+        var.getUnit().isEmpty() ? QString() : QStringLiteral(" [%1]").arg(var.getUnit());
+    switch (role) {
+    case Qt::DisplayRole:
+        return QString(var.getName() + unit);
+    case Qt::ToolTipRole:
+        return table.translateText(var.getDescription(), var.getVarId());
+    case Qt::TextAlignmentRole:
+        return int((alignsRight(var) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    case VkTableModel::VarIdRole:
+        return var.getVarId().value();
+    default:
+        return {};
+    }
+}

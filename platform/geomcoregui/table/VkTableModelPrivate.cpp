@@ -1,0 +1,199 @@
+#include "VkTableModelPrivate.h"
+
+#include "TableRowBuilder.h"
+
+#include <geomcore/table/SignalConnect.h>
+
+using VKTab::Content;
+
+VkTableModelPrivate::VkTableModelPrivate(VkTableModel *model)
+    : q(model)
+{
+}
+
+void VkTableModelPrivate::connectTable()
+{
+    VKTab::SignalConnect &hub = table.signalConnect();
+    invalidated = hub.connectSignalInvalidated(
+        [this](const Content &, Content::InvalidateFlags flags) { onInvalidated(flags); });
+    lineStatus = hub.connectSignalLineStatus(
+        [this](const Content &, const VKTab::LineId &id) { onLineStatus(id); });
+    lineModified =
+        hub.connectSignalLineModified([this](const Content &, const VKTab::LineId &id, bool) {
+            onLineModified(id);
+            return 0;
+        });
+}
+
+void VkTableModelPrivate::onInvalidated(Content::InvalidateFlags flags)
+{
+    if (following)
+        refresh(flags);
+    else
+        missed |= flags;
+}
+
+void VkTableModelPrivate::onLineStatus(const VKTab::LineId &id)
+{
+    if (!following) {
+        missed |= Content::InvalidateValues;
+        return;
+    }
+    const int row = id.isValid() ? rows.rowOf(id) : rows.count() - 1;
+    if (row < 0)
+        return;
+    dirtyStatus.add(id.isValid() ? row : 0, row);
+    scheduleFlush();
+}
+
+void VkTableModelPrivate::onLineModified(const VKTab::LineId &id)
+{
+    sortedValues.clear();
+    if (!following) {
+        missed |= Content::InvalidateValues;
+        return;
+    }
+    const int row = rows.rowOf(id);
+    if (row < 0)
+        return;
+    dirtyValues.add(row);
+    scheduleFlush();
+}
+
+void VkTableModelPrivate::refresh(Content::InvalidateFlags flags)
+{
+    if (!flags)
+        return;
+    forgetCells();
+    if (table.getTableData() != tableData) {
+        q->beginResetModel();
+        quickFilters.clear();
+        sortedBy.reset();
+        resetTo(tableColumns(table, choice));
+        q->endResetModel();
+        return;
+    }
+    if (flags.testFlag(Content::InvalidateColumns))
+        refreshColumns();
+    const bool arranged = !quickFilters.empty() || sortedBy;
+    if (flags.testFlag(Content::InvalidateFilter) ||
+        (flags.testFlag(Content::InvalidateValues) && arranged))
+        refreshRows();
+    if (flags != Content::InvalidateFilter && rows.count() > 0) {
+        dirtyValues.add(0, rows.count() - 1);
+        dirtyStatus.add(0, rows.count() - 1);
+        scheduleFlush();
+    }
+}
+
+void VkTableModelPrivate::scheduleFlush()
+{
+    if (std::exchange(flushScheduled, true))
+        return;
+    QMetaObject::invokeMethod(
+        q, [this] { flush(); }, Qt::QueuedConnection);
+}
+
+void VkTableModelPrivate::flush()
+{
+    flushScheduled = false;
+    flush(dirtyStatus, 0, statusColumns - 1,
+          {Qt::DecorationRole, Qt::DisplayRole, Qt::ToolTipRole, Qt::AccessibleTextRole});
+    flush(dirtyValues, statusColumns, int(columns.size()) - 1,
+          {Qt::DisplayRole, Qt::ToolTipRole, VkTableModel::RangeRole});
+}
+
+void VkTableModelPrivate::flush(DirtyRows &dirty, int firstColumn, int lastColumn,
+                                const QList<int> &roles)
+{
+    const DirtyRows changed = std::exchange(dirty, DirtyRows());
+    if (changed.isEmpty() || lastColumn < firstColumn || changed.last() >= rows.count())
+        return;
+    Q_EMIT q->dataChanged(q->index(changed.first(), firstColumn),
+                          q->index(changed.last(), lastColumn), roles);
+}
+
+void VkTableModelPrivate::takeChoice(const TableColumnChoice &newChoice)
+{
+    choice = newChoice;
+    refreshColumns();
+}
+
+void VkTableModelPrivate::refreshColumns()
+{
+    const QList<TableColumn> found = tableColumns(table, choice);
+    forgetCells();
+    if (found == columns) {
+        columns = found; // the states of a status key may have changed
+        return;
+    }
+    q->beginResetModel();
+    resetTo(found);
+    q->endResetModel();
+}
+
+void VkTableModelPrivate::refreshRows()
+{
+    TableRows found = makeRows();
+    if (found.sameLines(rows)) {
+        rows = std::move(found);
+        return;
+    }
+    q->beginResetModel();
+    rows = std::move(found);
+    dirtyStatus.clear();
+    dirtyValues.clear();
+    q->endResetModel();
+}
+
+void VkTableModelPrivate::resetTo(const QList<TableColumn> &found)
+{
+    columns = found;
+    statusColumns = int(std::count_if(columns.begin(), columns.end(),
+                                      [](const TableColumn &c) { return c.isStatus(); }));
+    forgetCells();
+    tableData = table.getTableData();
+    rows = makeRows();
+    dirtyStatus.clear();
+    dirtyValues.clear();
+}
+
+void VkTableModelPrivate::forgetCells()
+{
+    sortedValues.clear();
+    line = VKTab::Line();
+    lineId = VKTab::LineId();
+}
+
+TableRows VkTableModelPrivate::makeRows()
+{
+    if (!table.isValid())
+        return {};
+    TableRowBuilder builder(table);
+    for (const auto &[id, text] : quickFilters) {
+        if (const int index = q->columnOf(id); index >= 0)
+            builder.filter(*values(columns.at(index).var).values, text);
+    }
+    if (!sortedBy || !columns.contains(*sortedBy))
+        return builder.rows();
+    if (sortedBy->isStatus()) {
+        builder.sort(sortedBy->status, order);
+    } else {
+        SortedValues &sorting = values(sortedBy->var);
+        builder.sort(*sorting.values, sorting.ranked(), order);
+    }
+    return builder.rows();
+}
+
+const TableColumn *VkTableModelPrivate::column(int index) const
+{
+    return index >= 0 && index < columns.size() ? &columns.at(index) : nullptr;
+}
+
+VkTableModelPrivate::SortedValues &VkTableModelPrivate::values(const VKTab::Var &var)
+{
+    SortedValues &entry = sortedValues[var.getVarId()];
+    if (!entry.values)
+        entry.values = std::make_unique<TableColumnValues>(table, var);
+    return entry;
+}

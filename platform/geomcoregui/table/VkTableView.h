@@ -1,0 +1,86 @@
+#pragma once
+
+#include "VkTableViewBase.h"
+
+#include <QAbstractItemView>
+#include <QList>
+#include <QWidget>
+
+#include <memory>
+
+class VkTableModel;
+class VkTableViewPrivate;
+
+/// View of a table: a grid with an icon column for each status key, a find bar (Ctrl+F) and a row
+/// of quick filters (Ctrl+Shift+F). The table's selected line and the view's follow each other.
+/// Everything works by keyboard too: F3 and Shift+F3 find again, Ctrl+C copies, Ctrl+Plus,
+/// Ctrl+Minus and Ctrl+0 zoom, Space or Enter on an icon clicks it.
+///
+/// Widths that a user gives to columns are kept in the application's configuration, by table and
+/// variable. The object names are "grid", "findBar", "filterBar" and "tableTitle".
+class VELKGEOMCOREGUI_EXPORT VkTableView : public QWidget, public VkTableViewBase
+{
+    Q_OBJECT
+
+public:
+    /// Table, row in the table's line mapping (from 1), name of the status key. The result is not
+    /// used.
+    using IconClickedSlot = std::function<int(const VKTab::Content &, int, const QString &)>;
+
+    static constexpr double MinZoomFactor = 0.5;
+    static constexpr double MaxZoomFactor = 4.0;
+
+    explicit VkTableView(QWidget *parent = nullptr);
+    ~VkTableView() override;
+
+    void setActive(bool active) override;
+    /// True: values come into a table by its lines' ranges only.
+    [[nodiscard]] bool isViewOnlyMode() const override;
+    [[nodiscard]] VKTab::ContentRef getTable() const override;
+    void setTable(VKTab::ContentRef table) override;
+    void setHorizontalScrollPos(int position) override;
+    [[nodiscard]] int getHorizontalScrollPos() const override;
+    void setVerticalScrollPos(int position) override;
+    [[nodiscard]] int getVerticalScrollPos() const override;
+
+    /// The title above the columns: norm number and designation of the table. Shown at first. The
+    /// captions of the columns always stay.
+    void setHeaderVisible(bool visible);
+    [[nodiscard]] bool isHeaderVisible() const;
+    /// Columns of topological variables. Shown at first.
+    void setShowTopoValues(bool show);
+    /// Columns of variables that serve the library or the host. Not shown at first.
+    void setShowInternalValues(bool show);
+    /// SingleSelection at first. Whole lines are selected.
+    void setSelectionMode(QAbstractItemView::SelectionMode mode);
+    [[nodiscard]] QAbstractItemView::SelectionMode selectionMode() const;
+
+    /// In display order.
+    [[nodiscard]] QList<VKTab::LineId> getSelectedLines() const;
+    /// Owned by the view.
+    [[nodiscard]] VkTableModel *model() const;
+    /// The grid inside, for tests and for placing something over it. Owned by the view.
+    [[nodiscard]] QAbstractItemView *grid() const;
+
+    [[nodiscard]] double getZoomFactor() const;
+    /// 1 is the size of the application's font; other factors are brought between MinZoomFactor and
+    /// MaxZoomFactor.
+    void setZoomFactor(double factor);
+
+    /// Called for a click with the left button, or Space or Enter, on an icon; after the listeners
+    /// to clicks on the table.
+    boost::signals2::connection connectIconClicked(const IconClickedSlot &slot);
+
+    /// Copies the selected lines with the captions of the columns, as text separated by tabs and as
+    /// HTML. Nothing happens without a selected line.
+    void copySelection() const;
+    void showFindBar();
+    void showFilterBar(bool show);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    friend class VkTableViewPrivate;
+    std::unique_ptr<VkTableViewPrivate> d;
+};

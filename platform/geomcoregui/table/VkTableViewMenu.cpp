@@ -1,0 +1,87 @@
+#include "TableBar.h"
+#include "TableColumnWidths.h"
+#include "TableFilterBar.h"
+#include "TableFindBar.h"
+#include "TableGrid.h"
+#include "TableSelectionLink.h"
+#include "VkTableModel.h"
+#include "VkTableViewPrivate.h"
+
+#include <QMenu>
+#include <QPointer>
+
+namespace {
+
+QAction *addRow(QMenu *menu, const char *name, const char *text, const QKeySequence &keys = {})
+{
+    QAction *const row = menu->addAction(tableText(text));
+    row->setObjectName(QLatin1String(name));
+    row->setShortcut(keys);
+    row->setShortcutVisibleInContextMenu(true);
+    return row;
+}
+
+} // namespace
+
+void VkTableViewPrivate::onCellClicked(const QModelIndex &index, Qt::MouseButton button)
+{
+    const int line = index.isValid() ? model->lineId(index.row()).value(0) : -1;
+    q->announceTableClicked(line, button == Qt::LeftButton ? 1 : 0);
+}
+
+void VkTableViewPrivate::onIconActivated(const QModelIndex &index)
+{
+    const QString key = index.data(VkTableModel::StatusKeyRole).toString();
+    const int row = model->mappingRow(index.row());
+    if (row >= 0 && !key.isEmpty())
+        iconClicked(model->getTable(), row + 1, key);
+}
+
+void VkTableViewPrivate::showMenu(VkTableViewBase::PopupArea area, int row, int column,
+                                  const QPoint &position)
+{
+    const QPointer<VkTableViewPrivate> alive = this;
+    auto *const menu = new QMenu(q);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (!q->askPopupShow(menu, area, model->mappingRow(row) + 1)) {
+        delete menu;
+        return;
+    }
+    if (!alive)
+        return;
+    if (!menu->isEmpty())
+        menu->addSeparator();
+    addMenuRows(menu, column);
+    menu->popup(position);
+}
+
+void VkTableViewPrivate::addMenuRows(QMenu *menu, int column)
+{
+    QAction *const copyRow = addRow(menu, "copy", "Kopieren", QKeySequence(Qt::CTRL | Qt::Key_C));
+    copyRow->setEnabled(!selection->selectedRows().isEmpty());
+    connect(copyRow, &QAction::triggered, this, [this] { copy(); });
+    connect(addRow(menu, "find", "Suchen ...", QKeySequence(Qt::CTRL | Qt::Key_F)),
+            &QAction::triggered, this, [this] { findBar->open(); });
+    QAction *const filterRow =
+        addRow(menu, "filter", "Spaltenfilter", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
+    filterRow->setCheckable(true);
+    filterRow->setChecked(filterBar->isVisible());
+    connect(filterRow, &QAction::triggered, this, [this](bool shown) { q->showFilterBar(shown); });
+    addSortRows(menu, column);
+}
+
+void VkTableViewPrivate::addSortRows(QMenu *menu, int column)
+{
+    menu->addSeparator();
+    if (column >= 0) {
+        connect(addRow(menu, "sortAscending", "Spalte aufsteigend sortieren"), &QAction::triggered,
+                this, [this, column] { sort(column, Qt::AscendingOrder); });
+        connect(addRow(menu, "sortDescending", "Spalte absteigend sortieren"), &QAction::triggered,
+                this, [this, column] { sort(column, Qt::DescendingOrder); });
+    }
+    QAction *const unsorted = addRow(menu, "unsorted", "Sortierung aufheben");
+    unsorted->setEnabled(model->sortColumn() >= 0);
+    connect(unsorted, &QAction::triggered, this, [this] { sort(-1, Qt::AscendingOrder); });
+    connect(addRow(menu, "fitColumns", "Spaltenbreiten anpassen"), &QAction::triggered, widths,
+            &TableColumnWidths::fitAll);
+}

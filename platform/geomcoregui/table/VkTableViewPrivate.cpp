@@ -1,0 +1,261 @@
+#include "VkTableViewPrivate.h"
+
+#include "TableBar.h"
+#include "TableClipboard.h"
+#include "TableColumnWidths.h"
+#include "TableFilterBar.h"
+#include "TableFindBar.h"
+#include "TableGrid.h"
+#include "TableSelectionLink.h"
+#include "VkTableModel.h"
+
+#include <geomcore/table/TableData.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace {
+
+constexpr double zoomStep = 1.1;
+constexpr int iconSize = 16; // at zoom factor 1
+
+} // namespace
+
+VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
+    : q(view)
+    , title(new QLabel(view))
+    , grid(new TableGrid(view))
+    , model(new VkTableModel(this))
+    , filterBar(new TableFilterBar(grid, model, view))
+    , findBar(new TableFindBar(grid, model, view))
+{
+    title->setObjectName(QStringLiteral("tableTitle"));
+    title->setTextFormat(Qt::PlainText);
+    title->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    grid->setModel(model);
+    selection = new TableSelectionLink(grid, model);
+    widths = new TableColumnWidths(grid, model);
+    grid->installEventFilter(this);
+    q->setFocusProxy(grid);
+    layOut();
+    connectGrid();
+    applyZoom();
+    showTitle();
+}
+
+VkTableViewPrivate::~VkTableViewPrivate() = default;
+
+void VkTableViewPrivate::layOut()
+{
+    auto *const layout = new QVBoxLayout(q);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(title);
+    layout->addWidget(filterBar);
+    layout->addWidget(grid, 1);
+    layout->addWidget(findBar);
+}
+
+void VkTableViewPrivate::connectGrid()
+{
+    QHeaderView *const header = grid->horizontalHeader();
+    header->setSortIndicatorShown(true);
+    header->setSortIndicatorClearable(true);
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    connect(header, &QHeaderView::sortIndicatorChanged, model, &VkTableModel::sort);
+    connect(header, &QWidget::customContextMenuRequested, this,
+            [this, header](const QPoint &position) {
+                showMenu(VkTableViewBase::PopupHeader, -1, header->logicalIndexAt(position),
+                         header->viewport()->mapToGlobal(position));
+            });
+    connect(model, &QAbstractItemModel::modelReset, this, &VkTableViewPrivate::onModelReset);
+    connect(grid, &TableGrid::cellClicked, this, &VkTableViewPrivate::onCellClicked);
+    connect(grid, &TableGrid::lineEntered, this,
+            [this](const QModelIndex &index) { onCellClicked(index, Qt::NoButton); });
+    connect(grid, &TableGrid::iconActivated, this, &VkTableViewPrivate::onIconActivated);
+    connect(grid, &TableGrid::menuRequested, this, [this](int row, const QPoint &position) {
+        showMenu(VkTableViewBase::PopupCells, row, grid->currentIndex().column(), position);
+    });
+    connect(grid, &TableGrid::zoomRequested, this,
+            [this](int steps) { setZoomFactor(zoom * std::pow(zoomStep, steps)); });
+}
+
+void VkTableViewPrivate::setTable(const VKTab::ContentRef &table)
+{
+    {
+        // What was selected belongs to the former table.
+        const QSignalBlocker blocker(grid->selectionModel());
+        grid->selectionModel()->clear();
+    }
+    model->setTable(table);
+    selection->connectTable();
+    widths->load();
+    widths->apply();
+    showTitle();
+}
+
+void VkTableViewPrivate::setActive(bool following)
+{
+    model->setFollowing(following);
+    selection->setFollowing(following);
+}
+
+void VkTableViewPrivate::onModelReset()
+{
+    QHeaderView *const header = grid->horizontalHeader();
+    {
+        const QSignalBlocker blocker(header);
+        header->setSortIndicator(model->sortColumn(), model->sortOrder());
+    }
+    widths->apply();
+}
+
+void VkTableViewPrivate::setZoomFactor(double factor)
+{
+    const double wanted =
+        std::clamp(factor, VkTableView::MinZoomFactor, VkTableView::MaxZoomFactor);
+    if (wanted == zoom)
+        return;
+    zoom = std::abs(wanted - 1) < 0.01 ? 1 : wanted;
+    applyZoom();
+}
+
+void VkTableViewPrivate::applyZoom()
+{
+    QFont font = q->font();
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * zoom);
+    else
+        font.setPixelSize(std::max(1, qRound(font.pixelSize() * zoom)));
+    grid->setFont(font);
+    grid->horizontalHeader()->setFont(font);
+    grid->verticalHeader()->setFont(font);
+    const int icon = qRound(iconSize * zoom);
+    grid->setIconSize(QSize(icon, icon));
+    const int height = std::max(QFontMetrics(font).height(), icon) + 4;
+    grid->verticalHeader()->setMinimumSectionSize(height);
+    grid->verticalHeader()->setDefaultSectionSize(height);
+    grid->verticalScrollBar()->setSingleStep(height);
+    widths->setZoomFactor(zoom);
+}
+
+void VkTableViewPrivate::showTitle()
+{
+    const VKTab::ContentRef table = model->getTable();
+    QStringList parts;
+    if (table.isValid()) {
+        parts.append(table.getKeyValue(VKTab::KeyNormNumber).toString());
+        if (const auto data = table.getTableData())
+            parts.append(table.translateText(data->descriptor().designation, VKTab::VarId()));
+    }
+    parts.removeAll(QString());
+    title->setText(parts.join(QStringLiteral(" – ")));
+    title->setVisible(headerVisible && !parts.isEmpty());
+    grid->setAccessibleName(tableText("Tabelle %1").arg(parts.join(u' ')).trimmed());
+}
+
+void VkTableViewPrivate::retranslate()
+{
+    findBar->retranslate();
+    filterBar->retranslate();
+    showTitle();
+}
+
+void VkTableViewPrivate::copy() const
+{
+    const QList<int> rows = selection->selectedRows();
+    if (!rows.isEmpty())
+        QGuiApplication::clipboard()->setMimeData(tableMimeData(*grid, rows));
+}
+
+void VkTableViewPrivate::setFilterBarShown(bool shown)
+{
+    filterBar->setShown(shown);
+    if (!shown)
+        grid->setFocus(Qt::OtherFocusReason);
+}
+
+void VkTableViewPrivate::sort(int column, Qt::SortOrder order)
+{
+    grid->horizontalHeader()->setSortIndicator(column, order);
+}
+
+bool VkTableViewPrivate::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+        return QObject::eventFilter(object, event);
+    const Command command = commandOf(*static_cast<QKeyEvent *>(event));
+    if (command == Command::None)
+        return QObject::eventFilter(object, event);
+    event->accept();
+    if (event->type() == QEvent::KeyPress)
+        run(command);
+    return true;
+}
+
+VkTableViewPrivate::Command VkTableViewPrivate::commandOf(const QKeyEvent &event) const
+{
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const int key = event.key();
+    if (key == Qt::Key_F3 && modifiers == Qt::NoModifier)
+        return Command::FindNext;
+    if (key == Qt::Key_F3 && modifiers == Qt::ShiftModifier)
+        return Command::FindPrevious;
+    if (key == Qt::Key_Escape && findBar->isVisible())
+        return Command::Close;
+    if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier))
+        return Command::None;
+    const bool isShift = modifiers.testFlag(Qt::ShiftModifier);
+    if (key == Qt::Key_F)
+        return isShift ? Command::Filter : Command::Find;
+    if (key == Qt::Key_C && !isShift)
+        return Command::Copy;
+    if (key == Qt::Key_Plus || key == Qt::Key_Equal)
+        return Command::Larger;
+    if (key == Qt::Key_Minus)
+        return Command::Smaller;
+    return key == Qt::Key_0 ? Command::Normal : Command::None;
+}
+
+void VkTableViewPrivate::run(Command command)
+{
+    switch (command) {
+    case Command::Find:
+        findBar->open();
+        break;
+    case Command::FindNext:
+        findBar->findAgain(false);
+        break;
+    case Command::FindPrevious:
+        findBar->findAgain(true);
+        break;
+    case Command::Filter:
+        q->showFilterBar(!filterBar->isVisible());
+        break;
+    case Command::Copy:
+        copy();
+        break;
+    case Command::Larger:
+        setZoomFactor(zoom * zoomStep);
+        break;
+    case Command::Smaller:
+        setZoomFactor(zoom / zoomStep);
+        break;
+    case Command::Normal:
+        setZoomFactor(1);
+        break;
+    case Command::Close:
+        findBar->close();
+        break;
+    case Command::None:
+        break;
+    }
+}
