@@ -1,6 +1,7 @@
 #include "ImportCommand.h"
 
 #include "CommandLine.h"
+#include "ReleaseDate.h"
 #include "TableImport.h"
 #include "TypeRecognition.h"
 
@@ -58,15 +59,6 @@ private:
 QString withoutEnding(const QString &csvFile)
 {
     return csvFile.chopped(4);
-}
-
-/// Normalised to UTC; empty if it is no date.
-QString utcDate(const QString &text)
-{
-    QDateTime instant = QDateTime::fromString(text.trimmed(), Qt::ISODate);
-    if (instant.timeSpec() == Qt::LocalTime)
-        instant = QDateTime(instant.date(), instant.time(), Qt::UTC);
-    return instant.isValid() ? instant.toUTC().toString(Qt::ISODate) : QString();
 }
 
 ExitStatus ImportRun::run(const QString &from, const QString &into, ImportOptions options)
@@ -208,7 +200,7 @@ ExitStatus runImport(const QStringList &arguments, QTextStream &out, QTextStream
     ImportOptions options;
     options.keyColumn = line.value(QStringLiteral("key"));
     options.dateIsGiven = line.isSet(QStringLiteral("date"));
-    options.date = options.dateIsGiven ? utcDate(line.value(QStringLiteral("date")))
+    options.date = options.dateIsGiven ? dateInUtc(line.value(QStringLiteral("date")))
                                        : QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
     if (options.date.isEmpty())
         return line.wrongUsage(
