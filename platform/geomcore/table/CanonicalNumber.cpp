@@ -134,6 +134,16 @@ std::optional<CanonicalNumber> CanonicalNumber::parseAny(std::string_view text, 
 
 double CanonicalNumber::toDouble() const
 {
+    // Digits and powers of ten up to 22 are exact in a double, so one operation rounds right.
+    static constexpr double powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                        1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                        1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    const int exponent = int((m_packed >> 48) & 0x7FFF) - ExponentBias;
+    if (!isZero() && exponent >= -22 && exponent <= 22) {
+        const auto digits = double(m_packed & DigitsMask);
+        const double value = exponent < 0 ? digits / powers[-exponent] : digits * powers[exponent];
+        return isNegative() ? -value : value;
+    }
     const std::string text = toText();
     double value = 0.0;
     std::from_chars(text.data(), text.data() + text.size(), value);
