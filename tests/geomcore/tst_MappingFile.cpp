@@ -342,8 +342,9 @@ private Q_SLOTS:
             << QByteArray("\"state\"")
             << QByteArray("\"x\": " + QByteArray(600, '[') + QByteArray(600, ']') + ", \"state\"")
             << "nested too deeply";
-        QTest::newRow("comma missing") << QByteArray("[1,10,1],") << QByteArray("[1,10,1]")
-                                       << "line 27, column 8: Missing a comma or ']' after an array";
+        QTest::newRow("comma missing")
+            << QByteArray("[1,10,1],") << QByteArray("[1,10,1]")
+            << "line 27, column 8: Missing a comma or ']' after an array";
         QTest::newRow("invalid UTF-8")
             << QByteArray("cat/a") << QByteArray("cat/\xFF") << "Invalid encoding in string";
         QTest::newRow("something behind")
@@ -366,6 +367,100 @@ private Q_SLOTS:
         QVERIFY2(message.contains(error), qPrintable(message));
         QVERIFY(message.startsWith("line "));
         QCOMPARE(file.toByteArray(), Sound);
+    }
+
+    void rowsBehindARow_data()
+    {
+        QTest::addColumn<QByteArray>("rows");
+        QTest::addColumn<QList<int>>("ids");
+        const QList<int> none;
+        QTest::newRow("plain") << QByteArray("[1,2,0],[2,2,0],[3,2,0]") << QList<int>{1, 2, 3};
+        QTest::newRow("blanks") << QByteArray("[1,2,0] ,\n[ 2 ,\t2\r,0 ] , [3,2,0] ")
+                                << QList<int>{1, 2, 3};
+        QTest::newRow("extended in between")
+            << QByteArray("[1,2,0],[2,2,0],[3,2,0,\"x\"],[4,2,0]") << QList<int>{1, 2, 3, 4};
+        QTest::newRow("limits") << QByteArray(
+                                       "[0,0,0],[-2147483648,-0,2147483647],[2147483647,0,0]")
+                                << QList<int>{std::numeric_limits<int>::min(), 0,
+                                              std::numeric_limits<int>::max()};
+        QTest::newRow("leading zero") << QByteArray("[1,2,0],[02,2,0]") << none;
+        QTest::newRow("leading zero behind a sign") << QByteArray("[1,2,0],[-02,2,0]") << none;
+        QTest::newRow("plus sign") << QByteArray("[1,2,0],[+2,2,0]") << none;
+        QTest::newRow("sign alone") << QByteArray("[1,2,0],[-,2,0]") << none;
+        QTest::newRow("fraction") << QByteArray("[1,2,0],[2,2.0,0]") << none;
+        QTest::newRow("exponent") << QByteArray("[1,2,0],[2,2,0e0]") << none;
+        QTest::newRow("beyond an int") << QByteArray("[1,2,0],[2147483648,2,0]") << none;
+        QTest::newRow("negative state") << QByteArray("[1,2,0],[2,2,-1]") << none;
+        QTest::newRow("two numbers") << QByteArray("[1,2,0],[2,2]") << none;
+        QTest::newRow("empty row") << QByteArray("[1,2,0],[]") << none;
+        QTest::newRow("four numbers") << QByteArray("[1,2,0],[2,2,0,0]") << none;
+        QTest::newRow("comma behind a number") << QByteArray("[1,2,0],[2,2,0,]") << none;
+        QTest::newRow("no comma between") << QByteArray("[1,2,0][2,2,0]") << none;
+        QTest::newRow("no comma later") << QByteArray("[1,2,0],[2,2,0][3,2,0]") << none;
+        QTest::newRow("comma at the end") << QByteArray("[1,2,0],[2,2,0],") << none;
+        QTest::newRow("two commas") << QByteArray("[1,2,0],,[2,2,0]") << none;
+        QTest::newRow("twice") << QByteArray("[1,2,0],[2,2,0],[1,2,0]") << none;
+        QTest::newRow("form feed") << QByteArray("[1,2,0],\f[2,2,0]") << none;
+    }
+    void rowsBehindARow()
+    {
+        QFETCH(QByteArray, rows);
+        QFETCH(QList<int>, ids);
+        QByteArray bytes = Sound;
+        const qsizetype from = bytes.indexOf("[1,10,1]");
+        bytes.replace(from, bytes.indexOf("      ]\n", from) - from, rows);
+        MappingFile file;
+        QString error;
+        QCOMPARE(file.parse(bytes, QString(), &error), !ids.isEmpty());
+        QList<int> found;
+        for (const ReleaseMappingC &release : file.releases()) {
+            for (const auto &line : release.mappingAt(0).findTarget(0).lines())
+                found += line.sourceLine();
+        }
+        QCOMPARE(found, ids);
+        QVERIFY2(ids.isEmpty() == error.startsWith("line "), qPrintable(error));
+    }
+
+    void rowsAcrossPieces()
+    {
+        QRandomGenerator random(21);
+        const QByteArrayList blanks{"", "", " ", "\n", "\t\r\n   "};
+        const auto blank = [&] {
+            return blanks.at(random.bounded(blanks.size()));
+        };
+        QByteArray rows;
+        for (int i = 1; i <= 30000; ++i) {
+            rows += i == 1 ? "" : ",";
+            rows += blank() + '[' + blank() + QByteArray::number(i * 7) + blank() + ',' + blank() +
+                    QByteArray::number(int(random.generate()) / 2) + ',' + blank() +
+                    QByteArray::number(random.bounded(4)) + blank();
+            if (random.bounded(10) == 0)
+                rows += ",\"" + QByteArray(random.bounded(40), 'x') + '"';
+            rows += ']' + blank();
+        }
+        QByteArray bytes = Sound;
+        const qsizetype from = bytes.indexOf("[1,10,1]");
+        bytes.replace(from, bytes.indexOf("      ]\n", from) - from, rows);
+        QVERIFY(bytes.size() > 700000);
+
+        QTemporaryDir dir;
+        const QString path = dir.filePath("m.json");
+        writeFile(path, bytes);
+        MappingFile file;
+        QString error;
+        QVERIFY2(file.read(path, QString(), &error), qPrintable(error));
+        QCOMPARE(file.release("2022").mappingAt(0).findTarget(0).countLines(), 30000);
+        // The other way to read a release looks at every row alike.
+        PJsonValue document;
+        QVERIFY(document.parse(bytes));
+        ReleaseMappingC release;
+        QVERIFY2(release.fromJson(document.value("2022"), &error), qPrintable(error));
+        MappingFile expected;
+        expected.setRelease(release);
+        QCOMPARE(file.toByteArray(), expected.toByteArray());
+        // Left as text, it is what it was.
+        QVERIFY(file.read(path, "none"));
+        QVERIFY(file.toByteArray().contains(rows));
     }
 
     void cutOffAnywhere()

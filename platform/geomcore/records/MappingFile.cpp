@@ -5,6 +5,7 @@
 
 #include <core/json/JsonWriter.h>
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -81,16 +82,15 @@ MappingFile::~MappingFile() = default;
 bool MappingFile::read(const QString &nativePath, const QString &sourceDate, QString *error)
 {
     QFile file(nativePath);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return report(error, nativePath, file.errorString());
     if (!QFileInfo(nativePath).isFile())
         return report(error, nativePath, QStringLiteral("It is no regular file."));
-    const QByteArray json = file.readAll();
+    QString what;
+    if (readMappingFile(file, sourceDate, d->members, &what))
+        return true;
     if (file.error() != QFileDevice::NoError)
         return report(error, nativePath, file.errorString());
-    QString what;
-    if (parse(json, sourceDate, &what))
-        return true;
     if (error)
         *error = QStringLiteral("%1, %2").arg(nativePath, what);
     return false;
@@ -98,7 +98,10 @@ bool MappingFile::read(const QString &nativePath, const QString &sourceDate, QSt
 
 bool MappingFile::parse(const QByteArray &json, const QString &sourceDate, QString *error)
 {
-    return readMappingFile(json, sourceDate, d->members, error);
+    QBuffer buffer;
+    buffer.setData(json);
+    return buffer.open(QIODevice::ReadOnly) &&
+           readMappingFile(buffer, sourceDate, d->members, error);
 }
 
 QStringList MappingFile::sourceDates() const

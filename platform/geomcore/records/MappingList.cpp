@@ -61,11 +61,10 @@ void MappingList::enter(const QString &path)
         m_index = new Index;
     const int position = m_size - 1;
     m_index->next.push_back(-1);
-    const auto known = m_index->byPath.find(path);
-    if (known == m_index->byPath.end()) {
-        m_index->byPath.insert(path, {position, position});
-        return;
-    }
-    m_index->next[std::size_t(known->last)] = position;
-    known->last = position;
+    Positions &positions = m_index->byPath[path];
+    if (positions.last < 0)
+        positions.first = position;
+    else
+        m_index->next[std::size_t(positions.last)] = position;
+    positions.last = position;
 }

@@ -38,8 +38,8 @@ private:
     };
     struct Positions
     {
-        int first;
-        int last;
+        int first = -1;
+        int last = -1;
     };
     struct Index : QSharedData
     {

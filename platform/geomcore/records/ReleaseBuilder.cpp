@@ -415,20 +415,33 @@ bool ReleaseBuilder::endModifier()
     return true;
 }
 
+bool ReleaseBuilder::row(int sourceLine, int targetLine, int state)
+{
+    ++m_element;
+    m_row = {sourceLine, targetLine, state};
+    m_column = 3;
+    return addRow(ExtendedTextPtr(), false);
+}
+
 bool ReleaseBuilder::endRow()
 {
+    ExtendedTextPtr extended;
+    if (!m_extended.isEmpty())
+        extended = new ExtendedText(m_extended);
+    return addRow(extended, m_conflict);
+}
+
+bool ReleaseBuilder::addRow(const ExtendedTextPtr &extended, bool conflict)
+{
+    m_place = Row;
     if (m_column < 3 || m_row[2] < 0)
         return fail(rowLayout());
     const LineTable &lines = m_target.lines();
     if (!lines.isEmpty() && m_row[0] <= m_lastLine && lines.contains(m_row[0]))
         return fail(QStringLiteral("names source line %1 once more").arg(m_row[0]));
     m_lastLine = m_row[0];
-    ExtendedTextPtr extended;
-    if (!m_extended.isEmpty())
-        extended = new ExtendedText(m_extended);
-    m_target.setMappedLine(
-        m_row[0],
-        PrjMappingTargetLineC(m_row[1], PRJMAPPING::CheckState(m_row[2]), m_conflict, extended));
+    const auto state = PRJMAPPING::CheckState(m_row[2]);
+    m_target.setMappedLine(m_row[0], PrjMappingTargetLineC(m_row[1], state, conflict, extended));
     m_place = Lines;
     return true;
 }

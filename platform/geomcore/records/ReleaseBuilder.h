@@ -37,6 +37,10 @@ public:
     bool text(std::string_view utf8);
     /// A null, a fraction, or a number that is too large.
     bool anythingElse();
+    /// Whether rows of lines may come.
+    [[nodiscard]] bool isAmongLines() const { return m_place == Lines && m_passedOver == 0; }
+    /// A whole row of three numbers; only where isAmongLines().
+    bool row(int sourceLine, int targetLine, int state);
 
 private:
     enum Place {
@@ -85,6 +89,7 @@ private:
     bool checkComplete(Place place);
     bool endModifier();
     bool endRow();
+    bool addRow(const ExtendedTextPtr &extended, bool conflict);
 
     ReleaseMappingC m_release;
     PrjMappingC m_mapping;

@@ -1,12 +1,19 @@
 #include "ReleaseReader.h"
 
+#include "JsonDeviceStream.h"
 #include "ReleaseBuilder.h"
 
 #include <core/json/JsonText.h>
 #include <core/json/PJsonValue.h>
 
+#include <QHash>
+#include <QIODevice>
+
 #include <rapidjson/error/en.h>
 #include <rapidjson/reader.h>
+
+#include <array>
+#include <charconv>
 
 namespace {
 
@@ -43,15 +50,56 @@ private:
     ReleaseBuilder m_builder;
 };
 
-/// Events of a document whose members are releases: those of wanted members go to the builder.
+const char *skipBlanks(const char *at, const char *end)
+{
+    while (at != end && (*at == ' ' || *at == '\n' || *at == '\r' || *at == '\t'))
+        ++at;
+    return at;
+}
+
+/// Reads ", [a,b,c]" with three integers and goes behind it. False, with nothing changed, if the
+/// text is anything else or goes on behind \a end.
+bool takeRow(const char *&at, const char *end, std::array<int, 3> &row)
+{
+    const char *p = skipBlanks(at, end);
+    char before = ',';
+    for (int i = -1; i < 3; ++i) {
+        if (p == end || *p != before)
+            return false;
+        p = skipBlanks(p + 1, end);
+        before = i < 0 ? '[' : ',';
+        if (i < 0)
+            continue;
+        // from_chars takes leading zeros, which JSON does not know.
+        const char *digit = p != end && *p == '-' ? p + 1 : p;
+        const auto [behind, code] = std::from_chars(p, end, row[std::size_t(i)]);
+        if (code != std::errc() || (*digit == '0' && behind != digit + 1))
+            return false;
+        p = skipBlanks(behind, end);
+    }
+    if (p == end || *p != ']')
+        return false;
+    at = p + 1;
+    return true;
+}
+
+/// Where the text of a member stands in its file.
+struct Extent
+{
+    qsizetype from = 0;
+    qsizetype to = 0;
+};
+
+/// Events of a document whose members are releases: those of wanted members go to the builder, of
+/// the others it is noted where they stand.
 class FileEvents
 {
 public:
     using Size = rapidjson::SizeType;
 
-    FileEvents(const QString &sourceDate, QList<MappingFileMember> &members)
+    FileEvents(const QString &sourceDate, JsonDeviceStream &stream)
         : m_wanted(sourceDate)
-        , m_members(members)
+        , m_stream(stream)
     {
     }
 
@@ -70,7 +118,12 @@ public:
     bool StartObject() { return m_reading ? m_builder.startObject() : open(); }
     bool EndObject(Size) { return m_reading ? endOfRelease() : close(); }
     bool StartArray() { return m_reading ? m_builder.startArray() : m_depth > 0 && open(); }
-    bool EndArray(Size) { return m_reading ? m_builder.endArray() : close(); }
+    bool EndArray(Size)
+    {
+        if (!m_reading)
+            return close();
+        return m_builder.endArray() && (!m_builder.isAmongLines() || takeRows());
+    }
     bool Key(const char *text, Size size, bool)
     {
         if (m_reading)
@@ -89,20 +142,54 @@ public:
         return m_depth == 0 ? QStringLiteral("A mapping file must hold an object.")
                             : QStringLiteral("Values are nested too deeply.");
     }
+    [[nodiscard]] const QList<MappingFileMember> &members() const { return m_members; }
+    /// For each member that did not become records.
+    [[nodiscard]] const QHash<QString, Extent> &extents() const { return m_extents; }
 
 private:
     bool integer(qint64 number) { return m_reading ? m_builder.integer(number) : plainValue(); }
-    bool plainValue() const { return m_depth > 0; }
+    bool plainValue()
+    {
+        endOfText();
+        return m_depth > 0;
+    }
     bool open() { return ++m_depth <= PJsonValue::MaxDepth; }
-    bool close() { return --m_depth >= 0; }
+    bool close()
+    {
+        --m_depth;
+        endOfText();
+        return true;
+    }
+    void endOfText()
+    {
+        if (m_depth == 1)
+            m_extents[m_name].to = qsizetype(m_stream.Tell());
+    }
+
+    /// Behind a row: takes those of the rows that follow which are nothing but three numbers, far
+    /// quicker than event by event. All else is left to the reader.
+    bool takeRows()
+    {
+        std::array<int, 3> row{};
+        const char *at = m_stream.aheadBegin();
+        const char *const end = m_stream.aheadEnd();
+        bool good = true;
+        while (good && end && takeRow(at, end, row))
+            good = m_builder.row(row[0], row[1], row[2]);
+        if (at != m_stream.aheadBegin())
+            m_stream.skipTo(at);
+        return good;
+    }
 
     void beginMember(const QString &name)
     {
         m_name = name;
         m_reading = m_wanted.isEmpty() || name == m_wanted;
         m_builder = ReleaseBuilder();
-        if (!m_reading)
+        if (!m_reading) {
             member().isRecords = false;
+            m_extents[name].from = qsizetype(m_stream.Tell());
+        }
     }
     bool endOfRelease()
     {
@@ -132,7 +219,9 @@ private:
     }
 
     const QString m_wanted;
-    QList<MappingFileMember> &m_members;
+    JsonDeviceStream &m_stream;
+    QList<MappingFileMember> m_members;
+    QHash<QString, Extent> m_extents;
     ReleaseBuilder m_builder;
     QString m_name;
     QString m_message;
@@ -140,41 +229,40 @@ private:
     int m_depth = 0;
 };
 
-template<class Events>
-bool parse(const QByteArray &json, Events &events, QString *error)
+/// Reads one document. Gives the offset of the first thing that is wrong and says what it is, or
+/// -1.
+template<class Stream, class Events>
+qsizetype parse(Stream &stream, Events &events, qsizetype size, QString &what)
 {
-    const QByteArrayView inner = JsonText::trimmed(json);
-    const qsizetype start = inner.isEmpty() ? 0 : inner.data() - json.constData();
-    rapidjson::StringStream stream(json.constData() + start);
     rapidjson::Reader reader;
     const rapidjson::ParseResult result =
         reader.Parse<rapidjson::kParseValidateEncodingFlag>(stream, events);
-    const bool complete = qsizetype(stream.Tell()) + start == json.size();
-    if (!result.IsError() && complete)
-        return true;
-    if (error) {
-        QString what = QStringLiteral("A byte of value 0 stands behind the document.");
-        if (result.Code() == rapidjson::kParseErrorTermination)
-            what = events.error();
-        else if (result.IsError())
-            what = QString::fromLatin1(rapidjson::GetParseError_En(result.Code()));
-        const auto offset = qsizetype(result.IsError() ? result.Offset() : stream.Tell());
-        *error = QStringLiteral("%1: %2").arg(JsonText::place(json, offset + start), what);
-    }
+    if (!result.IsError() && qsizetype(stream.Tell()) == size)
+        return -1;
+    if (!result.IsError())
+        what = QStringLiteral("A byte of value 0 stands behind the document.");
+    else if (result.Code() == rapidjson::kParseErrorTermination)
+        what = events.error();
+    else
+        what = QString::fromLatin1(rapidjson::GetParseError_En(result.Code()));
+    return qsizetype(result.IsError() ? result.Offset() : stream.Tell());
+}
+
+bool report(QString *error, QByteArrayView json, qsizetype offset, const QString &what)
+{
+    if (error)
+        *error = QStringLiteral("%1: %2").arg(JsonText::place(json, offset), what);
     return false;
 }
 
-/// Gives the members that did not become records their text; the document has been read once.
-void takeTexts(const QByteArray &json, QList<MappingFileMember> &members)
+/// The text of a member's value: what stands between its name and the next member.
+QByteArray valueText(QIODevice &file, const Extent &extent)
 {
-    JsonText::Walker walker(JsonText::trimmed(json));
-    while (walker.next()) {
-        const QString name = JsonText::unquoted(walker.quotedName());
-        for (MappingFileMember &member : members) {
-            if (member.sourceDate == name && !member.isRecords)
-                member.text = walker.value().toByteArray();
-        }
-    }
+    if (!file.seek(extent.from))
+        return QByteArray();
+    const QByteArray text = file.read(extent.to - extent.from);
+    const QByteArrayView behindName = JsonText::trimmed(text);
+    return JsonText::trimmed(behindName.sliced(1)).toByteArray(); // behind the colon
 }
 
 } // namespace
@@ -182,23 +270,31 @@ void takeTexts(const QByteArray &json, QList<MappingFileMember> &members)
 bool readRelease(const QByteArray &json, ReleaseMappingC &release, QString *error)
 {
     ReleaseEvents events;
-    if (!parse(json, events, error))
-        return false;
+    rapidjson::StringStream stream(json.constData());
+    QString what;
+    const qsizetype offset = parse(stream, events, json.size(), what);
+    if (offset >= 0)
+        return report(error, json, offset, what);
     release = events.builder().release();
     return true;
 }
 
-bool readMappingFile(const QByteArray &json, const QString &sourceDate,
-                     QList<MappingFileMember> &members, QString *error)
+bool readMappingFile(QIODevice &file, const QString &sourceDate, QList<MappingFileMember> &members,
+                     QString *error)
 {
-    QList<MappingFileMember> found;
-    FileEvents events(sourceDate, found);
-    if (!parse(json, events, error))
-        return false;
-    const bool allRead = std::all_of(found.cbegin(), found.cend(),
-                                     [](const MappingFileMember &m) { return m.isRecords; });
-    if (!allRead)
-        takeTexts(json, found);
+    JsonDeviceStream stream(file);
+    FileEvents events(sourceDate, stream);
+    QString what;
+    const qsizetype offset = parse(stream, events, file.size(), what);
+    if (offset >= 0) {
+        file.seek(0);
+        return report(error, file.read(offset), offset, what);
+    }
+    QList<MappingFileMember> found = events.members();
+    for (MappingFileMember &member : found) {
+        if (!member.isRecords)
+            member.text = valueText(file, events.extents().value(member.sourceDate));
+    }
     members = found;
     return true;
 }

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QList>
 
+class QIODevice;
+
 /// Reads a text in the layout of the mapping file's releases. False if anything is not as it should
 /// be: \a error then tells line, column and member, and \a release is as before.
 [[nodiscard]] bool readRelease(const QByteArray &json, ReleaseMappingC &release, QString *error);
@@ -18,7 +20,8 @@ struct MappingFileMember
     QByteArray text;         ///< unless isRecords: the value as it is written
 };
 
-/// Reads a whole mapping file in one pass. The member named \a sourceDate becomes records, all if
-/// that is empty. False if anything is not as it should be, as above.
-[[nodiscard]] bool readMappingFile(const QByteArray &json, const QString &sourceDate,
+/// Reads a whole mapping file in one pass, piece by piece; \a file is open and can be read again.
+/// The member named \a sourceDate becomes records, all if that is empty. False if anything is not
+/// as it should be, as above.
+[[nodiscard]] bool readMappingFile(QIODevice &file, const QString &sourceDate,
                                    QList<MappingFileMember> &members, QString *error);
