@@ -12,6 +12,7 @@
 #include <geomcore/table/Line.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/ResolveRangeOptionsC.h>
+#include <geomcore/table/TableData.h>
 #include <geomcore/table/ValueRangeIterator.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 
@@ -46,6 +47,8 @@ private:
     PrjMapperC &m_mapper;
     const VKTab::Content &m_table;
     const bool m_force;
+    /// The lines themselves, if the table shows nothing else.
+    std::shared_ptr<const VKTab::TableData> m_data;
     QStringList m_ranges;
     QList<VKTab::Var> m_variables;
     /// All variables are columns of the file, so that a view of a line has them all.
@@ -58,6 +61,7 @@ LineRun::LineRun(PrjMapperC &mapper, const VKTab::Content &table,
     : m_mapper(mapper)
     , m_table(table)
     , m_force(force)
+    , m_data(table.isPlain() ? table.getTableData() : nullptr)
 {
     for (const VKTab::Var &var : table.getVarList()) {
         if (var.isFW() && conditionVariables.contains(var.getName()))
@@ -97,6 +101,9 @@ void LineRun::assignCombinations(const VKTab::LineId &id)
 
 bool LineRun::assignStored(const VKTab::LineId &id)
 {
+    const int row = m_data ? m_data->rowOf(id) : -1;
+    if (row >= 0)
+        return settle(id.value(0), VKTab::LineView(*m_data, row));
     const VKTab::LineView view(m_table, id);
     if (view.isValid())
         return settle(id.value(0), view);

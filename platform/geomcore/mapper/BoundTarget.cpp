@@ -2,6 +2,7 @@
 
 #include "ExactSearch.h"
 #include "PairJoinBuilder.h"
+#include "SimilarCandidates.h"
 #include "SimilaritySearch.h"
 #include "SourceTable.h"
 #include "TargetTable.h"
@@ -11,6 +12,8 @@
 #include <geomcore/expression/VarsetVarMappingC.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
+
+#include <algorithm>
 
 namespace Mapper {
 
@@ -90,9 +93,12 @@ void BoundTarget::bindUses()
         ++uses[size_t(origin.index)];
     }
     m_uses = std::move(uses);
+    const std::vector<int> &columns = m_source.columns();
+    m_comparesEverything = std::all_of(columns.begin(), columns.end(),
+                                       [this](int column) { return m_uses[size_t(column)] > 0; });
 }
 
-bool BoundTarget::countComparedFast(const LineInput &line, int &compared, int &values) const
+bool BoundTarget::countCompared(const LineInput &line, int &compared, int &values) const
 {
     if (m_uses.empty() || !line.view)
         return false;
@@ -240,9 +246,11 @@ const IdentityKey &BoundTarget::identity() const
     return *m_identity;
 }
 
-SimilaritySearch BoundTarget::similarity(const TargetValues &values) const
+SimilaritySearch BoundTarget::similarity(const LineInput &line, const TargetValues &values) const
 {
-    return {*m_table, values.search->variables()};
+    const PairJoin *joined = line.row >= 0 ? join() : nullptr;
+    return {*m_table, values.search->variables(),
+            joined ? joined->freeCandidates(*m_table) : m_table->allCandidates()};
 }
 
 std::vector<int> BoundTarget::plainColumns() const

@@ -72,11 +72,17 @@ public:
     /// Null without a source table.
     [[nodiscard]] const PairJoin *join() const;
     [[nodiscard]] const IdentityKey &identity() const;
-    [[nodiscard]] SimilaritySearch similarity(const TargetValues &values) const;
+    /// For a similar line among those that are equal to no line of the source table, if that is
+    /// known.
+    [[nodiscard]] SimilaritySearch similarity(const LineInput &line,
+                                              const TargetValues &values) const;
 
-    /// Counts the values of a stored line, and those of them that the target has variables for,
-    /// without taking them. False if the variables come from more than single columns.
-    [[nodiscard]] bool countComparedFast(const LineInput &line, int &compared, int &values) const;
+    /// Every variable of the source table is one of the target's, so all values of a line are
+    /// compared.
+    [[nodiscard]] bool comparesEverything() const { return m_comparesEverything; }
+    /// Counts the values of a line, and those of them that the target has variables for, without
+    /// taking them. False if the variables come from more than single columns.
+    [[nodiscard]] bool countCompared(const LineInput &line, int &compared, int &values) const;
     /// Variables of the source table that the target's values are made of.
     [[nodiscard]] QStringList comparedSourceNames() const;
 
@@ -108,6 +114,7 @@ private:
     VKTab::BoundModifiers m_modifiers;
     std::vector<int> m_variables;
     std::vector<VKTab::BoundModifiers::Origin> m_origins;
+    bool m_comparesEverything = false;
     std::vector<int> m_uses; ///< By source column: variables that are that column; empty if others.
     mutable std::shared_ptr<const ExactSearch> m_search;
     mutable std::shared_ptr<const PairJoin> m_join;

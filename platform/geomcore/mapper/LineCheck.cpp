@@ -190,15 +190,16 @@ bool LineCheck::checkClaims(int row)
 
 bool LineCheck::checkCompared()
 {
+    if (m_target->comparesEverything() && !m_assignment->targetVarset)
+        return true;
     const LineInput &line = m_assignment->line;
     int compared = 0;
     int values = 0;
-    if (usesJoins() && !m_hasValues && m_target->countComparedFast(line, compared, values))
-        return enoughCompared(compared, values) ||
-               complain(CheckMessages::tooLittleCompared(namesNotCompared()));
-    takeValues();
-    compared = m_values.texts.countValues();
-    values = countValues(line, m_targets.source());
+    if (m_assignment->targetVarset || !m_target->countCompared(line, compared, values)) {
+        takeValues();
+        compared = m_values.texts.countValues();
+        values = countValues(line, m_targets.source());
+    }
     return enoughCompared(compared, values) ||
            complain(CheckMessages::tooLittleCompared(namesNotCompared()));
 }

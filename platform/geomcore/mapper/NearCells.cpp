@@ -29,11 +29,11 @@ std::vector<int> rowsOf(const Pairs &pairs, Key low, Key high, size_t limit)
 
 } // namespace
 
-NearCells::NearCells(const TargetTable &table, int variable)
+NearCells::NearCells(const TargetTable &table, int variable, const std::vector<int> &rows)
 {
     const TargetVariable &target = table.variables()[size_t(variable)];
     std::string scratch;
-    for (int row = 0; row < table.data().rowCount(); ++row)
+    for (int row : rows)
         add(table.text(row, variable, scratch), target.decimalChar, row);
     std::sort(m_numbers.begin(), m_numbers.end());
     std::sort(m_texts.begin(), m_texts.end());

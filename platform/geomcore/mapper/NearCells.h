@@ -16,7 +16,8 @@ class TargetTable;
 class NearCells
 {
 public:
-    NearCells(const TargetTable &table, int variable);
+    /// Of these rows only.
+    NearCells(const TargetTable &table, int variable, const std::vector<int> &rows);
 
     /// Rows whose cell is similar to the value. If there are more than \a limit, those that equal
     /// it; if these are too many as well, none: the value does not choose among the rows.

@@ -1,5 +1,7 @@
 #include "PairJoin.h"
 
+#include "SimilarCandidates.h"
+
 namespace Mapper {
 
 PairJoin::PairJoin(int sourceRows, int targetRows)
@@ -7,6 +9,23 @@ PairJoin::PairJoin(int sourceRows, int targetRows)
     , m_several(sourceRows, false)
     , m_claims(size_t(targetRows), 0)
 {
+}
+
+PairJoin::~PairJoin() = default;
+
+std::shared_ptr<const SimilarCandidates> PairJoin::freeCandidates(const TargetTable &table) const
+{
+    std::call_once(m_freeOnce, [&] {
+        VKTab::LineSet free(int(m_claims.size()), true);
+        for (int hit : m_hits) {
+            if (hit >= 0)
+                free.remove(hit);
+        }
+        std::vector<int> rows;
+        free.forEach([&](int row) { rows.push_back(row); });
+        m_free = std::make_shared<SimilarCandidates>(table, std::move(rows));
+    });
+    return m_free;
 }
 
 PairJoin::Neighbours PairJoin::neighbours(int sourceRow) const

@@ -8,12 +8,16 @@
 
 namespace Mapper {
 
+class SimilarCandidates;
+class TargetTable;
+
 /// Which lines of a source table have equal lines in a target table, all at once. Immutable once
 /// built; any thread.
 class PairJoin
 {
 public:
     PairJoin(int sourceRows, int targetRows);
+    ~PairJoin();
 
     [[nodiscard]] int sourceRows() const { return int(m_hits.size()); }
     /// The row proposed for a source row; -1 if none is equal. Of several equal rows it is the
@@ -28,6 +32,11 @@ public:
     /// From 0 to 1: how many of the source lines that should have an equal line have one; 1 if none
     /// should.
     [[nodiscard]] double agreement() const { return m_agreement; }
+
+    /// The target rows that are proposed for no source row: among these a line without an equal one
+    /// finds a similar one. Built at the first call.
+    [[nodiscard]] std::shared_ptr<const SimilarCandidates>
+    freeCandidates(const TargetTable &table) const;
 
     struct Neighbours
     {
@@ -46,6 +55,8 @@ private:
     VKTab::LineSet m_several;
     std::vector<quint8> m_claims;
     double m_agreement = 0;
+    mutable std::once_flag m_freeOnce;
+    mutable std::shared_ptr<const SimilarCandidates> m_free;
     mutable std::once_flag m_once;
     mutable std::vector<int> m_above;
     mutable std::vector<int> m_below;

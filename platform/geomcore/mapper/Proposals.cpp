@@ -81,7 +81,8 @@ int Proposals::byIdentity(const BoundTarget &target, const LineInput &line,
         std::erase_if(rows, [&](int row) { return !target.table()->isShown(row); });
     if (rows.empty())
         return -1;
-    const SimilaritySearch::Result result = target.similarity(values).best(values.texts, rows);
+    const SimilaritySearch::Result result =
+        target.similarity(line, values).best(values.texts, rows);
     const bool connected = m_targets.rank(target) != NameRank::Other;
     return connected || result.best >= SimilarThreshold ? result.row : -1;
 }
@@ -95,7 +96,7 @@ int Proposals::byOrder(const BoundTarget &target, const LineInput &line,
     const int row = rowInOrder(*join, line.row, target.table()->data().rowCount());
     if (row < 0 || (target.shownOnly() && !target.table()->isShown(row)))
         return -1;
-    const SimilaritySearch search = target.similarity(values);
+    const SimilaritySearch search = target.similarity(line, values);
     const double score = search.similarity(values.texts, row) + OrderWeight;
     if (score < SimilarThreshold)
         return -1;
@@ -111,7 +112,7 @@ int Proposals::bySimilarity(const BoundTarget &target, const LineInput &line,
     if (compared < 2 || !enoughCompared(compared, countValues(line, m_targets.source())))
         return -1;
     const SimilaritySearch::Result result =
-        target.similarity(values).find(values.texts, -1, target.shownOnly());
+        target.similarity(line, values).find(values.texts, -1, target.shownOnly());
     const bool clear =
         result.best >= SimilarThreshold && result.best - result.second >= ClearMargin;
     return clear ? result.row : -1;

@@ -1,8 +1,8 @@
 #include "SimilaritySearch.h"
 
 #include "CellSimilarity.h"
-#include "NearCells.h"
 #include "RangeCell.h"
+#include "SimilarCandidates.h"
 #include "TargetTable.h"
 
 #include <algorithm>
@@ -10,12 +10,6 @@
 namespace Mapper {
 
 namespace {
-
-/// A variable that brings more lines than this does not choose among them.
-constexpr size_t MaxOfVariable = 64;
-/// Variables that bring lines, at least; beyond that a quarter of all, so that a line with a mean
-/// of three quarters cannot escape.
-constexpr size_t MinVariables = 3;
 
 std::vector<ComparableCell> cellsOf(const LineTexts &line)
 {
@@ -28,9 +22,11 @@ std::vector<ComparableCell> cellsOf(const LineTexts &line)
 
 } // namespace
 
-SimilaritySearch::SimilaritySearch(const TargetTable &table, const std::vector<int> &variables)
+SimilaritySearch::SimilaritySearch(const TargetTable &table, const std::vector<int> &variables,
+                                   std::shared_ptr<const SimilarCandidates> candidates)
     : m_table(table)
     , m_variables(variables)
+    , m_candidates(std::move(candidates))
 {
 }
 
@@ -60,32 +56,10 @@ double SimilaritySearch::similarity(const LineTexts &line, const Cells &cells, i
     return count == 0 ? 0 : sum / count;
 }
 
-std::vector<int> SimilaritySearch::candidates(const Cells &cells) const
-{
-    std::vector<std::vector<int>> lists;
-    for (size_t place = 0; place < m_variables.size(); ++place) {
-        if (m_table.variables()[size_t(m_variables[place])].range)
-            continue;
-        std::vector<int> rows =
-            m_table.nearCells(m_variables[place])->rows(cells[place], MaxOfVariable);
-        if (!rows.empty())
-            lists.push_back(std::move(rows));
-    }
-    std::stable_sort(lists.begin(), lists.end(),
-                     [](const auto &a, const auto &b) { return a.size() < b.size(); });
-    std::vector<int> rows;
-    const size_t wanted = std::max(MinVariables, m_variables.size() / 4 + 1);
-    for (size_t i = 0; i < std::min(wanted, lists.size()); ++i)
-        rows.insert(rows.end(), lists[i].begin(), lists[i].end());
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    return rows;
-}
-
 SimilaritySearch::Result SimilaritySearch::find(const LineTexts &line, int alsoRow,
                                                 bool shownOnly) const
 {
-    std::vector<int> rows = candidates(cellsOf(line));
+    std::vector<int> rows = m_candidates->find(m_variables, cellsOf(line));
     if (alsoRow >= 0 && !std::binary_search(rows.begin(), rows.end(), alsoRow))
         rows.insert(std::upper_bound(rows.begin(), rows.end(), alsoRow), alsoRow);
     if (shownOnly)

@@ -7,12 +7,11 @@
 
 namespace Mapper {
 
-class NearCells;
 class ComparableCell;
+class SimilarCandidates;
 class TargetTable;
 
-/// Finds the line of a table that is most similar to given values on a set of variables. Looks only
-/// at lines that share something with the values in the variables that choose best.
+/// Finds the line of a table that is most similar to given values on a set of variables.
 class SimilaritySearch
 {
 public:
@@ -23,13 +22,14 @@ public:
         double second = 0; ///< 0 if there is no other.
     };
 
-    SimilaritySearch(const TargetTable &table, const std::vector<int> &variables);
+    SimilaritySearch(const TargetTable &table, const std::vector<int> &variables,
+                     std::shared_ptr<const SimilarCandidates> candidates);
 
     /// From 0 to 1: mean over the variables in which either side has a value; one without a value
     /// counts 0.
     [[nodiscard]] double similarity(const LineTexts &line, int row) const;
-    /// \a alsoRow is looked at in any case unless it is -1. \a shownOnly leaves out lines that the
-    /// project hides.
+    /// Among the candidates; \a alsoRow is looked at in any case unless it is -1. \a shownOnly
+    /// leaves out lines that the project hides.
     [[nodiscard]] Result find(const LineTexts &line, int alsoRow, bool shownOnly) const;
     /// The best among these rows.
     [[nodiscard]] Result best(const LineTexts &line, const std::vector<int> &rows) const;
@@ -38,10 +38,10 @@ private:
     using Cells = std::vector<ComparableCell>;
 
     [[nodiscard]] double similarity(const LineTexts &line, const Cells &cells, int row) const;
-    [[nodiscard]] std::vector<int> candidates(const Cells &cells) const;
 
     const TargetTable &m_table;
     std::vector<int> m_variables;
+    std::shared_ptr<const SimilarCandidates> m_candidates;
 };
 
 } // namespace Mapper

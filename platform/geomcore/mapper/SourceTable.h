@@ -32,6 +32,8 @@ public:
     [[nodiscard]] const VKTab::Content &content() const { return m_content; }
     /// Null without a table.
     [[nodiscard]] const std::shared_ptr<const VKTab::TableData> &data() const { return m_data; }
+    /// Columns of plain, range and computed variables.
+    [[nodiscard]] const std::vector<int> &columns() const { return m_columns; }
     [[nodiscard]] int rowOf(int lineId) const;
     /// Column of a plain, range or computed variable; -1 if there is none.
     [[nodiscard]] int columnOf(const QString &name) const;

@@ -38,21 +38,21 @@ const BoundTarget *TargetSet::at(int index, const PrjMappingC &mapping)
     if (index < 0 || index >= count())
         return nullptr;
     Slot &slot = m_targets[size_t(index)];
-    if (!slot.bound) {
-        slot.bound = true;
-        const PrjMappingTargetC &target = mapping.targetAt(index);
-        if (!target.isNotFoundTarget()) {
-            slot.target = std::make_unique<BoundTarget>(
-                index, target, m_open(target.getTargetPath()), m_source, m_ranges, m_shownOnly);
-        }
-    }
+    if (!slot.bound)
+        bind(slot, index, mapping.targetAt(index));
     return slot.target.get();
 }
 
-NameRank TargetSet::rank(const BoundTarget &target) const
+void TargetSet::bind(Slot &slot, int index, const PrjMappingTargetC &target)
 {
-    const NameRank rank = nameRank(m_sourcePath, target.path());
-    return target.hasVerified() ? std::max(rank, NameRank::Name) : rank;
+    slot.bound = true;
+    if (target.isNotFoundTarget())
+        return;
+    slot.target = std::make_unique<BoundTarget>(index, target, m_open(target.getTargetPath()),
+                                                m_source, m_ranges, m_shownOnly);
+    slot.rank = nameRank(m_sourcePath, slot.target->path());
+    if (slot.target->hasVerified())
+        slot.rank = std::max(slot.rank, NameRank::Name);
 }
 
 } // namespace Mapper

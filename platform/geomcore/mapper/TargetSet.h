@@ -27,7 +27,10 @@ public:
     /// construction, but for its lines.
     [[nodiscard]] const BoundTarget *at(int index, const PrjMappingC &mapping);
     /// What the name says; a project with a confirmed line counts as one of the same name at least.
-    [[nodiscard]] NameRank rank(const BoundTarget &target) const;
+    [[nodiscard]] NameRank rank(const BoundTarget &target) const
+    {
+        return m_targets[size_t(target.index())].rank;
+    }
     /// Ranges of the source table that conditions of any target read.
     [[nodiscard]] const QStringList &ranges() const { return m_ranges; }
     [[nodiscard]] const QString &sourcePath() const { return m_sourcePath; }
@@ -38,7 +41,10 @@ private:
     {
         bool bound = false;
         std::unique_ptr<const BoundTarget> target;
+        NameRank rank = NameRank::Other;
     };
+
+    void bind(Slot &slot, int index, const PrjMappingTargetC &target);
 
     const SourceTable &m_source;
     const Open m_open;

@@ -15,7 +15,7 @@
 
 namespace Mapper {
 
-class NearCells;
+class SimilarCandidates;
 class DesignationIndex;
 class ElementIndex;
 class ExactSearch;
@@ -58,7 +58,8 @@ public:
     [[nodiscard]] std::shared_ptr<const VKTab::LineIndex>
     lineIndex(const std::vector<int> &variables) const;
     [[nodiscard]] std::shared_ptr<const ElementIndex> elementIndex(int variable) const;
-    [[nodiscard]] std::shared_ptr<const NearCells> nearCells(int variable) const;
+    /// All lines, to seek a similar one among.
+    [[nodiscard]] std::shared_ptr<const SimilarCandidates> allCandidates() const;
     [[nodiscard]] std::shared_ptr<const DesignationIndex> designations() const;
     /// The variables that tell the lines apart, see SourceTable::keyColumns.
     [[nodiscard]] std::shared_ptr<const std::vector<int>> keyVariables() const;
@@ -74,7 +75,7 @@ private:
     mutable Memo<std::vector<int>, ExactSearch> m_exact;
     mutable Memo<std::vector<int>, VKTab::LineIndex> m_indexes;
     mutable Memo<int, ElementIndex> m_elements;
-    mutable Memo<int, NearCells> m_columns;
+    mutable Memo<int, SimilarCandidates> m_candidates;
     mutable Memo<int, DesignationIndex> m_designations;
     mutable Memo<int, std::vector<int>> m_keyVariables;
     mutable JoinCache m_joins;

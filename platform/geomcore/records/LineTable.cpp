@@ -66,6 +66,8 @@ LineTable::PageRef newPage(int firstLine)
 
 const LineTable::Row *LineTable::findRow(int sourceLine) const
 {
+    if (isBeyondLast(sourceLine))
+        return nullptr;
     const Place place = locate(sourceLine);
     return place.found ? &m_chunks[place.chunk].chunk->pages[place.page].page->rows[place.row]
                        : nullptr;
@@ -93,8 +95,7 @@ void LineTable::set(int sourceLine, int targetLine, PRJMAPPING::CheckState state
                     const ExtendedTextPtr &extended)
 {
     const Row row = makeRow(sourceLine, targetLine, state, conflict);
-    if (isEmpty() ||
-        sourceLine > m_chunks.back().chunk->pages.back().page->rows.back().sourceLine) {
+    if (isBeyondLast(sourceLine)) {
         append(row, extended);
         return;
     }
@@ -174,6 +175,12 @@ void LineTable::setAllStates(PRJMAPPING::CheckState state)
         }
     }
     m_counts = counts;
+}
+
+bool LineTable::isBeyondLast(int sourceLine) const
+{
+    return isEmpty()
+           || sourceLine > m_chunks.back().chunk->pages.back().page->rows.back().sourceLine;
 }
 
 LineTable::Place LineTable::locate(int sourceLine) const

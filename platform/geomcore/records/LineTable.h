@@ -147,6 +147,7 @@ private:
         std::size_t row; ///< where the id stands or belongs
         bool found;
     };
+    [[nodiscard]] bool isBeyondLast(int sourceLine) const;
     [[nodiscard]] Place locate(int sourceLine) const;
     Page &writablePage(const Place &place);
     Chunk &writableChunk(std::size_t chunk);
