@@ -23,7 +23,6 @@ TableSelectionLink::TableSelectionLink(TableGrid *grid, VkTableModel *model)
             &TableSelectionLink::onCurrentChanged);
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this,
             &TableSelectionLink::onAboutToReset);
-    connect(model, &QAbstractItemModel::modelReset, this, &TableSelectionLink::onReset);
 }
 
 TableSelectionLink::~TableSelectionLink() = default;
@@ -174,7 +173,7 @@ void TableSelectionLink::onAboutToReset()
     m_vertical = m_grid->verticalScrollBar()->value();
 }
 
-void TableSelectionLink::onReset()
+void TableSelectionLink::restore()
 {
     const VKTab::LineId line = m_model->getTable().getSelection();
     const QList<VKTab::LineId> lines = std::exchange(m_remembered, {});

@@ -25,6 +25,8 @@ public:
 
     void connectTable();
     void setFollowing(bool following);
+    /// After a reset of the model, once the grid has its columns: selects and scrolls as before.
+    void restore();
     /// In display order.
     [[nodiscard]] QList<VKTab::LineId> selectedLines() const;
     [[nodiscard]] QList<int> selectedRows() const;
@@ -34,7 +36,6 @@ private:
     void onCurrentChanged();
     void onTableSelected(bool selected);
     void onAboutToReset();
-    void onReset();
     void announce(bool changed);
     void takeFromTable();
     void selectLines(const QList<VKTab::LineId> &lines);

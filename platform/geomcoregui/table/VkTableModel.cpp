@@ -108,7 +108,7 @@ int VkTableModel::columnOf(const VKTab::VarId &variable) const
 QString VkTableModel::statusToolTip(const QModelIndex &index, QWidget *widget) const
 {
     const TableColumn *const column = d->column(index.column());
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !column->isStatus())
+    if (!column || index.model() != this || index.row() >= d->rows.count() || !column->isStatus())
         return {};
     return d->toolTip(index.row(), *column, index.column(), widget);
 }

@@ -29,9 +29,9 @@ QString plain(const QString &text)
 
 QVariant VkTableModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (index.model() != this || index.row() >= d->rows.count())
         return {};
-    const TableColumn &column = *d->column(index.column());
+    const TableColumn &column = d->columns.at(index.column());
     if (role == LineIdRole)
         return QVariant::fromValue(lineId(index.row()));
     return column.isStatus() ? d->statusData(index.row(), column, index.column(), role)

@@ -91,9 +91,11 @@ void VkTableViewPrivate::connectGrid()
 void VkTableViewPrivate::setTable(const VKTab::ContentRef &table)
 {
     {
-        // What was selected belongs to the former table.
+        // What was selected and in view belongs to the former table.
         const QSignalBlocker blocker(grid->selectionModel());
         grid->selectionModel()->clear();
+        grid->horizontalScrollBar()->setValue(0);
+        grid->verticalScrollBar()->setValue(0);
     }
     model->setTable(table);
     selection->connectTable();
@@ -116,6 +118,8 @@ void VkTableViewPrivate::onModelReset()
         header->setSortIndicator(model->sortColumn(), model->sortOrder());
     }
     widths->apply();
+    grid->doItemsLayout(); // the scroll bars get their ranges
+    selection->restore();
 }
 
 void VkTableViewPrivate::setZoomFactor(double factor)

@@ -1,5 +1,6 @@
 #include "VkTableHighlighter.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QTextBlock>
@@ -94,6 +95,8 @@ VkTableHighlighter::VkTableHighlighter(
     : QSyntaxHighlighter(document)
     , m_tokenizer(tokenizer)
 {
+    // A document without layout tells nobody of its changes.
+    (void)document->documentLayout();
 }
 
 VkTableHighlighter::~VkTableHighlighter() = default;

@@ -1,0 +1,115 @@
+#include <geomcore/expression/Tokenizer.h>
+#include <geomcoregui/text/VkTableHighlighter.h>
+
+#include <QPointer>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+class tst_VkTableHighlighter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void coloursTokens_data();
+    void coloursTokens();
+    void textSetAfterwardsIsColouredAtOnce();
+    void textSetBeforeIsColouredByTheEventLoop();
+    void htmlHoldsTextAndColours();
+    void htmlOfSeveralLinesKeepsThem();
+    void goesWithItsDocument();
+};
+
+namespace {
+
+QList<QTextLayout::FormatRange> formats(const QTextDocument &document)
+{
+    return document.begin().layout()->formats();
+}
+
+} // namespace
+
+void tst_VkTableHighlighter::coloursTokens_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("length");
+    QTest::newRow("number") << "A = 12.5" << 4 << 4;
+    QTest::newRow("text") << "A = 'b'" << 4 << 3;
+    QTest::newRow("comparison") << "A .EQ. B" << 2 << 4;
+    QTest::newRow("logic") << "A .AND. B" << 2 << 5;
+    QTest::newRow("open text") << "A = 'b" << 4 << 2;
+    QTest::newRow("unknown sign") << "A ? B" << 2 << 1;
+}
+
+void tst_VkTableHighlighter::coloursTokens()
+{
+    QFETCH(QString, text);
+    QFETCH(int, start);
+    QFETCH(int, length);
+    QTextDocument document;
+    new VkTableHighlighter(VKTab::Tokenizer(), &document);
+    document.setPlainText(text);
+    const auto found = formats(document);
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.at(0).start, start);
+    QCOMPARE(found.at(0).length, length);
+    QVERIFY(found.at(0).format.hasProperty(QTextFormat::ForegroundBrush));
+}
+
+void tst_VkTableHighlighter::textSetAfterwardsIsColouredAtOnce()
+{
+    QTextDocument document;
+    new VkTableHighlighter(VKTab::Tokenizer(), &document);
+    document.setPlainText("1");
+    QCOMPARE(formats(document).size(), 1);
+}
+
+void tst_VkTableHighlighter::textSetBeforeIsColouredByTheEventLoop()
+{
+    QTextDocument document;
+    document.setPlainText("1");
+    new VkTableHighlighter(VKTab::Tokenizer(), &document);
+    QCOMPARE(formats(document).size(), 0);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QCOMPARE(formats(document).size(), 1);
+}
+
+void tst_VkTableHighlighter::htmlHoldsTextAndColours()
+{
+    QTextDocument document;
+    auto *const highlighter = new VkTableHighlighter(VKTab::Tokenizer(), &document);
+    document.setPlainText("Dia < 5 .AND. Note = 'a&b'");
+    const QString html = highlighter->toHtml();
+    QVERIFY2(html.contains("'a&amp;b'</span>"), qPrintable(html));
+    QVERIFY(html.contains("font-weight:bold;\">.AND.</span>"));
+    QVERIFY(html.contains("color:#"));
+    QTextDocument read;
+    read.setHtml(html);
+    QCOMPARE(read.toPlainText(), document.toPlainText());
+}
+
+void tst_VkTableHighlighter::htmlOfSeveralLinesKeepsThem()
+{
+    QTextDocument document;
+    auto *const highlighter = new VkTableHighlighter(VKTab::Tokenizer(), &document);
+    document.setPlainText("A = 1\nB = 2");
+    QTextDocument read;
+    read.setHtml(highlighter->toHtml());
+    QCOMPARE(read.toPlainText(), QString("A = 1\nB = 2"));
+}
+
+void tst_VkTableHighlighter::goesWithItsDocument()
+{
+    QPointer<VkTableHighlighter> highlighter;
+    {
+        QTextDocument document;
+        highlighter = new VkTableHighlighter(VKTab::Tokenizer(), &document);
+        QVERIFY(highlighter);
+    }
+    QVERIFY(!highlighter);
+}
+
+QTEST_MAIN(tst_VkTableHighlighter)
+#include "tst_VkTableHighlighter.moc"
