@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
 
 namespace VKTab {
@@ -256,15 +257,29 @@ void TableDataReader::checkRanges()
     }
 }
 
+TableDataReader::KnownRange &TableDataReader::placeOf(int column, std::string_view cell)
+{
+    constexpr size_t places = 4096;
+    m_knownRanges.resize(places);
+    const size_t hash = std::hash<std::string_view>()(cell) + size_t(column);
+    return m_knownRanges[hash % places];
+}
+
 void TableDataReader::checkRange(int row, int column, std::string_view cell)
 {
-    const TableField &field = m_data->m_descriptor.fields.at(column);
     if (m_data->isMissing(cell) || RangeText::isSimple(cell))
         return;
+    KnownRange &known = placeOf(column, cell);
+    if (known.column == column && known.text == cell)
+        return;
+    const TableField &field = m_data->m_descriptor.fields.at(column);
     QString problem;
     const QString text = QString::fromUtf8(cell.data(), qsizetype(cell.size()));
-    if (RangeText::parse(text, field.decimalChar, &problem))
+    if (RangeText::parse(text, field.decimalChar, &problem)) {
+        known.column = column;
+        known.text = cell;
         return;
+    }
     if (m_data->m_markedRows.empty() || m_data->m_markedRows.back() != row)
         m_data->m_markedRows.push_back(row);
     if (m_data->m_warnings.size() < TableData::MaxWarnings)

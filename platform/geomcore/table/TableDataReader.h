@@ -2,6 +2,9 @@
 
 #include "TableData.h"
 
+#include <string>
+#include <vector>
+
 namespace VKTab {
 
 /// Makes a TableData: opens and maps the file, fits header and descriptor together, scans the rows,
@@ -29,11 +32,19 @@ private:
     void duplicateId(int first, int second);
     void checkRanges();
     void checkRange(int row, int column, std::string_view cell);
+    /// Ranges recur from line to line: those that parsed are kept, one for each place.
+    struct KnownRange
+    {
+        int column = -1;
+        std::string text;
+    };
+    [[nodiscard]] KnownRange &placeOf(int column, std::string_view cell);
     void error(int row, int column, const QString &text);
 
     std::shared_ptr<TableData> m_data;
     TableErrorList m_errors;
     HeaderRule m_rule;
+    std::vector<KnownRange> m_knownRanges;
 };
 
 } // namespace VKTab
