@@ -99,7 +99,7 @@ private Q_SLOTS:
         LineTable table;
         Reference reference;
         for (int i = 0; i < count; ++i) {
-            const int id = first + i * step;
+            const int id = int(quint32(first) + quint32(i) * quint32(step)); // wraps round
             const PrjMappingTargetLineC line = makeLine(i, i % 3);
             table.set(id, line);
             reference.insert(id, line);

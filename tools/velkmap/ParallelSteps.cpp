@@ -58,7 +58,7 @@ bool runParallelSteps(int count, const std::function<void(int)> &step, PProgress
             helpers.emplace_back([&run] { run.work([](int) { return true; }); });
         run.work(tell);
     }
-    return tell(run.done()) || run.done() == count;
+    return tell(run.done());
 }
 
 } // namespace velkmap

@@ -145,9 +145,9 @@ void TableFilterBar::place()
 void TableFilterBar::warm(const QLineEdit *edit) const
 {
     const int column = VKTab::LineView::columnOf(VKTab::VarId(variableOf(edit)));
-    const auto data = m_model->getTable().getTableData();
-    if (data && column >= 0 && column < data->columnCount())
-        QThreadPool::globalInstance()->start([data, column] { (void)data->interned(column); });
+    const auto lines = m_model->getTable().getTableData();
+    if (lines && column >= 0 && column < lines->columnCount())
+        QThreadPool::globalInstance()->start([lines, column] { (void)lines->interned(column); });
 }
 
 bool TableFilterBar::eventFilter(QObject *object, QEvent *event)
