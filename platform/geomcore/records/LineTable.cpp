@@ -179,8 +179,8 @@ void LineTable::setAllStates(PRJMAPPING::CheckState state)
 
 bool LineTable::isBeyondLast(int sourceLine) const
 {
-    return isEmpty()
-           || sourceLine > m_chunks.back().chunk->pages.back().page->rows.back().sourceLine;
+    return isEmpty() ||
+           sourceLine > m_chunks.back().chunk->pages.back().page->rows.back().sourceLine;
 }
 
 LineTable::Place LineTable::locate(int sourceLine) const
