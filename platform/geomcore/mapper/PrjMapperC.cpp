@@ -23,8 +23,7 @@ PrjMapperC::~PrjMapperC() = default;
 void PrjMapperC::setCreatorMode(bool creator)
 {
     d->adoptNode();
-    d->creatorMode = creator;
-    d->m_targets.reset();
+    d->setCreatorMode(creator);
 }
 
 void PrjMapperC::setSourceProject(const PPathName &sourcePath)
@@ -34,8 +33,8 @@ void PrjMapperC::setSourceProject(const PPathName &sourcePath)
 
 void PrjMapperC::setSourceTable(const VKTab::Content &table)
 {
-    d->m_targets.reset();
-    d->source = Mapper::SourceTable(table);
+    d->adoptNode();
+    d->setSourceTable(table);
 }
 
 QFlags<PRJMAPPING::MappingState_> PrjMapperC::findMapping(const QString &sourcePath,
@@ -124,7 +123,7 @@ PrjMapperCheckResultC PrjMapperC::checkMapping(const PrjMapperLineC &line,
 {
     d->adoptNode();
     const CheckModeFlags mode = CheckValues | CheckConditions;
-    const VKTab::Content &table = d->source.content();
+    const VKTab::Content &table = d->source().content();
     VKTab::Line shown = table.getLine(sourceLine, true);
     if (!line.isValid() || !line.isFound() || !shown.isValid())
         return {false, QString(), QString(), {}, {}, {}};

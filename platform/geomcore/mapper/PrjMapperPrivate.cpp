@@ -46,6 +46,18 @@ PrjMapperPrivate::PrjMapperPrivate(const PRefPtr<IndexTreeC> &tree)
 
 PrjMapperPrivate::~PrjMapperPrivate() = default;
 
+void PrjMapperPrivate::setSourceTable(const VKTab::Content &table)
+{
+    m_targets.reset();
+    m_source = Mapper::SourceTable(table);
+}
+
+void PrjMapperPrivate::setCreatorMode(bool creator)
+{
+    m_targets.reset();
+    m_creatorMode = creator;
+}
+
 void PrjMapperPrivate::setWorking(const PrjMappingC &mapping)
 {
     working.set(mapping);
@@ -73,7 +85,9 @@ std::unique_ptr<TargetSet> PrjMapperPrivate::bind(const PrjMappingC &mapping) co
         const PPathName file = tree->compatiblePathToResolvedPath(PPathName(path));
         return Mapper::TargetTables::instance().open(file.native());
     };
-    return std::make_unique<TargetSet>(mapping, source, open, !creatorMode);
+    const QString own = mapping.getSourcePath();
+    const QString path = own.isEmpty() ? QString(sourceProject.text()) : own;
+    return std::make_unique<TargetSet>(mapping, path, m_source, open, !m_creatorMode);
 }
 
 bool PrjMapperPrivate::isOwn(const PrjMapperLineC &line) const
@@ -85,14 +99,14 @@ LineInput PrjMapperPrivate::input(int lineId, const Varset &varset) const
 {
     LineInput input;
     input.lineId = lineId;
-    input.row = source.rowOf(lineId);
+    input.row = m_source.rowOf(lineId);
     input.varset = &varset;
     return input;
 }
 
 LineInput PrjMapperPrivate::input(int lineId, const VKTab::LineView &view, Varset &converted) const
 {
-    if (!source.isValid() || view.table() != source.data().get()) {
+    if (!m_source.isValid() || view.table() != m_source.data().get()) {
         converted = Mapper::varsetOf(view);
         return input(lineId, converted);
     }

@@ -21,6 +21,8 @@ public:
     explicit PrjMapperPrivate(const PRefPtr<IndexTreeC> &tree);
     ~PrjMapperPrivate();
 
+    void setSourceTable(const VKTab::Content &table);
+    void setCreatorMode(bool creator);
     void setWorking(const PrjMappingC &mapping);
     /// Takes over what was assigned to the node since it was handed out.
     void adoptNode();
@@ -53,12 +55,12 @@ public:
     }
 
     const PRefPtr<IndexTreeC> indexTree;
-    bool creatorMode = false;
     PPathName sourceProject;
-    Mapper::SourceTable source;
     Mapper::WorkingMapping working;
     MappingNodeC node;
     bool nodeHandedOut = false;
+
+    [[nodiscard]] const Mapper::SourceTable &source() const { return m_source; }
 
 private:
     struct Bound
@@ -74,7 +76,8 @@ private:
     [[nodiscard]] bool hasEqualCombination(const Mapper::LineInput &line);
     [[nodiscard]] PrjMapperLineC proposedLine(int lineId, const Mapper::Proposal &proposal) const;
 
-    friend class PrjMapperC;
+    bool m_creatorMode = false;
+    Mapper::SourceTable m_source;
     std::unique_ptr<Mapper::TargetSet> m_targets;
     std::vector<const Mapper::BoundTarget *> m_open;
     Mapper::TargetValues m_values;

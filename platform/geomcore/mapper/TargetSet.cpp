@@ -22,12 +22,12 @@ QStringList conditionVariables(const PrjMappingC &mapping)
 
 } // namespace
 
-TargetSet::TargetSet(const PrjMappingC &mapping, const SourceTable &source, Open open,
-                     bool shownOnly)
+TargetSet::TargetSet(const PrjMappingC &mapping, const QString &sourcePath,
+                     const SourceTable &source, Open open, bool shownOnly)
     : m_source(source)
     , m_open(std::move(open))
     , m_shownOnly(shownOnly)
-    , m_sourcePath(mapping.getSourcePath())
+    , m_sourcePath(sourcePath)
     , m_ranges(source.rangesAmong(conditionVariables(mapping)))
     , m_targets(size_t(mapping.countTargets()))
 {

@@ -20,7 +20,8 @@ public:
     using Open = std::function<std::shared_ptr<const TargetTable>(const QString &targetPath)>;
 
     /// The source outlives this. \a shownOnly: lines that a target project hides do not count.
-    TargetSet(const PrjMappingC &mapping, const SourceTable &source, Open open, bool shownOnly);
+    TargetSet(const PrjMappingC &mapping, const QString &sourcePath, const SourceTable &source,
+              Open open, bool shownOnly);
 
     [[nodiscard]] int count() const { return int(m_targets.size()); }
     /// Null for the not-found target and for an unknown index. \a mapping is the one given at
