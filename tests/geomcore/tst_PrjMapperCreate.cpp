@@ -112,15 +112,16 @@ void tst_PrjMapperCreate::exactHits_data()
     row("an empty range equals no value", "D,L:n\nM8,\n", "D,L:r\nM8,\n", {"0:1 ok"});
     row("nothing but ranges", "L:n,k:n\n12,3\n18,3\n", "L:r,k:r\n10;12,3\n16;18,3\n",
         {"0:1 ok", "0:2 ok"});
-    row("many lines that differ in a range only", "D,L:n\nM8,1039\n",
+    row("many lines that differ in a range only", "D,L:n\nM8,1039\nM8,1005\n",
         []() -> const char * {
             static QByteArray table = "D,L:r\n";
             for (int i = 0; i < 50; ++i)
                 table += "M8," + QByteArray::number(1000 + i) + ";" + QByteArray::number(2000 + i) +
                          "\n";
+            table += "M9,1039\n";
             return table.constData();
         }(),
-        {"0:40 ok"});
+        {"0:40 ok", "0:6 ok"});
     row("one value is all that the line has", "D\nM8\nM9\n", "D\nM9\nM8\n", {"0:2 ok", "0:1 ok"});
     row("too few values are compared", "D,a:n,b:n,c:n\nM8,1,2,3\n", "D\nM8\n", {"0:1"});
     row("half of the values are compared", "D,a:n,b:n,c:n\nM8,1,2,3\n", "D,a:n\nM8,1\n",
@@ -239,6 +240,8 @@ void tst_PrjMapperCreate::similarity_data()
         << head + "100,200,300,400,500,600,700,1,1,1\n" +
                "100,200,300,400,500,600,700,800,1,1000\n" + noKey
         << QStringList{"0:2"};
+    QTest::newRow("one value is too few")
+        << QByteArray("a:n\n100\n") << QByteArray("a\n101\nx\n") << QStringList{"none"};
     QTest::newRow("too few values to compare")
         << QByteArray("a:n,b:n,c:n,d:n,e:n\n100,2,3,4,5\n") << QByteArray("a:n,b:n\n100,2.01\n,1\n")
         << QStringList{"none"};

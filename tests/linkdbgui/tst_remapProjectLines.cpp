@@ -72,6 +72,7 @@ private Q_SLOTS:
     void datesOfTheRelease();
     void targetsKeepOrderAndContents();
     void orderOfTargetsMatters();
+    void hiddenLinesCount();
     void conditionsMoveLines();
     void firstCombinationSettles();
     void laterCombinationIsTried();
@@ -244,6 +245,15 @@ void tst_remapProjectLines::orderOfTargetsMatters()
     m_mapping = mappingOf("cat/a.prj", {"new/a.prj", "new/b/a.prj"});
     remap();
     QCOMPARE(m_mapping.findTarget(0).countLines(), 3);
+}
+
+void tst_remapProjectLines::hiddenLinesCount()
+{
+    m_catalog->write("new/a.prj", lines, [](VKTab::TableDescriptor &table) {
+        table.filterConditions.append({"PRJLINECOND", "k .GT. 5", {}});
+        table.filterConditions.append({"BYPRJ", "k .LT. 7", {}});
+    });
+    QCOMPARE(remap(), "0:1>1/1 0:2>2/1 0:3>3/1");
 }
 
 void tst_remapProjectLines::conditionsMoveLines()
