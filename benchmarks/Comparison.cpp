@@ -52,11 +52,14 @@ void Comparison::addReference(const std::string &name, std::function<void()> wor
     m_references.push_back({name, std::move(work), {}});
 }
 
-void Comparison::run(benchmark::State &state, const std::function<void()> &product)
+void Comparison::run(benchmark::State &state, const std::function<void()> &product,
+                     const std::function<void()> &prepare)
 {
     for (auto _ : state) {
         for (Reference &reference : m_references)
             keepBest(reference.best, measure(reference.work));
+        if (prepare)
+            prepare();
         const Seconds seconds = measure(product);
         keepBest(m_product, seconds);
         state.SetIterationTime(seconds.wall);

@@ -26,7 +26,9 @@ public:
     /// \a name stands in the counters' names.
     void addReference(const std::string &name, std::function<void()> work);
     /// Runs the benchmark's loop; only the product's time goes into the benchmark's own figures.
-    void run(benchmark::State &state, const std::function<void()> &product);
+    /// \a prepare runs before each run of the product, unmeasured.
+    void run(benchmark::State &state, const std::function<void()> &product,
+             const std::function<void()> &prepare = {});
     /// The product's best time; after run().
     Seconds product() const { return m_product; }
 

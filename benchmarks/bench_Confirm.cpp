@@ -62,7 +62,8 @@ BENCHMARK(confirm)
     ->Arg(100000)
     ->Arg(1000000)
     ->Unit(benchmark::kMillisecond)
-    ->UseManualTime();
+    ->UseManualTime()
+    ->Iterations(10);
 
 } // namespace
 

@@ -92,7 +92,9 @@ void lookUp(benchmark::State &state)
 
 void sizes(benchmark::internal::Benchmark *benchmark)
 {
-    benchmark->ArgNames({"lines", "shuffled", "numbers"})->Unit(benchmark::kMillisecond);
+    benchmark->ArgNames({"lines", "shuffled", "numbers"})
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(5);
     for (const int lines : {10000, 100000, 1000000}) {
         for (const int shuffled : {0, 1}) {
             for (const int numbers : {0, 1})

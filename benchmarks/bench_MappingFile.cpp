@@ -84,7 +84,11 @@ void memoryOfRecords(benchmark::State &state)
 
 void sizes(benchmark::internal::Benchmark *benchmark)
 {
-    benchmark->ArgName("lines")->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+    benchmark->ArgName("lines")
+        ->Arg(100000)
+        ->Arg(1000000)
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(10);
 }
 
 BENCHMARK(commit)->Apply(sizes)->UseManualTime();

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 
+#include <chrono>
 #include <cstdlib>
 
 namespace velkbench {
@@ -24,6 +25,17 @@ public:
         import(oldFolder, m_folder.path() / "old");
         import(newFolder, m_folder.path() / "new");
     }
+    /// Lets the next run begin afresh: the product keeps the target tables used last open.
+    void forget()
+    {
+        for (const auto &entry :
+             std::filesystem::recursive_directory_iterator(m_folder.path() / "new")) {
+            if (entry.path().extension() == ".csv")
+                std::filesystem::last_write_time(entry.path(),
+                                                 entry.last_write_time() + std::chrono::seconds(1));
+        }
+    }
+
     void createAndAssign()
     {
         const QString mapping = qtPath(this->mapping());
@@ -65,7 +77,8 @@ void createAndAssign(benchmark::State &state)
     comparison.addReference("sqlite", [&] {
         benchmark::DoNotOptimize(SqliteJoin().joinFolders(oldFolder, newFolder));
     });
-    comparison.run(state, [&] { run.createAndAssign(); });
+    comparison.run(
+        state, [&] { run.createAndAssign(); }, [&] { run.forget(); });
     const StateCounts counts = countStates(run.mapping());
     state.counters["lines"] = counts.lines;
     state.counters["mapped"] = counts.mapped;
@@ -73,7 +86,7 @@ void createAndAssign(benchmark::State &state)
     state.counters["notFound"] = counts.notFound;
 }
 
-BENCHMARK(createAndAssign)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(createAndAssign)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(10);
 
 } // namespace
 

@@ -86,7 +86,7 @@ void sizes(benchmark::internal::Benchmark *benchmark)
         for (const int ranges : {0, 1})
             benchmark->Args({lines, ranges});
     }
-    benchmark->Unit(benchmark::kMillisecond)->UseManualTime();
+    benchmark->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(10);
 }
 
 BENCHMARK(readTable)->Apply(sizes);
