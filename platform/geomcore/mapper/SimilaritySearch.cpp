@@ -3,7 +3,6 @@
 #include "CellSimilarity.h"
 #include "RangeCell.h"
 #include "SimilarCandidates.h"
-#include "TargetTable.h"
 
 #include <algorithm>
 
@@ -40,8 +39,9 @@ double SimilaritySearch::similarity(const LineTexts &line, const Cells &cells, i
     double sum = 0;
     int count = 0;
     std::string scratch;
+    m_table.split(row, m_row);
     for (size_t place = 0; place < m_variables.size(); ++place) {
-        const std::string_view cell = m_table.text(row, m_variables[place], scratch);
+        const std::string_view cell = m_table.text(m_row, m_variables[place], scratch);
         const LineTexts::Value &value = line.values[place];
         if (cell.empty() && value.text.empty())
             continue;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LineTexts.h"
+#include "TargetTable.h"
 
 #include <memory>
 #include <vector>
@@ -9,9 +10,9 @@ namespace Mapper {
 
 class ComparableCell;
 class SimilarCandidates;
-class TargetTable;
 
-/// Finds the line of a table that is most similar to given values on a set of variables.
+/// Finds the line of a table that is most similar to given values on a set of variables. One
+/// thread.
 class SimilaritySearch
 {
 public:
@@ -42,6 +43,7 @@ private:
     const TargetTable &m_table;
     std::vector<int> m_variables;
     std::shared_ptr<const SimilarCandidates> m_candidates;
+    mutable TargetTable::Row m_row; ///< Room for the row that is compared.
 };
 
 } // namespace Mapper

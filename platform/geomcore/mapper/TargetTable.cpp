@@ -83,6 +83,22 @@ std::string_view TargetTable::text(int row, int variable, std::string &scratch) 
     return m_data->isMissing(cell) ? std::string_view() : VKTab::trimmedCell(cell);
 }
 
+void TargetTable::split(int row, Row &out) const
+{
+    out.row = row;
+    out.cells.resize(size_t(m_data->columnCount()));
+    m_data->cells(row, out.cells, out.scratch);
+}
+
+std::string_view TargetTable::text(const Row &row, int variable, std::string &scratch) const
+{
+    const TargetVariable &target = m_variables[size_t(variable)];
+    if (!target.stored)
+        return LineView(*m_data, row.row).text(target.column, scratch);
+    const std::string_view cell = row.cells[size_t(target.column)];
+    return m_data->isMissing(cell) ? std::string_view() : VKTab::trimmedCell(cell);
+}
+
 std::string TargetTable::normDesignation(int row) const
 {
     std::string scratch;

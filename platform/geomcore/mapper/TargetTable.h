@@ -49,6 +49,16 @@ public:
     /// Points into the table or into \a scratch.
     [[nodiscard]] std::string_view text(int row, int variable, std::string &scratch) const;
 
+    /// A row split once, to take several texts from. Reused from row to row.
+    struct Row
+    {
+        int row = -1;
+        std::vector<std::string_view> cells;
+        std::string scratch;
+    };
+    void split(int row, Row &out) const;
+    /// As above, from a split row.
+    [[nodiscard]] std::string_view text(const Row &row, int variable, std::string &scratch) const;
     /// UTF-8; empty if the table's lines have none.
     [[nodiscard]] std::string normDesignation(int row) const;
 
