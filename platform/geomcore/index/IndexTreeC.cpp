@@ -6,6 +6,7 @@ struct IndexTreeC::Private
 {
     mutable std::mutex lock;
     PPathName root;
+    IndexTreeIconTableC icons;
 };
 
 IndexTreeC::IndexTreeC()
@@ -49,4 +50,9 @@ PPathName IndexTreeC::compatiblePathToResolvedPath(const PPathName &path) const
     // A stored path may begin with a separator; only what is there is taken as absolute.
     const bool absolute = path.isAbsolute() && path.exists(false) && !joined.exists(false);
     return absolute ? path : joined;
+}
+
+const IndexTreeIconTableC &IndexTreeC::getIconTable() const
+{
+    return d->icons;
 }

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "IndexTreeIconTableC.h"
+
 #include <core/text/PPathName.h>
 #include <core/text/PRefPtr.h>
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <memory>
 
-/// The catalogs below one root directory. Every operation may be called on any thread.
+/// The catalogs below one root directory. Every operation may be called on any thread unless
+/// it says otherwise.
 class VELKGEOMCORE_EXPORT IndexTreeC : public PRefObject
 {
 public:
@@ -28,6 +31,9 @@ public:
     /// paths that begin with a reference and addresses come back as they are; an empty path stays
     /// empty. Whether the file exists is the caller's to ask.
     [[nodiscard]] PPathName compatiblePathToResolvedPath(const PPathName &path) const;
+
+    /// Icons of the tree's nodes; GUI thread only. Lives as long as the tree.
+    [[nodiscard]] const IndexTreeIconTableC &getIconTable() const;
 
 private:
     struct Private;

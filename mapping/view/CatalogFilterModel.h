@@ -1,0 +1,27 @@
+#pragma once
+
+#include <linkdbgui/VelkLinkDbGuiGlobal.h>
+
+#include <QSortFilterProxyModel>
+
+/// Leaves only projects that are incomplete, and the directories above them. After a change of the
+/// three settings call invalidate().
+class VELKLINKDBGUI_EXPORT CatalogFilterModel : public QSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    explicit CatalogFilterModel(QObject *parent = nullptr);
+    ~CatalogFilterModel() override;
+
+    bool filterToCheck = false;  ///< whether anything is filtered at all
+    bool filterTarget = false;   ///< only projects whose open lines all have a target
+    bool filterNoTarget = false; ///< only projects with a line without target; beats filterTarget
+
+protected:
+    [[nodiscard]] bool filterAcceptsRow(int sourceRow,
+                                        const QModelIndex &sourceParent) const override;
+
+private:
+    [[nodiscard]] bool acceptsState(int state) const;
+};

@@ -1,0 +1,108 @@
+#include "CatalogStructureModel.h"
+
+#include "catalogNodeToolTip.h"
+#include "CatalogStructureModelPrivate.h"
+
+namespace {
+
+using Node = boost::shared_ptr<CatalogStructureNodeI>;
+
+int nodeTypeId()
+{
+    static const int id = qRegisterMetaType<Node>("boost::shared_ptr<CatalogStructureNodeI>");
+    return id;
+}
+
+QVariant nodeVariant(const Node &node)
+{
+    return QVariant(QMetaType(nodeTypeId()), &node);
+}
+
+bool isProject(const CatalogStructureNodeI &node)
+{
+    return node.getNodeType() == 2 || node.getNodeType() == 3;
+}
+
+} // namespace
+
+CatalogStructureModel::CatalogStructureModel(boost::shared_ptr<CatalogStructureNodeI> root)
+    : d(new CatalogStructureModelPrivate(this, root))
+{
+    d->loadIcons();
+}
+
+CatalogStructureModel::~CatalogStructureModel()
+{
+    delete d;
+}
+
+QModelIndex CatalogStructureModel::index(int row, int column, const QModelIndex &parent) const
+{
+    const CatalogStructureItem *item = d->loadedItemOf(parent);
+    if (row < 0 || row >= item->children.size())
+        return QModelIndex();
+    return createIndex(row, column, item->children.at(row));
+}
+
+QModelIndex CatalogStructureModel::parent(const QModelIndex &index) const
+{
+    CatalogStructureItem *parentItem = d->itemOf(index)->parent;
+    if (!parentItem || !parentItem->parent)
+        return QModelIndex();
+    return createIndex(parentItem->row, 0, parentItem);
+}
+
+int CatalogStructureModel::rowCount(const QModelIndex &parent) const
+{
+    return int(d->loadedItemOf(parent)->children.size());
+}
+
+int CatalogStructureModel::columnCount(const QModelIndex &) const
+{
+    return 1;
+}
+
+bool CatalogStructureModel::hasChildren(const QModelIndex &parent) const
+{
+    return rowCount(parent) > 0;
+}
+
+QVariant CatalogStructureModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return QVariant();
+    const Node &node = d->itemOf(index)->node;
+    switch (role) {
+    case Qt::DisplayRole:
+        return node->getName();
+    case Qt::DecorationRole:
+        return isProject(*node) ? d->projectIcon : d->directoryIcon;
+    case Qt::ToolTipRole:
+        return catalogNodeToolTip(*node);
+    case MappingStateRole:
+        return node->getMappingState().toInt();
+    case StructureNodeRole:
+        return nodeVariant(node);
+    case ConflictRole:
+        return node->hasConflicts();
+    default:
+        return QVariant();
+    }
+}
+
+void CatalogStructureModel::invalidateNodes(CatalogStructureItem *item)
+{
+    if (!item)
+        item = d->rootItem.get();
+    item->loadChildren();
+    for (CatalogStructureItem *child : std::as_const(item->children))
+        invalidateNodes(child);
+    item->node->invalidateState();
+}
+
+boost::shared_ptr<CatalogStructureNodeI> CatalogStructureModel::nodeFrom(const QVariant &value)
+{
+    if (value.userType() == nodeTypeId())
+        return *static_cast<const Node *>(value.constData());
+    return value.isValid() ? value.value<Node>() : Node();
+}

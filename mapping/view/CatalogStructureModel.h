@@ -1,0 +1,49 @@
+#pragma once
+
+#include <linkdbgui/VelkLinkDbGuiGlobal.h>
+
+#include <mapping/data/CatalogStructureNodeI.h>
+
+#include <QAbstractItemModel>
+
+#include <boost/shared_ptr.hpp>
+
+struct CatalogStructureItem;
+class CatalogStructureModelPrivate;
+
+/// The catalog's tree of nodes as an item model of one column. Children are asked of a node when a
+/// view needs them, and once: the tree neither grows nor shrinks after that. GUI thread only.
+class VELKLINKDBGUI_EXPORT CatalogStructureModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Role : int {
+        MappingStateRole = 42,  ///< int: the node's state as its bits
+        StructureNodeRole = 43, ///< the node itself; read it with nodeFrom
+        ConflictRole = 44,      ///< bool
+    };
+
+    /// \a root is not shown itself; its children are the top level.
+    explicit CatalogStructureModel(boost::shared_ptr<CatalogStructureNodeI> root);
+    ~CatalogStructureModel() override;
+
+    [[nodiscard]] QModelIndex index(int row, int column,
+                                    const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] QModelIndex parent(const QModelIndex &index) const override;
+    [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index,
+                                int role = Qt::DisplayRole) const override;
+
+    /// Makes all nodes from \a item down drop what they remember of their state, children before
+    /// parents; null begins at the root. Sends no signal: the caller repaints its views.
+    void invalidateNodes(CatalogStructureItem *item = nullptr);
+
+    /// The node in a value of StructureNodeRole, of this model or of a proxy; null if it has none.
+    [[nodiscard]] static boost::shared_ptr<CatalogStructureNodeI> nodeFrom(const QVariant &value);
+
+private:
+    CatalogStructureModelPrivate *const d;
+};
