@@ -1,0 +1,183 @@
+#pragma once
+
+#include "RecoveryOffer.h"
+#include "SaveOutcome.h"
+#include "SessionTypes.h"
+
+#include <geomcore/records/ReleaseMappingC.h>
+
+#include <QObject>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+class CatalogMappingHandlerI;
+class MappingDocumentPrivate;
+class QSettings;
+
+/// One release of a mapping file while it is being edited: working copy, undo stack, journal,
+/// autosave, lock, paths. Every change of a mapping comes in through updateMapping(), be it by the
+/// editor's handler or by the host's own operations.
+///
+/// Changes of one turn of the event loop make one step of undo, as do those between beginStep() and
+/// endStep(). GUI thread only; needs a running event loop.
+class MappingDocument : public QObject
+{
+    Q_OBJECT
+public:
+    enum class Access {
+        ReadWrite, ///< read-only all the same if somebody else edits the file
+        ReadOnly,
+    };
+    enum class Recovery {
+        Ask, ///< open() gives RecoveryPending if there is something to recover
+        UseSaved,
+        UseRecovered,
+    };
+    struct OpenRequest
+    {
+        QString mappingFile;
+        QString sourceDate; ///< empty: the last release of the file
+        QString rootName;   ///< text of the tree's root; empty: both dates
+        Access access = Access::ReadWrite;
+        Recovery recovery = Recovery::Ask;
+    };
+    enum class OpenResult {
+        Opened,
+        OpenedReadOnly,  ///< readOnlyReason() and readOnlyText() say why
+        RecoveryPending, ///< nothing is open; show recoveryOffer() and open again with the choice
+        NoRelease,       ///< the file does not hold the wanted release
+        Unreadable,      ///< the file is missing, unreadable or no mapping file
+    };
+    enum class ReadOnlyReason {
+        None,
+        Wanted,
+        HeldByOther, ///< lockOwner() edits the file
+        NotWritable, ///< the folder takes no new files
+    };
+
+    /// Catalog roots and the like are kept in \a settings, which must live as long; null: they are
+    /// not kept.
+    explicit MappingDocument(QSettings *settings = nullptr, QObject *parent = nullptr);
+    ~MappingDocument() override;
+
+    /// Source dates of the releases in a file, in its order; empty with \a error if it cannot be
+    /// read.
+    [[nodiscard]] static QStringList sourceDates(const QString &mappingFile,
+                                                 QString *error = nullptr);
+
+    /// Closes what is open, unsaved changes are discarded, and opens a release.
+    OpenResult open(const OpenRequest &request);
+    /// The same with a release that is not in a file yet. It is modified until it is saved.
+    OpenResult openNew(const ReleaseMappingC &release, const QString &mappingFile,
+                       const QString &rootName = QString());
+    /// German: why open() failed, what to do next.
+    [[nodiscard]] QString errorText() const;
+    [[nodiscard]] const RecoveryOffer &recoveryOffer() const;
+    /// Gives up journal and lock; unsaved changes stay readable in the journal only.
+    void close();
+    [[nodiscard]] bool isOpen() const;
+
+    [[nodiscard]] bool isReadOnly() const;
+    [[nodiscard]] ReadOnlyReason readOnlyReason() const;
+    [[nodiscard]] QString readOnlyText() const;
+    /// Who holds the lock, if that is somebody else.
+    [[nodiscard]] SessionOwner lockOwner() const;
+    /// Takes the lock of somebody who will not come back, such as a computer that is gone; to be
+    /// called after the user said so. The document must be opened again afterwards.
+    static bool removeLock(const QString &mappingFile);
+
+    /// Native path; empty if nothing is open.
+    [[nodiscard]] QString mappingFile() const;
+    [[nodiscard]] QString rootName() const;
+    [[nodiscard]] CatalogRoots catalogRoots() const;
+    /// Remembered for this mapping file.
+    void setCatalogRoots(const CatalogRoots &roots);
+
+    /// A handler for CatalogMappingWidget. The caller owns it; it may outlive this document, and
+    /// then does nothing.
+    [[nodiscard]] CatalogMappingHandlerI *createHandler();
+    /// The handler that all others forward to; it belongs to this document and lives until the
+    /// next releaseReplaced() or close(). Never update mappings by it.
+    [[nodiscard]] CatalogMappingHandlerI *handler() const;
+    [[nodiscard]] ReleaseMappingC release() const;
+    /// Not valid if the release does not know it.
+    [[nodiscard]] PrjMappingC mapping(const ProjectId &project) const;
+    /// Of the whole release, kept while mappings change.
+    [[nodiscard]] const LineCounts &counts() const;
+
+    /// The one way in for changes of a mapping. Ignored while read-only, with problemOccurred().
+    void updateMapping(const PrjMappingC &mapping);
+    /// Replaces everything in one step, as after creating or assigning a whole release. The tree is
+    /// made anew: releaseReplaced() follows.
+    void replaceRelease(const ReleaseMappingC &release, const QString &text);
+    /// All changes until the matching endStep() make one step. \a text: what undo says; empty: it
+    /// is made from the changes. May be nested, the outermost text counts.
+    void beginStep(const QString &text = QString());
+    void endStep();
+    /// Ends the step of this turn of the event loop now.
+    void finishStep();
+    /// Changes by \a marking are stored and journaled, and are no step.
+    void updateWithoutStep(const std::function<void()> &marking);
+
+    [[nodiscard]] bool canUndo() const;
+    [[nodiscard]] bool canRedo() const;
+    /// "3 Zeilen bestätigt in a/b.prj"; empty if there is nothing.
+    [[nodiscard]] QString undoText() const;
+    [[nodiscard]] QString redoText() const;
+    /// Oldest first.
+    [[nodiscard]] QStringList undoTexts() const;
+    /// Steps beyond are forgotten, the oldest first; 1000 at first.
+    void setUndoLimit(int steps);
+
+    /// There is something to save.
+    [[nodiscard]] bool isModified() const;
+    [[nodiscard]] SaveOutcome save(const SaveOptions &options = {});
+    /// Saves into another file, which is the document's file from then on if that went well. A
+    /// release of the same date there is replaced; other releases of the former file are not taken
+    /// along.
+    [[nodiscard]] SaveOutcome saveAs(const QString &mappingFile, const SaveOptions &options = {});
+
+    /// 180 seconds at first; 0: never.
+    void setAutosaveInterval(int seconds);
+    [[nodiscard]] int autosaveInterval() const;
+    /// Not valid before the first one.
+    [[nodiscard]] QDateTime lastAutosave() const;
+    [[nodiscard]] QString journalFile() const;
+    [[nodiscard]] QString autosaveFile() const;
+
+public Q_SLOTS:
+    void undo();
+    void redo();
+    /// Writes the side file now if there is something to save.
+    void autosave();
+
+Q_SIGNALS:
+    void opened();
+    void closed();
+    void modifiedChanged(bool modified);
+    /// canUndo(), canRedo() or their texts changed.
+    void undoChanged();
+    /// After every stored change, undo and redo included.
+    void mappingChanged(const ProjectId &project);
+    void countsChanged();
+    /// A step is complete, by the user, by undo or by redo. \a text says what was done, \a lines is
+    /// the number of source lines that changed.
+    void stepDone(const QString &text, int lines);
+    /// Follows stepDone(), for what the user should hear of.
+    void noticeRaised(const ChangeNotice &notice);
+    /// The project's node should be selected anew, for its mapping changed behind the editor.
+    void reselectRequested(const ProjectId &project);
+    /// There is another tree: the editor must be made anew with createHandler().
+    void releaseReplaced();
+    void saved();
+    void autosaved(const QString &file);
+    /// German: something that the user must know, such as a journal that cannot be written.
+    void problemOccurred(const QString &text);
+
+private:
+    friend class JournalingHandler;
+    friend class MappingDocumentPrivate;
+    const std::unique_ptr<MappingDocumentPrivate> d;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "SessionTypes.h"
+
+/// One of the two versions between which the user chooses after a crash.
+struct RecoveryVersion
+{
+    bool available = false;
+    QDateTime time; ///< UTC: of the file, or of the last recovered change
+    int projects = 0;
+    LineCounts counts;
+};
+
+/// What a program that ended without closing left behind.
+struct RecoveryOffer
+{
+    SessionOwner owner;
+    QString sourceDate;
+    RecoveryVersion saved;     ///< the mapping file as it is
+    RecoveryVersion recovered; ///< with what was not saved
+    int steps = 0;             ///< user actions that are not in the saved file
+    QString lastStep;          ///< text of the last of them
+    int changedLines = 0;      ///< source lines that differ between both versions
+    int changedProjects = 0;
+    /// German; empty if all that was noted could be read, else what is missing.
+    QString damage;
+
+    [[nodiscard]] bool isValid() const { return recovered.available; }
+};
