@@ -1,0 +1,59 @@
+# Resources that are made by the build: bitmaps from drawings, catalogs from translations.
+
+# velk_bitmaps(VAR FOLDER OUTPUT): renders all drawings below FOLDER with the same names to OUTPUT,
+# for a pixel ratio of 1 and 2. VAR gets the bitmaps' paths below OUTPUT.
+function(velk_bitmaps var folder output)
+  file(GLOB_RECURSE drawings CONFIGURE_DEPENDS RELATIVE "${folder}" "${folder}/*.svg")
+  set(bitmaps)
+  foreach(drawing IN LISTS drawings)
+    string(REGEX REPLACE "\\.svg$" "" name "${drawing}")
+    list(APPEND bitmaps "${name}.png" "${name}@2x.png")
+  endforeach()
+  list(TRANSFORM bitmaps PREPEND "${output}/" OUTPUT_VARIABLE files)
+  list(TRANSFORM drawings PREPEND "${folder}/" OUTPUT_VARIABLE sources)
+  add_custom_command(OUTPUT ${files}
+    COMMAND velkbitmaps "${folder}" "${output}" ${drawings}
+    DEPENDS velkbitmaps ${sources}
+    COMMENT "Rendering ${folder}" VERBATIM)
+  set(${var} ${bitmaps} PARENT_SCOPE)
+endfunction()
+
+# velk_catalogs(VAR MODULE FOLDER OUTPUT LANGUAGE...): MODULE_LANGUAGE.ts of FOLDER become catalogs in
+# OUTPUT. VAR gets their names.
+function(velk_catalogs var module folder output)
+  file(MAKE_DIRECTORY "${output}")
+  set(catalogs)
+  foreach(language IN LISTS ARGN)
+    set(source "${folder}/${module}_${language}.ts")
+    set(catalog "${module}_${language}.qm")
+    add_custom_command(OUTPUT "${output}/${catalog}"
+      COMMAND Qt6::lrelease -silent "${source}" -qm "${output}/${catalog}"
+      DEPENDS "${source}" VERBATIM)
+    list(APPEND catalogs "${catalog}")
+  endforeach()
+  set(${var} ${catalogs} PARENT_SCOPE)
+endfunction()
+
+# velk_resource_list(FILE [PREFIX FOLDER NAME...]...): writes a resource list with the files NAME of
+# FOLDER below PREFIX. "--" separates the prefixes.
+function(velk_resource_list file)
+  set(text "<RCC>\n")
+  set(prefix "")
+  set(folder "")
+  foreach(word IN LISTS ARGN)
+    if(word STREQUAL "--")
+      string(APPEND text "  </qresource>\n")
+      set(prefix "")
+      set(folder "")
+    elseif(prefix STREQUAL "")
+      set(prefix "${word}")
+      string(APPEND text "  <qresource prefix=\"${prefix}\">\n")
+    elseif(folder STREQUAL "")
+      set(folder "${word}")
+    else()
+      string(APPEND text "    <file alias=\"${word}\">${folder}/${word}</file>\n")
+    endif()
+  endforeach()
+  string(APPEND text "  </qresource>\n</RCC>\n")
+  file(CONFIGURE OUTPUT "${file}" CONTENT "${text}" @ONLY)
+endfunction()

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "VelkLinkDbGuiGlobal.h"
+
+#include <core/plugin/PLinkDbGuiI.h>
+
+#include <QObject>
+
+/// The plug-in object. The host makes it by its meta object, after the PApplication, and owns it;
+/// it is gone before the library is unloaded. GUI thread.
+class VELKLINKDBGUI_EXPORT LinkDbGuiC : public QObject, public PLinkDbGuiI
+{
+    Q_OBJECT
+    Q_CLASSINFO("Interfaces", "PLinkDbGuiI")
+    Q_INTERFACES(PLinkDbGuiI)
+
+public:
+    Q_INVOKABLE LinkDbGuiC();
+    ~LinkDbGuiC() override;
+
+    QObject *asQObject() override;
+    /// Describes the ten actions to the pool, which keeps them; the host connects them. An icon
+    /// that an action already has stays.
+    void registerActions(PApplicationPool &pool) override;
+    /// The licence of the feature "LINKDB"; false for a null database.
+    bool initLinkDb(PRefPtr<PLinkDbC> linkDb) override;
+
+private Q_SLOTS:
+    void onGuiInitialized();
+
+private:
+    bool m_userFieldsLicensed = false;
+};
