@@ -1,0 +1,10 @@
+#include "PrjMappingWidgetBase.h"
+
+PrjMappingWidgetBase::PrjMappingWidgetBase(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+PrjMappingWidgetBase::~PrjMappingWidgetBase() = default;
+
+void PrjMappingWidgetBase::onProjectMappingUpdated(const PrjMappingC & /*mapping*/) {}

@@ -1,0 +1,68 @@
+#include "ProjectMappingWidget.h"
+
+#include "ProjectMappingWidgetPrivate.h"
+#include "TargetMappingWidget.h"
+
+#include <QPushButton>
+
+ProjectMappingWidget::ProjectMappingWidget(QWidget *parent)
+    : PrjMappingWidgetBase(parent)
+    , d(new ProjectMappingWidgetPrivate(this))
+{
+    d->buildLayout();
+}
+
+ProjectMappingWidget::~ProjectMappingWidget()
+{
+    // The panels point into the private data.
+    d->clearTargets();
+    delete d;
+}
+
+void ProjectMappingWidget::loadSourceProject(const PrjMappingC &mapping,
+                                             const VKTab::ContentRef &content,
+                                             const CatalogMappingC &catalog)
+{
+    d->content = content;
+    d->clearTargets();
+    d->params.projectMapping = mapping;
+    d->params.catalogMapping = catalog;
+    d->showTargets();
+}
+
+QString ProjectMappingWidget::sourcePath() const
+{
+    return d->params.projectMapping.getSourcePath();
+}
+
+QStringList ProjectMappingWidget::collectConditionVariables() const
+{
+    return d->collectConditionVariables();
+}
+
+void ProjectMappingWidget::setAssignEnabled(bool enabled)
+{
+    d->params.assignEnabled = enabled;
+    for (const TargetMappingWidget *const widget : std::as_const(d->targetWidgets))
+        widget->assignButton->setEnabled(enabled);
+}
+
+void ProjectMappingWidget::setApplicationHandler(ApplicationHandlerI *application)
+{
+    d->params.application = application;
+}
+
+void ProjectMappingWidget::setTableMappingWidget(TableMappingWidget *widget)
+{
+    d->params.tableMappingWidget = widget;
+}
+
+void ProjectMappingWidget::setRemoteViewerMode(bool remote)
+{
+    d->remoteViewerMode = remote;
+}
+
+void ProjectMappingWidget::onProjectMappingUpdated(const PrjMappingC &mapping)
+{
+    d->params.projectMapping = mapping;
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "PrjMappingWidgetBase.h"
+
+#include <geomcore/records/CatalogMappingC.h>
+#include <geomcore/table/ContentRef.h>
+
+#include <QStringList>
+
+class ApplicationHandlerI;
+class ProjectMappingWidgetPrivate;
+class TableMappingWidget;
+
+/// The column that edits the ordered targets of one source project: a panel for each target with a
+/// path, buttons to add a target and to assign the lines anew.
+class VELKLINKDBGUI_EXPORT ProjectMappingWidget : public PrjMappingWidgetBase
+{
+    Q_OBJECT
+
+public:
+    explicit ProjectMappingWidget(QWidget *parent);
+    ~ProjectMappingWidget() override;
+
+    /// Shows one project. \a content is its table. A target whose project is gone is told with a
+    /// message and shown all the same; the mapping stays as it is.
+    void loadSourceProject(const PrjMappingC &mapping, const VKTab::ContentRef &content,
+                           const CatalogMappingC &catalog);
+    /// Path of the project shown, empty if there is none.
+    [[nodiscard]] QString sourcePath() const;
+    /// Names of the variables that the targets' conditions read, each name once.
+    [[nodiscard]] QStringList collectConditionVariables() const;
+    /// For the assign buttons of the targets, now and later.
+    void setAssignEnabled(bool enabled);
+
+    /// Not owned; to be set once, before the first project. \a application may be null.
+    void setApplicationHandler(ApplicationHandlerI *application);
+    /// Not owned; to be set once, before the first project.
+    void setTableMappingWidget(TableMappingWidget *widget);
+    /// True: target projects are looked for in the catalog repository, from the next project on.
+    void setRemoteViewerMode(bool remote);
+
+public Q_SLOTS:
+    /// Replaces the mapping; the panels are not made anew.
+    void onProjectMappingUpdated(const PrjMappingC &mapping) override;
+
+private:
+    friend class ProjectMappingWidgetPrivate;
+    ProjectMappingWidgetPrivate *const d;
+};

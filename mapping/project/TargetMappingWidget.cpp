@@ -1,0 +1,76 @@
+#include "TargetMappingWidget.h"
+
+#include "TargetMappingParamSet.h"
+
+#include <mapping/data/ApplicationHandlerI.h>
+#include <mapping/view/CatalogMappingWidget.h>
+
+#include <core/text/PPathName.h>
+#include <core/text/PString.h>
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+TargetMappingWidget::TargetMappingWidget(int targetIndex, const VKTab::ContentRef &source,
+                                         const Notify &callback, TargetMappingParamSet *paramSet,
+                                         bool remoteViewerMode, QWidget *parent)
+    : QWidget(parent)
+    , index(targetIndex)
+    , notify(callback)
+    , params(paramSet)
+    , sourceContent(source)
+{
+    Q_UNUSED(remoteViewerMode)
+    assignButton = new QPushButton(this);
+    upButton = new QPushButton(this);
+    downButton = new QPushButton(this);
+}
+
+TargetMappingWidget::~TargetMappingWidget() = default;
+
+void TargetMappingWidget::updateMoveButtons()
+{
+    int withPath = 0;
+    for (const PrjMappingTargetC &target : params->projectMapping.getTargets())
+        withPath += target.getTargetPath().isEmpty() ? 0 : 1;
+    upButton->setEnabled(index > 0);
+    downButton->setEnabled(index < withPath - 1);
+}
+
+void TargetMappingWidget::onRemoveTargetClicked()
+{
+    if (notify)
+        notify(params->projectMapping.findTarget(index), index, TargetRemoved);
+}
+
+void TargetMappingWidget::onSelectProjectClicked()
+{
+    if (params->application)
+        params->application->openTargetProject(
+            params->projectMapping.findTarget(index).getTargetPath());
+}
+
+void TargetMappingWidget::onMoveTargetUp()
+{
+    if (index <= 0)
+        return;
+    const QList<PrjMappingTargetC> targets = params->projectMapping.getTargets();
+    params->projectMapping.updateTarget(index, targets.at(index - 1));
+    params->projectMapping.updateTarget(index - 1, targets.at(index));
+    if (notify)
+        notify(targets.at(index - 1), index, TargetMovedUp);
+}
+
+void TargetMappingWidget::onMoveTargetDown()
+{
+    const QList<PrjMappingTargetC> targets = params->projectMapping.getTargets();
+    if (index >= targets.size() - 1)
+        return;
+    params->projectMapping.updateTarget(index, targets.at(index + 1));
+    params->projectMapping.updateTarget(index + 1, targets.at(index));
+    if (notify)
+        notify(targets.at(index + 1), index, TargetMovedDown);
+}

@@ -1,0 +1,159 @@
+// The part of CatalogMappingWidgetPrivate that builds the widget and connects its editors.
+#include "CatalogMappingWidgetPrivate.h"
+
+#include "CatalogFilterModel.h"
+#include "CatalogMappingWidget.h"
+#include "CatalogStructureDelegate.h"
+#include "CatalogStructureModel.h"
+
+#include <mapping/data/CatalogMappingHandlerI.h>
+#include <mapping/project/MappingConflictWidget.h>
+#include <mapping/project/ProjectMappingWidget.h>
+
+#include <core/text/PString.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QSplitter>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VELK_CATALOG_LEAK_CHECK
+#endif
+#elif defined(__SANITIZE_ADDRESS__)
+#define VELK_CATALOG_LEAK_CHECK
+#endif
+#ifdef VELK_CATALOG_LEAK_CHECK
+#include <sanitizer/lsan_interface.h>
+#endif
+
+void CatalogMappingWidgetPrivate::buildLayout()
+{
+    auto *const layout = new QVBoxLayout(q);
+    auto *const splitter = new QSplitter(Qt::Horizontal, q);
+    splitter->setObjectName(QStringLiteral("catalogSplitter"));
+    layout->addWidget(splitter);
+    splitter->addWidget(makeTreePane(splitter));
+    writeStatistics();
+    makeTreeModels();
+    splitter->addWidget(makeEditorPane(splitter));
+    conflictWidget->setCatalogMapping(handler->getCatalogMapping());
+    projectWidget->setApplicationHandler(applicationHandler);
+    setEditorsEnabled(false);
+}
+
+QWidget *CatalogMappingWidgetPrivate::makeTreePane(QWidget *parent)
+{
+    auto *const pane = new QWidget(parent);
+    auto *const layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    treeView = new QTreeView(pane);
+    treeView->setObjectName(QStringLiteral("treeView"));
+    treeView->setHeaderHidden(true);
+    treeView->setContextMenuPolicy(Qt::CustomContextMenu);
+    layout->addWidget(treeView);
+    checkToCheck = new QCheckBox(
+        PString::translate("Zeige nur Projekte mit unvollständigen Mappings", "VelkLinkDbGui"),
+        pane);
+    checkToCheck->setObjectName(QStringLiteral("checkToCheck"));
+    layout->addWidget(checkToCheck);
+    auto *const rows = new QVBoxLayout;
+    rows->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(rows);
+    checkTarget = addFilterRow(
+        rows, "checkTarget",
+        PString::translate("Zeige nur Projekte mit zugeordneten Zeilen", "VelkLinkDbGui"));
+    checkNoTarget = addFilterRow(
+        rows, "checkNoTarget",
+        PString::translate("Zeige nur Projekte mit nicht zugeordneten Zeilen", "VelkLinkDbGui"));
+    statisticsLabel = new QLabel(pane);
+    statisticsLabel->setObjectName(QStringLiteral("statisticsLabel"));
+    layout->addWidget(statisticsLabel);
+    return pane;
+}
+
+QCheckBox *CatalogMappingWidgetPrivate::addFilterRow(QBoxLayout *rows, const char *name,
+                                                     const QString &text)
+{
+    auto *const row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addSpacerItem(new QSpacerItem(20, 1, QSizePolicy::Minimum, QSizePolicy::Minimum));
+    auto *const box = new QCheckBox(text, treeView->parentWidget());
+    box->setObjectName(QLatin1String(name));
+    box->setEnabled(false);
+    row->addWidget(box);
+    rows->addLayout(row);
+    return box;
+}
+
+void CatalogMappingWidgetPrivate::makeTreeModels()
+{
+    model = new CatalogStructureModel(handler->getRootStructureNode());
+#ifdef VELK_CATALOG_LEAK_CHECK
+    __lsan_ignore_object(model); // it stays when the widget goes
+#endif
+    filterModel = new CatalogFilterModel(q);
+    filterModel->setDynamicSortFilter(false);
+    filterModel->setSourceModel(model);
+    treeView->setModel(filterModel);
+    treeView->setItemDelegate(new CatalogStructureDelegate(treeView));
+}
+
+QWidget *CatalogMappingWidgetPrivate::makeEditorPane(QWidget *parent)
+{
+    auto *const pane = new QWidget(parent);
+    auto *const layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *const conflictSplitter = new QSplitter(Qt::Vertical, pane);
+    conflictSplitter->setObjectName(QStringLiteral("conflictSplitter"));
+    layout->addWidget(conflictSplitter);
+    conflictWidget = new MappingConflictWidget(conflictSplitter);
+    conflictWidget->setObjectName(QStringLiteral("conflictWidget"));
+    conflictSplitter->addWidget(conflictWidget);
+    auto *const editorSplitter = new QSplitter(Qt::Vertical, conflictSplitter);
+    editorSplitter->setObjectName(QStringLiteral("editorSplitter"));
+    conflictSplitter->addWidget(editorSplitter);
+    projectWidget = new ProjectMappingWidget(editorSplitter);
+    projectWidget->setObjectName(QStringLiteral("projectWidget"));
+    editorSplitter->addWidget(projectWidget);
+    return pane;
+}
+
+void CatalogMappingWidgetPrivate::makeConnections()
+{
+    connectTree();
+    connectEditors();
+    connectConflicts();
+}
+
+void CatalogMappingWidgetPrivate::connectTree()
+{
+    connect(treeView, SIGNAL(customContextMenuRequested(const QPoint &)), this,
+            SLOT(onTreeContextMenuRequested(const QPoint &)));
+    connect(checkToCheck, SIGNAL(stateChanged(int)), this, SLOT(onFilterToCheckChanged(int)));
+    connect(checkTarget, SIGNAL(stateChanged(int)), this, SLOT(onFilterTargetChanged(int)));
+    connect(checkNoTarget, SIGNAL(stateChanged(int)), this, SLOT(onFilterNoTargetChanged(int)));
+    connect(treeView->selectionModel(),
+            SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), this,
+            SLOT(onTreeSelectionChanged(const QItemSelection &, const QItemSelection &)));
+}
+
+void CatalogMappingWidgetPrivate::connectEditors()
+{
+    connect(projectWidget, SIGNAL(projectMappingUpdated(const PrjMappingC &)), this,
+            SLOT(onProjectMappingUpdated(const PrjMappingC &)));
+}
+
+void CatalogMappingWidgetPrivate::connectConflicts()
+{
+    connect(conflictWidget, SIGNAL(conflictsChanged(const PrjMappingC &)), this,
+            SLOT(onProjectMappingUpdated(const PrjMappingC &)));
+    connect(conflictWidget, SIGNAL(conflictsChanged(const PrjMappingC &)), projectWidget,
+            SLOT(onProjectMappingUpdated(const PrjMappingC &)));
+    connect(projectWidget, SIGNAL(projectMappingUpdated(const PrjMappingC &)), conflictWidget,
+            SLOT(onMappingUpdated(const PrjMappingC &)));
+    connect(projectWidget, SIGNAL(targetLineConflictAccepted(const int &)), conflictWidget,
+            SLOT(onTargetLineConflictAccepted(const int &)));
+}

@@ -1,0 +1,236 @@
+#include "CatalogMappingWidgetPrivate.h"
+
+#include "CatalogFilterModel.h"
+#include "CatalogMappingWidget.h"
+#include "CatalogStructureModel.h"
+
+#include <mapping/data/CatalogMappingHandlerI.h>
+#include <mapping/project/MappingConflictWidget.h>
+#include <mapping/project/ProjectMappingWidget.h>
+
+#include <core/config/PConfigService.h>
+#include <core/text/PString.h>
+#include <geomcore/table/makeSachmRelativeToCatalog.h>
+#include <geomcore/table/Reader.h>
+#include <geomcoregui/table/VkTableView.h>
+
+#include <QCheckBox>
+#include <QItemSelection>
+#include <QLabel>
+#include <QMenu>
+#include <QPersistentModelIndex>
+#include <QPointer>
+#include <QTreeView>
+
+namespace {
+
+bool configuredVerifyAllOnDir()
+{
+    const PRefPtr<PConfig> config = PConfigService::getConfig(0, QStringLiteral("pproject"));
+    return config &&
+           config
+               ->getItemValue(QStringLiteral("AllowVerifyAllOnDir"),
+                              QStringLiteral("CatalogMappingWidget"), QStringLiteral("false"))
+               .GetBool();
+}
+
+CatalogMappingWidgetPrivate::Node nodeAt(const QModelIndex &index)
+{
+    return CatalogStructureModel::nodeFrom(index.data(CatalogStructureModel::StructureNodeRole));
+}
+
+bool isProject(const CatalogMappingWidgetPrivate::Node &node)
+{
+    return node->getNodeType() == 2;
+}
+
+} // namespace
+
+CatalogMappingWidgetPrivate::CatalogMappingWidgetPrivate(const QString &path,
+                                                         CatalogMappingHandlerI *mappingHandler,
+                                                         ApplicationHandlerI *application,
+                                                         CatalogMappingWidget *owner)
+    : PPrivateData(owner)
+    , handler(mappingHandler)
+    , basePath(path)
+    , applicationHandler(application)
+    , allowVerifyAllOnDir(configuredVerifyAllOnDir())
+{
+}
+
+CatalogMappingWidgetPrivate::~CatalogMappingWidgetPrivate() = default;
+
+void CatalogMappingWidgetPrivate::setEditorsEnabled(bool enabled)
+{
+    conflictWidget->setEnabled(enabled);
+    projectWidget->setEnabled(enabled);
+}
+
+PPathName CatalogMappingWidgetPrivate::projectFile(const QString &sourcePath) const
+{
+    QString relative = sourcePath;
+    for (int pass = 0; pass < options; ++pass) {
+        const qsizetype slash = relative.indexOf(u'/');
+        if (slash < 0)
+            break;
+        relative.remove(0, slash + 1);
+    }
+    return basePath + PPathName(relative);
+}
+
+void CatalogMappingWidgetPrivate::openNode(const Node &node)
+{
+    setEditorsEnabled(isProject(node));
+    if (!isProject(node))
+        return;
+    const QString path = node->getPath();
+    if (path.isEmpty()) {
+        setEditorsEnabled(false);
+        return;
+    }
+    const refHandle<PrjClass> project(new PrjClass(true, false, false));
+    project->read(projectFile(path).native(), PrjClass::ReadAll);
+    VKTab::makeSachmRelativeToCatalog(project, path);
+    VKTab::ContentRef content;
+    if (VKTab::Reader().readByProject(project, content, true) == -1) {
+        setEditorsEnabled(false);
+        return;
+    }
+    const CatalogMappingC catalog = handler->getCatalogMapping();
+    const PrjMappingC mapping = node->getMapping();
+    projectWidget->loadSourceProject(mapping, content, catalog);
+    conflictWidget->loadSourceProject(mapping, content);
+}
+
+void CatalogMappingWidgetPrivate::onTreeSelectionChanged(const QItemSelection &selected,
+                                                         const QItemSelection & /*deselected*/)
+{
+    const QModelIndexList indexes = selected.indexes();
+    if (indexes.size() != 1)
+        return;
+    if (const Node node = nodeAt(indexes.first()))
+        openNode(node);
+}
+
+void CatalogMappingWidgetPrivate::onProjectMappingUpdated(const PrjMappingC &prjMapping)
+{
+    handler->updateMapping(prjMapping);
+    conflictWidget->setCatalogMapping(handler->getCatalogMapping());
+    writeStatistics();
+    model->invalidateNodes();
+    repaintViews();
+}
+
+void CatalogMappingWidgetPrivate::repaintViews()
+{
+    // Updating a view repaints its frame; the items are its viewport's.
+    treeView->update();
+    treeView->viewport()->update();
+}
+
+void CatalogMappingWidgetPrivate::writeStatistics()
+{
+    const int lines = handler->countLines();
+    const int mapped = handler->countMapped();
+    const int notFound = handler->countNotFound();
+    const int toCheck = handler->countToCheck();
+    const int verified = handler->countVerified();
+    const auto insertCounts = [&](const QString &text) {
+        return text.arg(lines).arg(mapped).arg(notFound).arg(toCheck).arg(verified);
+    };
+    statisticsLabel->setText(insertCounts(PString::translate("Übersicht", "VelkLinkDbGui") +
+                                          QStringLiteral(" : ") +
+                                          QStringLiteral("%1 / %2 / %3 / %4 / %5")));
+    statisticsLabel->setToolTip(insertCounts(
+        PString::translate("Gesamtanzahl Zeilen", "VelkLinkDbGui") + QStringLiteral(" : %1\n") +
+        PString::translate("Automatisch zugeordnete Zeilen", "VelkLinkDbGui") +
+        QStringLiteral(" : %2\n") + PString::translate("Nicht gefundene Zeilen", "VelkLinkDbGui") +
+        QStringLiteral(" : %3\n") +
+        PString::translate("Zu überprüfende Zuordnungen", "VelkLinkDbGui") +
+        QStringLiteral(" : %4\n") + PString::translate("Bestätigte Zuordnungen", "VelkLinkDbGui") +
+        QStringLiteral(" : %5")));
+}
+
+void CatalogMappingWidgetPrivate::applyFilter(bool target, bool noTarget)
+{
+    filterModel->filterToCheck = checkToCheck->isChecked();
+    filterModel->filterTarget = target;
+    filterModel->filterNoTarget = noTarget;
+    filterModel->invalidate();
+}
+
+void CatalogMappingWidgetPrivate::onFilterToCheckChanged(int state)
+{
+    const bool on = state == Qt::Checked;
+    filterModel->filterToCheck = on;
+    filterModel->filterTarget = checkTarget->isChecked();
+    filterModel->filterNoTarget = checkNoTarget->isChecked();
+    checkTarget->setEnabled(on);
+    checkNoTarget->setEnabled(on);
+    filterModel->invalidate();
+}
+
+void CatalogMappingWidgetPrivate::onFilterTargetChanged(int state)
+{
+    if (state == Qt::Checked)
+        checkNoTarget->setChecked(false);
+    applyFilter(state == Qt::Checked, checkNoTarget->isChecked());
+}
+
+void CatalogMappingWidgetPrivate::onFilterNoTargetChanged(int state)
+{
+    if (state == Qt::Checked)
+        checkTarget->setChecked(false);
+    applyFilter(checkTarget->isChecked(), state == Qt::Checked);
+}
+
+void CatalogMappingWidgetPrivate::onTreeContextMenuRequested(const QPoint &pos)
+{
+    const QPersistentModelIndex index = treeView->indexAt(pos);
+    if (!index.isValid())
+        return;
+    const Node node = nodeAt(index);
+    if (!node)
+        return;
+    const int type = node->getNodeType();
+    if ((type == 0 || type == 1) && !allowVerifyAllOnDir)
+        return;
+    const QPointer<CatalogMappingWidgetPrivate> alive(this);
+    QMenu menu;
+    const QAction *const verify =
+        menu.addAction(PString::translate("Alle Zuordnungen bestätigen", "VelkLinkDbGui"));
+    if (menu.exec(treeView->viewport()->mapToGlobal(pos)) != verify || !alive)
+        return;
+    if (type == 2)
+        verifyProject(node);
+    else
+        verifyBelow(node);
+    for (QModelIndex above = index; above.isValid(); above = above.parent())
+        if (const Node changed = nodeAt(above))
+            changed->invalidateState();
+    treeView->viewport()->update();
+}
+
+void CatalogMappingWidgetPrivate::verifyProject(const Node &node)
+{
+    PrjMappingC mapping = node->getMapping();
+    if (!mapping.isValid())
+        return;
+    mapping.verifyAll();
+    handler->updateMapping(mapping);
+    node->invalidateState();
+    if (projectWidget->sourcePath() == mapping.getSourcePath())
+        projectWidget->onProjectMappingUpdated(mapping);
+}
+
+void CatalogMappingWidgetPrivate::verifyBelow(const Node &node)
+{
+    const QList<Node> children = node->getChildren();
+    for (const Node &child : children) {
+        if (isProject(child))
+            verifyProject(child);
+        else
+            verifyBelow(child);
+    }
+    node->invalidateState();
+}
