@@ -1,14 +1,15 @@
 #include "ReleaseMappingDirectoryNode.h"
 
-#include <algorithm>
+#include "ReleaseMappingTree.h"
 
 ReleaseMappingDirectoryNode::ReleaseMappingDirectoryNode(
-    const QList<ProjectKey> &projects, const boost::shared_ptr<ReleaseMappingC> &release,
+    const QList<int> &projects, const boost::shared_ptr<WatchedRelease> &release,
     const QString &name, int depth)
     : m_projects(projects)
     , m_release(release)
     , m_name(name)
     , m_depth(depth)
+    , m_marks(projects)
 {
 }
 
@@ -31,17 +32,11 @@ QString ReleaseMappingDirectoryNode::getPath() const
 
 QFlags<PRJMAPPING::MappingState_> ReleaseMappingDirectoryNode::getMappingState() const
 {
-    if (m_cachedState.testFlag(PRJMAPPING::StateUsable))
+    const int generation = m_release->generation();
+    if (m_cachedState.testFlag(PRJMAPPING::StateUsable) && m_cachedGeneration == generation)
         return m_cachedState;
-    m_cachedState.setFlag(PRJMAPPING::StateUsable);
-    for (const ProjectKey &key : m_projects) {
-        const PRJMAPPING::MappingState state =
-            m_release->findMapping(key.first, key.second, QString()).getMappingState();
-        for (PRJMAPPING::MappingState_ bit : PRJMAPPING::RolledUpStates) {
-            if (state.testFlag(bit))
-                m_cachedState.setFlag(bit);
-        }
-    }
+    m_cachedState = marks().states() | PRJMAPPING::StateUsable;
+    m_cachedGeneration = generation;
     return m_cachedState;
 }
 
@@ -52,9 +47,7 @@ PrjMappingC ReleaseMappingDirectoryNode::getMapping() const
 
 bool ReleaseMappingDirectoryNode::hasConflicts() const
 {
-    return std::any_of(m_projects.begin(), m_projects.end(), [this](const ProjectKey &key) {
-        return m_release->findMapping(key.first, key.second, QString()).getContainsConflicts();
-    });
+    return marks().hasConflicts();
 }
 
 QList<boost::shared_ptr<CatalogStructureNodeI>> ReleaseMappingDirectoryNode::getChildren() const
@@ -67,4 +60,10 @@ QList<boost::shared_ptr<CatalogStructureNodeI>> ReleaseMappingDirectoryNode::get
 void ReleaseMappingDirectoryNode::invalidateState()
 {
     m_cachedState = {};
+}
+
+const MarkSum &ReleaseMappingDirectoryNode::marks() const
+{
+    m_marks.bringUpToDate(*m_release);
+    return m_marks;
 }

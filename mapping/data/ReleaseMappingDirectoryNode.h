@@ -1,19 +1,18 @@
 #pragma once
 
 #include "CatalogStructureNodeI.h"
-#include "ReleaseMappingTree.h"
-
-#include <geomcore/records/ReleaseMappingC.h>
+#include "MarkSum.h"
+#include "WatchedRelease.h"
 
 /// A directory of the tree of a release. Remembers its rolled up state until invalidateState, so
 /// that painting it does not walk all its projects.
 class ReleaseMappingDirectoryNode : public CatalogStructureNodeI
 {
 public:
-    /// \a projects are all below this directory; \a depth is the path component by which its
-    /// children are told apart.
-    ReleaseMappingDirectoryNode(const QList<ProjectKey> &projects,
-                                const boost::shared_ptr<ReleaseMappingC> &release,
+    /// \a projects are the positions of all below this directory; \a depth is the path component
+    /// by which its children are told apart.
+    ReleaseMappingDirectoryNode(const QList<int> &projects,
+                                const boost::shared_ptr<WatchedRelease> &release,
                                 const QString &name, int depth);
     ~ReleaseMappingDirectoryNode() override;
 
@@ -28,10 +27,15 @@ public:
     void invalidateState() override;
 
 private:
-    const QList<ProjectKey> m_projects;
-    const boost::shared_ptr<ReleaseMappingC> m_release;
+    /// The sum over all projects as they are now.
+    [[nodiscard]] const MarkSum &marks() const;
+
+    const QList<int> m_projects;
+    const boost::shared_ptr<WatchedRelease> m_release;
     const QString m_name;
     const int m_depth;
     mutable QFlags<PRJMAPPING::MappingState_> m_cachedState;
+    mutable int m_cachedGeneration = 0; ///< of the release when m_cachedState was worked out
+    mutable MarkSum m_marks;
     mutable QList<boost::shared_ptr<CatalogStructureNodeI>> m_children;
 };

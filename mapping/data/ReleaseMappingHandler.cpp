@@ -31,13 +31,13 @@ boost::shared_ptr<CatalogStructureNodeI> ReleaseMappingHandler::getRootStructure
 CatalogMappingC ReleaseMappingHandler::getCatalogMapping() const
 {
     CatalogMappingC catalog;
-    catalog.addRelease(*d->release);
+    catalog.addRelease(d->release->release());
     return catalog;
 }
 
 void ReleaseMappingHandler::updateMapping(const PrjMappingC &mapping)
 {
-    const PrjMappingC stored = d->release->findMapping(
+    const PrjMappingC stored = d->release->release().findMapping(
         mapping.getSourcePath(), mapping.getSourceVersion(), mapping.getTabVersion());
     if (stored.isValid())
         d->count(stored, -1);
@@ -52,8 +52,8 @@ bool ReleaseMappingHandler::commitModifications()
     if (path.exists(false) && !document.parseFile(path.native()))
         document = PJsonValue();
     PJsonValue value;
-    d->release->toJson(value, false);
-    document[d->release->getSourceDate()] = value;
+    d->release->release().toJson(value, false);
+    document[d->release->release().getSourceDate()] = value;
 
     QFile file(path.native());
     if (!file.open(QIODevice::WriteOnly))

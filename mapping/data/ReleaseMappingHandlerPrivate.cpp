@@ -6,7 +6,7 @@ ReleaseMappingHandlerPrivate::ReleaseMappingHandlerPrivate(ReleaseMappingHandler
                                                            const ReleaseMappingC &given,
                                                            const QString &name, const QString &file)
     : PPrivateData(owner)
-    , release(boost::make_shared<ReleaseMappingC>(given))
+    , release(boost::make_shared<WatchedRelease>(given))
     , rootName(name)
     , mappingFile(file)
 {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "CatalogStructureNodeI.h"
+#include "WatchedRelease.h"
 
 #include <core/text/PPrivateData.h>
-#include <geomcore/records/ReleaseMappingC.h>
 
 #include <QString>
 
@@ -22,7 +22,7 @@ public:
     /// overlap on purpose: a confirmed or mapped line without target line is also not found.
     void count(const PrjMappingC &mapping, int factor);
 
-    boost::shared_ptr<ReleaseMappingC> release; ///< the working copy, shared with the tree's nodes
+    boost::shared_ptr<WatchedRelease> release; ///< the working copy, shared with the tree's nodes
     QString rootName;
     QString mappingFile;
     boost::shared_ptr<CatalogStructureNodeI> rootNode; ///< null until it is asked for

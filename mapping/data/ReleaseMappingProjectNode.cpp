@@ -1,10 +1,8 @@
 #include "ReleaseMappingProjectNode.h"
 
 ReleaseMappingProjectNode::ReleaseMappingProjectNode(
-    const QString &sourcePath, const QString &sourceVersion,
-    const boost::shared_ptr<ReleaseMappingC> &release)
-    : m_sourcePath(sourcePath)
-    , m_sourceVersion(sourceVersion)
+    int position, const boost::shared_ptr<WatchedRelease> &release)
+    : m_position(position)
     , m_release(release)
 {
 }
@@ -18,12 +16,13 @@ int ReleaseMappingProjectNode::getNodeType() const
 
 QString ReleaseMappingProjectNode::getName() const
 {
-    return m_sourcePath.mid(m_sourcePath.lastIndexOf(u'/') + 1);
+    const QString path = getPath();
+    return path.mid(path.lastIndexOf(u'/') + 1);
 }
 
 QString ReleaseMappingProjectNode::getPath() const
 {
-    return m_sourcePath;
+    return getMapping().getSourcePath();
 }
 
 QFlags<PRJMAPPING::MappingState_> ReleaseMappingProjectNode::getMappingState() const
@@ -33,7 +32,7 @@ QFlags<PRJMAPPING::MappingState_> ReleaseMappingProjectNode::getMappingState() c
 
 PrjMappingC ReleaseMappingProjectNode::getMapping() const
 {
-    return m_release->findMapping(m_sourcePath, m_sourceVersion, QString());
+    return m_release->release().mappingAt(m_position);
 }
 
 bool ReleaseMappingProjectNode::hasConflicts() const

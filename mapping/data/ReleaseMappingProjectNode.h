@@ -2,15 +2,16 @@
 
 #include "CatalogStructureNodeI.h"
 
-#include <geomcore/records/ReleaseMappingC.h>
+#include "WatchedRelease.h"
 
 /// A project of the tree of a release. Holds no mapping but looks it up, so it shows every change
-/// at once. Of several mappings with its path and version it shows the first.
+/// at once.
 class ReleaseMappingProjectNode : public CatalogStructureNodeI
 {
 public:
-    ReleaseMappingProjectNode(const QString &sourcePath, const QString &sourceVersion,
-                              const boost::shared_ptr<ReleaseMappingC> &release);
+    /// \a position is the mapping's place in the release; of several with the same path and version
+    /// the first is to be given.
+    ReleaseMappingProjectNode(int position, const boost::shared_ptr<WatchedRelease> &release);
     ~ReleaseMappingProjectNode() override;
 
     int getNodeType() const override;
@@ -24,7 +25,6 @@ public:
     void invalidateState() override;
 
 private:
-    const QString m_sourcePath;
-    const QString m_sourceVersion;
-    const boost::shared_ptr<ReleaseMappingC> m_release;
+    const int m_position;
+    const boost::shared_ptr<WatchedRelease> m_release;
 };

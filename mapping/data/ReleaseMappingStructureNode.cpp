@@ -3,7 +3,7 @@
 #include "ReleaseMappingTree.h"
 
 ReleaseMappingStructureNode::ReleaseMappingStructureNode(
-    const QString &name, const boost::shared_ptr<ReleaseMappingC> &release)
+    const QString &name, const boost::shared_ptr<WatchedRelease> &release)
     : m_name(name)
     , m_release(release)
 {
@@ -28,7 +28,7 @@ QString ReleaseMappingStructureNode::getPath() const
 
 QFlags<PRJMAPPING::MappingState_> ReleaseMappingStructureNode::getMappingState() const
 {
-    return m_release->getMappingState();
+    return m_release->release().getMappingState();
 }
 
 PrjMappingC ReleaseMappingStructureNode::getMapping() const
@@ -43,16 +43,14 @@ bool ReleaseMappingStructureNode::hasConflicts() const
 
 QList<boost::shared_ptr<CatalogStructureNodeI>> ReleaseMappingStructureNode::getChildren() const
 {
-    if (m_children.isEmpty()) {
-        QList<ProjectKey> keys;
-        keys.reserve(m_release->countMappings());
-        for (int i = 0; i < m_release->countMappings(); ++i) {
-            const PrjMappingC mapping = m_release->mappingAt(i);
-            keys.emplaceBack(mapping.getSourcePath(), mapping.getSourceVersion());
-        }
-        m_children = buildReleaseChildren(keys, m_release, 1);
-    }
+    if (m_children.isEmpty())
+        m_children = buildReleaseChildren(m_release->release().firstPositions(), m_release, 1);
     return m_children;
 }
 
 void ReleaseMappingStructureNode::invalidateState() {}
+
+void ReleaseMappingStructureNode::invalidateTree()
+{
+    m_release->dropStates();
+}

@@ -2,14 +2,14 @@
 
 #include "CatalogStructureNodeI.h"
 
-#include <geomcore/records/ReleaseMappingC.h>
+#include "WatchedRelease.h"
 
 /// Root of the tree of a release.
 class ReleaseMappingStructureNode : public CatalogStructureNodeI
 {
 public:
     ReleaseMappingStructureNode(const QString &name,
-                                const boost::shared_ptr<ReleaseMappingC> &release);
+                                const boost::shared_ptr<WatchedRelease> &release);
     ~ReleaseMappingStructureNode() override;
 
     int getNodeType() const override;
@@ -21,9 +21,11 @@ public:
     bool hasConflicts() const override;
     QList<boost::shared_ptr<CatalogStructureNodeI>> getChildren() const override;
     void invalidateState() override;
+    /// As if invalidateState were called on this node and on each one below, in one step.
+    void invalidateTree();
 
 private:
     const QString m_name;
-    const boost::shared_ptr<ReleaseMappingC> m_release;
+    const boost::shared_ptr<WatchedRelease> m_release;
     mutable QList<boost::shared_ptr<CatalogStructureNodeI>> m_children;
 };

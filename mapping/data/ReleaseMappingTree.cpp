@@ -9,41 +9,66 @@
 
 namespace {
 
-/// The component of a path that names its directory at \a depth; null if the path ends before.
-QString directoryAt(QString path, int depth)
+bool isSeparator(QChar c)
 {
-    path.replace(u'\\', u'/');
-    qsizetype start = 0;
-    qsizetype slash = -1;
-    for (int i = 0; i < depth; ++i) {
-        start = slash + 1;
-        slash = path.indexOf(u'/', start);
-        if (slash < 0)
-            return QString();
-    }
-    // An empty component, as of "/a" or "a//b", is a directory of empty name.
-    return slash == start ? QStringLiteral("") : path.mid(start, slash - start);
+    return c == u'/' || c == u'\\';
 }
+
+/// The component of a path that names its directory at \a depth; null if the path ends before.
+QStringView directoryAt(QStringView path, int depth)
+{
+    const QChar *start = path.cbegin();
+    for (int component = 1;; ++component) {
+        const QChar *slash = std::find_if(start, path.cend(), isSeparator);
+        if (slash == path.cend())
+            return QStringView();
+        // An empty component, as of "/a" or "a//b", is a directory of empty name.
+        if (component == depth)
+            return QStringView(start, slash - start);
+        start = slash + 1;
+    }
+}
+
+/// Sorts positions into directories. Neighbours mostly lie in the same one.
+class DirectoryLists
+{
+public:
+    void add(QStringView name, int position)
+    {
+        if (m_last == m_lists.end() || m_last.key() != name) {
+            const QString key = name.toString();
+            m_last = m_lists.find(key);
+            if (m_last == m_lists.end())
+                m_last = m_lists.insert(key, {});
+        }
+        m_last.value() += position;
+    }
+    [[nodiscard]] const QMap<QString, QList<int>> &lists() const { return m_lists; }
+
+private:
+    QMap<QString, QList<int>> m_lists;
+    QMap<QString, QList<int>>::iterator m_last = m_lists.end();
+};
 
 } // namespace
 
 QList<boost::shared_ptr<CatalogStructureNodeI>>
-buildReleaseChildren(const QList<ProjectKey> &keys,
-                     const boost::shared_ptr<ReleaseMappingC> &release, int depth)
+buildReleaseChildren(const QList<int> &positions, const boost::shared_ptr<WatchedRelease> &release,
+                     int depth)
 {
     QList<boost::shared_ptr<CatalogStructureNodeI>> projects;
-    QMap<QString, QList<ProjectKey>> directories;
-    for (const ProjectKey &key : keys) {
-        const QString directory = directoryAt(key.first, depth);
+    DirectoryLists directories;
+    for (const int position : positions) {
+        const QString path = release->release().mappingAt(position).getSourcePath();
+        const QStringView directory = directoryAt(path, depth);
         if (directory.isNull())
-            projects +=
-                boost::make_shared<ReleaseMappingProjectNode>(key.first, key.second, release);
+            projects += boost::make_shared<ReleaseMappingProjectNode>(position, release);
         else
-            directories[directory] += key;
+            directories.add(directory, position);
     }
     QList<boost::shared_ptr<CatalogStructureNodeI>> result;
-    result.reserve(directories.size() + projects.size());
-    for (auto it = directories.cbegin(); it != directories.cend(); ++it)
+    result.reserve(directories.lists().size() + projects.size());
+    for (auto it = directories.lists().cbegin(); it != directories.lists().cend(); ++it)
         result += boost::make_shared<ReleaseMappingDirectoryNode>(it.value(), release, it.key(),
                                                                   depth + 1);
     return result + projects;

@@ -16,7 +16,7 @@ CatalogStructureItem::~CatalogStructureItem()
 
 void CatalogStructureItem::loadChildren()
 {
-    if (childrenLoaded)
+    if (childrenLoaded || !node)
         return;
     const QList<boost::shared_ptr<CatalogStructureNodeI>> nodes = node->getChildren();
     children.reserve(nodes.size());

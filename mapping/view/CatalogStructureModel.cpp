@@ -3,6 +3,8 @@
 #include "catalogNodeToolTip.h"
 #include "CatalogStructureModelPrivate.h"
 
+#include <mapping/data/ReleaseMappingStructureNode.h>
+
 namespace {
 
 using Node = boost::shared_ptr<CatalogStructureNodeI>;
@@ -94,10 +96,15 @@ void CatalogStructureModel::invalidateNodes(CatalogStructureItem *item)
 {
     if (!item)
         item = d->rootItem.get();
+    if (auto *release = dynamic_cast<ReleaseMappingStructureNode *>(item->node.get())) {
+        release->invalidateTree();
+        return;
+    }
     item->loadChildren();
     for (CatalogStructureItem *child : std::as_const(item->children))
         invalidateNodes(child);
-    item->node->invalidateState();
+    if (item->node)
+        item->node->invalidateState();
 }
 
 boost::shared_ptr<CatalogStructureNodeI> CatalogStructureModel::nodeFrom(const QVariant &value)

@@ -97,6 +97,20 @@ QStringList tree(const Node &node, int depth = 9, const QString &indent = QStrin
     return rows;
 }
 
+/// States and conflicts of a project, or of all projects below another node.
+std::pair<int, bool> marksBelow(const Node &node)
+{
+    if (node->getNodeType() == 2)
+        return {node->getMapping().getMappingState().toInt(),
+                node->getMapping().getContainsConflicts()};
+    std::pair<int, bool> marks{0, false};
+    for (const Node &child : node->getChildren()) {
+        const auto [state, conflicts] = marksBelow(child);
+        marks = {marks.first | state, marks.second || conflicts};
+    }
+    return marks;
+}
+
 void writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
@@ -393,6 +407,55 @@ private Q_SLOTS:
         QVERIFY(!root->getChildren().at(1)->hasConflicts());
         handler.updateMapping(mapping("cat/b.prj", {{1, 2}}));
         QVERIFY(!cat->hasConflicts());
+    }
+
+    void directoriesFollowRandomChanges_data()
+    {
+        QTest::addColumn<int>("seed");
+        QTest::addColumn<int>("steps");
+        QTest::addColumn<int>("stepsBetweenLooks");
+        QTest::newRow("every change seen") << 1 << 300 << 1;
+        QTest::newRow("now and then") << 2 << 1000 << 70;
+        QTest::newRow("more changes than are kept") << 3 << 50000 << 24000;
+    }
+    void directoriesFollowRandomChanges()
+    {
+        QFETCH(int, seed);
+        QFETCH(int, steps);
+        QFETCH(int, stepsBetweenLooks);
+        QRandomGenerator random{quint32(seed)};
+        const auto randomMapping = [&random] {
+            const QString path = QStringList{"a/b/%1.prj", "a/%1.prj", "c/%1.prj", "%1.prj"}
+                                     .at(random.bounded(4))
+                                     .arg(random.bounded(3));
+            PrjMappingC result = mapping(path, {{1, 0}}, random.bounded(2) == 0 ? "v1" : "v2",
+                                         QStringList{"", "t1", "t2"}.at(random.bounded(3)));
+            PrjMappingTargetC target = result.findTarget(0);
+            target.setLineConflicted(1, random.bounded(8) == 0);
+            result.updateTarget(0, target);
+            result.setMappingState(PRJMAPPING::MappingState::fromInt(1 << random.bounded(12)));
+            return result;
+        };
+        // Keys recur with other table versions, so that the tree shows a mapping more than once.
+        ReleaseMappingC given;
+        for (int i = 0; i < 30; ++i)
+            given.addMapping(randomMapping());
+        ReleaseMappingHandler handler(given, "root", "");
+        const Node root = handler.getRootStructureNode();
+        for (int step = 1; step <= steps; ++step) {
+            handler.updateMapping(randomMapping());
+            if (step % stepsBetweenLooks != 0)
+                continue;
+            for (const Node &top : root->getChildren()) {
+                for (const Node &directory : QList<Node>{top} + top->getChildren()) {
+                    directory->invalidateState();
+                    const auto [state, conflicts] = marksBelow(directory);
+                    QCOMPARE(directory->hasConflicts(), conflicts);
+                    QCOMPARE(directory->getMappingState().toInt(),
+                             directory->getNodeType() == 1 ? (state | 1) & 0xF83 : state);
+                }
+            }
+        }
     }
 
     void twoTableVersionsShowTheFirst()

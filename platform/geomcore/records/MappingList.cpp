@@ -1,5 +1,7 @@
 #include "MappingList.h"
 
+#include <numeric>
+
 int MappingList::find(const QString &path, const QString &version,
                       const QString &tableVersion) const
 {
@@ -15,6 +17,20 @@ int MappingList::find(const QString &path, const QString &version,
             return i;
     }
     return -1;
+}
+
+QList<int> MappingList::firstPositions() const
+{
+    QList<int> positions(m_size);
+    std::iota(positions.begin(), positions.end(), 0);
+    if (!m_index)
+        return positions;
+    // Only what follows another mapping of its path can have one before it.
+    for (const int later : m_index->next) {
+        if (later >= 0)
+            positions[later] = find(at(later).getSourcePath(), at(later).getSourceVersion(), {});
+    }
+    return positions;
 }
 
 void MappingList::append(const PrjMappingC &mapping)

@@ -4,6 +4,7 @@
 
 #include <QExplicitlySharedDataPointer>
 #include <QHash>
+#include <QList>
 #include <QSharedData>
 
 #include <array>
@@ -23,6 +24,8 @@ public:
     /// The first in stored order, -1 if there is none. An empty table version matches any.
     [[nodiscard]] int find(const QString &path, const QString &version,
                            const QString &tableVersion) const;
+    /// For each mapping in stored order the position of what find gives for its path and version.
+    [[nodiscard]] QList<int> firstPositions() const;
     void append(const PrjMappingC &mapping);
     /// The new mapping must have the source path of the old one.
     void replace(int position, const PrjMappingC &mapping);

@@ -72,7 +72,18 @@ PrjMappingC ReleaseMappingC::mappingAt(int position) const
 PrjMappingC ReleaseMappingC::findMapping(const QString &sourcePath, const QString &sourceVersion,
                                          const QString &tableVersion) const
 {
-    return mappingAt(d->mappings.find(sourcePath, sourceVersion, tableVersion));
+    return mappingAt(findPosition(sourcePath, sourceVersion, tableVersion));
+}
+
+int ReleaseMappingC::findPosition(const QString &sourcePath, const QString &sourceVersion,
+                                  const QString &tableVersion) const
+{
+    return d->mappings.find(sourcePath, sourceVersion, tableVersion);
+}
+
+QList<int> ReleaseMappingC::firstPositions() const
+{
+    return d->mappings.firstPositions();
 }
 
 void ReleaseMappingC::addMapping(const PrjMappingC &mapping)

@@ -39,6 +39,12 @@ public:
     /// matches any. Not valid if there is none. One look-up in an index, so fit for painting.
     [[nodiscard]] PrjMappingC findMapping(const QString &sourcePath, const QString &sourceVersion,
                                           const QString &tableVersion) const;
+    /// Where findMapping finds it, -1 if nowhere. Mappings are replaced in place and appended, so a
+    /// position stays until clearMappings.
+    [[nodiscard]] int findPosition(const QString &sourcePath, const QString &sourceVersion,
+                                   const QString &tableVersion) const;
+    /// For each mapping in stored order the position of the first of its path and version.
+    [[nodiscard]] QList<int> firstPositions() const;
     /// Replaces exactly the mapping that findMapping gives for the new one's path, version and
     /// table version, or appends.
     void addMapping(const PrjMappingC &mapping);

@@ -1,0 +1,253 @@
+#include "CatalogNodes.h"
+
+#include <mapping/view/CatalogFilterModel.h>
+#include <mapping/view/CatalogStructureModel.h>
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+namespace {
+
+enum Mode { Open, WithTarget, WithoutTarget, Both };
+
+/// The filter over a tree, set as the mapping editor sets it.
+struct Filtered
+{
+    explicit Filtered(const TestNode::Ptr &root)
+        : source(root)
+    {
+        filter.setSourceModel(&source);
+        filter.setDynamicSortFilter(false);
+    }
+    void set(bool toCheck, bool target, bool noTarget)
+    {
+        filter.filterToCheck = toCheck;
+        filter.filterTarget = target;
+        filter.filterNoTarget = noTarget;
+        filter.invalidate();
+    }
+    void set(Mode mode) { set(true, mode == WithTarget || mode == Both, mode >= WithoutTarget); }
+    [[nodiscard]] QString rows(const QModelIndex &parent = QModelIndex()) const
+    {
+        QStringList texts;
+        for (int row = 0; row < filter.rowCount(parent); ++row) {
+            const QModelIndex index = filter.index(row, 0, parent);
+            const QString below = rows(index);
+            texts += index.data().toString() + (below.isEmpty() ? QString() : '(' + below + ')');
+        }
+        return texts.join(' ');
+    }
+
+    CatalogStructureModel source;
+    CatalogFilterModel filter;
+};
+
+/// root: a/(b/(open.prj), done.prj), e/(done.prj), none.prj, open.prj
+TestNode::Ptr sampleTree()
+{
+    return TestNode::root(
+        {TestNode::directory("a", {TestNode::directory("b", {TestNode::project("open.prj", 0x080)}),
+                                   TestNode::project("done.prj", 0x200)}),
+         TestNode::directory("e", {TestNode::project("done.prj", 0x200)}),
+         TestNode::project("none.prj", 0x100), TestNode::project("open.prj", 0x002)});
+}
+
+} // namespace
+
+class tst_CatalogFilterModel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void passesTheTester()
+    {
+        Filtered filtered(sampleTree());
+        const QAbstractItemModelTester tester(
+            &filtered.filter, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const QString all = "a(b(open.prj) done.prj) e(done.prj) none.prj open.prj";
+        QCOMPARE(filtered.rows(), all);
+        filtered.set(WithTarget);
+        QCOMPARE(filtered.rows(), QString("a(b(open.prj)) open.prj"));
+        filtered.set(false, true, false);
+        QCOMPARE(filtered.rows(), all);
+    }
+
+    void allOffAtConstruction()
+    {
+        const CatalogFilterModel filter;
+        QVERIFY(!filter.filterToCheck);
+        QVERIFY(!filter.filterTarget);
+        QVERIFY(!filter.filterNoTarget);
+        QCOMPARE(filter.metaObject()->methodCount(),
+                 QSortFilterProxyModel::staticMetaObject.methodCount());
+    }
+
+    void projectStates_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<bool>("open");
+        QTest::addColumn<bool>("withTarget");
+        QTest::addColumn<bool>("withoutTarget");
+        const auto row = [](int state, bool open, bool withTarget, bool withoutTarget) {
+            QTest::addRow("0x%03x", state) << state << open << withTarget << withoutTarget;
+        };
+        row(0x000, false, false, false);
+        row(0x001, false, false, false);
+        row(0x002, true, true, false);
+        row(0x080, true, true, false);
+        row(0x100, true, false, true);
+        row(0x200, false, false, false);
+        row(0x400, false, false, false);
+        row(0x800, true, false, false);
+        row(0x601, false, false, false);
+        row(0x102, true, false, true);
+        row(0x180, true, false, true);
+        row(0x182, true, false, true);
+        row(0x280, true, true, false);
+        row(0x202, true, true, false);
+        row(0x300, true, false, true);
+        row(0x802, true, true, false);
+        row(0x880, true, true, false);
+        row(0x900, true, false, true);
+        row(0xA00, true, false, false);
+    }
+    void projectStates()
+    {
+        QFETCH(int, state);
+        QFETCH(bool, withoutTarget);
+        Filtered filtered(TestNode::root({TestNode::project("a.prj", state)}));
+        filtered.set(Open);
+        QTEST(filtered.filter.rowCount() == 1, "open");
+        filtered.set(WithTarget);
+        QTEST(filtered.filter.rowCount() == 1, "withTarget");
+        filtered.set(WithoutTarget);
+        QTEST(filtered.filter.rowCount() == 1, "withoutTarget");
+        // With both set, the one for missing targets wins.
+        filtered.set(Both);
+        QCOMPARE(filtered.filter.rowCount() == 1, withoutTarget);
+    }
+
+    void withoutTheFirstTheOthersDoNothing()
+    {
+        Filtered filtered(sampleTree());
+        const QString all = filtered.rows();
+        filtered.set(false, true, true);
+        QCOMPARE(filtered.rows(), all);
+    }
+
+    void withoutTheFirstTheBaseClassDecides()
+    {
+        Filtered filtered(sampleTree());
+        filtered.filter.setFilterFixedString("none");
+        QCOMPARE(filtered.rows(), QString("none.prj"));
+        // With it, the base class is not asked.
+        filtered.set(Open);
+        QCOMPARE(filtered.rows(), QString("a(b(open.prj)) none.prj open.prj"));
+    }
+
+    void directoriesWithoutAcceptedProjectsAreHidden_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("open") << int(Open) << "a(b(open.prj)) none.prj open.prj";
+        QTest::newRow("with target") << int(WithTarget) << "a(b(open.prj)) open.prj";
+        QTest::newRow("without target") << int(WithoutTarget) << "none.prj";
+        QTest::newRow("both") << int(Both) << "none.prj";
+    }
+    void directoriesWithoutAcceptedProjectsAreHidden()
+    {
+        QFETCH(int, mode);
+        Filtered filtered(sampleTree());
+        filtered.set(Mode(mode));
+        QTEST(filtered.rows(), "rows");
+    }
+
+    void projectsAreToldByTheEndOfTheirText_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("project") << 2 << "a.prj" << true;
+        QTest::newRow("only the ending") << 2 << ".prj" << true;
+        QTest::newRow("other case") << 2 << "a.PRJ" << false;
+        QTest::newRow("no ending") << 2 << "a" << false;
+        QTest::newRow("ending within") << 2 << "a.prj.old" << false;
+        QTest::newRow("directory with the ending") << 1 << "a.prj" << true;
+        QTest::newRow("directory") << 1 << "a" << false;
+    }
+    void projectsAreToldByTheEndOfTheirText()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, name);
+        const TestNode::Ptr node = TestNode::project(name, 0x080);
+        node->type = type;
+        Filtered filtered(TestNode::root({node}));
+        filtered.set(Open);
+        QTEST(filtered.filter.rowCount() == 1, "shown");
+    }
+
+    void aDirectoryWithTheEndingHidesWhatIsBelow()
+    {
+        Filtered filtered(
+            TestNode::root({TestNode::directory("a.prj", {TestNode::project("b.prj", 0x080)})}));
+        filtered.set(Open);
+        QCOMPARE(filtered.filter.rowCount(), 0);
+    }
+
+    void aDirectorysOwnStateDoesNotCount()
+    {
+        const TestNode::Ptr directory =
+            TestNode::directory("a", {TestNode::project("b.prj", 0x200)});
+        directory->state = 0x080;
+        Filtered filtered(TestNode::root({directory}));
+        filtered.set(Open);
+        QCOMPARE(filtered.filter.rowCount(), 0);
+    }
+
+    void theSearchStopsAtTheFirstAcceptedRow()
+    {
+        const TestNode::Ptr first = TestNode::directory("b", {TestNode::project("c.prj", 0x080)});
+        const TestNode::Ptr second = TestNode::directory("d", {TestNode::project("e.prj", 0x080)});
+        Filtered filtered(TestNode::root({TestNode::directory("a", {first, second})}));
+        filtered.set(Open);
+        QCOMPARE(filtered.filter.rowCount(), 1);
+        QCOMPARE(first->asked, 1);
+        QCOMPARE(second->asked, 0);
+    }
+
+    void aChangeShowsAfterInvalidateOnly()
+    {
+        const TestNode::Ptr project = TestNode::project("a.prj", 0x080);
+        Filtered filtered(TestNode::root({project}));
+        filtered.set(Open);
+        QCOMPARE(filtered.filter.rowCount(), 1);
+        project->state = 0x200;
+        filtered.source.invalidateNodes();
+        QCOMPARE(filtered.filter.rowCount(), 1);
+        filtered.filter.invalidate();
+        QCOMPARE(filtered.filter.rowCount(), 0);
+    }
+
+    void rowsKeepTheirOrder()
+    {
+        Filtered filtered(
+            TestNode::root({TestNode::project("c.prj", 2), TestNode::project("a.prj", 2),
+                            TestNode::project("B.prj", 2)}));
+        QCOMPARE(filtered.rows(), QString("c.prj a.prj B.prj"));
+        filtered.set(Open);
+        QCOMPARE(filtered.rows(), QString("c.prj a.prj B.prj"));
+    }
+
+    void nodesAreReadThroughTheFilter()
+    {
+        const TestNode::Ptr project = TestNode::project("b.prj", 2);
+        Filtered filtered(TestNode::root({TestNode::project("a.prj"), project}));
+        filtered.set(Open);
+        const QVariant value =
+            filtered.filter.index(0, 0).data(CatalogStructureModel::StructureNodeRole);
+        QCOMPARE(CatalogStructureModel::nodeFrom(value).get(), project.get());
+    }
+};
+
+QTEST_MAIN(tst_CatalogFilterModel)
+#include "tst_CatalogFilterModel.moc"
