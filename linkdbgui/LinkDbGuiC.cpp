@@ -38,5 +38,5 @@ bool LinkDbGuiC::initLinkDb(PRefPtr<PLinkDbC> linkDb)
 
 void LinkDbGuiC::onGuiInitialized()
 {
-    m_userFieldsLicensed = isLinkDbLicensed();
+    m_hasUserDefinedFields = isLinkDbLicensed();
 }

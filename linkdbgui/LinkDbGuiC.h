@@ -25,9 +25,13 @@ public:
     /// The licence of the feature "LINKDB"; false for a null database.
     bool initLinkDb(PRefPtr<PLinkDbC> linkDb) override;
 
+    /// Whether the licence allows the link database's user-defined fields; known from the moment at
+    /// which the host's GUI is up, false before.
+    [[nodiscard]] bool hasUserDefinedFields() const { return m_hasUserDefinedFields; }
+
 private Q_SLOTS:
     void onGuiInitialized();
 
 private:
-    bool m_userFieldsLicensed = false;
+    bool m_hasUserDefinedFields = false;
 };

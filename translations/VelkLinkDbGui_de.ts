@@ -8,6 +8,34 @@
         <translation>  Zeile %1</translation>
     </message>
     <message>
+        <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
+        <translation>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
+        <translation>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
+        <translation>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
+        <translation>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
+        <translation>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
+        <translation>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</translation>
+    </message>
+    <message>
+        <source>Alle Zuordnungen bestätigen</source>
+        <translation>Alle Zuordnungen bestätigen</translation>
+    </message>
+    <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
@@ -28,6 +56,10 @@
         <translation>Auswahl an Linkmanager senden</translation>
     </message>
     <message>
+        <source>Automatisch zugeordnete Zeilen</source>
+        <translation>Automatisch zugeordnete Zeilen</translation>
+    </message>
+    <message>
         <source>Baum gefiltert darstellen</source>
         <translation>Baum gefiltert darstellen</translation>
     </message>
@@ -44,12 +76,32 @@
         <translation>Benutzer authentifizieren/wechseln</translation>
     </message>
     <message>
+        <source>Bestätigte Zuordnungen</source>
+        <translation>Bestätigte Zuordnungen</translation>
+    </message>
+    <message>
+        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
+        <translation>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt %1 existiert nicht mehr</source>
+        <translation>Das Zielprojekt %1 existiert nicht mehr</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
         <translation>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
+        <translation>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
+        <translation>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -64,6 +116,10 @@
         <translation>Datensatz zur Linkdatenbank hinzufügen</translation>
     </message>
     <message>
+        <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
+        <translation>Die Bedingungen für das Projekt %1 wurden geändert.</translation>
+    </message>
+    <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
         <translation>Die Maske %1 kann nicht geladen werden: %2</translation>
     </message>
@@ -76,10 +132,34 @@
   Neue Normbezeichnung: %2</translation>
     </message>
     <message>
+        <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
+  Altes Projektdatum: %2, Neues Projektdatum: %3</source>
+        <translation>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
+  Altes Projektdatum: %2, Neues Projektdatum: %3</translation>
+    </message>
+    <message>
+        <source>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</source>
+        <translation>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
         <translation>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</translation>
+    </message>
+    <message>
+        <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
+        <translation>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
+  Altes Tabellendatum: %2, Neues Tabellendatum: %3</source>
+        <translation>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
+  Altes Tabellendatum: %2, Neues Tabellendatum: %3</translation>
+    </message>
+    <message>
+        <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
+        <translation>Die Variablenzuordnung für das Projekt %1 wurde geändert.</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -88,6 +168,10 @@
         <translation>Die Werte der Variable %1 sind verschieden.
   Alter Wert: %2
   Neuer Wert: %3</translation>
+    </message>
+    <message>
+        <source>Die Zeile %1 wurde geändert.</source>
+        <translation>Die Zeile %1 wurde geändert.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
@@ -108,6 +192,10 @@
         <translation>Dokument-Liste</translation>
     </message>
     <message>
+        <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
+        <translation>Durchgeführte Änderungen durch Update des ERP-Mappings: </translation>
+    </message>
+    <message>
         <source>ERP-Nummer beantragen</source>
         <translation>ERP-Nummer beantragen</translation>
     </message>
@@ -126,12 +214,44 @@
         <translation>Eine Formel muss einer Variablen einen Wert zuweisen</translation>
     </message>
     <message>
+        <source>Es existiert mindestens ein Konflikt.</source>
+        <translation>Es existiert mindestens ein Konflikt.</translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine bestätigte Zuordnung.</source>
+        <translation>Es existiert mindestens eine bestätigte Zuordnung.</translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
+        <translation>Es existiert mindestens eine nicht zugeordnete Zeile.</translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine unbestätigte Änderung.</source>
+        <translation>Es existiert mindestens eine unbestätigte Änderung.</translation>
+    </message>
+    <message>
+        <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
+        <translation>Es wurde ein Mapping für das Projekt %1 entfernt.</translation>
+    </message>
+    <message>
+        <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
+        <translation>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Gesamtanzahl Zeilen</source>
+        <translation>Gesamtanzahl Zeilen</translation>
+    </message>
+    <message>
         <source>Gruppe auswählen</source>
         <translation>Gruppe auswählen</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
         <translation>Klassifizieren</translation>
+    </message>
+    <message>
+        <source>Konflikte</source>
+        <translation>Konflikte</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -166,12 +286,28 @@
         <translation>Neuen Datensatz einfügen (übernimmt die Werte des markierten Datensatzes)</translation>
     </message>
     <message>
+        <source>Nicht gefundene Zeilen</source>
+        <translation>Nicht gefundene Zeilen</translation>
+    </message>
+    <message>
+        <source>Projekte (*.prj)</source>
+        <translation>Projekte (*.prj)</translation>
+    </message>
+    <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
         <translation>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
         <translation>Variable ignorieren</translation>
+    </message>
+    <message>
+        <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
+        <translation>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</translation>
+    </message>
+    <message>
+        <source>Von Ihnen geplante Änderung:</source>
+        <translation>Von Ihnen geplante Änderung:</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
@@ -194,14 +330,42 @@
         <translation>XVARSET des markierten Dokuments:</translation>
     </message>
     <message>
+        <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
+        <translation>Zeige nur Projekte mit nicht zugeordneten Zeilen</translation>
+    </message>
+    <message>
+        <source>Zeige nur Projekte mit unvollständigen Mappings</source>
+        <translation>Zeige nur Projekte mit unvollständigen Mappings</translation>
+    </message>
+    <message>
+        <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
+        <translation>Zeige nur Projekte mit zugeordneten Zeilen</translation>
+    </message>
+    <message>
+        <source>Zeilen erneut zuweisen</source>
+        <translation>Zeilen erneut zuweisen</translation>
+    </message>
+    <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Zeilen werden neu zugewiesen</translation>
+    </message>
+    <message>
+        <source>Zielprojekt auswählen</source>
+        <translation>Zielprojekt auswählen</translation>
+    </message>
+    <message>
+        <source>Zielprojekt hinzufügen</source>
+        <translation>Zielprojekt hinzufügen</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
         <translation>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</translation>
+    </message>
+    <message>
+        <source>Zu überprüfende Zuordnungen</source>
+        <translation>Zu überprüfende Zuordnungen</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
@@ -226,6 +390,10 @@
     <message>
         <source>kein Wert</source>
         <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>Übersicht</source>
+        <translation>Übersicht</translation>
     </message>
 </context>
 </TS>

@@ -5,213 +5,395 @@
     <name>VelkLinkDbGui</name>
     <message>
         <source>  Zeile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>  Line %1</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
+        <translation>&lt;br /&gt;&lt;br /&gt;Change made by another user:</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
+        <translation>&lt;br /&gt;The line was marked as expired.</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
+        <translation>&lt;br /&gt;The line was assigned anew. The line newly assigned does not exist (locally).</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
+        <translation>&lt;br /&gt;This line was marked as expired.</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
+        <translation>&lt;br /&gt;This line was assigned to the line&lt;br /&gt;%1 of the project %2.</translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
+        <translation>&lt;br /&gt;New assignment: &lt;br /&gt;%3 of the project %4 &lt;br /&gt;.</translation>
+    </message>
+    <message>
+        <source>Alle Zuordnungen bestätigen</source>
+        <translation>Confirm all assignments</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Another target project has a line with these values, too.
+  Project: %1
+  Line: %2</translation>
     </message>
     <message>
         <source>Auswahl abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel selection</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Selection to link manager</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager senden</source>
-        <translation type="unfinished"></translation>
+        <translation>Send the selection to the link manager</translation>
+    </message>
+    <message>
+        <source>Automatisch zugeordnete Zeilen</source>
+        <translation>Lines assigned automatically</translation>
     </message>
     <message>
         <source>Baum gefiltert darstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Show filtered tree</translation>
     </message>
     <message>
         <source>Beantragen einer ERP-Nummer per Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Request an ERP number by mail</translation>
     </message>
     <message>
         <source>Bearbeiten...</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit...</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
-        <translation type="unfinished"></translation>
+        <translation>Authenticate/change user</translation>
+    </message>
+    <message>
+        <source>Bestätigte Zuordnungen</source>
+        <translation>Confirmed assignments</translation>
+    </message>
+    <message>
+        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
+        <translation>The project does not lie below the catalog folder %1</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt %1 existiert nicht mehr</source>
+        <translation>The target project %1 no longer exists</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The target project's name differs from the source project's, and no assignment to it is confirmed.
+  Source project: %1
+  Target project: %2</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
+        <translation>The target project with the path %1 was removed.</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
+        <translation>The target project with the path %1 was added.</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Add record</translation>
     </message>
     <message>
         <source>Datensatz löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete record</translation>
     </message>
     <message>
         <source>Datensatz zur Linkdatenbank hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Add a record to the link database</translation>
+    </message>
+    <message>
+        <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
+        <translation>The conditions of the project %1 were changed.</translation>
     </message>
     <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The form %1 cannot be loaded: %2</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
   Alte Normbezeichnung: %1
   Neue Normbezeichnung: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The standard designations differ.
+  Old standard designation: %1
+  New standard designation: %2</translation>
+    </message>
+    <message>
+        <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
+  Altes Projektdatum: %2, Neues Projektdatum: %3</source>
+        <translation>The project version of the target project with the path %1 was changed.
+  Old project date: %2, new project date: %3</translation>
+    </message>
+    <message>
+        <source>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</source>
+        <translation>The source project's table could not be opened.</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The target project's table could not be read.
+  Project: %1</translation>
+    </message>
+    <message>
+        <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
+        <translation>The table of at least one source project could not be opened.</translation>
+    </message>
+    <message>
+        <source>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
+  Altes Tabellendatum: %2, Neues Tabellendatum: %3</source>
+        <translation>The table version of the target project with the path %1 was changed.
+  Old table date: %2, new table date: %3</translation>
+    </message>
+    <message>
+        <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
+        <translation>The variable mapping of the project %1 was changed.</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
   Alter Wert: %2
   Neuer Wert: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>The values of the variable %1 differ.
+  Old value: %2
+  New value: %3</translation>
+    </message>
+    <message>
+        <source>Die Zeile %1 wurde geändert.</source>
+        <translation>The line %1 was changed.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Most lines have other values in the target project.
+  Target project: %1</translation>
     </message>
     <message>
         <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The assigned line does not exist in the target table.
+  Project: %1
+  Line: %2</translation>
     </message>
     <message>
         <source>Dokument-Liste</source>
-        <translation type="unfinished"></translation>
+        <translation>List of documents</translation>
+    </message>
+    <message>
+        <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
+        <translation>Changes made by the update of the ERP mapping: </translation>
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
-        <translation type="unfinished"></translation>
+        <translation>Request ERP number</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A condition of the target project does not hold.
+  %1</translation>
     </message>
     <message>
         <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation type="unfinished"></translation>
+        <translation>A condition must be a comparison</translation>
     </message>
     <message>
         <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>A formula must assign a value to a variable</translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens ein Konflikt.</source>
+        <translation>There is at least one conflict.</translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine bestätigte Zuordnung.</source>
+        <translation>There is at least one confirmed assignment.</translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
+        <translation>There is at least one line without assignment.</translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine unbestätigte Änderung.</source>
+        <translation>There is at least one unconfirmed change.</translation>
+    </message>
+    <message>
+        <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
+        <translation>A mapping of the project %1 was removed.</translation>
+    </message>
+    <message>
+        <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
+        <translation>A mapping of the project %1 was added.</translation>
+    </message>
+    <message>
+        <source>Gesamtanzahl Zeilen</source>
+        <translation>Total number of lines</translation>
     </message>
     <message>
         <source>Gruppe auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Select group</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Classify</translation>
+    </message>
+    <message>
+        <source>Konflikte</source>
+        <translation>Conflicts</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Show legend</translation>
     </message>
     <message>
         <source>Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Link manager</translation>
     </message>
     <message>
         <source>Linkmanager aufrufen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open the link manager</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Login</translation>
     </message>
     <message>
         <source>Löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Neu...</source>
-        <translation type="unfinished"></translation>
+        <translation>New...</translation>
     </message>
     <message>
         <source>Neuen Datensatz anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>Create a new record</translation>
     </message>
     <message>
         <source>Neuen Datensatz einfügen (übernimmt die Werte des markierten Datensatzes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Insert a new record (takes over the values of the selected record)</translation>
+    </message>
+    <message>
+        <source>Nicht gefundene Zeilen</source>
+        <translation>Lines not found</translation>
+    </message>
+    <message>
+        <source>Projekte (*.prj)</source>
+        <translation>Projects (*.prj)</translation>
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Source and target have no variable in common that has a value.</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignore variable</translation>
+    </message>
+    <message>
+        <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
+        <translation>Changes made by you that could not be taken over:</translation>
+    </message>
+    <message>
+        <source>Von Ihnen geplante Änderung:</source>
+        <translation>Change planned by you:</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch preferred ranges on and off</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferred ranges on/off</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Further lines of the source table have these values.</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Further lines of the target table have these values.</translation>
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
-        <translation type="unfinished"></translation>
+        <translation>XVARSET of the selected document:</translation>
+    </message>
+    <message>
+        <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
+        <translation>Show only projects with lines that are not assigned</translation>
+    </message>
+    <message>
+        <source>Zeige nur Projekte mit unvollständigen Mappings</source>
+        <translation>Show only projects with incomplete mappings</translation>
+    </message>
+    <message>
+        <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
+        <translation>Show only projects with assigned lines</translation>
+    </message>
+    <message>
+        <source>Zeilen erneut zuweisen</source>
+        <translation>Assign lines again</translation>
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lines are being assigned anew</translation>
+    </message>
+    <message>
+        <source>Zielprojekt auswählen</source>
+        <translation>Select target project</translation>
+    </message>
+    <message>
+        <source>Zielprojekt hinzufügen</source>
+        <translation>Add target project</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Too few values of the line have a counterpart in the target table.
+  Without counterpart: %1</translation>
+    </message>
+    <message>
+        <source>Zu überprüfende Zuordnungen</source>
+        <translation>Assignments to be checked</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>an operator or the end</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
-        <translation type="unfinished"></translation>
+        <translation>a variable name</translation>
     </message>
     <message>
         <source>ein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>a value</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
-        <translation type="unfinished"></translation>
+        <translation>a closing parenthesis</translation>
     </message>
     <message>
         <source>enthält Fehler!</source>
-        <translation type="unfinished"></translation>
+        <translation>contains errors!</translation>
     </message>
     <message>
         <source>kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>no value</translation>
+    </message>
+    <message>
+        <source>Übersicht</source>
+        <translation>Overview</translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,34 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alle Zuordnungen bestätigen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
@@ -23,6 +51,10 @@
     </message>
     <message>
         <source>Auswahl an Linkmanager senden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatisch zugeordnete Zeilen</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -42,9 +74,29 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Bestätigte Zuordnungen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt %1 existiert nicht mehr</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -60,6 +112,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -70,14 +126,40 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
+  Altes Projektdatum: %2, Neues Projektdatum: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
+  Altes Tabellendatum: %2, Neues Tabellendatum: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
   Alter Wert: %2
   Neuer Wert: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Zeile %1 wurde geändert.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -93,6 +175,10 @@
     </message>
     <message>
         <source>Dokument-Liste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -113,11 +199,43 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Es existiert mindestens ein Konflikt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine bestätigte Zuordnung.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es existiert mindestens eine unbestätigte Änderung.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gesamtanzahl Zeilen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Gruppe auswählen</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Klassifizieren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Konflikte</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -153,11 +271,27 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Nicht gefundene Zeilen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projekte (*.prj)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Von Ihnen geplante Änderung:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -181,12 +315,40 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zeige nur Projekte mit unvollständigen Mappings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zeilen erneut zuweisen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Zeilen werden neu zugewiesen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zielprojekt auswählen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zielprojekt hinzufügen</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zu überprüfende Zuordnungen</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -211,6 +373,10 @@
     </message>
     <message>
         <source>kein Wert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Übersicht</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -18,6 +18,8 @@ public:
     void registerClass(const proxyMemberDescListS *description);
     /// For a library that goes.
     void unregisterClass(const proxyMemberDescListS *description);
+    /// In the order of registration.
+    [[nodiscard]] QList<const proxyMemberDescListS *> classes() const { return m_classes; }
     /// Null if there is none.
     [[nodiscard]] const proxyMemberDescListS *findClass(const QString &className) const;
     [[nodiscard]] const proxyMemberDescListS *findComponent(const QString &componentId) const;

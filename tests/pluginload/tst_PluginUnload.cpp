@@ -1,0 +1,230 @@
+#include <core/component/mzComServerC.h>
+#include <core/component/proxyFactoryC.h>
+#include <core/message/StaticLogger.h>
+#include <core/plugin/PLinkDbGuiI.h>
+#include <core/plugin/PPluginRegistry.h>
+#include <core/plugin/PTranslateManager.h>
+#include <core/text/PString.h>
+#include <gui/application/PApplication.h>
+#include <gui/application/PApplicationPool.h>
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <dlfcn.h>
+
+/// There is no link database here.
+class PLinkDbC : public PRefObject
+{
+};
+
+/// The plug-in as a host has it: loaded when it is wanted, unloaded without a trace.
+class tst_PluginUnload : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void loads();
+    void unloadsCode();
+    void pluginList();
+    void resources();
+    void translations();
+    void scriptClasses();
+    void loggers();
+    void objectOfThePlugin();
+    void loadsOnceMore();
+    void markerIsMadeBeforeTheTranslations();
+    void catalogIsUsedAtOnce();
+
+private:
+    void load();
+    void unload();
+    [[nodiscard]] bool isLoaded() const;
+    /// A function of the library; null if it has none.
+    template<class Function>
+    Function *function(const char *symbol) const
+    {
+        return reinterpret_cast<Function *>(dlsym(m_library, symbol));
+    }
+
+    void *m_library = nullptr;
+};
+
+namespace {
+
+const QString form = QStringLiteral(":/forms/linkdbgui/ClassificationDialog.ui");
+const QString bitmap = QStringLiteral(":/bitmaps/state_check.png");
+const QString catalog = QStringLiteral(":/translations/VelkLinkDbGui_en.qm");
+
+// Functions of the plug-in by the names that the linker knows.
+constexpr const char *ignoreMarkerSymbol = "_Z12ignoreMarkerv";
+constexpr const char *loggerSymbol = "_Z18plmDocumentsLoggerv";
+
+} // namespace
+
+void tst_PluginUnload::load()
+{
+    m_library = dlopen(VELK_PLUGIN_FILE, RTLD_NOW | RTLD_LOCAL);
+    QVERIFY2(m_library, dlerror());
+}
+
+void tst_PluginUnload::unload()
+{
+    QVERIFY(m_library);
+    QCOMPARE(dlclose(m_library), 0);
+    m_library = nullptr;
+}
+
+bool tst_PluginUnload::isLoaded() const
+{
+    void *const library = dlopen(VELK_PLUGIN_FILE, RTLD_NOW | RTLD_NOLOAD);
+    if (library)
+        dlclose(library);
+    return library != nullptr;
+}
+
+void tst_PluginUnload::init()
+{
+    QVERIFY(!isLoaded());
+    PTranslateManager::instance().setLanguage({});
+}
+
+void tst_PluginUnload::cleanup()
+{
+    mzComServerC::instance().stop();
+    if (m_library)
+        unload();
+    QVERIFY(!isLoaded());
+}
+
+void tst_PluginUnload::loads()
+{
+    load();
+    QVERIFY(isLoaded());
+}
+
+void tst_PluginUnload::unloadsCode()
+{
+    load();
+    unload();
+    QVERIFY(!isLoaded());
+}
+
+void tst_PluginUnload::pluginList()
+{
+    QVERIFY(PPluginRegistry::instance().plugins().isEmpty());
+    load();
+    const QList<const QMetaObject *> plugins = PPluginRegistry::instance().plugins();
+    QCOMPARE(plugins.size(), 1);
+    QCOMPARE(plugins.first()->className(), "LinkDbGuiC");
+    unload();
+    QVERIFY(PPluginRegistry::instance().plugins().isEmpty());
+}
+
+void tst_PluginUnload::resources()
+{
+    for (const QString &path : {form, bitmap, catalog})
+        QVERIFY2(!QFile::exists(path), qPrintable(path));
+    load();
+    for (const QString &path : {form, bitmap, catalog})
+        QVERIFY2(QFile::exists(path), qPrintable(path));
+    unload();
+    for (const QString &path : {form, bitmap, catalog})
+        QVERIFY2(!QFile::exists(path), qPrintable(path));
+    QVERIFY(QDir(QStringLiteral(":/bitmaps")).entryList().isEmpty());
+    QVERIFY(QDir(QStringLiteral(":/forms")).entryList().isEmpty());
+}
+
+void tst_PluginUnload::translations()
+{
+    load();
+    PTranslateManager::instance().setLanguage(QStringLiteral("en"));
+    QCOMPARE(PString::translate("Konflikte", "VelkLinkDbGui"), QStringLiteral("Conflicts"));
+    unload();
+    QVERIFY(PTranslateManager::instance().modules().isEmpty());
+    QVERIFY(PTranslateManager::instance().translatedModules().isEmpty());
+    QCOMPARE(PString::translate("Konflikte", "VelkLinkDbGui"), QStringLiteral("Konflikte"));
+}
+
+void tst_PluginUnload::scriptClasses()
+{
+    mzComServerC::instance().start();
+    load();
+    QCOMPARE(mzComServerC::instance().members().size(), 2);
+    QCOMPARE(proxyFactoryC::instance().classes().size(), 2);
+    unload();
+    QVERIFY(mzComServerC::instance().members().isEmpty());
+    QVERIFY(proxyFactoryC::instance().classes().isEmpty());
+}
+
+/// A record that was in use is forgotten: setLevels() writes into all that are known.
+void tst_PluginUnload::loggers()
+{
+    load();
+    auto *const logger = function<StaticLoggerRecord &()>(loggerSymbol);
+    QVERIFY(logger);
+    StaticLoggerRecord &record = logger();
+    StaticLogger::init(record);
+    StaticLogger::setLevels(QStringLiteral("*=5000"));
+    QCOMPARE(record.level.load(), 5000);
+    unload();
+    StaticLogger::setLevels({});
+    QVERIFY(!isLoaded());
+}
+
+void tst_PluginUnload::objectOfThePlugin()
+{
+    PApplication host({});
+    load();
+    auto object = PPluginRegistry::create(*PPluginRegistry::instance().plugins().first());
+    auto *const plugin = qobject_cast<PLinkDbGuiI *>(object.get());
+    QVERIFY(plugin);
+    QCOMPARE(plugin->asQObject(), object.get());
+    PApplicationPool pool;
+    plugin->registerActions(pool);
+    QVERIFY(!plugin->initLinkDb({}));
+    host.setInitialized();
+    object.reset();
+    unload();
+    // The actions are the pool's and outlive the plug-in.
+    QCOMPARE(pool.actions().size(), 10);
+    QCOMPARE(pool.actions().first()->text(), QStringLiteral("Login"));
+}
+
+void tst_PluginUnload::loadsOnceMore()
+{
+    for (int i = 0; i < 3; ++i) {
+        load();
+        QCOMPARE(PPluginRegistry::instance().plugins().size(), 1);
+        QVERIFY(QFile::exists(form));
+        unload();
+        QVERIFY(!QFile::exists(form));
+    }
+}
+
+void tst_PluginUnload::markerIsMadeBeforeTheTranslations()
+{
+    PTranslateManager::instance().setLanguage(QStringLiteral("en"));
+    load();
+    auto *const marker = function<const QString &()>(ignoreMarkerSymbol);
+    QVERIFY(marker);
+    QCOMPARE(PString::translate("Variable ignorieren", "VelkLinkDbGui"),
+             QStringLiteral("Ignore variable"));
+    QCOMPARE(marker(), QStringLiteral("<Variable ignorieren>"));
+}
+
+/// The catalog lies in the resource tree, which therefore has to be there first.
+void tst_PluginUnload::catalogIsUsedAtOnce()
+{
+    PTranslateManager::instance().setLanguage(QStringLiteral("en"));
+    load();
+    QCOMPARE(PTranslateManager::instance().translatedModules(),
+             QStringList{QStringLiteral("VelkLinkDbGui")});
+}
+
+QTEST_MAIN(tst_PluginUnload)
+#include "tst_PluginUnload.moc"
