@@ -139,6 +139,11 @@ public:
     /// Gives every entry the state, keeping all else.
     void setAllStates(PRJMAPPING::CheckState state);
 
+    /// Ids of the entries that are in one table only or differ, ascending. Costs next to nothing
+    /// for the pages that both share, as a table and its changed copy do.
+    [[nodiscard]] static std::vector<int> changedLines(const LineTable &before,
+                                                       const LineTable &after);
+
 private:
     struct Place
     {

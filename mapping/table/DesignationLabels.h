@@ -1,0 +1,26 @@
+#pragma once
+
+#include <linkdbgui/VelkLinkDbGuiGlobal.h>
+
+#include <QString>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+QT_END_NAMESPACE
+
+/// Shows the norm designations of a source and a target line against each other: both green if they
+/// are equal, else both red.
+struct VELKLINKDBGUI_EXPORT DesignationLabels
+{
+    QLabel *sourceLabel = nullptr; ///< not owned
+    QLabel *targetLabel = nullptr; ///< not owned
+    QString sourceText;
+    QString targetText;
+
+    void setSourceText(const QString &text);
+    void setTargetText(const QString &text);
+
+private:
+    /// Does nothing until both labels are there.
+    void show() const;
+};

@@ -1,0 +1,62 @@
+#include "MappedTargetLines.h"
+
+#include "MappingDifference.h"
+
+bool MappedTargetLines::update(const PrjMappingC &mapping, const QList<int> &targets)
+{
+    const auto changed = m_known && targets == m_targets
+                             ? changedSourceLines(m_mapping, mapping)
+                             : std::nullopt;
+    const PrjMappingC before = std::exchange(m_mapping, mapping);
+    m_targets = targets;
+    m_known = true;
+    if (!changed)
+        return countAll();
+    std::unordered_map<int, bool> formerly;
+    const auto move = [&](const LineTable::Row *row, int difference) {
+        if (!row)
+            return;
+        formerly.emplace(row->targetLine, contains(row->targetLine));
+        count(row->targetLine, difference);
+    };
+    for (const int index : targets) {
+        for (const int line : *changed) {
+            if (index < before.countTargets())
+                move(before.targetAt(index).lines().findRow(line), -1);
+            move(mapping.targetAt(index).lines().findRow(line), 1);
+        }
+    }
+    for (const auto &[line, held] : formerly) {
+        if (contains(line) != held)
+            return true;
+    }
+    return false;
+}
+
+bool MappedTargetLines::countAll()
+{
+    m_counts.clear();
+    for (const int index : std::as_const(m_targets)) {
+        for (const LineTable::Iterator &entry : m_mapping.targetAt(index).lines())
+            count(entry.targetLine(), 1);
+    }
+    return true;
+}
+
+void MappedTargetLines::count(int targetLine, int difference)
+{
+    const auto place = m_counts.try_emplace(targetLine, 0).first;
+    place->second += difference;
+    if (place->second == 0)
+        m_counts.erase(place);
+}
+
+QList<int> MappedTargetLines::severalTimes() const
+{
+    QList<int> lines;
+    for (const auto &[line, times] : m_counts) {
+        if (times > 1)
+            lines.append(line);
+    }
+    return lines;
+}

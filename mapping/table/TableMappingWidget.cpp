@@ -1,0 +1,58 @@
+#include "TableMappingWidget.h"
+
+#include "TableMappingWidgetPrivate.h"
+
+TableMappingWidget::TableMappingWidget(QWidget *parent)
+    : PrjMappingWidgetBase(parent)
+    , d(new TableMappingWidgetPrivate(this))
+{
+}
+
+TableMappingWidget::~TableMappingWidget()
+{
+    delete d;
+}
+
+void TableMappingWidget::setProjectMappingWidget(ProjectMappingWidget *widget)
+{
+    d->projectWidget = widget;
+}
+
+void TableMappingWidget::setRemoteViewerMode(bool remote)
+{
+    d->remoteViewerMode = remote;
+}
+
+void TableMappingWidget::loadSourceTable(const VKTab::ContentRef &table, const PrjMappingC &mapping,
+                                         const CatalogMappingC &catalog)
+{
+    d->loadSourceTable(table, mapping, catalog);
+}
+
+VKTab::LineId TableMappingWidget::selectedSourceLine() const
+{
+    return d->sourceTable.isValid() ? d->sourceTable.getSelection() : VKTab::LineId();
+}
+
+QString TableMappingWidget::sourcePath() const
+{
+    return d->mapping.getSourcePath();
+}
+
+void TableMappingWidget::onProjectMappingUpdated(const PrjMappingC &mapping)
+{
+    d->mapping = mapping;
+    d->updateLineStatus();
+    d->showSourceLine(d->sourceTable.getSelection());
+    update();
+}
+
+void TableMappingWidget::onTargetLineConflict(const QString &toolTipMessage, int lineId)
+{
+    d->conflictToolTips.insert(lineId, toolTipMessage);
+}
+
+void TableMappingWidget::onRemapLinesClicked()
+{
+    d->remapLines();
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <mapping/project/PrjMappingWidgetBase.h>
+
+#include <geomcore/records/CatalogMappingC.h>
+#include <geomcore/table/ContentRef.h>
+
+class ProjectMappingWidget;
+class TableMappingWidgetPrivate;
+
+/// The column that edits the lines of one source project: its table on the left, and on the right
+/// the table of the project that the selected line went to. Shows what became of every line and
+/// changes it.
+///
+/// Every change is announced by projectMappingUpdated; the widget takes it over by itself. Its
+/// views are found by the object names "sourceView" and "targetView", its buttons by "btnMapLine",
+/// "btnRemoveLine", "btnRemoveVerifyLine", "btnResolvedRanges", "btnCondition" and "btnVerifyAll",
+/// its boxes by "chkFilterSource", "chkFilterTarget" and "chkShowHiddenCols".
+class VELKLINKDBGUI_EXPORT TableMappingWidget : public PrjMappingWidgetBase
+{
+    Q_OBJECT
+
+public:
+    explicit TableMappingWidget(QWidget *parent);
+    ~TableMappingWidget() override;
+
+    /// Not owned; to be set once, before the first table. Without one no conditions are known, and
+    /// nobody hears whether lines may be assigned by hand.
+    void setProjectMappingWidget(ProjectMappingWidget *widget);
+    /// Kept, but read by nobody: target tables come from the local catalogs in any case.
+    void setRemoteViewerMode(bool remote);
+
+    /// Shows a project: \a table is its table, \a catalog gives the dates of the release. A table
+    /// that is not valid empties the widget.
+    void loadSourceTable(const VKTab::ContentRef &table, const PrjMappingC &mapping,
+                         const CatalogMappingC &catalog);
+    /// The selected line of the source table; not valid if there is none.
+    [[nodiscard]] VKTab::LineId selectedSourceLine() const;
+    /// Source path of the mapping; empty before the first one.
+    [[nodiscard]] QString sourcePath() const;
+
+    /// Takes the mapping and brings the states of the lines, the target table and the buttons up to
+    /// date. Touches only the lines whose entries changed.
+    void onProjectMappingUpdated(const PrjMappingC &mapping) override;
+
+public Q_SLOTS:
+    /// Keeps what is to be told of a source line in conflict. Texts live as long as the widget.
+    void onTargetLineConflict(const QString &toolTipMessage, int lineId);
+    /// Assigns all lines anew, except those that the modeller confirmed. Shows progress; a
+    /// cancelled run keeps what it reached.
+    void onRemapLinesClicked();
+
+private:
+    friend class TableMappingWidgetPrivate;
+    TableMappingWidgetPrivate *const d;
+};

@@ -1,0 +1,8 @@
+#include "ReferingObject.h"
+
+ReferingObject::ReferingObject()
+    : m_alive(std::make_shared<char>())
+{
+}
+
+ReferingObject::~ReferingObject() = default;
