@@ -4,9 +4,8 @@
 
 bool MappedTargetLines::update(const PrjMappingC &mapping, const QList<int> &targets)
 {
-    const auto changed = m_known && targets == m_targets
-                             ? changedSourceLines(m_mapping, mapping)
-                             : std::nullopt;
+    const auto changed =
+        m_known && targets == m_targets ? changedSourceLines(m_mapping, mapping) : std::nullopt;
     const PrjMappingC before = std::exchange(m_mapping, mapping);
     m_targets = targets;
     m_known = true;
@@ -51,12 +50,8 @@ void MappedTargetLines::count(int targetLine, int difference)
         m_counts.erase(place);
 }
 
-QList<int> MappedTargetLines::severalTimes() const
+int MappedTargetLines::times(int targetLine) const
 {
-    QList<int> lines;
-    for (const auto &[line, times] : m_counts) {
-        if (times > 1)
-            lines.append(line);
-    }
-    return lines;
+    const auto place = m_counts.find(targetLine);
+    return place == m_counts.end() ? 0 : place->second;
 }

@@ -6,8 +6,8 @@
 
 #include <unordered_map>
 
-/// How many mapped lines of some targets lead to each target line. Follows a mapping by what changed
-/// in it.
+/// How many mapped lines of some targets lead to each target line. Follows a mapping by what
+/// changed in it.
 class MappedTargetLines
 {
 public:
@@ -15,8 +15,7 @@ public:
     /// mapped line leads to.
     bool update(const PrjMappingC &mapping, const QList<int> &targets);
     [[nodiscard]] bool contains(int targetLine) const { return m_counts.count(targetLine) > 0; }
-    /// Target lines that more than one mapped line leads to.
-    [[nodiscard]] QList<int> severalTimes() const;
+    [[nodiscard]] int times(int targetLine) const;
 
 private:
     void count(int targetLine, int difference);

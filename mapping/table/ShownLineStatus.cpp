@@ -45,8 +45,8 @@ void ShownLineStatus::update(const VKTab::ContentRef &table, const PrjMappingC &
     const boost::shared_ptr<VKTab::BaseLayer> layer = table.getModifyLayer();
     const bool ranges = !TableMappingWidgetPrivate::valueRangeVariables(table).isEmpty();
     const bool isSame = m_table == table && m_layer.lock() == layer && ranges == m_offersRanges;
-    const auto changed = isSame && !m_hasSecondNumbers ? changedSourceLines(m_mapping, mapping)
-                                                       : std::nullopt;
+    const auto changed =
+        isSame && !m_hasSecondNumbers ? changedSourceLines(m_mapping, mapping) : std::nullopt;
     m_table = table;
     m_layer = layer;
     m_offersRanges = ranges;

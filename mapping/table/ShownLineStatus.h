@@ -28,7 +28,8 @@ private:
 
     VKTab::ContentRef m_table;
     PrjMappingC m_mapping;
-    boost::weak_ptr<VKTab::BaseLayer> m_layer; ///< holds what was set; reading the table replaces it
+    boost::weak_ptr<VKTab::BaseLayer>
+        m_layer; ///< holds what was set; reading the table replaces it
     bool m_offersRanges = false;
     bool m_hasSecondNumbers = false; ///< several lines may share a line number
     std::set<int> m_modified;

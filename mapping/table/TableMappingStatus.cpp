@@ -38,8 +38,8 @@ StatusKey mapperKey(const StatusValue::ToolTipHandler &handler)
 {
     StatusKey key(StatusKey::IconColumn, QStringLiteral("CatalogMapper"));
     addState(key, "M", ":/bitmaps/state_confirmed.png")
-        .setToolTipText(PString::translate("Diese Zuordnung wurde vom Modellierer bestätigt",
-                                           "VelkLinkDbGui"));
+        .setToolTipText(
+            PString::translate("Diese Zuordnung wurde vom Modellierer bestätigt", "VelkLinkDbGui"));
     addState(key, "C", ":/bitmaps/state_check.png").setToolTipHandler2(handler);
     addState(key, "N", ":/bitmaps/state_deleted.png")
         .setToolTipText(

@@ -85,28 +85,28 @@ QWidget *TableMappingWidgetPrivate::createSourcePane()
         });
     sourceView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     sourceView->setShowInternalValues(true);
-    btnResolvedRanges = createButton(
-        "btnResolvedRanges", ":/toolicons/actionFormatRanges_16.png",
-        PString::translate("Aufgelöste Wertebereiche zuordnen", "VelkLinkDbGui"), {},
-        SLOT(onMapResolvedValueRangesClicked()));
+    btnResolvedRanges =
+        createButton("btnResolvedRanges", ":/toolicons/actionFormatRanges_16.png",
+                     PString::translate("Aufgelöste Wertebereiche zuordnen", "VelkLinkDbGui"), {},
+                     SLOT(onMapResolvedValueRangesClicked()));
     btnResolvedRanges->setEnabled(false);
-    btnCondition = createButton(
-        "btnCondition", ":/toolicons/actionFormatAlgorithm_16.png",
-        PString::translate("Bedingung für die markierte Zeile generieren und in die "
-                           "Zwischenablage kopieren",
-                           "VelkLinkDbGui"),
-        {}, SLOT(onCreateConditionClicked()));
-    QPushButton *const verifyAll = createButton(
-        "btnVerifyAll", ":/bitmaps/double_check.png",
-        PString::translate("Alle Zuordnungen bestätigen", "VelkLinkDbGui"), {},
-        SLOT(onVerifyAllClicked()));
+    btnCondition =
+        createButton("btnCondition", ":/toolicons/actionFormatAlgorithm_16.png",
+                     PString::translate("Bedingung für die markierte Zeile generieren und in die "
+                                        "Zwischenablage kopieren",
+                                        "VelkLinkDbGui"),
+                     {}, SLOT(onCreateConditionClicked()));
+    QPushButton *const verifyAll =
+        createButton("btnVerifyAll", ":/bitmaps/double_check.png",
+                     PString::translate("Alle Zuordnungen bestätigen", "VelkLinkDbGui"), {},
+                     SLOT(onVerifyAllClicked()));
     chkFilterSource = createBox(
         "chkFilterSource",
-        PString::translate("Zeige nur nicht zugewiesene Zeilen (Quellprojekt)", "VelkLinkDbGui"), q);
+        PString::translate("Zeige nur nicht zugewiesene Zeilen (Quellprojekt)", "VelkLinkDbGui"),
+        q);
     connect(chkFilterSource, SIGNAL(stateChanged(int)), this, SLOT(onChkFilterNotMappedLines(int)));
-    const Pane pane = createTablePane("source", sourceView,
-                                      {btnResolvedRanges, btnCondition, verifyAll},
-                                      chkFilterSource);
+    const Pane pane = createTablePane(
+        "source", sourceView, {btnResolvedRanges, btnCondition, verifyAll}, chkFilterSource);
     sourcePathLabel = pane.path;
     sourceNumberLabel = pane.number;
     designationLabels.sourceLabel = pane.designation;
@@ -138,9 +138,8 @@ QWidget *TableMappingWidgetPrivate::createTargetPane()
         "chkFilterTarget",
         PString::translate("Zeige nur nicht zugewiesene Zeilen (Zielprojekt)", "VelkLinkDbGui"), q);
     connect(chkFilterTarget, SIGNAL(stateChanged(int)), this, SLOT(onChkFilterTargetLines(int)));
-    const Pane pane = createTablePane("target", targetView,
-                                      {btnMapLine, btnRemoveLine, btnRemoveVerifyLine},
-                                      chkFilterTarget);
+    const Pane pane = createTablePane(
+        "target", targetView, {btnMapLine, btnRemoveLine, btnRemoveVerifyLine}, chkFilterTarget);
     targetPathLabel = pane.path;
     targetNumberLabel = pane.number;
     designationLabels.targetLabel = pane.designation;

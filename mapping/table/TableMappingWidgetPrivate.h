@@ -157,20 +157,23 @@ private:
     // Actions
     [[nodiscard]] QStringList conditionVariables() const;
     void mapLine(const VKTab::LineId &id, const QStringList &variables);
-    void mapCombination(const VKTab::LineId &id, const Varset &current, bool isOwn,
-                        const VKTab::ContentRef &targetTable, const VKTab::LineId &chosen);
+    /// \a chosen is the target line to take, null to keep the assigned one.
+    void mapCombination(const VKTab::LineId &id, const Varset &values, const VKTab::LineId *chosen);
     void removeLine(const VKTab::LineId &id);
-    void remapLine(PrjMapperC &mapper, const VKTab::LineId &id, const QStringList &variables) const;
     void showFailingValues(const VKTab::LineId &id);
+    [[nodiscard]] bool confirmsValueRangeRun() const;
+    [[nodiscard]] QStringList chooseRangeVariables();
     QAction *addMenuRow(QMenu *menu, const QString &text, const QString &icon, const char *slot);
     [[nodiscard]] bool canConfirmSelection() const;
 
     // Filters
-    static void setLineFilter(VKTab::ContentRef table,
-                              const QHash<int, VKTab::TabFilterData> &lines);
+    using LineNumbers = QHash<int, VKTab::TabFilterData>;
+    static void setLineFilter(VKTab::ContentRef table, const LineNumbers &lines);
+    [[nodiscard]] LineNumbers linesWithoutSource(const VKTab::Content &table) const;
 
     ShownLineStatus m_shownStatus;
-    MappedTargetLines m_mappedTargetLines;
+    MappedTargetLines m_mappedTargetLines; ///< of m_filteredTable
+    VKTab::ContentRef m_filteredTable;
     VKTab::FilterByLineId m_targetFilter; ///< the one that chkFilterTarget set last
     VKTab::ContentRef m_markedTable;
     VKTab::LineId m_markedLine; ///< of m_markedTable

@@ -30,6 +30,7 @@ public:
     /// In display order.
     [[nodiscard]] QList<VKTab::LineId> selectedLines() const;
     [[nodiscard]] QList<int> selectedRows() const;
+    [[nodiscard]] int selectedCount() const;
 
 private:
     void onSelectionChanged();
@@ -39,7 +40,6 @@ private:
     void announce(bool changed);
     void takeFromTable();
     void selectLines(const QList<VKTab::LineId> &lines);
-    [[nodiscard]] int selectedCount() const;
     [[nodiscard]] VKTab::LineId wanted() const;
 
     TableGrid *m_grid;

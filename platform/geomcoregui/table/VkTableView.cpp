@@ -98,6 +98,11 @@ QList<VKTab::LineId> VkTableView::getSelectedLines() const
     return d->selection->selectedLines();
 }
 
+int VkTableView::getSelectedLineCount() const
+{
+    return d->selection->selectedCount();
+}
+
 VkTableModel *VkTableView::model() const
 {
     return d->model;

@@ -57,6 +57,8 @@ public:
 
     /// In display order.
     [[nodiscard]] QList<VKTab::LineId> getSelectedLines() const;
+    /// Length of getSelectedLines(), without making the list.
+    [[nodiscard]] int getSelectedLineCount() const;
     /// Owned by the view.
     [[nodiscard]] VkTableModel *model() const;
     /// The grid inside, for tests and for placing something over it. Owned by the view.

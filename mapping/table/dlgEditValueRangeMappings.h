@@ -1,0 +1,24 @@
+#pragma once
+
+#include <linkdbgui/VelkLinkDbGuiGlobal.h>
+
+#include <QDialog>
+
+QT_BEGIN_NAMESPACE
+class QPlainTextEdit;
+QT_END_NAMESPACE
+
+/// Lets the modeller edit the value range text of a line. The text is not checked.
+class VELKLINKDBGUI_EXPORT dlgEditValueRangeMappings : public QDialog
+{
+    Q_OBJECT
+
+public:
+    dlgEditValueRangeMappings(const QString &text, QWidget *parent);
+    ~dlgEditValueRangeMappings() override;
+
+    [[nodiscard]] QString text() const;
+
+private:
+    QPlainTextEdit *m_edit;
+};
