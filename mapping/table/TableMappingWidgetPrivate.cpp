@@ -1,4 +1,5 @@
 #include "TableMappingWidgetPrivate.h"
+#include "LineActionButton.h"
 
 #include <core/text/PString.h>
 #include <geomcoregui/table/VkTableView.h>
@@ -175,7 +176,7 @@ QPushButton *TableMappingWidgetPrivate::createButton(const char *name, const QSt
                                                      const QString &toolTip,
                                                      const QKeySequence &keys, const char *slot)
 {
-    auto *const button = new QPushButton(QIcon(icon), QString(), q);
+    auto *const button = new LineActionButton(QIcon(icon), QString(), q);
     button->setObjectName(QLatin1String(name));
     button->setToolTip(toolTip);
     button->setAccessibleName(toolTip);
