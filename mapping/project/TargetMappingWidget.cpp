@@ -7,12 +7,11 @@
 
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
+#include <geomcore/table/createVarsetFromVKTable.h>
+#include <geomcore/table/Reader.h>
 
-#include <QApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 TargetMappingWidget::TargetMappingWidget(int targetIndex, const VKTab::ContentRef &source,
                                          const Notify &callback, TargetMappingParamSet *paramSet,
@@ -23,10 +22,37 @@ TargetMappingWidget::TargetMappingWidget(int targetIndex, const VKTab::ContentRe
     , params(paramSet)
     , sourceContent(source)
 {
-    Q_UNUSED(remoteViewerMode)
-    assignButton = new QPushButton(this);
-    upButton = new QPushButton(this);
-    downButton = new QPushButton(this);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    buildHeader();
+    buildLists();
+    const PrjMappingTargetC target = params->projectMapping.findTarget(index);
+    const QString path = target.getTargetPath();
+    const QString builtPath = CatalogMappingWidget::buildTargetPath(!remoteViewerMode, path);
+    showPath(path, builtPath);
+    readTable(builtPath);
+    loadConditions(target);
+    loadVariableMappings(target);
+}
+
+void TargetMappingWidget::showPath(const QString &path, const QString &builtPath)
+{
+    if (PPathName(builtPath).exists(false))
+        pathLabel->setText(path);
+    else
+        pathLabel->setText(
+            PString::translate("%1 <b>(Konnte nicht gefunden werden)</b>", "VelkLinkDbGui")
+                .arg(path));
+}
+
+void TargetMappingWidget::readTable(const QString &builtPath)
+{
+    const refHandle<PrjClass> project(new PrjClass(false, false, false));
+    project->read(PPathName(builtPath).native(), PrjClass::ReadAll);
+    VKTab::Reader().readByProject(project, targetContent, true);
+    sourceVariables =
+        createVarsetFromVKTable(sourceContent, sourceContent.getLineIdList().value(0), {});
+    targetVariables =
+        createVarsetFromVKTable(targetContent, targetContent.getLineIdList().value(0), {});
 }
 
 TargetMappingWidget::~TargetMappingWidget() = default;

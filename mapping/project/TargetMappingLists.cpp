@@ -1,0 +1,160 @@
+// The part of TargetMappingWidget that brings conditions and variable mappings into the lists and
+// back.
+#include "AssignmentCollector.h"
+#include "ignoreMarker.h"
+#include "TargetItemRole.h"
+#include "TargetMappingParamSet.h"
+#include "TargetMappingWidget.h"
+
+#include <core/message/PMessage.h>
+#include <core/text/PString.h>
+#include <geomcore/expression/VarCollector.h>
+#include <geomcore/expression/VarsetConditionC.h>
+#include <geomcore/expression/VarsetParserC.h>
+#include <geomcore/expression/VarsetValueMappingC.h>
+#include <geomcore/expression/VarsetVarMappingC.h>
+
+#include <QStandardItemModel>
+
+#include <memory>
+
+namespace {
+
+void addNames(QStringList &names, const QStringList &added)
+{
+    for (const QString &name : added)
+        if (!names.contains(name))
+            names.append(name);
+}
+
+/// Null for a text that does not parse.
+std::unique_ptr<VKTab::NodeBase> parsed(VarsetParserC &parser, const QString &text)
+{
+    std::unique_ptr<VKTab::NodeBase> node(parser.parseStatement(text, QString(), true));
+    if (node && node->getType() == VKTab::InvalidType)
+        node.reset();
+    return node;
+}
+
+QStandardItem *formulaItem(const QString &text)
+{
+    auto *const item = new QStandardItem(text);
+    item->setData(true, FormulaRole);
+    return item;
+}
+
+QStandardItem *sourceItem(const VarsetVarMappingC &mapping)
+{
+    const bool ignored = mapping.getSourceVarName().isEmpty();
+    auto *const item = new QStandardItem(ignored ? ignoreMarker() : mapping.getSourceVarName());
+    if (ignored)
+        item->setData(true, IgnoredRole);
+    return item;
+}
+
+} // namespace
+
+void TargetMappingWidget::collectVariables(const QString &condition)
+{
+    VarsetParserC parser(sourceVariables, targetVariables);
+    if (const std::unique_ptr<VKTab::NodeBase> node = parsed(parser, condition)) {
+        VarCollector collector;
+        node->accept(collector, 0, 0);
+        addNames(conditionVariables, collector.getNames());
+    }
+}
+
+void TargetMappingWidget::loadConditions(const PrjMappingTargetC &target)
+{
+    conditionVariables.clear();
+    const QList<const VarsetConditionI *> conditions = target.getConditions();
+    for (const VarsetConditionI *const entry : conditions) {
+        const auto *const condition = dynamic_cast<const VarsetConditionC *>(entry);
+        if (!condition)
+            continue;
+        conditionModel->appendRow({new QStandardItem, formulaItem(condition->getCondition())});
+        collectVariables(condition->getCondition());
+    }
+}
+
+QString TargetMappingWidget::assignedVariable(const QString &formula) const
+{
+    VarsetParserC parser(sourceVariables, targetVariables);
+    const std::unique_ptr<VKTab::NodeBase> node = parsed(parser, formula);
+    if (!node)
+        return QString();
+    AssignmentCollector collector;
+    node->accept(collector, 0, 0);
+    const QSet<VKTab::VarId> &ids = collector.getVarIds();
+    return ids.size() == 1 ? parser.getVarName(*ids.begin()) : QString();
+}
+
+void TargetMappingWidget::loadVariableMappings(const PrjMappingTargetC &target)
+{
+    const QList<const VarsetModifierI *> modifiers = target.getVarsetModifier();
+    for (const VarsetModifierI *const modifier : modifiers) {
+        if (const auto *const plain = dynamic_cast<const VarsetVarMappingC *>(modifier)) {
+            variableModel->appendRow({new QStandardItem,
+                                      new QStandardItem(plain->getTargetVarName()),
+                                      sourceItem(*plain)});
+        } else if (const auto *const value = dynamic_cast<const VarsetValueMappingC *>(modifier)) {
+            const QString formula = value->getFormula();
+            const QString name = assignedVariable(formula);
+            if (name.isEmpty())
+                PMessage::LogToWindow(formula + QStringLiteral(" ") +
+                                      PString::translate("enthält Fehler!", "VelkLinkDbGui"));
+            else
+                variableModel->appendRow(
+                    {new QStandardItem, new QStandardItem(name), formulaItem(formula)});
+        }
+    }
+}
+
+void TargetMappingWidget::storeConditions()
+{
+    conditionVariables.clear();
+    PrjMappingTargetC target = params->projectMapping.findTarget(index);
+    target.clearConditions();
+    for (int row = 0; row < conditionModel->rowCount(); ++row) {
+        const QString text = conditionModel->index(row, 1).data().toString();
+        if (text.isEmpty())
+            continue;
+        QStringList usedVariables;
+        target.addCondition(VarsetConditionC::create(text, sourceVariables, usedVariables));
+        addNames(conditionVariables, usedVariables);
+    }
+    if (notify)
+        notify(target, index, TargetLinesChanged);
+}
+
+VarsetModifierI *TargetMappingWidget::makeModifier(int row) const
+{
+    const QString name = variableModel->index(row, 1).data().toString();
+    const QModelIndex value = variableModel->index(row, 2);
+    const QString text = value.data().toString();
+    if (value.data(FormulaRole).toBool())
+        return VarsetValueMappingC::create(text, sourceVariables, targetVariables);
+    return new VarsetVarMappingC(value.data(IgnoredRole).toBool() ? QString() : text, name);
+}
+
+void TargetMappingWidget::storeVariableMappings()
+{
+    PrjMappingTargetC target = params->projectMapping.findTarget(index);
+    target.clearModifier();
+    for (int row = 0; row < variableModel->rowCount(); ++row)
+        target.addModifier(makeModifier(row));
+    if (notify)
+        notify(target, index, TargetModified);
+}
+
+void TargetMappingWidget::onDeleteVarMapping(const QModelIndex &cell, int /*buttonIndex*/)
+{
+    if (variableModel->removeRows(cell.row(), 1))
+        storeVariableMappings();
+}
+
+void TargetMappingWidget::onDeleteConditionClicked(const QModelIndex &cell, int /*buttonIndex*/)
+{
+    if (conditionModel->removeRows(cell.row(), 1))
+        storeConditions();
+}
