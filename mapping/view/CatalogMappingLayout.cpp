@@ -9,6 +9,7 @@
 #include <mapping/data/CatalogMappingHandlerI.h>
 #include <mapping/project/MappingConflictWidget.h>
 #include <mapping/project/ProjectMappingWidget.h>
+#include <mapping/table/TableMappingWidget.h>
 
 #include <core/text/PString.h>
 
@@ -41,6 +42,8 @@ void CatalogMappingWidgetPrivate::buildLayout()
     splitter->addWidget(makeEditorPane(splitter));
     conflictWidget->setCatalogMapping(handler->getCatalogMapping());
     projectWidget->setApplicationHandler(applicationHandler);
+    projectWidget->setTableMappingWidget(tableWidget);
+    tableWidget->setProjectMappingWidget(projectWidget);
     setEditorsEnabled(false);
 }
 
@@ -118,6 +121,9 @@ QWidget *CatalogMappingWidgetPrivate::makeEditorPane(QWidget *parent)
     projectWidget = new ProjectMappingWidget(editorSplitter);
     projectWidget->setObjectName(QStringLiteral("projectWidget"));
     editorSplitter->addWidget(projectWidget);
+    tableWidget = new TableMappingWidget(editorSplitter);
+    tableWidget->setObjectName(QStringLiteral("tableWidget"));
+    editorSplitter->addWidget(tableWidget);
     return pane;
 }
 
@@ -142,13 +148,23 @@ void CatalogMappingWidgetPrivate::connectTree()
 
 void CatalogMappingWidgetPrivate::connectEditors()
 {
+    connect(projectWidget, SIGNAL(projectMappingUpdated(const PrjMappingC &)), tableWidget,
+            SLOT(onProjectMappingUpdated(const PrjMappingC &)));
+    connect(tableWidget, SIGNAL(projectMappingUpdated(const PrjMappingC &)), projectWidget,
+            SLOT(onProjectMappingUpdated(const PrjMappingC &)));
     connect(projectWidget, SIGNAL(projectMappingUpdated(const PrjMappingC &)), this,
+            SLOT(onProjectMappingUpdated(const PrjMappingC &)));
+    connect(tableWidget, SIGNAL(projectMappingUpdated(const PrjMappingC &)), this,
             SLOT(onProjectMappingUpdated(const PrjMappingC &)));
 }
 
 void CatalogMappingWidgetPrivate::connectConflicts()
 {
+    connect(conflictWidget, SIGNAL(targetLineConflict(const QString &, const int &)), tableWidget,
+            SLOT(onTargetLineConflict(const QString &, const int &)));
     connect(conflictWidget, SIGNAL(conflictsChanged(const PrjMappingC &)), this,
+            SLOT(onProjectMappingUpdated(const PrjMappingC &)));
+    connect(conflictWidget, SIGNAL(conflictsChanged(const PrjMappingC &)), tableWidget,
             SLOT(onProjectMappingUpdated(const PrjMappingC &)));
     connect(conflictWidget, SIGNAL(conflictsChanged(const PrjMappingC &)), projectWidget,
             SLOT(onProjectMappingUpdated(const PrjMappingC &)));
@@ -156,4 +172,9 @@ void CatalogMappingWidgetPrivate::connectConflicts()
             SLOT(onMappingUpdated(const PrjMappingC &)));
     connect(projectWidget, SIGNAL(targetLineConflictAccepted(const int &)), conflictWidget,
             SLOT(onTargetLineConflictAccepted(const int &)));
+    connect(tableWidget, SIGNAL(projectMappingUpdated(const PrjMappingC &)), conflictWidget,
+            SLOT(onMappingUpdated(const PrjMappingC &)));
+    connect(tableWidget, SIGNAL(targetLineConflictAccepted(const int &)), conflictWidget,
+            SLOT(onTargetLineConflictAccepted(const int &)));
+    connect(projectWidget, SIGNAL(remapLinesClicked()), tableWidget, SLOT(onRemapLinesClicked()));
 }

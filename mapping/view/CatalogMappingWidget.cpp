@@ -6,6 +6,7 @@
 #include <mapping/data/CatalogMappingHandlerI.h>
 #include <mapping/project/MappingConflictWidget.h>
 #include <mapping/project/ProjectMappingWidget.h>
+#include <mapping/table/TableMappingWidget.h>
 
 #include <QLabel>
 #include <QTreeView>
@@ -61,6 +62,7 @@ bool CatalogMappingWidget::hasConflicts() const
 
 void CatalogMappingWidget::setRemoteViewerMode(bool remote)
 {
+    d->tableWidget->setRemoteViewerMode(remote);
     d->projectWidget->setRemoteViewerMode(remote);
 }
 

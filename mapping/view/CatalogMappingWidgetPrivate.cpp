@@ -7,6 +7,7 @@
 #include <mapping/data/CatalogMappingHandlerI.h>
 #include <mapping/project/MappingConflictWidget.h>
 #include <mapping/project/ProjectMappingWidget.h>
+#include <mapping/table/TableMappingWidget.h>
 
 #include <core/config/PConfigService.h>
 #include <core/text/PString.h>
@@ -64,6 +65,7 @@ void CatalogMappingWidgetPrivate::setEditorsEnabled(bool enabled)
 {
     conflictWidget->setEnabled(enabled);
     projectWidget->setEnabled(enabled);
+    tableWidget->setEnabled(enabled);
 }
 
 PPathName CatalogMappingWidgetPrivate::projectFile(const QString &sourcePath) const
@@ -98,6 +100,7 @@ void CatalogMappingWidgetPrivate::openNode(const Node &node)
     }
     const CatalogMappingC catalog = handler->getCatalogMapping();
     const PrjMappingC mapping = node->getMapping();
+    tableWidget->loadSourceTable(content, mapping, catalog);
     projectWidget->loadSourceProject(mapping, content, catalog);
     conflictWidget->loadSourceProject(mapping, content);
 }
@@ -123,7 +126,11 @@ void CatalogMappingWidgetPrivate::onProjectMappingUpdated(const PrjMappingC &prj
 
 void CatalogMappingWidgetPrivate::repaintViews()
 {
+    tableWidget->update();
     // Updating a view repaints its frame; the items are its viewport's.
+    const QList<VkTableView *> tables = tableWidget->findChildren<VkTableView *>();
+    for (const VkTableView *const table : tables)
+        table->grid()->viewport()->update();
     treeView->update();
     treeView->viewport()->update();
 }
@@ -219,6 +226,8 @@ void CatalogMappingWidgetPrivate::verifyProject(const Node &node)
     mapping.verifyAll();
     handler->updateMapping(mapping);
     node->invalidateState();
+    if (tableWidget->sourcePath() == mapping.getSourcePath())
+        tableWidget->onProjectMappingUpdated(mapping);
     if (projectWidget->sourcePath() == mapping.getSourcePath())
         projectWidget->onProjectMappingUpdated(mapping);
 }
