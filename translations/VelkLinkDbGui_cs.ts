@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Potvrdit všechna přiřazení</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -43,39 +43,39 @@
     </message>
     <message>
         <source>Auswahl abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit výběr</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Výběr do správce odkazů</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager senden</source>
-        <translation type="unfinished"></translation>
+        <translation>Odeslat výběr do správce odkazů</translation>
     </message>
     <message>
         <source>Automatisch zugeordnete Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Automaticky přiřazené řádky</translation>
     </message>
     <message>
         <source>Baum gefiltert darstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit filtrovaný strom</translation>
     </message>
     <message>
         <source>Beantragen einer ERP-Nummer per Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Požádat o číslo ERP e-mailem</translation>
     </message>
     <message>
         <source>Bearbeiten...</source>
-        <translation type="unfinished"></translation>
+        <translation>Upravit...</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
-        <translation type="unfinished"></translation>
+        <translation>Ověřit/změnit uživatele</translation>
     </message>
     <message>
         <source>Bestätigte Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Potvrzená přiřazení</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
@@ -101,15 +101,15 @@
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat záznam</translation>
     </message>
     <message>
         <source>Datensatz löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat záznam</translation>
     </message>
     <message>
         <source>Datensatz zur Linkdatenbank hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat záznam do databáze odkazů</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>Dokument-Liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam dokumentů</translation>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
-        <translation type="unfinished"></translation>
+        <translation>Požádat o číslo ERP</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -224,55 +224,55 @@
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkový počet řádků</translation>
     </message>
     <message>
         <source>Gruppe auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat skupinu</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Klasifikovat</translation>
     </message>
     <message>
         <source>Konflikte</source>
-        <translation type="unfinished"></translation>
+        <translation>Konflikty</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit legendu</translation>
     </message>
     <message>
         <source>Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Správce odkazů</translation>
     </message>
     <message>
         <source>Linkmanager aufrufen</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít správce odkazů</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Přihlášení</translation>
     </message>
     <message>
         <source>Löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat</translation>
     </message>
     <message>
         <source>Neu...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový...</translation>
     </message>
     <message>
         <source>Neuen Datensatz anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit nový záznam</translation>
     </message>
     <message>
         <source>Neuen Datensatz einfügen (übernimmt die Werte des markierten Datensatzes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vložit nový záznam (převezme hodnoty označeného záznamu)</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenalezené řádky</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Variable ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorovat proměnnou</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapnout a vypnout přednostní řady</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
-        <translation type="unfinished"></translation>
+        <translation>Přednostní řady zap/vyp</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
@@ -312,23 +312,23 @@
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
-        <translation type="unfinished"></translation>
+        <translation>XVARSET označeného dokumentu:</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen projekty s nepřiřazenými řádky</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit unvollständigen Mappings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen projekty s neúplným mapováním</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen projekty s přiřazenými řádky</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Znovu přiřadit řádky</translation>
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
@@ -336,11 +336,11 @@
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat cílový projekt</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat cílový projekt</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiřazení ke kontrole</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>Übersicht</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehled</translation>
     </message>
 </context>
 </TS>

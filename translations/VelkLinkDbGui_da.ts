@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekræft alle tildelinger</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -43,39 +43,39 @@
     </message>
     <message>
         <source>Auswahl abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuller markering</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Markering til linkmanager</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager senden</source>
-        <translation type="unfinished"></translation>
+        <translation>Send markeringen til linkmanageren</translation>
     </message>
     <message>
         <source>Automatisch zugeordnete Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisk tildelte linjer</translation>
     </message>
     <message>
         <source>Baum gefiltert darstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis filtreret træ</translation>
     </message>
     <message>
         <source>Beantragen einer ERP-Nummer per Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmod om et ERP-nummer via mail</translation>
     </message>
     <message>
         <source>Bearbeiten...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rediger...</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
-        <translation type="unfinished"></translation>
+        <translation>Godkend/skift bruger</translation>
     </message>
     <message>
         <source>Bestätigte Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekræftede tildelinger</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
@@ -101,15 +101,15 @@
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilføj post</translation>
     </message>
     <message>
         <source>Datensatz löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Slet post</translation>
     </message>
     <message>
         <source>Datensatz zur Linkdatenbank hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilføj en post til linkdatabasen</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>Dokument-Liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumentliste</translation>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmod om ERP-nummer</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -224,55 +224,55 @@
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Antal linjer i alt</translation>
     </message>
     <message>
         <source>Gruppe auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg gruppe</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassificer</translation>
     </message>
     <message>
         <source>Konflikte</source>
-        <translation type="unfinished"></translation>
+        <translation>Konflikter</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis forklaring</translation>
     </message>
     <message>
         <source>Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Linkmanager</translation>
     </message>
     <message>
         <source>Linkmanager aufrufen</source>
-        <translation type="unfinished"></translation>
+        <translation>Åbn linkmanageren</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Log ind</translation>
     </message>
     <message>
         <source>Löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Slet</translation>
     </message>
     <message>
         <source>Neu...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ny...</translation>
     </message>
     <message>
         <source>Neuen Datensatz anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>Opret en ny post</translation>
     </message>
     <message>
         <source>Neuen Datensatz einfügen (übernimmt die Werte des markierten Datensatzes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Indsæt en ny post (overtager værdierne fra den markerede post)</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Linjer, der ikke blev fundet</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Variable ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer variabel</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Slå foretrukne rækker til og fra</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
-        <translation type="unfinished"></translation>
+        <translation>Foretrukne rækker til/fra</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
@@ -312,23 +312,23 @@
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
-        <translation type="unfinished"></translation>
+        <translation>XVARSET for det markerede dokument:</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis kun projekter med linjer uden tildeling</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit unvollständigen Mappings</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis kun projekter med ufuldstændige tilknytninger</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis kun projekter med tildelte linjer</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tildel linjer igen</translation>
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
@@ -336,11 +336,11 @@
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg målprojekt</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilføj målprojekt</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tildelinger til kontrol</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>Übersicht</source>
-        <translation type="unfinished"></translation>
+        <translation>Oversigt</translation>
     </message>
 </context>
 </TS>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar todas las asignaciones</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -43,39 +43,39 @@
     </message>
     <message>
         <source>Auswahl abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar la selección</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección al gestor de enlaces</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager senden</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar la selección al gestor de enlaces</translation>
     </message>
     <message>
         <source>Automatisch zugeordnete Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas asignadas automáticamente</translation>
     </message>
     <message>
         <source>Baum gefiltert darstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el árbol filtrado</translation>
     </message>
     <message>
         <source>Beantragen einer ERP-Nummer per Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Solicitar un número ERP por correo</translation>
     </message>
     <message>
         <source>Bearbeiten...</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar...</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
-        <translation type="unfinished"></translation>
+        <translation>Autenticar/cambiar de usuario</translation>
     </message>
     <message>
         <source>Bestätigte Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Asignaciones confirmadas</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
@@ -101,15 +101,15 @@
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir registro</translation>
     </message>
     <message>
         <source>Datensatz löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar registro</translation>
     </message>
     <message>
         <source>Datensatz zur Linkdatenbank hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir un registro a la base de datos de enlaces</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>Dokument-Liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de documentos</translation>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
-        <translation type="unfinished"></translation>
+        <translation>Solicitar número ERP</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -224,55 +224,55 @@
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Número total de líneas</translation>
     </message>
     <message>
         <source>Gruppe auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar grupo</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Clasificar</translation>
     </message>
     <message>
         <source>Konflikte</source>
-        <translation type="unfinished"></translation>
+        <translation>Conflictos</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar leyenda</translation>
     </message>
     <message>
         <source>Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestor de enlaces</translation>
     </message>
     <message>
         <source>Linkmanager aufrufen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el gestor de enlaces</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar sesión</translation>
     </message>
     <message>
         <source>Löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Neu...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo...</translation>
     </message>
     <message>
         <source>Neuen Datensatz anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear un registro nuevo</translation>
     </message>
     <message>
         <source>Neuen Datensatz einfügen (übernimmt die Werte des markierten Datensatzes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Insertar un registro nuevo (toma los valores del registro seleccionado)</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas no encontradas</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Variable ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar variable</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar y desactivar las series preferentes</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
-        <translation type="unfinished"></translation>
+        <translation>Series preferentes sí/no</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
@@ -312,23 +312,23 @@
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
-        <translation type="unfinished"></translation>
+        <translation>XVARSET del documento seleccionado:</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo proyectos con líneas sin asignar</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit unvollständigen Mappings</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo proyectos con correspondencias incompletas</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo proyectos con líneas asignadas</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a asignar las líneas</translation>
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
@@ -336,11 +336,11 @@
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar proyecto de destino</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir proyecto de destino</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Asignaciones por comprobar</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>Übersicht</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
 </context>
 </TS>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vahvista kaikki kohdistukset</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -43,39 +43,39 @@
     </message>
     <message>
         <source>Auswahl abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Peruuta valinta</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Valinta linkkienhallintaan</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager senden</source>
-        <translation type="unfinished"></translation>
+        <translation>Lähetä valinta linkkienhallintaan</translation>
     </message>
     <message>
         <source>Automatisch zugeordnete Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Automaattisesti kohdistetut rivit</translation>
     </message>
     <message>
         <source>Baum gefiltert darstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Näytä suodatettu puu</translation>
     </message>
     <message>
         <source>Beantragen einer ERP-Nummer per Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Pyydä ERP-numero sähköpostitse</translation>
     </message>
     <message>
         <source>Bearbeiten...</source>
-        <translation type="unfinished"></translation>
+        <translation>Muokkaa...</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
-        <translation type="unfinished"></translation>
+        <translation>Tunnista/vaihda käyttäjä</translation>
     </message>
     <message>
         <source>Bestätigte Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vahvistetut kohdistukset</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
@@ -101,15 +101,15 @@
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisää tietue</translation>
     </message>
     <message>
         <source>Datensatz löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Poista tietue</translation>
     </message>
     <message>
         <source>Datensatz zur Linkdatenbank hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisää tietue linkkitietokantaan</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>Dokument-Liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Asiakirjaluettelo</translation>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pyydä ERP-numero</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -224,55 +224,55 @@
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Rivejä yhteensä</translation>
     </message>
     <message>
         <source>Gruppe auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Valitse ryhmä</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Luokittele</translation>
     </message>
     <message>
         <source>Konflikte</source>
-        <translation type="unfinished"></translation>
+        <translation>Ristiriidat</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Näytä selite</translation>
     </message>
     <message>
         <source>Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Linkkienhallinta</translation>
     </message>
     <message>
         <source>Linkmanager aufrufen</source>
-        <translation type="unfinished"></translation>
+        <translation>Avaa linkkienhallinta</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Kirjautuminen</translation>
     </message>
     <message>
         <source>Löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Poista</translation>
     </message>
     <message>
         <source>Neu...</source>
-        <translation type="unfinished"></translation>
+        <translation>Uusi...</translation>
     </message>
     <message>
         <source>Neuen Datensatz anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>Luo uusi tietue</translation>
     </message>
     <message>
         <source>Neuen Datensatz einfügen (übernimmt die Werte des markierten Datensatzes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisää uusi tietue (ottaa valitun tietueen arvot)</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Rivit, joita ei löytynyt</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Variable ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohita muuttuja</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Ota ensisijaiset sarjat käyttöön ja pois käytöstä</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
-        <translation type="unfinished"></translation>
+        <translation>Ensisijaiset sarjat päälle/pois</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
@@ -312,23 +312,23 @@
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
-        <translation type="unfinished"></translation>
+        <translation>Valitun asiakirjan XVARSET:</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Näytä vain projektit, joissa on kohdistamattomia rivejä</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit unvollständigen Mappings</source>
-        <translation type="unfinished"></translation>
+        <translation>Näytä vain projektit, joiden kohdistukset ovat puutteelliset</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Näytä vain projektit, joissa on kohdistettuja rivejä</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdista rivit uudelleen</translation>
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
@@ -336,11 +336,11 @@
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Valitse kohdeprojekti</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisää kohdeprojekti</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarkistettavat kohdistukset</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>Übersicht</source>
-        <translation type="unfinished"></translation>
+        <translation>Yleiskatsaus</translation>
     </message>
 </context>
 </TS>

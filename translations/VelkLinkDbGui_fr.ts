@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmer toutes les affectations</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -43,39 +43,39 @@
     </message>
     <message>
         <source>Auswahl abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la sélection</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection vers le gestionnaire de liens</translation>
     </message>
     <message>
         <source>Auswahl an Linkmanager senden</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer la sélection au gestionnaire de liens</translation>
     </message>
     <message>
         <source>Automatisch zugeordnete Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes affectées automatiquement</translation>
     </message>
     <message>
         <source>Baum gefiltert darstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l'arborescence filtrée</translation>
     </message>
     <message>
         <source>Beantragen einer ERP-Nummer per Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Demander un numéro ERP par courriel</translation>
     </message>
     <message>
         <source>Bearbeiten...</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier...</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
-        <translation type="unfinished"></translation>
+        <translation>Authentifier l'utilisateur/changer d'utilisateur</translation>
     </message>
     <message>
         <source>Bestätigte Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Affectations confirmées</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
@@ -101,15 +101,15 @@
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un enregistrement</translation>
     </message>
     <message>
         <source>Datensatz löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer l'enregistrement</translation>
     </message>
     <message>
         <source>Datensatz zur Linkdatenbank hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un enregistrement à la base de liens</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>Dokument-Liste</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des documents</translation>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
-        <translation type="unfinished"></translation>
+        <translation>Demander un numéro ERP</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -224,55 +224,55 @@
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre total de lignes</translation>
     </message>
     <message>
         <source>Gruppe auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un groupe</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Classer</translation>
     </message>
     <message>
         <source>Konflikte</source>
-        <translation type="unfinished"></translation>
+        <translation>Conflits</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la légende</translation>
     </message>
     <message>
         <source>Linkmanager</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionnaire de liens</translation>
     </message>
     <message>
         <source>Linkmanager aufrufen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le gestionnaire de liens</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion</translation>
     </message>
     <message>
         <source>Löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Neu...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau...</translation>
     </message>
     <message>
         <source>Neuen Datensatz anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un nouvel enregistrement</translation>
     </message>
     <message>
         <source>Neuen Datensatz einfügen (übernimmt die Werte des markierten Datensatzes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer un nouvel enregistrement (reprend les valeurs de l'enregistrement sélectionné)</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes introuvables</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Variable ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer la variable</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -296,11 +296,11 @@
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer et désactiver les séries préférentielles</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
-        <translation type="unfinished"></translation>
+        <translation>Séries préférentielles oui/non</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
@@ -312,23 +312,23 @@
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
-        <translation type="unfinished"></translation>
+        <translation>XVARSET du document sélectionné :</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>N'afficher que les projets avec des lignes non affectées</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit unvollständigen Mappings</source>
-        <translation type="unfinished"></translation>
+        <translation>N'afficher que les projets avec des correspondances incomplètes</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
-        <translation type="unfinished"></translation>
+        <translation>N'afficher que les projets avec des lignes affectées</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Affecter à nouveau les lignes</translation>
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
@@ -336,11 +336,11 @@
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un projet cible</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un projet cible</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Affectations à vérifier</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>Übersicht</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue d'ensemble</translation>
     </message>
 </context>
 </TS>

@@ -33,8 +33,10 @@ void mzComServerC::start()
         return;
     m_isRunning = true;
     const QList<mzComServerStateEventC *> members = m_members;
-    for (mzComServerStateEventC *member : members)
-        tellStart(*member);
+    for (mzComServerStateEventC *member : members) {
+        if (m_members.contains(member)) // and has not left meanwhile
+            tellStart(*member);
+    }
 }
 
 void mzComServerC::stop()
@@ -43,8 +45,8 @@ void mzComServerC::stop()
         return;
     m_isRunning = false;
     const QList<mzComServerStateEventC *> members = m_members;
-    std::for_each(members.crbegin(), members.crend(), [](mzComServerStateEventC *member) {
-        if (member->events() & mzComServerStateEventC::ServerStopping)
+    std::for_each(members.crbegin(), members.crend(), [this](mzComServerStateEventC *member) {
+        if (m_members.contains(member) && member->events() & mzComServerStateEventC::ServerStopping)
             member->serverDone();
     });
 }
