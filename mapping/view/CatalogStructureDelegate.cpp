@@ -86,6 +86,8 @@ void CatalogStructureDelegate::paint(QPainter *painter, const QStyleOptionViewIt
     initStyleOption(&item, index);
     const QPixmap composed = compose(d->iconsOf(index), item, IconRenderer(item, *painter));
     item.icon = QIcon(composed);
+    // Styles tint icons of selected rows, which would hide the states of the very row of interest.
+    item.icon.addPixmap(composed, QIcon::Selected);
     item.decorationSize = sizeOf(composed);
     const QStyle *style = item.widget ? item.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);

@@ -73,6 +73,25 @@ QImage imageOf(const QStyleOptionViewItem &item, qreal ratio = 1)
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
+/// Pixels that differ on white ground by a seventh of a colour or more.
+int clearlyDifferentPixels(QImage first, QImage second)
+{
+    for (QImage *image : {&first, &second}) {
+        QPainter painter(image);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+        painter.fillRect(image->rect(), Qt::white);
+    }
+    int count = 0;
+    for (int y = 0; y < first.height(); ++y)
+        for (int x = 0; x < first.width(); ++x) {
+            const QColor a = first.pixelColor(x, y);
+            const QColor b = second.pixelColor(x, y);
+            count += std::abs(a.red() - b.red()) > 38 || std::abs(a.green() - b.green()) > 38 ||
+                     std::abs(a.blue() - b.blue()) > 38;
+        }
+    return count;
+}
+
 QIcon iconOf(const QModelIndex &index)
 {
     return index.data(Qt::DecorationRole).value<QIcon>();
@@ -191,6 +210,25 @@ private Q_SLOTS:
         QCOMPARE(imageOf(item), expected.image);
     }
 
+    void everyCombinationLooksDifferent()
+    {
+        QList<QImage> pictures;
+        for (int i = 0; i < 24; ++i) {
+            Picture picture(QSize(16, 16));
+            const QList<bool> shown{i % 2 == 1, i / 2 % 2 == 1, i / 8 == 1, i / 8 == 2,
+                                    i / 4 % 2 == 1};
+            const char *names[] = {"error", "state_deleted", "state_check", "state_confirmed",
+                                   "state_conflict"};
+            for (int name = 0; name < 5; ++name)
+                if (shown[name])
+                    picture.draw(0, stateIcon(names[name]));
+            for (int other = 0; other < i; ++other)
+                QVERIFY2(clearlyDifferentPixels(pictures[other], picture.image) >= 2,
+                         qPrintable(QStringLiteral("%1 and %2").arg(other).arg(i)));
+            pictures += picture.image;
+        }
+    }
+
     void onTwoDevicePixelsToOne()
     {
         const CatalogStructureModel model(TestNode::root({TestNode::project("a.prj", 0x180)}));
@@ -282,6 +320,16 @@ private Q_SLOTS:
         QVERIFY(item.font.italic());
         QVERIFY(item.features.testFlag(QStyleOptionViewItem::HasDecoration));
         QVERIFY(item.index == model.index(0, 0));
+    }
+
+    void selectedRowsKeepTheirColours()
+    {
+        const CatalogStructureModel model(TestNode::root({TestNode::project("a.prj", 0x100)}));
+        QStyleOptionViewItem option = rowOption();
+        option.state |= QStyle::State_Selected;
+        const QStyleOptionViewItem item = painted(model.index(0, 0), option);
+        QCOMPARE(item.icon.pixmap(item.decorationSize, 1, QIcon::Selected).toImage(),
+                 item.icon.pixmap(item.decorationSize, 1, QIcon::Normal).toImage());
     }
 
     void theStyleOfTheWidgetDraws()
