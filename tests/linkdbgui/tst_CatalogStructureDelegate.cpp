@@ -73,7 +73,7 @@ QImage imageOf(const QStyleOptionViewItem &item, qreal ratio = 1)
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-/// Pixels that differ on white ground by a seventh of a colour or more.
+/// Pixels that differ on white ground by a third of a colour or so.
 int clearlyDifferentPixels(QImage first, QImage second)
 {
     for (QImage *image : {&first, &second}) {
@@ -86,8 +86,8 @@ int clearlyDifferentPixels(QImage first, QImage second)
         for (int x = 0; x < first.width(); ++x) {
             const QColor a = first.pixelColor(x, y);
             const QColor b = second.pixelColor(x, y);
-            count += std::abs(a.red() - b.red()) > 38 || std::abs(a.green() - b.green()) > 38 ||
-                     std::abs(a.blue() - b.blue()) > 38;
+            count += std::abs(a.red() - b.red()) > 80 || std::abs(a.green() - b.green()) > 80 ||
+                     std::abs(a.blue() - b.blue()) > 80;
         }
     return count;
 }
@@ -213,17 +213,16 @@ private Q_SLOTS:
     void everyCombinationLooksDifferent()
     {
         QList<QImage> pictures;
-        for (int i = 0; i < 24; ++i) {
+        for (int i = 0; i < 12; ++i) {
             Picture picture(QSize(16, 16));
-            const QList<bool> shown{i % 2 == 1, i / 2 % 2 == 1, i / 8 == 1, i / 8 == 2,
-                                    i / 4 % 2 == 1};
-            const char *names[] = {"error", "state_deleted", "state_check", "state_confirmed",
-                                   "state_conflict"};
-            for (int name = 0; name < 5; ++name)
-                if (shown[name])
-                    picture.draw(0, stateIcon(names[name]));
+            if (i % 2 == 1)
+                picture.draw(0, stateIcon("error"));
+            if (i / 2 % 2 == 1)
+                picture.draw(0, stateIcon("state_deleted"));
+            if (i / 4 > 0)
+                picture.draw(0, stateIcon(i / 4 == 1 ? "state_check" : "state_confirmed"));
             for (int other = 0; other < i; ++other)
-                QVERIFY2(clearlyDifferentPixels(pictures[other], picture.image) >= 2,
+                QVERIFY2(clearlyDifferentPixels(pictures[other], picture.image) >= 4,
                          qPrintable(QStringLiteral("%1 and %2").arg(other).arg(i)));
             pictures += picture.image;
         }
