@@ -1,10 +1,12 @@
 #include <core/config/PConfigInst.h>
+#include <core/message/PScriptedMessageSink.h>
 #include <gui/application/PApplication.h>
 #include <gui/application/PApplicationPool.h>
 
 #include <QAction>
 #include <QDialog>
 #include <QDir>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -63,6 +65,132 @@ private Q_SLOTS:
         PApplication::setupWindow(&other);
         QCOMPARE(other.size(), before);
         QCOMPARE(PApplication::getAppConfig()->keys("Windows").size(), 1);
+    }
+
+    void keepsGeometryInTheFile()
+    {
+        const QTemporaryDir dir;
+        const QString path = dir.filePath("app.cfg");
+        {
+            const PApplication host(PRefPtr<PConfig>(new PConfigInst(path, false)));
+            QDialog dialog;
+            dialog.setObjectName("dialog");
+            dialog.setGeometry(40, 50, 333, 222);
+            PApplication::saveWindow(&dialog);
+            dialog.setGeometry(60, 70, 300, 200);
+            PApplication::saveWindow(&dialog); // the last one counts
+        }
+        const PApplication host(PRefPtr<PConfig>(new PConfigInst(path, false)));
+        QDialog again;
+        again.setObjectName("dialog");
+        PApplication::setupWindow(&again);
+        QCOMPARE(again.geometry(), QRect(60, 70, 300, 200));
+    }
+
+    void keepsThatAWindowWasMaximised()
+    {
+        const QTemporaryDir dir;
+        const PApplication host(PRefPtr<PConfig>(new PConfigInst(dir.filePath("app.cfg"), false)));
+        {
+            QWidget window;
+            window.setObjectName("window");
+            window.setGeometry(40, 50, 300, 200);
+            window.showMaximized();
+            PApplication::saveWindow(&window);
+        }
+        QWidget again;
+        again.setObjectName("window");
+        PApplication::setupWindow(&again);
+        QVERIFY(again.isMaximized());
+        QVERIFY(!again.isVisible());
+        again.setWindowState(Qt::WindowNoState);
+        QCOMPARE(again.normalGeometry().size(), QSize(300, 200));
+    }
+
+    void windowsComeBackOntoTheScreen()
+    {
+        const QTemporaryDir dir;
+        const PApplication host(PRefPtr<PConfig>(new PConfigInst(dir.filePath("app.cfg"), false)));
+        {
+            QDialog dialog;
+            dialog.setObjectName("dialog");
+            dialog.setGeometry(9000, 9000, 300, 200);
+            PApplication::saveWindow(&dialog);
+        }
+        QDialog again;
+        again.setObjectName("dialog");
+        PApplication::setupWindow(&again);
+        QVERIFY(again.screen()->availableGeometry().intersects(again.geometry()));
+    }
+
+    void whatIsNoGeometryIsPassedOver_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("text") << "no geometry";
+        QTest::newRow("number") << "0";
+        QTest::newRow("cut off") << "AdnQywADAAA";
+        QTest::newRow("other characters") << "\u00e4\u00f6\u00fc";
+    }
+    void whatIsNoGeometryIsPassedOver()
+    {
+        QFETCH(QString, stored);
+        const QTemporaryDir dir;
+        const PApplication host(PRefPtr<PConfig>(new PConfigInst(dir.filePath("app.cfg"), false)));
+        QVERIFY(PApplication::getAppConfig()->SetValue("dialog", "Windows", stored));
+        QDialog dialog;
+        dialog.setObjectName("dialog");
+        dialog.setGeometry(40, 50, 333, 222);
+        PApplication::setupWindow(&dialog);
+        QCOMPARE(dialog.geometry(), QRect(40, 50, 333, 222));
+    }
+
+    void whatCannotBeKeptDoesNoHarm()
+    {
+        const QTemporaryDir dir;
+        const PApplication host(PRefPtr<PConfig>(new PConfigInst(dir.filePath("app.cfg"), true)));
+        QDialog dialog;
+        dialog.setObjectName("dialog");
+        PApplication::saveWindow(&dialog);
+        PApplication::setupWindow(&dialog);
+        QVERIFY(!QFile::exists(dir.filePath("app.cfg")));
+    }
+
+    void formsThatCannotBeReadAreLogged()
+    {
+        const QTemporaryDir dir;
+        QFile form(dir.filePath("broken.ui"));
+        QVERIFY(form.open(QIODevice::WriteOnly));
+        form.write("<ui version=\"4.0\"><widget");
+        form.close();
+        const auto sink = std::make_shared<PScriptedMessageSink>();
+        const PMessageSinkScope scope(sink);
+        QCOMPARE(PApplication::createWidget(form.fileName(), nullptr, false), nullptr);
+        QCOMPARE(PApplication::createWidget(dir.filePath("missing.ui"), nullptr, true), nullptr);
+        QCOMPARE(sink->logged().size(), 2);
+        for (const QString &name : {form.fileName(), dir.filePath("missing.ui")})
+            QVERIFY2(sink->logged().filter(name).size() == 1, qPrintable(name));
+        QVERIFY(sink->logged().constFirst().startsWith("Die Maske "));
+        QVERIFY(sink->logged().constFirst().size() >
+                form.fileName().size() +
+                    qsizetype(strlen("Die Maske  kann nicht geladen werden: ")));
+        QVERIFY(sink->shown().isEmpty());
+    }
+
+    void aFormIsShownOrGivenToItsParent()
+    {
+        const QTemporaryDir dir;
+        QFile form(dir.filePath("some.ui"));
+        QVERIFY(form.open(QIODevice::WriteOnly));
+        form.write("<ui version=\"4.0\"><class>Some</class><widget class=\"QWidget\" "
+                   "name=\"Some\"/></ui>");
+        form.close();
+        const std::unique_ptr<QWidget> shown(
+            PApplication::createWidget(form.fileName(), nullptr, true));
+        QVERIFY(shown && shown->isVisible());
+        QWidget parent;
+        const QWidget *child = PApplication::createWidget(form.fileName(), &parent, false);
+        QVERIFY(child);
+        QCOMPARE(child->parentWidget(), &parent);
     }
 
     void createsFormsThroughTheSearchPath()

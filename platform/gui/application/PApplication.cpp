@@ -80,8 +80,10 @@ void PApplication::setupWindow(QWidget *window)
         return;
     const QString stored =
         getAppConfig()->getItemValue(window->objectName(), windowSection, QString()).GetString();
-    if (!stored.isEmpty())
-        window->restoreGeometry(QByteArray::fromBase64(stored.toLatin1()));
+    const QByteArray geometry = QByteArray::fromBase64(stored.toLatin1());
+    // Qt restores what was cut off too, to a window without extent.
+    if (geometry.size() >= window->saveGeometry().size())
+        window->restoreGeometry(geometry);
 }
 
 void PApplication::saveWindow(const QWidget *window)
