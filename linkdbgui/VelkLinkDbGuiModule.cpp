@@ -1,6 +1,7 @@
 // All that the library does while it loads and, the other way round, while it is unloaded. The
 // order of the static objects in this file is the order of the steps.
 
+#include "LibraryMetaTypes.h"
 #include "LinkDbGuiC.h"
 #include "Loggers.h"
 #include "ScriptClasses.h"
@@ -56,6 +57,9 @@ struct Translations
     ~Translations() { PTranslateManager::unregisterModule(moduleName); }
     Q_DISABLE_COPY_MOVE(Translations)
 };
+
+// Does nothing now; comes first to go last.
+const LibraryMetaTypes metaTypes;
 
 // 1. Texts of the mapping editor, before there are translations.
 const QString ignoreText =

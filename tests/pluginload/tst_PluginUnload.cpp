@@ -9,8 +9,12 @@
 #include <gui/application/PApplicationPool.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QMetaType>
+#include <QPixmapCache>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <dlfcn.h>
@@ -39,6 +43,7 @@ private Q_SLOTS:
     void loadsOnceMore();
     void markerIsMadeBeforeTheTranslations();
     void catalogIsUsedAtOnce();
+    void afterTheEditorWasUsed();
 
 private:
     void load();
@@ -63,6 +68,17 @@ const QString catalog = QStringLiteral(":/translations/VelkLinkDbGui_en.qm");
 // Functions of the plug-in by the names that the linker knows.
 constexpr const char *ignoreMarkerSymbol = "_Z12ignoreMarkerv";
 constexpr const char *loggerSymbol = "_Z18plmDocumentsLoggerv";
+
+/// Of all types that Qt knows beyond its own.
+QStringList namesOfCustomTypes()
+{
+    QStringList names;
+    for (int id = QMetaType::User + 1; id < QMetaType::User + 1000; ++id) {
+        if (QMetaType::isRegistered(id))
+            names << QString::fromUtf8(QMetaType(id).name());
+    }
+    return names;
+}
 
 } // namespace
 
@@ -224,6 +240,27 @@ void tst_PluginUnload::catalogIsUsedAtOnce()
     load();
     QCOMPARE(PTranslateManager::instance().translatedModules(),
              QStringList{QStringLiteral("VelkLinkDbGui")});
+}
+
+void tst_PluginUnload::afterTheEditorWasUsed()
+{
+    const QTemporaryDir data;
+    QVERIFY(QFile::link(QStringLiteral(VELK_SOURCE_DIR "/examples/release-2"),
+                        data.filePath(QStringLiteral("23d-libs"))));
+    qputenv("TORMEVA_DATA", QFile::encodeName(data.path()));
+    m_library = dlopen(VELK_PROBE_FILE, RTLD_NOW | RTLD_LOCAL);
+    QVERIFY2(m_library, dlerror());
+    auto *const useEditor = function<int(const QString &)>("useEditor");
+    QVERIFY(useEditor);
+    QCOMPARE_GT(useEditor(QStringLiteral(VELK_SOURCE_DIR "/examples/release-1")), 0);
+    unload();
+    QVERIFY(!isLoaded());
+    QVERIFY(PPluginRegistry::instance().plugins().isEmpty());
+    QVERIFY(!QFile::exists(form));
+    QCOMPARE(namesOfCustomTypes().filter(QLatin1String("CatalogStructureNodeI")), QStringList());
+    QPixmapCache::clear();
+    QApplication::processEvents();
+    qunsetenv("TORMEVA_DATA");
 }
 
 QTEST_MAIN(tst_PluginUnload)

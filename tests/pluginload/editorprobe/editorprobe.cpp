@@ -1,0 +1,66 @@
+// What a host does with the mapping editor, in a library that comes and goes with the plug-in.
+
+#include <geomcore/records/PrjMappingC.h>
+#include <geomcore/records/PrjMappingTargetC.h>
+#include <geomcore/records/ReleaseMappingC.h>
+#include <mapping/data/ReleaseMappingHandler.h>
+#include <mapping/view/CatalogMappingWidget.h>
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeView>
+
+#include <memory>
+
+namespace {
+
+ReleaseMappingC exampleRelease()
+{
+    PrjMappingC mapping;
+    mapping.setSourcePath(QStringLiteral("standardparts/keys/din6885.prj"));
+    PrjMappingTargetC target;
+    target.setTargetPath(QStringLiteral("standardparts/keys/din6885-a.prj"));
+    target.setValid(true);
+    target.addLineId(1, 1, PRJMAPPING::Mapped, QString());
+    mapping.addTarget(target);
+    ReleaseMappingC release;
+    release.addMapping(mapping);
+    return release;
+}
+
+QPushButton *verifyAllButton(const QWidget &editor)
+{
+    for (QPushButton *button : editor.findChildren<QPushButton *>()) {
+        if (button->toolTip() == QStringLiteral("Alle Zuordnungen bestätigen"))
+            return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+/// Opens a project of the example catalog in the editor and confirms all its lines, with keyboard
+/// and mouse. Gives the number of confirmed lines, -1 if the editor is not as expected.
+extern "C" Q_DECL_EXPORT int useEditor(const QString &sourceRoot)
+{
+    auto *const handler =
+        new ReleaseMappingHandler(exampleRelease(), QStringLiteral("standardparts"), QString());
+    const auto editor =
+        std::make_unique<CatalogMappingWidget>(sourceRoot, handler, nullptr, nullptr);
+    editor->show();
+    if (!QTest::qWaitForWindowExposed(editor.get()))
+        return -1;
+    auto *const tree = editor->findChild<QTreeView *>(QStringLiteral("treeView"));
+    QPushButton *const verifyAll = verifyAllButton(*editor);
+    if (!tree || !verifyAll)
+        return -1;
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Home);
+    for (int i = 0; i < 8; ++i) // opens a directory, then goes to its first row
+        QTest::keyClick(tree, Qt::Key_Right);
+    QApplication::processEvents();
+    QTest::mouseClick(verifyAll, Qt::LeftButton);
+    QApplication::processEvents();
+    return handler->countVerified();
+}
