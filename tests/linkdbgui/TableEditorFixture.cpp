@@ -26,7 +26,8 @@ QModelIndex indexOf(VkTableView *view, int line, const QString &key = {})
             column = i;
     }
     const QModelIndex index = model->index(model->rowOf(VKTab::LineId(line)), column);
-    view->grid()->scrollTo(index);
+    if (index.isValid())
+        view->grid()->scrollTo(index);
     return index;
 }
 
@@ -112,7 +113,8 @@ QMenu *TableEditorFixture::openMenu(VkTableView *view, int line) const
 {
     const QModelIndex index = indexOf(view, line);
     QWidget *const viewport = view->grid()->viewport();
-    const QPoint place = view->grid()->visualRect(index).center();
+    const QPoint place = index.isValid() ? view->grid()->visualRect(index).center()
+                                         : viewport->rect().bottomLeft() + QPoint(5, -5);
     QContextMenuEvent event(QContextMenuEvent::Mouse, place, viewport->mapToGlobal(place));
     QCoreApplication::sendEvent(viewport, &event);
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());

@@ -42,7 +42,8 @@ struct TableEditorFixture
     void select(int sourceLine) const { click(source, sourceLine); }
     /// Key to the widget's window, with the focus in the source view.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
-    /// Opens the context menu of a line; null if none came. The caller closes it.
+    /// Opens the context menu of a line, or below the lines for one that is not shown; null if none
+    /// came. The caller closes it.
     [[nodiscard]] QMenu *openMenu(VkTableView *view, int line) const;
     [[nodiscard]] static QAction *rowOf(QMenu *menu, const QString &text);
 

@@ -1,6 +1,55 @@
 #include "TableEditorFixture.h"
 
+#include <mapping/project/ProjectMappingWidget.h>
+
+#include <core/progress/PProgressObserverBase.h>
+#include <geomcore/table/Line.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
 #include <QTest>
+
+using PRJMAPPING::Mapped;
+using PRJMAPPING::ToCheck;
+using PRJMAPPING::Verified;
+using VKTab::LineId;
+
+namespace {
+
+/// Asks to cancel a progress once it has come so far.
+class CancelAfter : public PProgressObserverBase
+{
+public:
+    explicit CancelAfter(int steps)
+        : m_steps(steps)
+    {
+        activate(Thread);
+    }
+    ~CancelAfter() override { deactivate(); }
+    void progressStarted(const PProgressInfo &info) override { note(info); }
+    void progressChanged(const PProgressInfo &info) override { note(info); }
+    void progressText(const PProgressInfo &info) override { note(info); }
+    void progressDone(const PProgressInfo &info) override { note(info); }
+
+    PProgressInfo last;
+
+private:
+    void note(const PProgressInfo &info)
+    {
+        last = info;
+        if (info.count >= m_steps && info.cancel)
+            info.cancel->request();
+    }
+
+    const int m_steps;
+};
+
+constexpr const char *confirmText = "Zuordnung bestätigen";
+constexpr const char *removeText = "Zuordnung dieser Zeile aufheben";
+constexpr const char *removeVerifyText = "Zuordnung dieser Zeile aufheben und bestätigen";
+
+} // namespace
 
 class tst_LineMappingActions : public QObject
 {
@@ -9,9 +58,65 @@ class tst_LineMappingActions : public QObject
 private Q_SLOTS:
     void init();
     void cleanup() { f.reset(); }
+
     void confirmByKey();
+    void keyActsAtOnce();
+    void confirmStates_data();
+    void confirmStates();
+    void changeTheTargetLine();
+    void mapUnassignedLine();
+    void mapLineWithProposal();
+    void mapWithoutTargetTable();
+    void mapSeveralLines();
+    void mapWithoutSelection();
+    void withoutRelease();
+    void assignedLineIsGone();
+    void extendedTextStaysOnConfirm();
+    void extendedTextGoesOnChange();
+    void onlyOwnCombinationTakesTheChosenLine();
+    void rangesThatNoConditionReadsAreNotWalked();
+    void conflictIsAcceptedBeforeTheChange();
+
+    void removeByKey();
+    void removeMakesTheNotFoundTarget();
+    void removeKeepsTheNotFoundTarget();
+    void removeWithoutAssignment();
+    void removeSeveralLines();
+    void removeAnnouncesNoConflict();
+    void removeAndVerifyByKey();
+    void removeAndVerifyNotFound();
+
+    void verifyAll();
+    void verifyAllWithoutTable();
+
+    void remap_data();
+    void remap();
+    void remapTakesChangedTables();
+    void remapWithoutRelease();
+    void remapCancelled();
+    void remapWalksCombinations();
+
+    void sourceMenu();
+    void sourceMenuWithAnotherTargetLine();
+    void sourceMenuWithoutTarget();
+    void sourceMenuOfSeveralLines();
+    void sourceMenuRowsAct();
+    void targetMenu();
+    void menusBesideLines();
+
+    void iconOfPassingLine();
+    void iconOfFailingLine();
+    void iconOfUnknownKey();
 
 private:
+    [[nodiscard]] QString entries() const { return entriesOf(f->current()); }
+    void conflict(int line)
+    {
+        PrjMappingTargetC target = f->mapping.findTarget(0);
+        target.setLineConflicted(line, true);
+        f->mapping.updateTarget(0, target);
+    }
+
     std::unique_ptr<TableEditorFixture> f;
 };
 
@@ -20,21 +125,572 @@ void tst_LineMappingActions::init()
     f = std::make_unique<TableEditorFixture>();
     f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\n");
     f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n");
-    enter(f->mapping, 0, 1, 3, PRJMAPPING::Mapped);
-    enter(f->mapping, 0, 2, 2, PRJMAPPING::ToCheck);
+    enter(f->mapping, 0, 1, 3, Mapped);
+    enter(f->mapping, 0, 2, 2, ToCheck);
 }
 
 void tst_LineMappingActions::confirmByKey()
 {
     f->load();
-    QCOMPARE(f->states(), "- C N");
+    QCOMPARE(f->states(), QString("- C N"));
     f->select(2);
-    QCOMPARE(f->targetTable().getSelection(), VKTab::LineId(2));
+    QCOMPARE(f->targetTable().getSelection(), LineId(2));
     f->press(Qt::Key_V);
     QCOMPARE(f->published.size(), 1);
-    QCOMPARE(entriesOf(f->current()), "0:1>3/1 0:2>2/2");
-    QCOMPARE(f->states(), "- M N");
-    f->widget->grab().save("/tmp/table_shot.png");
+    QCOMPARE(entries(), QString("0:1>3/1 0:2>2/2"));
+    QCOMPARE(f->states(), QString("- M N"));
+    QCOMPARE(f->current().getMappingState(),
+             PRJMAPPING::StateVerified | PRJMAPPING::StateIncomplete);
+    QCOMPARE(f->accepted, QList<int>());
+}
+
+void tst_LineMappingActions::keyActsAtOnce()
+{
+    f->load();
+    f->select(1);
+    f->press(Qt::Key_V);
+    f->press(Qt::Key_Down);
+    f->press(Qt::Key_V);
+    QCOMPARE(entries(), QString("0:1>3/2 0:2>2/2"));
+    QCOMPARE(f->published.size(), 2);
+}
+
+void tst_LineMappingActions::confirmStates_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::newRow("to check") << 0;
+    QTest::newRow("mapped") << 1;
+    QTest::newRow("verified") << 2;
+    QTest::newRow("unknown") << 3;
+}
+
+void tst_LineMappingActions::confirmStates()
+{
+    QFETCH(int, state);
+    enter(f->mapping, 0, 1, 3, PRJMAPPING::CheckState(state));
+    f->load();
+    f->select(1);
+    QTest::mouseClick(f->button("btnMapLine"), Qt::LeftButton);
+    QCOMPARE(entries(), QString("0:1>3/2 0:2>2/0"));
+    QCOMPARE(f->published.size(), 1);
+}
+
+void tst_LineMappingActions::changeTheTargetLine()
+{
+    f->load();
+    f->select(2);
+    f->click(f->target, 1);
+    f->press(Qt::Key_V);
+    QCOMPARE(entries(), QString("0:1>3/1 0:2>1/2"));
+    QCOMPARE(f->states(), QString("- M N"));
+    QCOMPARE(f->targetTable().getSelection(), LineId(1));
+    QCOMPARE(TableEditorFixture::status(f->targetTable(), 1, "TargetMapping"), QString("C"));
+    QCOMPARE(TableEditorFixture::status(f->targetTable(), 2, "TargetMapping"), QString());
+}
+
+void tst_LineMappingActions::mapUnassignedLine()
+{
+    // No target holds the line and none has an equal one: no history, so nothing happens.
+    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nZZ,4711\n");
+    f->load();
+    f->select(3);
+    QVERIFY(!f->targetTable().isValid());
+    f->press(Qt::Key_V);
+    QCOMPARE(f->published.size(), 0);
+}
+
+void tst_LineMappingActions::mapLineWithProposal()
+{
+    f->load();
+    f->select(3);
+    QCOMPARE(f->targetTable().getSelection(), LineId(1));
+    f->press(Qt::Key_V);
+    QCOMPARE(entries(), QString("0:1>3/1 0:2>2/0 0:3>1/2"));
+    QCOMPARE(f->states(), QString("- C M"));
+}
+
+void tst_LineMappingActions::mapWithoutTargetTable()
+{
+    f->mapping = mappingOf("old/a.prj", {"new/gone.prj"});
+    enter(f->mapping, 0, 1, 7, Mapped);
+    f->load();
+    f->select(1);
+    QVERIFY(!f->targetTable().isValid());
+    f->press(Qt::Key_V);
+    QCOMPARE(entries(), QString("0:1>7/2"));
+}
+
+void tst_LineMappingActions::mapSeveralLines()
+{
+    f->load();
+    f->select(1);
+    f->click(f->source, 2, Qt::ShiftModifier);
+    QVERIFY(!f->targetTable().isValid());
+    f->press(Qt::Key_V);
+    QCOMPARE(f->published.size(), 2); // once for each line
+    QCOMPARE(entriesOf(f->published.first()), QString("0:1>3/2 0:2>2/0"));
+    QCOMPARE(entries(), QString("0:1>3/2 0:2>2/2"));
+    QCOMPARE(f->source->getSelectedLineCount(), 2);
+}
+
+void tst_LineMappingActions::mapWithoutSelection()
+{
+    f->load();
+    f->press(Qt::Key_V);
+    QCOMPARE(f->published.size(), 0);
+}
+
+void tst_LineMappingActions::withoutRelease()
+{
+    f->withRelease = false;
+    f->load();
+    f->select(1);
+    f->press(Qt::Key_V);
+    f->press(Qt::Key_X);
+    QCOMPARE(f->published.size(), 0);
+    QVERIFY(!f->targetTable().isValid());
+}
+
+void tst_LineMappingActions::assignedLineIsGone()
+{
+    enter(f->mapping, 0, 2, 99, Mapped);
+    f->load();
+    f->select(2);
+    QVERIFY(f->targetTable().isValid());
+    QVERIFY(!f->targetTable().getSelection().isValid());
+    QCOMPARE(f->button("btnMapLine")->toolTip(), QString("Zuordnung bestätigen (v)"));
+    f->press(Qt::Key_V);
+    QCOMPARE(entries(), QString("0:1>3/1 0:2>-1/2"));
+    QCOMPARE(f->states(), QString("- NC N"));
+}
+
+void tst_LineMappingActions::extendedTextStaysOnConfirm()
+{
+    enter(f->mapping, 0, 2, 2, ToCheck, "{k=6} -> 1");
+    f->load();
+    f->select(2);
+    f->press(Qt::Key_V);
+    QCOMPARE(entries(), QString("0:1>3/1 0:2>2/2"));
+    QCOMPARE(f->current().findTarget(0).getMappedLine(2).getExtended(), QString("{k=6} -> 1"));
+}
+
+void tst_LineMappingActions::extendedTextGoesOnChange()
+{
+    enter(f->mapping, 0, 2, 2, ToCheck, "{k=6} -> 1");
+    f->load();
+    f->select(2);
+    f->click(f->target, 1);
+    QVERIFY(!f->button("btnMapLine")->isEnabled());
+    f->press(Qt::Key_V);
+    QCOMPARE(f->published.size(), 0);
+    QMetaObject::invokeMethod(f->button("btnMapLine"), "clicked");
+    QCOMPARE(entries(), QString("0:1>3/1 0:2>1/2"));
+    QCOMPARE(f->current().findTarget(0).getMappedLine(2).getExtended(), QString());
+}
+
+void tst_LineMappingActions::onlyOwnCombinationTakesTheChosenLine()
+{
+    f->catalog.write("old/a.prj", "D,L:r\nM8,10;20\n");
+    f->catalog.write("new/a.prj", "D,L:n\nM8,10\nM8,20\nM8,30\n");
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addCondition(f->mapping, 0, "L .LT. 50");
+    enter(f->mapping, 0, 1, 1, Mapped);
+    ProjectMappingWidget project(nullptr);
+    f->widget->setProjectMappingWidget(&project);
+    project.loadSourceProject(f->mapping, f->read("old/a.prj"), CatalogMappingC());
+    QCOMPARE(project.collectConditionVariables(), QStringList("L"));
+    f->load();
+    f->select(1);
+    QCOMPARE(f->targetTable().getSelection(), LineId(1));
+    f->click(f->target, 3);
+    QMetaObject::invokeMethod(f->button("btnMapLine"), "clicked");
+    // Neither combination has the line's own values, the text of the range: both keep their line.
+    QCOMPARE(f->published.size(), 2);
+    QCOMPARE(entries(), QString("0:1>1/2"));
+
+    // A line that stores one of the values: that combination alone takes the chosen line.
+    VKTab::Line line = f->sourceTable().getLine(LineId(1), false);
+    line.putValue(f->sourceTable().getVar(u"L").getVarId(), VKTab::Value("20"));
+    QVERIFY(line.apply());
+    f->published.clear();
+    f->click(f->target, 2);
+    QMetaObject::invokeMethod(f->button("btnMapLine"), "clicked");
+    QCOMPARE(f->published.size(), 2);
+    QCOMPARE(entriesOf(f->published.first()), QString("0:1>1/2"));
+    QCOMPARE(entries(), QString("0:1>2/2"));
+    f->widget->setProjectMappingWidget(nullptr);
+}
+
+void tst_LineMappingActions::rangesThatNoConditionReadsAreNotWalked()
+{
+    f->catalog.write("old/a.prj", "D,L:r\nM8,10;20\n");
+    f->catalog.write("new/a.prj", "D,L:n\nM8,10\nM8,20\n");
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    enter(f->mapping, 0, 1, 1, Mapped);
+    f->load();
+    f->select(1);
+    f->click(f->target, 2);
+    f->press(Qt::Key_V);
+    QCOMPARE(f->published.size(), 1);
+    QCOMPARE(entries(), QString("0:1>2/2"));
+}
+
+void tst_LineMappingActions::conflictIsAcceptedBeforeTheChange()
+{
+    conflict(2);
+    f->load();
+    QCOMPARE(f->states(), QString("- Conflicted N"));
+    f->select(1);
+    f->press(Qt::Key_V);
+    QCOMPARE(f->order, QStringList("published"));
+    f->order.clear();
+    f->select(2);
+    f->press(Qt::Key_V);
+    QCOMPARE(f->order, QStringList({"accepted 2", "published"}));
+    QVERIFY(!f->current().findTarget(0).getLineConflicted(2));
+    QCOMPARE(f->states(), QString("M M N"));
+}
+
+void tst_LineMappingActions::removeByKey()
+{
+    f->load();
+    f->select(1);
+    f->press(Qt::Key_X);
+    QCOMPARE(f->published.size(), 1);
+    QCOMPARE(entries(), QString("0:2>2/0 -:1>-1/1"));
+    QCOMPARE(f->states(), QString("N C N"));
+    QVERIFY(!f->targetTable().isValid());
+    QVERIFY(!f->button("btnRemoveLine")->isEnabled());
+    QCOMPARE(f->label("targetPathLabel")->text(), QString());
+}
+
+void tst_LineMappingActions::removeMakesTheNotFoundTarget()
+{
+    f->load();
+    QCOMPARE(f->mapping.getNotFoundTarget(), -1);
+    f->select(1);
+    f->press(Qt::Key_X);
+    QCOMPARE(f->current().getNotFoundTarget(), 1);
+    QCOMPARE(f->current().countTargets(), 2);
+    QVERIFY(f->current().findTarget(1).isValid());
+    QVERIFY(f->current().getMappingState().testFlag(PRJMAPPING::StateUnmapped));
+}
+
+void tst_LineMappingActions::removeKeepsTheNotFoundTarget()
+{
+    f->mapping.addTarget("", "");
+    enter(f->mapping, 1, 3, -1, Verified);
+    f->load();
+    f->select(1);
+    f->press(Qt::Key_X);
+    QCOMPARE(f->current().countTargets(), 2);
+    QCOMPARE(entries(), QString("0:2>2/0 -:1>-1/1 -:3>-1/2"));
+    QCOMPARE(f->states(), QString("N C NC"));
+}
+
+void tst_LineMappingActions::removeWithoutAssignment()
+{
+    f->mapping.addTarget("", "");
+    enter(f->mapping, 1, 3, -1, ToCheck);
+    f->load();
+    f->select(3);
+    QVERIFY(!f->button("btnRemoveLine")->isEnabled());
+    f->press(Qt::Key_X);
+    QMetaObject::invokeMethod(f->button("btnRemoveLine"), "clicked");
+    QCOMPARE(f->published.size(), 0);
+    QCOMPARE(f->states(), QString("- C N"));
+}
+
+void tst_LineMappingActions::removeSeveralLines()
+{
+    f->mapping.addTarget("", "");
+    enter(f->mapping, 1, 3, -1, ToCheck);
+    f->load();
+    f->select(1);
+    f->click(f->source, 3, Qt::ShiftModifier);
+    QVERIFY(f->button("btnRemoveLine")->isEnabled());
+    f->press(Qt::Key_X);
+    QCOMPARE(f->published.size(), 2); // line 3 has no assignment
+    QCOMPARE(entries(), QString("-:1>-1/1 -:2>-1/1 -:3>-1/0"));
+}
+
+void tst_LineMappingActions::removeAnnouncesNoConflict()
+{
+    conflict(2);
+    f->load();
+    f->select(2);
+    f->press(Qt::Key_X);
+    QCOMPARE(f->order, QStringList("published")); // the flag went with the entry
+    QCOMPARE(f->states(), QString("- N N"));
+}
+
+void tst_LineMappingActions::removeAndVerifyByKey()
+{
+    f->load();
+    f->select(1);
+    f->press(Qt::Key_X, Qt::ControlModifier);
+    QCOMPARE(entries(), QString("0:2>2/0 -:1>-1/2"));
+    QCOMPARE(f->states(), QString("NC C N"));
+    QCOMPARE(f->published.size(), 2); // the removal, then its confirmation
+    QCOMPARE(entriesOf(f->published.first()), QString("0:2>2/0 -:1>-1/1"));
+}
+
+void tst_LineMappingActions::removeAndVerifyNotFound()
+{
+    f->mapping.addTarget("", "");
+    enter(f->mapping, 1, 3, -1, ToCheck);
+    f->load();
+    f->select(3);
+    QVERIFY(!f->button("btnRemoveVerifyLine")->isEnabled());
+    QMetaObject::invokeMethod(f->button("btnRemoveVerifyLine"), "clicked");
+    QCOMPARE(f->published.size(), 1);
+    QCOMPARE(f->states(), QString("- C NC"));
+}
+
+void tst_LineMappingActions::verifyAll()
+{
+    f->mapping.addTarget("", "");
+    enter(f->mapping, 1, 3, -1, ToCheck);
+    enter(f->mapping, 0, 2, 2, ToCheck, "{k=6} -> 1");
+    conflict(2);
+    f->load();
+    QTest::mouseClick(f->button("btnVerifyAll"), Qt::LeftButton);
+    QCOMPARE(f->order, QStringList({"accepted 1", "accepted 2", "accepted 3", "published"}));
+    QCOMPARE(entries(), QString("0:1>3/2 0:2>2/2 -:3>-1/2"));
+    QCOMPARE(f->current().findTarget(0).getMappedLine(2).getExtended(), QString("{k=6} -> 1"));
+    // verifyAll keeps the flag; the conflict widget takes it away.
+    QCOMPARE(f->states(), QString("M Conflicted NC"));
+}
+
+void tst_LineMappingActions::verifyAllWithoutTable()
+{
+    QTest::mouseClick(f->button("btnVerifyAll"), Qt::LeftButton);
+    QVERIFY(f->order.isEmpty());
+}
+
+void tst_LineMappingActions::remap_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("targetLine");
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("marker");
+
+    QTest::newRow("confirmed survives") << 2 << 1 << "0:1>1/2"
+                                        << "M";
+    QTest::newRow("confirmed expiry survives") << 2 << -1 << "0:1>-1/2"
+                                               << "NC";
+    QTest::newRow("mapped is worked out afresh") << 1 << 1 << "0:1>3/1"
+                                                 << "-";
+    QTest::newRow("proposal is worked out afresh") << 0 << 1 << "0:1>3/1"
+                                                   << "-";
+}
+
+void tst_LineMappingActions::remap()
+{
+    QFETCH(int, state);
+    QFETCH(int, targetLine);
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    enter(f->mapping, 0, 1, targetLine, PRJMAPPING::CheckState(state));
+    f->load();
+    f->widget->onRemapLinesClicked();
+    QCOMPARE(f->published.size(), 1);
+    // Line 2 fails its check, line 3 passes.
+    QTEST(entries().section(' ', 0, 0), "expected");
+    QCOMPARE(entries().section(' ', 1), QString("0:2>2/0 0:3>1/1"));
+    QTEST(f->states().section(' ', 0, 0), "marker");
+    QCOMPARE(f->states().section(' ', 1), QString("C -"));
+}
+
+void tst_LineMappingActions::remapTakesChangedTables()
+{
+    f->catalog.write("old/a.prj", "D,k:n\nZZ,4711\nM9,6\nM10,7\n");
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    enter(f->mapping, 0, 1, 1, Mapped);
+    f->load();
+    f->widget->onRemapLinesClicked();
+    QCOMPARE(f->states(), QString("N C -"));
+    QCOMPARE(entries(), QString("0:2>2/0 0:3>1/1 -:1>-1/0"));
+}
+
+void tst_LineMappingActions::remapWithoutRelease()
+{
+    f->withRelease = false;
+    f->load();
+    f->widget->onRemapLinesClicked();
+    QCOMPARE(f->published.size(), 0);
+}
+
+void tst_LineMappingActions::remapCancelled()
+{
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    enter(f->mapping, 0, 2, 1, Verified);
+    enter(f->mapping, 0, 3, 2, Mapped);
+    f->load();
+    {
+        const CancelAfter observer(0);
+        f->widget->onRemapLinesClicked();
+        QCOMPARE(observer.last.text, QString("Zeilen werden neu zugewiesen"));
+        QVERIFY(observer.last.cancellable);
+    }
+    QCOMPARE(f->published.size(), 1);
+    QVERIFY(entries().contains("0:2>1/2"));
+    QVERIFY(entries().contains("0:3>2/1")); // not reached
+}
+
+void tst_LineMappingActions::remapWalksCombinations()
+{
+    f->catalog.write("old/a.prj", "D,L:r\nM8,10;20\n");
+    f->catalog.write("new/a.prj", "D,L:n\nM8,10\n");
+    f->catalog.write("new/b.prj", "D,L:n\nM8,20\n");
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj"});
+    addCondition(f->mapping, 0, "L .LT. 15");
+    addCondition(f->mapping, 1, "L .GT. 15");
+    ProjectMappingWidget project(nullptr);
+    f->widget->setProjectMappingWidget(&project);
+    project.loadSourceProject(f->mapping, f->read("old/a.prj"), CatalogMappingC());
+    f->load();
+    f->widget->onRemapLinesClicked();
+    // Both combinations are found; the last one holds the line.
+    QCOMPARE(entries().section('/', 0, 0), QString("1:1>1"));
+    f->widget->setProjectMappingWidget(nullptr);
+}
+
+void tst_LineMappingActions::sourceMenu()
+{
+    f->load();
+    f->select(2);
+    QMenu *const menu = f->openMenu(f->source, 2);
+    QVERIFY(menu);
+    const QStringList texts = {
+        confirmText, removeText, removeVerifyText,
+        "Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren",
+        "Aufgelöste Wertebereiche für diese Zeile zuordnen"};
+    for (int i = 0; i < texts.size(); ++i) {
+        QCOMPARE(menu->actions().at(i)->text(), texts.at(i));
+        QVERIFY(menu->actions().at(i)->isEnabled());
+        QCOMPARE(menu->actions().at(i)->parent(), menu);
+    }
+    menu->close();
+}
+
+void tst_LineMappingActions::sourceMenuWithAnotherTargetLine()
+{
+    f->load();
+    f->select(2);
+    f->click(f->target, 1);
+    QMenu *const menu = f->openMenu(f->source, 2);
+    QVERIFY(menu);
+    QVERIFY(!menu->actions().at(0)->isEnabled());
+    QVERIFY(menu->actions().at(1)->isEnabled());
+    QVERIFY(!menu->actions().at(2)->isEnabled());
+    menu->close();
+}
+
+void tst_LineMappingActions::sourceMenuWithoutTarget()
+{
+    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nZZ,4711\n");
+    f->load();
+    f->select(3);
+    QMenu *const menu = f->openMenu(f->source, 3);
+    QVERIFY(menu);
+    QVERIFY(menu->actions().at(0)->isEnabled());
+    QVERIFY(!menu->actions().at(1)->isEnabled());
+    QVERIFY(menu->actions().at(2)->isEnabled());
+    menu->close();
+}
+
+void tst_LineMappingActions::sourceMenuOfSeveralLines()
+{
+    f->load();
+    f->select(1);
+    f->click(f->source, 2, Qt::ControlModifier);
+    QVERIFY(!f->openMenu(f->source, 2));
+}
+
+void tst_LineMappingActions::sourceMenuRowsAct()
+{
+    f->load();
+    f->select(2);
+    QMenu *menu = f->openMenu(f->source, 2);
+    QVERIFY(menu);
+    TableEditorFixture::rowOf(menu, confirmText)->trigger();
+    menu->close();
+    QCOMPARE(entries(), QString("0:1>3/1 0:2>2/2"));
+    menu = f->openMenu(f->source, 2);
+    QVERIFY(menu);
+    TableEditorFixture::rowOf(menu, removeText)->trigger();
+    menu->close();
+    QCOMPARE(entries(), QString("0:1>3/1 -:2>-1/1"));
+    f->select(1);
+    menu = f->openMenu(f->source, 1);
+    QVERIFY(menu);
+    TableEditorFixture::rowOf(menu, removeVerifyText)->trigger();
+    menu->close();
+    QCOMPARE(entries(), QString("-:1>-1/2 -:2>-1/1"));
+}
+
+void tst_LineMappingActions::targetMenu()
+{
+    f->load();
+    f->select(2);
+    QMenu *const menu = f->openMenu(f->target, 2);
+    QVERIFY(menu);
+    QCOMPARE(menu->actions().at(0)->text(),
+             QString("Nur Zeilen anzeigen, die mehrfach zugeordnet sind"));
+    QCOMPARE(menu->actions().at(1)->text(),
+             QString("Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind"));
+    QVERIFY(menu->actions().at(0)->icon().isNull());
+    QVERIFY(menu->actions().at(1)->icon().isNull());
+    QVERIFY(menu->actions().at(2)->isSeparator());
+    menu->close();
+}
+
+void tst_LineMappingActions::menusBesideLines()
+{
+    f->load();
+    f->select(2);
+    for (VkTableView *const view : {f->source, f->target}) {
+        QMenu *const menu = f->openMenu(view, 99);
+        QVERIFY(menu);
+        QCOMPARE(menu->actions().first()->objectName(), QString("copy"));
+        menu->close();
+    }
+}
+
+void tst_LineMappingActions::iconOfPassingLine()
+{
+    f->catalog.write("old/a.prj", "D,k:r\nM8,5;6\nM9,6\nM10,7\n");
+    enter(f->mapping, 0, 1, 3, ToCheck);
+    f->catalog.write("new/a.prj", "D,k:r\nM10,7\nM9,66\nM8,5;6\n");
+    f->load();
+    f->clickIcon(f->source, 1, "CatalogMapper");
+    QVERIFY(f->sourceTable().isPlain());
+    QCOMPARE(f->published.size(), 0);
+}
+
+void tst_LineMappingActions::iconOfFailingLine()
+{
+    // The condition reads L; with 20 it does not hold.
+    f->catalog.write("old/a.prj", "D,E,L:r\nM8,x,10;20\nM9,x,10\n");
+    f->catalog.write("new/a.prj", "D,E,L:r\nM8,x,10;20\nM9,x,10\n");
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addCondition(f->mapping, 0, "L .LT. 15");
+    enter(f->mapping, 0, 1, 1, ToCheck);
+    f->load();
+    const VKTab::Var var = f->sourceTable().getVar(u"L");
+    const auto shown = [&] {
+        return f->sourceTable().getLine(LineId(1), false).getValue(var, {}).toString();
+    };
+    QCOMPARE(shown(), QString("10;20"));
+    f->clickIcon(f->source, 1, "CatalogMapper");
+    QCOMPARE(shown(), QString("20"));
+}
+
+void tst_LineMappingActions::iconOfUnknownKey()
+{
+    f->load();
+    f->clickIcon(f->source, 1, "TargetMapping");
+    QVERIFY(f->sourceTable().isPlain());
 }
 
 QTEST_MAIN(tst_LineMappingActions)
