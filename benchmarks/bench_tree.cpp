@@ -1,6 +1,6 @@
 // The catalog's tree with very many projects: from the release in memory to the first picture, and
-// from one changed record to the next picture. Beside the first, a QStandardItemModel of the same
-// names, built and painted.
+// from one changed record or filter to the next picture. Beside the first, a QStandardItemModel of
+// the same names, built and painted.
 
 #include "Comparison.h"
 
@@ -153,7 +153,34 @@ void changeAndPaint(benchmark::State &state)
     state.counters["ms_change"] = comparison.product().wall * 1e3 / ChangesPerRound;
 }
 
+/// The filter switched on and painted, and off again and painted.
+void toggleFilter(benchmark::State &state)
+{
+    const ReleaseMappingHandler handler(manyProjects(int(state.range(0))), QStringLiteral("bench"),
+                                        QString());
+    Tree tree(handler);
+    tree.view.expand(tree.filter.index(0, 0));
+    QImage image(400, 900, QImage::Format_RGB32);
+    paint(tree.view, image);
+    Comparison comparison;
+    comparison.run(state, [&] {
+        for (const bool on : {true, false}) {
+            tree.filter.filterToCheck = on;
+            tree.filter.invalidate();
+            paint(tree.view, image);
+        }
+    });
+}
+
 BENCHMARK(firstPaint)
+    ->ArgName("directories")
+    ->Arg(0)
+    ->Arg(100)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(3);
+BENCHMARK(toggleFilter)
     ->ArgName("directories")
     ->Arg(0)
     ->Arg(100)
