@@ -82,6 +82,7 @@ QTableView *TargetMappingWidget::addList(const char *name, QStandardItemModel *&
     view->setObjectName(QLatin1String(name));
     view->setContextMenuPolicy(Qt::CustomContextMenu);
     view->verticalHeader()->setVisible(false);
+    view->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     model = new QStandardItemModel(0, int(headers.size()), view);
     model->setHorizontalHeaderLabels(headers);

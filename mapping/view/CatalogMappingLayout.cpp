@@ -40,6 +40,7 @@ void CatalogMappingWidgetPrivate::buildLayout()
     writeStatistics();
     makeTreeModels();
     splitter->addWidget(makeEditorPane(splitter));
+    splitter->setStretchFactor(1, 1);
     conflictWidget->setCatalogMapping(handler->getCatalogMapping());
     projectWidget->setApplicationHandler(applicationHandler);
     projectWidget->setTableMappingWidget(tableWidget);
@@ -124,6 +125,10 @@ QWidget *CatalogMappingWidgetPrivate::makeEditorPane(QWidget *parent)
     tableWidget = new TableMappingWidget(editorSplitter);
     tableWidget->setObjectName(QStringLiteral("tableWidget"));
     editorSplitter->addWidget(tableWidget);
+    // Without a user's wish the tables get most of the room.
+    conflictSplitter->setStretchFactor(1, 1);
+    editorSplitter->setStretchFactor(1, 1);
+    editorSplitter->setSizes({230, 670});
     return pane;
 }
 

@@ -51,12 +51,14 @@ CatalogMappingWidgetPrivate::CatalogMappingWidgetPrivate(const QString &path,
                                                          CatalogMappingHandlerI *mappingHandler,
                                                          ApplicationHandlerI *application,
                                                          CatalogMappingWidget *owner)
-    : PPrivateData(owner)
+    : QObject(owner)
+    , PPrivateData(owner)
     , handler(mappingHandler)
     , basePath(path)
     , applicationHandler(application)
     , allowVerifyAllOnDir(configuredVerifyAllOnDir())
 {
+    setObjectName(QStringLiteral("CatalogMappingWidgetPrivate"));
 }
 
 CatalogMappingWidgetPrivate::~CatalogMappingWidgetPrivate() = default;

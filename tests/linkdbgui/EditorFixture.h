@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 /// Makes a catalog root the local one of the process, as long as it lives.
@@ -100,6 +101,8 @@ public:
     {
         note("updateMapping");
         updates.append(mapping);
+        if (onUpdate)
+            onUpdate();
         ReleaseMappingHandler::updateMapping(mapping);
     }
     bool commitModifications() override
@@ -129,6 +132,7 @@ public:
     }
 
     QList<PrjMappingC> updates;
+    std::function<void()> onUpdate;
 
 private:
     void note(const char *call) const
