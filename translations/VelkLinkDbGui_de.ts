@@ -8,6 +8,10 @@
         <translation>  Zeile %1</translation>
     </message>
     <message>
+        <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
+        <translation>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</translation>
+    </message>
+    <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
         <translation>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</translation>
     </message>
@@ -32,6 +36,14 @@
         <translation>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktuell markierte Zeile zuordnen</source>
+        <translation>Aktuell markierte Zeile zuordnen</translation>
+    </message>
+    <message>
+        <source>Aktuell zugeordnete Zeile</source>
+        <translation>Aktuell zugeordnete Zeile</translation>
+    </message>
+    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Alle Zuordnungen bestätigen</translation>
     </message>
@@ -42,6 +54,14 @@
         <translation>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</translation>
+    </message>
+    <message>
+        <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
+        <translation>Aufgelöste Wertebereiche für diese Zeile zuordnen</translation>
+    </message>
+    <message>
+        <source>Aufgelöste Wertebereiche zuordnen</source>
+        <translation>Aufgelöste Wertebereiche zuordnen</translation>
     </message>
     <message>
         <source>Auswahl abbrechen</source>
@@ -72,12 +92,30 @@
         <translation>Bearbeiten...</translation>
     </message>
     <message>
+        <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
+        <translation>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Bedingung löschen</source>
+        <translation>Bedingung löschen</translation>
+    </message>
+    <message>
+        <source>Bedingungen</source>
+        <translation>Bedingungen</translation>
+    </message>
+    <message>
         <source>Benutzer authentifizieren/wechseln</source>
         <translation>Benutzer authentifizieren/wechseln</translation>
     </message>
     <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bestätigte Zuordnungen</translation>
+    </message>
+    <message>
+        <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
+Wirklich fortfahren?</source>
+        <translation>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
+Wirklich fortfahren?</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
@@ -188,6 +226,26 @@
   Zeile: %2</translation>
     </message>
     <message>
+        <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
+        <translation>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</translation>
+    </message>
+    <message>
+        <source>Diese Zeile konnte nicht zugeordnet werden</source>
+        <translation>Diese Zeile konnte nicht zugeordnet werden</translation>
+    </message>
+    <message>
+        <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
+        <translation>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</translation>
+    </message>
+    <message>
+        <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
+        <translation>Diese Zuordnung wurde vom Modellierer bestätigt</translation>
+    </message>
+    <message>
+        <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
+        <translation>Dieses Projekt der aktuell selektierten Zeile zuweisen</translation>
+    </message>
+    <message>
         <source>Dokument-Liste</source>
         <translation>Dokument-Liste</translation>
     </message>
@@ -214,6 +272,12 @@
         <translation>Eine Formel muss einer Variablen einen Wert zuweisen</translation>
     </message>
     <message>
+        <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
+Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
+        <translation>Es existiert eine Wertebereichszuordnung für diese Zeile.
+Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</translation>
+    </message>
+    <message>
         <source>Es existiert mindestens ein Konflikt.</source>
         <translation>Es existiert mindestens ein Konflikt.</translation>
     </message>
@@ -236,6 +300,10 @@
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
         <translation>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
+        <translation>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</translation>
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
@@ -290,16 +358,56 @@
         <translation>Nicht gefundene Zeilen</translation>
     </message>
     <message>
+        <source>Normbezeichnung</source>
+        <translation>Normbezeichnung</translation>
+    </message>
+    <message>
+        <source>Normnummer</source>
+        <translation>Normnummer</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
+        <translation>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
+        <translation>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</translation>
+    </message>
+    <message>
+        <source>Pfad:</source>
+        <translation>Pfad:</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
         <source>Projekte (*.prj)</source>
         <translation>Projekte (*.prj)</translation>
+    </message>
+    <message>
+        <source>Projektpfad:</source>
+        <translation>Projektpfad:</translation>
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
         <translation>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</translation>
     </message>
     <message>
+        <source>Tabellenzeile auswählen</source>
+        <translation>Tabellenzeile auswählen</translation>
+    </message>
+    <message>
         <source>Variable ignorieren</source>
         <translation>Variable ignorieren</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung</source>
+        <translation>Variablenzuordnung</translation>
+    </message>
+    <message>
+        <source>Versteckte Spalten anzeigen</source>
+        <translation>Versteckte Spalten anzeigen</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -326,6 +434,14 @@
         <translation>Weitere Zeilen der Zieltabelle haben diese Werte.</translation>
     </message>
     <message>
+        <source>Wertebereichsvariablen auswählen</source>
+        <translation>Wertebereichsvariablen auswählen</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen bearbeiten</source>
+        <translation>Wertebereichszuordnungen bearbeiten</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET des markierten Dokuments:</translation>
     </message>
@@ -342,6 +458,18 @@
         <translation>Zeige nur Projekte mit zugeordneten Zeilen</translation>
     </message>
     <message>
+        <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
+        <translation>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</translation>
+    </message>
+    <message>
+        <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
+        <translation>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</translation>
+    </message>
+    <message>
+        <source>Zeile mit LineID %1 wird zugeordnet...</source>
+        <translation>Zeile mit LineID %1 wird zugeordnet...</translation>
+    </message>
+    <message>
         <source>Zeilen erneut zuweisen</source>
         <translation>Zeilen erneut zuweisen</translation>
     </message>
@@ -350,12 +478,36 @@
         <translation>Zeilen werden neu zugewiesen</translation>
     </message>
     <message>
+        <source>Zeilennummer</source>
+        <translation>Zeilennummer</translation>
+    </message>
+    <message>
+        <source>Zielprojekt</source>
+        <translation>Zielprojekt</translation>
+    </message>
+    <message>
         <source>Zielprojekt auswählen</source>
         <translation>Zielprojekt auswählen</translation>
     </message>
     <message>
+        <source>Zielprojekt entfernen</source>
+        <translation>Zielprojekt entfernen</translation>
+    </message>
+    <message>
         <source>Zielprojekt hinzufügen</source>
         <translation>Zielprojekt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Zielprojekt nach oben verschieben</source>
+        <translation>Zielprojekt nach oben verschieben</translation>
+    </message>
+    <message>
+        <source>Zielprojekt nach unten verschieben</source>
+        <translation>Zielprojekt nach unten verschieben</translation>
+    </message>
+    <message>
+        <source>Zielvariable</source>
+        <translation>Zielvariable</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -366,6 +518,30 @@
     <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Zu überprüfende Zuordnungen</translation>
+    </message>
+    <message>
+        <source>Zuordnung bestätigen</source>
+        <translation>Zuordnung bestätigen</translation>
+    </message>
+    <message>
+        <source>Zuordnung dieser Zeile aufheben</source>
+        <translation>Zuordnung dieser Zeile aufheben</translation>
+    </message>
+    <message>
+        <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
+        <translation>Zuordnung dieser Zeile aufheben und bestätigen</translation>
+    </message>
+    <message>
+        <source>Zuordnung löschen</source>
+        <translation>Zuordnung löschen</translation>
+    </message>
+    <message>
+        <source>Zuordnung zu diesem Projekt aufheben</source>
+        <translation>Zuordnung zu diesem Projekt aufheben</translation>
+    </message>
+    <message>
+        <source>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</source>
+        <translation>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>

@@ -8,6 +8,14 @@
         <translation>  Line %1</translation>
     </message>
     <message>
+        <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
+        <translation>%1 &lt;b&gt;(could not be found)&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>%1 von %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
         <translation>&lt;br /&gt;&lt;br /&gt;Change made by another user:</translation>
     </message>
@@ -32,8 +40,32 @@
         <translation>&lt;br /&gt;New assignment: &lt;br /&gt;%3 of the project %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Aktuell markierte Zeile zuordnen</source>
+        <translation>Assign the line currently selected</translation>
+    </message>
+    <message>
+        <source>Aktuell zugeordnete Zeile</source>
+        <translation>Line currently assigned</translation>
+    </message>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>Clear all column filters</translation>
+    </message>
+    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirm all assignments</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>Continued at the beginning of the table</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>Continued at the end of the table</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -42,6 +74,14 @@
         <translation>Another target project has a line with these values, too.
   Project: %1
   Line: %2</translation>
+    </message>
+    <message>
+        <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
+        <translation>Assign resolved value ranges for this line</translation>
+    </message>
+    <message>
+        <source>Aufgelöste Wertebereiche zuordnen</source>
+        <translation>Assign resolved value ranges</translation>
     </message>
     <message>
         <source>Auswahl abbrechen</source>
@@ -72,12 +112,38 @@
         <translation>Edit...</translation>
     </message>
     <message>
+        <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
+        <translation>Generate a condition for the selected line and copy it to the clipboard</translation>
+    </message>
+    <message>
+        <source>Bedingung löschen</source>
+        <translation>Delete condition</translation>
+    </message>
+    <message>
+        <source>Bedingungen</source>
+        <translation>Conditions</translation>
+    </message>
+    <message>
         <source>Benutzer authentifizieren/wechseln</source>
         <translation>Authenticate/change user</translation>
     </message>
     <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Confirmed assignments</translation>
+    </message>
+    <message>
+        <source>Bitte warten</source>
+        <translation>Please wait</translation>
+    </message>
+    <message>
+        <source>Bricht die Arbeit ab</source>
+        <translation>Cancels the work</translation>
+    </message>
+    <message>
+        <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
+Wirklich fortfahren?</source>
+        <translation>Resolving the value ranges can take very long, depending on the variables chosen and the size of the table.
+Really go on?</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
@@ -116,8 +182,24 @@
         <translation>Add a record to the link database</translation>
     </message>
     <message>
+        <source>Dem Text fehlt das schließende Hochkomma</source>
+        <translation>The closing quotation mark of the text is missing</translation>
+    </message>
+    <message>
+        <source>Der Ausdruck ist zu tief verschachtelt</source>
+        <translation>The expression is nested too deeply</translation>
+    </message>
+    <message>
+        <source>Der Text ist leer</source>
+        <translation>The text is empty</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>The conditions of the project %1 were changed.</translation>
+    </message>
+    <message>
+        <source>Die Funktion %1 ist nicht bekannt</source>
+        <translation>The function %1 is unknown</translation>
     </message>
     <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
@@ -158,6 +240,14 @@
   Old table date: %2, new table date: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>The variable %1 does not exist in the target table</translation>
+    </message>
+    <message>
+        <source>Die Variable %1 ist nicht bekannt</source>
+        <translation>The variable %1 is unknown</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>The variable mapping of the project %1 was changed.</translation>
     </message>
@@ -188,6 +278,26 @@
   Line: %2</translation>
     </message>
     <message>
+        <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
+        <translation>This line has expired. The modeller has confirmed this</translation>
+    </message>
+    <message>
+        <source>Diese Zeile konnte nicht zugeordnet werden</source>
+        <translation>This line could not be assigned</translation>
+    </message>
+    <message>
+        <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
+        <translation>This line was assigned automatically. The assignment must be confirmed or corrected</translation>
+    </message>
+    <message>
+        <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
+        <translation>The modeller has confirmed this assignment</translation>
+    </message>
+    <message>
+        <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
+        <translation>Assign this project to the line currently selected</translation>
+    </message>
+    <message>
         <source>Dokument-Liste</source>
         <translation>List of documents</translation>
     </message>
@@ -214,6 +324,20 @@
         <translation>A formula must assign a value to a variable</translation>
     </message>
     <message>
+        <source>Erwartet wird %1, gefunden wurde %2</source>
+        <translation>Expected %1, found %2</translation>
+    </message>
+    <message>
+        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
+        <translation>Expected an assignment to the variable %1</translation>
+    </message>
+    <message>
+        <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
+Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
+        <translation>There is a value range assignment for this line.
+The assignment must be changed by 'Edit value range assignment'</translation>
+    </message>
+    <message>
         <source>Es existiert mindestens ein Konflikt.</source>
         <translation>There is at least one conflict.</translation>
     </message>
@@ -238,6 +362,18 @@
         <translation>A mapping of the project %1 was added.</translation>
     </message>
     <message>
+        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
+        <translation>Wrong number of arguments for the function %1</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
+        <translation>There is a conflict for this line. The assignment must be confirmed or corrected</translation>
+    </message>
+    <message>
         <source>Gesamtanzahl Zeilen</source>
         <translation>Total number of lines</translation>
     </message>
@@ -246,12 +382,28 @@
         <translation>Select group</translation>
     </message>
     <message>
+        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
+        <translation>A comparison is expected here, not a value</translation>
+    </message>
+    <message>
+        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
+        <translation>A value is expected here, not a comparison</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Find in table</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classify</translation>
     </message>
     <message>
         <source>Konflikte</source>
         <translation>Conflicts</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copy</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -286,20 +438,108 @@
         <translation>Insert a new record (takes over the values of the selected record)</translation>
     </message>
     <message>
+        <source>Nicht gefunden</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Lines not found</translation>
+    </message>
+    <message>
+        <source>Normbezeichnung</source>
+        <translation>Standard designation</translation>
+    </message>
+    <message>
+        <source>Normnummer</source>
+        <translation>Standard number</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
+        <translation>Show only lines that are assigned more than once</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
+        <translation>Show only lines of the original table that are assigned to this line</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>Next match (F3)</translation>
+    </message>
+    <message>
+        <source>Pfad:</source>
+        <translation>Path:</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Open project</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
         <translation>Projects (*.prj)</translation>
     </message>
     <message>
+        <source>Projektpfad:</source>
+        <translation>Project path:</translation>
+    </message>
+    <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
         <translation>Source and target have no variable in common that has a value.</translation>
     </message>
     <message>
+        <source>Sortierung aufheben</source>
+        <translation>Remove sorting</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>Sort column in descending order</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>Sort column in ascending order</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>Fit column widths</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Column filter</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>Column filter %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Close search (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>Find ...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>Table %1</translation>
+    </message>
+    <message>
+        <source>Tabellenzeile auswählen</source>
+        <translation>Select table line</translation>
+    </message>
+    <message>
         <source>Variable ignorieren</source>
         <translation>Ignore variable</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung</source>
+        <translation>Variable mapping</translation>
+    </message>
+    <message>
+        <source>Versteckte Spalten anzeigen</source>
+        <translation>Show hidden columns</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -308,6 +548,10 @@
     <message>
         <source>Von Ihnen geplante Änderung:</source>
         <translation>Change planned by you:</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>Previous match (Shift+F3)</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
@@ -326,8 +570,28 @@
         <translation>Further lines of the target table have these values.</translation>
     </message>
     <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>Value range (%1 values): %2</translation>
+    </message>
+    <message>
+        <source>Wertebereichsvariablen auswählen</source>
+        <translation>Select value range variables</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen bearbeiten</source>
+        <translation>Edit value range assignments</translation>
+    </message>
+    <message>
+        <source>Wird abgebrochen...</source>
+        <translation>Cancelling...</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET of the selected document:</translation>
+    </message>
+    <message>
+        <source>Zeichen %1: %2</source>
+        <translation>Character %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -342,6 +606,22 @@
         <translation>Show only projects with assigned lines</translation>
     </message>
     <message>
+        <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
+        <translation>Show only lines that are not assigned (source project)</translation>
+    </message>
+    <message>
+        <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
+        <translation>Show only lines that are not assigned (target project)</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>Shows lines whose value contains the text. With =, &lt;, &lt;=, &gt; or &gt;= in front it is compared.</translation>
+    </message>
+    <message>
+        <source>Zeile mit LineID %1 wird zugeordnet...</source>
+        <translation>Assigning the line with LineID %1...</translation>
+    </message>
+    <message>
         <source>Zeilen erneut zuweisen</source>
         <translation>Assign lines again</translation>
     </message>
@@ -350,12 +630,36 @@
         <translation>Lines are being assigned anew</translation>
     </message>
     <message>
+        <source>Zeilennummer</source>
+        <translation>Line number</translation>
+    </message>
+    <message>
+        <source>Zielprojekt</source>
+        <translation>Target project</translation>
+    </message>
+    <message>
         <source>Zielprojekt auswählen</source>
         <translation>Select target project</translation>
     </message>
     <message>
+        <source>Zielprojekt entfernen</source>
+        <translation>Remove target project</translation>
+    </message>
+    <message>
         <source>Zielprojekt hinzufügen</source>
         <translation>Add target project</translation>
+    </message>
+    <message>
+        <source>Zielprojekt nach oben verschieben</source>
+        <translation>Move target project up</translation>
+    </message>
+    <message>
+        <source>Zielprojekt nach unten verschieben</source>
+        <translation>Move target project down</translation>
+    </message>
+    <message>
+        <source>Zielvariable</source>
+        <translation>Target variable</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -366,6 +670,34 @@
     <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Assignments to be checked</translation>
+    </message>
+    <message>
+        <source>Zuordnung bestätigen</source>
+        <translation>Confirm assignment</translation>
+    </message>
+    <message>
+        <source>Zuordnung dieser Zeile aufheben</source>
+        <translation>Remove the assignment of this line</translation>
+    </message>
+    <message>
+        <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
+        <translation>Remove the assignment of this line and confirm</translation>
+    </message>
+    <message>
+        <source>Zuordnung löschen</source>
+        <translation>Delete mapping</translation>
+    </message>
+    <message>
+        <source>Zuordnung zu diesem Projekt aufheben</source>
+        <translation>Remove the assignment to this project</translation>
+    </message>
+    <message>
+        <source>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</source>
+        <translation>Remove the assignment to this project and confirm (CTRL + x)</translation>
+    </message>
+    <message>
+        <source>das Ende</source>
+        <translation>the end</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
@@ -390,6 +722,10 @@
     <message>
         <source>kein Wert</source>
         <translation>no value</translation>
+    </message>
+    <message>
+        <source>noch %1</source>
+        <translation>%1 left</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -8,6 +8,14 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 von %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -32,13 +40,45 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Abbrechen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aktuell markierte Zeile zuordnen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aktuell zugeordnete Zeile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>確認所有指派</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aufgelöste Wertebereiche zuordnen</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -70,12 +110,37 @@
         <translation>編輯...</translation>
     </message>
     <message>
+        <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bedingung löschen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bedingungen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Benutzer authentifizieren/wechseln</source>
         <translation>驗證/切換使用者</translation>
     </message>
     <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>已確認的指派</translation>
+    </message>
+    <message>
+        <source>Bitte warten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bricht die Arbeit ab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
+Wirklich fortfahren?</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
@@ -112,7 +177,23 @@
         <translation>將記錄新增至連結資料庫</translation>
     </message>
     <message>
+        <source>Dem Text fehlt das schließende Hochkomma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Der Ausdruck ist zu tief verschachtelt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Der Text ist leer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Funktion %1 ist nicht bekannt</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -149,6 +230,14 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Variable %1 ist nicht bekannt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -171,6 +260,26 @@
         <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diese Zeile konnte nicht zugeordnet werden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -199,6 +308,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Erwartet wird %1, gefunden wurde %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
+Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Es existiert mindestens ein Konflikt.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -223,6 +345,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Gesamtanzahl Zeilen</source>
         <translation>總列數</translation>
     </message>
@@ -231,12 +365,28 @@
         <translation>選擇群組</translation>
     </message>
     <message>
+        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>分類</translation>
     </message>
     <message>
         <source>Konflikte</source>
         <translation>衝突</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -271,11 +421,47 @@
         <translation>插入新記錄（沿用所選記錄的值）</translation>
     </message>
     <message>
+        <source>Nicht gefunden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>找不到的列</translation>
     </message>
     <message>
+        <source>Normbezeichnung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normnummer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pfad:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Projekte (*.prj)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projektpfad:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -283,8 +469,60 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Sortierung aufheben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tabellenzeile auswählen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Variable ignorieren</source>
         <translation>忽略變數</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Versteckte Spalten anzeigen</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -292,6 +530,10 @@
     </message>
     <message>
         <source>Von Ihnen geplante Änderung:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -311,8 +553,28 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wertebereichsvariablen auswählen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen bearbeiten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wird abgebrochen...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>所選文件的 XVARSET：</translation>
+    </message>
+    <message>
+        <source>Zeichen %1: %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -327,6 +589,22 @@
         <translation>僅顯示含已指派列的專案</translation>
     </message>
     <message>
+        <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zeile mit LineID %1 wird zugeordnet...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Zeilen erneut zuweisen</source>
         <translation>重新指派列</translation>
     </message>
@@ -335,12 +613,36 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Zeilennummer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zielprojekt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Zielprojekt auswählen</source>
         <translation>選擇目標專案</translation>
     </message>
     <message>
+        <source>Zielprojekt entfernen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Zielprojekt hinzufügen</source>
         <translation>新增目標專案</translation>
+    </message>
+    <message>
+        <source>Zielprojekt nach oben verschieben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zielprojekt nach unten verschieben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zielvariable</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -350,6 +652,34 @@
     <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>待檢查的指派</translation>
+    </message>
+    <message>
+        <source>Zuordnung bestätigen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zuordnung dieser Zeile aufheben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zuordnung löschen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zuordnung zu diesem Projekt aufheben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>das Ende</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
@@ -373,6 +703,10 @@
     </message>
     <message>
         <source>kein Wert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>noch %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -12,9 +12,9 @@
 
 namespace {
 
-QAction *addRow(QMenu *menu, const char *name, const char *text, const QKeySequence &keys = {})
+QAction *addRow(QMenu *menu, const char *name, const QString &text, const QKeySequence &keys = {})
 {
-    QAction *const row = menu->addAction(tableText(text));
+    QAction *const row = menu->addAction(text);
     row->setObjectName(QLatin1String(name));
     row->setShortcut(keys);
     row->setShortcutVisibleInContextMenu(true);
@@ -57,13 +57,14 @@ void VkTableViewPrivate::showMenu(VkTableViewBase::PopupArea area, int row, int 
 
 void VkTableViewPrivate::addMenuRows(QMenu *menu, int column)
 {
-    QAction *const copyRow = addRow(menu, "copy", "Kopieren", QKeySequence(Qt::CTRL | Qt::Key_C));
+    QAction *const copyRow =
+        addRow(menu, "copy", tableText("Kopieren"), QKeySequence(Qt::CTRL | Qt::Key_C));
     copyRow->setEnabled(!selection->selectedRows().isEmpty());
     connect(copyRow, &QAction::triggered, this, [this] { copy(); });
-    connect(addRow(menu, "find", "Suchen ...", QKeySequence(Qt::CTRL | Qt::Key_F)),
+    connect(addRow(menu, "find", tableText("Suchen ..."), QKeySequence(Qt::CTRL | Qt::Key_F)),
             &QAction::triggered, this, [this] { findBar->open(); });
-    QAction *const filterRow =
-        addRow(menu, "filter", "Spaltenfilter", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
+    QAction *const filterRow = addRow(menu, "filter", tableText("Spaltenfilter"),
+                                      QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
     filterRow->setCheckable(true);
     filterRow->setChecked(filterBar->isVisible());
     connect(filterRow, &QAction::triggered, this, [this](bool shown) { q->showFilterBar(shown); });
@@ -74,14 +75,14 @@ void VkTableViewPrivate::addSortRows(QMenu *menu, int column)
 {
     menu->addSeparator();
     if (column >= 0) {
-        connect(addRow(menu, "sortAscending", "Spalte aufsteigend sortieren"), &QAction::triggered,
-                this, [this, column] { sort(column, Qt::AscendingOrder); });
-        connect(addRow(menu, "sortDescending", "Spalte absteigend sortieren"), &QAction::triggered,
-                this, [this, column] { sort(column, Qt::DescendingOrder); });
+        connect(addRow(menu, "sortAscending", tableText("Spalte aufsteigend sortieren")),
+                &QAction::triggered, this, [this, column] { sort(column, Qt::AscendingOrder); });
+        connect(addRow(menu, "sortDescending", tableText("Spalte absteigend sortieren")),
+                &QAction::triggered, this, [this, column] { sort(column, Qt::DescendingOrder); });
     }
-    QAction *const unsorted = addRow(menu, "unsorted", "Sortierung aufheben");
+    QAction *const unsorted = addRow(menu, "unsorted", tableText("Sortierung aufheben"));
     unsorted->setEnabled(model->sortColumn() >= 0);
     connect(unsorted, &QAction::triggered, this, [this] { sort(-1, Qt::AscendingOrder); });
-    connect(addRow(menu, "fitColumns", "Spaltenbreiten anpassen"), &QAction::triggered, widths,
-            &TableColumnWidths::fitAll);
+    connect(addRow(menu, "fitColumns", tableText("Spaltenbreiten anpassen")), &QAction::triggered,
+            widths, &TableColumnWidths::fitAll);
 }
