@@ -94,6 +94,18 @@ void TableGrid::keyPressEvent(QKeyEvent *event)
         Q_EMIT lineEntered(currentIndex());
 }
 
+QItemSelectionModel::SelectionFlags TableGrid::selectionCommand(const QModelIndex &index,
+                                                                const QEvent *event) const
+{
+    if (event && event->type() == QEvent::KeyPress && selectionMode() != NoSelection) {
+        const auto *const key = static_cast<const QKeyEvent *>(event);
+        if ((key->key() == Qt::Key_Home || key->key() == Qt::Key_End) &&
+            key->modifiers() == Qt::ControlModifier)
+            return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    }
+    return QTableView::selectionCommand(index, event);
+}
+
 void TableGrid::contextMenuEvent(QContextMenuEvent *event)
 {
     if (event->reason() != QContextMenuEvent::Keyboard) {

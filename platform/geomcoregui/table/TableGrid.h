@@ -38,6 +38,9 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     bool viewportEvent(QEvent *event) override;
+    /// Ctrl+Home and Ctrl+End go to the first and the last line, whatever the selection mode.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
 
 private:
     [[nodiscard]] bool isIcon(const QModelIndex &index) const;

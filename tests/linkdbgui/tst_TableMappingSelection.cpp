@@ -1,0 +1,585 @@
+#include "TableEditorFixture.h"
+
+#include <mapping/project/ProjectMappingWidget.h>
+
+#include <geomcore/table/FilterByLineId.h>
+#include <geomcore/table/LangThreadSettings.h>
+#include <geomcore/table/Line.h>
+#include <geomcoregui/table/VkTableModel.h>
+
+#include <QAction>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QTableView>
+#include <QTest>
+
+using PRJMAPPING::Mapped;
+using PRJMAPPING::ToCheck;
+using PRJMAPPING::Verified;
+using VKTab::LineId;
+
+namespace {
+
+QString coloured(const char *colour, const QString &text)
+{
+    return QStringLiteral("<span style=\"color:%1;\">%2</span>")
+        .arg(QColor(QLatin1String(colour)).name(), text);
+}
+
+} // namespace
+
+class tst_TableMappingSelection : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { f.reset(); }
+
+    void selectedLineShowsItsTarget();
+    void keyboardWalksLines();
+    void lineWithoutTarget();
+    void targetThatCannotBeRead();
+    void severalSelectedLines();
+    void backToOneLine();
+    void sameTargetKeepsTableAndPosition();
+    void otherTargetReadsItsTable();
+    void targetTableIsReadWithoutProjectFilters();
+    void valuesOfTheSourceLineAreShown();
+    void designations();
+    void designationsAreComparedUntranslated();
+    void lineIdColumnOnlyBesideRanges();
+    void zoomIsTheLarger();
+    void assignButtonsOfTargets();
+
+    void mapButton();
+    void mapButtonWithRangeText();
+    void mapButtonOfSeveralLines();
+    void labelsFollowTheTargetSelection();
+
+    void filterNotMappedLines();
+    void filterNotMappedLinesWithoutAny();
+    void filterTargetLines();
+    void filterTargetLinesFollowsTheMapping();
+    void filterTargetLinesWithoutAny();
+    void filterTargetLinesOfAllItsTargets();
+    void filterGivesWay();
+    void otherFilterStays();
+    void boxesOff();
+    void filterTargetTable();
+    void filterTargetTableWithoutAny();
+    void filterSourceTable();
+    void filterSourceTableWithoutAny();
+    void hiddenColumns();
+
+private:
+    void menuRow(VkTableView *view, int line, const QString &text) const;
+    void tick(const char *name) const
+    {
+        QTest::mouseClick(f->box(name), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(8, f->box(name)->height() / 2));
+    }
+    [[nodiscard]] QString visible(VkTableView *view) const
+    {
+        return TableEditorFixture::visibleLines(view->getTable());
+    }
+
+    std::unique_ptr<TableEditorFixture> f;
+};
+
+void tst_TableMappingSelection::init()
+{
+    f = std::make_unique<TableEditorFixture>();
+    const auto norm = [](const QString &number) {
+        return [number](VKTab::TableDescriptor &table) {
+            table.normNumber = number;
+            table.lineNormNumber = number + "-{D}";
+            table.lineDesignation = "Bolt {D}";
+        };
+    };
+    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\nM11,8\nM12,9\n", norm("DIN 1"));
+    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\nM20,1\n", norm("ISO 1"));
+    f->catalog.write("new/b.prj", "D,k:n\nM11,8\nM30,1\n", norm("ISO 2"));
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj", ""});
+    enter(f->mapping, 0, 1, 3, Mapped);
+    enter(f->mapping, 0, 2, 2, ToCheck);
+    enter(f->mapping, 0, 3, 1, Verified);
+    enter(f->mapping, 1, 4, 1, Mapped);
+    enter(f->mapping, 2, 5, -1, Mapped);
+}
+
+void tst_TableMappingSelection::menuRow(VkTableView *view, int line, const QString &text) const
+{
+    QMenu *const menu = f->openMenu(view, line);
+    QVERIFY(menu);
+    QAction *const row = TableEditorFixture::rowOf(menu, text);
+    QVERIFY(row);
+    row->trigger();
+    menu->close();
+}
+
+void tst_TableMappingSelection::selectedLineShowsItsTarget()
+{
+    f->load();
+    f->select(2);
+    QVERIFY(f->targetTable().isValid());
+    QCOMPARE(f->targetTable().getSelection(), LineId(2));
+    QCOMPARE(f->target->getSelectedLines(), QList<LineId>({LineId(2)}));
+    QCOMPARE(TableEditorFixture::status(f->targetTable(), 2, "TargetMapping"), QString("C"));
+    for (const int line : {1, 3, 4})
+        QCOMPARE(TableEditorFixture::status(f->targetTable(), line, "TargetMapping"), QString());
+    QCOMPARE(f->label("targetPathLabel")->text(), QString("new/a.prj"));
+    QCOMPARE(f->label("targetNumberLabel")->text(), QString("ISO 1-M9"));
+    QVERIFY(f->button("btnRemoveLine")->isEnabled());
+    QVERIFY(f->button("btnRemoveVerifyLine")->isEnabled());
+    QVERIFY(f->button("btnCondition")->isEnabled());
+    f->select(3);
+    QCOMPARE(f->targetTable().getSelection(), LineId(1));
+    QCOMPARE(TableEditorFixture::status(f->targetTable(), 1, "TargetMapping"), QString("C"));
+    QCOMPARE(TableEditorFixture::status(f->targetTable(), 2, "TargetMapping"), QString());
+}
+
+void tst_TableMappingSelection::keyboardWalksLines()
+{
+    f->load();
+    f->select(1);
+    f->press(Qt::Key_Down);
+    QCOMPARE(f->widget->selectedSourceLine(), LineId(2));
+    QCOMPARE(f->targetTable().getSelection(), LineId(2));
+    f->press(Qt::Key_End, Qt::ControlModifier);
+    QCOMPARE(f->widget->selectedSourceLine(), LineId(5));
+    QVERIFY(!f->targetTable().isValid());
+}
+
+void tst_TableMappingSelection::lineWithoutTarget()
+{
+    f->load();
+    f->select(1);
+    f->select(5);
+    QVERIFY(!f->targetTable().isValid());
+    QVERIFY(!f->button("btnRemoveLine")->isEnabled());
+    QVERIFY(!f->button("btnRemoveVerifyLine")->isEnabled());
+    QVERIFY(f->button("btnCondition")->isEnabled());
+    QCOMPARE(f->label("targetPathLabel")->text(), QString());
+    QCOMPARE(f->label("targetNumberLabel")->text(), QString());
+    QCOMPARE(f->button("btnMapLine")->toolTip(), QString("Zuordnung bestätigen (v)"));
+    QVERIFY(f->button("btnMapLine")->isEnabled());
+}
+
+void tst_TableMappingSelection::targetThatCannotBeRead()
+{
+    f->mapping = mappingOf("old/a.prj", {"new/gone.prj"});
+    enter(f->mapping, 0, 1, 3, Mapped);
+    f->load();
+    f->select(1);
+    QVERIFY(!f->targetTable().isValid());
+    QCOMPARE(f->widget->selectedSourceLine(), LineId(1));
+    QVERIFY(!f->button("btnRemoveLine")->isEnabled());
+    QCOMPARE(f->label("targetPathLabel")->text(), QString());
+}
+
+void tst_TableMappingSelection::severalSelectedLines()
+{
+    f->load();
+    f->select(1);
+    f->click(f->source, 2, Qt::ControlModifier);
+    QCOMPARE(f->source->getSelectedLineCount(), 2);
+    QVERIFY(!f->targetTable().isValid());
+    QVERIFY(!f->button("btnCondition")->isEnabled());
+    QVERIFY(!f->button("btnResolvedRanges")->isEnabled());
+    QVERIFY(f->button("btnRemoveLine")->isEnabled());
+    QVERIFY(f->button("btnRemoveVerifyLine")->isEnabled());
+    for (const char *const name : {"sourceDesignationLabel", "targetDesignationLabel",
+                                   "targetNumberLabel", "targetPathLabel"})
+        QCOMPARE(f->label(name)->text(), QString());
+}
+
+void tst_TableMappingSelection::backToOneLine()
+{
+    f->load();
+    f->select(1);
+    f->click(f->source, 2, Qt::ControlModifier);
+    f->select(2);
+    QVERIFY(f->targetTable().isValid());
+    QVERIFY(f->button("btnCondition")->isEnabled());
+}
+
+void tst_TableMappingSelection::sameTargetKeepsTableAndPosition()
+{
+    QByteArray head = "D";
+    QByteArray line = "M8";
+    for (int i = 0; i < 40; ++i) {
+        head += ",column" + QByteArray::number(i);
+        line += ",value";
+    }
+    f->catalog.write("new/a.prj", head + "\n" + line + "\n" + line + "\n" + line + "\n");
+    f->load();
+    f->select(1);
+    const VKTab::ContentRef table = f->targetTable();
+    f->target->setHorizontalScrollPos(150);
+    f->select(2);
+    QVERIFY(f->targetTable() == table);
+    QCOMPARE(f->target->getHorizontalScrollPos(), 150);
+}
+
+void tst_TableMappingSelection::otherTargetReadsItsTable()
+{
+    f->load();
+    f->select(1);
+    const VKTab::ContentRef table = f->targetTable();
+    f->select(4);
+    QVERIFY(f->targetTable().isValid());
+    QVERIFY(!(f->targetTable() == table));
+    QCOMPARE(f->label("targetPathLabel")->text(), QString("new/b.prj"));
+    QCOMPARE(f->targetTable().getSelection(), LineId(1));
+    f->select(1);
+    QVERIFY(!(f->targetTable() == table)); // read anew
+}
+
+void tst_TableMappingSelection::targetTableIsReadWithoutProjectFilters()
+{
+    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n", [](auto &table) {
+        table.filterConditions = {{"PRJLINECOND", "k .LT. 6", {}}, {"BYPRJ", "k .LT. 7", {}}};
+    });
+    f->load();
+    f->select(2);
+    QCOMPARE(visible(f->target), QString("1 2 3"));
+}
+
+void tst_TableMappingSelection::valuesOfTheSourceLineAreShown()
+{
+    f->catalog.write("new/a.prj", "D,k:r\nM10,7\nM9,66\nM8,4;5;6\nM20,1\n");
+    f->load();
+    f->select(1);
+    const VKTab::ContentRef table = f->targetTable();
+    QCOMPARE(table.getLine(LineId(3), false).getValue(table.getVar(u"k"), {}).toString(),
+             QString("5"));
+}
+
+void tst_TableMappingSelection::designations()
+{
+    f->load();
+    f->select(1);
+    QCOMPARE(f->label("sourceDesignationLabel")->text(), coloured("#008000", "Bolt M8"));
+    QCOMPARE(f->label("targetDesignationLabel")->text(), coloured("#008000", "Bolt M8"));
+    f->click(f->target, 2);
+    QCOMPARE(f->label("sourceDesignationLabel")->text(), coloured("#ff0000", "Bolt M8"));
+    QCOMPARE(f->label("targetDesignationLabel")->text(), coloured("#ff0000", "Bolt M9"));
+    f->select(5);
+    QCOMPARE(f->label("sourceDesignationLabel")->text(), coloured("#ff0000", "Bolt M12"));
+    QCOMPARE(f->label("targetDesignationLabel")->text(), coloured("#ff0000", ""));
+}
+
+void tst_TableMappingSelection::designationsAreComparedUntranslated()
+{
+    f->catalog.write("old/a.prj", "D,k:n\nBlank,5\n", [](VKTab::TableDescriptor &table) {
+        table.lineDesignation = "D";
+        table.translations["en"].insert("Blank", "plain");
+    });
+    f->catalog.write("new/a.prj", "D,k:n\nBlank,5\nBlank,6\nBlank,7\n",
+                     [](VKTab::TableDescriptor &table) {
+                         table.lineDesignation = "D";
+                         table.translations["en"].insert("Blank", "bare");
+                     });
+    VKTab::LangThreadSettings language;
+    language.setLanguage("en");
+    f->load();
+    f->select(1);
+    QCOMPARE(f->label("sourceDesignationLabel")->text(), coloured("#008000", "Blank"));
+    QCOMPARE(f->label("targetDesignationLabel")->text(), coloured("#008000", "Blank"));
+    QVERIFY(!VKTab::LangThreadSettings::isTranslationDisabled());
+}
+
+void tst_TableMappingSelection::lineIdColumnOnlyBesideRanges()
+{
+    f->load();
+    f->select(1);
+    QVERIFY(!f->targetTable().getVar(u"LINE_ID").isValid());
+    f->catalog.write("old/a.prj", "D,k:r\nM8,5;6\n");
+    f->load();
+    f->select(1);
+    const VKTab::Var var = f->targetTable().getVar(u"LINE_ID");
+    QVERIFY(var.isValid());
+    QCOMPARE(f->target->model()->columnOf(var.getVarId()), f->target->model()->columnCount() - 1);
+}
+
+void tst_TableMappingSelection::zoomIsTheLarger()
+{
+    f->load();
+    f->source->setZoomFactor(1.5);
+    f->select(1);
+    QCOMPARE(f->target->getZoomFactor(), 1.5);
+    f->target->setZoomFactor(2);
+    f->select(4);
+    QCOMPARE(f->source->getZoomFactor(), 2.0);
+}
+
+void tst_TableMappingSelection::assignButtonsOfTargets()
+{
+    ProjectMappingWidget project(nullptr);
+    f->widget->setProjectMappingWidget(&project);
+    project.loadSourceProject(f->mapping, f->read("old/a.prj"), CatalogMappingC());
+    const auto enabled = [&] {
+        QStringList states;
+        for (const QPushButton *const button : project.findChildren<QPushButton *>("assignButton"))
+            states.append(button->isEnabled() ? "on" : "off");
+        return states.join(u' ');
+    };
+    f->load();
+    f->select(1);
+    QCOMPARE(enabled(), QString("off off"));
+    f->select(5);
+    QCOMPARE(enabled(), QString("on on"));
+    f->select(1);
+    f->click(f->source, 2, Qt::ControlModifier);
+    QCOMPARE(enabled(), QString("on on"));
+    f->widget->setProjectMappingWidget(nullptr);
+}
+
+void tst_TableMappingSelection::mapButton()
+{
+    f->load();
+    f->select(1);
+    const QPushButton *const button = f->button("btnMapLine");
+    const auto image = [](const QIcon &icon) {
+        return icon.pixmap(16).toImage();
+    };
+    const QImage confirm = image(QIcon(":/bitmaps/confirm_mapping.png"));
+    const QImage assign = image(QIcon(":/bitmaps/line.png"));
+    QVERIFY(confirm != assign);
+    QCOMPARE(button->toolTip(), QString("Zuordnung bestätigen (v)"));
+    QCOMPARE(image(button->icon()), confirm);
+    QVERIFY(button->isEnabled());
+    f->click(f->target, 1);
+    QCOMPARE(button->toolTip(), QString("Aktuell markierte Zeile zuordnen (v)"));
+    QCOMPARE(button->accessibleName(), button->toolTip());
+    QCOMPARE(image(button->icon()), assign);
+    QVERIFY(button->isEnabled());
+    f->click(f->target, 3);
+    QCOMPARE(button->toolTip(), QString("Zuordnung bestätigen (v)"));
+    QCOMPARE(image(button->icon()), confirm);
+    QCOMPARE(button->shortcut(), QKeySequence(Qt::Key_V));
+}
+
+void tst_TableMappingSelection::mapButtonWithRangeText()
+{
+    enter(f->mapping, 0, 1, 3, Mapped, "{k=5} -> 3");
+    f->load();
+    f->select(1);
+    const QPushButton *const button = f->button("btnMapLine");
+    QVERIFY(button->isEnabled());
+    f->click(f->target, 1);
+    QVERIFY(!button->isEnabled());
+    QCOMPARE(button->toolTip(),
+             QString("Es existiert eine Wertebereichszuordnung für diese Zeile.\nZuordnung muss "
+                     "über 'Wertebereichszuordnung bearbeiten' verändert werden"));
+    f->click(f->target, 3);
+    QVERIFY(button->isEnabled());
+    QCOMPARE(button->toolTip(), QString("Zuordnung bestätigen (v)"));
+}
+
+void tst_TableMappingSelection::mapButtonOfSeveralLines()
+{
+    // A multiple selection leaves the button as it was.
+    enter(f->mapping, 0, 1, 3, Mapped, "{k=5} -> 3");
+    f->load();
+    f->select(1);
+    f->click(f->target, 1);
+    const QString toolTip = f->button("btnMapLine")->toolTip();
+    f->click(f->source, 2, Qt::ControlModifier);
+    QCOMPARE(f->button("btnMapLine")->toolTip(), toolTip);
+    QVERIFY(!f->button("btnMapLine")->isEnabled());
+}
+
+void tst_TableMappingSelection::labelsFollowTheTargetSelection()
+{
+    f->load();
+    f->select(1);
+    f->click(f->target, 4);
+    QCOMPARE(f->label("targetNumberLabel")->text(), QString("ISO 1-M20"));
+    QCOMPARE(f->label("targetPathLabel")->text(), QString("new/a.prj"));
+}
+
+void tst_TableMappingSelection::filterNotMappedLines()
+{
+    PrjMappingTargetC target = f->mapping.findTarget(0);
+    target.setLineConflicted(3, true);
+    f->mapping.updateTarget(0, target);
+    f->load();
+    QCOMPARE(f->states(), QString("- C Conflicted - N"));
+    tick("chkFilterSource");
+    QCOMPARE(visible(f->source), QString("2 5"));
+    QCOMPARE(f->source->model()->rowCount(), 2);
+    tick("chkFilterSource");
+    QCOMPARE(visible(f->source), QString("1 2 3 4 5"));
+}
+
+void tst_TableMappingSelection::filterNotMappedLinesWithoutAny()
+{
+    f->mapping.verifyAll();
+    f->load();
+    tick("chkFilterSource");
+    QCOMPARE(visible(f->source), QString());
+    QCOMPARE(f->source->model()->rowCount(), 0);
+}
+
+void tst_TableMappingSelection::filterTargetLines()
+{
+    f->load();
+    f->select(1);
+    tick("chkFilterTarget");
+    QCOMPARE(visible(f->target), QString("4"));
+    f->select(2);
+    QCOMPARE(visible(f->target), QString("4"));
+    f->select(4);
+    QCOMPARE(visible(f->target), QString("2"));
+    tick("chkFilterTarget");
+    QCOMPARE(visible(f->target), QString("1 2"));
+}
+
+void tst_TableMappingSelection::filterTargetLinesFollowsTheMapping()
+{
+    f->load();
+    f->select(1);
+    tick("chkFilterTarget");
+    QCOMPARE(visible(f->target), QString("4"));
+    f->click(f->target, 4);
+    f->press(Qt::Key_V);
+    QCOMPARE(entriesOf(f->current()).section(' ', 0, 0), QString("0:1>4/2"));
+    QCOMPARE(visible(f->target), QString("3"));
+    // A confirmation changes nothing that the filter looks at.
+    f->select(2);
+    f->press(Qt::Key_V);
+    QCOMPARE(visible(f->target), QString("3"));
+    f->press(Qt::Key_X);
+    f->select(3);
+    QCOMPARE(visible(f->target), QString("2 3"));
+}
+
+void tst_TableMappingSelection::filterTargetLinesWithoutAny()
+{
+    enter(f->mapping, 0, 9, 4, Mapped);
+    f->load();
+    f->select(1);
+    tick("chkFilterTarget");
+    QCOMPARE(visible(f->target), QString());
+}
+
+void tst_TableMappingSelection::filterTargetLinesOfAllItsTargets()
+{
+    // The same project stands twice.
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj", "new/a.prj"});
+    enter(f->mapping, 0, 1, 3, Mapped);
+    enter(f->mapping, 1, 2, 4, Mapped);
+    f->load();
+    f->select(1);
+    tick("chkFilterTarget");
+    QCOMPARE(visible(f->target), QString("1 2"));
+}
+
+void tst_TableMappingSelection::filterGivesWay()
+{
+    f->load();
+    f->select(1);
+    VKTab::ContentRef table = f->targetTable();
+    table.setFilter(VKTab::FilterByLineId({{4, {}}}, true));
+    table.invalidate(VKTab::Content::InvalidateFilter, true);
+    QCOMPARE(f->target->model()->rowCount(), 1);
+    f->select(2);
+    QCOMPARE(visible(f->target), QString("1 2 3 4"));
+    QCOMPARE(f->target->model()->rowCount(), 4);
+    QCOMPARE(f->target->getSelectedLines(), QList<LineId>({LineId(2)}));
+    // A filter that shows the line stays.
+    table.setFilter(VKTab::FilterByLineId({{1, {}}, {2, {}}}, true));
+    table.invalidate(VKTab::Content::InvalidateFilter, true);
+    f->select(3);
+    QCOMPARE(visible(f->target), QString("1 2"));
+}
+
+void tst_TableMappingSelection::otherFilterStays()
+{
+    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n", [](auto &table) {
+        table.filterConditions = {{"OTHER", "k .LT. 50", {}}};
+    });
+    f->load();
+    f->select(2);
+    QCOMPARE(visible(f->target), QString("1 3"));
+    QCOMPARE(f->targetTable().getSelection(), LineId(2));
+    QVERIFY(!f->targetTable().isLineVisible(LineId(2)));
+}
+
+void tst_TableMappingSelection::boxesOff()
+{
+    f->load();
+    f->select(1);
+    VKTab::ContentRef table = f->targetTable();
+    table.setFilter(VKTab::FilterByLineId({{3, {}}}, true));
+    f->box("chkFilterTarget")->setTristate(true);
+    f->box("chkFilterTarget")->setCheckState(Qt::PartiallyChecked);
+    QCOMPARE(visible(f->target), QString("1 2 3 4"));
+}
+
+void tst_TableMappingSelection::filterTargetTable()
+{
+    enter(f->mapping, 0, 4, 2, Mapped);
+    f->mapping.removeTarget(1);
+    f->load();
+    f->select(1);
+    menuRow(f->target, 3, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
+    QCOMPARE(visible(f->target), QString("2"));
+}
+
+void tst_TableMappingSelection::filterTargetTableWithoutAny()
+{
+    f->load();
+    f->select(1);
+    menuRow(f->target, 3, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
+    QCOMPARE(visible(f->target), QString("1 2 3 4"));
+}
+
+void tst_TableMappingSelection::filterSourceTable()
+{
+    enter(f->mapping, 0, 3, 2, Verified);
+    f->load();
+    f->select(2);
+    menuRow(f->target, 2,
+            "Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind");
+    QCOMPARE(visible(f->source), QString("2 3"));
+}
+
+void tst_TableMappingSelection::filterSourceTableWithoutAny()
+{
+    f->load();
+    f->select(2);
+    f->click(f->target, 4);
+    menuRow(f->target, 4,
+            "Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind");
+    QCOMPARE(visible(f->source), QString("1 2 3 4 5"));
+}
+
+void tst_TableMappingSelection::hiddenColumns()
+{
+    const auto hideK = [](VKTab::TableDescriptor &table) {
+        table.fields[1].hidden = true;
+    };
+    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\nM11,8\n", hideK);
+    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n", hideK);
+    f->catalog.write("new/b.prj", "D,k:n\nM11,8\n", hideK);
+    f->load();
+    f->select(1);
+    const auto isShown = [](VkTableView *view) {
+        return view->model()->columnOf(view->getTable().getVar(u"k").getVarId()) >= 0;
+    };
+    QVERIFY(!isShown(f->source) && !isShown(f->target));
+    tick("chkShowHiddenCols");
+    QVERIFY(isShown(f->source) && isShown(f->target));
+    QCOMPARE(f->targetTable().getSelection(), LineId(3));
+    f->select(4); // a table that is read later
+    QVERIFY(isShown(f->target));
+    tick("chkShowHiddenCols");
+    QVERIFY(!isShown(f->source) && !isShown(f->target));
+}
+
+QTEST_MAIN(tst_TableMappingSelection)
+#include "tst_TableMappingSelection.moc"
