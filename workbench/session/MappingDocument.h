@@ -87,6 +87,8 @@ public:
     /// Takes the lock of somebody who will not come back, such as a computer that is gone; to be
     /// called after the user said so. The document must be opened again afterwards.
     static bool removeLock(const QString &mappingFile);
+    /// The path under which a mapping file is known here, links resolved.
+    [[nodiscard]] static QString canonicalPath(const QString &mappingFile);
 
     /// Native path; empty if nothing is open.
     [[nodiscard]] QString mappingFile() const;

@@ -58,10 +58,11 @@ Q_SIGNALS:
 
 private:
     void noteCount();
+    void dropOrder();
     [[nodiscard]] int countIn(const LineCounts &counts) const;
-    [[nodiscard]] int nextIn(const PrjMappingC &mapping, int behind) const;
-    [[nodiscard]] int previousIn(const PrjMappingC &mapping, int before) const;
     [[nodiscard]] const ProjectOrder &order() const;
+    [[nodiscard]] LineRef seek(const LineRef &from, bool forward) const;
+    [[nodiscard]] LineRef lineAt(int position, qint64 from, bool forward) const;
 
     MappingDocument *const m_document;
     Kinds m_kinds = Kinds(ToCheck | NotFound);

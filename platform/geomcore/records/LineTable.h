@@ -118,6 +118,10 @@ public:
     [[nodiscard]] Iterator begin() const { return Iterator(m_chunks); }
     [[nodiscard]] Iterator end() const { return Iterator(); }
 
+    /// The pages themselves, for comparing two tables without walking what they share. Valid until
+    /// the table changes.
+    [[nodiscard]] const std::vector<ChunkRef> &chunks() const { return m_chunks; }
+
     [[nodiscard]] bool isEmpty() const { return m_chunks.empty(); }
     [[nodiscard]] const LineCounts &counts() const { return m_counts; }
     [[nodiscard]] bool contains(int sourceLine) const { return findRow(sourceLine) != nullptr; }

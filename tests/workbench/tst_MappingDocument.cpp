@@ -1,0 +1,803 @@
+#include "SessionFixture.h"
+
+#include <workbench/session/JournalReader.h>
+#include <workbench/session/MappingDocument.h>
+#include <workbench/session/ReleaseChanges.h>
+
+#include <core/json/PJsonValue.h>
+#include <geomcore/expression/VarsetConditionC.h>
+#include <geomcore/expression/VarsetVarMappingC.h>
+#include <geomcore/records/MappingFile.h>
+#include <mapping/data/CatalogMappingHandlerI.h>
+
+#include <QFile>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+using Handler = std::unique_ptr<CatalogMappingHandlerI>;
+
+const QString Path = QStringLiteral("cat/a.prj");
+
+ProjectId id(const QString &path)
+{
+    return {path, SessionFixture::Version, QStringLiteral("t1")};
+}
+
+PrjMappingTargetC realTarget(const QString &path)
+{
+    PrjMappingTargetC target;
+    target.setTargetPath(path);
+    target.setValid(true);
+    return target;
+}
+
+} // namespace
+
+class tst_MappingDocument : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void opensARelease();
+    void opensTheLastReleaseUnlessAskedForAnother();
+    void refusesWhatItCannotRead_data();
+    void refusesWhatItCannotRead();
+    void handlerGoesTheDocumentsWay();
+    void handlerOutlivesTheDocument();
+    void oneTurnIsOneStep();
+    void eachTurnIsAStep();
+    void explicitStepsKeepTogether();
+    void stepTexts_data();
+    void stepTexts();
+    void textOverSeveralProjects();
+    void undoAndRedo();
+    void undoForgetsWhatWasUndoneAtTheNextChange();
+    void undoLimit();
+    void undoReachesTheSavedState();
+    void nothingChangedIsNoStep();
+    void changesThatCancelOutAreNoStep();
+    void addedProjectCanBeUndone();
+    void tableVersionCanBeUndone();
+    void directoriesShowUndoneStates();
+    void markingConflictsIsNoStep();
+    void replacesTheRelease();
+    void countsFollowEveryChange();
+    void notices_data();
+    void notices();
+    void expiredLinesAreListed();
+    void stillIgnoredVariablesAreTold();
+    void secondEditorReadsOnly();
+    void readOnlyRefusesChanges();
+    void locksGoWithTheDocument();
+    void rememberedRoots();
+    void newReleaseIsModified();
+    void journalTellsWhatHappened();
+    void journalCostsWhatChanged();
+
+private:
+    MappingDocument &open(MappingDocument::Access access = MappingDocument::Access::ReadWrite);
+    void change(const PrjMappingC &mapping);
+
+    std::unique_ptr<SessionFixture> m_files;
+    std::unique_ptr<MappingDocument> m_document;
+    QString m_file;
+};
+
+void tst_MappingDocument::init()
+{
+    m_files = std::make_unique<SessionFixture>();
+    m_document = std::make_unique<MappingDocument>();
+    m_file = m_files->write();
+}
+
+void tst_MappingDocument::cleanup()
+{
+    m_document.reset();
+    m_files.reset();
+}
+
+MappingDocument &tst_MappingDocument::open(MappingDocument::Access access)
+{
+    m_document->open({m_file, {}, {}, access, MappingDocument::Recovery::Ask});
+    return *m_document;
+}
+
+/// One user action.
+void tst_MappingDocument::change(const PrjMappingC &mapping)
+{
+    m_document->updateMapping(mapping);
+    QCoreApplication::processEvents();
+}
+
+void tst_MappingDocument::opensARelease()
+{
+    QSignalSpy opened(m_document.get(), &MappingDocument::opened);
+    QCOMPARE(m_document->open({m_file, {}, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    QCOMPARE(opened.size(), 1);
+    QVERIFY(m_document->isOpen());
+    QVERIFY(!m_document->isReadOnly());
+    QVERIFY(!m_document->isModified());
+    QCOMPARE(m_document->mappingFile(), m_file);
+    QCOMPARE(m_document->rootName(), QStringLiteral("2022-01-01 → 2026-01-01"));
+    QCOMPARE(m_document->release().countMappings(), 3);
+    QCOMPARE(m_document->counts().lines(), 30);
+    QCOMPARE(m_document->counts().toCheck(), 30);
+    QVERIFY(QFile::exists(m_document->journalFile()));
+    QVERIFY(!QFile::exists(m_document->autosaveFile()));
+}
+
+void tst_MappingDocument::opensTheLastReleaseUnlessAskedForAnother()
+{
+    m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2024-01-01")));
+    QCOMPARE(MappingDocument::sourceDates(m_file),
+             QStringList({QStringLiteral("2022-01-01"), QStringLiteral("2024-01-01")}));
+    open();
+    QCOMPARE(m_document->release().getSourceDate(), QStringLiteral("2024-01-01"));
+    QCOMPARE(
+        m_document->open({m_file, QStringLiteral("2022-01-01"), QStringLiteral("Wurzel"), {}, {}}),
+        MappingDocument::OpenResult::Opened);
+    QCOMPARE(m_document->release().getSourceDate(), QStringLiteral("2022-01-01"));
+    QCOMPARE(m_document->rootName(), QStringLiteral("Wurzel"));
+}
+
+void tst_MappingDocument::refusesWhatItCannotRead_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("date");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("part");
+    const int unreadable = int(MappingDocument::OpenResult::Unreadable);
+    const int noRelease = int(MappingDocument::OpenResult::NoRelease);
+    QTest::newRow("no JSON") << QByteArray("{\"2022") << QString() << unreadable
+                             << QStringLiteral("release.json.bak");
+    QTest::newRow("no file") << QByteArray() << QString() << unreadable
+                             << QStringLiteral("Sicherungskopie");
+    QTest::newRow("no release") << QByteArray("{}") << QString() << noRelease
+                                << QStringLiteral("enthält keinen Stand.");
+    QTest::newRow("other release")
+        << QByteArray("{\"2020\":{\"sourceDate\":\"2020\",\"targetDate\":\"2021\"}}")
+        << QStringLiteral("2022") << noRelease << QStringLiteral("Vorhanden sind: 2020");
+    QTest::newRow("release that is none")
+        << QByteArray("{\"2020\":{\"sourceDate\":7}}") << QStringLiteral("2020") << unreadable
+        << QStringLiteral("Der Stand 2020 kann nicht gelesen werden.");
+}
+
+void tst_MappingDocument::refusesWhatItCannotRead()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, date);
+    QFETCH(int, result);
+    QFETCH(QString, part);
+    if (content.isEmpty())
+        QVERIFY(QFile::remove(m_file));
+    else
+        SessionFixture::setContent(m_file, content);
+    QCOMPARE(int(m_document->open({m_file, date, {}, {}, {}})), result);
+    QVERIFY2(m_document->errorText().contains(part), qPrintable(m_document->errorText()));
+    QVERIFY(!m_document->isOpen());
+    QVERIFY(!QFile::exists(m_file + QStringLiteral(".edit")));
+}
+
+void tst_MappingDocument::handlerGoesTheDocumentsWay()
+{
+    open();
+    const Handler handler(m_document->createHandler());
+    QCOMPARE(handler->countLines(), 30);
+    QCOMPARE(handler->countToCheck(), 30);
+    const PrjMappingC confirmed =
+        SessionFixture::withState(m_document->mapping(id(Path)), {1, 2}, 2);
+    handler->updateMapping(confirmed);
+    QCOMPARE(handler->countVerified(), 2);
+    QVERIFY(m_document->isModified());
+    QCOMPARE(SessionFixture::bytes(handler->getCatalogMapping().lastRelease()),
+             SessionFixture::bytes(m_document->release()));
+    QCOMPARE(handler->getRootStructureNode(), m_document->handler()->getRootStructureNode());
+    QVERIFY(handler->commitModifications());
+    QVERIFY(!m_document->isModified());
+    MappingFile saved;
+    QVERIFY(saved.read(m_file));
+    QCOMPARE(SessionFixture::bytes(saved.releases().first()),
+             SessionFixture::bytes(m_document->release()));
+}
+
+void tst_MappingDocument::handlerOutlivesTheDocument()
+{
+    open();
+    const Handler handler(m_document->createHandler());
+    const PrjMappingC confirmed = SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2);
+    m_document.reset();
+    handler->updateMapping(confirmed);
+    QCOMPARE(handler->countVerified(), 0);
+    QVERIFY(!handler->commitModifications());
+}
+
+void tst_MappingDocument::oneTurnIsOneStep()
+{
+    open();
+    QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
+    PrjMappingC mapping = m_document->mapping(id(Path));
+    for (int line = 1; line <= 3; ++line) {
+        mapping = SessionFixture::withState(mapping, {line}, 2);
+        m_document->updateMapping(mapping);
+    }
+    QVERIFY(!m_document->canUndo());
+    QVERIFY(m_document->isModified());
+    QCoreApplication::processEvents();
+    QCOMPARE(m_document->undoTexts(),
+             QStringList(QStringLiteral("3 Zeilen bestätigt in cat/a.prj")));
+    QCOMPARE(done.size(), 1);
+    QCOMPARE(done.first().at(0).toString(), QStringLiteral("3 Zeilen bestätigt in cat/a.prj"));
+    QCOMPARE(done.first().at(1).toInt(), 3);
+}
+
+void tst_MappingDocument::eachTurnIsAStep()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    QCOMPARE(m_document->undoTexts().size(), 2);
+}
+
+void tst_MappingDocument::explicitStepsKeepTogether()
+{
+    open();
+    m_document->beginStep(QStringLiteral("Alles"));
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    m_document->beginStep(QStringLiteral("innen"));
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    m_document->endStep();
+    QVERIFY(!m_document->canUndo());
+    m_document->undo();
+    QCOMPARE(m_document->counts().verified(), 2);
+    m_document->endStep();
+    QCOMPARE(m_document->undoTexts(), QStringList(QStringLiteral("Alles")));
+    m_document->undo();
+    QCOMPARE(m_document->counts().verified(), 0);
+}
+
+void tst_MappingDocument::stepTexts_data()
+{
+    QTest::addColumn<PrjMappingC>("before");
+    QTest::addColumn<PrjMappingC>("after");
+    QTest::addColumn<QString>("text");
+    const PrjMappingC plain = SessionFixture::plainMapping(Path, 4);
+    const auto row = [&](const char *name, const PrjMappingC &before, const PrjMappingC &after,
+                         const char *text) {
+        QTest::newRow(name) << before << after << QString::fromUtf8(text);
+    };
+    const auto lines = [](const QList<SampleLine> &list) {
+        return SessionFixture::mapping(Path, list);
+    };
+    row("one confirmed", plain, SessionFixture::withState(plain, {2}, 2),
+        "1 Zeile bestätigt in cat/a.prj");
+    row("some confirmed", plain, SessionFixture::withState(plain, {1, 2, 4}, 2),
+        "3 Zeilen bestätigt in cat/a.prj");
+    row("expired", lines({{1, -1, 1, {}, false}}), lines({{1, -1, 2, {}, false}}),
+        "1 Zeile als entfallen bestätigt in cat/a.prj");
+    row("assigned", lines({{1, 5, 0, {}, false}}), lines({{1, 6, 1, {}, false}}),
+        "1 Zeile zugeordnet in cat/a.prj");
+    row("text", lines({{1, 5, 0, {}, false}}),
+        lines({{1, 5, 0, QStringLiteral("{L=1} -> 2"), false}}),
+        "Wertebereichszuordnung von 1 Zeile geändert in cat/a.prj");
+    row("conflict settled", lines({{1, 5, 0, {}, true}}), lines({{1, 5, 0, {}, false}}),
+        "Konflikt von 1 Zeile gelöst in cat/a.prj");
+    row("mixed", lines({{1, 5, 0, {}, false}, {2, 5, 0, {}, false}}),
+        lines({{1, 5, 2, {}, false}, {2, 6, 0, {}, false}}), "2 Zeilen geändert in cat/a.prj");
+
+    PrjMappingC removed = plain;
+    PrjMappingTargetC first = removed.findTarget(0);
+    first.removeLineId(1);
+    first.removeLineId(2);
+    removed.updateTarget(0, first);
+    PrjMappingTargetC notFound;
+    notFound.addLineId(1, -1, PRJMAPPING::Mapped, QString());
+    notFound.addLineId(2, -1, PRJMAPPING::Mapped, QString());
+    removed.addTarget(notFound);
+    row("removed", plain, removed, "Zuordnung von 2 Zeilen aufgehoben in cat/a.prj");
+
+    PrjMappingC more = plain;
+    more.insertTarget(0, realTarget(QStringLiteral("new/u.prj")));
+    row("target added", plain, more, "Zielprojekt hinzugefügt in cat/a.prj");
+    row("target removed", more, plain, "Zielprojekt entfernt in cat/a.prj");
+    PrjMappingC swapped = plain;
+    swapped.addTarget(realTarget(QStringLiteral("new/u.prj")));
+    row("order", more, swapped, "Reihenfolge der Zielprojekte geändert in cat/a.prj");
+    row(
+        "target added with lines", plain,
+        [&] {
+            PrjMappingC both = SessionFixture::withState(plain, {1}, 2);
+            both.addTarget(realTarget(QStringLiteral("new/u.prj")));
+            return both;
+        }(),
+        "Zielprojekt hinzugefügt (1 Zeile bestätigt) in cat/a.prj");
+
+    PrjMappingC condition = plain;
+    PrjMappingTargetC target = plain.findTarget(0);
+    target.addCondition(VarsetConditionC::fromText(QStringLiteral("A.EQ.1")));
+    condition.updateTarget(0, target);
+    row("condition", plain, condition, "Bedingungen geändert in cat/a.prj");
+    PrjMappingC modifier = plain;
+    target = plain.findTarget(0);
+    target.addModifier(new VarsetVarMappingC(QStringLiteral("A"), QStringLiteral("B")));
+    modifier.updateTarget(0, target);
+    row("modifier", plain, modifier, "Variablenzuordnung geändert in cat/a.prj");
+    PrjMappingC version = plain;
+    target = plain.findTarget(0);
+    target.setTabVersion(QStringLiteral("t9"));
+    version.updateTarget(0, target);
+    row("version", plain, version, "Versionen geändert in cat/a.prj");
+    PrjMappingC state = plain;
+    state.setMappingState(PRJMAPPING::StateTableError);
+    row("state", plain, state, "Status geändert in cat/a.prj");
+}
+
+void tst_MappingDocument::stepTexts()
+{
+    QFETCH(PrjMappingC, before);
+    QFETCH(PrjMappingC, after);
+    QFETCH(QString, text);
+    open();
+    change(before);
+    change(after);
+    QCOMPARE(m_document->undoText(), text);
+    m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->mapping(id(Path))), SessionFixture::bytes(before));
+    QCOMPARE(m_document->redoText(), text);
+    m_document->redo();
+    QCOMPARE(SessionFixture::bytes(m_document->mapping(id(Path))), SessionFixture::bytes(after));
+}
+
+void tst_MappingDocument::textOverSeveralProjects()
+{
+    open();
+    for (const char *path : {"cat/a.prj", "cat/screws/b.prj"})
+        m_document->updateMapping(SessionFixture::withState(
+            m_document->mapping(id(QString::fromLatin1(path))), {1, 2}, 2));
+    m_document->finishStep();
+    QCOMPARE(m_document->undoText(), QStringLiteral("4 Zeilen bestätigt in 2 Projekten"));
+}
+
+void tst_MappingDocument::undoAndRedo()
+{
+    open();
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1, 2, 3}, 2));
+    const QByteArray after = SessionFixture::bytes(m_document->release());
+    QSignalSpy reselect(m_document.get(), &MappingDocument::reselectRequested);
+    QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
+    QSignalSpy modified(m_document.get(), &MappingDocument::modifiedChanged);
+
+    m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), before);
+    QCOMPARE(reselect.size(), 1);
+    QCOMPARE(reselect.first().first().value<ProjectId>(), id(Path));
+    QCOMPARE(done.first().at(0).toString(),
+             QStringLiteral("Rückgängig: 3 Zeilen bestätigt in cat/a.prj"));
+    QCOMPARE(modified.size(), 1);
+    QVERIFY(!m_document->isModified());
+    QVERIFY(!m_document->canUndo());
+    QVERIFY(m_document->canRedo());
+
+    m_document->redo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), after);
+    QCOMPARE(done.last().at(0).toString(),
+             QStringLiteral("Wiederholt: 3 Zeilen bestätigt in cat/a.prj"));
+    QVERIFY(m_document->isModified());
+    QVERIFY(m_document->canUndo());
+    QVERIFY(!m_document->canRedo());
+    m_document->redo();
+    QCOMPARE(done.size(), 2);
+}
+
+void tst_MappingDocument::undoForgetsWhatWasUndoneAtTheNextChange()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    m_document->undo();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    QVERIFY(!m_document->canRedo());
+    QCOMPARE(m_document->undoTexts().size(), 1);
+}
+
+void tst_MappingDocument::undoLimit()
+{
+    open();
+    m_document->setUndoLimit(2);
+    for (int line = 1; line <= 4; ++line)
+        change(SessionFixture::withState(m_document->mapping(id(Path)), {line}, 2));
+    QCOMPARE(m_document->undoTexts().size(), 2);
+    m_document->undo();
+    m_document->undo();
+    QCOMPARE(m_document->counts().verified(), 2);
+    QVERIFY(m_document->isModified()); // what was opened cannot be reached any more
+}
+
+void tst_MappingDocument::undoReachesTheSavedState()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    QVERIFY(!m_document->isModified());
+    m_document->undo();
+    QVERIFY(m_document->isModified());
+    m_document->redo();
+    QVERIFY(!m_document->isModified());
+    m_document->undo();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {5}, 2));
+    m_document->undo();
+    QVERIFY(m_document->isModified()); // the saved state was undone and forgotten
+}
+
+void tst_MappingDocument::nothingChangedIsNoStep()
+{
+    open();
+    const qint64 size = QFile(m_document->journalFile()).size();
+    QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
+    change(m_document->mapping(id(Path)));
+    QVERIFY(!m_document->canUndo());
+    QVERIFY(!m_document->isModified());
+    QCOMPARE(done.size(), 0);
+    QCOMPARE(QFile(m_document->journalFile()).size(), size);
+}
+
+void tst_MappingDocument::changesThatCancelOutAreNoStep()
+{
+    open();
+    const PrjMappingC mapping = m_document->mapping(id(Path));
+    m_document->updateMapping(SessionFixture::withState(mapping, {1}, 2));
+    change(mapping);
+    QVERIFY(!m_document->canUndo());
+    QVERIFY(!m_document->isModified());
+}
+
+void tst_MappingDocument::addedProjectCanBeUndone()
+{
+    open();
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    QSignalSpy replaced(m_document.get(), &MappingDocument::releaseReplaced);
+    change(SessionFixture::plainMapping(QStringLiteral("cat/new.prj"), 5));
+    QCOMPARE(m_document->undoText(), QStringLiteral("Projekt hinzugefügt (5 Zeilen zugeordnet) in "
+                                                    "cat/new.prj"));
+    QCOMPARE(m_document->counts().lines(), 35);
+    const QByteArray after = SessionFixture::bytes(m_document->release());
+    m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), before);
+    QCOMPARE(m_document->counts().lines(), 30);
+    QCOMPARE(replaced.size(), 1);
+    m_document->redo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), after);
+    QCOMPARE(m_document->counts().lines(), 35);
+}
+
+void tst_MappingDocument::tableVersionCanBeUndone()
+{
+    open();
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    PrjMappingC mapping = m_document->mapping(id(Path));
+    mapping.setTabVersion(QString()); // matches any, so the stored one is replaced
+    change(mapping);
+    QCOMPARE(m_document->release().countMappings(), 3);
+    m_document->undo();
+    QCOMPARE(m_document->release().countMappings(), 3);
+    QCOMPARE(m_document->mapping(id(Path)).getTabVersion(), QStringLiteral("t1"));
+    QCOMPARE(countLines(m_document->release()), m_document->counts());
+    Q_UNUSED(before)
+}
+
+void tst_MappingDocument::directoriesShowUndoneStates()
+{
+    open();
+    const auto root = m_document->handler()->getRootStructureNode();
+    const auto screws = root->getChildren().first()->getChildren().first();
+    QCOMPARE(screws->getName(), QStringLiteral("screws"));
+    QVERIFY(!screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
+    const QString path = QStringLiteral("cat/screws/b.prj");
+    change(SessionFixture::withState(m_document->mapping(id(path)), {1}, 2));
+    screws->invalidateState(); // as the editor does after its own change
+    QVERIFY(screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
+    m_document->undo();
+    QVERIFY(!screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
+    m_document->redo();
+    QVERIFY(screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
+}
+
+void tst_MappingDocument::markingConflictsIsNoStep()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    const auto marked = [this](int line) {
+        PrjMappingC mapping = m_document->mapping(id(Path));
+        PrjMappingTargetC target = mapping.findTarget(0);
+        target.setLineConflicted(line, true);
+        mapping.updateTarget(0, target);
+        return mapping;
+    };
+    change(marked(3)); // found by what it does
+    m_document->updateWithoutStep([&] { m_document->updateMapping(marked(4)); });
+    QCOMPARE(m_document->undoTexts(),
+             QStringList(QStringLiteral("1 Zeile bestätigt in cat/a.prj")));
+    m_document->undo();
+    const PrjMappingTargetC target = m_document->mapping(id(Path)).findTarget(0);
+    QVERIFY(target.getLineConflicted(3));
+    QVERIFY(target.getLineConflicted(4));
+    QCOMPARE(target.getMappedLine(1).getState(), PRJMAPPING::ToCheck);
+    QVERIFY(m_document->isModified());
+}
+
+void tst_MappingDocument::replacesTheRelease()
+{
+    open();
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    ReleaseMappingC other = SessionFixture::sampleRelease();
+    other.clearMappings();
+    other.setTargetDate(QStringLiteral("2027-01-01"));
+    other.addMapping(SessionFixture::plainMapping(QStringLiteral("cat/x.prj"), 4, 1));
+    QSignalSpy replaced(m_document.get(), &MappingDocument::releaseReplaced);
+    const Handler old(m_document->createHandler());
+    m_document->replaceRelease(other, QStringLiteral("Zuordnung neu erstellt"));
+    QCOMPARE(replaced.size(), 1);
+    QCOMPARE(m_document->undoText(), QStringLiteral("Zuordnung neu erstellt"));
+    QCOMPARE(SessionFixture::bytes(m_document->release()), SessionFixture::bytes(other));
+    QCOMPARE(m_document->counts().mapped(), 4);
+    // What the editor of the former tree still sends goes nowhere.
+    old->updateMapping(SessionFixture::plainMapping(Path, 2));
+    QCOMPARE(m_document->counts().lines(), 4);
+    m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), before);
+    QCOMPARE(m_document->counts().lines(), 30);
+}
+
+void tst_MappingDocument::countsFollowEveryChange()
+{
+    open();
+    QSignalSpy counts(m_document.get(), &MappingDocument::countsChanged);
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1, 2}, 2));
+    QCOMPARE(counts.size(), 1);
+    QCOMPARE(m_document->counts(), countLines(m_document->release()));
+    change(SessionFixture::plainMapping(Path, 3, 1));
+    QCOMPARE(m_document->counts(), countLines(m_document->release()));
+    m_document->undo();
+    QCOMPARE(m_document->counts(), countLines(m_document->release()));
+    QCOMPARE(m_document->counts().verified(), 2);
+}
+
+void tst_MappingDocument::notices_data()
+{
+    QTest::addColumn<PrjMappingC>("before");
+    QTest::addColumn<PrjMappingC>("after");
+    QTest::addColumn<QList<int>>("kinds");
+    QTest::addColumn<QString>("part");
+    const auto with = [](const QStringList &conditions, const QStringList &variables) {
+        PrjMappingC mapping = SessionFixture::plainMapping(Path, 2);
+        PrjMappingTargetC target = mapping.findTarget(0);
+        for (const QString &condition : conditions)
+            target.addCondition(VarsetConditionC::fromText(condition));
+        for (const QString &variable : variables)
+            target.addModifier(new VarsetVarMappingC(variable, variable));
+        mapping.updateTarget(0, target);
+        return mapping;
+    };
+    const QString a = QStringLiteral("A");
+    const QString b = QStringLiteral("B");
+    const QString c = QStringLiteral("A.EQ.1");
+    QTest::newRow("condition dropped")
+        << with({c, QStringLiteral("B.EQ.1")}, {}) << with({c}, {})
+        << QList<int>{ChangeNotice::ConditionDropped}
+        << QStringLiteral("Eine Bedingung des Zielprojekts new/t.prj in cat/a.prj ist entfallen.");
+    QTest::newRow("condition added") << with({}, {}) << with({c}, {}) << QList<int>{} << QString();
+    QTest::newRow("modifier dropped")
+        << with({}, {a, b}) << with({}, {a})
+        << QList<int>{ChangeNotice::ModifierDropped, ChangeNotice::RemapDue}
+        << QStringLiteral("Eine Variablenzuordnung des Zielprojekts new/t.prj");
+    QTest::newRow("modifier added")
+        << with({}, {a}) << with({}, {a, b}) << QList<int>{ChangeNotice::RemapDue}
+        << QStringLiteral("wirkt erst, wenn die Zeilen erneut zugewiesen werden");
+    PrjMappingC added = with({}, {});
+    added.addTarget(realTarget(QStringLiteral("new/u.prj")));
+    QTest::newRow("target added") << with({}, {}) << added << QList<int>{ChangeNotice::RemapDue}
+                                  << QString();
+    QTest::newRow("lines only") << with({}, {}) << SessionFixture::withState(with({}, {}), {1}, 2)
+                                << QList<int>{} << QString();
+}
+
+void tst_MappingDocument::notices()
+{
+    QFETCH(PrjMappingC, before);
+    QFETCH(PrjMappingC, after);
+    QFETCH(QList<int>, kinds);
+    QFETCH(QString, part);
+    open();
+    change(before);
+    QSignalSpy raised(m_document.get(), &MappingDocument::noticeRaised);
+    change(after);
+    QList<int> found;
+    QString text;
+    for (const QList<QVariant> &arguments : raised) {
+        const auto notice = arguments.first().value<ChangeNotice>();
+        QCOMPARE(notice.project, id(Path));
+        found += notice.kind;
+        text += notice.text;
+    }
+    QCOMPARE(found, kinds);
+    QVERIFY2(text.contains(part), qPrintable(text));
+}
+
+void tst_MappingDocument::expiredLinesAreListed()
+{
+    open();
+    QList<SampleLine> lines;
+    for (int i = 1; i <= 15; ++i)
+        lines.append({i, -1, 2, QString(), false});
+    change(SessionFixture::mapping(Path, lines));
+    QSignalSpy raised(m_document.get(), &MappingDocument::noticeRaised);
+    for (int i = 0; i < 12; ++i)
+        lines[i] = {i + 1, 5, 1, QString(), false};
+    change(SessionFixture::mapping(Path, lines));
+    QCOMPARE(raised.size(), 1);
+    const auto notice = raised.first().first().value<ChangeNotice>();
+    QCOMPARE(notice.kind, ChangeNotice::ExpiredLost);
+    QCOMPARE(notice.lines, QList<int>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
+    QCOMPARE(notice.text, QStringLiteral("12 Zeilen in cat/a.prj waren als entfallen bestätigt und "
+                                         "sind es nicht mehr: 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, ..."));
+}
+
+void tst_MappingDocument::stillIgnoredVariablesAreTold()
+{
+    open();
+    const auto ignoring = [](const char *source) {
+        PrjMappingC mapping = SessionFixture::plainMapping(Path, 2);
+        PrjMappingTargetC target = mapping.findTarget(0);
+        target.addModifier(new VarsetVarMappingC(QString(), QStringLiteral("L")));
+        target.addModifier(new VarsetVarMappingC(QString::fromLatin1(source), QStringLiteral("D")));
+        mapping.updateTarget(0, target);
+        return mapping;
+    };
+    change(ignoring("D"));
+    QSignalSpy raised(m_document.get(), &MappingDocument::noticeRaised);
+    change(ignoring("D")); // stored anew by the editor, nothing came of the user's choice
+    QCOMPARE(raised.size(), 1);
+    const auto notice = raised.first().first().value<ChangeNotice>();
+    QCOMPARE(notice.kind, ChangeNotice::IgnoredNotShrunk);
+    QVERIFY2(notice.text.contains(QStringLiteral("bleiben Variablen ignoriert: L.")),
+             qPrintable(notice.text));
+    QCOMPARE(m_document->undoTexts().size(), 1);
+    raised.clear();
+    change(m_document->mapping(id(Path)));
+    QCOMPARE(raised.size(), 0);
+}
+
+void tst_MappingDocument::secondEditorReadsOnly()
+{
+    open();
+    MappingDocument second;
+    QCOMPARE(second.open({m_file, {}, {}, {}, {}}), MappingDocument::OpenResult::OpenedReadOnly);
+    QCOMPARE(second.readOnlyReason(), MappingDocument::ReadOnlyReason::HeldByOther);
+    QCOMPARE(second.lockOwner().process, QCoreApplication::applicationPid());
+    QCOMPARE(second.lockOwner().host, QSysInfo::machineHostName());
+    QVERIFY(!second.lockOwner().user.isEmpty());
+    QVERIFY2(second.readOnlyText().contains(second.lockOwner().text()),
+             qPrintable(second.readOnlyText()));
+    QCOMPARE(second.release().countMappings(), 3);
+    QCOMPARE(second.save().result, SaveResult::ReadOnly);
+    QVERIFY(!m_document->isReadOnly());
+}
+
+void tst_MappingDocument::readOnlyRefusesChanges()
+{
+    open(MappingDocument::Access::ReadOnly);
+    QVERIFY(m_document->isReadOnly());
+    QVERIFY(!QFile::exists(m_document->journalFile()));
+    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
+    const PrjMappingC mapping = m_document->mapping(id(Path));
+    m_document->updateMapping(SessionFixture::withState(mapping, {1}, 2));
+    m_document->updateMapping(SessionFixture::withState(mapping, {2}, 2));
+    QCOMPARE(problems.size(), 0); // not in the middle of the editor's work
+    QCoreApplication::processEvents();
+    QCOMPARE(problems.size(), 1);
+    QVERIFY(problems.first().first().toString().contains(QStringLiteral("nicht übernommen")));
+    QCOMPARE(m_document->counts().verified(), 0);
+    QVERIFY(!m_document->isModified());
+}
+
+void tst_MappingDocument::locksGoWithTheDocument()
+{
+    open();
+    QVERIFY(QFile::exists(m_file + QStringLiteral(".edit")));
+    m_document->close();
+    QVERIFY(!QFile::exists(m_file + QStringLiteral(".edit")));
+    QVERIFY(!m_document->isOpen());
+    QVERIFY(m_document->handler() == nullptr);
+    QVERIFY(m_document->createHandler() == nullptr);
+    open();
+    QVERIFY(!m_document->isReadOnly());
+}
+
+void tst_MappingDocument::rememberedRoots()
+{
+    QSettings settings(m_files->path(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    const CatalogRoots roots{QStringLiteral("/old/catalogs"), QStringLiteral("/new, with comma")};
+    {
+        MappingDocument document(&settings);
+        document.open({m_file, {}, {}, {}, {}});
+        QCOMPARE(document.catalogRoots(), CatalogRoots());
+        document.setCatalogRoots(roots);
+    }
+    MappingDocument document(&settings);
+    document.open({m_file, {}, {}, {}, {}});
+    QCOMPARE(document.catalogRoots(), roots);
+    document.close();
+    QCOMPARE(document.catalogRoots(), CatalogRoots());
+}
+
+void tst_MappingDocument::newReleaseIsModified()
+{
+    const QString file = m_files->path(QStringLiteral("new.json"));
+    QCOMPARE(m_document->openNew(SessionFixture::sampleRelease(), file),
+             MappingDocument::OpenResult::Opened);
+    QVERIFY(m_document->isModified());
+    QVERIFY(!QFile::exists(file));
+    QVERIFY(QFile::exists(m_document->autosaveFile()));
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    QVERIFY(!m_document->isModified());
+    QVERIFY(!QFile::exists(m_document->autosaveFile()));
+    QCOMPARE(MappingDocument::sourceDates(file), QStringList(QStringLiteral("2022-01-01")));
+    // A release of this date that is in the file already is somebody else's work.
+    MappingDocument other;
+    m_document->close();
+    other.openNew(SessionFixture::sampleRelease(), file);
+    QCOMPARE(other.save().result, SaveResult::ForeignChange);
+}
+
+void tst_MappingDocument::journalTellsWhatHappened()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    m_document->undo();
+    m_document->redo();
+    const QString journal = m_document->journalFile();
+    m_document->close();
+    JournalReader reader;
+    QVERIFY(reader.read(journal));
+    QCOMPARE(reader.sessions().size(), 1);
+    const JournalReader::Session &session = reader.sessions().first();
+    QVERIFY(session.closed);
+    QVERIFY(session.gaps.isEmpty());
+    QCOMPARE(session.sourceDate, QStringLiteral("2022-01-01"));
+    QCOMPARE(session.owner.process, QCoreApplication::applicationPid());
+    QStringList told;
+    for (const JournalReader::Step &step : JournalReader::steps(session))
+        told += step.origin + u'|' + step.text;
+    QCOMPARE(told,
+             QStringList({QStringLiteral("edit|1 Zeile bestätigt in cat/a.prj"),
+                          QStringLiteral("undo|Rückgängig: 1 Zeile bestätigt in cat/a.prj"),
+                          QStringLiteral("redo|Wiederholt: 1 Zeile bestätigt in cat/a.prj")}));
+    // The next session goes on in the same file.
+    open();
+    QVERIFY(reader.read(journal));
+    QCOMPARE(reader.sessions().size(), 2);
+}
+
+void tst_MappingDocument::journalCostsWhatChanged()
+{
+    ReleaseMappingC large = SessionFixture::sampleRelease();
+    large.addMapping(SessionFixture::plainMapping(QStringLiteral("cat/large.prj"), 50000));
+    m_files->addRelease(m_file, large);
+    open();
+    const qint64 before = QFile(m_document->journalFile()).size();
+    change(SessionFixture::withState(m_document->mapping(id(QStringLiteral("cat/large.prj"))),
+                                     {25000}, 2));
+    const qint64 oneLine = QFile(m_document->journalFile()).size() - before;
+    QVERIFY2(oneLine < 1000, qPrintable(QString::number(oneLine)));
+}
+
+QTEST_GUILESS_MAIN(tst_MappingDocument)
+
+#include "tst_MappingDocument.moc"

@@ -1,0 +1,97 @@
+#include "EditLock.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSysInfo>
+
+namespace {
+
+QString userName()
+{
+    for (const char *variable : {"LOGNAME", "USER", "USERNAME"}) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty())
+            return name;
+    }
+    return QString();
+}
+
+} // namespace
+
+EditLock::EditLock() = default;
+
+EditLock::~EditLock()
+{
+    release();
+}
+
+EditLock::Result EditLock::take(const QString &mappingFile)
+{
+    release();
+    m_owner = SessionOwner();
+    auto lock = std::make_unique<QLockFile>(lockFile(mappingFile));
+    lock->setStaleLockTime(0);
+    if (lock->tryLock(0)) {
+        m_lock = std::move(lock);
+        noteSelf();
+        return Taken;
+    }
+    if (lock->error() != QLockFile::LockFailedError)
+        return NotWritable;
+    lock->getLockInfo(&m_owner.process, &m_owner.host, &m_owner.program);
+    readOwner(lock->fileName());
+    return HeldByOther;
+}
+
+void EditLock::release()
+{
+    m_lock.reset();
+}
+
+bool EditLock::isTaken() const
+{
+    return m_lock != nullptr;
+}
+
+QString EditLock::lockFile(const QString &mappingFile)
+{
+    return mappingFile + QStringLiteral(".edit");
+}
+
+SessionOwner EditLock::self()
+{
+    return {userName(), QSysInfo::machineHostName(), QCoreApplication::applicationName(),
+            QCoreApplication::applicationPid(), QDateTime::currentDateTimeUtc()};
+}
+
+bool EditLock::remove(const QString &mappingFile)
+{
+    return QFile::remove(lockFile(mappingFile));
+}
+
+/// The lock file holds process, program, host and two marks of the computer, a row each; behind
+/// them comes the user's name.
+void EditLock::noteSelf() const
+{
+    QFile file(m_lock->fileName());
+    if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly))
+        file.write("user " + self().user.toUtf8() + '\n');
+}
+
+void EditLock::readOwner(const QString &lockFile)
+{
+    const QFileInfo info(lockFile);
+    m_owner.since = info.lastModified().toUTC();
+    m_owner.user = info.owner();
+    QFile file(lockFile);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    constexpr int MaxRows = 16;
+    for (int i = 0; i < MaxRows && !file.atEnd(); ++i) {
+        const QByteArray row = file.readLine().trimmed();
+        if (row.startsWith("user ") && row.size() > 5)
+            m_owner.user = QString::fromUtf8(row.sliced(5));
+    }
+}

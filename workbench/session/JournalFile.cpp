@@ -1,0 +1,109 @@
+#include "JournalFile.h"
+
+#include "DurableFile.h"
+#include "JournalText.h"
+
+#include <core/json/PJsonValue.h>
+
+namespace {
+
+constexpr qsizetype MaxPending = 1 << 16;
+constexpr qint64 MaxWait = 250; // ms, while records keep coming
+constexpr int SyncAfter = 1000; // ms
+
+} // namespace
+
+JournalFile::JournalFile(QObject *parent)
+    : QObject(parent)
+{
+    m_syncTimer.setSingleShot(true);
+    m_syncTimer.setInterval(SyncAfter);
+    connect(&m_syncTimer, &QTimer::timeout, this, &JournalFile::sync);
+}
+
+JournalFile::~JournalFile()
+{
+    close();
+}
+
+bool JournalFile::open(const QString &path)
+{
+    close();
+    m_file.setFileName(path);
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
+        m_errorText = m_file.errorString();
+        return false;
+    }
+    m_goodSize = m_file.size();
+    m_failing = false;
+    m_errorText.clear();
+    m_sinceFlush.start();
+    return true;
+}
+
+void JournalFile::close()
+{
+    m_syncTimer.stop();
+    if (m_file.isOpen()) {
+        sync();
+        m_file.close();
+    }
+    m_pending.clear();
+}
+
+void JournalFile::append(const PJsonValue &record)
+{
+    appendRow(JournalText::frame(record.toByteArray(true)));
+}
+
+void JournalFile::append(const MappingDifference &difference, int step)
+{
+    appendRow(JournalText::frame(JournalText::writeChange(difference, step)));
+}
+
+void JournalFile::appendRow(const QByteArray &row)
+{
+    if (!isOpen())
+        return;
+    m_pending += row;
+    if (m_pending.size() >= MaxPending || m_sinceFlush.elapsed() >= MaxWait)
+        flush();
+    if (!m_syncTimer.isActive())
+        m_syncTimer.start();
+}
+
+bool JournalFile::flush()
+{
+    m_sinceFlush.start();
+    if (!isOpen() || m_pending.isEmpty())
+        return isOpen();
+    if (write()) {
+        m_failing = false;
+        return true;
+    }
+    m_errorText = m_file.errorString();
+    // Half a row must not stay before the rows that come later.
+    if (m_file.resize(m_goodSize))
+        m_file.seek(m_goodSize);
+    const bool isNew = !m_failing;
+    m_failing = true;
+    if (isNew)
+        Q_EMIT failed(m_errorText);
+    return false;
+}
+
+bool JournalFile::write()
+{
+    if (m_file.size() != m_goodSize && !m_file.resize(m_goodSize))
+        return false;
+    if (m_file.write(m_pending) != m_pending.size())
+        return false;
+    m_goodSize += m_pending.size();
+    m_pending.clear();
+    return true;
+}
+
+bool JournalFile::sync()
+{
+    return flush() && DurableFile::sync(m_file);
+}

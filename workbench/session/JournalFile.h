@@ -1,0 +1,54 @@
+#pragma once
+
+#include "SessionTypes.h"
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QObject>
+#include <QTimer>
+
+class MappingDifference;
+class PJsonValue;
+
+/// Appends to the journal of a mapping file. A record is one row with its checksum and is handed
+/// to the system as a whole, so that what a killed program leaves can be read up to the last row.
+/// Within a second it is on the disk.
+class JournalFile : public QObject
+{
+    Q_OBJECT
+public:
+    explicit JournalFile(QObject *parent = nullptr);
+    ~JournalFile() override;
+
+    /// Opens the file for appending, made if it is missing. False with errorText().
+    [[nodiscard]] bool open(const QString &path);
+    void close();
+    [[nodiscard]] bool isOpen() const { return m_file.isOpen(); }
+    [[nodiscard]] QString path() const { return m_file.fileName(); }
+    [[nodiscard]] QString errorText() const { return m_errorText; }
+
+    void append(const PJsonValue &record);
+    void append(const MappingDifference &difference, int step);
+    /// Hands everything to the system. False if it did not take it: it stays here and is tried
+    /// again with the next record.
+    bool flush();
+    /// flush(), and onto the disk.
+    bool sync();
+
+Q_SIGNALS:
+    /// Writing failed for the first time, or for the first time again.
+    void failed(const QString &errorText);
+
+private:
+    void appendRow(const QByteArray &row);
+    bool write();
+
+    QFile m_file;
+    QByteArray m_pending;
+    qint64 m_goodSize = 0; ///< where the last whole row ends
+    bool m_failing = false;
+    QString m_errorText;
+    QElapsedTimer m_sinceFlush;
+    QTimer m_syncTimer;
+};

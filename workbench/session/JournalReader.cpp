@@ -1,0 +1,111 @@
+#include "JournalReader.h"
+
+#include "JournalText.h"
+
+#include <core/json/PJsonValue.h>
+
+#include <QFile>
+
+namespace {
+
+QDateTime timeOf(const PJsonValue &record)
+{
+    return QDateTime::fromString(record.value(QStringLiteral("time")).toText(), Qt::ISODateWithMs);
+}
+
+JournalReader::Session makeSession(const PJsonValue &record)
+{
+    JournalReader::Session session;
+    session.owner.user = record.value(QStringLiteral("user")).toText();
+    session.owner.host = record.value(QStringLiteral("host")).toText();
+    session.owner.program = record.value(QStringLiteral("program")).toText();
+    session.owner.process = record.value(QStringLiteral("process")).toInt();
+    session.owner.since = timeOf(record);
+    session.sourceDate = record.value(QStringLiteral("sourceDate")).toText();
+    session.targetDate = record.value(QStringLiteral("targetDate")).toText();
+    session.fileHash = record.value(QStringLiteral("fileHash")).toText().toLatin1();
+    return session;
+}
+
+} // namespace
+
+bool JournalReader::read(const QString &path, QString *error)
+{
+    m_sessions.clear();
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return false;
+    }
+    while (!file.atEnd()) {
+        QByteArray row = file.readLine();
+        const bool whole = row.endsWith('\n');
+        if (whole)
+            row.chop(1);
+        const std::optional<QByteArrayView> record = JournalText::unframe(row);
+        if (whole && record)
+            take(*record);
+        else
+            noteDamage();
+    }
+    return true;
+}
+
+void JournalReader::take(QByteArrayView record)
+{
+    // All records begin with their kind.
+    const auto is = [record](const char *kind) {
+        return record.startsWith(QByteArray("{\"kind\":\"") + kind + '"');
+    };
+    if (is("opened")) {
+        m_sessions.append(makeSession(parse(record.toByteArray())));
+        return;
+    }
+    if (m_sessions.isEmpty()) {
+        noteDamage();
+        return;
+    }
+    if (is("closed"))
+        m_sessions.last().closed = true;
+    else
+        m_sessions.last().records.append(record.toByteArray());
+}
+
+void JournalReader::noteDamage()
+{
+    if (m_sessions.isEmpty())
+        m_sessions.append(Session());
+    Session &session = m_sessions.last();
+    const int at = int(session.records.size());
+    if (session.gaps.isEmpty() || session.gaps.last() != at)
+        session.gaps.append(at);
+}
+
+PJsonValue JournalReader::parse(const QByteArray &record)
+{
+    PJsonValue value;
+    return value.parse(record) ? value : PJsonValue();
+}
+
+QString JournalReader::kindOf(const PJsonValue &record)
+{
+    return record.value(QStringLiteral("kind")).toText();
+}
+
+QList<JournalReader::Step> JournalReader::steps(const Session &session, int from)
+{
+    QList<Step> result;
+    for (int i = from; i < session.records.size(); ++i) {
+        const QByteArray &row = session.records[i];
+        if (!row.startsWith("{\"kind\":\"step\""))
+            continue;
+        const PJsonValue record = parse(row);
+        result.append({i, int(record.value(QStringLiteral("step")).toInt()), timeOf(record),
+                       record.value(QStringLiteral("text")).toText(),
+                       record.value(QStringLiteral("origin")).toText()});
+    }
+    return result;
+}

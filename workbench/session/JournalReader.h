@@ -1,0 +1,53 @@
+#pragma once
+
+#include "MappingDifference.h"
+#include "SessionTypes.h"
+
+#include <QList>
+#include <QString>
+
+#include <functional>
+
+class PJsonValue;
+
+/// Reads the journal of a mapping file.
+class JournalReader
+{
+public:
+    /// The part from one opening of the mapping file to the next, in the order of writing.
+    struct Session
+    {
+        SessionOwner owner;
+        QString sourceDate;
+        QString targetDate;
+        QByteArray fileHash;       ///< of the mapping file when it was opened
+        bool closed = false;       ///< orderly, with or without saving
+        QList<QByteArray> records; ///< without those that open and close
+        /// Places that cannot be read, each told by the index of the first record behind it.
+        QList<int> gaps;
+    };
+    /// A step as it can be shown to the user.
+    struct Step
+    {
+        int record = 0; ///< its index in the session
+        int number = 0;
+        QDateTime time;
+        QString text;
+        QString origin; ///< "edit", "undo", "redo", "recover"
+    };
+
+    /// False with \a error if the file cannot be read; a file that is not there holds no session.
+    [[nodiscard]] bool read(const QString &path, QString *error = nullptr);
+
+    [[nodiscard]] const QList<Session> &sessions() const { return m_sessions; }
+    /// The steps of a session that can be read, from a record on.
+    [[nodiscard]] static QList<Step> steps(const Session &session, int from = 0);
+    [[nodiscard]] static PJsonValue parse(const QByteArray &record);
+    [[nodiscard]] static QString kindOf(const PJsonValue &record);
+
+private:
+    void take(QByteArrayView record);
+    void noteDamage();
+
+    QList<Session> m_sessions;
+};

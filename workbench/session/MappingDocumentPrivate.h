@@ -1,0 +1,128 @@
+#pragma once
+
+#include "CatalogRootMemory.h"
+#include "DurableFile.h"
+#include "EditLock.h"
+#include "JournalFile.h"
+#include "MappingDifference.h"
+#include "MappingDocument.h"
+#include "UndoHistory.h"
+
+#include <core/text/PPrivateData.h>
+#include <mapping/data/CatalogMappingHandlerI.h>
+
+#include <QHash>
+#include <QPair>
+#include <QTimer>
+
+class PJsonValue;
+
+/// State of a MappingDocument.
+class MappingDocumentPrivate : public PPrivateData<MappingDocument>
+{
+public:
+    /// How a step came about, as the journal says it.
+    enum class Origin {
+        Edit,
+        Undo,
+        Redo,
+        Recovery,
+    };
+    /// Changes that are not yet a step.
+    struct Pending
+    {
+        QList<MappingChangePair> changes; ///< one for each project: first state, last state
+        QHash<QPair<QString, QString>, qsizetype> index;
+        std::optional<ReleaseMappingC> releaseBefore; ///< the whole release was replaced
+        QString text;
+        int depth = 0;        ///< of beginStep()
+        bool changed = false; ///< by at least one update
+    };
+
+    MappingDocumentPrivate(MappingDocument *document, QSettings *settings);
+    ~MappingDocumentPrivate();
+    MappingDocumentPrivate(const MappingDocumentPrivate &) = delete;
+    MappingDocumentPrivate &operator=(const MappingDocumentPrivate &) = delete;
+
+    // Opening and closing.
+    MappingDocument::OpenResult open(const MappingDocument::OpenRequest &request);
+    MappingDocument::OpenResult openNew(const ReleaseMappingC &release, const QString &path,
+                                        const QString &name);
+    void close(bool tell);
+
+    // Steps.
+    [[nodiscard]] ReleaseMappingC release() const;
+    [[nodiscard]] PrjMappingC find(const PrjMappingC &like) const;
+    [[nodiscard]] bool isEditable();
+    void update(const PrjMappingC &mapping);
+    void replaceRelease(const ReleaseMappingC &release);
+    void finishStep();
+    void move(bool back);
+    [[nodiscard]] bool isModified() const;
+    void tellModified();
+
+    // Saving.
+    [[nodiscard]] SaveOutcome save(const SaveOptions &options);
+    [[nodiscard]] SaveOutcome saveAs(const QString &path, const SaveOptions &options);
+    void autosave();
+    void startAutosave();
+
+    QSettings *const settings;
+    bool isOpen = false;
+    QString file; ///< canonical
+    QString rootName;
+    CatalogRoots roots;
+    MappingDocument::ReadOnlyReason readOnly = MappingDocument::ReadOnlyReason::None;
+    SessionOwner otherOwner;
+    QString errorText;
+    RecoveryOffer offer;
+    std::shared_ptr<CatalogMappingHandlerI> handler;
+    LineCounts counts;
+    UndoHistory history;
+    Pending pending;
+    bool marking = false; ///< changes are no step
+    int autosaveSeconds = 180;
+    QDateTime lastAutosave;
+
+private:
+    [[nodiscard]] MappingDocument::OpenResult fail(MappingDocument::OpenResult result,
+                                                   const QString &text);
+    void takeLock(MappingDocument::Access access);
+    [[nodiscard]] MappingDocument::OpenResult readRelease(const QString &wantedDate,
+                                                          ReleaseMappingC &release);
+    [[nodiscard]] MappingDocument::OpenResult recover(const MappingDocument::OpenRequest &request);
+    MappingDocument::OpenResult begin(const ReleaseMappingC &release, const QString &name);
+    void beginJournal();
+    void adoptRelease(const ReleaseMappingC &release);
+    [[nodiscard]] PJsonValue record(const char *kind) const;
+
+    void store(const PrjMappingC &mapping, const PrjMappingC &before);
+    void notePending(const PrjMappingC &before, const PrjMappingC &after);
+    void journalRelease(const ReleaseMappingC &before, const ReleaseMappingC &after);
+    void journalStep(const QString &text, Origin origin);
+    [[nodiscard]] UndoStep takeStep(QList<ChangeNotice> &notices);
+    void finishMarking(const Pending &done);
+    void applyRelease(const ReleaseMappingC &release);
+    void applyChanges(const UndoStep &step, bool back);
+    void invalidateNodes(const QString &sourcePath) const;
+    void tellStep(const UndoStep &step);
+    void tellRefused();
+
+    [[nodiscard]] SaveOutcome runGuarded(const QString &path, const FileState &state,
+                                         const ReleaseMappingC &base, const SaveOptions &options,
+                                         FileState &saved);
+    void moveTo(const QString &path);
+    void noteSaved(const FileState &state);
+
+    EditLock m_lock;
+    JournalFile m_journal;
+    FileState m_known;        ///< the mapping file as it was read or saved last
+    ReleaseMappingC m_loaded; ///< the release in it
+    QString m_handlerFile;    ///< where the handler saves to
+    int m_step = 0;           ///< number of the step in the making or made last
+    int m_autosavedStep = 0;
+    bool m_wasModified = false;
+    bool m_refused = false; ///< an update was refused in this turn
+    QTimer m_turn;          ///< ends the step when the event loop comes round
+    QTimer m_autosaveTimer;
+};

@@ -1,0 +1,28 @@
+#include "ProjectOrder.h"
+
+ProjectOrder::ProjectOrder(const boost::shared_ptr<CatalogStructureNodeI> &root)
+{
+    if (root)
+        add(root);
+}
+
+void ProjectOrder::add(const boost::shared_ptr<CatalogStructureNodeI> &node)
+{
+    if (node->getNodeType() >= 2) {
+        const PrjMappingC mapping = node->getMapping();
+        const QPair<QString, QString> key(mapping.getSourcePath(), mapping.getSourceVersion());
+        // A project that is there twice shows the same mapping twice.
+        if (m_positions.contains(key))
+            return;
+        m_positions.insert(key, size());
+        m_projects.append({key.first, key.second, QString()});
+        return;
+    }
+    for (const boost::shared_ptr<CatalogStructureNodeI> &child : node->getChildren())
+        add(child);
+}
+
+int ProjectOrder::positionOf(const ProjectId &project) const
+{
+    return m_positions.value({project.path, project.version}, -1);
+}

@@ -1,0 +1,167 @@
+#include "ValueRangeCheck.h"
+
+#include <core/progress/PProgress.h>
+#include <core/text/PPathName.h>
+#include <geomcore/project/PrjClass.h>
+#include <geomcore/records/ReleaseMappingC.h>
+#include <geomcore/table/Content.h>
+#include <geomcore/table/Reader.h>
+
+#include <QCache>
+#include <QCoreApplication>
+
+namespace {
+
+QString say(const char *text)
+{
+    return QCoreApplication::translate("ValueRangeCheck", text);
+}
+
+class Checker
+{
+public:
+    Checker(const QString &targetRoot, ValueRangeCheck::Result &result)
+        : m_root(targetRoot)
+        , m_result(result)
+    {
+    }
+
+    void check(const PrjMappingC &mapping)
+    {
+        m_project = ProjectId::of(mapping);
+        for (int i = 0; i < mapping.countTargets(); ++i)
+            check(mapping.targetAt(i));
+    }
+
+private:
+    void check(const PrjMappingTargetC &target)
+    {
+        m_target = target.getTargetPath();
+        m_toldMissing = false;
+        for (const LineTable::ChunkRef &chunk : target.lines().chunks()) {
+            for (const LineTable::PageRef &page : chunk.chunk->pages) {
+                // Most pages have no text at all.
+                for (std::size_t i = 0; i < page.page->extended.size(); ++i) {
+                    if (page.page->extended[i])
+                        check(page.page->rows[i].sourceLine, page.page->extended[i]->text);
+                }
+            }
+        }
+    }
+
+    void check(int line, const QString &text)
+    {
+        ++m_result.texts;
+        int number = 0;
+        for (const QString &row : text.split(u'\n')) {
+            ++number;
+            if (row.trimmed().isEmpty())
+                continue;
+            ++m_result.rows;
+            checkRow(line, number, row);
+        }
+    }
+
+    void checkRow(int line, int number, const QString &row)
+    {
+        const QList<QPair<QString, int>> parsed =
+            PrjMappingTargetLineC(-1, PRJMAPPING::ToCheck, row).getVarsetList();
+        if (parsed.isEmpty()) {
+            add(ValueRangeCheck::NotParsed, line, number, row, -1,
+                say("%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form "
+                    "{NAME=WERT} -> Zeilennummer: \"%4\". Bitte berichtigen oder neu auflösen.")
+                    .arg(m_project.path, QString::number(line), QString::number(number), row));
+            return;
+        }
+        const int targetLine = parsed.first().second;
+        if (m_target.isEmpty()) {
+            add(ValueRangeCheck::NoTarget, line, number, row, targetLine,
+                say("%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat "
+                    "kein Zielprojekt. Bitte zuordnen oder den Text leeren.")
+                    .arg(m_project.path)
+                    .arg(line)
+                    .arg(targetLine));
+            return;
+        }
+        const VKTab::ContentRef *content = tableOf(m_target);
+        if (!content->isValid()) {
+            tellMissing(line);
+        } else if (!content->getLineInfo(VKTab::LineId(targetLine)).isValid()) {
+            add(ValueRangeCheck::UnknownLine, line, number, row, targetLine,
+                say("%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht "
+                    "gibt. Bitte berichtigen oder neu auflösen.")
+                    .arg(m_project.path, QString::number(line), QString::number(targetLine),
+                         m_target));
+        }
+    }
+
+    void tellMissing(int line)
+    {
+        if (m_toldMissing)
+            return;
+        m_toldMissing = true;
+        add(ValueRangeCheck::TableMissing, line, 0, QString(), -1,
+            say("%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine "
+                "Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte "
+                "prüfen (%3).")
+                .arg(m_project.path, m_target, m_root));
+    }
+
+    void add(ValueRangeCheck::Kind kind, int line, int number, const QString &row, int targetLine,
+             const QString &text)
+    {
+        m_result.findings.append(
+            {kind, {m_project, line}, m_target, number, row, targetLine, text});
+    }
+
+    const VKTab::ContentRef *tableOf(const QString &path)
+    {
+        if (const VKTab::ContentRef *known = m_tables.object(path))
+            return known;
+        const auto read = new VKTab::ContentRef(VKTab::Content());
+        m_tables.insert(path, read);
+        const refHandle<PrjClass> project(new PrjClass(false, false, false));
+        const QString file = (PPathName(m_root) + PPathName(path)).native();
+        if (project->read(file, PrjClass::ReadAll) == 1)
+            VKTab::Reader().readByProject(project, *read, false);
+        return read;
+    }
+
+    const QString m_root;
+    ValueRangeCheck::Result &m_result;
+    ProjectId m_project;
+    QString m_target;
+    bool m_toldMissing = false;
+    QCache<QString, VKTab::ContentRef> m_tables{16}; ///< by target path
+};
+
+} // namespace
+
+ValueRangeCheck::Result ValueRangeCheck::run(const ReleaseMappingC &release,
+                                             const QString &targetRoot)
+{
+    Result result;
+    Checker checker(targetRoot, result);
+    PProgress progress(0, release.countMappings(), 1.0, true, false);
+    progress.setText(say("Wertebereichszuordnungen werden geprüft"));
+    for (int i = 0; i < release.countMappings(); ++i) {
+        if (progress.isCanceled()) {
+            result.cancelled = true;
+            break;
+        }
+        checker.check(release.mappingAt(i));
+        progress.nextStep();
+    }
+    progress.done();
+    return result;
+}
+
+QString ValueRangeCheck::Result::summary() const
+{
+    const QString checked = texts == 1 ? say("1 Wertebereichszuordnung geprüft")
+                                       : say("%1 Wertebereichszuordnungen geprüft").arg(texts);
+    const QString found = findings.isEmpty()     ? say("keine Beanstandung")
+                          : findings.size() == 1 ? say("1 Beanstandung")
+                                                 : say("%1 Beanstandungen").arg(findings.size());
+    return (cancelled ? say("%1 (abgebrochen): %2.") : say("%1: %2.")).arg(checked, found);
+}
