@@ -44,7 +44,7 @@ PRefPtr<PConfig> PConfigService::getConfig(int type, const QString &name)
     QMutexLocker lock(&s.mutex);
     if (const auto known = s.found.constFind(name); known != s.found.cend())
         return *known;
-    const PRefPtr<PConfig> config = open(s.directories, name);
+    PRefPtr<PConfig> config = open(s.directories, name);
     if (!config)
         return nullptr;
     s.found.insert(name, config);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 namespace {
 
@@ -185,8 +186,8 @@ PJsonValue PJsonValue::at(int index) const
 void PJsonValue::append(const PJsonValue &value)
 {
     // The argument may be part of this value.
-    const PJsonValue kept = value;
-    changeable(Array).changeMembers().values.push_back(kept);
+    PJsonValue kept = value;
+    changeable(Array).changeMembers().values.push_back(std::move(kept));
 }
 
 QStringList PJsonValue::keys() const

@@ -34,6 +34,7 @@ public:
     }
 
     friend constexpr bool operator==(const LineId &a, const LineId &b) = default;
+    // NOLINTNEXTLINE(modernize-use-nullptr): the comparison that is made has no pointer
     friend constexpr auto operator<=>(const LineId &a, const LineId &b) = default;
     friend size_t qHash(const LineId &id, size_t seed = 0) noexcept
     {

@@ -22,6 +22,7 @@ public:
     [[nodiscard]] constexpr int value() const { return m_value; }
 
     friend constexpr bool operator==(const VarId &a, const VarId &b) = default;
+    // NOLINTNEXTLINE(modernize-use-nullptr): the comparison that is made has no pointer
     friend constexpr auto operator<=>(const VarId &a, const VarId &b) = default;
     friend size_t qHash(const VarId &id, size_t seed = 0) noexcept
     {
