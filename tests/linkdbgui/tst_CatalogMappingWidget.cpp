@@ -325,6 +325,8 @@ private Q_SLOTS:
     void menuBesideTheRows();
     void menuOfTheShownProject();
     void menuOfAnInvalidMapping();
+    void menuByTheKindOfTheNode_data();
+    void menuByTheKindOfTheNode();
 
     void hideTree();
     void hideTreeOfOneProject();
@@ -1045,6 +1047,51 @@ void tst_CatalogMappingWidget::menuOfAnInvalidMapping()
     QApplication::sendEvent(tree->viewport(), &event);
     QCOMPARE(handler->updates.size(), 0);
     QCOMPARE(project->invalidated, 1);
+}
+
+void tst_CatalogMappingWidget::menuByTheKindOfTheNode_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("menu");
+    QTest::addColumn<QString>("verified");
+    QTest::newRow("root") << 0 << false << "";
+    QTest::newRow("directory") << 1 << false << "";
+    QTest::newRow("project") << 2 << true << "own.prj";
+    // Takes the way of a directory, and is not kept from it.
+    QTest::newRow("type 3") << 3 << true << "below.prj";
+}
+
+void tst_CatalogMappingWidget::menuByTheKindOfTheNode()
+{
+    QFETCH(int, type);
+    QFETCH(bool, menu);
+    const auto root = boost::make_shared<SingleNode>(0, "", PrjMappingC());
+    const auto node = boost::make_shared<SingleNode>(type, "", mappingOf("own.prj", {"t.prj"}));
+    node->children.append(boost::make_shared<SingleNode>(2, "", mappingOf("below.prj", {"t.prj"})));
+    root->children.append(node);
+    auto *const handler = new SingleHandler(root);
+    CatalogMappingWidget widget(QString(), handler, nullptr, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    auto *const tree = widget.findChild<QTreeView *>("treeView");
+    bool shown = false;
+    QTimer::singleShot(0, &widget, [&shown] {
+        QWidget *const popup = QApplication::activePopupWidget();
+        shown = popup != nullptr;
+        if (!shown)
+            return;
+        QTest::keyClick(popup, Qt::Key_Down);
+        QTest::keyClick(popup, Qt::Key_Return);
+    });
+    const QPoint place = tree->visualRect(tree->model()->index(0, 0)).center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, tree->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(tree->viewport(), &event);
+    QCoreApplication::processEvents();
+    QCOMPARE(shown, menu);
+    QStringList paths;
+    for (const PrjMappingC &mapping : std::as_const(handler->updates))
+        paths.append(mapping.getSourcePath());
+    QTEST(paths.join(' '), "verified");
 }
 
 void tst_CatalogMappingWidget::hideTree()
