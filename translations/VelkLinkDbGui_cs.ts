@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 von %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Aktuell markierte Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiřadit označený řádek</translation>
     </message>
     <message>
         <source>Aktuell zugeordnete Zeile</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuálně přiřazený řádek</translation>
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiřadit rozložené rozsahy hodnot</translation>
     </message>
     <message>
         <source>Auswahl abbrechen</source>
@@ -111,15 +111,15 @@
     </message>
     <message>
         <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit podmínku pro označený řádek a zkopírovat ji do schránky</translation>
     </message>
     <message>
         <source>Bedingung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat podmínku</translation>
     </message>
     <message>
         <source>Bedingungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Podmínky</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Bitte warten</source>
-        <translation type="unfinished"></translation>
+        <translation>Čekejte, prosím</translation>
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
@@ -264,19 +264,19 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento řádek již není platný. Modelář to potvrdil</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento řádek se nepodařilo přiřadit</translation>
     </message>
     <message>
         <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento řádek byl přiřazen automaticky. Přiřazení je třeba potvrdit nebo opravit</translation>
     </message>
     <message>
         <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelář toto přiřazení potvrdil</translation>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
@@ -322,19 +322,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Existuje alespoň jeden konflikt.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine bestätigte Zuordnung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Existuje alespoň jedno potvrzené přiřazení.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Existuje alespoň jeden nepřiřazený řádek.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Existuje alespoň jedna nepotvrzená změna.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -354,7 +354,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>U tohoto řádku je konflikt. Přiřazení je třeba potvrdit nebo opravit</translation>
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
@@ -374,7 +374,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>In der Tabelle suchen</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat v tabulce</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -386,7 +386,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírovat</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -422,7 +422,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nicht gefunden</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenalezeno</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
@@ -430,11 +430,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Normbezeichnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Označení normy</translation>
     </message>
     <message>
         <source>Normnummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Číslo normy</translation>
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
@@ -450,11 +450,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Pfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cesta:</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít projekt</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -462,7 +462,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projektpfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cesta k projektu:</translation>
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
@@ -470,15 +470,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Sortierung aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit řazení</translation>
     </message>
     <message>
         <source>Spalte absteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Seřadit sloupec sestupně</translation>
     </message>
     <message>
         <source>Spalte aufsteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Seřadit sloupec vzestupně</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -486,7 +486,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtr sloupce</translation>
     </message>
     <message>
         <source>Spaltenfilter %1</source>
@@ -494,7 +494,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stav</translation>
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
@@ -502,7 +502,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suchen ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat...</translation>
     </message>
     <message>
         <source>Tabelle %1</source>
@@ -510,7 +510,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat řádek tabulky</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -518,11 +518,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Variablenzuordnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapování proměnných</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit skryté sloupce</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -562,7 +562,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Upravit přiřazení rozsahů hodnot</translation>
     </message>
     <message>
         <source>Wird abgebrochen...</source>
@@ -590,11 +590,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen nepřiřazené řádky (zdrojový projekt)</translation>
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen nepřiřazené řádky (cílový projekt)</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -614,11 +614,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilennummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Číslo řádku</translation>
     </message>
     <message>
         <source>Zielprojekt</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílový projekt</translation>
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
@@ -626,7 +626,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat cílový projekt</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
@@ -634,15 +634,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt nach oben verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout cílový projekt nahoru</translation>
     </message>
     <message>
         <source>Zielprojekt nach unten verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout cílový projekt dolů</translation>
     </message>
     <message>
         <source>Zielvariable</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílová proměnná</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -655,27 +655,27 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zuordnung bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Potvrdit přiřazení</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit přiřazení tohoto řádku</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit přiřazení tohoto řádku a potvrdit</translation>
     </message>
     <message>
         <source>Zuordnung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat mapování</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit přiřazení k tomuto projektu</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit přiřazení k tomuto projektu a potvrdit (CTRL + x)</translation>
     </message>
     <message>
         <source>das Ende</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 von %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Aktuell markierte Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Asignar la línea seleccionada</translation>
     </message>
     <message>
         <source>Aktuell zugeordnete Zeile</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea asignada actualmente</translation>
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Asignar los rangos de valores resueltos</translation>
     </message>
     <message>
         <source>Auswahl abbrechen</source>
@@ -111,15 +111,15 @@
     </message>
     <message>
         <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Generar una condición para la línea seleccionada y copiarla al portapapeles</translation>
     </message>
     <message>
         <source>Bedingung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar condición</translation>
     </message>
     <message>
         <source>Bedingungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Condiciones</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Bitte warten</source>
-        <translation type="unfinished"></translation>
+        <translation>Espere, por favor</translation>
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
@@ -264,19 +264,19 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta línea ha caducado. El modelador lo ha confirmado</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta línea no se pudo asignar</translation>
     </message>
     <message>
         <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta línea se asignó automáticamente. La asignación debe confirmarse o corregirse</translation>
     </message>
     <message>
         <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>El modelador ha confirmado esta asignación</translation>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
@@ -322,19 +322,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay al menos un conflicto.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine bestätigte Zuordnung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay al menos una asignación confirmada.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay al menos una línea sin asignar.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay al menos un cambio sin confirmar.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -354,7 +354,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay un conflicto en esta línea. La asignación debe confirmarse o corregirse</translation>
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
@@ -374,7 +374,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>In der Tabelle suchen</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en la tabla</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -386,7 +386,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -422,7 +422,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nicht gefunden</source>
-        <translation type="unfinished"></translation>
+        <translation>No encontrado</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
@@ -430,11 +430,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Normbezeichnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Denominación de la norma</translation>
     </message>
     <message>
         <source>Normnummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de la norma</translation>
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
@@ -450,11 +450,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Pfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta:</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir proyecto</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -462,7 +462,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projektpfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta del proyecto:</translation>
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
@@ -470,15 +470,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Sortierung aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la ordenación</translation>
     </message>
     <message>
         <source>Spalte absteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar la columna de forma descendente</translation>
     </message>
     <message>
         <source>Spalte aufsteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar la columna de forma ascendente</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -486,7 +486,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de columna</translation>
     </message>
     <message>
         <source>Spaltenfilter %1</source>
@@ -494,7 +494,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
@@ -502,7 +502,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suchen ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar...</translation>
     </message>
     <message>
         <source>Tabelle %1</source>
@@ -510,7 +510,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar línea de la tabla</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -518,11 +518,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Variablenzuordnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Correspondencia de variables</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar columnas ocultas</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -562,7 +562,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar las asignaciones de rangos de valores</translation>
     </message>
     <message>
         <source>Wird abgebrochen...</source>
@@ -590,11 +590,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo líneas sin asignar (proyecto de origen)</translation>
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo líneas sin asignar (proyecto de destino)</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -614,11 +614,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilennummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de línea</translation>
     </message>
     <message>
         <source>Zielprojekt</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto de destino</translation>
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
@@ -626,7 +626,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar proyecto de destino</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
@@ -634,15 +634,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt nach oben verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir proyecto de destino</translation>
     </message>
     <message>
         <source>Zielprojekt nach unten verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar proyecto de destino</translation>
     </message>
     <message>
         <source>Zielvariable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de destino</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -655,27 +655,27 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zuordnung bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar la asignación</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Anular la asignación de esta línea</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Anular la asignación de esta línea y confirmar</translation>
     </message>
     <message>
         <source>Zuordnung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar correspondencia</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Anular la asignación a este proyecto</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anular la asignación a este proyecto y confirmar (CTRL + x)</translation>
     </message>
     <message>
         <source>das Ende</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 von %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dari %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Batal</translation>
     </message>
     <message>
         <source>Aktuell markierte Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tetapkan baris yang dipilih</translation>
     </message>
     <message>
         <source>Aktuell zugeordnete Zeile</source>
-        <translation type="unfinished"></translation>
+        <translation>Baris yang sedang ditetapkan</translation>
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tetapkan rentang nilai yang diuraikan</translation>
     </message>
     <message>
         <source>Auswahl abbrechen</source>
@@ -111,15 +111,15 @@
     </message>
     <message>
         <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Buat syarat untuk baris yang dipilih dan salin ke papan klip</translation>
     </message>
     <message>
         <source>Bedingung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Hapus syarat</translation>
     </message>
     <message>
         <source>Bedingungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Syarat</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Bitte warten</source>
-        <translation type="unfinished"></translation>
+        <translation>Mohon tunggu</translation>
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
@@ -264,19 +264,19 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Baris ini sudah tidak berlaku. Pemodel telah mengonfirmasinya</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Baris ini tidak dapat ditetapkan</translation>
     </message>
     <message>
         <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Baris ini ditetapkan otomatis. Penetapan harus dikonfirmasi atau diperbaiki</translation>
     </message>
     <message>
         <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemodel telah mengonfirmasi penetapan ini</translation>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
@@ -322,19 +322,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ada setidaknya satu konflik.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine bestätigte Zuordnung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ada setidaknya satu penetapan yang dikonfirmasi.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ada setidaknya satu baris tanpa penetapan.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ada setidaknya satu perubahan yang belum dikonfirmasi.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -354,7 +354,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Ada konflik pada baris ini. Penetapan harus dikonfirmasi atau diperbaiki</translation>
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
@@ -374,7 +374,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>In der Tabelle suchen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cari di tabel</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -386,7 +386,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Salin</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -422,7 +422,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nicht gefunden</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ditemukan</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
@@ -430,11 +430,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Normbezeichnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Sebutan standar</translation>
     </message>
     <message>
         <source>Normnummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nomor standar</translation>
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
@@ -450,11 +450,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Pfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Jalur:</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Buka proyek</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -462,7 +462,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projektpfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Jalur proyek:</translation>
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
@@ -470,15 +470,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Sortierung aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Batalkan pengurutan</translation>
     </message>
     <message>
         <source>Spalte absteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Urutkan kolom menurun</translation>
     </message>
     <message>
         <source>Spalte aufsteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Urutkan kolom menaik</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -486,7 +486,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter</source>
-        <translation type="unfinished"></translation>
+        <translation>Saringan kolom</translation>
     </message>
     <message>
         <source>Spaltenfilter %1</source>
@@ -494,7 +494,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
@@ -502,7 +502,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suchen ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cari...</translation>
     </message>
     <message>
         <source>Tabelle %1</source>
@@ -510,7 +510,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pilih baris tabel</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -518,11 +518,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Variablenzuordnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Pemetaan variabel</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tampilkan kolom tersembunyi</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -562,7 +562,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Sunting penetapan rentang nilai</translation>
     </message>
     <message>
         <source>Wird abgebrochen...</source>
@@ -590,11 +590,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tampilkan hanya baris tanpa penetapan (proyek sumber)</translation>
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tampilkan hanya baris tanpa penetapan (proyek tujuan)</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -614,11 +614,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilennummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nomor baris</translation>
     </message>
     <message>
         <source>Zielprojekt</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyek tujuan</translation>
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
@@ -626,7 +626,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Hapus proyek tujuan</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
@@ -634,15 +634,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt nach oben verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Pindahkan proyek tujuan ke atas</translation>
     </message>
     <message>
         <source>Zielprojekt nach unten verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Pindahkan proyek tujuan ke bawah</translation>
     </message>
     <message>
         <source>Zielvariable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabel tujuan</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -655,27 +655,27 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zuordnung bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfirmasi penetapan</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Batalkan penetapan baris ini</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Batalkan penetapan baris ini dan konfirmasi</translation>
     </message>
     <message>
         <source>Zuordnung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Hapus pemetaan</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Batalkan penetapan ke proyek ini</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</source>
-        <translation type="unfinished"></translation>
+        <translation>Batalkan penetapan ke proyek ini dan konfirmasi (CTRL + x)</translation>
     </message>
     <message>
         <source>das Ende</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 von %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Aktuell markierte Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Assegnare la riga selezionata</translation>
     </message>
     <message>
         <source>Aktuell zugeordnete Zeile</source>
-        <translation type="unfinished"></translation>
+        <translation>Riga attualmente assegnata</translation>
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Assegnare gli intervalli di valori risolti</translation>
     </message>
     <message>
         <source>Auswahl abbrechen</source>
@@ -111,15 +111,15 @@
     </message>
     <message>
         <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Generare una condizione per la riga selezionata e copiarla negli appunti</translation>
     </message>
     <message>
         <source>Bedingung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare la condizione</translation>
     </message>
     <message>
         <source>Bedingungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Condizioni</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Bitte warten</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendere prego</translation>
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
@@ -264,19 +264,19 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa riga è fuori produzione. Il modellatore lo ha confermato</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile assegnare questa riga</translation>
     </message>
     <message>
         <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa riga è stata assegnata automaticamente. L'assegnazione va confermata o corretta</translation>
     </message>
     <message>
         <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Il modellatore ha confermato questa assegnazione</translation>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
@@ -322,19 +322,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste almeno un conflitto.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine bestätigte Zuordnung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste almeno un'assegnazione confermata.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste almeno una riga non assegnata.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste almeno una modifica non confermata.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -354,7 +354,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste un conflitto per questa riga. L'assegnazione va confermata o corretta</translation>
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
@@ -374,7 +374,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>In der Tabelle suchen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cercare nella tabella</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -386,7 +386,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -422,7 +422,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nicht gefunden</source>
-        <translation type="unfinished"></translation>
+        <translation>Non trovato</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
@@ -430,11 +430,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Normbezeichnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Denominazione della norma</translation>
     </message>
     <message>
         <source>Normnummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero della norma</translation>
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
@@ -450,11 +450,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Pfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Percorso:</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Aprire il progetto</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -462,7 +462,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projektpfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Percorso del progetto:</translation>
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
@@ -470,15 +470,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Sortierung aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullare l'ordinamento</translation>
     </message>
     <message>
         <source>Spalte absteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordinare la colonna in modo decrescente</translation>
     </message>
     <message>
         <source>Spalte aufsteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordinare la colonna in modo crescente</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -486,7 +486,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro colonna</translation>
     </message>
     <message>
         <source>Spaltenfilter %1</source>
@@ -494,7 +494,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato</translation>
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
@@ -502,7 +502,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suchen ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca...</translation>
     </message>
     <message>
         <source>Tabelle %1</source>
@@ -510,7 +510,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare una riga della tabella</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -518,11 +518,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Variablenzuordnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrispondenza delle variabili</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrare le colonne nascoste</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -562,7 +562,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificare le assegnazioni degli intervalli di valori</translation>
     </message>
     <message>
         <source>Wird abgebrochen...</source>
@@ -590,11 +590,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra solo righe non assegnate (progetto di origine)</translation>
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra solo righe non assegnate (progetto di destinazione)</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -614,11 +614,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilennummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di riga</translation>
     </message>
     <message>
         <source>Zielprojekt</source>
-        <translation type="unfinished"></translation>
+        <translation>Progetto di destinazione</translation>
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
@@ -626,7 +626,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovere il progetto di destinazione</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
@@ -634,15 +634,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt nach oben verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Spostare in alto il progetto di destinazione</translation>
     </message>
     <message>
         <source>Zielprojekt nach unten verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Spostare in basso il progetto di destinazione</translation>
     </message>
     <message>
         <source>Zielvariable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabile di destinazione</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -655,27 +655,27 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zuordnung bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Confermare l'assegnazione</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullare l'assegnazione di questa riga</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullare l'assegnazione di questa riga e confermare</translation>
     </message>
     <message>
         <source>Zuordnung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare la corrispondenza</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullare l'assegnazione a questo progetto</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullare l'assegnazione a questo progetto e confermare (CTRL + x)</translation>
     </message>
     <message>
         <source>das Ende</source>

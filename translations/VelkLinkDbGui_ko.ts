@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 von %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Aktuell markierte Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 행 할당</translation>
     </message>
     <message>
         <source>Aktuell zugeordnete Zeile</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 할당된 행</translation>
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>해석된 값 범위 할당</translation>
     </message>
     <message>
         <source>Auswahl abbrechen</source>
@@ -111,15 +111,15 @@
     </message>
     <message>
         <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 행의 조건을 생성하여 클립보드에 복사</translation>
     </message>
     <message>
         <source>Bedingung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>조건 삭제</translation>
     </message>
     <message>
         <source>Bedingungen</source>
-        <translation type="unfinished"></translation>
+        <translation>조건</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Bitte warten</source>
-        <translation type="unfinished"></translation>
+        <translation>기다려 주십시오</translation>
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
@@ -264,19 +264,19 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>이 행은 단종되었습니다. 모델러가 확인했습니다</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
-        <translation type="unfinished"></translation>
+        <translation>이 행을 할당할 수 없습니다</translation>
     </message>
     <message>
         <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>이 행은 자동으로 할당되었습니다. 할당을 확인하거나 수정해야 합니다</translation>
     </message>
     <message>
         <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
-        <translation type="unfinished"></translation>
+        <translation>모델러가 이 할당을 확인했습니다</translation>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
@@ -322,19 +322,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
-        <translation type="unfinished"></translation>
+        <translation>충돌이 하나 이상 있습니다.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine bestätigte Zuordnung.</source>
-        <translation type="unfinished"></translation>
+        <translation>확인된 할당이 하나 이상 있습니다.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
-        <translation type="unfinished"></translation>
+        <translation>할당되지 않은 행이 하나 이상 있습니다.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
-        <translation type="unfinished"></translation>
+        <translation>확인되지 않은 변경이 하나 이상 있습니다.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -354,7 +354,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>이 행에 충돌이 있습니다. 할당을 확인하거나 수정해야 합니다</translation>
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
@@ -374,7 +374,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>In der Tabelle suchen</source>
-        <translation type="unfinished"></translation>
+        <translation>테이블에서 찾기</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -386,7 +386,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -422,7 +422,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nicht gefunden</source>
-        <translation type="unfinished"></translation>
+        <translation>찾을 수 없음</translation>
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
@@ -430,11 +430,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Normbezeichnung</source>
-        <translation type="unfinished"></translation>
+        <translation>표준 명칭</translation>
     </message>
     <message>
         <source>Normnummer</source>
-        <translation type="unfinished"></translation>
+        <translation>표준 번호</translation>
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
@@ -450,11 +450,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Pfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>경로:</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>프로젝트 열기</translation>
     </message>
     <message>
         <source>Projekte (*.prj)</source>
@@ -462,7 +462,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projektpfad:</source>
-        <translation type="unfinished"></translation>
+        <translation>프로젝트 경로:</translation>
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
@@ -470,15 +470,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Sortierung aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>정렬 해제</translation>
     </message>
     <message>
         <source>Spalte absteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>열을 내림차순으로 정렬</translation>
     </message>
     <message>
         <source>Spalte aufsteigend sortieren</source>
-        <translation type="unfinished"></translation>
+        <translation>열을 오름차순으로 정렬</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -486,7 +486,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter</source>
-        <translation type="unfinished"></translation>
+        <translation>열 필터</translation>
     </message>
     <message>
         <source>Spaltenfilter %1</source>
@@ -494,7 +494,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>상태</translation>
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
@@ -502,7 +502,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suchen ...</source>
-        <translation type="unfinished"></translation>
+        <translation>찾기...</translation>
     </message>
     <message>
         <source>Tabelle %1</source>
@@ -510,7 +510,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>테이블 행 선택</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -518,11 +518,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Variablenzuordnung</source>
-        <translation type="unfinished"></translation>
+        <translation>변수 매핑</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>숨겨진 열 표시</translation>
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
@@ -562,7 +562,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>값 범위 할당 편집</translation>
     </message>
     <message>
         <source>Wird abgebrochen...</source>
@@ -590,11 +590,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>할당되지 않은 행만 표시(원본 프로젝트)</translation>
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
-        <translation type="unfinished"></translation>
+        <translation>할당되지 않은 행만 표시(대상 프로젝트)</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -614,11 +614,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilennummer</source>
-        <translation type="unfinished"></translation>
+        <translation>행 번호</translation>
     </message>
     <message>
         <source>Zielprojekt</source>
-        <translation type="unfinished"></translation>
+        <translation>대상 프로젝트</translation>
     </message>
     <message>
         <source>Zielprojekt auswählen</source>
@@ -626,7 +626,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>대상 프로젝트 제거</translation>
     </message>
     <message>
         <source>Zielprojekt hinzufügen</source>
@@ -634,15 +634,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zielprojekt nach oben verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>대상 프로젝트를 위로 이동</translation>
     </message>
     <message>
         <source>Zielprojekt nach unten verschieben</source>
-        <translation type="unfinished"></translation>
+        <translation>대상 프로젝트를 아래로 이동</translation>
     </message>
     <message>
         <source>Zielvariable</source>
-        <translation type="unfinished"></translation>
+        <translation>대상 변수</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
@@ -655,27 +655,27 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zuordnung bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>할당 확인</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>이 행의 할당 해제</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
-        <translation type="unfinished"></translation>
+        <translation>이 행의 할당을 해제하고 확인</translation>
     </message>
     <message>
         <source>Zuordnung löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>매핑 삭제</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프로젝트에 대한 할당 해제</translation>
     </message>
     <message>
         <source>Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프로젝트에 대한 할당을 해제하고 확인(CTRL + x)</translation>
     </message>
     <message>
         <source>das Ende</source>
