@@ -161,7 +161,7 @@ Q_SIGNALS:
     void modifiedChanged(bool modified);
     /// canUndo(), canRedo() or their texts changed.
     void undoChanged();
-    /// After every stored change, undo and redo included.
+    /// At the end of a step, once for each project; undo and redo included.
     void mappingChanged(const ProjectId &project);
     void countsChanged();
     /// A step is complete, by the user, by undo or by redo. \a text says what was done, \a lines is
@@ -169,7 +169,8 @@ Q_SIGNALS:
     void stepDone(const QString &text, int lines);
     /// Follows stepDone(), for what the user should hear of.
     void noticeRaised(const ChangeNotice &notice);
-    /// The project's node should be selected anew, for its mapping changed behind the editor.
+    /// The project's node should be selected anew, for its mapping changed behind the editor: after
+    /// undo and redo, once for each project of the step.
     void reselectRequested(const ProjectId &project);
     /// There is another tree: the editor must be made anew with createHandler().
     void releaseReplaced();

@@ -10,6 +10,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 using OpenResult = MappingDocument::OpenResult;
 using ReadOnlyReason = MappingDocument::ReadOnlyReason;
 
@@ -39,6 +41,8 @@ OpenResult MappingDocumentPrivate::open(const MappingDocument::OpenRequest &requ
     close(true);
     errorText.clear();
     offer = RecoveryOffer();
+    m_lostText.clear();
+    m_putAside = false;
     file = MappingDocument::canonicalPath(request.mappingFile);
     takeLock(request.access);
     if (m_lock.isTaken()) {
@@ -51,6 +55,9 @@ OpenResult MappingDocumentPrivate::open(const MappingDocument::OpenRequest &requ
     const OpenResult result = readRelease(request.sourceDate, release);
     if (result != OpenResult::Opened)
         return result;
+    // Not before the saved version proved to be readable.
+    if (std::exchange(m_putAside, false))
+        (void)SessionRecovery::putAside(file);
     m_loaded = release;
     return begin(release, request.rootName);
 }
@@ -61,6 +68,8 @@ OpenResult MappingDocumentPrivate::openNew(const ReleaseMappingC &release, const
     close(true);
     errorText.clear();
     offer = RecoveryOffer();
+    m_lostText.clear();
+    m_putAside = false;
     file = MappingDocument::canonicalPath(path);
     takeLock(MappingDocument::Access::ReadWrite);
     if (!m_lock.isTaken()) {
@@ -141,8 +150,8 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
 {
     const SessionRecovery recovery(file);
     if (!recovery.offer().isValid()) {
-        if (recovery.leftSomething())
-            (void)SessionRecovery::putAside(file);
+        m_putAside = recovery.leftSomething();
+        m_lostText = recovery.damage();
         return OpenResult::OpenedReadOnly;
     }
     if (request.recovery == MappingDocument::Recovery::Ask) {
@@ -153,7 +162,7 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
         return OpenResult::RecoveryPending;
     }
     if (request.recovery == MappingDocument::Recovery::UseSaved) {
-        (void)SessionRecovery::putAside(file);
+        m_putAside = true;
         return OpenResult::OpenedReadOnly;
     }
     m_known = FileState::of(file);
@@ -207,6 +216,8 @@ OpenResult MappingDocumentPrivate::begin(const ReleaseMappingC &release, const Q
         beginJournal();
     startAutosave();
     Q_EMIT q->opened();
+    if (!m_lostText.isEmpty())
+        Q_EMIT q->problemOccurred(std::exchange(m_lostText, QString()));
     Q_EMIT q->undoChanged();
     Q_EMIT q->countsChanged();
     return readOnly == ReadOnlyReason::None ? OpenResult::Opened : OpenResult::OpenedReadOnly;

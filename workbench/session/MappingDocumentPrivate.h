@@ -118,6 +118,8 @@ private:
     JournalFile m_journal;
     FileState m_known;        ///< the mapping file as it was read or saved last
     ReleaseMappingC m_loaded; ///< the release in it
+    bool m_putAside = false;  ///< what a session left is not wanted
+    QString m_lostText;       ///< told when the document is open
     QString m_handlerFile;    ///< where the handler saves to
     int m_step = 0;           ///< number of the step in the making or made last
     int m_autosavedStep = 0;

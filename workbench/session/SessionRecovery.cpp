@@ -64,6 +64,8 @@ SessionRecovery::SessionRecovery(const QString &mappingFile)
         tryAutosave();
     if (!isComplete(m_best))
         tryBackup();
+    if (m_anyChange && !isComplete(m_best))
+        m_damage = damageText();
     if (m_best.possible)
         compare();
 }
@@ -223,13 +225,11 @@ void SessionRecovery::compare()
         time = step.time;
     }
     m_offer.recovered = describe(m_recovered, time);
-    m_offer.damage = damageText();
+    m_offer.damage = m_damage;
 }
 
 QString SessionRecovery::damageText() const
 {
-    if (isComplete(m_best))
-        return QString();
     int lost = 0;
     for (int i = m_best.records; i < m_session.records.size(); ++i)
         lost += isKind(m_session.records[i], "change") ? 1 : 0;

@@ -18,6 +18,8 @@ public:
 
     /// Not valid if there is nothing that the saved file lacks.
     [[nodiscard]] const RecoveryOffer &offer() const { return m_offer; }
+    /// German: what was noted and cannot be recovered; empty if nothing is missing.
+    [[nodiscard]] const QString &damage() const { return m_damage; }
     [[nodiscard]] const ReleaseMappingC &savedRelease() const { return m_saved; }
     [[nodiscard]] const ReleaseMappingC &recoveredRelease() const { return m_recovered; }
 
@@ -59,4 +61,5 @@ private:
     ReleaseMappingC m_saved;
     ReleaseMappingC m_recovered;
     RecoveryOffer m_offer;
+    QString m_damage;
 };

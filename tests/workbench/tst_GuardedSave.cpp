@@ -1,0 +1,458 @@
+#include "AsNobody.h"
+#include "SessionFixture.h"
+#include "SizeLimit.h"
+
+#include <workbench/session/GuardedSave.h>
+#include <workbench/session/MappingDocument.h>
+
+#include <geomcore/records/MappingFile.h>
+#include <mapping/data/ReleaseMappingHandler.h>
+
+#include <QDir>
+#include <QFile>
+#include <QLockFile>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+const QString Date = QStringLiteral("2022-01-01");
+
+ProjectId firstProject()
+{
+    return {QStringLiteral("cat/a.prj"), SessionFixture::Version, QStringLiteral("t1")};
+}
+
+} // namespace
+
+class tst_GuardedSave : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void savesAndKeepsTheFormerFile();
+    void savesANewFile();
+    void keepsOtherReleasesByteForByte();
+    void foreignChanges_data();
+    void foreignChanges();
+    void sameContentWithAnotherTimeIsNoChange();
+    void sameSizeAndTimeWithOtherContentIsAChange();
+    void aFileThatIsGoneIsAChange();
+    void unreadableFilesAreKept_data();
+    void unreadableFilesAreKept();
+    void somebodyIsSaving();
+    void failuresAreUndone_data();
+    void failuresAreUndone();
+    void aFailedNewFileIsRemoved();
+    void noRoomForTheBackup();
+    void aFullDisk();
+    void readOnlyFolder();
+    void savesUnderAnotherName();
+    void savesIntoAnotherMappingFile();
+    void doesNotSaveIntoAFileThatIsBeingEdited();
+    void linksStayLinks();
+
+private:
+    void openAndChange();
+    [[nodiscard]] SaveOutcome saveWith(const std::function<bool()> &commit,
+                                       const SaveOptions &options = {});
+    [[nodiscard]] QStringList names() const;
+
+    std::unique_ptr<SessionFixture> m_files;
+    std::unique_ptr<MappingDocument> m_document;
+    QString m_file;
+};
+
+void tst_GuardedSave::init()
+{
+    m_files = std::make_unique<SessionFixture>();
+    m_document = std::make_unique<MappingDocument>();
+    m_file = m_files->write();
+}
+
+void tst_GuardedSave::cleanup()
+{
+    m_document.reset();
+    m_files.reset();
+}
+
+void tst_GuardedSave::openAndChange()
+{
+    QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(firstProject()), {1, 2}, 2));
+    m_document->finishStep();
+}
+
+/// Saves the sample release, one line confirmed, by a function of the test's own.
+SaveOutcome tst_GuardedSave::saveWith(const std::function<bool()> &commit,
+                                      const SaveOptions &options)
+{
+    ReleaseMappingC release = SessionFixture::sampleRelease();
+    release.addMapping(SessionFixture::withState(release.mappingAt(0), {1}, 2));
+    GuardedSave guard(m_file, FileState::of(m_file), SessionFixture::sampleRelease());
+    return guard.run(release, commit, options);
+}
+
+QStringList tst_GuardedSave::names() const
+{
+    return QDir(m_files->path(QString())).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+void tst_GuardedSave::savesAndKeepsTheFormerFile()
+{
+    const QByteArray before = SessionFixture::content(m_file);
+    openAndChange();
+    QSignalSpy saved(m_document.get(), &MappingDocument::saved);
+    const SaveOutcome outcome = m_document->save();
+    QCOMPARE(outcome.result, SaveResult::Saved);
+    QVERIFY(outcome.text.isEmpty());
+    QCOMPARE(saved.size(), 1);
+    QCOMPARE(outcome.backupFile, m_file + QStringLiteral(".bak"));
+    QCOMPARE(SessionFixture::content(outcome.backupFile), before);
+    MappingFile now;
+    QVERIFY(now.read(m_file));
+    QCOMPARE(SessionFixture::bytes(now.release(Date)),
+             SessionFixture::bytes(m_document->release()));
+    // A second time: what was written is what the file is known by.
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(firstProject()), {3}, 2));
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    m_document->close();
+    QCOMPARE(names(),
+             QStringList({QStringLiteral("release.json"), QStringLiteral("release.json.bak"),
+                          QStringLiteral("release.json.journal")}));
+}
+
+void tst_GuardedSave::savesANewFile()
+{
+    QVERIFY(QFile::remove(m_file));
+    m_document->openNew(SessionFixture::sampleRelease(), m_file);
+    const SaveOutcome outcome = m_document->save();
+    QCOMPARE(outcome.result, SaveResult::Saved);
+    QVERIFY(outcome.backupFile.isEmpty());
+    QVERIFY(!QFile::exists(m_file + QStringLiteral(".bak")));
+}
+
+void tst_GuardedSave::keepsOtherReleasesByteForByte()
+{
+    m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2020-01-01")));
+    openAndChange();
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    MappingFile now;
+    QVERIFY(now.read(m_file));
+    QCOMPARE(now.sourceDates(), QStringList({Date, QStringLiteral("2020-01-01")}));
+    QCOMPARE(SessionFixture::bytes(now.release(QStringLiteral("2020-01-01"))),
+             SessionFixture::bytes(SessionFixture::sampleRelease(QStringLiteral("2020-01-01"))));
+}
+
+void tst_GuardedSave::foreignChanges_data()
+{
+    QTest::addColumn<QString>("date");
+    QTest::addColumn<bool>("onlyOthers");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("another release") << QStringLiteral("2024-01-01") << true
+                                     << QStringLiteral("dieser Stand (2022-01-01) aber nicht");
+    QTest::newRow("this release") << Date << false
+                                  << QStringLiteral("auch dieser Stand (2022-01-01)");
+}
+
+void tst_GuardedSave::foreignChanges()
+{
+    QFETCH(QString, date);
+    QFETCH(bool, onlyOthers);
+    QFETCH(QString, part);
+    openAndChange();
+    ReleaseMappingC theirs = SessionFixture::sampleRelease(date);
+    theirs.addMapping(SessionFixture::plainMapping(QStringLiteral("cat/theirs.prj"), 2));
+    m_files->addRelease(m_file, theirs);
+    const QByteArray foreign = SessionFixture::content(m_file);
+
+    const SaveOutcome outcome = m_document->save();
+    QCOMPARE(outcome.result, SaveResult::ForeignChange);
+    QCOMPARE(outcome.onlyOtherReleases, onlyOthers);
+    QVERIFY2(outcome.text.contains(part), qPrintable(outcome.text));
+    QVERIFY(outcome.text.startsWith(m_file));
+    QCOMPARE(SessionFixture::content(m_file), foreign);
+    QVERIFY(m_document->isModified());
+
+    SaveOptions options;
+    options.overForeignChange = true;
+    QCOMPARE(m_document->save(options).result, SaveResult::Saved);
+    QCOMPARE(SessionFixture::content(m_file + QStringLiteral(".bak")), foreign);
+    MappingFile now;
+    QVERIFY(now.read(m_file));
+    QCOMPARE(SessionFixture::bytes(now.release(Date)),
+             SessionFixture::bytes(m_document->release()));
+    if (onlyOthers)
+        QCOMPARE(SessionFixture::bytes(now.release(date)), SessionFixture::bytes(theirs));
+}
+
+void tst_GuardedSave::sameContentWithAnotherTimeIsNoChange()
+{
+    openAndChange();
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTimeUtc().addDays(-3),
+                             QFileDevice::FileModificationTime));
+    file.close();
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+}
+
+void tst_GuardedSave::sameSizeAndTimeWithOtherContentIsAChange()
+{
+    openAndChange();
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    const QDateTime time = file.fileTime(QFileDevice::FileModificationTime);
+    const QByteArray other = SessionFixture::content(m_file).replace("2026-01-01", "2027-01-01");
+    QCOMPARE(file.write(other), other.size());
+    file.flush();
+    QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+    file.close();
+    QCOMPARE(m_document->save().result, SaveResult::ForeignChange);
+}
+
+void tst_GuardedSave::aFileThatIsGoneIsAChange()
+{
+    openAndChange();
+    QVERIFY(QFile::remove(m_file));
+    const SaveOutcome outcome = m_document->save();
+    QCOMPARE(outcome.result, SaveResult::ForeignChange);
+    QVERIFY(outcome.text.contains(QStringLiteral("gelöscht oder umbenannt")));
+    QVERIFY(!QFile::exists(m_file));
+    SaveOptions options;
+    options.overForeignChange = true;
+    QCOMPARE(m_document->save(options).result, SaveResult::Saved);
+}
+
+void tst_GuardedSave::unreadableFilesAreKept_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("cut") << QByteArray("{\"2022-01-01\":{\"sour");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("no object") << QByteArray("[1,2]");
+    QTest::newRow("binary") << QByteArray("\x01\x02\xff", 3);
+}
+
+void tst_GuardedSave::unreadableFilesAreKept()
+{
+    QFETCH(QByteArray, content);
+    openAndChange();
+    SessionFixture::setContent(m_file, content);
+    SaveOutcome outcome = m_document->save();
+    QCOMPARE(outcome.result, SaveResult::Unreadable);
+    QVERIFY(outcome.text.contains(QStringLiteral("keine lesbare Zuordnungsdatei")));
+    QCOMPARE(SessionFixture::content(m_file), content);
+
+    SaveOptions options;
+    options.overUnreadable = true;
+    outcome = m_document->save(options);
+    QCOMPARE(outcome.result, SaveResult::Saved);
+    QVERIFY2(outcome.keptFile.startsWith(m_file + QStringLiteral(".unlesbar-")),
+             qPrintable(outcome.keptFile));
+    QCOMPARE(SessionFixture::content(outcome.keptFile), content);
+    QCOMPARE(MappingDocument::sourceDates(m_file), QStringList(Date));
+}
+
+void tst_GuardedSave::somebodyIsSaving()
+{
+    openAndChange();
+    const QByteArray before = SessionFixture::content(m_file);
+    QLockFile other(GuardedSave::lockFile(m_file));
+    QVERIFY(other.tryLock(0));
+    const SaveOutcome outcome = m_document->save();
+    QCOMPARE(outcome.result, SaveResult::Busy);
+    QVERIFY(outcome.text.contains(QStringLiteral("von einem anderen Programm gespeichert")));
+    QCOMPARE(SessionFixture::content(m_file), before);
+    other.unlock();
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+}
+
+void tst_GuardedSave::failuresAreUndone_data()
+{
+    QTest::addColumn<QByteArray>("written");
+    QTest::addColumn<bool>("result");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("says that it failed")
+        << QByteArray("{\"2022") << false << QStringLiteral("nicht vollständig geschrieben");
+    QTest::newRow("half a file") << QByteArray("{\"2022") << true << QStringLiteral("nicht lesbar");
+    QTest::newRow("another content")
+        << QByteArray("{\"2022-01-01\":{\"sourceDate\":\"2022-01-01\",\"targetDate\":\"\"}}")
+        << true << QStringLiteral("enthält nicht, was gespeichert werden sollte");
+    QTest::newRow("nothing") << QByteArray() << true << QStringLiteral("nicht lesbar");
+}
+
+void tst_GuardedSave::failuresAreUndone()
+{
+    QFETCH(QByteArray, written);
+    QFETCH(bool, result);
+    QFETCH(QString, part);
+    const QByteArray before = SessionFixture::content(m_file);
+    const SaveOutcome outcome = saveWith([&] {
+        SessionFixture::setContent(m_file, written);
+        return result;
+    });
+    QCOMPARE(outcome.result, SaveResult::WriteFailed);
+    QVERIFY2(outcome.text.contains(part), qPrintable(outcome.text));
+    QVERIFY(outcome.text.startsWith(m_file + QStringLiteral(" wurde nicht gespeichert.")));
+    QVERIFY(outcome.text.contains(QStringLiteral("wieder so wie vor dem Speichern")));
+    QCOMPARE(SessionFixture::content(m_file), before);
+}
+
+void tst_GuardedSave::aFailedNewFileIsRemoved()
+{
+    QVERIFY(QFile::remove(m_file));
+    const SaveOutcome outcome = saveWith([&] {
+        SessionFixture::setContent(m_file, "{");
+        return false;
+    });
+    QCOMPARE(outcome.result, SaveResult::WriteFailed);
+    QVERIFY(!QFile::exists(m_file));
+    QVERIFY(names().isEmpty());
+}
+
+void tst_GuardedSave::noRoomForTheBackup()
+{
+    const QByteArray before = SessionFixture::content(m_file);
+    bool called = false;
+    SaveOutcome outcome;
+    {
+        const SizeLimit limit(before.size() / 2);
+        outcome = saveWith([&] {
+            called = true;
+            return true;
+        });
+    }
+    QCOMPARE(outcome.result, SaveResult::BackupFailed);
+    QVERIFY2(outcome.text.contains(m_file + QStringLiteral(".bak")), qPrintable(outcome.text));
+    QVERIFY(!called);
+    QCOMPARE(SessionFixture::content(m_file), before);
+    QCOMPARE(names(), QStringList(QStringLiteral("release.json")));
+}
+
+void tst_GuardedSave::aFullDisk()
+{
+    openAndChange();
+    const QByteArray before = SessionFixture::content(m_file);
+    m_document->updateMapping(SessionFixture::plainMapping(QStringLiteral("cat/large.prj"), 2000));
+    m_document->finishStep();
+    SaveOutcome outcome;
+    {
+        // The backup has room, the new file has not.
+        const SizeLimit limit(before.size() + 100);
+        outcome = m_document->save();
+    }
+    QCOMPARE(outcome.result, SaveResult::WriteFailed);
+    QCOMPARE(SessionFixture::content(m_file), before);
+    QVERIFY(m_document->isModified());
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+}
+
+void tst_GuardedSave::readOnlyFolder()
+{
+    const QString folder = m_files->path(QStringLiteral("locked"));
+    QVERIFY(QDir().mkpath(folder));
+    const QString file = folder + QStringLiteral("/release.json");
+    QVERIFY(QFile::copy(m_file, file));
+    // The folder above must be open to anybody, too.
+    QFile::setPermissions(m_files->path(QString()), QFile::Permissions(0x7755));
+    QFile::setPermissions(file, QFile::Permissions(0x6644));
+    QFile::setPermissions(folder, QFile::Permissions(0x5555));
+    {
+        const AsNobody nobody;
+        QVERIFY(!nobody.failed());
+        QCOMPARE(m_document->open({file, {}, {}, {}, {}}),
+                 MappingDocument::OpenResult::OpenedReadOnly);
+        QCOMPARE(m_document->readOnlyReason(), MappingDocument::ReadOnlyReason::NotWritable);
+        QVERIFY(m_document->readOnlyText().contains(QStringLiteral("nicht beschreibbar")));
+        const SaveOutcome outcome = m_document->save();
+        QCOMPARE(outcome.result, SaveResult::ReadOnly);
+        QVERIFY(outcome.text.contains(QStringLiteral("unter einem anderen Namen")));
+        const QString other = folder + QStringLiteral("/other.json");
+        QCOMPARE(m_document->saveAs(other).result, SaveResult::Busy);
+        QVERIFY(m_document->openNew(SessionFixture::sampleRelease(), other) ==
+                MappingDocument::OpenResult::Unreadable);
+        QVERIFY(!m_document->errorText().isEmpty());
+    }
+    QFile::setPermissions(folder, QFile::Permissions(0x7755));
+    QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList(QStringLiteral("release.json")));
+}
+
+void tst_GuardedSave::savesUnderAnotherName()
+{
+    openAndChange();
+    const QByteArray before = SessionFixture::content(m_file);
+    const QString other = m_files->path(QStringLiteral("other.json"));
+    QCOMPARE(m_document->saveAs(other).result, SaveResult::Saved);
+    QCOMPARE(m_document->mappingFile(), other);
+    QVERIFY(!m_document->isModified());
+    QCOMPARE(SessionFixture::content(m_file), before);
+    QVERIFY(!QFile::exists(m_file + QStringLiteral(".edit")));
+    QVERIFY(QFile::exists(other + QStringLiteral(".edit")));
+    // Later saving goes to the new file.
+    m_document->undo();
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    QCOMPARE(SessionFixture::content(m_file), before);
+    MappingFile now;
+    QVERIFY(now.read(other));
+    QCOMPARE(SessionFixture::bytes(now.release(Date)),
+             SessionFixture::bytes(SessionFixture::sampleRelease()));
+    // A document that was read only can be edited from now on.
+    MappingDocument reader;
+    reader.open({other, {}, {}, MappingDocument::Access::ReadOnly, {}});
+    QCOMPARE(reader.saveAs(m_files->path(QStringLiteral("third.json"))).result, SaveResult::Saved);
+    QVERIFY(!reader.isReadOnly());
+    reader.updateMapping(SessionFixture::withState(reader.mapping(firstProject()), {1}, 2));
+    QCOMPARE(reader.save().result, SaveResult::Saved);
+}
+
+void tst_GuardedSave::savesIntoAnotherMappingFile()
+{
+    const QString other = m_files->path(QStringLiteral("other.json"));
+    m_files->addRelease(other, SessionFixture::sampleRelease(QStringLiteral("2020-01-01")));
+    openAndChange();
+    QCOMPARE(m_document->saveAs(other).result, SaveResult::Saved);
+    QCOMPARE(MappingDocument::sourceDates(other),
+             QStringList({QStringLiteral("2020-01-01"), Date}));
+}
+
+void tst_GuardedSave::doesNotSaveIntoAFileThatIsBeingEdited()
+{
+    const QString other = m_files->path(QStringLiteral("other.json"));
+    m_files->addRelease(other, SessionFixture::sampleRelease());
+    const QByteArray before = SessionFixture::content(other);
+    MappingDocument theirs;
+    theirs.open({other, {}, {}, {}, {}});
+    openAndChange();
+    const SaveOutcome outcome = m_document->saveAs(other);
+    QCOMPARE(outcome.result, SaveResult::Busy);
+    QVERIFY2(outcome.text.contains(QStringLiteral("bearbeitet")), qPrintable(outcome.text));
+    QCOMPARE(SessionFixture::content(other), before);
+    QCOMPARE(m_document->mappingFile(), m_file);
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+}
+
+void tst_GuardedSave::linksStayLinks()
+{
+    const QString link = m_files->path(QStringLiteral("link.json"));
+    QVERIFY(QFile::link(m_file, link));
+    QCOMPARE(m_document->open({link, {}, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    QCOMPARE(m_document->mappingFile(), m_file);
+    MappingDocument second;
+    QCOMPARE(second.open({m_file, {}, {}, {}, {}}), MappingDocument::OpenResult::OpenedReadOnly);
+    second.close();
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(firstProject()), {1}, 2));
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    QVERIFY(QFileInfo(link).isSymLink());
+}
+
+QTEST_GUILESS_MAIN(tst_GuardedSave)
+
+#include "tst_GuardedSave.moc"
