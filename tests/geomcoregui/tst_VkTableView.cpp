@@ -57,6 +57,9 @@ private Q_SLOTS:
     void keyboardIsAClickToo();
     void iconClicks();
     void iconByKeyboard();
+    void unusedStatusColumnsAreHidden();
+    void iconsOfSelectedLinesStayClear();
+    void firstAndLastLineByKeyboard();
     void popupOfALine();
     void popupDeclined();
     void popupBelowTheLinesAndOfTheHeader();
@@ -448,6 +451,49 @@ void tst_VkTableView::popupBelowTheLinesAndOfTheHeader()
     QApplication::activePopupWidget()->findChild<QAction *>("unsorted")->trigger();
     QCOMPARE(m_view->model()->lineId(0), LineId(1));
     QApplication::activePopupWidget()->close();
+}
+
+void tst_VkTableView::unusedStatusColumnsAreHidden()
+{
+    auto *const table = qobject_cast<QTableView *>(grid());
+    QVERIFY(table->isColumnHidden(0) && table->isColumnHidden(1));
+    ViewTables::setState(m_table, 3, "VR", "Range");
+    QVERIFY(table->isColumnHidden(0) && !table->isColumnHidden(1));
+    ViewTables::setState(m_table, 3, "", "Range"); // it may come back, so the column stays
+    QVERIFY(!table->isColumnHidden(1));
+    QVERIFY(table->columnWidth(1) < 2 * grid()->iconSize().width());
+    m_view->setTable(TestTables::screws()); // columns of variables are never hidden
+    for (int column = 0; column < m_view->model()->columnCount(); ++column)
+        QVERIFY(!table->isColumnHidden(column));
+    m_view->setTable(m_table);
+    QVERIFY(table->isColumnHidden(0) && !table->isColumnHidden(1));
+}
+
+void tst_VkTableView::iconsOfSelectedLinesStayClear()
+{
+    ViewTables::setState(m_table, 2, "M");
+    const auto iconColour = [&](int row) {
+        QTest::qWait(0);
+        return grid()->viewport()->grab().toImage().pixelColor(cellAt(row, 0));
+    };
+    const QColor plain = iconColour(1);
+    QCOMPARE(plain, QColor(Qt::red));
+    m_table.setSelection(LineId(2), true);
+    QCOMPARE(iconColour(1), plain);
+}
+
+void tst_VkTableView::firstAndLastLineByKeyboard()
+{
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    click(1, 3);
+    grid()->setFocus();
+    key(Qt::Key_End, Qt::ControlModifier);
+    QCOMPARE(selected(), QList<int>({4}));
+    QCOMPARE(m_table.getSelection(), LineId(4));
+    key(Qt::Key_Home, Qt::ControlModifier);
+    QCOMPARE(selected(), QList<int>({1}));
+    key(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(selected().size(), 4);
 }
 
 void tst_VkTableView::statusToolTip()

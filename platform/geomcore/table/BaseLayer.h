@@ -89,6 +89,8 @@ public:
     void setKeyValue(const QString &name, const QVariant &value);
     /// Sets the value of a status key on one line; an empty text shows nothing.
     void setLineKeyValue(const LineId &line, const QString &key, const QVariant &value);
+    /// Some line has, or had, a value of that status key. Cheap.
+    [[nodiscard]] bool hasLineKeyValues(const QString &key) const;
     void addFilterCondition(const FilterCondition &condition);
     /// Removes every filter condition of that name.
     void removeFilterCondition(const QString &name);

@@ -45,6 +45,12 @@ void BaseLayer::setLineKeyValue(const LineId &line, const QString &key, const QV
     emitChanged(LayerChange::Status, line);
 }
 
+bool BaseLayer::hasLineKeyValues(const QString &key) const
+{
+    const std::shared_lock guard(m_shared->lock);
+    return m_shared->state.status.hasKey(key);
+}
+
 QList<LineId> BaseLayer::getHiddenLines() const
 {
     const std::shared_lock guard(m_shared->lock);

@@ -26,6 +26,8 @@ public:
     bool removeLine(const LineId &line);
     /// Gives one line the values of another, unset ones too. True if that changed something.
     bool copyLine(const LineId &from, const LineId &to);
+    /// Some line has, or had, a value of that key.
+    [[nodiscard]] bool hasKey(const QString &key) const { return find(key) != nullptr; }
     [[nodiscard]] bool isEmpty() const { return m_columns.empty(); }
 
 private:

@@ -84,10 +84,23 @@ void TableColumnWidths::apply()
 {
     const QScopedValueRollback guard(m_applying, true);
     QHeaderView *const header = m_grid->horizontalHeader();
+    showUsedColumns();
     for (int column = 0; column < m_model->columnCount(); ++column) {
         const auto known = m_widths.find(nameOf(column));
         header->resizeSection(column, known == m_widths.end() ? neededWidth(column)
                                                               : qRound(known->second * m_zoom));
+    }
+}
+
+void TableColumnWidths::showUsedColumns()
+{
+    const QScopedValueRollback guard(m_applying, true);
+    // The header keeps what was hidden when the model gets other columns.
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        const bool hidden =
+            column < m_model->statusColumnCount() && !m_model->isStatusColumnUsed(column);
+        if (m_grid->isColumnHidden(column) != hidden)
+            m_grid->setColumnHidden(column, hidden);
     }
 }
 
@@ -113,12 +126,13 @@ void TableColumnWidths::fitAll()
 int TableColumnWidths::neededWidth(int column) const
 {
     const int margin = 2 * m_grid->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 6;
-    if (column < m_model->statusColumnCount())
-        return m_grid->iconSize().width() + 2 * margin;
     QFont italic = m_grid->font(); // ranges; a little wider than upright
     italic.setItalic(true);
     const QFontMetrics metrics(italic);
-    int width = m_grid->horizontalHeader()->sectionSizeHint(column);
+    // The caption of a status column is empty.
+    int width = column < m_model->statusColumnCount()
+                    ? m_grid->iconSize().width() + margin
+                    : m_grid->horizontalHeader()->sectionSizeHint(column);
     const int begin = std::max(0, m_grid->rowAt(0));
     const int end = std::min(m_model->rowCount(), begin + sampleRows);
     for (int row = begin; row < end; ++row) {

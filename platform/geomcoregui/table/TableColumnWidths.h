@@ -22,8 +22,10 @@ public:
 
     /// Reads the widths for the model's table.
     void load();
-    /// Gives the columns their widths.
+    /// Gives the columns their widths. Status columns that no line has a value in are hidden.
     void apply();
+    /// Shows status columns that came into use, and all columns of variables.
+    void showUsedColumns();
     void setZoomFactor(double factor);
     /// Gives columns the widths that their contents need and forgets the user's.
     void fit(int column);

@@ -2,6 +2,27 @@
 
 #include "VkTableModel.h"
 
+namespace {
+
+/// An icon on the full colour of a selection, tinted by the style, could hardly be told from
+/// others.
+void keepIconsClear(QStyleOptionViewItem *option)
+{
+    if (!option->state.testFlag(QStyle::State_Selected))
+        return;
+    option->state &= ~QStyle::State_Selected;
+    const QColor base = option->palette.color(QPalette::Base);
+    const QColor highlight = option->palette.color(QPalette::Highlight);
+    const auto mixed = [](int a, int b) {
+        return (3 * a + b) / 4;
+    };
+    option->backgroundBrush =
+        QColor(mixed(base.red(), highlight.red()), mixed(base.green(), highlight.green()),
+               mixed(base.blue(), highlight.blue()));
+}
+
+} // namespace
+
 TableDelegate::TableDelegate(QObject *parent)
     : QStyledItemDelegate(parent)
     , m_marked(QString())
@@ -15,6 +36,7 @@ void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
     QStyledItemDelegate::initStyleOption(option, index);
     if (!index.data(VkTableModel::StatusKeyRole).toString().isEmpty()) {
         option->decorationAlignment = Qt::AlignCenter;
+        keepIconsClear(option);
         return;
     }
     if (!index.data(VkTableModel::RangeRole).toString().isEmpty()) {

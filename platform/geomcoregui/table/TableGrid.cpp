@@ -99,9 +99,14 @@ QItemSelectionModel::SelectionFlags TableGrid::selectionCommand(const QModelInde
 {
     if (event && event->type() == QEvent::KeyPress && selectionMode() != NoSelection) {
         const auto *const key = static_cast<const QKeyEvent *>(event);
-        if ((key->key() == Qt::Key_Home || key->key() == Qt::Key_End) &&
-            key->modifiers() == Qt::ControlModifier)
-            return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+        const bool isEnd = key->key() == Qt::Key_Home || key->key() == Qt::Key_End;
+        if (isEnd && key->modifiers().testFlag(Qt::ControlModifier)) {
+            const bool extends = key->modifiers().testFlag(Qt::ShiftModifier) &&
+                                 selectionMode() == ExtendedSelection;
+            return (extends ? QItemSelectionModel::SelectCurrent
+                            : QItemSelectionModel::ClearAndSelect) |
+                   QItemSelectionModel::Rows;
+        }
     }
     return QTableView::selectionCommand(index, event);
 }

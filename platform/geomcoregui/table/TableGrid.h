@@ -38,7 +38,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     bool viewportEvent(QEvent *event) override;
-    /// Ctrl+Home and Ctrl+End go to the first and the last line, whatever the selection mode.
+    /// Ctrl+Home and Ctrl+End select the first and the last line, with Shift all lines up to there.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
 

@@ -2,6 +2,8 @@
 
 #include "VkTableModelPrivate.h"
 
+#include <geomcore/table/BaseLayer.h>
+
 #include <QThread>
 
 VkTableModel::VkTableModel(QObject *parent)
@@ -88,6 +90,13 @@ int VkTableModel::mappingRow(int row) const
 int VkTableModel::statusColumnCount() const
 {
     return d->statusColumns;
+}
+
+bool VkTableModel::isStatusColumnUsed(int column) const
+{
+    const TableColumn *const shown = d->column(column);
+    const auto layer = d->table.getModifyLayer();
+    return shown && shown->isStatus() && layer && layer->hasLineKeyValues(shown->status.getName());
 }
 
 VKTab::Var VkTableModel::variable(int column) const

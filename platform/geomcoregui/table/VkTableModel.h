@@ -61,6 +61,8 @@ public:
     [[nodiscard]] int mappingRow(int row) const;
     /// Status columns are the first ones.
     [[nodiscard]] int statusColumnCount() const;
+    /// Some line has, or had, a value in that status column.
+    [[nodiscard]] bool isStatusColumnUsed(int column) const;
     /// Not valid for a status column.
     [[nodiscard]] VKTab::Var variable(int column) const;
     /// Column of a variable, -1 if it is not shown.
@@ -96,6 +98,10 @@ public:
     /// value last in either order. Lines with equal values keep the order of the mapping. Column -1
     /// gives that order back to all.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
+Q_SIGNALS:
+    /// A status column in which no line had a value has one now, see isStatusColumnUsed().
+    void statusColumnCameIntoUse();
 
 private:
     friend class VkTableModelPrivate;

@@ -33,8 +33,26 @@ void VkTableModelPrivate::onInvalidated(Content::InvalidateFlags flags)
         missed |= flags;
 }
 
+int VkTableModelPrivate::countUsedStatusColumns() const
+{
+    int used = 0;
+    for (int column = 0; column < statusColumns; ++column)
+        used += q->isStatusColumnUsed(column) ? 1 : 0;
+    return used;
+}
+
+void VkTableModelPrivate::noteUsedStatusColumns()
+{
+    if (usedStatusColumns == statusColumns)
+        return;
+    const int used = countUsedStatusColumns();
+    if (std::exchange(usedStatusColumns, used) != used)
+        Q_EMIT q->statusColumnCameIntoUse();
+}
+
 void VkTableModelPrivate::onLineStatus(const VKTab::LineId &id)
 {
+    noteUsedStatusColumns();
     if (!following) {
         missed |= Content::InvalidateValues;
         return;
@@ -153,6 +171,7 @@ void VkTableModelPrivate::resetTo(const QList<TableColumn> &found)
                                       [](const TableColumn &c) { return c.isStatus(); }));
     forgetCells();
     tableData = table.getTableData();
+    usedStatusColumns = countUsedStatusColumns();
     rows = makeRows();
     dirtyStatus.clear();
     dirtyValues.clear();

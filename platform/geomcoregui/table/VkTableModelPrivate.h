@@ -47,6 +47,8 @@ public:
     void onLineStatus(const VKTab::LineId &line);
     void onLineModified(const VKTab::LineId &line);
     void refresh(VKTab::Content::InvalidateFlags flags);
+    void noteUsedStatusColumns();
+    [[nodiscard]] int countUsedStatusColumns() const;
     void scheduleFlush();
     void flush();
     void flush(DirtyRows &rows, int firstColumn, int lastColumn, const QList<int> &roles);
@@ -95,6 +97,7 @@ public:
     std::atomic<bool> hiddenShown = false; // choice.hidden, for all threads
     QList<TableColumn> columns;
     int statusColumns = 0;
+    int usedStatusColumns = 0; // of them, as far as the views know
     TableRows rows;
     std::map<VKTab::VarId, QString> quickFilters;
     std::optional<TableColumn> sortedBy;

@@ -77,6 +77,8 @@ void VkTableViewPrivate::connectGrid()
                          header->viewport()->mapToGlobal(position));
             });
     connect(model, &QAbstractItemModel::modelReset, this, &VkTableViewPrivate::onModelReset);
+    connect(model, &VkTableModel::statusColumnCameIntoUse, this,
+            [this] { widths->showUsedColumns(); });
     connect(grid, &TableGrid::cellClicked, this, &VkTableViewPrivate::onCellClicked);
     connect(grid, &TableGrid::lineEntered, this,
             [this](const QModelIndex &index) { onCellClicked(index, Qt::NoButton); });
