@@ -6,6 +6,11 @@
 #include <QLockFile>
 #include <QSysInfo>
 
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 QString userName()
@@ -15,6 +20,10 @@ QString userName()
         if (!name.isEmpty())
             return name;
     }
+#ifdef Q_OS_UNIX
+    if (const passwd *entry = getpwuid(geteuid()))
+        return QString::fromLocal8Bit(entry->pw_name);
+#endif
     return QString();
 }
 

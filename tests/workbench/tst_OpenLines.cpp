@@ -1,0 +1,303 @@
+#include "SessionFixture.h"
+#include "TableFixture.h"
+
+#include <workbench/session/MappingDocument.h>
+#include <workbench/session/OpenLines.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+ProjectId id(const QString &path)
+{
+    return {path, SessionFixture::Version, QStringLiteral("t1")};
+}
+
+LineRef ref(const char *path, int line)
+{
+    return {id(QString::fromLatin1(path)), line};
+}
+
+const char A[] = "z.prj";            // in the root, behind all directories
+const char B[] = "cat/screws/b.prj"; // deepest, so it comes first
+const char C[] = "cat/m.prj";
+const char D[] = "dog/n.prj";
+
+} // namespace
+
+class tst_OpenLines : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void walksInTheOrderOfTheTree();
+    void walksBackwards();
+    void startsWithoutAPlace();
+    void startsBesideOpenLines();
+    void aloneIsItsOwnNext();
+    void nothingOpen();
+    void kinds_data();
+    void kinds();
+    void countsFollowChanges();
+    void followsANewTree();
+    void linesOfSeveralTargets();
+    void largeTables();
+    void lineByNumber();
+    void linesByText_data();
+    void linesByText();
+
+private:
+    void use(const QList<PrjMappingC> &mappings);
+    [[nodiscard]] PrjMappingC open(const char *path, const QList<int> &lines) const;
+
+    std::unique_ptr<SessionFixture> m_files;
+    std::unique_ptr<MappingDocument> m_document;
+};
+
+void tst_OpenLines::init()
+{
+    m_document.reset();
+    m_files = std::make_unique<SessionFixture>();
+    m_document = std::make_unique<MappingDocument>();
+}
+
+void tst_OpenLines::use(const QList<PrjMappingC> &mappings)
+{
+    ReleaseMappingC release;
+    release.setSourceDate(QStringLiteral("2022-01-01"));
+    for (const PrjMappingC &mapping : mappings)
+        release.addMapping(mapping);
+    QCOMPARE(m_document->open({m_files->write(release), {}, {}, {}, {}}),
+             MappingDocument::OpenResult::Opened);
+}
+
+/// Twenty confirmed lines but for the open ones.
+PrjMappingC tst_OpenLines::open(const char *path, const QList<int> &lines) const
+{
+    return SessionFixture::withState(SessionFixture::plainMapping(QString::fromLatin1(path), 20, 2),
+                                     lines, 0);
+}
+
+void tst_OpenLines::walksInTheOrderOfTheTree()
+{
+    use({open(A, {7}), open(D, {2}), open(C, {}), open(B, {3, 12})});
+    const OpenLines lines(m_document.get());
+    const QList<LineRef> order{ref(B, 3), ref(B, 12), ref(D, 2), ref(A, 7)};
+    LineRef at;
+    for (int round = 0; round < 2; ++round) {
+        for (const LineRef &expected : order) {
+            const LineRef next = lines.next(at);
+            QCOMPARE(next, expected);
+            QCOMPARE(lines.wraps(at, next, true), round == 1 && expected == order.first());
+            at = next;
+        }
+    }
+}
+
+void tst_OpenLines::walksBackwards()
+{
+    use({open(A, {7}), open(D, {2}), open(C, {}), open(B, {3, 12})});
+    const OpenLines lines(m_document.get());
+    LineRef at = ref(B, 12);
+    for (const LineRef &expected : {ref(B, 3), ref(A, 7), ref(D, 2), ref(B, 12), ref(B, 3)}) {
+        const LineRef previous = lines.previous(at);
+        QCOMPARE(previous, expected);
+        QCOMPARE(lines.wraps(at, previous, false), expected == ref(A, 7));
+        at = previous;
+    }
+}
+
+void tst_OpenLines::startsWithoutAPlace()
+{
+    use({open(A, {7}), open(B, {3, 12})});
+    const OpenLines lines(m_document.get());
+    QCOMPARE(lines.next(LineRef()), ref(B, 3));
+    QCOMPARE(lines.previous(LineRef()), ref(A, 7));
+    QCOMPARE(lines.next({id(QString::fromLatin1(A)), -1}), ref(A, 7));
+    QCOMPARE(lines.previous({id(QString::fromLatin1(B)), -1}), ref(B, 12));
+    QCOMPARE(lines.next(ref("gone.prj", 5)), ref(B, 3));
+}
+
+void tst_OpenLines::startsBesideOpenLines()
+{
+    use({open(A, {7}), open(B, {3, 12})});
+    const OpenLines lines(m_document.get());
+    QCOMPARE(lines.next(ref(B, 4)), ref(B, 12));
+    QCOMPARE(lines.next(ref(B, 500)), ref(A, 7));
+    QCOMPARE(lines.previous(ref(B, 11)), ref(B, 3));
+    QCOMPARE(lines.previous(ref(B, 3)), ref(A, 7));
+}
+
+void tst_OpenLines::aloneIsItsOwnNext()
+{
+    use({open(A, {}), open(B, {3}), open(D, {})});
+    const OpenLines lines(m_document.get());
+    QCOMPARE(lines.next(ref(B, 3)), ref(B, 3));
+    QCOMPARE(lines.previous(ref(B, 3)), ref(B, 3));
+    QVERIFY(lines.wraps(ref(B, 3), ref(B, 3), true));
+}
+
+void tst_OpenLines::nothingOpen()
+{
+    const OpenLines closed(m_document.get());
+    QVERIFY(!closed.next(LineRef()).isValid());
+    QCOMPARE(closed.count(), 0);
+    use({open(A, {}), open(B, {})});
+    QVERIFY(!closed.next(ref(A, 1)).isValid());
+    QVERIFY(!closed.previous(ref(A, 1)).isValid());
+    QCOMPARE(closed.count(), 0);
+    QCOMPARE(closed.projectCount(), 0);
+}
+
+void tst_OpenLines::kinds_data()
+{
+    QTest::addColumn<int>("kinds");
+    QTest::addColumn<QList<int>>("lines");
+    // Lines 1 to 8: with a target line in states 0 to 3, then without one in states 0 to 3.
+    QTest::newRow("to check") << int(OpenLines::ToCheck) << QList<int>{1, 4};
+    QTest::newRow("not found") << int(OpenLines::NotFound) << QList<int>{5, 6, 8};
+    QTest::newRow("proposed") << int(OpenLines::Proposed) << QList<int>{2};
+    QTest::newRow("as it begins") << int(OpenLines::ToCheck | OpenLines::NotFound)
+                                  << QList<int>{1, 4, 5, 6, 8};
+    QTest::newRow("all") << 7 << QList<int>{1, 2, 4, 5, 6, 8};
+    QTest::newRow("none") << 0 << QList<int>{};
+}
+
+void tst_OpenLines::kinds()
+{
+    QFETCH(int, kinds);
+    QFETCH(QList<int>, lines);
+    QList<SampleLine> all;
+    for (int i = 0; i < 8; ++i)
+        all.append({i + 1, i < 4 ? 5 : -1, i % 4, QString(), false});
+    use({SessionFixture::mapping(QString::fromLatin1(A), all)});
+    OpenLines open(m_document.get());
+    if (kinds != int(open.kinds()))
+        open.setKinds(OpenLines::Kinds(kinds));
+    QCOMPARE(open.count(), int(lines.size()));
+    QCOMPARE(open.count(id(QString::fromLatin1(A))), int(lines.size()));
+    QCOMPARE(open.projectCount(), lines.isEmpty() ? 0 : 1);
+    LineRef at;
+    for (int line : lines) {
+        at = open.next(at);
+        QCOMPARE(at, ref(A, line));
+    }
+    for (auto line = lines.rbegin() + (lines.isEmpty() ? 0 : 1); line != lines.rend(); ++line) {
+        at = open.previous(at);
+        QCOMPARE(at, ref(A, *line));
+    }
+}
+
+void tst_OpenLines::countsFollowChanges()
+{
+    use({open(A, {7}), open(B, {3, 12})});
+    const OpenLines lines(m_document.get());
+    QSignalSpy changed(&lines, &OpenLines::countChanged);
+    QCOMPARE(lines.count(), 3);
+    QCOMPARE(lines.projectCount(), 2);
+    m_document->updateMapping(open(B, {12}));
+    m_document->finishStep();
+    QCOMPARE(lines.count(), 2);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.first().first().toInt(), 2);
+    m_document->undo();
+    QCOMPARE(changed.last().first().toInt(), 3);
+    m_document->close();
+    QCOMPARE(changed.last().first().toInt(), 0);
+}
+
+void tst_OpenLines::followsANewTree()
+{
+    use({open(A, {7})});
+    const OpenLines lines(m_document.get());
+    QCOMPARE(lines.next(LineRef()), ref(A, 7));
+    ReleaseMappingC other = m_document->release();
+    other.addMapping(open(D, {1}));
+    m_document->replaceRelease(other, QString());
+    QCOMPARE(lines.next(LineRef()), ref(D, 1));
+    m_document->undo();
+    QCOMPARE(lines.next(LineRef()), ref(A, 7));
+}
+
+void tst_OpenLines::linesOfSeveralTargets()
+{
+    PrjMappingC mapping = open(A, {4, 9});
+    PrjMappingTargetC notFound;
+    notFound.addLineId(6, -1, PRJMAPPING::Mapped, QString());
+    notFound.addLineId(9, -1, PRJMAPPING::ToCheck, QString());
+    mapping.addTarget(notFound);
+    use({mapping});
+    const OpenLines lines(m_document.get());
+    QCOMPARE(lines.count(), 4);
+    QCOMPARE(lines.next(ref(A, 1)), ref(A, 4));
+    QCOMPARE(lines.next(ref(A, 4)), ref(A, 6));
+    QCOMPARE(lines.next(ref(A, 6)), ref(A, 9));
+    QCOMPARE(lines.next(ref(A, 9)), ref(A, 4));
+    QCOMPARE(lines.previous(ref(A, 9)), ref(A, 6));
+    QCOMPARE(lines.previous(ref(A, 4)), ref(A, 9));
+}
+
+void tst_OpenLines::largeTables()
+{
+    PrjMappingC large = SessionFixture::plainMapping(QString::fromLatin1(A), 60000, 2);
+    const QList<int> wanted{1, 256, 257, 16384, 16385, 40000, 60000};
+    use({SessionFixture::withState(large, wanted, 0)});
+    const OpenLines lines(m_document.get());
+    LineRef at;
+    for (int line : wanted) {
+        at = lines.next(at);
+        QCOMPARE(at.line, line);
+    }
+    QCOMPARE(lines.next(at).line, 1);
+    for (qsizetype i = wanted.size() - 2; i >= 0; --i) {
+        at = lines.previous(at);
+        QCOMPARE(at.line, wanted[i]);
+    }
+}
+
+void tst_OpenLines::lineByNumber()
+{
+    use({open(A, {7})});
+    const OpenLines lines(m_document.get());
+    QCOMPARE(lines.lineByNumber(id(QString::fromLatin1(A)), 20), ref(A, 20));
+    QVERIFY(!lines.lineByNumber(id(QString::fromLatin1(A)), 21).isValid());
+    QVERIFY(!lines.lineByNumber(id(QString::fromLatin1(B)), 1).isValid());
+}
+
+void tst_OpenLines::linesByText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QList<int>>("lines");
+    QTest::newRow("whole") << QStringLiteral("DIN 931 - M8 x 40") << QList<int>{11};
+    QTest::newRow("without regard to case and blanks")
+        << QStringLiteral("  din 931  - m8 X 40 ") << QList<int>{11};
+    QTest::newRow("beginning") << QStringLiteral("DIN 931 - M8") << QList<int>({12, 11});
+    QTest::newRow("part") << QStringLiteral("x 40") << QList<int>({12, 11, 3});
+    QTest::newRow("number first") << QStringLiteral("11") << QList<int>{11};
+    QTest::newRow("number that is no line") << QStringLiteral("40") << QList<int>({12, 11, 3});
+    QTest::newRow("umlaut") << QStringLiteral("GRÖßE") << QList<int>{5};
+    QTest::newRow("nothing") << QStringLiteral("M99") << QList<int>{};
+    QTest::newRow("empty") << QStringLiteral("  ") << QList<int>{};
+}
+
+void tst_OpenLines::linesByText()
+{
+    QFETCH(QString, text);
+    QFETCH(QList<int>, lines);
+    TableFixture::write(m_files->path(QString()), QStringLiteral("t.prj"),
+                        {{12, QStringLiteral("DIN 931 - M8 x 400")},
+                         {11, QStringLiteral("DIN 931 - M8 x 40")},
+                         {3, QStringLiteral("DIN 933 - M8 x 40")},
+                         {5, QStringLiteral("größe 11")}});
+    const VKTab::ContentRef table =
+        TableFixture::read(m_files->path(QString()), QStringLiteral("t.prj"));
+    QCOMPARE(OpenLines::linesByText(table, text), lines);
+}
+
+QTEST_GUILESS_MAIN(tst_OpenLines)
+
+#include "tst_OpenLines.moc"
