@@ -1,0 +1,1319 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_GB" sourcelanguage="de_DE">
+<context>
+    <name>BulkOperation</name>
+    <message>
+        <source>%1 Zeilen bestätigen?</source>
+        <translation>Confirm %1 lines?</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen bleiben, wie sie sind.</source>
+        <translation>%1 lines stay as they are.</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen mit Konflikt werden nicht geändert.</source>
+        <translation>%1 lines in conflict are not changed.</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen sind in keinem Zielprojekt eingetragen.</source>
+        <translation>%1 lines are in no target project.</translation>
+    </message>
+    <message>
+        <source>%1 davon sind schon bestätigt.</source>
+        <translation>%1 of them are confirmed already.</translation>
+    </message>
+    <message>
+        <source>%1 davon verlieren ihre Wertebereichszuordnung.</source>
+        <translation>%1 of them lose their value range assignments.</translation>
+    </message>
+    <message>
+        <source>1 Zeile bestätigen?</source>
+        <translation>Confirm 1 line?</translation>
+    </message>
+    <message>
+        <source>1 Zeile bleibt, wie sie ist.</source>
+        <translation>1 line stays as it is.</translation>
+    </message>
+    <message>
+        <source>1 Zeile ist in keinem Zielprojekt eingetragen.</source>
+        <translation>1 line is in no target project.</translation>
+    </message>
+    <message>
+        <source>1 Zeile mit Konflikt wird nicht geändert.</source>
+        <translation>1 line in conflict is not changed.</translation>
+    </message>
+    <message>
+        <source>1 davon ist schon bestätigt.</source>
+        <translation>1 of them is confirmed already.</translation>
+    </message>
+    <message>
+        <source>1 davon verliert ihre Wertebereichszuordnung.</source>
+        <translation>1 of them loses its value range assignment.</translation>
+    </message>
+    <message>
+        <source>Es ist nichts zu ändern.</source>
+        <translation>There is nothing to change.</translation>
+    </message>
+    <message>
+        <source>Zuordnung von %1 Zeilen aufheben und bestätigen?</source>
+        <translation>Remove the assignments of %1 lines and confirm that?</translation>
+    </message>
+    <message>
+        <source>Zuordnung von %1 Zeilen aufheben?</source>
+        <translation>Remove the assignments of %1 lines?</translation>
+    </message>
+    <message>
+        <source>Zuordnung von 1 Zeile aufheben und bestätigen?</source>
+        <translation>Remove the assignment of 1 line and confirm that?</translation>
+    </message>
+    <message>
+        <source>Zuordnung von 1 Zeile aufheben?</source>
+        <translation>Remove the assignment of 1 line?</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogRootsDialog</name>
+    <message>
+        <source>%1 ist kein Verzeichnis.</source>
+        <translation>%1 is not a directory.</translation>
+    </message>
+    <message>
+        <source>&amp;Alter Stand (%1):</source>
+        <translation>&amp;Old release (%1):</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Stand (%1):</source>
+        <translation>&amp;New release (%1):</translation>
+    </message>
+    <message>
+        <source>Beide Verzeichnisse werden gebraucht.</source>
+        <translation>Both directories are needed.</translation>
+    </message>
+    <message>
+        <source>Im alten Stand fehlt %1. Gesucht ist das Verzeichnis, in dem der Katalog %2 liegt.</source>
+        <translation>%1 is missing in the old release. What is wanted is the directory that holds the catalog %2.</translation>
+    </message>
+    <message>
+        <source>Im neuen Stand fehlt der Katalog %1.</source>
+        <translation>The new release has no catalog %1.</translation>
+    </message>
+    <message>
+        <source>Katalogverzeichnisse</source>
+        <translation>Catalog directories</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des alten Katalogstands</source>
+        <translation>Directory of the old release</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des neuen Katalogstands</source>
+        <translation>Directory of the new release</translation>
+    </message>
+    <message>
+        <source>Wo liegen die beiden Katalogstände dieser Mapping-Datei? Die Verzeichnisse werden zusammen mit der Datei gemerkt.</source>
+        <translation>Where are the two catalog releases of this mapping file? The directories are remembered together with the file.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentDesk</name>
+    <message>
+        <source>&amp;Eigenen Stand schreiben</source>
+        <translation>&amp;Write my version</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>&amp;Verwerfen</source>
+        <translation>&amp;Discard</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält mehrere Katalogstände. Welcher soll geöffnet werden?</source>
+        <translation>The file holds several catalog releases. Which one is to be opened?</translation>
+    </message>
+    <message>
+        <source>Die Datei ist nur zum Lesen geöffnet.</source>
+        <translation>The file is open for reading only.</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geöffnet werden.</source>
+        <translation>The file cannot be opened.</translation>
+    </message>
+    <message>
+        <source>Die Datei wurde nicht gespeichert.</source>
+        <translation>The file was not saved.</translation>
+    </message>
+    <message>
+        <source>Die Kataloge sind nicht bekannt; sie werden mit --source und --target angegeben.</source>
+        <translation>The catalogs are not known; give them with --source and --target.</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei kann nicht angelegt werden.</source>
+        <translation>The mapping file cannot be made.</translation>
+    </message>
+    <message>
+        <source>Gespeichert: %1</source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message>
+        <source>Katalogstand</source>
+        <translation>Catalog release</translation>
+    </message>
+    <message>
+        <source>Kopie behalten und &amp;neu schreiben</source>
+        <translation>Keep a copy and write &amp;anew</translation>
+    </message>
+    <message>
+        <source>Verworfene Änderungen sind verloren.</source>
+        <translation>Changes that are discarded are lost.</translation>
+    </message>
+    <message>
+        <source>Änderungen an %1 speichern?</source>
+        <translation>Save the changes to %1?</translation>
+    </message>
+    <message>
+        <source>Öffnen</source>
+        <translation>Open</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Katalog</source>
+        <translation>Catalog</translation>
+    </message>
+</context>
+<context>
+    <name>FileNames</name>
+    <message>
+        <source>Mapping-Datei speichern</source>
+        <translation>Save mapping file</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei öffnen</source>
+        <translation>Open mapping file</translation>
+    </message>
+    <message>
+        <source>Mapping-Dateien (*.json);;Alle Dateien (*)</source>
+        <translation>Mapping files (*.json);;All files (*)</translation>
+    </message>
+</context>
+<context>
+    <name>GuardedSave</name>
+    <message>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt.</source>
+        <translation>%1 is not a readable mapping file (%2). Nothing was written. Saving keeps the existing file under a name with a time stamp and makes a new one.</translation>
+    </message>
+    <message>
+        <source>%1 ist unlesbar und konnte nicht nach %2 kopiert werden (%3). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 is unreadable and could not be copied to %2 (%3). Nothing was written. Please save under another name.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts geschrieben. Bitte gleich noch einmal speichern.</source>
+        <translation>%1 is being saved by another program at this moment. Nothing was written. Please save again in a moment.</translation>
+    </message>
+    <message>
+        <source>%1 wurde nicht gespeichert. %2 Auch der frühere Inhalt konnte nicht zurückgeholt werden (%3). Er liegt in %4. Bitte unter einem anderen Namen speichern und diese Datei von Hand zurückkopieren.</source>
+        <translation>%1 was not saved. %2 The former content could not be brought back either (%3). It is in %4. Please save under another name and copy that file back by hand.</translation>
+    </message>
+    <message>
+        <source>%1 wurde nicht gespeichert. %2 Die Datei ist wieder so wie vor dem Speichern, die Änderungen sind weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter einem anderen Namen speichern.</source>
+        <translation>%1 was not saved. %2 The file is again as it was before, the changes are still open. Please make room and save again, or save under another name.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts geschrieben.</source>
+        <translation>%1 was deleted or renamed since it was opened. Saving makes the file anew with this release only (%2). Nothing was written yet.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen von jemand anderem geändert, auch dieser Stand (%2). Beim Speichern gehen dessen Änderungen an diesem Stand verloren. Es wurde noch nichts geschrieben: trotzdem speichern, unter einem anderen Namen speichern oder die Datei neu öffnen.</source>
+        <translation>%1 was changed by somebody else since it was opened, this release (%2) too. Saving loses their changes to this release. Nothing was written yet: save all the same, save under another name, or open the file anew.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen von jemand anderem geändert, dieser Stand (%2) aber nicht. Beim Speichern bleiben die anderen Stände, wie sie jetzt in der Datei sind. Es wurde noch nichts geschrieben.</source>
+        <translation>%1 was changed by somebody else since it was opened, yet not this release (%2). Saving leaves the other releases as they are in the file now. Nothing was written yet.</translation>
+    </message>
+    <message>
+        <source>Die Datei konnte nicht vollständig geschrieben werden. Möglicherweise ist der Datenträger voll.</source>
+        <translation>The file could not be written completely. Perhaps the disk is full.</translation>
+    </message>
+    <message>
+        <source>Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
+        <translation>The backup %1 could not be made (%2). Nothing was written. Please make room or save under another name.</translation>
+    </message>
+    <message>
+        <source>Die geschriebene Datei enthält nicht, was gespeichert werden sollte.</source>
+        <translation>The file as written does not hold what was to be saved.</translation>
+    </message>
+    <message>
+        <source>Die geschriebene Datei ist nicht lesbar: %1</source>
+        <translation>The file as written cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden. Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>Nothing can be made in the folder of %1. Nothing was written. Please save under another name.</translation>
+    </message>
+    <message>
+        <source>In der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer.</source>
+        <translation>In the file as written the release %1 is missing or differs.</translation>
+    </message>
+</context>
+<context>
+    <name>LegendDialog</name>
+    <message>
+        <source>Ausgelaufen: bestätigt, dass es keine Zuordnung gibt</source>
+        <translation>Expired: confirmed to have no assignment</translation>
+    </message>
+    <message>
+        <source>Bestätigt: die Zuordnung ist entschieden</source>
+        <translation>Confirmed: the assignment is decided</translation>
+    </message>
+    <message>
+        <source>In der Zieltabelle: die zugeordnete Zeile</source>
+        <translation>In the target table: the assigned line</translation>
+    </message>
+    <message>
+        <source>Keine Zuordnung gefunden</source>
+        <translation>No assignment found</translation>
+    </message>
+    <message>
+        <source>Konflikt mit der Änderung eines anderen</source>
+        <translation>Conflict with somebody else's change</translation>
+    </message>
+    <message>
+        <source>Legende</source>
+        <translation>Legend</translation>
+    </message>
+    <message>
+        <source>Ohne Bild: eindeutig gleich, vom Programm zugeordnet</source>
+        <translation>No icon: clearly equal, assigned by the program</translation>
+    </message>
+    <message>
+        <source>Projekt oder Tabelle kann nicht gelesen werden</source>
+        <translation>Project or table cannot be read</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Vorschlag: muss bestätigt oder korrigiert werden</source>
+        <translation>Proposal: has to be confirmed or corrected</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen der Zeile</source>
+        <translation>Value range assignments of the line</translation>
+    </message>
+</context>
+<context>
+    <name>LineCommands</name>
+    <message>
+        <source>&amp;Ausführen</source>
+        <translation>&amp;Do it</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Reached the beginning, going on from the end</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Reached the end, going on from the beginning</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt gewählt</source>
+        <translation>No project is selected</translation>
+    </message>
+    <message>
+        <source>Gehe zu</source>
+        <translation>Go</translation>
+    </message>
+    <message>
+        <source>Gehe zu Zeile</source>
+        <translation>Go to line</translation>
+    </message>
+    <message>
+        <source>Gemeint sind alle gezeigten Zeilen des Projekts. Der Schritt kann zurückgenommen werden.</source>
+        <translation>This is about all lines of the project that are shown. The step can be undone.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die markierten Zeilen. Der Schritt kann zurückgenommen werden.</source>
+        <translation>This is about the selected lines. The step can be undone.</translation>
+    </message>
+    <message>
+        <source>Keine Zeile braucht mehr eine Entscheidung</source>
+        <translation>No line needs a decision any more</translation>
+    </message>
+    <message>
+        <source>Keine Zeile mit „%1“ in diesem Projekt</source>
+        <translation>No line with “%1” in this project</translation>
+    </message>
+    <message>
+        <source>Keine der Zeilen würde sich ändern</source>
+        <translation>None of the lines would change</translation>
+    </message>
+    <message>
+        <source>Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen</source>
+        <translation>None of the open lines can be shown; their tables are missing</translation>
+    </message>
+    <message>
+        <source>Nummer oder Normbezeichnung:</source>
+        <translation>Number or standard designation:</translation>
+    </message>
+    <message>
+        <source>Treffer %1 von %2</source>
+        <translation>Hit %1 of %2</translation>
+    </message>
+</context>
+<context>
+    <name>LogWindow</name>
+    <message>
+        <source>Alle Meldungen kopieren</source>
+        <translation>Copy all messages</translation>
+    </message>
+    <message>
+        <source>Fehler: </source>
+        <translation>Error: </translation>
+    </message>
+    <message>
+        <source>Meldungen</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>Meldungen löschen</source>
+        <translation>Clear messages</translation>
+    </message>
+    <message>
+        <source>Warnung: </source>
+        <translation>Warning: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zu</source>
+        <translation>&amp;Go</translation>
+    </message>
+    <message>
+        <source>&amp;Hilfe</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Zuletzt geöffnet</source>
+        <translation>Open &amp;recent</translation>
+    </message>
+    <message>
+        <source>Alle Projekte zugeordnet</source>
+        <translation>Assigned all projects</translation>
+    </message>
+    <message>
+        <source>Alles &amp;Unbestätigte neu</source>
+        <translation>All that is &amp;unconfirmed</translation>
+    </message>
+    <message>
+        <source>Bestätigtes bleibt in jedem Fall. Der Schritt kann zurückgenommen werden.</source>
+        <translation>What is confirmed stays in any case. The step can be undone.</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt %1 gibt es nicht.</source>
+        <translation>There is no target project %1.</translation>
+    </message>
+    <message>
+        <source>Der Katalog</source>
+        <translation>The catalog</translation>
+    </message>
+    <message>
+        <source>Der Zähler sagt, wie viele Zeilen eine Entscheidung brauchen. %1 geht zur nächsten, auch im nächsten Projekt.</source>
+        <translation>The counter tells how many lines need a decision. %1 goes to the next one, in the next project too.</translation>
+    </message>
+    <message>
+        <source>Die Zeilen</source>
+        <translation>The lines</translation>
+    </message>
+    <message>
+        <source>Die Ziele</source>
+        <translation>The targets</translation>
+    </message>
+    <message>
+        <source>Einstellungen: %1</source>
+        <translation>Settings: %1</translation>
+    </message>
+    <message>
+        <source>Hier stehen die Projekte des neuen Stands, die Zeilen übernehmen können, mit Bedingungen und Variablenzuordnungen.</source>
+        <translation>Here are the projects of the new release that can take over lines, with conditions and variable mappings.</translation>
+    </message>
+    <message>
+        <source>Jeder Schritt kann zurückgenommen werden. Was nicht gespeichert ist, bietet das Programm nach einem Absturz zur Wiederherstellung an. Der Rundgang steht im Menü Hilfe.</source>
+        <translation>Every step can be undone. After a crash the program offers to recover what was not saved. You find this tour in the Help menu.</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank</source>
+        <translation>Link database</translation>
+    </message>
+    <message>
+        <source>Links die alte Tabelle, rechts die neue. V bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, X hebt auf, Strg+X bestätigt, dass die Zeile ausgelaufen ist.</source>
+        <translation>The old table on the left, the new one on the right. V confirms the assignment or assigns the line selected on the right, X removes it, Ctrl+X confirms that the line has expired.</translation>
+    </message>
+    <message>
+        <source>Links steht der alte Katalogstand. Die Bilder zeigen, wo noch etwas zu entscheiden ist. Wählen Sie ein Projekt, um seine Zeilen zu sehen.</source>
+        <translation>On the left is the old catalog release. The icons show where something is still to be decided. Select a project to see its lines.</translation>
+    </message>
+    <message>
+        <source>Liste &amp;leeren</source>
+        <translation>&amp;Clear list</translation>
+    </message>
+    <message>
+        <source>Nichts geht verloren</source>
+        <translation>Nothing gets lost</translation>
+    </message>
+    <message>
+        <source>Nur &amp;Zeilen ohne Zuordnung</source>
+        <translation>Only &amp;lines without assignment</translation>
+    </message>
+    <message>
+        <source>Was noch offen ist</source>
+        <translation>What is still open</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Zeilen des ganzen Katalogs zuordnen?</source>
+        <translation>Assign the lines of the whole catalog?</translation>
+    </message>
+    <message>
+        <source>Zielprojekt: %1</source>
+        <translation>Target project: %1</translation>
+    </message>
+    <message>
+        <source>schreibgeschützt</source>
+        <translation>read-only</translation>
+    </message>
+</context>
+<context>
+    <name>MappingDocument</name>
+    <message>
+        <source>%1 enthält keinen Stand %2. Vorhanden sind: %3</source>
+        <translation>%1 holds no release %2. There are: %3</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand.</source>
+        <translation>%1 holds no release.</translation>
+    </message>
+    <message>
+        <source>%1 ist nur zum Lesen geöffnet.</source>
+        <translation>%1 is open for reading only.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet und ist deshalb nur zum Lesen geöffnet.</source>
+        <translation>%1 is being edited by %2 and is therefore open for reading only.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet. Es wurde nichts geschrieben. Bitte einen anderen Namen wählen.</source>
+        <translation>%1 is being edited by %2. Nothing was written. Please choose another name.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht angelegt werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte oft speichern.</source>
+        <translation>The journal %1 cannot be made (%2). After a crash the changes would be lost: please save often.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht geschrieben werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte bald speichern.</source>
+        <translation>The journal %1 cannot be written (%2). After a crash the changes would be lost: please save soon.</translation>
+    </message>
+    <message>
+        <source>Der Ordner von %1 ist nicht beschreibbar. Die Datei ist deshalb nur zum Lesen geöffnet; unter einem anderen Namen gespeichert lässt sie sich bearbeiten.</source>
+        <translation>The folder of %1 cannot be written to. The file is therefore open for reading only; it can be edited once it is saved under another name.</translation>
+    </message>
+    <message>
+        <source>Der Stand %1 kann nicht gelesen werden. %2</source>
+        <translation>The release %1 cannot be read. %2</translation>
+    </message>
+    <message>
+        <source>Der wiederhergestellte Stand kann nicht gesichert werden (%1). Bitte Platz schaffen und noch einmal öffnen; das Journal ist unverändert.</source>
+        <translation>The recovered version cannot be stored (%1). Please make room and open the file again; the journal is unchanged.</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei kann nicht gelesen werden. %1
+Bitte eine andere Datei wählen oder eine Sicherungskopie (%2) zurückkopieren.</source>
+        <translation>The mapping file cannot be read. %1
+Please choose another file or copy a backup (%2) back.</translation>
+    </message>
+    <message>
+        <source>Die automatische Sicherung ist nicht gelungen (%1). Bitte bald speichern.</source>
+        <translation>Saving automatically failed (%1). Please save soon.</translation>
+    </message>
+    <message>
+        <source>Die Änderung wurde nicht übernommen. %1</source>
+        <translation>The change was not taken over. %1</translation>
+    </message>
+    <message>
+        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <translation>No mapping file is open.</translation>
+    </message>
+    <message>
+        <source>Es wurde nicht gespeichert. %1 Bitte unter einem anderen Namen speichern.</source>
+        <translation>Nothing was saved. %1 Please save under another name.</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden. Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
+        <translation>Nothing can be made in the folder of %1. Nothing was written. Please choose another folder.</translation>
+    </message>
+    <message>
+        <source>Konflikte markiert</source>
+        <translation>Marked conflicts</translation>
+    </message>
+    <message>
+        <source>Rückgängig: %1</source>
+        <translation>Undone: %1</translation>
+    </message>
+    <message>
+        <source>Wiederherstellung nach einem Absturz</source>
+        <translation>Recovery after a crash</translation>
+    </message>
+    <message>
+        <source>Wiederholt: %1</source>
+        <translation>Redone: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MappingMaker</name>
+    <message>
+        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
+        <translation>%1 projects: %2 in the same place, %3 elsewhere, %4 split, %5 without target, %6 unreadable</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten mit %3 Zeilen zugeordnet</source>
+        <translation>%1 of %2 projects with %3 lines assigned</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts angelegt</source>
+        <translation>Cancelled, nothing was made</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen zugeordnet</source>
+        <translation>Cancelled: %1 of %2 projects with %3 lines assigned</translation>
+    </message>
+    <message>
+        <source>Zeilen werden zugeordnet</source>
+        <translation>Assigning lines</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Looking for target projects</translation>
+    </message>
+</context>
+<context>
+    <name>NewMappingDialog</name>
+    <message>
+        <source>%1 gibt es schon.</source>
+        <translation>%1 exists already.</translation>
+    </message>
+    <message>
+        <source>&amp;Alter Katalogstand:</source>
+        <translation>&amp;Old release:</translation>
+    </message>
+    <message>
+        <source>&amp;Diese Datei verwenden</source>
+        <translation>&amp;Use this file</translation>
+    </message>
+    <message>
+        <source>&amp;Mapping-Datei:</source>
+        <translation>&amp;Mapping file:</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Katalogstand:</source>
+        <translation>&amp;New release:</translation>
+    </message>
+    <message>
+        <source>&amp;Zeilen gleich zuordnen</source>
+        <translation>Assign the &amp;lines at once</translation>
+    </message>
+    <message>
+        <source>An&amp;legen</source>
+        <translation>&amp;Make</translation>
+    </message>
+    <message>
+        <source>Beim Speichern kommt der neue Stand dazu; ein Stand mit demselben Datum wird ersetzt, mit allem, was darin bestätigt ist.</source>
+        <translation>Saving adds the new release; a release of the same date is replaced, with all that is confirmed in it.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis %1 gibt es nicht.</source>
+        <translation>There is no directory %1.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des alten Katalogstands fehlt.</source>
+        <translation>The directory of the old release is missing.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des neuen Katalogstands fehlt.</source>
+        <translation>The directory of the new release is missing.</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei braucht einen Namen.</source>
+        <translation>The mapping file needs a name.</translation>
+    </message>
+    <message>
+        <source>Jeder Stand braucht ein Verzeichnis mit dem Katalog.</source>
+        <translation>Each release needs a directory with the catalog.</translation>
+    </message>
+    <message>
+        <source>Katalog darin:</source>
+        <translation>Catalog in it:</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei wählen</source>
+        <translation>Choose mapping file</translation>
+    </message>
+    <message>
+        <source>Neues Mapping</source>
+        <translation>New mapping</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des alten Katalogstands</source>
+        <translation>Directory of the old release</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des neuen Katalogstands</source>
+        <translation>Directory of the new release</translation>
+    </message>
+</context>
+<context>
+    <name>PluginActions</name>
+    <message>
+        <source>Bitte eine ERP-Nummer vergeben.
+
+Projekt: %1
+Zeile: %2
+</source>
+        <translation>Please assign an ERP number.
+
+Project: %1
+Line: %2
+</translation>
+    </message>
+    <message>
+        <source>ERP-Nummer für %1, Zeile %2</source>
+        <translation>ERP number for %1, line %2</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist kein Projekt gewählt</source>
+        <translation>not available: no project is selected</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Datei geöffnet</source>
+        <translation>not available: no file is open</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Linkdatenbank verbunden</source>
+        <translation>not available: no link database is connected</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Zeile gewählt</source>
+        <translation>not available: no line is selected</translation>
+    </message>
+</context>
+<context>
+    <name>Question</name>
+    <message>
+        <source>&amp;Ja</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>&amp;Nein</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Frage</source>
+        <translation>Question</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>&amp;Gespeicherten Stand öffnen</source>
+        <translation>Open the &amp;saved version</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Recover</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Confirmed</translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
+        <translation>There is work on %1 that was not saved: %2 steps with %3 lines in %4 projects, the last one “%5”. It is by %6.</translation>
+    </message>
+    <message>
+        <source>Gespeichert</source>
+        <translation>Saved</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projects</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>As of</translation>
+    </message>
+    <message>
+        <source>Wiederhergestellt</source>
+        <translation>Recovered</translation>
+    </message>
+    <message>
+        <source>Wiederherstellung</source>
+        <translation>Recovery</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>Zu überprüfen</source>
+        <translation>To check</translation>
+    </message>
+</context>
+<context>
+    <name>SessionOwner</name>
+    <message>
+        <source>(Prozess %1)</source>
+        <translation>(process %1)</translation>
+    </message>
+    <message>
+        <source>an</source>
+        <translation>at</translation>
+    </message>
+</context>
+<context>
+    <name>SessionRecovery</name>
+    <message>
+        <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
+        <translation>The end of the journal %1 cannot be read. The last change may be missing.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <translation>The journal %1 is damaged or does not fit the mapping file. At least %2 later changes are missing; the journal is kept.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source>&amp;Farben:</source>
+        <translation>&amp;Colours:</translation>
+    </message>
+    <message>
+        <source>&amp;Sprache:</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>Beide Richtungen haben dieselbe Taste.</source>
+        <translation>Both directions have the same key.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 ist schon vergeben.</source>
+        <translation>The key %1 is taken already.</translation>
+    </message>
+    <message>
+        <source>Dunkel</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Hell</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>Sch&amp;riftgröße:</source>
+        <translation>&amp;Font size:</translation>
+    </message>
+    <message>
+        <source>Sicherungs&amp;kopie alle:</source>
+        <translation>Safety &amp;copy every:</translation>
+    </message>
+    <message>
+        <source>Taste für die &amp;nächste offene Zeile:</source>
+        <translation>Key for the &amp;next open line:</translation>
+    </message>
+    <message>
+        <source>Taste für die &amp;vorige offene Zeile:</source>
+        <translation>Key for the &amp;previous open line:</translation>
+    </message>
+    <message>
+        <source>Wie der Desktop</source>
+        <translation>As the desktop</translation>
+    </message>
+    <message>
+        <source>nie</source>
+        <translation>never</translation>
+    </message>
+</context>
+<context>
+    <name>StatusArea</name>
+    <message>
+        <source>Alles entschieden</source>
+        <translation>Everything decided</translation>
+    </message>
+    <message>
+        <source>Offen: &lt;a href="next"&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <translation>Open: &lt;a href="next"&gt;%1 lines&lt;/a&gt; in %2 projects</translation>
+    </message>
+    <message>
+        <source>Schreibgeschützt</source>
+        <translation>Read-only</translation>
+    </message>
+    <message>
+        <source>Zeilen, die noch eine Entscheidung brauchen</source>
+        <translation>Lines that still need a decision</translation>
+    </message>
+    <message>
+        <source>rückgängig</source>
+        <translation>undo</translation>
+    </message>
+</context>
+<context>
+    <name>StatusProgress</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
+        <translation>Cancels the running work; what is done stays</translation>
+    </message>
+    <message>
+        <source>Fortschritt</source>
+        <translation>Progress</translation>
+    </message>
+</context>
+<context>
+    <name>StepNotices</name>
+    <message>
+        <source>%1 Zeilen in %2 waren als entfallen bestätigt und sind es nicht mehr: %3</source>
+        <translation>%1 lines in %2 were confirmed as expired and are so no more: %3</translation>
+    </message>
+    <message>
+        <source>Die Änderung in %1 wirkt erst, wenn die Zeilen erneut zugewiesen werden. Dabei bleibt nur erhalten, was bestätigt ist.</source>
+        <translation>The change in %1 takes effect only when the lines are assigned again. Only what is confirmed survives that.</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <translation>A condition of the target project %1 in %2 was dropped.</translation>
+    </message>
+    <message>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <translation>A variable mapping of the target project %1 in %2 was dropped.</translation>
+    </message>
+    <message>
+        <source>In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, "Formel..." wählen oder die Zeile löschen und neu eingeben.</source>
+        <translation>Variables stay ignored in %1: %2. To map one of them again, choose "Formula..." or delete the row and enter it anew.</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 war als entfallen bestätigt und ist es nicht mehr.</source>
+        <translation>Line %1 in %2 was confirmed as expired and is so no more.</translation>
+    </message>
+</context>
+<context>
+    <name>StepSummary</name>
+    <message>
+        <source>%1 Zeilen als entfallen bestätigt</source>
+        <translation>%1 lines confirmed as expired</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen bestätigt</source>
+        <translation>%1 lines confirmed</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen geändert</source>
+        <translation>%1 lines changed</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen zugeordnet</source>
+        <translation>%1 lines assigned</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 Projekten</source>
+        <translation>%1 in %2 projects</translation>
+    </message>
+    <message>
+        <source>1 Zeile als entfallen bestätigt</source>
+        <translation>1 line confirmed as expired</translation>
+    </message>
+    <message>
+        <source>1 Zeile bestätigt</source>
+        <translation>1 line confirmed</translation>
+    </message>
+    <message>
+        <source>1 Zeile geändert</source>
+        <translation>1 line changed</translation>
+    </message>
+    <message>
+        <source>1 Zeile zugeordnet</source>
+        <translation>1 line assigned</translation>
+    </message>
+    <message>
+        <source>Bedingungen geändert</source>
+        <translation>Conditions changed</translation>
+    </message>
+    <message>
+        <source>Konflikt von %1 Zeilen gelöst</source>
+        <translation>Conflicts of %1 lines settled</translation>
+    </message>
+    <message>
+        <source>Konflikt von 1 Zeile gelöst</source>
+        <translation>Conflict of 1 line settled</translation>
+    </message>
+    <message>
+        <source>Projekt entfernt</source>
+        <translation>Project removed</translation>
+    </message>
+    <message>
+        <source>Projekt hinzugefügt</source>
+        <translation>Project added</translation>
+    </message>
+    <message>
+        <source>Reihenfolge der Zielprojekte geändert</source>
+        <translation>Order of the target projects changed</translation>
+    </message>
+    <message>
+        <source>Status geändert</source>
+        <translation>State changed</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung geändert</source>
+        <translation>Variable mapping changed</translation>
+    </message>
+    <message>
+        <source>Versionen geändert</source>
+        <translation>Versions changed</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnung von %1 Zeilen geändert</source>
+        <translation>Value range assignments of %1 lines changed</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnung von 1 Zeile geändert</source>
+        <translation>Value range assignment of 1 line changed</translation>
+    </message>
+    <message>
+        <source>Zielprojekt entfernt</source>
+        <translation>Target project removed</translation>
+    </message>
+    <message>
+        <source>Zielprojekt hinzugefügt</source>
+        <translation>Target project added</translation>
+    </message>
+    <message>
+        <source>Zuordnung von %1 Zeilen aufgehoben</source>
+        <translation>Assignments of %1 lines removed</translation>
+    </message>
+    <message>
+        <source>Zuordnung von 1 Zeile aufgehoben</source>
+        <translation>Assignment of 1 line removed</translation>
+    </message>
+</context>
+<context>
+    <name>TourOverlay</name>
+    <message>
+        <source>&amp;Fertig</source>
+        <translation>&amp;Done</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>&amp;Next</translation>
+    </message>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Back</translation>
+    </message>
+    <message>
+        <source>&amp;Überspringen</source>
+        <translation>&amp;Skip</translation>
+    </message>
+</context>
+<context>
+    <name>ValueRangeCheck</name>
+    <message>
+        <source>%1 (abgebrochen): %2.</source>
+        <translation>%1 (cancelled): %2.</translation>
+    </message>
+    <message>
+        <source>%1 Beanstandungen</source>
+        <translation>%1 findings</translation>
+    </message>
+    <message>
+        <source>%1 Wertebereichszuordnungen geprüft</source>
+        <translation>%1 value range assignments checked</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat kein Zielprojekt. Bitte zuordnen oder den Text leeren.</source>
+        <translation>%1, line %2: the value range assignment names line %3, but the line has no target project. Please assign it or clear the text.</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht gibt. Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, line %2: the value range assignment names line %3, which %4 does not have. Please correct it or resolve it anew.</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form {NAME=WERT} -&gt; Zeilennummer: "%4". Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, line %2: row %3 of the value range assignment is not of the form {NAME=VALUE} -&gt; line number: "%4". Please correct it or resolve it anew.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte prüfen (%3).</source>
+        <translation>%1: the table of the target project %2 cannot be read, its value range assignments are unchecked. Please check the directory of the target projects (%3).</translation>
+    </message>
+    <message>
+        <source>1 Beanstandung</source>
+        <translation>1 finding</translation>
+    </message>
+    <message>
+        <source>1 Wertebereichszuordnung geprüft</source>
+        <translation>1 value range assignment checked</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen werden geprüft</source>
+        <translation>Checking value range assignments</translation>
+    </message>
+    <message>
+        <source>keine Beanstandung</source>
+        <translation>no finding</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Ein Katalog ist neu erschienen, und jede Zeile des alten Stands muss auf eine Zeile des neuen übertragen werden. Das Programm schlägt vor, Sie prüfen und bestätigen.</source>
+        <translation>A catalog was released anew, and every line of the old release has to be carried over to a line of the new one. The program proposes, you check and confirm.</translation>
+    </message>
+    <message>
+        <source>Katalogstände abgleichen</source>
+        <translation>Match catalog releases</translation>
+    </message>
+    <message>
+        <source>Zuletzt geöffnet:</source>
+        <translation>Opened last:</translation>
+    </message>
+</context>
+<context>
+    <name>WorkbenchActions</name>
+    <message>
+        <source>&amp;Aktualisieren</source>
+        <translation>&amp;Refresh</translation>
+    </message>
+    <message>
+        <source>&amp;Beenden</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>&amp;Beispielkatalog öffnen</source>
+        <translation>Open &amp;example catalog</translation>
+    </message>
+    <message>
+        <source>&amp;Einstellungen...</source>
+        <translation>&amp;Settings...</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zu Zeile...</source>
+        <translation>&amp;Go to line...</translation>
+    </message>
+    <message>
+        <source>&amp;Katalogverzeichnisse...</source>
+        <translation>Catalog &amp;directories...</translation>
+    </message>
+    <message>
+        <source>&amp;Neues Mapping...</source>
+        <translation>&amp;New mapping...</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste offene Zeile</source>
+        <translation>&amp;Next open line</translation>
+    </message>
+    <message>
+        <source>&amp;Rundgang</source>
+        <translation>&amp;Tour</translation>
+    </message>
+    <message>
+        <source>&amp;Rückgängig</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige offene Zeile</source>
+        <translation>&amp;Previous open line</translation>
+    </message>
+    <message>
+        <source>&amp;Wertebereichszuordnungen prüfen</source>
+        <translation>Check &amp;value range assignments</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Alle Projekte &amp;zuordnen...</source>
+        <translation>&amp;Assign all projects...</translation>
+    </message>
+    <message>
+        <source>Baut die Anzeige neu auf: Baum, Statistik, Tabellen von der Platte</source>
+        <translation>Makes the display anew: tree, statistics, tables from the disk</translation>
+    </message>
+    <message>
+        <source>Beendet das Programm</source>
+        <translation>Ends the program</translation>
+    </message>
+    <message>
+        <source>Bestätigt die markierten oder alle gezeigten Zeilen in einem Schritt</source>
+        <translation>Confirms the selected lines, or all that are shown, in one step</translation>
+    </message>
+    <message>
+        <source>Die markierten oder alle gezeigten Zeilen sind ausgelaufen: hebt auf und bestätigt in einem Schritt</source>
+        <translation>The selected lines, or all that are shown, have expired: removes and confirms in one step</translation>
+    </message>
+    <message>
+        <source>Führt den zurückgenommenen Schritt wieder aus</source>
+        <translation>Does the step again that was taken back</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten Zeile, die eine Entscheidung braucht, auch im nächsten Projekt</source>
+        <translation>Goes to the next line that needs a decision, in the next project too</translation>
+    </message>
+    <message>
+        <source>Geht zur vorigen Zeile, die eine Entscheidung braucht, auch im vorigen Projekt</source>
+        <translation>Goes to the previous line that needs a decision, in the previous project too</translation>
+    </message>
+    <message>
+        <source>Hebt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt auf</source>
+        <translation>Removes the assignments of the selected lines, or all that are shown, in one step</translation>
+    </message>
+    <message>
+        <source>Legt aus zwei Katalogständen eine neue Mapping-Datei an</source>
+        <translation>Makes a new mapping file from two catalog releases</translation>
+    </message>
+    <message>
+        <source>Nimmt den letzten Schritt zurück</source>
+        <translation>Takes the last step back</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Schließt die Mapping-Datei</source>
+        <translation>Closes the mapping file</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Änderungen in die Mapping-Datei</source>
+        <translation>Writes all changes to the mapping file</translation>
+    </message>
+    <message>
+        <source>Schreibt in eine andere Mapping-Datei</source>
+        <translation>Writes to another mapping file</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;unter...</source>
+        <translation>Save &amp;as...</translation>
+    </message>
+    <message>
+        <source>Sprache, Schrift, Tasten, Sicherung</source>
+        <translation>Language, font, keys, safety copies</translation>
+    </message>
+    <message>
+        <source>Sucht eine Zeile des Projekts nach Nummer oder Bezeichnung</source>
+        <translation>Looks for a line of the project by number or designation</translation>
+    </message>
+    <message>
+        <source>Sucht für alle Zeilen des Katalogs Zuordnungen; Bestätigtes bleibt</source>
+        <translation>Looks for assignments of all lines of the catalog; what is confirmed stays</translation>
+    </message>
+    <message>
+        <source>Vergleicht alle Wertebereichstexte mit den Tabellen der Zielprojekte</source>
+        <translation>Compares all value range texts with the tables of the target projects</translation>
+    </message>
+    <message>
+        <source>Version und Verzeichnisse</source>
+        <translation>Version and directories</translation>
+    </message>
+    <message>
+        <source>Wählt die Verzeichnisse des alten und des neuen Katalogstands</source>
+        <translation>Chooses the directories of the old and the new catalog release</translation>
+    </message>
+    <message>
+        <source>Zeigt in wenigen Schritten, wo was liegt</source>
+        <translation>Shows in a few steps where things are</translation>
+    </message>
+    <message>
+        <source>Zeilen &amp;bestätigen...</source>
+        <translation>&amp;Confirm lines...</translation>
+    </message>
+    <message>
+        <source>Zuordnungen &amp;aufheben...</source>
+        <translation>&amp;Remove assignments...</translation>
+    </message>
+    <message>
+        <source>Zuordnungen aufheben und bestäti&amp;gen...</source>
+        <translation>Remove assignments and con&amp;firm...</translation>
+    </message>
+    <message>
+        <source>Ö&amp;ffnen...</source>
+        <translation>&amp;Open...</translation>
+    </message>
+    <message>
+        <source>Öffnet eine Mapping-Datei</source>
+        <translation>Opens a mapping file</translation>
+    </message>
+    <message>
+        <source>Öffnet eine eigene Mapping-Datei für den mitgelieferten Beispielkatalog</source>
+        <translation>Opens a mapping file of your own for the example catalog that comes with the program</translation>
+    </message>
+    <message>
+        <source>Über &amp;dieses Programm</source>
+        <translation>&amp;About this program</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,81 @@
+#include "ApplicationTheme.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QToolTip>
+
+namespace {
+
+struct Colours
+{
+    QColor window;
+    QColor base;
+    QColor alternate;
+    QColor button;
+    QColor text;
+    QColor disabled;
+    QColor placeholder;
+    QColor highlight;
+    QColor highlightedText;
+    QColor link;
+    QColor toolTip;
+};
+
+const Colours lightColours{0xf3f4f6, 0xffffff, 0xf5f7fa, 0xe9ebee, 0x1b1f24, 0x8b929b,
+                           0x6b727b, 0x2f6fb3, 0xffffff, 0x1a5fa8, 0xfffbe0};
+const Colours darkColours{0x2b2d31, 0x1f2124, 0x26282c, 0x383b40, 0xe6e8eb, 0x858b93,
+                          0x9aa1a9, 0x3d7fc4, 0xffffff, 0x7fb5ee, 0x3a3c30};
+
+QPalette paletteOf(const Colours &colours)
+{
+    QPalette palette(colours.button, colours.window);
+    palette.setColor(QPalette::Base, colours.base);
+    palette.setColor(QPalette::AlternateBase, colours.alternate);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, colours.text);
+        palette.setColor(QPalette::Disabled, role, colours.disabled);
+    }
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, colours.placeholder);
+    palette.setColor(QPalette::Highlight, colours.highlight);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, colours.disabled);
+    palette.setColor(QPalette::HighlightedText, colours.highlightedText);
+    palette.setColor(QPalette::Link, colours.link);
+    palette.setColor(QPalette::LinkVisited, colours.link);
+    palette.setColor(QPalette::ToolTipBase, colours.toolTip);
+    palette.setColor(QPalette::ToolTipText, colours.text);
+    return palette;
+}
+
+} // namespace
+
+void ApplicationTheme::setColours(const QString &theme)
+{
+    if (theme != "light" && theme != "dark")
+        return;
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    const QPalette palette = paletteOf(theme == "dark" ? darkColours : lightColours);
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+}
+
+void ApplicationTheme::setFontPercent(int percent)
+{
+    static const QFont started = QApplication::font();
+    QFont font = started;
+    if (started.pointSizeF() > 0)
+        font.setPointSizeF(started.pointSizeF() * percent / 100);
+    else
+        font.setPixelSize(started.pixelSize() * percent / 100);
+    if (font != QApplication::font())
+        QApplication::setFont(font);
+}
+
+bool ApplicationTheme::isDark()
+{
+    const QPalette palette = QApplication::palette();
+    return palette.color(QPalette::WindowText).lightness() >
+           palette.color(QPalette::Window).lightness();
+}

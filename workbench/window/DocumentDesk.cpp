@@ -1,0 +1,260 @@
+#include "DocumentDesk.h"
+
+#include "CatalogRootsDialog.h"
+#include "FileNames.h"
+#include "Question.h"
+#include "RecoveryDialog.h"
+#include "TargetRoot.h"
+#include "WorkbenchSettings.h"
+
+#include <core/message/PMessage.h>
+
+#include <QFileInfo>
+#include <QInputDialog>
+
+DocumentDesk::DocumentDesk(WorkbenchSettings *settings, QWidget *window)
+    : QObject(window)
+    , m_settings(settings)
+    , m_window(window)
+    , m_document(new MappingDocument(settings->store(), this))
+{
+}
+
+DocumentDesk::~DocumentDesk() = default;
+
+bool DocumentDesk::open(const Wish &wish)
+{
+    if (!mayClose())
+        return false;
+    leave();
+    if (!openDocument(wish))
+        return false;
+    if (!findRoots(wish)) {
+        leave();
+        return false;
+    }
+    setUp();
+    return true;
+}
+
+bool DocumentDesk::openByDialog()
+{
+    const QString file = FileNames::askOpen(m_window, m_settings->recentFiles().value(0));
+    return !file.isEmpty() && open({.file = file});
+}
+
+QString DocumentDesk::chooseRelease(const QString &file) const
+{
+    const QStringList dates = MappingDocument::sourceDates(file);
+    if (dates.size() < 2)
+        return dates.value(0);
+    QInputDialog dialog(m_window);
+    dialog.setObjectName("ReleaseDialog");
+    dialog.setWindowTitle(tr("Katalogstand"));
+    dialog.setLabelText(
+        tr("Die Datei enthält mehrere Katalogstände. Welcher soll geöffnet werden?"));
+    dialog.setComboBoxItems(dates);
+    dialog.setTextValue(dates.last());
+    dialog.setOkButtonText(tr("Öffnen"));
+    dialog.setCancelButtonText(Question::cancelText());
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
+bool DocumentDesk::openDocument(const Wish &wish)
+{
+    MappingDocument::OpenRequest request;
+    request.mappingFile = QFileInfo(wish.file).absoluteFilePath();
+    request.sourceDate = wish.release;
+    if (wish.readOnly)
+        request.access = MappingDocument::Access::ReadOnly;
+    if (!wish.mayAsk)
+        request.recovery = MappingDocument::Recovery::UseSaved;
+    if (wish.mayAsk && wish.release.isEmpty()) {
+        request.sourceDate = chooseRelease(request.mappingFile);
+        if (request.sourceDate.isEmpty() &&
+            MappingDocument::sourceDates(request.mappingFile).size() > 1)
+            return false;
+    }
+    switch (m_document->open(request)) {
+    case MappingDocument::OpenResult::Opened:
+        return true;
+    case MappingDocument::OpenResult::OpenedReadOnly:
+        if (wish.mayAsk && m_document->readOnlyReason() != MappingDocument::ReadOnlyReason::Wanted)
+            Question::tell(m_window, tr("Die Datei ist nur zum Lesen geöffnet."),
+                           m_document->readOnlyText());
+        return true;
+    case MappingDocument::OpenResult::RecoveryPending:
+        return recover(request);
+    case MappingDocument::OpenResult::NoRelease:
+    case MappingDocument::OpenResult::Unreadable:
+        break;
+    }
+    PMessage::Show(m_document->errorText(), PMsgDlgMode::Error);
+    if (wish.mayAsk) {
+        m_settings->removeRecentFile(request.mappingFile);
+        Question::tell(m_window, tr("Die Datei kann nicht geöffnet werden."),
+                       m_document->errorText());
+    }
+    return false;
+}
+
+bool DocumentDesk::recover(MappingDocument::OpenRequest request)
+{
+    RecoveryDialog dialog(request.mappingFile, m_document->recoveryOffer(), m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    request.recovery = dialog.recovers() ? MappingDocument::Recovery::UseRecovered
+                                         : MappingDocument::Recovery::UseSaved;
+    const auto result = m_document->open(request);
+    if (result == MappingDocument::OpenResult::Opened ||
+        result == MappingDocument::OpenResult::OpenedReadOnly)
+        return true;
+    Question::tell(m_window, tr("Die Datei kann nicht geöffnet werden."), m_document->errorText());
+    return false;
+}
+
+bool DocumentDesk::showsProject(const CatalogRoots &roots) const
+{
+    if (!QFileInfo(roots.target).isDir() || !QFileInfo(roots.source).isDir())
+        return false;
+    const ReleaseMappingC release = m_document->release();
+    return release.countMappings() == 0 ||
+           QFileInfo::exists(roots.source + '/' + release.mappingAt(0).getSourcePath());
+}
+
+bool DocumentDesk::findRoots(const Wish &wish)
+{
+    CatalogRoots roots = m_document->catalogRoots();
+    if (!wish.roots.source.isEmpty())
+        roots.source = QFileInfo(wish.roots.source).absoluteFilePath();
+    if (!wish.roots.target.isEmpty())
+        roots.target = QFileInfo(wish.roots.target).absoluteFilePath();
+    if (showsProject(roots)) {
+        m_document->setCatalogRoots(roots);
+        return true;
+    }
+    if (!wish.mayAsk) {
+        PMessage::Show(
+            tr("Die Kataloge sind nicht bekannt; sie werden mit --source und --target angegeben."),
+            PMsgDlgMode::Error);
+        return false;
+    }
+    CatalogRootsDialog dialog(m_document->release(), roots, m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    m_document->setCatalogRoots(dialog.roots());
+    return true;
+}
+
+bool DocumentDesk::changeRoots()
+{
+    CatalogRootsDialog dialog(m_document->release(), m_document->catalogRoots(), m_window);
+    if (dialog.exec() != QDialog::Accepted || dialog.roots() == m_document->catalogRoots())
+        return false;
+    m_document->setCatalogRoots(dialog.roots());
+    setUp();
+    return true;
+}
+
+void DocumentDesk::setUp()
+{
+    m_root.reset();
+    m_root = std::make_unique<TargetRoot>(m_document->catalogRoots().target);
+    m_settings->addRecentFile(m_document->mappingFile());
+    m_document->setAutosaveInterval(m_settings->values().autosaveMinutes * 60);
+    Q_EMIT ready();
+}
+
+void DocumentDesk::leave()
+{
+    if (!m_document->isOpen())
+        return;
+    Q_EMIT aboutToClose();
+    m_document->close();
+    m_root.reset();
+}
+
+bool DocumentDesk::close()
+{
+    if (!mayClose())
+        return false;
+    leave();
+    return true;
+}
+
+bool DocumentDesk::mayClose()
+{
+    if (!m_document->isOpen() || !m_document->isModified())
+        return true;
+    Question question(m_window);
+    question.setText(
+        tr("Änderungen an %1 speichern?").arg(QFileInfo(m_document->mappingFile()).fileName()));
+    question.setDetails(tr("Verworfene Änderungen sind verloren."));
+    question.addAnswer(Question::Accept, tr("&Speichern"));
+    question.addAnswer(Question::Refuse, tr("&Verwerfen"));
+    question.addAnswer(Question::Cancel, Question::cancelText());
+    switch (question.ask()) {
+    case Question::Accept:
+        return save();
+    case Question::Refuse:
+        return true;
+    case Question::Cancel:
+        break;
+    }
+    return false;
+}
+
+bool DocumentDesk::save()
+{
+    return m_document->isOpen() && finish(write(QString(), {}), {}, QString());
+}
+
+bool DocumentDesk::saveAs()
+{
+    if (!m_document->isOpen())
+        return false;
+    const QString file = FileNames::askSave(m_window, m_document->mappingFile());
+    if (file.isEmpty() || !finish(write(file, {}), {}, file))
+        return false;
+    m_settings->addRecentFile(m_document->mappingFile());
+    return true;
+}
+
+SaveOutcome DocumentDesk::write(const QString &file, const SaveOptions &options)
+{
+    return file.isEmpty() ? m_document->save(options) : m_document->saveAs(file, options);
+}
+
+bool DocumentDesk::finish(const SaveOutcome &outcome, const SaveOptions &options,
+                          const QString &file)
+{
+    switch (outcome.result) {
+    case SaveResult::Saved:
+        Q_EMIT noted(tr("Gespeichert: %1").arg(m_document->mappingFile()));
+        return true;
+    case SaveResult::ForeignChange:
+    case SaveResult::Unreadable:
+        return askOver(outcome, options, file);
+    default:
+        break;
+    }
+    PMessage::Show(outcome.text, PMsgDlgMode::Error);
+    Question::tell(m_window, tr("Die Datei wurde nicht gespeichert."), outcome.text);
+    return false;
+}
+
+bool DocumentDesk::askOver(const SaveOutcome &outcome, SaveOptions options, const QString &file)
+{
+    Question question(m_window);
+    question.setWarning();
+    question.setText(outcome.text);
+    question.addAnswer(Question::Cancel, Question::cancelText());
+    question.addAnswer(Question::Accept, outcome.result == SaveResult::Unreadable
+                                             ? tr("Kopie behalten und &neu schreiben")
+                                             : tr("&Eigenen Stand schreiben"));
+    if (question.ask() != Question::Accept)
+        return false;
+    (outcome.result == SaveResult::Unreadable ? options.overUnreadable
+                                              : options.overForeignChange) = true;
+    return finish(write(file, options), options, file);
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <geomcore/table/ContentRef.h>
+#include <workbench/session/SessionTypes.h>
+
+#include <QModelIndex>
+#include <QPointer>
+#include <QWidget>
+
+class CatalogMappingWidget;
+class MappingDocument;
+class VkTableView;
+
+QT_BEGIN_NAMESPACE
+class QTreeView;
+class QVBoxLayout;
+QT_END_NAMESPACE
+
+/// Holds the mapping editor of the open document and makes it anew when the document wants it.
+/// Knows where in it the user is: project and line.
+class EditorArea : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EditorArea(QWidget *parent);
+    ~EditorArea() override;
+
+    /// Makes the editor of a document, which must outlive it or close it. \a sourceRoot holds the
+    /// old release's catalog.
+    void open(MappingDocument *document, const QString &sourceRoot);
+    void close();
+    /// Makes it anew with everything read anew, and goes to where the user was.
+    void rebuild();
+    [[nodiscard]] bool isOpen() const { return m_editor != nullptr; }
+
+    /// Source path of the selected project; empty if there is none.
+    [[nodiscard]] QString currentPath() const;
+    [[nodiscard]] ProjectId currentProject() const;
+    /// Selects a project in the tree and opens the directories on the way. A filter that hides it
+    /// is taken away. False if the tree does not have it.
+    bool selectProject(const QString &sourcePath);
+    /// Opens the project once more, with the same line selected, if it is the selected one.
+    void reselect(const ProjectId &project);
+
+    /// Source line ids in display order.
+    [[nodiscard]] QList<int> selectedLines() const;
+    /// -1 if none or several are selected.
+    [[nodiscard]] int currentLine() const;
+    /// A filter that hides the line is taken away. False if the table does not have it.
+    bool selectLine(int line);
+    /// False if it could not be selected.
+    bool goTo(const LineRef &ref);
+    /// Not valid if no project is open or it cannot be read.
+    [[nodiscard]] VKTab::ContentRef sourceTable() const;
+
+    /// Null if there is no editor or it has none yet.
+    [[nodiscard]] VkTableView *sourceView() const;
+    [[nodiscard]] QTreeView *treeView() const;
+    [[nodiscard]] CatalogMappingWidget *editor() const { return m_editor; }
+
+    [[nodiscard]] QByteArray saveState() const;
+    /// Of an editor that is open or will be.
+    void restoreState(const QByteArray &state);
+
+Q_SIGNALS:
+    /// The editor was made, anew perhaps.
+    void editorMade();
+    /// The selection in the tree changed.
+    void projectSelected(const QString &sourcePath);
+    /// The host's part view should show a target project.
+    void targetProjectWanted(const QString &targetPath);
+
+private:
+    void make();
+    void applyState();
+    [[nodiscard]] QModelIndex indexOf(const QString &sourcePath) const;
+
+    QVBoxLayout *const m_layout;
+    QPointer<MappingDocument> m_document;
+    QString m_sourceRoot;
+    CatalogMappingWidget *m_editor = nullptr;
+    QByteArray m_state;
+};

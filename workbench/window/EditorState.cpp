@@ -1,0 +1,50 @@
+#include "EditorState.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <QMap>
+#include <QSplitter>
+
+QByteArray EditorState::save(const QWidget &editor)
+{
+    QMap<QString, QByteArray> states;
+    const auto splitters = editor.findChildren<QSplitter *>();
+    for (const QSplitter *splitter : splitters) {
+        if (!splitter->objectName().isEmpty())
+            states.insert(splitter->objectName(), splitter->saveState());
+    }
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_6_4);
+    stream << states;
+    return state;
+}
+
+bool EditorState::restore(QWidget &editor, const QByteArray &state)
+{
+    QMap<QString, QByteArray> states;
+    QDataStream stream(state);
+    stream.setVersion(QDataStream::Qt_6_4);
+    stream >> states;
+    if (stream.status() != QDataStream::Ok || states.isEmpty())
+        return false;
+    const auto splitters = editor.findChildren<QSplitter *>();
+    for (QSplitter *splitter : splitters)
+        splitter->restoreState(states.value(splitter->objectName()));
+    return true;
+}
+
+void EditorState::setStandard(QWidget &editor)
+{
+    // Sizes of splitters are shares of the room that there is.
+    const auto divide = [&editor](const char *name, const QList<int> &shares) {
+        if (auto *splitter = editor.findChild<QSplitter *>(QLatin1String(name))) {
+            splitter->setSizes(shares);
+            for (int i = 0; i < shares.size(); ++i)
+                splitter->setStretchFactor(i, i + 1 == shares.size() ? 1 : 0);
+        }
+    };
+    divide("catalogSplitter", {300, 1100});
+    divide("conflictSplitter", {60, 740});
+    divide("editorSplitter", {190, 550});
+}

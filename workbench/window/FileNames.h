@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+/// Asks for names of mapping files and directories. Empty if the user gives none.
+class FileNames
+{
+    Q_DECLARE_TR_FUNCTIONS(FileNames)
+
+public:
+    /// Beside \a former.
+    [[nodiscard]] static QString askOpen(QWidget *parent, const QString &former);
+    /// With the ending ".json" if none is given; an existing file is to be confirmed.
+    [[nodiscard]] static QString askSave(QWidget *parent, const QString &former);
+    [[nodiscard]] static QString askDirectory(QWidget *parent, const QString &title,
+                                              const QString &former);
+};

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <workbench/session/BulkOperation.h>
+#include <workbench/session/OpenLines.h>
+
+#include <QObject>
+
+class EditorArea;
+class MappingDocument;
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+/// Commands on lines of the open document: going from one open line to the next, jumping to a line,
+/// and work on many at once.
+class LineCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    LineCommands(MappingDocument *document, EditorArea *editor, QWidget *window);
+    ~LineCommands() override;
+
+    [[nodiscard]] const OpenLines &openLines() const { return m_open; }
+
+    void goNext();
+    void goPrevious();
+    /// Asks for number or designation.
+    void jumpByDialog();
+    /// Lines of the selected project that a text names: the first one is selected, or the next one
+    /// behind the selected line. False if there is none.
+    bool jumpTo(const QString &text);
+    /// On the selected lines if there are several, else on all that the table shows; asks with the
+    /// number of lines first.
+    void runOnMany(BulkOperation::Action action);
+
+Q_SIGNALS:
+    void noted(const QString &text);
+    void openCountChanged();
+
+private:
+    void go(bool forward);
+    [[nodiscard]] LineRef here() const;
+
+    MappingDocument *const m_document;
+    EditorArea *const m_editor;
+    QWidget *const m_window;
+    OpenLines m_open;
+    QString m_lastText; ///< of the last jump
+};

@@ -1,0 +1,236 @@
+#include "MainWindow.h"
+
+#include "ApplicationTheme.h"
+#include "DocumentDesk.h"
+#include "EditorArea.h"
+#include "LineCommands.h"
+#include "LogWindow.h"
+#include "PluginActions.h"
+#include "Question.h"
+#include "StatusArea.h"
+#include "StatusProgress.h"
+#include "WelcomePage.h"
+#include "WindowMessageSink.h"
+#include "WorkbenchActions.h"
+#include "WorkbenchSettings.h"
+
+#include <core/plugin/PTranslateManager.h>
+#include <gui/application/PApplication.h>
+#include <gui/progress/DefaultObserverDelegate.h>
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QToolBar>
+
+MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
+    : m_settings(settings)
+    , m_actions(new WorkbenchActions(this))
+    , m_log(new LogWindow(this))
+    , m_status(new StatusArea(this))
+    , m_editor(new EditorArea(this))
+    , m_desk(new DocumentDesk(settings, this))
+    , m_lines(new LineCommands(m_desk->document(), m_editor, this))
+    , m_pages(new QStackedWidget(this))
+    , m_language(settings->values().language)
+    , m_messages(
+          std::make_unique<PMessageSinkScope>(std::make_shared<WindowMessageSink>(this, m_log)))
+{
+    setObjectName("MainWindow");
+    DefaultObserverDelegate::setDisplay(
+        std::make_shared<StatusProgressDisplay>(m_status->progress()));
+    addDockWidget(Qt::BottomDockWidgetArea, m_log);
+    m_log->hide();
+    setStatusBar(m_status);
+    m_welcome = new WelcomePage({m_actions->action(WorkbenchActions::OpenFile),
+                                 m_actions->action(WorkbenchActions::NewMapping),
+                                 m_actions->action(WorkbenchActions::OpenExample)},
+                                m_pages);
+    m_pages->addWidget(m_welcome);
+    m_pages->addWidget(m_editor);
+    setCentralWidget(m_pages);
+    buildMenus();
+    buildToolBars();
+    auto *pluginBar = addToolBar(QString());
+    pluginBar->setObjectName("pluginToolBar");
+    m_pluginActions = new PluginActions(plugin, m_editor, pluginBar, this);
+    connectCommands();
+    connectParts();
+    connectDocument();
+    applySettings();
+    retranslate();
+    updateState();
+    resize(1400, 900);
+    PApplication::setupWindow(this);
+    restoreState(m_settings->state("window"));
+    m_editor->restoreState(m_settings->state("editor"));
+}
+
+MainWindow::~MainWindow()
+{
+    DefaultObserverDelegate::setDisplay(nullptr);
+    // The editor's handler speaks to the document, and both to the log window.
+    delete m_editor;
+    delete m_lines;
+    delete m_desk;
+}
+
+void MainWindow::connectParts()
+{
+    connect(m_settings, &WorkbenchSettings::valuesChanged, this, &MainWindow::applySettings);
+    connect(m_settings, &WorkbenchSettings::recentFilesChanged, this,
+            &MainWindow::updateRecentFiles);
+    connect(m_welcome, &WelcomePage::fileChosen, this,
+            [this](const QString &file) { m_desk->open({.file = file}); });
+    connect(m_desk, &DocumentDesk::ready, this, &MainWindow::onDocumentReady);
+    connect(m_desk, &DocumentDesk::aboutToClose, this, &MainWindow::onDocumentClosing);
+    const auto note = [this](const QString &text) {
+        m_status->showNote(text);
+    };
+    connect(m_desk, &DocumentDesk::noted, this, note);
+    connect(m_lines, &LineCommands::noted, this, note);
+    connect(m_lines, &LineCommands::openCountChanged, this, &MainWindow::updateCounter);
+    connect(m_status, &StatusArea::nextOpenRequested, m_lines, &LineCommands::goNext);
+    connect(m_status, &StatusArea::undoRequested, m_desk->document(), &MappingDocument::undo);
+    connect(m_editor, &EditorArea::targetProjectWanted, this, &MainWindow::showTargetProject);
+    updateRecentFiles();
+}
+
+void MainWindow::connectDocument()
+{
+    MappingDocument *const document = m_desk->document();
+    connect(document, &MappingDocument::closed, this, &MainWindow::onDocumentClosed);
+    connect(document, &MappingDocument::modifiedChanged, this, &MainWindow::updateTitle);
+    connect(document, &MappingDocument::undoChanged, this, &MainWindow::updateUndo);
+    connect(document, &MappingDocument::countsChanged, this, &MainWindow::updateCounter);
+    connect(document, &MappingDocument::stepDone, this, &MainWindow::onStepDone);
+    connect(document, &MappingDocument::noticeRaised, this, [this](const ChangeNotice &notice) {
+        m_log->addMessage(LogWindow::Severity::Information, notice.text);
+        m_status->showNote(notice.text, m_desk->document()->canUndo());
+    });
+    connect(document, &MappingDocument::reselectRequested, m_editor, &EditorArea::reselect);
+    connect(document, &MappingDocument::releaseReplaced, m_editor, &EditorArea::rebuild);
+    connect(document, &MappingDocument::problemOccurred, this,
+            [this](const QString &text) { m_log->addMessage(LogWindow::Severity::Error, text); });
+}
+
+void MainWindow::onDocumentReady()
+{
+    MappingDocument *const document = m_desk->document();
+    m_editor->open(document, document->catalogRoots().source);
+    m_pages->setCurrentWidget(m_editor);
+    updateState();
+    const WorkbenchSettings::Place place = m_settings->place(document->mappingFile());
+    if (m_editor->selectProject(place.project) && place.line >= 0)
+        m_editor->selectLine(place.line);
+    m_status->showNote(document->isReadOnly() ? document->readOnlyText() : QString());
+    m_settings->setSessionFile(document->mappingFile());
+}
+
+void MainWindow::rememberPlace()
+{
+    const MappingDocument *const document = m_desk->document();
+    if (!document->isOpen())
+        return;
+    m_settings->setPlace(
+        document->mappingFile(),
+        {document->release().getSourceDate(), m_editor->currentPath(), m_editor->currentLine()});
+    m_settings->setState("editor", m_editor->saveState());
+}
+
+void MainWindow::onDocumentClosing()
+{
+    rememberPlace();
+    m_editor->close();
+}
+
+void MainWindow::onDocumentClosed()
+{
+    m_editor->close();
+    m_pages->setCurrentWidget(m_welcome);
+    m_status->showNote(QString());
+    updateState();
+}
+
+void MainWindow::onStepDone(const QString &text, int)
+{
+    m_status->showNote(text, m_desk->document()->canUndo());
+}
+
+void MainWindow::updateState()
+{
+    const MappingDocument *const document = m_desk->document();
+    m_actions->setDocumentOpen(document->isOpen(), document->isReadOnly());
+    m_status->setReadOnly(document->isOpen() ? document->readOnlyText() : QString());
+    m_pluginActions->update();
+    updateTitle();
+    updateCounter();
+    updateUndo();
+}
+
+void MainWindow::updateTitle()
+{
+    const MappingDocument *const document = m_desk->document();
+    setWindowModified(document->isOpen() && document->isModified());
+    if (!document->isOpen())
+        return setWindowTitle(QStringLiteral("Velkworkbench"));
+    QString title = QFileInfo(document->mappingFile()).fileName() + QStringLiteral("[*] – ") +
+                    document->rootName();
+    if (document->isReadOnly())
+        title += QStringLiteral(" (") + tr("schreibgeschützt") + ')';
+    setWindowTitle(title);
+}
+
+void MainWindow::updateCounter()
+{
+    const OpenLines &open = m_lines->openLines();
+    if (m_desk->document()->isOpen())
+        m_status->setOpenLines(open.count(), open.projectCount());
+    else
+        m_status->setOpenLines(-1, 0);
+}
+
+void MainWindow::updateUndo()
+{
+    const MappingDocument *const document = m_desk->document();
+    m_actions->setUndoTexts(document->canUndo() ? document->undoText() : QString(),
+                            document->canRedo() ? document->redoText() : QString());
+    if (!document->canUndo())
+        m_status->dropUndo();
+}
+
+void MainWindow::applySettings()
+{
+    const WorkbenchSettings::Values &values = m_settings->values();
+    m_actions->setKeys(values.nextLine, values.previousLine);
+    ApplicationTheme::setColours(values.theme);
+    ApplicationTheme::setFontPercent(values.fontPercent);
+    m_desk->document()->setAutosaveInterval(values.autosaveMinutes * 60);
+    if (values.language == m_language)
+        return;
+    m_language = values.language;
+    PTranslateManager::instance().setLanguage(m_language);
+    // The editor's widgets take their texts when they are made.
+    m_editor->rebuild();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && m_pluginActions)
+        retranslate();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    const QString open = m_desk->document()->mappingFile();
+    if (!m_desk->close()) {
+        event->ignore();
+        return;
+    }
+    m_settings->setSessionFile(open);
+    m_settings->setState("window", saveState());
+    PApplication::saveWindow(this);
+    event->accept();
+}

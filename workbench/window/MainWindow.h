@@ -1,0 +1,91 @@
+#pragma once
+
+#include <workbench/session/SessionTypes.h>
+
+#include <QMainWindow>
+
+#include <memory>
+
+class DocumentDesk;
+class EditorArea;
+class LineCommands;
+class LogWindow;
+class PLinkDbGuiI;
+class PluginActions;
+class PMessageSinkScope;
+class StatusArea;
+class WelcomePage;
+class WorkbenchActions;
+class WorkbenchSettings;
+
+QT_BEGIN_NAMESPACE
+class QMenu;
+class QStackedWidget;
+QT_END_NAMESPACE
+
+/// The workbench's window: puts its parts together and wires them. From its making on messages go
+/// to its log window and progress to its status bar, until it is gone.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Neither is owned; \a plugin may be null.
+    MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin);
+    ~MainWindow() override;
+
+    [[nodiscard]] DocumentDesk *desk() const { return m_desk; }
+    [[nodiscard]] EditorArea *editor() const { return m_editor; }
+    [[nodiscard]] LineCommands *lines() const { return m_lines; }
+    [[nodiscard]] LogWindow *log() const { return m_log; }
+    [[nodiscard]] StatusArea *status() const { return m_status; }
+    [[nodiscard]] WorkbenchActions *commands() const { return m_actions; }
+
+    /// Opens what was open last, or the example with the tour at the very first start.
+    void restoreSession();
+    void startTour();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void buildMenus();
+    void buildToolBars();
+    void connectCommands();
+    void connectParts();
+    void connectDocument();
+    void retranslate();
+
+    void onDocumentReady();
+    void onDocumentClosing();
+    void onDocumentClosed();
+    void onStepDone(const QString &text, int lines);
+    void updateState();
+    void updateTitle();
+    void updateCounter();
+    void updateUndo();
+    void updateRecentFiles();
+    void applySettings();
+    void editSettings();
+    void assignAll();
+    void checkValueRanges();
+    void showTargetProject(const QString &targetPath);
+    void showAbout();
+    void rememberPlace();
+
+    WorkbenchSettings *const m_settings;
+    WorkbenchActions *const m_actions;
+    LogWindow *const m_log;
+    StatusArea *const m_status;
+    EditorArea *const m_editor;
+    DocumentDesk *const m_desk;
+    LineCommands *const m_lines;
+    QStackedWidget *const m_pages;
+    WelcomePage *m_welcome = nullptr;
+    PluginActions *m_pluginActions = nullptr;
+    QMenu *m_recentMenu = nullptr;
+    QString m_language;
+    QString m_lastNotice;
+    std::unique_ptr<PMessageSinkScope> m_messages;
+};

@@ -1,0 +1,143 @@
+#include "MainWindow.h"
+
+#include "DocumentDesk.h"
+#include "EditorArea.h"
+#include "LogWindow.h"
+#include "MappingMaker.h"
+#include "Question.h"
+#include "SettingsDialog.h"
+#include "StatusArea.h"
+#include "TourOverlay.h"
+#include "WorkbenchActions.h"
+#include "WorkbenchSettings.h"
+
+#include <core/message/PMessage.h>
+#include <core/text/PPathName.h>
+#include <core/Version.h>
+#include <gui/progress/DefaultObserverDelegate.h>
+#include <mapping/view/CatalogMappingWidget.h>
+#include <workbench/session/ValueRangeCheck.h>
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QUrl>
+
+void MainWindow::restoreSession()
+{
+    const QString last = m_settings->sessionFile();
+    if (!last.isEmpty() && QFileInfo::exists(last)) {
+        m_desk->open({.file = last, .release = m_settings->place(last).sourceDate});
+        return;
+    }
+    if (m_settings->flag("started"))
+        return;
+    m_settings->setFlag("started", true);
+    if (m_desk->openExample())
+        startTour();
+}
+
+void MainWindow::startTour()
+{
+    if (findChild<TourOverlay *>("TourOverlay"))
+        return;
+    const auto part = [this](const char *name) {
+        return m_editor->isOpen() ? m_editor->editor()->findChild<QWidget *>(QLatin1String(name))
+                                  : nullptr;
+    };
+    const QString next = m_settings->values().nextLine.toString(QKeySequence::NativeText);
+    new TourOverlay(
+        {
+            {part("treeView"), tr("Der Katalog"),
+             tr("Links steht der alte Katalogstand. Die Bilder zeigen, wo noch etwas zu "
+                "entscheiden "
+                "ist. Wählen Sie ein Projekt, um seine Zeilen zu sehen.")},
+            {part("projectWidget"), tr("Die Ziele"),
+             tr("Hier stehen die Projekte des neuen Stands, die Zeilen übernehmen können, mit "
+                "Bedingungen und Variablenzuordnungen.")},
+            {part("tableWidget"), tr("Die Zeilen"),
+             tr("Links die alte Tabelle, rechts die neue. V bestätigt die Zuordnung oder ordnet "
+                "die "
+                "rechts gewählte Zeile zu, X hebt auf, Strg+X bestätigt, dass die Zeile "
+                "ausgelaufen ist.")},
+            {m_status, tr("Was noch offen ist"),
+             tr("Der Zähler sagt, wie viele Zeilen eine Entscheidung brauchen. %1 geht zur "
+                "nächsten, auch im nächsten Projekt.")
+                 .arg(next)},
+            {nullptr, tr("Nichts geht verloren"),
+             tr("Jeder Schritt kann zurückgenommen werden. Was nicht gespeichert ist, bietet das "
+                "Programm nach einem Absturz zur Wiederherstellung an. Der Rundgang steht im Menü "
+                "Hilfe.")},
+        },
+        this);
+}
+
+void MainWindow::editSettings()
+{
+    QList<QKeySequence> taken;
+    const auto actions = m_actions->findChildren<QAction *>(Qt::FindDirectChildrenOnly);
+    for (const QAction *action : actions) {
+        if (action != m_actions->action(WorkbenchActions::NextOpen) &&
+            action != m_actions->action(WorkbenchActions::PreviousOpen))
+            taken += action->shortcuts();
+    }
+    // Of the editor's buttons and tables.
+    for (const char *key : {"V", "X", "Ctrl+X", "F3", "Shift+F3", "Ctrl+C", "Ctrl+F",
+                            "Ctrl+Shift+F", "Ctrl++", "Ctrl+-", "Ctrl+0"})
+        taken << QKeySequence(QLatin1String(key));
+    SettingsDialog dialog(m_settings->values(), taken, this);
+    if (dialog.exec() == QDialog::Accepted)
+        m_settings->setValues(dialog.values());
+}
+
+void MainWindow::assignAll()
+{
+    Question question(this);
+    question.setText(tr("Zeilen des ganzen Katalogs zuordnen?"));
+    question.setDetails(tr("Bestätigtes bleibt in jedem Fall. Der Schritt kann zurückgenommen "
+                           "werden."));
+    question.addAnswer(Question::Accept, tr("Nur &Zeilen ohne Zuordnung"));
+    question.addAnswer(Question::Refuse, tr("Alles &Unbestätigte neu"));
+    question.addAnswer(Question::Cancel, Question::cancelText());
+    const Question::Answer answer = question.ask();
+    if (answer == Question::Cancel)
+        return;
+    MappingDocument *const document = m_desk->document();
+    const CatalogRoots roots = document->catalogRoots();
+    MappingMaker maker;
+    maker.assign(document->release(), roots.source, roots.target, answer == Question::Refuse);
+    document->replaceRelease(maker.release(), tr("Alle Projekte zugeordnet"));
+    m_status->showNote(maker.summary(), document->canUndo());
+}
+
+void MainWindow::checkValueRanges()
+{
+    DefaultObserverDelegate display;
+    display.activate(PProgressObserverBase::Thread);
+    const MappingDocument *const document = m_desk->document();
+    const ValueRangeCheck::Result result =
+        ValueRangeCheck::run(document->release(), document->catalogRoots().target);
+    display.deactivate();
+    for (const ValueRangeCheck::Finding &finding : result.findings)
+        m_log->addMessage(LogWindow::Severity::Warning, finding.text);
+    m_status->showNote(result.summary());
+}
+
+void MainWindow::showTargetProject(const QString &targetPath)
+{
+    const PPathName path(CatalogMappingWidget::buildTargetPath(true, targetPath));
+    if (!path.exists(false)) {
+        PMessage::Show(tr("Das Zielprojekt %1 gibt es nicht.").arg(targetPath),
+                       PMsgDlgMode::Warning);
+        return;
+    }
+    // Nothing here shows parts yet; the folder holds the project with its table.
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path.native()).path()));
+    m_status->showNote(tr("Zielprojekt: %1").arg(QString(path.native())));
+}
+
+void MainWindow::showAbout()
+{
+    Question::tell(this, QStringLiteral("Velkworkbench ") + velkVersion(),
+                   tr("Einstellungen: %1").arg(QString(m_settings->store()->fileName())));
+}

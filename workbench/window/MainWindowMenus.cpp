@@ -1,0 +1,156 @@
+#include "MainWindow.h"
+
+#include "DocumentDesk.h"
+#include "EditorArea.h"
+#include "LineCommands.h"
+#include "LogWindow.h"
+#include "PluginActions.h"
+#include "WelcomePage.h"
+#include "WorkbenchActions.h"
+#include "WorkbenchSettings.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace {
+
+using Command = WorkbenchActions::Command;
+
+constexpr Command Separator = WorkbenchActions::CommandCount;
+
+void fill(QMenu *menu, const WorkbenchActions *actions, std::initializer_list<Command> commands)
+{
+    for (const Command command : commands) {
+        if (command == Separator)
+            menu->addSeparator();
+        else
+            menu->addAction(actions->action(command));
+    }
+}
+
+} // namespace
+
+void MainWindow::buildMenus()
+{
+    const auto addMenu = [this](const char *name) {
+        QMenu *const menu = menuBar()->addMenu(QString());
+        menu->setObjectName(name);
+        menu->setToolTipsVisible(true);
+        return menu;
+    };
+    QMenu *const file = addMenu("fileMenu");
+    fill(file, m_actions, {WorkbenchActions::NewMapping, WorkbenchActions::OpenFile});
+    m_recentMenu = file->addMenu(QString());
+    m_recentMenu->setObjectName("recentMenu");
+    fill(file, m_actions,
+         {WorkbenchActions::OpenExample, Separator, WorkbenchActions::Save,
+          WorkbenchActions::SaveAs, WorkbenchActions::CatalogRoots, WorkbenchActions::CloseFile,
+          Separator, WorkbenchActions::Quit});
+    fill(addMenu("editMenu"), m_actions,
+         {WorkbenchActions::Undo, WorkbenchActions::Redo, Separator, WorkbenchActions::ConfirmLines,
+          WorkbenchActions::RemoveLines, WorkbenchActions::RemoveConfirmLines, Separator,
+          WorkbenchActions::AssignAll, WorkbenchActions::CheckValueRanges, Separator,
+          WorkbenchActions::Settings});
+    fill(
+        addMenu("goMenu"), m_actions,
+        {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine});
+    QMenu *const view = addMenu("viewMenu");
+    fill(view, m_actions, {WorkbenchActions::Refresh, Separator});
+    view->addAction(m_log->toggleViewAction());
+    fill(addMenu("helpMenu"), m_actions, {WorkbenchActions::ShowTour, WorkbenchActions::About});
+}
+
+void MainWindow::buildToolBars()
+{
+    QToolBar *const bar = addToolBar(QString());
+    bar->setObjectName("mainToolBar");
+    for (const Command command :
+         {WorkbenchActions::NewMapping, WorkbenchActions::OpenFile, WorkbenchActions::Save,
+          Separator, WorkbenchActions::Undo, WorkbenchActions::Redo, Separator,
+          WorkbenchActions::PreviousOpen, WorkbenchActions::NextOpen, WorkbenchActions::JumpToLine,
+          Separator, WorkbenchActions::ConfirmLines, WorkbenchActions::RemoveLines, Separator,
+          WorkbenchActions::Refresh}) {
+        if (command == Separator)
+            bar->addSeparator();
+        else
+            bar->addAction(m_actions->action(command));
+    }
+}
+
+void MainWindow::connectCommands()
+{
+    const auto connectTo = [this](Command command, auto slot) {
+        connect(m_actions->action(command), &QAction::triggered, this, slot);
+    };
+    const auto onMany = [this](BulkOperation::Action action) {
+        return [this, action] {
+            m_lines->runOnMany(action);
+        };
+    };
+    connectTo(WorkbenchActions::NewMapping, [this] { m_desk->makeByDialog(); });
+    connectTo(WorkbenchActions::OpenFile, [this] { m_desk->openByDialog(); });
+    connectTo(WorkbenchActions::OpenExample, [this] { m_desk->openExample(); });
+    connectTo(WorkbenchActions::Save, [this] { m_desk->save(); });
+    connectTo(WorkbenchActions::SaveAs, [this] { m_desk->saveAs(); });
+    connectTo(WorkbenchActions::CloseFile, [this] { m_desk->close(); });
+    connectTo(WorkbenchActions::CatalogRoots, [this] { m_desk->changeRoots(); });
+    connectTo(WorkbenchActions::Quit, [this] { close(); });
+    connectTo(WorkbenchActions::Undo, [this] { m_desk->document()->undo(); });
+    connectTo(WorkbenchActions::Redo, [this] { m_desk->document()->redo(); });
+    connectTo(WorkbenchActions::ConfirmLines, onMany(BulkOperation::Confirm));
+    connectTo(WorkbenchActions::RemoveLines, onMany(BulkOperation::Remove));
+    connectTo(WorkbenchActions::RemoveConfirmLines, onMany(BulkOperation::RemoveAndConfirm));
+    connectTo(WorkbenchActions::AssignAll, [this] { assignAll(); });
+    connectTo(WorkbenchActions::CheckValueRanges, [this] { checkValueRanges(); });
+    connectTo(WorkbenchActions::Settings, [this] { editSettings(); });
+    connectTo(WorkbenchActions::NextOpen, [this] { m_lines->goNext(); });
+    connectTo(WorkbenchActions::PreviousOpen, [this] { m_lines->goPrevious(); });
+    connectTo(WorkbenchActions::JumpToLine, [this] { m_lines->jumpByDialog(); });
+    connectTo(WorkbenchActions::Refresh, [this] { m_editor->rebuild(); });
+    connectTo(WorkbenchActions::ShowTour, [this] { startTour(); });
+    connectTo(WorkbenchActions::About, [this] { showAbout(); });
+}
+
+void MainWindow::updateRecentFiles()
+{
+    const QStringList files = m_settings->recentFiles();
+    m_recentMenu->clear();
+    m_recentMenu->setEnabled(!files.isEmpty());
+    int number = 0;
+    for (const QString &file : files) {
+        QString shown = file;
+        shown.replace('&', QLatin1String("&&"));
+        QAction *const action = m_recentMenu->addAction(
+            QStringLiteral("&%1  %2").arg(QString::number(++number), shown));
+        connect(action, &QAction::triggered, this, [this, file] { m_desk->open({.file = file}); });
+    }
+    m_recentMenu->addSeparator();
+    connect(m_recentMenu->addAction(tr("Liste &leeren")), &QAction::triggered, m_settings,
+            &WorkbenchSettings::clearRecentFiles);
+    m_welcome->setRecentFiles(files);
+}
+
+void MainWindow::retranslate()
+{
+    m_actions->retranslate();
+    m_pluginActions->retranslate();
+    const auto setTitle = [this](const char *name, const QString &title) {
+        findChild<QMenu *>(QLatin1String(name))->setTitle(title);
+    };
+    setTitle("fileMenu", tr("&Datei"));
+    setTitle("recentMenu", tr("&Zuletzt geöffnet"));
+    setTitle("editMenu", tr("&Bearbeiten"));
+    setTitle("goMenu", tr("&Gehe zu"));
+    setTitle("viewMenu", tr("&Ansicht"));
+    setTitle("helpMenu", tr("&Hilfe"));
+    const auto bars = findChildren<QToolBar *>(Qt::FindDirectChildrenOnly);
+    for (QToolBar *bar : bars) {
+        bar->setWindowTitle(bar->objectName() == "pluginToolBar" ? tr("Linkdatenbank")
+                                                                 : tr("Werkzeuge"));
+    }
+    updateRecentFiles();
+    updateTitle();
+}

@@ -1,0 +1,96 @@
+#include "MappingMaker.h"
+
+#include "TargetRoot.h"
+
+#include <core/message/PMessage.h>
+#include <core/progress/PProgress.h>
+#include <gui/progress/DefaultObserverDelegate.h>
+#include <tools/velkmap/ReleaseAssigner.h>
+#include <tools/velkmap/ReleaseMappingBuilder.h>
+
+#include <atomic>
+
+using velkmap::ReleaseAssigner;
+using Builder = velkmap::ReleaseMappingBuilder;
+
+void MappingMaker::report(const QStringList &messages)
+{
+    for (const QString &message : messages)
+        PMessage::Show(message, PMsgDlgMode::Warning);
+}
+
+bool MappingMaker::make(const Wish &wish)
+{
+    if (!findTargets(wish))
+        return false;
+    if (wish.assign)
+        assignLines(wish.sourceRoot, wish.targetRoot, false);
+    return true;
+}
+
+bool MappingMaker::findTargets(const Wish &wish)
+{
+    Builder::Input input;
+    input.sourceRoot = wish.sourceRoot;
+    input.targetRoot = wish.targetRoot;
+    input.sourceCatalog = wish.sourceCatalog;
+    input.targetCatalog = wish.targetCatalog;
+    input.progressText = tr("Zielprojekte werden gesucht");
+    Builder builder(input);
+    DefaultObserverDelegate display;
+    display.activate(PProgressObserverBase::Thread);
+    const Builder::Outcome outcome = builder.build();
+    display.deactivate();
+    report(builder.messages());
+    if (outcome == Builder::Outcome::Cancelled)
+        m_summary = tr("Abgebrochen, es wurde nichts angelegt");
+    if (outcome == Builder::Outcome::Cancelled || outcome == Builder::Outcome::Unreadable)
+        return false;
+    m_release = builder.release();
+    const Builder::Counts &counts = builder.counts();
+    m_summary = tr("%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 "
+                   "unlesbar")
+                    .arg(QString::number(m_release.countMappings()), QString::number(counts.same),
+                         QString::number(counts.moved), QString::number(counts.several),
+                         QString::number(counts.gone), QString::number(counts.unreadable));
+    PMessage::LogToWindow(m_summary);
+    return true;
+}
+
+void MappingMaker::assign(const ReleaseMappingC &release, const QString &sourceRoot,
+                          const QString &targetRoot, bool force)
+{
+    m_release = release;
+    assignLines(sourceRoot, targetRoot, force);
+}
+
+void MappingMaker::assignLines(const QString &sourceRoot, const QString &targetRoot, bool force)
+{
+    const TargetRoot root(targetRoot);
+    ReleaseAssigner assigner(sourceRoot);
+    assigner.setForce(force);
+    DefaultObserverDelegate display;
+    display.activate(PProgressObserverBase::Thread);
+    PProgress progress(0, m_release.countMappings(), 1, true, false);
+    progress.setText(tr("Zeilen werden zugeordnet"));
+    std::atomic<bool> cancelled{false};
+    ReleaseAssigner::Progress reached;
+    assigner.setObserver([&](const ReleaseAssigner::Progress &now) {
+        while (progress.count() < now.projects)
+            progress.nextStep();
+        reached = now;
+        cancelled = progress.isCanceled();
+    });
+    // Projects that could not be read are marked in the release and told with their messages.
+    static_cast<void>(assigner.run(m_release, cancelled));
+    progress.done();
+    display.deactivate();
+    report(assigner.errors());
+    m_summary = reached.projects < reached.totalProjects
+                    ? tr("Abgebrochen: %1 von %2 Projekten mit %3 Zeilen zugeordnet")
+                    : tr("%1 von %2 Projekten mit %3 Zeilen zugeordnet");
+    m_summary =
+        m_summary.arg(QString::number(reached.projects), QString::number(reached.totalProjects),
+                      QString::number(reached.lines));
+    PMessage::LogToWindow(m_summary);
+}

@@ -1,0 +1,171 @@
+#include "PluginActions.h"
+
+#include "EditorArea.h"
+#include "LegendDialog.h"
+
+#include <core/plugin/PLinkDbGuiI.h>
+#include <core/plugin/PTranslateManager.h>
+#include <core/text/PString.h>
+#include <geomcore/table/Content.h>
+#include <geomcore/table/TabOptions.h>
+#include <geomcoregui/table/VkTableView.h>
+#include <gui/application/PApplicationPool.h>
+#include <mapping/view/CatalogMappingWidget.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QToolBar>
+#include <QUrl>
+#include <QUrlQuery>
+
+namespace {
+
+constexpr const char *context = "VelkLinkDbGui";
+
+/// In the plug-in's order.
+constexpr const char *names[] = {
+    "LinkDbLogin",           "LinkDbChangeGroup", "CallLinkMgr",   "LinkDbBackToMgr",
+    "LinkDbCancelBackToMgr", "LinkDbSendMail",    "LinkDbAddToDb", "LinkDbShowLegend",
+    "LinkDbFilteronoff",     "PreferredRanges",
+};
+
+QAction *actionOf(const char *name)
+{
+    return PApplicationPool::instance().action(QLatin1String(name));
+}
+
+} // namespace
+
+PluginActions::PluginActions(PLinkDbGuiI *plugin, EditorArea *editor, QToolBar *toolBar,
+                             QObject *parent)
+    : QObject(parent)
+    , m_editor(editor)
+{
+    if (plugin)
+        registerActions(plugin);
+    for (const Source &source : std::as_const(m_sources))
+        toolBar->addAction(source.action);
+    connectActions();
+    connect(editor, &EditorArea::editorMade, this, [this] {
+        takeTreeFilter();
+        update();
+    });
+    connect(editor, &EditorArea::projectSelected, this, [this] {
+        applyPreferredRanges();
+        update();
+    });
+    retranslate();
+}
+
+/// Without a language, since the plug-in describes its actions once and the language may change.
+void PluginActions::registerActions(PLinkDbGuiI *plugin)
+{
+    PTranslateManager &translations = PTranslateManager::instance();
+    const QString language = translations.language();
+    translations.setLanguage(QString());
+    plugin->registerActions(PApplicationPool::instance());
+    for (const char *name : names) {
+        if (QAction *const action = actionOf(name))
+            m_sources.append({action, action->text().toUtf8(), action->toolTip().toUtf8()});
+    }
+    translations.setLanguage(language);
+}
+
+void PluginActions::connectActions()
+{
+    const auto connectTo = [this](const char *name, auto slot) {
+        if (QAction *const action = actionOf(name))
+            connect(action, &QAction::triggered, this, slot);
+    };
+    connectTo("LinkDbShowLegend", [this] { LegendDialog(m_editor->window()).exec(); });
+    connectTo("LinkDbFilteronoff", [this](bool on) {
+        if (auto *box = m_editor->findChild<QCheckBox *>("checkToCheck"))
+            box->setChecked(on);
+    });
+    connectTo("PreferredRanges", [this] { applyPreferredRanges(); });
+    connectTo("LinkDbSendMail", [this] { sendMail(); });
+}
+
+void PluginActions::retranslate()
+{
+    for (const Source &source : std::as_const(m_sources))
+        source.action->setText(PString::translate(source.text.constData(), context));
+    update();
+}
+
+void PluginActions::setReason(const Source &source, const QString &reason)
+{
+    QString tip = PString::translate(source.tip.constData(), context);
+    if (!reason.isEmpty())
+        tip += QStringLiteral(" – ") + reason;
+    source.action->setToolTip(tip);
+    source.action->setStatusTip(tip);
+    source.action->setEnabled(reason.isEmpty());
+}
+
+QString PluginActions::reasonAgainst(const QAction *action) const
+{
+    const QString name = action->objectName();
+    if (name == "LinkDbShowLegend")
+        return {};
+    if (name == "LinkDbFilteronoff" || name == "PreferredRanges")
+        return m_editor->isOpen() ? QString() : tr("nicht verfügbar: es ist keine Datei geöffnet");
+    if (name != "LinkDbSendMail")
+        return tr("nicht verfügbar: es ist keine Linkdatenbank verbunden");
+    if (m_editor->currentPath().isEmpty())
+        return tr("nicht verfügbar: es ist kein Projekt gewählt");
+    return m_editor->currentLine() < 0 ? tr("nicht verfügbar: es ist keine Zeile gewählt")
+                                       : QString();
+}
+
+void PluginActions::update()
+{
+    for (const Source &source : std::as_const(m_sources))
+        setReason(source, reasonAgainst(source.action));
+}
+
+/// The tree's own box and the action show the same.
+void PluginActions::takeTreeFilter()
+{
+    QAction *const action = actionOf("LinkDbFilteronoff");
+    auto *box = m_editor->findChild<QCheckBox *>("checkToCheck");
+    if (!action || !box)
+        return;
+    box->setChecked(action->isChecked());
+    connect(box, &QCheckBox::toggled, action, &QAction::setChecked);
+}
+
+void PluginActions::applyPreferredRanges()
+{
+    const QAction *const action = actionOf("PreferredRanges");
+    const QWidget *const editor = m_editor->editor();
+    if (!action || !editor)
+        return;
+    const auto views = editor->findChildren<VkTableView *>();
+    for (const VkTableView *view : views) {
+        VKTab::ContentRef table = view->getTable();
+        if (!table.isValid() || !table.getOptions() ||
+            table.getOptions()->getShowOnlyPrefRanges() == action->isChecked())
+            continue;
+        table.getOptions()->setShowOnlyPrefRanges(action->isChecked());
+        table.invalidate(VKTab::Content::InvalidateValues, true);
+    }
+}
+
+void PluginActions::sendMail()
+{
+    const QString path = m_editor->currentPath();
+    const QString line = QString::number(m_editor->currentLine());
+    QUrlQuery query;
+    query.addQueryItem("subject", QString::fromUtf8(QUrl::toPercentEncoding(
+                                      tr("ERP-Nummer für %1, Zeile %2").arg(path, line))));
+    query.addQueryItem(
+        "body",
+        QString::fromUtf8(QUrl::toPercentEncoding(
+            tr("Bitte eine ERP-Nummer vergeben.\n\nProjekt: %1\nZeile: %2\n").arg(path, line))));
+    QUrl url;
+    url.setScheme("mailto");
+    url.setQuery(query);
+    QDesktopServices::openUrl(url);
+}

@@ -1,0 +1,113 @@
+#include "SettingsDialog.h"
+
+#include "Question.h"
+
+#include <gui/application/PApplication.h>
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QKeySequenceEdit>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
+                               const QList<QKeySequence> &takenKeys, QWidget *parent)
+    : QDialog(parent)
+    , m_takenKeys(takenKeys)
+    , m_language(new QComboBox(this))
+    , m_theme(new QComboBox(this))
+    , m_font(new QSpinBox(this))
+    , m_autosave(new QSpinBox(this))
+    , m_next(new QKeySequenceEdit(values.nextLine, this))
+    , m_previous(new QKeySequenceEdit(values.previousLine, this))
+    , m_problem(new QLabel(this))
+{
+    setObjectName("SettingsDialog");
+    setWindowTitle(tr("Einstellungen"));
+    m_language->setObjectName("language");
+    // A language is called by its own name.
+    m_language->addItem(QStringLiteral("Deutsch"), "de");
+    m_language->addItem(QStringLiteral("English"), "en");
+    m_language->setCurrentIndex(m_language->findData(values.language));
+    m_theme->setObjectName("theme");
+    m_theme->addItem(tr("Wie der Desktop"), QString());
+    m_theme->addItem(tr("Hell"), "light");
+    m_theme->addItem(tr("Dunkel"), "dark");
+    m_theme->setCurrentIndex(m_theme->findData(values.theme));
+    m_font->setObjectName("font");
+    m_font->setRange(WorkbenchSettings::MinFontPercent, WorkbenchSettings::MaxFontPercent);
+    m_font->setSingleStep(5);
+    m_font->setSuffix(QStringLiteral(" %"));
+    m_font->setValue(values.fontPercent);
+    m_autosave->setObjectName("autosave");
+    m_autosave->setRange(0, WorkbenchSettings::MaxAutosaveMinutes);
+    m_autosave->setSpecialValueText(tr("nie"));
+    m_autosave->setSuffix(tr(" min"));
+    m_autosave->setValue(values.autosaveMinutes);
+    m_next->setObjectName("nextLine");
+    m_previous->setObjectName("previousLine");
+    m_problem->setObjectName("problem");
+    m_problem->setWordWrap(true);
+
+    auto *layout = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    form->addRow(tr("&Sprache:"), m_language);
+    form->addRow(tr("&Farben:"), m_theme);
+    form->addRow(tr("Sch&riftgröße:"), m_font);
+    form->addRow(tr("Sicherungs&kopie alle:"), m_autosave);
+    form->addRow(tr("Taste für die &nächste offene Zeile:"), m_next);
+    form->addRow(tr("Taste für die &vorige offene Zeile:"), m_previous);
+    layout->addLayout(form);
+    layout->addWidget(m_problem);
+    auto *buttons = new QDialogButtonBox(this);
+    m_ok = buttons->addButton(Question::okText(), QDialogButtonBox::AcceptRole);
+    m_ok->setObjectName("ok");
+    buttons->addButton(Question::cancelText(), QDialogButtonBox::RejectRole);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_next, &QKeySequenceEdit::keySequenceChanged, this, &SettingsDialog::check);
+    connect(m_previous, &QKeySequenceEdit::keySequenceChanged, this, &SettingsDialog::check);
+    check();
+    PApplication::setupWindow(this);
+}
+
+SettingsDialog::~SettingsDialog()
+{
+    PApplication::saveWindow(this);
+}
+
+WorkbenchSettings::Values SettingsDialog::values() const
+{
+    WorkbenchSettings::Values values;
+    values.language = m_language->currentData().toString();
+    values.theme = m_theme->currentData().toString();
+    values.fontPercent = m_font->value();
+    values.autosaveMinutes = m_autosave->value();
+    values.nextLine = m_next->keySequence();
+    values.previousLine = m_previous->keySequence();
+    return values;
+}
+
+QString SettingsDialog::problem() const
+{
+    const WorkbenchSettings::Values chosen = values();
+    if (!chosen.nextLine.isEmpty() && chosen.nextLine == chosen.previousLine)
+        return tr("Beide Richtungen haben dieselbe Taste.");
+    for (const QKeySequence &key : {chosen.nextLine, chosen.previousLine}) {
+        if (!key.isEmpty() && m_takenKeys.contains(key))
+            return tr("Die Taste %1 ist schon vergeben.")
+                .arg(key.toString(QKeySequence::NativeText));
+    }
+    return {};
+}
+
+void SettingsDialog::check()
+{
+    const QString text = problem();
+    m_problem->setText(text);
+    m_ok->setEnabled(text.isEmpty());
+}

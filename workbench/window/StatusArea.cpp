@@ -1,0 +1,105 @@
+#include "StatusArea.h"
+
+#include "StatusProgress.h"
+
+#include <QEvent>
+#include <QLabel>
+
+namespace {
+
+/// Digits in groups, parted by blanks that do not break.
+QString grouped(int number)
+{
+    QString text = QString::number(number);
+    for (qsizetype i = text.size() - 3; i > 0; i -= 3)
+        text.insert(i, QChar(0x202f));
+    return text;
+}
+
+} // namespace
+
+StatusArea::StatusArea(QWidget *parent)
+    : QStatusBar(parent)
+    , m_note(new QLabel(this))
+    , m_progress(new StatusProgress(this))
+    , m_readOnly(new QLabel(this))
+    , m_open(new QLabel(this))
+{
+    setObjectName("StatusArea");
+    m_note->setObjectName("statusNote");
+    m_note->setTextFormat(Qt::RichText);
+    m_note->setTextInteractionFlags(Qt::LinksAccessibleByKeyboard | Qt::LinksAccessibleByMouse);
+    m_readOnly->setObjectName("statusReadOnly");
+    m_open->setObjectName("statusOpen");
+    m_open->setTextFormat(Qt::RichText);
+    m_open->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
+    setContentsMargins(6, 0, 6, 0);
+    addWidget(m_note, 1);
+    addWidget(m_progress);
+    addPermanentWidget(m_readOnly);
+    addPermanentWidget(m_open);
+    m_readOnly->hide();
+    connect(m_note, &QLabel::linkActivated, this, &StatusArea::undoRequested);
+    connect(m_open, &QLabel::linkActivated, this, &StatusArea::nextOpenRequested);
+    retranslate();
+}
+
+void StatusArea::showNote(const QString &text, bool undoable)
+{
+    clearMessage();
+    m_noteText = text;
+    m_undoable = undoable;
+    writeNote();
+}
+
+void StatusArea::dropUndo()
+{
+    m_undoable = false;
+    writeNote();
+}
+
+void StatusArea::writeNote()
+{
+    QString text = m_noteText.toHtmlEscaped();
+    if (m_undoable)
+        text += QStringLiteral(" · <a href=\"undo\">%1</a>").arg(tr("rückgängig"));
+    m_note->setText(text);
+    m_note->setToolTip(m_noteText);
+}
+
+void StatusArea::setOpenLines(int lines, int projects)
+{
+    m_lines = lines;
+    m_projects = projects;
+    m_open->setVisible(lines >= 0);
+    if (lines == 0) {
+        m_open->setText(tr("Alles entschieden"));
+    } else {
+        //: Number of lines, number of projects.
+        m_open->setText(tr("Offen: <a href=\"next\">%1 Zeilen</a> in %2 Projekten")
+                            .arg(grouped(lines), grouped(projects)));
+    }
+    m_open->setToolTip(tr("Zeilen, die noch eine Entscheidung brauchen"));
+}
+
+void StatusArea::setReadOnly(const QString &reason)
+{
+    m_readOnlyReason = reason;
+    m_readOnly->setVisible(!reason.isEmpty());
+    m_readOnly->setToolTip(reason);
+    m_readOnly->setText(tr("Schreibgeschützt"));
+}
+
+void StatusArea::retranslate()
+{
+    writeNote();
+    setOpenLines(m_lines, m_projects);
+    setReadOnly(m_readOnlyReason);
+}
+
+void StatusArea::changeEvent(QEvent *event)
+{
+    QStatusBar::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}

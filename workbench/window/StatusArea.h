@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QStatusBar>
+
+class QLabel;
+class StatusProgress;
+
+/// The status bar: what was done last with a link that undoes it, running work, read-only mark, and
+/// how much is still open.
+class StatusArea : public QStatusBar
+{
+    Q_OBJECT
+
+public:
+    explicit StatusArea(QWidget *parent);
+
+    /// Stays until the next one. With \a undoable a link offers to take it back.
+    void showNote(const QString &text, bool undoable = false);
+    [[nodiscard]] QString note() const { return m_noteText; }
+    /// The last note cannot be taken back any more.
+    void dropUndo();
+    /// Lines that need a decision and the projects that have them; negative: nothing is open.
+    void setOpenLines(int lines, int projects);
+    /// Empty: the file can be changed.
+    void setReadOnly(const QString &reason);
+    [[nodiscard]] StatusProgress *progress() const { return m_progress; }
+
+Q_SIGNALS:
+    void undoRequested();
+    /// The counter was clicked.
+    void nextOpenRequested();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void retranslate();
+    void writeNote();
+
+    QLabel *const m_note;
+    StatusProgress *const m_progress;
+    QLabel *const m_readOnly;
+    QLabel *const m_open;
+    QString m_noteText;
+    QString m_readOnlyReason;
+    bool m_undoable = false;
+    int m_lines = -1;
+    int m_projects = 0;
+};

@@ -1,0 +1,106 @@
+#include "StatusProgress.h"
+
+#include <gui/progress/ProgressText.h>
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int Parts = 1000; // of the bar; counts may be beyond int
+
+int partOf(const PProgressInfo &info)
+{
+    return info.total > 0
+               ? int(std::clamp(double(info.count) / double(info.total), 0.0, 1.0) * Parts)
+               : 0;
+}
+
+} // namespace
+
+StatusProgress::StatusProgress(QWidget *parent)
+    : QWidget(parent)
+    , m_text(new QLabel(this))
+    , m_bar(new QProgressBar(this))
+    , m_details(new QLabel(this))
+    , m_cancel(new QToolButton(this))
+{
+    setObjectName("statusProgress");
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QWidget *const part : std::initializer_list<QWidget *>{m_text, m_bar, m_details, m_cancel})
+        layout->addWidget(part);
+    m_bar->setObjectName("progressBar");
+    m_bar->setFixedWidth(160);
+    m_bar->setTextVisible(false);
+    m_text->setObjectName("progressText");
+    m_details->setObjectName("progressDetails");
+    m_cancel->setObjectName("progressCancel");
+    connect(m_cancel, &QToolButton::clicked, this, [this] {
+        for (const PProgressInfo &info : std::as_const(m_running)) {
+            if (info.cancellable && info.cancel)
+                info.cancel->request();
+        }
+        m_cancel->setEnabled(false);
+    });
+    retranslate();
+    hide();
+}
+
+void StatusProgress::showProgress(const QList<PProgressInfo> &running)
+{
+    if (m_running.isEmpty())
+        m_cancel->setEnabled(true);
+    m_running = running;
+    setVisible(!running.isEmpty());
+    if (running.isEmpty())
+        return;
+    const PProgressInfo &first = running.first();
+    m_text->setText(first.text);
+    m_bar->setRange(0, first.total < 0 ? 0 : Parts);
+    m_bar->setValue(partOf(first));
+    m_details->setText(progressDetails(first));
+    m_cancel->setVisible(std::ranges::any_of(running, &PProgressInfo::cancellable));
+}
+
+bool StatusProgress::owns(const QWidget *widget) const
+{
+    return widget == m_cancel;
+}
+
+void StatusProgress::retranslate()
+{
+    m_bar->setAccessibleName(tr("Fortschritt"));
+    m_cancel->setText(tr("Abbrechen"));
+    m_cancel->setToolTip(tr("Bricht die laufende Arbeit ab; was fertig ist, bleibt"));
+}
+
+void StatusProgress::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+StatusProgressDisplay::StatusProgressDisplay(StatusProgress *widget)
+    : m_widget(widget)
+{
+}
+
+StatusProgressDisplay::~StatusProgressDisplay() = default;
+
+void StatusProgressDisplay::showProgress(const QList<PProgressInfo> &running)
+{
+    if (m_widget)
+        m_widget->showProgress(running);
+}
+
+bool StatusProgressDisplay::acceptsInput(const QWidget *widget) const
+{
+    return m_widget && m_widget->owns(widget);
+}

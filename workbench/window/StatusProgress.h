@@ -1,0 +1,50 @@
+#pragma once
+
+#include <gui/progress/ProgressDisplayI.h>
+
+#include <QPointer>
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QToolButton;
+
+/// The part of the status bar that shows running work: text, bar, count with rate and rest time,
+/// and the button that cancels. Hidden while nothing runs.
+class StatusProgress : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit StatusProgress(QWidget *parent);
+
+    void showProgress(const QList<PProgressInfo> &running);
+    /// The button, for work that lets input to it pass.
+    [[nodiscard]] bool owns(const QWidget *widget) const;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void retranslate();
+
+    QLabel *const m_text;
+    QProgressBar *const m_bar;
+    QLabel *const m_details;
+    QToolButton *const m_cancel;
+    QList<PProgressInfo> m_running;
+};
+
+/// Hands progress to a StatusProgress, which may go first.
+class StatusProgressDisplay : public ProgressDisplayI
+{
+public:
+    explicit StatusProgressDisplay(StatusProgress *widget);
+    ~StatusProgressDisplay() override;
+
+    void showProgress(const QList<PProgressInfo> &running) override;
+    [[nodiscard]] bool acceptsInput(const QWidget *widget) const override;
+
+private:
+    const QPointer<StatusProgress> m_widget;
+};

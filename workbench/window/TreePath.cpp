@@ -1,0 +1,58 @@
+#include "TreePath.h"
+
+#include <mapping/view/CatalogStructureModel.h>
+
+#include <QAbstractItemModel>
+#include <QStringList>
+
+namespace {
+
+bool isProject(const QModelIndex &index, const QString &sourcePath)
+{
+    const auto node =
+        CatalogStructureModel::nodeFrom(index.data(CatalogStructureModel::StructureNodeRole));
+    return node && node->getNodeType() == 2 && node->getPath() == sourcePath;
+}
+
+QModelIndex childNamed(const QAbstractItemModel *model, const QModelIndex &parent,
+                       const QString &name)
+{
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex child = model->index(row, 0, parent);
+        if (child.data().toString() == name && model->hasChildren(child))
+            return child;
+    }
+    return {};
+}
+
+QModelIndex findBelow(const QAbstractItemModel *model, const QModelIndex &parent,
+                      const QString &sourcePath, bool deep)
+{
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex child = model->index(row, 0, parent);
+        if (isProject(child, sourcePath))
+            return child;
+        if (!deep)
+            continue;
+        const QModelIndex found = findBelow(model, child, sourcePath, true);
+        if (found.isValid())
+            return found;
+    }
+    return {};
+}
+
+} // namespace
+
+QModelIndex TreePath::find(const QAbstractItemModel *model, const QString &sourcePath)
+{
+    QModelIndex parent;
+    const QStringList names = sourcePath.split('/').mid(0, sourcePath.count('/'));
+    for (const QString &name : names) {
+        const QModelIndex child = childNamed(model, parent, name);
+        if (!child.isValid())
+            break;
+        parent = child;
+    }
+    const QModelIndex found = findBelow(model, parent, sourcePath, false);
+    return found.isValid() ? found : findBelow(model, QModelIndex(), sourcePath, true);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QModelIndex>
+
+QT_BEGIN_NAMESPACE
+class QAbstractItemModel;
+QT_END_NAMESPACE
+
+/// Finds projects in the catalog's tree, or in a proxy of it.
+class TreePath
+{
+public:
+    /// Looks where the path's components lead, then everywhere. Not valid if there is none.
+    [[nodiscard]] static QModelIndex find(const QAbstractItemModel *model,
+                                          const QString &sourcePath);
+};

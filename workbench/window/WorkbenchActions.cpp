@@ -1,0 +1,190 @@
+#include "WorkbenchActions.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QIcon>
+#include <QKeySequence>
+
+#include <array>
+
+namespace {
+
+struct Row
+{
+    const char *name;
+    const char *text;
+    const char *tip;
+    const char *shortcut; ///< portable text
+    const char *icon;     ///< below ":/workbench/", without "_24.png"
+    bool needsDocument;
+    bool needsWriting;
+};
+
+// In the order of WorkbenchActions::Command.
+constexpr std::array<Row, WorkbenchActions::CommandCount> rows{{
+    {"fileNew", QT_TRANSLATE_NOOP("WorkbenchActions", "&Neues Mapping..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Legt aus zwei Katalogständen eine neue Mapping-Datei an"),
+     "Ctrl+N", "new", false, false},
+    {"fileOpen", QT_TRANSLATE_NOOP("WorkbenchActions", "Ö&ffnen..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Öffnet eine Mapping-Datei"), "Ctrl+O", "open", false,
+     false},
+    {"fileExample", QT_TRANSLATE_NOOP("WorkbenchActions", "&Beispielkatalog öffnen"),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Öffnet eine eigene Mapping-Datei für den mitgelieferten Beispielkatalog"),
+     "", "", false, false},
+    {"fileSave", QT_TRANSLATE_NOOP("WorkbenchActions", "&Speichern"),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Schreibt alle Änderungen in die Mapping-Datei"),
+     "Ctrl+S", "save", true, true},
+    {"fileSaveAs", QT_TRANSLATE_NOOP("WorkbenchActions", "Speichern &unter..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Schreibt in eine andere Mapping-Datei"), "Ctrl+Shift+S",
+     "", true, false},
+    {"fileClose", QT_TRANSLATE_NOOP("WorkbenchActions", "S&chließen"),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Schließt die Mapping-Datei"), "Ctrl+W", "", true,
+     false},
+    {"fileRoots", QT_TRANSLATE_NOOP("WorkbenchActions", "&Katalogverzeichnisse..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Wählt die Verzeichnisse des alten und des neuen Katalogstands"),
+     "", "", true, false},
+    {"fileQuit", QT_TRANSLATE_NOOP("WorkbenchActions", "&Beenden"),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Beendet das Programm"), "Ctrl+Q", "", false, false},
+    {"editUndo", QT_TRANSLATE_NOOP("WorkbenchActions", "&Rückgängig"),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Nimmt den letzten Schritt zurück"), "Ctrl+Z", "undo",
+     true, true},
+    {"editRedo", QT_TRANSLATE_NOOP("WorkbenchActions", "&Wiederherstellen"),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Führt den zurückgenommenen Schritt wieder aus"),
+     "Ctrl+Shift+Z", "redo", true, true},
+    {"linesConfirm", QT_TRANSLATE_NOOP("WorkbenchActions", "Zeilen &bestätigen..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Bestätigt die markierten oder alle gezeigten Zeilen in einem Schritt"),
+     "Ctrl+Shift+V", "confirm", true, true},
+    {"linesRemove", QT_TRANSLATE_NOOP("WorkbenchActions", "Zuordnungen &aufheben..."),
+     QT_TRANSLATE_NOOP(
+         "WorkbenchActions",
+         "Hebt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt auf"),
+     "Ctrl+Shift+X", "remove", true, true},
+    {"linesRemoveConfirm",
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Zuordnungen aufheben und bestäti&gen..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Die markierten oder alle gezeigten Zeilen sind "
+                                           "ausgelaufen: hebt auf und bestätigt in einem Schritt"),
+     "", "", true, true},
+    {"assignAll", QT_TRANSLATE_NOOP("WorkbenchActions", "Alle Projekte &zuordnen..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Sucht für alle Zeilen des Katalogs Zuordnungen; Bestätigtes bleibt"),
+     "", "", true, true},
+    {"checkRanges", QT_TRANSLATE_NOOP("WorkbenchActions", "&Wertebereichszuordnungen prüfen"),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Vergleicht alle Wertebereichstexte mit den Tabellen der Zielprojekte"),
+     "", "", true, false},
+    {"settings", QT_TRANSLATE_NOOP("WorkbenchActions", "&Einstellungen..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Sprache, Schrift, Tasten, Sicherung"), "Ctrl+,", "",
+     false, false},
+    {"goNext", QT_TRANSLATE_NOOP("WorkbenchActions", "&Nächste offene Zeile"),
+     QT_TRANSLATE_NOOP(
+         "WorkbenchActions",
+         "Geht zur nächsten Zeile, die eine Entscheidung braucht, auch im nächsten Projekt"),
+     "", "next", true, false},
+    {"goPrevious", QT_TRANSLATE_NOOP("WorkbenchActions", "&Vorige offene Zeile"),
+     QT_TRANSLATE_NOOP(
+         "WorkbenchActions",
+         "Geht zur vorigen Zeile, die eine Entscheidung braucht, auch im vorigen Projekt"),
+     "", "previous", true, false},
+    {"goLine", QT_TRANSLATE_NOOP("WorkbenchActions", "&Gehe zu Zeile..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Sucht eine Zeile des Projekts nach Nummer oder Bezeichnung"),
+     "Ctrl+G", "jump", true, false},
+    {"viewRefresh", QT_TRANSLATE_NOOP("WorkbenchActions", "&Aktualisieren"),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Baut die Anzeige neu auf: Baum, Statistik, Tabellen von der Platte"),
+     "F5", "refresh", true, false},
+    {"helpTour", QT_TRANSLATE_NOOP("WorkbenchActions", "&Rundgang"),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Zeigt in wenigen Schritten, wo was liegt"), "F1", "",
+     false, false},
+    {"helpAbout", QT_TRANSLATE_NOOP("WorkbenchActions", "Über &dieses Programm"),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Version und Verzeichnisse"), "", "", false, false},
+}};
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("WorkbenchActions", text);
+}
+
+QIcon iconOf(const Row &row)
+{
+    return *row.icon ? QIcon(QStringLiteral(":/workbench/%1_24.png").arg(row.icon)) : QIcon();
+}
+
+} // namespace
+
+WorkbenchActions::WorkbenchActions(QObject *parent)
+    : QObject(parent)
+{
+    for (const Row &row : rows) {
+        auto *action = new QAction(iconOf(row), QString(), this);
+        action->setObjectName(row.name);
+        action->setShortcut(QKeySequence::fromString(row.shortcut, QKeySequence::PortableText));
+        action->setShortcutContext(Qt::WindowShortcut);
+        m_actions.append(action);
+    }
+    action(Quit)->setMenuRole(QAction::QuitRole);
+    action(Settings)->setMenuRole(QAction::PreferencesRole);
+    action(About)->setMenuRole(QAction::AboutRole);
+    setDocumentOpen(false, false);
+    retranslate();
+}
+
+void WorkbenchActions::setDocumentOpen(bool open, bool readOnly)
+{
+    for (int i = 0; i < CommandCount; ++i) {
+        const Row &row = rows[size_t(i)];
+        if (i == Undo || i == Redo)
+            continue;
+        m_actions[i]->setEnabled((open || !row.needsDocument) && !(readOnly && row.needsWriting));
+    }
+}
+
+void WorkbenchActions::setKeys(const QKeySequence &next, const QKeySequence &previous)
+{
+    action(NextOpen)->setShortcut(next);
+    action(PreviousOpen)->setShortcut(previous);
+    retranslate();
+}
+
+void WorkbenchActions::setUndoTexts(const QString &undo, const QString &redo)
+{
+    m_undoText = undo;
+    m_redoText = redo;
+    action(Undo)->setEnabled(!undo.isEmpty());
+    action(Redo)->setEnabled(!redo.isEmpty());
+    writeUndoTexts();
+}
+
+void WorkbenchActions::writeUndoTexts()
+{
+    const auto write = [this](Command command, const QString &what) {
+        const QString name = translated(rows[command].text);
+        // A single ampersand would mark a key.
+        QString quoted = what;
+        quoted.replace('&', QLatin1String("&&"));
+        action(command)->setText(what.isEmpty() ? name : name + ": " + quoted);
+        QString plain = name;
+        plain.remove('&');
+        action(command)->setToolTip(what.isEmpty() ? plain : plain + ": " + what);
+    };
+    write(Undo, m_undoText);
+    write(Redo, m_redoText);
+}
+
+void WorkbenchActions::retranslate()
+{
+    for (int i = 0; i < CommandCount; ++i) {
+        QAction *const action = m_actions[i];
+        const Row &row = rows[size_t(i)];
+        const QString tip = translated(row.tip);
+        action->setText(translated(row.text));
+        action->setStatusTip(tip);
+        const QString key = action->shortcut().toString(QKeySequence::NativeText);
+        action->setToolTip(key.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, key));
+    }
+    writeUndoTexts();
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+class QAction;
+class QKeySequence;
+
+/// The workbench's own commands by name, with texts in the language of the moment. The names are
+/// the actions' object names.
+class WorkbenchActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Command {
+        NewMapping,
+        OpenFile,
+        OpenExample,
+        Save,
+        SaveAs,
+        CloseFile,
+        CatalogRoots,
+        Quit,
+        Undo,
+        Redo,
+        ConfirmLines,
+        RemoveLines,
+        RemoveConfirmLines,
+        AssignAll,
+        CheckValueRanges,
+        Settings,
+        NextOpen,
+        PreviousOpen,
+        JumpToLine,
+        Refresh,
+        ShowTour,
+        About,
+        CommandCount
+    };
+
+    explicit WorkbenchActions(QObject *parent);
+
+    [[nodiscard]] QAction *action(Command command) const { return m_actions[command]; }
+    /// Of the document: those that need one open.
+    void setDocumentOpen(bool open, bool readOnly);
+    void setKeys(const QKeySequence &next, const QKeySequence &previous);
+    /// What undo and redo would do; empty texts disable them.
+    void setUndoTexts(const QString &undo, const QString &redo);
+
+public Q_SLOTS:
+    void retranslate();
+
+private:
+    void writeUndoTexts();
+
+    QList<QAction *> m_actions;
+    QString m_undoText;
+    QString m_redoText;
+};

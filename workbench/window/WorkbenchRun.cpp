@@ -1,0 +1,69 @@
+#include "WorkbenchRun.h"
+
+#include "DocumentDesk.h"
+#include "EditorArea.h"
+#include "MainWindow.h"
+#include "Screenshot.h"
+#include "WorkbenchSettings.h"
+
+#include <core/plugin/PTranslateManager.h>
+#include <gui/application/PApplication.h>
+#include <workbench/start/SettingsPlace.h>
+#include <workbench/start/StartOptions.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QTimer>
+
+namespace {
+
+void prepare(WorkbenchSettings &settings, const StartOptions &options)
+{
+    WorkbenchSettings::Values values = settings.values();
+    if (!options.language.isEmpty())
+        values.language = options.language;
+    if (!options.theme.isEmpty())
+        values.theme = options.theme;
+    settings.setValuesForNow(values);
+    if (!QDir::searchPaths("bitmaps").contains(":/hostbitmaps"))
+        QDir::addSearchPath("bitmaps", ":/hostbitmaps");
+    QApplication::setWindowIcon(QIcon(":/workbench/velkworkbench_64.png"));
+    PTranslateManager::registerModule("velkworkbench");
+    PTranslateManager::instance().setLanguage(values.language);
+}
+
+DocumentDesk::Wish wishOf(const StartOptions &options)
+{
+    DocumentDesk::Wish wish;
+    wish.file = options.mappingFile;
+    wish.release = options.release;
+    wish.roots = {options.sourceRoot, options.targetRoot};
+    wish.readOnly = options.readOnly;
+    return wish;
+}
+
+} // namespace
+
+int runWorkbench(PLinkDbGuiI *plugin, const StartOptions &options)
+{
+    const SettingsPlace place(options.settingsDirectory);
+    WorkbenchSettings settings(place.workbenchSettings());
+    prepare(settings, options);
+    MainWindow window(&settings, plugin);
+    if (options.size.isValid())
+        window.resize(options.size);
+    window.show();
+    VelkApp()->setInitialized();
+    if (!options.screenshot.isEmpty())
+        return Screenshot(window, options).take(wishOf(options), settings.store());
+
+    QTimer::singleShot(0, &window, [&] {
+        if (options.mappingFile.isEmpty())
+            return window.restoreSession();
+        if (window.desk()->open(wishOf(options)) &&
+            window.editor()->selectProject(options.selectedPath) && options.selectedLine >= 0)
+            window.editor()->selectLine(options.selectedLine);
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,155 @@
+#include "WorkbenchSettings.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+QString normalised(const QString &file)
+{
+    return file.isEmpty() ? file : QFileInfo(file).absoluteFilePath();
+}
+
+/// Group names must not hold "/".
+QString groupOf(const QString &file)
+{
+    return "Places/" + QString::fromLatin1(normalised(file).toUtf8().toBase64(
+                           QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals));
+}
+
+QKeySequence keyOf(const QVariant &value, const QKeySequence &standard)
+{
+    return value.isValid() ? QKeySequence::fromString(value.toString(), QKeySequence::PortableText)
+                           : standard;
+}
+
+} // namespace
+
+WorkbenchSettings::WorkbenchSettings(const QString &file, QObject *parent)
+    : QObject(parent)
+    , m_store(file, QSettings::IniFormat)
+{
+    read();
+}
+
+void WorkbenchSettings::read()
+{
+    const Values standard;
+    m_values.language = m_store.value("Settings/language", standard.language).toString();
+    m_values.theme = m_store.value("Settings/theme").toString();
+    m_values.fontPercent =
+        std::clamp(m_store.value("Settings/fontPercent", standard.fontPercent).toInt(),
+                   MinFontPercent, MaxFontPercent);
+    m_values.autosaveMinutes =
+        std::clamp(m_store.value("Settings/autosaveMinutes", standard.autosaveMinutes).toInt(), 0,
+                   MaxAutosaveMinutes);
+    m_values.nextLine = keyOf(m_store.value("Settings/keyNextLine"), standard.nextLine);
+    m_values.previousLine = keyOf(m_store.value("Settings/keyPreviousLine"), standard.previousLine);
+}
+
+void WorkbenchSettings::setValues(const Values &values)
+{
+    Values wanted = values;
+    wanted.fontPercent = std::clamp(wanted.fontPercent, MinFontPercent, MaxFontPercent);
+    wanted.autosaveMinutes = std::clamp(wanted.autosaveMinutes, 0, MaxAutosaveMinutes);
+    if (wanted == m_values)
+        return;
+    m_values = wanted;
+    writeValues();
+    Q_EMIT valuesChanged();
+}
+
+void WorkbenchSettings::setValuesForNow(const Values &values)
+{
+    if (values == m_values)
+        return;
+    m_values = values;
+    Q_EMIT valuesChanged();
+}
+
+void WorkbenchSettings::writeValues()
+{
+    m_store.setValue("Settings/language", m_values.language);
+    m_store.setValue("Settings/theme", m_values.theme);
+    m_store.setValue("Settings/fontPercent", m_values.fontPercent);
+    m_store.setValue("Settings/autosaveMinutes", m_values.autosaveMinutes);
+    m_store.setValue("Settings/keyNextLine", m_values.nextLine.toString());
+    m_store.setValue("Settings/keyPreviousLine", m_values.previousLine.toString());
+}
+
+QStringList WorkbenchSettings::recentFiles() const
+{
+    return m_store.value("Files/recent").toStringList();
+}
+
+void WorkbenchSettings::addRecentFile(const QString &file)
+{
+    QStringList files = recentFiles();
+    files.removeAll(normalised(file));
+    files.prepend(normalised(file));
+    m_store.setValue("Files/recent", files.mid(0, RecentLimit));
+    Q_EMIT recentFilesChanged();
+}
+
+void WorkbenchSettings::removeRecentFile(const QString &file)
+{
+    QStringList files = recentFiles();
+    if (files.removeAll(normalised(file)) == 0)
+        return;
+    m_store.setValue("Files/recent", files);
+    Q_EMIT recentFilesChanged();
+}
+
+void WorkbenchSettings::clearRecentFiles()
+{
+    m_store.remove("Files/recent");
+    Q_EMIT recentFilesChanged();
+}
+
+QString WorkbenchSettings::sessionFile() const
+{
+    return m_store.value("Files/session").toString();
+}
+
+void WorkbenchSettings::setSessionFile(const QString &file)
+{
+    m_store.setValue("Files/session", normalised(file));
+}
+
+WorkbenchSettings::Place WorkbenchSettings::place(const QString &file) const
+{
+    const QString group = groupOf(file);
+    return {m_store.value(group + "/sourceDate").toString(),
+            m_store.value(group + "/project").toString(),
+            m_store.value(group + "/line", -1).toInt()};
+}
+
+void WorkbenchSettings::setPlace(const QString &file, const Place &place)
+{
+    const QString group = groupOf(file);
+    m_store.setValue(group + "/sourceDate", place.sourceDate);
+    m_store.setValue(group + "/project", place.project);
+    m_store.setValue(group + "/line", place.line);
+}
+
+bool WorkbenchSettings::flag(const QString &name) const
+{
+    return m_store.value("Flags/" + name, false).toBool();
+}
+
+void WorkbenchSettings::setFlag(const QString &name, bool value)
+{
+    m_store.setValue("Flags/" + name, value);
+}
+
+QByteArray WorkbenchSettings::state(const QString &name) const
+{
+    return m_store.value("States/" + name).toByteArray();
+}
+
+void WorkbenchSettings::setState(const QString &name, const QByteArray &state)
+{
+    m_store.setValue("States/" + name, state);
+}
