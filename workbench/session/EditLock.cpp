@@ -16,7 +16,7 @@ namespace {
 QString userName()
 {
     for (const char *variable : {"LOGNAME", "USER", "USERNAME"}) {
-        const QString name = qEnvironmentVariable(variable);
+        QString name = qEnvironmentVariable(variable);
         if (!name.isEmpty())
             return name;
     }

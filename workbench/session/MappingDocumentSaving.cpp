@@ -88,7 +88,7 @@ SaveOutcome MappingDocumentPrivate::runGuarded(const QString &path, const FileSt
             return handler->commitModifications();
         return ReleaseMappingHandler(current, rootName, path).commitModifications();
     };
-    const SaveOutcome outcome = guard.run(current, commit, options);
+    SaveOutcome outcome = guard.run(current, commit, options);
     saved = guard.savedState();
     return outcome;
 }

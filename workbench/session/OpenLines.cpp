@@ -157,8 +157,7 @@ LineRef OpenLines::seek(const LineRef &from, bool forward) const
     const bool inside = position >= 0 && from.line >= 0;
     for (int step = 0; step <= size && size > 0; ++step) {
         const int at = ((forward ? start + step : start - step) % size + size) % size;
-        const LineRef found =
-            lineAt(at, step == 0 && inside ? qint64(from.line) : atFirst, forward);
+        LineRef found = lineAt(at, step == 0 && inside ? qint64(from.line) : atFirst, forward);
         if (found.isValid())
             return found;
     }

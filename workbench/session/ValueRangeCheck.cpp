@@ -118,13 +118,13 @@ private:
     {
         if (const VKTab::ContentRef *known = m_tables.object(path))
             return known;
-        const auto read = new VKTab::ContentRef(VKTab::Content());
-        m_tables.insert(path, read);
+        VKTab::ContentRef table{VKTab::Content()};
         const refHandle<PrjClass> project(new PrjClass(false, false, false));
         const QString file = (PPathName(m_root) + PPathName(path)).native();
         if (project->read(file, PrjClass::ReadAll) == 1)
-            VKTab::Reader().readByProject(project, *read, false);
-        return read;
+            VKTab::Reader().readByProject(project, table, false);
+        m_tables.insert(path, new VKTab::ContentRef(table));
+        return m_tables.object(path);
     }
 
     const QString m_root;
