@@ -168,6 +168,14 @@ void MappingConflictWidgetPrivate::updateConflictText(const PrjMappingC &project
                                "VelkLinkDbGui");
     text += changeList(local, true);
     messageLabel->setText(text);
+    giveTextRoom();
+}
+
+void MappingConflictWidgetPrivate::giveTextRoom()
+{
+    const int wanted = contentsWidget->sizeHint().height() + 2 * scrollArea->frameWidth();
+    scrollArea->setMinimumHeight(
+        qMin(wanted, MaxTextLines * messageLabel->fontMetrics().lineSpacing()));
 }
 
 void MappingConflictWidgetPrivate::acceptLine(int lineId)

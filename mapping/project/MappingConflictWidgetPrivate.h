@@ -48,6 +48,10 @@ public:
     VKTab::ContentRef content;
 
 private:
+    /// The strip grows with its text up to so many lines, then it scrolls.
+    static constexpr int MaxTextLines = 10;
+
+    void giveTextRoom();
     [[nodiscard]] QPair<QString, QString> key();
     /// Index of the first target that holds the line, or -1.
     [[nodiscard]] int targetOfLine(int lineId) const;

@@ -74,6 +74,7 @@ QWidget *CatalogMappingWidgetPrivate::makeTreePane(QWidget *parent)
         PString::translate("Zeige nur Projekte mit nicht zugeordneten Zeilen", "VelkLinkDbGui"));
     statisticsLabel = new QLabel(pane);
     statisticsLabel->setObjectName(QStringLiteral("statisticsLabel"));
+    statisticsLabel->setMargin(1); // else the dots of a capital umlaut are cut
     layout->addWidget(statisticsLabel);
     return pane;
 }

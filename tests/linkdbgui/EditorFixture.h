@@ -78,8 +78,9 @@ private:
 class NotingHandler : public ReleaseMappingHandler
 {
 public:
-    explicit NotingHandler(const ReleaseMappingC &release, QStringList *calls = nullptr)
-        : ReleaseMappingHandler(release, QStringLiteral("root"), QString())
+    explicit NotingHandler(const ReleaseMappingC &release, QStringList *calls = nullptr,
+                           const QString &file = QString())
+        : ReleaseMappingHandler(release, QStringLiteral("root"), file)
         , m_calls(calls)
     {
     }
