@@ -42,6 +42,8 @@ private Q_SLOTS:
     void titleShowsTheTable();
     void clickSelectsTheTablesLine();
     void keysSelectTheTablesLine();
+    void keysSelectTheLineThatGotTheFocus_data();
+    void keysSelectTheLineThatGotTheFocus();
     void tableSelectsTheViewsLine();
     void selectionOfTheTableIsTakenOver();
     void listenersSeeTheViewsSelection();
@@ -183,6 +185,34 @@ void tst_VkTableView::keysSelectTheTablesLine()
     QCOMPARE(m_table.getSelection(), LineId(2));
     key(Qt::Key_End, Qt::ControlModifier);
     QCOMPARE(m_table.getSelection(), LineId(4));
+}
+
+void tst_VkTableView::keysSelectTheLineThatGotTheFocus_data()
+{
+    QTest::addColumn<Qt::Key>("pressed");
+    QTest::addColumn<Qt::KeyboardModifier>("modifier");
+    QTest::addColumn<QList<int>>("lines");
+    QTest::newRow("home") << Qt::Key_Home << Qt::ControlModifier << QList<int>({1});
+    QTest::newRow("up") << Qt::Key_Up << Qt::NoModifier << QList<int>({1});
+    QTest::newRow("page up") << Qt::Key_PageUp << Qt::NoModifier << QList<int>({1});
+    QTest::newRow("down") << Qt::Key_Down << Qt::NoModifier << QList<int>({2});
+    QTest::newRow("moved without selecting") << Qt::Key_Up << Qt::ControlModifier << QList<int>();
+    QTest::newRow("within the line") << Qt::Key_Left << Qt::NoModifier << QList<int>();
+}
+
+void tst_VkTableView::keysSelectTheLineThatGotTheFocus()
+{
+    QFETCH(Qt::Key, pressed);
+    QFETCH(Qt::KeyboardModifier, modifier);
+    // As a grid does that gets the focus by Tab.
+    grid()->selectionModel()->setCurrentIndex(grid()->model()->index(0, 3),
+                                              QItemSelectionModel::NoUpdate);
+    QVERIFY(selected().isEmpty());
+    key(pressed, modifier);
+    QTEST(selected(), "lines");
+    QTEST(m_table.getSelection().isValid() ? QList<int>({m_table.getSelection().value(0)})
+                                           : QList<int>(),
+          "lines");
 }
 
 void tst_VkTableView::tableSelectsTheViewsLine()

@@ -92,6 +92,21 @@ void TableGrid::keyPressEvent(QKeyEvent *event)
     QTableView::keyPressEvent(event);
     if (currentIndex().isValid() && currentIndex().row() != before)
         Q_EMIT lineEntered(currentIndex());
+    else if (staysOnUnselectedLine(*event))
+        selectionModel()->select(currentIndex(),
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+bool TableGrid::staysOnUnselectedLine(const QKeyEvent &event) const
+{
+    const bool leadsToAnEnd =
+        event.modifiers() == Qt::ControlModifier
+            ? event.key() == Qt::Key_Home || event.key() == Qt::Key_End
+            : event.modifiers() == Qt::NoModifier &&
+                  (event.key() == Qt::Key_Up || event.key() == Qt::Key_PageUp ||
+                   event.key() == Qt::Key_Down || event.key() == Qt::Key_PageDown);
+    return leadsToAnEnd && selectionMode() != NoSelection && currentIndex().isValid() &&
+           !selectionModel()->isRowSelected(currentIndex().row(), QModelIndex());
 }
 
 QItemSelectionModel::SelectionFlags TableGrid::selectionCommand(const QModelIndex &index,

@@ -45,6 +45,9 @@ protected:
 private:
     [[nodiscard]] bool isIcon(const QModelIndex &index) const;
     [[nodiscard]] bool showStatusToolTip(const QPoint &position, const QPoint &globalPosition);
+    /// A key that leads to the first or last line found it current, yet not selected: so it is when
+    /// the grid got the focus by Tab.
+    [[nodiscard]] bool staysOnUnselectedLine(const QKeyEvent &event) const;
     void announceClick(const QModelIndex &index, const QMouseEvent &event);
 
     TableDelegate *m_delegate;
