@@ -197,7 +197,6 @@ void tst_VkTableView::keysSelectTheLineThatGotTheFocus_data()
     QTest::newRow("page up") << Qt::Key_PageUp << Qt::NoModifier << QList<int>({1});
     QTest::newRow("down") << Qt::Key_Down << Qt::NoModifier << QList<int>({2});
     QTest::newRow("moved without selecting") << Qt::Key_Up << Qt::ControlModifier << QList<int>();
-    QTest::newRow("within the line") << Qt::Key_Left << Qt::NoModifier << QList<int>();
 }
 
 void tst_VkTableView::keysSelectTheLineThatGotTheFocus()
