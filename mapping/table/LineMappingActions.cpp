@@ -36,24 +36,25 @@ void TableMappingWidgetPrivate::mapLine(const VKTab::LineId &id, const QStringLi
     const VKTab::ResolveRangeOptionsC resolveOptions;
     VKTab::ValueRangeIterator combinations(source, line, resolveOptions);
     combinations.setVariablesToResolve(variables);
-    const Varset base = createVarsetFromVKTable(source, id, {});
     const VKTab::ContentRef targetTable = targetView->getTable();
     const VKTab::LineId chosen =
         targetTable.isValid() ? targetTable.getSelection() : VKTab::LineId(-1);
-    const bool hasRanges = combinations.next();
+    if (!combinations.next()) {
+        mapCombination(id, Varset(), targetTable.isValid() ? &chosen : nullptr);
+        return;
+    }
+    const Varset stored = createVarsetFromVKTable(source, id, {});
     do {
-        const Varset current =
-            hasRanges ? createVarsetFromVKTable(line, {}) : createVarsetFromVKTable(source, id, {});
-        const bool takesChosen = targetTable.isValid() && current == base;
-        mapCombination(id, current, takesChosen ? &chosen : nullptr);
+        const Varset shown = createVarsetFromVKTable(line, {});
+        const bool takesChosen = targetTable.isValid() && shown == stored;
+        mapCombination(id, shown, takesChosen ? &chosen : nullptr);
     } while (combinations.next());
 }
 
 void TableMappingWidgetPrivate::mapCombination(const VKTab::LineId &id, const Varset &values,
                                                const VKTab::LineId *chosen)
 {
-    Varset varset = values;
-    const PrjMapperLineC line = mapperLineFor(id, varset, nullptr);
+    const PrjMapperLineC line = mapperLineFor(id, values);
     if (!line.isValid())
         return;
     const int newLine = chosen ? chosen->value(0) : line.getTargetLineId();

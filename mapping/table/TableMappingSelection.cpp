@@ -11,6 +11,7 @@
 #include <geomcore/table/FileLayer.h>
 #include <geomcore/table/Finder.h>
 #include <geomcore/table/LangThreadSettings.h>
+#include <geomcore/table/LineView.h>
 #include <geomcore/table/Reader.h>
 #include <geomcore/table/SignalConnect.h>
 #include <geomcoregui/table/VkTableModel.h>
@@ -56,7 +57,7 @@ void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
     designationLabels.setSourceText(QString());
     sourceView->setTable(sourceTable);
     sourceView->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    targetView->setTable(VKTab::ContentRef());
+    clearTargetTable();
     targetPathLabel->clear();
     designationLabels.setTargetText(QString());
     targetNumberLabel->clear();
@@ -101,23 +102,38 @@ CatalogMappingC TableMappingWidgetPrivate::currentRelease() const
     return catalog;
 }
 
+namespace {
+
+template<class Values>
+PrjMapperLineC lookUp(PrjMapperC &mapper, int number, const Values &values)
+{
+    PrjMapperLineC line = mapper.findLine(number, values);
+    if (!line.isValid())
+        line = mapper.createLine(number, values, false);
+    return line;
+}
+
+} // namespace
+
+bool TableMappingWidgetPrivate::startMapper(PrjMapperC &mapper) const
+{
+    mapper.setSourceTable(sourceTable);
+    const auto state =
+        mapper.findMapping(mapping.getSourcePath(), mapping.getSourceVersion(), currentRelease());
+    return state & PRJMAPPING::StateUsable;
+}
+
 PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id, Varset &varset,
                                                         PrjMapperCheckResultC *check) const
 {
-    const CatalogMappingC catalog = currentRelease();
-    if (catalog.getReleases().isEmpty())
+    if (catalogMapping.getReleases().isEmpty())
         return {};
     if (varset.isEmpty())
         varset = createVarsetFromVKTable(sourceTable, id, {});
     PrjMapperC mapper(IndexTreeC::instance());
-    mapper.setSourceTable(sourceTable);
-    const auto state =
-        mapper.findMapping(mapping.getSourcePath(), mapping.getSourceVersion(), catalog);
     PrjMapperLineC line;
-    if (state & PRJMAPPING::StateUsable) {
-        line = mapper.findLine(id.value(0), varset);
-        if (!line.isValid())
-            line = mapper.createLine(id.value(0), varset, false);
+    if (startMapper(mapper)) {
+        line = lookUp(mapper, id.value(0), varset);
         if (line.isValid() && line.isFound())
             varset = mapper.updateVarset(line, varset, VarsetTargetVariables);
     }
@@ -126,10 +142,20 @@ PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id,
     return line;
 }
 
-PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id) const
+PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id,
+                                                        const Varset &values) const
 {
-    Varset varset;
-    return mapperLineFor(id, varset, nullptr);
+    if (catalogMapping.getReleases().isEmpty())
+        return {};
+    PrjMapperC mapper(IndexTreeC::instance());
+    if (!startMapper(mapper))
+        return {};
+    if (!values.isEmpty())
+        return lookUp(mapper, id.value(0), values);
+    const VKTab::LineView view(sourceTable, id);
+    return view.isValid()
+               ? lookUp(mapper, id.value(0), view)
+               : lookUp(mapper, id.value(0), createVarsetFromVKTable(sourceTable, id, {}));
 }
 
 QString TableMappingWidgetPrivate::builtPath(const QString &targetPath) const
@@ -152,6 +178,12 @@ int TableMappingWidgetPrivate::onTargetLineSelected(const VKTab::LineId &id, boo
     return 0;
 }
 
+void TableMappingWidgetPrivate::clearTargetTable()
+{
+    if (!(targetView->getTable() == VKTab::ContentRef()))
+        targetView->setTable(VKTab::ContentRef());
+}
+
 void TableMappingWidgetPrivate::showSourceLine(const VKTab::LineId &id)
 {
     const int selected = sourceView->getSelectedLineCount();
@@ -162,7 +194,7 @@ void TableMappingWidgetPrivate::showSourceLine(const VKTab::LineId &id)
     bool removeEnabled = false;
     bool assignEnabled = true;
     if (selected > 1) {
-        targetView->setTable(VKTab::ContentRef());
+        clearTargetTable();
         btnResolvedRanges->setEnabled(false);
         btnCondition->setEnabled(false);
         removeEnabled = true;
@@ -170,7 +202,7 @@ void TableMappingWidgetPrivate::showSourceLine(const VKTab::LineId &id)
         if (id.isValid())
             removeEnabled = showSingleLine(id, &assignEnabled);
         if (!removeEnabled)
-            targetView->setTable(VKTab::ContentRef());
+            clearTargetTable();
         btnResolvedRanges->setEnabled(!valueRangeVariables(sourceTable).isEmpty());
         btnCondition->setEnabled(true);
     }

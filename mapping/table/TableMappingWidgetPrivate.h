@@ -51,8 +51,10 @@ public:
     /// for a mapping that cannot be used, the result is not valid.
     PrjMapperLineC mapperLineFor(const VKTab::LineId &id, Varset &varset,
                                  PrjMapperCheckResultC *check) const;
-    /// The same for who wants neither varset nor check.
-    [[nodiscard]] PrjMapperLineC mapperLineFor(const VKTab::LineId &id) const;
+    /// The same for who wants neither varset nor check; it need not read the target tables of lines
+    /// that have their entry. \a values as \a varset above.
+    [[nodiscard]] PrjMapperLineC mapperLineFor(const VKTab::LineId &id,
+                                               const Varset &values = {}) const;
     [[nodiscard]] static QStringList valueRangeVariables(const VKTab::Content &table);
     /// Brings the status columns of the source table in line with the mapping.
     void updateLineStatus();
@@ -140,6 +142,9 @@ private:
     VkTableView *createView(const char *name);
 
     [[nodiscard]] CatalogMappingC currentRelease() const;
+    /// False if the mapping cannot be used.
+    [[nodiscard]] bool startMapper(PrjMapperC &mapper) const;
+    void clearTargetTable();
     [[nodiscard]] QString builtPath(const QString &targetPath) const;
     [[nodiscard]] QList<int> targetsOf(const VKTab::Content &table) const;
     [[nodiscard]] QString conflictText(const PrjMapperLineC &line) const;
@@ -157,7 +162,8 @@ private:
     // Actions
     [[nodiscard]] QStringList conditionVariables() const;
     void mapLine(const VKTab::LineId &id, const QStringList &variables);
-    /// \a chosen is the target line to take, null to keep the assigned one.
+    /// \a values are empty for those of the line; \a chosen is the target line to take, null to
+    /// keep the assigned one.
     void mapCombination(const VKTab::LineId &id, const Varset &values, const VKTab::LineId *chosen);
     void removeLine(const VKTab::LineId &id);
     void showFailingValues(const VKTab::LineId &id);
