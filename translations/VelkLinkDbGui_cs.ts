@@ -5,11 +5,11 @@
     <name>VelkLinkDbGui</name>
     <message>
         <source>  Zeile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>  Řádek %1</translation>
     </message>
     <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &lt;b&gt;(nepodařilo se najít)&lt;/b&gt;</translation>
     </message>
     <message>
         <source>%1 von %2</source>
@@ -17,27 +17,27 @@
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;&lt;br /&gt;Změna provedená jiným uživatelem:</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Řádek byl označen jako neplatný.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Řádek byl přiřazen znovu. Nově přiřazený řádek (místně) neexistuje.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Tento řádek byl označen jako neplatný.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Tento řádek byl přiřazen k řádku&lt;br /&gt;%1 projektu %2.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Nové přiřazení: &lt;br /&gt;%3 projektu %4 &lt;br /&gt;.</translation>
     </message>
     <message>
         <source>Abbrechen</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit všechny filtry sloupců</translation>
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
@@ -61,21 +61,23 @@
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokračuje se od začátku tabulky</translation>
     </message>
     <message>
         <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokračuje se od konce tabulky</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek s těmito hodnotami má i jiný cílový projekt.
+  Projekt: %1
+  Řádek: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiřadit rozložené rozsahy hodnot pro tento řádek</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
@@ -135,34 +137,37 @@
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
-        <translation type="unfinished"></translation>
+        <translation>Zruší práci</translation>
     </message>
     <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozložení rozsahů hodnot může podle zvolených proměnných a velikosti tabulky trvat velmi dlouho.
+Opravdu pokračovat?</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt neleží pod složkou katalogu %1</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílový projekt %1 již neexistuje</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílový projekt má jiný název než zdrojový a žádné přiřazení k němu není potvrzeno.
+  Zdrojový projekt: %1
+  Cílový projekt: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílový projekt s cestou %1 byl odebrán.</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílový projekt s cestou %1 byl přidán.</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -178,89 +183,99 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation type="unfinished"></translation>
+        <translation>Textu chybí uzavírací apostrof</translation>
     </message>
     <message>
         <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation type="unfinished"></translation>
+        <translation>Výraz je příliš hluboce vnořený</translation>
     </message>
     <message>
         <source>Der Text ist leer</source>
-        <translation type="unfinished"></translation>
+        <translation>Text je prázdný</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Podmínky projektu %1 byly změněny.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>Funkce %1 není známa</translation>
     </message>
     <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Formulář %1 nelze načíst: %2</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
   Alte Normbezeichnung: %1
   Neue Normbezeichnung: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Označení normy se liší.
+  Staré označení: %1
+  Nové označení: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Projektdatum: %2, Neues Projektdatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze cílového projektu s cestou %1 byla změněna.
+  Staré datum projektu: %2, nové datum projektu: %3</translation>
     </message>
     <message>
         <source>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulku zdrojového projektu se nepodařilo otevřít.</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulku cílového projektu se nepodařilo přečíst.
+  Projekt: %1</translation>
     </message>
     <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulku alespoň jednoho zdrojového projektu se nepodařilo otevřít.</translation>
     </message>
     <message>
         <source>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Tabellendatum: %2, Neues Tabellendatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze tabulky cílového projektu s cestou %1 byla změněna.
+  Staré datum tabulky: %2, nové datum tabulky: %3</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation type="unfinished"></translation>
+        <translation>Proměnná %1 v cílové tabulce neexistuje</translation>
     </message>
     <message>
         <source>Die Variable %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>Proměnná %1 není známa</translation>
     </message>
     <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapování proměnných projektu %1 bylo změněno.</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
   Alter Wert: %2
   Neuer Wert: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnoty proměnné %1 se liší.
+  Stará hodnota: %2
+  Nová hodnota: %3</translation>
     </message>
     <message>
         <source>Die Zeile %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek %1 byl změněn.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Většina řádků má v cílovém projektu jiné hodnoty.
+  Cílový projekt: %1</translation>
     </message>
     <message>
         <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiřazený řádek v cílové tabulce neexistuje.
+  Projekt: %1
+  Řádek: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -280,7 +295,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiřadit tento projekt označenému řádku</translation>
     </message>
     <message>
         <source>Dokument-Liste</source>
@@ -288,7 +303,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
-        <translation type="unfinished"></translation>
+        <translation>Změny provedené aktualizací mapování ERP: </translation>
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
@@ -297,28 +312,30 @@ Wirklich fortfahren?</source>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Podmínka cílového projektu není splněna.
+  %1</translation>
     </message>
     <message>
         <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation type="unfinished"></translation>
+        <translation>Podmínka musí být porovnání</translation>
     </message>
     <message>
         <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzorec musí přiřadit hodnotu proměnné</translation>
     </message>
     <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekáváno: %1, nalezeno: %2</translation>
     </message>
     <message>
         <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekává se přiřazení proměnné %1</translation>
     </message>
     <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro tento řádek existuje přiřazení rozsahu hodnot.
+Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot“</translation>
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
@@ -338,19 +355,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapování projektu %1 bylo odebráno.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapování projektu %1 bylo přidáno.</translation>
     </message>
     <message>
         <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Chybný počet argumentů funkce %1</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtr</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -366,11 +383,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde se očekává porovnání, ne hodnota</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde se očekává hodnota, ne porovnání</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -438,15 +455,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen řádky přiřazené vícekrát</translation>
     </message>
     <message>
         <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen řádky původní tabulky přiřazené tomuto řádku</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Další výskyt (F3)</translation>
     </message>
     <message>
         <source>Pfad:</source>
@@ -458,7 +475,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projekte (*.prj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekty (*.prj)</translation>
     </message>
     <message>
         <source>Projektpfad:</source>
@@ -466,7 +483,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdroj a cíl nemají společnou proměnnou s hodnotou.</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -482,7 +499,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přizpůsobit šířku sloupců</translation>
     </message>
     <message>
         <source>Spaltenfilter</source>
@@ -490,7 +507,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtr sloupce %1</translation>
     </message>
     <message>
         <source>Status</source>
@@ -498,7 +515,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít hledání (Esc)</translation>
     </message>
     <message>
         <source>Suchen ...</source>
@@ -506,7 +523,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabelle %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -526,15 +543,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaše změny, které nebylo možné převzít:</translation>
     </message>
     <message>
         <source>Von Ihnen geplante Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vámi plánovaná změna:</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Předchozí výskyt (Shift+F3)</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
@@ -546,19 +563,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tyto hodnoty mají i další řádky zdrojové tabulky.</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tyto hodnoty mají i další řádky cílové tabulky.</translation>
     </message>
     <message>
         <source>Wertebereich (%1 Werte): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozsah hodnot (%1 hodnot): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat proměnné s rozsahem hodnot</translation>
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
@@ -566,7 +583,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wird abgebrochen...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruší se...</translation>
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
@@ -574,7 +591,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeichen %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Znak %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -598,11 +615,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazí řádky, jejichž hodnota obsahuje text. S =, &lt;, &lt;=, &gt; nebo &gt;= na začátku se porovnává.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiřazuje se řádek s LineID %1...</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
@@ -610,7 +627,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádky se znovu přiřazují</translation>
     </message>
     <message>
         <source>Zeilennummer</source>
@@ -647,7 +664,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Příliš málo hodnot řádku má protějšek v cílové tabulce.
+  Bez protějšku: %1</translation>
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
@@ -679,35 +697,35 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>konec</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>operátor nebo konec</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
-        <translation type="unfinished"></translation>
+        <translation>název proměnné</translation>
     </message>
     <message>
         <source>ein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>hodnota</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
-        <translation type="unfinished"></translation>
+        <translation>uzavírací závorka</translation>
     </message>
     <message>
         <source>enthält Fehler!</source>
-        <translation type="unfinished"></translation>
+        <translation>obsahuje chyby!</translation>
     </message>
     <message>
         <source>kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>žádná hodnota</translation>
     </message>
     <message>
         <source>noch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ještě %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

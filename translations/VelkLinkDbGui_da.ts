@@ -5,11 +5,11 @@
     <name>VelkLinkDbGui</name>
     <message>
         <source>  Zeile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>  Linje %1</translation>
     </message>
     <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &lt;b&gt;(kunne ikke findes)&lt;/b&gt;</translation>
     </message>
     <message>
         <source>%1 von %2</source>
@@ -17,27 +17,27 @@
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;&lt;br /&gt;Ændring foretaget af en anden bruger:</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Linjen blev markeret som udgået.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Linjen blev tildelt på ny. Den nyligt tildelte linje findes ikke (lokalt).</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Denne linje blev markeret som udgået.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Denne linje blev tildelt linjen&lt;br /&gt;%1 i projektet %2.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Ny tildeling: &lt;br /&gt;%3 i projektet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
         <source>Abbrechen</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Ophæv alle kolonnefiltre</translation>
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
@@ -61,21 +61,23 @@
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsat fra tabellens begyndelse</translation>
     </message>
     <message>
         <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsat fra tabellens slutning</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Også et andet målprojekt har en linje med disse værdier.
+  Projekt: %1
+  Linje: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tildel opløste værdiområder for denne linje</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
@@ -135,34 +137,37 @@
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
-        <translation type="unfinished"></translation>
+        <translation>Afbryder arbejdet</translation>
     </message>
     <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
-        <translation type="unfinished"></translation>
+        <translation>Opløsningen af værdiområderne kan tage meget lang tid, afhængigt af de valgte variabler og tabellens størrelse.
+Vil du virkelig fortsætte?</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektet ligger ikke under katalogmappen %1</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
-        <translation type="unfinished"></translation>
+        <translation>Målprojektet %1 findes ikke længere</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Målprojektet hedder noget andet end kildeprojektet, og ingen tildeling dertil er bekræftet.
+  Kildeprojekt: %1
+  Målprojekt: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Målprojektet med stien %1 blev fjernet.</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Målprojektet med stien %1 blev tilføjet.</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -178,89 +183,99 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation type="unfinished"></translation>
+        <translation>Teksten mangler den afsluttende apostrof</translation>
     </message>
     <message>
         <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation type="unfinished"></translation>
+        <translation>Udtrykket er indlejret for dybt</translation>
     </message>
     <message>
         <source>Der Text ist leer</source>
-        <translation type="unfinished"></translation>
+        <translation>Teksten er tom</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Betingelserne for projektet %1 blev ændret.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktionen %1 er ukendt</translation>
     </message>
     <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Formularen %1 kan ikke indlæses: %2</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
   Alte Normbezeichnung: %1
   Neue Normbezeichnung: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardbetegnelserne er forskellige.
+  Gammel betegnelse: %1
+  Ny betegnelse: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Projektdatum: %2, Neues Projektdatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektversionen af målprojektet med stien %1 blev ændret.
+  Gammel projektdato: %2, ny projektdato: %3</translation>
     </message>
     <message>
         <source>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kildeprojektets tabel kunne ikke åbnes.</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Målprojektets tabel kunne ikke læses.
+  Projekt: %1</translation>
     </message>
     <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen for mindst ét kildeprojekt kunne ikke åbnes.</translation>
     </message>
     <message>
         <source>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Tabellendatum: %2, Neues Tabellendatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelversionen af målprojektet med stien %1 blev ændret.
+  Gammel tabeldato: %2, ny tabeldato: %3</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation type="unfinished"></translation>
+        <translation>Variablen %1 findes ikke i måltabellen</translation>
     </message>
     <message>
         <source>Die Variable %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>Variablen %1 er ukendt</translation>
     </message>
     <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabeltilknytningen for projektet %1 blev ændret.</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
   Alter Wert: %2
   Neuer Wert: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Værdierne af variablen %1 er forskellige.
+  Gammel værdi: %2
+  Ny værdi: %3</translation>
     </message>
     <message>
         <source>Die Zeile %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Linjen %1 blev ændret.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>De fleste linjer har andre værdier i målprojektet.
+  Målprojekt: %1</translation>
     </message>
     <message>
         <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Den tildelte linje findes ikke i måltabellen.
+  Projekt: %1
+  Linje: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -280,7 +295,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tildel dette projekt til den markerede linje</translation>
     </message>
     <message>
         <source>Dokument-Liste</source>
@@ -288,7 +303,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
-        <translation type="unfinished"></translation>
+        <translation>Ændringer foretaget af opdateringen af ERP-mappingen: </translation>
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
@@ -297,28 +312,30 @@ Wirklich fortfahren?</source>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En betingelse for målprojektet er ikke opfyldt.
+  %1</translation>
     </message>
     <message>
         <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation type="unfinished"></translation>
+        <translation>En betingelse skal være en sammenligning</translation>
     </message>
     <message>
         <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>En formel skal tildele en variabel en værdi</translation>
     </message>
     <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Forventede %1, fandt %2</translation>
     </message>
     <message>
         <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der forventes en tildeling til variablen %1</translation>
     </message>
     <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Der findes en værdiområdetildeling for denne linje.
+Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
@@ -338,19 +355,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Et mapping for projektet %1 blev fjernet.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Et mapping for projektet %1 blev tilføjet.</translation>
     </message>
     <message>
         <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Forkert antal argumenter til funktionen %1</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -366,11 +383,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>Her forventes en sammenligning, ikke en værdi</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation type="unfinished"></translation>
+        <translation>Her forventes en værdi, ikke en sammenligning</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -438,15 +455,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis kun linjer, der er tildelt flere gange</translation>
     </message>
     <message>
         <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis kun linjer i den oprindelige tabel, der er tildelt denne linje</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Næste forekomst (F3)</translation>
     </message>
     <message>
         <source>Pfad:</source>
@@ -458,7 +475,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projekte (*.prj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekter (*.prj)</translation>
     </message>
     <message>
         <source>Projektpfad:</source>
@@ -466,7 +483,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilde og mål har ingen fælles variabel med en værdi.</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -482,7 +499,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilpas kolonnebredder</translation>
     </message>
     <message>
         <source>Spaltenfilter</source>
@@ -490,7 +507,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolonnefilter %1</translation>
     </message>
     <message>
         <source>Status</source>
@@ -498,7 +515,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Luk søgning (Esc)</translation>
     </message>
     <message>
         <source>Suchen ...</source>
@@ -506,7 +523,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabelle %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabel %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -526,15 +543,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dine ændringer, der ikke kunne overtages:</translation>
     </message>
     <message>
         <source>Von Ihnen geplante Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>Din planlagte ændring:</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Forrige forekomst (Skift+F3)</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
@@ -546,19 +563,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flere linjer i kildetabellen har disse værdier.</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flere linjer i måltabellen har disse værdier.</translation>
     </message>
     <message>
         <source>Wertebereich (%1 Werte): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Værdiområde (%1 værdier): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg værdiområdevariabler</translation>
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
@@ -566,7 +583,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wird abgebrochen...</source>
-        <translation type="unfinished"></translation>
+        <translation>Afbrydes...</translation>
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
@@ -574,7 +591,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeichen %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tegn %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -598,11 +615,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Viser linjer, hvis værdi indeholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes der.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
-        <translation type="unfinished"></translation>
+        <translation>Linjen med LineID %1 tildeles...</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
@@ -610,7 +627,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
-        <translation type="unfinished"></translation>
+        <translation>Linjer tildeles på ny</translation>
     </message>
     <message>
         <source>Zeilennummer</source>
@@ -647,7 +664,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>For få af linjens værdier har en modpart i måltabellen.
+  Uden modpart: %1</translation>
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
@@ -679,35 +697,35 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>slutningen</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>en operator eller slutningen</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
-        <translation type="unfinished"></translation>
+        <translation>et variabelnavn</translation>
     </message>
     <message>
         <source>ein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>en værdi</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
-        <translation type="unfinished"></translation>
+        <translation>en afsluttende parentes</translation>
     </message>
     <message>
         <source>enthält Fehler!</source>
-        <translation type="unfinished"></translation>
+        <translation>indeholder fejl!</translation>
     </message>
     <message>
         <source>kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen værdi</translation>
     </message>
     <message>
         <source>noch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tilbage</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -5,11 +5,11 @@
     <name>VelkLinkDbGui</name>
     <message>
         <source>  Zeile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>  Línea %1</translation>
     </message>
     <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &lt;b&gt;(no se pudo encontrar)&lt;/b&gt;</translation>
     </message>
     <message>
         <source>%1 von %2</source>
@@ -17,27 +17,27 @@
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;&lt;br /&gt;Cambio hecho por otro usuario:</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;La línea se marcó como caducada.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;La línea se reasignó. La línea asignada de nuevo no existe (localmente).</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Esta línea se marcó como caducada.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Esta línea se asignó a la línea&lt;br /&gt;%1 del proyecto %2.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Nueva asignación: &lt;br /&gt;%3 del proyecto %4 &lt;br /&gt;.</translation>
     </message>
     <message>
         <source>Abbrechen</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar todos los filtros de columna</translation>
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
@@ -61,21 +61,23 @@
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Se continuó desde el principio de la tabla</translation>
     </message>
     <message>
         <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Se continuó desde el final de la tabla</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro proyecto de destino también tiene una línea con estos valores.
+  Proyecto: %1
+  Línea: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Asignar los rangos de valores resueltos de esta línea</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
@@ -135,34 +137,37 @@
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancela el trabajo</translation>
     </message>
     <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolver los rangos de valores puede tardar mucho según las variables elegidas y el tamaño de la tabla.
+¿Continuar realmente?</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto no está bajo el directorio de catálogo %1</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto de destino %1 ya no existe</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto de destino se llama distinto que el de origen, y ninguna asignación hacia él está confirmada.
+  Proyecto de origen: %1
+  Proyecto de destino: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se quitó el proyecto de destino con la ruta %1.</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadió el proyecto de destino con la ruta %1.</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -178,89 +183,99 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la comilla de cierre del texto</translation>
     </message>
     <message>
         <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation type="unfinished"></translation>
+        <translation>La expresión está anidada a demasiada profundidad</translation>
     </message>
     <message>
         <source>Der Text ist leer</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto está vacío</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cambiaron las condiciones del proyecto %1.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>La función %1 es desconocida</translation>
     </message>
     <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede cargar el formulario %1: %2</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
   Alte Normbezeichnung: %1
   Neue Normbezeichnung: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Las denominaciones de la norma son distintas.
+  Denominación anterior: %1
+  Denominación nueva: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Projektdatum: %2, Neues Projektdatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambió la versión del proyecto de destino con la ruta %1.
+  Fecha anterior del proyecto: %2, fecha nueva del proyecto: %3</translation>
     </message>
     <message>
         <source>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir la tabla del proyecto de origen.</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer la tabla del proyecto de destino.
+  Proyecto: %1</translation>
     </message>
     <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir la tabla de al menos un proyecto de origen.</translation>
     </message>
     <message>
         <source>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Tabellendatum: %2, Neues Tabellendatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambió la versión de la tabla del proyecto de destino con la ruta %1.
+  Fecha anterior de la tabla: %2, fecha nueva de la tabla: %3</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable %1 no existe en la tabla de destino</translation>
     </message>
     <message>
         <source>Die Variable %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable %1 es desconocida</translation>
     </message>
     <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cambió la correspondencia de variables del proyecto %1.</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
   Alter Wert: %2
   Neuer Wert: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores de la variable %1 son distintos.
+  Valor anterior: %2
+  Valor nuevo: %3</translation>
     </message>
     <message>
         <source>Die Zeile %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cambió la línea %1.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La mayoría de las líneas tiene otros valores en el proyecto de destino.
+  Proyecto de destino: %1</translation>
     </message>
     <message>
         <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La línea asignada no existe en la tabla de destino.
+  Proyecto: %1
+  Línea: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -280,7 +295,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Asignar este proyecto a la línea seleccionada</translation>
     </message>
     <message>
         <source>Dokument-Liste</source>
@@ -288,7 +303,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
-        <translation type="unfinished"></translation>
+        <translation>Cambios hechos por la actualización del mapeo ERP: </translation>
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
@@ -297,28 +312,30 @@ Wirklich fortfahren?</source>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se cumple una condición del proyecto de destino.
+  %1</translation>
     </message>
     <message>
         <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation type="unfinished"></translation>
+        <translation>Una condición debe ser una comparación</translation>
     </message>
     <message>
         <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Una fórmula debe asignar un valor a una variable</translation>
     </message>
     <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Se esperaba %1, se encontró %2</translation>
     </message>
     <message>
         <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se espera una asignación a la variable %1</translation>
     </message>
     <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una asignación de rango de valores para esta línea.
+La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</translation>
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
@@ -338,19 +355,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se quitó un mapeo del proyecto %1.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadió un mapeo del proyecto %1.</translation>
     </message>
     <message>
         <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de argumentos incorrecto para la función %1</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -366,11 +383,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí se espera una comparación, no un valor</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí se espera un valor, no una comparación</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -438,15 +455,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo líneas asignadas varias veces</translation>
     </message>
     <message>
         <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo líneas de la tabla original asignadas a esta línea</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado siguiente (F3)</translation>
     </message>
     <message>
         <source>Pfad:</source>
@@ -458,7 +475,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projekte (*.prj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyectos (*.prj)</translation>
     </message>
     <message>
         <source>Projektpfad:</source>
@@ -466,7 +483,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation type="unfinished"></translation>
+        <translation>El origen y el destino no tienen ninguna variable común con valor.</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -482,7 +499,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar el ancho de las columnas</translation>
     </message>
     <message>
         <source>Spaltenfilter</source>
@@ -490,7 +507,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de columna %1</translation>
     </message>
     <message>
         <source>Status</source>
@@ -498,7 +515,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar la búsqueda (Esc)</translation>
     </message>
     <message>
         <source>Suchen ...</source>
@@ -506,7 +523,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabelle %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -526,15 +543,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambios suyos que no se pudieron incorporar:</translation>
     </message>
     <message>
         <source>Von Ihnen geplante Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio planeado por usted:</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado anterior (Mayús+F3)</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
@@ -546,19 +563,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras líneas de la tabla de origen tienen estos valores.</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras líneas de la tabla de destino tienen estos valores.</translation>
     </message>
     <message>
         <source>Wertebereich (%1 Werte): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Rango de valores (%1 valores): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar variables con rango de valores</translation>
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
@@ -566,7 +583,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wird abgebrochen...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelando...</translation>
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
@@ -574,7 +591,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeichen %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Carácter %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -598,11 +615,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra las líneas cuyo valor contiene el texto. Con =, &lt;, &lt;=, &gt; o &gt;= delante se compara.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
-        <translation type="unfinished"></translation>
+        <translation>Asignando la línea con LineID %1...</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
@@ -610,7 +627,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
-        <translation type="unfinished"></translation>
+        <translation>Reasignando las líneas</translation>
     </message>
     <message>
         <source>Zeilennummer</source>
@@ -647,7 +664,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocos valores de la línea tienen equivalente en la tabla de destino.
+  Sin equivalente: %1</translation>
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
@@ -679,35 +697,35 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>el final</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>un operador o el final</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
-        <translation type="unfinished"></translation>
+        <translation>un nombre de variable</translation>
     </message>
     <message>
         <source>ein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>un valor</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
-        <translation type="unfinished"></translation>
+        <translation>un paréntesis de cierre</translation>
     </message>
     <message>
         <source>enthält Fehler!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡contiene errores!</translation>
     </message>
     <message>
         <source>kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>ningún valor</translation>
     </message>
     <message>
         <source>noch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>faltan %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

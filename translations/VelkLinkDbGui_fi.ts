@@ -5,11 +5,11 @@
     <name>VelkLinkDbGui</name>
     <message>
         <source>  Zeile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>  Rivi %1</translation>
     </message>
     <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &lt;b&gt;(ei löytynyt)&lt;/b&gt;</translation>
     </message>
     <message>
         <source>%1 von %2</source>
@@ -17,27 +17,27 @@
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;&lt;br /&gt;Toisen käyttäjän tekemä muutos:</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Rivi merkittiin poistuneeksi.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Rivi kohdistettiin uudelleen. Uudelleen kohdistettua riviä ei ole (paikallisesti).</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Tämä rivi merkittiin poistuneeksi.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Tämä rivi kohdistettiin riviin&lt;br /&gt;%1 projektissa %2.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Uusi kohdistus: &lt;br /&gt;%3 projektissa %4 &lt;br /&gt;.</translation>
     </message>
     <message>
         <source>Abbrechen</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Poista kaikki sarakesuodattimet</translation>
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
@@ -61,21 +61,23 @@
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Jatkettiin taulukon alusta</translation>
     </message>
     <message>
         <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Jatkettiin taulukon lopusta</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Myös toisessa kohdeprojektissa on rivi näillä arvoilla.
+  Projekti: %1
+  Rivi: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdista tämän rivin puretut arvoalueet</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
@@ -135,34 +137,37 @@
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
-        <translation type="unfinished"></translation>
+        <translation>Keskeyttää työn</translation>
     </message>
     <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
-        <translation type="unfinished"></translation>
+        <translation>Arvoalueiden purkaminen voi kestää hyvin kauan valittujen muuttujien ja taulukon koon mukaan.
+Jatketaanko varmasti?</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekti ei ole luettelokansion %1 alla</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdeprojektia %1 ei enää ole</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdeprojektin nimi on eri kuin lähdeprojektin, eikä yhtään kohdistusta siihen ole vahvistettu.
+  Lähdeprojekti: %1
+  Kohdeprojekti: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdeprojekti, jonka polku on %1, poistettiin.</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdeprojekti, jonka polku on %1, lisättiin.</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -178,89 +183,99 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekstistä puuttuu lopettava heittomerkki</translation>
     </message>
     <message>
         <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation type="unfinished"></translation>
+        <translation>Lausekkeessa on liian monta sisäkkäistä tasoa</translation>
     </message>
     <message>
         <source>Der Text ist leer</source>
-        <translation type="unfinished"></translation>
+        <translation>Teksti on tyhjä</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektin %1 ehtoja muutettiin.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktiota %1 ei tunneta</translation>
     </message>
     <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lomaketta %1 ei voi ladata: %2</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
   Alte Normbezeichnung: %1
   Neue Normbezeichnung: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardin nimitykset eroavat.
+  Vanha nimitys: %1
+  Uusi nimitys: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Projektdatum: %2, Neues Projektdatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdeprojektin, jonka polku on %1, projektiversio muuttui.
+  Vanha projektin päiväys: %2, uusi projektin päiväys: %3</translation>
     </message>
     <message>
         <source>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lähdeprojektin taulukkoa ei voitu avata.</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdeprojektin taulukkoa ei voitu lukea.
+  Projekti: %1</translation>
     </message>
     <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vähintään yhden lähdeprojektin taulukkoa ei voitu avata.</translation>
     </message>
     <message>
         <source>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Tabellendatum: %2, Neues Tabellendatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdeprojektin, jonka polku on %1, taulukkoversio muuttui.
+  Vanha taulukon päiväys: %2, uusi taulukon päiväys: %3</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation type="unfinished"></translation>
+        <translation>Muuttujaa %1 ei ole kohdetaulukossa</translation>
     </message>
     <message>
         <source>Die Variable %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>Muuttujaa %1 ei tunneta</translation>
     </message>
     <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektin %1 muuttujien kohdistusta muutettiin.</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
   Alter Wert: %2
   Neuer Wert: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Muuttujan %1 arvot eroavat.
+  Vanha arvo: %2
+  Uusi arvo: %3</translation>
     </message>
     <message>
         <source>Die Zeile %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Riviä %1 muutettiin.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Useimmilla riveillä on kohdeprojektissa muut arvot.
+  Kohdeprojekti: %1</translation>
     </message>
     <message>
         <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdistettua riviä ei ole kohdetaulukossa.
+  Projekti: %1
+  Rivi: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -280,7 +295,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdista tämä projekti valittuun riviin</translation>
     </message>
     <message>
         <source>Dokument-Liste</source>
@@ -288,7 +303,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
-        <translation type="unfinished"></translation>
+        <translation>ERP-kohdistuksen päivityksen tekemät muutokset: </translation>
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
@@ -297,28 +312,30 @@ Wirklich fortfahren?</source>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdeprojektin ehto ei täyty.
+  %1</translation>
     </message>
     <message>
         <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation type="unfinished"></translation>
+        <translation>Ehdon on oltava vertailu</translation>
     </message>
     <message>
         <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaavan on annettava muuttujalle arvo</translation>
     </message>
     <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Odotettiin: %1, löytyi: %2</translation>
     </message>
     <message>
         <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Odotetaan sijoitusta muuttujaan %1</translation>
     </message>
     <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Tällä rivillä on arvoalueen kohdistus.
+Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</translation>
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
@@ -338,19 +355,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektin %1 kohdistus poistettiin.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektin %1 kohdistus lisättiin.</translation>
     </message>
     <message>
         <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktiolla %1 on väärä määrä argumentteja</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Suodatin</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -366,11 +383,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>Tässä odotetaan vertailua, ei arvoa</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation type="unfinished"></translation>
+        <translation>Tässä odotetaan arvoa, ei vertailua</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -438,15 +455,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>Näytä vain rivit, jotka on kohdistettu useasti</translation>
     </message>
     <message>
         <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>Näytä vain alkuperäisen taulukon rivit, jotka on kohdistettu tähän riviin</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuraava osuma (F3)</translation>
     </message>
     <message>
         <source>Pfad:</source>
@@ -458,7 +475,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projekte (*.prj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektit (*.prj)</translation>
     </message>
     <message>
         <source>Projektpfad:</source>
@@ -466,7 +483,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lähteellä ja kohteella ei ole yhteistä muuttujaa, jolla on arvo.</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -482,7 +499,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
-        <translation type="unfinished"></translation>
+        <translation>Sovita sarakkeiden leveydet</translation>
     </message>
     <message>
         <source>Spaltenfilter</source>
@@ -490,7 +507,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sarakesuodatin %1</translation>
     </message>
     <message>
         <source>Status</source>
@@ -498,7 +515,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sulje haku (Esc)</translation>
     </message>
     <message>
         <source>Suchen ...</source>
@@ -506,7 +523,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabelle %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Taulukko %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -526,15 +543,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekemäsi muutokset, joita ei voitu ottaa käyttöön:</translation>
     </message>
     <message>
         <source>Von Ihnen geplante Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>Suunnittelemasi muutos:</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Edellinen osuma (Vaihto+F3)</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
@@ -546,19 +563,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muillakin lähdetaulukon riveillä on nämä arvot.</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muillakin kohdetaulukon riveillä on nämä arvot.</translation>
     </message>
     <message>
         <source>Wertebereich (%1 Werte): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Arvoalue (%1 arvoa): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Valitse arvoaluemuuttujat</translation>
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
@@ -566,7 +583,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wird abgebrochen...</source>
-        <translation type="unfinished"></translation>
+        <translation>Keskeytetään...</translation>
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
@@ -574,7 +591,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeichen %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Merkki %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -598,11 +615,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Näyttää rivit, joiden arvo sisältää tekstin. Kun edessä on =, &lt;, &lt;=, &gt; tai &gt;=, arvoa verrataan.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohdistetaan riviä, jonka LineID on %1...</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
@@ -610,7 +627,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
-        <translation type="unfinished"></translation>
+        <translation>Rivejä kohdistetaan uudelleen</translation>
     </message>
     <message>
         <source>Zeilennummer</source>
@@ -647,7 +664,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Liian harvalla rivin arvolla on vastine kohdetaulukossa.
+  Ilman vastinetta: %1</translation>
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
@@ -679,35 +697,35 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>loppu</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>operaattori tai loppu</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
-        <translation type="unfinished"></translation>
+        <translation>muuttujan nimi</translation>
     </message>
     <message>
         <source>ein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>arvo</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
-        <translation type="unfinished"></translation>
+        <translation>sulkeva sulje</translation>
     </message>
     <message>
         <source>enthält Fehler!</source>
-        <translation type="unfinished"></translation>
+        <translation>sisältää virheitä!</translation>
     </message>
     <message>
         <source>kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>ei arvoa</translation>
     </message>
     <message>
         <source>noch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 jäljellä</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -5,11 +5,11 @@
     <name>VelkLinkDbGui</name>
     <message>
         <source>  Zeile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>  Ligne %1</translation>
     </message>
     <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &lt;b&gt;(introuvable)&lt;/b&gt;</translation>
     </message>
     <message>
         <source>%1 von %2</source>
@@ -17,27 +17,27 @@
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;&lt;br /&gt;Modification effectuée par un autre utilisateur :</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;La ligne a été marquée comme supprimée du programme.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;La ligne a été réaffectée. La ligne nouvellement affectée n'existe pas (localement).</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Cette ligne a été marquée comme supprimée du programme.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Cette ligne a été affectée à la ligne&lt;br /&gt;%1 du projet %2.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;br /&gt;Nouvelle affectation : &lt;br /&gt;%3 du projet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
         <source>Abbrechen</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Alle Spaltenfilter aufheben</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer tous les filtres de colonne</translation>
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
@@ -61,21 +61,23 @@
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Poursuivi au début de la table</translation>
     </message>
     <message>
         <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation type="unfinished"></translation>
+        <translation>Poursuivi à la fin de la table</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre projet cible contient aussi une ligne avec ces valeurs.
+  Projet : %1
+  Ligne : %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Affecter les plages de valeurs résolues pour cette ligne</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
@@ -135,34 +137,37 @@
     </message>
     <message>
         <source>Bricht die Arbeit ab</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompt le travail</translation>
     </message>
     <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
-        <translation type="unfinished"></translation>
+        <translation>La résolution des plages de valeurs peut durer très longtemps selon les variables choisies et la taille de la table.
+Vraiment continuer ?</translation>
     </message>
     <message>
         <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet ne se trouve pas sous le répertoire de catalogue %1</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet cible %1 n'existe plus</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet cible porte un autre nom que le projet source, et aucune affectation vers lui n'est confirmée.
+  Projet source : %1
+  Projet cible : %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet cible avec le chemin %1 a été supprimé.</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet cible avec le chemin %1 a été ajouté.</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -178,89 +183,99 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque l'apostrophe fermante du texte</translation>
     </message>
     <message>
         <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation type="unfinished"></translation>
+        <translation>L'expression est imbriquée trop profondément</translation>
     </message>
     <message>
         <source>Der Text ist leer</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte est vide</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les conditions du projet %1 ont été modifiées.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>La fonction %1 est inconnue</translation>
     </message>
     <message>
         <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le formulaire %1 ne peut pas être chargé : %2</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
   Alte Normbezeichnung: %1
   Neue Normbezeichnung: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Les désignations de norme diffèrent.
+  Ancienne désignation : %1
+  Nouvelle désignation : %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Projektdatum: %2, Neues Projektdatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>La version du projet cible avec le chemin %1 a été modifiée.
+  Ancienne date du projet : %2, nouvelle date du projet : %3</translation>
     </message>
     <message>
         <source>Die Tabelle des Quellprojekts konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>La table du projet source n'a pas pu être ouverte.</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La table du projet cible n'a pas pu être lue.
+  Projet : %1</translation>
     </message>
     <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>La table d'au moins un projet source n'a pas pu être ouverte.</translation>
     </message>
     <message>
         <source>Die Tabellenversion des Zielprojektes mit dem Pfad %1 wurde geändert.
   Altes Tabellendatum: %2, Neues Tabellendatum: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>La version de la table du projet cible avec le chemin %1 a été modifiée.
+  Ancienne date de la table : %2, nouvelle date de la table : %3</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable %1 n'existe pas dans la table cible</translation>
     </message>
     <message>
         <source>Die Variable %1 ist nicht bekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable %1 est inconnue</translation>
     </message>
     <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>La correspondance des variables du projet %1 a été modifiée.</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
   Alter Wert: %2
   Neuer Wert: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs de la variable %1 diffèrent.
+  Ancienne valeur : %2
+  Nouvelle valeur : %3</translation>
     </message>
     <message>
         <source>Die Zeile %1 wurde geändert.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne %1 a été modifiée.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La plupart des lignes ont d'autres valeurs dans le projet cible.
+  Projet cible : %1</translation>
     </message>
     <message>
         <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne affectée n'existe pas dans la table cible.
+  Projet : %1
+  Ligne : %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -280,7 +295,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Affecter ce projet à la ligne sélectionnée</translation>
     </message>
     <message>
         <source>Dokument-Liste</source>
@@ -288,7 +303,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Durchgeführte Änderungen durch Update des ERP-Mappings: </source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications effectuées par la mise à jour du mapping ERP : </translation>
     </message>
     <message>
         <source>ERP-Nummer beantragen</source>
@@ -297,28 +312,30 @@ Wirklich fortfahren?</source>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Une condition du projet cible n'est pas remplie.
+  %1</translation>
     </message>
     <message>
         <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation type="unfinished"></translation>
+        <translation>Une condition doit être une comparaison</translation>
     </message>
     <message>
         <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation type="unfinished"></translation>
+        <translation>Une formule doit affecter une valeur à une variable</translation>
     </message>
     <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 attendu, %2 trouvé</translation>
     </message>
     <message>
         <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Une affectation à la variable %1 est attendue</translation>
     </message>
     <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
-        <translation type="unfinished"></translation>
+        <translation>Il existe une affectation de plage de valeurs pour cette ligne.
+L'affectation doit être modifiée par « Modifier l'affectation de plages de valeurs »</translation>
     </message>
     <message>
         <source>Es existiert mindestens ein Konflikt.</source>
@@ -338,19 +355,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un mapping du projet %1 a été supprimé.</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un mapping du projet %1 a été ajouté.</translation>
     </message>
     <message>
         <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d'arguments incorrect pour la fonction %1</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -366,11 +383,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>Une comparaison est attendue ici, pas une valeur</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation type="unfinished"></translation>
+        <translation>Une valeur est attendue ici, pas une comparaison</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -438,15 +455,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>N'afficher que les lignes affectées plusieurs fois</translation>
     </message>
     <message>
         <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
-        <translation type="unfinished"></translation>
+        <translation>N'afficher que les lignes de la table d'origine affectées à cette ligne</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Occurrence suivante (F3)</translation>
     </message>
     <message>
         <source>Pfad:</source>
@@ -458,7 +475,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Projekte (*.prj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projets (*.prj)</translation>
     </message>
     <message>
         <source>Projektpfad:</source>
@@ -466,7 +483,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation type="unfinished"></translation>
+        <translation>La source et la cible n'ont aucune variable commune ayant une valeur.</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -482,7 +499,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster la largeur des colonnes</translation>
     </message>
     <message>
         <source>Spaltenfilter</source>
@@ -490,7 +507,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Spaltenfilter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre de colonne %1</translation>
     </message>
     <message>
         <source>Status</source>
@@ -498,7 +515,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Suche schließen (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la recherche (Échap)</translation>
     </message>
     <message>
         <source>Suchen ...</source>
@@ -506,7 +523,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Tabelle %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Table %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -526,15 +543,15 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Von Ihnen durchgeführte Änderungen, welche nicht übernommen werden konnten:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos modifications qui n'ont pas pu être reprises :</translation>
     </message>
     <message>
         <source>Von Ihnen geplante Änderung:</source>
-        <translation type="unfinished"></translation>
+        <translation>Modification que vous aviez prévue :</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Occurrence précédente (Maj+F3)</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
@@ -546,19 +563,19 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>D'autres lignes de la table source ont ces valeurs.</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation type="unfinished"></translation>
+        <translation>D'autres lignes de la table cible ont ces valeurs.</translation>
     </message>
     <message>
         <source>Wertebereich (%1 Werte): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Plage de valeurs (%1 valeurs) : %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir les variables à plage de valeurs</translation>
     </message>
     <message>
         <source>Wertebereichszuordnungen bearbeiten</source>
@@ -566,7 +583,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wird abgebrochen...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulation en cours...</translation>
     </message>
     <message>
         <source>XVARSET des markierten Dokuments:</source>
@@ -574,7 +591,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeichen %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Caractère %1 : %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -598,11 +615,11 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les lignes dont la valeur contient le texte. Précédé de =, &lt;, &lt;=, &gt; ou &gt;=, il est comparé.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
-        <translation type="unfinished"></translation>
+        <translation>Affectation de la ligne avec LineID %1...</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
@@ -610,7 +627,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
-        <translation type="unfinished"></translation>
+        <translation>Réaffectation des lignes</translation>
     </message>
     <message>
         <source>Zeilennummer</source>
@@ -647,7 +664,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu de valeurs de la ligne ont un équivalent dans la table cible.
+  Sans équivalent : %1</translation>
     </message>
     <message>
         <source>Zu überprüfende Zuordnungen</source>
@@ -679,35 +697,35 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>la fin</translation>
     </message>
     <message>
         <source>ein Operator oder das Ende</source>
-        <translation type="unfinished"></translation>
+        <translation>un opérateur ou la fin</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
-        <translation type="unfinished"></translation>
+        <translation>un nom de variable</translation>
     </message>
     <message>
         <source>ein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>une valeur</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
-        <translation type="unfinished"></translation>
+        <translation>une parenthèse fermante</translation>
     </message>
     <message>
         <source>enthält Fehler!</source>
-        <translation type="unfinished"></translation>
+        <translation>contient des erreurs !</translation>
     </message>
     <message>
         <source>kein Wert</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune valeur</translation>
     </message>
     <message>
         <source>noch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>encore %1</translation>
     </message>
     <message>
         <source>Übersicht</source>
