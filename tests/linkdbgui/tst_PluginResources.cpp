@@ -42,6 +42,8 @@ private Q_SLOTS:
     void formsAreTranslated();
     void contextOfACatalog_data();
     void contextOfACatalog();
+    void sameSources_data();
+    void sameSources();
     void texts_data();
     void texts();
 };
@@ -387,6 +389,23 @@ void tst_PluginResources::contextOfACatalog()
     QVERIFY(!translation.isEmpty());
     QCOMPARE(translation == QStringLiteral("Gruppe auswählen"), language == QLatin1String("de"));
     QCOMPARE(translator.translate("LinkDbGuiC", "Gruppe auswählen"), QString());
+}
+
+void tst_PluginResources::sameSources_data()
+{
+    contextOfACatalog_data();
+}
+
+void tst_PluginResources::sameSources()
+{
+    QFETCH(QString, language);
+    const auto sources = [](const QString &of) {
+        QStringList texts;
+        for (const Message &message : messagesOf(of))
+            texts << message.source;
+        return texts;
+    };
+    QCOMPARE(sources(language), sources(QStringLiteral("de")));
 }
 
 void tst_PluginResources::texts_data()
