@@ -2,6 +2,23 @@
 
 #include <QColor>
 #include <QLabel>
+#include <QPalette>
+
+namespace {
+
+/// Both colours are made for a light ground, so they bring one along where the window is dark.
+void setGround(QLabel *label, bool shown)
+{
+    const bool isDark = label->parentWidget() &&
+                        label->parentWidget()->palette().color(QPalette::Window).lightness() < 128;
+    QPalette palette;
+    if (isDark && shown)
+        palette.setColor(QPalette::Window, QColor(0xe8, 0xe8, 0xe8));
+    label->setPalette(palette);
+    label->setAutoFillBackground(isDark && shown);
+}
+
+} // namespace
 
 void DesignationLabels::setSourceText(const QString &text)
 {
@@ -22,10 +39,14 @@ void DesignationLabels::show() const
     if (sourceText.isEmpty() && targetText.isEmpty()) {
         sourceLabel->setText(sourceText);
         targetLabel->setText(targetText);
+        setGround(sourceLabel, false);
+        setGround(targetLabel, false);
         return;
     }
     const QColor colour(sourceText == targetText ? Qt::darkGreen : Qt::red);
     const QString begin = QStringLiteral("<span style=\"color:%1;\">").arg(colour.name());
     sourceLabel->setText(begin + sourceText + QStringLiteral("</span>"));
     targetLabel->setText(begin + targetText + QStringLiteral("</span>"));
+    setGround(sourceLabel, !sourceText.isEmpty());
+    setGround(targetLabel, !targetText.isEmpty());
 }

@@ -19,6 +19,7 @@ QLabel *createLabel(const QString &name, const QString &meaning, QWidget *parent
     label->setObjectName(name);
     label->setAccessibleName(meaning);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setMinimumWidth(1); // a long text must not keep the pane from getting narrower
     return label;
 }
 
@@ -26,6 +27,7 @@ QLabel *createLabel(const QString &name, const QString &meaning, QWidget *parent
 QHBoxLayout *createRow(const QString &caption, QLabel *label)
 {
     auto *const row = new QHBoxLayout;
+    row->setContentsMargins(4, 0, 0, 0);
     row->addWidget(new QLabel(caption, label->parentWidget()));
     row->addWidget(label);
     row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum));

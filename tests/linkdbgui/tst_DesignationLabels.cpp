@@ -12,6 +12,7 @@ private Q_SLOTS:
     void texts();
     void withoutBothLabels();
     void everyChangeShows();
+    void lightGroundInADarkWindow();
 };
 
 void tst_DesignationLabels::texts_data()
@@ -82,6 +83,25 @@ void tst_DesignationLabels::everyChangeShows()
     labels.setSourceText("");
     labels.setTargetText("");
     QCOMPARE(sourceLabel.text() + targetLabel.text(), QString());
+}
+
+void tst_DesignationLabels::lightGroundInADarkWindow()
+{
+    QWidget window;
+    QLabel sourceLabel(&window);
+    QLabel targetLabel(&window);
+    DesignationLabels labels;
+    labels.sourceLabel = &sourceLabel;
+    labels.targetLabel = &targetLabel;
+    labels.setSourceText("a");
+    QVERIFY(!sourceLabel.autoFillBackground());
+    window.setPalette(QPalette(QColor(40, 40, 40)));
+    labels.setSourceText("b");
+    QVERIFY(sourceLabel.autoFillBackground());
+    QVERIFY(sourceLabel.palette().color(QPalette::Window).lightness() > 200);
+    QVERIFY(!targetLabel.autoFillBackground());
+    labels.setSourceText("");
+    QVERIFY(!sourceLabel.autoFillBackground());
 }
 
 QTEST_MAIN(tst_DesignationLabels)
