@@ -6,9 +6,9 @@
 
 namespace {
 
-/// Qt numbers types from QMetaType::User on and does not tell the last number; no process comes
-/// near this many.
-constexpr int maximumTypes = 1 << 16;
+/// Qt numbers types from QMetaType::User on, fills gaps first and does not tell the last number; a
+/// gap this long is the end.
+constexpr int longestGap = 1024;
 
 /// Where the library begins in which an object lies; null if it lies in none.
 const void *libraryOf(const void *object)
@@ -23,8 +23,10 @@ LibraryMetaTypes::~LibraryMetaTypes()
 {
     static const char inThisLibrary = 0;
     const void *const library = libraryOf(&inThisLibrary);
-    for (int id = QMetaType::User + 1; id <= QMetaType::User + maximumTypes; ++id) {
-        if (!QMetaType::isRegistered(id))
+    int gap = 0;
+    for (int id = QMetaType::User + 1; gap < longestGap; ++id) {
+        gap = QMetaType::isRegistered(id) ? 0 : gap + 1;
+        if (gap > 0)
             continue;
         const QMetaType type(id);
         if (libraryOf(type.iface()) == library)

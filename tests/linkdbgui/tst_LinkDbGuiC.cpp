@@ -16,6 +16,7 @@
 #include <QIcon>
 #include <QMetaMethod>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <algorithm>
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void isCreatedByTheRegistry();
     void initLinkDb_data();
     void initLinkDb();
+    void connectsWithoutWarning();
     void asksForTheLicenceOnceTheGuiIsUp();
     void actions_data();
     void actions();
@@ -181,6 +183,21 @@ void tst_LinkDbGuiC::initLinkDb()
     LinkDbGuiC plugin;
     const PRefPtr<PLinkDbC> database(hasDatabase ? new PLinkDbC : nullptr);
     QTEST(plugin.initLinkDb(database), "expected");
+}
+
+void tst_LinkDbGuiC::connectsWithoutWarning()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    PApplication host({});
+    int queries = 0;
+    PLicence::setQuery([&queries](const QString &) {
+        ++queries;
+        return true;
+    });
+    const LinkDbGuiC plugin;
+    QCOMPARE(queries, 0);
+    host.setInitialized();
+    QCOMPARE(queries, 1);
 }
 
 void tst_LinkDbGuiC::asksForTheLicenceOnceTheGuiIsUp()
