@@ -46,6 +46,7 @@ private Q_SLOTS:
     void unreadableFilesAreKept_data();
     void unreadableFilesAreKept();
     void somebodyIsSaving();
+    void aLostReleaseIsAFailure();
     void failuresAreUndone_data();
     void failuresAreUndone();
     void aFailedNewFileIsRemoved();
@@ -272,6 +273,30 @@ void tst_GuardedSave::somebodyIsSaving()
     QCOMPARE(SessionFixture::content(m_file), before);
     other.unlock();
     QCOMPARE(m_document->save().result, SaveResult::Saved);
+}
+
+void tst_GuardedSave::aLostReleaseIsAFailure()
+{
+    const ReleaseMappingC other = SessionFixture::sampleRelease(QStringLiteral("2020-01-01"));
+    m_files->addRelease(m_file, other);
+    const QByteArray before = SessionFixture::content(m_file);
+    for (const bool keepOther : {false, true}) {
+        const SaveOutcome outcome = saveWith([&] {
+            MappingFile file;
+            ReleaseMappingC release = SessionFixture::sampleRelease();
+            release.addMapping(SessionFixture::withState(release.mappingAt(0), {1}, 2));
+            file.setRelease(release);
+            ReleaseMappingC changed = other;
+            changed.setTargetDate(QStringLiteral("2021-01-01"));
+            if (keepOther)
+                file.setRelease(changed);
+            return file.write(m_file);
+        });
+        QCOMPARE(outcome.result, SaveResult::WriteFailed);
+        QVERIFY2(outcome.text.contains(QStringLiteral("fehlt der Stand 2020-01-01")),
+                 qPrintable(outcome.text));
+        QCOMPARE(SessionFixture::content(m_file), before);
+    }
 }
 
 void tst_GuardedSave::failuresAreUndone_data()

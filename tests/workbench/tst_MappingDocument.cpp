@@ -432,6 +432,7 @@ void tst_MappingDocument::undoReachesTheSavedState()
     QVERIFY(!m_document->isModified());
     m_document->undo();
     change(SessionFixture::withState(m_document->mapping(id(Path)), {5}, 2));
+    QVERIFY(m_document->isModified());
     m_document->undo();
     QVERIFY(m_document->isModified()); // the saved state was undone and forgotten
 }

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void countsFollowChanges();
     void followsANewTree();
     void linesOfSeveralTargets();
+    void projectsThatStandTwice();
     void largeTables();
     void lineByNumber();
     void linesByText_data();
@@ -239,6 +240,19 @@ void tst_OpenLines::linesOfSeveralTargets()
     QCOMPARE(lines.next(ref(A, 9)), ref(A, 4));
     QCOMPARE(lines.previous(ref(A, 9)), ref(A, 6));
     QCOMPARE(lines.previous(ref(A, 4)), ref(A, 9));
+}
+
+void tst_OpenLines::projectsThatStandTwice()
+{
+    // Two table versions of one project: the tree shows the first twice.
+    PrjMappingC second = open(B, {5});
+    second.setTabVersion(QStringLiteral("t2"));
+    use({open(A, {7}), open(B, {3}), second});
+    const OpenLines lines(m_document.get());
+    QCOMPARE(lines.next(LineRef()), ref(B, 3));
+    QCOMPARE(lines.next(ref(B, 3)), ref(A, 7));
+    QCOMPARE(lines.next(ref(A, 7)), ref(B, 3));
+    QCOMPARE(lines.previous(ref(B, 3)), ref(A, 7));
 }
 
 void tst_OpenLines::largeTables()

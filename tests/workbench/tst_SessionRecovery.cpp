@@ -312,6 +312,8 @@ void tst_SessionRecovery::nothingToRecover_data()
     QTest::newRow("undone") << QStringList{QStringLiteral("confirm"), QStringLiteral("undo")};
     QTest::newRow("undone behind an autosave") << QStringList{
         QStringLiteral("confirm"), QStringLiteral("autosave"), QStringLiteral("undo")};
+    QTest::newRow("discarded behind an autosave") << QStringList{
+        QStringLiteral("confirm"), QStringLiteral("autosave"), QStringLiteral("close")};
     QTest::newRow("discarded") << QStringList{QStringLiteral("confirm"), QStringLiteral("close")};
 }
 
@@ -321,6 +323,8 @@ void tst_SessionRecovery::nothingToRecover()
     kill(deeds);
     QCOMPARE(open(), MappingDocument::OpenResult::Opened);
     QVERIFY(!m_document->recoveryOffer().isValid());
+    // Only what was undone without saving is worth keeping.
+    QCOMPARE(names(QStringLiteral("*.alt-*")).isEmpty(), !deeds.contains(QStringLiteral("undo")));
     m_document->close();
     QCOMPARE(open(), MappingDocument::OpenResult::Opened);
 }
