@@ -1,9 +1,10 @@
 #include "ApplicationTheme.h"
 
+#include "WorkbenchStyle.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
-#include <QStyleFactory>
 #include <QToolTip>
 
 namespace {
@@ -55,7 +56,7 @@ void ApplicationTheme::setColours(const QString &theme)
 {
     if (theme != "light" && theme != "dark")
         return;
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new WorkbenchStyle);
     const QPalette palette = paletteOf(theme == "dark" ? darkColours : lightColours);
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);

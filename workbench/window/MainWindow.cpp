@@ -172,14 +172,16 @@ void MainWindow::updateState()
 void MainWindow::updateTitle()
 {
     const MappingDocument *const document = m_desk->document();
-    setWindowModified(document->isOpen() && document->isModified());
-    if (!document->isOpen())
+    if (!document->isOpen()) {
+        setWindowModified(false);
         return setWindowTitle(QStringLiteral("Velkworkbench"));
+    }
     QString title = QFileInfo(document->mappingFile()).fileName() + QStringLiteral("[*] – ") +
                     document->rootName();
     if (document->isReadOnly())
         title += QStringLiteral(" (") + tr("schreibgeschützt") + ')';
     setWindowTitle(title);
+    setWindowModified(document->isModified());
 }
 
 void MainWindow::updateCounter()

@@ -1,0 +1,116 @@
+#include "WindowFixture.h"
+
+#include <core/config/PConfigInst.h>
+#include <core/plugin/PTranslateManager.h>
+#include <geomcore/records/MappingFile.h>
+#include <geomcoregui/table/VkTableView.h>
+#include <gui/application/PApplication.h>
+#include <workbench/start/PluginLibrary.h>
+#include <workbench/window/DocumentDesk.h>
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/MappingMaker.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <QAction>
+#include <QDir>
+#include <QTest>
+
+namespace {
+
+/// Bytes of the example's mapping.
+const QByteArray &exampleMapping()
+{
+    static const QByteArray bytes = [] {
+        const CatalogRoots roots = WindowFixture::roots();
+        MappingMaker maker;
+        const bool made = maker.make({.sourceRoot = roots.source,
+                                      .targetRoot = roots.target,
+                                      .sourceCatalog = "standardparts",
+                                      .targetCatalog = "standardparts"});
+        MappingFile file;
+        if (made)
+            file.setRelease(maker.release());
+        return file.toByteArray();
+    }();
+    return bytes;
+}
+
+} // namespace
+
+WindowFixture::WindowFixture()
+    : application(std::make_unique<PApplication>(
+          PRefPtr<PConfig>(new PConfigInst(directory.filePath("windows.cfg"), false))))
+    , plugin(std::make_unique<PluginLibrary>())
+    , settings(std::make_unique<WorkbenchSettings>(directory.filePath("workbench.ini")))
+{
+    if (!QDir::searchPaths("bitmaps").contains(":/hostbitmaps"))
+        QDir::addSearchPath("bitmaps", ":/hostbitmaps");
+    PTranslateManager::registerModule("velkworkbench");
+    PTranslateManager::instance().setLanguage("de");
+    if (!plugin->load(QStringLiteral(VELK_BINARY_DIR "/lib/libVelkLinkDbGui.so")))
+        qFatal("%s", qUtf8Printable(plugin->error()));
+    makeWindow();
+}
+
+WindowFixture::~WindowFixture() = default;
+
+CatalogRoots WindowFixture::roots()
+{
+    return {QStringLiteral(VELK_SOURCE_DIR "/examples/release-1"),
+            QStringLiteral(VELK_SOURCE_DIR "/examples/release-2")};
+}
+
+QString WindowFixture::mappingFile(const QString &name) const
+{
+    QFile file(directory.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(exampleMapping()) < 0)
+        qFatal("cannot write %s", qUtf8Printable(file.fileName()));
+    return file.fileName();
+}
+
+void WindowFixture::makeWindow()
+{
+    window = std::make_unique<MainWindow>(settings.get(), plugin->plugin());
+    window->show();
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window.get()))
+        qFatal("the window does not become active");
+}
+
+void WindowFixture::closeWindow()
+{
+    window.reset();
+}
+
+void WindowFixture::open(const QString &file)
+{
+    window->desk()->open({.file = file, .roots = roots()});
+    QApplication::processEvents();
+}
+
+void WindowFixture::press(int key, Qt::KeyboardModifiers modifiers)
+{
+    // Without a window manager nobody activates it after a dialog.
+    if (!window->isActiveWindow()) {
+        window->activateWindow();
+        if (!QTest::qWaitForWindowActive(window.get()))
+            qFatal("the window does not become active");
+    }
+    QWidget *const focus = QApplication::focusWidget();
+    QTest::keyClick(focus ? focus : window.get(), Qt::Key(key), modifiers);
+    QApplication::processEvents();
+}
+
+QAction *WindowFixture::action(const char *name) const
+{
+    auto *found = window->findChild<QAction *>(QLatin1String(name));
+    if (!found)
+        qFatal("there is no action %s", name);
+    return found;
+}
+
+VkTableView *WindowFixture::sourceView() const
+{
+    return window->editor()->sourceView();
+}

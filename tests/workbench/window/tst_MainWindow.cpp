@@ -1,0 +1,495 @@
+#include "ModalScript.h"
+#include "WindowFixture.h"
+
+#include <core/message/PMessage.h>
+#include <geomcoregui/table/VkTableView.h>
+#include <workbench/session/MappingDocument.h>
+#include <workbench/window/DocumentDesk.h>
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/LineCommands.h>
+#include <workbench/window/LogWindow.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/StatusArea.h>
+#include <workbench/window/TourOverlay.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QTreeView>
+
+namespace {
+
+const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
+
+QStringList warnings;
+QtMessageHandler formerHandler = nullptr;
+
+void noteWarnings(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (type == QtWarningMsg && text.contains("connect"))
+        warnings << text;
+    formerHandler(type, context, text);
+}
+
+int countState(const MappingDocument &document)
+{
+    return document.counts().verified();
+}
+
+} // namespace
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { formerHandler = qInstallMessageHandler(noteWarnings); }
+    void cleanupTestCase()
+    {
+        qInstallMessageHandler(formerHandler);
+        QCOMPARE(warnings, QStringList());
+    }
+
+    void startsWithNothingOpen()
+    {
+        WindowFixture fixture;
+        auto *pages = qobject_cast<QStackedWidget *>(fixture.window->centralWidget());
+        QCOMPARE(pages->currentWidget()->objectName(), QStringLiteral("WelcomePage"));
+        QCOMPARE(fixture.window->windowTitle(), QStringLiteral("Velkworkbench"));
+        for (const char *name :
+             {"fileSave", "fileSaveAs", "fileClose", "fileRoots", "editUndo", "editRedo",
+              "linesConfirm", "linesRemove", "linesRemoveConfirm", "assignAll", "checkRanges",
+              "goNext", "goPrevious", "goLine", "viewRefresh"})
+            QVERIFY2(!fixture.action(name)->isEnabled(), name);
+        for (const char *name : {"fileNew", "fileOpen", "fileExample", "fileQuit", "settings",
+                                 "helpTour", "helpAbout"})
+            QVERIFY2(fixture.action(name)->isEnabled(), name);
+        QVERIFY(!fixture.window->status()->findChild<QLabel *>("statusOpen")->isVisible());
+    }
+
+    void opensAFile()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        fixture.open(file);
+        QVERIFY(fixture.window->editor()->isOpen());
+        QVERIFY(fixture.window->editor()->isVisible());
+        QVERIFY(fixture.window->windowTitle().startsWith("m.json[*] – "));
+        QVERIFY(!fixture.window->isWindowModified());
+        QCOMPARE(fixture.settings->recentFiles(), QStringList{file});
+        const auto recent = fixture.window->findChild<QMenu *>("recentMenu")->actions();
+        QCOMPARE(recent.first()->text(), "&1  " + file);
+        QCOMPARE(fixture.window->status()->findChild<QLabel *>("statusOpen")->text(),
+                 QStringLiteral("Offen: <a href=\"next\">784 Zeilen</a> in 35 Projekten"));
+    }
+
+    void remembersTheCatalogs()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        fixture.open(file);
+        QVERIFY(fixture.window->desk()->close());
+        // No question for the directories this time.
+        QVERIFY(fixture.window->desk()->open({.file = file, .mayAsk = false}));
+        QCOMPARE(fixture.window->desk()->document()->catalogRoots(), WindowFixture::roots());
+    }
+
+    void asksForUnknownCatalogs()
+    {
+        WindowFixture fixture;
+        ModalScript script;
+        script.thenClick("ok"); // disabled: nothing is entered
+        script.then([](QWidget *) {});
+        const QString file = fixture.mappingFile();
+        QTimer::singleShot(100, fixture.window.get(), [] {
+            QWidget *const dialog = QApplication::activeModalWidget();
+            QVERIFY(dialog);
+            QCOMPARE(dialog->objectName(), QStringLiteral("CatalogRootsDialog"));
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        QVERIFY(!fixture.window->desk()->open({.file = file}));
+        QVERIFY(!fixture.window->desk()->document()->isOpen());
+    }
+
+    void tellsWhatCannotBeOpened()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.directory.filePath("gone.json");
+        fixture.settings->addRecentFile(file);
+        ModalScript script;
+        script.thenClick("answerCancel");
+        QVERIFY(!fixture.window->desk()->open({.file = file}));
+        QVERIFY(script.isDone());
+        QCOMPARE(script.texts, QStringList{"Die Datei kann nicht geöffnet werden."});
+        QVERIFY(fixture.window->log()->text().contains("gone.json"));
+        QVERIFY(fixture.window->log()->isVisible());
+        QCOMPARE(fixture.settings->recentFiles(), QStringList());
+    }
+
+    void confirmsByKeyboardAndUndoes()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        const QString path = din933;
+        const int line = 3;
+        QVERIFY(fixture.window->editor()->goTo({{path, {}, {}}, line}));
+        fixture.press(Qt::Key_V);
+        QTRY_COMPARE(countState(document), 1);
+        QTRY_VERIFY(fixture.window->isWindowModified());
+        QTRY_COMPARE(fixture.action("editUndo")->text(),
+                     "&Rückgängig: 1 Zeile bestätigt in " + path);
+        QTRY_COMPARE(fixture.window->status()->note(), "1 Zeile bestätigt in " + path);
+        QVERIFY(fixture.window->status()
+                    ->findChild<QLabel *>("statusNote")
+                    ->text()
+                    .endsWith("<a href=\"undo\">rückgängig</a>"));
+        QTRY_VERIFY(fixture.window->status()
+                        ->findChild<QLabel *>("statusOpen")
+                        ->text()
+                        .contains("783 Zeilen"));
+
+        fixture.press(Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(countState(document), 0);
+        QTRY_COMPARE(fixture.action("editUndo")->text(), QStringLiteral("&Rückgängig"));
+        QVERIFY(!fixture.action("editUndo")->isEnabled());
+        QCOMPARE(fixture.action("editRedo")->text(),
+                 "&Wiederherstellen: 1 Zeile bestätigt in " + path);
+        QCOMPARE(fixture.window->editor()->currentPath(), path);
+        QCOMPARE(fixture.window->editor()->currentLine(), line);
+        fixture.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QTRY_COMPARE(countState(document), 1);
+    }
+
+    void undoesByTheLinkInTheStatusBar()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        fixture.press(Qt::Key_F8);
+        fixture.press(Qt::Key_V);
+        QTRY_COMPARE(countState(document), 1);
+        QTRY_VERIFY(document.canUndo());
+        Q_EMIT fixture.window->status()->findChild<QLabel *>("statusNote")->linkActivated("undo");
+        QTRY_COMPARE(countState(document), 0);
+    }
+
+    void goesThroughOpenLinesAcrossProjects()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        EditorArea *const editor = fixture.window->editor();
+        const OpenLines &open = fixture.window->lines()->openLines();
+        LineRef expected = open.next({});
+        QStringList projects;
+        for (int i = 0; i < 60; ++i) {
+            fixture.press(Qt::Key_F8);
+            QCOMPARE(editor->currentPath(), expected.project.path);
+            QCOMPARE(editor->currentLine(), expected.line);
+            if (!projects.contains(expected.project.path))
+                projects << expected.project.path;
+            expected = open.next(expected);
+        }
+        QVERIFY(projects.size() > 1);
+        const QString path = editor->currentPath();
+        const int line = editor->currentLine();
+        fixture.press(Qt::Key_F8);
+        fixture.press(Qt::Key_F8, Qt::ShiftModifier);
+        QCOMPARE(editor->currentPath(), path);
+        QCOMPARE(editor->currentLine(), line);
+    }
+
+    void takesFiltersAwayToShowALine()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        EditorArea *const editor = fixture.window->editor();
+        auto *box = editor->findChild<QCheckBox *>("checkToCheck");
+        const QString equal = "standardparts/screws/iso10642.prj";
+        QVERIFY(editor->selectProject(equal));
+        ModalScript script;
+        script.thenClick("answerAccept");
+        fixture.action("linesConfirm")->trigger();
+        QVERIFY(editor->selectProject(din933));
+        box->setChecked(true);
+        QVERIFY(editor->selectProject(equal));
+        QVERIFY(!box->isChecked());
+        QVERIFY(editor->selectProject(din933));
+        auto *lines = editor->findChild<QCheckBox *>("chkFilterSource");
+        QVERIFY(lines);
+        QVERIFY(editor->selectLine(2));
+        const int verified = countState(*fixture.window->desk()->document());
+        fixture.press(Qt::Key_V);
+        QTRY_COMPARE(countState(*fixture.window->desk()->document()), verified + 1);
+        lines->setChecked(true);
+        QVERIFY(!editor->sourceTable().isLineVisible(VKTab::LineId(2)));
+        QVERIFY(editor->selectLine(2));
+        QVERIFY(!lines->isChecked());
+        QCOMPARE(editor->currentLine(), 2);
+    }
+
+    void jumpsToALine_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("line");
+        QTest::newRow("number") << "7" << 7;
+        QTest::newRow("designation") << "DIN 933 - M3 x 10 - 8.8" << 3;
+        QTest::newRow("part of it, other case") << "m3 X 10" << 3;
+    }
+    void jumpsToALine()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, line);
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            auto *input = qobject_cast<QInputDialog *>(dialog);
+            QVERIFY(input);
+            QCOMPARE(input->labelText(), QStringLiteral("Nummer oder Normbezeichnung:"));
+            input->setTextValue(text);
+            input->accept();
+        });
+        fixture.press(Qt::Key_G, Qt::ControlModifier);
+        QVERIFY(script.isDone());
+        QCOMPARE(fixture.window->editor()->currentLine(), line);
+    }
+
+    void saysThatThereIsNoSuchLine()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(!fixture.window->lines()->jumpTo("1"));
+        QCOMPARE(fixture.window->status()->note(), QStringLiteral("Es ist kein Projekt gewählt"));
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        QVERIFY(!fixture.window->lines()->jumpTo("no such thing"));
+        QCOMPARE(fixture.window->status()->note(),
+                 QStringLiteral("Keine Zeile mit „no such thing“ in diesem Projekt"));
+    }
+
+    void confirmsManyLinesInOneStep()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        ModalScript script;
+        script.thenClick("answerAccept");
+        fixture.action("linesConfirm")->trigger();
+        QVERIFY(script.isDone());
+        const int lines = countState(document);
+        QVERIFY(lines > 50);
+        QVERIFY2(script.texts.first().contains(QString::number(lines) + " Zeilen bestätigen?"),
+                 qPrintable(script.texts.first()));
+        QTRY_COMPARE(document.undoTexts().size(), 1);
+        fixture.action("editUndo")->trigger();
+        QTRY_COMPARE(countState(document), 0);
+    }
+
+    void leavesManyLinesAloneWhenCalledOff()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        ModalScript script;
+        script.thenClick("answerCancel");
+        fixture.action("linesRemove")->trigger();
+        QVERIFY(script.isDone());
+        QVERIFY(!fixture.window->desk()->document()->isModified());
+    }
+
+    void asksBeforeClosing_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("closed");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("save") << "answerAccept" << true << true;
+        QTest::newRow("discard") << "answerRefuse" << true << false;
+        QTest::newRow("cancel") << "answerCancel" << false << false;
+    }
+    void asksBeforeClosing()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, closed);
+        QFETCH(bool, saved);
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        fixture.open(file);
+        MappingDocument &document = *fixture.window->desk()->document();
+        fixture.press(Qt::Key_F8);
+        fixture.press(Qt::Key_V);
+        QTRY_VERIFY(document.isModified());
+        ModalScript script;
+        script.thenClick(answer);
+        QCOMPARE(fixture.window->close(), closed);
+        QVERIFY(script.isDone());
+        QCOMPARE(script.texts, QStringList{"Änderungen an m.json speichern?"});
+        QCOMPARE(document.isOpen(), !closed);
+        QFile written(file);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QCOMPARE(written.readAll().contains(",2]"), saved);
+        if (!closed)
+            fixture.window->desk()->document()->close();
+    }
+
+    void closesWithoutQuestionIfNothingChanged()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->close());
+    }
+
+    void comesBackToWhereTheUserWas()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        fixture.open(file);
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        QVERIFY(fixture.window->editor()->selectLine(5));
+        QVERIFY(fixture.window->close());
+        fixture.closeWindow();
+        fixture.makeWindow();
+        fixture.window->restoreSession();
+        QCOMPARE(fixture.window->desk()->document()->mappingFile(), file);
+        QCOMPARE(fixture.window->editor()->currentPath(), din933);
+        QCOMPARE(fixture.window->editor()->currentLine(), 5);
+    }
+
+    void beginsWithExampleAndTour()
+    {
+        WindowFixture fixture;
+        fixture.window->restoreSession();
+        QVERIFY(fixture.window->desk()->document()->isOpen());
+        QVERIFY(!fixture.window->desk()->document()->isModified());
+        auto *tour = fixture.window->findChild<TourOverlay *>("TourOverlay");
+        QVERIFY(tour);
+        for (int i = 0; i < 4; ++i)
+            QTest::keyClick(tour, Qt::Key_Return);
+        QCOMPARE(tour->currentStep(), 4);
+        QPointer<TourOverlay> watched(tour);
+        QTest::keyClick(tour, Qt::Key_Return);
+        QTRY_VERIFY(!watched);
+        QVERIFY(fixture.window->close());
+        fixture.closeWindow();
+        fixture.makeWindow();
+        // No second first time.
+        fixture.settings->setSessionFile(QString());
+        fixture.window->restoreSession();
+        QVERIFY(!fixture.window->desk()->document()->isOpen());
+    }
+
+    void speaksTwoLanguages()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        const auto title = [&] {
+            return fixture.window->findChild<QMenu *>("fileMenu")->title();
+        };
+        const auto box = [&] {
+            return fixture.window->findChild<QCheckBox *>("checkToCheck")->text();
+        };
+        QCOMPARE(title(), QStringLiteral("&Datei"));
+        WorkbenchSettings::Values values = fixture.settings->values();
+        values.language = "en";
+        fixture.settings->setValues(values);
+        QApplication::processEvents();
+        QCOMPARE(title(), QStringLiteral("&File"));
+        QCOMPARE(box(), QStringLiteral("Show only projects with incomplete mappings"));
+        QCOMPARE(fixture.action("fileSave")->text(), QStringLiteral("&Save"));
+        QCOMPARE(fixture.window->editor()->currentPath(), din933);
+        values.language = "de";
+        fixture.settings->setValues(values);
+        QApplication::processEvents();
+        QCOMPARE(title(), QStringLiteral("&Datei"));
+        QCOMPARE(box(), QStringLiteral("Zeige nur Projekte mit unvollständigen Mappings"));
+    }
+
+    void takesKeysFromTheSettings()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        WorkbenchSettings::Values values = fixture.settings->values();
+        values.nextLine = QKeySequence("F7");
+        fixture.settings->setValues(values);
+        QCOMPARE(fixture.action("goNext")->shortcut(), QKeySequence("F7"));
+        QVERIFY(fixture.action("goNext")->toolTip().endsWith("(F7)"));
+        fixture.press(Qt::Key_F7);
+        QVERIFY(fixture.window->editor()->currentLine() >= 0);
+    }
+
+    void bringsErrorsToTheFront()
+    {
+        WindowFixture fixture;
+        PMessage::LogToWindow("one");
+        QApplication::processEvents();
+        QVERIFY(!fixture.window->log()->isVisible());
+        PMessage::Show("two", PMsgDlgMode::Error);
+        QApplication::processEvents();
+        QVERIFY(fixture.window->log()->isVisible());
+        QVERIFY(fixture.window->log()->text().contains("Fehler: two"));
+    }
+
+    void asksQuestions_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("reply");
+        QTest::newRow("ok") << 1 << "answerAccept" << 1;
+        QTest::newRow("cancel") << 1 << "answerCancel" << 2;
+        QTest::newRow("yes") << 3 << "answerAccept" << 6;
+        QTest::newRow("no") << 3 << "answerRefuse" << 7;
+        QTest::newRow("neither") << 3 << "answerCancel" << 2;
+    }
+    void asksQuestions()
+    {
+        QFETCH(int, mode);
+        QFETCH(QString, button);
+        WindowFixture fixture;
+        ModalScript script;
+        script.thenClick(button);
+        QTEST(int(PMessage::Show("Really?", PMsgDlgMode(mode))), "reply");
+        QCOMPARE(script.texts, QStringList{"Really?"});
+    }
+
+    void refreshes()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        QVERIFY(fixture.window->editor()->selectLine(4));
+        QPointer<QWidget> before(fixture.window->editor()->treeView());
+        fixture.press(Qt::Key_F5);
+        QVERIFY(!before);
+        QCOMPARE(fixture.window->editor()->currentPath(), din933);
+        QCOMPARE(fixture.window->editor()->currentLine(), 4);
+    }
+
+    void assignsTheWholeCatalogInOneStep()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        QVERIFY(fixture.window->editor()->selectLine(3));
+        fixture.press(Qt::Key_V);
+        QTRY_COMPARE(countState(document), 1);
+        ModalScript script;
+        script.thenClick("answerRefuse");
+        fixture.action("assignAll")->trigger();
+        QVERIFY(script.isDone());
+        QCOMPARE(countState(document), 1);
+        QTRY_COMPARE(document.undoTexts().size(), 2);
+        fixture.action("editUndo")->trigger();
+        QTRY_COMPARE(document.undoTexts().size(), 1);
+        QCOMPARE(countState(document), 1);
+    }
+};
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"
