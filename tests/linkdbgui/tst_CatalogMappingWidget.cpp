@@ -743,9 +743,12 @@ void tst_CatalogMappingWidget::tableRelativeToTheCatalog()
 
 void tst_CatalogMappingWidget::emptyPath()
 {
+    // Even if there is a project where an empty path leads to.
+    const TestCatalog catalog;
+    catalog.write("a.prj", lines);
     auto *const handler =
         new SingleHandler(boost::make_shared<SingleNode>(2, "", mappingOf("a.prj", {})));
-    CatalogMappingWidget widget(QString(), handler, nullptr, nullptr);
+    CatalogMappingWidget widget(catalog.file("a.prj"), handler, nullptr, nullptr);
     widget.hideTree();
     QVERIFY(!widget.findChild<QWidget *>("tableWidget")->isEnabled());
     QVERIFY(!widget.findChild<QWidget *>("projectWidget")->isEnabled());

@@ -139,6 +139,8 @@ private Q_SLOTS:
     void deleteMapping();
     void brokenFormulaIsLogged();
     void panelAfterRemoval();
+    void variablesAreThoseOfTheListPosition();
+    void notFoundTargetInTheMiddle();
 };
 
 void tst_ProjectMappingWidget::initTestCase()
@@ -624,6 +626,49 @@ void tst_ProjectMappingWidget::panelAfterRemoval()
     QVERIFY(removed && removed->isHidden() && !removed->parent());
     QCoreApplication::sendPostedEvents(removed, QEvent::DeferredDelete);
     QVERIFY(!removed);
+}
+
+void tst_ProjectMappingWidget::variablesAreThoseOfTheListPosition()
+{
+    Editor editor;
+    editor.catalog.write("old/a.prj", "D,L:r\nM8,\"10;20\"\n");
+    editor.catalog.write("new/a.prj", "D,L:n\nM1,5\n");
+    editor.catalog.write("new/b.prj", "D,L:n\nM8,20\n");
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj"});
+    addCondition(mapping, 1, "L .EQ. 20");
+    editor.load(mapping);
+    editor.click(1, "upButton");
+    QCOMPARE(editor.announced().findTarget(0).countLines(), 1);
+    // Now new/a.prj has index 1, yet the second panel in the list is that of new/b.prj, so the
+    // values of L are still walked.
+    editor.click(1, "upButton");
+    QCOMPARE(targetPaths(editor.announced()), QStringLiteral("new/a.prj new/b.prj"));
+    QCOMPARE(editor.announced().findTarget(1).countLines(), 1);
+}
+
+void tst_ProjectMappingWidget::notFoundTargetInTheMiddle()
+{
+    Editor editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"", "new/a.prj", "new/b.prj"});
+    enter(mapping, 0, 3, -1, Verified);
+    addCondition(mapping, 2, "k .GT. 1");
+    editor.load(mapping);
+    QCOMPARE(editor.places(), QStringLiteral("1^ 2^"));
+    editor.click(1, "upButton");
+    QCOMPARE(targetPaths(editor.announced()), QStringLiteral("- new/b.prj new/a.prj"));
+    QCOMPARE(panelPaths(&editor.widget), QStringLiteral("new/b.prj new/a.prj"));
+    // Upwards there is no panel to change places with.
+    const auto updates = editor.updates.count();
+    editor.click(0, "upButton");
+    QCOMPARE(editor.updates.count(), updates);
+    QCOMPARE(panelPaths(&editor.widget), QStringLiteral("new/b.prj new/a.prj"));
+    // Behind the last one, where no panel stands at that index.
+    editor.load(mapping, CatalogMappingC());
+    editor.answerFileDialog(editor.catalog.file("new/c.prj"));
+    QTest::mouseClick(editor.widget.findChild<QPushButton *>("addTargetButton"), Qt::LeftButton);
+    QCOMPARE(panelPaths(&editor.widget), QStringLiteral("new/a.prj new/b.prj new/c.prj"));
+    clickDelete(editor.panel(1)->findChild<QTableView *>("conditionView"), 0);
+    QCOMPARE(editor.announced().findTarget(2).getConditions().size(), 0);
 }
 
 QTEST_MAIN(tst_ProjectMappingWidget)
