@@ -59,6 +59,7 @@ private Q_SLOTS:
     void keyboardIsAClickToo();
     void iconClicks();
     void iconByKeyboard();
+    void lineFromElsewhereComesWithItsNeighbours();
     void unusedStatusColumnsAreHidden();
     void iconsOfSelectedLinesStayClear();
     void firstAndLastLineByKeyboard();
@@ -480,6 +481,22 @@ void tst_VkTableView::popupBelowTheLinesAndOfTheHeader()
     QApplication::activePopupWidget()->findChild<QAction *>("unsorted")->trigger();
     QCOMPARE(m_view->model()->lineId(0), LineId(1));
     QApplication::activePopupWidget()->close();
+}
+
+void tst_VkTableView::lineFromElsewhereComesWithItsNeighbours()
+{
+    m_view->setTable(ViewTables::large(1000));
+    const auto middleOf = [&](int row) {
+        return grid()->visualRect(m_view->model()->index(row, 0)).center().y();
+    };
+    m_view->getTable().setSelection(LineId(500), true);
+    const int height = grid()->viewport()->height();
+    QVERIFY(std::abs(middleOf(499) - height / 2) <=
+            grid()->visualRect(m_view->model()->index(499, 0)).height());
+    // One that is in view stays where it is.
+    const int before = m_view->getVerticalScrollPos();
+    m_view->getTable().setSelection(LineId(502), true);
+    QCOMPARE(m_view->getVerticalScrollPos(), before);
 }
 
 void tst_VkTableView::unusedStatusColumnsAreHidden()

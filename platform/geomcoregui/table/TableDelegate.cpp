@@ -21,6 +21,18 @@ void keepIconsClear(QStyleOptionViewItem *option)
                mixed(base.blue(), highlight.blue()));
 }
 
+/// A number at the right edge of its cell and a text at the left one of the next would read as one.
+void keepTextsApart(QStyleOptionViewItem *option)
+{
+    constexpr QChar blank(0x00a0);
+    if (option->text.isEmpty())
+        return;
+    if (option->displayAlignment & Qt::AlignRight)
+        option->text.append(blank);
+    else
+        option->text.prepend(blank);
+}
+
 } // namespace
 
 TableDelegate::TableDelegate(QObject *parent)
@@ -47,4 +59,5 @@ void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
         const bool dark = option->palette.color(QPalette::Base).lightness() < 128;
         option->backgroundBrush = QColor(dark ? 0xff5c5200 : 0xfffff3a0);
     }
+    keepTextsApart(option);
 }

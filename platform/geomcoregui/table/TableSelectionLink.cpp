@@ -149,6 +149,8 @@ void TableSelectionLink::selectLines(const QList<VKTab::LineId> &lines)
         column = std::min(m_model->statusColumnCount(), m_model->columnCount() - 1);
     const int horizontal = m_grid->horizontalScrollBar()->value();
     const QModelIndex current = m_model->index(row, column);
+    const int middle = m_grid->visualRect(current).center().y();
+    const bool isInView = middle >= 0 && middle < m_grid->viewport()->height();
     selection->setCurrentIndex(current,
                                QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (lines.size() > 1) {
@@ -161,7 +163,9 @@ void TableSelectionLink::selectLines(const QList<VKTab::LineId> &lines)
         selection->select(all, QItemSelectionModel::ClearAndSelect);
     }
     m_wasMany = selectedCount() > 1;
-    m_grid->scrollTo(current);
+    // A line from elsewhere comes with what stands round it.
+    m_grid->scrollTo(current, isInView ? QAbstractItemView::EnsureVisible
+                                       : QAbstractItemView::PositionAtCenter);
     m_grid->horizontalScrollBar()->setValue(horizontal);
 }
 
