@@ -52,6 +52,7 @@ private Q_SLOTS:
     void aFailedNewFileIsRemoved();
     void noRoomForTheBackup();
     void aFullDisk();
+    void readOnlyFile();
     void readOnlyFolder();
     void savesUnderAnotherName();
     void savesIntoAnotherMappingFile();
@@ -377,6 +378,26 @@ void tst_GuardedSave::aFullDisk()
     QCOMPARE(SessionFixture::content(m_file), before);
     QVERIFY(m_document->isModified());
     QCOMPARE(m_document->save().result, SaveResult::Saved);
+}
+
+void tst_GuardedSave::readOnlyFile()
+{
+    const QByteArray before = SessionFixture::content(m_file);
+    QFile::setPermissions(m_file, QFile::Permissions(0x4444));
+    QFile::setPermissions(m_files->path(QString()), QFile::Permissions(0x7777));
+    {
+        const AsNobody nobody;
+        QVERIFY(!nobody.failed());
+        openAndChange();
+        QVERIFY(!m_document->isReadOnly());
+        const SaveOutcome outcome = m_document->save();
+        QCOMPARE(outcome.result, SaveResult::WriteFailed);
+        QVERIFY2(outcome.text.contains(QStringLiteral("Schreibrechte")), qPrintable(outcome.text));
+        QVERIFY(!QFile::exists(m_file + QStringLiteral(".bak")));
+        QVERIFY(m_document->isModified());
+        m_document->close();
+    }
+    QCOMPARE(SessionFixture::content(m_file), before);
 }
 
 void tst_GuardedSave::readOnlyFolder()

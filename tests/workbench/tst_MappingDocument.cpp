@@ -130,6 +130,7 @@ void tst_MappingDocument::opensARelease()
     QCOMPARE(m_document->release().countMappings(), 3);
     QCOMPARE(m_document->counts().lines(), 30);
     QCOMPARE(m_document->counts().toCheck(), 30);
+    QVERIFY(m_document->conflictedProjects().isEmpty());
     QVERIFY(QFile::exists(m_document->journalFile()));
     QVERIFY(!QFile::exists(m_document->autosaveFile()));
 }
@@ -527,6 +528,7 @@ void tst_MappingDocument::markingConflictsIsNoStep()
              QStringList(QStringLiteral("1 Zeile bestätigt in cat/a.prj")));
     m_document->undo();
     const PrjMappingTargetC target = m_document->mapping(id(Path)).findTarget(0);
+    QCOMPARE(m_document->conflictedProjects(), QList<ProjectId>{id(Path)});
     QVERIFY(target.getLineConflicted(3));
     QVERIFY(target.getLineConflicted(4));
     QCOMPARE(target.getMappedLine(1).getState(), PRJMAPPING::ToCheck);

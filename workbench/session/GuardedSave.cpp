@@ -147,6 +147,13 @@ bool GuardedSave::makeBackup()
 {
     if (!m_before.exists)
         return true;
+    QFile file(m_file);
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        return end(SaveResult::WriteFailed,
+                   say("%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. Bitte "
+                       "die Schreibrechte prüfen oder unter einem anderen Namen speichern.")
+                       .arg(m_file, file.errorString()));
+    file.close();
     const QString backup = backupFile(m_file);
     QString cause;
     if (!DurableFile::copy(m_file, backup, &cause) || !DurableFile::syncPath(backup, &cause))

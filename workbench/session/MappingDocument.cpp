@@ -153,6 +153,20 @@ const LineCounts &MappingDocument::counts() const
     return d->counts;
 }
 
+QList<ProjectId> MappingDocument::conflictedProjects() const
+{
+    QList<ProjectId> projects;
+    if (counts().conflicts() == 0)
+        return projects;
+    const ReleaseMappingC all = release();
+    for (int i = 0; i < all.countMappings(); ++i) {
+        const PrjMappingC mapping = all.mappingAt(i);
+        if (mapping.getContainsConflicts())
+            projects += ProjectId::of(mapping);
+    }
+    return projects;
+}
+
 void MappingDocument::updateMapping(const PrjMappingC &mapping)
 {
     if (d->isEditable())

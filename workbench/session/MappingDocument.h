@@ -109,6 +109,9 @@ public:
     /// Of the whole release, kept while mappings change.
     [[nodiscard]] const LineCounts &counts() const;
 
+    /// Projects with lines in conflict, in stored order: to be told before saving.
+    [[nodiscard]] QList<ProjectId> conflictedProjects() const;
+
     /// The one way in for changes of a mapping. Ignored while read-only, with problemOccurred().
     void updateMapping(const PrjMappingC &mapping);
     /// Replaces everything in one step, as after creating or assigning a whole release. The tree is
