@@ -56,6 +56,7 @@ QWidget *CatalogMappingWidgetPrivate::makeTreePane(QWidget *parent)
     treeView = new QTreeView(pane);
     treeView->setObjectName(QStringLiteral("treeView"));
     treeView->setHeaderHidden(true);
+    treeView->setUniformRowHeights(true); // so that a row costs nothing until it is seen
     treeView->setContextMenuPolicy(Qt::CustomContextMenu);
     layout->addWidget(treeView);
     checkToCheck = new QCheckBox(

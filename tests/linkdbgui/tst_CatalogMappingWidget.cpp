@@ -413,6 +413,7 @@ void tst_CatalogMappingWidget::layoutOfTheTree()
              QStringLiteral("Zeige nur Projekte mit nicht zugeordneten Zeilen"));
 
     QVERIFY(editor.tree->isHeaderHidden());
+    QVERIFY(editor.tree->uniformRowHeights());
     QCOMPARE(editor.tree->contextMenuPolicy(), Qt::CustomContextMenu);
     auto *const filter = qobject_cast<CatalogFilterModel *>(editor.tree->model());
     QVERIFY(filter);
