@@ -182,6 +182,8 @@ void TableMappingWidgetPrivate::clearTargetTable()
 {
     if (!(targetView->getTable() == VKTab::ContentRef()))
         targetView->setTable(VKTab::ContentRef());
+    m_markedTable = VKTab::ContentRef();
+    m_filteredTable = VKTab::ContentRef();
 }
 
 void TableMappingWidgetPrivate::showSourceLine(const VKTab::LineId &id)

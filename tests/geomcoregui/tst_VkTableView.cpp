@@ -67,6 +67,7 @@ private Q_SLOTS:
     void popupDeclined();
     void popupBelowTheLinesAndOfTheHeader();
     void statusToolTip();
+    void cutTextHasAToolTip();
 
     void headerClickSorts();
     void columnsKeepTheirWidths();
@@ -555,6 +556,23 @@ void tst_VkTableView::statusToolTip()
     QCOMPARE(asked, 1);
     QCOMPARE(numbers, QList<int>({2, 2, 0}));
     QCOMPARE(QToolTip::text(), QString("asked for line 2"));
+    QToolTip::hideText();
+}
+
+void tst_VkTableView::cutTextHasAToolTip()
+{
+    const auto toolTipAt = [&](int row, int column) {
+        QToolTip::hideText();
+        const QPoint place = cellAt(row, column);
+        QHelpEvent event(QEvent::ToolTip, place, grid()->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(grid()->viewport(), &event);
+        return QToolTip::text();
+    };
+    const int note = m_view->model()->columnOf(m_table.getVar(u"Note").getVarId());
+    QCOMPARE(toolTipAt(1, note), QString());
+    qobject_cast<QTableView *>(grid())->setColumnWidth(note, 30);
+    QCOMPARE(toolTipAt(1, note), QString("<p>galvanised</p>"));
+    QCOMPARE(toolTipAt(3, note), QString("<p>a\u00a0\"b\"</p>"));
     QToolTip::hideText();
 }
 

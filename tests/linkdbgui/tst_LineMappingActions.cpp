@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 
@@ -61,6 +62,7 @@ private Q_SLOTS:
 
     void confirmByKey();
     void keyActsAtOnce();
+    void lettersBelongToFields();
     void confirmStates_data();
     void confirmStates();
     void changeTheTargetLine();
@@ -153,6 +155,22 @@ void tst_LineMappingActions::keyActsAtOnce()
     f->press(Qt::Key_V);
     QCOMPARE(entries(), QString("0:1>3/2 0:2>2/2"));
     QCOMPARE(f->published.size(), 2);
+}
+
+void tst_LineMappingActions::lettersBelongToFields()
+{
+    f->load();
+    f->select(1);
+    f->source->showFindBar();
+    auto *const field = f->source->findChild<QLineEdit *>();
+    QVERIFY(field && field->hasFocus());
+    f->press(Qt::Key_V);
+    f->press(Qt::Key_X);
+    QCOMPARE(field->text(), QString("vx"));
+    field->selectAll();
+    f->press(Qt::Key_X, Qt::ControlModifier);
+    QCOMPARE(field->text(), QString());
+    QCOMPARE(f->published.size(), 0);
 }
 
 void tst_LineMappingActions::confirmStates_data()

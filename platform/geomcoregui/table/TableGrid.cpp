@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -155,10 +156,25 @@ bool TableGrid::viewportEvent(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip) {
         const auto *const help = static_cast<QHelpEvent *>(event);
-        if (showStatusToolTip(help->pos(), help->globalPos()))
+        if (showStatusToolTip(help->pos(), help->globalPos()) ||
+            showCutText(help->pos(), help->globalPos()))
             return true;
     }
     return QTableView::viewportEvent(event);
+}
+
+bool TableGrid::showCutText(const QPoint &position, const QPoint &globalPosition)
+{
+    const QModelIndex index = indexAt(position);
+    if (!index.isValid() || !index.data(Qt::ToolTipRole).toString().isEmpty())
+        return false;
+    const QRect area = visualRect(index);
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    const QString text = index.data().toString();
+    if (fontMetrics().horizontalAdvance(text) + 2 * margin <= area.width())
+        return false;
+    QToolTip::showText(globalPosition, Qt::convertFromPlainText(text), viewport(), area);
+    return true;
 }
 
 bool TableGrid::showStatusToolTip(const QPoint &position, const QPoint &globalPosition)

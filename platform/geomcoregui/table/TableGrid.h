@@ -45,6 +45,8 @@ protected:
 private:
     [[nodiscard]] bool isIcon(const QModelIndex &index) const;
     [[nodiscard]] bool showStatusToolTip(const QPoint &position, const QPoint &globalPosition);
+    /// The whole text of a cell that has no room for it.
+    [[nodiscard]] bool showCutText(const QPoint &position, const QPoint &globalPosition);
     /// A key that leads to the first or last line found it current, yet not selected: so it is when
     /// the grid got the focus by Tab.
     [[nodiscard]] bool staysOnUnselectedLine(const QKeyEvent &event) const;
