@@ -3,6 +3,7 @@
 #include <mapping/project/MappingConflictWidget.h>
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
@@ -148,6 +149,8 @@ private Q_SLOTS:
     void changedVersions();
     void hiddenAgain();
     void updatedMappingKeepsTheText();
+    void roomForTheText_data();
+    void roomForTheText();
 
     void conflictMessages();
     void conflictMessageAtEachLoad();
@@ -468,6 +471,30 @@ void tst_MappingConflictWidget::updatedMappingKeepsTheText()
     QCOMPARE(conflicts.text(), text);
     QVERIFY(conflicts.widget.isVisible());
     QCOMPARE(conflicts.changed.count() + conflicts.told.count(), 0);
+}
+
+void tst_MappingConflictWidget::roomForTheText_data()
+{
+    QTest::addColumn<int>("changes");
+    QTest::addColumn<bool>("scrolls");
+    QTest::newRow("short text") << 2 << false;
+    QTest::newRow("long text") << 50 << true;
+}
+
+void tst_MappingConflictWidget::roomForTheText()
+{
+    QFETCH(int, changes);
+    Conflicts conflicts;
+    QList<MappingChange> local;
+    for (int number = 0; number < changes; ++number)
+        local.append(targetChange(9, QString::number(number)));
+    conflicts.loadMarked(local, {});
+    conflicts.widget.resize(600, conflicts.widget.minimumSizeHint().height());
+    QVERIFY(QTest::qWaitForWindowExposed(&conflicts.widget));
+    QCoreApplication::processEvents();
+    const auto *const area = conflicts.widget.findChild<QScrollArea *>();
+    QTEST(area->verticalScrollBar()->maximum() > 0, "scrolls");
+    QVERIFY(area->minimumHeight() <= 10 * area->fontMetrics().lineSpacing());
 }
 
 namespace {
