@@ -51,6 +51,7 @@ private Q_SLOTS:
     void refusesWhatItCannotRead_data();
     void refusesWhatItCannotRead();
     void handlerGoesTheDocumentsWay();
+    void theEditorHearsOfTheHostsChanges();
     void handlerOutlivesTheDocument();
     void oneTurnIsOneStep();
     void eachTurnIsAStep();
@@ -207,6 +208,24 @@ void tst_MappingDocument::handlerGoesTheDocumentsWay()
     QVERIFY(saved.read(m_file));
     QCOMPARE(SessionFixture::bytes(saved.releases().first()),
              SessionFixture::bytes(m_document->release()));
+}
+
+void tst_MappingDocument::theEditorHearsOfTheHostsChanges()
+{
+    open();
+    const Handler handler(m_document->createHandler());
+    QSignalSpy reselect(m_document.get(), &MappingDocument::reselectRequested);
+    handler->updateMapping(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    m_document->finishStep();
+    QCOMPARE(reselect.size(), 0);
+    for (const char *path : {"cat/a.prj", "cat/screws/b.prj", "cat/a.prj"})
+        m_document->updateMapping(
+            SessionFixture::withState(m_document->mapping(id(QString::fromLatin1(path))), {4}, 2));
+    QCOMPARE(reselect.size(), 0);
+    m_document->finishStep();
+    QCOMPARE(reselect.size(), 2);
+    QCOMPARE(reselect[0].first().value<ProjectId>(), id(Path));
+    QCOMPARE(reselect[1].first().value<ProjectId>(), id(QStringLiteral("cat/screws/b.prj")));
 }
 
 void tst_MappingDocument::handlerOutlivesTheDocument()
@@ -702,8 +721,11 @@ void tst_MappingDocument::readOnlyRefusesChanges()
     const PrjMappingC mapping = m_document->mapping(id(Path));
     m_document->updateMapping(SessionFixture::withState(mapping, {1}, 2));
     m_document->updateMapping(SessionFixture::withState(mapping, {2}, 2));
+    QSignalSpy reselect(m_document.get(), &MappingDocument::reselectRequested);
     QCOMPARE(problems.size(), 0); // not in the middle of the editor's work
     QCoreApplication::processEvents();
+    QCOMPARE(reselect.size(), 1); // so that the editor shows what is stored
+    QCOMPARE(reselect.first().first().value<ProjectId>(), id(Path));
     QCOMPARE(problems.size(), 1);
     QVERIFY(problems.first().first().toString().contains(QStringLiteral("nicht übernommen")));
     QCOMPARE(m_document->counts().verified(), 0);

@@ -24,7 +24,7 @@ CatalogMappingC JournalingHandler::getCatalogMapping() const
 void JournalingHandler::updateMapping(const PrjMappingC &mapping)
 {
     if (m_document && m_document->handler() == m_handler.get())
-        m_document->updateMapping(mapping);
+        m_document->updateByEditor(mapping);
 }
 
 bool JournalingHandler::commitModifications()

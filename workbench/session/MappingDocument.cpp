@@ -169,14 +169,20 @@ QList<ProjectId> MappingDocument::conflictedProjects() const
 
 void MappingDocument::updateMapping(const PrjMappingC &mapping)
 {
-    if (d->isEditable())
-        d->update(mapping);
+    d->update(mapping, false);
+}
+
+void MappingDocument::updateByEditor(const PrjMappingC &mapping)
+{
+    d->update(mapping, true);
 }
 
 void MappingDocument::replaceRelease(const ReleaseMappingC &release, const QString &text)
 {
-    if (!d->isEditable())
+    if (!d->isEditable()) {
+        d->refuse(ProjectId());
         return;
+    }
     beginStep(text);
     d->replaceRelease(release);
     endStep();

@@ -112,7 +112,9 @@ public:
     /// Projects with lines in conflict, in stored order: to be told before saving.
     [[nodiscard]] QList<ProjectId> conflictedProjects() const;
 
-    /// The one way in for changes of a mapping. Ignored while read-only, with problemOccurred().
+    /// The host's way to change a mapping; the editor's is the handler. Both meet here. When the
+    /// step ends reselectRequested() follows, since the editor does not know of it and would write
+    /// its former state back. Ignored while read-only, with problemOccurred().
     void updateMapping(const PrjMappingC &mapping);
     /// Replaces everything in one step, as after creating or assigning a whole release. The tree is
     /// made anew: releaseReplaced() follows.
@@ -173,7 +175,7 @@ Q_SIGNALS:
     /// Follows stepDone(), for what the user should hear of.
     void noticeRaised(const ChangeNotice &notice);
     /// The project's node should be selected anew, for its mapping changed behind the editor: after
-    /// undo and redo, once for each project of the step.
+    /// undo, redo and changes of the host's own, once for each project of the step.
     void reselectRequested(const ProjectId &project);
     /// There is another tree: the editor must be made anew with createHandler().
     void releaseReplaced();
@@ -185,5 +187,7 @@ Q_SIGNALS:
 private:
     friend class JournalingHandler;
     friend class MappingDocumentPrivate;
+    void updateByEditor(const PrjMappingC &mapping);
+
     const std::unique_ptr<MappingDocumentPrivate> d;
 };

@@ -34,6 +34,7 @@ public:
         QList<MappingChangePair> changes; ///< one for each project: first state, last state
         QHash<QPair<QString, QString>, qsizetype> index;
         std::optional<ReleaseMappingC> releaseBefore; ///< the whole release was replaced
+        QList<ProjectId> behindEditor;                ///< changed by the host
         QString text;
         int depth = 0;        ///< of beginStep()
         bool changed = false; ///< by at least one update
@@ -53,8 +54,9 @@ public:
     // Steps.
     [[nodiscard]] ReleaseMappingC release() const;
     [[nodiscard]] PrjMappingC find(const PrjMappingC &like) const;
-    [[nodiscard]] bool isEditable();
-    void update(const PrjMappingC &mapping);
+    [[nodiscard]] bool isEditable() const;
+    void refuse(const ProjectId &project);
+    void update(const PrjMappingC &mapping, bool byEditor);
     void replaceRelease(const ReleaseMappingC &release);
     void finishStep();
     void move(bool back);
@@ -125,6 +127,7 @@ private:
     int m_autosavedStep = 0;
     bool m_wasModified = false;
     bool m_refused = false; ///< an update was refused in this turn
-    QTimer m_turn;          ///< ends the step when the event loop comes round
+    QList<ProjectId> m_refusedProjects;
+    QTimer m_turn; ///< ends the step when the event loop comes round
     QTimer m_autosaveTimer;
 };

@@ -19,31 +19,45 @@ PrjMappingC MappingDocumentPrivate::find(const PrjMappingC &like) const
                                  like.getTabVersion());
 }
 
-bool MappingDocumentPrivate::isEditable()
+bool MappingDocumentPrivate::isEditable() const
 {
-    if (!isOpen)
-        return false;
-    if (readOnly == MappingDocument::ReadOnlyReason::None)
-        return true;
-    m_refused = true;
-    m_turn.start();
-    return false;
+    return isOpen && readOnly == MappingDocument::ReadOnlyReason::None;
 }
 
-/// Not at once: the editor is in the middle of its change.
+/// Told not at once: the editor is in the middle of its change.
+void MappingDocumentPrivate::refuse(const ProjectId &project)
+{
+    if (!isOpen)
+        return;
+    if (project.isValid() && !m_refusedProjects.contains(project))
+        m_refusedProjects.append(project);
+    m_refused = true;
+    m_turn.start();
+}
+
 void MappingDocumentPrivate::tellRefused()
 {
     if (!std::exchange(m_refused, false))
         return;
     Q_EMIT q->problemOccurred(
         MappingDocument::tr("Die Änderung wurde nicht übernommen. %1").arg(q->readOnlyText()));
+    // The editor shows what it wanted to have.
+    for (const ProjectId &project : std::exchange(m_refusedProjects, {}))
+        Q_EMIT q->reselectRequested(project);
 }
 
-void MappingDocumentPrivate::update(const PrjMappingC &mapping)
+void MappingDocumentPrivate::update(const PrjMappingC &mapping, bool byEditor)
 {
+    const ProjectId project = ProjectId::of(mapping);
+    if (!isEditable()) {
+        refuse(project);
+        return;
+    }
     const PrjMappingC before = find(mapping);
     store(mapping, before);
     notePending(before, mapping);
+    if (!byEditor && !pending.behindEditor.contains(project))
+        pending.behindEditor.append(project);
     if (pending.depth == 0 && !m_turn.isActive())
         m_turn.start();
 }
@@ -146,12 +160,14 @@ void MappingDocumentPrivate::finishStep()
         finishMarking(std::exchange(pending, Pending()));
         return;
     }
-    pending = Pending();
+    const QList<ProjectId> behindEditor = std::exchange(pending, Pending()).behindEditor;
     if (!step.changes.isEmpty() || step.releaseBefore) {
         journalStep(step.text, Origin::Edit);
         history.push(step);
         tellStep(step);
     }
+    for (const ProjectId &project : behindEditor)
+        Q_EMIT q->reselectRequested(project);
     for (const ChangeNotice &notice : std::as_const(notices))
         Q_EMIT q->noticeRaised(notice);
 }
@@ -200,6 +216,8 @@ void MappingDocumentPrivate::finishMarking(const Pending &done)
     }
     Q_EMIT q->countsChanged();
     tellModified();
+    for (const ProjectId &project : done.behindEditor)
+        Q_EMIT q->reselectRequested(project);
 }
 
 void MappingDocumentPrivate::journalStep(const QString &text, Origin origin)
