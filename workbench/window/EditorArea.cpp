@@ -72,6 +72,10 @@ void EditorArea::make()
         if (tree->model()->rowCount() == 1)
             tree->expand(tree->model()->index(0, 0));
     }
+    if (const VkTableView *const view = sourceView()) {
+        connect(view->grid()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                &EditorArea::linesSelected);
+    }
     m_editor->show();
     Q_EMIT editorMade();
 }

@@ -68,6 +68,8 @@ Q_SIGNALS:
     void editorMade();
     /// The selection in the tree changed.
     void projectSelected(const QString &sourcePath);
+    /// Other lines of the source table are selected.
+    void linesSelected();
     /// The host's part view should show a target project.
     void targetProjectWanted(const QString &targetPath);
 

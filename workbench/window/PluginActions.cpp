@@ -51,6 +51,7 @@ PluginActions::PluginActions(PLinkDbGuiI *plugin, EditorArea *editor, QToolBar *
         takeTreeFilter();
         update();
     });
+    connect(editor, &EditorArea::linesSelected, this, &PluginActions::update);
     connect(editor, &EditorArea::projectSelected, this, [this] {
         applyPreferredRanges();
         update();

@@ -1,0 +1,152 @@
+#include "WindowFixture.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QTest>
+
+namespace {
+
+struct Run
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+Run program(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(VELK_BINARY_DIR "/bin/velkworkbench"), arguments);
+    if (!process.waitForFinished(60000))
+        return {};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+QStringList pictureOf(const QString &mapping, const QString &picture)
+{
+    const CatalogRoots roots = WindowFixture::roots();
+    return {"--screenshot", picture,      "--source", roots.source,
+            "--target",     roots.target, "--select", "standardparts/screws/din933.prj",
+            "--line",       "3",          mapping};
+}
+
+/// Share of pixels that are darker than a middle grey.
+double darkShare(const QImage &image)
+{
+    int dark = 0;
+    int all = 0;
+    for (int y = 0; y < image.height(); y += 7) {
+        for (int x = 0; x < image.width(); x += 7) {
+            dark += qGray(image.pixel(x, y)) < 128 ? 1 : 0;
+            ++all;
+        }
+    }
+    return double(dark) / all;
+}
+
+} // namespace
+
+class tst_Program : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tellsVersionAndHelp()
+    {
+        QCOMPARE(program({"--version"}).status, 0);
+        const Run help = program({"--help"});
+        QCOMPARE(help.status, 0);
+        QVERIFY(help.out.contains("--screenshot"));
+        const Run wrong = program({"--theme", "red"});
+        QCOMPARE(wrong.status, 1);
+        QVERIFY(wrong.err.startsWith("velkworkbench: --theme is not light or dark: red\n"));
+    }
+
+    void rendersPictures_data()
+    {
+        QTest::addColumn<QStringList>("extra");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<bool>("dark");
+        QTest::newRow("light") << QStringList{"--theme", "light", "--size", "1200x800"}
+                               << QSize(1200, 800) << false;
+        QTest::newRow("dark") << QStringList{"--theme", "dark", "--size", "1200x800"}
+                              << QSize(1200, 800) << true;
+        QTest::newRow("double") << QStringList{"--theme",  "light",   "--size",
+                                               "1200x800", "--scale", "2"}
+                                << QSize(2400, 1600) << false;
+    }
+    void rendersPictures()
+    {
+        QFETCH(QStringList, extra);
+        QFETCH(bool, dark);
+        const WindowFixture fixture;
+        const QString mapping = fixture.mappingFile();
+        const QString picture = fixture.directory.filePath("p.png");
+        const QStringList before = QDir(fixture.directory.path()).entryList(QDir::Files);
+        const Run run = program(pictureOf(mapping, picture) + extra);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        const QImage image(picture);
+        QTEST(image.size(), "size");
+        QCOMPARE(darkShare(image) > 0.5, dark);
+        // No lock, no journal, nothing else beside the mapping.
+        QVERIFY(QFile::remove(picture));
+        QCOMPARE(QDir(fixture.directory.path()).entryList(QDir::Files), before);
+    }
+
+    void picturesAreTheSameTwice()
+    {
+        const WindowFixture fixture;
+        const QString mapping = fixture.mappingFile();
+        QList<QImage> images;
+        for (int i = 0; i < 2; ++i) {
+            const QString picture = fixture.directory.filePath(QString::number(i) + ".png");
+            QCOMPARE(program(pictureOf(mapping, picture)).status, 0);
+            images << QImage(picture);
+        }
+        QVERIFY(!images.first().isNull());
+        QCOMPARE(images.first(), images.last());
+    }
+
+    void saysWhatCannotBeShown_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("part");
+        const WindowFixture fixture;
+        QTest::newRow("no file") << pictureOf("/no/such.json", "/tmp/never.png") << 2
+                                 << "cannot read /no/such.json";
+    }
+    void saysWhatCannotBeShown()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, status);
+        QFETCH(QString, part);
+        const Run run = program(arguments);
+        QCOMPARE(run.status, status);
+        QVERIFY2(run.err.contains(part), qPrintable(run.err));
+    }
+
+    void saysWhenAPartIsMissing()
+    {
+        const WindowFixture fixture;
+        const QString mapping = fixture.mappingFile();
+        const QString picture = fixture.directory.filePath("p.png");
+        const Run line = program(pictureOf(mapping, picture) + QStringList{"--line", "9999"});
+        QCOMPARE(line.status, 2);
+        QVERIFY2(line.err.contains("there is no such project or line: "
+                                   "standardparts/screws/din933.prj 9999"),
+                 qPrintable(line.err));
+        const Run roots = program({"--screenshot", picture, mapping});
+        QCOMPARE(roots.status, 2);
+        QVERIFY2(roots.err.contains("--source"), qPrintable(roots.err));
+        const Run unwritable =
+            program(pictureOf(mapping, fixture.directory.filePath("no/such/p.png")));
+        QCOMPARE(unwritable.status, 3);
+        QVERIFY(!QFile::exists(picture));
+    }
+};
+
+QTEST_MAIN(tst_Program)
+#include "tst_Program.moc"

@@ -1,0 +1,248 @@
+#include "ModalScript.h"
+#include "WindowFixture.h"
+
+#include <geomcore/records/MappingFile.h>
+#include <workbench/session/MappingDocument.h>
+#include <workbench/session/RecoveryOffer.h>
+#include <workbench/window/CatalogRootsDialog.h>
+#include <workbench/window/DocumentDesk.h>
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/NewMappingDialog.h>
+#include <workbench/window/RecoveryDialog.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+ReleaseMappingC releaseOf(const QString &file)
+{
+    MappingFile mapping;
+    return mapping.read(file) ? mapping.releases().value(0) : ReleaseMappingC();
+}
+
+void enter(QWidget *dialog, const char *name, const QString &text)
+{
+    dialog->findChild<QLineEdit *>(QLatin1String(name))->setText(text);
+}
+
+} // namespace
+
+class tst_WindowDialogs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rootsAreChecked_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<QString>("problem");
+        const CatalogRoots good = WindowFixture::roots();
+        QTest::newRow("good") << good.source << good.target << "";
+        QTest::newRow("nothing") << ""
+                                 << ""
+                                 << "Beide Verzeichnisse werden gebraucht.";
+        QTest::newRow("no directory") << good.source + "/nowhere" << good.target
+                                      << good.source + "/nowhere ist kein Verzeichnis.";
+        QTest::newRow("too deep") << good.source + "/standardparts" << good.target
+                                  << "Im alten Stand fehlt standardparts/bearings/din5412.prj. "
+                                     "Gesucht ist das Verzeichnis, in dem der Katalog "
+                                     "standardparts liegt.";
+        QTest::newRow("target without catalog")
+            << good.source << good.target + "/standardparts"
+            << "Im neuen Stand fehlt der Katalog standardparts.";
+    }
+    void rootsAreChecked()
+    {
+        QFETCH(QString, source);
+        QFETCH(QString, target);
+        QFETCH(QString, problem);
+        const WindowFixture fixture;
+        const CatalogRootsDialog dialog(releaseOf(fixture.mappingFile()), {source, target},
+                                        nullptr);
+        QCOMPARE(dialog.findChild<QLabel *>("problem")->text(), problem);
+        QCOMPARE(dialog.findChild<QPushButton *>("ok")->isEnabled(), problem.isEmpty());
+    }
+
+    void rootsCanBeChanged()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        ModalScript script;
+        script.thenClick("ok");
+        QVERIFY(!fixture.window->desk()->changeRoots());
+        QCOMPARE(script.seen, QStringList{"CatalogRootsDialog"});
+    }
+
+    void makesANewMapping()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.directory.filePath("new.json");
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            script.note(dialog);
+            auto *ok = dialog->findChild<QPushButton *>("ok");
+            QVERIFY(!ok->isEnabled());
+            enter(dialog, "sourceRoot", WindowFixture::roots().source);
+            enter(dialog, "targetRoot", WindowFixture::roots().target);
+            QCOMPARE(dialog->findChild<QComboBox *>("sourceCatalog")->currentText(),
+                     QStringLiteral("standardparts"));
+            QVERIFY(dialog->findChild<QLineEdit *>("mappingFile")
+                        ->text()
+                        .endsWith("/standardparts.mapping.json"));
+            enter(dialog, "mappingFile", fixture.directory.filePath("no/such/folder.json"));
+            QVERIFY(!ok->isEnabled());
+            enter(dialog, "mappingFile", file);
+            QVERIFY2(ok->isEnabled(), qPrintable(dialog->findChild<QLabel *>("problem")->text()));
+            QTest::mouseClick(ok, Qt::LeftButton);
+        });
+        fixture.action("fileNew")->trigger();
+        QCOMPARE(script.seen, QStringList{"NewMappingDialog"});
+        const MappingDocument &document = *fixture.window->desk()->document();
+        QVERIFY(document.isOpen());
+        QVERIFY(document.isModified());
+        QCOMPARE(document.counts().lines(), 1918);
+        QVERIFY(fixture.window->editor()->isOpen());
+        QVERIFY(fixture.window->desk()->save());
+        QCOMPARE(releaseOf(file).countMappings(), 49);
+    }
+
+    void asksBeforeAFileIsUsedAgain()
+    {
+        const WindowFixture fixture;
+        NewMappingDialog dialog(fixture.settings->store(), nullptr);
+        enter(&dialog, "sourceRoot", WindowFixture::roots().source);
+        enter(&dialog, "targetRoot", WindowFixture::roots().target);
+        enter(&dialog, "mappingFile", fixture.mappingFile());
+        ModalScript script;
+        script.thenClick("answerCancel");
+        dialog.accept();
+        QCOMPARE(dialog.result(), 0);
+        QVERIFY(script.texts.first().endsWith("m.json gibt es schon."));
+        script.thenClick("answerAccept");
+        dialog.accept();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+
+    void recoveryShowsBothVersions()
+    {
+        const WindowFixture fixture;
+        RecoveryOffer offer;
+        offer.saved.available = true;
+        offer.saved.projects = 4;
+        offer.recovered.available = true;
+        offer.recovered.projects = 5;
+        offer.recovered.counts.add(3, 2, false);
+        offer.steps = 2;
+        offer.lastStep = "<b>last";
+        offer.damage = "something is missing";
+        RecoveryDialog dialog("/d/m.json", offer, nullptr);
+        const auto text = [&](const char *name) {
+            return dialog.findChild<QLabel *>(QLatin1String(name))->text();
+        };
+        QCOMPARE(text("projectsSaved"), QStringLiteral("4"));
+        QCOMPARE(text("projectsRecovered"), QStringLiteral("5"));
+        QCOMPARE(text("verifiedSaved"), QStringLiteral("0"));
+        QCOMPARE(text("verifiedRecovered"), QStringLiteral("1"));
+        QCOMPARE(text("damage"), QStringLiteral("something is missing"));
+        QVERIFY(text("intro").contains("m.json"));
+        QVERIFY(text("intro").contains("„<b>last“"));
+        QTest::mouseClick(dialog.findChild<QPushButton *>("useSaved"), Qt::LeftButton);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(!dialog.recovers());
+    }
+
+    void recoveryWithoutASavedVersion()
+    {
+        const WindowFixture fixture;
+        RecoveryOffer offer;
+        offer.recovered.available = true;
+        const RecoveryDialog dialog("/d/m.json", offer, nullptr);
+        QVERIFY(!dialog.findChild<QPushButton *>("useSaved")->isEnabled());
+        QCOMPARE(dialog.findChild<QLabel *>("linesSaved")->text(), QStringLiteral("–"));
+    }
+
+    void asksWhichReleaseToOpen()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        MappingFile mapping;
+        QVERIFY(mapping.read(file));
+        ReleaseMappingC older;
+        older.setSourceDate("2019-01-01T00:00:00Z");
+        older.setTargetDate("2020-01-01T00:00:00Z");
+        mapping.setRelease(older);
+        QVERIFY(mapping.write(file));
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            script.note(dialog);
+            auto *input = qobject_cast<QInputDialog *>(dialog);
+            QCOMPARE(input->comboBoxItems().size(), 2);
+            input->setTextValue("2021-12-07T07:30:00Z");
+            input->accept();
+        });
+        fixture.open(file);
+        QCOMPARE(script.seen, QStringList{"ReleaseDialog"});
+        QCOMPARE(fixture.window->desk()->document()->release().getSourceDate(),
+                 QStringLiteral("2021-12-07T07:30:00Z"));
+    }
+
+    void foreignChangesAreNotOverwrittenUnasked_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("cancel") << "answerCancel" << false;
+        QTest::newRow("own version") << "answerAccept" << true;
+    }
+    void foreignChangesAreNotOverwrittenUnasked()
+    {
+        QFETCH(QString, button);
+        QFETCH(bool, saved);
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        fixture.open(file);
+        QVERIFY(fixture.window->editor()->goTo({{"standardparts/screws/din933.prj", {}, {}}, 3}));
+        fixture.press(Qt::Key_V);
+        MappingDocument &document = *fixture.window->desk()->document();
+        QTRY_VERIFY(document.isModified());
+        MappingFile mapping;
+        QVERIFY(mapping.read(file));
+        ReleaseMappingC theirs = mapping.releases().first();
+        theirs.setTargetDate("2030-01-01T00:00:00Z");
+        mapping.setRelease(theirs);
+        QVERIFY(mapping.write(file));
+        ModalScript script;
+        script.thenClick(button);
+        QCOMPARE(fixture.window->desk()->save(), saved);
+        QVERIFY2(script.texts.first().contains("von jemand anderem geändert"),
+                 qPrintable(script.texts.first()));
+        QCOMPARE(document.isModified(), !saved);
+        document.close();
+    }
+
+    void saysThatSomebodyElseEditsTheFile()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        MappingDocument other;
+        QCOMPARE(other.open({.mappingFile = file, .sourceDate = {}, .rootName = {}}),
+                 MappingDocument::OpenResult::Opened);
+        ModalScript script;
+        script.thenClick("answerCancel");
+        fixture.open(file);
+        QCOMPARE(script.texts, QStringList{"Die Datei ist nur zum Lesen geöffnet."});
+        QVERIFY(fixture.window->desk()->document()->isReadOnly());
+        QVERIFY(fixture.window->windowTitle().endsWith(" (schreibgeschützt)"));
+        QVERIFY(!fixture.action("linesConfirm")->isEnabled());
+        QVERIFY(!fixture.action("fileSave")->isEnabled());
+    }
+};
+
+QTEST_MAIN(tst_WindowDialogs)
+#include "tst_WindowDialogs.moc"

@@ -1,0 +1,292 @@
+#include <core/message/PMessage.h>
+#include <core/progress/PProgress.h>
+#include <gui/progress/DefaultObserverDelegate.h>
+#include <workbench/window/LegendDialog.h>
+#include <workbench/window/LogWindow.h>
+#include <workbench/window/StatusArea.h>
+#include <workbench/window/StatusProgress.h>
+#include <workbench/window/TargetRoot.h>
+#include <workbench/window/TourOverlay.h>
+#include <workbench/window/WelcomePage.h>
+#include <workbench/window/WindowMessageSink.h>
+#include <workbench/window/WorkbenchActions.h>
+
+#include <core/text/PPathName.h>
+#include <geomcore/index/IndexTreeC.h>
+
+#include <QAction>
+#include <QFile>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include <thread>
+
+class tst_WindowParts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void logShowsMessagesInOrder()
+    {
+        QMainWindow window;
+        LogWindow log(&window);
+        log.addMessage(LogWindow::Severity::Information, "first");
+        log.addMessage(LogWindow::Severity::Warning, " second\n");
+        const QStringList lines = log.text().split('\n');
+        QCOMPARE(lines.size(), 2);
+        QVERIFY(lines.first().endsWith("  first"));
+        QVERIFY(lines.last().endsWith("  Warnung: second"));
+    }
+
+    void logDropsTheOldest()
+    {
+        QMainWindow window;
+        LogWindow log(&window);
+        for (int i = 0; i < LogWindow::LineLimit + 3; ++i)
+            log.addMessage(LogWindow::Severity::Information, QString::number(i));
+        QCOMPARE(log.text().count('\n'), LogWindow::LineLimit - 1);
+        QVERIFY(log.text().endsWith(QString::number(LogWindow::LineLimit + 2)));
+    }
+
+    void logComesForwardForErrors_data()
+    {
+        QTest::addColumn<int>("severity");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("information") << int(LogWindow::Severity::Information) << false;
+        QTest::newRow("warning") << int(LogWindow::Severity::Warning) << true;
+        QTest::newRow("error") << int(LogWindow::Severity::Error) << true;
+    }
+    void logComesForwardForErrors()
+    {
+        QFETCH(int, severity);
+        QMainWindow window;
+        auto *log = new LogWindow(&window);
+        window.addDockWidget(Qt::BottomDockWidgetArea, log);
+        window.show();
+        log->hide();
+        log->addMessage(LogWindow::Severity(severity), "text");
+        QTEST(log->isVisible(), "shown");
+    }
+
+    void messagesComeFromOtherThreads()
+    {
+        QMainWindow window;
+        LogWindow log(&window);
+        const PMessageSinkScope scope(std::make_shared<WindowMessageSink>(&window, &log));
+        std::thread([] {
+            PMessage::Show("broken", PMsgDlgMode::Error);
+            PMessage::LogToWindow("said");
+        }).join();
+        QTRY_VERIFY(log.text().endsWith("  said"));
+        QVERIFY(log.text().contains("  Fehler: broken\n"));
+    }
+
+    void noteOffersUndo()
+    {
+        StatusArea status(nullptr);
+        auto *note = status.findChild<QLabel *>("statusNote");
+        status.showNote("1 < 2", true);
+        QCOMPARE(note->text(), QStringLiteral("1 &lt; 2 · <a href=\"undo\">rückgängig</a>"));
+        const QSignalSpy undo(&status, &StatusArea::undoRequested);
+        Q_EMIT note->linkActivated("undo");
+        QCOMPARE(undo.size(), 1);
+        status.dropUndo();
+        QCOMPARE(note->text(), QStringLiteral("1 &lt; 2"));
+    }
+
+    void counterGroupsDigits()
+    {
+        StatusArea status(nullptr);
+        auto *open = status.findChild<QLabel *>("statusOpen");
+        status.setOpenLines(1234567, 89);
+        QCOMPARE(open->text(),
+                 QStringLiteral("Offen: <a href=\"next\">1\u202f234\u202f567 Zeilen</a> in 89 "
+                                "Projekten"));
+        status.setOpenLines(0, 0);
+        QCOMPARE(open->text(), QStringLiteral("Alles entschieden"));
+        QVERIFY(!open->isHidden());
+        status.setOpenLines(-1, 0);
+        QVERIFY(open->isHidden());
+    }
+
+    void progressShowsAndCancels()
+    {
+        StatusArea status(nullptr);
+        status.show();
+        StatusProgress *const part = status.progress();
+        QVERIFY(part->isHidden());
+        DefaultObserverDelegate::setTimes(0, 0);
+        DefaultObserverDelegate::setDisplay(std::make_shared<StatusProgressDisplay>(part));
+        {
+            DefaultObserverDelegate delegate;
+            delegate.activate(PProgressObserverBase::Thread);
+            PProgress progress(0, 4, 1, true, false);
+            progress.setText("Work");
+            progress.nextStep();
+            progress.nextStep();
+            QVERIFY(!part->isHidden());
+            QCOMPARE(part->findChild<QLabel *>("progressText")->text(), QStringLiteral("Work"));
+            auto *cancel = part->findChild<QToolButton *>("progressCancel");
+            QVERIFY(!cancel->isHidden());
+            QVERIFY(part->owns(cancel));
+            QVERIFY(!part->owns(part));
+            QTest::mouseClick(cancel, Qt::LeftButton);
+            QVERIFY(progress.isCanceled());
+            QVERIFY(!cancel->isEnabled());
+        }
+        QVERIFY(part->isHidden());
+        DefaultObserverDelegate::setDisplay(nullptr);
+        DefaultObserverDelegate::setTimes(500, 100);
+    }
+
+    void progressWithoutCancelHasNoButton()
+    {
+        StatusProgress part(nullptr);
+        PProgressInfo info;
+        info.text = "Work";
+        info.total = 200;
+        info.count = 50;
+        part.showProgress({info});
+        QVERIFY(part.findChild<QToolButton *>("progressCancel")->isHidden());
+        auto *bar = part.findChild<QProgressBar *>("progressBar");
+        QCOMPARE(bar->value() * 4, bar->maximum());
+        info.total = -1;
+        part.showProgress({info});
+        QCOMPARE(bar->maximum(), 0);
+    }
+
+    void actionsHaveNamesTextsAndTips()
+    {
+        QObject owner;
+        const WorkbenchActions actions(&owner);
+        QStringList names;
+        QStringList keys;
+        for (int i = 0; i < WorkbenchActions::CommandCount; ++i) {
+            const QAction *const action = actions.action(WorkbenchActions::Command(i));
+            QVERIFY(!action->objectName().isEmpty());
+            QVERIFY2(!action->text().isEmpty(), qPrintable(action->objectName()));
+            QVERIFY2(!action->statusTip().isEmpty(), qPrintable(action->objectName()));
+            QVERIFY2(!names.contains(action->objectName()), qPrintable(action->objectName()));
+            names << action->objectName();
+            const QString key = action->shortcut().toString();
+            QVERIFY2(key.isEmpty() || !keys.contains(key), qPrintable(key));
+            keys << key;
+        }
+    }
+
+    void undoTextsKeepAmpersands()
+    {
+        QObject owner;
+        WorkbenchActions actions(&owner);
+        actions.setUndoTexts("1 Zeile in a&b.prj", QString());
+        const QAction *const undo = actions.action(WorkbenchActions::Undo);
+        QCOMPARE(undo->text(), QStringLiteral("&Rückgängig: 1 Zeile in a&&b.prj"));
+        QCOMPARE(undo->toolTip(), QStringLiteral("Rückgängig: 1 Zeile in a&b.prj"));
+        QVERIFY(undo->isEnabled());
+        QVERIFY(!actions.action(WorkbenchActions::Redo)->isEnabled());
+    }
+
+    void readOnlyDisablesWhatWrites()
+    {
+        QObject owner;
+        WorkbenchActions actions(&owner);
+        actions.setDocumentOpen(true, true);
+        for (const auto command :
+             {WorkbenchActions::Save, WorkbenchActions::ConfirmLines, WorkbenchActions::RemoveLines,
+              WorkbenchActions::RemoveConfirmLines, WorkbenchActions::AssignAll})
+            QVERIFY(!actions.action(command)->isEnabled());
+        for (const auto command : {WorkbenchActions::SaveAs, WorkbenchActions::NextOpen,
+                                   WorkbenchActions::CheckValueRanges, WorkbenchActions::CloseFile})
+            QVERIFY(actions.action(command)->isEnabled());
+    }
+
+    void tourLeadsAndCanBeSkipped()
+    {
+        QMainWindow window;
+        window.resize(800, 600);
+        auto *part = new QLabel("part", &window);
+        part->setGeometry(10, 10, 100, 100);
+        window.show();
+        const QList<TourOverlay::Step> steps{{part, "one", "1"}, {nullptr, "two", "2"}};
+        QPointer<TourOverlay> tour = new TourOverlay(steps, &window);
+        const QSignalSpy ended(tour, &TourOverlay::ended);
+        QCOMPARE(tour->geometry(), window.rect());
+        auto *title = tour->findChild<QLabel *>("tourTitle");
+        QCOMPARE(title->text(), QStringLiteral("one"));
+        QVERIFY(!tour->findChild<QPushButton *>("tourBack")->isEnabled());
+        QTest::mouseClick(tour->findChild<QPushButton *>("tourNext"), Qt::LeftButton);
+        QCOMPARE(title->text(), QStringLiteral("two"));
+        QCOMPARE(tour->findChild<QPushButton *>("tourNext")->text(), QStringLiteral("&Fertig"));
+        QTest::keyClick(tour, Qt::Key_Left);
+        QCOMPARE(title->text(), QStringLiteral("one"));
+        window.resize(700, 500);
+        QApplication::processEvents();
+        QCOMPARE(tour->geometry(), window.rect());
+        QTest::keyClick(tour, Qt::Key_Escape);
+        QCOMPARE(ended.size(), 1);
+        QTRY_VERIFY(!tour);
+    }
+
+    void welcomePageOpensRecentFiles()
+    {
+        QAction action("&Open", nullptr);
+        WelcomePage page({&action}, nullptr);
+        page.setRecentFiles({"/a/<b>.json", "/c.json"});
+        const QSignalSpy chosen(&page, &WelcomePage::fileChosen);
+        const auto labels = page.findChildren<QLabel *>();
+        for (QLabel *label : labels) {
+            if (label->toolTip() == "/a/<b>.json")
+                Q_EMIT label->linkActivated(QString());
+        }
+        QCOMPARE(chosen.size(), 1);
+        QCOMPARE(chosen.first().first().toString(), QStringLiteral("/a/<b>.json"));
+        QTest::mouseClick(page.findChild<QToolButton *>(), Qt::LeftButton);
+    }
+
+    void legendHasAllStates()
+    {
+        const LegendDialog dialog(nullptr);
+        int pictures = 0;
+        const auto labels = dialog.findChildren<QLabel *>();
+        for (const QLabel *label : labels)
+            pictures += label->pixmap().isNull() ? 0 : 1;
+        QCOMPARE(pictures, 8);
+    }
+
+    void targetRootIsTheCatalogRoot_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("any name") << "release-2";
+        QTest::newRow("the fixed name") << "23d-libs";
+    }
+    void targetRootIsTheCatalogRoot()
+    {
+        QFETCH(QString, name);
+        const QTemporaryDir directory;
+        QVERIFY(QDir(directory.path()).mkpath(name + "/cat"));
+        QFile file(directory.filePath(name + "/cat/a.prj"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        qputenv("TORMEVA_DATA", "/before");
+        {
+            const TargetRoot root(directory.filePath(name));
+            QVERIFY(PPathName("$TORMEVA_DATA/23d-libs/cat/a.prj").exists(false));
+            QVERIFY(IndexTreeC::instance()
+                        ->compatiblePathToResolvedPath(PPathName("cat/a.prj"))
+                        .exists(false));
+        }
+        QCOMPARE(qgetenv("TORMEVA_DATA"), QByteArray("/before"));
+        QVERIFY(QFile::exists(file.fileName()));
+        qunsetenv("TORMEVA_DATA");
+    }
+};
+
+QTEST_MAIN(tst_WindowParts)
+#include "tst_WindowParts.moc"
