@@ -126,6 +126,10 @@
         <translation>&amp;Save</translation>
     </message>
     <message>
+        <source>&amp;Trotzdem speichern</source>
+        <translation>&amp;Save all the same</translation>
+    </message>
+    <message>
         <source>&amp;Verwerfen</source>
         <translation>&amp;Discard</translation>
     </message>
@@ -158,6 +162,10 @@
         <translation>Saved: %1</translation>
     </message>
     <message>
+        <source>In diesen Projekten gibt es ungelöste Konflikte:</source>
+        <translation>There are unsettled conflicts in these projects:</translation>
+    </message>
+    <message>
         <source>Katalogstand</source>
         <translation>Catalog release</translation>
     </message>
@@ -168,6 +176,10 @@
     <message>
         <source>Verworfene Änderungen sind verloren.</source>
         <translation>Changes that are discarded are lost.</translation>
+    </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>and %1 more</translation>
     </message>
     <message>
         <source>Änderungen an %1 speichern?</source>
@@ -209,6 +221,10 @@
     <message>
         <source>%1 ist unlesbar und konnte nicht nach %2 kopiert werden (%3). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
         <translation>%1 is unreadable and could not be copied to %2 (%3). Nothing was written. Please save under another name.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. Bitte die Schreibrechte prüfen oder unter einem anderen Namen speichern.</source>
+        <translation>%1 cannot be written to (%2). Nothing was written. Please check its permissions or save under another name.</translation>
     </message>
     <message>
         <source>%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts geschrieben. Bitte gleich noch einmal speichern.</source>

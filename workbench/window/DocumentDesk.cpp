@@ -206,18 +206,38 @@ bool DocumentDesk::mayClose()
 
 bool DocumentDesk::save()
 {
-    return m_document->isOpen() && finish(write(QString(), {}), {}, QString());
+    return m_document->isOpen() && maySave() && finish(write(QString(), {}), {}, QString());
 }
 
 bool DocumentDesk::saveAs()
 {
-    if (!m_document->isOpen())
+    if (!m_document->isOpen() || !maySave())
         return false;
     const QString file = FileNames::askSave(m_window, m_document->mappingFile());
     if (file.isEmpty() || !finish(write(file, {}), {}, file))
         return false;
     m_settings->addRecentFile(m_document->mappingFile());
     return true;
+}
+
+bool DocumentDesk::maySave() const
+{
+    const QList<ProjectId> projects = m_document->conflictedProjects();
+    if (projects.isEmpty())
+        return true;
+    constexpr int shown = 10;
+    QStringList paths;
+    for (const ProjectId &project : projects.mid(0, shown))
+        paths << project.path;
+    if (projects.size() > shown)
+        paths << tr("und %1 weitere").arg(projects.size() - shown);
+    Question question(m_window);
+    question.setWarning();
+    question.setText(tr("In diesen Projekten gibt es ungelöste Konflikte:"));
+    question.setDetails(paths.join('\n'));
+    question.addAnswer(Question::Cancel, Question::cancelText());
+    question.addAnswer(Question::Accept, tr("&Trotzdem speichern"));
+    return question.ask() == Question::Accept;
 }
 
 SaveOutcome DocumentDesk::write(const QString &file, const SaveOptions &options)

@@ -76,6 +76,8 @@ private:
                                const QString &file);
     [[nodiscard]] SaveOutcome write(const QString &file, const SaveOptions &options);
     [[nodiscard]] bool mayClose();
+    /// Lines in conflict are listed, and the user says whether to save all the same.
+    [[nodiscard]] bool maySave() const;
     void setUp();
     void leave();
 

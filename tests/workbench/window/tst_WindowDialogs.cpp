@@ -226,6 +226,48 @@ private Q_SLOTS:
         document.close();
     }
 
+    void conflictsAreToldBeforeSaving_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("cancel") << "answerCancel" << false;
+        QTest::newRow("all the same") << "answerAccept" << true;
+    }
+    void conflictsAreToldBeforeSaving()
+    {
+        QFETCH(QString, button);
+        QFETCH(bool, saved);
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        MappingFile mapping;
+        QVERIFY(mapping.read(file));
+        ReleaseMappingC release = mapping.releases().first();
+        const QString path = "standardparts/screws/din933.prj";
+        for (int i = 0; i < release.countMappings(); ++i) {
+            PrjMappingC project = release.mappingAt(i);
+            if (project.getSourcePath() != path)
+                continue;
+            PrjMappingTargetC target = project.findTarget(0);
+            target.setLineConflicted(3, true);
+            project.updateTarget(0, target);
+            release.addMapping(project);
+        }
+        mapping.setRelease(release);
+        QVERIFY(mapping.write(file));
+        fixture.open(file);
+        QVERIFY(fixture.window->editor()->goTo({{path, {}, {}}, 2}));
+        fixture.press(Qt::Key_V);
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            script.note(dialog);
+            QCOMPARE(dialog->property("informativeText").toString(), path);
+            QTest::mouseClick(dialog->findChild<QPushButton *>(button), Qt::LeftButton);
+        });
+        QCOMPARE(fixture.window->desk()->save(), saved);
+        QCOMPARE(script.texts, QStringList{"In diesen Projekten gibt es ungelöste Konflikte:"});
+        fixture.window->desk()->document()->close();
+    }
+
     void saysThatSomebodyElseEditsTheFile()
     {
         WindowFixture fixture;
