@@ -154,21 +154,26 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
         m_lostText = recovery.damage();
         return OpenResult::OpenedReadOnly;
     }
-    if (request.recovery == MappingDocument::Recovery::Ask) {
-        offer = recovery.offer();
-        m_lock.release();
-        readOnly = ReadOnlyReason::None;
-        file.clear();
-        return OpenResult::RecoveryPending;
-    }
-    if (request.recovery == MappingDocument::Recovery::UseSaved) {
+    switch (request.recovery) {
+    case MappingDocument::Recovery::UseRecovered:
+        return openRecovered(recovery, request.rootName);
+    case MappingDocument::Recovery::UseSaved:
         m_putAside = true;
         return OpenResult::OpenedReadOnly;
+    case MappingDocument::Recovery::Ask:
+        break;
     }
+    offer = recovery.offer();
+    return fail(OpenResult::RecoveryPending, QString());
+}
+
+OpenResult MappingDocumentPrivate::openRecovered(const SessionRecovery &recovery,
+                                                 const QString &name)
+{
+    const ReleaseMappingC recovered = recovery.recoveredRelease();
     m_known = FileState::of(file);
     m_loaded = recovery.offer().saved.available ? recovery.savedRelease() : ReleaseMappingC();
-    // The side file goes first and comes back with all that is recovered before the journal goes.
-    const ReleaseMappingC recovered = recovery.recoveredRelease();
+    // The side file gets all that is recovered before the journal goes.
     MappingFile side;
     side.setRelease(recovered);
     QString error;
@@ -179,14 +184,21 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
                                         "Journal ist unverändert.")
                         .arg(error));
     (void)SessionRecovery::putAsideJournal(file);
-    const OpenResult result = begin(recovered, request.rootName);
+    const OpenResult result = begin(recovered, name);
+    pushRecovery(recovery);
+    return result;
+}
+
+/// Lets undo lead back to the saved version, if there is one.
+void MappingDocumentPrivate::pushRecovery(const SessionRecovery &recovery)
+{
     UndoStep step;
     step.text = MappingDocument::tr("Wiederherstellung nach einem Absturz");
     step.lines = recovery.offer().changedLines;
     step.releaseBefore = m_loaded;
-    step.releaseAfter = recovered;
+    step.releaseAfter = recovery.recoveredRelease();
     if (recovery.offer().saved.available) {
-        journalRelease(m_loaded, recovered);
+        journalRelease(m_loaded, recovery.recoveredRelease());
         history.push(step);
     } else {
         history.markDirty();
@@ -195,7 +207,6 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
     tellModified();
     Q_EMIT q->undoChanged();
     autosave();
-    return result;
 }
 
 OpenResult MappingDocumentPrivate::begin(const ReleaseMappingC &release, const QString &name)
@@ -272,6 +283,8 @@ void MappingDocumentPrivate::close(bool tell)
         QFile::remove(SessionRecovery::autosaveFile(file));
     }
     isOpen = false;
+    m_refused = false;
+    m_refusedProjects.clear();
     handler.reset();
     counts = LineCounts();
     history.clear();

@@ -16,6 +16,7 @@
 #include <QTimer>
 
 class PJsonValue;
+class SessionRecovery;
 
 /// State of a MappingDocument.
 class MappingDocumentPrivate : public PPrivateData<MappingDocument>
@@ -93,6 +94,9 @@ private:
     [[nodiscard]] MappingDocument::OpenResult readRelease(const QString &wantedDate,
                                                           ReleaseMappingC &release);
     [[nodiscard]] MappingDocument::OpenResult recover(const MappingDocument::OpenRequest &request);
+    [[nodiscard]] MappingDocument::OpenResult openRecovered(const SessionRecovery &recovery,
+                                                            const QString &name);
+    void pushRecovery(const SessionRecovery &recovery);
     MappingDocument::OpenResult begin(const ReleaseMappingC &release, const QString &name);
     void beginJournal();
     void adoptRelease(const ReleaseMappingC &release);
