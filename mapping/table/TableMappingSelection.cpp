@@ -6,12 +6,9 @@
 
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
-#include <geomcore/index/IndexTreeC.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/FileLayer.h>
 #include <geomcore/table/Finder.h>
 #include <geomcore/table/LangThreadSettings.h>
-#include <geomcore/table/LineView.h>
 #include <geomcore/table/Reader.h>
 #include <geomcore/table/SignalConnect.h>
 #include <geomcoregui/table/VkTableModel.h>
@@ -63,6 +60,14 @@ void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
     targetNumberLabel->clear();
     mapping = newMapping;
     catalogMapping = catalog;
+    connectSourceTable();
+    updateLineStatus();
+    if (chkFilterSource->checkState() == Qt::Checked)
+        onChkFilterNotMappedLines(Qt::Checked);
+}
+
+void TableMappingWidgetPrivate::connectSourceTable()
+{
     sourceSelectedConnection = sourceTable.signalConnect().connectSignalLineSelected(
         [this](const VKTab::Content &, const VKTab::LineId &id, bool selected) {
             return onSourceLineSelected(id, selected);
@@ -73,9 +78,6 @@ void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
             m_shownStatus.noteModifiedLine(id.value(0));
             return onSourceLineSelected(id, modified);
         });
-    updateLineStatus();
-    if (chkFilterSource->checkState() == Qt::Checked)
-        onChkFilterNotMappedLines(Qt::Checked);
 }
 
 QStringList TableMappingWidgetPrivate::valueRangeVariables(const VKTab::Content &table)
@@ -86,76 +88,6 @@ QStringList TableMappingWidgetPrivate::valueRangeVariables(const VKTab::Content 
             names.append(var.getName());
     }
     return names;
-}
-
-CatalogMappingC TableMappingWidgetPrivate::currentRelease() const
-{
-    CatalogMappingC catalog;
-    const QList<ReleaseMappingC> releases = catalogMapping.getReleases();
-    if (releases.isEmpty())
-        return catalog;
-    ReleaseMappingC release;
-    release.setSourceDate(releases.first().getSourceDate());
-    release.setTargetDate(releases.first().getTargetDate());
-    release.addMapping(mapping);
-    catalog.addRelease(release);
-    return catalog;
-}
-
-namespace {
-
-template<class Values>
-PrjMapperLineC lookUp(PrjMapperC &mapper, int number, const Values &values)
-{
-    PrjMapperLineC line = mapper.findLine(number, values);
-    if (!line.isValid())
-        line = mapper.createLine(number, values, false);
-    return line;
-}
-
-} // namespace
-
-bool TableMappingWidgetPrivate::startMapper(PrjMapperC &mapper) const
-{
-    mapper.setSourceTable(sourceTable);
-    const auto state =
-        mapper.findMapping(mapping.getSourcePath(), mapping.getSourceVersion(), currentRelease());
-    return state & PRJMAPPING::StateUsable;
-}
-
-PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id, Varset &varset,
-                                                        PrjMapperCheckResultC *check) const
-{
-    if (catalogMapping.getReleases().isEmpty())
-        return {};
-    if (varset.isEmpty())
-        varset = createVarsetFromVKTable(sourceTable, id, {});
-    PrjMapperC mapper(IndexTreeC::instance());
-    PrjMapperLineC line;
-    if (startMapper(mapper)) {
-        line = lookUp(mapper, id.value(0), varset);
-        if (line.isValid() && line.isFound())
-            varset = mapper.updateVarset(line, varset, VarsetTargetVariables);
-    }
-    if (check)
-        *check = mapper.checkMapping(line, id);
-    return line;
-}
-
-PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id,
-                                                        const Varset &values) const
-{
-    if (catalogMapping.getReleases().isEmpty())
-        return {};
-    PrjMapperC mapper(IndexTreeC::instance());
-    if (!startMapper(mapper))
-        return {};
-    if (!values.isEmpty())
-        return lookUp(mapper, id.value(0), values);
-    const VKTab::LineView view(sourceTable, id);
-    return view.isValid()
-               ? lookUp(mapper, id.value(0), view)
-               : lookUp(mapper, id.value(0), createVarsetFromVKTable(sourceTable, id, {}));
 }
 
 QString TableMappingWidgetPrivate::builtPath(const QString &targetPath) const
@@ -270,6 +202,14 @@ VKTab::ContentRef TableMappingWidgetPrivate::readTargetTable(const QString &path
     const double zoom = std::max(sourceView->getZoomFactor(), targetView->getZoomFactor());
     sourceView->setZoomFactor(zoom);
     targetView->setZoomFactor(zoom);
+    connectTargetTable(table);
+    if (!valueRangeVariables(sourceTable).isEmpty())
+        table.addLayer(LineIdColumnLayer());
+    return table;
+}
+
+void TableMappingWidgetPrivate::connectTargetTable(const VKTab::ContentRef &table)
+{
     targetSelectedConnection = table.signalConnect().connectSignalLineSelected(
         [this](const VKTab::Content &, const VKTab::LineId &id, bool selected) {
             return onTargetLineSelected(id, selected);
@@ -279,9 +219,6 @@ VKTab::ContentRef TableMappingWidgetPrivate::readTargetTable(const QString &path
         [this](const VKTab::Content &, const VKTab::LineId &id, bool modified) {
             return onTargetLineSelected(id, modified);
         });
-    if (!valueRangeVariables(sourceTable).isEmpty())
-        table.addLayer(LineIdColumnLayer());
-    return table;
 }
 
 void TableMappingWidgetPrivate::showTargetLine(VKTab::ContentRef &table, const PrjMapperLineC &line,

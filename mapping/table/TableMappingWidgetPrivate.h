@@ -144,6 +144,8 @@ private:
     [[nodiscard]] CatalogMappingC currentRelease() const;
     /// False if the mapping cannot be used.
     [[nodiscard]] bool startMapper(PrjMapperC &mapper) const;
+    void connectSourceTable();
+    void connectTargetTable(const VKTab::ContentRef &table);
     void clearTargetTable();
     [[nodiscard]] QString builtPath(const QString &targetPath) const;
     [[nodiscard]] QList<int> targetsOf(const VKTab::Content &table) const;
