@@ -2,6 +2,7 @@
 
 #include <mapping/project/ProjectMappingWidget.h>
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QPushButton>
 #include <QScrollArea>
