@@ -8,6 +8,7 @@
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QTreeView>
 
 namespace {
@@ -132,6 +133,8 @@ private Q_SLOTS:
     void orderOfTargets();
     void walkAllProjects();
     void saved();
+    void randomSteps_data();
+    void randomSteps();
 };
 
 void tst_ExampleEditor::confirmByKeyboard()
@@ -276,6 +279,98 @@ void tst_ExampleEditor::saved()
     QVERIFY(file.read(editor.file()));
     QCOMPARE(entriesOf(file.release("2024-01-01").findMapping(Nuts, "v1", QString())),
              entriesOf(editor.stored(Nuts)));
+}
+
+namespace {
+
+/// Source lines of a mapping with the number of targets that hold each.
+QMap<int, int> heldLines(const PrjMappingC &mapping)
+{
+    QMap<int, int> held;
+    const QList<PrjMappingTargetC> targets = mapping.getTargets();
+    for (const PrjMappingTargetC &target : targets)
+        for (const LineTable::Iterator &line : target.lines())
+            ++held[line.sourceLine()];
+    return held;
+}
+
+void selectAnyLine(const VkTableView *view, QRandomGenerator &random)
+{
+    VKTab::ContentRef table = view->getTable();
+    if (table.isValid() && table.getLineCount() > 0)
+        table.setSelection(table.getLineIdList().at(random.bounded(table.getLineCount())), true);
+}
+
+void clickAnyPanel(const Editor &editor, const char *button, QRandomGenerator &random)
+{
+    const QList<TargetMappingWidget *> panels =
+        targetPanels(editor.widget->findChild<QWidget *>("projectWidget"));
+    if (!panels.isEmpty())
+        QTest::mouseClick(panels.at(random.bounded(int(panels.size())))
+                              ->findChild<QPushButton *>(QLatin1String(button)),
+                          Qt::LeftButton);
+}
+
+void takeStep(const Editor &editor, QRandomGenerator &random)
+{
+    const QStringList projects({Nuts, Screws, "standardparts/nuts/iso4032.prj"});
+    switch (random.bounded(12)) {
+    case 0:
+        return editor.open(projects.at(random.bounded(int(projects.size()))));
+    case 1:
+    case 2:
+    case 3:
+        return selectAnyLine(editor.source, random);
+    case 4:
+        return selectAnyLine(editor.target, random);
+    case 5:
+    case 6:
+        return editor.key(Qt::Key_V);
+    case 7:
+        return editor.key(Qt::Key_X);
+    case 8:
+        return editor.key(Qt::Key_X, Qt::ControlModifier);
+    case 9:
+        return clickAnyPanel(editor, random.bounded(2) ? "upButton" : "downButton", random);
+    case 10:
+        return random.bounded(4) ? editor.key(Qt::Key_A, Qt::ControlModifier)
+                                 : clickAnyPanel(editor, "removeButton", random);
+    default:
+        return editor.click("remapLinesButton");
+    }
+}
+
+} // namespace
+
+void tst_ExampleEditor::randomSteps_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 5; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void tst_ExampleEditor::randomSteps()
+{
+    QFETCH(quint32, seed);
+    const Editor editor;
+    const ReleaseMappingC first = editor.handler->getCatalogMapping().lastRelease();
+    QRandomGenerator random(seed);
+    for (int step = 0; step < 100; ++step) {
+        takeStep(editor, random);
+        // Whatever is done, every line stays in exactly one target, and the counters are right.
+        const ReleaseMappingC now = editor.handler->getCatalogMapping().lastRelease();
+        LineCounts counts;
+        for (int project = 0; project < now.countMappings(); ++project) {
+            counts.add(now.mappingAt(project).lineCounts());
+            QCOMPARE(heldLines(now.mappingAt(project)), heldLines(first.mappingAt(project)));
+        }
+        QCOMPARE(editor.handler->countVerified(), counts.verified());
+        QCOMPARE(editor.handler->countNotFound(), counts.notFound());
+        QCOMPARE(editor.handler->countToCheck(), counts.toCheck());
+        QCOMPARE(editor.handler->countMapped(), counts.mapped());
+    }
+    QVERIFY(!editor.handler->updates.isEmpty());
+    QCOMPARE(editor.messages->texts(), QStringList());
 }
 
 QTEST_MAIN(tst_ExampleEditor)
