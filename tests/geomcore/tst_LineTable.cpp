@@ -61,6 +61,9 @@ class tst_LineTable : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void changedLines();
+    void changedLinesOfRandomTables_data();
+    void changedLinesOfRandomTables();
     void emptyTable()
     {
         LineTable table;
@@ -311,6 +314,75 @@ private Q_SLOTS:
         QCOMPARE(int(table.value(1).getState()), state);
     }
 };
+
+void tst_LineTable::changedLines()
+{
+    using Lines = std::vector<int>;
+    LineTable before;
+    for (int line = 0; line < 1000; ++line)
+        before.set(line, makeLine(line, 1));
+    LineTable after = before;
+    QCOMPARE(LineTable::changedLines(before, after), Lines());
+    after.set(500, makeLine(500, 1)); // the same again
+    QCOMPARE(LineTable::changedLines(before, after), Lines());
+    after.set(500, makeLine(501, 1));
+    after.set(600, makeLine(600, 2));
+    after.set(700, makeLine(700, 1, true));
+    after.set(800, makeLine(800, 1, false, "{A=1} -> 2"));
+    after.remove(0);
+    after.set(-5, makeLine(1, 1));
+    after.set(5000, makeLine(1, 1));
+    QCOMPARE(LineTable::changedLines(before, after), Lines({-5, 0, 500, 600, 700, 800, 5000}));
+    QCOMPARE(LineTable::changedLines(after, before), Lines({-5, 0, 500, 600, 700, 800, 5000}));
+    LineTable other; // equal entries, nothing shared
+    for (int line = 999; line >= 0; --line)
+        other.set(line, makeLine(line, 1));
+    QCOMPARE(LineTable::changedLines(before, other), Lines());
+    LineTable one;
+    one.set(3, makeLine(3, 1));
+    QCOMPARE(LineTable::changedLines(one, LineTable()), Lines({3}));
+    QCOMPARE(LineTable::changedLines(LineTable(), one), Lines({3}));
+}
+
+void tst_LineTable::changedLinesOfRandomTables_data()
+{
+    QTest::addColumn<int>("seed");
+    QTest::addColumn<int>("changes");
+    QTest::newRow("few") << 1 << 3;
+    QTest::newRow("some") << 2 << 60;
+    QTest::newRow("many, so that pages split and merge") << 3 << 3000;
+}
+
+void tst_LineTable::changedLinesOfRandomTables()
+{
+    QFETCH(int, seed);
+    QFETCH(int, changes);
+    QRandomGenerator random{quint32(seed)};
+    Reference reference;
+    LineTable table;
+    for (int step = 0; step < 30; ++step) {
+        const Reference formerReference = reference;
+        const LineTable former = table;
+        for (int change = 0; change < changes; ++change) {
+            const int line = random.bounded(6000);
+            if (random.bounded(3) == 0) {
+                reference.remove(line);
+                table.remove(line);
+            } else {
+                const PrjMappingTargetLineC entry = randomLine(random);
+                reference.insert(line, entry);
+                table.set(line, entry);
+            }
+        }
+        std::vector<int> expected;
+        for (int line = 0; line < 6000; ++line) {
+            if (reference.contains(line) != formerReference.contains(line) ||
+                !(reference.value(line) == formerReference.value(line)))
+                expected.push_back(line);
+        }
+        QCOMPARE(LineTable::changedLines(former, table), expected);
+    }
+}
 
 QTEST_GUILESS_MAIN(tst_LineTable)
 #include "tst_LineTable.moc"
