@@ -24,6 +24,15 @@ void print(std::FILE *stream, const QString &text)
     std::fputs(text.toUtf8().constData(), stream);
 }
 
+QtMessageHandler formerHandler = nullptr;
+
+/// The platform without a display complains of each window that it cannot tell its size to.
+void dropPlatformChatter(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.endsWith(QLatin1String("does not support propagateSizeHints()")))
+        formerHandler(type, context, text);
+}
+
 StartOptions optionsOf(int argc, char **argv)
 {
     QStringList arguments;
@@ -57,6 +66,8 @@ int main(int argc, char **argv)
         return WrongUsage;
     }
     options.prepareEnvironment();
+    if (!options.screenshot.isEmpty())
+        formerHandler = qInstallMessageHandler(dropPlatformChatter);
     QApplication application(argc, argv);
     QApplication::setApplicationName("velkworkbench");
     QApplication::setApplicationDisplayName("Velkworkbench");
