@@ -24,7 +24,7 @@ void keepIconsClear(QStyleOptionViewItem *option)
 /// A number at the right edge of its cell and a text at the left one of the next would read as one.
 void keepTextsApart(QStyleOptionViewItem *option)
 {
-    constexpr QChar blank(0x00a0);
+    constexpr QChar blank(0x2009); // thin
     if (option->text.isEmpty())
         return;
     if (option->displayAlignment & Qt::AlignRight)
