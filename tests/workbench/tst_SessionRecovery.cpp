@@ -139,6 +139,7 @@ private Q_SLOTS:
     void damagedJournals();
     void autosaveBehindTheDamage();
     void autosaveWithoutJournal();
+    void anOldAutosaveIsNoOffer();
     void killedWhileSaving_data();
     void killedWhileSaving();
     void aForeignChangeSinceThen();
@@ -452,6 +453,22 @@ void tst_SessionRecovery::autosaveWithoutJournal()
     QVERIFY(m_document->recoveryOffer().recovered.time.isValid());
     QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
     QCOMPARE(m_document->counts().verified(), 3);
+}
+
+void tst_SessionRecovery::anOldAutosaveIsNoOffer()
+{
+    // Left by a session of which nothing else is there, and saved over since.
+    ReleaseMappingC release = SessionFixture::sampleRelease();
+    release.addMapping(SessionFixture::withState(release.mappingAt(0), {1}, 2));
+    const QString side = m_file + QStringLiteral(".autosave");
+    m_files->addRelease(side, release);
+    QFile file(side);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTimeUtc().addDays(-1),
+                             QFileDevice::FileModificationTime));
+    file.close();
+    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
+    QCOMPARE(names(QStringLiteral("release.json.autosave.alt-*")).size(), 1);
 }
 
 void tst_SessionRecovery::killedWhileSaving_data()

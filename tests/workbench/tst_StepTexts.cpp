@@ -44,6 +44,7 @@ private Q_SLOTS:
     void notices_data();
     void notices();
     void expiredLinesAreListed();
+    void asManyExpiredLinesAsBefore();
     void stillIgnoredVariablesAreTold();
 
 private:
@@ -259,6 +260,20 @@ void tst_StepTexts::expiredLinesAreListed()
     QCOMPARE(notice.lines, QList<int>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
     QCOMPARE(notice.text, QStringLiteral("12 Zeilen in cat/a.prj waren als entfallen bestätigt und "
                                          "sind es nicht mehr: 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, ..."));
+}
+
+void tst_StepTexts::asManyExpiredLinesAsBefore()
+{
+    open();
+    change(SessionFixture::mapping(Path, {{1, -1, 2, {}, false}, {2, 5, 1, {}, false}}));
+    QSignalSpy raised(m_document.get(), &MappingDocument::noticeRaised);
+    change(SessionFixture::mapping(Path, {{1, 5, 1, {}, false}, {2, -1, 2, {}, false}}));
+    QCOMPARE(raised.size(), 0);
+    change(SessionFixture::mapping(Path, {{1, 5, 1, {}, false}, {2, 6, 1, {}, false}}));
+    QCOMPARE(raised.size(), 1);
+    QCOMPARE(raised.first().first().value<ChangeNotice>().text,
+             QStringLiteral("Zeile 2 in cat/a.prj war als entfallen bestätigt und ist es nicht "
+                            "mehr."));
 }
 
 void tst_StepTexts::stillIgnoredVariablesAreTold()
