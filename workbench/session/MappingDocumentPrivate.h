@@ -13,6 +13,7 @@
 
 #include <QHash>
 #include <QPair>
+#include <QSet>
 #include <QTimer>
 
 class PJsonValue;
@@ -35,7 +36,7 @@ public:
         QList<MappingChangePair> changes; ///< one for each project: first state, last state
         QHash<QPair<QString, QString>, qsizetype> index;
         std::optional<ReleaseMappingC> releaseBefore; ///< the whole release was replaced
-        QList<ProjectId> behindEditor;                ///< changed by the host
+        QSet<ProjectId> behindEditor;                 ///< changed by the host
         QString text;
         int depth = 0;        ///< of beginStep()
         bool changed = false; ///< by at least one update
@@ -112,6 +113,7 @@ private:
     void applyChanges(const UndoStep &step, bool back);
     void invalidateNodes(const QString &sourcePath) const;
     void tellStep(const UndoStep &step);
+    void tellEditor(const Pending &done);
     void tellRefused();
 
     [[nodiscard]] SaveOutcome runGuarded(const QString &path, const FileState &state,

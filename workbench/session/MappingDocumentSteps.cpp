@@ -56,8 +56,8 @@ void MappingDocumentPrivate::update(const PrjMappingC &mapping, bool byEditor)
     const PrjMappingC before = find(mapping);
     store(mapping, before);
     notePending(before, mapping);
-    if (!byEditor && !pending.behindEditor.contains(project))
-        pending.behindEditor.append(project);
+    if (!byEditor)
+        pending.behindEditor.insert(project);
     if (pending.depth == 0 && !m_turn.isActive())
         m_turn.start();
 }
@@ -160,14 +160,13 @@ void MappingDocumentPrivate::finishStep()
         finishMarking(std::exchange(pending, Pending()));
         return;
     }
-    const QList<ProjectId> behindEditor = std::exchange(pending, Pending()).behindEditor;
+    const Pending done = std::exchange(pending, Pending());
     if (!step.changes.isEmpty() || step.releaseBefore) {
         journalStep(step.text, Origin::Edit);
         history.push(step);
         tellStep(step);
     }
-    for (const ProjectId &project : behindEditor)
-        Q_EMIT q->reselectRequested(project);
+    tellEditor(done);
     for (const ChangeNotice &notice : std::as_const(notices))
         Q_EMIT q->noticeRaised(notice);
 }
@@ -216,8 +215,17 @@ void MappingDocumentPrivate::finishMarking(const Pending &done)
     }
     Q_EMIT q->countsChanged();
     tellModified();
-    for (const ProjectId &project : done.behindEditor)
-        Q_EMIT q->reselectRequested(project);
+    tellEditor(done);
+}
+
+/// In the order of the changes.
+void MappingDocumentPrivate::tellEditor(const Pending &done)
+{
+    for (const MappingChangePair &change : done.changes) {
+        const ProjectId project = ProjectId::of(change.after);
+        if (done.behindEditor.contains(project))
+            Q_EMIT q->reselectRequested(project);
+    }
 }
 
 void MappingDocumentPrivate::journalStep(const QString &text, Origin origin)

@@ -41,8 +41,7 @@ bool sameTargets(const MappingDifference &difference)
 
 void StepSummary::add(const MappingDifference &difference)
 {
-    if (!m_projects.contains(difference.project.path))
-        m_projects += difference.project.path;
+    m_projects.insert(difference.project.path);
     addTargets(difference);
     addLines(difference);
 }
@@ -180,6 +179,6 @@ QString StepSummary::text() const
         what = lines.isEmpty() ? say("Status geändert") : lines;
     else if (!lines.isEmpty())
         what = QStringLiteral("%1 (%2)").arg(head, lines);
-    return m_projects.size() == 1 ? say("%1 in %2").arg(what, m_projects.first())
+    return m_projects.size() == 1 ? say("%1 in %2").arg(what, *m_projects.cbegin())
                                   : say("%1 in %2 Projekten").arg(what).arg(m_projects.size());
 }

@@ -2,6 +2,8 @@
 
 #include "MappingDifference.h"
 
+#include <QSet>
+
 #include <array>
 
 /// Says in words what a step did, from what it changed.
@@ -48,5 +50,5 @@ private:
     std::array<int, LineKinds> m_byLine{};
     std::array<bool, HeadKinds> m_heads{};
     int m_lines = 0;
-    QStringList m_projects;
+    QSet<QString> m_projects; ///< paths
 };
