@@ -158,6 +158,14 @@
         <translation>The mapping file cannot be made.</translation>
     </message>
     <message>
+        <source>Die Sperre kann aufgehoben werden, wenn dort sicher niemand mehr arbeitet, etwa nach einem Ausfall des Rechners.</source>
+        <translation>The lock can be removed if certainly nobody works there any more, as after a breakdown of the computer.</translation>
+    </message>
+    <message>
+        <source>Die Sperre konnte nicht aufgehoben werden.</source>
+        <translation>The lock could not be removed.</translation>
+    </message>
+    <message>
         <source>Gespeichert: %1</source>
         <translation>Saved: %1</translation>
     </message>
@@ -172,6 +180,14 @@
     <message>
         <source>Kopie behalten und &amp;neu schreiben</source>
         <translation>Keep a copy and write &amp;anew</translation>
+    </message>
+    <message>
+        <source>Nur &amp;lesen</source>
+        <translation>&amp;Read only</translation>
+    </message>
+    <message>
+        <source>Sperre &amp;aufheben</source>
+        <translation>Remove &amp;lock</translation>
     </message>
     <message>
         <source>Verworfene Änderungen sind verloren.</source>

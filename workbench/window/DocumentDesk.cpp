@@ -79,10 +79,7 @@ bool DocumentDesk::openDocument(const Wish &wish)
     case MappingDocument::OpenResult::Opened:
         return true;
     case MappingDocument::OpenResult::OpenedReadOnly:
-        if (wish.mayAsk && m_document->readOnlyReason() != MappingDocument::ReadOnlyReason::Wanted)
-            Question::tell(m_window, tr("Die Datei ist nur zum Lesen geöffnet."),
-                           m_document->readOnlyText());
-        return true;
+        return !wish.mayAsk || tellReadOnly(request);
     case MappingDocument::OpenResult::RecoveryPending:
         return recover(request);
     case MappingDocument::OpenResult::NoRelease:
@@ -96,6 +93,34 @@ bool DocumentDesk::openDocument(const Wish &wish)
                        m_document->errorText());
     }
     return false;
+}
+
+bool DocumentDesk::tellReadOnly(const MappingDocument::OpenRequest &request)
+{
+    const auto reason = m_document->readOnlyReason();
+    if (reason == MappingDocument::ReadOnlyReason::Wanted)
+        return true;
+    if (reason != MappingDocument::ReadOnlyReason::HeldByOther) {
+        Question::tell(m_window, tr("Die Datei ist nur zum Lesen geöffnet."),
+                       m_document->readOnlyText());
+        return true;
+    }
+    Question question(m_window);
+    question.setText(m_document->readOnlyText());
+    question.setDetails(tr("Die Sperre kann aufgehoben werden, wenn dort sicher niemand mehr "
+                           "arbeitet, etwa nach einem Ausfall des Rechners."));
+    question.addAnswer(Question::Cancel, tr("Nur &lesen"));
+    question.addAnswer(Question::Refuse, tr("Sperre &aufheben"));
+    if (question.ask() != Question::Refuse)
+        return true;
+    m_document->close();
+    if (!MappingDocument::removeLock(request.mappingFile))
+        Question::tell(m_window, tr("Die Sperre konnte nicht aufgehoben werden."));
+    const auto result = m_document->open(request);
+    return result == MappingDocument::OpenResult::RecoveryPending
+               ? recover(request)
+               : result == MappingDocument::OpenResult::Opened ||
+                     result == MappingDocument::OpenResult::OpenedReadOnly;
 }
 
 bool DocumentDesk::recover(MappingDocument::OpenRequest request)

@@ -66,6 +66,8 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] bool openDocument(const Wish &wish);
+    /// False if the document could not be opened once more without the lock.
+    [[nodiscard]] bool tellReadOnly(const MappingDocument::OpenRequest &request);
     [[nodiscard]] bool recover(MappingDocument::OpenRequest request);
     [[nodiscard]] QString chooseRelease(const QString &file) const;
     [[nodiscard]] bool findRoots(const Wish &wish);

@@ -5,12 +5,13 @@
 #include "TreePath.h"
 
 #include <geomcoregui/table/VkTableView.h>
+#include <mapping/project/PrjMappingWidgetBase.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <mapping/view/CatalogStructureModel.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <QCheckBox>
-#include <QScrollBar>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -50,8 +51,10 @@ void EditorArea::rebuild()
         return;
     const QString path = currentPath();
     const int line = currentLine();
+    const QStringList open = TreePath::expanded(*treeView());
     close();
     make();
+    TreePath::expand(*treeView(), open);
     if (!path.isEmpty() && selectProject(path) && line >= 0)
         selectLine(line);
 }
@@ -141,11 +144,31 @@ bool EditorArea::selectProject(const QString &sourcePath)
     return true;
 }
 
-void EditorArea::reselect(const ProjectId &project)
+void EditorArea::showChange(const ProjectId &project)
+{
+    if (m_changed.isEmpty())
+        QTimer::singleShot(0, this, &EditorArea::showChanges);
+    if (!m_changed.contains(project.path))
+        m_changed += project.path;
+}
+
+void EditorArea::showChanges()
+{
+    const QStringList changed = std::exchange(m_changed, {});
+    if (!m_editor || !m_document)
+        return;
+    if (changed.size() > 1)
+        return rebuild();
+    if (changed.first() == currentPath())
+        reselect();
+    else if (!selectProject(changed.first()))
+        return rebuild();
+    publish();
+}
+
+void EditorArea::reselect()
 {
     QTreeView *const tree = treeView();
-    if (!tree || project.path != currentPath())
-        return;
     const QModelIndex index = tree->selectionModel()->selectedIndexes().first();
     const int line = currentLine();
     const VkTableView *const before = sourceView();
@@ -156,6 +179,14 @@ void EditorArea::reselect(const ProjectId &project)
         view->setVerticalScrollPos(scroll);
     if (line >= 0)
         selectLine(line);
+}
+
+void EditorArea::publish()
+{
+    const PrjMappingC mapping = m_document->mapping(currentProject());
+    auto *column = m_editor->findChild<PrjMappingWidgetBase *>("tableWidget");
+    if (column && mapping.isValid())
+        Q_EMIT column->projectMappingUpdated(mapping);
 }
 
 QList<int> EditorArea::selectedLines() const

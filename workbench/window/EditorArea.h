@@ -40,8 +40,10 @@ public:
     /// Selects a project in the tree and opens the directories on the way. A filter that hides it
     /// is taken away. False if the tree does not have it.
     bool selectProject(const QString &sourcePath);
-    /// Opens the project once more, with the same line selected, if it is the selected one.
-    void reselect(const ProjectId &project);
+    /// The project's mapping changed behind the editor, which shows it soon: if it is the selected
+    /// one in place, with the same line selected; another single one is selected; after changes of
+    /// several others everything is made anew.
+    void showChange(const ProjectId &project);
 
     /// Source line ids in display order.
     [[nodiscard]] QList<int> selectedLines() const;
@@ -76,6 +78,11 @@ Q_SIGNALS:
 private:
     void make();
     void applyState();
+    void showChanges();
+    void reselect();
+    /// Statistics, tree and conflicts take over the selected project's mapping as if the editor had
+    /// changed it.
+    void publish();
     [[nodiscard]] QModelIndex indexOf(const QString &sourcePath) const;
 
     QVBoxLayout *const m_layout;
@@ -83,4 +90,5 @@ private:
     QString m_sourceRoot;
     CatalogMappingWidget *m_editor = nullptr;
     QByteArray m_state;
+    QStringList m_changed; ///< source paths that showChanges() has still to show
 };

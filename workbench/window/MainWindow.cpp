@@ -109,7 +109,7 @@ void MainWindow::connectDocument()
         m_log->addMessage(LogWindow::Severity::Information, notice.text);
         m_status->showNote(notice.text, m_desk->document()->canUndo());
     });
-    connect(document, &MappingDocument::reselectRequested, m_editor, &EditorArea::reselect);
+    connect(document, &MappingDocument::reselectRequested, m_editor, &EditorArea::showChange);
     connect(document, &MappingDocument::releaseReplaced, m_editor, &EditorArea::rebuild);
     connect(document, &MappingDocument::problemOccurred, this,
             [this](const QString &text) { m_log->addMessage(LogWindow::Severity::Error, text); });

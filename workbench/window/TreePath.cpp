@@ -3,7 +3,7 @@
 #include <mapping/view/CatalogStructureModel.h>
 
 #include <QAbstractItemModel>
-#include <QStringList>
+#include <QTreeView>
 
 namespace {
 
@@ -41,7 +41,42 @@ QModelIndex findBelow(const QAbstractItemModel *model, const QModelIndex &parent
     return {};
 }
 
+void noteExpanded(const QTreeView &tree, const QModelIndex &parent, const QString &path,
+                  QStringList &paths)
+{
+    const QAbstractItemModel *const model = tree.model();
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex child = model->index(row, 0, parent);
+        if (!tree.isExpanded(child))
+            continue;
+        paths << path + child.data().toString();
+        noteExpanded(tree, child, paths.last() + '/', paths);
+    }
+}
+
 } // namespace
+
+QStringList TreePath::expanded(const QTreeView &tree)
+{
+    QStringList paths;
+    noteExpanded(tree, QModelIndex(), QString(), paths);
+    return paths;
+}
+
+void TreePath::expand(QTreeView &tree, const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        QModelIndex index;
+        const QStringList names = path.split('/');
+        for (const QString &name : names) {
+            index = childNamed(tree.model(), index, name);
+            if (!index.isValid())
+                break;
+        }
+        if (index.isValid())
+            tree.expand(index);
+    }
+}
 
 QModelIndex TreePath::find(const QAbstractItemModel *model, const QString &sourcePath)
 {

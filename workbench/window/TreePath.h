@@ -2,8 +2,11 @@
 
 #include <QModelIndex>
 
+#include <QStringList>
+
 QT_BEGIN_NAMESPACE
 class QAbstractItemModel;
+class QTreeView;
 QT_END_NAMESPACE
 
 /// Finds projects in the catalog's tree, or in a proxy of it.
@@ -13,4 +16,8 @@ public:
     /// Looks where the path's components lead, then everywhere. Not valid if there is none.
     [[nodiscard]] static QModelIndex find(const QAbstractItemModel *model,
                                           const QString &sourcePath);
+
+    /// Paths of the directories that are open, parents first.
+    [[nodiscard]] static QStringList expanded(const QTreeView &tree);
+    static void expand(QTreeView &tree, const QStringList &paths);
 };

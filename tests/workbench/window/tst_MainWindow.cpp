@@ -40,6 +40,12 @@ int countState(const MappingDocument &document)
     return document.counts().verified();
 }
 
+/// The numbers under the tree.
+QString statistics(const WindowFixture &fixture)
+{
+    return fixture.window->editor()->findChild<QLabel *>("statisticsLabel")->text();
+}
+
 } // namespace
 
 class tst_MainWindow : public QObject
@@ -214,6 +220,8 @@ private Q_SLOTS:
         ModalScript script;
         script.thenClick("answerAccept");
         fixture.action("linesConfirm")->trigger();
+        QTRY_VERIFY(fixture.action("editUndo")->isEnabled());
+        QApplication::processEvents();
         QVERIFY(editor->selectProject(din933));
         box->setChecked(true);
         QVERIFY(editor->selectProject(equal));
@@ -287,8 +295,66 @@ private Q_SLOTS:
         QVERIFY2(script.texts.first().contains(QString::number(lines) + " Zeilen bestätigen?"),
                  qPrintable(script.texts.first()));
         QTRY_COMPARE(document.undoTexts().size(), 1);
+        const QString confirmed = "M";
+        const auto status = [&](int line) {
+            return fixture.window->editor()
+                ->sourceTable()
+                .getLine(VKTab::LineId(line), false)
+                .getLineKeyValue("CatalogMapper")
+                .toString();
+        };
+        QTRY_COMPARE(status(3), confirmed);
+        QTRY_VERIFY(statistics(fixture).endsWith(" / " + QString::number(lines)));
         fixture.action("editUndo")->trigger();
         QTRY_COMPARE(countState(document), 0);
+        QTRY_COMPARE(status(3), QStringLiteral("C"));
+        QTRY_VERIFY(statistics(fixture).endsWith(" / 0"));
+        // Showing it is no change.
+        QTest::qWait(1);
+        QVERIFY(document.canRedo());
+        QVERIFY(!document.canUndo());
+    }
+
+    void undoShowsWhatItUndid()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        EditorArea *const editor = fixture.window->editor();
+        QVERIFY(editor->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_V);
+        QTRY_VERIFY(document.canUndo());
+        QVERIFY(editor->selectProject("standardparts/washers/din125.prj"));
+        fixture.press(Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(editor->currentPath(), din933);
+        QTRY_VERIFY(statistics(fixture).endsWith(" / 0"));
+        QVERIFY(document.canRedo());
+    }
+
+    void severalProjectsAreUndoneTogether()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        EditorArea *const editor = fixture.window->editor();
+        QVERIFY(editor->selectProject(din933));
+        document.beginStep();
+        const ReleaseMappingC release = document.release();
+        for (int i = 0; i < release.countMappings(); ++i) {
+            PrjMappingC mapping = release.mappingAt(i);
+            if (mapping.getSourcePath() != din933 &&
+                mapping.getSourcePath() != "standardparts/washers/din125.prj")
+                continue;
+            mapping.verifyAll();
+            document.updateMapping(mapping);
+        }
+        document.endStep();
+        const int lines = countState(document);
+        QVERIFY(lines > 100);
+        QTRY_VERIFY(statistics(fixture).endsWith(" / " + QString::number(lines)));
+        fixture.action("editUndo")->trigger();
+        QTRY_VERIFY(statistics(fixture).endsWith(" / 0"));
+        QCOMPARE(editor->currentPath(), din933);
     }
 
     void leavesManyLinesAloneWhenCalledOff()

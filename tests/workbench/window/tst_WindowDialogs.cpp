@@ -278,11 +278,29 @@ private Q_SLOTS:
         ModalScript script;
         script.thenClick("answerCancel");
         fixture.open(file);
-        QCOMPARE(script.texts, QStringList{"Die Datei ist nur zum Lesen geöffnet."});
+        QVERIFY2(script.texts.first().contains("und ist deshalb nur zum Lesen geöffnet"),
+                 qPrintable(script.texts.first()));
         QVERIFY(fixture.window->desk()->document()->isReadOnly());
         QVERIFY(fixture.window->windowTitle().endsWith(" (schreibgeschützt)"));
         QVERIFY(!fixture.action("linesConfirm")->isEnabled());
         QVERIFY(!fixture.action("fileSave")->isEnabled());
+    }
+
+    void lockOfSomebodyWhoIsGoneCanBeRemoved()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        MappingDocument other;
+        QCOMPARE(other.open({.mappingFile = file, .sourceDate = {}, .rootName = {}}),
+                 MappingDocument::OpenResult::Opened);
+        ModalScript script;
+        script.thenClick("answerRefuse");
+        // What the other one left behind; nothing was changed there.
+        fixture.open(file);
+        QVERIFY(script.isDone());
+        QVERIFY(fixture.window->desk()->document()->isOpen());
+        QVERIFY(!fixture.window->desk()->document()->isReadOnly());
+        QVERIFY(fixture.action("fileSave")->isEnabled());
     }
 };
 
