@@ -421,10 +421,12 @@ void tst_GuardedSave::readOnlyFolder()
         QCOMPARE(outcome.result, SaveResult::ReadOnly);
         QVERIFY(outcome.text.contains(QStringLiteral("unter einem anderen Namen")));
         const QString other = folder + QStringLiteral("/other.json");
-        QCOMPARE(m_document->saveAs(other).result, SaveResult::Busy);
+        const SaveOutcome elsewhere = m_document->saveAs(other);
+        QCOMPARE(elsewhere.result, SaveResult::WriteFailed);
+        QVERIFY(elsewhere.text.contains(QStringLiteral("einen anderen Ordner")));
         QVERIFY(m_document->openNew(SessionFixture::sampleRelease(), other) ==
                 MappingDocument::OpenResult::Unreadable);
-        QVERIFY(!m_document->errorText().isEmpty());
+        QCOMPARE(m_document->errorText(), elsewhere.text);
     }
     QFile::setPermissions(folder, QFile::Permissions(0x7755));
     QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList(QStringLiteral("release.json")));

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <cstdio>
 
 #ifdef Q_OS_UNIX
@@ -40,7 +41,8 @@ bool DurableFile::sync(QFileDevice &file, QString *error)
     if (!file.flush())
         return report(error, file.errorString());
 #ifdef Q_OS_UNIX
-    if (::fsync(file.handle()) != 0)
+    // Some file systems do not know the call; what they took is as safe as it gets there.
+    if (::fsync(file.handle()) != 0 && errno != EINVAL && errno != ENOSYS && errno != ENOTSUP)
         return report(error, qt_error_string());
 #endif
     return true;

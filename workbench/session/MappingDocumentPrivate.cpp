@@ -71,11 +71,10 @@ OpenResult MappingDocumentPrivate::openNew(const ReleaseMappingC &release, const
     m_lostText.clear();
     m_putAside = false;
     file = MappingDocument::canonicalPath(path);
-    takeLock(MappingDocument::Access::ReadWrite);
-    if (!m_lock.isTaken()) {
-        const QString text = q->readOnlyText();
-        return fail(OpenResult::Unreadable, text);
-    }
+    readOnly = ReadOnlyReason::None;
+    const EditLock::Result taken = m_lock.take(file);
+    if (taken != EditLock::Taken)
+        return fail(OpenResult::Unreadable, lockText(m_lock, taken, file));
     if (QFileInfo::exists(SessionRecovery::journalFile(file)) ||
         QFileInfo::exists(SessionRecovery::autosaveFile(file)))
         (void)SessionRecovery::putAside(file);

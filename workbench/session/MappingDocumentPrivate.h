@@ -119,6 +119,8 @@ private:
     [[nodiscard]] SaveOutcome runGuarded(const QString &path, const FileState &state,
                                          const ReleaseMappingC &base, const SaveOptions &options,
                                          FileState &saved);
+    [[nodiscard]] static QString lockText(const EditLock &lock, EditLock::Result result,
+                                          const QString &path);
     void moveTo(const QString &path);
     void noteSaved(const FileState &state);
 

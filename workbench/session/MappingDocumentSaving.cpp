@@ -28,6 +28,19 @@ SaveOutcome MappingDocumentPrivate::save(const SaveOptions &options)
     return outcome;
 }
 
+/// Why a file that is not there yet, or is not open, cannot be written.
+QString MappingDocumentPrivate::lockText(const EditLock &lock, EditLock::Result result,
+                                         const QString &path)
+{
+    return result == EditLock::HeldByOther
+               ? MappingDocument::tr("%1 wird gerade von %2 bearbeitet. Es wurde nichts "
+                                     "geschrieben. Bitte einen anderen Namen wählen.")
+                     .arg(path, lock.owner().text())
+               : MappingDocument::tr("Im Ordner von %1 kann nichts angelegt werden. Es wurde "
+                                     "nichts geschrieben. Bitte einen anderen Ordner wählen.")
+                     .arg(path);
+}
+
 SaveOutcome MappingDocumentPrivate::saveAs(const QString &path, const SaveOptions &options)
 {
     const QString target = MappingDocument::canonicalPath(path);
@@ -38,15 +51,9 @@ SaveOutcome MappingDocumentPrivate::saveAs(const QString &path, const SaveOption
     EditLock lock;
     const EditLock::Result taken = isOpen ? lock.take(target) : EditLock::NotWritable;
     if (taken != EditLock::Taken) {
-        outcome.result = SaveResult::Busy;
-        outcome.text =
-            taken == EditLock::HeldByOther
-                ? MappingDocument::tr("%1 wird gerade von %2 bearbeitet. Es wurde nichts "
-                                      "geschrieben. Bitte einen anderen Namen wählen.")
-                      .arg(target, lock.owner().text())
-                : MappingDocument::tr("Im Ordner von %1 kann nichts angelegt werden. Es wurde "
-                                      "nichts geschrieben. Bitte einen anderen Ordner wählen.")
-                      .arg(target);
+        outcome.result =
+            taken == EditLock::HeldByOther ? SaveResult::Busy : SaveResult::WriteFailed;
+        outcome.text = lockText(lock, taken, target);
         return outcome;
     }
     FileState state;
