@@ -96,6 +96,7 @@ private Q_SLOTS:
     void conditionsChooseAmongTargets();
     void updatesTouchChangedLinesOnly();
     void updatesEqualAWalk();
+    void targetsComeAndGo();
     void modifiedLineIsLookedAtAgain();
     void sharedLineNumbers();
 
@@ -536,6 +537,33 @@ void tst_TableMappingWidget::updatesEqualAWalk()
             qputenv("TORMEVA_DATA", QFile::encodeName(f->data.path()));
         }
     }
+}
+
+void tst_TableMappingWidget::targetsComeAndGo()
+{
+    f->load();
+    QCOMPARE(f->states(), QString("- C N"));
+    PrjMappingC mapping = f->mapping;
+    mapping.addTarget("", "");
+    enter(mapping, 1, 3, -1, Verified);
+    f->widget->onProjectMappingUpdated(mapping);
+    QCOMPARE(f->states(), QString("- C NC"));
+    PrjMappingTargetC first;
+    first.setTargetPath("new/b.prj");
+    first.setValid(true);
+    mapping.insertTarget(0, first);
+    enter(mapping, 0, 3, 1, Verified);
+    f->widget->onProjectMappingUpdated(mapping);
+    QCOMPARE(f->states(), QString("- C M"));
+    mapping.removeTarget(1);
+    f->widget->onProjectMappingUpdated(mapping);
+    QCOMPARE(f->states(), QString("N N M"));
+    mapping.removeTarget(0);
+    f->widget->onProjectMappingUpdated(mapping);
+    QCOMPARE(f->states(), QString("N N NC"));
+    mapping.removeTarget(0);
+    f->widget->onProjectMappingUpdated(mapping);
+    QCOMPARE(f->states(), QString("N N N"));
 }
 
 void tst_TableMappingWidget::modifiedLineIsLookedAtAgain()
