@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sys/prctl.h>
 #include <unistd.h>
 
 /// Takes the rights of the superuser from this process for a while, so that folders without write
@@ -16,8 +17,11 @@ public:
     }
     ~AsNobody()
     {
-        if (m_user == 0 && seteuid(m_user) != 0)
+        if (m_user != 0)
+            return;
+        if (seteuid(m_user) != 0)
             _exit(1);
+        prctl(PR_SET_DUMPABLE, 1); // as before, so that leak checkers may look into it
     }
     AsNobody(const AsNobody &) = delete;
     AsNobody &operator=(const AsNobody &) = delete;

@@ -315,6 +315,9 @@ void tst_MappingDifference::wrongRecordsAreRefused_data()
     QTest::newRow("targets") << QByteArray("\"targets\":[") << QByteArray("\"goals\":[");
     QTest::newRow("place") << QByteArray("\"at\":[0,0]") << QByteArray("\"at\":[0]");
     QTest::newRow("place behind all") << QByteArray("\"at\":[0,0]") << QByteArray("\"at\":[5,5]");
+    QTest::newRow("count below nothing") << QByteArray("\"count\":1") << QByteArray("\"count\":-1");
+    QTest::newRow("count beyond all")
+        << QByteArray("\"count\":1") << QByteArray("\"count\":4000000000");
     QTest::newRow("row") << QByteArray("[2,2,0,2,2]") << QByteArray("[2,2]");
 }
 

@@ -22,6 +22,8 @@ constexpr std::array<quint32, 256> makeChecksumTable()
 
 constexpr std::array<quint32, 256> ChecksumTable = makeChecksumTable();
 constexpr qsizetype Digits = 8;
+/// More than any mapping has.
+constexpr qint64 MaxTargets = 1 << 20;
 
 void writeEntry(JsonWriter &writer, bool there, const PrjMappingTargetLineC &entry)
 {
@@ -222,11 +224,12 @@ std::optional<MappingDifference> JournalText::readChange(const PJsonValue &recor
     // With a count the targets are the same before and after, and those without change are left
     // out.
     const bool keepsTargets = record.contains(QStringLiteral("count"));
-    const int count = int(record.value(QStringLiteral("count")).toInt());
-    for (int i = 0; i < count; ++i) {
-        result.targets.emplace_back();
-        result.targets.back().before = result.targets.back().after = i;
-    }
+    const qint64 count = record.value(QStringLiteral("count")).toInt();
+    if (count < 0 || count > MaxTargets)
+        return std::nullopt;
+    result.targets.resize(std::size_t(count));
+    for (int i = 0; i < count; ++i)
+        result.targets[std::size_t(i)].before = result.targets[std::size_t(i)].after = i;
     for (int i = 0; i < targets.size(); ++i) {
         std::optional<MappingDifference::TargetPair> pair = readTarget(targets.at(i));
         if (!pair || (keepsTargets && (pair->after < 0 || pair->after >= count)))

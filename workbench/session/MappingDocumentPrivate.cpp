@@ -169,7 +169,7 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
 OpenResult MappingDocumentPrivate::openRecovered(const SessionRecovery &recovery,
                                                  const QString &name)
 {
-    const ReleaseMappingC recovered = recovery.recoveredRelease();
+    const ReleaseMappingC &recovered = recovery.recoveredRelease();
     m_known = FileState::of(file);
     m_loaded = recovery.offer().saved.available ? recovery.savedRelease() : ReleaseMappingC();
     // The side file gets all that is recovered before the journal goes.
