@@ -171,7 +171,13 @@ struct Editor
     [[nodiscard]] QString contextMenu(const QString &path, bool choose) const
     {
         tree->scrollTo(row(path));
-        return contextMenu(tree->visualRect(row(path)).center(), choose);
+        return contextMenu(begin(path), choose);
+    }
+    /// A place at the begin of a row, where a menu has room on small screens too.
+    [[nodiscard]] QPoint begin(const QString &path) const
+    {
+        const QRect rect = tree->visualRect(row(path));
+        return {rect.left() + 2, rect.center().y()};
     }
     [[nodiscard]] PrjMappingC stored(const QString &path) const
     {
@@ -934,7 +940,7 @@ void tst_CatalogMappingWidget::menuOfAProject()
     editor.tree->selectionModel()->clear();
     editor.calls.clear();
     const int before = editor.row("old/dir").data(CatalogStructureModel::MappingStateRole).toInt();
-    const QPoint place = editor.tree->visualRect(editor.row("old/dir/b.prj")).center();
+    const QPoint place = editor.begin("old/dir/b.prj");
     QCOMPARE(editor.contextMenu("old/dir/b.prj", true),
              QStringLiteral("Alle Zuordnungen bestätigen"));
     QCOMPARE(editor.menuPlace, editor.tree->viewport()->mapToGlobal(place));
