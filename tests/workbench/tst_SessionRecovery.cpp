@@ -3,6 +3,7 @@
 #include <workbench/session/JournalReader.h>
 #include <workbench/session/JournalText.h>
 #include <workbench/session/MappingDocument.h>
+#include <workbench/session/SessionRecovery.h>
 
 #include <geomcore/expression/VarsetConditionC.h>
 #include <geomcore/records/MappingFile.h>
@@ -13,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <unistd.h>
@@ -137,6 +139,8 @@ private Q_SLOTS:
     void recoveringTwice();
     void damagedJournals_data();
     void damagedJournals();
+    void damageAnywhere_data();
+    void damageAnywhere();
     void autosaveBehindTheDamage();
     void autosaveWithoutJournal();
     void anOldAutosaveIsNoOffer();
@@ -430,6 +434,53 @@ void tst_SessionRecovery::damagedJournals()
     QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
     QCOMPARE(m_document->counts().verified(), verified);
     QCOMPARE(names(QStringLiteral("release.json.journal.alt-*")).size(), 1);
+}
+
+void tst_SessionRecovery::damageAnywhere_data()
+{
+    QTest::addColumn<bool>("cut");
+    QTest::newRow("cut off") << true;
+    QTest::newRow("one bit") << false;
+}
+
+/// Wherever a journal is damaged, what is recovered is a state that once was: the last one before
+/// the damage.
+void tst_SessionRecovery::damageAnywhere()
+{
+    QFETCH(bool, cut);
+    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
+    const QString journal = m_document->journalFile();
+    QList<QByteArray> states{SessionFixture::bytes(m_document->release())};
+    QList<qsizetype> ends{SessionFixture::content(journal).size()};
+    for (int line = 1; line <= 6; ++line) {
+        PrjMappingC mapping = SessionFixture::withState(
+            m_document->mapping(id(line % 2 == 0 ? "cat/a.prj" : "cat/screws/b.prj")), {line}, 2);
+        if (line == 4)
+            mapping.addTarget(QStringLiteral("new/u.prj"), QString());
+        m_document->updateMapping(mapping);
+        m_document->finishStep();
+        states += SessionFixture::bytes(m_document->release());
+        ends += SessionFixture::content(journal).size();
+    }
+    const QByteArray whole = SessionFixture::content(journal);
+    const SessionFixture elsewhere;
+    const QString file = elsewhere.write();
+    for (qsizetype at = ends.first(); at < whole.size(); at += 7) {
+        QByteArray damaged = cut ? whole.left(at) : whole;
+        if (!cut)
+            damaged[at] = char(damaged[at] ^ 4);
+        SessionFixture::setContent(file + QStringLiteral(".journal"), damaged);
+        const SessionRecovery recovery(file);
+        // The change stands before the row that ends its step, so it may be one further.
+        const auto step = std::upper_bound(ends.begin(), ends.end(), at) - ends.begin() - 1;
+        const QByteArray found = recovery.offer().isValid()
+                                     ? SessionFixture::bytes(recovery.recoveredRelease())
+                                     : states.first();
+        QVERIFY2(found == states[step] || found == states[step + 1],
+                 qPrintable(QStringLiteral("damaged at %1").arg(at)));
+        if (recovery.offer().isValid() && !cut)
+            QVERIFY(!recovery.offer().damage.isEmpty());
+    }
 }
 
 void tst_SessionRecovery::autosaveBehindTheDamage()
