@@ -30,6 +30,13 @@ void removeProjectFilters(const VKTab::Content &table)
     layer->removeFilterCondition(QStringLiteral("BYPRJ"));
 }
 
+/// The tool tip serves where the pane is too narrow for the path.
+void showPath(QLabel *label, const QString &path)
+{
+    label->setText(path);
+    label->setToolTip(path);
+}
+
 QString normNumberOf(const VKTab::Content &table)
 {
     return table.getKeyValue(VKTab::KeyNormNumber).toString();
@@ -49,13 +56,13 @@ void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
         sourceTable.setOptions(options);
     removeProjectFilters(sourceTable);
     btnResolvedRanges->setEnabled(!valueRangeVariables(sourceTable).isEmpty());
-    sourcePathLabel->setText(newMapping.getSourcePath());
+    showPath(sourcePathLabel, newMapping.getSourcePath());
     sourceNumberLabel->setText(normNumberOf(sourceTable));
     designationLabels.setSourceText(QString());
     sourceView->setTable(sourceTable);
     sourceView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     clearTargetTable();
-    targetPathLabel->clear();
+    showPath(targetPathLabel, QString());
     designationLabels.setTargetText(QString());
     targetNumberLabel->clear();
     mapping = newMapping;
@@ -124,7 +131,7 @@ void TableMappingWidgetPrivate::showSourceLine(const VKTab::LineId &id)
     designationLabels.setSourceText(QString());
     designationLabels.setTargetText(QString());
     targetNumberLabel->clear();
-    targetPathLabel->clear();
+    showPath(targetPathLabel, QString());
     bool removeEnabled = false;
     bool assignEnabled = true;
     if (selected > 1) {
@@ -169,7 +176,7 @@ bool TableMappingWidgetPrivate::showSingleLine(const VKTab::LineId &id, bool *as
     const int horizontal = targetView->getHorizontalScrollPos();
     targetNumberLabel->setText(normNumberOf(table));
     showTargetLine(table, line, varset);
-    targetPathLabel->setText(line.getTargetPath());
+    showPath(targetPathLabel, line.getTargetPath());
     if (isReused)
         targetView->setHorizontalScrollPos(horizontal);
     return true;

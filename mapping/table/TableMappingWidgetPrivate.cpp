@@ -183,6 +183,7 @@ QPushButton *TableMappingWidgetPrivate::createButton(const char *name, const QSt
     button->setToolTip(toolTip);
     button->setAccessibleName(toolTip);
     button->setShortcut(keys);
+    button->setFocusPolicy(Qt::TabFocus); // after a click the arrow keys still walk the lines
     connect(button, SIGNAL(clicked()), this, slot);
     return button;
 }

@@ -39,6 +39,7 @@ private Q_SLOTS:
 
     void selectedLineShowsItsTarget();
     void keyboardWalksLines();
+    void focusStaysInTheTable();
     void lineWithoutTarget();
     void targetThatCannotBeRead();
     void severalSelectedLines();
@@ -150,6 +151,16 @@ void tst_TableMappingSelection::keyboardWalksLines()
     f->press(Qt::Key_End, Qt::ControlModifier);
     QCOMPARE(f->widget->selectedSourceLine(), LineId(5));
     QVERIFY(!f->targetTable().isValid());
+}
+
+void tst_TableMappingSelection::focusStaysInTheTable()
+{
+    f->load();
+    f->select(1);
+    QTest::mouseClick(f->button("btnMapLine"), Qt::LeftButton);
+    QVERIFY(f->source->grid()->hasFocus());
+    f->press(Qt::Key_Down);
+    QCOMPARE(f->widget->selectedSourceLine(), LineId(2));
 }
 
 void tst_TableMappingSelection::lineWithoutTarget()
