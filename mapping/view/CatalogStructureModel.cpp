@@ -27,6 +27,7 @@ bool isProject(const CatalogStructureNodeI &node)
 
 } // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): hosts call it so
 CatalogStructureModel::CatalogStructureModel(boost::shared_ptr<CatalogStructureNodeI> root)
     : d(new CatalogStructureModelPrivate(this, root))
 {

@@ -48,7 +48,9 @@ char *escape(char *at, char c)
         *at++ = 'f';
         break;
     default:
-        std::memcpy(at, "u00", 3);
+        at[0] = 'u';
+        at[1] = '0';
+        at[2] = '0';
         at[3] = Digits[(c >> 4) & 15];
         at[4] = Digits[c & 15];
         at += 5;

@@ -74,6 +74,7 @@ private:
     {
         if (m_end - m_at < size)
             grow(size);
+        Q_ASSERT(m_at);
         return m_at;
     }
     void grow(qsizetype size);

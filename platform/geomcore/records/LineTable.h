@@ -63,11 +63,16 @@ public:
         {
             enterPage();
         }
-        [[nodiscard]] const Row &row() const { return *m_row; }
-        [[nodiscard]] int sourceLine() const { return m_row->sourceLine; }
-        [[nodiscard]] int targetLine() const { return m_row->targetLine; }
-        [[nodiscard]] PRJMAPPING::CheckState state() const { return m_row->state(); }
-        [[nodiscard]] bool conflict() const { return m_row->conflict(); }
+        /// This and the others of an entry: not at the end.
+        [[nodiscard]] const Row &row() const
+        {
+            Q_ASSERT(m_row);
+            return *m_row;
+        }
+        [[nodiscard]] int sourceLine() const { return row().sourceLine; }
+        [[nodiscard]] int targetLine() const { return row().targetLine; }
+        [[nodiscard]] PRJMAPPING::CheckState state() const { return row().state(); }
+        [[nodiscard]] bool conflict() const { return row().conflict(); }
         /// Null for the empty text.
         [[nodiscard]] const ExtendedText *extended() const
         {

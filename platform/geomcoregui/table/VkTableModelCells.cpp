@@ -158,7 +158,7 @@ QIcon VkTableModelPrivate::icon(const QString &file) const
     const auto known = icons.constFind(file);
     if (known != icons.constEnd())
         return *known;
-    const QIcon made = QFileInfo::exists(file) ? QIcon(file) : QIcon();
+    QIcon made = QFileInfo::exists(file) ? QIcon(file) : QIcon();
     icons.insert(file, made);
     return made;
 }
