@@ -56,8 +56,10 @@ struct ScriptClass
 {
     static const proxyMemberDescListS *getStaticProxyTypeInfo()
     {
-        static const proxyMemberDescListS description{"prxTest", "tests.component", __FILE__,
-                                                      __LINE__};
+        static const proxyMemberDescListS description{.className = "prxTest",
+                                                      .componentId = "tests.component",
+                                                      .file = __FILE__,
+                                                      .line = __LINE__};
         return &description;
     }
 };
@@ -212,7 +214,7 @@ void tst_ComponentServer::registersClass()
 void tst_ComponentServer::findsClasses()
 {
     proxyFactoryC &factory = proxyFactoryC::instance();
-    const proxyMemberDescListS inner{"prxInner", nullptr, __FILE__, __LINE__};
+    const proxyMemberDescListS inner{.className = "prxInner", .file = __FILE__, .line = __LINE__};
     factory.registerClass(&inner);
     factory.registerClass(ScriptClass::getStaticProxyTypeInfo());
     QCOMPARE(factory.findClass(QStringLiteral("prxInner")), &inner);

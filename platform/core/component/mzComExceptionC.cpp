@@ -1,0 +1,15 @@
+#include "mzComExceptionC.h"
+
+mzComExceptionC::mzComExceptionC(mzComResult code, const PScriptException &script)
+    : m_code(code)
+    , m_script(script)
+    , m_what(script.text().toUtf8())
+{
+}
+
+mzComExceptionC::~mzComExceptionC() = default;
+
+const char *mzComExceptionC::what() const noexcept
+{
+    return m_what.constData();
+}

@@ -1,0 +1,9 @@
+#include "mzIDispatch.h"
+
+mzIDispatch::~mzIDispatch() = default;
+
+const mzIIDS &mzIDispatch::iid()
+{
+    static const mzIIDS id("mzIDispatch");
+    return id;
+}
