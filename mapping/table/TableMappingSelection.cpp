@@ -232,7 +232,9 @@ void TableMappingWidgetPrivate::showTargetLine(VKTab::ContentRef &table, const P
                                                const Varset &varset)
 {
     const VKTab::LineId target(line.getTargetLineId());
-    if (!table.isLineVisible(table.getLineInfo(target).getLineId())) {
+    // The box would set its filter again in a moment.
+    const bool givesWay = chkFilterTarget->checkState() != Qt::Checked;
+    if (givesWay && !table.isLineVisible(table.getLineInfo(target).getLineId())) {
         VKTab::FilterByLineId filter(table.getFilter(VKTab::FilterByLineId::className()));
         if (filter.getLineIdFilterUsed()) {
             filter.setLineIdFilterUsed(false);

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void filterTargetLinesWithoutAny();
     void filterTargetLinesOfAllItsTargets();
     void filterGivesWay();
+    void boxTakesItsFilterBack();
     void otherFilterStays();
     void boxesOff();
     void filterTargetTable();
@@ -506,6 +507,21 @@ void tst_TableMappingSelection::filterGivesWay()
     table.invalidate(VKTab::Content::InvalidateFilter, true);
     f->select(3);
     QCOMPARE(visible(f->target), QString("1 2"));
+}
+
+void tst_TableMappingSelection::boxTakesItsFilterBack()
+{
+    enter(f->mapping, 0, 9, 2, Mapped);
+    f->load();
+    f->select(1);
+    tick("chkFilterTarget");
+    QCOMPARE(visible(f->target), QString("4"));
+    menuRow(f->target, 4, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
+    QCOMPARE(visible(f->target), QString("2"));
+    f->select(3);
+    QCOMPARE(visible(f->target), QString("4"));
+    QCOMPARE(f->targetTable().getSelection(), LineId(1));
+    QCOMPARE(f->target->getSelectedLineCount(), 0);
 }
 
 void tst_TableMappingSelection::otherFilterStays()
