@@ -10,9 +10,24 @@
 #include <QTextCursor>
 #include <QTime>
 
+namespace {
+
+/// A few lines high at first: the tables need the room.
+class LogText : public QPlainTextEdit
+{
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        return {600, fontMetrics().lineSpacing() * 6 + 2 * frameWidth()};
+    }
+};
+
+} // namespace
+
 LogWindow::LogWindow(QWidget *parent)
     : QDockWidget(parent)
-    , m_text(new QPlainTextEdit(this))
+    , m_text(new LogText(this))
     , m_clear(new QAction(this))
     , m_copy(new QAction(this))
 {

@@ -16,6 +16,7 @@
 #include <core/Version.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <mapping/view/CatalogMappingWidget.h>
+#include <workbench/session/OpenLines.h>
 #include <workbench/session/ValueRangeCheck.h>
 
 #include <QAction>
@@ -41,6 +42,12 @@ void MainWindow::startTour()
 {
     if (findChild<TourOverlay *>("TourOverlay"))
         return;
+    // Empty tables explain nothing: show a line with a proposal.
+    if (m_editor->isOpen() && m_editor->currentPath().isEmpty()) {
+        OpenLines proposals(m_desk->document());
+        proposals.setKinds(OpenLines::ToCheck);
+        m_editor->goTo(proposals.next({}));
+    }
     const auto part = [this](const char *name) {
         return m_editor->isOpen() ? m_editor->editor()->findChild<QWidget *>(QLatin1String(name))
                                   : nullptr;

@@ -15,8 +15,12 @@ using Builder = velkmap::ReleaseMappingBuilder;
 
 void MappingMaker::report(const QStringList &messages)
 {
-    for (const QString &message : messages)
+    for (const QString &message : messages) {
+        if (m_reported.contains(message))
+            continue;
+        m_reported += message;
         PMessage::Show(message, PMsgDlgMode::Warning);
+    }
 }
 
 bool MappingMaker::make(const Wish &wish)

@@ -37,8 +37,9 @@ public:
 private:
     [[nodiscard]] bool findTargets(const Wish &wish);
     void assignLines(const QString &sourceRoot, const QString &targetRoot, bool force);
-    static void report(const QStringList &messages);
+    void report(const QStringList &messages);
 
     ReleaseMappingC m_release;
     QString m_summary;
+    QStringList m_reported; ///< both parts read the same tables; each failure is told once
 };

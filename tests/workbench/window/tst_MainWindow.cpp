@@ -434,6 +434,9 @@ private Q_SLOTS:
         QVERIFY(!fixture.window->desk()->document()->isModified());
         auto *tour = fixture.window->findChild<TourOverlay *>("TourOverlay");
         QVERIFY(tour);
+        // There is something to see, and the broken table is told once.
+        QVERIFY(fixture.window->editor()->currentLine() >= 0);
+        QCOMPARE(fixture.window->log()->text().count("din908"), 1);
         for (int i = 0; i < 4; ++i)
             QTest::keyClick(tour, Qt::Key_Return);
         QCOMPARE(tour->currentStep(), 4);
