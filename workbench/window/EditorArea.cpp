@@ -232,7 +232,10 @@ bool EditorArea::goTo(const LineRef &ref)
         return false;
     if (ref.project.path != currentPath() && !selectProject(ref.project.path))
         return false;
-    return selectLine(ref.line);
+    if (!selectLine(ref.line))
+        return false;
+    sourceView()->grid()->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 QByteArray EditorArea::saveState() const

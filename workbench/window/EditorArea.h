@@ -51,7 +51,8 @@ public:
     [[nodiscard]] int currentLine() const;
     /// A filter that hides the line is taken away. False if the table does not have it.
     bool selectLine(int line);
-    /// False if it could not be selected.
+    /// Selects project and line, and the keys go to the line's table. False if there is no such
+    /// line.
     bool goTo(const LineRef &ref);
     /// Not valid if no project is open or it cannot be read.
     [[nodiscard]] VKTab::ContentRef sourceTable() const;

@@ -22,6 +22,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QToolBar>
 
 MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
@@ -33,6 +34,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_desk(new DocumentDesk(settings, this))
     , m_lines(new LineCommands(m_desk->document(), m_editor, this))
     , m_pages(new QStackedWidget(this))
+    , m_counterTimer(new QTimer(this))
     , m_language(settings->values().language)
     , m_messages(
           std::make_unique<PMessageSinkScope>(std::make_shared<WindowMessageSink>(this, m_log)))
@@ -90,10 +92,13 @@ void MainWindow::connectParts()
     };
     connect(m_desk, &DocumentDesk::noted, this, note);
     connect(m_lines, &LineCommands::noted, this, note);
-    connect(m_lines, &LineCommands::openCountChanged, this, &MainWindow::updateCounter);
+    connect(m_lines, &LineCommands::openCountChanged, m_counterTimer, qOverload<>(&QTimer::start));
     connect(m_status, &StatusArea::nextOpenRequested, m_lines, &LineCommands::goNext);
     connect(m_status, &StatusArea::undoRequested, m_desk->document(), &MappingDocument::undo);
     connect(m_editor, &EditorArea::targetProjectWanted, this, &MainWindow::showTargetProject);
+    m_counterTimer->setSingleShot(true);
+    m_counterTimer->setInterval(30);
+    connect(m_counterTimer, &QTimer::timeout, this, &MainWindow::updateCounter);
     updateRecentFiles();
 }
 
@@ -103,7 +108,7 @@ void MainWindow::connectDocument()
     connect(document, &MappingDocument::closed, this, &MainWindow::onDocumentClosed);
     connect(document, &MappingDocument::modifiedChanged, this, &MainWindow::updateTitle);
     connect(document, &MappingDocument::undoChanged, this, &MainWindow::updateUndo);
-    connect(document, &MappingDocument::countsChanged, this, &MainWindow::updateCounter);
+    connect(document, &MappingDocument::countsChanged, m_counterTimer, qOverload<>(&QTimer::start));
     connect(document, &MappingDocument::stepDone, this, &MainWindow::onStepDone);
     connect(document, &MappingDocument::noticeRaised, this, [this](const ChangeNotice &notice) {
         m_log->addMessage(LogWindow::Severity::Information, notice.text);

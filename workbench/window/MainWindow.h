@@ -21,6 +21,7 @@ class WorkbenchSettings;
 QT_BEGIN_NAMESPACE
 class QMenu;
 class QStackedWidget;
+class QTimer;
 QT_END_NAMESPACE
 
 /// The workbench's window: puts its parts together and wires them. From its making on messages go
@@ -85,7 +86,8 @@ private:
     WelcomePage *m_welcome = nullptr;
     PluginActions *m_pluginActions = nullptr;
     QMenu *m_recentMenu = nullptr;
+    /// Counting the projects walks all of them: once for a burst of changes.
+    QTimer *const m_counterTimer;
     QString m_language;
-    QString m_lastNotice;
     std::unique_ptr<PMessageSinkScope> m_messages;
 };

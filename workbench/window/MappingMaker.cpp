@@ -77,8 +77,8 @@ void MappingMaker::assignLines(const QString &sourceRoot, const QString &targetR
     display.activate(PProgressObserverBase::Thread);
     PProgress progress(0, m_release.countMappings(), 1, true, false);
     progress.setText(tr("Zeilen werden zugeordnet"));
-    std::atomic<bool> cancelled{false};
-    ReleaseAssigner::Progress reached;
+    std::atomic<bool> cancelled{progress.isCanceled()};
+    ReleaseAssigner::Progress reached{0, m_release.countMappings(), 0};
     assigner.setObserver([&](const ReleaseAssigner::Progress &now) {
         while (progress.count() < now.projects)
             progress.nextStep();

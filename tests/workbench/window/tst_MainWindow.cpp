@@ -201,6 +201,7 @@ private Q_SLOTS:
             expected = open.next(expected);
         }
         QVERIFY(projects.size() > 1);
+        QCOMPARE(QApplication::focusWidget(), fixture.sourceView()->grid());
         const QString path = editor->currentPath();
         const int line = editor->currentLine();
         fixture.press(Qt::Key_F8);
