@@ -32,7 +32,11 @@ ProjectId id(const char *path)
 class Victim
 {
 public:
-    explicit Victim(const QString &file) { m_document.open({file, {}, {}, {}, {}}); }
+    explicit Victim(const QString &file)
+        : m_file(file)
+    {
+        m_document.open({file, {}, {}, {}, {}});
+    }
 
     bool run(const QString &deed)
     {
@@ -54,6 +58,8 @@ public:
             changeTargets();
         else if (deed == u"replace")
             replace();
+        else if (deed == u"new")
+            m_document.openNew(SessionFixture::sampleRelease(QStringLiteral("2024-01-01")), m_file);
         else if (deed == u"turn")
             changeWithoutEnd();
         else
@@ -101,6 +107,7 @@ private:
         }
     }
 
+    const QString m_file;
     MappingDocument m_document;
 };
 
@@ -147,7 +154,10 @@ private Q_SLOTS:
     void killedWhileSaving_data();
     void killedWhileSaving();
     void aForeignChangeSinceThen();
+    void aForeignChangeAndAnAutosave();
     void newReleaseThatWasNeverSaved();
+    void newReleaseInAKnownFile_data();
+    void newReleaseInAKnownFile();
     void readOnlyDoesNotAsk();
 
 private:
@@ -583,6 +593,24 @@ void tst_SessionRecovery::aForeignChangeSinceThen()
     QCOMPARE(names(QStringLiteral("release.json.journal.alt-*")).size(), 1);
 }
 
+void tst_SessionRecovery::aForeignChangeAndAnAutosave()
+{
+    kill({QStringLiteral("confirm"), QStringLiteral("autosave")});
+    ReleaseMappingC theirs = SessionFixture::sampleRelease();
+    theirs.addMapping(SessionFixture::withState(theirs.mappingAt(0), {2}, 1));
+    m_files->addRelease(m_file, theirs);
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    QCOMPARE(m_document->recoveryOffer().saved.counts.mapped(), 1);
+    QCOMPARE(m_document->recoveryOffer().recovered.counts.verified(), 3);
+    QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
+    // Their work is not saved over without a question.
+    const SaveOutcome outcome = m_document->save();
+    QCOMPARE(outcome.result, SaveResult::ForeignChange);
+    QVERIFY(!outcome.onlyOtherReleases);
+    m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), SessionFixture::bytes(theirs));
+}
+
 void tst_SessionRecovery::newReleaseThatWasNeverSaved()
 {
     const QString file = m_files->path(QStringLiteral("new.json"));
@@ -601,6 +629,30 @@ void tst_SessionRecovery::newReleaseThatWasNeverSaved()
     QCOMPARE(m_document->counts().lines(), 30);
     QVERIFY(m_document->isModified());
     QCOMPARE(m_document->save().result, SaveResult::Saved);
+}
+
+void tst_SessionRecovery::newReleaseInAKnownFile_data()
+{
+    QTest::addColumn<QStringList>("deeds");
+    QTest::addColumn<int>("verified");
+    QTest::newRow("untouched") << QStringList{QStringLiteral("new")} << 0;
+    QTest::newRow("edited") << QStringList{QStringLiteral("new"), QStringLiteral("confirm")} << 3;
+}
+
+void tst_SessionRecovery::newReleaseInAKnownFile()
+{
+    QFETCH(QStringList, deeds);
+    QFETCH(int, verified);
+    kill(deeds);
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    QCOMPARE(m_document->recoveryOffer().sourceDate, QStringLiteral("2024-01-01"));
+    QVERIFY(!m_document->recoveryOffer().saved.available);
+    QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
+    QCOMPARE(m_document->release().getSourceDate(), QStringLiteral("2024-01-01"));
+    QCOMPARE(m_document->counts().verified(), verified);
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    QCOMPARE(MappingDocument::sourceDates(m_file),
+             QStringList({Date, QStringLiteral("2024-01-01")}));
 }
 
 void tst_SessionRecovery::readOnlyDoesNotAsk()

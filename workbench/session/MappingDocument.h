@@ -33,7 +33,7 @@ public:
     enum class Recovery {
         Ask, ///< open() gives RecoveryPending if there is something to recover
         UseSaved,
-        UseRecovered,
+        UseRecovered, ///< opens the release that was being edited, whatever was wanted
     };
     struct OpenRequest
     {

@@ -170,8 +170,9 @@ OpenResult MappingDocumentPrivate::openRecovered(const SessionRecovery &recovery
                                                  const QString &name)
 {
     const ReleaseMappingC &recovered = recovery.recoveredRelease();
-    m_known = FileState::of(file);
-    m_loaded = recovery.offer().saved.available ? recovery.savedRelease() : ReleaseMappingC();
+    // Saving over what somebody else did since must be asked for.
+    m_known = recovery.fitsSavedFile() ? FileState::of(file) : FileState();
+    m_loaded = recovery.fitsSavedFile() ? recovery.savedRelease() : ReleaseMappingC();
     // The side file gets all that is recovered before the journal goes.
     MappingFile side;
     side.setRelease(recovered);
@@ -194,10 +195,10 @@ void MappingDocumentPrivate::pushRecovery(const SessionRecovery &recovery)
     UndoStep step;
     step.text = MappingDocument::tr("Wiederherstellung nach einem Absturz");
     step.lines = recovery.offer().changedLines;
-    step.releaseBefore = m_loaded;
+    step.releaseBefore = recovery.savedRelease();
     step.releaseAfter = recovery.recoveredRelease();
     if (recovery.offer().saved.available) {
-        journalRelease(m_loaded, recovery.recoveredRelease());
+        journalRelease(recovery.savedRelease(), recovery.recoveredRelease());
         history.push(step);
     } else {
         history.markDirty();

@@ -58,8 +58,11 @@ SessionRecovery::SessionRecovery(const QString &mappingFile)
     const bool readable = readBase(m_file, m_saved);
     if (readable)
         m_offer.saved = describe(m_saved, timeOf(m_file));
-    if (m_anyChange && readable)
-        take(replay(m_saved, m_savedAt));
+    if (m_anyChange && readable) {
+        Replay candidate = replay(m_saved, m_savedAt);
+        candidate.onSavedFile = true;
+        take(candidate);
+    }
     if (!isComplete(m_best))
         tryAutosave();
     if (!isComplete(m_best))
@@ -144,6 +147,12 @@ SessionRecovery::Replay SessionRecovery::replay(const ReleaseMappingC &base, int
         }
     }
     return result;
+}
+
+bool SessionRecovery::fitsSavedFile() const
+{
+    return !m_offer.saved.available || m_best.onSavedFile ||
+           (!m_savedHash.isEmpty() && FileState::of(m_file).hash == m_savedHash);
 }
 
 /// Keeps the candidate that got furthest.

@@ -23,6 +23,10 @@ public:
     [[nodiscard]] const ReleaseMappingC &savedRelease() const { return m_saved; }
     [[nodiscard]] const ReleaseMappingC &recoveredRelease() const { return m_recovered; }
 
+    /// The recovered version goes on from the saved one. If not, somebody else changed the file
+    /// since, or nobody knows.
+    [[nodiscard]] bool fitsSavedFile() const;
+
     /// Whether a session was not closed and did anything, recoverable or not.
     [[nodiscard]] bool leftSomething() const { return m_leftSomething; }
 
@@ -39,6 +43,7 @@ private:
     {
         ReleaseMappingC release;
         bool possible = false;
+        bool onSavedFile = false;
         int records = 0; ///< index behind the last one that was applied
     };
     void findLastSaving();
