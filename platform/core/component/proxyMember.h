@@ -28,32 +28,33 @@ struct proxyMemberTraits<Result (Class::*)(Arguments...) const>
 {
 };
 
+template<auto Member, std::size_t... I>
+void proxyInvokeWith(proxyObjectC &object, [[maybe_unused]] proxyAutoParaListC &arguments,
+                     proxyAutoTypeCastC &result, std::index_sequence<I...>)
+{
+    using Traits = proxyMemberTraits<decltype(Member)>;
+    using Values = typename Traits::Values;
+    constexpr std::size_t count = sizeof...(I);
+    [[maybe_unused]] Values values;
+    ((std::get<count - 1 - I>(values) =
+          arguments[count - 1 - I].template get<std::tuple_element_t<count - 1 - I, Values>>(true)),
+     ...);
+    auto &self = static_cast<typename Traits::ClassType &>(object);
+    if constexpr (std::is_void_v<typename Traits::ResultType>) {
+        (self.*Member)(std::get<I>(values)...);
+        result.set(1);
+    } else {
+        result.set((self.*Member)(std::get<I>(values)...));
+    }
+}
+
 /// Calls the member function with the arguments, which are read last to first. A function without
 /// a result gives the script the int 1.
 template<auto Member>
 void proxyInvoke(proxyObjectC &object, proxyAutoParaListC &arguments, proxyAutoTypeCastC &result)
 {
-    using Traits = proxyMemberTraits<decltype(Member)>;
-    typename Traits::Values values;
-    [&]<std::size_t... I>(std::index_sequence<I...>)
-    {
-        constexpr std::size_t last = sizeof...(I) - 1;
-        ((std::get<last - I>(values) =
-              arguments[last - I]
-                  .template get<std::tuple_element_t<last - I, typename Traits::Values>>(true)),
-         ...);
-    }
-    (std::make_index_sequence<Traits::count>());
-    auto &self = static_cast<typename Traits::ClassType &>(object);
-    const auto call = [&self](auto &...each) {
-        return (self.*Member)(each...);
-    };
-    if constexpr (std::is_void_v<typename Traits::ResultType>) {
-        std::apply(call, values);
-        result.set(1);
-    } else {
-        result.set(std::apply(call, values));
-    }
+    constexpr int count = proxyMemberTraits<decltype(Member)>::count;
+    proxyInvokeWith<Member>(object, arguments, result, std::make_index_sequence<count>());
 }
 
 template<auto Member>
