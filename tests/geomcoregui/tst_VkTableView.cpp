@@ -68,6 +68,7 @@ private Q_SLOTS:
     void popupBelowTheLinesAndOfTheHeader();
     void statusToolTip();
     void cutTextHasAToolTip();
+    void rangesAreReadFromTheirBegin();
 
     void headerClickSorts();
     void columnsKeepTheirWidths();
@@ -574,6 +575,21 @@ void tst_VkTableView::cutTextHasAToolTip()
     QCOMPARE(toolTipAt(1, note), QString("<p>galvanised</p>"));
     QCOMPARE(toolTipAt(3, note), QString("<p>a\u00a0\"b\"</p>"));
     QToolTip::hideText();
+}
+
+void tst_VkTableView::rangesAreReadFromTheirBegin()
+{
+    const auto alignment = [&](QStringView name) {
+        const VkTableModel *const model = m_view->model();
+        const int column = model->columnOf(m_table.getVar(name).getVarId());
+        const QVariant caption = model->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
+        const QVariant cell = model->index(0, column).data(Qt::TextAlignmentRole);
+        return caption == cell ? Qt::Alignment(cell.toInt()) & Qt::AlignHorizontal_Mask
+                               : Qt::Alignment();
+    };
+    QCOMPARE(alignment(u"Dia"), Qt::AlignRight);
+    QCOMPARE(alignment(u"L"), Qt::AlignLeft);
+    QCOMPARE(alignment(u"Note"), Qt::AlignLeft);
 }
 
 void tst_VkTableView::headerClickSorts()

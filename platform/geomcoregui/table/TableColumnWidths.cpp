@@ -14,6 +14,7 @@ namespace {
 const QString section = QStringLiteral("TableColumns");
 constexpr int sampleRows = 60;
 constexpr int widest = 360; // at zoom factor 1
+constexpr int widestRange = 220;
 
 /// A text without the signs that separate names, widths and keys.
 QString encoded(const QString &text)
@@ -139,7 +140,8 @@ int TableColumnWidths::neededWidth(int column) const
         const QString text = m_model->index(row, column).data().toString();
         width = std::max(width, metrics.horizontalAdvance(text) + 2 * margin);
     }
-    return std::min(width, qRound(widest * m_zoom));
+    const int most = m_model->variable(column).isFW() ? widestRange : widest;
+    return std::min(width, qRound(most * m_zoom));
 }
 
 void TableColumnWidths::onResized(int column, int, int newSize)

@@ -15,9 +15,10 @@ PString translated(const char *text)
     return PString::translate(text, "VelkLinkDbGui");
 }
 
+/// A range is a list that is read from its begin, which has to stay in sight.
 bool alignsRight(const VKTab::Var &var)
 {
-    return var.isNumeric() || var.getVida().isRightAligned();
+    return !var.isFW() && (var.isNumeric() || var.getVida().isRightAligned());
 }
 
 QString plain(const QString &text)
