@@ -1,4 +1,5 @@
 #include "SessionFixture.h"
+#include "SizeLimit.h"
 
 #include <workbench/session/JournalReader.h>
 #include <workbench/session/MappingDocument.h>
@@ -65,6 +66,8 @@ private Q_SLOTS:
     void newReleaseIsModified();
     void journalTellsWhatHappened();
     void journalCostsWhatChanged();
+    void aFullDiskIsTold();
+    void autosaves();
 
 private:
     MappingDocument &open(MappingDocument::Access access = MappingDocument::Access::ReadWrite);
@@ -597,6 +600,55 @@ void tst_MappingDocument::journalCostsWhatChanged()
                                      {25000}, 2));
     const qint64 oneLine = QFile(m_document->journalFile()).size() - before;
     QVERIFY2(oneLine < 1000, qPrintable(QString::number(oneLine)));
+}
+
+void tst_MappingDocument::aFullDiskIsTold()
+{
+    open();
+    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
+    {
+        const SizeLimit limit(QFile(m_document->journalFile()).size() + 20);
+        change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+        change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+        QCOMPARE(problems.size(), 1); // not for every change
+        QVERIFY(problems[0].first().toString().contains(m_document->journalFile()));
+        m_document->autosave();
+        QCOMPARE(problems.size(), 2);
+        QVERIFY(problems[1].first().toString().contains(
+            QStringLiteral("automatische Sicherung ist nicht gelungen")));
+        QVERIFY(!QFile::exists(m_document->autosaveFile()));
+        QVERIFY(!m_document->lastAutosave().isValid());
+    }
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {3}, 2));
+    JournalReader reader;
+    QVERIFY(reader.read(m_document->journalFile()));
+    QCOMPARE(JournalReader::steps(reader.sessions().first()).size(), 3);
+    QVERIFY(reader.sessions().first().gaps.isEmpty());
+}
+
+void tst_MappingDocument::autosaves()
+{
+    open();
+    QSignalSpy done(m_document.get(), &MappingDocument::autosaved);
+    m_document->autosave(); // nothing to save
+    QCOMPARE(done.size(), 0);
+    QCOMPARE(m_document->autosaveInterval(), 180);
+    m_document->setAutosaveInterval(1);
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    QTRY_COMPARE_WITH_TIMEOUT(done.size(), 1, 30000);
+    QCOMPARE(done.first().first().toString(), m_document->autosaveFile());
+    MappingFile side;
+    QVERIFY(side.read(m_document->autosaveFile()));
+    QCOMPARE(SessionFixture::bytes(side.releases().first()),
+             SessionFixture::bytes(m_document->release()));
+    QVERIFY(m_document->lastAutosave().isValid());
+    m_document->setAutosaveInterval(0);
+    m_document->autosave(); // nothing new
+    QCOMPARE(done.size(), 1);
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    m_document->autosave();
+    QCOMPARE(done.size(), 2);
+    QVERIFY(m_document->isModified());
 }
 
 QTEST_GUILESS_MAIN(tst_MappingDocument)
