@@ -131,5 +131,5 @@ void TableMappingWidgetPrivate::onVerifyAllClicked()
     for (const VKTab::LineId &id : lines)
         Q_EMIT q->targetLineConflictAccepted(id.value(0));
     mapping.verifyAll();
-    publish(mapping);
+    publish(PrjMappingC(mapping)); // receivers may replace the own one
 }

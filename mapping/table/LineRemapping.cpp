@@ -101,5 +101,5 @@ void TableMappingWidgetPrivate::remapLines()
     }
     progress.done();
     mapping = mapper.getMappingNode().getMapping();
-    publish(mapping);
+    publish(PrjMappingC(mapping));
 }

@@ -67,7 +67,7 @@ void TableMappingWidgetPrivate::runValueRangeMapping(const QStringList &names,
         return;
     mapping = runnable.getMapping();
     if (runnable.isChanged())
-        publish(mapping);
+        publish(PrjMappingC(mapping));
 }
 
 void TableMappingWidgetPrivate::editValueRangeMapping(int row)
@@ -92,5 +92,5 @@ void TableMappingWidgetPrivate::editValueRangeMapping(int row)
     target.addLineId(sourceLine, entry.getTargetLineId(), entry.getState(), dialog.text());
     mapping.updateTarget(index, target);
     mapping.updateMappingState();
-    publish(mapping);
+    publish(PrjMappingC(mapping));
 }

@@ -90,6 +90,7 @@ private Q_SLOTS:
 
     void verifyAll();
     void verifyAllWithoutTable();
+    void receiversDoNotChangeWhatIsPublished();
 
     void remap_data();
     void remap();
@@ -484,6 +485,19 @@ void tst_LineMappingActions::verifyAllWithoutTable()
 {
     QTest::mouseClick(f->button("btnVerifyAll"), Qt::LeftButton);
     QVERIFY(f->order.isEmpty());
+}
+
+void tst_LineMappingActions::receiversDoNotChangeWhatIsPublished()
+{
+    f->load();
+    // As the strip of conflicts does when it takes a mark away.
+    connect(f->widget.get(), &TableMappingWidget::projectMappingUpdated, f->widget.get(),
+            [this] { f->widget->onProjectMappingUpdated(mappingOf("old/a.prj", {})); });
+    f->button("btnVerifyAll")->click();
+    QCOMPARE(f->states(), QString("M M N"));
+    f->select(1);
+    f->widget->onRemapLinesClicked();
+    QCOMPARE(f->states(), QString("M M -"));
 }
 
 void tst_LineMappingActions::remap_data()
