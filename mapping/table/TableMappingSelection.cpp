@@ -185,7 +185,7 @@ bool TableMappingWidgetPrivate::showSingleLine(const VKTab::LineId &id, bool *as
 VKTab::ContentRef TableMappingWidgetPrivate::targetTableFor(const QString &path, bool *reused)
 {
     VkTableModel *const model = targetView->model();
-    const VKTab::ContentRef current = targetView->getTable();
+    VKTab::ContentRef current = targetView->getTable();
     *reused = current.isValid() &&
               PPathName(current.getKeyValue(VKTab::KeyProjectPath).toString()) == PPathName(path);
     if (!*reused)

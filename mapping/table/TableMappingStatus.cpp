@@ -125,7 +125,7 @@ QString TableMappingWidgetPrivate::checkText(const VKTab::LineId &id) const
 QString TableMappingWidgetPrivate::lineToolTip(const VKTab::LineI &line) const
 {
     const VKTab::LineId id = line.getLineInfo().getLineId();
-    const QString conflict = conflictText(mapperLineFor(id));
+    QString conflict = conflictText(mapperLineFor(id));
     if (!conflict.isEmpty())
         return conflict;
     const QString text = bold(
