@@ -138,7 +138,7 @@ void MainWindow::showTargetProject(const QString &targetPath)
                        PMsgDlgMode::Warning);
         return;
     }
-    // Nothing here shows parts yet; the folder holds the project with its table.
+    // The folder holds the project with its table.
     QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path.native()).path()));
     m_status->showNote(tr("Zielprojekt: %1").arg(QString(path.native())));
 }

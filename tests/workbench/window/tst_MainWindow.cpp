@@ -15,11 +15,14 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QDesktopServices>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QSpinBox>
 #include <QStackedWidget>
 #include <QTreeView>
+#include <QUrl>
 
 namespace {
 
@@ -269,6 +272,22 @@ private Q_SLOTS:
         QCOMPARE(fixture.window->editor()->currentLine(), line);
     }
 
+    void jumpsOnFromHitToHit()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        EditorArea *const editor = fixture.window->editor();
+        QVERIFY(editor->selectProject(din933));
+        QList<int> hits;
+        for (int i = 0; i < 3; ++i) {
+            QVERIFY(fixture.window->lines()->jumpTo("DIN 933 - M4"));
+            hits << editor->currentLine();
+            QVERIFY(fixture.window->status()->note().startsWith("Treffer " +
+                                                                QString::number(i + 1) + " von "));
+        }
+        QCOMPARE(hits, (QList<int>{9, 10, 11}));
+    }
+
     void saysThatThereIsNoSuchLine()
     {
         WindowFixture fixture;
@@ -314,6 +333,81 @@ private Q_SLOTS:
         QTest::qWait(1);
         QVERIFY(document.canRedo());
         QVERIFY(!document.canUndo());
+    }
+
+    void confirmsTheSelectedLines()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_Down, Qt::ShiftModifier);
+        fixture.press(Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(fixture.window->editor()->selectedLines(), (QList<int>{3, 4, 5}));
+        QCOMPARE(fixture.window->editor()->currentLine(), -1);
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            script.note(dialog);
+            QVERIFY(dialog->property("informativeText")
+                        .toString()
+                        .startsWith("Gemeint sind die markierten Zeilen."));
+            QTest::mouseClick(dialog->findChild<QPushButton *>("answerAccept"), Qt::LeftButton);
+        });
+        fixture.press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY2(script.texts.value(0).startsWith("3 Zeilen bestätigen?"),
+                 qPrintable(script.texts.join('\n')));
+        QCOMPARE(countState(document), 3);
+    }
+
+    void changesSettingsByTheirDialog()
+    {
+        WindowFixture fixture;
+        const QFont font = QApplication::font();
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            script.note(dialog);
+            dialog->findChild<QSpinBox *>("font")->setValue(150);
+            QTest::mouseClick(dialog->findChild<QPushButton *>("ok"), Qt::LeftButton);
+        });
+        fixture.press(Qt::Key_Comma, Qt::ControlModifier);
+        QCOMPARE(script.seen, QStringList{"SettingsDialog"});
+        QCOMPARE(fixture.settings->values().fontPercent, 150);
+        QCOMPARE(QApplication::font().pointSizeF(), font.pointSizeF() * 1.5);
+        WorkbenchSettings::Values values = fixture.settings->values();
+        values.fontPercent = 100;
+        fixture.settings->setValues(values);
+        QCOMPARE(QApplication::font().pointSizeF(), font.pointSizeF());
+    }
+
+    void saysWhenATargetProjectIsGone()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        Q_EMIT fixture.window->editor()->targetProjectWanted("standardparts/no/such.prj");
+        QApplication::processEvents();
+        QVERIFY(fixture.window->log()->text().contains(
+            "Das Zielprojekt standardparts/no/such.prj gibt es nicht."));
+        QVERIFY(fixture.window->log()->isVisible());
+    }
+
+    void showsTheFolderOfATargetProject()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QDesktopServices::setUrlHandler("file", this, "takeUrl");
+        Q_EMIT fixture.window->editor()->targetProjectWanted("standardparts/screws/iso4017.prj");
+        QDesktopServices::unsetUrlHandler("file");
+        QVERIFY2(m_url.toLocalFile().endsWith("/standardparts/screws"),
+                 qPrintable(m_url.toString()));
+    }
+
+    void checksValueRanges()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        fixture.action("checkRanges")->trigger();
+        QCOMPARE(fixture.window->status()->note(),
+                 QStringLiteral("0 Wertebereichszuordnungen geprüft: keine Beanstandung."));
     }
 
     void undoShowsWhatItUndid()
@@ -559,6 +653,12 @@ private Q_SLOTS:
         QTRY_COMPARE(document.undoTexts().size(), 1);
         QCOMPARE(countState(document), 1);
     }
+
+public Q_SLOTS:
+    void takeUrl(const QUrl &url) { m_url = url; }
+
+private:
+    QUrl m_url;
 };
 
 QTEST_MAIN(tst_MainWindow)
