@@ -36,6 +36,8 @@ void DesignationLabels::show() const
 {
     if (!sourceLabel || !targetLabel)
         return;
+    sourceLabel->setToolTip(sourceText); // where the label is too narrow
+    targetLabel->setToolTip(targetText);
     if (sourceText.isEmpty() && targetText.isEmpty()) {
         sourceLabel->setText(sourceText);
         targetLabel->setText(targetText);

@@ -55,6 +55,8 @@ void tst_DesignationLabels::texts()
     labels.setTargetText(target);
     QTEST(sourceLabel.text(), "sourceShown");
     QTEST(targetLabel.text(), "targetShown");
+    QCOMPARE(sourceLabel.toolTip(), source);
+    QCOMPARE(targetLabel.toolTip(), target);
     QCOMPARE(labels.sourceText, source);
     QCOMPARE(labels.targetText, target);
 }
