@@ -26,6 +26,8 @@ private Q_SLOTS:
     void resultStaysOnFailure();
     void objects();
     void nullObjects();
+    void equal_data();
+    void equal();
     void variable();
     void property();
     void propertyThatCannotBeRead();
@@ -149,6 +151,8 @@ void tst_mzComVariantC::objects()
     QCOMPARE(value.type(), mzComVariantC::Object);
     QCOMPARE(value.getIUnknown(), object->getIUnknown());
     QCOMPARE(object->refCount(), 2);
+    QVERIFY(value == mzComVariantC(object->getIUnknown()));
+    QVERIFY(!(value == mzComVariantC(sample().get())));
     {
         const mzComVariantC copy = value;
         QCOMPARE(object->refCount(), 3);
@@ -175,6 +179,37 @@ void tst_mzComVariantC::nullObjects()
     mzComVariantC value("x");
     value.set(nullptr);
     QVERIFY(value.isEmpty());
+}
+
+void tst_mzComVariantC::equal_data()
+{
+    QTest::addColumn<mzComVariantC>("a");
+    QTest::addColumn<mzComVariantC>("b");
+    QTest::addColumn<bool>("expected");
+    const auto row = [](const char *title, const mzComVariantC &a, const mzComVariantC &b,
+                        bool expected) {
+        QTest::newRow(title) << a << b << expected;
+    };
+    row("nothing", {}, {}, true);
+    row("nothing and empty text", {}, "", false);
+    row("nothing and 0", {}, 0, false);
+    row("numbers", 2, 2.0, true);
+    row("other numbers", 2, 2.5, false);
+    row("number and bool", 1, true, false);
+    row("number and text", 1, "1", false);
+    row("texts", "a", QStringLiteral("a"), true);
+    row("other case", "a", "A", false);
+    row("bools", true, true, true);
+    row("other bools", true, false, false);
+    row("nothing and an object", {}, static_cast<const mzIUnknown *>(nullptr), true);
+}
+
+void tst_mzComVariantC::equal()
+{
+    QFETCH(mzComVariantC, a);
+    QFETCH(mzComVariantC, b);
+    QTEST(a == b, "expected");
+    QTEST(b == a, "expected");
 }
 
 void tst_mzComVariantC::variable()
@@ -204,6 +239,10 @@ void tst_mzComVariantC::property()
     const mzComVariantC value = mzComVariantC::property(*property);
     QCOMPARE(value.type(), mzComVariantC::Property);
     QCOMPARE(value.getIUnknown(), property);
+    QVERIFY(value == mzComVariantC::property(*property));
+    QVERIFY(!(value == mzComVariantC::variable(*property)));
+    QVERIFY(!(value == mzComVariantC(property)));
+    QVERIFY(!(value == mzComVariantC(8)));
     QCOMPARE(value.skipVariable().type(), mzComVariantC::Property);
     QCOMPARE(value.skipVariableAndProps().getInt(), 8);
     const mzComVariantC variable = mzComVariantC::variable(*new mzComVariableC(value));
@@ -257,6 +296,18 @@ void tst_mzComVariantC::arrays()
     const mzComVariantArrayC copy = array;
     array.append(3);
     QCOMPARE(copy.size(), 2);
+    array.replace(1, 20);
+    array.replace(3, 30);
+    array.replace(-1, 30);
+    QCOMPARE(array.size(), 3);
+    QCOMPARE(array[1].getInt(), 20);
+    QCOMPARE(copy[1].getInt(), 2);
+    array.remove(3);
+    array.remove(-1);
+    QCOMPARE(array.size(), 3);
+    array.remove(0);
+    QCOMPARE(array.size(), 2);
+    QCOMPARE(array[0].getInt(), 20);
     const auto object = sample();
     const mzComVariantArrayC two{object->getIUnknown(), static_cast<proxyObjectC *>(nullptr)};
     QCOMPARE(two[0].getIUnknown(), object->getIUnknown());

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void leavesTheResult();
     void failsWithAnException();
     void failsWithoutAnException();
+    void succeedsInSpiteOfAnException();
     void forgetsTheFormerCall();
     void wrappedResult();
     void wrappedResultThatCannotBeRead();
@@ -145,6 +146,19 @@ void tst_mzIDispatchC::failsWithoutAnException()
     }));
     QCOMPARE(dispatch.invokeAndCheck("update", {}, m_result, m_exception), -1);
     QVERIFY(m_result.isEmpty());
+    QVERIFY(!m_exception);
+}
+
+/// One that the script dealt with.
+void tst_mzIDispatchC::succeedsInSpiteOfAnException()
+{
+    const mzIDispatchC dispatch(new Script([](mzComVariantC &result, Exception &exception) {
+        result = 1;
+        exception = PScriptException{QStringLiteral("boom"), {}, 0};
+        return 0;
+    }));
+    QCOMPARE(dispatch.invokeAndCheck("update", {}, m_result, m_exception), 0);
+    QCOMPARE(m_result.getInt(), 1);
     QVERIFY(!m_exception);
 }
 

@@ -2,8 +2,8 @@
 #include "SampleProxies.h"
 
 #include <core/component/mzComCreateObject.h>
+#include <core/component/mzComPropertyC.h>
 #include <core/component/mzComPtrC.h>
-#include <core/component/mzComVariableC.h>
 #include <core/component/mzComVariantArrayC.h>
 #include <core/component/mzIComNativePointer.h>
 #include <core/component/proxyFactoryC.h>
@@ -43,6 +43,7 @@ private Q_SLOTS:
     void errors();
     void errorChangesNothing();
     void successForgetsAnEarlierError();
+    void argumentThatCannotBeRead();
     void argumentsAreReadLastToFirst();
     void livesThroughTheCall();
     void ownThread();
@@ -397,6 +398,20 @@ void tst_proxyObjectC::successForgetsAnEarlierError()
     const Outcome outcome = call(*object, "number", Row::PropertyRead);
     QCOMPARE(outcome.code, 0);
     QVERIFY(!outcome.exception);
+}
+
+/// The reader's error is told as it is.
+void tst_proxyObjectC::argumentThatCannotBeRead()
+{
+    const auto object = made<SampleC>();
+    const auto other = made<OtherC>();
+    const mzComVariantC argument =
+        mzComVariantC::property(*new mzComPropertyC(mzIDispatchC(other->getIUnknown()), "number"));
+    const Outcome outcome = call(*object, "number", Row::PropertyWrite, {argument});
+    QCOMPARE(outcome.code, int(mzComFailed));
+    QVERIFY(outcome.result.isEmpty());
+    QCOMPARE(outcome.exception->message,
+             QStringLiteral("proxyObjectC has no property \"number\" that can be read"));
 }
 
 void tst_proxyObjectC::argumentsAreReadLastToFirst()

@@ -1,5 +1,17 @@
 #include "mzComVariantArrayC.h"
 
+void mzComVariantArrayC::replace(int index, const mzComVariantC &value)
+{
+    if (index >= 0 && index < size())
+        m_values.replace(index, value);
+}
+
+void mzComVariantArrayC::remove(int index)
+{
+    if (index >= 0 && index < size())
+        m_values.removeAt(index);
+}
+
 QStringList mzComVariantArrayC::toQStringList() const
 {
     QStringList result;

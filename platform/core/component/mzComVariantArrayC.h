@@ -20,6 +20,9 @@ public:
     }
 
     void append(const mzComVariantC &value) { m_values.append(value); }
+    /// Both do nothing beyond the array's ends.
+    void replace(int index, const mzComVariantC &value);
+    void remove(int index);
     [[nodiscard]] int size() const { return static_cast<int>(m_values.size()); }
     /// Empty beyond the array's ends.
     [[nodiscard]] mzComVariantC operator[](int index) const { return m_values.value(index); }

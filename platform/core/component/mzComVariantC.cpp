@@ -123,6 +123,15 @@ mzIComReference *mzComVariantC::reference() const
     return wrapper ? wrapper->reference.as<mzIComReference>() : nullptr;
 }
 
+bool operator==(const mzComVariantC &a, const mzComVariantC &b)
+{
+    double first = 0;
+    double second = 0;
+    if (a.getExt(first) == mzComSuccess && b.getExt(second) == mzComSuccess)
+        return first == second;
+    return a.m_value == b.m_value;
+}
+
 mzComVariantC mzComVariantC::skip(bool properties) const
 {
     mzComVariantC result = *this;

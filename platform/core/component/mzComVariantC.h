@@ -76,11 +76,16 @@ public:
     /// Of a wrapper; null for all others.
     [[nodiscard]] mzIComReference *reference() const;
 
+    /// Numbers are equal by value, objects and wrappers if they are the same.
+    VELKCORE_EXPORT friend bool operator==(const mzComVariantC &a, const mzComVariantC &b);
+
 private:
     struct Wrapper
     {
         Type type;
         mzComPtrC reference;
+
+        friend bool operator==(const Wrapper &a, const Wrapper &b) = default;
     };
 
     mzComVariantC(Type type, mzIComReference &reference);

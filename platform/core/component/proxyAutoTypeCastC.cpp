@@ -50,8 +50,6 @@ void proxyAutoTypeCastC::read(PString &result) const
 void proxyAutoTypeCastC::read(mzComVariantC &result) const
 {
     result = m_argument.skipVariableAndProps();
-    if (result.isEmpty())
-        proxyObjectC::throwAutoTypeCastException();
 }
 
 void proxyAutoTypeCastC::read(mzIDispatchC &result) const

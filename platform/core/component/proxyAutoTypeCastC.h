@@ -27,8 +27,8 @@ public:
     }
 
     /// The argument without its wrappers. Throws the script error if it is of another type. An
-    /// empty one is of another type, too, if the argument is \a required; otherwise it gives a
-    /// value as if newly made.
+    /// empty one is of another type than all but mzComVariantC, too, if the argument is
+    /// \a required; otherwise it gives a value as if newly made.
     template<class T>
     [[nodiscard]] T get(bool required = true) const
     {
