@@ -29,6 +29,8 @@ StatusArea::StatusArea(QWidget *parent)
     m_note->setObjectName("statusNote");
     m_note->setTextFormat(Qt::RichText);
     m_note->setTextInteractionFlags(Qt::LinksAccessibleByKeyboard | Qt::LinksAccessibleByMouse);
+    // A long text is cut and stands in the tool tip; it must not widen the window.
+    m_note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_readOnly->setObjectName("statusReadOnly");
     m_open->setObjectName("statusOpen");
     m_open->setTextFormat(Qt::RichText);

@@ -6,6 +6,7 @@
 #include "Screenshot.h"
 #include "WorkbenchSettings.h"
 
+#include <core/config/PConfigService.h>
 #include <core/plugin/PTranslateManager.h>
 #include <gui/application/PApplication.h>
 #include <workbench/start/SettingsPlace.h>
@@ -16,10 +17,10 @@
 #include <QIcon>
 #include <QTimer>
 
-namespace {
-
-void prepare(WorkbenchSettings &settings, const StartOptions &options)
+void prepareWorkbench(WorkbenchSettings &settings, const SettingsPlace &place,
+                      const StartOptions &options)
 {
+    PConfigService::setDirectories({"$TORMEVA_SETUP", place.directory()});
     WorkbenchSettings::Values values = settings.values();
     if (!options.language.isEmpty())
         values.language = options.language;
@@ -32,6 +33,8 @@ void prepare(WorkbenchSettings &settings, const StartOptions &options)
     PTranslateManager::registerModule("velkworkbench");
     PTranslateManager::instance().setLanguage(values.language);
 }
+
+namespace {
 
 DocumentDesk::Wish wishOf(const StartOptions &options)
 {
@@ -49,7 +52,7 @@ int runWorkbench(PLinkDbGuiI *plugin, const StartOptions &options)
 {
     const SettingsPlace place(options.settingsDirectory);
     WorkbenchSettings settings(place.workbenchSettings());
-    prepare(settings, options);
+    prepareWorkbench(settings, place, options);
     MainWindow window(&settings, plugin);
     if (options.size.isValid())
         window.resize(options.size);

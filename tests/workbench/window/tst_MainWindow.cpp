@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QSpinBox>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QTreeView>
 #include <QUrl>
@@ -512,6 +513,11 @@ private Q_SLOTS:
         fixture.open(file);
         QVERIFY(fixture.window->editor()->selectProject(din933));
         QVERIFY(fixture.window->editor()->selectLine(5));
+        fixture.window->resize(1111, 777);
+        auto *splitter = fixture.window->editor()->findChild<QSplitter *>("catalogSplitter");
+        QApplication::processEvents();
+        splitter->setSizes({444, 600});
+        const QList<int> sizes = splitter->sizes();
         QVERIFY(fixture.window->close());
         fixture.closeWindow();
         fixture.makeWindow();
@@ -519,6 +525,9 @@ private Q_SLOTS:
         QCOMPARE(fixture.window->desk()->document()->mappingFile(), file);
         QCOMPARE(fixture.window->editor()->currentPath(), din933);
         QCOMPARE(fixture.window->editor()->currentLine(), 5);
+        QCOMPARE(fixture.window->size(), QSize(1111, 777));
+        QTRY_COMPARE(fixture.window->editor()->findChild<QSplitter *>("catalogSplitter")->sizes(),
+                     sizes);
     }
 
     void beginsWithExampleAndTour()

@@ -1,5 +1,12 @@
 #include "WindowFixture.h"
 
+#include <core/config/PConfigService.h>
+#include <core/plugin/PTranslateManager.h>
+#include <workbench/start/SettingsPlace.h>
+#include <workbench/start/StartOptions.h>
+#include <workbench/window/WorkbenchRun.h>
+#include <workbench/window/WorkbenchSettings.h>
+
 #include <QDir>
 #include <QImage>
 #include <QProcess>
@@ -62,6 +69,29 @@ private Q_SLOTS:
         const Run wrong = program({"--theme", "red"});
         QCOMPARE(wrong.status, 1);
         QVERIFY(wrong.err.startsWith("velkworkbench: --theme is not light or dark: red\n"));
+    }
+
+    void findsSetUpFilesAmongTheSettings()
+    {
+        const WindowFixture fixture;
+        QFile config(fixture.directory.filePath("pproject.cfg"));
+        QVERIFY(config.open(QIODevice::WriteOnly));
+        config.write("[CatalogMappingWidget]\nAllowVerifyAllOnDir=true\n");
+        config.close();
+        StartOptions options;
+        options.language = "en";
+        options.theme = "dark";
+        const WorkbenchSettings::Values before = fixture.settings->values();
+        prepareWorkbench(*fixture.settings, SettingsPlace(fixture.directory.path()), options);
+        const PRefPtr<PConfig> found = PConfigService::getConfig(0, "pproject");
+        QVERIFY(found);
+        QVERIFY(
+            found->getItemValue("AllowVerifyAllOnDir", "CatalogMappingWidget", "false").GetBool());
+        QCOMPARE(PTranslateManager::instance().language(), QString("en"));
+        QCOMPARE(fixture.settings->values().theme, QString("dark"));
+        // For this run only.
+        QCOMPARE(WorkbenchSettings(fixture.settings->store()->fileName()).values(), before);
+        PConfigService::setDirectories({"$TORMEVA_SETUP"});
     }
 
     void rendersPictures_data()

@@ -101,6 +101,15 @@ private Q_SLOTS:
         QCOMPARE(note->text(), QStringLiteral("1 &lt; 2"));
     }
 
+    void longNotesDoNotWidenTheWindow()
+    {
+        StatusArea status(nullptr);
+        const int width = status.minimumSizeHint().width();
+        status.showNote(QString(500, 'x'));
+        QCOMPARE(status.minimumSizeHint().width(), width);
+        QCOMPARE(status.findChild<QLabel *>("statusNote")->toolTip(), QString(500, 'x'));
+    }
+
     void counterGroupsDigits()
     {
         StatusArea status(nullptr);
