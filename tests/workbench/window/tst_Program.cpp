@@ -21,10 +21,12 @@ struct Run
     QString err;
 };
 
-Run program(const QStringList &arguments)
+const QString built = QStringLiteral(VELK_BINARY_DIR "/bin/velkworkbench");
+
+Run program(const QStringList &arguments, const QString &file = built)
 {
     QProcess process;
-    process.start(QStringLiteral(VELK_BINARY_DIR "/bin/velkworkbench"), arguments);
+    process.start(file, arguments);
     if (!process.waitForFinished(60000))
         return {};
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
@@ -69,6 +71,28 @@ private Q_SLOTS:
         const Run wrong = program({"--theme", "red"});
         QCOMPARE(wrong.status, 1);
         QVERIFY(wrong.err.startsWith("velkworkbench: --theme is not light or dark: red\n"));
+    }
+
+    void saysWhichLibraryIsMissing()
+    {
+        const QTemporaryDir installation;
+        QVERIFY(QDir(installation.path()).mkpath("bin"));
+        QVERIFY(QDir(installation.path()).mkpath("lib"));
+        const QString copy = installation.filePath("bin/velkworkbench");
+        QVERIFY(QFile::copy(built, copy));
+        const QStringList arguments{"--screenshot", installation.filePath("p.png")};
+        const Run none = program(arguments, copy);
+        QCOMPARE(none.status, 4);
+        QVERIFY2(none.err.contains("lib/VelkLinkDbGui"), qPrintable(none.err));
+        QVERIFY(QFile::link(VELK_BINARY_DIR "/lib/libVelkLinkDbGui.so",
+                            installation.filePath("lib/libVelkLinkDbGui.so")));
+        const Run half = program(arguments, copy);
+        QCOMPARE(half.status, 4);
+        QVERIFY2(half.err.contains("lib/VelkWorkbench"), qPrintable(half.err));
+        QVERIFY(QFile::link(VELK_BINARY_DIR "/lib/libVelkWorkbench.so",
+                            installation.filePath("lib/libVelkWorkbench.so")));
+        QCOMPARE(program(arguments, copy).status, 0);
+        QVERIFY(QFile::exists(installation.filePath("p.png")));
     }
 
     void findsSetUpFilesAmongTheSettings()
