@@ -43,6 +43,7 @@ LegendDialog::LegendDialog(QWidget *parent)
     setObjectName("LegendDialog");
     setWindowTitle(tr("Legende"));
     auto *layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     int line = 0;

@@ -44,6 +44,7 @@ RecoveryDialog::RecoveryDialog(const QString &file, const RecoveryOffer &offer, 
     setObjectName("RecoveryDialog");
     setWindowTitle(tr("Wiederherstellung"));
     auto *layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
     auto *intro = new QLabel(
         tr("Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 "
            "Projekten, zuletzt „%5“. Sie stammt von %6.")
