@@ -9,11 +9,27 @@
 #include <mapping/view/CatalogMappingWidget.h>
 #include <mapping/view/CatalogStructureModel.h>
 #include <workbench/session/MappingDocument.h>
+#include <workbench/session/TargetHead.h>
 
 #include <QCheckBox>
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+/// Only lines differ, if anything does.
+bool sameHeads(const PrjMappingC &a, const PrjMappingC &b)
+{
+    const auto left = a.getTargets();
+    const auto right = b.getTargets();
+    return a.isValid() && b.isValid() && left.size() == right.size() &&
+           std::equal(left.begin(), left.end(), right.begin(), TargetHead::equal);
+}
+
+} // namespace
 
 EditorArea::EditorArea(QWidget *parent)
     : QWidget(parent)
@@ -69,8 +85,7 @@ void EditorArea::make()
     applyState();
     if (QTreeView *const tree = treeView()) {
         tree->setAccessibleName(tr("Katalog"));
-        connect(tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-                [this] { Q_EMIT projectSelected(currentPath()); });
+        followMapping();
         // A catalog of one tree is of no use closed.
         if (tree->model()->rowCount() == 1)
             tree->expand(tree->model()->index(0, 0));
@@ -159,11 +174,13 @@ void EditorArea::showChanges()
         return;
     if (changed.size() > 1)
         return rebuild();
-    if (changed.first() == currentPath())
+    if (changed.first() != currentPath()) {
+        if (!selectProject(changed.first()))
+            return rebuild();
+    } else if (!sameHeads(m_shown, currentMapping())) {
         reselect();
-    else if (!selectProject(changed.first()))
-        return rebuild();
-    publish();
+    }
+    publish(currentMapping());
 }
 
 void EditorArea::reselect()
@@ -181,12 +198,31 @@ void EditorArea::reselect()
         selectLine(line);
 }
 
-void EditorArea::publish()
+void EditorArea::publish(const PrjMappingC &mapping)
 {
-    const PrjMappingC mapping = m_document->mapping(currentProject());
     auto *column = m_editor->findChild<PrjMappingWidgetBase *>("tableWidget");
-    if (column && mapping.isValid())
-        Q_EMIT column->projectMappingUpdated(mapping);
+    if (!column || !mapping.isValid())
+        return;
+    Q_EMIT column->projectMappingUpdated(mapping);
+    column->onProjectMappingUpdated(mapping);
+}
+
+PrjMappingC EditorArea::currentMapping() const
+{
+    return m_document ? m_document->mapping(currentProject()) : PrjMappingC();
+}
+
+void EditorArea::followMapping()
+{
+    connect(treeView()->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        m_shown = currentMapping();
+        Q_EMIT projectSelected(currentPath());
+    });
+    const auto columns = m_editor->findChildren<PrjMappingWidgetBase *>();
+    for (const PrjMappingWidgetBase *column : columns) {
+        connect(column, &PrjMappingWidgetBase::projectMappingUpdated, this,
+                [this](const PrjMappingC &mapping) { m_shown = mapping; });
+    }
 }
 
 QList<int> EditorArea::selectedLines() const

@@ -40,9 +40,9 @@ public:
     /// Selects a project in the tree and opens the directories on the way. A filter that hides it
     /// is taken away. False if the tree does not have it.
     bool selectProject(const QString &sourcePath);
-    /// The project's mapping changed behind the editor, which shows it soon: if it is the selected
-    /// one in place, with the same line selected; another single one is selected; after changes of
-    /// several others everything is made anew.
+    /// The project's mapping changed behind the editor, which shows it soon. The selected one is
+    /// shown in place; it is only opened anew if more than its lines changed. Another single one is
+    /// selected; after changes of several everything is made anew.
     void showChange(const ProjectId &project);
 
     /// Source line ids in display order.
@@ -81,9 +81,11 @@ private:
     void applyState();
     void showChanges();
     void reselect();
-    /// Statistics, tree and conflicts take over the selected project's mapping as if the editor had
-    /// changed it.
-    void publish();
+    /// All columns, statistics and tree take over the selected project's mapping as if the editor
+    /// had changed it.
+    void publish(const PrjMappingC &mapping);
+    void followMapping();
+    [[nodiscard]] PrjMappingC currentMapping() const;
     [[nodiscard]] QModelIndex indexOf(const QString &sourcePath) const;
 
     QVBoxLayout *const m_layout;
@@ -91,5 +93,6 @@ private:
     QString m_sourceRoot;
     CatalogMappingWidget *m_editor = nullptr;
     QByteArray m_state;
+    PrjMappingC m_shown;   ///< of the selected project, as the columns have it
     QStringList m_changed; ///< source paths that showChanges() has still to show
 };

@@ -3,6 +3,7 @@
 
 #include <core/message/PMessage.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <mapping/project/TargetMappingWidget.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
@@ -409,6 +410,51 @@ private Q_SLOTS:
         fixture.action("checkRanges")->trigger();
         QCOMPARE(fixture.window->status()->note(),
                  QStringLiteral("0 Wertebereichszuordnungen geprüft: keine Beanstandung."));
+    }
+
+    void undoOfALineReadsNothingAnew()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        EditorArea *const editor = fixture.window->editor();
+        QVERIFY(editor->goTo({{din933, {}, {}}, 30}));
+        fixture.press(Qt::Key_V);
+        QTRY_VERIFY(document.canUndo());
+        QVERIFY(editor->selectLine(40));
+        const VKTab::ContentRef before = editor->sourceTable();
+        const int scroll = fixture.sourceView()->getVerticalScrollPos();
+        fixture.press(Qt::Key_Z, Qt::ControlModifier);
+        QTRY_VERIFY(statistics(fixture).endsWith(" / 0"));
+        QVERIFY(editor->sourceTable() == before);
+        QCOMPARE(editor->currentLine(), 40);
+        QCOMPARE(fixture.sourceView()->getVerticalScrollPos(), scroll);
+        QCOMPARE(
+            before.getLine(VKTab::LineId(30), false).getLineKeyValue("CatalogMapper").toString(),
+            QStringLiteral("C"));
+    }
+
+    void undoOfATargetShowsItAgain()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        EditorArea *const editor = fixture.window->editor();
+        QVERIFY(editor->selectProject("standardparts/washers/din125.prj"));
+        QVERIFY(editor->selectLine(3));
+        const auto panels = [&] {
+            return editor->findChildren<TargetMappingWidget *>().size();
+        };
+        const auto all = panels();
+        QVERIFY(all > 1);
+        PrjMappingC mapping = document.mapping(editor->currentProject());
+        mapping.removeTarget(0);
+        document.updateMapping(mapping);
+        QTRY_COMPARE(panels(), all - 1);
+        QTRY_VERIFY(document.canUndo());
+        fixture.press(Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(panels(), all);
+        QCOMPARE(editor->currentLine(), 3);
     }
 
     void undoShowsWhatItUndid()
