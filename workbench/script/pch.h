@@ -1,0 +1,4 @@
+#pragma once
+
+#include <QtCore/QtCore>
+#include <QtQml/QJSEngine>
