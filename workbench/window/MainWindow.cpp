@@ -6,6 +6,7 @@
 #include "LineCommands.h"
 #include "LogWindow.h"
 #include "PluginActions.h"
+#include "QtTexts.h"
 #include "Question.h"
 #include "StatusArea.h"
 #include "StatusProgress.h"
@@ -217,6 +218,7 @@ void MainWindow::applySettings()
     if (values.language == m_language)
         return;
     m_language = values.language;
+    QtTexts::setLanguage(m_language);
     PTranslateManager::instance().setLanguage(m_language);
     // The editor's widgets take their texts when they are made.
     m_editor->rebuild();

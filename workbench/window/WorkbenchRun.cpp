@@ -3,6 +3,7 @@
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "MainWindow.h"
+#include "QtTexts.h"
 #include "Screenshot.h"
 #include "WorkbenchSettings.h"
 
@@ -30,6 +31,7 @@ void prepareWorkbench(WorkbenchSettings &settings, const SettingsPlace &place,
     if (!QDir::searchPaths("bitmaps").contains(":/hostbitmaps"))
         QDir::addSearchPath("bitmaps", ":/hostbitmaps");
     QApplication::setWindowIcon(QIcon(":/workbench/velkworkbench_64.png"));
+    QtTexts::setLanguage(values.language);
     PTranslateManager::registerModule("velkworkbench");
     PTranslateManager::instance().setLanguage(values.language);
 }

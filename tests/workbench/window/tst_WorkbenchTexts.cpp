@@ -1,7 +1,10 @@
 #include <core/plugin/PTranslateManager.h>
 
+#include <workbench/window/QtTexts.h>
+
 #include <QCoreApplication>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -18,6 +21,19 @@ private Q_SLOTS:
                                   "--check"});
         QVERIFY(process.waitForFinished());
         QVERIFY2(process.exitCode() == 0, process.readAll().constData());
+    }
+
+    void textsOfQtComeFromItsCatalogs()
+    {
+        const QTemporaryDir directory;
+        QVERIFY(
+            QFile::copy(":/translations/velkworkbench_en.qm", directory.filePath("qtbase_en.qm")));
+        QVERIFY(!QtTexts::setLanguage("fr", directory.path()));
+        QCOMPARE(QCoreApplication::translate("MainWindow", "&Datei"), QString("&Datei"));
+        QVERIFY(QtTexts::setLanguage("en", directory.path()));
+        QCOMPARE(QCoreApplication::translate("MainWindow", "&Datei"), QString("&File"));
+        QVERIFY(!QtTexts::setLanguage("de", directory.path()));
+        QCOMPARE(QCoreApplication::translate("MainWindow", "&Datei"), QString("&Datei"));
     }
 
     void everyTextKeepsItsPlaces()
