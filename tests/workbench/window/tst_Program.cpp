@@ -169,7 +169,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("part");
         const WindowFixture fixture;
-        QTest::newRow("no file") << pictureOf("/no/such.json", "/tmp/never.png") << 2
+        QTest::newRow("no file") << pictureOf("/no/such.json", "never.png") << 2
                                  << "cannot read /no/such.json";
     }
     void saysWhatCannotBeShown()
