@@ -83,6 +83,9 @@ function(velk_library name)
   target_include_directories(${name} SYSTEM PRIVATE ${RAPIDJSON_INCLUDE_DIR})
   target_compile_definitions(${name} PRIVATE ${ARG_MACRO})
   target_link_libraries(${name} PUBLIC ${ARG_DEPENDS})
+  # A library with GNU-unique symbols stays loaded, and so does every library that it is bound to:
+  # the plug-in could then never be unloaded.
+  target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
   velk_defaults(${name} ${ARG_PCH})
 endfunction()
 
@@ -124,6 +127,8 @@ function(velk_tests label)
     get_filename_component(name "${file}" NAME_WE)
     add_executable(${name} "${file}" ${helpers})
     target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_DEPENDS})
+    # Some tests are only for what a library does when it is loaded.
+    target_link_options(${name} PRIVATE LINKER:--no-as-needed)
     target_include_directories(${name} SYSTEM PRIVATE ${RAPIDJSON_INCLUDE_DIR})
     target_compile_definitions(${name} PRIVATE
       VELK_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VELK_BINARY_DIR="${CMAKE_BINARY_DIR}")
