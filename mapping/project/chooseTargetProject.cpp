@@ -28,7 +28,7 @@ QString chooseTargetProject(QWidget *parent, const QString &sourcePath)
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return QString();
-    const QString file =
+    QString file =
         QDir(QFileInfo(root).canonicalFilePath())
             .relativeFilePath(QFileInfo(dialog.selectedFiles().constFirst()).canonicalFilePath());
     if (file.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(file)) {

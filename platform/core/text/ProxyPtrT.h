@@ -36,6 +36,7 @@ public:
         if (T *object = get())
             object->release();
     }
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the new reference is counted first
     ProxyPtrT &operator=(const ProxyPtrT &other) { return *this = other.get(); }
     ProxyPtrT &operator=(T *object)
     {
