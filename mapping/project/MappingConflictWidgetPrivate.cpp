@@ -104,8 +104,7 @@ QString MappingConflictWidgetPrivate::targetLineText(const PrjMappingTargetC &ta
 
 QString MappingConflictWidgetPrivate::describeChange(const MappingChange &change, bool local)
 {
-    const QString text =
-        isLineChange(change) ? changedLineText(change) : describeProjectChange(change);
+    QString text = isLineChange(change) ? changedLineText(change) : describeProjectChange(change);
     if (local && isLineChange(change) && isChangeConflicted(change)) {
         // A listener may replace the mapping.
         const QString message = conflictMessage(change);

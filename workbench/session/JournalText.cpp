@@ -234,10 +234,12 @@ std::optional<MappingDifference> JournalText::readChange(const PJsonValue &recor
         std::optional<MappingDifference::TargetPair> pair = readTarget(targets.at(i));
         if (!pair || (keepsTargets && (pair->after < 0 || pair->after >= count)))
             return std::nullopt;
-        if (keepsTargets)
-            result.targets[std::size_t(pair->after)] = *std::move(pair);
-        else
+        if (keepsTargets) {
+            MappingDifference::TargetPair &place = result.targets[std::size_t(pair->after)];
+            place = *std::move(pair);
+        } else {
             result.targets.push_back(*std::move(pair));
+        }
     }
     return result;
 }

@@ -2,7 +2,7 @@
 
 mzComExceptionC::mzComExceptionC(mzComResult code, const PScriptException &script)
     : m_code(code)
-    , m_script(script)
+    , m_script(script) // NOLINT(bugprone-throw-keyword-missing): a value, thrown by nobody
     , m_what(script.text().toUtf8())
 {
 }

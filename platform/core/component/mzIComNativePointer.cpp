@@ -4,8 +4,6 @@
 #include <cxxabi.h>
 #include <memory>
 
-mzIComNativePointer::~mzIComNativePointer() = default;
-
 const mzIIDS &mzIComNativePointer::iid()
 {
     static const mzIIDS id("mzIComNativePointer");

@@ -23,7 +23,7 @@ public:
     [[nodiscard]] static const mzIIDS &iid();
 
 protected:
-    ~mzIComNativePointer();
+    ~mzIComNativePointer() = default;
 };
 
 /// The class as C++ writes it, with its namespaces.

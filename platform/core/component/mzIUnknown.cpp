@@ -1,7 +1,5 @@
 #include "mzIUnknown.h"
 
-mzIUnknown::~mzIUnknown() = default;
-
 const mzIIDS &mzIUnknown::iid()
 {
     static const mzIIDS id("mzIUnknown");

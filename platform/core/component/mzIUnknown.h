@@ -31,5 +31,5 @@ public:
 
 protected:
     mzIUnknown() = default;
-    ~mzIUnknown();
+    ~mzIUnknown() = default;
 };
