@@ -27,7 +27,7 @@ std::optional<QString> valueOf(const VKTab::Line &line, const QString &name)
 
 std::optional<QString> valueOf(const QString &name, const Varset &varset, const VKTab::Line *line)
 {
-    const auto ofLine = line ? valueOf(*line, name) : std::nullopt;
+    auto ofLine = line ? valueOf(*line, name) : std::nullopt;
     if (ofLine)
         return ofLine;
     const auto known = varset.find(name);
