@@ -104,7 +104,7 @@ function(velk_program name)
 endfunction()
 
 # velk_tests(LABEL DEPENDS ...) : one test program for each tst_*.cpp of the current folder. Files
-# named other than tst_*.cpp are helpers and are compiled into each of them.
+# named other than tst_*.cpp are helpers: a static library that all of them link.
 function(velk_tests label)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
   file(GLOB tests CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/tst_*.cpp")
@@ -123,21 +123,29 @@ function(velk_tests label)
     target_include_directories(${pch_target} SYSTEM PRIVATE ${RAPIDJSON_INCLUDE_DIR})
     velk_defaults(${pch_target} ${pch})
   endif()
+  set(helper_target)
+  if(helpers)
+    set(helper_target test_helpers_${label})
+    add_library(${helper_target} STATIC ${helpers})
+    target_link_libraries(${helper_target} PRIVATE Qt6::Test ${ARG_DEPENDS})
+    target_include_directories(${helper_target} SYSTEM PRIVATE ${RAPIDJSON_INCLUDE_DIR})
+    target_include_directories(${helper_target} PRIVATE "${CMAKE_BINARY_DIR}/tests/paths")
+    velk_defaults(${helper_target})
+    if(VELK_PCH)
+      target_precompile_headers(${helper_target} REUSE_FROM ${pch_target})
+    endif()
+  endif()
   foreach(file IN LISTS tests)
     get_filename_component(name "${file}" NAME_WE)
-    add_executable(${name} "${file}" ${helpers})
-    target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_DEPENDS})
+    add_executable(${name} "${file}")
+    target_link_libraries(${name} PRIVATE ${helper_target} Qt6::Test ${ARG_DEPENDS})
     # Some tests are only for what a library does when it is loaded.
     target_link_options(${name} PRIVATE LINKER:--no-as-needed)
     target_include_directories(${name} SYSTEM PRIVATE ${RAPIDJSON_INCLUDE_DIR})
-    target_compile_definitions(${name} PRIVATE
-      VELK_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VELK_BINARY_DIR="${CMAKE_BINARY_DIR}")
+    # TestPaths.h: a define would make every test another text for the compiler cache.
+    target_include_directories(${name} PRIVATE "${CMAKE_BINARY_DIR}/tests/paths")
     velk_defaults(${name})
-    # The sources' own defines come after the shared precompiled header was made, so they may not
-    # differ from its target's; these two are the same everywhere.
     if(VELK_PCH)
-      target_compile_definitions(${pch_target} PRIVATE
-        VELK_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VELK_BINARY_DIR="${CMAKE_BINARY_DIR}")
       target_precompile_headers(${name} REUSE_FROM ${pch_target})
     endif()
     add_test(NAME ${name} COMMAND ${name})

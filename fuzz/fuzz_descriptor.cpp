@@ -1,4 +1,4 @@
-#include <geomcore/table/TableDescriptor.h>
+#include <geomcore/csv/TableDescriptor.h>
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
+#include <geomcore/binding/VarsetSource.h>
 #include <geomcore/expression/Program.h>
 #include <geomcore/expression/StatementParser.h>
-#include <geomcore/expression/VarsetSource.h>
 
 #include <cstdint>
 

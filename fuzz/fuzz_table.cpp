@@ -1,5 +1,5 @@
 #include <geomcore/table/LineIndex.h>
-#include <geomcore/table/RangeText.h>
+#include <geomcore/value/RangeText.h>
 
 #include <cstdint>
 

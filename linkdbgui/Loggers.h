@@ -2,7 +2,7 @@
 
 #include "VelkLinkDbGuiGlobal.h"
 
-#include <core/message/StaticLogger.h>
+#include <core/logging/StaticLogger.h>
 
 /// Of the document dialog.
 [[nodiscard]] VELKLINKDBGUI_EXPORT StaticLoggerRecord &plmDocumentsLogger();

@@ -1,8 +1,8 @@
 #include "SimilarityTrial.h"
 
 #include <geomcore/mapper/CellSimilarity.h>
-#include <geomcore/table/CanonicalNumber.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/value/CanonicalNumber.h>
 #include <tests/road/TruthFile.h>
 
 #include <QHash>

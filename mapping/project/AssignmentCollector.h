@@ -3,7 +3,7 @@
 #include <linkdbgui/VelkLinkDbGuiGlobal.h>
 
 #include <geomcore/expression/NodeVisitor.h>
-#include <geomcore/table/VarId.h>
+#include <geomcore/value/VarId.h>
 
 #include <QSet>
 

@@ -8,11 +8,11 @@
 
 #include <core/message/PMessage.h>
 #include <core/text/PString.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetParserC.h>
+#include <geomcore/binding/VarsetValueMappingC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/expression/VarCollector.h>
-#include <geomcore/expression/VarsetConditionC.h>
-#include <geomcore/expression/VarsetParserC.h>
-#include <geomcore/expression/VarsetValueMappingC.h>
-#include <geomcore/expression/VarsetVarMappingC.h>
 
 #include <QStandardItemModel>
 

@@ -7,7 +7,7 @@
 
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/table/Reader.h>
 
 #include <QLabel>

@@ -2,10 +2,10 @@
 
 #include <mapping/project/ProjectMappingWidget.h>
 
-#include <geomcore/table/createVarsetFromVKTable.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/table/Line.h>
-#include <geomcore/table/ResolveRangeOptionsC.h>
 #include <geomcore/table/ValueRangeIterator.h>
+#include <geomcore/value/ResolveRangeOptionsC.h>
 #include <geomcoregui/table/VkTableView.h>
 
 void TableMappingWidgetPrivate::publish(const PrjMappingC &changed)

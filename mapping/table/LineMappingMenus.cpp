@@ -2,7 +2,7 @@
 #include "TableMappingWidgetPrivate.h"
 
 #include <core/text/PString.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/table/Finder.h>
 #include <geomcore/table/Line.h>
 #include <geomcoregui/table/VkTableView.h>

@@ -3,12 +3,12 @@
 #include <core/progress/PProgress.h>
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/index/IndexTreeC.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/Line.h>
 #include <geomcore/table/LineView.h>
-#include <geomcore/table/ResolveRangeOptionsC.h>
 #include <geomcore/table/ValueRangeIterator.h>
+#include <geomcore/value/ResolveRangeOptionsC.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 
 namespace {

@@ -3,8 +3,8 @@
 #include "MappingDifference.h"
 #include "TableMappingWidgetPrivate.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/table/BaseLayer.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/LineView.h>
 
 namespace {

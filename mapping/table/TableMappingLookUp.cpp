@@ -1,7 +1,7 @@
 #include "TableMappingWidgetPrivate.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/index/IndexTreeC.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/LineView.h>
 
 namespace {

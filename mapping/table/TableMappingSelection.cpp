@@ -8,9 +8,9 @@
 #include <core/text/PString.h>
 #include <geomcore/table/FileLayer.h>
 #include <geomcore/table/Finder.h>
-#include <geomcore/table/LangThreadSettings.h>
 #include <geomcore/table/Reader.h>
 #include <geomcore/table/SignalConnect.h>
+#include <geomcore/value/LangThreadSettings.h>
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 

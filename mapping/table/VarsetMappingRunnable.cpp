@@ -5,11 +5,11 @@
 #include <core/progress/PProgress.h>
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/table/Finder.h>
-#include <geomcore/table/MidentClass.h>
 #include <geomcore/table/Reader.h>
 #include <geomcore/table/ValueRangeIterator.h>
+#include <geomcore/value/MidentClass.h>
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/progress/ThreadLocalProgressEventCollector.h>

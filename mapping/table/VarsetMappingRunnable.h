@@ -6,7 +6,7 @@
 #include <geomcore/records/PrjMappingC.h>
 #include <geomcore/table/ContentRef.h>
 #include <geomcore/table/FindValue.h>
-#include <geomcore/table/ResolveRangeOptionsC.h>
+#include <geomcore/value/ResolveRangeOptionsC.h>
 
 #include <QHash>
 #include <QMap>

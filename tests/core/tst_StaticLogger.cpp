@@ -1,5 +1,5 @@
 #include <core/config/PConfigService.h>
-#include <core/message/StaticLogger.h>
+#include <core/logging/StaticLogger.h>
 
 #include <QProcess>
 #include <QTemporaryDir>

@@ -2,9 +2,9 @@
 
 #include "TestCatalog.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/mapper/PrjMapperC.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/Line.h>
 #include <geomcore/table/LineView.h>
 

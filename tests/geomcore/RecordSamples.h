@@ -1,8 +1,8 @@
 #pragma once
 
-#include <geomcore/expression/VarsetConditionC.h>
-#include <geomcore/expression/VarsetValueMappingC.h>
-#include <geomcore/expression/VarsetVarMappingC.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetValueMappingC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/records/ReleaseMappingC.h>
 
 #include <QRandomGenerator>

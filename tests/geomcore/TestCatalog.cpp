@@ -1,8 +1,8 @@
 #include "TestCatalog.h"
 
-#include <geomcore/expression/VarsetConditionC.h>
-#include <geomcore/expression/VarsetValueMappingC.h>
-#include <geomcore/expression/VarsetVarMappingC.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetValueMappingC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/project/PrjFile.h>
 #include <geomcore/table/Reader.h>
 

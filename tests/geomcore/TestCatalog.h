@@ -1,9 +1,9 @@
 #pragma once
 
+#include <geomcore/csv/TableDescriptor.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/records/CatalogMappingC.h>
 #include <geomcore/table/Content.h>
-#include <geomcore/table/TableDescriptor.h>
 
 #include <QTemporaryDir>
 

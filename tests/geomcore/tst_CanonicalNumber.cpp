@@ -1,5 +1,5 @@
-#include <geomcore/table/CanonicalNumber.h>
-#include <geomcore/table/CellKey.h>
+#include <geomcore/value/CanonicalNumber.h>
+#include <geomcore/value/CellKey.h>
 
 #include <QRandomGenerator>
 #include <QTest>

@@ -1,11 +1,11 @@
 #include "ExpressionTesting.h"
 #include "TestTables.h"
 
-#include <geomcore/expression/BoundExpression.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
+#include <geomcore/binding/VarsetSource.h>
 #include <geomcore/expression/ExpressionFunctions.h>
 #include <geomcore/expression/StatementParser.h>
-#include <geomcore/expression/VarsetSource.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
+#include <geomcore/table/BoundExpression.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 

@@ -1,4 +1,5 @@
 #include <geomcore/table/TableData.h>
+#include <TestPaths.h>
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,10 +1,10 @@
 #include "RecordSamples.h"
 #include "TestTables.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/records/PrjMappingC.h>
 #include <geomcore/table/Content.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/LineView.h>
 
 #include <QTest>

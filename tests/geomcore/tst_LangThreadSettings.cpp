@@ -1,6 +1,6 @@
 #include "TestTables.h"
 
-#include <geomcore/table/LangThreadSettings.h>
+#include <geomcore/value/LangThreadSettings.h>
 
 #include <QTest>
 

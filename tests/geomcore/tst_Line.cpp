@@ -2,9 +2,9 @@
 #include "TestTables.h"
 
 #include <geomcore/table/BaseLayer.h>
-#include <geomcore/table/LangThreadSettings.h>
 #include <geomcore/table/LayerType.h>
 #include <geomcore/table/SignalConnect.h>
+#include <geomcore/value/LangThreadSettings.h>
 
 #include <QTest>
 

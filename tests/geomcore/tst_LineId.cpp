@@ -1,6 +1,6 @@
-#include <geomcore/table/LineId.h>
 #include <geomcore/table/LineInfo.h>
-#include <geomcore/table/VarId.h>
+#include <geomcore/value/LineId.h>
+#include <geomcore/value/VarId.h>
 
 #include <QHash>
 #include <QSet>

@@ -7,6 +7,7 @@
 
 #include <rapidjson/document.h>
 #include <rapidjson/schema.h>
+#include <TestPaths.h>
 
 namespace {
 

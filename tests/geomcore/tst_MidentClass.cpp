@@ -1,4 +1,4 @@
-#include <geomcore/table/MidentClass.h>
+#include <geomcore/value/MidentClass.h>
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 #include "MapperFixture.h"
 
-#include <geomcore/table/ResolveRangeOptionsC.h>
 #include <geomcore/table/ValueRangeIterator.h>
+#include <geomcore/value/ResolveRangeOptionsC.h>
 
 #include <QTest>
 

@@ -1,4 +1,4 @@
-#include <geomcore/table/RangeText.h>
+#include <geomcore/value/RangeText.h>
 
 #include <QRandomGenerator>
 #include <QTest>

@@ -1,5 +1,5 @@
-#include <geomcore/table/LineId.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/value/LineId.h>
 
 #include <QFile>
 #include <QRandomGenerator>

@@ -1,4 +1,5 @@
-#include <geomcore/table/TableDescriptor.h>
+#include <geomcore/csv/TableDescriptor.h>
+#include <TestPaths.h>
 
 #include <QFile>
 #include <QJsonArray>

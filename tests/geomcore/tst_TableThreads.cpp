@@ -1,8 +1,8 @@
 #include "TestTables.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/table/BaseLayer.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/FilterByLineId.h>
 #include <geomcore/table/Finder.h>
 #include <geomcore/table/LayerType.h>

@@ -1,4 +1,4 @@
-#include <geomcore/table/Value.h>
+#include <geomcore/value/Value.h>
 
 #include <QTest>
 

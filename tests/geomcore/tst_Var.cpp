@@ -1,5 +1,5 @@
 #include <geomcore/table/LayerType.h>
-#include <geomcore/table/Var.h>
+#include <geomcore/value/Var.h>
 
 #include <QTest>
 

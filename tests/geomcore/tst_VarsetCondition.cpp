@@ -1,7 +1,7 @@
 #include "ExpressionTesting.h"
 
-#include <geomcore/expression/BoundConditions.h>
-#include <geomcore/expression/VarsetConditionC.h>
+#include <geomcore/binding/BoundConditions.h>
+#include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 

@@ -1,12 +1,12 @@
 #include "TestTables.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
+#include <geomcore/binding/VarsetCreate.h>
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/table/BaseLayer.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/ErpLayer.h>
-#include <geomcore/table/LangThreadSettings.h>
 #include <geomcore/table/LayerType.h>
-#include <geomcore/table/VarsetCreate.h>
+#include <geomcore/value/LangThreadSettings.h>
 
 #include <QTest>
 

@@ -1,10 +1,10 @@
 #include "ExpressionTesting.h"
 #include "TestTables.h"
 
-#include <geomcore/expression/BoundModifiers.h>
-#include <geomcore/expression/VarsetValueMappingC.h>
-#include <geomcore/expression/VarsetVarMappingC.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
+#include <geomcore/binding/BoundModifiers.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
+#include <geomcore/binding/VarsetValueMappingC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 

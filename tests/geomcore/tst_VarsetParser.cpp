@@ -1,8 +1,8 @@
 #include "ExpressionTesting.h"
 #include "TestTables.h"
 
+#include <geomcore/binding/VarsetParserC.h>
 #include <geomcore/expression/StatementParser.h>
-#include <geomcore/expression/VarsetParserC.h>
 
 #include <core/message/PStringMessageImpl.h>
 

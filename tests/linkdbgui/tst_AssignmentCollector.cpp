@@ -1,6 +1,6 @@
 #include <mapping/project/AssignmentCollector.h>
 
-#include <geomcore/expression/VarsetParserC.h>
+#include <geomcore/binding/VarsetParserC.h>
 
 #include <QTest>
 

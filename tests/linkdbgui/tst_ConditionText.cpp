@@ -2,8 +2,8 @@
 
 #include <mapping/table/conditionText.h>
 
-#include <geomcore/expression/VarsetConditionC.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
+#include <geomcore/binding/VarsetConditionC.h>
 
 #include <QAction>
 #include <QClipboard>

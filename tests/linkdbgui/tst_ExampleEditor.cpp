@@ -6,6 +6,7 @@
 #include <geomcore/records/MappingFile.h>
 #include <geomcore/table/Reader.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <TestPaths.h>
 
 #include <QPushButton>
 #include <QRandomGenerator>

@@ -2,8 +2,8 @@
 
 #include "../geomcore/TestTables.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/LayerType.h>
 #include <geomcore/table/Line.h>
 #include <geomcoregui/table/VkTableModel.h>

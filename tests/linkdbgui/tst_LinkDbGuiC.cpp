@@ -1,7 +1,7 @@
 #include <core/component/mzComServerC.h>
 #include <core/component/mzComServerStateEventC.h>
 #include <core/component/proxyFactoryC.h>
-#include <core/message/StaticLogger.h>
+#include <core/logging/StaticLogger.h>
 #include <core/plugin/PLicence.h>
 #include <core/plugin/PPluginRegistry.h>
 #include <core/plugin/PTranslateManager.h>

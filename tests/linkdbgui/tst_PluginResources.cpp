@@ -17,6 +17,7 @@
 #include <QXmlStreamReader>
 
 #include <core/plugin/PTranslateManager.h>
+#include <TestPaths.h>
 
 #include <cmath>
 #include <memory>

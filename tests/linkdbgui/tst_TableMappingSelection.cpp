@@ -3,8 +3,8 @@
 #include <mapping/project/ProjectMappingWidget.h>
 
 #include <geomcore/table/FilterByLineId.h>
-#include <geomcore/table/LangThreadSettings.h>
 #include <geomcore/table/Line.h>
+#include <geomcore/value/LangThreadSettings.h>
 #include <geomcoregui/table/VkTableModel.h>
 
 #include <QAction>

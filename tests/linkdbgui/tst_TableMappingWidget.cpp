@@ -1,6 +1,6 @@
 #include "TableEditorFixture.h"
 
-#include <geomcore/expression/VarsetConditionC.h>
+#include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/table/FileLayer.h>
 #include <geomcore/table/FilterByLineId.h>
 #include <geomcore/table/LayerType.h>

@@ -1,12 +1,13 @@
 #include <core/component/mzComServerC.h>
 #include <core/component/proxyFactoryC.h>
-#include <core/message/StaticLogger.h>
+#include <core/logging/StaticLogger.h>
 #include <core/plugin/PLinkDbGuiI.h>
 #include <core/plugin/PPluginRegistry.h>
 #include <core/plugin/PTranslateManager.h>
 #include <core/text/PString.h>
 #include <gui/application/PApplication.h>
 #include <gui/application/PApplicationPool.h>
+#include <TestPaths.h>
 
 #include <QAction>
 #include <QApplication>

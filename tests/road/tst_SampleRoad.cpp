@@ -1,7 +1,9 @@
 #include "CsvFolder.h"
+
 #include "RoadScore.h"
 #include "SampleRoad.h"
 #include "TruthFile.h"
+#include <TestPaths.h>
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -13,8 +13,8 @@ std::shared_ptr<const VKTab::TableData> tableOf(const QByteArray &text, const QS
     return result.data;
 }
 
-velkmap::LineCells cellsOf(const QByteArray &text, velkmap::VariableNames &names,
-                           const QStringList &key)
+VelkRelease::LineCells cellsOf(const QByteArray &text, VelkRelease::VariableNames &names,
+                               const QStringList &key)
 {
     return {*tableOf(text, key), names};
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <tools/velkmap/LineCells.h>
-#include <tools/velkmap/VariableNames.h>
+#include <release/assign/LineCells.h>
+#include <release/assign/VariableNames.h>
 
 #include <QByteArray>
 #include <QStringList>
@@ -16,5 +16,5 @@ class TableData;
 /// \a key names the identifying columns.
 std::shared_ptr<const VKTab::TableData> tableOf(const QByteArray &text,
                                                 const QStringList &key = {});
-velkmap::LineCells cellsOf(const QByteArray &text, velkmap::VariableNames &names,
-                           const QStringList &key = {});
+VelkRelease::LineCells cellsOf(const QByteArray &text, VelkRelease::VariableNames &names,
+                               const QStringList &key = {});

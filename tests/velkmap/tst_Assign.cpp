@@ -1,8 +1,9 @@
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/records/MappingFile.h>
+#include <release/assign/ReleaseAssigner.h>
+#include <TestPaths.h>
 #include <tools/velkmap/Commands.h>
 #include <tools/velkmap/ExportCommand.h>
-#include <tools/velkmap/ReleaseAssigner.h>
 #include <tools/velkmap/TerminalProgress.h>
 
 #include <QFile>
@@ -11,7 +12,7 @@
 #include <QTextStream>
 
 using velkmap::ExitStatus;
-using velkmap::ReleaseAssigner;
+using VelkRelease::ReleaseAssigner;
 
 // The example catalog is real input with every case in it, one broken table included.
 class tst_Assign : public QObject

@@ -1,12 +1,12 @@
 #include <core/progress/PProgress.h>
-#include <tools/velkmap/ParallelSteps.h>
+#include <release/assign/ParallelSteps.h>
 
 #include <QTest>
 
 #include <atomic>
 #include <memory>
 
-using velkmap::runParallelSteps;
+using VelkRelease::runParallelSteps;
 
 class tst_ParallelSteps : public QObject
 {

@@ -1,15 +1,15 @@
 #include "TableText.h"
 
-#include <tools/velkmap/ProjectFinder.h>
-#include <tools/velkmap/ProjectName.h>
-#include <tools/velkmap/ReleaseIndex.h>
+#include <release/assign/ProjectFinder.h>
+#include <release/assign/ProjectName.h>
+#include <release/assign/ReleaseIndex.h>
 
 #include <QTest>
 
-using velkmap::LineCells;
-using velkmap::ProjectFinder;
-using velkmap::ReleaseIndex;
-using velkmap::VariableNames;
+using VelkRelease::LineCells;
+using VelkRelease::ProjectFinder;
+using VelkRelease::ReleaseIndex;
+using VelkRelease::VariableNames;
 
 namespace {
 
@@ -225,7 +225,7 @@ void tst_ProjectFinder::foldedNames_data()
 void tst_ProjectFinder::foldedNames()
 {
     QFETCH(QString, path);
-    QTEST(velkmap::foldedName(path), "name");
+    QTEST(VelkRelease::foldedName(path), "name");
 }
 
 void tst_ProjectFinder::likeness_data()
@@ -251,7 +251,7 @@ void tst_ProjectFinder::likeness()
 {
     QFETCH(QString, a);
     QFETCH(QString, b);
-    QTEST(velkmap::nameLikeness(a, b), "likeness");
+    QTEST(VelkRelease::nameLikeness(a, b), "likeness");
 }
 
 QTEST_GUILESS_MAIN(tst_ProjectFinder)

@@ -1,4 +1,4 @@
-#include <tools/velkmap/ReleaseDate.h>
+#include <release/assign/ReleaseDate.h>
 
 #include <QTest>
 
@@ -44,7 +44,7 @@ void tst_ReleaseDate::inUtc()
     for (const char *desk : {"UTC", "Europe/Berlin", "America/New_York"}) {
         qputenv("TZ", desk);
         tzset();
-        QTEST(velkmap::dateInUtc(text), "date");
+        QTEST(VelkRelease::dateInUtc(text), "date");
     }
     qputenv("TZ", zone);
     tzset();

@@ -2,13 +2,13 @@
 
 #include <core/progress/PProgress.h>
 #include <core/progress/PProgressObserverBase.h>
-#include <tools/velkmap/ReleaseMappingBuilder.h>
+#include <release/assign/ReleaseMappingBuilder.h>
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-using velkmap::ReleaseMappingBuilder;
+using VelkRelease::ReleaseMappingBuilder;
 using Outcome = ReleaseMappingBuilder::Outcome;
 
 namespace {

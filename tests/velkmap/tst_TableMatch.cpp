@@ -1,12 +1,12 @@
 #include "TableText.h"
 
-#include <tools/velkmap/TableMatch.h>
+#include <release/assign/TableMatch.h>
 
 #include <QTest>
 
-using velkmap::LineCells;
-using velkmap::TableMatch;
-using velkmap::VariableNames;
+using VelkRelease::LineCells;
+using VelkRelease::TableMatch;
+using VelkRelease::VariableNames;
 
 class tst_TableMatch : public QObject
 {

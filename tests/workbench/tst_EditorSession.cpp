@@ -7,6 +7,7 @@
 #include <geomcoregui/table/VkTableView.h>
 #include <mapping/project/remapProjectLines.h>
 #include <mapping/view/CatalogMappingWidget.h>
+#include <TestPaths.h>
 
 #include <QAbstractItemView>
 #include <QPushButton>

@@ -5,7 +5,7 @@
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/SessionRecovery.h>
 
-#include <geomcore/expression/VarsetConditionC.h>
+#include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/records/MappingFile.h>
 
 #include <QDir>

@@ -2,8 +2,8 @@
 
 #include <workbench/session/MappingDocument.h>
 
-#include <geomcore/expression/VarsetConditionC.h>
-#include <geomcore/expression/VarsetVarMappingC.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,9 +1,9 @@
 #include "AssignCommand.h"
 
 #include "CommandLine.h"
-#include "ReleaseAssigner.h"
 #include "ReleaseFile.h"
 #include "TerminalProgress.h"
+#include <release/assign/ReleaseAssigner.h>
 
 #include <geomcore/index/IndexTreeC.h>
 
@@ -83,7 +83,7 @@ ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream
         return *failed;
 
     IndexTreeC::instance()->setCatalogRoot(line.value("target"));
-    ReleaseAssigner assigner(line.value("source"));
+    VelkRelease::ReleaseAssigner assigner(line.value("source"));
     assigner.setProjects(line.values("project"));
     assigner.setForce(line.isSet("force"));
     assigner.setJobs(jobs);
@@ -92,11 +92,11 @@ ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream
         return line.wrongUsage("the mapping has no project " + unknown.join(", "), err);
 
     bool allRead = false;
-    ReleaseAssigner::Progress reached;
+    VelkRelease::ReleaseAssigner::Progress reached;
     {
         const InterruptGuard guard;
         TerminalProgress terminal;
-        assigner.setObserver([&](const ReleaseAssigner::Progress &progress) {
+        assigner.setObserver([&](const VelkRelease::ReleaseAssigner::Progress &progress) {
             reached = progress;
             terminal.show(progress.projects, progress.totalProjects, progress.lines);
         });

@@ -1,8 +1,8 @@
 #include "CreateCommand.h"
 
 #include "CommandLine.h"
-#include "ReleaseDate.h"
-#include "ReleaseMappingBuilder.h"
+#include <release/assign/ReleaseDate.h>
+#include <release/assign/ReleaseMappingBuilder.h>
 
 #include <geomcore/records/MappingFile.h>
 
@@ -14,7 +14,7 @@ namespace velkmap {
 
 namespace {
 
-using Builder = ReleaseMappingBuilder;
+using Builder = VelkRelease::ReleaseMappingBuilder;
 
 const char Description[] =
     "Writes a release mapping: for each project of the old release the projects of the new release "
@@ -40,7 +40,7 @@ void addOptions(CommandLine &line)
 QString wrongDate(const CommandLine &line)
 {
     for (const QString &option : {QStringLiteral("source-date"), QStringLiteral("target-date")}) {
-        if (line.isSet(option) && dateInUtc(line.value(option)).isEmpty())
+        if (line.isSet(option) && VelkRelease::dateInUtc(line.value(option)).isEmpty())
             return "--" + option + " is no ISO 8601 date: " + line.value(option);
     }
     return {};
@@ -54,8 +54,8 @@ Builder::Input inputOf(const CommandLine &line)
     const QString catalog = line.value("catalog");
     input.sourceCatalog = catalog.section('=', 0, 0);
     input.targetCatalog = catalog.contains('=') ? catalog.section('=', 1) : catalog;
-    input.sourceDate = dateInUtc(line.value("source-date"));
-    input.targetDate = dateInUtc(line.value("target-date"));
+    input.sourceDate = VelkRelease::dateInUtc(line.value("source-date"));
+    input.targetDate = VelkRelease::dateInUtc(line.value("target-date"));
     input.progressText = "Looking for target projects";
     return input;
 }

@@ -1,9 +1,9 @@
 #include "ImportCommand.h"
 
 #include "CommandLine.h"
-#include "ReleaseDate.h"
-#include "TableImport.h"
-#include "TypeRecognition.h"
+#include <release/assign/ReleaseDate.h>
+#include <release/import/TableImport.h>
+#include <release/import/TypeRecognition.h>
 
 #include <QDateTime>
 #include <QDir>
@@ -36,18 +36,18 @@ public:
     {
     }
 
-    ExitStatus run(const QString &from, const QString &into, ImportOptions options);
+    ExitStatus run(const QString &from, const QString &into, VelkRelease::ImportOptions options);
 
 private:
     QStringList findTables(const QDir &from);
     bool importTable(const QString &relative, const QString &csvFile, const QString &target);
-    void print(const QString &relative, const TableImport &table);
+    void print(const QString &relative, const VelkRelease::TableImport &table);
     void noteLeftOvers(const QDir &into, const QStringList &tables);
     void printSummary();
 
     QTextStream &m_out;
     QTextStream &m_err;
-    ImportOptions m_options;
+    VelkRelease::ImportOptions m_options;
     ExitStatus m_status = ExitStatus::Done;
     int m_new = 0;
     int m_changed = 0;
@@ -61,7 +61,8 @@ QString withoutEnding(const QString &csvFile)
     return csvFile.chopped(4);
 }
 
-ExitStatus ImportRun::run(const QString &from, const QString &into, ImportOptions options)
+ExitStatus ImportRun::run(const QString &from, const QString &into,
+                          VelkRelease::ImportOptions options)
 {
     m_options = std::move(options);
     const QStringList tables = findTables(QDir(from));
@@ -108,7 +109,7 @@ QStringList ImportRun::findTables(const QDir &from)
 
 bool ImportRun::importTable(const QString &relative, const QString &csvFile, const QString &target)
 {
-    TableImport table(csvFile, target, m_options);
+    VelkRelease::TableImport table(csvFile, target, m_options);
     const bool readable = table.prepare();
     const bool written = !readable || table.write();
     for (const TableError &error : table.errors())
@@ -122,7 +123,7 @@ bool ImportRun::importTable(const QString &relative, const QString &csvFile, con
     return written;
 }
 
-void ImportRun::print(const QString &relative, const TableImport &table)
+void ImportRun::print(const QString &relative, const VelkRelease::TableImport &table)
 {
     static const char *const states[] = {"new", "changed", "unchanged"};
     int *const counts[] = {&m_new, &m_changed, &m_unchanged};
@@ -136,7 +137,7 @@ void ImportRun::print(const QString &relative, const TableImport &table)
     QStringList columns;
     for (const TableField &field : descriptor.fields) {
         if (field.name != descriptor.lineIdField)
-            columns.append(field.name + u' ' + describeField(field));
+            columns.append(field.name + u' ' + VelkRelease::describeField(field));
     }
     m_out << "  " << columns.join(QStringLiteral(", ")) << '\n';
     for (const QString &note : table.notes())
@@ -197,10 +198,10 @@ ExitStatus runImport(const QStringList &arguments, QTextStream &out, QTextStream
     const QString into = QDir::cleanPath(line.value(QStringLiteral("into")));
     if (lieInside(into, from) || lieInside(from, into))
         return line.wrongUsage(QStringLiteral("--from and --into lie inside each other"), err);
-    ImportOptions options;
+    VelkRelease::ImportOptions options;
     options.keyColumn = line.value(QStringLiteral("key"));
     options.dateIsGiven = line.isSet(QStringLiteral("date"));
-    options.date = options.dateIsGiven ? dateInUtc(line.value(QStringLiteral("date")))
+    options.date = options.dateIsGiven ? VelkRelease::dateInUtc(line.value(QStringLiteral("date")))
                                        : QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
     if (options.date.isEmpty())
         return line.wrongUsage(

@@ -4,7 +4,6 @@
 #include "ReleaseFile.h"
 
 #include <core/json/JsonWriter.h>
-#include <mapping/data/ReleaseMappingHandler.h>
 
 #include <QTextStream>
 
@@ -19,18 +18,23 @@ using Counts = std::array<int, 5>;
 constexpr std::array<const char *, 5> names = {"lines", "notFound", "mapped", "toCheck",
                                                "verified"};
 
-Counts countsOf(const PrjMappingC &mapping)
+Counts countsOf(const LineCounts &counts)
 {
-    const LineCounts counts = mapping.lineCounts();
     return {counts.lines(), counts.notFound(), counts.mapped(), counts.toCheck(),
             counts.verified()};
 }
 
+Counts countsOf(const PrjMappingC &mapping)
+{
+    return countsOf(mapping.lineCounts());
+}
+
 Counts totalOf(const ReleaseMappingC &release)
 {
-    const ReleaseMappingHandler handler(release, QString(), QString());
-    return {handler.countLines(), handler.countNotFound(), handler.countMapped(),
-            handler.countToCheck(), handler.countVerified()};
+    LineCounts sum;
+    for (int i = 0; i < release.countMappings(); ++i)
+        sum.add(release.mappingAt(i).lineCounts());
+    return countsOf(sum);
 }
 
 void writeRow(QTextStream &out, const Counts &counts, const QString &name)

@@ -1,9 +1,9 @@
 #include "TargetHead.h"
 
 #include <core/json/PJsonValue.h>
-#include <geomcore/expression/VarsetConditionC.h>
-#include <geomcore/expression/VarsetValueMappingC.h>
-#include <geomcore/expression/VarsetVarMappingC.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetValueMappingC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/records/PrjMappingTargetC.h>
 
 #include <memory>

@@ -5,13 +5,13 @@
 #include <core/message/PMessage.h>
 #include <core/progress/PProgress.h>
 #include <gui/progress/DefaultObserverDelegate.h>
-#include <tools/velkmap/ReleaseAssigner.h>
-#include <tools/velkmap/ReleaseMappingBuilder.h>
+#include <release/assign/ReleaseAssigner.h>
+#include <release/assign/ReleaseMappingBuilder.h>
 
 #include <atomic>
 
-using velkmap::ReleaseAssigner;
-using Builder = velkmap::ReleaseMappingBuilder;
+using VelkRelease::ReleaseAssigner;
+using Builder = VelkRelease::ReleaseMappingBuilder;
 
 void MappingMaker::report(const QStringList &messages)
 {

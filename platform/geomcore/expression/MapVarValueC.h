@@ -1,7 +1,7 @@
 #pragma once
 
-#include <geomcore/table/TabVarValue.h>
-#include <geomcore/table/Value.h>
+#include <geomcore/value/TabVarValue.h>
+#include <geomcore/value/Value.h>
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <QHash>

@@ -2,7 +2,7 @@
 
 #include "NodeBase.h"
 
-#include <geomcore/table/VarId.h>
+#include <geomcore/value/VarId.h>
 
 #include <QString>
 

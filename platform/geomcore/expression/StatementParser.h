@@ -3,7 +3,7 @@
 #include "Nodes.h"
 #include "Token.h"
 
-#include <geomcore/table/VarId.h>
+#include <geomcore/value/VarId.h>
 
 #include <QList>
 

@@ -7,9 +7,9 @@
 #include "SourceTable.h"
 #include "TargetTable.h"
 
-#include <geomcore/expression/VarsetConditionC.h>
-#include <geomcore/expression/VarsetValueMappingC.h>
-#include <geomcore/expression/VarsetVarMappingC.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetValueMappingC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 

@@ -5,8 +5,8 @@
 #include "NameRank.h"
 #include "TargetValues.h"
 
-#include <geomcore/expression/BoundConditions.h>
-#include <geomcore/expression/BoundModifiers.h>
+#include <geomcore/binding/BoundConditions.h>
+#include <geomcore/binding/BoundModifiers.h>
 #include <geomcore/records/PrjMappingTargetC.h>
 
 #include <QStringList>

@@ -2,8 +2,8 @@
 
 #include "SimilarityRules.h"
 
-#include <geomcore/table/CanonicalNumber.h>
-#include <geomcore/table/CellKey.h>
+#include <geomcore/value/CanonicalNumber.h>
+#include <geomcore/value/CellKey.h>
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "DesignationPattern.h"
 
-#include <geomcore/table/TableDescriptor.h>
+#include <geomcore/csv/TableDescriptor.h>
 
 namespace Mapper {
 

@@ -2,8 +2,8 @@
 
 #include "TargetTable.h"
 
-#include <geomcore/table/CellKey.h>
-#include <geomcore/table/RangeText.h>
+#include <geomcore/value/CellKey.h>
+#include <geomcore/value/RangeText.h>
 
 #include <algorithm>
 

@@ -4,9 +4,9 @@
 #include "RangeCell.h"
 #include "TargetTable.h"
 
-#include <geomcore/table/CellKey.h>
 #include <geomcore/table/LineIndex.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/value/CellKey.h>
 
 namespace Mapper {
 

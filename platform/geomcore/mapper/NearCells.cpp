@@ -4,8 +4,8 @@
 #include "SimilarityRules.h"
 #include "TargetTable.h"
 
-#include <geomcore/table/CanonicalNumber.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/value/CanonicalNumber.h>
 
 #include <algorithm>
 #include <cmath>

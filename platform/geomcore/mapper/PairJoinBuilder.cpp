@@ -9,9 +9,9 @@
 #include <geomcore/table/Line.h>
 #include <geomcore/table/LineIndex.h>
 #include <geomcore/table/LineView.h>
-#include <geomcore/table/ResolveRangeOptionsC.h>
 #include <geomcore/table/TableData.h>
 #include <geomcore/table/ValueRangeIterator.h>
+#include <geomcore/value/ResolveRangeOptionsC.h>
 
 #include <algorithm>
 #include <array>

@@ -2,13 +2,13 @@
 
 #include "PrjMapperPrivate.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/records/CatalogMappingC.h>
-#include <geomcore/table/createVarsetFromVKTable.h>
 #include <geomcore/table/Line.h>
 #include <geomcore/table/LineView.h>
-#include <geomcore/table/ResolveRangeOptionsC.h>
 #include <geomcore/table/ValueRangeIterator.h>
+#include <geomcore/value/ResolveRangeOptionsC.h>
 
 using Mapper::LineInput;
 using PRJMAPPING::MappingState;

@@ -2,7 +2,7 @@
 
 #include "PrjLineHistoryC.h"
 
-#include <geomcore/table/LineId.h>
+#include <geomcore/value/LineId.h>
 
 /// What a mapper says about one source line, or a line put together by hand to have it checked.
 class VELKGEOMCORE_EXPORT PrjMapperLineC : public PrjLineHistoryC

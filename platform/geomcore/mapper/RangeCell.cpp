@@ -1,6 +1,6 @@
 #include "RangeCell.h"
 
-#include <geomcore/table/RangeText.h>
+#include <geomcore/value/RangeText.h>
 
 #include <algorithm>
 

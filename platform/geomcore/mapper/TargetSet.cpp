@@ -1,6 +1,6 @@
 #include "TargetSet.h"
 
-#include <geomcore/expression/VarsetConditionC.h>
+#include <geomcore/binding/VarsetConditionC.h>
 
 #include <algorithm>
 

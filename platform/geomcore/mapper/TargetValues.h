@@ -2,7 +2,7 @@
 
 #include "LineTexts.h"
 
-#include <geomcore/expression/BoundModifiers.h>
+#include <geomcore/binding/BoundModifiers.h>
 
 #include <memory>
 

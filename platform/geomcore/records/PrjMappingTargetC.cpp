@@ -1,8 +1,8 @@
 #include "PrjMappingTargetC.h"
 
+#include <geomcore/binding/VarsetConditionI.h>
+#include <geomcore/binding/VarsetModifierI.h>
 #include <geomcore/expression/MapVarValueC.h>
-#include <geomcore/expression/VarsetConditionI.h>
-#include <geomcore/expression/VarsetModifierI.h>
 #include <geomcore/table/LineView.h>
 
 #include <algorithm>

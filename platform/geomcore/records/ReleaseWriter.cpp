@@ -4,8 +4,8 @@
 
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
-#include <geomcore/expression/VarsetConditionC.h>
-#include <geomcore/expression/VarsetModifierI.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetModifierI.h>
 
 namespace {
 

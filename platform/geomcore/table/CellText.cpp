@@ -1,8 +1,8 @@
 #include "CellText.h"
 
-#include "CellKey.h"
-#include "LangThreadSettings.h"
 #include "TableData.h"
+#include <geomcore/value/CellKey.h>
+#include <geomcore/value/LangThreadSettings.h>
 
 #include <algorithm>
 

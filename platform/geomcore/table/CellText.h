@@ -1,7 +1,7 @@
 #pragma once
 
-#include "TableEnums.h"
-#include "Value.h"
+#include <geomcore/value/TableEnums.h>
+#include <geomcore/value/Value.h>
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "VarId.h"
+#include <geomcore/value/VarId.h>
 
 #include <QList>
 

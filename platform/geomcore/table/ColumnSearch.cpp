@@ -1,8 +1,8 @@
 #include "ColumnSearch.h"
 
-#include "CellKey.h"
-#include "RangeCell.h"
 #include "TableData.h"
+#include <geomcore/value/CellKey.h>
+#include <geomcore/value/RangeCell.h>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RangeText.h"
+#include <geomcore/value/RangeText.h>
 
 #include <QString>
 

@@ -3,7 +3,7 @@
 #include "LineView.h"
 #include "TableData.h"
 
-#include <geomcore/expression/BoundExpression.h>
+#include "BoundExpression.h"
 #include <geomcore/expression/ExpressionText.h>
 
 namespace VKTab {

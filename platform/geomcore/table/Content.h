@@ -5,11 +5,11 @@
 #include "ColumnMapping.h"
 #include "FilterBase.h"
 #include "Line.h"
-#include "LineId.h"
 #include "LineInfo.h"
 #include "LineMapping.h"
-#include "TableEnums.h"
-#include "Var.h"
+#include <geomcore/value/LineId.h>
+#include <geomcore/value/TableEnums.h>
+#include <geomcore/value/Var.h>
 
 #include <boost/shared_ptr.hpp>
 

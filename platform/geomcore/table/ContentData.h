@@ -3,9 +3,9 @@
 #include "Content.h"
 #include "FilterBase.h"
 #include "LayerI.h"
-#include "LineId.h"
 #include "LineOrder.h"
 #include "SignalConnect.h"
+#include <geomcore/value/LineId.h>
 
 #include <boost/shared_ptr.hpp>
 #include <boost/signals2/connection.hpp>

@@ -4,8 +4,8 @@
 #include "ColumnSearch.h"
 #include "LayerType.h"
 #include "LineView.h"
-#include "RangeText.h"
 #include "TableData.h"
+#include <geomcore/value/RangeText.h>
 
 #include <boost/make_shared.hpp>
 

@@ -5,7 +5,7 @@
 #include "LineOrder.h"
 #include "LineText.h"
 #include "ModifyLayer.h"
-#include "Var.h"
+#include <geomcore/value/Var.h>
 
 #include <boost/shared_ptr.hpp>
 

@@ -2,8 +2,8 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
-#include "LineId.h"
-#include "Value.h"
+#include <geomcore/value/LineId.h>
+#include <geomcore/value/Value.h>
 
 #include <QHash>
 #include <QList>

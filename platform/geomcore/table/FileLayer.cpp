@@ -3,10 +3,10 @@
 #include "CellText.h"
 #include "ConditionRule.h"
 #include "Content.h"
-#include "LangThreadSettings.h"
 #include "LayerType.h"
 #include "LineView.h"
 #include "TableData.h"
+#include <geomcore/value/LangThreadSettings.h>
 
 #include <boost/make_shared.hpp>
 

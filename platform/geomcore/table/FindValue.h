@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Value.h"
-#include "Var.h"
+#include <geomcore/value/Value.h>
+#include <geomcore/value/Var.h>
 
 namespace VKTab {
 

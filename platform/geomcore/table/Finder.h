@@ -4,8 +4,8 @@
 
 #include "FindResult.h"
 #include "FindValue.h"
-#include "TableEnums.h"
-#include "TabVarValue.h"
+#include <geomcore/value/TableEnums.h>
+#include <geomcore/value/TabVarValue.h>
 
 #include <QFlags>
 #include <QList>

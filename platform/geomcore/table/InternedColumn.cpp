@@ -1,7 +1,7 @@
 #include "InternedColumn.h"
 
-#include "CellHash.h"
 #include "TableDataPrivate.h"
+#include <geomcore/value/CellHash.h>
 
 namespace VKTab {
 

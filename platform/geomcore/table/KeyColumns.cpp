@@ -1,6 +1,6 @@
 #include "KeyColumns.h"
 
-#include "CellHash.h"
+#include <geomcore/value/CellHash.h>
 
 #include <algorithm>
 

@@ -4,11 +4,11 @@
 
 #include "FilterBase.h"
 #include "FilterCondition.h"
-#include "LineId.h"
 #include "LineInfo.h"
-#include "TableEnums.h"
-#include "Value.h"
-#include "Var.h"
+#include <geomcore/value/LineId.h>
+#include <geomcore/value/TableEnums.h>
+#include <geomcore/value/Value.h>
+#include <geomcore/value/Var.h>
 
 #include <boost/container/flat_map.hpp>
 #include <boost/shared_ptr.hpp>

@@ -1,8 +1,8 @@
 #include "Line.h"
 
 #include "ContentStructure.h"
-#include "RangeCell.h"
-#include "TableDescriptor.h"
+#include <geomcore/csv/TableDescriptor.h>
+#include <geomcore/value/RangeCell.h>
 
 namespace VKTab {
 

@@ -3,9 +3,9 @@
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include "LineInfo.h"
-#include "TableEnums.h"
-#include "Value.h"
-#include "Var.h"
+#include <geomcore/value/TableEnums.h>
+#include <geomcore/value/Value.h>
+#include <geomcore/value/Var.h>
 
 #include <QList>
 #include <QVariant>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CellKey.h"
 #include "TableData.h"
+#include <geomcore/value/CellKey.h>
 
 #include <memory>
 #include <span>

@@ -2,7 +2,7 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
-#include "LineId.h"
+#include <geomcore/value/LineId.h>
 
 #include <QVector>
 

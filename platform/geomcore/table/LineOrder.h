@@ -1,7 +1,7 @@
 #pragma once
 
-#include "LineId.h"
 #include "LineSet.h"
+#include <geomcore/value/LineId.h>
 
 #include <QVector>
 

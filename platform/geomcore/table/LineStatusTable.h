@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LineId.h"
+#include <geomcore/value/LineId.h>
 
 #include <QString>
 #include <QVariant>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Var.h"
+#include <geomcore/value/Var.h>
 
 #include <QList>
 #include <QString>

@@ -7,8 +7,8 @@
 #include "ContentStructure.h"
 #include "LayerType.h"
 #include "Line.h"
-#include "NumberText.h"
 #include "TableData.h"
+#include <geomcore/value/NumberText.h>
 
 namespace VKTab {
 

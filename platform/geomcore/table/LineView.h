@@ -2,9 +2,9 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
-#include "LineId.h"
-#include "Value.h"
-#include "VarId.h"
+#include <geomcore/value/LineId.h>
+#include <geomcore/value/Value.h>
+#include <geomcore/value/VarId.h>
 
 #include <boost/container/flat_map.hpp>
 

@@ -3,8 +3,8 @@
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include "Content.h"
-#include "LineId.h"
-#include "TableEnums.h"
+#include <geomcore/value/LineId.h>
+#include <geomcore/value/TableEnums.h>
 
 #include <boost/signals2/connection.hpp>
 

@@ -2,7 +2,7 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
-#include "StatusKey.h"
+#include <geomcore/value/StatusKey.h>
 
 #include <boost/shared_ptr.hpp>
 #include <core/text/PRefPtr.h>

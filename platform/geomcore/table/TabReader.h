@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TableError.h"
+#include <geomcore/csv/TableError.h>
 
 #include <boost/shared_ptr.hpp>
 

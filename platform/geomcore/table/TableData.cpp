@@ -1,10 +1,10 @@
 #include "TableData.h"
 
 #include "ComputedColumns.h"
-#include "CsvCells.h"
-#include "LineId.h"
 #include "TableDataPrivate.h"
 #include "TableDataReader.h"
+#include <geomcore/csv/CsvCells.h>
+#include <geomcore/value/LineId.h>
 
 #include <QDir>
 

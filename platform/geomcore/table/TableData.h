@@ -1,7 +1,7 @@
 #pragma once
 
 #include "InternedColumn.h"
-#include "TableDescriptor.h"
+#include <geomcore/csv/TableDescriptor.h>
 
 #include <array>
 #include <memory>

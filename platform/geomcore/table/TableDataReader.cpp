@@ -1,11 +1,11 @@
 #include "TableDataReader.h"
 
-#include "CsvCells.h"
-#include "CsvScan.h"
-#include "HeaderNames.h"
-#include "RangeText.h"
 #include "TableDataPrivate.h"
-#include "Utf8Check.h"
+#include <geomcore/csv/CsvCells.h>
+#include <geomcore/csv/CsvScan.h>
+#include <geomcore/csv/HeaderNames.h>
+#include <geomcore/csv/Utf8Check.h>
+#include <geomcore/value/RangeText.h>
 
 #include <QSet>
 

@@ -2,7 +2,7 @@
 
 #include "Content.h"
 #include "LineI.h"
-#include "RangeCell.h"
+#include <geomcore/value/RangeCell.h>
 
 #include <algorithm>
 

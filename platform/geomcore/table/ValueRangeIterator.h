@@ -2,9 +2,9 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
-#include "RangeText.h"
-#include "ResolveRangeOptionsI.h"
-#include "VarId.h"
+#include <geomcore/value/RangeText.h>
+#include <geomcore/value/ResolveRangeOptionsI.h>
+#include <geomcore/value/VarId.h>
 
 #include <QStringList>
 

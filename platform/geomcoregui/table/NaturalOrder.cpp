@@ -1,6 +1,6 @@
 #include "NaturalOrder.h"
 
-#include <geomcore/table/CanonicalNumber.h>
+#include <geomcore/value/CanonicalNumber.h>
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include "TableColumnValues.h"
 
-#include <geomcore/table/CanonicalNumber.h>
-#include <geomcore/table/RangeText.h>
+#include <geomcore/value/CanonicalNumber.h>
+#include <geomcore/value/RangeText.h>
 
 namespace {
 

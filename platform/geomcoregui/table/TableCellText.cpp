@@ -1,7 +1,7 @@
 #include "TableCellText.h"
 
-#include <geomcore/table/LangThreadSettings.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/value/LangThreadSettings.h>
 
 #include <algorithm>
 

@@ -3,9 +3,9 @@
 #include "NaturalOrder.h"
 #include "TableCellText.h"
 
-#include <geomcore/table/CanonicalNumber.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/value/CanonicalNumber.h>
 
 #include <algorithm>
 #include <unordered_map>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <geomcore/table/Content.h>
-#include <geomcore/table/StatusKey.h>
+#include <geomcore/value/StatusKey.h>
 
 #include <QList>
 

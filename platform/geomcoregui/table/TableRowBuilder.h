@@ -3,7 +3,7 @@
 #include "TableRows.h"
 
 #include <geomcore/table/Content.h>
-#include <geomcore/table/StatusKey.h>
+#include <geomcore/value/StatusKey.h>
 
 #include <QString>
 #include <Qt>

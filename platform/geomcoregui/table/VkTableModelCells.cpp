@@ -2,8 +2,8 @@
 #include "VkTableModelPrivate.h"
 
 #include <core/text/PString.h>
-#include <geomcore/table/RangeText.h>
-#include <geomcore/table/StatusValue.h>
+#include <geomcore/value/RangeText.h>
+#include <geomcore/value/StatusValue.h>
 
 #include <QFileInfo>
 #include <QTextDocumentFragment>

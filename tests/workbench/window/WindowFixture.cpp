@@ -5,6 +5,7 @@
 #include <geomcore/records/MappingFile.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/application/PApplication.h>
+#include <TestPaths.h>
 #include <workbench/start/PluginLibrary.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>

@@ -2,6 +2,7 @@
 
 #include <core/config/PConfigService.h>
 #include <core/plugin/PTranslateManager.h>
+#include <TestPaths.h>
 #include <workbench/start/SettingsPlace.h>
 #include <workbench/start/StartOptions.h>
 #include <workbench/window/WorkbenchRun.h>

@@ -1,4 +1,5 @@
 #include <core/Version.h>
+#include <TestPaths.h>
 #include <workbench/start/PluginLibrary.h>
 #include <workbench/start/SettingsPlace.h>
 #include <workbench/start/StartOptions.h>

@@ -1,5 +1,6 @@
 #include <core/plugin/PTranslateManager.h>
 
+#include <TestPaths.h>
 #include <workbench/window/QtTexts.h>
 
 #include <QCoreApplication>

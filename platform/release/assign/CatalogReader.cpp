@@ -1,0 +1,75 @@
+#include "CatalogReader.h"
+
+#include <geomcore/project/CipVersionMgmtC.h>
+#include <geomcore/project/PrjFile.h>
+#include <geomcore/table/TableData.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+
+namespace VelkRelease {
+
+namespace {
+
+QString versionOf(const QString &date)
+{
+    return CipVersionMgmtC::MakeVersionFromDate(date, QString());
+}
+
+void readTable(const QString &file, CatalogProject &project)
+{
+    const auto result = VKTab::TableData::read(file);
+    for (const VKTab::TableError &error : result.errors)
+        project.errors << error.toString();
+    project.table = result.data;
+    if (result.data)
+        project.tableVersion = versionOf(result.data->descriptor().finalDate);
+}
+
+} // namespace
+
+CatalogReader::CatalogReader(const QString &root, const QString &catalog)
+    : m_root(QDir::cleanPath(root))
+    , m_catalog(catalog)
+{
+}
+
+QString CatalogReader::directory() const
+{
+    return m_root + '/' + m_catalog;
+}
+
+bool CatalogReader::exists() const
+{
+    return QFileInfo(directory()).isDir();
+}
+
+QStringList CatalogReader::projectPaths() const
+{
+    QStringList paths;
+    QDirIterator files(directory(), {"*.prj"}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths << files.next().mid(m_root.size() + 1);
+    paths.sort();
+    return paths;
+}
+
+CatalogProject CatalogReader::read(const QString &projectPath) const
+{
+    CatalogProject project;
+    project.path = projectPath;
+    const QString file = m_root + '/' + projectPath;
+    PrjFile prj;
+    if (prj.Load(file, false) != 1) {
+        project.errors << prj.errorText();
+        return project;
+    }
+    project.date = prj.GetLexemValue("DATE");
+    project.version = versionOf(project.date);
+    if (const QString table = prj.GetLexemValue("SACHM"); !table.isEmpty())
+        readTable(QDir::cleanPath(QFileInfo(file).path() + '/' + table), project);
+    return project;
+}
+
+} // namespace VelkRelease

@@ -1,0 +1,203 @@
+#include "ProjectFinder.h"
+
+#include "LineCells.h"
+#include "ProjectName.h"
+#include "ReleaseIndex.h"
+#include "TableMatch.h"
+
+#include <algorithm>
+#include <numeric>
+#include <optional>
+#include <tuple>
+
+namespace VelkRelease {
+
+namespace {
+
+/// So many tables are compared line by line.
+constexpr int Compared = 64;
+/// So many projects of kind 3 that hold half of the lines, and of kind 4, are given.
+constexpr size_t MaxSimilar = 4;
+/// So many projects of kind 3 are given.
+constexpr size_t MaxParts = 8;
+
+struct Candidate
+{
+    int table = 0;
+    double likeness = 0;
+    TableMatch match;
+    double score = 0;
+
+    [[nodiscard]] auto rank() const { return std::tuple(-score, -likeness, table); }
+};
+using Candidates = std::vector<Candidate>;
+
+/// One search.
+class Search
+{
+public:
+    Search(const ReleaseIndex &index, const QString &projectPath, const LineCells &cells)
+        : m_index(index)
+        , m_path(projectPath)
+        , m_name(foldedName(projectPath))
+        , m_cells(cells)
+        , m_allRows(size_t(cells.rowCount()))
+    {
+        std::iota(m_allRows.begin(), m_allRows.end(), 0);
+    }
+
+    std::vector<int> run()
+    {
+        addNamed();
+        const bool named = !m_found.empty();
+        m_rest = m_allRows;
+        for (const int table : m_found)
+            takeFound(TableMatch(m_cells, m_index.table(table)));
+        if (!m_rest.empty())
+            searchRest(named);
+        return m_found;
+    }
+
+private:
+    [[nodiscard]] Candidate candidate(int table) const
+    {
+        return {table, nameLikeness(m_name, m_index.name(table)),
+                TableMatch(m_cells, m_index.table(table))};
+    }
+
+    /// Takes the lines that this table has out of the rest.
+    void takeFound(const TableMatch &match)
+    {
+        std::erase_if(m_rest, [&match](int row) {
+            return match.isEqual(row) || match.isHeld(row) || match.hasKey(row);
+        });
+    }
+
+    void add(const Candidate &found)
+    {
+        m_found.push_back(found.table);
+        takeFound(found.match);
+    }
+
+    void addNamed();
+    void searchRest(bool named);
+    [[nodiscard]] Candidates related() const;
+    void addSimilar(Candidates &candidates);
+    void addParts(Candidates &candidates);
+    void addOnlyHolders(Candidates &candidates);
+
+    const ReleaseIndex &m_index;
+    const QString m_path;
+    const QString m_name;
+    const LineCells &m_cells;
+    std::vector<int> m_allRows;
+    std::vector<int> m_rest;
+    std::vector<int> m_found;
+};
+
+void Search::addNamed()
+{
+    if (const int same = m_index.withPath(pathInCatalog(m_path)); same >= 0) {
+        m_found = {same};
+        return;
+    }
+    const std::vector<int> tables = m_index.withName(m_name);
+    Candidates candidates;
+    for (const int table : tables) {
+        candidates.push_back(candidate(table));
+        candidates.back().score = candidates.back().match.score(m_allRows);
+    }
+    std::ranges::sort(candidates, {}, &Candidate::rank);
+    for (const Candidate &named : candidates) {
+        if (m_found.empty() || named.match.anyFound())
+            m_found.push_back(named.table);
+    }
+}
+
+void Search::searchRest(bool named)
+{
+    Candidates candidates = related();
+    if (!named) {
+        addSimilar(candidates);
+        addParts(candidates);
+    }
+    addOnlyHolders(candidates);
+}
+
+/// Tables that share enough variables. If none of them has all lines, near lines count too.
+Candidates Search::related() const
+{
+    Candidates candidates;
+    bool complete = false;
+    for (const int table : m_index.holders(m_cells, m_rest, Compared)) {
+        if (std::ranges::count(m_found, table))
+            continue;
+        Candidate related = candidate(table);
+        if (!related.match.isRelated())
+            continue;
+        complete = complete || related.match.heldCount(m_rest) == int(m_rest.size());
+        candidates.push_back(std::move(related));
+    }
+    if (!complete)
+        std::ranges::for_each(candidates, [](Candidate &c) { c.match.findNearLines(); });
+    return candidates;
+}
+
+void Search::addSimilar(Candidates &candidates)
+{
+    for (Candidate &similar : candidates)
+        similar.score = similar.match.score(m_allRows);
+    std::ranges::sort(candidates, {}, &Candidate::rank);
+    std::optional<double> best;
+    for (const Candidate &similar : candidates) {
+        if (m_found.size() == MaxSimilar || similar.score < best.value_or(0) / 2)
+            break;
+        if (2 * similar.match.heldCount(m_allRows) < m_cells.rowCount())
+            continue;
+        if (!best)
+            best = similar.score;
+        add(similar);
+    }
+}
+
+void Search::addParts(Candidates &candidates)
+{
+    while (!m_rest.empty() && m_found.size() < MaxParts) {
+        for (Candidate &part : candidates)
+            part.score = part.match.heldCount(m_rest) + part.match.score(m_rest);
+        const auto best = std::ranges::min_element(candidates, {}, &Candidate::rank);
+        const int held = best != candidates.end() ? best->match.heldCount(m_rest) : 0;
+        if (held < 2 || 8 * held < m_cells.rowCount())
+            return;
+        add(*best);
+    }
+}
+
+void Search::addOnlyHolders(Candidates &candidates)
+{
+    const auto given = [this](const Candidate &c) {
+        return std::ranges::count(m_found, c.table);
+    };
+    std::erase_if(candidates, given);
+    for (Candidate &holder : candidates)
+        holder.score = 0;
+    for (const int row : m_rest) {
+        const auto holds = [row](const Candidate &c) {
+            return c.match.isEqual(row) && c.match.isHeld(row);
+        };
+        if (std::ranges::count_if(candidates, holds) == 1)
+            ++std::ranges::find_if(candidates, holds)->score;
+    }
+    std::ranges::sort(candidates, {}, &Candidate::rank);
+    for (size_t i = 0; i < candidates.size() && i < MaxSimilar && candidates[i].score > 0; ++i)
+        m_found.push_back(candidates[i].table);
+}
+
+} // namespace
+
+std::vector<int> ProjectFinder::find(const QString &projectPath, const LineCells &cells) const
+{
+    return Search(m_index, projectPath, cells).run();
+}
+
+} // namespace VelkRelease

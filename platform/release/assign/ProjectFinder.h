@@ -1,0 +1,38 @@
+#pragma once
+
+#include <release/VelkReleaseGlobal.h>
+
+#include <QString>
+
+#include <vector>
+
+namespace VelkRelease {
+
+class LineCells;
+class ReleaseIndex;
+
+/// Finds the projects of a release that can take over the lines of an old project.
+class VELKRELEASE_EXPORT ProjectFinder
+{
+public:
+    /// Keeps a reference to \a index, which is finished. One search at a time on an index.
+    explicit ProjectFinder(const ReleaseIndex &index)
+        : m_index(index)
+    {
+    }
+
+    /// Numbers of the tables in the index, best first:
+    /// 1. the project with the same path below its catalog;
+    /// 2. without one, those with the same name but for case and separators;
+    /// 3. without any of these, the projects that hold half of the lines, and those half as good
+    ///    as the best of them; then, as for a project that was split, the ones that hold most of
+    ///    the rest, as long as they hold an eighth of all lines;
+    /// 4. projects that alone in the release have lines equal to those that none of the above has.
+    ///    A line whose key one of the above has was changed, not moved, and is not looked for.
+    [[nodiscard]] std::vector<int> find(const QString &projectPath, const LineCells &cells) const;
+
+private:
+    const ReleaseIndex &m_index;
+};
+
+} // namespace VelkRelease

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <release/VelkReleaseGlobal.h>
+
+#include <geomcore/records/ReleaseMappingC.h>
+
+#include <QStringList>
+
+#include <atomic>
+#include <functional>
+
+namespace VelkRelease {
+
+/// Assigns the lines of all or some projects of a release, several projects at once. The result
+/// does not depend on the number of jobs.
+class VELKRELEASE_EXPORT ReleaseAssigner
+{
+public:
+    /// What is told after each project, on the thread that runs the assigner.
+    struct Progress
+    {
+        int projects = 0; ///< done so far
+        int totalProjects = 0;
+        qint64 lines = 0; ///< in the projects done so far
+    };
+
+    /// \a sourceRoot holds the old release's catalog directory. Target projects are looked up
+    /// below the catalog root of the index tree.
+    explicit ReleaseAssigner(const QString &sourceRoot);
+
+    /// Only the projects with these source paths; all if empty.
+    void setProjects(const QStringList &sourcePaths);
+    /// Works out anew what nobody has confirmed.
+    void setForce(bool force);
+    /// 0 means as many as there are processors.
+    void setJobs(int jobs);
+    void setObserver(std::function<void(const Progress &)> observer);
+
+    /// Works on \a release in place. When \a cancelled becomes true, the projects that were begun
+    /// are finished and the others stay as they are. False if a project's table could not be read;
+    /// such a project keeps its lines and is marked with StateTableError.
+    bool run(ReleaseMappingC &release, const std::atomic<bool> &cancelled);
+
+    /// What could not be read, one message a project, in the release's order.
+    [[nodiscard]] const QStringList &errors() const { return m_errors; }
+    /// Chosen source paths that the release does not have.
+    [[nodiscard]] QStringList unknownProjects(const ReleaseMappingC &release) const;
+
+private:
+    struct Outcome
+    {
+        PrjMappingC mapping;
+        QStringList errors;
+    };
+    [[nodiscard]] Outcome assign(const PrjMappingC &mapping, const ReleaseMappingC &dates) const;
+    [[nodiscard]] QList<int> chosenPositions(const ReleaseMappingC &release) const;
+
+    QString m_sourceRoot;
+    QStringList m_projects;
+    bool m_force = false;
+    int m_jobs = 0;
+    std::function<void(const Progress &)> m_observer;
+    QStringList m_errors;
+};
+
+} // namespace VelkRelease

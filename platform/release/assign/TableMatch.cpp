@@ -1,0 +1,161 @@
+#include "TableMatch.h"
+
+#include "LineCells.h"
+
+#include <algorithm>
+
+namespace VelkRelease {
+
+namespace {
+
+quint64 sumOver(const LineCells &cells, int row, const std::vector<int> &columns)
+{
+    quint64 sum = 0;
+    for (const int column : columns)
+        sum += cells.valueHash(row, column);
+    return sum;
+}
+
+int valuesIn(const LineCells &cells, int row, const std::vector<int> &columns)
+{
+    return int(std::ranges::count_if(columns, [&](int c) { return cells.cell(row, c) != 0; }));
+}
+
+/// The sums of all rows over these columns, sorted.
+std::vector<quint64> sortedSums(const LineCells &cells, const std::vector<int> &columns)
+{
+    std::vector<quint64> sums;
+    sums.reserve(size_t(cells.rowCount()));
+    for (int row = 0; row < cells.rowCount(); ++row)
+        sums.push_back(sumOver(cells, row, columns));
+    std::ranges::sort(sums);
+    return sums;
+}
+
+/// For each row of the source whether the target has a row that is equal on these columns.
+std::vector<bool> equalRows(const LineCells &source, const std::vector<int> &sourceColumns,
+                            const LineCells &target, const std::vector<int> &targetColumns)
+{
+    const std::vector<quint64> sums = sortedSums(target, targetColumns);
+    std::vector<bool> equal(size_t(source.rowCount()), false);
+    for (int row = 0; row < source.rowCount(); ++row) {
+        const quint64 sum = sumOver(source, row, sourceColumns);
+        equal[size_t(row)] = sum != 0 && std::ranges::binary_search(sums, sum);
+    }
+    return equal;
+}
+
+/// A sum over all columns without one of them; \a position tells sums without different ones apart.
+quint64 sumWithout(quint64 sum, quint64 left, size_t position)
+{
+    return (sum - left) ^ (quint64(position + 1) * Q_UINT64_C(0x9e3779b97f4a7c15));
+}
+
+double ratio(double a, double b)
+{
+    return b > 0 ? a / b : 0;
+}
+
+} // namespace
+
+TableMatch::TableMatch(const LineCells &source, const LineCells &target)
+    : m_source(&source)
+    , m_target(&target)
+{
+    const auto &mine = source.variables();
+    const auto &theirs = target.variables();
+    for (size_t i = 0, j = 0; i < mine.size() && j < theirs.size();) {
+        if (mine[i] == theirs[j]) {
+            m_sourceColumns.push_back(int(i++));
+            m_targetColumns.push_back(int(j++));
+        } else {
+            ++(mine[i] < theirs[j] ? i : j);
+        }
+    }
+    findEqualLines();
+    findKeys();
+}
+
+void TableMatch::findEqualLines()
+{
+    m_equal = equalRows(*m_source, m_sourceColumns, *m_target, m_targetColumns);
+    m_equalValues.assign(size_t(m_source->rowCount()), 0);
+    for (int row = 0; row < m_source->rowCount(); ++row) {
+        if (isEqual(row))
+            m_equalValues[size_t(row)] = valuesIn(*m_source, row, m_sourceColumns);
+    }
+}
+
+void TableMatch::findKeys()
+{
+    std::vector<int> theirs;
+    for (const int column : m_source->keyColumns()) {
+        const auto found = std::ranges::find(m_sourceColumns, column);
+        if (found == m_sourceColumns.end())
+            return;
+        theirs.push_back(m_targetColumns[size_t(found - m_sourceColumns.begin())]);
+    }
+    if (!theirs.empty())
+        m_keyFound = equalRows(*m_source, m_source->keyColumns(), *m_target, theirs);
+}
+
+void TableMatch::findNearLines()
+{
+    const size_t count = m_sourceColumns.size();
+    if (count < 3)
+        return;
+    std::vector<quint64> sums;
+    sums.reserve(size_t(m_target->rowCount()) * count);
+    for (int row = 0; row < m_target->rowCount(); ++row) {
+        const quint64 sum = sumOver(*m_target, row, m_targetColumns);
+        for (size_t i = 0; i < count; ++i)
+            sums.push_back(sumWithout(sum, m_target->valueHash(row, m_targetColumns[i]), i));
+    }
+    std::ranges::sort(sums);
+    for (int row = 0; row < m_source->rowCount(); ++row) {
+        if (isEqual(row))
+            continue;
+        const quint64 sum = sumOver(*m_source, row, m_sourceColumns);
+        const int values = valuesIn(*m_source, row, m_sourceColumns);
+        int &most = m_equalValues[size_t(row)];
+        for (size_t i = 0; i < count && most < values; ++i) {
+            const quint64 left = m_source->valueHash(row, m_sourceColumns[i]);
+            if (std::ranges::binary_search(sums, sumWithout(sum, left, i)))
+                most = std::max(most, values - (left != 0));
+        }
+    }
+}
+
+bool TableMatch::isRelated() const
+{
+    return commonCount() >= 2 && 2 * commonCount() >= int(m_source->variables().size());
+}
+
+double TableMatch::heldShare(int sourceRow) const
+{
+    const int equal = m_equalValues[size_t(sourceRow)];
+    const int all = m_source->valueCount(sourceRow);
+    return equal >= 2 && 3 * equal >= 2 * all ? ratio(equal, all) : 0;
+}
+
+int TableMatch::heldCount(const std::vector<int> &sourceRows) const
+{
+    return int(std::ranges::count_if(sourceRows, [this](int row) { return isHeld(row); }));
+}
+
+double TableMatch::score(const std::vector<int> &sourceRows) const
+{
+    double shares = 0;
+    for (const int row : sourceRows)
+        shares += heldShare(row);
+    const auto [fewer, more] = std::minmax({m_source->rowCount(), m_target->rowCount()});
+    return ratio(shares, double(sourceRows.size())) *
+           ratio(commonCount(), double(m_target->variables().size())) * ratio(fewer, more);
+}
+
+bool TableMatch::anyFound() const
+{
+    return std::ranges::count(m_equal, true) > 0 || std::ranges::count(m_keyFound, true) > 0;
+}
+
+} // namespace VelkRelease

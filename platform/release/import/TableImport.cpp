@@ -1,0 +1,307 @@
+#include "TableImport.h"
+
+#include "FileGroup.h"
+#include "LineNumbers.h"
+#include "TypeRecognition.h"
+
+#include <core/config/PIniFile.h>
+#include <geomcore/csv/CsvCells.h>
+#include <geomcore/csv/HeaderNames.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace VKTab;
+
+namespace VelkRelease {
+
+namespace {
+
+const QString LineIdName = QStringLiteral("LineId");
+const QString ProjectSection = QStringLiteral("PROJECT");
+
+QByteArray contentOf(const QString &file)
+{
+    QFile in(file);
+    return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+QString quotedList(const QStringList &names)
+{
+    return u'"' + names.join(QStringLiteral("\", \"")) + u'"';
+}
+
+} // namespace
+
+TableImport::TableImport(QString csvFile, QString target, ImportOptions options)
+    : m_csvFile(std::move(csvFile))
+    , m_target(std::move(target))
+    , m_options(std::move(options))
+{
+}
+
+bool TableImport::prepare()
+{
+    if (!readSource() || !readFormer())
+        return false;
+    describe();
+    addLineIds();
+    makeCsv();
+    compareWithFormer();
+    makeProject();
+    return checkResult();
+}
+
+bool TableImport::readSource()
+{
+    TableDescriptor plain;
+    plain.missingValues = QStringList{QString(), QStringLiteral("None")};
+    const TableReadResult read = TableData::read(plain, m_csvFile, HeaderRule::Repair);
+    m_errors += read.errors;
+    m_source = read.data;
+    if (m_source)
+        noteNames();
+    return m_source != nullptr;
+}
+
+bool TableImport::readFormer()
+{
+    const QString file = m_target + QStringLiteral(".json");
+    if (!QFileInfo::exists(file))
+        return true;
+    const TableReadResult read = TableData::read(file);
+    m_formerDescriptor = TableDescriptor::read(file, m_errors);
+    m_errors = read.errors;
+    m_former = read.data;
+    if (!m_former)
+        error(file,
+              QStringLiteral("the table as it was imported before cannot be read, so its line "
+                             "ids cannot be kept; correct it, or remove it to start anew"));
+    return m_former != nullptr;
+}
+
+void TableImport::describe()
+{
+    const QString name = QFileInfo(m_target).fileName();
+    if (m_formerDescriptor) {
+        m_descriptor = *m_formerDescriptor;
+    } else {
+        m_descriptor.name = m_descriptor.title = m_descriptor.normNumber = name;
+        m_descriptor.missingValues = m_source->descriptor().missingValues;
+    }
+    takeFields();
+    takeKey();
+}
+
+void TableImport::takeFields()
+{
+    const TypeRecognition recognition(*m_source);
+    QList<TableField> fields;
+    for (int column = 0; column < m_source->columnCount(); ++column) {
+        const TableField found = recognition.field(column);
+        const int known = m_descriptor.indexOf(found.name);
+        fields.append(known < 0 ? found : m_descriptor.fields.at(known));
+        if (known >= 0)
+            checkField(fields.last(), found);
+        else if (m_former)
+            m_notes.append(QStringLiteral("new column \"%1\"").arg(found.name));
+    }
+    for (const TableField &field : std::as_const(m_descriptor.fields)) {
+        if (m_source->columnOf(field.name) >= 0)
+            continue;
+        if (field.kind == FieldKind::Computed || field.name == m_descriptor.lineIdField)
+            fields.append(field);
+        else
+            m_notes.append(QStringLiteral("the column \"%1\" is gone").arg(field.name));
+    }
+    m_descriptor.fields = fields;
+}
+
+void TableImport::checkField(const TableField &field, const TableField &found)
+{
+    const bool fits = field.kind != FieldKind::Range && found.kind != FieldKind::Range &&
+                      (!field.isNumeric() || found.isNumeric());
+    if (fits || (field.kind == found.kind && field.isNumeric() <= found.isNumeric()))
+        return;
+    m_notes.append(
+        QStringLiteral("the column \"%1\" is %2 by the descriptor, but its cells look like "
+                       "%3")
+            .arg(field.name, describeField(field), describeField(found)));
+}
+
+void TableImport::takeKey()
+{
+    if (m_source->columnOf(m_options.keyColumn) >= 0) {
+        m_descriptor.primaryKey = QStringList{m_options.keyColumn};
+    } else if (!m_options.keyColumn.isEmpty()) {
+        m_notes.append(QStringLiteral("there is no column \"%1\"").arg(m_options.keyColumn));
+    }
+    QStringList &key = m_descriptor.primaryKey;
+    const bool gone = std::any_of(key.cbegin(), key.cend(), [this](const QString &name) {
+        return m_source->columnOf(name) < 0;
+    });
+    const TypeRecognition recognition(*m_source);
+    if (gone || (key.isEmpty() && !m_former)) {
+        const int column = recognition.keyColumn();
+        key.clear();
+        if (column >= 0)
+            key.append(m_source->descriptor().fields.at(column).name);
+    }
+    const bool named = m_descriptor.lineDesignation.isEmpty() ||
+                       (gone && m_descriptor.indexOf(m_descriptor.lineDesignation) < 0 &&
+                        !m_descriptor.lineDesignation.contains(u'{'));
+    if (named && (gone || !m_former))
+        m_descriptor.lineDesignation = key.value(0);
+    if (key.size() != 1)
+        return;
+    if (const int repeated = recognition.repeatedCells(m_source->columnOf(key.first())))
+        m_notes.append(QStringLiteral("the key \"%1\" is missing or repeated in %2 of %3 lines")
+                           .arg(key.first())
+                           .arg(repeated)
+                           .arg(m_source->rowCount()));
+}
+
+QStringList TableImport::idKey() const
+{
+    QStringList common;
+    for (const TableField &field : m_source->descriptor().fields) {
+        if (m_former && m_former->columnOf(field.name) >= 0)
+            common.append(field.name);
+    }
+    const QStringList &key = m_descriptor.primaryKey;
+    const bool known = std::all_of(key.cbegin(), key.cend(), [this](const QString &name) {
+        return !m_former || m_former->columnOf(name) >= 0;
+    });
+    return key.isEmpty() || !known ? common : key;
+}
+
+void TableImport::addLineIds()
+{
+    QString &field = m_descriptor.lineIdField;
+    if (m_source->columnOf(field) >= 0)
+        return; // the input brings its own
+    if (m_source->columnOf(m_descriptor.lineSubIdField) < 0)
+        m_descriptor.lineSubIdField.clear();
+    if (m_descriptor.primaryKey.isEmpty() && field.isEmpty()) {
+        m_notes.append(QStringLiteral("no key column was found; a line's id is its row"));
+        return;
+    }
+    LineNumbers numbers(m_descriptor, idKey());
+    if (m_former)
+        numbers.setFormer(*m_former);
+    m_addsIds = true;
+    m_lineNumbers = numbers.numbersFor(*m_source);
+    m_descriptor.nextLineId = numbers.next();
+    if (!field.isEmpty())
+        return;
+    field = uniqueColumnNames(uniqueColumnNames(m_source->header()) << LineIdName).last();
+    m_descriptor.fields.append(TableField{
+        .name = field, .type = FieldType::Integer, .kind = FieldKind::Internal, .hidden = true});
+}
+
+void TableImport::makeCsv()
+{
+    const std::string_view source = m_source->bytes();
+    const size_t lineFeed = source.find('\n');
+    const bool crlf =
+        lineFeed != std::string_view::npos && lineFeed > 0 && source[lineFeed - 1] == '\r';
+    const QByteArray lineEnd = crlf ? "\r\n" : "\n";
+    std::string header;
+    QStringList names = uniqueColumnNames(m_source->header());
+    if (m_addsIds)
+        names.append(m_descriptor.lineIdField);
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        header += i == 0 ? "" : ",";
+        appendCell(header, names.at(i).toStdString());
+    }
+    m_csv.reserve(qsizetype(source.size() + header.size() + m_lineNumbers.size() * 12));
+    m_csv.append(header.data(), qsizetype(header.size())).append(lineEnd);
+    for (int row = 0; row < m_source->rowCount(); ++row) {
+        const std::string_view cells = m_source->rawRow(row);
+        m_csv.append(cells.data(), qsizetype(cells.size()));
+        if (m_addsIds)
+            m_csv.append(',').append(QByteArray::number(m_lineNumbers[size_t(row)]));
+        m_csv.append(lineEnd);
+    }
+}
+
+void TableImport::compareWithFormer()
+{
+    if (m_former) {
+        const bool sameHead = m_descriptor == *m_formerDescriptor;
+        const bool sameLines = m_csv == contentOf(m_former->fileName());
+        m_state = sameHead && sameLines ? State::Unchanged : State::Changed;
+    }
+    if (m_state != State::Unchanged || m_options.dateIsGiven || m_descriptor.finalDate.isEmpty())
+        m_descriptor.finalDate = m_options.date;
+}
+
+void TableImport::makeProject()
+{
+    const QString name = QFileInfo(m_target).fileName();
+    PIniFile project;
+    const QByteArray former = contentOf(m_target + QStringLiteral(".prj"));
+    project.parse(former);
+    if (!project.contains(ProjectSection, QStringLiteral("NAME")))
+        project.setValue(ProjectSection, QStringLiteral("NAME"), name);
+    project.setValue(ProjectSection, QStringLiteral("DATE"), m_descriptor.finalDate);
+    if (!project.contains(ProjectSection, QStringLiteral("SACHM")))
+        project.setValue(ProjectSection, QStringLiteral("SACHM"), name + QStringLiteral(".json"));
+    m_project = project.toByteArray();
+}
+
+bool TableImport::write()
+{
+    FileGroup files;
+    files.add(m_descriptor.csvFile(m_target + QStringLiteral(".json")), m_csv);
+    files.add(m_target + QStringLiteral(".json"), m_descriptor.toJson());
+    files.add(m_target + QStringLiteral(".prj"), m_project);
+    if (files.commit())
+        return true;
+    m_errors.append(files.error());
+    return false;
+}
+
+void TableImport::noteNames()
+{
+    const QStringList &header = m_source->header();
+    const QStringList names = uniqueColumnNames(header);
+    QHash<QString, QStringList> byFoldedName;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        byFoldedName[names.at(i).toCaseFolded()].append(names.at(i));
+        if (header.at(i).isEmpty())
+            m_notes.append(QStringLiteral("column %1 has no name and is called \"%2\"")
+                               .arg(i + 1)
+                               .arg(names.at(i)));
+        else if (header.at(i) != names.at(i))
+            m_notes.append(
+                QStringLiteral("column %1 is named \"%2\" once more and is called \"%3\"")
+                    .arg(i + 1)
+                    .arg(header.at(i), names.at(i)));
+    }
+    for (const QString &name : names) {
+        const QStringList alike = byFoldedName.take(name.toCaseFolded());
+        if (alike.size() > 1)
+            m_notes.append(QStringLiteral("%1 differ in case alone").arg(quotedList(alike)));
+    }
+}
+
+bool TableImport::checkResult()
+{
+    const TableReadResult result = TableData::fromMemory(m_descriptor, m_csv, m_csvFile);
+    m_errors += result.errors;
+    if (result) {
+        for (const TableError &warning : result.data->warnings())
+            m_notes.append(warning.toString());
+    }
+    return m_errors.isEmpty();
+}
+
+void TableImport::error(const QString &file, const QString &text)
+{
+    m_errors.append({file, 0, 0, text});
+}
+
+} // namespace VelkRelease
