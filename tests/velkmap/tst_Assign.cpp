@@ -1,3 +1,4 @@
+#include <core/parallel/WorkerPool.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/records/MappingFile.h>
 #include <release/assign/ReleaseAssigner.h>
@@ -156,7 +157,8 @@ private Q_SLOTS:
         ReleaseMappingC result = release();
         std::atomic<bool> cancelled{false};
         ReleaseAssigner assigner(m_source);
-        assigner.setJobs(1);
+        WorkerPool::instance().setThreads(1);
+        const auto all = qScopeGuard([] { WorkerPool::instance().setThreads(0); });
         int told = 0;
         assigner.setObserver([&](const ReleaseAssigner::Progress &progress) {
             QCOMPARE(progress.totalProjects, result.countMappings());

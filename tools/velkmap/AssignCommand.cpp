@@ -5,6 +5,7 @@
 #include "TerminalProgress.h"
 #include <release/assign/ReleaseAssigner.h>
 
+#include <core/parallel/WorkerPool.h>
 #include <geomcore/index/IndexTreeC.h>
 
 #include <QFileInfo>
@@ -53,7 +54,7 @@ void addOptions(CommandLine &line)
     line.addRequired("target", "ROOT", "Directory that holds the new release's catalog.");
     line.addOptional("project", "PATH", "Source path of a project to assign; may be repeated.");
     line.addFlag("force", "Works out anew what nobody has confirmed.");
-    line.addOptional("jobs", "N", "Projects worked on at once; by default one per processor.", "0");
+    line.addOptional("jobs", "N", "Threads that work at once; by default one per processor.", "0");
 }
 
 bool isDirectory(const QString &path, QTextStream &err)
@@ -86,7 +87,7 @@ ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream
     VelkRelease::ReleaseAssigner assigner(line.value("source"));
     assigner.setProjects(line.values("project"));
     assigner.setForce(line.isSet("force"));
-    assigner.setJobs(jobs);
+    WorkerPool::instance().setThreads(jobs);
     ReleaseMappingC release = file.release();
     if (const QStringList unknown = assigner.unknownProjects(release); !unknown.isEmpty())
         return line.wrongUsage("the mapping has no project " + unknown.join(", "), err);

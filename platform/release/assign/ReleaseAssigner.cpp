@@ -3,6 +3,7 @@
 #include "assignProjectLines.h"
 
 #include <core/message/PStringMessageImpl.h>
+#include <core/parallel/WorkerPool.h>
 #include <core/text/PPathName.h>
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/project/PrjClass.h>
@@ -77,11 +78,6 @@ void ReleaseAssigner::setForce(bool force)
     m_force = force;
 }
 
-void ReleaseAssigner::setJobs(int jobs)
-{
-    m_jobs = jobs;
-}
-
 void ReleaseAssigner::setObserver(std::function<void(const Progress &)> observer)
 {
     m_observer = std::move(observer);
@@ -141,38 +137,34 @@ bool ReleaseAssigner::run(ReleaseMappingC &release, const std::atomic<bool> &can
     dates.setSourceDate(release.getSourceDate());
     dates.setTargetDate(release.getTargetDate());
 
-    // Workers take the next project each; this thread only tells how far they have come.
+    // The pool takes the projects; this thread only tells how far it has come.
     std::vector<Outcome> outcomes(mappings.size());
     std::vector<char> done(mappings.size(), 0);
-    std::atomic<int> next{0};
     std::mutex mutex;
     std::condition_variable changed;
     Progress progress{0, total, 0};
-    int working = 0;
-    const auto work = [&] {
-        for (int i = next++; i < total && !cancelled.load(); i = next++) {
-            Outcome outcome = assign(mappings[std::size_t(i)], dates);
-            const std::lock_guard lock(mutex);
-            progress.projects += 1;
-            progress.lines += outcome.mapping.lineCounts().lines();
-            outcomes[std::size_t(i)] = std::move(outcome);
-            done[std::size_t(i)] = 1;
-            changed.notify_one();
-        }
+    bool working = true;
+    const auto work = [&](int i) {
+        if (cancelled.load())
+            return;
+        Outcome outcome = assign(mappings[std::size_t(i)], dates);
         const std::lock_guard lock(mutex);
-        --working;
+        progress.projects += 1;
+        progress.lines += outcome.mapping.lineCounts().lines();
+        outcomes[std::size_t(i)] = std::move(outcome);
+        done[std::size_t(i)] = 1;
         changed.notify_one();
     };
-    const int jobs = std::clamp(m_jobs > 0 ? m_jobs : int(std::thread::hardware_concurrency()), 1,
-                                std::max(total, 1));
-    working = jobs;
-    std::vector<std::thread> threads;
-    for (int i = 0; i < jobs; ++i)
-        threads.emplace_back(work);
+    std::thread worker([&] {
+        WorkerPool::instance().run(total, work);
+        const std::lock_guard lock(mutex);
+        working = false;
+        changed.notify_one();
+    });
     {
         std::unique_lock lock(mutex);
-        for (int told = 0; working > 0 || told < progress.projects;) {
-            changed.wait(lock, [&] { return working == 0 || told < progress.projects; });
+        for (int told = 0; working || told < progress.projects;) {
+            changed.wait(lock, [&] { return !working || told < progress.projects; });
             told = progress.projects;
             const Progress copy = progress;
             lock.unlock();
@@ -181,8 +173,7 @@ bool ReleaseAssigner::run(ReleaseMappingC &release, const std::atomic<bool> &can
             lock.lock();
         }
     }
-    for (std::thread &thread : threads)
-        thread.join();
+    worker.join();
 
     m_errors.clear();
     bool allRead = true;

@@ -32,11 +32,9 @@ public:
     void setProjects(const QStringList &sourcePaths);
     /// Works out anew what nobody has confirmed.
     void setForce(bool force);
-    /// 0 means as many as there are processors.
-    void setJobs(int jobs);
     void setObserver(std::function<void(const Progress &)> observer);
 
-    /// Works on \a release in place. When \a cancelled becomes true, the projects that were begun
+    /// Works on \a release in place, with the threads of WorkerPool. When \a cancelled becomes true, the projects that were begun
     /// are finished and the others stay as they are. False if a project's table could not be read;
     /// such a project keeps its lines and is marked with StateTableError.
     bool run(ReleaseMappingC &release, const std::atomic<bool> &cancelled);
@@ -58,7 +56,6 @@ private:
     QString m_sourceRoot;
     QStringList m_projects;
     bool m_force = false;
-    int m_jobs = 0;
     std::function<void(const Progress &)> m_observer;
     QStringList m_errors;
 };
