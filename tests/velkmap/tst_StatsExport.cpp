@@ -1,3 +1,5 @@
+#include "../workbench/SizeLimit.h"
+
 #include <geomcore/records/MappingFile.h>
 #include <tools/velkmap/Commands.h>
 #include <tools/velkmap/ExportCommand.h>
@@ -8,6 +10,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
+
+#include <sys/stat.h>
 
 using velkmap::ExitStatus;
 
@@ -114,6 +118,33 @@ private Q_SLOTS:
         QCOMPARE(run({"export", "--mapping", mapping, "--csv", m_dir.filePath("no/dir/out.csv")}),
                  ExitStatus::ResultUnwritable);
         QVERIFY2(m_err.contains("no/dir/out.csv"), qPrintable(m_err));
+    }
+
+    void exportOnAFullDisk()
+    {
+        const QString mapping = writeMapping("full.json");
+        const QString csv = m_dir.filePath("full.csv");
+        {
+            const SizeLimit limit(100);
+            QCOMPARE(run({"export", "--mapping", mapping, "--csv", csv}),
+                     ExitStatus::ResultUnwritable);
+        }
+        QVERIFY2(m_err.contains(csv), qPrintable(m_err));
+        QVERIFY(!QFile::exists(csv));
+    }
+
+    void exportIntoAPipe()
+    {
+        const QString mapping = writeMapping("pipe.json");
+        const QString csv = m_dir.filePath("pipe.csv");
+        QCOMPARE(mkfifo(QFile::encodeName(csv).constData(), 0600), 0);
+        QCOMPARE(run({"export", "--mapping", mapping, "--csv", csv}), ExitStatus::ResultUnwritable);
+        QVERIFY2(m_err.contains("It is no regular file."), qPrintable(m_err));
+        struct stat state
+        {
+        };
+        QCOMPARE(stat(QFile::encodeName(csv).constData(), &state), 0);
+        QVERIFY(S_ISFIFO(state.st_mode));
     }
 
     void statsCountAsTheHandlerDoes()

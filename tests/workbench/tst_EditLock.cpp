@@ -1,8 +1,8 @@
 #include "AsNobody.h"
 #include "SessionFixture.h"
 
+#include <core/files/EditLock.h>
 #include <workbench/session/CatalogRootMemory.h>
-#include <workbench/session/EditLock.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -78,7 +78,7 @@ void tst_EditLock::ofAnotherComputer()
     QCOMPARE(lock.owner().host, QStringLiteral("ws12"));
     QCOMPARE(lock.owner().program, QStringLiteral("velkworkbench"));
     QCOMPARE(lock.owner().process, 4711);
-    QCOMPARE(lock.owner().text(), QStringLiteral("Änne an ws12 (Prozess 4711)"));
+    QCOMPARE(ownerText(lock.owner()), QStringLiteral("Änne an ws12 (Prozess 4711)"));
     QVERIFY(EditLock::remove(file));
     QCOMPARE(lock.take(file), EditLock::Taken);
 }
@@ -138,7 +138,7 @@ void tst_EditLock::ownersText()
     owner.user = user;
     owner.host = host;
     owner.process = process;
-    QCOMPARE(owner.text(), text);
+    QCOMPARE(ownerText(owner), text);
 }
 
 void tst_EditLock::rootsAreRemembered()

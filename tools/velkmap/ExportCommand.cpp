@@ -3,7 +3,8 @@
 #include "CommandLine.h"
 #include "ReleaseFile.h"
 
-#include <QSaveFile>
+#include <core/files/DurableFile.h>
+
 #include <QTextStream>
 
 #include <algorithm>
@@ -61,10 +62,10 @@ void appendMapping(QByteArray &out, const PrjMappingC &mapping)
 
 ExitStatus save(const QString &path, const QByteArray &rows, QTextStream &err)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(rows) == rows.size() && file.commit())
+    QString cause;
+    if (DurableFile::write(path, rows, &cause))
         return ExitStatus::Done;
-    err << "velkmap export: " << path << " could not be written: " << file.errorString() << '\n';
+    err << "velkmap export: " << path << " could not be written: " << cause << '\n';
     return ExitStatus::ResultUnwritable;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DurableFile.h"
 #include "SaveOutcome.h"
 
+#include <core/files/DurableFile.h>
 #include <geomcore/records/ReleaseMappingC.h>
 
 #include <QByteArray>

@@ -1,8 +1,8 @@
 #include "JournalFile.h"
 
-#include "DurableFile.h"
 #include "JournalText.h"
 
+#include <core/files/DurableFile.h>
 #include <core/json/PJsonValue.h>
 
 namespace {

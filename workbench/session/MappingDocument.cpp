@@ -1,10 +1,10 @@
 #include "MappingDocument.h"
 
-#include "EditLock.h"
 #include "JournalingHandler.h"
 #include "MappingDocumentPrivate.h"
 #include "SessionRecovery.h"
 
+#include <core/files/EditLock.h>
 #include <core/text/PPathName.h>
 #include <geomcore/records/MappingFile.h>
 
@@ -81,7 +81,7 @@ QString MappingDocument::readOnlyText() const
         return tr("%1 ist nur zum Lesen geöffnet.").arg(d->file);
     case ReadOnlyReason::HeldByOther:
         return tr("%1 wird gerade von %2 bearbeitet und ist deshalb nur zum Lesen geöffnet.")
-            .arg(d->file, d->otherOwner.text());
+            .arg(d->file, ownerText(d->otherOwner));
     case ReadOnlyReason::NotWritable:
         return tr("Der Ordner von %1 ist nicht beschreibbar. Die Datei ist deshalb nur zum Lesen "
                   "geöffnet; unter einem anderen Namen gespeichert lässt sie sich bearbeiten.")

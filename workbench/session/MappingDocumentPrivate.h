@@ -1,13 +1,13 @@
 #pragma once
 
 #include "CatalogRootMemory.h"
-#include "DurableFile.h"
-#include "EditLock.h"
 #include "JournalFile.h"
 #include "MappingDifference.h"
 #include "MappingDocument.h"
 #include "UndoHistory.h"
 
+#include <core/files/DurableFile.h>
+#include <core/files/EditLock.h>
 #include <core/text/PPrivateData.h>
 #include <mapping/data/CatalogMappingHandlerI.h>
 

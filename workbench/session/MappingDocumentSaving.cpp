@@ -35,7 +35,7 @@ QString MappingDocumentPrivate::lockText(const EditLock &lock, EditLock::Result 
     return result == EditLock::HeldByOther
                ? MappingDocument::tr("%1 wird gerade von %2 bearbeitet. Es wurde nichts "
                                      "geschrieben. Bitte einen anderen Namen wählen.")
-                     .arg(path, lock.owner().text())
+                     .arg(path, ownerText(lock.owner()))
                : MappingDocument::tr("Im Ordner von %1 kann nichts angelegt werden. Es wurde "
                                      "nichts geschrieben. Bitte einen anderen Ordner wählen.")
                      .arg(path);

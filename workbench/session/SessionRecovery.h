@@ -1,9 +1,9 @@
 #pragma once
 
-#include "DurableFile.h"
 #include "JournalReader.h"
 #include "RecoveryOffer.h"
 
+#include <core/files/DurableFile.h>
 #include <geomcore/records/ReleaseMappingC.h>
 
 #include <QString>

@@ -2,16 +2,17 @@
 
 #include <QCoreApplication>
 
-QString SessionOwner::text() const
+QString ownerText(const SessionOwner &owner)
 {
-    QString result = user;
-    if (!host.isEmpty()) {
+    QString result = owner.user;
+    if (!owner.host.isEmpty()) {
         const QString at = QCoreApplication::translate("SessionOwner", "an");
-        result = result.isEmpty() ? host : QStringLiteral("%1 %2 %3").arg(result, at, host);
+        result =
+            result.isEmpty() ? owner.host : QStringLiteral("%1 %2 %3").arg(result, at, owner.host);
     }
-    if (process > 0) {
+    if (owner.process > 0) {
         const QString number =
-            QCoreApplication::translate("SessionOwner", "(Prozess %1)").arg(process);
+            QCoreApplication::translate("SessionOwner", "(Prozess %1)").arg(owner.process);
         result += result.isEmpty() ? number : u' ' + number;
     }
     return result;

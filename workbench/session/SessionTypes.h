@@ -1,5 +1,6 @@
 #pragma once
 
+#include <core/files/SessionOwner.h>
 #include <geomcore/records/LineCounts.h>
 #include <geomcore/records/PrjMappingC.h>
 
@@ -50,18 +51,8 @@ struct CatalogRoots
     friend bool operator==(const CatalogRoots &, const CatalogRoots &) = default;
 };
 
-/// Who edits or edited a mapping file.
-struct SessionOwner
-{
-    QString user;
-    QString host;
-    QString program;
-    qint64 process = 0;
-    QDateTime since; ///< UTC; not valid if unknown
-
-    /// "anna an ws12 (Prozess 4711)"; what is not known is left out.
-    [[nodiscard]] QString text() const;
-};
+/// "anna an ws12 (Prozess 4711)"; what is not known is left out.
+[[nodiscard]] QString ownerText(const SessionOwner &owner);
 
 /// Something that the user should hear of after a step, because it is easily overlooked. Undoing
 /// the step takes it back.

@@ -50,7 +50,7 @@ RecoveryDialog::RecoveryDialog(const QString &file, const RecoveryOffer &offer, 
            "Projekten, zuletzt „%5“. Sie stammt von %6.")
             .arg(QFileInfo(file).fileName(), QString::number(offer.steps),
                  QString::number(offer.changedLines), QString::number(offer.changedProjects),
-                 offer.lastStep, offer.owner.text()),
+                 offer.lastStep, ownerText(offer.owner)),
         this);
     intro->setObjectName("intro");
     intro->setWordWrap(true);

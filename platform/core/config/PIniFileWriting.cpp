@@ -2,7 +2,7 @@
 
 #include "PIniText.h"
 
-#include <QSaveFile>
+#include <core/files/DurableFile.h>
 
 using namespace Internal;
 
@@ -148,12 +148,9 @@ QByteArray PIniFile::toByteArray() const
 
 bool PIniFile::save(const QString &nativePath)
 {
-    QSaveFile file(nativePath);
-    const QByteArray content = toByteArray();
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
-                         file.flush() && file.commit();
+    QString cause;
+    const bool written = DurableFile::write(nativePath, toByteArray(), &cause);
     m_errorText =
-        written ? QString()
-                : QStringLiteral("%1: cannot be written: %2").arg(nativePath, file.errorString());
+        written ? QString() : QStringLiteral("%1: cannot be written: %2").arg(nativePath, cause);
     return written;
 }

@@ -3,6 +3,7 @@
 #include "ReleaseReader.h"
 #include "ReleaseWriter.h"
 
+#include <core/files/DurableFile.h>
 #include <core/json/JsonWriter.h>
 
 #include <QBuffer>
@@ -11,10 +12,6 @@
 #include <QSaveFile>
 
 #include <algorithm>
-
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
 
 class MappingFileData : public QSharedData
 {
@@ -37,19 +34,6 @@ bool report(QString *error, const QString &path, const QString &what)
     if (error)
         *error = QStringLiteral("%1: %2").arg(path, what);
     return false;
-}
-
-/// Gets what was written onto the disk. QSaveFile::commit alone would neither notice that what is
-/// still buffered finds no room nor that the disk refuses it. Gives the cause if that fails.
-QString handOn(QSaveFile &file)
-{
-    if (!file.flush())
-        return file.errorString();
-#ifdef Q_OS_UNIX
-    if (::fsync(file.handle()) != 0)
-        return qt_error_string();
-#endif
-    return QString();
 }
 
 void writeMembers(JsonWriter &writer, const QList<MappingFileMember> &members)
@@ -152,21 +136,14 @@ QByteArray MappingFile::toByteArray() const
 
 bool MappingFile::write(const QString &nativePath, QString *error) const
 {
-    const QFileInfo info(nativePath);
-    if (info.exists() && !info.isFile())
-        return report(error, nativePath, QStringLiteral("It is no regular file."));
     QSaveFile file(nativePath);
-    if (!file.open(QIODevice::WriteOnly))
-        return report(error, nativePath, file.errorString());
+    QString cause;
+    if (!DurableFile::open(file, &cause))
+        return report(error, nativePath, cause);
     JsonWriter writer(file, JsonWriter::Indented);
     writeMembers(writer, d->members);
     // Without commit() the file beside goes with its object.
     if (!writer.finish())
         return report(error, nativePath, file.errorString());
-    const QString failure = handOn(file);
-    if (!failure.isEmpty())
-        return report(error, nativePath, failure);
-    if (!file.commit())
-        return report(error, nativePath, file.errorString());
-    return true;
+    return DurableFile::commit(file, &cause) || report(error, nativePath, cause);
 }

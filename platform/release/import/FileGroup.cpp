@@ -1,5 +1,7 @@
 #include "FileGroup.h"
 
+#include <core/files/DurableFile.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -27,6 +29,7 @@ void FileGroup::add(const QString &file, const QByteArray &content)
 
 bool FileGroup::commit()
 {
+    QString cause;
     std::vector<std::unique_ptr<QSaveFile>> files; // one that is not committed is discarded
     for (const auto &[name, content] : std::as_const(m_files)) {
         if (hasContent(name, content))
@@ -35,14 +38,16 @@ bool FileGroup::commit()
         if (!QDir().mkpath(directory))
             return fail(directory, QStringLiteral("the directory cannot be made"));
         auto &file = files.emplace_back(std::make_unique<QSaveFile>(name));
-        if (!file->open(QIODevice::WriteOnly) || file->write(content) != content.size() ||
-            !file->flush())
+        if (!DurableFile::open(*file, &cause))
+            return fail(name, QStringLiteral("cannot be written: ") + cause);
+        if (file->write(content) != content.size())
             return fail(name, QStringLiteral("cannot be written: ") + file->errorString());
+        if (!DurableFile::sync(*file, &cause))
+            return fail(name, QStringLiteral("cannot be written: ") + cause);
     }
     for (auto &file : files) {
-        if (!file->commit())
-            return fail(file->fileName(),
-                        QStringLiteral("cannot be written: ") + file->errorString());
+        if (!DurableFile::commit(*file, &cause))
+            return fail(file->fileName(), QStringLiteral("cannot be written: ") + cause);
     }
     return true;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "SessionTypes.h"
+#include "SessionOwner.h"
+
+#include <core/VelkCoreGlobal.h>
 
 #include <QString>
 
@@ -11,7 +13,7 @@ class QLockFile;
 /// Says to others that a mapping file is being edited, and by whom: a lock file beside it, which
 /// goes with its owner. The lock of a process of this computer that ended is taken over; that of
 /// another computer counts until somebody removes it.
-class EditLock
+class VELKCORE_EXPORT EditLock
 {
 public:
     enum Result {

@@ -34,6 +34,22 @@ bool copyBytes(QFile &from, QFileDevice &to, QCryptographicHash &hash)
     return from.error() == QFileDevice::NoError;
 }
 
+/// The entry of a file that came or was renamed. Some file systems cannot sync a folder; the file
+/// itself is safe all the same.
+void syncFolderOf(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    const int folder = ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(),
+                              O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder >= 0) {
+        ::fsync(folder);
+        ::close(folder);
+    }
+#else
+    Q_UNUSED(path)
+#endif
+}
+
 } // namespace
 
 bool DurableFile::sync(QFileDevice &file, QString *error)
@@ -55,16 +71,40 @@ bool DurableFile::syncPath(const QString &path, QString *error)
         return report(error, file.errorString());
     if (!sync(file, error))
         return false;
-#ifdef Q_OS_UNIX
-    // Some file systems cannot sync a folder; the file itself is safe all the same.
-    const int folder = ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(),
-                              O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder >= 0) {
-        ::fsync(folder);
-        ::close(folder);
-    }
-#endif
+    syncFolderOf(path);
     return true;
+}
+
+bool DurableFile::open(QSaveFile &file, QString *error)
+{
+    const QFileInfo info(file.fileName());
+    if (info.exists() && !info.isFile())
+        return report(error, QStringLiteral("It is no regular file."));
+    return file.open(QIODevice::WriteOnly) || report(error, file.errorString());
+}
+
+bool DurableFile::commit(QSaveFile &file, QString *error)
+{
+    // QSaveFile::commit alone would neither notice that what is still buffered finds no room nor
+    // that the disk refuses it.
+    if (file.error() != QFileDevice::NoError)
+        return report(error, file.errorString());
+    if (!sync(file, error))
+        return false;
+    if (!file.commit())
+        return report(error, file.errorString());
+    syncFolderOf(QFileInfo(file.fileName()).canonicalFilePath());
+    return true;
+}
+
+bool DurableFile::write(const QString &path, const QByteArray &bytes, QString *error)
+{
+    QSaveFile file(path);
+    if (!open(file, error))
+        return false;
+    if (file.write(bytes) != bytes.size())
+        return report(error, file.errorString());
+    return commit(file, error);
 }
 
 bool DurableFile::copy(const QString &from, const QString &to, QString *error)
@@ -73,17 +113,15 @@ bool DurableFile::copy(const QString &from, const QString &to, QString *error)
     if (!source.open(QIODevice::ReadOnly))
         return report(error, source.errorString());
     QSaveFile target(to);
-    if (!target.open(QIODevice::WriteOnly))
-        return report(error, target.errorString());
+    if (!open(target, error))
+        return false;
     target.setPermissions(source.permissions());
     QCryptographicHash hash(QCryptographicHash::Blake2b_256);
     if (!copyBytes(source, target, hash))
         return report(error, source.error() == QFileDevice::NoError ? target.errorString()
                                                                     : source.errorString());
-    if (!sync(target, error))
+    if (!commit(target, error))
         return false;
-    if (!target.commit())
-        return report(error, target.errorString());
     if (FileState::of(to).hash != hash.result().toHex())
         return report(error, QStringLiteral("The copy differs from the original."));
     return true;
@@ -91,6 +129,7 @@ bool DurableFile::copy(const QString &from, const QString &to, QString *error)
 
 bool DurableFile::rename(const QString &from, const QString &to, QString *error)
 {
+    // As POSIX has it; QFile::rename would not replace a file that is there.
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         return report(error, qt_error_string());
     return true;
