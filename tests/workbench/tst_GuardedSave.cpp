@@ -16,6 +16,9 @@
 
 #include <memory>
 
+#include <cerrno>
+#include <sys/stat.h>
+
 namespace {
 
 const QString Date = QStringLiteral("2022-01-01");
@@ -23,6 +26,19 @@ const QString Date = QStringLiteral("2022-01-01");
 ProjectId firstProject()
 {
     return {QStringLiteral("cat/a.prj"), SessionFixture::Version, QStringLiteral("t1")};
+}
+
+ReleaseMappingC changedRelease()
+{
+    ReleaseMappingC release = SessionFixture::sampleRelease();
+    release.addMapping(SessionFixture::withState(release.mappingAt(0), {1}, 2));
+    return release;
+}
+
+/// As the document does it.
+bool commitTo(const QString &copy)
+{
+    return ReleaseMappingHandler(changedRelease(), QString(), copy).commitModifications();
 }
 
 } // namespace
@@ -50,7 +66,16 @@ private Q_SLOTS:
     void failuresAreUndone_data();
     void failuresAreUndone();
     void aFailedNewFileIsRemoved();
-    void noRoomForTheBackup();
+    void theFileIsNeverOpenedForWriting();
+    void aFullDiskIsTold();
+    void whatStandsInTheWay_data();
+    void whatStandsInTheWay();
+    void aPipeIsNoMappingFile();
+    void theFolderIsGone();
+    void anUnfinishedCopyIsOfNoConsequence();
+    void aChangeWhileWriting();
+    void otherReleasesComeFromTheBackup();
+    void keepsTheRightsOfTheFile();
     void aFullDisk();
     void readOnlyFile();
     void readOnlyFolder();
@@ -61,7 +86,7 @@ private Q_SLOTS:
 
 private:
     void openAndChange();
-    [[nodiscard]] SaveOutcome saveWith(const std::function<bool()> &commit,
+    [[nodiscard]] SaveOutcome saveWith(const GuardedSave::Commit &commit,
                                        const SaveOptions &options = {});
     [[nodiscard]] QStringList names() const;
 
@@ -92,11 +117,9 @@ void tst_GuardedSave::openAndChange()
 }
 
 /// Saves the sample release, one line confirmed, by a function of the test's own.
-SaveOutcome tst_GuardedSave::saveWith(const std::function<bool()> &commit,
-                                      const SaveOptions &options)
+SaveOutcome tst_GuardedSave::saveWith(const GuardedSave::Commit &commit, const SaveOptions &options)
 {
-    ReleaseMappingC release = SessionFixture::sampleRelease();
-    release.addMapping(SessionFixture::withState(release.mappingAt(0), {1}, 2));
+    const ReleaseMappingC release = changedRelease();
     GuardedSave guard(m_file, FileState::of(m_file), SessionFixture::sampleRelease());
     return guard.run(release, commit, options);
 }
@@ -282,16 +305,14 @@ void tst_GuardedSave::aLostReleaseIsAFailure()
     m_files->addRelease(m_file, other);
     const QByteArray before = SessionFixture::content(m_file);
     for (const bool keepOther : {false, true}) {
-        const SaveOutcome outcome = saveWith([&] {
+        const SaveOutcome outcome = saveWith([&](const QString &copy) {
             MappingFile file;
-            ReleaseMappingC release = SessionFixture::sampleRelease();
-            release.addMapping(SessionFixture::withState(release.mappingAt(0), {1}, 2));
-            file.setRelease(release);
+            file.setRelease(changedRelease());
             ReleaseMappingC changed = other;
             changed.setTargetDate(QStringLiteral("2021-01-01"));
             if (keepOther)
                 file.setRelease(changed);
-            return file.write(m_file);
+            return file.write(copy);
         });
         QCOMPARE(outcome.result, SaveResult::WriteFailed);
         QVERIFY2(outcome.text.contains(QStringLiteral("fehlt der Stand 2020-01-01")),
@@ -320,22 +341,23 @@ void tst_GuardedSave::failuresAreUndone()
     QFETCH(bool, result);
     QFETCH(QString, part);
     const QByteArray before = SessionFixture::content(m_file);
-    const SaveOutcome outcome = saveWith([&] {
-        SessionFixture::setContent(m_file, written);
+    const SaveOutcome outcome = saveWith([&](const QString &copy) {
+        SessionFixture::setContent(copy, written);
         return result;
     });
     QCOMPARE(outcome.result, SaveResult::WriteFailed);
     QVERIFY2(outcome.text.contains(part), qPrintable(outcome.text));
-    QVERIFY(outcome.text.startsWith(m_file + QStringLiteral(" wurde nicht gespeichert.")));
-    QVERIFY(outcome.text.contains(QStringLiteral("wieder so wie vor dem Speichern")));
+    QVERIFY(outcome.text.startsWith(m_file + QStringLiteral(" wurde nicht gespeichert:")));
+    QVERIFY(outcome.text.contains(QStringLiteral("Die Datei ist unverändert")));
     QCOMPARE(SessionFixture::content(m_file), before);
+    QCOMPARE(names(), QStringList(QStringLiteral("release.json")));
 }
 
 void tst_GuardedSave::aFailedNewFileIsRemoved()
 {
     QVERIFY(QFile::remove(m_file));
-    const SaveOutcome outcome = saveWith([&] {
-        SessionFixture::setContent(m_file, "{");
+    const SaveOutcome outcome = saveWith([&](const QString &copy) {
+        SessionFixture::setContent(copy, "{");
         return false;
     });
     QCOMPARE(outcome.result, SaveResult::WriteFailed);
@@ -343,23 +365,169 @@ void tst_GuardedSave::aFailedNewFileIsRemoved()
     QVERIFY(names().isEmpty());
 }
 
-void tst_GuardedSave::noRoomForTheBackup()
+/// Whatever happens while it is being written, the file is there whole.
+void tst_GuardedSave::theFileIsNeverOpenedForWriting()
+{
+    m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2020-01-01")));
+    const QByteArray before = SessionFixture::content(m_file);
+    QFile former(m_file);
+    QVERIFY(former.open(QIODevice::ReadOnly));
+    const SaveOutcome outcome = saveWith([&](const QString &copy) {
+        return SessionFixture::content(m_file) == before && commitTo(copy) &&
+               SessionFixture::content(m_file) == before;
+    });
+    QCOMPARE(outcome.result, SaveResult::Saved);
+    // Another file has taken its place.
+    QCOMPARE(former.readAll(), before);
+    QVERIFY(SessionFixture::content(m_file) != before);
+    QCOMPARE(SessionFixture::content(outcome.backupFile), before);
+}
+
+void tst_GuardedSave::aFullDiskIsTold()
 {
     const QByteArray before = SessionFixture::content(m_file);
-    bool called = false;
+    SessionFixture::setContent(GuardedSave::backupFile(m_file), "former");
     SaveOutcome outcome;
     {
         const SizeLimit limit(before.size() / 2);
-        outcome = saveWith([&] {
-            called = true;
-            return true;
-        });
+        outcome = saveWith(commitTo);
     }
-    QCOMPARE(outcome.result, SaveResult::BackupFailed);
-    QVERIFY2(outcome.text.contains(m_file + QStringLiteral(".bak")), qPrintable(outcome.text));
-    QVERIFY(!called);
+    QCOMPARE(outcome.result, SaveResult::WriteFailed);
+    QVERIFY2(outcome.text.contains(OwnFile::causeOf(EFBIG)), qPrintable(outcome.text));
+    QCOMPARE(OwnFile::causeOf(ENOSPC), QStringLiteral("der Datenträger ist voll"));
     QCOMPARE(SessionFixture::content(m_file), before);
-    QCOMPARE(names(), QStringList(QStringLiteral("release.json")));
+    QCOMPARE(SessionFixture::content(GuardedSave::backupFile(m_file)), QByteArray("former"));
+    QCOMPARE(names(),
+             QStringList({QStringLiteral("release.json"), QStringLiteral("release.json.bak")}));
+}
+
+void tst_GuardedSave::whatStandsInTheWay_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QString>("thing");
+    for (const char *suffix : {".lock", ".neu", ".bak", ".bak.part"}) {
+        for (const char *thing : {"link", "dangling", "pipe", "folder"})
+            QTest::addRow("%s at %s", thing, suffix)
+                << QString::fromLatin1(suffix) << QString::fromLatin1(thing);
+    }
+}
+
+/// Nothing of ours is written through a link or into a pipe, and nobody waits for one.
+void tst_GuardedSave::whatStandsInTheWay()
+{
+    QFETCH(QString, suffix);
+    QFETCH(QString, thing);
+    const QByteArray before = SessionFixture::content(m_file);
+    const QString victim = m_files->path(QStringLiteral("victim"));
+    if (thing != u"dangling")
+        SessionFixture::setContent(victim, "precious");
+    const QString name = m_file + suffix;
+    if (thing == u"pipe")
+        QCOMPARE(::mkfifo(qPrintable(name), 0600), 0);
+    else if (thing == u"folder")
+        QVERIFY(QDir().mkpath(name + QStringLiteral("/full")));
+    else
+        QVERIFY(QFile::link(victim, name));
+    SaveOutcome outcome = saveWith(commitTo);
+    QVERIFY(outcome.result == SaveResult::WriteFailed ||
+            outcome.result == SaveResult::BackupFailed);
+    QVERIFY2(outcome.text.contains(QStringLiteral("gewöhnliche Datei")), qPrintable(outcome.text));
+    QCOMPARE(SessionFixture::content(m_file), before);
+    QCOMPARE(QFile::exists(victim), thing != u"dangling");
+    if (thing != u"dangling")
+        QCOMPARE(SessionFixture::content(victim), QByteArray("precious"));
+    QCOMPARE(OwnFile::place(name), OwnFile::Place::Other);
+    QVERIFY(QFile::remove(name) || QDir(name).removeRecursively());
+    outcome = saveWith(commitTo);
+    QVERIFY2(outcome.result == SaveResult::Saved, qPrintable(outcome.text));
+}
+
+void tst_GuardedSave::aPipeIsNoMappingFile()
+{
+    QVERIFY(QFile::remove(m_file));
+    QCOMPARE(::mkfifo(qPrintable(m_file), 0600), 0);
+    QCOMPARE(saveWith(commitTo).result, SaveResult::WriteFailed);
+    QCOMPARE(OwnFile::place(m_file), OwnFile::Place::Other);
+}
+
+void tst_GuardedSave::theFolderIsGone()
+{
+    const QString folder = m_files->path(QStringLiteral("gone"));
+    QVERIFY(QDir().mkpath(folder));
+    m_file = folder + QStringLiteral("/release.json");
+    const SaveOutcome outcome = saveWith(
+        [&](const QString &copy) { return QDir(folder).removeRecursively() && commitTo(copy); });
+    QCOMPARE(outcome.result, SaveResult::WriteFailed);
+    QVERIFY2(outcome.text.contains(OwnFile::causeOf(ENOENT)), qPrintable(outcome.text));
+    QCOMPARE(saveWith(commitTo).result, SaveResult::WriteFailed);
+}
+
+/// A program that was killed while it was writing.
+void tst_GuardedSave::anUnfinishedCopyIsOfNoConsequence()
+{
+    SessionFixture::setContent(GuardedSave::copyFile(m_file), "{\"2022-01-01\":{\"sou");
+    SessionFixture::setContent(GuardedSave::backupFile(m_file) + QStringLiteral(".part"), "{");
+    QCOMPARE(saveWith(commitTo).result, SaveResult::Saved);
+    QCOMPARE(names(),
+             QStringList({QStringLiteral("release.json"), QStringLiteral("release.json.bak")}));
+}
+
+void tst_GuardedSave::aChangeWhileWriting()
+{
+    QByteArray theirs;
+    const SaveOutcome outcome = saveWith([&](const QString &copy) {
+        m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2030-01-01")));
+        theirs = SessionFixture::content(m_file);
+        return commitTo(copy);
+    });
+    QCOMPARE(outcome.result, SaveResult::ForeignChange);
+    QVERIFY2(outcome.text.contains(QStringLiteral("während")), qPrintable(outcome.text));
+    QCOMPARE(SessionFixture::content(m_file), theirs);
+    QVERIFY(!names().contains(QStringLiteral("release.json.neu")));
+}
+
+void tst_GuardedSave::otherReleasesComeFromTheBackup()
+{
+    const ReleaseMappingC other = SessionFixture::sampleRelease(QStringLiteral("2020-01-01"));
+    m_files->addRelease(m_file, other);
+    openAndChange();
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    const QByteArray backup = SessionFixture::content(GuardedSave::backupFile(m_file));
+    SessionFixture::setContent(m_file, SessionFixture::content(m_file).chopped(100));
+
+    SaveOutcome outcome = m_document->save();
+    QCOMPARE(outcome.result, SaveResult::Unreadable);
+    QCOMPARE(outcome.fromBackup, QStringList(QStringLiteral("2020-01-01")));
+    QVERIFY2(outcome.text.contains(QStringLiteral("release.json.bak: 2020-01-01.")),
+             qPrintable(outcome.text));
+    SaveOptions options;
+    options.overUnreadable = true;
+    options.overForeignChange = true;
+    outcome = m_document->save(options);
+    QCOMPARE(outcome.result, SaveResult::Saved);
+    MappingFile now;
+    QVERIFY(now.read(m_file));
+    QCOMPARE(now.sourceDates(), QStringList({Date, QStringLiteral("2020-01-01")}));
+    QCOMPARE(SessionFixture::bytes(now.release(QStringLiteral("2020-01-01"))),
+             SessionFixture::bytes(other));
+    QCOMPARE(SessionFixture::bytes(now.release(Date)),
+             SessionFixture::bytes(m_document->release()));
+    // What cannot be read does not take the place of what can.
+    QCOMPARE(SessionFixture::content(GuardedSave::backupFile(m_file)), backup);
+    QVERIFY(QFile::exists(outcome.keptFile));
+}
+
+void tst_GuardedSave::keepsTheRightsOfTheFile()
+{
+    for (const int rights : {0640, 0604, 0666}) {
+        QCOMPARE(::chmod(qPrintable(m_file), mode_t(rights)), 0);
+        QCOMPARE(saveWith(commitTo).result, SaveResult::Saved);
+        struct stat found
+        {
+        };
+        QCOMPARE(::stat(qPrintable(m_file), &found), 0);
+        QCOMPARE(int(found.st_mode & 07777), rights);
+    }
 }
 
 void tst_GuardedSave::aFullDisk()

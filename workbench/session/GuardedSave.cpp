@@ -1,35 +1,31 @@
 #include "GuardedSave.h"
 
-#include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QLockFile>
 
+#include <future>
+
 namespace {
 
-QString say(const char *text)
-{
-    return QCoreApplication::translate("GuardedSave", text);
-}
-
-/// The members of a mapping file, those of other releases unread.
-PJsonValue readMembers(const QString &file, QString *error)
+/// The members of a mapping file, unread. Null with \a error if it is none.
+PJsonValue membersOf(const QByteArray &content, QString *error)
 {
     PJsonValue document;
-    if (!document.parseFile(file, error))
+    if (!document.parse(content, error))
         return PJsonValue();
-    if (!document.isObject() && error)
-        *error = QStringLiteral("%1: A mapping file must hold an object.").arg(file);
-    return document;
+    if (document.isObject())
+        return document;
+    *error = QStringLiteral("A mapping file must hold an object.");
+    return PJsonValue();
 }
 
-QByteArray textOf(const ReleaseMappingC &release)
+PJsonValue valueOf(const ReleaseMappingC &release)
 {
     PJsonValue value;
     release.toJson(value, false);
-    return value.toByteArray(true);
+    return value;
 }
 
 } // namespace
@@ -41,34 +37,16 @@ GuardedSave::GuardedSave(const QString &file, const FileState &known, const Rele
 {
 }
 
-SaveOutcome GuardedSave::run(const ReleaseMappingC &release, const std::function<bool()> &commit,
+SaveOutcome GuardedSave::run(const ReleaseMappingC &release, const Commit &commit,
                              const SaveOptions &options)
 {
     m_outcome = SaveOutcome();
+    m_release = release;
     QLockFile lock(lockFile(m_file));
-    if (!lock.tryLock(LockWait)) {
-        const bool busy = lock.error() == QLockFile::LockFailedError;
-        (void)end(busy ? SaveResult::Busy : SaveResult::BackupFailed,
-                  (busy ? say("%1 wird gerade von einem anderen Programm gespeichert. Es wurde "
-                              "nichts geschrieben. Bitte gleich noch einmal speichern.")
-                        : say("Im Ordner von %1 kann nichts angelegt werden. Es wurde nichts "
-                              "geschrieben. Bitte unter einem anderen Namen speichern."))
-                      .arg(m_file));
+    if (!takeLock(lock) || !examine(options) || !write(commit))
         return m_outcome;
-    }
-    if (!examine(release, options) || !makeBackup())
-        return m_outcome;
-    if (!commit()) {
-        restore(say("Die Datei konnte nicht vollständig geschrieben werden. Möglicherweise ist der "
-                    "Datenträger voll."));
-        return m_outcome;
-    }
-    QString error;
-    const QString fault = DurableFile::syncPath(m_file, &error) ? check(release) : error;
-    if (!fault.isEmpty())
-        restore(fault);
-    else
-        m_saved = FileState::of(m_file);
+    if (!keepFormer() || !putInPlace())
+        OwnFile::remove(copyFile(m_file));
     return m_outcome;
 }
 
@@ -82,129 +60,229 @@ QString GuardedSave::lockFile(const QString &mappingFile)
     return mappingFile + QStringLiteral(".lock");
 }
 
-bool GuardedSave::examine(const ReleaseMappingC &release, const SaveOptions &options)
+QString GuardedSave::copyFile(const QString &mappingFile)
 {
-    m_before = FileState::of(m_file);
-    m_others.clear();
-    if (m_before.exists) {
+    return mappingFile + QStringLiteral(".neu");
+}
+
+bool GuardedSave::takeLock(QLockFile &lock)
+{
+    const QString name = lockFile(m_file);
+    if (OwnFile::place(name) == OwnFile::Place::Other)
+        return end(SaveResult::WriteFailed,
+                   tr("%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. "
+                      "Es wurde nichts geschrieben. Bitte entfernen, was dort steht.")
+                       .arg(name));
+    if (lock.tryLock(LockWait))
+        return true;
+    const QString fault = OwnFile::folderFault(m_file);
+    if (fault.isEmpty())
+        return end(SaveResult::Busy,
+                   tr("%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts "
+                      "geschrieben. Bitte gleich noch einmal speichern.")
+                       .arg(m_file));
+    return end(SaveResult::WriteFailed,
+               tr("Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. "
+                  "Bitte Platz schaffen oder unter einem anderen Namen speichern.")
+                   .arg(m_file, fault));
+}
+
+bool GuardedSave::examine(const SaveOptions &options)
+{
+    m_stamp = OwnFile::stamp(m_file);
+    m_before = FileContent::of(m_file);
+    m_members = PJsonValue(PJsonValue::Object);
+    m_readable = false;
+    if (!m_before.error.isEmpty())
+        return end(SaveResult::WriteFailed,
+                   tr("%1 kann nicht gelesen werden (%2). Es wurde nichts geschrieben. Bitte unter "
+                      "einem anderen Namen speichern.")
+                       .arg(m_file, m_before.error));
+    if (m_before.state.exists) {
         QString error;
-        const PJsonValue members = readMembers(m_file, &error);
-        if (!members.isObject())
-            return keepUnreadable(error, options);
-        for (const QString &date : members.keys()) {
-            if (date != release.getSourceDate())
-                m_others.insert(date, members.value(date).rawText());
-        }
+        m_members = membersOf(m_before.bytes, &error);
+        m_readable = m_members.isObject();
+        if (!m_readable)
+            return examineUnreadable(error, options);
     }
-    return m_before.sameContent(m_known) || options.overForeignChange ||
-           reportForeignChange(release);
+    return m_before.state.sameContent(m_known) || options.overForeignChange ||
+           reportForeignChange();
 }
 
-bool GuardedSave::reportForeignChange(const ReleaseMappingC &release)
+/// The releases that are beyond reach in the file are taken from the backup, if that has them.
+bool GuardedSave::examineUnreadable(const QString &error, const SaveOptions &options)
 {
-    if (!m_before.exists)
-        return end(SaveResult::ForeignChange,
-                   say("%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die "
-                       "Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts "
-                       "geschrieben.")
-                       .arg(m_file, release.getSourceDate()));
-    MappingFile there;
-    m_outcome.onlyOtherReleases = there.read(m_file, release.getSourceDate()) &&
-                                  sameRelease(there.release(release.getSourceDate()), m_loaded);
-    return end(
-        SaveResult::ForeignChange,
-        (m_outcome.onlyOtherReleases
-             ? say("%1 wurde seit dem Öffnen von jemand anderem geändert, dieser Stand (%2) aber "
-                   "nicht. Beim Speichern bleiben die anderen Stände, wie sie jetzt in der Datei "
-                   "sind. Es wurde noch nichts geschrieben.")
-             : say("%1 wurde seit dem Öffnen von jemand anderem geändert, auch dieser Stand (%2). "
-                   "Beim Speichern gehen dessen Änderungen an diesem Stand verloren. Es wurde noch "
-                   "nichts geschrieben: trotzdem speichern, unter einem anderen Namen speichern "
-                   "oder die Datei neu öffnen."))
-            .arg(m_file, release.getSourceDate()));
-}
-
-bool GuardedSave::keepUnreadable(const QString &error, const SaveOptions &options)
-{
+    QString ignored;
+    const std::optional<QByteArray> backup = OwnFile::read(backupFile(m_file));
+    m_members = backup ? membersOf(*backup, &ignored) : PJsonValue();
+    if (!m_members.isObject())
+        m_members = PJsonValue(PJsonValue::Object);
+    m_outcome.fromBackup = m_members.keys();
+    m_outcome.fromBackup.removeAll(date());
     if (!options.overUnreadable)
         return end(SaveResult::Unreadable,
-                   say("%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. "
-                       "Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel "
-                       "aufgehoben und eine neue angelegt.")
-                       .arg(m_file, error));
+                   (m_outcome.fromBackup.isEmpty()
+                        ? tr("%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts "
+                             "geschrieben. Beim Speichern wird die vorhandene Datei unter einem "
+                             "Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur "
+                             "diesen Stand enthält.")
+                              .arg(m_file, error)
+                        : tr("%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts "
+                             "geschrieben. Beim Speichern wird die vorhandene Datei unter einem "
+                             "Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen "
+                             "Stände kommen aus der Sicherung %3: %4.")
+                              .arg(m_file, error, backupFile(m_file),
+                                   m_outcome.fromBackup.join(QStringLiteral(", ")))));
     const QString kept = DurableFile::stampedName(m_file, QStringLiteral("unlesbar"));
     QString cause;
-    if (!DurableFile::copy(m_file, kept, &cause))
+    if (!OwnFile::keep(m_file, kept, &cause))
         return end(SaveResult::BackupFailed,
-                   say("%1 ist unlesbar und konnte nicht nach %2 kopiert werden (%3). Es wurde "
-                       "nichts geschrieben. Bitte unter einem anderen Namen speichern.")
+                   tr("%1 ist unlesbar und konnte nicht als %2 aufgehoben werden (%3). Es wurde "
+                      "nichts geschrieben. Bitte unter einem anderen Namen speichern.")
                        .arg(m_file, kept, cause));
     m_outcome.keptFile = kept;
     return true;
 }
 
-bool GuardedSave::makeBackup()
+bool GuardedSave::reportForeignChange()
 {
-    if (!m_before.exists)
-        return true;
-    QFile file(m_file);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        return end(SaveResult::WriteFailed,
-                   say("%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. Bitte "
-                       "die Schreibrechte prüfen oder unter einem anderen Namen speichern.")
-                       .arg(m_file, file.errorString()));
-    file.close();
-    const QString backup = backupFile(m_file);
-    QString cause;
-    if (!DurableFile::copy(m_file, backup, &cause) || !DurableFile::syncPath(backup, &cause))
-        return end(
-            SaveResult::BackupFailed,
-            say("Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts "
-                "geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.")
-                .arg(backup, cause));
-    m_outcome.backupFile = backup;
-    return true;
+    if (!m_before.state.exists)
+        return end(SaveResult::ForeignChange,
+                   tr("%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die "
+                      "Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts "
+                      "geschrieben.")
+                       .arg(m_file, date()));
+    MappingFile there;
+    m_outcome.onlyOtherReleases =
+        there.parse(m_before.bytes, date()) &&
+        valueOf(there.release(date())).toByteArray(true) == valueOf(m_loaded).toByteArray(true);
+    return end(
+        SaveResult::ForeignChange,
+        (m_outcome.onlyOtherReleases
+             ? tr("%1 wurde seit dem Öffnen von jemand anderem geändert, dieser Stand (%2) aber "
+                  "nicht. Beim Speichern bleiben die anderen Stände, wie sie jetzt in der Datei "
+                  "sind. Es wurde noch nichts geschrieben.")
+             : tr("%1 wurde seit dem Öffnen von jemand anderem geändert, auch dieser Stand (%2). "
+                  "Beim Speichern gehen dessen Änderungen an diesem Stand verloren. Es wurde noch "
+                  "nichts geschrieben: trotzdem speichern, unter einem anderen Namen speichern "
+                  "oder die Datei neu öffnen."))
+            .arg(m_file, date()));
 }
 
-/// What is wrong with the file as it was written; empty if it holds what it should.
-QString GuardedSave::check(const ReleaseMappingC &release) const
+bool GuardedSave::write(const Commit &commit)
 {
-    MappingFile written;
+    if (m_before.state.exists) {
+        QFile file;
+        QString error;
+        if (!OwnFile::open(file, m_file, QIODevice::ReadWrite | QIODevice::ExistingOnly, &error))
+            return end(SaveResult::WriteFailed,
+                       tr("%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. "
+                          "Bitte die Schreibrechte prüfen oder unter einem anderen Namen "
+                          "speichern.")
+                           .arg(m_file, error));
+    }
+    const QString fault = fillCopy(commit);
+    if (fault.isEmpty())
+        return true;
+    OwnFile::remove(copyFile(m_file));
+    return end(SaveResult::WriteFailed,
+               tr("%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind "
+                  "weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter "
+                  "einem anderen Namen speichern.")
+                   .arg(m_file, fault));
+}
+
+/// What went wrong, or nothing.
+QString GuardedSave::fillCopy(const Commit &commit)
+{
+    const QString copy = copyFile(m_file);
+    std::future<QByteArray> expected =
+        std::async(std::launch::async, [this] { return expectedContent(); });
+    // This release's former text would be read for nothing; its place among the others counts.
+    PJsonValue others = m_members;
+    if (others.contains(date()))
+        others[date()] = PJsonValue();
     QString error;
-    if (!written.read(m_file, release.getSourceDate(), &error))
-        return say("Die geschriebene Datei ist nicht lesbar: %1").arg(error);
-    if (!sameRelease(written.release(release.getSourceDate()), release))
-        return say("Die geschriebene Datei enthält nicht, was gespeichert werden sollte.");
-    const PJsonValue members = readMembers(m_file, &error);
-    for (auto other = m_others.cbegin(); other != m_others.cend(); ++other) {
-        if (members.value(other.key()).rawText() != other.value())
-            return say("In der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer.")
-                .arg(other.key());
+    if (!OwnFile::remove(copy, &error) ||
+        !OwnFile::create(copy, others.toByteArray(false), m_file, &error))
+        return error;
+    const bool committed = commit(copy);
+    const QByteArray wanted = expected.get();
+    if (!committed) {
+        // The function does not say why; trying the same does.
+        const bool fits = OwnFile::replace(copy, wanted, &error);
+        return fits ? tr("die Datei konnte nicht vollständig geschrieben werden") : error;
+    }
+    const std::optional<QByteArray> written = OwnFile::read(copy, &error);
+    if (!written)
+        return error;
+    const QString fault = *written == wanted ? QString() : check(*written);
+    if (!fault.isEmpty() || !OwnFile::syncPath(copy, &error))
+        return fault.isEmpty() ? error : fault;
+    m_saved.exists = true;
+    m_saved.size = written->size();
+    m_saved.hash = FileState::hashOf(*written);
+    return QString();
+}
+
+QByteArray GuardedSave::expectedContent() const
+{
+    PJsonValue document = m_members;
+    document[date()] = valueOf(m_release);
+    return document.toByteArray(false);
+}
+
+/// What is wrong with a content that differs from what was expected in more than its form.
+QString GuardedSave::check(const QByteArray &written) const
+{
+    QString error;
+    const PJsonValue members = membersOf(written, &error);
+    if (!members.isObject())
+        return tr("die geschriebene Datei ist nicht lesbar (%1)").arg(error);
+    if (members.value(date()).toByteArray(true) != valueOf(m_release).toByteArray(true))
+        return tr("die geschriebene Datei enthält nicht, was gespeichert werden sollte");
+    const QStringList dates = m_members.keys();
+    for (const QString &other : dates) {
+        if (other != date() && members.value(other).rawText() != m_members.value(other).rawText())
+            return tr("in der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer")
+                .arg(other);
     }
     return QString();
 }
 
-void GuardedSave::restore(const QString &cause)
+bool GuardedSave::keepFormer()
 {
-    const QString backup = m_outcome.backupFile;
-    QString error;
-    // The backup takes the file's place as it is: that needs no room on a full disk.
-    const bool restored = backup.isEmpty() ? (!QFile::exists(m_file) || QFile::remove(m_file))
-                                           : DurableFile::rename(backup, m_file, &error);
-    if (restored) {
+    if (!m_readable)
+        return true;
+    const QString backup = backupFile(m_file);
+    QString cause;
+    if (!OwnFile::keep(m_file, backup, &cause))
+        return end(SaveResult::BackupFailed,
+                   tr("Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts "
+                      "geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.")
+                       .arg(backup, cause));
+    m_outcome.backupFile = backup;
+    return true;
+}
+
+bool GuardedSave::putInPlace()
+{
+    if (OwnFile::stamp(m_file) != m_stamp) {
         m_outcome.backupFile.clear();
-        (void)end(SaveResult::WriteFailed,
-                  say("%1 wurde nicht gespeichert. %2 Die Datei ist wieder so wie vor dem "
-                      "Speichern, die Änderungen sind weiterhin geöffnet. Bitte Platz schaffen und "
-                      "noch einmal speichern oder unter einem anderen Namen speichern.")
-                      .arg(m_file, cause));
-        return;
+        return end(SaveResult::ForeignChange,
+                   tr("%1 wurde während des Speicherns von jemand anderem geändert. Es wurde "
+                      "nichts geschrieben. Bitte noch einmal speichern.")
+                       .arg(m_file));
     }
-    (void)end(SaveResult::RestoreFailed,
-              say("%1 wurde nicht gespeichert. %2 Auch der frühere Inhalt konnte nicht "
-                  "zurückgeholt werden (%3). Er liegt in %4. Bitte unter einem anderen Namen "
-                  "speichern und diese Datei von Hand zurückkopieren.")
-                  .arg(m_file, cause, error, backup));
+    QString error;
+    if (!OwnFile::rename(copyFile(m_file), m_file, &error))
+        return end(SaveResult::WriteFailed,
+                   tr("%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen "
+                      "sind weiterhin geöffnet. Bitte unter einem anderen Namen speichern.")
+                       .arg(m_file, error));
+    OwnFile::syncFolder(m_file);
+    m_saved.time = QDateTime::currentDateTimeUtc();
+    return true;
 }
 
 bool GuardedSave::end(SaveResult result, const QString &text)
@@ -212,9 +290,4 @@ bool GuardedSave::end(SaveResult result, const QString &text)
     m_outcome.result = result;
     m_outcome.text = text;
     return false;
-}
-
-bool GuardedSave::sameRelease(const ReleaseMappingC &a, const ReleaseMappingC &b)
-{
-    return textOf(a) == textOf(b);
 }

@@ -1,53 +1,71 @@
 #pragma once
 
+#include "OwnFile.h"
 #include "SaveOutcome.h"
 
-#include <core/files/DurableFile.h>
+#include <core/json/PJsonValue.h>
 #include <geomcore/records/ReleaseMappingC.h>
 
 #include <QByteArray>
-#include <QMap>
+#include <QCoreApplication>
 #include <QString>
 
 #include <functional>
 
-/// Puts a release into its mapping file by way of a function that may leave the file damaged, with
-/// a lock against others who save, a look at what others changed, a backup that is put back, and a
-/// look at what was written.
+class QLockFile;
+
+/// Puts a release into its mapping file by way of a function that may leave what it writes damaged.
+/// It writes into a copy beside the file, which is compared with what should be there and then
+/// takes the file's place: the mapping file is the former or the new one at any time. Around that a
+/// lock against others who save, and a look at what others changed. Any thread.
 class GuardedSave
 {
+    Q_DECLARE_TR_FUNCTIONS(GuardedSave)
+
 public:
+    /// Writes the release into the file of this name beside the releases of other dates, and gives
+    /// false if it noticed that it failed.
+    using Commit = std::function<bool(const QString &copy)>;
+
     /// \a file is the mapping file, \a known its state when it was read or saved last, \a loaded
     /// the release as it was there then (not valid dates: it was not there).
     GuardedSave(const QString &file, const FileState &known, const ReleaseMappingC &loaded);
 
-    /// \a commit writes \a release into the file and gives false if it noticed that it failed.
-    [[nodiscard]] SaveOutcome run(const ReleaseMappingC &release,
-                                  const std::function<bool()> &commit, const SaveOptions &options);
+    [[nodiscard]] SaveOutcome run(const ReleaseMappingC &release, const Commit &commit,
+                                  const SaveOptions &options);
     /// The file after a successful run().
     [[nodiscard]] const FileState &savedState() const { return m_saved; }
 
     [[nodiscard]] static QString backupFile(const QString &mappingFile);
     /// Held while saving.
     [[nodiscard]] static QString lockFile(const QString &mappingFile);
+    /// What is being written; what a program that was killed left of it goes with the next saving.
+    [[nodiscard]] static QString copyFile(const QString &mappingFile);
     /// So long another program may be saving, in ms.
     static constexpr int LockWait = 3000;
 
 private:
-    [[nodiscard]] bool reportForeignChange(const ReleaseMappingC &release);
-    [[nodiscard]] bool examine(const ReleaseMappingC &release, const SaveOptions &options);
-    [[nodiscard]] bool keepUnreadable(const QString &error, const SaveOptions &options);
-    [[nodiscard]] bool makeBackup();
-    [[nodiscard]] QString check(const ReleaseMappingC &release) const;
-    void restore(const QString &cause);
+    [[nodiscard]] bool takeLock(QLockFile &lock);
+    [[nodiscard]] bool examine(const SaveOptions &options);
+    [[nodiscard]] bool examineUnreadable(const QString &error, const SaveOptions &options);
+    [[nodiscard]] bool reportForeignChange();
+    [[nodiscard]] bool write(const Commit &commit);
+    [[nodiscard]] QString fillCopy(const Commit &commit);
+    [[nodiscard]] QByteArray expectedContent() const;
+    [[nodiscard]] QString check(const QByteArray &written) const;
+    [[nodiscard]] bool keepFormer();
+    [[nodiscard]] bool putInPlace();
     [[nodiscard]] bool end(SaveResult result, const QString &text);
-    [[nodiscard]] static bool sameRelease(const ReleaseMappingC &a, const ReleaseMappingC &b);
+    [[nodiscard]] QString date() const { return m_release.getSourceDate(); }
 
     const QString m_file;
     const FileState m_known;
     const ReleaseMappingC m_loaded;
-    QMap<QString, QByteArray> m_others; ///< texts of the file's other releases
-    FileState m_before;
+    ReleaseMappingC m_release;
+    PJsonValue m_members; ///< of the file, or of the backup if the file cannot be read
+    FileContent m_before;
+    QByteArray m_stamp; ///< of the file as it was read
+    bool m_readable = false;
     FileState m_saved;
     SaveOutcome m_outcome;
 };

@@ -263,7 +263,6 @@ void MappingDocumentPrivate::beginJournal()
 void MappingDocumentPrivate::adoptRelease(const ReleaseMappingC &release)
 {
     handler = std::make_shared<ReleaseMappingHandler>(release, rootName, file);
-    m_handlerFile = file;
     counts = countLines(release);
 }
 

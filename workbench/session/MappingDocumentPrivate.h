@@ -130,7 +130,6 @@ private:
     ReleaseMappingC m_loaded; ///< the release in it
     bool m_putAside = false;  ///< what a session left is not wanted
     QString m_lostText;       ///< told when the document is open
-    QString m_handlerFile;    ///< where the handler saves to
     int m_step = 0;           ///< number of the step in the making or made last
     int m_autosavedStep = 0;
     bool m_wasModified = false;

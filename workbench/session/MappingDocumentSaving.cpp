@@ -90,10 +90,8 @@ SaveOutcome MappingDocumentPrivate::runGuarded(const QString &path, const FileSt
 {
     const ReleaseMappingC current = release();
     GuardedSave guard(path, state, base);
-    const auto commit = [&] {
-        if (path == m_handlerFile)
-            return handler->commitModifications();
-        return ReleaseMappingHandler(current, rootName, path).commitModifications();
+    const auto commit = [&](const QString &copy) {
+        return ReleaseMappingHandler(current, rootName, copy).commitModifications();
     };
     SaveOutcome outcome = guard.run(current, commit, options);
     saved = guard.savedState();

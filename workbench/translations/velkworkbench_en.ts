@@ -231,28 +231,40 @@
 <context>
     <name>GuardedSave</name>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt.</source>
-        <translation>%1 is not a readable mapping file (%2). Nothing was written. Saving keeps the existing file under a name with a time stamp and makes a new one.</translation>
+        <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
+        <translation>%1 is no regular file and cannot serve as a lock. Nothing was written. Please remove what stands there.</translation>
     </message>
     <message>
-        <source>%1 ist unlesbar und konnte nicht nach %2 kopiert werden (%3). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
-        <translation>%1 is unreadable and could not be copied to %2 (%3). Nothing was written. Please save under another name.</translation>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <translation>%1 is no readable mapping file (%2). Nothing was written. When saving, the present file is kept under a name with a time stamp, and a new one is made that holds this release only.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <translation>%1 is no readable mapping file (%2). Nothing was written. When saving, the present file is kept under a name with a time stamp, and a new one is made. The other releases come from the backup %3: %4.</translation>
+    </message>
+    <message>
+        <source>%1 ist unlesbar und konnte nicht als %2 aufgehoben werden (%3). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 is unreadable and could not be kept as %2 (%3). Nothing was written. Please save under another name.</translation>
     </message>
     <message>
         <source>%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. Bitte die Schreibrechte prüfen oder unter einem anderen Namen speichern.</source>
         <translation>%1 cannot be written to (%2). Nothing was written. Please check its permissions or save under another name.</translation>
     </message>
     <message>
+        <source>%1 kann nicht gelesen werden (%2). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 cannot be read (%2). Nothing was written. Please save under another name.</translation>
+    </message>
+    <message>
         <source>%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts geschrieben. Bitte gleich noch einmal speichern.</source>
         <translation>%1 is being saved by another program at this moment. Nothing was written. Please save again in a moment.</translation>
     </message>
     <message>
-        <source>%1 wurde nicht gespeichert. %2 Auch der frühere Inhalt konnte nicht zurückgeholt werden (%3). Er liegt in %4. Bitte unter einem anderen Namen speichern und diese Datei von Hand zurückkopieren.</source>
-        <translation>%1 was not saved. %2 The former content could not be brought back either (%3). It is in %4. Please save under another name and copy that file back by hand.</translation>
+        <source>%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter einem anderen Namen speichern.</source>
+        <translation>%1 was not saved: %2. The file is unchanged, the changes are still open. Please make room and save once more, or save under another name.</translation>
     </message>
     <message>
-        <source>%1 wurde nicht gespeichert. %2 Die Datei ist wieder so wie vor dem Speichern, die Änderungen sind weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter einem anderen Namen speichern.</source>
-        <translation>%1 was not saved. %2 The file is again as it was before, the changes are still open. Please make room and save again, or save under another name.</translation>
+        <source>%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind weiterhin geöffnet. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 was not saved: %2. The file is unchanged, the changes are still open. Please save under another name.</translation>
     </message>
     <message>
         <source>%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts geschrieben.</source>
@@ -267,28 +279,32 @@
         <translation>%1 was changed by somebody else since it was opened, yet not this release (%2). Saving leaves the other releases as they are in the file now. Nothing was written yet.</translation>
     </message>
     <message>
-        <source>Die Datei konnte nicht vollständig geschrieben werden. Möglicherweise ist der Datenträger voll.</source>
-        <translation>The file could not be written completely. Perhaps the disk is full.</translation>
+        <source>%1 wurde während des Speicherns von jemand anderem geändert. Es wurde nichts geschrieben. Bitte noch einmal speichern.</source>
+        <translation>%1 was changed by somebody else while it was being saved. Nothing was written. Please save once more.</translation>
     </message>
     <message>
         <source>Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
         <translation>The backup %1 could not be made (%2). Nothing was written. Please make room or save under another name.</translation>
     </message>
     <message>
-        <source>Die geschriebene Datei enthält nicht, was gespeichert werden sollte.</source>
-        <translation>The file as written does not hold what was to be saved.</translation>
+        <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
+        <translation>Nothing can be made in the folder of %1 (%2). Nothing was written. Please make room or save under another name.</translation>
     </message>
     <message>
-        <source>Die geschriebene Datei ist nicht lesbar: %1</source>
-        <translation>The file as written cannot be read: %1</translation>
+        <source>die Datei konnte nicht vollständig geschrieben werden</source>
+        <translation>the file could not be written completely</translation>
     </message>
     <message>
-        <source>Im Ordner von %1 kann nichts angelegt werden. Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
-        <translation>Nothing can be made in the folder of %1. Nothing was written. Please save under another name.</translation>
+        <source>die geschriebene Datei enthält nicht, was gespeichert werden sollte</source>
+        <translation>the written file does not hold what was to be saved</translation>
     </message>
     <message>
-        <source>In der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer.</source>
-        <translation>In the file as written the release %1 is missing or differs.</translation>
+        <source>die geschriebene Datei ist nicht lesbar (%1)</source>
+        <translation>the written file is not readable (%1)</translation>
+    </message>
+    <message>
+        <source>in der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer</source>
+        <translation>release %1 is missing from the written file, or it is another one</translation>
     </message>
 </context>
 <context>
@@ -720,6 +736,33 @@ Please choose another file or copy a backup (%2) back.</translation>
     <message>
         <source>Verzeichnis des neuen Katalogstands</source>
         <translation>Directory of the new release</translation>
+    </message>
+</context>
+<context>
+    <name>OwnFileTexts</name>
+    <message>
+        <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
+        <translation>something that is no regular file stands in its place</translation>
+    </message>
+    <message>
+        <source>das Schreibrecht fehlt</source>
+        <translation>permission denied</translation>
+    </message>
+    <message>
+        <source>der Datenträger ist schreibgeschützt</source>
+        <translation>the disk is write protected</translation>
+    </message>
+    <message>
+        <source>der Datenträger ist voll</source>
+        <translation>the disk is full</translation>
+    </message>
+    <message>
+        <source>der Ordner oder die Datei ist nicht mehr da</source>
+        <translation>the folder or the file is not there any more</translation>
+    </message>
+    <message>
+        <source>die Datei wird größer, als hier erlaubt ist</source>
+        <translation>the file gets larger than is allowed here</translation>
     </message>
 </context>
 <context>

@@ -162,6 +162,13 @@ FileState FileState::of(const QString &path)
     return state;
 }
 
+QByteArray FileState::hashOf(QByteArrayView content)
+{
+    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+    hash.addData(content);
+    return hash.result().toHex();
+}
+
 bool FileState::sameContent(const FileState &other) const
 {
     return exists == other.exists && size == other.size && hash == other.hash;

@@ -50,6 +50,7 @@ struct VELKCORE_EXPORT FileState
     QByteArray hash; ///< hexadecimal; empty if there is no file or it cannot be read
 
     [[nodiscard]] static FileState of(const QString &path);
+    [[nodiscard]] static QByteArray hashOf(QByteArrayView content);
     /// The same content, whatever the time.
     [[nodiscard]] bool sameContent(const FileState &other) const;
 };

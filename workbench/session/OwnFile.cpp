@@ -1,0 +1,287 @@
+#include "OwnFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+struct OwnFileTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(OwnFileTexts)
+};
+
+bool report(QString *error, const QString &what)
+{
+    if (error)
+        *error = what;
+    return false;
+}
+
+bool reportErrno(QString *error)
+{
+    return report(error, OwnFile::causeOf(errno));
+}
+
+QByteArray nativeName(const QString &path)
+{
+    return QFile::encodeName(path);
+}
+
+QString partName(const QString &path)
+{
+    return path + QStringLiteral(".part");
+}
+
+int flagsOf(QIODevice::OpenMode mode)
+{
+    int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
+    const bool writes = mode.testFlag(QIODevice::WriteOnly);
+    flags |= !writes ? O_RDONLY : mode.testFlag(QIODevice::ReadOnly) ? O_RDWR : O_WRONLY;
+    if (writes && !mode.testFlag(QIODevice::ExistingOnly))
+        flags |= O_CREAT;
+    if (mode.testFlag(QIODevice::NewOnly))
+        flags |= O_EXCL;
+    if (mode.testFlag(QIODevice::Append))
+        flags |= O_APPEND;
+    return flags;
+}
+
+/// Rights and owner of another file, as far as the system allows it.
+void takeAfter(int file, const QString &like)
+{
+    struct stat known
+    {
+    };
+    if (like.isEmpty() || ::lstat(nativeName(like).constData(), &known) != 0 ||
+        !S_ISREG(known.st_mode))
+        return;
+    if (::fchown(file, known.st_uid, known.st_gid) != 0)
+        (void)!::fchown(file, uid_t(-1), known.st_gid);
+    (void)!::fchmod(file, known.st_mode & 07777);
+}
+
+bool writeAll(int file, QByteArrayView content)
+{
+    while (!content.isEmpty()) {
+        const ssize_t count = ::write(file, content.data(), size_t(content.size()));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        content = content.sliced(qsizetype(count));
+    }
+    return true;
+}
+
+/// Some file systems do not know the call; what they took is as safe as it gets there.
+bool syncDescriptor(int file)
+{
+    return ::fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
+}
+
+} // namespace
+
+OwnFile::Place OwnFile::place(const QString &path)
+{
+    struct stat found
+    {
+    };
+    if (::lstat(nativeName(path).constData(), &found) != 0)
+        return errno == ENOENT || errno == ENOTDIR ? Place::Free : Place::Other;
+    return S_ISREG(found.st_mode) ? Place::RegularFile : Place::Other;
+}
+
+QByteArray OwnFile::stamp(const QString &path)
+{
+    struct stat found
+    {
+    };
+    if (::lstat(nativeName(path).constData(), &found) != 0)
+        return QByteArray();
+    const qint64 parts[] = {qint64(found.st_dev), qint64(found.st_ino), qint64(found.st_size),
+                            qint64(found.st_mtim.tv_sec), qint64(found.st_mtim.tv_nsec)};
+    return QByteArray(reinterpret_cast<const char *>(parts), sizeof parts);
+}
+
+QString OwnFile::causeOf(int errorNumber)
+{
+    switch (errorNumber) {
+    case ENOSPC:
+    case EDQUOT:
+        return OwnFileTexts::tr("der Datenträger ist voll");
+    case EFBIG:
+        return OwnFileTexts::tr("die Datei wird größer, als hier erlaubt ist");
+    case EACCES:
+    case EPERM:
+        return OwnFileTexts::tr("das Schreibrecht fehlt");
+    case EROFS:
+        return OwnFileTexts::tr("der Datenträger ist schreibgeschützt");
+    case ENOENT:
+        return OwnFileTexts::tr("der Ordner oder die Datei ist nicht mehr da");
+    case EEXIST:
+    case EISDIR:
+    case ELOOP:
+    case ENXIO:
+        return OwnFileTexts::tr("an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei");
+    default:
+        return qt_error_string(errorNumber);
+    }
+}
+
+bool OwnFile::open(QFile &file, const QString &path, QIODevice::OpenMode mode, QString *error)
+{
+    // Opening a device may do something already.
+    if (place(path) == Place::Other)
+        return report(error, causeOf(ELOOP));
+    constexpr mode_t Rights = 0666;
+    const int descriptor = ::open(nativeName(path).constData(), flagsOf(mode), Rights);
+    if (descriptor < 0)
+        return reportErrno(error);
+    struct stat found
+    {
+    };
+    if (::fstat(descriptor, &found) != 0 || !S_ISREG(found.st_mode)) {
+        ::close(descriptor);
+        return report(error, causeOf(ELOOP));
+    }
+    file.setFileName(path);
+    return file.open(descriptor, mode, QFileDevice::AutoCloseHandle) ||
+           report(error, file.errorString());
+}
+
+std::optional<QByteArray> OwnFile::read(const QString &path, QString *error)
+{
+    QFile file;
+    if (!open(file, path, QIODevice::ReadOnly | QIODevice::Unbuffered, error))
+        return std::nullopt;
+    QByteArray content = file.readAll();
+    if (file.error() == QFileDevice::NoError)
+        return content;
+    report(error, file.errorString());
+    return std::nullopt;
+}
+
+bool OwnFile::sync(QFileDevice &file, QString *error)
+{
+    if (!file.flush())
+        return report(error, file.errorString());
+    return syncDescriptor(file.handle()) || reportErrno(error);
+}
+
+bool OwnFile::syncPath(const QString &path, QString *error)
+{
+    QFile file;
+    return open(file, path, QIODevice::ReadWrite | QIODevice::ExistingOnly, error) &&
+           sync(file, error);
+}
+
+void OwnFile::syncFolder(const QString &path)
+{
+    const int folder = ::open(nativeName(QFileInfo(path).absolutePath()).constData(),
+                              O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    ::fsync(folder);
+    ::close(folder);
+}
+
+bool OwnFile::create(const QString &path, QByteArrayView content, const QString &like,
+                     QString *error)
+{
+    QFile file;
+    if (!open(file, path, QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered, error))
+        return false;
+    takeAfter(file.handle(), like);
+    if (writeAll(file.handle(), content) && syncDescriptor(file.handle()))
+        return true;
+    reportErrno(error);
+    file.close();
+    remove(path);
+    return false;
+}
+
+bool OwnFile::replace(const QString &path, QByteArrayView content, QString *error)
+{
+    const QString part = partName(path);
+    if (place(path) == Place::Other)
+        return report(error, causeOf(ELOOP));
+    if (!remove(part, error) || !create(part, content, path, error))
+        return false;
+    if (!rename(part, path, error)) {
+        remove(part);
+        return false;
+    }
+    syncFolder(path);
+    return true;
+}
+
+bool OwnFile::keep(const QString &file, const QString &second, QString *error)
+{
+    if (place(second) == Place::Other)
+        return report(error, causeOf(ELOOP));
+    const QString part = partName(second);
+    if (!remove(part, error))
+        return false;
+    if (::link(nativeName(file).constData(), nativeName(part).constData()) != 0) {
+        const std::optional<QByteArray> content = read(file, error);
+        return content && replace(second, *content, error);
+    }
+    const bool renamed = rename(part, second, error);
+    // Two names of one file already: then renaming does nothing.
+    remove(part);
+    return renamed;
+}
+
+bool OwnFile::rename(const QString &from, const QString &to, QString *error)
+{
+    return std::rename(nativeName(from).constData(), nativeName(to).constData()) == 0 ||
+           reportErrno(error);
+}
+
+bool OwnFile::remove(const QString &path, QString *error)
+{
+    switch (place(path)) {
+    case Place::Free:
+        return true;
+    case Place::RegularFile:
+        return ::unlink(nativeName(path).constData()) == 0 || reportErrno(error);
+    case Place::Other:
+        break;
+    }
+    return report(error, causeOf(ELOOP));
+}
+
+QString OwnFile::folderFault(const QString &path)
+{
+    // A new file needs room for its content, too.
+    const QString probe = DurableFile::stampedName(path, QStringLiteral("test"));
+    QString error;
+    if (create(probe, QByteArray(512, ' '), QString(), &error))
+        remove(probe, &error);
+    return error;
+}
+
+FileContent FileContent::of(const QString &path)
+{
+    FileContent content;
+    content.state.exists = OwnFile::place(path) != OwnFile::Place::Free;
+    if (!content.state.exists)
+        return content;
+    // Before reading: what changes meanwhile is a change.
+    content.state.time = QFileInfo(path).lastModified().toUTC();
+    const std::optional<QByteArray> bytes = OwnFile::read(path, &content.error);
+    if (!bytes)
+        return content;
+    content.bytes = *bytes;
+    content.state.size = bytes->size();
+    content.state.hash = FileState::hashOf(*bytes);
+    return content;
+}
