@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QLabel>
 #include <QPalette>
+#include <QTextDocument>
 
 namespace {
 
@@ -16,6 +17,19 @@ void setGround(QLabel *label, bool shown)
         palette.setColor(QPalette::Window, QColor(0xe8, 0xe8, 0xe8));
     label->setPalette(palette);
     label->setAutoFillBackground(isDark && shown);
+}
+
+/// As it stands, whatever signs are in it.
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped())
+                                     : text;
+}
+
+QString coloured(const QString &text, const QColor &colour)
+{
+    return QStringLiteral("<span style=\"color:%1;\">%2</span>")
+        .arg(colour.name(), text.toHtmlEscaped());
 }
 
 } // namespace
@@ -36,19 +50,16 @@ void DesignationLabels::show() const
 {
     if (!sourceLabel || !targetLabel)
         return;
-    sourceLabel->setToolTip(sourceText); // where the label is too narrow
-    targetLabel->setToolTip(targetText);
+    sourceLabel->setToolTip(plainToolTip(sourceText)); // where the label is too narrow
+    targetLabel->setToolTip(plainToolTip(targetText));
+    setGround(sourceLabel, !sourceText.isEmpty());
+    setGround(targetLabel, !targetText.isEmpty());
     if (sourceText.isEmpty() && targetText.isEmpty()) {
-        sourceLabel->setText(sourceText);
-        targetLabel->setText(targetText);
-        setGround(sourceLabel, false);
-        setGround(targetLabel, false);
+        sourceLabel->clear();
+        targetLabel->clear();
         return;
     }
     const QColor colour(sourceText == targetText ? Qt::darkGreen : Qt::red);
-    const QString begin = QStringLiteral("<span style=\"color:%1;\">").arg(colour.name());
-    sourceLabel->setText(begin + sourceText + QStringLiteral("</span>"));
-    targetLabel->setText(begin + targetText + QStringLiteral("</span>"));
-    setGround(sourceLabel, !sourceText.isEmpty());
-    setGround(targetLabel, !targetText.isEmpty());
+    sourceLabel->setText(coloured(sourceText, colour));
+    targetLabel->setText(coloured(targetText, colour));
 }

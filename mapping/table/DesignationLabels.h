@@ -19,8 +19,7 @@ struct VELKLINKDBGUI_EXPORT DesignationLabels
 
     void setSourceText(const QString &text);
     void setTargetText(const QString &text);
-
-private:
-    /// Does nothing until both labels are there.
+    /// Does nothing until both labels are there. To be called too when the palette round the labels
+    /// changed.
     void show() const;
 };

@@ -1,3 +1,4 @@
+#include "LineLookUp.h"
 #include "TableMappingWidgetPrivate.h"
 
 #include <core/progress/PProgress.h>
@@ -10,6 +11,8 @@
 #include <geomcore/table/ValueRangeIterator.h>
 #include <geomcore/value/ResolveRangeOptionsC.h>
 #include <gui/progress/DefaultObserverDelegate.h>
+
+#include <QPointer>
 
 namespace {
 
@@ -76,10 +79,7 @@ void TableMappingWidgetPrivate::remapLines()
 {
     PrjMapperC mapper(IndexTreeC::instance());
     mapper.setSourceProject(PPathName(mapping.getSourcePath()));
-    mapper.setSourceTable(sourceTable);
-    const auto state =
-        mapper.findMapping(mapping.getSourcePath(), mapping.getSourceVersion(), currentRelease());
-    if (!(state & PRJMAPPING::StateUsable))
+    if (!lookUp().start(mapper))
         return;
     const VKTab::ContentRef table = sourceTable;
     const QVector<VKTab::LineId> lines = table.getLineIdList();
@@ -87,6 +87,7 @@ void TableMappingWidgetPrivate::remapLines()
     observer.activate(1);
     PProgress progress(0, double(lines.size()), 1.0, true, false);
     progress.setText(PString::translate("Zeilen werden neu zugewiesen", "VelkLinkDbGui"));
+    const QPointer<TableMappingWidgetPrivate> alive = this; // the progress delivers events
     const QStringList read = conditionVariables();
     QStringList variables = valueRangeVariables(table);
     variables.removeIf([&](const QString &name) { return !read.contains(name); });
@@ -100,6 +101,8 @@ void TableMappingWidgetPrivate::remapLines()
         progress.nextStep();
     }
     progress.done();
+    if (!alive)
+        return;
     mapping = mapper.getMappingNode().getMapping();
     publish(PrjMappingC(mapping));
 }

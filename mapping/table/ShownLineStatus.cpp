@@ -52,14 +52,12 @@ void ShownLineStatus::update(const VKTab::ContentRef &table, const PrjMappingC &
     m_offersRanges = ranges;
     m_mapping = mapping;
     const std::set<int> modified = std::exchange(m_modified, {});
+    if (!table.isValid())
+        return;
     if (!changed) {
         updateAll();
         return;
     }
-    const auto updateNumber = [&](int line) {
-        if (const VKTab::LineId id = table.getLineInfo(line).getLineId(); id.isValid())
-            updateLine(id, *layer);
-    };
     for (const int line : *changed)
         updateNumber(line);
     for (const int line : modified)
@@ -71,14 +69,25 @@ void ShownLineStatus::updateAll()
     m_hasSecondNumbers = false;
     for (const VKTab::LineId &id : m_table.getLineIdList()) {
         m_hasSecondNumbers = m_hasSecondNumbers || id.value(1) != 0;
-        const boost::shared_ptr<VKTab::BaseLayer> layer = m_table.getModifyLayer();
-        updateLine(id, *layer);
+        updateLine(id);
         if (m_offersRanges)
-            layer->setLineKeyValue(id, QStringLiteral("ValueRangeMapping"), QStringLiteral("VR"));
+            write(id, QStringLiteral("ValueRangeMapping"), QStringLiteral("VR"));
     }
 }
 
-void ShownLineStatus::updateLine(const VKTab::LineId &id, VKTab::BaseLayer &layer) const
+void ShownLineStatus::updateNumber(int line) const
 {
-    layer.setLineKeyValue(id, QStringLiteral("CatalogMapper"), statusOf(m_table, id, m_mapping));
+    if (const VKTab::LineId id = m_table.getLineInfo(line).getLineId(); id.isValid())
+        updateLine(id);
+}
+
+void ShownLineStatus::updateLine(const VKTab::LineId &id) const
+{
+    write(id, QStringLiteral("CatalogMapper"), statusOf(m_table, id, m_mapping));
+}
+
+void ShownLineStatus::write(const VKTab::LineId &id, const QString &key, const QString &value) const
+{
+    // Asked anew: whoever heard of the write before may have had the table read again.
+    m_table.getModifyLayer()->setLineKeyValue(id, key, value);
 }

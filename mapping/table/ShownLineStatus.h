@@ -24,7 +24,9 @@ public:
 
 private:
     void updateAll();
-    void updateLine(const VKTab::LineId &id, VKTab::BaseLayer &layer) const;
+    void updateNumber(int line) const;
+    void updateLine(const VKTab::LineId &id) const;
+    void write(const VKTab::LineId &id, const QString &key, const QString &value) const;
 
     VKTab::ContentRef m_table;
     PrjMappingC m_mapping;

@@ -1,47 +1,28 @@
 #include "TableMappingWidgetPrivate.h"
-#include "LineActionButton.h"
 
+#include "LineLookUp.h"
+#include "lineStatusKeys.h"
+#include "lineToolTips.h"
+#include "RangeRun.h"
+#include "TablePane.h"
+#include "TargetTableView.h"
+
+#include <mapping/view/CatalogMappingWidget.h>
+
+#include <core/config/PConfigService.h>
+#include <core/text/PPathName.h>
 #include <core/text/PString.h>
+#include <geomcore/table/Line.h>
+#include <geomcore/table/SignalConnect.h>
+#include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QCheckBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
 
-namespace {
-
-QLabel *createLabel(const QString &name, const QString &meaning, QWidget *parent)
-{
-    auto *const label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setAccessibleName(meaning);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setMinimumWidth(1); // a long text must not keep the pane from getting narrower
-    return label;
-}
-
-/// A caption, a text and room behind them.
-QHBoxLayout *createRow(const QString &caption, QLabel *label)
-{
-    auto *const row = new QHBoxLayout;
-    row->setContentsMargins(4, 0, 0, 0);
-    row->addWidget(new QLabel(caption, label->parentWidget()));
-    row->addWidget(label);
-    row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum));
-    return row;
-}
-
-QCheckBox *createBox(const char *name, const QString &text, QWidget *parent)
-{
-    auto *const box = new QCheckBox(text, parent);
-    box->setObjectName(QLatin1String(name));
-    return box;
-}
-
-} // namespace
+#include <boost/make_shared.hpp>
 
 TableMappingWidgetPrivate::TableMappingWidgetPrivate(TableMappingWidget *widget)
     : PPrivateData<TableMappingWidget>(widget)
@@ -56,28 +37,30 @@ TableMappingWidgetPrivate::TableMappingWidgetPrivate(TableMappingWidget *widget)
     auto *const splitter = new QSplitter(Qt::Horizontal, q);
     splitter->setObjectName(QStringLiteral("tableSplitter"));
     layout->addWidget(splitter, 1);
-    splitter->addWidget(createSourcePane());
-    splitter->addWidget(createTargetPane());
-    QCheckBox *const hiddenBox = createBox(
-        "chkShowHiddenCols", PString::translate("Versteckte Spalten anzeigen", "VelkLinkDbGui"), q);
+    m_sourcePane = createSourcePane();
+    splitter->addWidget(m_sourcePane);
+    m_targetPane = createTargetPane();
+    splitter->addWidget(m_targetPane);
+    m_target = std::make_unique<TargetTableView>(targetView, sourceView);
+    connect(m_sourcePane, &TablePane::paletteChanged, this, [this] { designationLabels.show(); });
+    connect(m_targetPane, &TablePane::paletteChanged, this, [this] { designationLabels.show(); });
+    auto *const hiddenBox =
+        new QCheckBox(PString::translate("Versteckte Spalten anzeigen", "VelkLinkDbGui"), q);
+    hiddenBox->setObjectName(QStringLiteral("chkShowHiddenCols"));
     connect(hiddenBox, SIGNAL(toggled(bool)), this, SLOT(onToggleShowHiddenCols()));
     layout->addWidget(hiddenBox);
 }
 
-TableMappingWidgetPrivate::~TableMappingWidgetPrivate() = default;
-
-VkTableView *TableMappingWidgetPrivate::createView(const char *name)
+TableMappingWidgetPrivate::~TableMappingWidgetPrivate()
 {
-    auto *const view = new VkTableView(q);
-    view->setObjectName(QLatin1String(name));
-    view->setHeaderVisible(false);
-    view->setShowTopoValues(false);
-    return view;
+    if (m_run)
+        m_run->forgetTargetView();
 }
 
-QWidget *TableMappingWidgetPrivate::createSourcePane()
+TablePane *TableMappingWidgetPrivate::createSourcePane()
 {
-    sourceView = createView("sourceView");
+    auto *const pane = new TablePane(QStringLiteral("source"), q);
+    sourceView = pane->view();
     sourceView->connectPopupShow(
         [this, alive = reference()](const VKTab::Content &content, QMenu *menu, int area, int row) {
             return alive.expired() ? 0 : onSourcePopupShow(content, menu, area, row);
@@ -87,103 +70,76 @@ QWidget *TableMappingWidgetPrivate::createSourcePane()
             return alive.expired() ? 0 : onStatusIconClicked(content, row, key);
         });
     sourceView->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    sourceView->setShowInternalValues(true);
+    sourcePathLabel = pane->pathLabel();
+    sourceNumberLabel = pane->numberLabel();
+    designationLabels.sourceLabel = pane->designationLabel();
     btnResolvedRanges =
-        createButton("btnResolvedRanges", ":/toolicons/actionFormatRanges_16.png",
-                     PString::translate("Aufgelöste Wertebereiche zuordnen", "VelkLinkDbGui"), {},
-                     SLOT(onMapResolvedValueRangesClicked()));
+        pane->addButton("btnResolvedRanges", ":/toolicons/actionFormatRanges_16.png",
+                        PString::translate("Aufgelöste Wertebereiche zuordnen", "VelkLinkDbGui"));
     btnResolvedRanges->setEnabled(false);
+    connect(btnResolvedRanges, SIGNAL(clicked()), this, SLOT(onMapResolvedValueRangesClicked()));
     btnCondition =
-        createButton("btnCondition", ":/toolicons/actionFormatAlgorithm_16.png",
-                     PString::translate("Bedingung für die markierte Zeile generieren und in die "
-                                        "Zwischenablage kopieren",
-                                        "VelkLinkDbGui"),
-                     {}, SLOT(onCreateConditionClicked()));
-    QPushButton *const verifyAll =
-        createButton("btnVerifyAll", ":/bitmaps/double_check.png",
-                     PString::translate("Alle Zuordnungen bestätigen", "VelkLinkDbGui"), {},
-                     SLOT(onVerifyAllClicked()));
-    chkFilterSource = createBox(
+        pane->addButton("btnCondition", ":/toolicons/actionFormatAlgorithm_16.png",
+                        PString::translate("Bedingung für die markierte Zeile generieren und in "
+                                           "die Zwischenablage kopieren",
+                                           "VelkLinkDbGui"));
+    connect(btnCondition, SIGNAL(clicked()), this, SLOT(onCreateConditionClicked()));
+    const QPushButton *const verifyAll =
+        pane->addButton("btnVerifyAll", ":/bitmaps/double_check.png",
+                        PString::translate("Alle Zuordnungen bestätigen", "VelkLinkDbGui"));
+    connect(verifyAll, SIGNAL(clicked()), this, SLOT(onVerifyAllClicked()));
+    chkFilterSource = pane->addBox(
         "chkFilterSource",
-        PString::translate("Zeige nur nicht zugewiesene Zeilen (Quellprojekt)", "VelkLinkDbGui"),
-        q);
+        PString::translate("Zeige nur nicht zugewiesene Zeilen (Quellprojekt)", "VelkLinkDbGui"));
     connect(chkFilterSource, SIGNAL(stateChanged(int)), this, SLOT(onChkFilterNotMappedLines(int)));
-    const Pane pane = createTablePane(
-        "source", sourceView, {btnResolvedRanges, btnCondition, verifyAll}, chkFilterSource);
-    sourcePathLabel = pane.path;
-    sourceNumberLabel = pane.number;
-    designationLabels.sourceLabel = pane.designation;
-    return pane.widget;
+    return pane;
 }
 
-QWidget *TableMappingWidgetPrivate::createTargetPane()
+TablePane *TableMappingWidgetPrivate::createTargetPane()
 {
-    targetView = createView("targetView");
+    auto *const pane = new TablePane(QStringLiteral("target"), q);
+    targetView = pane->view();
     targetView->connectPopupShow(
         [this, alive = reference()](const VKTab::Content &content, QMenu *menu, int area, int row) {
             return alive.expired() ? 0 : onTargetPopupShow(content, menu, area, row);
         });
-    targetView->setShowInternalValues(true);
-    btnMapLine = createButton(
+    targetPathLabel = pane->pathLabel();
+    targetNumberLabel = pane->numberLabel();
+    designationLabels.targetLabel = pane->designationLabel();
+    btnMapLine = pane->addButton(
         "btnMapLine", ":/bitmaps/line.png",
         PString::translate("Aktuell markierte Zeile zuordnen", "VelkLinkDbGui") + " (v)",
-        QKeySequence(Qt::Key_V), SLOT(onMapLineClicked()));
-    btnRemoveLine = createButton(
+        QKeySequence(Qt::Key_V));
+    connect(btnMapLine, SIGNAL(clicked()), this, SLOT(onMapLineClicked()));
+    btnRemoveLine = pane->addButton(
         "btnRemoveLine", "bitmaps:indextree/state_deleted.png",
         PString::translate("Zuordnung zu diesem Projekt aufheben", "VelkLinkDbGui") + " (x)",
-        QKeySequence(Qt::Key_X), SLOT(onRemoveLineMappingClicked()));
-    btnRemoveVerifyLine = createButton(
+        QKeySequence(Qt::Key_X));
+    connect(btnRemoveLine, SIGNAL(clicked()), this, SLOT(onRemoveLineMappingClicked()));
+    btnRemoveVerifyLine = pane->addButton(
         "btnRemoveVerifyLine", ":/bitmaps/remove_verify.png",
         PString::translate("Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)",
                            "VelkLinkDbGui"),
-        QKeySequence(Qt::CTRL | Qt::Key_X), SLOT(onRemoveVerifyLineMappingClicked()));
-    chkFilterTarget = createBox(
+        QKeySequence(Qt::CTRL | Qt::Key_X));
+    connect(btnRemoveVerifyLine, SIGNAL(clicked()), this, SLOT(onRemoveVerifyLineMappingClicked()));
+    chkFilterTarget = pane->addBox(
         "chkFilterTarget",
-        PString::translate("Zeige nur nicht zugewiesene Zeilen (Zielprojekt)", "VelkLinkDbGui"), q);
+        PString::translate("Zeige nur nicht zugewiesene Zeilen (Zielprojekt)", "VelkLinkDbGui"));
     connect(chkFilterTarget, SIGNAL(stateChanged(int)), this, SLOT(onChkFilterTargetLines(int)));
-    const Pane pane = createTablePane(
-        "target", targetView, {btnMapLine, btnRemoveLine, btnRemoveVerifyLine}, chkFilterTarget);
-    targetPathLabel = pane.path;
-    targetNumberLabel = pane.number;
-    designationLabels.targetLabel = pane.designation;
-    return pane.widget;
-}
-
-TableMappingWidgetPrivate::Pane
-TableMappingWidgetPrivate::createTablePane(const QString &side, VkTableView *view,
-                                           const QList<QPushButton *> &buttons, QCheckBox *box)
-{
-    const QString designation = PString::translate("Normbezeichnung", "VelkLinkDbGui");
-    const QString number = PString::translate("Normnummer", "VelkLinkDbGui");
-    const QString path = PString::translate("Pfad:", "VelkLinkDbGui");
-    Pane pane;
-    pane.widget = new QWidget(q);
-    pane.path = createLabel(side + "PathLabel", path, pane.widget);
-    pane.designation = createLabel(side + "DesignationLabel", designation, pane.widget);
-    pane.number = createLabel(side + "NumberLabel", number, pane.widget);
-    auto *const layout = new QVBoxLayout(pane.widget);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(createRow(path + " ", pane.path));
-    layout->addLayout(createRow(designation + ": ", pane.designation));
-    QHBoxLayout *const numberRow = createRow(number + ": ", pane.number);
-    for (QPushButton *const button : buttons)
-        numberRow->addWidget(button);
-    layout->addLayout(numberRow);
-    layout->addWidget(view, 1);
-    layout->addWidget(box);
     return pane;
 }
 
-QPushButton *TableMappingWidgetPrivate::createButton(const char *name, const QString &icon,
-                                                     const QString &toolTip,
-                                                     const QKeySequence &keys, const char *slot)
+void TableMappingWidgetPrivate::setupStatusKeys(
+    boost::shared_ptr<VKTab::TabOptions> &tableOptions) const
 {
-    auto *const button = new LineActionButton(QIcon(icon), QString(), q);
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(toolTip);
-    button->setAccessibleName(toolTip);
-    button->setShortcut(keys);
-    button->setFocusPolicy(Qt::TabFocus); // after a click the arrow keys still walk the lines
-    connect(button, SIGNAL(clicked()), this, slot);
-    return button;
+    if (!tableOptions) {
+        tableOptions = boost::make_shared<VKTab::TabOptions>();
+        tableOptions->setStatusColumnsShown(true);
+        tableOptions->load(PConfigService::getConfig(0, QStringLiteral("velkopt")));
+    }
+    // The options may outlive the widget.
+    setLineStatusKeys(*tableOptions,
+                      [this, alive = reference()](const VKTab::LineI &line, int, int, QWidget *) {
+                          return alive.expired() ? QString() : lineToolTip(line);
+                      });
 }

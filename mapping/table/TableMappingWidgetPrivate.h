@@ -1,15 +1,15 @@
 #pragma once
 
 #include "DesignationLabels.h"
-#include "MappedTargetLines.h"
+#include "LineDecisions.h"
 #include "ShownLineStatus.h"
+#include "TableLineFilters.h"
 #include "TableMappingWidget.h"
 
 #include <core/text/PPrivateData.h>
 #include <core/text/ReferingObject.h>
 #include <geomcore/expression/MapVarValueC.h>
-#include <geomcore/mapper/PrjMapperC.h>
-#include <geomcore/table/FilterByLineId.h>
+#include <geomcore/mapper/PrjMapperLineC.h>
 #include <geomcore/table/TabOptions.h>
 
 #include <boost/signals2/connection.hpp>
@@ -18,20 +18,27 @@
 #include <QObject>
 #include <QStringList>
 
-#include <functional>
+#include <memory>
+#include <utility>
 
 QT_BEGIN_NAMESPACE
 class QAction;
 class QCheckBox;
-class QKeySequence;
 class QLabel;
 class QMenu;
 class QPushButton;
 QT_END_NAMESPACE
 
+class LineLookUp;
+class PrjMapperCheckResultC;
+class RangeRun;
+class TablePane;
+class TargetTableView;
 class VkTableView;
 
-/// State of a TableMappingWidget, with the slots of its buttons, boxes and menus.
+/// State of a TableMappingWidget, with the slots of its buttons, boxes and menus. Says what follows
+/// what; how a pane looks, a target table is shown, lines are filtered, decided and looked up is
+/// each the matter of a class.
 class TableMappingWidgetPrivate : public QObject,
                                   public PPrivateData<TableMappingWidget>,
                                   public ReferingObject
@@ -126,63 +133,42 @@ public:
     void editValueRangeMapping(int row);
 
 private:
-    struct Pane
-    {
-        QLabel *path = nullptr;
-        QLabel *designation = nullptr;
-        QLabel *number = nullptr;
-        QWidget *widget = nullptr;
-    };
-    [[nodiscard]] QWidget *createSourcePane();
-    [[nodiscard]] QWidget *createTargetPane();
-    [[nodiscard]] Pane createTablePane(const QString &side, VkTableView *view,
-                                       const QList<QPushButton *> &buttons, QCheckBox *box);
-    QPushButton *createButton(const char *name, const QString &icon, const QString &toolTip,
-                              const QKeySequence &keys, const char *slot);
-    VkTableView *createView(const char *name);
-
-    [[nodiscard]] CatalogMappingC currentRelease() const;
-    /// False if the mapping cannot be used.
-    [[nodiscard]] bool startMapper(PrjMapperC &mapper) const;
+    // Set-up
+    [[nodiscard]] TablePane *createSourcePane();
+    [[nodiscard]] TablePane *createTargetPane();
     void connectSourceTable();
     void connectTargetTable(const VKTab::ContentRef &table);
+
+    [[nodiscard]] LineLookUp lookUp() const;
     void clearTargetTable();
     [[nodiscard]] QString builtPath(const QString &targetPath) const;
+    /// Indexes of the targets whose project the table is of.
     [[nodiscard]] QList<int> targetsOf(const VKTab::Content &table) const;
-    [[nodiscard]] QString conflictText(const PrjMapperLineC &line) const;
-    [[nodiscard]] QString checkText(const VKTab::LineId &id) const;
+    [[nodiscard]] bool hasConflict(const PrjMapperLineC &line) const;
+    [[nodiscard]] QStringList checkMessages(const VKTab::LineId &id) const;
 
     // showSourceLine
     [[nodiscard]] bool showSingleLine(const VKTab::LineId &id, bool *assignEnabled);
-    [[nodiscard]] VKTab::ContentRef targetTableFor(const QString &path, bool *reused);
-    [[nodiscard]] VKTab::ContentRef readTargetTable(const QString &path);
-    void showTargetLine(VKTab::ContentRef &table, const PrjMapperLineC &line, const Varset &varset);
-    void markTargetLine(const VKTab::ContentRef &table);
+    [[nodiscard]] VKTab::ContentRef showTargetTable(const QString &path, bool *isReused);
     [[nodiscard]] VKTab::LineId lineOfTargetSelection() const;
     void showMapButton(const PrjMapperLineC &line, const VKTab::LineId &sourceLine, bool isCurrent);
 
-    // Actions
+    // Actions. Whoever hears of a change may close the widget.
     [[nodiscard]] QStringList conditionVariables() const;
     void mapLine(const VKTab::LineId &id, const QStringList &variables);
-    /// \a values are empty for those of the line; \a chosen is the target line to take, null to
-    /// keep the assigned one.
-    void mapCombination(const VKTab::LineId &id, const Varset &values, const VKTab::LineId *chosen);
-    void removeLine(const VKTab::LineId &id);
+    void publish(const LineDecision &decision);
     void showFailingValues(const VKTab::LineId &id);
     [[nodiscard]] bool confirmsValueRangeRun() const;
     [[nodiscard]] QStringList chooseRangeVariables();
     QAction *addMenuRow(QMenu *menu, const QString &text, const QString &icon, const char *slot);
     [[nodiscard]] bool canConfirmSelection() const;
 
-    // Filters
-    using LineNumbers = QHash<int, VKTab::TabFilterData>;
-    static void setLineFilter(VKTab::ContentRef table, const LineNumbers &lines);
-    [[nodiscard]] LineNumbers linesWithoutSource(const VKTab::Content &table) const;
-
+    TablePane *m_sourcePane = nullptr;
+    TablePane *m_targetPane = nullptr;
+    std::unique_ptr<TargetTableView> m_target;
+    TableLineFilters m_filters;
     ShownLineStatus m_shownStatus;
-    MappedTargetLines m_mappedTargetLines; ///< of m_filteredTable
-    VKTab::ContentRef m_filteredTable;
-    VKTab::FilterByLineId m_targetFilter; ///< the one that chkFilterTarget set last
-    VKTab::ContentRef m_markedTable;
-    VKTab::LineId m_markedLine; ///< of m_markedTable
+    /// What the mapper said of the line that is being shown.
+    std::optional<std::pair<VKTab::LineId, PrjMapperLineC>> m_lookedUp;
+    RangeRun *m_run = nullptr; ///< while one is under way
 };

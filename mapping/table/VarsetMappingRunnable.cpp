@@ -6,6 +6,7 @@
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
 #include <geomcore/binding/createVarsetFromVKTable.h>
+#include <geomcore/expression/toTabVarValues.h>
 #include <geomcore/table/Finder.h>
 #include <geomcore/table/Reader.h>
 #include <geomcore/table/ValueRangeIterator.h>
@@ -101,10 +102,22 @@ VKTab::ContentRef VarsetMappingRunnable::targetTable(const QString &targetPath)
     const refHandle<PrjClass> project(new PrjClass(false, false, false));
     project->read(PPathName(path).native(), PrjClass::ReadAll);
     VKTab::Reader().readByProject(project, table, true);
-    if (m_task.targetView)
-        m_task.targetView->model()->setShowHiddenVars(m_task.showHiddenCols);
+    showHiddenColumns();
     m_tables.insert(targetPath, table);
     return table;
+}
+
+void VarsetMappingRunnable::showHiddenColumns()
+{
+    const std::lock_guard guard(m_viewLock);
+    if (m_task.targetView)
+        m_task.targetView->model()->setShowHiddenVars(m_task.showHiddenCols);
+}
+
+void VarsetMappingRunnable::forgetTargetView()
+{
+    const std::lock_guard guard(m_viewLock);
+    m_task.targetView = nullptr;
 }
 
 VKTab::LineId VarsetMappingRunnable::findLine(const VKTab::Content &table,
@@ -119,9 +132,7 @@ VKTab::LineId VarsetMappingRunnable::findLine(const VKTab::Content &table,
 QList<VKTab::FindValue> VarsetMappingRunnable::findValues(const VKTab::Content &table,
                                                           const Varset &varset) const
 {
-    QList<TabVarValue> values;
-    for (const MapVarValueC &value : varset)
-        values.append(value.toTabVarValue());
+    const QList<TabVarValue> values = toTabVarValues(varset);
     const VKTab::Finder finder;
     QList<VKTab::FindValue> found = finder.toValueList(table, values, VKTab::FilterDefault);
     QStringList missing = m_task.variables;

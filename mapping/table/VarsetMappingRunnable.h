@@ -14,6 +14,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <mutex>
+
 class ProgressEventAccumulatorBase;
 class VkTableView;
 
@@ -41,6 +43,9 @@ public:
 
     void run() override;
 
+    /// Before the target view goes, on the GUI thread while the work may go on.
+    void forgetTargetView();
+
     /// After the run.
     [[nodiscard]] PrjMappingC getMapping() const { return m_task.mapping; }
     /// A value combination was recorded. After the run.
@@ -55,11 +60,13 @@ private:
     void mapLine(const VKTab::LineId &id);
     void mapCombination(int sourceLine, const Varset &varset, Touched &touched);
     [[nodiscard]] VKTab::ContentRef targetTable(const QString &targetPath);
+    void showHiddenColumns();
     [[nodiscard]] VKTab::LineId findLine(const VKTab::Content &table, const Varset &varset) const;
     [[nodiscard]] QList<VKTab::FindValue> findValues(const VKTab::Content &table,
                                                      const Varset &varset) const;
 
     Task m_task;
+    std::mutex m_viewLock; ///< guards the target view
     bool m_changed = false;
     QHash<QString, VKTab::ContentRef> m_tables; ///< by target path as stored
     const VKTab::ResolveRangeOptionsC m_options;

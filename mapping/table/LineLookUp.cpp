@@ -1,4 +1,4 @@
-#include "TableMappingWidgetPrivate.h"
+#include "LineLookUp.h"
 
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/index/IndexTreeC.h>
@@ -17,38 +17,46 @@ PrjMapperLineC lookUp(PrjMapperC &mapper, int number, const Values &values)
 
 } // namespace
 
-CatalogMappingC TableMappingWidgetPrivate::currentRelease() const
+LineLookUp::LineLookUp(const VKTab::ContentRef &sourceTable, const PrjMappingC &mapping,
+                       const CatalogMappingC &catalog)
+    : m_table(sourceTable)
+    , m_mapping(mapping)
+    , m_catalog(catalog)
+{
+}
+
+CatalogMappingC LineLookUp::release() const
 {
     CatalogMappingC catalog;
-    const QList<ReleaseMappingC> releases = catalogMapping.getReleases();
+    const QList<ReleaseMappingC> releases = m_catalog.getReleases();
     if (releases.isEmpty())
         return catalog;
     ReleaseMappingC release;
     release.setSourceDate(releases.first().getSourceDate());
     release.setTargetDate(releases.first().getTargetDate());
-    release.addMapping(mapping);
+    release.addMapping(m_mapping);
     catalog.addRelease(release);
     return catalog;
 }
 
-bool TableMappingWidgetPrivate::startMapper(PrjMapperC &mapper) const
+bool LineLookUp::start(PrjMapperC &mapper) const
 {
-    mapper.setSourceTable(sourceTable);
+    mapper.setSourceTable(m_table);
     const auto state =
-        mapper.findMapping(mapping.getSourcePath(), mapping.getSourceVersion(), currentRelease());
+        mapper.findMapping(m_mapping.getSourcePath(), m_mapping.getSourceVersion(), release());
     return state & PRJMAPPING::StateUsable;
 }
 
-PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id, Varset &varset,
-                                                        PrjMapperCheckResultC *check) const
+PrjMapperLineC LineLookUp::find(const VKTab::LineId &id, Varset &varset,
+                                PrjMapperCheckResultC *check) const
 {
-    if (catalogMapping.getReleases().isEmpty())
+    if (m_catalog.getReleases().isEmpty())
         return {};
     if (varset.isEmpty())
-        varset = createVarsetFromVKTable(sourceTable, id, {});
+        varset = createVarsetFromVKTable(m_table, id, {});
     PrjMapperC mapper(IndexTreeC::instance());
     PrjMapperLineC line;
-    if (startMapper(mapper)) {
+    if (start(mapper)) {
         line = lookUp(mapper, id.value(0), varset);
         if (line.isValid() && line.isFound())
             varset = mapper.updateVarset(line, varset, VarsetTargetVariables);
@@ -58,18 +66,16 @@ PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id,
     return line;
 }
 
-PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id,
-                                                        const Varset &values) const
+PrjMapperLineC LineLookUp::find(const VKTab::LineId &id, const Varset &values) const
 {
-    if (catalogMapping.getReleases().isEmpty())
+    if (m_catalog.getReleases().isEmpty())
         return {};
     PrjMapperC mapper(IndexTreeC::instance());
-    if (!startMapper(mapper))
+    if (!start(mapper))
         return {};
     if (!values.isEmpty())
         return lookUp(mapper, id.value(0), values);
-    const VKTab::LineView view(sourceTable, id);
-    return view.isValid()
-               ? lookUp(mapper, id.value(0), view)
-               : lookUp(mapper, id.value(0), createVarsetFromVKTable(sourceTable, id, {}));
+    const VKTab::LineView view(m_table, id);
+    return view.isValid() ? lookUp(mapper, id.value(0), view)
+                          : lookUp(mapper, id.value(0), createVarsetFromVKTable(m_table, id, {}));
 }

@@ -1,15 +1,10 @@
-#include "conditionText.h"
 #include "TableMappingWidgetPrivate.h"
 
 #include <core/text/PString.h>
-#include <geomcore/binding/createVarsetFromVKTable.h>
-#include <geomcore/table/Finder.h>
-#include <geomcore/table/Line.h>
+#include <geomcore/table/Content.h>
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QAction>
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QMenu>
 
 namespace {
@@ -102,32 +97,4 @@ int TableMappingWidgetPrivate::onStatusIconClicked(const VKTab::Content &content
     if (id.isValid())
         showFailingValues(id);
     return 0;
-}
-
-void TableMappingWidgetPrivate::showFailingValues(const VKTab::LineId &id)
-{
-    PrjMapperCheckResultC check(false, QString(), QString(), {}, {}, {});
-    Varset varset;
-    const PrjMapperLineC mapperLine = mapperLineFor(id, varset, &check);
-    if (!mapperLine.isValid() || check.isOK() || check.getSourceVarset().isEmpty())
-        return;
-    QList<TabVarValue> values;
-    for (const MapVarValueC &value : check.getSourceVarset())
-        values.append(value.toTabVarValue());
-    VKTab::Line line = sourceTable.getLine(id, false);
-    const VKTab::Finder finder;
-    finder.cmpLineWithValues(line, finder.toValueList(sourceTable, values, VKTab::FilterDefault));
-    line.apply();
-}
-
-void TableMappingWidgetPrivate::onCreateConditionClicked()
-{
-    if (!sourceTable.isValid())
-        return;
-    const VKTab::LineId id = sourceTable.getSelection();
-    if (!id.isValid())
-        return;
-    const Varset varset = createVarsetFromVKTable(sourceTable, id, {});
-    if (!varset.isEmpty())
-        QGuiApplication::clipboard()->setText(conditionText(varset), QClipboard::Clipboard);
 }

@@ -1,14 +1,18 @@
-#include "LineIdColumnLayer.h"
 #include "TableMappingWidgetPrivate.h"
+
+#include "LineLookUp.h"
+#include "lineToolTips.h"
+#include "removeProjectFilters.h"
+#include "TablePane.h"
+#include "TargetTableView.h"
 
 #include <mapping/project/ProjectMappingWidget.h>
 #include <mapping/view/CatalogMappingWidget.h>
 
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
-#include <geomcore/table/FileLayer.h>
-#include <geomcore/table/Finder.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/mapper/PrjMapperCheckResultC.h>
+#include <geomcore/table/Line.h>
 #include <geomcore/table/SignalConnect.h>
 #include <geomcore/value/LangThreadSettings.h>
 #include <geomcoregui/table/VkTableModel.h>
@@ -17,32 +21,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
-
-namespace {
-
-/// The project's own line filters must not hide lines from the editor.
-void removeProjectFilters(const VKTab::Content &table)
-{
-    const boost::shared_ptr<VKTab::FileLayer> layer = table.getFileLayer();
-    if (!layer)
-        return;
-    layer->removeFilterCondition(QStringLiteral("PRJLINECOND"));
-    layer->removeFilterCondition(QStringLiteral("BYPRJ"));
-}
-
-/// The tool tip serves where the pane is too narrow for the path.
-void showPath(QLabel *label, const QString &path)
-{
-    label->setText(path);
-    label->setToolTip(path);
-}
-
-QString normNumberOf(const VKTab::Content &table)
-{
-    return table.getKeyValue(VKTab::KeyNormNumber).toString();
-}
-
-} // namespace
+#include <QScopeGuard>
 
 void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
                                                 const PrjMappingC &newMapping,
@@ -56,15 +35,14 @@ void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
         sourceTable.setOptions(options);
     removeProjectFilters(sourceTable);
     btnResolvedRanges->setEnabled(!valueRangeVariables(sourceTable).isEmpty());
-    showPath(sourcePathLabel, newMapping.getSourcePath());
-    sourceNumberLabel->setText(normNumberOf(sourceTable));
+    m_sourcePane->showPath(newMapping.getSourcePath());
+    m_sourcePane->showNumberOf(sourceTable);
     designationLabels.setSourceText(QString());
     sourceView->setTable(sourceTable);
     sourceView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     clearTargetTable();
-    showPath(targetPathLabel, QString());
+    m_targetPane->clearTexts();
     designationLabels.setTargetText(QString());
-    targetNumberLabel->clear();
     mapping = newMapping;
     catalogMapping = catalog;
     connectSourceTable();
@@ -117,12 +95,35 @@ int TableMappingWidgetPrivate::onTargetLineSelected(const VKTab::LineId &id, boo
     return 0;
 }
 
+void TableMappingWidgetPrivate::updateLineStatus()
+{
+    m_lookedUp.reset();
+    m_shownStatus.update(sourceTable, mapping);
+}
+
+LineLookUp TableMappingWidgetPrivate::lookUp() const
+{
+    return LineLookUp(sourceTable, mapping, catalogMapping);
+}
+
+PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id, Varset &varset,
+                                                        PrjMapperCheckResultC *check) const
+{
+    return lookUp().find(id, varset, check);
+}
+
+PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id,
+                                                        const Varset &values) const
+{
+    if (m_lookedUp && m_lookedUp->first == id && values.isEmpty())
+        return m_lookedUp->second;
+    return lookUp().find(id, values);
+}
+
 void TableMappingWidgetPrivate::clearTargetTable()
 {
-    if (!(targetView->getTable() == VKTab::ContentRef()))
-        targetView->setTable(VKTab::ContentRef());
-    m_markedTable = VKTab::ContentRef();
-    m_filteredTable = VKTab::ContentRef();
+    m_target->clear();
+    m_filters.forgetTarget();
 }
 
 void TableMappingWidgetPrivate::showSourceLine(const VKTab::LineId &id)
@@ -130,8 +131,7 @@ void TableMappingWidgetPrivate::showSourceLine(const VKTab::LineId &id)
     const int selected = sourceView->getSelectedLineCount();
     designationLabels.setSourceText(QString());
     designationLabels.setTargetText(QString());
-    targetNumberLabel->clear();
-    showPath(targetPathLabel, QString());
+    m_targetPane->clearTexts();
     bool removeEnabled = false;
     bool assignEnabled = true;
     if (selected > 1) {
@@ -166,52 +166,37 @@ bool TableMappingWidgetPrivate::showSingleLine(const VKTab::LineId &id, bool *as
         sourceTable.getLine(id, false).getValue(VKTab::LineI::NormDesignation, {}).toString());
     Varset varset;
     const PrjMapperLineC line = mapperLineFor(id, varset, nullptr);
+    m_lookedUp = {id, line};
+    const auto forget = qScopeGuard([this] { m_lookedUp.reset(); });
     if (!line.isValid() || !line.isFound())
         return false;
     *assignEnabled = false;
     bool isReused = false;
-    VKTab::ContentRef table = targetTableFor(builtPath(line.getTargetPath()), &isReused);
+    const VKTab::ContentRef table = showTargetTable(builtPath(line.getTargetPath()), &isReused);
     if (!table.isValid())
         return false;
     const int horizontal = targetView->getHorizontalScrollPos();
-    targetNumberLabel->setText(normNumberOf(table));
-    showTargetLine(table, line, varset);
-    showPath(targetPathLabel, line.getTargetPath());
+    m_targetPane->showNumberOf(table);
+    // The box would set its filter again in a moment.
+    m_target->showLine(line.getTargetLineId(), varset,
+                       chkFilterTarget->checkState() != Qt::Checked);
+    showTargetSelection();
+    m_target->markSelection();
+    m_targetPane->showPath(line.getTargetPath());
     if (isReused)
         targetView->setHorizontalScrollPos(horizontal);
     return true;
 }
 
-VKTab::ContentRef TableMappingWidgetPrivate::targetTableFor(const QString &path, bool *reused)
+VKTab::ContentRef TableMappingWidgetPrivate::showTargetTable(const QString &path, bool *isReused)
 {
-    VkTableModel *const model = targetView->model();
-    VKTab::ContentRef current = targetView->getTable();
-    *reused = current.isValid() &&
-              PPathName(current.getKeyValue(VKTab::KeyProjectPath).toString()) == PPathName(path);
-    if (!*reused)
-        return readTargetTable(path);
-    if (model->showHiddenVars() != showHiddenCols)
-        model->setShowHiddenVars(showHiddenCols);
-    return current;
-}
-
-VKTab::ContentRef TableMappingWidgetPrivate::readTargetTable(const QString &path)
-{
-    VKTab::ContentRef table = VKTab::Content();
-    table.setOptions(options);
-    targetView->model()->setShowHiddenVars(showHiddenCols);
-    const refHandle<PrjClass> project(new PrjClass(false, false, false));
-    project->read(PPathName(path).native(), PrjClass::ReadAll);
-    if (VKTab::Reader().readByProject(project, table, true) != 1)
-        return {};
-    removeProjectFilters(table);
-    targetView->setTable(table);
-    const double zoom = std::max(sourceView->getZoomFactor(), targetView->getZoomFactor());
-    sourceView->setZoomFactor(zoom);
-    targetView->setZoomFactor(zoom);
-    connectTargetTable(table);
-    if (!valueRangeVariables(sourceTable).isEmpty())
-        table.addLayer(LineIdColumnLayer());
+    const auto [table, reused] = m_target->show(
+        path, {options, showHiddenCols, !valueRangeVariables(sourceTable).isEmpty()});
+    *isReused = reused;
+    if (table.isValid() && !reused) {
+        m_filters.forgetTarget();
+        connectTargetTable(table);
+    }
     return table;
 }
 
@@ -226,48 +211,6 @@ void TableMappingWidgetPrivate::connectTargetTable(const VKTab::ContentRef &tabl
         [this](const VKTab::Content &, const VKTab::LineId &id, bool modified) {
             return onTargetLineSelected(id, modified);
         });
-}
-
-void TableMappingWidgetPrivate::showTargetLine(VKTab::ContentRef &table, const PrjMapperLineC &line,
-                                               const Varset &varset)
-{
-    const VKTab::LineId target(line.getTargetLineId());
-    // The box would set its filter again in a moment.
-    const bool givesWay = chkFilterTarget->checkState() != Qt::Checked;
-    if (givesWay && !table.isLineVisible(table.getLineInfo(target).getLineId())) {
-        VKTab::FilterByLineId filter(table.getFilter(VKTab::FilterByLineId::className()));
-        if (filter.getLineIdFilterUsed()) {
-            filter.setLineIdFilterUsed(false);
-            table.setFilter(filter);
-            table.invalidate(VKTab::Content::InvalidateFilter, true);
-        }
-    }
-    VKTab::Line targetLine = table.getLine(target, false);
-    if (!varset.isEmpty()) {
-        QList<TabVarValue> values;
-        for (const MapVarValueC &value : varset)
-            values.append(value.toTabVarValue());
-        const VKTab::Finder finder;
-        finder.cmpLineWithValues(targetLine, finder.toValueList(table, values, VKTab::FilterAll));
-        targetLine.apply();
-    }
-    table.setSelection(targetLine.getLineInfo().getLineId(), true);
-    showTargetSelection();
-    markTargetLine(table);
-}
-
-void TableMappingWidgetPrivate::markTargetLine(const VKTab::ContentRef &table)
-{
-    const VKTab::LineId selected = table.getSelection();
-    if (!selected.isValid())
-        return;
-    const QString key = QStringLiteral("TargetMapping");
-    // All lines but the one marked last have the empty text already.
-    if (m_markedTable == table && m_markedLine != selected)
-        table.getModifyLayer()->setLineKeyValue(m_markedLine, key, QStringLiteral(""));
-    table.getModifyLayer()->setLineKeyValue(selected, key, QStringLiteral("C"));
-    m_markedTable = table;
-    m_markedLine = selected;
 }
 
 VKTab::LineId TableMappingWidgetPrivate::lineOfTargetSelection() const
@@ -325,4 +268,88 @@ void TableMappingWidgetPrivate::showMapButton(const PrjMapperLineC &line,
     btnMapLine->setToolTip(toolTip);
     btnMapLine->setAccessibleName(toolTip);
     btnMapLine->setEnabled(isFree);
+}
+
+bool TableMappingWidgetPrivate::hasConflict(const PrjMapperLineC &line) const
+{
+    const PrjMappingTargetC target = mapping.findTarget(line.getTargetIndex());
+    return line.isValid() && target.isValid() && target.getLineConflicted(line.getSourceLineId());
+}
+
+QStringList TableMappingWidgetPrivate::checkMessages(const VKTab::LineId &id) const
+{
+    PrjMapperCheckResultC check(false, QString(), QString(), {}, {}, {});
+    Varset varset;
+    const PrjMapperLineC line = mapperLineFor(id, varset, &check);
+    return line.isValid() ? check.getErrMsgList() : QStringList();
+}
+
+QString TableMappingWidgetPrivate::lineToolTip(const VKTab::LineI &line) const
+{
+    const VKTab::LineId id = line.getLineInfo().getLineId();
+    const PrjMapperLineC mapperLine = mapperLineFor(id);
+    if (hasConflict(mapperLine))
+        return conflictToolTip(conflictToolTips.value(mapperLine.getSourceLineId()));
+    return proposalToolTip(id.isValid() ? checkMessages(id) : QStringList());
+}
+
+QList<int> TableMappingWidgetPrivate::targetsOf(const VKTab::Content &table) const
+{
+    const PPathName path(table.getKeyValue(VKTab::KeyProjectPath).toString());
+    QList<int> targets;
+    for (int i = 0; i < mapping.countTargets(); ++i) {
+        if (PPathName(builtPath(mapping.targetAt(i).getTargetPath())) == path)
+            targets.append(i);
+    }
+    return targets;
+}
+
+void TableMappingWidgetPrivate::onChkFilterNotMappedLines(int state)
+{
+    if (!sourceTable.isValid())
+        return;
+    if (state == Qt::Checked)
+        TableLineFilters::showUnassigned(sourceTable);
+    else
+        TableLineFilters::showAll(sourceTable);
+}
+
+void TableMappingWidgetPrivate::onChkFilterTargetLines(int state)
+{
+    const VKTab::ContentRef table = targetView->getTable();
+    if (!sourceTable.isValid() || !table.isValid())
+        return;
+    if (state == Qt::Checked)
+        m_filters.showUnused(table, mapping, targetsOf(table));
+    else
+        TableLineFilters::showAll(table);
+}
+
+void TableMappingWidgetPrivate::onFilterTargetTable()
+{
+    const VKTab::ContentRef table = targetView->getTable();
+    if (sourceTable.isValid() && table.isValid())
+        TableLineFilters::showUsedTwice(table, mapping, targetsOf(table));
+}
+
+void TableMappingWidgetPrivate::onFilterSourceTable()
+{
+    const VKTab::ContentRef table = targetView->getTable();
+    if (!sourceTable.isValid() || !table.isValid())
+        return;
+    const VKTab::LineId selected = table.getSelection();
+    if (selected.isValid())
+        TableLineFilters::showSourcesOf(selected, sourceTable, mapping, targetsOf(table));
+}
+
+void TableMappingWidgetPrivate::onToggleShowHiddenCols()
+{
+    const auto *const box = qobject_cast<QAbstractButton *>(sender());
+    if (!box)
+        return;
+    showHiddenCols = box->isChecked();
+    for (VkTableView *const view : {sourceView, targetView}) {
+        view->model()->setShowHiddenVars(showHiddenCols);
+        view->getTable().invalidate(VKTab::Content::InvalidateColumns, true);
+    }
 }
