@@ -394,6 +394,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Hledat v tabulce</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klasifikovat</translation>
     </message>

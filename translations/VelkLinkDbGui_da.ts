@@ -394,6 +394,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Søg i tabellen</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klassificer</translation>
     </message>

@@ -394,6 +394,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>In der Tabelle suchen</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klassifizieren</translation>
     </message>

@@ -394,6 +394,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Find in table</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Catalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classify</translation>
     </message>

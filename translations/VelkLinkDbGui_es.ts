@@ -394,6 +394,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Buscar en la tabla</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Catálogo</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Clasificar</translation>
     </message>

@@ -394,6 +394,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Etsi taulukosta</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Luettelo</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Luokittele</translation>
     </message>

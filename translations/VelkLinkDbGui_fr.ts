@@ -394,6 +394,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Rechercher dans la table</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Catalogue</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classer</translation>
     </message>

@@ -394,6 +394,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Keresés a táblázatban</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalógus</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Osztályozás</translation>
     </message>

@@ -394,6 +394,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Cari di tabel</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klasifikasikan</translation>
     </message>

@@ -394,6 +394,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Cercare nella tabella</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Catalogo</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classificare</translation>
     </message>

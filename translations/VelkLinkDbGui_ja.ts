@@ -394,6 +394,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>テーブル内を検索</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>カタログ</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>分類</translation>
     </message>

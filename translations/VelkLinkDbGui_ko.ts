@@ -394,6 +394,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>테이블에서 찾기</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>카탈로그</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>분류</translation>
     </message>

@@ -394,6 +394,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Søk i tabellen</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klassifiser</translation>
     </message>

@@ -394,6 +394,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Szukaj w tabeli</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klasyfikuj</translation>
     </message>

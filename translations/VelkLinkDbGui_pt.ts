@@ -394,6 +394,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Procurar na tabela</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Catálogo</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classificar</translation>
     </message>

@@ -394,6 +394,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Найти в таблице</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Каталог</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Классифицировать</translation>
     </message>

@@ -394,6 +394,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Išči v tabeli</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Razvrsti</translation>
     </message>

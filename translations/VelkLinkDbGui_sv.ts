@@ -394,6 +394,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Sök i tabellen</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klassificera</translation>
     </message>

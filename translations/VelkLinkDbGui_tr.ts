@@ -394,6 +394,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Tabloda ara</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Sınıflandır</translation>
     </message>

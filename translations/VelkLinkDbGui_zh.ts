@@ -394,6 +394,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>在表中查找</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>目录</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>分类</translation>
     </message>

@@ -394,6 +394,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>在表格中尋找</translation>
     </message>
     <message>
+        <source>Katalog</source>
+        <translation>目錄</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>分類</translation>
     </message>

@@ -35,6 +35,11 @@ QString ProjectMappingWidget::sourcePath() const
     return d->params.projectMapping.getSourcePath();
 }
 
+PrjMappingC ProjectMappingWidget::mapping() const
+{
+    return d->params.projectMapping;
+}
+
 QStringList ProjectMappingWidget::collectConditionVariables() const
 {
     return d->collectConditionVariables();

@@ -27,6 +27,8 @@ public:
                            const CatalogMappingC &catalog);
     /// Path of the project shown, empty if there is none.
     [[nodiscard]] QString sourcePath() const;
+    /// The column's own copy.
+    [[nodiscard]] PrjMappingC mapping() const;
     /// Names of the variables that the targets' conditions read, each name once.
     [[nodiscard]] QStringList collectConditionVariables() const;
     /// For the assign buttons of the targets, now and later.

@@ -2,6 +2,8 @@
 
 #include "TableMappingWidgetPrivate.h"
 
+#include <QCheckBox>
+
 TableMappingWidget::TableMappingWidget(QWidget *parent)
     : PrjMappingWidgetBase(parent)
     , d(new TableMappingWidgetPrivate(this))
@@ -37,6 +39,22 @@ VKTab::LineId TableMappingWidget::selectedSourceLine() const
 QString TableMappingWidget::sourcePath() const
 {
     return d->mapping.getSourcePath();
+}
+
+VkTableView *TableMappingWidget::sourceView() const
+{
+    return d->sourceView;
+}
+
+VkTableView *TableMappingWidget::targetView() const
+{
+    return d->targetView;
+}
+
+void TableMappingWidget::showAllLines()
+{
+    d->chkFilterSource->setChecked(false);
+    d->onChkFilterNotMappedLines(Qt::Unchecked);
 }
 
 void TableMappingWidget::onProjectMappingUpdated(const PrjMappingC &mapping)

@@ -7,6 +7,7 @@
 
 class ProjectMappingWidget;
 class TableMappingWidgetPrivate;
+class VkTableView;
 
 /// The column that edits the lines of one source project: its table on the left, and on the right
 /// the table of the project that the selected line went to. Shows what became of every line and
@@ -38,6 +39,11 @@ public:
     [[nodiscard]] VKTab::LineId selectedSourceLine() const;
     /// Source path of the mapping; empty before the first one.
     [[nodiscard]] QString sourcePath() const;
+
+    [[nodiscard]] VkTableView *sourceView() const;
+    [[nodiscard]] VkTableView *targetView() const;
+    /// Takes the filter by state away, and the one set from the menu.
+    void showAllLines();
 
     /// Takes the mapping and brings the states of the lines, the target table and the buttons up to
     /// date. Touches only the lines whose entries changed.

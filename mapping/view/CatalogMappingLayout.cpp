@@ -2,6 +2,7 @@
 #include "CatalogMappingWidgetPrivate.h"
 
 #include "CatalogFilterModel.h"
+#include "CatalogMappingNotifier.h"
 #include "CatalogMappingWidget.h"
 #include "CatalogStructureDelegate.h"
 #include "CatalogStructureModel.h"
@@ -12,6 +13,7 @@
 #include <mapping/table/TableMappingWidget.h>
 
 #include <core/text/PString.h>
+#include <geomcoregui/table/VkTableView.h>
 
 #include <QCheckBox>
 #include <QLabel>
@@ -55,6 +57,7 @@ QWidget *CatalogMappingWidgetPrivate::makeTreePane(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     treeView = new QTreeView(pane);
     treeView->setObjectName(QStringLiteral("treeView"));
+    treeView->setAccessibleName(PString::translate("Katalog", "VelkLinkDbGui"));
     treeView->setHeaderHidden(true);
     treeView->setUniformRowHeights(true); // so that a row costs nothing until it is seen
     treeView->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -139,6 +142,10 @@ void CatalogMappingWidgetPrivate::makeConnections()
     connectTree();
     connectEditors();
     connectConflicts();
+    connect(checkToCheck, SIGNAL(toggled(bool)), notifier, SIGNAL(onlyOpenProjectsChanged(bool)));
+    connect(tableWidget->sourceView()->grid()->selectionModel(),
+            SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), notifier,
+            SIGNAL(selectedLinesChanged()));
 }
 
 void CatalogMappingWidgetPrivate::connectTree()

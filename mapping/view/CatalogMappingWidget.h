@@ -3,8 +3,14 @@
 #include <linkdbgui/VelkLinkDbGuiGlobal.h>
 
 #include <geomcore/records/MappingChange.h>
+#include <geomcore/table/ContentRef.h>
 
+#include <QStringList>
 #include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QAbstractItemModel;
+QT_END_NAMESPACE
 
 class ApplicationHandlerI;
 class CatalogMappingHandlerI;
@@ -45,6 +51,57 @@ public:
     /// as it is, for PPathName to resolve), or an address in the repository of the catalog that the
     /// path begins with. Empty if the path does not tell.
     [[nodiscard]] static QString buildTargetPath(bool local, const QString &targetPath);
+
+    // What a host needs to know of the editor and to do to it, without its inner widgets.
+
+    /// Sends currentProjectChanged(), selectedLinesChanged() and onlyOpenProjectsChanged(bool), see
+    /// CatalogMappingNotifier; connected by name. Lives as long as the widget.
+    [[nodiscard]] QObject *notifier() const;
+
+    /// Mapping of the project that was opened last, as the handler has it; not valid if none is or
+    /// a directory was selected after it.
+    [[nodiscard]] PrjMappingC currentProject() const;
+    /// Selects a project in the tree and opens the directories on the way. A filter that hides it
+    /// is taken away. False if the tree does not have it. An empty version stands for any.
+    bool selectProject(const QString &sourcePath, const QString &sourceVersion = QString());
+    /// The table of the project shown; not valid if there is none or it cannot be read.
+    [[nodiscard]] VKTab::ContentRef sourceTable() const;
+    /// Numbers of the selected source lines in display order.
+    [[nodiscard]] QList<int> selectedLines() const;
+    /// -1 if none or several are selected.
+    [[nodiscard]] int currentLine() const;
+    /// A filter that hides the line is taken away, if it is one by states or lines. False if the
+    /// table does not have it.
+    bool selectLine(int line);
+    /// The keys go to the source table.
+    void focusLines();
+
+    /// Shows a mapping that changed behind the editor and that the handler has already: in place,
+    /// or if it is the current project's and more than its lines changed, by opening the project
+    /// anew. Statistics and tree follow in any case. Announces nothing and asks the handler for no
+    /// change.
+    void showMapping(const PrjMappingC &mapping);
+
+    /// The tree's filter for projects with work left.
+    void setOnlyOpenProjects(bool on);
+    [[nodiscard]] bool onlyOpenProjects() const;
+    /// For the tables that are shown now.
+    void setOnlyPreferredRanges(bool on);
+
+    /// Paths of the tree's directories that are open, parents first.
+    [[nodiscard]] QStringList expandedDirectories() const;
+    /// Opens directories. One that is alone at the top is opened in any case.
+    void expandDirectories(const QStringList &paths);
+    /// Sizes of the panes.
+    [[nodiscard]] QByteArray saveState() const;
+    /// False for a state that cannot be read; then the panes get their standard sizes.
+    bool restoreState(const QByteArray &state);
+
+    enum class Pane { Tree, Targets, Lines };
+    /// To place something over it; null if it is hidden.
+    [[nodiscard]] QWidget *pane(Pane which) const;
+    /// The tree's data. The widget never deletes it; who deletes the widget may, after that.
+    [[nodiscard]] QAbstractItemModel *treeModel() const;
 
 private:
     friend class CatalogMappingWidgetPrivate;

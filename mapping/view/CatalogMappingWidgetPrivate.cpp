@@ -1,6 +1,7 @@
 #include "CatalogMappingWidgetPrivate.h"
 
 #include "CatalogFilterModel.h"
+#include "CatalogMappingNotifier.h"
 #include "CatalogMappingWidget.h"
 #include "CatalogStructureModel.h"
 
@@ -11,6 +12,7 @@
 
 #include <core/config/PConfigService.h>
 #include <core/text/PString.h>
+#include <geomcore/binding/sameTargetHead.h>
 #include <geomcore/table/makeSachmRelativeToCatalog.h>
 #include <geomcore/table/Reader.h>
 #include <geomcoregui/table/VkTableView.h>
@@ -57,6 +59,7 @@ CatalogMappingWidgetPrivate::CatalogMappingWidgetPrivate(const QString &path,
     , basePath(path)
     , applicationHandler(application)
     , allowVerifyAllOnDir(configuredVerifyAllOnDir())
+    , notifier(new CatalogMappingNotifier(this))
 {
     setObjectName(QStringLiteral("CatalogMappingWidgetPrivate"));
 }
@@ -84,27 +87,65 @@ PPathName CatalogMappingWidgetPrivate::projectFile(const QString &sourcePath) co
 
 void CatalogMappingWidgetPrivate::openNode(const Node &node)
 {
+    shownNode = node;
     setEditorsEnabled(isProject(node));
-    if (!isProject(node))
-        return;
-    const QString path = node->getPath();
-    if (path.isEmpty()) {
+    if (isProject(node) && !loadProject(node))
         setEditorsEnabled(false);
-        return;
-    }
+    Q_EMIT notifier->currentProjectChanged();
+}
+
+bool CatalogMappingWidgetPrivate::loadProject(const Node &node)
+{
+    const QString path = node->getPath();
+    if (path.isEmpty())
+        return false;
     const refHandle<PrjClass> project(new PrjClass(true, false, false));
     project->read(projectFile(path).native(), PrjClass::ReadAll);
     VKTab::makeSachmRelativeToCatalog(project, path);
     VKTab::ContentRef content;
-    if (VKTab::Reader().readByProject(project, content, true) == -1) {
-        setEditorsEnabled(false);
-        return;
-    }
+    if (VKTab::Reader().readByProject(project, content, true) == -1)
+        return false;
     const CatalogMappingC catalog = handler->getCatalogMapping();
     const PrjMappingC mapping = node->getMapping();
     tableWidget->loadSourceTable(content, mapping, catalog);
     projectWidget->loadSourceProject(mapping, content, catalog);
     conflictWidget->loadSourceProject(mapping, content);
+    return true;
+}
+
+EditorPlace CatalogMappingWidgetPrivate::place() const
+{
+    return {treeView, checkToCheck, tableWidget};
+}
+
+void CatalogMappingWidgetPrivate::reloadProject()
+{
+    const int line = place().currentLine();
+    VkTableView *const view = tableWidget->sourceView();
+    const int scroll = view->getVerticalScrollPos();
+    openNode(Node(shownNode));
+    view->setVerticalScrollPos(scroll);
+    if (line >= 0)
+        place().selectLine(line);
+}
+
+bool CatalogMappingWidgetPrivate::shows(const PrjMappingC &mapping) const
+{
+    const PrjMappingC shown = projectWidget->mapping();
+    return shownNode && isProject(shownNode) && shown.getSourcePath() == mapping.getSourcePath() &&
+           shown.getSourceVersion() == mapping.getSourceVersion();
+}
+
+void CatalogMappingWidgetPrivate::showMapping(const PrjMappingC &mapping)
+{
+    if (shows(mapping) && sameTargetHeads(projectWidget->mapping(), mapping)) {
+        projectWidget->onProjectMappingUpdated(mapping);
+        tableWidget->onProjectMappingUpdated(mapping);
+        conflictWidget->onMappingUpdated(mapping);
+    } else if (shows(mapping)) {
+        reloadProject();
+    }
+    showRelease();
 }
 
 void CatalogMappingWidgetPrivate::onTreeSelectionChanged(const QItemSelection &selected,
@@ -120,6 +161,11 @@ void CatalogMappingWidgetPrivate::onTreeSelectionChanged(const QItemSelection &s
 void CatalogMappingWidgetPrivate::onProjectMappingUpdated(const PrjMappingC &prjMapping)
 {
     handler->updateMapping(prjMapping);
+    showRelease();
+}
+
+void CatalogMappingWidgetPrivate::showRelease()
+{
     conflictWidget->setCatalogMapping(handler->getCatalogMapping());
     writeStatistics();
     model->invalidateNodes();
@@ -130,8 +176,7 @@ void CatalogMappingWidgetPrivate::repaintViews()
 {
     tableWidget->update();
     // Updating a view repaints its frame; the items are its viewport's.
-    const QList<VkTableView *> tables = tableWidget->findChildren<VkTableView *>();
-    for (const VkTableView *const table : tables)
+    for (const VkTableView *const table : {tableWidget->sourceView(), tableWidget->targetView()})
         table->grid()->viewport()->update();
     treeView->update();
     treeView->viewport()->update();

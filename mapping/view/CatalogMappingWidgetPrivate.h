@@ -1,5 +1,7 @@
 #pragma once
 
+#include "EditorPlace.h"
+
 #include <core/text/PPathName.h>
 #include <core/text/PPrivateData.h>
 #include <geomcore/records/PrjMappingC.h>
@@ -23,6 +25,7 @@ QT_END_NAMESPACE
 class ApplicationHandlerI;
 class CatalogFilterModel;
 class CatalogMappingHandlerI;
+class CatalogMappingNotifier;
 class CatalogMappingWidget;
 class CatalogStructureModel;
 class CatalogStructureNodeI;
@@ -46,6 +49,11 @@ public:
     void makeConnections();
     /// Shows the node's project, or disables the editors if it has none that can be read.
     void openNode(const Node &node);
+    /// See CatalogMappingWidget::showMapping.
+    void showMapping(const PrjMappingC &mapping);
+    /// True if the mapping's project is the one that the columns show.
+    [[nodiscard]] bool shows(const PrjMappingC &mapping) const;
+    [[nodiscard]] EditorPlace place() const;
 
     CatalogMappingHandlerI *handler;
     PPathName basePath;
@@ -62,6 +70,8 @@ public:
     QCheckBox *checkTarget = nullptr;
     QCheckBox *checkNoTarget = nullptr;
     bool allowVerifyAllOnDir;
+    CatalogMappingNotifier *notifier;
+    Node shownNode; ///< opened last; null before the first one
 
 public Q_SLOTS:
     void onTreeSelectionChanged(const QItemSelection &selected, const QItemSelection &deselected);
@@ -80,7 +90,12 @@ private:
     void connectEditors();
     void connectConflicts();
     void setEditorsEnabled(bool enabled);
+    /// False if there is nothing to be edited.
+    [[nodiscard]] bool loadProject(const Node &node);
+    void reloadProject();
     [[nodiscard]] PPathName projectFile(const QString &sourcePath) const;
+    /// What the handler has now, on all that tells of the whole release.
+    void showRelease();
     void writeStatistics();
     void repaintViews();
     void applyFilter(bool target, bool noTarget);

@@ -1,6 +1,7 @@
 #include "TargetHead.h"
 
 #include <core/json/PJsonValue.h>
+#include <geomcore/binding/sameTargetHead.h>
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/binding/VarsetValueMappingC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
@@ -21,20 +22,6 @@ QByteArray textOf(const VarsetModifierI *modifier)
     PJsonValue value;
     modifier->toJson(value);
     return value.toByteArray(true);
-}
-
-template<class T>
-bool sameTexts(const QList<const T *> &a, const QList<const T *> &b)
-{
-    if (a == b)
-        return true;
-    if (a.size() != b.size())
-        return false;
-    for (qsizetype i = 0; i < a.size(); ++i) {
-        if (a[i] != b[i] && textOf(a[i]) != textOf(b[i]))
-            return false;
-    }
-    return true;
 }
 
 VarsetModifierI *makeModifier(const QByteArray &json)
@@ -67,10 +54,7 @@ TargetHead TargetHead::of(const PrjMappingTargetC &target)
 
 bool TargetHead::equal(const PrjMappingTargetC &a, const PrjMappingTargetC &b)
 {
-    return a.getTargetPath() == b.getTargetPath() && a.getTargetVersion() == b.getTargetVersion() &&
-           a.getTabVersion() == b.getTabVersion() && a.isValid() == b.isValid() &&
-           sameTexts(a.getConditions(), b.getConditions()) &&
-           sameTexts(a.getVarsetModifier(), b.getVarsetModifier());
+    return sameTargetHead(a, b);
 }
 
 void TargetHead::applyTo(PrjMappingTargetC &target) const

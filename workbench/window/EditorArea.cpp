@@ -1,35 +1,15 @@
 #include "EditorArea.h"
 
-#include "EditorState.h"
 #include "TargetProjectOpener.h"
-#include "TreePath.h"
 
-#include <geomcoregui/table/VkTableView.h>
-#include <mapping/project/PrjMappingWidgetBase.h>
 #include <mapping/view/CatalogMappingWidget.h>
-#include <mapping/view/CatalogStructureModel.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/session/TargetHead.h>
 
-#include <QCheckBox>
+#include <QAbstractItemModel>
 #include <QTimer>
-#include <QTreeView>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
-namespace {
-
-/// Only lines differ, if anything does.
-bool sameHeads(const PrjMappingC &a, const PrjMappingC &b)
-{
-    const auto left = a.getTargets();
-    const auto right = b.getTargets();
-    return a.isValid() && b.isValid() && left.size() == right.size() &&
-           std::equal(left.begin(), left.end(), right.begin(), TargetHead::equal);
-}
-
-} // namespace
+#include <memory>
 
 EditorArea::EditorArea(QWidget *parent)
     : QWidget(parent)
@@ -57,6 +37,9 @@ void EditorArea::close()
     if (!m_editor)
         return;
     m_state = saveState();
+    m_changed.clear();
+    // The widget leaves its tree's data, and with it the release, to whoever deletes it.
+    const std::unique_ptr<QAbstractItemModel> treeModel(m_editor->treeModel());
     delete m_editor;
     m_editor = nullptr;
 }
@@ -65,13 +48,15 @@ void EditorArea::rebuild()
 {
     if (!m_editor || !m_document)
         return;
-    const QString path = currentPath();
+    const ProjectId project = currentProject();
     const int line = currentLine();
-    const QStringList open = TreePath::expanded(*treeView());
+    const QStringList open = m_editor->expandedDirectories();
+    const bool onlyOpen = m_editor->onlyOpenProjects();
     close();
     make();
-    TreePath::expand(*treeView(), open);
-    if (!path.isEmpty() && selectProject(path) && line >= 0)
+    m_editor->expandDirectories(open);
+    m_editor->setOnlyOpenProjects(onlyOpen);
+    if (m_editor->selectProject(project.path, project.version) && line >= 0)
         selectLine(line);
 }
 
@@ -82,37 +67,20 @@ void EditorArea::make()
     m_editor = new CatalogMappingWidget(m_sourceRoot, m_document->createHandler(), opener, nullptr);
     m_editor->setObjectName("CatalogMappingWidget");
     m_layout->addWidget(m_editor);
-    applyState();
-    if (QTreeView *const tree = treeView()) {
-        tree->setAccessibleName(tr("Katalog"));
-        followMapping();
-        // A catalog of one tree is of no use closed.
-        if (tree->model()->rowCount() == 1)
-            tree->expand(tree->model()->index(0, 0));
-    }
-    if (const VkTableView *const view = sourceView()) {
-        connect(view->grid()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-                &EditorArea::linesSelected);
-    }
+    m_editor->restoreState(m_state);
+    m_editor->expandDirectories({});
+    const QObject *const notifier = m_editor->notifier();
+    connect(notifier, SIGNAL(currentProjectChanged()), this, SIGNAL(projectSelected()));
+    connect(notifier, SIGNAL(selectedLinesChanged()), this, SIGNAL(linesSelected()));
+    connect(notifier, SIGNAL(onlyOpenProjectsChanged(bool)), this,
+            SIGNAL(onlyOpenProjectsChanged(bool)));
     m_editor->show();
     Q_EMIT editorMade();
 }
 
-QTreeView *EditorArea::treeView() const
-{
-    return m_editor ? m_editor->findChild<QTreeView *>("treeView") : nullptr;
-}
-
-VkTableView *EditorArea::sourceView() const
-{
-    return m_editor ? m_editor->findChild<VkTableView *>("sourceView") : nullptr;
-}
-
 VKTab::ContentRef EditorArea::sourceTable() const
 {
-    const VkTableView *const view = sourceView();
-    return view && !currentPath().isEmpty() && view->isEnabled() ? view->getTable()
-                                                                 : VKTab::ContentRef();
+    return m_editor ? m_editor->sourceTable() : VKTab::ContentRef();
 }
 
 QString EditorArea::currentPath() const
@@ -122,172 +90,73 @@ QString EditorArea::currentPath() const
 
 ProjectId EditorArea::currentProject() const
 {
-    const QTreeView *const tree = treeView();
-    const QModelIndexList selected =
-        tree ? tree->selectionModel()->selectedIndexes() : QModelIndexList();
-    if (selected.size() != 1)
-        return {};
-    const auto node = CatalogStructureModel::nodeFrom(
-        selected.first().data(CatalogStructureModel::StructureNodeRole));
-    return node && node->getNodeType() == 2 ? ProjectId::of(node->getMapping()) : ProjectId();
-}
-
-QModelIndex EditorArea::indexOf(const QString &sourcePath) const
-{
-    return TreePath::find(treeView()->model(), sourcePath);
+    const PrjMappingC mapping = m_editor ? m_editor->currentProject() : PrjMappingC();
+    return mapping.isValid() ? ProjectId::of(mapping) : ProjectId();
 }
 
 bool EditorArea::selectProject(const QString &sourcePath)
 {
-    QTreeView *const tree = treeView();
-    if (!tree || sourcePath.isEmpty())
-        return false;
-    QModelIndex index = indexOf(sourcePath);
-    auto *filter = m_editor->findChild<QCheckBox *>("checkToCheck");
-    if (!index.isValid() && filter && filter->isChecked()) {
-        filter->setChecked(false);
-        index = indexOf(sourcePath);
-    }
-    if (!index.isValid())
-        return false;
-    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent())
-        tree->expand(above);
-    if (!tree->selectionModel()->isSelected(index)) {
-        tree->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-    }
-    tree->scrollTo(index);
-    return true;
+    return m_editor && m_editor->selectProject(sourcePath);
 }
 
 void EditorArea::showChange(const ProjectId &project)
 {
     if (m_changed.isEmpty())
         QTimer::singleShot(0, this, &EditorArea::showChanges);
-    if (!m_changed.contains(project.path))
-        m_changed += project.path;
+    if (!m_changed.contains(project))
+        m_changed += project;
 }
 
 void EditorArea::showChanges()
 {
-    const QStringList changed = std::exchange(m_changed, {});
-    if (!m_editor || !m_document)
+    const QList<ProjectId> changed = std::exchange(m_changed, {});
+    if (!m_editor || !m_document || changed.isEmpty())
         return;
-    if (changed.size() > 1)
+    const ProjectId current = currentProject();
+    const bool showsCurrent = changed.contains(current);
+    if (!showsCurrent && changed.size() == 1 &&
+        !m_editor->selectProject(changed.first().path, changed.first().version))
         return rebuild();
-    if (changed.first() != currentPath()) {
-        if (!selectProject(changed.first()))
-            return rebuild();
-    } else if (!sameHeads(m_shown, currentMapping())) {
-        reselect();
-    }
-    publish(currentMapping());
-}
-
-void EditorArea::reselect()
-{
-    QTreeView *const tree = treeView();
-    const QModelIndex index = tree->selectionModel()->selectedIndexes().first();
-    const int line = currentLine();
-    const VkTableView *const before = sourceView();
-    const int scroll = before ? before->getVerticalScrollPos() : 0;
-    tree->selectionModel()->clearSelection();
-    tree->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-    if (VkTableView *const view = sourceView())
-        view->setVerticalScrollPos(scroll);
-    if (line >= 0)
-        selectLine(line);
-}
-
-void EditorArea::publish(const PrjMappingC &mapping)
-{
-    auto *column = m_editor->findChild<PrjMappingWidgetBase *>("tableWidget");
-    if (!column || !mapping.isValid())
-        return;
-    Q_EMIT column->projectMappingUpdated(mapping);
-    column->onProjectMappingUpdated(mapping);
-}
-
-PrjMappingC EditorArea::currentMapping() const
-{
-    return m_document ? m_document->mapping(currentProject()) : PrjMappingC();
-}
-
-void EditorArea::followMapping()
-{
-    connect(treeView()->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        m_shown = currentMapping();
-        Q_EMIT projectSelected(currentPath());
-    });
-    const auto columns = m_editor->findChildren<PrjMappingWidgetBase *>();
-    for (const PrjMappingWidgetBase *column : columns) {
-        connect(column, &PrjMappingWidgetBase::projectMappingUpdated, this,
-                [this](const PrjMappingC &mapping) { m_shown = mapping; });
-    }
+    // Of all others only sums are to be seen, and they come along with any.
+    m_editor->showMapping(m_document->mapping(showsCurrent ? current : changed.first()));
 }
 
 QList<int> EditorArea::selectedLines() const
 {
-    QList<int> lines;
-    const VkTableView *const view = sourceView();
-    if (!view || !sourceTable().isValid())
-        return lines;
-    const auto ids = view->getSelectedLines();
-    for (const VKTab::LineId &id : ids)
-        lines << id.value(0);
-    return lines;
+    return m_editor ? m_editor->selectedLines() : QList<int>();
 }
 
 int EditorArea::currentLine() const
 {
-    const QList<int> lines = selectedLines();
-    if (lines.size() == 1)
-        return lines.first();
-    if (!lines.isEmpty())
-        return -1;
-    const VKTab::ContentRef table = sourceTable();
-    return table.isValid() ? table.getSelection().value(0) : -1;
+    return m_editor ? m_editor->currentLine() : -1;
 }
 
 bool EditorArea::selectLine(int line)
 {
-    VKTab::ContentRef table = sourceTable();
-    if (!table.isValid())
-        return false;
-    const VKTab::LineId id = table.getLineInfo(VKTab::LineId(line)).getLineId();
-    if (!id.isValid())
-        return false;
-    auto *filter = m_editor->findChild<QCheckBox *>("chkFilterSource");
-    if (filter && filter->isChecked() && !table.isLineVisible(id))
-        filter->setChecked(false);
-    return table.setSelection(id, true);
+    return m_editor && m_editor->selectLine(line);
 }
 
 bool EditorArea::goTo(const LineRef &ref)
 {
-    if (!ref.isValid())
+    if (!m_editor || !ref.isValid())
         return false;
-    if (ref.project.path != currentPath() && !selectProject(ref.project.path))
+    if (ref.project != currentProject() &&
+        !m_editor->selectProject(ref.project.path, ref.project.version))
         return false;
     if (!selectLine(ref.line))
         return false;
-    sourceView()->grid()->setFocus(Qt::OtherFocusReason);
+    m_editor->focusLines();
     return true;
 }
 
 QByteArray EditorArea::saveState() const
 {
-    return m_editor ? EditorState::save(*m_editor) : m_state;
+    return m_editor ? m_editor->saveState() : m_state;
 }
 
 void EditorArea::restoreState(const QByteArray &state)
 {
     m_state = state;
     if (m_editor)
-        applyState();
-}
-
-void EditorArea::applyState()
-{
-    if (!EditorState::restore(*m_editor, m_state))
-        EditorState::setStandard(*m_editor);
+        m_editor->restoreState(state);
 }

@@ -3,16 +3,13 @@
 #include <geomcore/table/ContentRef.h>
 #include <workbench/session/SessionTypes.h>
 
-#include <QModelIndex>
 #include <QPointer>
 #include <QWidget>
 
 class CatalogMappingWidget;
 class MappingDocument;
-class VkTableView;
 
 QT_BEGIN_NAMESPACE
-class QTreeView;
 class QVBoxLayout;
 QT_END_NAMESPACE
 
@@ -42,7 +39,7 @@ public:
     bool selectProject(const QString &sourcePath);
     /// The project's mapping changed behind the editor, which shows it soon. The selected one is
     /// shown in place; it is only opened anew if more than its lines changed. Another single one is
-    /// selected; after changes of several everything is made anew.
+    /// selected.
     void showChange(const ProjectId &project);
 
     /// Source line ids in display order.
@@ -57,9 +54,7 @@ public:
     /// Not valid if no project is open or it cannot be read.
     [[nodiscard]] VKTab::ContentRef sourceTable() const;
 
-    /// Null if there is no editor or it has none yet.
-    [[nodiscard]] VkTableView *sourceView() const;
-    [[nodiscard]] QTreeView *treeView() const;
+    /// Null if no document is open.
     [[nodiscard]] CatalogMappingWidget *editor() const { return m_editor; }
 
     [[nodiscard]] QByteArray saveState() const;
@@ -69,30 +64,23 @@ public:
 Q_SIGNALS:
     /// The editor was made, anew perhaps.
     void editorMade();
-    /// The selection in the tree changed.
-    void projectSelected(const QString &sourcePath);
+    /// Another project is shown, or the same one read anew.
+    void projectSelected();
     /// Other lines of the source table are selected.
     void linesSelected();
+    /// The tree's filter for projects with work left was set or taken away.
+    void onlyOpenProjectsChanged(bool on);
     /// The host's part view should show a target project.
     void targetProjectWanted(const QString &targetPath);
 
 private:
     void make();
-    void applyState();
     void showChanges();
-    void reselect();
-    /// All columns, statistics and tree take over the selected project's mapping as if the editor
-    /// had changed it.
-    void publish(const PrjMappingC &mapping);
-    void followMapping();
-    [[nodiscard]] PrjMappingC currentMapping() const;
-    [[nodiscard]] QModelIndex indexOf(const QString &sourcePath) const;
 
     QVBoxLayout *const m_layout;
     QPointer<MappingDocument> m_document;
     QString m_sourceRoot;
     CatalogMappingWidget *m_editor = nullptr;
     QByteArray m_state;
-    PrjMappingC m_shown;   ///< of the selected project, as the columns have it
-    QStringList m_changed; ///< source paths that showChanges() has still to show
+    QList<ProjectId> m_changed; ///< that showChanges() has still to show
 };

@@ -48,21 +48,21 @@ void MainWindow::startTour()
         proposals.setKinds(OpenLines::ToCheck);
         m_editor->goTo(proposals.next({}));
     }
-    const auto part = [this](const char *name) {
-        return m_editor->isOpen() ? m_editor->editor()->findChild<QWidget *>(QLatin1String(name))
-                                  : nullptr;
+    using Pane = CatalogMappingWidget::Pane;
+    const auto pane = [this](Pane which) {
+        return m_editor->isOpen() ? m_editor->editor()->pane(which) : nullptr;
     };
     const QString next = m_settings->values().nextLine.toString(QKeySequence::NativeText);
     new TourOverlay(
         {
-            {part("treeView"), tr("Der Katalog"),
+            {pane(Pane::Tree), tr("Der Katalog"),
              tr("Links steht der alte Katalogstand. Die Bilder zeigen, wo noch etwas zu "
                 "entscheiden "
                 "ist. Wählen Sie ein Projekt, um seine Zeilen zu sehen.")},
-            {part("projectWidget"), tr("Die Ziele"),
+            {pane(Pane::Targets), tr("Die Ziele"),
              tr("Hier stehen die Projekte des neuen Stands, die Zeilen übernehmen können, mit "
                 "Bedingungen und Variablenzuordnungen.")},
-            {part("tableWidget"), tr("Die Zeilen"),
+            {pane(Pane::Lines), tr("Die Zeilen"),
              tr("Links die alte Tabelle, rechts die neue. V bestätigt die Zuordnung oder ordnet "
                 "die "
                 "rechts gewählte Zeile zu, X hebt auf, Strg+X bestätigt, dass die Zeile "

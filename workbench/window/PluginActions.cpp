@@ -6,14 +6,10 @@
 #include <core/plugin/PLinkDbGuiI.h>
 #include <core/plugin/PTranslateManager.h>
 #include <core/text/PString.h>
-#include <geomcore/table/Content.h>
-#include <geomcore/table/TabOptions.h>
-#include <geomcoregui/table/VkTableView.h>
 #include <gui/application/PApplicationPool.h>
 #include <mapping/view/CatalogMappingWidget.h>
 
 #include <QAction>
-#include <QCheckBox>
 #include <QDesktopServices>
 #include <QToolBar>
 #include <QUrl>
@@ -81,11 +77,14 @@ void PluginActions::connectActions()
     };
     connectTo("LinkDbShowLegend", [this] { LegendDialog(m_editor->window()).exec(); });
     connectTo("LinkDbFilteronoff", [this](bool on) {
-        if (auto *box = m_editor->findChild<QCheckBox *>("checkToCheck"))
-            box->setChecked(on);
+        if (m_editor->isOpen())
+            m_editor->editor()->setOnlyOpenProjects(on);
     });
     connectTo("PreferredRanges", [this] { applyPreferredRanges(); });
     connectTo("LinkDbSendMail", [this] { sendMail(); });
+    // The tree's own box and the action show the same.
+    if (QAction *const action = actionOf("LinkDbFilteronoff"))
+        connect(m_editor, &EditorArea::onlyOpenProjectsChanged, action, &QAction::setChecked);
 }
 
 void PluginActions::retranslate()
@@ -126,32 +125,17 @@ void PluginActions::update()
         setReason(source, reasonAgainst(source.action));
 }
 
-/// The tree's own box and the action show the same.
 void PluginActions::takeTreeFilter()
 {
-    QAction *const action = actionOf("LinkDbFilteronoff");
-    auto *box = m_editor->findChild<QCheckBox *>("checkToCheck");
-    if (!action || !box)
-        return;
-    box->setChecked(action->isChecked());
-    connect(box, &QCheckBox::toggled, action, &QAction::setChecked);
+    if (const QAction *const action = actionOf("LinkDbFilteronoff"))
+        m_editor->editor()->setOnlyOpenProjects(action->isChecked());
 }
 
 void PluginActions::applyPreferredRanges()
 {
     const QAction *const action = actionOf("PreferredRanges");
-    const QWidget *const editor = m_editor->editor();
-    if (!action || !editor)
-        return;
-    const auto views = editor->findChildren<VkTableView *>();
-    for (const VkTableView *view : views) {
-        VKTab::ContentRef table = view->getTable();
-        if (!table.isValid() || !table.getOptions() ||
-            table.getOptions()->getShowOnlyPrefRanges() == action->isChecked())
-            continue;
-        table.getOptions()->setShowOnlyPrefRanges(action->isChecked());
-        table.invalidate(VKTab::Content::InvalidateValues, true);
-    }
+    if (action && m_editor->isOpen())
+        m_editor->editor()->setOnlyPreferredRanges(action->isChecked());
 }
 
 void PluginActions::sendMail()

@@ -113,5 +113,5 @@ QAction *WindowFixture::action(const char *name) const
 
 VkTableView *WindowFixture::sourceView() const
 {
-    return window->editor()->sourceView();
+    return window->editor()->findChild<VkTableView *>("sourceView");
 }

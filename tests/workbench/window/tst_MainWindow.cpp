@@ -4,6 +4,7 @@
 #include <core/message/PMessage.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <mapping/project/TargetMappingWidget.h>
+#include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
@@ -23,6 +24,7 @@
 #include <QSpinBox>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QTreeView>
 #include <QUrl>
 
@@ -434,6 +436,24 @@ private Q_SLOTS:
             QStringLiteral("C"));
     }
 
+    void undoIsNoChangeOfItsOwn()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 30}));
+        fixture.press(Qt::Key_V);
+        QTRY_VERIFY(document.canUndo());
+        // Comes after the editor has shown it, and before a step of that turn would end.
+        QList<bool> modified;
+        connect(&document, &MappingDocument::reselectRequested, this, [&] {
+            QTimer::singleShot(0, this, [&] { modified += document.isModified(); });
+        });
+        fixture.press(Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(modified, QList<bool>{false});
+        QVERIFY(statistics(fixture).endsWith(" / 0"));
+    }
+
     void undoOfATargetShowsItAgain()
     {
         WindowFixture fixture;
@@ -682,9 +702,11 @@ private Q_SLOTS:
         fixture.open(fixture.mappingFile());
         QVERIFY(fixture.window->editor()->selectProject(din933));
         QVERIFY(fixture.window->editor()->selectLine(4));
-        QPointer<QWidget> before(fixture.window->editor()->treeView());
+        const QPointer<QTreeView> before(fixture.window->findChild<QTreeView *>("treeView"));
+        const QPointer<QAbstractItemModel> model(fixture.window->editor()->editor()->treeModel());
         fixture.press(Qt::Key_F5);
         QVERIFY(!before);
+        QVERIFY(!model); // and with it the old release
         QCOMPARE(fixture.window->editor()->currentPath(), din933);
         QCOMPARE(fixture.window->editor()->currentLine(), 4);
     }

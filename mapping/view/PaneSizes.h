@@ -5,7 +5,7 @@
 class QWidget;
 
 /// Sizes of the editor's panes: the positions of its splitters by their names.
-class EditorState
+class PaneSizes
 {
 public:
     [[nodiscard]] static QByteArray save(const QWidget &editor);

@@ -1,17 +1,27 @@
 #include "TreePath.h"
 
-#include <mapping/view/CatalogStructureModel.h>
+#include "CatalogStructureModel.h"
+
+#include <mapping/data/CatalogStructureNodeI.h>
 
 #include <QAbstractItemModel>
 #include <QTreeView>
 
 namespace {
 
-bool isProject(const QModelIndex &index, const QString &sourcePath)
+/// What is looked for; an empty version stands for any.
+struct Project
+{
+    QString path;
+    QString version;
+};
+
+bool isProject(const QModelIndex &index, const Project &project)
 {
     const auto node =
         CatalogStructureModel::nodeFrom(index.data(CatalogStructureModel::StructureNodeRole));
-    return node && node->getNodeType() == 2 && node->getPath() == sourcePath;
+    return node && node->getNodeType() == 2 && node->getPath() == project.path &&
+           (project.version.isEmpty() || node->getMapping().getSourceVersion() == project.version);
 }
 
 QModelIndex childNamed(const QAbstractItemModel *model, const QModelIndex &parent,
@@ -26,15 +36,15 @@ QModelIndex childNamed(const QAbstractItemModel *model, const QModelIndex &paren
 }
 
 QModelIndex findBelow(const QAbstractItemModel *model, const QModelIndex &parent,
-                      const QString &sourcePath, bool deep)
+                      const Project &project, bool deep)
 {
     for (int row = 0; row < model->rowCount(parent); ++row) {
         const QModelIndex child = model->index(row, 0, parent);
-        if (isProject(child, sourcePath))
+        if (isProject(child, project))
             return child;
         if (!deep)
             continue;
-        const QModelIndex found = findBelow(model, child, sourcePath, true);
+        const QModelIndex found = findBelow(model, child, project, true);
         if (found.isValid())
             return found;
     }
@@ -78,8 +88,10 @@ void TreePath::expand(QTreeView &tree, const QStringList &paths)
     }
 }
 
-QModelIndex TreePath::find(const QAbstractItemModel *model, const QString &sourcePath)
+QModelIndex TreePath::find(const QAbstractItemModel *model, const QString &sourcePath,
+                           const QString &sourceVersion)
 {
+    const Project project{sourcePath, sourceVersion};
     QModelIndex parent;
     const QStringList names = sourcePath.split('/').mid(0, sourcePath.count('/'));
     for (const QString &name : names) {
@@ -88,6 +100,6 @@ QModelIndex TreePath::find(const QAbstractItemModel *model, const QString &sourc
             break;
         parent = child;
     }
-    const QModelIndex found = findBelow(model, parent, sourcePath, false);
-    return found.isValid() ? found : findBelow(model, QModelIndex(), sourcePath, true);
+    const QModelIndex found = findBelow(model, parent, project, false);
+    return found.isValid() ? found : findBelow(model, QModelIndex(), project, true);
 }

@@ -1,11 +1,11 @@
-#include "EditorState.h"
+#include "PaneSizes.h"
 
 #include <QDataStream>
 #include <QIODevice>
 #include <QMap>
 #include <QSplitter>
 
-QByteArray EditorState::save(const QWidget &editor)
+QByteArray PaneSizes::save(const QWidget &editor)
 {
     QMap<QString, QByteArray> states;
     const auto splitters = editor.findChildren<QSplitter *>();
@@ -20,7 +20,7 @@ QByteArray EditorState::save(const QWidget &editor)
     return state;
 }
 
-bool EditorState::restore(QWidget &editor, const QByteArray &state)
+bool PaneSizes::restore(QWidget &editor, const QByteArray &state)
 {
     QMap<QString, QByteArray> states;
     QDataStream stream(state);
@@ -34,7 +34,7 @@ bool EditorState::restore(QWidget &editor, const QByteArray &state)
     return true;
 }
 
-void EditorState::setStandard(QWidget &editor)
+void PaneSizes::setStandard(QWidget &editor)
 {
     // Sizes of splitters are shares of the room that there is.
     const auto divide = [&editor](const char *name, const QList<int> &shares) {

@@ -1,0 +1,7 @@
+#include "CatalogMappingNotifier.h"
+
+CatalogMappingNotifier::CatalogMappingNotifier(QObject *parent)
+    : QObject(parent)
+{
+    setObjectName(QStringLiteral("CatalogMappingNotifier"));
+}

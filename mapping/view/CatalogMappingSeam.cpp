@@ -1,0 +1,136 @@
+// The part of CatalogMappingWidget that hosts use beside showing it.
+#include "CatalogMappingNotifier.h"
+#include "CatalogMappingWidget.h"
+#include "CatalogMappingWidgetPrivate.h"
+#include "CatalogStructureModel.h"
+#include "PaneSizes.h"
+#include "TreePath.h"
+
+#include <mapping/data/CatalogStructureNodeI.h>
+#include <mapping/project/ProjectMappingWidget.h>
+#include <mapping/table/TableMappingWidget.h>
+
+#include <geomcore/table/TabOptions.h>
+#include <geomcoregui/table/VkTableView.h>
+
+#include <QCheckBox>
+#include <QTreeView>
+
+QObject *CatalogMappingWidget::notifier() const
+{
+    return d->notifier;
+}
+
+PrjMappingC CatalogMappingWidget::currentProject() const
+{
+    return d->shownNode ? d->shownNode->getMapping() : PrjMappingC();
+}
+
+bool CatalogMappingWidget::selectProject(const QString &sourcePath, const QString &sourceVersion)
+{
+    return d->place().selectProject(sourcePath, sourceVersion);
+}
+
+VKTab::ContentRef CatalogMappingWidget::sourceTable() const
+{
+    return d->place().sourceTable();
+}
+
+QList<int> CatalogMappingWidget::selectedLines() const
+{
+    return d->place().selectedLines();
+}
+
+int CatalogMappingWidget::currentLine() const
+{
+    return d->place().currentLine();
+}
+
+bool CatalogMappingWidget::selectLine(int line)
+{
+    return d->place().selectLine(line);
+}
+
+void CatalogMappingWidget::focusLines()
+{
+    d->tableWidget->sourceView()->grid()->setFocus(Qt::OtherFocusReason);
+}
+
+void CatalogMappingWidget::showMapping(const PrjMappingC &mapping)
+{
+    d->showMapping(mapping);
+}
+
+void CatalogMappingWidget::setOnlyOpenProjects(bool on)
+{
+    d->checkToCheck->setChecked(on);
+}
+
+bool CatalogMappingWidget::onlyOpenProjects() const
+{
+    return d->checkToCheck->isChecked();
+}
+
+void CatalogMappingWidget::setOnlyPreferredRanges(bool on)
+{
+    QList<VKTab::ContentRef> changed; // both may share their options
+    for (const VkTableView *const view :
+         {d->tableWidget->sourceView(), d->tableWidget->targetView()}) {
+        const VKTab::ContentRef table = view->getTable();
+        if (table.isValid() && table.getOptions() &&
+            table.getOptions()->getShowOnlyPrefRanges() != on)
+            changed.append(table);
+    }
+    for (VKTab::ContentRef &table : changed) {
+        table.getOptions()->setShowOnlyPrefRanges(on);
+        table.invalidate(VKTab::Content::InvalidateValues, true);
+    }
+}
+
+QStringList CatalogMappingWidget::expandedDirectories() const
+{
+    return TreePath::expanded(*d->treeView);
+}
+
+void CatalogMappingWidget::expandDirectories(const QStringList &paths)
+{
+    TreePath::expand(*d->treeView, paths);
+    const QAbstractItemModel *const tree = d->treeView->model();
+    if (tree->rowCount() == 1)
+        d->treeView->expand(tree->index(0, 0));
+}
+
+QByteArray CatalogMappingWidget::saveState() const
+{
+    return PaneSizes::save(*this);
+}
+
+bool CatalogMappingWidget::restoreState(const QByteArray &state)
+{
+    if (PaneSizes::restore(*this, state))
+        return true;
+    PaneSizes::setStandard(*this);
+    return false;
+}
+
+QWidget *CatalogMappingWidget::pane(Pane which) const
+{
+    QWidget *pane = nullptr;
+    switch (which) {
+    case Pane::Tree:
+        pane = d->treeView;
+        break;
+    case Pane::Targets:
+        pane = d->projectWidget;
+        break;
+    case Pane::Lines:
+        pane = d->tableWidget;
+        break;
+    }
+    return pane && !pane->isHidden() ? pane : nullptr;
+}
+
+QAbstractItemModel *CatalogMappingWidget::treeModel() const
+{
+    return d->model;
+}

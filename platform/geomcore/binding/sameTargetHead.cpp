@@ -1,0 +1,57 @@
+#include "sameTargetHead.h"
+
+#include "VarsetConditionC.h"
+#include "VarsetModifierI.h"
+
+#include <core/json/PJsonValue.h>
+#include <geomcore/records/PrjMappingC.h>
+
+namespace {
+
+QString textOf(const VarsetConditionI *condition)
+{
+    const auto *const known = dynamic_cast<const VarsetConditionC *>(condition);
+    return known ? known->getCondition() : QString();
+}
+
+QByteArray textOf(const VarsetModifierI *modifier)
+{
+    PJsonValue value;
+    modifier->toJson(value);
+    return value.toByteArray(true);
+}
+
+template<class T>
+bool sameTexts(const QList<const T *> &a, const QList<const T *> &b)
+{
+    if (a == b)
+        return true;
+    if (a.size() != b.size())
+        return false;
+    for (qsizetype i = 0; i < a.size(); ++i) {
+        if (a[i] != b[i] && textOf(a[i]) != textOf(b[i]))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool sameTargetHead(const PrjMappingTargetC &a, const PrjMappingTargetC &b)
+{
+    return a.getTargetPath() == b.getTargetPath() && a.getTargetVersion() == b.getTargetVersion() &&
+           a.getTabVersion() == b.getTabVersion() && a.isValid() == b.isValid() &&
+           sameTexts(a.getConditions(), b.getConditions()) &&
+           sameTexts(a.getVarsetModifier(), b.getVarsetModifier());
+}
+
+bool sameTargetHeads(const PrjMappingC &a, const PrjMappingC &b)
+{
+    if (!a.isValid() || !b.isValid() || a.countTargets() != b.countTargets())
+        return false;
+    for (int i = 0; i < a.countTargets(); ++i) {
+        if (!sameTargetHead(a.targetAt(i), b.targetAt(i)))
+            return false;
+    }
+    return true;
+}

@@ -1,0 +1,335 @@
+#include "CatalogEditor.h"
+
+#include <geomcore/table/FilterByLineId.h>
+#include <geomcore/table/SignalConnect.h>
+#include <geomcore/table/TabOptions.h>
+#include <geomcoregui/table/VkTableView.h>
+
+#include <QAbstractItemModel>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QSplitter>
+
+namespace {
+
+const QString a = QStringLiteral("old/dir/a.prj");
+const QString b = QStringLiteral("old/dir/b.prj");
+
+QStringList signalsOf(const QMetaObject &meta)
+{
+    QStringList names;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        names += QString::fromLatin1(meta.method(i).methodSignature());
+    return names;
+}
+
+/// What came of the columns' signals.
+struct Announcements
+{
+    explicit Announcements(const Editor &editor)
+        : table(editor.table, SIGNAL(projectMappingUpdated(PrjMappingC)))
+        , project(editor.project, SIGNAL(projectMappingUpdated(PrjMappingC)))
+        , conflicts(editor.conflicts, SIGNAL(conflictsChanged(PrjMappingC)))
+    {
+    }
+    [[nodiscard]] qsizetype count() const
+    {
+        return table.size() + project.size() + conflicts.size();
+    }
+
+    QSignalSpy table;
+    QSignalSpy project;
+    QSignalSpy conflicts;
+};
+
+/// As the document does it when it undoes a step: the handler has it before the editor hears of it.
+void changeBehind(const Editor &editor, const PrjMappingC &mapping)
+{
+    editor.handler->ReleaseMappingHandler::updateMapping(mapping);
+    editor.widget->showMapping(mapping);
+}
+
+} // namespace
+
+class tst_CatalogMappingSeam : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void signalsStandBesideTheWidget();
+    void tellsTheProject();
+    void tellsTheLines();
+    void selectsAProjectPastTheFilter();
+    void selectsAProjectByVersion();
+    void selectsALinePastTheFilter_data();
+    void selectsALinePastTheFilter();
+    void focusesTheLines();
+    void showsAMappingSilently();
+    void showsAMappingOfAnotherProject();
+    void opensTheProjectAnewForOtherTargets();
+    void filtersOpenProjects();
+    void preferredRangesOfBothTables();
+    void opensDirectories();
+    void keepsPaneSizes();
+    void givesPanes();
+    void leavesItsTreeModel();
+};
+
+void tst_CatalogMappingSeam::signalsStandBesideTheWidget()
+{
+    const Editor editor;
+    QCOMPARE(signalsOf(*editor.widget->notifier()->metaObject()),
+             QStringList({"currentProjectChanged()", "selectedLinesChanged()",
+                          "onlyOpenProjectsChanged(bool)"}));
+    QCOMPARE(signalsOf(CatalogMappingWidget::staticMetaObject), QStringList());
+}
+
+void tst_CatalogMappingSeam::tellsTheProject()
+{
+    const Editor editor;
+    editor.show();
+    QSignalSpy changed(editor.widget->notifier(), SIGNAL(currentProjectChanged()));
+    QVERIFY(!editor.widget->currentProject().isValid());
+    QVERIFY(!editor.widget->sourceTable().isValid());
+    editor.click(a);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(editor.widget->currentProject().getSourcePath(), a);
+    QCOMPARE(editor.widget->sourceTable().getLineIdList().size(), 3);
+    editor.click("old/dir/gone.prj");
+    QCOMPARE(changed.size(), 2);
+    QCOMPARE(editor.widget->currentProject().getSourcePath(), QStringLiteral("old/dir/gone.prj"));
+    QVERIFY(!editor.widget->sourceTable().isValid());
+    editor.click("old/dir");
+    QCOMPARE(changed.size(), 3);
+    QVERIFY(!editor.widget->currentProject().isValid());
+}
+
+void tst_CatalogMappingSeam::tellsTheLines()
+{
+    const Editor editor;
+    editor.show();
+    QVERIFY(!editor.widget->selectLine(2));
+    QVERIFY(editor.widget->selectProject(a));
+    QSignalSpy changed(editor.widget->notifier(), SIGNAL(selectedLinesChanged()));
+    QCOMPARE(editor.widget->currentLine(), -1);
+    QVERIFY(editor.widget->selectLine(2));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(editor.widget->selectedLines(), QList<int>{2});
+    QCOMPARE(editor.widget->currentLine(), 2);
+    QVERIFY(!editor.widget->selectLine(4));
+    QCOMPARE(editor.widget->currentLine(), 2);
+    editor.table->sourceView()->grid()->selectAll();
+    QCOMPARE(editor.widget->selectedLines(), (QList<int>{1, 2, 3}));
+    QCOMPARE(editor.widget->currentLine(), -1);
+}
+
+void tst_CatalogMappingSeam::selectsAProjectPastTheFilter()
+{
+    const Editor editor;
+    editor.show();
+    editor.widget->setOnlyOpenProjects(true);
+    QVERIFY(!editor.row("old/done/c.prj").isValid());
+    QVERIFY(editor.widget->selectProject(b));
+    QVERIFY(editor.widget->onlyOpenProjects());
+    QVERIFY(editor.widget->selectProject("old/done/c.prj"));
+    QVERIFY(!editor.widget->onlyOpenProjects());
+    QCOMPARE(editor.widget->currentProject().getSourcePath(), QStringLiteral("old/done/c.prj"));
+    QVERIFY(editor.tree->isExpanded(editor.row("old/done")));
+    QVERIFY(!editor.widget->selectProject("old/dir/none.prj"));
+    QVERIFY(!editor.widget->selectProject(QString()));
+}
+
+void tst_CatalogMappingSeam::selectsAProjectByVersion()
+{
+    ReleaseMappingC release = sampleRelease();
+    PrjMappingC later = mixedMapping(a);
+    later.setSourceVersion("v2");
+    release.addMapping(later);
+    const Editor editor(release);
+    QVERIFY(editor.widget->selectProject(a, "v2"));
+    QCOMPARE(editor.widget->currentProject().getSourceVersion(), QStringLiteral("v2"));
+    QVERIFY(editor.widget->selectProject(a, "v1"));
+    QCOMPARE(editor.widget->currentProject().getSourceVersion(), QStringLiteral("v1"));
+    QVERIFY(!editor.widget->selectProject(a, "v3"));
+}
+
+void tst_CatalogMappingSeam::selectsALinePastTheFilter_data()
+{
+    QTest::addColumn<bool>("byBox");
+    QTest::newRow("by state") << true;
+    QTest::newRow("from the menu") << false;
+}
+
+void tst_CatalogMappingSeam::selectsALinePastTheFilter()
+{
+    QFETCH(bool, byBox);
+    const Editor editor;
+    editor.show();
+    QVERIFY(editor.widget->selectProject(a));
+    QVERIFY(editor.widget->selectLine(1));
+    VKTab::ContentRef table = editor.widget->sourceTable();
+    if (byBox) {
+        editor.check("chkFilterSource");
+    } else {
+        table.setFilter(VKTab::FilterByLineId({{1, VKTab::TabFilterData()}}, true));
+        table.invalidate(VKTab::Content::InvalidateFilter, true);
+    }
+    QVERIFY(!table.isLineVisible(VKTab::LineId(3)));
+    QVERIFY(editor.widget->selectLine(3));
+    QVERIFY(table.isLineVisible(VKTab::LineId(3)));
+    QVERIFY(!editor.box("chkFilterSource")->isChecked());
+    QCOMPARE(editor.widget->currentLine(), 3);
+}
+
+void tst_CatalogMappingSeam::focusesTheLines()
+{
+    const Editor editor;
+    editor.show();
+    QVERIFY(editor.widget->selectProject(a));
+    editor.widget->focusLines();
+    QCOMPARE(editor.widget->focusWidget(), editor.table->sourceView()->grid());
+}
+
+void tst_CatalogMappingSeam::showsAMappingSilently()
+{
+    const Editor editor;
+    editor.show();
+    editor.click(a);
+    QVERIFY(editor.widget->selectLine(1));
+    const VKTab::ContentRef table = editor.widget->sourceTable();
+    const QString before = editor.statistics->text();
+    const Announcements announced(editor);
+    PrjMappingC changed = editor.stored(a);
+    changed.verifyAll();
+    changeBehind(editor, changed);
+    QCOMPARE(announced.count(), 0);
+    QVERIFY(!editor.calls.contains("updateMapping"));
+    QCOMPARE(table.getLine(VKTab::LineId(1), false)
+                 .getLineKeyValue(QStringLiteral("CatalogMapper"))
+                 .toString(),
+             QStringLiteral("M"));
+    QCOMPARE(editor.project->mapping().getMappingState(), changed.getMappingState());
+    QVERIFY(editor.statistics->text() != before);
+    QVERIFY(editor.widget->sourceTable() == table);
+    QCOMPARE(editor.widget->currentLine(), 1);
+}
+
+void tst_CatalogMappingSeam::showsAMappingOfAnotherProject()
+{
+    const Editor editor;
+    editor.show();
+    editor.click(a);
+    const QString before = editor.statistics->text();
+    PrjMappingC changed = editor.stored(b);
+    changed.verifyAll();
+    changeBehind(editor, changed);
+    QCOMPARE(editor.project->mapping().getSourcePath(), a);
+    QCOMPARE(editor.widget->currentProject().getSourcePath(), a);
+    QVERIFY(editor.statistics->text() != before);
+    QVERIFY(!editor.calls.contains("updateMapping"));
+}
+
+void tst_CatalogMappingSeam::opensTheProjectAnewForOtherTargets()
+{
+    const Editor editor;
+    editor.show();
+    editor.click(a);
+    QVERIFY(editor.widget->selectLine(2));
+    QCOMPARE(panelPaths(editor.project), QStringLiteral("new/a.prj"));
+    const Announcements announced(editor);
+    PrjMappingC changed = editor.stored(a);
+    PrjMappingTargetC added;
+    added.setTargetPath("new/a.prj");
+    added.setValid(true);
+    changed.insertTarget(1, added);
+    changeBehind(editor, changed);
+    QCOMPARE(panelPaths(editor.project), QStringLiteral("new/a.prj new/a.prj"));
+    QCOMPARE(editor.widget->currentLine(), 2);
+    QCOMPARE(announced.count(), 0);
+    QVERIFY(!editor.calls.contains("updateMapping"));
+}
+
+void tst_CatalogMappingSeam::filtersOpenProjects()
+{
+    const Editor editor;
+    editor.show();
+    QSignalSpy changed(editor.widget->notifier(), SIGNAL(onlyOpenProjectsChanged(bool)));
+    editor.widget->setOnlyOpenProjects(true);
+    QVERIFY(editor.box("checkToCheck")->isChecked());
+    editor.check("checkToCheck");
+    QVERIFY(!editor.widget->onlyOpenProjects());
+    QCOMPARE(changed.size(), 2);
+    QCOMPARE(changed.at(0).first().toBool(), true);
+    QCOMPARE(changed.at(1).first().toBool(), false);
+}
+
+void tst_CatalogMappingSeam::preferredRangesOfBothTables()
+{
+    const Editor editor;
+    editor.show();
+    editor.widget->setOnlyPreferredRanges(true); // there is no table
+    editor.click(a);
+    QVERIFY(editor.widget->selectLine(2));
+    const VKTab::ContentRef target = editor.table->targetView()->getTable();
+    QVERIFY(target.isValid());
+    int invalidated = 0;
+    const boost::signals2::scoped_connection connection =
+        target.signalConnect().connectSignalInvalidated(
+            [&](const VKTab::Content &, VKTab::Content::InvalidateFlags) { ++invalidated; });
+    editor.widget->setOnlyPreferredRanges(true);
+    QVERIFY(editor.widget->sourceTable().getOptions()->getShowOnlyPrefRanges());
+    QVERIFY(target.getOptions()->getShowOnlyPrefRanges());
+    QCOMPARE(invalidated, 1);
+}
+
+void tst_CatalogMappingSeam::opensDirectories()
+{
+    const Editor editor;
+    QCOMPARE(editor.widget->expandedDirectories(), QStringList());
+    editor.widget->expandDirectories({});
+    QCOMPARE(editor.widget->expandedDirectories(), QStringList{"old"}); // alone at the top
+    editor.widget->expandDirectories({"old/done", "old/none"});
+    QCOMPARE(editor.widget->expandedDirectories(), (QStringList{"old", "old/done"}));
+}
+
+void tst_CatalogMappingSeam::keepsPaneSizes()
+{
+    const Editor editor;
+    editor.show();
+    auto *const splitter = editor.widget->findChild<QSplitter *>("catalogSplitter");
+    QVERIFY(!editor.widget->restoreState(QByteArray()));
+    const QList<int> standard = splitter->sizes();
+    splitter->setSizes({700, 700});
+    const QList<int> wide = splitter->sizes();
+    QVERIFY(wide != standard);
+    const QByteArray state = editor.widget->saveState();
+    QVERIFY(!editor.widget->restoreState("no state"));
+    QCOMPARE(splitter->sizes(), standard);
+    QVERIFY(editor.widget->restoreState(state));
+    QCOMPARE(splitter->sizes(), wide);
+}
+
+void tst_CatalogMappingSeam::givesPanes()
+{
+    using Pane = CatalogMappingWidget::Pane;
+    const Editor editor;
+    editor.show();
+    QCOMPARE(editor.widget->pane(Pane::Tree), editor.tree);
+    QCOMPARE(editor.widget->pane(Pane::Targets), editor.project);
+    QCOMPARE(editor.widget->pane(Pane::Lines), editor.table);
+    editor.widget->hideTree();
+    QVERIFY(!editor.widget->pane(Pane::Tree));
+}
+
+void tst_CatalogMappingSeam::leavesItsTreeModel()
+{
+    Editor editor;
+    const QPointer<QAbstractItemModel> model(editor.widget->treeModel());
+    QCOMPARE(model->index(0, 0).data().toString(), QStringLiteral("old"));
+    editor.widget.reset();
+    QVERIFY(model);
+    delete model;
+}
+
+QTEST_MAIN(tst_CatalogMappingSeam)
+#include "tst_CatalogMappingSeam.moc"
