@@ -1,3 +1,4 @@
+#include <core/json/JsonText.h>
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
 
@@ -309,13 +310,33 @@ private Q_SLOTS:
             << QByteArray("[\"a\nb\"]") << "line 1, column 4";
         QTest::newRow("invalid UTF-8") << QByteArray("[\"a\",\n\"\xC3(\"]") << "line 2, column";
         QTest::newRow("overlong UTF-8") << QByteArray("[\"\xC0\xAF\"]") << "line 1, column";
-        QTest::newRow("lone surrogate") << QByteArray("[\"\\ud800\"]") << "line 1, column";
+        QTest::newRow("surrogate in UTF-8")
+            << QByteArray("[\"\xED\xA0\x80\"]") << "line 1, column 3";
+        QTest::newRow("beyond Unicode") << QByteArray("[\"\xF4\x90\x80\x80\"]") << "line 1, column";
+        QTest::newRow("overlong, three bytes")
+            << QByteArray("\"\xE0\x80\x80\"") << "line 1, column";
+        QTest::newRow("overlong, four bytes")
+            << QByteArray("\"\xF0\x80\x80\x80\"") << "line 1, column";
+        QTest::newRow("byte that only follows") << QByteArray("\"\x80\"") << "line 1, column 2";
+        QTest::newRow("unknown escape") << QByteArray("\"\\x\"") << "line 1, column 3";
+        QTest::newRow("short escape") << QByteArray("\"\\u12g4\"") << "line 1, column 6";
+        QTest::newRow("no colon") << QByteArray("{\"a\" 1}") << "line 1, column 6";
+        QTest::newRow("no value") << QByteArray("{\"a\":}") << "line 1, column 6";
+        QTest::newRow("comma in front") << QByteArray("{,\"a\":1}") << "line 1, column 2";
+        QTest::newRow("comma behind a member") << QByteArray("{\"a\":1,}") << "line 1, column 8";
+        QTest::newRow("no comma") << QByteArray("[1 2]") << "line 1, column 4";
+        QTest::newRow("other bracket") << QByteArray("[1}") << "line 1, column 3";
+        QTest::newRow("bracket too many") << QByteArray("[1]]") << "line 1, column 4";
+        QTest::newRow("sign alone") << QByteArray("[-]") << "line 1, column 3";
+        QTest::newRow("plus") << QByteArray("[+1]") << "line 1, column 2";
+        QTest::newRow("no digit behind the point") << QByteArray("[1.]") << "line 1, column 4";
+        QTest::newRow("no digit before the point") << QByteArray("[.5]") << "line 1, column 2";
+        QTest::newRow("no digit in the exponent") << QByteArray("[1e+]") << "line 1, column 5";
+        QTest::newRow("half a word") << QByteArray("[tru]") << "line 1, column 2";
+        QTest::newRow("word goes on") << QByteArray("[nulls]") << "line 1, column 6";
         QTest::newRow("leading zero") << QByteArray("[01]") << "line 1, column 3";
         QTest::newRow("byte 0 behind") << QByteArray("{}\0{}", 5) << "line 1, column 3";
         QTest::newRow("not a number") << QByteArray("NaN") << "line 1, column 1";
-        QTest::newRow("number beyond a double") << QByteArray("[1e400]") << "line 1, column 2";
-        QTest::newRow("too deep") << QByteArray(600, '[') + QByteArray(600, ']')
-                                  << "line 1, column 514";
     }
     void badText()
     {
@@ -330,11 +351,58 @@ private Q_SLOTS:
         QVERIFY(!value.parse(json));
     }
 
-    void deepestText()
+    // What a reader of the values would refuse is passed on nevertheless.
+    void whatIsJsonPassesThrough_data()
     {
-        const QByteArray json =
-            QByteArray(PJsonValue::MaxDepth, '[') + QByteArray(PJsonValue::MaxDepth, ']');
-        QCOMPARE(parsed(json).toByteArray(true), json);
+        QTest::addColumn<QByteArray>("json");
+        QTest::newRow("number beyond a double") << QByteArray("[1e999,-1E+99999,1e-9999]");
+        QTest::newRow("number of many digits") << QByteArray(1000, '7');
+        QTest::newRow("half a surrogate pair") << QByteArray(R"({"\ud800":"a\udc00\ud83db"})");
+        QTest::newRow("deep") << QByteArray(100000, '[') + QByteArray(100000, ']');
+        QTest::newRow("all kinds")
+            << QByteArray(R"({"a":[null,true,false,-0,0.5E-3,"\u00e4\/\b",{},[]],"":{"b":1}})");
+        QTest::newRow("UTF-8 of all lengths")
+            << QByteArray("\"\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF"
+                          "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF\"");
+    }
+    void whatIsJsonPassesThrough()
+    {
+        QFETCH(QByteArray, json);
+        PJsonValue document = parsed("{\"other\":" + json + "}");
+        document["added"] = PJsonValue();
+        QCOMPARE(document.toByteArray(true), "{\"other\":" + json + ",\"added\":null}");
+    }
+
+    void numberBeyondADoubleIsNone() { QCOMPARE(parsed("1e999").toDouble(0.5), 0.5); }
+
+    void halfASurrogatePairIsWrittenAsItWasRead()
+    {
+        PJsonValue value = parsed(R"({"\ud800":1,"ä\ud83d\ude00\n\udc00":2})");
+        QVERIFY(value.contains(QString(QChar(0xD800))));
+        value["c"] = PJsonValue(QString(QChar(0xDBFF)) + "x");
+        QCOMPARE(value.toByteArray(true),
+                 QByteArray(R"({"\ud800":1,"ä😀\n\udc00":2,"c":"\udbffx"})"));
+    }
+
+    // Cut anywhere, a document is no JSON, and nothing behind it is read.
+    void cutText()
+    {
+        const QByteArray whole = "{\"\xF0\x9F\x98\x80\":[-1.5e+7,\"\\u00e4\xC3\xA4\",true,null]}";
+        for (qsizetype size = 0; size < whole.size(); ++size) {
+            const std::vector<char> exact(whole.begin(), whole.begin() + size);
+            const auto json = QByteArray::fromRawData(exact.data(), size);
+            QVERIFY2(!JsonText::check(json, nullptr), json.constData());
+        }
+        QVERIFY(JsonText::check(whole, nullptr));
+    }
+
+    void placeOfAFault()
+    {
+        QString error;
+        QVERIFY(!JsonText::check(QByteArrayView("{\"a\": \xF0"), &error));
+        QCOMPARE(error, QString("line 1, column 7: A value is missing."));
+        QVERIFY(!JsonText::check(QByteArrayView("{\"\xF0"), &error));
+        QCOMPARE(error, QString("line 1, column 3: A text is no UTF-8."));
     }
 
     void parseFile()

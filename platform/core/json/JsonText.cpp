@@ -1,7 +1,6 @@
 #include "JsonText.h"
 
-#include <rapidjson/error/en.h>
-#include <rapidjson/reader.h>
+#include "JsonGrammar.h"
 
 #include <algorithm>
 #include <cstring>
@@ -9,23 +8,6 @@
 namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
-/// Takes note of nothing but the depth.
-class DepthHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, DepthHandler>
-{
-public:
-    explicit DepthHandler(int maxDepth)
-        : m_left(maxDepth)
-    {
-    }
-    bool StartObject() { return --m_left >= 0; }
-    bool StartArray() { return --m_left >= 0; }
-    bool EndObject(rapidjson::SizeType) { return ++m_left > 0; }
-    bool EndArray(rapidjson::SizeType) { return ++m_left > 0; }
-
-private:
-    int m_left;
-};
 
 bool isBlank(char c)
 {
@@ -37,16 +19,6 @@ qsizetype markSize(QByteArrayView json)
     return json.startsWith(QByteArrayView(ByteOrderMark.data(), ByteOrderMark.size()))
                ? qsizetype(ByteOrderMark.size())
                : 0;
-}
-
-QString failure(const rapidjson::ParseResult &result, const QByteArray &json, qsizetype mark,
-                int maxDepth)
-{
-    const QString what = result.Code() == rapidjson::kParseErrorTermination
-                             ? QStringLiteral("Values are nested deeper than %1.").arg(maxDepth)
-                             : QString::fromLatin1(rapidjson::GetParseError_En(result.Code()));
-    return QStringLiteral("%1: %2").arg(JsonText::place(json, qsizetype(result.Offset()) + mark),
-                                        what);
 }
 
 /// The character that an escape of four hexadecimal digits stands for.
@@ -71,23 +43,15 @@ const char *unescape(const char *at, QString &text)
 
 } // namespace
 
-bool JsonText::check(const QByteArray &json, int maxDepth, QString *error)
+bool JsonText::check(QByteArrayView json, QString *error)
 {
     const qsizetype mark = markSize(json);
-    rapidjson::StringStream stream(json.constData() + mark);
-    rapidjson::Reader reader;
-    DepthHandler handler(maxDepth);
-    constexpr unsigned Flags =
-        rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
-    const rapidjson::ParseResult result = reader.Parse<Flags>(stream, handler);
-    if (!result.IsError() && qsizetype(stream.Tell()) + mark == json.size())
+    JsonGrammar grammar(json.sliced(mark));
+    if (grammar.check())
         return true;
-    if (error) {
-        *error = result.IsError()
-                     ? failure(result, json, mark, maxDepth)
-                     : QStringLiteral("%1: A byte of value 0 stands behind the document.")
-                           .arg(place(json, qsizetype(stream.Tell()) + mark));
-    }
+    if (error)
+        *error = QStringLiteral("%1: %2").arg(place(json, grammar.faultAt() + mark),
+                                              QLatin1String(grammar.fault()));
     return false;
 }
 

@@ -11,10 +11,9 @@
 /// Looking at JSON text without building values.
 namespace JsonText {
 
-/// Whether the text is one JSON value (RFC 8259, UTF-8) with nothing behind it, nested at most
-/// \a maxDepth deep. If not, \a error says what is wrong and at which line and column. \a json is
-/// read as a text that ends with NUL, which every QByteArray that owns its bytes does.
-[[nodiscard]] VELKCORE_EXPORT bool check(const QByteArray &json, int maxDepth, QString *error);
+/// Whether the text is one JSON value by grammar (RFC 8259, UTF-8, with or without byte order mark)
+/// with nothing behind it. If not, \a error says what is wrong and at which line and column.
+[[nodiscard]] VELKCORE_EXPORT bool check(QByteArrayView json, QString *error);
 
 /// "line 3, column 14" of a byte offset, both from 1, columns in bytes.
 [[nodiscard]] VELKCORE_EXPORT QString place(QByteArrayView json, qsizetype offset);
@@ -23,7 +22,7 @@ namespace JsonText {
 [[nodiscard]] VELKCORE_EXPORT QByteArrayView trimmed(QByteArrayView json);
 
 /// The text of a value that is a text: without its quotes and escapes. \a quoted must have passed
-/// check().
+/// check(). An escaped half of a surrogate pair stays one.
 [[nodiscard]] VELKCORE_EXPORT QString unquoted(QByteArrayView quoted);
 
 /// The text without the blanks between its parts.

@@ -2,16 +2,11 @@
 
 #include <QIODevice>
 
-#include <rapidjson/internal/itoa.h>
-
 #include <charconv>
 #include <cmath>
 #include <cstring>
 
 namespace {
-
-using rapidjson::internal::i32toa;
-using rapidjson::internal::i64toa;
 
 /// A device is given pieces of about this size.
 constexpr qsizetype PieceSize = 256 * 1024;
@@ -58,6 +53,25 @@ char *escape(char *at, char c)
     return at;
 }
 
+/// A qint64 takes this many characters at most.
+constexpr int NumberSize = 20;
+
+char *putNumber(char *at, auto number)
+{
+    return std::to_chars(at, at + NumberSize, number).ptr;
+}
+
+/// Writes six characters.
+char *escapeUnit(char *at, char16_t unit)
+{
+    static constexpr char Digits[] = "0123456789abcdef";
+    *at++ = '\\';
+    *at++ = 'u';
+    for (int shift = 12; shift >= 0; shift -= 4)
+        *at++ = Digits[(unit >> shift) & 15];
+    return at;
+}
+
 } // namespace
 
 JsonWriter::JsonWriter(Layout layout, int level)
@@ -76,10 +90,10 @@ JsonWriter::JsonWriter(QIODevice &device, Layout layout)
 void JsonWriter::row(std::initializer_list<int> numbers)
 {
     beforeValue();
-    char *at = reserve(qsizetype(numbers.size()) * 12 + 2);
+    char *at = reserve(qsizetype(numbers.size()) * (NumberSize + 1) + 2);
     *at++ = '[';
     for (int number : numbers) {
-        at = i32toa(number, at);
+        at = putNumber(at, number);
         *at++ = ',';
     }
     at -= numbers.size() > 0 ? 1 : 0;
@@ -118,13 +132,13 @@ void JsonWriter::value(QStringView text)
 void JsonWriter::value(int number)
 {
     beforeValue();
-    m_at = i32toa(number, reserve(12));
+    m_at = putNumber(reserve(NumberSize), number);
 }
 
 void JsonWriter::value(qint64 number)
 {
     beforeValue();
-    m_at = i64toa(number, reserve(24));
+    m_at = putNumber(reserve(NumberSize), number);
 }
 
 void JsonWriter::value(bool flag)
@@ -277,11 +291,38 @@ void JsonWriter::putText(QStringView text)
     *at++ = '"';
     for (QChar c : text) {
         if (c.unicode() >= 0x80 || mustBeEscaped(char(c.unicode()))) {
+            if (!text.isValidUtf16()) {
+                putUnpaired(text);
+                return;
+            }
             const QByteArray utf8 = text.toUtf8();
             putText(std::string_view(utf8.constData(), std::size_t(utf8.size())));
             return;
         }
         *at++ = char(c.unicode());
+    }
+    *at++ = '"';
+    m_at = at;
+}
+
+/// A text with halves of surrogate pairs, which have no UTF-8 and are escaped.
+void JsonWriter::putUnpaired(QStringView text)
+{
+    char *at = reserve(text.size() * 6 + 2);
+    *at++ = '"';
+    while (!text.isEmpty()) {
+        const char16_t unit = text.front().unicode();
+        const bool pair = text.first(qMin(text.size(), qsizetype(2))).isValidUtf16();
+        const qsizetype units = QChar::isHighSurrogate(unit) && pair ? 2 : 1;
+        if (units == 1 && QChar::isSurrogate(unit)) {
+            at = escapeUnit(at, unit);
+        } else if (unit < 0x80 && mustBeEscaped(char(unit))) {
+            at = escape(at, char(unit));
+        } else {
+            for (char byte : text.first(units).toUtf8())
+                *at++ = byte;
+        }
+        text = text.sliced(units);
     }
     *at++ = '"';
     m_at = at;

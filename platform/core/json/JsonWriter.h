@@ -70,6 +70,7 @@ private:
     void put(std::string_view text);
     void putText(std::string_view utf8);
     void putText(QStringView text);
+    void putUnpaired(QStringView text);
     char *reserve(qsizetype size)
     {
         if (m_end - m_at < size)

@@ -135,14 +135,14 @@ bool PJsonValue::parseFile(const QString &nativePath, QString *error)
 
 bool PJsonValue::parse(const QByteArray &json, QString *error)
 {
-    // The caller's array may not own its bytes and then lack the final NUL.
+    // The caller's array may not own its bytes.
     return adopt(QByteArray(json.constData(), json.size()), error);
 }
 
 bool PJsonValue::adopt(const QByteArray &json, QString *error)
 {
     d.reset();
-    if (!JsonText::check(json, MaxDepth, error))
+    if (!JsonText::check(json, error))
         return false;
     d = new PJsonNode(json, JsonText::trimmed(json), -1);
     return true;

@@ -49,14 +49,12 @@ public:
     [[nodiscard]] static PJsonValue fromWriter(Type type,
                                                const std::function<void(JsonWriter &)> &write);
 
-    /// Reads a whole document (RFC 8259, UTF-8, with or without byte order mark). Of members of one
-    /// name the last counts. False if the file cannot be read, is empty, is no JSON or holds a
-    /// number beyond the range of a double: then this value is null, and \a error names the file,
-    /// line and column (in bytes), both from 1.
+    /// Reads a whole document (RFC 8259, UTF-8, with or without byte order mark), all that is JSON
+    /// by grammar. Of members of one name the last counts. False if the file cannot be read, is
+    /// empty or is no JSON: then this value is null, and \a error names the file, line and column
+    /// (in bytes), both from 1.
     bool parseFile(const QString &nativePath, QString *error = nullptr);
     bool parse(const QByteArray &json, QString *error = nullptr);
-    /// Values nested deeper than this are refused.
-    static constexpr int MaxDepth = 512;
 
     [[nodiscard]] Type type() const;
     [[nodiscard]] bool isNull() const { return type() == Null; }
@@ -66,6 +64,7 @@ public:
     [[nodiscard]] bool toBool(bool other = false) const;
     /// \a other also for numbers that are not written as an integer, and for too large ones.
     [[nodiscard]] qint64 toInt(qint64 other = 0) const;
+    /// \a other also for numbers beyond a double.
     [[nodiscard]] double toDouble(double other = 0) const;
     /// \a other unless it is a text.
     [[nodiscard]] QString toText(const QString &other = QString()) const;

@@ -1,6 +1,5 @@
 #include "ReleaseBuilder.h"
 
-#include <core/json/PJsonValue.h>
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/binding/VarsetValueMappingC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
@@ -290,7 +289,7 @@ bool ReleaseBuilder::passOver()
 bool ReleaseBuilder::startPassingOver()
 {
     m_passNext = false;
-    if (++m_passedOver > PJsonValue::MaxDepth)
+    if (++m_passedOver > MaxDepth)
         return fail(QStringLiteral("holds values that are nested too deeply"));
     return true;
 }

@@ -13,6 +13,9 @@
 class ReleaseBuilder
 {
 public:
+    /// Values nested deeper than this are refused, since reading them recurses.
+    static constexpr int MaxDepth = 512;
+
     [[nodiscard]] const ReleaseMappingC &release() const { return m_release; }
     /// Nothing is being read: either no event came yet, or the release's closing brace did.
     [[nodiscard]] bool isIdle() const { return m_place == Outside; }

@@ -4,12 +4,12 @@
 #include "ReleaseBuilder.h"
 
 #include <core/json/JsonText.h>
-#include <core/json/PJsonValue.h>
 
 #include <QHash>
 #include <QIODevice>
 
 #include <rapidjson/error/en.h>
+#include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
 #include <array>
@@ -153,7 +153,7 @@ private:
         endOfText();
         return m_depth > 0;
     }
-    bool open() { return ++m_depth <= PJsonValue::MaxDepth; }
+    bool open() { return ++m_depth <= ReleaseBuilder::MaxDepth; }
     bool close()
     {
         --m_depth;
@@ -255,13 +255,17 @@ bool report(QString *error, QByteArrayView json, qsizetype offset, const QString
     return false;
 }
 
-/// The text of a member's value: what stands between its name and the next member.
+/// The text of a member's value: what stands between its name and the next member. Empty if the
+/// file became shorter since it was read.
 QByteArray valueText(QIODevice &file, const Extent &extent)
 {
+    const qsizetype size = extent.to - extent.from;
     if (!file.seek(extent.from))
         return QByteArray();
-    const QByteArray text = file.read(extent.to - extent.from);
+    const QByteArray text = file.read(size);
     const QByteArrayView behindName = JsonText::trimmed(text);
+    if (text.size() != size || behindName.isEmpty())
+        return QByteArray();
     return JsonText::trimmed(behindName.sliced(1)).toByteArray(); // behind the colon
 }
 
@@ -270,7 +274,7 @@ QByteArray valueText(QIODevice &file, const Extent &extent)
 bool readRelease(const QByteArray &json, ReleaseMappingC &release, QString *error)
 {
     ReleaseEvents events;
-    rapidjson::StringStream stream(json.constData());
+    rapidjson::MemoryStream stream(json.constData(), std::size_t(json.size()));
     QString what;
     const qsizetype offset = parse(stream, events, json.size(), what);
     if (offset >= 0)
@@ -292,8 +296,11 @@ bool readMappingFile(QIODevice &file, const QString &sourceDate, QList<MappingFi
     }
     QList<MappingFileMember> found = events.members();
     for (MappingFileMember &member : found) {
-        if (!member.isRecords)
-            member.text = valueText(file, events.extents().value(member.sourceDate));
+        if (member.isRecords)
+            continue;
+        member.text = valueText(file, events.extents().value(member.sourceDate));
+        if (member.text.isEmpty())
+            return report(error, {}, 0, QStringLiteral("The file changed while it was read."));
     }
     members = found;
     return true;
