@@ -68,10 +68,7 @@ void TargetMappingWidget::loadConditions(const PrjMappingTargetC &target)
 {
     conditionVariables.clear();
     const QList<const VarsetConditionI *> conditions = target.getConditions();
-    for (const VarsetConditionI *const entry : conditions) {
-        const auto *const condition = dynamic_cast<const VarsetConditionC *>(entry);
-        if (!condition)
-            continue;
+    for (const VarsetConditionI *const condition : conditions) {
         conditionModel->appendRow({new QStandardItem, formulaItem(condition->getCondition())});
         collectVariables(condition->getCondition());
     }

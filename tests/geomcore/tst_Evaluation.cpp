@@ -1,6 +1,8 @@
 #include "ExpressionTesting.h"
 #include "TestTables.h"
 
+#include <core/message/PScriptedMessageSink.h>
+
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/binding/VarsetSource.h>
 #include <geomcore/expression/ExpressionFunctions.h>
@@ -271,6 +273,8 @@ private Q_SLOTS:
         row("LEN(X)", "\"\"");
         row("LEN(A)", "2");
         row("LEN(A * 100)", "4");
+        row("IF(DEFINED(SUBSTR(X, 1)), 1, 2)", "2");
+        row("IF(DEFINED(SUBSTR(T, X)), 1, 2)", "2");
         row("SUBSTR(T, 1, 3)", "\"Sch\"");
         row("SUBSTR(T, 4)", "\"raube\"");
         row("SUBSTR(U, 3, 2)", "\"öß\"");
@@ -557,6 +561,73 @@ private Q_SLOTS:
         line.putValue(table.getVar(u"L").getVarId(), VKTab::Value(12));
         QTEST(onVarset(*program, createVarsetFromVKTable(line, {})), "shown");
         QTEST(onLine(program, LineView(line)), "shown");
+    }
+
+    void longTextsHaveNoValue_data()
+    {
+        QTest::addColumn<QString>("formula");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<bool>("taken");
+        const auto row = [](const char *formula, int length, bool taken) {
+            QTest::addRow("%s of %d", formula, length) << formula << length << taken;
+        };
+        row("CONCAT(T, 'a')", 999'999, true);
+        row("CONCAT(T, 'a')", 1'000'000, false);
+        row("CONCAT(T, 'ä')", 999'999, true);
+        row("REPLACE(T, 'xx', 'xxx')", 666'666, true);
+        row("REPLACE(T, 'xx', 'xxx')", 666'668, false);
+        row("REPLACE(CONCAT(T, 'y'), 'y', 'yy')", 999'999, false);
+        row("UPPER(T)", 1'000'001, false);
+        row("LEN(T)", 2'000'000, true);
+    }
+    void longTextsHaveNoValue()
+    {
+        QFETCH(QString, formula);
+        QFETCH(int, length);
+        QFETCH(bool, taken);
+        const auto sink = std::make_shared<PScriptedMessageSink>();
+        const PMessageSinkScope scope(sink);
+        const auto program = compiled("V = " + formula);
+        const Varset values{{"T", value("T", QString(length, 'x'))}};
+        for (int round = 0; round < 2; ++round) {
+            QCOMPARE(onVarset(*program, values) != "\"\"", taken);
+            QCOMPARE(sink->logged().size(), taken ? 0 : 1); // once
+        }
+        QVERIFY(taken || sink->logged().constFirst().contains("V wird länger als 1000000 Zeichen"));
+        QVERIFY(sink->shown().isEmpty());
+    }
+
+    // Each level has ten times the characters of the one below.
+    void nestedReplacementsEnd()
+    {
+        QString formula = "T";
+        for (int level = 0; level < 100; ++level)
+            formula = "REPLACE(" + formula + ", 'x', 'xxxxxxxxxx')";
+        const auto sink = std::make_shared<PScriptedMessageSink>();
+        const PMessageSinkScope scope(sink);
+        const auto condition = compiled(formula + " .NE. 'y'");
+        QCOMPARE(onVarset(*condition, varset({{"T", "x"}})), QString("false"));
+        QCOMPARE(sink->logged().size(), 1);
+        QVERIFY(sink->logged().constFirst().contains("für T wird"));
+    }
+
+    // The place in the text and the place among the variables are found however many there are.
+    void manyVariables()
+    {
+        QString formula = "V = MAX(0";
+        Varset values;
+        QStringList names;
+        for (int i = 0; i < 3000; ++i) {
+            const QString name = "N" + QString::number(i);
+            formula += ", " + name + ", SOURCE@" + name;
+            values.insert(name, value(name, QString::number(i)));
+            names.append(name);
+        }
+        const auto program = compiled(formula + ")");
+        QVERIFY(program);
+        QCOMPARE(program->variables().size(), std::size_t(6000));
+        QCOMPARE(program->variableNames(), names);
+        QCOMPARE(onVarset(*program, values), QString("2999"));
     }
 
     void functionsAreSorted()

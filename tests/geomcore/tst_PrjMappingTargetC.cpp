@@ -1,6 +1,9 @@
 #include "RecordSamples.h"
 
+#include <core/json/PJsonValue.h>
+#include <geomcore/records/PrjMappingC.h>
 #include <geomcore/records/PrjMappingTargetC.h>
+#include <geomcore/records/ReleaseMappingC.h>
 
 #include <QTest>
 
@@ -19,6 +22,7 @@ public:
     bool holds(const QHash<QString, MapVarValueC> &) const override { return m_holding; }
     bool holds(const VKTab::LineView &) const override { return m_holding; }
     std::shared_ptr<const VKTab::Program> program() const override { return {}; }
+    QString getCondition() const override { return QStringLiteral("counted"); }
 
     static int living;
 
@@ -240,8 +244,27 @@ private Q_SLOTS:
         QCOMPARE(result.value("C").getValue().toString(), QString("2"));
         QVERIFY(!result.contains("D"));
         QCOMPARE(result.value("E").getValue().toString(), QString("5"));
+        // Of two with one target the later wins.
+        target.addModifier(new VarsetVarMappingC("E", "B"));
+        QCOMPARE(target.updateVarset(varset({{"A", "1"}, {"E", "5"}}))["B"].getValue().toString(),
+                 QString("5"));
         target.clearModifier();
         QVERIFY(target.updateVarset(varset({{"D", "4"}})).contains("D"));
+    }
+
+    // Of whatever class a condition is.
+    void conditionsAreWritten()
+    {
+        PrjMappingTargetC target = RecordSamples::target("t.prj");
+        target.addCondition(new CountedCondition);
+        PrjMappingC mapping = RecordSamples::mapping("s.prj");
+        mapping.addTarget(target);
+        ReleaseMappingC release;
+        release.addMapping(mapping);
+        PJsonValue json;
+        release.toJson(json, false);
+        const PJsonValue written = json.value("mappings").at(0).value("targets").at(0);
+        QCOMPARE(written.value("conditions").toByteArray(true), QByteArray("[\"counted\"]"));
     }
 };
 

@@ -13,8 +13,7 @@ namespace {
 
 QString textOf(const VarsetConditionI *condition)
 {
-    const auto *known = dynamic_cast<const VarsetConditionC *>(condition);
-    return known ? known->getCondition() : QString();
+    return condition->getCondition();
 }
 
 QByteArray textOf(const VarsetModifierI *modifier)

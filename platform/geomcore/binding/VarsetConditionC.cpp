@@ -41,10 +41,9 @@ VarsetConditionC *VarsetConditionC::fromText(const QString &text)
     return new VarsetConditionC(text);
 }
 
-QStringList VarsetConditionC::usedVariables() const
+QString VarsetConditionC::getCondition() const
 {
-    const auto expression = program();
-    return expression ? expression->variableNames() : QStringList();
+    return m_expression.text();
 }
 
 bool VarsetConditionC::holds(const QHash<QString, MapVarValueC> &varset) const

@@ -26,9 +26,7 @@ public:
     [[nodiscard]] static VarsetConditionC *fromText(const QString &text);
 
     /// The text as it was given.
-    [[nodiscard]] QString getCondition() const { return m_expression.text(); }
-    /// Names that the condition reads, each once, in the order of their first appearance.
-    [[nodiscard]] QStringList usedVariables() const;
+    [[nodiscard]] QString getCondition() const override;
     /// What is wrong with the text; empty if it parses.
     [[nodiscard]] QString error() const { return m_expression.error(); }
 

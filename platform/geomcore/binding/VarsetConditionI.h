@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -14,7 +15,7 @@ class Program;
 } // namespace VKTab
 
 /// Says which source lines a target is for. Immutable, so it may be shared between targets and
-/// threads.
+/// threads. The order of the virtual operations is part of the interface.
 class VELKGEOMCORE_EXPORT VarsetConditionI
 {
 public:
@@ -28,4 +29,9 @@ public:
     [[nodiscard]] virtual bool holds(const VKTab::LineView &line) const = 0;
     /// The statement to be bound to a table; null for one that never holds.
     [[nodiscard]] virtual std::shared_ptr<const VKTab::Program> program() const = 0;
+    /// The condition as the mapping file keeps it.
+    [[nodiscard]] virtual QString getCondition() const = 0;
+
+    /// Names that the condition reads, each once, in the order of their first appearance.
+    [[nodiscard]] QStringList usedVariables() const;
 };

@@ -12,7 +12,7 @@ namespace VKTab {
 namespace {
 
 using Arguments = std::span<const Operand>;
-using Memory = std::pmr::memory_resource;
+using Memory = EvaluationMemory;
 
 constexpr double degrees = 180 / std::numbers::pi;
 constexpr int mostDigits = 15;

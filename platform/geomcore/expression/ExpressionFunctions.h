@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EvaluationMemory.h"
 #include "NodeBase.h"
 #include "Operand.h"
 
@@ -12,8 +13,7 @@ namespace VKTab {
 /// A function of the formula language.
 struct ExpressionFunction
 {
-    using Evaluate = Operand (*)(std::span<const Operand> arguments,
-                                 std::pmr::memory_resource &memory);
+    using Evaluate = Operand (*)(std::span<const Operand> arguments, EvaluationMemory &memory);
 
     const char *name;
     int minArguments;
@@ -40,16 +40,16 @@ struct ExpressionFunction
 
 /// Evaluation of the functions that make or take apart texts.
 namespace TextFunctions {
-Operand length(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand subText(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand upper(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand lower(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand trim(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand concat(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand find(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand replace(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand number(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
-Operand text(std::span<const Operand> arguments, std::pmr::memory_resource &memory);
+Operand length(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand subText(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand upper(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand lower(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand trim(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand concat(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand find(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand replace(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand number(std::span<const Operand> arguments, EvaluationMemory &memory);
+Operand text(std::span<const Operand> arguments, EvaluationMemory &memory);
 } // namespace TextFunctions
 
 } // namespace VKTab

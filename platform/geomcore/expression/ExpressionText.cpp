@@ -10,9 +10,9 @@ namespace {
 QString useError(ExpressionUse use)
 {
     if (use == ExpressionUse::Condition)
-        return PString::translate("Eine Bedingung muss ein Vergleich sein", "VelkLinkDbGui");
+        return PString::translate("Eine Bedingung muss ein Vergleich sein", "VelkGeomCore");
     return PString::translate("Eine Formel muss einer Variablen einen Wert zuweisen",
-                              "VelkLinkDbGui");
+                              "VelkGeomCore");
 }
 
 } // namespace
@@ -75,7 +75,7 @@ void ExpressionText::parse() const
         m_error = parsed.error;
         PMessage::LogToWindow(
             QString::fromLatin1("%1 %2 %3")
-                .arg(m_text, PString::translate("enthält Fehler!", "VelkLinkDbGui"), m_error));
+                .arg(m_text, PString::translate("enthält Fehler!", "VelkGeomCore"), m_error));
     });
 }
 

@@ -1,7 +1,13 @@
 #include "Program.h"
 
+#include "EvaluationMemory.h"
 #include "ExpressionFunctions.h"
 #include "ProgramWriter.h"
+
+#include <core/message/PMessage.h>
+#include <core/text/PString.h>
+
+#include <QSet>
 
 #include <array>
 #include <cmath>
@@ -71,7 +77,7 @@ public:
         return m_top > 0 ? top() : Operand();
     }
 
-    std::pmr::memory_resource &memory() { return m_memory; }
+    EvaluationMemory &memory() { return m_memory; }
 
 private:
     /// Not initialised: a place is written before it is read.
@@ -194,7 +200,7 @@ private:
     const Program &m_program;
     const OperandSource &m_source;
     alignas(std::max_align_t) std::array<std::byte, 1024> m_buffer;
-    std::pmr::monotonic_buffer_resource m_memory;
+    EvaluationMemory m_memory;
     Operand *const m_stack;
     size_t m_top = 0;
 };
@@ -209,8 +215,11 @@ Program::~Program() = default;
 QStringList Program::variableNames() const
 {
     QStringList names;
+    QSet<QString> known;
     for (const Variable &variable : m_variables) {
-        if (!names.contains(variable.name))
+        const qsizetype before = known.size();
+        known.insert(variable.name);
+        if (known.size() > before)
             names.append(variable.name);
     }
     return names;
@@ -218,7 +227,13 @@ QStringList Program::variableNames() const
 
 bool Program::holds(const OperandSource &source) const
 {
-    return isLogical() && Run(*this, source).result().isTrue();
+    if (!isLogical())
+        return false;
+    Run run(*this, source);
+    const bool held = run.result().isTrue();
+    if (run.memory().refused())
+        tellRefused();
+    return held;
 }
 
 void Program::evaluate(const OperandSource &source, ExpressionValue &result) const
@@ -228,6 +243,20 @@ void Program::evaluate(const OperandSource &source, ExpressionValue &result) con
     const auto text = value.toText(run.memory());
     result.text.assign(text.value_or(std::string_view()));
     result.numeric = value.toNumber().has_value();
+    if (run.memory().refused())
+        tellRefused();
+}
+
+void Program::tellRefused() const
+{
+    if (m_told.test_and_set(std::memory_order_relaxed))
+        return;
+    const QString text = PString::translate("Ein Text in der Formel für %1 wird länger als %2 "
+                                            "Zeichen und bleibt ohne Wert",
+                                            "VelkGeomCore");
+    const QString names = variableNames().join(QLatin1String(", "));
+    PMessage::LogToWindow(text.arg(m_target.isEmpty() ? names : m_target,
+                                   QString::number(EvaluationMemory::MostCharacters)));
 }
 
 } // namespace VKTab

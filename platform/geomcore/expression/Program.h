@@ -5,7 +5,9 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
+#include <atomic>
 #include <memory>
 #include <string>
 #include <vector>
@@ -66,7 +68,8 @@ public:
     /// Whether the comparison holds; false for a statement that is none.
     [[nodiscard]] bool holds(const OperandSource &source) const;
     /// The value of the statement, of an assignment that of its right side. Reuses the room of
-    /// result.text.
+    /// result.text. A computed text of over a million characters is no value; the log window is
+    /// told of the first one.
     void evaluate(const OperandSource &source, ExpressionValue &result) const;
 
 private:
@@ -110,6 +113,8 @@ private:
 
     class Run;
 
+    void tellRefused() const;
+
     std::vector<Instruction> m_code;
     std::vector<Operand> m_constants;
     /// Texts of the constants, each of its own so that views into them stay valid.
@@ -118,6 +123,7 @@ private:
     QString m_target;
     int m_type = InvalidType;
     int m_stackSize = 0;
+    mutable std::atomic_flag m_told;
 };
 
 } // namespace VKTab

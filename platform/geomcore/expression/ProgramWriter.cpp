@@ -112,11 +112,12 @@ void ProgramWriter::writeText(const QString &content, Operand operand)
 void ProgramWriter::writeVariable(const NodeVariable &node)
 {
     auto &variables = m_program.m_variables;
-    const Program::Variable variable{node.name(), node.isPrefixed()};
-    const auto known = std::find(variables.begin(), variables.end(), variable);
-    append(Code::Variable, 1, int(known - variables.begin()));
-    if (known == variables.end())
-        variables.push_back(variable);
+    int &known = m_slots[{node.name(), node.isPrefixed()}]; // counted from 1, so that 0 is none
+    if (known == 0) {
+        variables.push_back({node.name(), node.isPrefixed()});
+        known = int(variables.size());
+    }
+    append(Code::Variable, 1, known - 1);
 }
 
 size_t ProgramWriter::append(Code code, int stackChange, int argument)

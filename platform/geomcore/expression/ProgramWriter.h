@@ -2,6 +2,9 @@
 
 #include "Program.h"
 
+#include <QHash>
+#include <QPair>
+
 namespace VKTab {
 
 /// Writes the instructions of a program from the tree of a statement.
@@ -32,6 +35,8 @@ private:
     void jumpToHere(size_t instruction);
 
     Program &m_program;
+    /// Slot of a variable, by its name and whether it has the prefix.
+    QHash<QPair<QString, bool>, int> m_slots;
     int m_height = 0;
 };
 

@@ -10,7 +10,7 @@ namespace VKTab {
 
 namespace {
 
-constexpr const char *context = "VelkLinkDbGui";
+constexpr const char *context = "VelkGeomCore";
 
 enum Precedence {
     OrPrecedence = 1,
@@ -118,7 +118,7 @@ ParsedStatement StatementParser::parse(const std::optional<QString> &assignedVar
 {
     Node node = parseStatement(assignedVariable);
     if (node && !atEnd())
-        node = failExpected(QT_TRANSLATE_NOOP("VelkLinkDbGui", "ein Operator oder das Ende"));
+        node = failExpected(QT_TRANSLATE_NOOP("VelkGeomCore", "ein Operator oder das Ende"));
     return {std::move(node), m_error, m_errorPosition};
 }
 
@@ -200,7 +200,7 @@ StatementParser::Node StatementParser::parsePrimary()
     case TokenKind::OpenBracket:
         return parseBrackets();
     default:
-        return failExpected(QT_TRANSLATE_NOOP("VelkLinkDbGui", "ein Wert"));
+        return failExpected(QT_TRANSLATE_NOOP("VelkGeomCore", "ein Wert"));
     }
 }
 
@@ -217,7 +217,7 @@ StatementParser::Node StatementParser::parseVariable(bool prefixed)
     if (prefixed) {
         const qsizetype end = take().end();
         if (atEnd() || token().kind != TokenKind::Name || token().start != end)
-            return failExpected(QT_TRANSLATE_NOOP("VelkLinkDbGui", "ein Variablenname"));
+            return failExpected(QT_TRANSLATE_NOOP("VelkGeomCore", "ein Variablenname"));
     }
     const QString name = take().text;
     if (!m_names.isReadable(name, prefixed))
@@ -314,7 +314,7 @@ Token StatementParser::take()
 bool StatementParser::takeClosingBracket()
 {
     if (token().kind != TokenKind::CloseBracket) {
-        failExpected(QT_TRANSLATE_NOOP("VelkLinkDbGui", "eine schließende Klammer"));
+        failExpected(QT_TRANSLATE_NOOP("VelkGeomCore", "eine schließende Klammer"));
         return false;
     }
     take();

@@ -6,14 +6,14 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <vector>
+#include <string>
 
 namespace VKTab {
 
 namespace {
 
 using Arguments = std::span<const Operand>;
-using Memory = std::pmr::memory_resource;
+using Memory = EvaluationMemory;
 
 constexpr int mostDecimals = 15;
 
@@ -21,11 +21,6 @@ constexpr int mostDecimals = 15;
 bool beginsCharacter(char byte)
 {
     return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-}
-
-double characterCount(std::string_view text)
-{
-    return double(std::count_if(text.begin(), text.end(), beginsCharacter));
 }
 
 /// Byte offset behind the first count characters, at most the end.
@@ -39,6 +34,12 @@ size_t offsetOf(std::string_view text, double count)
     return pos;
 }
 
+/// A text that was made, copied into memory; no value if it is too long.
+Operand made(std::string_view text, Memory &memory)
+{
+    return memory.takes(text) ? Operand::ofText(keepText(text, memory)) : Operand();
+}
+
 template<class Change>
 Operand changed(const Operand &argument, Memory &memory, Change change)
 {
@@ -46,7 +47,7 @@ Operand changed(const Operand &argument, Memory &memory, Change change)
     if (!text)
         return {};
     const QString wide = QString::fromUtf8(text->data(), qsizetype(text->size()));
-    return Operand::ofText(keepText(change(wide).toUtf8().toStdString(), memory));
+    return made(change(wide).toUtf8().toStdString(), memory);
 }
 
 } // namespace
@@ -56,7 +57,7 @@ namespace TextFunctions {
 Operand length(Arguments arguments, Memory &memory)
 {
     const auto text = arguments[0].toText(memory);
-    return text ? Operand::ofNumber(characterCount(*text)) : Operand();
+    return text ? Operand::ofNumber(double(characterCount(*text))) : Operand();
 }
 
 /// Characters count from 1; what lies outside the text is left out.
@@ -64,12 +65,12 @@ Operand subText(Arguments arguments, Memory &memory)
 {
     const auto text = arguments[0].toText(memory);
     const auto start = arguments[1].toNumber();
-    const auto count = arguments.size() > 2 ? arguments[2].toNumber()
-                                            : std::optional(double(text ? text->size() : 0));
+    const bool counted = arguments.size() > 2;
+    const auto count = counted ? arguments[2].toNumber() : std::optional(0.0);
     if (!text || !start || !count)
         return {};
     const double first = std::trunc(*start) - 1;
-    const double last = arguments.size() > 2 ? first + std::trunc(*count) : *count;
+    const double last = counted ? first + std::trunc(*count) : double(text->size());
     const size_t begin = offsetOf(*text, std::max(first, 0.0));
     const size_t end = offsetOf(*text, std::max(last, 0.0));
     return Operand::ofText(end > begin ? text->substr(begin, end - begin) : std::string_view());
@@ -92,14 +93,14 @@ Operand trim(Arguments arguments, Memory &memory)
 
 Operand concat(Arguments arguments, Memory &memory)
 {
-    std::pmr::string result(&memory);
+    std::string result;
     for (const Operand &argument : arguments) {
         const auto text = argument.toText(memory);
-        if (!text)
+        if (!text || !memory.grows(result.size() + text->size()))
             return {};
         result += *text;
     }
-    return Operand::ofText(keepText(result, memory));
+    return made(result, memory);
 }
 
 /// Place of the first occurrence, counted from 1; 0 if there is none.
@@ -112,7 +113,7 @@ Operand find(Arguments arguments, Memory &memory)
     const size_t pos = text->find(*part);
     if (pos == std::string_view::npos)
         return Operand::ofNumber(0);
-    return Operand::ofNumber(characterCount(text->substr(0, pos)) + 1);
+    return Operand::ofNumber(double(characterCount(text->substr(0, pos)) + 1));
 }
 
 /// Every occurrence; an empty text to look for changes nothing.
@@ -125,15 +126,19 @@ Operand replace(Arguments arguments, Memory &memory)
         return {};
     if (before->empty())
         return Operand::ofText(*text);
-    std::pmr::string result(&memory);
+    std::string result;
     size_t from = 0;
     for (size_t hit = text->find(*before); hit != std::string_view::npos;
          hit = text->find(*before, from)) {
+        if (!memory.grows(result.size() + (hit - from) + after->size()))
+            return {};
         result.append(*text, from, hit - from).append(*after);
         from = hit + before->size();
     }
+    if (!memory.grows(result.size() + (text->size() - from)))
+        return {};
     result.append(*text, from);
-    return Operand::ofText(keepText(result, memory));
+    return made(result, memory);
 }
 
 /// Reads a text as a number, also one in quotes.

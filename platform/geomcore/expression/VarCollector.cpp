@@ -9,7 +9,9 @@ int VarCollector::visitNode(const VKTab::NodeBase &node, int, int)
     if (node.getArt() != VKTab::VariableArt)
         return 1;
     const QString &name = static_cast<const VKTab::NodeVariable &>(node).name();
-    if (!m_names.contains(name))
+    const qsizetype before = m_known.size();
+    m_known.insert(name);
+    if (m_known.size() > before)
         m_names.append(name);
     return 1;
 }

@@ -2,6 +2,7 @@
 
 #include "NodeVisitor.h"
 
+#include <QSet>
 #include <QStringList>
 
 /// Collects the variables that a statement reads, with and without the prefix "SOURCE@", each name
@@ -18,4 +19,5 @@ public:
 
 private:
     QStringList m_names;
+    QSet<QString> m_known;
 };

@@ -7,7 +7,7 @@
 #include "SourceTable.h"
 #include "TargetTable.h"
 
-#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetConditionI.h>
 #include <geomcore/binding/VarsetValueMappingC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/table/LineView.h>
@@ -129,8 +129,7 @@ QStringList BoundTarget::failingConditions(const LineInput &line) const
     for (const VarsetConditionI *condition : m_target.getConditions()) {
         if (line.view ? condition->holds(*line.view) : condition->holds(*line.varset))
             continue;
-        const auto *known = dynamic_cast<const VarsetConditionC *>(condition);
-        texts.append(known ? known->getCondition() : QString());
+        texts.append(condition->getCondition());
     }
     return texts;
 }
@@ -229,10 +228,8 @@ std::string BoundTarget::signature() const
 {
     QStringList parts{m_shownOnly ? QStringLiteral("shown") : QStringLiteral("all"),
                       m_ranges.join(u'\x1f')};
-    for (const VarsetConditionI *condition : m_target.getConditions()) {
-        const auto *known = dynamic_cast<const VarsetConditionC *>(condition);
-        parts.append(known ? known->getCondition() : QString());
-    }
+    for (const VarsetConditionI *condition : m_target.getConditions())
+        parts.append(condition->getCondition());
     parts.append(QStringLiteral("\x1d"));
     for (const VarsetModifierI *modifier : m_target.getVarsetModifier())
         parts.append(modifierText(modifier));

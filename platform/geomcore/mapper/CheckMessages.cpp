@@ -9,7 +9,7 @@ namespace {
 QString shown(std::string_view value)
 {
     if (value.empty())
-        return PString::translate("kein Wert", "VelkLinkDbGui");
+        return PString::translate("kein Wert", "VelkGeomCore");
     return QString::fromUtf8(value.data(), qsizetype(value.size()));
 }
 
@@ -18,7 +18,7 @@ QString withLines(const QString &message, const QList<int> &lines)
     QString text = message;
     for (int line : lines) {
         text += u'\n';
-        text += PString::translate("  Zeile %1", "VelkLinkDbGui").arg(line);
+        text += PString::translate("  Zeile %1", "VelkGeomCore").arg(line);
     }
     return text;
 }
@@ -29,27 +29,27 @@ QString difference(const QString &variable, std::string_view oldValue, std::stri
 {
     return PString::translate(
                "Die Werte der Variable %1 sind verschieden.\n  Alter Wert: %2\n  Neuer Wert: %3",
-               "VelkLinkDbGui")
+               "VelkGeomCore")
         .arg(variable, shown(oldValue), shown(newValue));
 }
 
 QString nothingInCommon()
 {
     return PString::translate("Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.",
-                              "VelkLinkDbGui");
+                              "VelkGeomCore");
 }
 
 QString equalTargetLines(const QList<int> &lines)
 {
     return withLines(
-        PString::translate("Weitere Zeilen der Zieltabelle haben diese Werte.", "VelkLinkDbGui"),
+        PString::translate("Weitere Zeilen der Zieltabelle haben diese Werte.", "VelkGeomCore"),
         lines);
 }
 
 QString equalSourceLines(const QList<int> &lines)
 {
     return withLines(
-        PString::translate("Weitere Zeilen der Quelltabelle haben diese Werte.", "VelkLinkDbGui"),
+        PString::translate("Weitere Zeilen der Quelltabelle haben diese Werte.", "VelkGeomCore"),
         lines);
 }
 
@@ -57,7 +57,7 @@ QString equalElsewhere(const QString &project, int line)
 {
     return PString::translate("Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.\n  "
                               "Projekt: %1\n  Zeile: %2",
-                              "VelkLinkDbGui")
+                              "VelkGeomCore")
         .arg(project, QString::number(line));
 }
 
@@ -65,7 +65,7 @@ QString tooLittleCompared(const QStringList &variables)
 {
     return PString::translate("Zu wenige Werte der Zeile haben eine Entsprechung in der "
                               "Zieltabelle.\n  Ohne Entsprechung: %1",
-                              "VelkLinkDbGui")
+                              "VelkGeomCore")
         .arg(variables.join(QStringLiteral(", ")));
 }
 
@@ -74,7 +74,7 @@ QString otherProject(const QString &source, const QString &target)
     return PString::translate("Das Zielprojekt heißt anders als das Quellprojekt, und keine "
                               "Zuordnung dorthin ist bestätigt.\n  Quellprojekt: %1\n  "
                               "Zielprojekt: %2",
-                              "VelkLinkDbGui")
+                              "VelkGeomCore")
         .arg(source, target);
 }
 
@@ -82,7 +82,7 @@ QString reworkedTable(const QString &project)
 {
     return PString::translate("Die meisten Zeilen haben im Zielprojekt andere Werte.\n  "
                               "Zielprojekt: %1",
-                              "VelkLinkDbGui")
+                              "VelkGeomCore")
         .arg(project);
 }
 
@@ -90,14 +90,14 @@ QString otherDesignation(std::string_view oldText, std::string_view newText)
 {
     return PString::translate("Die Normbezeichnungen sind verschieden.\n  Alte Normbezeichnung: "
                               "%1\n  Neue Normbezeichnung: %2",
-                              "VelkLinkDbGui")
+                              "VelkGeomCore")
         .arg(shown(oldText), shown(newText));
 }
 
 QString failedCondition(const QString &condition)
 {
     return PString::translate("Eine Bedingung des Zielprojekts ist nicht erfüllt.\n  %1",
-                              "VelkLinkDbGui")
+                              "VelkGeomCore")
         .arg(condition);
 }
 
@@ -105,7 +105,7 @@ QString noTable(const QString &project)
 {
     return PString::translate("Die Tabelle des Zielprojekts konnte nicht gelesen werden.\n  "
                               "Projekt: %1",
-                              "VelkLinkDbGui")
+                              "VelkGeomCore")
         .arg(project);
 }
 
@@ -113,7 +113,7 @@ QString noLine(const QString &project, int line)
 {
     return PString::translate("Die zugeordnete Zeile gibt es in der Zieltabelle nicht.\n  "
                               "Projekt: %1\n  Zeile: %2",
-                              "VelkLinkDbGui")
+                              "VelkGeomCore")
         .arg(project, QString::number(line));
 }
 

@@ -1,6 +1,6 @@
 #include "TargetSet.h"
 
-#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetConditionI.h>
 
 #include <algorithm>
 
@@ -12,10 +12,8 @@ QStringList conditionVariables(const PrjMappingC &mapping)
 {
     QStringList names;
     for (int i = 0; i < mapping.countTargets(); ++i) {
-        for (const VarsetConditionI *condition : mapping.targetAt(i).getConditions()) {
-            if (const auto *known = dynamic_cast<const VarsetConditionC *>(condition))
-                names += known->usedVariables();
-        }
+        for (const VarsetConditionI *condition : mapping.targetAt(i).getConditions())
+            names += condition->usedVariables();
     }
     return names;
 }

@@ -4,7 +4,7 @@
 
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
-#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetConditionI.h>
 #include <geomcore/binding/VarsetModifierI.h>
 
 namespace {
@@ -19,10 +19,8 @@ void writeConditions(JsonWriter &writer, const PrjMappingTargetC &target)
 {
     writer.key("conditions");
     writer.beginArray(true);
-    for (const VarsetConditionI *condition : target.getConditions()) {
-        if (const auto *known = dynamic_cast<const VarsetConditionC *>(condition))
-            writer.value(QStringView(known->getCondition()));
-    }
+    for (const VarsetConditionI *condition : target.getConditions())
+        writer.value(QStringView(condition->getCondition()));
     writer.endArray();
 }
 

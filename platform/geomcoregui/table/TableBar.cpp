@@ -6,7 +6,7 @@
 
 QString tableText(const char *text)
 {
-    return PString::translate(text, "VelkLinkDbGui");
+    return PString::translate(text, "VelkGeomCoreGui");
 }
 
 QToolButton *makeBarButton(const QString &objectName, const QString &sign, const QString &meaning,

@@ -12,7 +12,7 @@ namespace {
 
 PString translated(const char *text)
 {
-    return PString::translate(text, "VelkLinkDbGui");
+    return PString::translate(text, "VelkGeomCoreGui");
 }
 
 /// A range is a list that is read from its begin, which has to stay in sight.

@@ -33,7 +33,7 @@ public:
 void logForm(const QString &form, const QString &cause)
 {
     PMessage::LogToWindow(
-        PString::translate("Die Maske %1 kann nicht geladen werden: %2", "VelkLinkDbGui")
+        PString::translate("Die Maske %1 kann nicht geladen werden: %2", "VelkGui")
             .arg(form, cause));
 }
 

@@ -29,7 +29,7 @@ ProgressRow::ProgressRow(QWidget *parent)
     m_bar->setTextVisible(false);
     m_details->setObjectName("progressDetails");
     m_cancel->setObjectName("progressCancel");
-    m_cancel->setAccessibleDescription(PString::translate("Bricht die Arbeit ab", "VelkLinkDbGui"));
+    m_cancel->setAccessibleDescription(PString::translate("Bricht die Arbeit ab", "VelkGui"));
     auto *const middle = new QHBoxLayout;
     middle->addWidget(m_bar, 1);
     middle->addWidget(m_cancel);
@@ -67,8 +67,8 @@ void ProgressRow::showButton()
     const bool requested = m_info.cancel && m_info.cancel->isRequested();
     m_cancel->setVisible(m_info.cancellable);
     m_cancel->setEnabled(!requested);
-    m_cancel->setText(requested ? PString::translate("Wird abgebrochen...", "VelkLinkDbGui")
-                                : PString::translate("Abbrechen", "VelkLinkDbGui"));
+    m_cancel->setText(requested ? PString::translate("Wird abgebrochen...", "VelkGui")
+                                : PString::translate("Abbrechen", "VelkGui"));
 }
 
 void ProgressRow::cancel()

@@ -53,14 +53,13 @@ QString progressDetails(const PProgressInfo &info)
 {
     QStringList parts;
     if (info.total >= 0)
-        parts.append(PString::translate("%1 von %2", "VelkLinkDbGui")
+        parts.append(PString::translate("%1 von %2", "VelkGui")
                          .arg(grouped(info.count), grouped(info.total)));
     else
         parts.append(grouped(info.count));
     if (info.rate > 0)
         parts.append(rateText(info.rate));
     if (info.remaining > 0)
-        parts.append(
-            PString::translate("noch %1", "VelkLinkDbGui").arg(progressTime(info.remaining)));
+        parts.append(PString::translate("noch %1", "VelkGui").arg(progressTime(info.remaining)));
     return parts.join(QString::fromUtf8(" · "));
 }

@@ -20,7 +20,7 @@ ProgressWindow::ProgressWindow()
     , m_layout(new QVBoxLayout(this))
 {
     setObjectName("ProgressWindow");
-    setWindowTitle(PString::translate("Bitte warten", "VelkLinkDbGui"));
+    setWindowTitle(PString::translate("Bitte warten", "VelkGui"));
     setAttribute(Qt::WA_ShowWithoutActivating);
     setMinimumWidth(Width);
 }

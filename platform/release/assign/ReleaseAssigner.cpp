@@ -5,7 +5,7 @@
 #include <core/message/PStringMessageImpl.h>
 #include <core/parallel/WorkerPool.h>
 #include <core/text/PPathName.h>
-#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetConditionI.h>
 #include <geomcore/project/PrjClass.h>
 #include <geomcore/table/ContentRef.h>
 #include <geomcore/table/FileLayer.h>
@@ -27,10 +27,8 @@ QStringList conditionVariables(const PrjMappingC &mapping)
 {
     QStringList names;
     for (const PrjMappingTargetC &target : mapping.getTargets()) {
-        for (const VarsetConditionI *condition : target.getConditions()) {
-            if (const auto *known = dynamic_cast<const VarsetConditionC *>(condition))
-                names += known->usedVariables();
-        }
+        for (const VarsetConditionI *condition : target.getConditions())
+            names += condition->usedVariables();
     }
     names.removeDuplicates();
     return names;
