@@ -1,5 +1,8 @@
 # Resources that are made by the build: bitmaps from drawings, catalogs from translations.
 
+# The languages into which the texts of the plug-in and of the libraries are translated.
+set(VELK_LANGUAGES cs da de en es fi fr hu id it ja ko nb pl pt ru sl sv tr zh zh_CHT)
+
 # velk_bitmaps(VAR FOLDER OUTPUT): renders all drawings below FOLDER with the same names to OUTPUT,
 # for a pixel ratio of 1 and 2. VAR gets the bitmaps' paths below OUTPUT.
 function(velk_bitmaps var folder output)
@@ -32,6 +35,16 @@ function(velk_catalogs var module folder output)
     list(APPEND catalogs "${catalog}")
   endforeach()
   set(${var} ${catalogs} PARENT_SCOPE)
+endfunction()
+
+# velk_library_catalogs(LIBRARY): the library brings its own catalogs, LIBRARY_LANGUAGE.ts of the folder
+# translations, in all languages. They are found under ":/translations" while it is loaded.
+function(velk_library_catalogs library)
+  set(output "${CMAKE_CURRENT_BINARY_DIR}/translations")
+  velk_catalogs(catalogs ${library} "${CMAKE_SOURCE_DIR}/translations" "${output}" ${VELK_LANGUAGES})
+  list(TRANSFORM catalogs PREPEND "${output}/")
+  qt_add_resources(${library} ${library}Translations PREFIX /translations BASE "${output}"
+                   FILES ${catalogs})
 endfunction()
 
 # velk_resource_list(FILE [PREFIX FOLDER NAME...]...): writes a resource list with the files NAME of

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Řádek %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(nepodařilo se najít)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Nové přiřazení: &lt;br /&gt;%3 projektu %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Zrušit</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Přiřadit označený řádek</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Aktuálně přiřazený řádek</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Zrušit všechny filtry sloupců</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Potvrdit všechna přiřazení</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Pokračuje se od začátku tabulky</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Pokračuje se od konce tabulky</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Řádek s těmito hodnotami má i jiný cílový projekt.
-  Projekt: %1
-  Řádek: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Potvrzená přiřazení</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Čekejte, prosím</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Zruší práci</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Rozložení rozsahů hodnot může podle zvolených proměnných a velikosti tabulky trvat velmi dlouho.
@@ -152,14 +112,6 @@ Opravdu pokračovat?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Cílový projekt %1 již neexistuje</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Cílový projekt má jiný název než zdrojový a žádné přiřazení k němu není potvrzeno.
-  Zdrojový projekt: %1
-  Cílový projekt: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Opravdu pokračovat?</translation>
         <translation>Přidat záznam do databáze odkazů</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Textu chybí uzavírací apostrof</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Výraz je příliš hluboce vnořený</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Text je prázdný</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Podmínky projektu %1 byly změněny.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Funkce %1 není známa</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Formulář %1 nelze načíst: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Označení normy se liší.
-  Staré označení: %1
-  Nové označení: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Opravdu pokračovat?</translation>
         <translation>Tabulku zdrojového projektu se nepodařilo otevřít.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Tabulku cílového projektu se nepodařilo přečíst.
-  Projekt: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Tabulku alespoň jednoho zdrojového projektu se nepodařilo otevřít.</translation>
     </message>
@@ -240,42 +158,12 @@ Opravdu pokračovat?</translation>
   Staré datum tabulky: %2, nové datum tabulky: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Proměnná %1 v cílové tabulce neexistuje</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Proměnná %1 není známa</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Mapování proměnných projektu %1 bylo změněno.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Hodnoty proměnné %1 se liší.
-  Stará hodnota: %2
-  Nová hodnota: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Řádek %1 byl změněn.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>Většina řádků má v cílovém projektu jiné hodnoty.
-  Cílový projekt: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Přiřazený řádek v cílové tabulce neexistuje.
-  Projekt: %1
-  Řádek: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Opravdu pokračovat?</translation>
         <translation>Požádat o číslo ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Podmínka cílového projektu není splněna.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Podmínka musí být porovnání</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Vzorec musí přiřadit hodnotu proměnné</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Očekáváno: %1, nalezeno: %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Očekává se přiřazení proměnné %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Pro tento řádek existuje přiřazení rozsahu hodnot.
@@ -362,14 +228,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Mapování projektu %1 bylo přidáno.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Chybný počet argumentů funkce %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtr</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>U tohoto řádku je konflikt. Přiřazení je třeba potvrdit nebo opravit</translation>
     </message>
@@ -382,18 +240,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Vybrat skupinu</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Zde se očekává porovnání, ne hodnota</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Zde se očekává hodnota, ne porovnání</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Hledat v tabulce</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
     </message>
@@ -404,10 +250,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Konflikte</source>
         <translation>Konflikty</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Kopírovat</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Vložit nový záznam (převezme hodnoty označeného záznamu)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Nenalezeno</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Nenalezené řádky</translation>
     </message>
@@ -466,10 +304,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Zobrazit jen řádky původní tabulky přiřazené tomuto řádku</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Další výskyt (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Cesta:</translation>
     </message>
@@ -484,50 +318,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Projektpfad:</source>
         <translation>Cesta k projektu:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Zdroj a cíl nemají společnou proměnnou s hodnotou.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Zrušit řazení</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Seřadit sloupec sestupně</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Seřadit sloupec vzestupně</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Přizpůsobit šířku sloupců</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Filtr sloupce</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Filtr sloupce %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Stav</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Zavřít hledání (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Hledat...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabulka %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Vámi plánovaná změna:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Předchozí výskyt (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Zapnout a vypnout přednostní řady</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Přednostní řady zap/vyp</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Tyto hodnoty mají i další řádky zdrojové tabulky.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Tyto hodnoty mají i další řádky cílové tabulky.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Rozsah hodnot (%1 hodnot): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Upravit přiřazení rozsahů hodnot</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Ruší se...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET označeného dokumentu:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Znak %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Zobrazit jen nepřiřazené řádky (cílový projekt)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Zobrazí řádky, jejichž hodnota obsahuje text. S =, &lt;, &lt;=, &gt; nebo &gt;= na začátku se porovnává.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Cílová proměnná</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Příliš málo hodnot řádku má protějšek v cílové tabulce.
-  Bez protějšku: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Přiřazení ke kontrole</translation>
     </message>
@@ -700,36 +456,8 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Zrušit přiřazení k tomuto projektu a potvrdit (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>konec</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>operátor nebo konec</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>název proměnné</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>hodnota</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>uzavírací závorka</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>obsahuje chyby!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>žádná hodnota</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>ještě %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

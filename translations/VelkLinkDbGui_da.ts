@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Linje %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(kunne ikke findes)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 af %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Ny tildeling: &lt;br /&gt;%3 i projektet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Annuller</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Tildel den markerede linje</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Aktuelt tildelt linje</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Ophæv alle kolonnefiltre</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Bekræft alle tildelinger</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Fortsat fra tabellens begyndelse</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Fortsat fra tabellens slutning</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Også et andet målprojekt har en linje med disse værdier.
-  Projekt: %1
-  Linje: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Bekræftede tildelinger</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Vent venligst</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Afbryder arbejdet</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Opløsningen af værdiområderne kan tage meget lang tid, afhængigt af de valgte variabler og tabellens størrelse.
@@ -152,14 +112,6 @@ Vil du virkelig fortsætte?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Målprojektet %1 findes ikke længere</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Målprojektet hedder noget andet end kildeprojektet, og ingen tildeling dertil er bekræftet.
-  Kildeprojekt: %1
-  Målprojekt: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Vil du virkelig fortsætte?</translation>
         <translation>Tilføj en post til linkdatabasen</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Teksten mangler den afsluttende apostrof</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Udtrykket er indlejret for dybt</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Teksten er tom</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Betingelserne for projektet %1 blev ændret.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Funktionen %1 er ukendt</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Formularen %1 kan ikke indlæses: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Standardbetegnelserne er forskellige.
-  Gammel betegnelse: %1
-  Ny betegnelse: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Vil du virkelig fortsætte?</translation>
         <translation>Kildeprojektets tabel kunne ikke åbnes.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Målprojektets tabel kunne ikke læses.
-  Projekt: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Tabellen for mindst ét kildeprojekt kunne ikke åbnes.</translation>
     </message>
@@ -240,42 +158,12 @@ Vil du virkelig fortsætte?</translation>
   Gammel tabeldato: %2, ny tabeldato: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Variablen %1 findes ikke i måltabellen</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Variablen %1 er ukendt</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Variabeltilknytningen for projektet %1 blev ændret.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Værdierne af variablen %1 er forskellige.
-  Gammel værdi: %2
-  Ny værdi: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Linjen %1 blev ændret.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>De fleste linjer har andre værdier i målprojektet.
-  Målprojekt: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Den tildelte linje findes ikke i måltabellen.
-  Projekt: %1
-  Linje: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Vil du virkelig fortsætte?</translation>
         <translation>Anmod om ERP-nummer</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>En betingelse for målprojektet er ikke opfyldt.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>En betingelse skal være en sammenligning</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>En formel skal tildele en variabel en værdi</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Forventede %1, fandt %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Der forventes en tildeling til variablen %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Der findes en værdiområdetildeling for denne linje.
@@ -362,14 +228,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Et mapping for projektet %1 blev tilføjet.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Forkert antal argumenter til funktionen %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Der er en konflikt for denne linje. Tildelingen skal bekræftes eller rettes</translation>
     </message>
@@ -382,18 +240,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Vælg gruppe</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Her forventes en sammenligning, ikke en værdi</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Her forventes en værdi, ikke en sammenligning</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Søg i tabellen</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
     </message>
@@ -404,10 +250,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Konflikte</source>
         <translation>Konflikter</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Kopiér</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Indsæt en ny post (overtager værdierne fra den markerede post)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Ikke fundet</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Linjer, der ikke blev fundet</translation>
     </message>
@@ -466,10 +304,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Vis kun linjer i den oprindelige tabel, der er tildelt denne linje</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Næste forekomst (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Sti:</translation>
     </message>
@@ -484,50 +318,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Projektsti:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Kilde og mål har ingen fælles variabel med en værdi.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Ophæv sortering</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Sortér kolonnen faldende</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Sortér kolonnen stigende</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Tilpas kolonnebredder</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Kolonnefilter</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Kolonnefilter %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Luk søgning (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Søg...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabel %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Din planlagte ændring:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Forrige forekomst (Skift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Slå foretrukne rækker til og fra</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Foretrukne rækker til/fra</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Flere linjer i kildetabellen har disse værdier.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Flere linjer i måltabellen har disse værdier.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Værdiområde (%1 værdier): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Rediger tildelinger af værdiområder</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Afbrydes...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET for det markerede dokument:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Tegn %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Vis kun linjer uden tildeling (målprojekt)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Viser linjer, hvis værdi indeholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes der.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Målvariabel</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>For få af linjens værdier har en modpart i måltabellen.
-  Uden modpart: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Tildelinger til kontrol</translation>
     </message>
@@ -700,36 +456,8 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Ophæv tildelingen til dette projekt og bekræft (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>slutningen</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>en operator eller slutningen</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>et variabelnavn</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>en værdi</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>en afsluttende parentes</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>indeholder fejl!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>ingen værdi</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>%1 tilbage</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Line %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(could not be found)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 of %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;New assignment: &lt;br /&gt;%3 of the project %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Assign the line currently selected</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Line currently assigned</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Clear all column filters</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirm all assignments</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Continued at the beginning of the table</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Continued at the end of the table</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Another target project has a line with these values, too.
-  Project: %1
-  Line: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Confirmed assignments</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Please wait</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Cancels the work</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Resolving the value ranges can take very long, depending on the variables chosen and the size of the table.
@@ -152,14 +112,6 @@ Really go on?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>The target project %1 no longer exists</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>The target project's name differs from the source project's, and no assignment to it is confirmed.
-  Source project: %1
-  Target project: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Really go on?</translation>
         <translation>Add a record to the link database</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>The closing quotation mark of the text is missing</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>The expression is nested too deeply</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>The text is empty</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>The conditions of the project %1 were changed.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>The function %1 is unknown</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>The form %1 cannot be loaded: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>The standard designations differ.
-  Old standard designation: %1
-  New standard designation: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Really go on?</translation>
         <translation>The source project's table could not be opened.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>The target project's table could not be read.
-  Project: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>The table of at least one source project could not be opened.</translation>
     </message>
@@ -240,42 +158,12 @@ Really go on?</translation>
   Old table date: %2, new table date: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>The variable %1 does not exist in the target table</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>The variable %1 is unknown</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>The variable mapping of the project %1 was changed.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>The values of the variable %1 differ.
-  Old value: %2
-  New value: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>The line %1 was changed.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>Most lines have other values in the target project.
-  Target project: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>The assigned line does not exist in the target table.
-  Project: %1
-  Line: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Really go on?</translation>
         <translation>Request ERP number</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>A condition of the target project does not hold.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>A condition must be a comparison</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>A formula must assign a value to a variable</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Expected %1, found %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Expected an assignment to the variable %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>There is a value range assignment for this line.
@@ -362,14 +228,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>A mapping of the project %1 was added.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Wrong number of arguments for the function %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>There is a conflict for this line. The assignment must be confirmed or corrected</translation>
     </message>
@@ -382,18 +240,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Select group</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>A comparison is expected here, not a value</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>A value is expected here, not a comparison</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Find in table</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Catalog</translation>
     </message>
@@ -404,10 +250,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Konflikte</source>
         <translation>Conflicts</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Copy</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Insert a new record (takes over the values of the selected record)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Not found</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Lines not found</translation>
     </message>
@@ -466,10 +304,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Show only lines of the original table that are assigned to this line</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Next match (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Path:</translation>
     </message>
@@ -484,50 +318,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Project path:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Source and target have no variable in common that has a value.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Remove sorting</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Sort column in descending order</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Sort column in ascending order</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Fit column widths</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Column filter</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Column filter %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Close search (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Find ...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Table %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Change planned by you:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Previous match (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Switch preferred ranges on and off</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Preferred ranges on/off</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Further lines of the source table have these values.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Further lines of the target table have these values.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Value range (%1 values): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Edit value range assignments</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Cancelling...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET of the selected document:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Character %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Show only lines that are not assigned (target project)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Shows lines whose value contains the text. With =, &lt;, &lt;=, &gt; or &gt;= in front it is compared.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Target variable</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Too few values of the line have a counterpart in the target table.
-  Without counterpart: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Assignments to be checked</translation>
     </message>
@@ -700,36 +456,8 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Remove the assignment to this project and confirm (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>the end</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>an operator or the end</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>a variable name</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>a value</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>a closing parenthesis</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>contains errors!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>no value</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>%1 left</translation>
     </message>
     <message>
         <source>Übersicht</source>

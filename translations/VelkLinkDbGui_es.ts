@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Línea %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(no se pudo encontrar)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Nueva asignación: &lt;br /&gt;%3 del proyecto %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Asignar la línea seleccionada</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Línea asignada actualmente</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Quitar todos los filtros de columna</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirmar todas las asignaciones</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Se continuó desde el principio de la tabla</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Se continuó desde el final de la tabla</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Otro proyecto de destino también tiene una línea con estos valores.
-  Proyecto: %1
-  Línea: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Asignaciones confirmadas</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Espere, por favor</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Cancela el trabajo</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Resolver los rangos de valores puede tardar mucho según las variables elegidas y el tamaño de la tabla.
@@ -152,14 +112,6 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>El proyecto de destino %1 ya no existe</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>El proyecto de destino se llama distinto que el de origen, y ninguna asignación hacia él está confirmada.
-  Proyecto de origen: %1
-  Proyecto de destino: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Wirklich fortfahren?</source>
         <translation>Añadir un registro a la base de datos de enlaces</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Falta la comilla de cierre del texto</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>La expresión está anidada a demasiada profundidad</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>El texto está vacío</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Se cambiaron las condiciones del proyecto %1.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>La función %1 es desconocida</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>No se puede cargar el formulario %1: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Las denominaciones de la norma son distintas.
-  Denominación anterior: %1
-  Denominación nueva: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Wirklich fortfahren?</source>
         <translation>No se pudo abrir la tabla del proyecto de origen.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>No se pudo leer la tabla del proyecto de destino.
-  Proyecto: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>No se pudo abrir la tabla de al menos un proyecto de origen.</translation>
     </message>
@@ -240,42 +158,12 @@ Wirklich fortfahren?</source>
   Fecha anterior de la tabla: %2, fecha nueva de la tabla: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>La variable %1 no existe en la tabla de destino</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>La variable %1 es desconocida</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Se cambió la correspondencia de variables del proyecto %1.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Los valores de la variable %1 son distintos.
-  Valor anterior: %2
-  Valor nuevo: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Se cambió la línea %1.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>La mayoría de las líneas tiene otros valores en el proyecto de destino.
-  Proyecto de destino: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>La línea asignada no existe en la tabla de destino.
-  Proyecto: %1
-  Línea: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Wirklich fortfahren?</source>
         <translation>Solicitar número ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>No se cumple una condición del proyecto de destino.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Una condición debe ser una comparación</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Una fórmula debe asignar un valor a una variable</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Se esperaba %1, se encontró %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Se espera una asignación a la variable %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Hay una asignación de rango de valores para esta línea.
@@ -362,14 +228,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Se añadió un mapeo del proyecto %1.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Número de argumentos incorrecto para la función %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtro</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Hay un conflicto en esta línea. La asignación debe confirmarse o corregirse</translation>
     </message>
@@ -382,18 +240,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Seleccionar grupo</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Aquí se espera una comparación, no un valor</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Aquí se espera un valor, no una comparación</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Buscar en la tabla</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Catálogo</translation>
     </message>
@@ -404,10 +250,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Konflikte</source>
         <translation>Conflictos</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Copiar</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Insertar un registro nuevo (toma los valores del registro seleccionado)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>No encontrado</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Líneas no encontradas</translation>
     </message>
@@ -466,10 +304,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Mostrar solo líneas de la tabla original asignadas a esta línea</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Resultado siguiente (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Ruta:</translation>
     </message>
@@ -484,50 +318,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Projektpfad:</source>
         <translation>Ruta del proyecto:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>El origen y el destino no tienen ninguna variable común con valor.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Quitar la ordenación</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Ordenar la columna de forma descendente</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Ordenar la columna de forma ascendente</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Ajustar el ancho de las columnas</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Filtro de columna</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Filtro de columna %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Estado</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Cerrar la búsqueda (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Buscar...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabla %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Cambio planeado por usted:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Resultado anterior (Mayús+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Activar y desactivar las series preferentes</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Series preferentes sí/no</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Otras líneas de la tabla de origen tienen estos valores.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Otras líneas de la tabla de destino tienen estos valores.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Rango de valores (%1 valores): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Editar las asignaciones de rangos de valores</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Cancelando...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET del documento seleccionado:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Carácter %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Mostrar solo líneas sin asignar (proyecto de destino)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Muestra las líneas cuyo valor contiene el texto. Con =, &lt;, &lt;=, &gt; o &gt;= delante se compara.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Variable de destino</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Muy pocos valores de la línea tienen equivalente en la tabla de destino.
-  Sin equivalente: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Asignaciones por comprobar</translation>
     </message>
@@ -700,36 +456,8 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Anular la asignación a este proyecto y confirmar (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>el final</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>un operador o el final</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>un nombre de variable</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>un valor</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>un paréntesis de cierre</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>¡contiene errores!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>ningún valor</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>faltan %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Rivi %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(ei löytynyt)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Uusi kohdistus: &lt;br /&gt;%3 projektissa %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Peruuta</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Kohdista valittu rivi</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Nykyinen kohdistettu rivi</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Poista kaikki sarakesuodattimet</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Vahvista kaikki kohdistukset</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Jatkettiin taulukon alusta</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Jatkettiin taulukon lopusta</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Myös toisessa kohdeprojektissa on rivi näillä arvoilla.
-  Projekti: %1
-  Rivi: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Vahvistetut kohdistukset</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Odota</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Keskeyttää työn</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Arvoalueiden purkaminen voi kestää hyvin kauan valittujen muuttujien ja taulukon koon mukaan.
@@ -152,14 +112,6 @@ Jatketaanko varmasti?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Kohdeprojektia %1 ei enää ole</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Kohdeprojektin nimi on eri kuin lähdeprojektin, eikä yhtään kohdistusta siihen ole vahvistettu.
-  Lähdeprojekti: %1
-  Kohdeprojekti: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Jatketaanko varmasti?</translation>
         <translation>Lisää tietue linkkitietokantaan</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Tekstistä puuttuu lopettava heittomerkki</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Lausekkeessa on liian monta sisäkkäistä tasoa</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Teksti on tyhjä</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Projektin %1 ehtoja muutettiin.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Funktiota %1 ei tunneta</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Lomaketta %1 ei voi ladata: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Standardin nimitykset eroavat.
-  Vanha nimitys: %1
-  Uusi nimitys: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Jatketaanko varmasti?</translation>
         <translation>Lähdeprojektin taulukkoa ei voitu avata.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Kohdeprojektin taulukkoa ei voitu lukea.
-  Projekti: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Vähintään yhden lähdeprojektin taulukkoa ei voitu avata.</translation>
     </message>
@@ -240,42 +158,12 @@ Jatketaanko varmasti?</translation>
   Vanha taulukon päiväys: %2, uusi taulukon päiväys: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Muuttujaa %1 ei ole kohdetaulukossa</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Muuttujaa %1 ei tunneta</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Projektin %1 muuttujien kohdistusta muutettiin.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Muuttujan %1 arvot eroavat.
-  Vanha arvo: %2
-  Uusi arvo: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Riviä %1 muutettiin.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>Useimmilla riveillä on kohdeprojektissa muut arvot.
-  Kohdeprojekti: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Kohdistettua riviä ei ole kohdetaulukossa.
-  Projekti: %1
-  Rivi: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Jatketaanko varmasti?</translation>
         <translation>Pyydä ERP-numero</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Kohdeprojektin ehto ei täyty.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Ehdon on oltava vertailu</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Kaavan on annettava muuttujalle arvo</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Odotettiin: %1, löytyi: %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Odotetaan sijoitusta muuttujaan %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Tällä rivillä on arvoalueen kohdistus.
@@ -362,14 +228,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Projektin %1 kohdistus lisättiin.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Funktiolla %1 on väärä määrä argumentteja</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Suodatin</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Rivillä on ristiriita. Kohdistus on vahvistettava tai korjattava</translation>
     </message>
@@ -382,18 +240,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Valitse ryhmä</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Tässä odotetaan vertailua, ei arvoa</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Tässä odotetaan arvoa, ei vertailua</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Etsi taulukosta</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Luettelo</translation>
     </message>
@@ -404,10 +250,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Konflikte</source>
         <translation>Ristiriidat</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Kopioi</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Lisää uusi tietue (ottaa valitun tietueen arvot)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Ei löytynyt</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Rivit, joita ei löytynyt</translation>
     </message>
@@ -466,10 +304,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Näytä vain alkuperäisen taulukon rivit, jotka on kohdistettu tähän riviin</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Seuraava osuma (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Polku:</translation>
     </message>
@@ -484,50 +318,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Projektpfad:</source>
         <translation>Projektin polku:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Lähteellä ja kohteella ei ole yhteistä muuttujaa, jolla on arvo.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Poista lajittelu</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Lajittele sarake laskevasti</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Lajittele sarake nousevasti</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Sovita sarakkeiden leveydet</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Sarakesuodatin</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Sarakesuodatin %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Tila</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Sulje haku (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Etsi...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Taulukko %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Suunnittelemasi muutos:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Edellinen osuma (Vaihto+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Ota ensisijaiset sarjat käyttöön ja pois käytöstä</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Ensisijaiset sarjat päälle/pois</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Muillakin lähdetaulukon riveillä on nämä arvot.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Muillakin kohdetaulukon riveillä on nämä arvot.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Arvoalue (%1 arvoa): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Muokkaa arvoalueiden kohdistuksia</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Keskeytetään...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>Valitun asiakirjan XVARSET:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Merkki %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Näytä vain kohdistamattomat rivit (kohdeprojekti)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Näyttää rivit, joiden arvo sisältää tekstin. Kun edessä on =, &lt;, &lt;=, &gt; tai &gt;=, arvoa verrataan.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Kohdemuuttuja</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Liian harvalla rivin arvolla on vastine kohdetaulukossa.
-  Ilman vastinetta: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Tarkistettavat kohdistukset</translation>
     </message>
@@ -700,36 +456,8 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Poista kohdistus tähän projektiin ja vahvista (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>loppu</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>operaattori tai loppu</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>muuttujan nimi</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>arvo</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>sulkeva sulje</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>sisältää virheitä!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>ei arvoa</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>%1 jäljellä</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Ligne %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(introuvable)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Nouvelle affectation : &lt;br /&gt;%3 du projet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Affecter la ligne sélectionnée</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Ligne actuellement affectée</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Supprimer tous les filtres de colonne</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirmer toutes les affectations</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Poursuivi au début de la table</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Poursuivi à la fin de la table</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Un autre projet cible contient aussi une ligne avec ces valeurs.
-  Projet : %1
-  Ligne : %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Affectations confirmées</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Veuillez patienter</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Interrompt le travail</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>La résolution des plages de valeurs peut durer très longtemps selon les variables choisies et la taille de la table.
@@ -152,14 +112,6 @@ Vraiment continuer ?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Le projet cible %1 n'existe plus</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Le projet cible porte un autre nom que le projet source, et aucune affectation vers lui n'est confirmée.
-  Projet source : %1
-  Projet cible : %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Vraiment continuer ?</translation>
         <translation>Ajouter un enregistrement à la base de liens</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Il manque l'apostrophe fermante du texte</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>L'expression est imbriquée trop profondément</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Le texte est vide</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Les conditions du projet %1 ont été modifiées.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>La fonction %1 est inconnue</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Le formulaire %1 ne peut pas être chargé : %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Les désignations de norme diffèrent.
-  Ancienne désignation : %1
-  Nouvelle désignation : %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Vraiment continuer ?</translation>
         <translation>La table du projet source n'a pas pu être ouverte.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>La table du projet cible n'a pas pu être lue.
-  Projet : %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>La table d'au moins un projet source n'a pas pu être ouverte.</translation>
     </message>
@@ -240,42 +158,12 @@ Vraiment continuer ?</translation>
   Ancienne date de la table : %2, nouvelle date de la table : %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>La variable %1 n'existe pas dans la table cible</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>La variable %1 est inconnue</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>La correspondance des variables du projet %1 a été modifiée.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Les valeurs de la variable %1 diffèrent.
-  Ancienne valeur : %2
-  Nouvelle valeur : %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>La ligne %1 a été modifiée.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>La plupart des lignes ont d'autres valeurs dans le projet cible.
-  Projet cible : %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>La ligne affectée n'existe pas dans la table cible.
-  Projet : %1
-  Ligne : %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Vraiment continuer ?</translation>
         <translation>Demander un numéro ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Une condition du projet cible n'est pas remplie.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Une condition doit être une comparaison</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Une formule doit affecter une valeur à une variable</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>%1 attendu, %2 trouvé</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Une affectation à la variable %1 est attendue</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Il existe une affectation de plage de valeurs pour cette ligne.
@@ -362,14 +228,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Un mapping du projet %1 a été ajouté.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Nombre d'arguments incorrect pour la fonction %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtre</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Il y a un conflit pour cette ligne. L'affectation doit être confirmée ou corrigée</translation>
     </message>
@@ -382,18 +240,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Choisir un groupe</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Une comparaison est attendue ici, pas une valeur</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Une valeur est attendue ici, pas une comparaison</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Rechercher dans la table</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Catalogue</translation>
     </message>
@@ -404,10 +250,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Konflikte</source>
         <translation>Conflits</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Copier</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Insérer un nouvel enregistrement (reprend les valeurs de l'enregistrement sélectionné)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Introuvable</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Lignes introuvables</translation>
     </message>
@@ -466,10 +304,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>N'afficher que les lignes de la table d'origine affectées à cette ligne</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Occurrence suivante (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Chemin :</translation>
     </message>
@@ -484,50 +318,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Projektpfad:</source>
         <translation>Chemin du projet :</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>La source et la cible n'ont aucune variable commune ayant une valeur.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Annuler le tri</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Trier la colonne par ordre décroissant</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Trier la colonne par ordre croissant</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Ajuster la largeur des colonnes</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Filtre de colonne</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Filtre de colonne %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>État</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Fermer la recherche (Échap)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Rechercher...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Table %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Modification que vous aviez prévue :</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Occurrence précédente (Maj+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Activer et désactiver les séries préférentielles</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Séries préférentielles oui/non</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>D'autres lignes de la table source ont ces valeurs.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>D'autres lignes de la table cible ont ces valeurs.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Plage de valeurs (%1 valeurs) : %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Modifier les affectations de plages de valeurs</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Annulation en cours...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET du document sélectionné :</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Caractère %1 : %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>N'afficher que les lignes non affectées (projet cible)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Affiche les lignes dont la valeur contient le texte. Précédé de =, &lt;, &lt;=, &gt; ou &gt;=, il est comparé.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Variable cible</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Trop peu de valeurs de la ligne ont un équivalent dans la table cible.
-  Sans équivalent : %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Affectations à vérifier</translation>
     </message>
@@ -700,36 +456,8 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Annuler l'affectation à ce projet et confirmer (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>la fin</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>un opérateur ou la fin</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>un nom de variable</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>une valeur</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>une parenthèse fermante</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>contient des erreurs !</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>aucune valeur</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>encore %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

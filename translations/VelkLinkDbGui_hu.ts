@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Sor: %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(nem található)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Új hozzárendelés: &lt;br /&gt;%3, projekt: %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Mégse</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>A kijelölt sor hozzárendelése</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Jelenleg hozzárendelt sor</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Minden oszlopszűrő megszüntetése</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Minden hozzárendelés megerősítése</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Folytatás a táblázat elejétől</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Folytatás a táblázat végétől</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Más célprojektben is van sor ezekkel az értékekkel.
-  Projekt: %1
-  Sor: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Megerősített hozzárendelések</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Kérem, várjon</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Megszakítja a munkát</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Az értéktartományok feloldása a kiválasztott változóktól és a táblázat méretétől függően nagyon sokáig tarthat.
@@ -152,14 +112,6 @@ Valóban folytatja?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>A(z) %1 célprojekt már nem létezik</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>A célprojekt neve eltér a forrásprojektétől, és egyetlen hozzárendelés sincs megerősítve.
-  Forrásprojekt: %1
-  Célprojekt: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Valóban folytatja?</translation>
         <translation>Rekord hozzáadása a hivatkozási adatbázishoz</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>A szövegből hiányzik a záró aposztróf</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>A kifejezés túl mélyen egymásba ágyazott</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>A szöveg üres</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>A(z) %1 projekt feltételei megváltoztak.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>A(z) %1 függvény ismeretlen</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>A(z) %1 űrlap nem tölthető be: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>A szabvány megnevezései eltérnek.
-  Régi megnevezés: %1
-  Új megnevezés: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Valóban folytatja?</translation>
         <translation>A forrásprojekt táblázatát nem lehetett megnyitni.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>A célprojekt táblázatát nem lehetett beolvasni.
-  Projekt: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Legalább egy forrásprojekt táblázatát nem lehetett megnyitni.</translation>
     </message>
@@ -240,42 +158,12 @@ Valóban folytatja?</translation>
   Régi táblázatdátum: %2, új táblázatdátum: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>A(z) %1 változó nem létezik a céltáblázatban</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>A(z) %1 változó ismeretlen</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>A(z) %1 projekt változóleképezése megváltozott.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>A(z) %1 változó értékei eltérnek.
-  Régi érték: %2
-  Új érték: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>A(z) %1 sor megváltozott.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>A legtöbb sornak más értékei vannak a célprojektben.
-  Célprojekt: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>A hozzárendelt sor nem létezik a céltáblázatban.
-  Projekt: %1
-  Sor: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Valóban folytatja?</translation>
         <translation>ERP-szám igénylése</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>A célprojekt egyik feltétele nem teljesül.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>A feltételnek összehasonlításnak kell lennie</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>A képletnek értéket kell adnia egy változónak</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Várt: %1, talált: %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Értékadás várt a(z) %1 változónak</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Ehhez a sorhoz értéktartomány-hozzárendelés létezik.
@@ -362,14 +228,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>A(z) %1 projekt egy leképezése hozzáadva.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Hibás számú argumentum a(z) %1 függvényhez</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Szűrő</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Ennél a sornál ütközés van. A hozzárendelést meg kell erősíteni vagy javítani kell</translation>
     </message>
@@ -382,18 +240,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Csoport kiválasztása</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Itt összehasonlítás várt, nem érték</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Itt érték várt, nem összehasonlítás</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Keresés a táblázatban</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalógus</translation>
     </message>
@@ -404,10 +250,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Konflikte</source>
         <translation>Ütközések</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Másolás</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Új rekord beszúrása (átveszi a kijelölt rekord értékeit)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Nem található</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Nem talált sorok</translation>
     </message>
@@ -466,10 +304,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Csak az eredeti táblázat ehhez a sorhoz rendelt sorai</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Következő találat (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Útvonal:</translation>
     </message>
@@ -484,50 +318,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Projektpfad:</source>
         <translation>Projekt útvonala:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>A forrásnak és a célnak nincs közös, értékkel bíró változója.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Rendezés megszüntetése</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Oszlop rendezése csökkenő sorrendben</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Oszlop rendezése növekvő sorrendben</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Oszlopszélességek igazítása</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Oszlopszűrő</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Oszlopszűrő: %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Állapot</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Keresés bezárása (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Keresés...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Táblázat: %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Az Ön tervezett módosítása:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Előző találat (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Előnyben részesített sorok be- és kikapcsolása</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Előnyben részesített sorok be/ki</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>A forrástáblázat más sorainak is ezek az értékei.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>A céltáblázat más sorainak is ezek az értékei.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Értéktartomány (%1 érték): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Értéktartomány-hozzárendelések szerkesztése</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Megszakítás...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>A kijelölt dokumentum XVARSET értéke:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>%1. karakter: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Csak a hozzá nem rendelt sorok (célprojekt)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Azokat a sorokat mutatja, amelyek értéke tartalmazza a szöveget. Elöl =, &lt;, &lt;=, &gt; vagy &gt;= esetén összehasonlít.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Célváltozó</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>A sor túl kevés értékének van megfelelője a céltáblázatban.
-  Megfelelő nélkül: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Ellenőrizendő hozzárendelések</translation>
     </message>
@@ -700,36 +456,8 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>A projekthez rendelés megszüntetése és megerősítése (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>a vége</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>műveleti jel vagy a vége</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>változónév</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>érték</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>záró zárójel</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>hibát tartalmaz!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>nincs érték</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>még %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

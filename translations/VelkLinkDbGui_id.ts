@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Baris %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(tidak dapat ditemukan)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 dari %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Penetapan baru: &lt;br /&gt;%3 proyek %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Batal</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Tetapkan baris yang dipilih</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Baris yang sedang ditetapkan</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Hapus semua saringan kolom</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Konfirmasi semua penetapan</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Dilanjutkan dari awal tabel</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Dilanjutkan dari akhir tabel</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Proyek tujuan lain juga memiliki baris dengan nilai-nilai ini.
-  Proyek: %1
-  Baris: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Penetapan yang dikonfirmasi</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Mohon tunggu</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Membatalkan pekerjaan</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Penguraian rentang nilai dapat memakan waktu sangat lama, bergantung pada variabel yang dipilih dan ukuran tabel.
@@ -152,14 +112,6 @@ Sungguh lanjutkan?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Proyek tujuan %1 sudah tidak ada</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Nama proyek tujuan berbeda dari proyek sumber, dan tidak ada penetapan ke sana yang dikonfirmasi.
-  Proyek sumber: %1
-  Proyek tujuan: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Sungguh lanjutkan?</translation>
         <translation>Tambah rekaman ke basis data tautan</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Tanda petik penutup teks tidak ada</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Ekspresi bersarang terlalu dalam</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Teks kosong</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Syarat proyek %1 telah diubah.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Fungsi %1 tidak dikenal</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Formulir %1 tidak dapat dimuat: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Sebutan standar berbeda.
-  Sebutan lama: %1
-  Sebutan baru: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Sungguh lanjutkan?</translation>
         <translation>Tabel proyek sumber tidak dapat dibuka.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Tabel proyek tujuan tidak dapat dibaca.
-  Proyek: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Tabel dari setidaknya satu proyek sumber tidak dapat dibuka.</translation>
     </message>
@@ -240,42 +158,12 @@ Sungguh lanjutkan?</translation>
   Tanggal tabel lama: %2, tanggal tabel baru: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Variabel %1 tidak ada di tabel tujuan</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Variabel %1 tidak dikenal</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Pemetaan variabel proyek %1 telah diubah.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Nilai variabel %1 berbeda.
-  Nilai lama: %2
-  Nilai baru: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Baris %1 telah diubah.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>Sebagian besar baris memiliki nilai lain di proyek tujuan.
-  Proyek tujuan: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Baris yang ditetapkan tidak ada di tabel tujuan.
-  Proyek: %1
-  Baris: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Sungguh lanjutkan?</translation>
         <translation>Minta nomor ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Satu syarat proyek tujuan tidak terpenuhi.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Syarat harus berupa perbandingan</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Rumus harus memberi nilai kepada variabel</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Diharapkan %1, ditemukan %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Diharapkan pemberian nilai kepada variabel %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Ada penetapan rentang nilai untuk baris ini.
@@ -362,14 +228,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Satu pemetaan proyek %1 telah ditambahkan.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Jumlah argumen salah untuk fungsi %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Saringan</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Ada konflik pada baris ini. Penetapan harus dikonfirmasi atau diperbaiki</translation>
     </message>
@@ -382,18 +240,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Pilih grup</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Di sini diharapkan perbandingan, bukan nilai</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Di sini diharapkan nilai, bukan perbandingan</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Cari di tabel</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
     </message>
@@ -404,10 +250,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Konflikte</source>
         <translation>Konflik</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Salin</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Sisipkan rekaman baru (mengambil nilai rekaman terpilih)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Tidak ditemukan</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Baris yang tidak ditemukan</translation>
     </message>
@@ -466,10 +304,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Tampilkan hanya baris tabel asli yang ditetapkan ke baris ini</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Temuan berikutnya (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Jalur:</translation>
     </message>
@@ -484,50 +318,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Jalur proyek:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Sumber dan tujuan tidak memiliki variabel bersama yang bernilai.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Batalkan pengurutan</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Urutkan kolom menurun</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Urutkan kolom menaik</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Sesuaikan lebar kolom</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Saringan kolom</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Saringan kolom %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Tutup pencarian (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Cari...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabel %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Perubahan yang Anda rencanakan:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Temuan sebelumnya (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Aktifkan dan nonaktifkan deret pilihan</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Deret pilihan ya/tidak</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Baris lain di tabel sumber memiliki nilai-nilai ini.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Baris lain di tabel tujuan memiliki nilai-nilai ini.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Rentang nilai (%1 nilai): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Sunting penetapan rentang nilai</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Sedang dibatalkan...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET dokumen terpilih:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Karakter %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Tampilkan hanya baris tanpa penetapan (proyek tujuan)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Menampilkan baris yang nilainya memuat teks. Dengan =, &lt;, &lt;=, &gt; atau &gt;= di depan, nilai dibandingkan.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Variabel tujuan</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Terlalu sedikit nilai baris yang memiliki padanan di tabel tujuan.
-  Tanpa padanan: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Penetapan yang perlu diperiksa</translation>
     </message>
@@ -700,36 +456,8 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Batalkan penetapan ke proyek ini dan konfirmasi (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>akhir</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>operator atau akhir</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>nama variabel</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>nilai</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>kurung tutup</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>mengandung kesalahan!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>tanpa nilai</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>sisa %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Riga %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(impossibile trovarlo)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Nuova assegnazione: &lt;br /&gt;%3 del progetto %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Assegnare la riga selezionata</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Riga attualmente assegnata</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Rimuovere tutti i filtri colonna</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confermare tutte le assegnazioni</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Continuato dall'inizio della tabella</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Continuato dalla fine della tabella</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Anche un altro progetto di destinazione ha una riga con questi valori.
-  Progetto: %1
-  Riga: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Assegnazioni confermate</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Attendere prego</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Annulla il lavoro</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Risolvere gli intervalli di valori può durare molto, secondo le variabili scelte e la dimensione della tabella.
@@ -152,14 +112,6 @@ Continuare davvero?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Il progetto di destinazione %1 non esiste più</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Il progetto di destinazione ha un nome diverso da quello di origine e nessuna assegnazione verso di esso è confermata.
-  Progetto di origine: %1
-  Progetto di destinazione: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Continuare davvero?</translation>
         <translation>Aggiungere un record alla banca dati dei collegamenti</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Manca l'apice di chiusura del testo</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>L'espressione è annidata troppo in profondità</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Il testo è vuoto</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Le condizioni del progetto %1 sono state modificate.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>La funzione %1 è sconosciuta</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Impossibile caricare la maschera %1: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Le denominazioni della norma sono diverse.
-  Denominazione precedente: %1
-  Denominazione nuova: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Continuare davvero?</translation>
         <translation>Impossibile aprire la tabella del progetto di origine.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Impossibile leggere la tabella del progetto di destinazione.
-  Progetto: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Impossibile aprire la tabella di almeno un progetto di origine.</translation>
     </message>
@@ -240,42 +158,12 @@ Continuare davvero?</translation>
   Data precedente della tabella: %2, data nuova della tabella: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>La variabile %1 non esiste nella tabella di destinazione</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>La variabile %1 è sconosciuta</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>La corrispondenza delle variabili del progetto %1 è stata modificata.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>I valori della variabile %1 sono diversi.
-  Valore precedente: %2
-  Valore nuovo: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>La riga %1 è stata modificata.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>La maggior parte delle righe ha altri valori nel progetto di destinazione.
-  Progetto di destinazione: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>La riga assegnata non esiste nella tabella di destinazione.
-  Progetto: %1
-  Riga: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Continuare davvero?</translation>
         <translation>Richiedere numero ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Una condizione del progetto di destinazione non è soddisfatta.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Una condizione deve essere un confronto</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Una formula deve assegnare un valore a una variabile</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Atteso %1, trovato %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>È attesa un'assegnazione alla variabile %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Esiste un'assegnazione di intervallo di valori per questa riga.
@@ -362,14 +228,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>È stato aggiunto un mapping del progetto %1.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Numero di argomenti errato per la funzione %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtro</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Esiste un conflitto per questa riga. L'assegnazione va confermata o corretta</translation>
     </message>
@@ -382,18 +240,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Selezionare il gruppo</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Qui è atteso un confronto, non un valore</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Qui è atteso un valore, non un confronto</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Cercare nella tabella</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Catalogo</translation>
     </message>
@@ -404,10 +250,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Konflikte</source>
         <translation>Conflitti</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Copia</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Inserire un nuovo record (riprende i valori del record selezionato)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Non trovato</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Righe non trovate</translation>
     </message>
@@ -466,10 +304,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Mostrare solo righe della tabella originale assegnate a questa riga</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Risultato successivo (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Percorso:</translation>
     </message>
@@ -484,50 +318,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Projektpfad:</source>
         <translation>Percorso del progetto:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Origine e destinazione non hanno variabili comuni con un valore.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Annullare l'ordinamento</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Ordinare la colonna in modo decrescente</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Ordinare la colonna in modo crescente</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Adattare la larghezza delle colonne</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Filtro colonna</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Filtro colonna %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Stato</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Chiudere la ricerca (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Cerca...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabella %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Modifica da lei pianificata:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Risultato precedente (Maiusc+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Attivare e disattivare le serie preferenziali</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Serie preferenziali sì/no</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Altre righe della tabella di origine hanno questi valori.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Altre righe della tabella di destinazione hanno questi valori.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Intervallo di valori (%1 valori): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Modificare le assegnazioni degli intervalli di valori</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Annullamento in corso...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET del documento selezionato:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Carattere %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Mostra solo righe non assegnate (progetto di destinazione)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Mostra le righe il cui valore contiene il testo. Con =, &lt;, &lt;=, &gt; o &gt;= davanti viene confrontato.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Variabile di destinazione</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Troppo pochi valori della riga hanno un corrispondente nella tabella di destinazione.
-  Senza corrispondente: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Assegnazioni da verificare</translation>
     </message>
@@ -700,36 +456,8 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Annullare l'assegnazione a questo progetto e confermare (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>la fine</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>un operatore o la fine</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>un nome di variabile</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>un valore</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>una parentesi chiusa</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>contiene errori!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>nessun valore</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>ancora %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  行 %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;（見つかりませんでした）&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;新しい割り当て: &lt;br /&gt;プロジェクト %4 の %3 &lt;br /&gt;。</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>選択中の行を割り当て</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>現在割り当てられている行</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>すべての列フィルターを解除</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>すべての割り当てを確認</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>テーブルの先頭から続行しました</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>テーブルの末尾から続行しました</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>別の対象プロジェクトにも同じ値の行があります。
-  プロジェクト: %1
-  行: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>確認済みの割り当て</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>お待ちください</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>作業を中止します</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>値範囲の展開は、選択した変数とテーブルの大きさによって非常に長い時間がかかることがあります。
@@ -152,14 +112,6 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>対象プロジェクト %1 はもう存在しません</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>対象プロジェクトの名前が元プロジェクトと異なり、そこへの確認済みの割り当てがありません。
-  元プロジェクト: %1
-  対象プロジェクト: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Wirklich fortfahren?</source>
         <translation>リンクデータベースにレコードを追加</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>テキストに閉じ引用符がありません</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>式の入れ子が深すぎます</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>テキストが空です</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>プロジェクト %1 の条件が変更されました。</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>関数 %1 は不明です</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>フォーム %1 を読み込めません: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>規格名称が異なります。
-  旧規格名称: %1
-  新規格名称: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Wirklich fortfahren?</source>
         <translation>元プロジェクトのテーブルを開けませんでした。</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>対象プロジェクトのテーブルを読み込めませんでした。
-  プロジェクト: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>1つ以上の元プロジェクトのテーブルを開けませんでした。</translation>
     </message>
@@ -240,42 +158,12 @@ Wirklich fortfahren?</source>
   旧テーブル日付: %2、新テーブル日付: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>変数 %1 は対象テーブルに存在しません</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>変数 %1 は不明です</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>プロジェクト %1 の変数の対応付けが変更されました。</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>変数 %1 の値が異なります。
-  旧値: %2
-  新値: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>行 %1 が変更されました。</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>ほとんどの行は対象プロジェクトで値が異なります。
-  対象プロジェクト: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>割り当てられた行が対象テーブルにありません。
-  プロジェクト: %1
-  行: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Wirklich fortfahren?</source>
         <translation>ERP番号を申請</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>対象プロジェクトの条件が満たされていません。
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>条件は比較でなければなりません</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>数式は変数に値を代入しなければなりません</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>%1 が必要ですが、%2 が見つかりました</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>変数 %1 への代入が必要です</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>この行には値範囲の割り当てがあります。
@@ -362,14 +228,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>プロジェクト %1 のマッピングが追加されました。</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>関数 %1 の引数の数が正しくありません</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>フィルター</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>この行に競合があります。割り当てを確認または修正してください</translation>
     </message>
@@ -382,18 +240,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>グループを選択</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>ここには値ではなく比較が必要です</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>ここには比較ではなく値が必要です</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>テーブル内を検索</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>カタログ</translation>
     </message>
@@ -404,10 +250,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>競合</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>コピー</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>新しいレコードを挿入（選択したレコードの値を引き継ぐ）</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>見つかりません</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>見つからない行</translation>
     </message>
@@ -466,10 +304,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>この行に割り当てられた元テーブルの行のみ表示</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>次の一致 (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>パス:</translation>
     </message>
@@ -484,50 +318,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>プロジェクトのパス:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>元と対象に、値を持つ共通の変数がありません。</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>並べ替えを解除</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>列を降順に並べ替え</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>列を昇順に並べ替え</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>列幅を調整</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>列フィルター</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>列フィルター %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>状態</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>検索を閉じる (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>検索...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>テーブル %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>あなたが予定した変更:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>前の一致 (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>優先系列のオン／オフを切り替え</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>優先系列オン／オフ</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>元テーブルの他の行にもこれらの値があります。</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>対象テーブルの他の行にもこれらの値があります。</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>値範囲（%1個の値）: %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>値範囲の割り当てを編集</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>中止しています...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>選択したドキュメントのXVARSET:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>文字 %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>未割り当ての行のみ表示（対象プロジェクト）</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>値にテキストを含む行を表示します。先頭に =、&lt;、&lt;=、&gt;、&gt;= を付けると比較します。</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>対象変数</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>対象テーブルに対応がある値が少なすぎます。
-  対応なし: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>確認が必要な割り当て</translation>
     </message>
@@ -700,36 +456,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>このプロジェクトへの割り当てを解除して確認 (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>末尾</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>演算子または末尾</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>変数名</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>値</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>閉じ括弧</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>エラーがあります！</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>値なし</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>残り %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  행 %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(찾을 수 없음)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;새 할당: &lt;br /&gt;프로젝트 %4의 %3 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>취소</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>선택한 행 할당</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>현재 할당된 행</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>모든 열 필터 해제</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>모든 할당 확인</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>테이블의 처음부터 계속했습니다</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>테이블의 끝에서 계속했습니다</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>다른 대상 프로젝트에도 같은 값의 행이 있습니다.
-  프로젝트: %1
-  행: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>확인된 할당</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>기다려 주십시오</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>작업을 취소합니다</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>값 범위를 해석하는 데 선택한 변수와 테이블 크기에 따라 매우 오래 걸릴 수 있습니다.
@@ -152,14 +112,6 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>대상 프로젝트 %1이(가) 더 이상 없습니다</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>대상 프로젝트의 이름이 원본 프로젝트와 다르며, 확인된 할당이 없습니다.
-  원본 프로젝트: %1
-  대상 프로젝트: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Wirklich fortfahren?</source>
         <translation>링크 데이터베이스에 레코드 추가</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>텍스트에 닫는 작은따옴표가 없습니다</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>식이 너무 깊게 중첩되었습니다</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>텍스트가 비어 있습니다</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>프로젝트 %1의 조건이 변경되었습니다.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>함수 %1을(를) 알 수 없습니다</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>양식 %1을(를) 불러올 수 없습니다: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>표준 명칭이 다릅니다.
-  이전 명칭: %1
-  새 명칭: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Wirklich fortfahren?</source>
         <translation>원본 프로젝트의 테이블을 열 수 없습니다.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>대상 프로젝트의 테이블을 읽을 수 없습니다.
-  프로젝트: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>하나 이상의 원본 프로젝트의 테이블을 열 수 없습니다.</translation>
     </message>
@@ -240,42 +158,12 @@ Wirklich fortfahren?</source>
   이전 테이블 날짜: %2, 새 테이블 날짜: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>변수 %1이(가) 대상 테이블에 없습니다</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>변수 %1을(를) 알 수 없습니다</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>프로젝트 %1의 변수 매핑이 변경되었습니다.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>변수 %1의 값이 다릅니다.
-  이전 값: %2
-  새 값: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>행 %1이(가) 변경되었습니다.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>대부분의 행이 대상 프로젝트에서 다른 값을 가집니다.
-  대상 프로젝트: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>할당된 행이 대상 테이블에 없습니다.
-  프로젝트: %1
-  행: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Wirklich fortfahren?</source>
         <translation>ERP 번호 신청</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>대상 프로젝트의 조건이 충족되지 않습니다.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>조건은 비교여야 합니다</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>수식은 변수에 값을 지정해야 합니다</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>%1이(가) 필요하지만 %2을(를) 찾았습니다</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>변수 %1에 대한 지정이 필요합니다</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>이 행에는 값 범위 할당이 있습니다.
@@ -362,14 +228,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>프로젝트 %1의 매핑이 추가되었습니다.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>함수 %1의 인수 개수가 잘못되었습니다</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>필터</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>이 행에 충돌이 있습니다. 할당을 확인하거나 수정해야 합니다</translation>
     </message>
@@ -382,18 +240,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>그룹 선택</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>여기에는 값이 아니라 비교가 필요합니다</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>여기에는 비교가 아니라 값이 필요합니다</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>테이블에서 찾기</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>카탈로그</translation>
     </message>
@@ -404,10 +250,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>충돌</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>복사</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>새 레코드 삽입(선택한 레코드의 값을 가져옴)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>찾을 수 없음</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>찾을 수 없는 행</translation>
     </message>
@@ -466,10 +304,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>이 행에 할당된 원래 테이블의 행만 표시</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>다음 찾기 (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>경로:</translation>
     </message>
@@ -484,50 +318,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>프로젝트 경로:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>원본과 대상에 값이 있는 공통 변수가 없습니다.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>정렬 해제</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>열을 내림차순으로 정렬</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>열을 오름차순으로 정렬</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>열 너비 맞춤</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>열 필터</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>열 필터 %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>상태</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>찾기 닫기 (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>찾기...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>테이블 %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>사용자가 계획한 변경:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>이전 찾기 (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>우선 계열 켜기 및 끄기</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>우선 계열 켬/끔</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>원본 테이블의 다른 행에도 이 값이 있습니다.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>대상 테이블의 다른 행에도 이 값이 있습니다.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>값 범위(값 %1개): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>값 범위 할당 편집</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>취소하는 중...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>선택한 문서의 XVARSET:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>문자 %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>할당되지 않은 행만 표시(대상 프로젝트)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>값에 텍스트가 들어 있는 행을 표시합니다. 앞에 =, &lt;, &lt;=, &gt; 또는 &gt;=를 쓰면 비교합니다.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>대상 변수</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>대상 테이블에 대응하는 값이 너무 적습니다.
-  대응 없음: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>확인할 할당</translation>
     </message>
@@ -700,36 +456,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>이 프로젝트에 대한 할당을 해제하고 확인(CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>끝</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>연산자 또는 끝</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>변수 이름</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>값</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>닫는 괄호</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>오류가 있습니다!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>값 없음</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>%1 남음</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Linje %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(ble ikke funnet)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 av %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Ny tilordning: &lt;br /&gt;%3 i prosjektet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Avbryt</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Tilordne den valgte linjen</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Linjen som er tilordnet nå</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Opphev alle kolonnefiltre</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Bekreft alle tilordninger</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Fortsatt fra begynnelsen av tabellen</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Fortsatt fra slutten av tabellen</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Også et annet målprosjekt har en linje med disse verdiene.
-  Prosjekt: %1
-  Linje: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Bekreftede tilordninger</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Vent litt</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Avbryter arbeidet</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Oppløsningen av verdiområdene kan ta svært lang tid, avhengig av de valgte variablene og tabellens størrelse.
@@ -152,14 +112,6 @@ Vil du virkelig fortsette?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Målprosjektet %1 finnes ikke lenger</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Målprosjektet heter noe annet enn kildeprosjektet, og ingen tilordning dit er bekreftet.
-  Kildeprosjekt: %1
-  Målprosjekt: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Vil du virkelig fortsette?</translation>
         <translation>Legg til en post i lenkedatabasen</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Teksten mangler den avsluttende apostrofen</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Uttrykket er nestet for dypt</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Teksten er tom</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Betingelsene for prosjektet %1 ble endret.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Funksjonen %1 er ukjent</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Skjemaet %1 kan ikke lastes: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Standardbetegnelsene er forskjellige.
-  Gammel betegnelse: %1
-  Ny betegnelse: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Vil du virkelig fortsette?</translation>
         <translation>Kildeprosjektets tabell kunne ikke åpnes.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Målprosjektets tabell kunne ikke leses.
-  Prosjekt: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Tabellen for minst ett kildeprosjekt kunne ikke åpnes.</translation>
     </message>
@@ -240,42 +158,12 @@ Vil du virkelig fortsette?</translation>
   Gammel tabelldato: %2, ny tabelldato: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Variabelen %1 finnes ikke i måltabellen</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Variabelen %1 er ukjent</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Variabeltilordningen for prosjektet %1 ble endret.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Verdiene av variabelen %1 er forskjellige.
-  Gammel verdi: %2
-  Ny verdi: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Linjen %1 ble endret.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>De fleste linjer har andre verdier i målprosjektet.
-  Målprosjekt: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Den tilordnede linjen finnes ikke i måltabellen.
-  Prosjekt: %1
-  Linje: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Vil du virkelig fortsette?</translation>
         <translation>Be om ERP-nummer</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>En betingelse for målprosjektet er ikke oppfylt.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>En betingelse må være en sammenligning</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>En formel må tilordne en variabel en verdi</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Forventet %1, fant %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>En tilordning til variabelen %1 er forventet</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Det finnes en verdiområdetilordning for denne linjen.
@@ -362,14 +228,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>En mapping for prosjektet %1 ble lagt til.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Feil antall argumenter for funksjonen %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Det er en konflikt for denne linjen. Tilordningen må bekreftes eller rettes</translation>
     </message>
@@ -382,18 +240,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Velg gruppe</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Her forventes en sammenligning, ikke en verdi</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Her forventes en verdi, ikke en sammenligning</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Søk i tabellen</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
     </message>
@@ -404,10 +250,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Konflikte</source>
         <translation>Konflikter</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Kopier</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Sett inn en ny post (overtar verdiene fra den valgte posten)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Ikke funnet</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Linjer som ikke ble funnet</translation>
     </message>
@@ -466,10 +304,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Vis bare linjer i den opprinnelige tabellen som er tilordnet denne linjen</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Neste treff (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Sti:</translation>
     </message>
@@ -484,50 +318,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Prosjektsti:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Kilde og mål har ingen felles variabel med en verdi.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Opphev sortering</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Sorter kolonnen synkende</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Sorter kolonnen stigende</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Tilpass kolonnebredder</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Kolonnefilter</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Kolonnefilter %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Lukk søket (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Søk...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabell %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Din planlagte endring:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Forrige treff (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Slå foretrukne serier på og av</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Foretrukne serier på/av</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Flere linjer i kildetabellen har disse verdiene.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Flere linjer i måltabellen har disse verdiene.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Verdiområde (%1 verdier): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Rediger tilordninger av verdiområder</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Avbrytes...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET for det valgte dokumentet:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Tegn %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Vis bare linjer uten tilordning (målprosjekt)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Viser linjer der verdien inneholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes det.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Målvariabel</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>For få av linjens verdier har en motpart i måltabellen.
-  Uten motpart: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Tilordninger til kontroll</translation>
     </message>
@@ -700,36 +456,8 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Opphev tilordningen til dette prosjektet og bekreft (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>slutten</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>en operator eller slutten</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>et variabelnavn</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>en verdi</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>en avsluttende parentes</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>inneholder feil!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>ingen verdi</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>%1 igjen</translation>
     </message>
     <message>
         <source>Übersicht</source>

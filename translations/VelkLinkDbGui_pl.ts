@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Wiersz %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(nie można było znaleźć)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Nowe przypisanie: &lt;br /&gt;%3 projektu %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Anuluj</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Przypisz zaznaczony wiersz</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Aktualnie przypisany wiersz</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Usuń wszystkie filtry kolumn</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Potwierdź wszystkie przypisania</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Kontynuacja od początku tabeli</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Kontynuacja od końca tabeli</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Również inny projekt docelowy ma wiersz z tymi wartościami.
-  Projekt: %1
-  Wiersz: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Potwierdzone przypisania</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Proszę czekać</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Przerywa pracę</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Rozwijanie zakresów wartości może trwać bardzo długo, zależnie od wybranych zmiennych i wielkości tabeli.
@@ -152,14 +112,6 @@ Naprawdę kontynuować?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Projekt docelowy %1 już nie istnieje</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Projekt docelowy nazywa się inaczej niż źródłowy, a żadne przypisanie do niego nie jest potwierdzone.
-  Projekt źródłowy: %1
-  Projekt docelowy: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Naprawdę kontynuować?</translation>
         <translation>Dodaj rekord do bazy łączy</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Tekstowi brakuje zamykającego apostrofu</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Wyrażenie jest zbyt głęboko zagnieżdżone</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Tekst jest pusty</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Zmieniono warunki projektu %1.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Funkcja %1 jest nieznana</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Nie można wczytać formularza %1: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Oznaczenia normy są różne.
-  Stare oznaczenie: %1
-  Nowe oznaczenie: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Naprawdę kontynuować?</translation>
         <translation>Nie można było otworzyć tabeli projektu źródłowego.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Nie można było odczytać tabeli projektu docelowego.
-  Projekt: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Nie można było otworzyć tabeli co najmniej jednego projektu źródłowego.</translation>
     </message>
@@ -240,42 +158,12 @@ Naprawdę kontynuować?</translation>
   Stara data tabeli: %2, nowa data tabeli: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Zmienna %1 nie istnieje w tabeli docelowej</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Zmienna %1 jest nieznana</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Zmieniono mapowanie zmiennych projektu %1.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Wartości zmiennej %1 są różne.
-  Stara wartość: %2
-  Nowa wartość: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Zmieniono wiersz %1.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>Większość wierszy ma w projekcie docelowym inne wartości.
-  Projekt docelowy: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Przypisany wiersz nie istnieje w tabeli docelowej.
-  Projekt: %1
-  Wiersz: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Naprawdę kontynuować?</translation>
         <translation>Zamów numer ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Warunek projektu docelowego nie jest spełniony.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Warunek musi być porównaniem</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Formuła musi przypisać wartość zmiennej</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Oczekiwano: %1, znaleziono: %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Oczekiwano przypisania do zmiennej %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Dla tego wiersza istnieje przypisanie zakresu wartości.
@@ -362,14 +228,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Dodano mapowanie projektu %1.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Błędna liczba argumentów funkcji %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtr</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Dla tego wiersza istnieje konflikt. Przypisanie trzeba potwierdzić lub poprawić</translation>
     </message>
@@ -382,18 +240,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Wybierz grupę</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Oczekiwano tu porównania, nie wartości</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Oczekiwano tu wartości, nie porównania</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Szukaj w tabeli</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
     </message>
@@ -404,10 +250,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Konflikte</source>
         <translation>Konflikty</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Kopiuj</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Wstaw nowy rekord (przejmuje wartości zaznaczonego rekordu)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Nie znaleziono</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Nieznalezione wiersze</translation>
     </message>
@@ -466,10 +304,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Pokaż tylko wiersze tabeli oryginalnej przypisane do tego wiersza</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Następne wystąpienie (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Ścieżka:</translation>
     </message>
@@ -484,50 +318,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Projektpfad:</source>
         <translation>Ścieżka projektu:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Źródło i cel nie mają wspólnej zmiennej z wartością.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Usuń sortowanie</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Sortuj kolumnę malejąco</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Sortuj kolumnę rosnąco</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Dopasuj szerokość kolumn</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Filtr kolumny</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Filtr kolumny %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Stan</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Zamknij wyszukiwanie (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Szukaj...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabela %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Zaplanowana przez Ciebie zmiana:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Poprzednie wystąpienie (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Włącz i wyłącz szeregi preferowane</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Szeregi preferowane wł./wył.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Te wartości mają też inne wiersze tabeli źródłowej.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Te wartości mają też inne wiersze tabeli docelowej.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Zakres wartości (%1 wartości): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Edytuj przypisania zakresów wartości</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Przerywanie...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET zaznaczonego dokumentu:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Znak %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Pokaż tylko nieprzypisane wiersze (projekt docelowy)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Pokazuje wiersze, których wartość zawiera tekst. Z =, &lt;, &lt;=, &gt; lub &gt;= na początku następuje porównanie.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Zmienna docelowa</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Zbyt mało wartości wiersza ma odpowiednik w tabeli docelowej.
-  Bez odpowiednika: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Przypisania do sprawdzenia</translation>
     </message>
@@ -700,36 +456,8 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Usuń przypisanie do tego projektu i potwierdź (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>koniec</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>operator lub koniec</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>nazwa zmiennej</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>wartość</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>nawias zamykający</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>zawiera błędy!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>brak wartości</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>jeszcze %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

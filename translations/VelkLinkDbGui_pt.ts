@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Linha %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(não foi possível encontrar)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Nova atribuição: &lt;br /&gt;%3 do projeto %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Atribuir a linha selecionada</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Linha atualmente atribuída</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Remover todos os filtros de coluna</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirmar todas as atribuições</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Continuado no início da tabela</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Continuado no fim da tabela</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Outro projeto de destino também tem uma linha com estes valores.
-  Projeto: %1
-  Linha: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Atribuições confirmadas</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Aguarde, por favor</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Cancela o trabalho</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>A resolução dos intervalos de valores pode demorar muito, conforme as variáveis escolhidas e o tamanho da tabela.
@@ -152,14 +112,6 @@ Continuar mesmo?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>O projeto de destino %1 já não existe</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>O projeto de destino tem um nome diferente do de origem, e nenhuma atribuição para ele está confirmada.
-  Projeto de origem: %1
-  Projeto de destino: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Continuar mesmo?</translation>
         <translation>Adicionar um registo à base de dados de ligações</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Falta a plica de fecho do texto</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>A expressão tem demasiados níveis</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>O texto está vazio</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>As condições do projeto %1 foram alteradas.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>A função %1 é desconhecida</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Não é possível carregar o formulário %1: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>As designações da norma são diferentes.
-  Designação anterior: %1
-  Designação nova: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Continuar mesmo?</translation>
         <translation>Não foi possível abrir a tabela do projeto de origem.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Não foi possível ler a tabela do projeto de destino.
-  Projeto: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Não foi possível abrir a tabela de pelo menos um projeto de origem.</translation>
     </message>
@@ -240,42 +158,12 @@ Continuar mesmo?</translation>
   Data anterior da tabela: %2, data nova da tabela: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>A variável %1 não existe na tabela de destino</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>A variável %1 é desconhecida</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>A correspondência de variáveis do projeto %1 foi alterada.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Os valores da variável %1 são diferentes.
-  Valor anterior: %2
-  Valor novo: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>A linha %1 foi alterada.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>A maioria das linhas tem outros valores no projeto de destino.
-  Projeto de destino: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>A linha atribuída não existe na tabela de destino.
-  Projeto: %1
-  Linha: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Continuar mesmo?</translation>
         <translation>Pedir número ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Uma condição do projeto de destino não é cumprida.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Uma condição tem de ser uma comparação</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Uma fórmula tem de atribuir um valor a uma variável</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Esperado %1, encontrado %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Espera-se uma atribuição à variável %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Existe uma atribuição de intervalo de valores para esta linha.
@@ -362,14 +228,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Foi adicionado um mapeamento do projeto %1.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Número de argumentos errado para a função %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtro</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Existe um conflito nesta linha. A atribuição tem de ser confirmada ou corrigida</translation>
     </message>
@@ -382,18 +240,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Selecionar grupo</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Aqui espera-se uma comparação, não um valor</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Aqui espera-se um valor, não uma comparação</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Procurar na tabela</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Catálogo</translation>
     </message>
@@ -404,10 +250,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Konflikte</source>
         <translation>Conflitos</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Copiar</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Inserir um novo registo (assume os valores do registo selecionado)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Não encontrado</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Linhas não encontradas</translation>
     </message>
@@ -466,10 +304,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Mostrar só linhas da tabela original atribuídas a esta linha</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Ocorrência seguinte (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Caminho:</translation>
     </message>
@@ -484,50 +318,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Projektpfad:</source>
         <translation>Caminho do projeto:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>A origem e o destino não têm nenhuma variável comum com valor.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Anular a ordenação</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Ordenar a coluna por ordem decrescente</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Ordenar a coluna por ordem crescente</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Ajustar a largura das colunas</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Filtro de coluna</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Filtro de coluna %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Estado</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Fechar a procura (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Procurar...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabela %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Alteração planeada por si:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Ocorrência anterior (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Ligar e desligar as séries preferenciais</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Séries preferenciais sim/não</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Outras linhas da tabela de origem têm estes valores.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Outras linhas da tabela de destino têm estes valores.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Intervalo de valores (%1 valores): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Editar as atribuições de intervalos de valores</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>A cancelar...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET do documento selecionado:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Carácter %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Mostrar só linhas não atribuídas (projeto de destino)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Mostra linhas cujo valor contém o texto. Com =, &lt;, &lt;=, &gt; ou &gt;= antes, é comparado.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Variável de destino</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Poucos valores da linha têm correspondência na tabela de destino.
-  Sem correspondência: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Atribuições a verificar</translation>
     </message>
@@ -700,36 +456,8 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Anular a atribuição a este projeto e confirmar (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>o fim</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>um operador ou o fim</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>um nome de variável</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>um valor</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>um parêntese de fecho</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>contém erros!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>nenhum valor</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>faltam %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

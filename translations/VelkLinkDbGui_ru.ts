@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Строка %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(не удалось найти)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 из %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Новое назначение: &lt;br /&gt;%3 проекта %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Отмена</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Назначить выделенную строку</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Назначенная сейчас строка</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Снять все фильтры столбцов</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Подтвердить все назначения</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Продолжено с начала таблицы</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Продолжено с конца таблицы</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Строка с этими значениями есть и в другом целевом проекте.
-  Проект: %1
-  Строка: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Подтверждённые назначения</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Подождите</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Прерывает работу</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Раскрытие диапазонов значений может занять очень много времени в зависимости от выбранных переменных и размера таблицы.
@@ -152,14 +112,6 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Целевого проекта %1 больше нет</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Целевой проект называется иначе, чем исходный, и ни одно назначение на него не подтверждено.
-  Исходный проект: %1
-  Целевой проект: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Wirklich fortfahren?</source>
         <translation>Добавить запись в базу связей</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>В тексте нет закрывающего апострофа</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Слишком глубокая вложенность выражения</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Текст пуст</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Условия проекта %1 изменены.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Функция %1 неизвестна</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Не удаётся загрузить форму %1: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Обозначения стандарта различаются.
-  Старое обозначение: %1
-  Новое обозначение: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Wirklich fortfahren?</source>
         <translation>Не удалось открыть таблицу исходного проекта.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Не удалось прочитать таблицу целевого проекта.
-  Проект: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Не удалось открыть таблицу хотя бы одного исходного проекта.</translation>
     </message>
@@ -240,42 +158,12 @@ Wirklich fortfahren?</source>
   Старая дата таблицы: %2, новая дата таблицы: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Переменной %1 нет в целевой таблице</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Переменная %1 неизвестна</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Сопоставление переменных проекта %1 изменено.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Значения переменной %1 различаются.
-  Старое значение: %2
-  Новое значение: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Строка %1 изменена.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>У большинства строк в целевом проекте другие значения.
-  Целевой проект: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Назначенной строки нет в целевой таблице.
-  Проект: %1
-  Строка: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Wirklich fortfahren?</source>
         <translation>Запросить номер ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Условие целевого проекта не выполнено.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Условие должно быть сравнением</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Формула должна присваивать значение переменной</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Ожидалось: %1, найдено: %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Ожидается присваивание переменной %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Для этой строки есть назначение диапазона значений.
@@ -362,14 +228,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Сопоставление проекта %1 добавлено.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Неверное число аргументов функции %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Фильтр</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Для этой строки есть конфликт. Назначение нужно подтвердить или исправить</translation>
     </message>
@@ -382,18 +240,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Выбрать группу</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Здесь ожидается сравнение, а не значение</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Здесь ожидается значение, а не сравнение</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Найти в таблице</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Каталог</translation>
     </message>
@@ -404,10 +250,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>Конфликты</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Копировать</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Вставить новую запись (со значениями выделенной записи)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Не найдено</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Ненайденные строки</translation>
     </message>
@@ -466,10 +304,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Показывать только строки исходной таблицы, назначенные на эту строку</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Следующее совпадение (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Путь:</translation>
     </message>
@@ -484,50 +318,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>Путь проекта:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>У источника и цели нет общей переменной со значением.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Отменить сортировку</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Сортировать столбец по убыванию</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Сортировать столбец по возрастанию</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Подогнать ширину столбцов</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Фильтр столбца</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Фильтр столбца %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Состояние</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Закрыть поиск (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Найти...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Таблица %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Запланированное вами изменение:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Предыдущее совпадение (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Включить и выключить предпочтительные ряды</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Предпочтительные ряды вкл./выкл.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Эти значения есть и у других строк исходной таблицы.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Эти значения есть и у других строк целевой таблицы.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Диапазон значений (значений: %1): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Изменить назначения диапазонов значений</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Прерывается...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET выделенного документа:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Символ %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Показывать только неназначенные строки (целевой проект)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Показывает строки, значение которых содержит текст. С =, &lt;, &lt;=, &gt; или &gt;= впереди выполняется сравнение.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Целевая переменная</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Слишком мало значений строки имеют соответствие в целевой таблице.
-  Без соответствия: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Назначения для проверки</translation>
     </message>
@@ -700,36 +456,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Снять назначение на этот проект и подтвердить (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>конец</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>оператор или конец</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>имя переменной</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>значение</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>закрывающая скобка</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>содержит ошибки!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>нет значения</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>ещё %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Vrstica %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(ni bilo mogoče najti)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 od %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Nova dodelitev: &lt;br /&gt;%3 projekta %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Prekliči</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Dodeli označeno vrstico</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Trenutno dodeljena vrstica</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Odstrani vse filtre stolpcev</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Potrdi vse dodelitve</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Nadaljevano na začetku tabele</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Nadaljevano na koncu tabele</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Tudi drug ciljni projekt ima vrstico s temi vrednostmi.
-  Projekt: %1
-  Vrstica: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Potrjene dodelitve</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Počakajte</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Prekliče delo</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Razreševanje območij vrednosti lahko traja zelo dolgo, odvisno od izbranih spremenljivk in velikosti tabele.
@@ -152,14 +112,6 @@ Res nadaljujem?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Ciljni projekt %1 ne obstaja več</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Ciljni projekt ima drugačno ime kot izvorni in nobena dodelitev vanj ni potrjena.
-  Izvorni projekt: %1
-  Ciljni projekt: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Res nadaljujem?</translation>
         <translation>Dodaj zapis v zbirko povezav</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Besedilu manjka zaključni opuščaj</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Izraz je pregloboko gnezden</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Besedilo je prazno</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Pogoji projekta %1 so bili spremenjeni.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Funkcija %1 ni znana</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Obrazca %1 ni mogoče naložiti: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Oznaki standarda se razlikujeta.
-  Stara oznaka: %1
-  Nova oznaka: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Res nadaljujem?</translation>
         <translation>Tabele izvornega projekta ni bilo mogoče odpreti.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Tabele ciljnega projekta ni bilo mogoče prebrati.
-  Projekt: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Tabele vsaj enega izvornega projekta ni bilo mogoče odpreti.</translation>
     </message>
@@ -240,42 +158,12 @@ Res nadaljujem?</translation>
   Stari datum tabele: %2, novi datum tabele: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Spremenljivka %1 v ciljni tabeli ne obstaja</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Spremenljivka %1 ni znana</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Preslikava spremenljivk projekta %1 je bila spremenjena.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Vrednosti spremenljivke %1 se razlikujejo.
-  Stara vrednost: %2
-  Nova vrednost: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Vrstica %1 je bila spremenjena.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>Večina vrstic ima v ciljnem projektu druge vrednosti.
-  Ciljni projekt: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Dodeljena vrstica v ciljni tabeli ne obstaja.
-  Projekt: %1
-  Vrstica: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Res nadaljujem?</translation>
         <translation>Zahtevaj številko ERP</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Pogoj ciljnega projekta ni izpolnjen.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Pogoj mora biti primerjava</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Formula mora spremenljivki prirediti vrednost</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Pričakovano: %1, najdeno: %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>Pričakovana je prireditev spremenljivki %1</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Za to vrstico obstaja dodelitev območja vrednosti.
@@ -362,14 +228,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Preslikava projekta %1 je bila dodana.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Napačno število argumentov funkcije %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Za to vrstico obstaja spor. Dodelitev je treba potrditi ali popraviti</translation>
     </message>
@@ -382,18 +240,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Izberi skupino</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Tu je pričakovana primerjava, ne vrednost</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Tu je pričakovana vrednost, ne primerjava</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Išči v tabeli</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
     </message>
@@ -404,10 +250,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Konflikte</source>
         <translation>Spori</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Kopiraj</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Vstavi nov zapis (prevzame vrednosti označenega zapisa)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Ni najdeno</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Nenajdene vrstice</translation>
     </message>
@@ -466,10 +304,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Prikaži samo vrstice izvirne tabele, dodeljene tej vrstici</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Naslednji zadetek (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Pot:</translation>
     </message>
@@ -484,50 +318,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Projektpfad:</source>
         <translation>Pot projekta:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Izvor in cilj nimata skupne spremenljivke z vrednostjo.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Odstrani razvrščanje</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Razvrsti stolpec padajoče</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Razvrsti stolpec naraščajoče</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Prilagodi širine stolpcev</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Filter stolpca</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Filter stolpca %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Stanje</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Zapri iskanje (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Išči...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabela %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Vaša načrtovana sprememba:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Prejšnji zadetek (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Vklopi in izklopi prednostne vrste</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Prednostne vrste vklop/izklop</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Te vrednosti imajo tudi druge vrstice izvorne tabele.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Te vrednosti imajo tudi druge vrstice ciljne tabele.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Območje vrednosti (vrednosti: %1): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Uredi dodelitve območij vrednosti</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Preklicevanje...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET označenega dokumenta:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Znak %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Prikaži samo nedodeljene vrstice (ciljni projekt)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Prikaže vrstice, katerih vrednost vsebuje besedilo. Z =, &lt;, &lt;=, &gt; ali &gt;= na začetku se primerja.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Ciljna spremenljivka</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Premalo vrednosti vrstice ima par v ciljni tabeli.
-  Brez para: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Dodelitve za preverjanje</translation>
     </message>
@@ -700,36 +456,8 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Prekliči dodelitev temu projektu in potrdi (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>konec</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>operator ali konec</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>ime spremenljivke</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>vrednost</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>zaklepaj</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>vsebuje napake!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>brez vrednosti</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>še %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Rad %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(kunde inte hittas)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 av %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Ny tilldelning: &lt;br /&gt;%3 i projektet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>Avbryt</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Tilldela den markerade raden</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>För närvarande tilldelad rad</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Ta bort alla kolumnfilter</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Bekräfta alla tilldelningar</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Fortsatte från tabellens början</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Fortsatte från tabellens slut</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Även ett annat målprojekt har en rad med dessa värden.
-  Projekt: %1
-  Rad: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Bekräftade tilldelningar</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Vänta</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>Avbryter arbetet</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Upplösningen av värdeområdena kan ta mycket lång tid beroende på valda variabler och tabellens storlek.
@@ -152,14 +112,6 @@ Vill du verkligen fortsätta?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Målprojektet %1 finns inte längre</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Målprojektet heter något annat än källprojektet och ingen tilldelning dit är bekräftad.
-  Källprojekt: %1
-  Målprojekt: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Vill du verkligen fortsätta?</translation>
         <translation>Lägg till en post i länkdatabasen</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Texten saknar den avslutande apostrofen</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>Uttrycket är för djupt nästlat</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Texten är tom</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Villkoren för projektet %1 ändrades.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>Funktionen %1 är okänd</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>Formuläret %1 kan inte läsas in: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Standardens benämningar skiljer sig.
-  Gammal benämning: %1
-  Ny benämning: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Vill du verkligen fortsätta?</translation>
         <translation>Källprojektets tabell kunde inte öppnas.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Målprojektets tabell kunde inte läsas.
-  Projekt: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>Tabellen för minst ett källprojekt kunde inte öppnas.</translation>
     </message>
@@ -240,42 +158,12 @@ Vill du verkligen fortsätta?</translation>
   Gammalt tabelldatum: %2, nytt tabelldatum: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>Variabeln %1 finns inte i måltabellen</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>Variabeln %1 är okänd</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Variabelmappningen för projektet %1 ändrades.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>Variabeln %1 har olika värden.
-  Gammalt värde: %2
-  Nytt värde: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>Raden %1 ändrades.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>De flesta rader har andra värden i målprojektet.
-  Målprojekt: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Den tilldelade raden finns inte i måltabellen.
-  Projekt: %1
-  Rad: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Vill du verkligen fortsätta?</translation>
         <translation>Begär ERP-nummer</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Ett villkor för målprojektet är inte uppfyllt.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Ett villkor måste vara en jämförelse</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>En formel måste tilldela en variabel ett värde</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Förväntade %1, hittade %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>En tilldelning till variabeln %1 förväntas</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Det finns en värdeområdestilldelning för den här raden.
@@ -362,14 +228,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>En mappning för projektet %1 lades till.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>Fel antal argument för funktionen %1</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Det finns en konflikt för den här raden. Tilldelningen måste bekräftas eller rättas</translation>
     </message>
@@ -382,18 +240,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Välj grupp</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Här förväntas en jämförelse, inte ett värde</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Här förväntas ett värde, inte en jämförelse</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Sök i tabellen</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
     </message>
@@ -404,10 +250,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Konflikte</source>
         <translation>Konflikter</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Kopiera</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Infoga en ny post (tar över värdena från den markerade posten)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Hittades inte</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Rader som inte hittades</translation>
     </message>
@@ -466,10 +304,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Visa bara rader i originaltabellen som är tilldelade den här raden</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Nästa träff (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Sökväg:</translation>
     </message>
@@ -484,50 +318,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Projektpfad:</source>
         <translation>Projektets sökväg:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Källa och mål har ingen gemensam variabel med ett värde.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Ta bort sortering</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Sortera kolumnen fallande</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Sortera kolumnen stigande</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Anpassa kolumnbredder</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Kolumnfilter</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Kolumnfilter %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Stäng sökningen (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Sök...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tabell %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Din planerade ändring:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Föregående träff (Skift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Slå på och av prioriterade serier</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Prioriterade serier på/av</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Fler rader i källtabellen har dessa värden.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Fler rader i måltabellen har dessa värden.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Värdeområde (%1 värden): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Redigera tilldelningar av värdeområden</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>Avbryts...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET för det markerade dokumentet:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Tecken %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Visa bara rader utan tilldelning (målprojekt)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Visar rader vars värde innehåller texten. Med =, &lt;, &lt;=, &gt; eller &gt;= framför jämförs det.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Målvariabel</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>För få av radens värden har en motsvarighet i måltabellen.
-  Utan motsvarighet: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Tilldelningar att kontrollera</translation>
     </message>
@@ -700,36 +456,8 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Häv tilldelningen till det här projektet och bekräfta (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>slutet</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>en operator eller slutet</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>ett variabelnamn</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>ett värde</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>en avslutande parentes</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>innehåller fel!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>inget värde</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>%1 kvar</translation>
     </message>
     <message>
         <source>Übersicht</source>

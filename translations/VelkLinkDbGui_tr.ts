@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  Satır %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;(bulunamadı)&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;Yeni atama: &lt;br /&gt;%3, proje %4 &lt;br /&gt;.</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>İptal</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Seçili satırı ata</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>Şu anda atanmış satır</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>Tüm sütun süzgeçlerini kaldır</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Tüm atamaları onayla</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>Tablonun başından devam edildi</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>Tablonun sonundan devam edildi</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Başka bir hedef projede de bu değerlere sahip bir satır var.
-  Proje: %1
-  Satır: %2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>Onaylanan atamalar</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>Lütfen bekleyin</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>İşi iptal eder</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>Değer aralıklarının çözülmesi, seçilen değişkenlere ve tablonun boyutuna göre çok uzun sürebilir.
@@ -152,14 +112,6 @@ Gerçekten devam edilsin mi?</translation>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>%1 hedef projesi artık yok</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>Hedef projenin adı kaynak projeninkinden farklı ve oraya yapılan hiçbir atama onaylanmamış.
-  Kaynak proje: %1
-  Hedef proje: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Gerçekten devam edilsin mi?</translation>
         <translation>Bağlantı veritabanına kayıt ekle</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>Metnin kapanış kesme işareti eksik</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>İfade çok derin iç içe geçmiş</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>Metin boş</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>%1 projesinin koşulları değiştirildi.</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>%1 işlevi bilinmiyor</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>%1 formu yüklenemiyor: %2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>Standart adları farklı.
-  Eski ad: %1
-  Yeni ad: %2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Gerçekten devam edilsin mi?</translation>
         <translation>Kaynak projenin tablosu açılamadı.</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>Hedef projenin tablosu okunamadı.
-  Proje: %1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>En az bir kaynak projenin tablosu açılamadı.</translation>
     </message>
@@ -240,42 +158,12 @@ Gerçekten devam edilsin mi?</translation>
   Eski tablo tarihi: %2, yeni tablo tarihi: %3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>%1 değişkeni hedef tabloda yok</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>%1 değişkeni bilinmiyor</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>%1 projesinin değişken eşlemesi değiştirildi.</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>%1 değişkeninin değerleri farklı.
-  Eski değer: %2
-  Yeni değer: %3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>%1 satırı değiştirildi.</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>Çoğu satırın hedef projede başka değerleri var.
-  Hedef proje: %1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>Atanan satır hedef tabloda yok.
-  Proje: %1
-  Satır: %2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Gerçekten devam edilsin mi?</translation>
         <translation>ERP numarası iste</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>Hedef projenin bir koşulu sağlanmıyor.
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>Koşul bir karşılaştırma olmalıdır</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>Formül bir değişkene değer atamalıdır</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>Beklenen: %1, bulunan: %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>%1 değişkenine atama bekleniyor</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Bu satır için bir değer aralığı ataması var.
@@ -362,14 +228,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>%1 projesinin bir eşlemesi eklendi.</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>%1 işlevi için bağımsız değişken sayısı yanlış</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Süzgeç</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Bu satırda çakışma var. Atama onaylanmalı veya düzeltilmeli</translation>
     </message>
@@ -382,18 +240,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Grup seç</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>Burada değer değil, karşılaştırma bekleniyor</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>Burada karşılaştırma değil, değer bekleniyor</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>Tabloda ara</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
     </message>
@@ -404,10 +250,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Konflikte</source>
         <translation>Çakışmalar</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>Kopyala</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Yeni kayıt ekle (seçili kaydın değerlerini alır)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Bulunamadı</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>Bulunamayan satırlar</translation>
     </message>
@@ -466,10 +304,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Yalnızca özgün tablonun bu satıra atanmış satırlarını göster</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>Sonraki eşleşme (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>Yol:</translation>
     </message>
@@ -484,50 +318,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Projektpfad:</source>
         <translation>Proje yolu:</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>Kaynak ve hedefin değeri olan ortak bir değişkeni yok.</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>Sıralamayı kaldır</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>Sütunu azalan sırala</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>Sütunu artan sırala</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>Sütun genişliklerini uydur</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>Sütun süzgeci</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>Sütun süzgeci %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Durum</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>Aramayı kapat (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>Ara...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>Tablo %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Sizin planladığınız değişiklik:</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>Önceki eşleşme (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>Tercihli serileri aç ve kapat</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Tercihli seriler açık/kapalı</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Kaynak tablonun başka satırları da bu değerlere sahip.</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Hedef tablonun başka satırları da bu değerlere sahip.</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Değer aralığı (%1 değer): %2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Değer aralığı atamalarını düzenle</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>İptal ediliyor...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>Seçili belgenin XVARSET değeri:</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>Karakter %1: %2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>Yalnızca atanmamış satırları göster (hedef proje)</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Değeri metni içeren satırları gösterir. Başında =, &lt;, &lt;=, &gt; veya &gt;= varsa karşılaştırılır.</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Hedef değişken</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>Satırın çok az değerinin hedef tabloda karşılığı var.
-  Karşılığı olmayan: %1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>Denetlenecek atamalar</translation>
     </message>
@@ -700,36 +456,8 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Bu projeye atamayı kaldır ve onayla (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>son</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>bir işleç veya son</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>bir değişken adı</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>bir değer</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>kapanış parantezi</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>hata içeriyor!</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>değer yok</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>%1 kaldı</translation>
     </message>
     <message>
         <source>Übersicht</source>

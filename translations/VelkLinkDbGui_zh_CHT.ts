@@ -4,16 +4,8 @@
 <context>
     <name>VelkLinkDbGui</name>
     <message>
-        <source>  Zeile %1</source>
-        <translation>  列 %1</translation>
-    </message>
-    <message>
         <source>%1 &lt;b&gt;(Konnte nicht gefunden werden)&lt;/b&gt;</source>
         <translation>%1 &lt;b&gt;（找不到）&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>&lt;br /&gt;&lt;br /&gt;Von einem anderen Nutzer durchgeführte Änderung:</source>
@@ -40,10 +32,6 @@
         <translation>&lt;br /&gt;新指派：&lt;br /&gt;專案 %4 的 %3 &lt;br /&gt;。</translation>
     </message>
     <message>
-        <source>Abbrechen</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>指派所選列</translation>
     </message>
@@ -52,28 +40,8 @@
         <translation>目前指派的列</translation>
     </message>
     <message>
-        <source>Alle Spaltenfilter aufheben</source>
-        <translation>清除所有欄篩選</translation>
-    </message>
-    <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>確認所有指派</translation>
-    </message>
-    <message>
-        <source>Am Anfang der Tabelle fortgesetzt</source>
-        <translation>已從表格開頭繼續</translation>
-    </message>
-    <message>
-        <source>Am Ende der Tabelle fortgesetzt</source>
-        <translation>已從表格結尾繼續</translation>
-    </message>
-    <message>
-        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>另一個目標專案也有具有這些值的列。
-  專案：%1
-  列：%2</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -132,14 +100,6 @@
         <translation>已確認的指派</translation>
     </message>
     <message>
-        <source>Bitte warten</source>
-        <translation>請稍候</translation>
-    </message>
-    <message>
-        <source>Bricht die Arbeit ab</source>
-        <translation>取消工作</translation>
-    </message>
-    <message>
         <source>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</source>
         <translation>展開值範圍可能需要很長時間，取決於所選變數和表格的大小。
@@ -152,14 +112,6 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>目標專案 %1 已不存在</translation>
-    </message>
-    <message>
-        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
-  Quellprojekt: %1
-  Zielprojekt: %2</source>
-        <translation>目標專案與來源專案名稱不同，且沒有已確認的對它的指派。
-  來源專案：%1
-  目標專案：%2</translation>
     </message>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde entfernt.</source>
@@ -182,36 +134,8 @@ Wirklich fortfahren?</source>
         <translation>將記錄新增至連結資料庫</translation>
     </message>
     <message>
-        <source>Dem Text fehlt das schließende Hochkomma</source>
-        <translation>文字缺少右單引號</translation>
-    </message>
-    <message>
-        <source>Der Ausdruck ist zu tief verschachtelt</source>
-        <translation>運算式巢狀過深</translation>
-    </message>
-    <message>
-        <source>Der Text ist leer</source>
-        <translation>文字是空的</translation>
-    </message>
-    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>專案 %1 的條件已變更。</translation>
-    </message>
-    <message>
-        <source>Die Funktion %1 ist nicht bekannt</source>
-        <translation>函式 %1 未知</translation>
-    </message>
-    <message>
-        <source>Die Maske %1 kann nicht geladen werden: %2</source>
-        <translation>無法載入表單 %1：%2</translation>
-    </message>
-    <message>
-        <source>Die Normbezeichnungen sind verschieden.
-  Alte Normbezeichnung: %1
-  Neue Normbezeichnung: %2</source>
-        <translation>標準名稱不同。
-  舊標準名稱：%1
-  新標準名稱：%2</translation>
     </message>
     <message>
         <source>Die Projektversion des Zielprojektes mit dem Pfad %1 wurde geändert.
@@ -224,12 +148,6 @@ Wirklich fortfahren?</source>
         <translation>無法開啟來源專案的表格。</translation>
     </message>
     <message>
-        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
-  Projekt: %1</source>
-        <translation>無法讀取目標專案的表格。
-  專案：%1</translation>
-    </message>
-    <message>
         <source>Die Tabelle von mindestens einem Quellprojekt konnte nicht geöffnet werden.</source>
         <translation>至少一個來源專案的表格無法開啟。</translation>
     </message>
@@ -240,42 +158,12 @@ Wirklich fortfahren?</source>
   舊表格日期：%2，新表格日期：%3</translation>
     </message>
     <message>
-        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
-        <translation>變數 %1 在目標表格中不存在</translation>
-    </message>
-    <message>
-        <source>Die Variable %1 ist nicht bekannt</source>
-        <translation>變數 %1 未知</translation>
-    </message>
-    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>專案 %1 的變數對應已變更。</translation>
     </message>
     <message>
-        <source>Die Werte der Variable %1 sind verschieden.
-  Alter Wert: %2
-  Neuer Wert: %3</source>
-        <translation>變數 %1 的值不同。
-  舊值：%2
-  新值：%3</translation>
-    </message>
-    <message>
         <source>Die Zeile %1 wurde geändert.</source>
         <translation>列 %1 已變更。</translation>
-    </message>
-    <message>
-        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
-  Zielprojekt: %1</source>
-        <translation>大多數列在目標專案中有其他值。
-  目標專案：%1</translation>
-    </message>
-    <message>
-        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
-  Projekt: %1
-  Zeile: %2</source>
-        <translation>所指派的列在目標表格中不存在。
-  專案：%1
-  列：%2</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -310,28 +198,6 @@ Wirklich fortfahren?</source>
         <translation>申請 ERP 編號</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
-  %1</source>
-        <translation>目標專案的一個條件不成立。
-  %1</translation>
-    </message>
-    <message>
-        <source>Eine Bedingung muss ein Vergleich sein</source>
-        <translation>條件必須是比較</translation>
-    </message>
-    <message>
-        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
-        <translation>公式必須指定值給變數</translation>
-    </message>
-    <message>
-        <source>Erwartet wird %1, gefunden wurde %2</source>
-        <translation>應為 %1，實際為 %2</translation>
-    </message>
-    <message>
-        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
-        <translation>應為對變數 %1 的指定</translation>
-    </message>
-    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>此列有值範圍指派。
@@ -362,14 +228,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>專案 %1 的一個對應已新增。</translation>
     </message>
     <message>
-        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
-        <translation>函式 %1 的引數個數錯誤</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>篩選</translation>
-    </message>
-    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>此列有衝突。必須確認或更正該指派</translation>
     </message>
@@ -382,18 +240,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>選擇群組</translation>
     </message>
     <message>
-        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
-        <translation>此處應為比較，而不是值</translation>
-    </message>
-    <message>
-        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
-        <translation>此處應為值，而不是比較</translation>
-    </message>
-    <message>
-        <source>In der Tabelle suchen</source>
-        <translation>在表格中尋找</translation>
-    </message>
-    <message>
         <source>Katalog</source>
         <translation>目錄</translation>
     </message>
@@ -404,10 +250,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>衝突</translation>
-    </message>
-    <message>
-        <source>Kopieren</source>
-        <translation>複製</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -442,10 +284,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>插入新記錄（沿用所選記錄的值）</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>找不到</translation>
-    </message>
-    <message>
         <source>Nicht gefundene Zeilen</source>
         <translation>找不到的列</translation>
     </message>
@@ -466,10 +304,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>僅顯示原始表格中指派給此列的列</translation>
     </message>
     <message>
-        <source>Nächste Fundstelle (F3)</source>
-        <translation>下一個符合項目 (F3)</translation>
-    </message>
-    <message>
         <source>Pfad:</source>
         <translation>路徑：</translation>
     </message>
@@ -484,50 +318,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>專案路徑：</translation>
-    </message>
-    <message>
-        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
-        <translation>來源和目標沒有帶值的共同變數。</translation>
-    </message>
-    <message>
-        <source>Sortierung aufheben</source>
-        <translation>取消排序</translation>
-    </message>
-    <message>
-        <source>Spalte absteigend sortieren</source>
-        <translation>將欄遞減排序</translation>
-    </message>
-    <message>
-        <source>Spalte aufsteigend sortieren</source>
-        <translation>將欄遞增排序</translation>
-    </message>
-    <message>
-        <source>Spaltenbreiten anpassen</source>
-        <translation>調整欄寬</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter</source>
-        <translation>欄篩選</translation>
-    </message>
-    <message>
-        <source>Spaltenfilter %1</source>
-        <translation>欄篩選 %1</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>狀態</translation>
-    </message>
-    <message>
-        <source>Suche schließen (Esc)</source>
-        <translation>關閉尋找 (Esc)</translation>
-    </message>
-    <message>
-        <source>Suchen ...</source>
-        <translation>尋找...</translation>
-    </message>
-    <message>
-        <source>Tabelle %1</source>
-        <translation>表格 %1</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
@@ -554,28 +344,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>您計劃的變更：</translation>
     </message>
     <message>
-        <source>Vorherige Fundstelle (Umschalt+F3)</source>
-        <translation>上一個符合項目 (Shift+F3)</translation>
-    </message>
-    <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
         <translation>開啟與關閉優先系列</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>優先系列 開/關</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>來源表格的其他列也有這些值。</translation>
-    </message>
-    <message>
-        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>目標表格的其他列也有這些值。</translation>
-    </message>
-    <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>值範圍（%1 個值）：%2</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
@@ -586,16 +360,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>編輯值範圍指派</translation>
     </message>
     <message>
-        <source>Wird abgebrochen...</source>
-        <translation>正在取消...</translation>
-    </message>
-    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>所選文件的 XVARSET：</translation>
-    </message>
-    <message>
-        <source>Zeichen %1: %2</source>
-        <translation>字元 %1：%2</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
@@ -616,10 +382,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
         <translation>僅顯示未指派的列（目標專案）</translation>
-    </message>
-    <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>顯示值包含該文字的列。以 =、&lt;、&lt;=、&gt; 或 &gt;= 開頭則進行比較。</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
@@ -666,12 +428,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>目標變數</translation>
     </message>
     <message>
-        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
-  Ohne Entsprechung: %1</source>
-        <translation>該列在目標表格中有對應值的太少。
-  無對應：%1</translation>
-    </message>
-    <message>
         <source>Zu überprüfende Zuordnungen</source>
         <translation>待檢查的指派</translation>
     </message>
@@ -700,36 +456,8 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>取消對此專案的指派並確認 (CTRL + x)</translation>
     </message>
     <message>
-        <source>das Ende</source>
-        <translation>結尾</translation>
-    </message>
-    <message>
-        <source>ein Operator oder das Ende</source>
-        <translation>運算子或結尾</translation>
-    </message>
-    <message>
-        <source>ein Variablenname</source>
-        <translation>變數名稱</translation>
-    </message>
-    <message>
-        <source>ein Wert</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>eine schließende Klammer</source>
-        <translation>右括號</translation>
-    </message>
-    <message>
         <source>enthält Fehler!</source>
         <translation>包含錯誤！</translation>
-    </message>
-    <message>
-        <source>kein Wert</source>
-        <translation>無值</translation>
-    </message>
-    <message>
-        <source>noch %1</source>
-        <translation>還剩 %1</translation>
     </message>
     <message>
         <source>Übersicht</source>

@@ -1,5 +1,7 @@
 #include <tools/velkmap/Commands.h>
 
+#include <core/plugin/PTranslateManager.h>
+
 #include <QCoreApplication>
 #include <QTextStream>
 
@@ -11,6 +13,9 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     // Numbers are read and written alike on every desk.
     std::setlocale(LC_NUMERIC, "C");
+    // The libraries' source texts are German, this program speaks English.
+    PTranslateManager::registerLibraries();
+    PTranslateManager::instance().setLanguage(QStringLiteral("en"));
     QTextStream out(stdout);
     QTextStream err(stderr);
     return int(velkmap::run(QCoreApplication::arguments().mid(1), out, err));

@@ -33,6 +33,7 @@ void prepareWorkbench(WorkbenchSettings &settings, const SettingsPlace &place,
     QApplication::setWindowIcon(QIcon(":/workbench/velkworkbench_64.png"));
     QtTexts::setLanguage(values.language);
     PTranslateManager::registerModule("velkworkbench");
+    PTranslateManager::registerLibraries();
     PTranslateManager::instance().setLanguage(values.language);
 }
 

@@ -96,6 +96,12 @@ void PTranslateManager::registerModule(const char *module)
     d.loadModule(name);
 }
 
+void PTranslateManager::registerLibraries()
+{
+    for (const char *library : {"VelkGeomCore", "VelkGui", "VelkGeomCoreGui"})
+        registerModule(library);
+}
+
 void PTranslateManager::unregisterModule(const char *module)
 {
     PTranslateManagerPrivate &d = *instance().d;

@@ -21,6 +21,8 @@ public:
     static PTranslateManager &instance();
 
     static void registerModule(const char *module);
+    /// The libraries of this platform; those of them that are not loaded have no catalog.
+    static void registerLibraries();
     /// For a library that goes.
     static void unregisterModule(const char *module);
 

@@ -48,6 +48,7 @@ WindowFixture::WindowFixture()
     if (!QDir::searchPaths("bitmaps").contains(":/hostbitmaps"))
         QDir::addSearchPath("bitmaps", ":/hostbitmaps");
     PTranslateManager::registerModule("velkworkbench");
+    PTranslateManager::registerLibraries();
     PTranslateManager::instance().setLanguage("de");
     if (!plugin->load(QStringLiteral(VELK_BINARY_DIR "/lib/libVelkLinkDbGui.so")))
         qFatal("%s", qUtf8Printable(plugin->error()));

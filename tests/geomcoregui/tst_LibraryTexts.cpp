@@ -1,0 +1,88 @@
+#include <core/message/PScriptedMessageSink.h>
+#include <core/plugin/PTranslateManager.h>
+#include <core/text/PString.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcoregui/table/VkTableView.h>
+
+#include <QFile>
+#include <QTest>
+
+#include <memory>
+
+/// Each library speaks the user's language whether or not the plug-in is there.
+class tst_LibraryTexts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(qEnvironmentVariableIsEmpty("TORMEVA_LANGUAGE"));
+        view = std::make_unique<VkTableView>(); // its library is loaded
+        PTranslateManager::registerLibraries();
+    }
+    void cleanup() { PTranslateManager::instance().setLanguage(QString()); }
+
+    void eachLanguageHasACatalog_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language :
+             {"cs", "da", "de", "en", "es", "fi", "fr", "hu", "id", "it",    "ja",
+              "ko", "nb", "pl", "pt", "ru", "sl", "sv", "tr", "zh", "zh_CHT"})
+            QTest::newRow(language) << language;
+    }
+    void eachLanguageHasACatalog()
+    {
+        QFETCH(QString, language);
+        PTranslateManager::instance().setLanguage(language);
+        QCOMPARE(PTranslateManager::instance().translatedModules(),
+                 (QStringList{"VelkGeomCore", "VelkGeomCoreGui", "VelkGui"}));
+    }
+
+    void textsAreTranslated_data()
+    {
+        QTest::addColumn<QString>("context");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("english");
+        QTest::newRow("progress") << "VelkGui"
+                                  << "Abbrechen"
+                                  << "Cancel";
+        QTest::newRow("table") << "VelkGeomCoreGui"
+                               << "Kopieren"
+                               << "Copy";
+        QTest::newRow("mapper") << "VelkGeomCore"
+                                << "kein Wert"
+                                << "no value";
+    }
+    void textsAreTranslated()
+    {
+        QFETCH(QString, context);
+        QFETCH(QString, text);
+        PTranslateManager::instance().setLanguage("en");
+        QTEST(QString(PString::translate(text.toUtf8(), context.toUtf8())), "english");
+        PTranslateManager::instance().setLanguage({});
+        QCOMPARE(QString(PString::translate(text.toUtf8(), context.toUtf8())), text);
+    }
+
+    void faultsOfFormulas()
+    {
+        const auto sink = std::make_shared<PScriptedMessageSink>();
+        const PMessageSinkScope scope(sink);
+        const auto told = [&](const QString &language) {
+            PTranslateManager::instance().setLanguage(language);
+            sink->clear();
+            const std::unique_ptr<VarsetConditionC> condition(VarsetConditionC::fromText("A .EQ."));
+            return condition->usedVariables().isEmpty() ? sink->logged().value(0) : QString();
+        };
+        QCOMPARE(told("en"),
+                 QString("A .EQ. contains errors! Character 7: Expected a value, found the end"));
+        QCOMPARE(told("de"), QString("A .EQ. enthält Fehler! Zeichen 7: Erwartet wird ein Wert, "
+                                     "gefunden wurde das Ende"));
+    }
+
+private:
+    std::unique_ptr<VkTableView> view;
+};
+
+QTEST_MAIN(tst_LibraryTexts)
+#include "tst_LibraryTexts.moc"

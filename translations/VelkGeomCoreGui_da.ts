@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="da" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>Ophæv alle kolonnefiltre</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>Fortsat fra tabellens begyndelse</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>Fortsat fra tabellens slutning</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Søg i tabellen</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopiér</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Ikke fundet</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>Næste forekomst (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>Ophæv sortering</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>Sortér kolonnen faldende</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>Sortér kolonnen stigende</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>Tilpas kolonnebredder</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Kolonnefilter</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>Kolonnefilter %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Luk søgning (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>Søg...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>Tabel %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>Forrige forekomst (Skift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>Værdiområde (%1 værdier): %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>Viser linjer, hvis værdi indeholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes der.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>Clear all column filters</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>Continued at the beginning of the table</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>Continued at the end of the table</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Find in table</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>Next match (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>Remove sorting</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>Sort column in descending order</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>Sort column in ascending order</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>Fit column widths</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Column filter</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>Column filter %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Close search (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>Find ...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>Table %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>Previous match (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>Value range (%1 values): %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>Shows lines whose value contains the text. With =, &lt;, &lt;=, &gt; or &gt;= in front it is compared.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="hu" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>Minden oszlopszűrő megszüntetése</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>Folytatás a táblázat elejétől</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>Folytatás a táblázat végétől</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Szűrő</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Keresés a táblázatban</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Másolás</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Nem található</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>Következő találat (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>Rendezés megszüntetése</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>Oszlop rendezése csökkenő sorrendben</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>Oszlop rendezése növekvő sorrendben</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>Oszlopszélességek igazítása</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Oszlopszűrő</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>Oszlopszűrő: %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Állapot</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Keresés bezárása (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>Keresés...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>Táblázat: %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>Előző találat (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>Értéktartomány (%1 érték): %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>Azokat a sorokat mutatja, amelyek értéke tartalmazza a szöveget. Elöl =, &lt;, &lt;=, &gt; vagy &gt;= esetén összehasonlít.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="id" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>Hapus semua saringan kolom</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>Dilanjutkan dari awal tabel</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>Dilanjutkan dari akhir tabel</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Saringan</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Cari di tabel</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Salin</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Tidak ditemukan</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>Temuan berikutnya (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>Batalkan pengurutan</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>Urutkan kolom menurun</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>Urutkan kolom menaik</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>Sesuaikan lebar kolom</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Saringan kolom</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>Saringan kolom %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Tutup pencarian (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>Cari...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>Tabel %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>Temuan sebelumnya (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>Rentang nilai (%1 nilai): %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>Menampilkan baris yang nilainya memuat teks. Dengan =, &lt;, &lt;=, &gt; atau &gt;= di depan, nilai dibandingkan.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>すべての列フィルターを解除</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>テーブルの先頭から続行しました</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>テーブルの末尾から続行しました</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>フィルター</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>テーブル内を検索</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>次の一致 (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>並べ替えを解除</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>列を降順に並べ替え</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>列を昇順に並べ替え</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>列幅を調整</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>列フィルター</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>列フィルター %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>検索を閉じる (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>検索...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>テーブル %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>前の一致 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>値範囲（%1個の値）: %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>値にテキストを含む行を表示します。先頭に =、&lt;、&lt;=、&gt;、&gt;= を付けると比較します。</translation>
+    </message>
+</context>
+</TS>

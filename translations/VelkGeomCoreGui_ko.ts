@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>모든 열 필터 해제</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>테이블의 처음부터 계속했습니다</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>테이블의 끝에서 계속했습니다</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>필터</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>테이블에서 찾기</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>찾을 수 없음</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>다음 찾기 (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>정렬 해제</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>열을 내림차순으로 정렬</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>열을 오름차순으로 정렬</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>열 너비 맞춤</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>열 필터</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>열 필터 %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>찾기 닫기 (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>찾기...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>테이블 %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>이전 찾기 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>값 범위(값 %1개): %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>값에 텍스트가 들어 있는 행을 표시합니다. 앞에 =, &lt;, &lt;=, &gt; 또는 &gt;=를 쓰면 비교합니다.</translation>
+    </message>
+</context>
+</TS>

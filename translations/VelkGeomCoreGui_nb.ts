@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nb" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>Opphev alle kolonnefiltre</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>Fortsatt fra begynnelsen av tabellen</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>Fortsatt fra slutten av tabellen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Søk i tabellen</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopier</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Ikke funnet</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>Neste treff (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>Opphev sortering</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>Sorter kolonnen synkende</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>Sorter kolonnen stigende</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>Tilpass kolonnebredder</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Kolonnefilter</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>Kolonnefilter %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Lukk søket (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>Søk...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>Tabell %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>Forrige treff (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>Verdiområde (%1 verdier): %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>Viser linjer der verdien inneholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes det.</translation>
+    </message>
+</context>
+</TS>

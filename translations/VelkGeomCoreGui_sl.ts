@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sl" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>Odstrani vse filtre stolpcev</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>Nadaljevano na začetku tabele</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>Nadaljevano na koncu tabele</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Išči v tabeli</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopiraj</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Ni najdeno</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>Naslednji zadetek (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>Odstrani razvrščanje</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>Razvrsti stolpec padajoče</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>Razvrsti stolpec naraščajoče</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>Prilagodi širine stolpcev</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Filter stolpca</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>Filter stolpca %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stanje</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Zapri iskanje (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>Išči...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>Tabela %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>Prejšnji zadetek (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>Območje vrednosti (vrednosti: %1): %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>Prikaže vrstice, katerih vrednost vsebuje besedilo. Z =, &lt;, &lt;=, &gt; ali &gt;= na začetku se primerja.</translation>
+    </message>
+</context>
+</TS>

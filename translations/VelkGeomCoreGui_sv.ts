@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>Ta bort alla kolumnfilter</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>Fortsatte från tabellens början</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>Fortsatte från tabellens slut</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Sök i tabellen</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopiera</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Hittades inte</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>Nästa träff (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>Ta bort sortering</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>Sortera kolumnen fallande</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>Sortera kolumnen stigande</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>Anpassa kolumnbredder</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Kolumnfilter</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>Kolumnfilter %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>Stäng sökningen (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>Sök...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>Tabell %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>Föregående träff (Skift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>Värdeområde (%1 värden): %2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>Visar rader vars värde innehåller texten. Med =, &lt;, &lt;=, &gt; eller &gt;= framför jämförs det.</translation>
+    </message>
+</context>
+</TS>

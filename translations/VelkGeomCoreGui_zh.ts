@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>清除所有列筛选</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>已从表头继续</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>已从表尾继续</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>在表中查找</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>下一个匹配 (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>取消排序</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>按列降序排序</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>按列升序排序</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>调整列宽</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>列筛选</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>列筛选 %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>关闭查找 (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>查找...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>表 %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>上一个匹配 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>值范围（%1 个值）：%2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>显示值包含该文本的行。以 =、&lt;、&lt;=、&gt; 或 &gt;= 开头则进行比较。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,91 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="de">
+<context>
+    <name>VelkGeomCoreGui</name>
+    <message>
+        <source>Alle Spaltenfilter aufheben</source>
+        <translation>清除所有欄篩選</translation>
+    </message>
+    <message>
+        <source>Am Anfang der Tabelle fortgesetzt</source>
+        <translation>已從表格開頭繼續</translation>
+    </message>
+    <message>
+        <source>Am Ende der Tabelle fortgesetzt</source>
+        <translation>已從表格結尾繼續</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>篩選</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>在表格中尋找</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>找不到</translation>
+    </message>
+    <message>
+        <source>Nächste Fundstelle (F3)</source>
+        <translation>下一個符合項目 (F3)</translation>
+    </message>
+    <message>
+        <source>Sortierung aufheben</source>
+        <translation>取消排序</translation>
+    </message>
+    <message>
+        <source>Spalte absteigend sortieren</source>
+        <translation>將欄遞減排序</translation>
+    </message>
+    <message>
+        <source>Spalte aufsteigend sortieren</source>
+        <translation>將欄遞增排序</translation>
+    </message>
+    <message>
+        <source>Spaltenbreiten anpassen</source>
+        <translation>調整欄寬</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>欄篩選</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter %1</source>
+        <translation>欄篩選 %1</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>Suche schließen (Esc)</source>
+        <translation>關閉尋找 (Esc)</translation>
+    </message>
+    <message>
+        <source>Suchen ...</source>
+        <translation>尋找...</translation>
+    </message>
+    <message>
+        <source>Tabelle %1</source>
+        <translation>表格 %1</translation>
+    </message>
+    <message>
+        <source>Vorherige Fundstelle (Umschalt+F3)</source>
+        <translation>上一個符合項目 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Wertebereich (%1 Werte): %2</source>
+        <translation>值範圍（%1 個值）：%2</translation>
+    </message>
+    <message>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
+        <translation>顯示值包含該文字的列。以 =、&lt;、&lt;=、&gt; 或 &gt;= 開頭則進行比較。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,175 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv" sourcelanguage="de">
+<context>
+    <name>VelkGeomCore</name>
+    <message>
+        <source>  Zeile %1</source>
+        <translation>  Rad %1</translation>
+    </message>
+    <message>
+        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
+  Projekt: %1
+  Zeile: %2</source>
+        <translation>Även ett annat målprojekt har en rad med dessa värden.
+  Projekt: %1
+  Rad: %2</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
+  Quellprojekt: %1
+  Zielprojekt: %2</source>
+        <translation>Målprojektet heter något annat än källprojektet och ingen tilldelning dit är bekräftad.
+  Källprojekt: %1
+  Målprojekt: %2</translation>
+    </message>
+    <message>
+        <source>Dem Text fehlt das schließende Hochkomma</source>
+        <translation>Texten saknar den avslutande apostrofen</translation>
+    </message>
+    <message>
+        <source>Der Ausdruck ist zu tief verschachtelt</source>
+        <translation>Uttrycket är för djupt nästlat</translation>
+    </message>
+    <message>
+        <source>Der Text ist leer</source>
+        <translation>Texten är tom</translation>
+    </message>
+    <message>
+        <source>Die Funktion %1 ist nicht bekannt</source>
+        <translation>Funktionen %1 är okänd</translation>
+    </message>
+    <message>
+        <source>Die Normbezeichnungen sind verschieden.
+  Alte Normbezeichnung: %1
+  Neue Normbezeichnung: %2</source>
+        <translation>Standardens benämningar skiljer sig.
+  Gammal benämning: %1
+  Ny benämning: %2</translation>
+    </message>
+    <message>
+        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
+  Projekt: %1</source>
+        <translation>Målprojektets tabell kunde inte läsas.
+  Projekt: %1</translation>
+    </message>
+    <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Variabeln %1 finns inte i måltabellen</translation>
+    </message>
+    <message>
+        <source>Die Variable %1 ist nicht bekannt</source>
+        <translation>Variabeln %1 är okänd</translation>
+    </message>
+    <message>
+        <source>Die Werte der Variable %1 sind verschieden.
+  Alter Wert: %2
+  Neuer Wert: %3</source>
+        <translation>Variabeln %1 har olika värden.
+  Gammalt värde: %2
+  Nytt värde: %3</translation>
+    </message>
+    <message>
+        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
+  Zielprojekt: %1</source>
+        <translation>De flesta rader har andra värden i målprojektet.
+  Målprojekt: %1</translation>
+    </message>
+    <message>
+        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
+  Projekt: %1
+  Zeile: %2</source>
+        <translation>Den tilldelade raden finns inte i måltabellen.
+  Projekt: %1
+  Rad: %2</translation>
+    </message>
+    <message>
+        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
+        <translation>En text i formeln för %1 blir längre än %2 tecken och får inget värde</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
+  %1</source>
+        <translation>Ett villkor för målprojektet är inte uppfyllt.
+  %1</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung muss ein Vergleich sein</source>
+        <translation>Ett villkor måste vara en jämförelse</translation>
+    </message>
+    <message>
+        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
+        <translation>En formel måste tilldela en variabel ett värde</translation>
+    </message>
+    <message>
+        <source>Erwartet wird %1, gefunden wurde %2</source>
+        <translation>Förväntade %1, hittade %2</translation>
+    </message>
+    <message>
+        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
+        <translation>En tilldelning till variabeln %1 förväntas</translation>
+    </message>
+    <message>
+        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
+        <translation>Fel antal argument för funktionen %1</translation>
+    </message>
+    <message>
+        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
+        <translation>Här förväntas en jämförelse, inte ett värde</translation>
+    </message>
+    <message>
+        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
+        <translation>Här förväntas ett värde, inte en jämförelse</translation>
+    </message>
+    <message>
+        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
+        <translation>Källa och mål har ingen gemensam variabel med ett värde.</translation>
+    </message>
+    <message>
+        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
+        <translation>Fler rader i källtabellen har dessa värden.</translation>
+    </message>
+    <message>
+        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
+        <translation>Fler rader i måltabellen har dessa värden.</translation>
+    </message>
+    <message>
+        <source>Zeichen %1: %2</source>
+        <translation>Tecken %1: %2</translation>
+    </message>
+    <message>
+        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
+  Ohne Entsprechung: %1</source>
+        <translation>För få av radens värden har en motsvarighet i måltabellen.
+  Utan motsvarighet: %1</translation>
+    </message>
+    <message>
+        <source>das Ende</source>
+        <translation>slutet</translation>
+    </message>
+    <message>
+        <source>ein Operator oder das Ende</source>
+        <translation>en operator eller slutet</translation>
+    </message>
+    <message>
+        <source>ein Variablenname</source>
+        <translation>ett variabelnamn</translation>
+    </message>
+    <message>
+        <source>ein Wert</source>
+        <translation>ett värde</translation>
+    </message>
+    <message>
+        <source>eine schließende Klammer</source>
+        <translation>en avslutande parentes</translation>
+    </message>
+    <message>
+        <source>enthält Fehler!</source>
+        <translation>innehåller fel!</translation>
+    </message>
+    <message>
+        <source>kein Wert</source>
+        <translation>inget värde</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,175 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="de">
+<context>
+    <name>VelkGeomCore</name>
+    <message>
+        <source>  Zeile %1</source>
+        <translation>  行 %1</translation>
+    </message>
+    <message>
+        <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
+  Projekt: %1
+  Zeile: %2</source>
+        <translation>另一个目标项目也有具有这些值的行。
+  项目：%1
+  行：%2</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
+  Quellprojekt: %1
+  Zielprojekt: %2</source>
+        <translation>目标项目与源项目名称不同，且没有已确认的对它的分配。
+  源项目：%1
+  目标项目：%2</translation>
+    </message>
+    <message>
+        <source>Dem Text fehlt das schließende Hochkomma</source>
+        <translation>文本缺少右单引号</translation>
+    </message>
+    <message>
+        <source>Der Ausdruck ist zu tief verschachtelt</source>
+        <translation>表达式嵌套过深</translation>
+    </message>
+    <message>
+        <source>Der Text ist leer</source>
+        <translation>文本为空</translation>
+    </message>
+    <message>
+        <source>Die Funktion %1 ist nicht bekannt</source>
+        <translation>函数 %1 未知</translation>
+    </message>
+    <message>
+        <source>Die Normbezeichnungen sind verschieden.
+  Alte Normbezeichnung: %1
+  Neue Normbezeichnung: %2</source>
+        <translation>标准名称不同。
+  旧标准名称：%1
+  新标准名称：%2</translation>
+    </message>
+    <message>
+        <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
+  Projekt: %1</source>
+        <translation>无法读取目标项目的表。
+  项目：%1</translation>
+    </message>
+    <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>变量 %1 在目标表中不存在</translation>
+    </message>
+    <message>
+        <source>Die Variable %1 ist nicht bekannt</source>
+        <translation>变量 %1 未知</translation>
+    </message>
+    <message>
+        <source>Die Werte der Variable %1 sind verschieden.
+  Alter Wert: %2
+  Neuer Wert: %3</source>
+        <translation>变量 %1 的值不同。
+  旧值：%2
+  新值：%3</translation>
+    </message>
+    <message>
+        <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
+  Zielprojekt: %1</source>
+        <translation>大多数行在目标项目中有其他值。
+  目标项目：%1</translation>
+    </message>
+    <message>
+        <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
+  Projekt: %1
+  Zeile: %2</source>
+        <translation>所分配的行在目标表中不存在。
+  项目：%1
+  行：%2</translation>
+    </message>
+    <message>
+        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
+        <translation>%1 的公式中有文本超过 %2 个字符，因此没有值</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
+  %1</source>
+        <translation>目标项目的一个条件不满足。
+  %1</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung muss ein Vergleich sein</source>
+        <translation>条件必须是比较</translation>
+    </message>
+    <message>
+        <source>Eine Formel muss einer Variablen einen Wert zuweisen</source>
+        <translation>公式必须给变量赋值</translation>
+    </message>
+    <message>
+        <source>Erwartet wird %1, gefunden wurde %2</source>
+        <translation>应为 %1，实际为 %2</translation>
+    </message>
+    <message>
+        <source>Erwartet wird eine Zuweisung an die Variable %1</source>
+        <translation>应为对变量 %1 的赋值</translation>
+    </message>
+    <message>
+        <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
+        <translation>函数 %1 的参数个数错误</translation>
+    </message>
+    <message>
+        <source>Hier wird ein Vergleich erwartet, kein Wert</source>
+        <translation>此处应为比较，而不是值</translation>
+    </message>
+    <message>
+        <source>Hier wird ein Wert erwartet, kein Vergleich</source>
+        <translation>此处应为值，而不是比较</translation>
+    </message>
+    <message>
+        <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
+        <translation>源和目标没有带值的共同变量。</translation>
+    </message>
+    <message>
+        <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
+        <translation>源表的其他行也有这些值。</translation>
+    </message>
+    <message>
+        <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
+        <translation>目标表的其他行也有这些值。</translation>
+    </message>
+    <message>
+        <source>Zeichen %1: %2</source>
+        <translation>字符 %1：%2</translation>
+    </message>
+    <message>
+        <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
+  Ohne Entsprechung: %1</source>
+        <translation>该行在目标表中有对应值的太少。
+  无对应：%1</translation>
+    </message>
+    <message>
+        <source>das Ende</source>
+        <translation>结尾</translation>
+    </message>
+    <message>
+        <source>ein Operator oder das Ende</source>
+        <translation>运算符或结尾</translation>
+    </message>
+    <message>
+        <source>ein Variablenname</source>
+        <translation>变量名</translation>
+    </message>
+    <message>
+        <source>ein Wert</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>eine schließende Klammer</source>
+        <translation>右括号</translation>
+    </message>
+    <message>
+        <source>enthält Fehler!</source>
+        <translation>包含错误！</translation>
+    </message>
+    <message>
+        <source>kein Wert</source>
+        <translation>无值</translation>
+    </message>
+</context>
+</TS>

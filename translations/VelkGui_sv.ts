@@ -1,0 +1,35 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv" sourcelanguage="de">
+<context>
+    <name>VelkGui</name>
+    <message>
+        <source>%1 von %2</source>
+        <translation>%1 av %2</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>Bitte warten</source>
+        <translation>Vänta</translation>
+    </message>
+    <message>
+        <source>Bricht die Arbeit ab</source>
+        <translation>Avbryter arbetet</translation>
+    </message>
+    <message>
+        <source>Die Maske %1 kann nicht geladen werden: %2</source>
+        <translation>Formuläret %1 kan inte läsas in: %2</translation>
+    </message>
+    <message>
+        <source>Wird abgebrochen...</source>
+        <translation>Avbryts...</translation>
+    </message>
+    <message>
+        <source>noch %1</source>
+        <translation>%1 kvar</translation>
+    </message>
+</context>
+</TS>
