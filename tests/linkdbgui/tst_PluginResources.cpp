@@ -222,7 +222,9 @@ void tst_PluginResources::catalogs()
     for (const QString &language : languages)
         expected << QStringLiteral("VelkLinkDbGui_%1.qm").arg(language);
     expected.sort();
-    QCOMPARE(filesBelow(QStringLiteral(":/translations")), expected);
+    QStringList files = filesBelow(QStringLiteral(":/translations"));
+    files.removeIf([](const QString &file) { return !file.startsWith(u"VelkLinkDbGui_"); });
+    QCOMPARE(files, expected); // the libraries have their own ones beside
 }
 
 /// They are no part of the plug-in's tree, and the host has what the plug-in uses.
