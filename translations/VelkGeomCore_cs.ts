@@ -8,6 +8,10 @@
         <translation>  Řádek %1</translation>
     </message>
     <message>
+        <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
+        <translation>Jiné hodnoty rozsahů patří k jinému cíli.</translation>
+    </message>
+    <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
@@ -70,6 +74,10 @@
   Nová hodnota: %3</translation>
     </message>
     <message>
+        <source>Die Zielzeile ist schon für eine andere Zeile bestätigt.</source>
+        <translation>Cílový řádek je již potvrzen pro jiný řádek.</translation>
+    </message>
+    <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
         <translation>Většina řádků má v cílovém projektu jiné hodnoty.
@@ -91,6 +99,12 @@
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
         <translation>Podmínka cílového projektu není splněna.
+  %1</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung eines Zielprojekts ist fehlerhaft.
+  %1</source>
+        <translation>Podmínka cílového projektu je chybná.
   %1</translation>
     </message>
     <message>
@@ -136,6 +150,10 @@
     <message>
         <source>Zeichen %1: %2</source>
         <translation>Znak %1: %2</translation>
+    </message>
+    <message>
+        <source>Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle zu vergleichen.</source>
+        <translation>Příliš mnoho rozsahů hodnot cílové tabulky se překrývá, než aby bylo možné porovnat všechny.</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.

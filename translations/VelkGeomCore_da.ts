@@ -8,6 +8,10 @@
         <translation>  Linje %1</translation>
     </message>
     <message>
+        <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
+        <translation>Andre værdier i værdiområderne hører til et andet mål.</translation>
+    </message>
+    <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
@@ -70,6 +74,10 @@
   Ny værdi: %3</translation>
     </message>
     <message>
+        <source>Die Zielzeile ist schon für eine andere Zeile bestätigt.</source>
+        <translation>Mållinjen er allerede bekræftet for en anden linje.</translation>
+    </message>
+    <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
         <translation>De fleste linjer har andre værdier i målprojektet.
@@ -91,6 +99,12 @@
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
         <translation>En betingelse for målprojektet er ikke opfyldt.
+  %1</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung eines Zielprojekts ist fehlerhaft.
+  %1</source>
+        <translation>En betingelse i et målprojekt er fejlbehæftet.
   %1</translation>
     </message>
     <message>
@@ -136,6 +150,10 @@
     <message>
         <source>Zeichen %1: %2</source>
         <translation>Tegn %1: %2</translation>
+    </message>
+    <message>
+        <source>Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle zu vergleichen.</source>
+        <translation>For mange værdiområder i måltabellen overlapper hinanden til at sammenligne alle.</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.

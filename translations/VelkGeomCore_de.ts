@@ -8,6 +8,10 @@
         <translation>  Zeile %1</translation>
     </message>
     <message>
+        <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
+        <translation>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</translation>
+    </message>
+    <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
@@ -70,6 +74,10 @@
   Neuer Wert: %3</translation>
     </message>
     <message>
+        <source>Die Zielzeile ist schon für eine andere Zeile bestätigt.</source>
+        <translation>Die Zielzeile ist schon für eine andere Zeile bestätigt.</translation>
+    </message>
+    <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
         <translation>Die meisten Zeilen haben im Zielprojekt andere Werte.
@@ -91,6 +99,12 @@
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
         <translation>Eine Bedingung des Zielprojekts ist nicht erfüllt.
+  %1</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung eines Zielprojekts ist fehlerhaft.
+  %1</source>
+        <translation>Eine Bedingung eines Zielprojekts ist fehlerhaft.
   %1</translation>
     </message>
     <message>
@@ -136,6 +150,10 @@
     <message>
         <source>Zeichen %1: %2</source>
         <translation>Zeichen %1: %2</translation>
+    </message>
+    <message>
+        <source>Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle zu vergleichen.</source>
+        <translation>Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle zu vergleichen.</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.

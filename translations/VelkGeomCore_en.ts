@@ -8,6 +8,10 @@
         <translation>  Line %1</translation>
     </message>
     <message>
+        <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
+        <translation>Other values of the value ranges belong to another target.</translation>
+    </message>
+    <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
@@ -70,6 +74,10 @@
   New value: %3</translation>
     </message>
     <message>
+        <source>Die Zielzeile ist schon für eine andere Zeile bestätigt.</source>
+        <translation>The target line is already confirmed for another line.</translation>
+    </message>
+    <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
         <translation>Most lines have other values in the target project.
@@ -91,6 +99,12 @@
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
         <translation>A condition of the target project does not hold.
+  %1</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung eines Zielprojekts ist fehlerhaft.
+  %1</source>
+        <translation>A condition of a target project is faulty.
   %1</translation>
     </message>
     <message>
@@ -136,6 +150,10 @@
     <message>
         <source>Zeichen %1: %2</source>
         <translation>Character %1: %2</translation>
+    </message>
+    <message>
+        <source>Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle zu vergleichen.</source>
+        <translation>Too many value ranges of the target table overlap to compare all of them.</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.

@@ -8,6 +8,10 @@
         <translation>  Línea %1</translation>
     </message>
     <message>
+        <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
+        <translation>Otros valores de los rangos pertenecen a otro destino.</translation>
+    </message>
+    <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
@@ -70,6 +74,10 @@
   Valor nuevo: %3</translation>
     </message>
     <message>
+        <source>Die Zielzeile ist schon für eine andere Zeile bestätigt.</source>
+        <translation>La línea de destino ya está confirmada para otra línea.</translation>
+    </message>
+    <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
         <translation>La mayoría de las líneas tiene otros valores en el proyecto de destino.
@@ -91,6 +99,12 @@
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
   %1</source>
         <translation>No se cumple una condición del proyecto de destino.
+  %1</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung eines Zielprojekts ist fehlerhaft.
+  %1</source>
+        <translation>Una condición de un proyecto de destino es errónea.
   %1</translation>
     </message>
     <message>
@@ -136,6 +150,10 @@
     <message>
         <source>Zeichen %1: %2</source>
         <translation>Carácter %1: %2</translation>
+    </message>
+    <message>
+        <source>Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle zu vergleichen.</source>
+        <translation>Demasiados rangos de la tabla de destino se solapan para compararlos todos.</translation>
     </message>
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.

@@ -5,7 +5,9 @@
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 
-#include <algorithm>
+#include <QSet>
+
+#include <set>
 
 namespace VKTab {
 
@@ -32,10 +34,18 @@ BoundModifiers::BoundModifiers(const QList<const VarsetModifierI *> &modifiers,
                                const TableData *table)
 {
     const int fields = table ? int(table->descriptor().fields.size()) : 0;
+    QSet<QString> known;
+    known.reserve(fields);
     for (int column = 0; column < fields; ++column) {
         const TableField &field = table->descriptor().fields[column];
-        if (columnOfVariable(table, field.name) == column)
-            m_variables.append({field.name, column});
+        // Of several columns of one name the first is the variable.
+        if (field.name.isEmpty() || known.contains(field.name))
+            continue;
+        known.insert(field.name);
+        if (field.kind > FieldKind::Computed)
+            continue;
+        m_variables.append({field.name, column});
+        m_columns.insert(field.name, column);
     }
     for (const VarsetModifierI *modifier : modifiers)
         modifier->bind(*this);
@@ -118,11 +128,17 @@ void BoundModifiers::bindColumn(const QString &source, const QString &target)
 void BoundModifiers::bindFormula(std::shared_ptr<const Program> formula)
 {
     std::vector<BoundExpression::Slot> slotList;
+    std::set<int> columns;
     for (const Program::Variable &variable : formula->variables()) {
         const Origin from = variable.prefixed ? origin(variable.name) : columnOrigin(variable.name);
         slotList.push_back({from.kind == Origin::Column ? from.index : -1,
                             from.kind == Origin::Formula ? from.index : -1});
+        if (from.kind == Origin::Column)
+            columns.insert(from.index);
+        else if (from.kind == Origin::Formula)
+            columns.insert(formulaColumns(from.index).begin(), formulaColumns(from.index).end());
     }
+    m_formulaColumns.emplace_back(columns.begin(), columns.end());
     const QString target = formula->target();
     m_formulas.emplace_back(std::move(formula), std::move(slotList));
     setOrigin(target, {Origin::Formula, formulaCount() - 1});
@@ -130,9 +146,8 @@ void BoundModifiers::bindFormula(std::shared_ptr<const Program> formula)
 
 BoundModifiers::Origin BoundModifiers::columnOrigin(const QString &name) const
 {
-    const auto variable = std::find_if(m_variables.begin(), m_variables.end(),
-                                       [&](const TableVariable &v) { return v.name == name; });
-    return variable == m_variables.end() ? Origin() : Origin{Origin::Column, variable->column};
+    const auto column = m_columns.constFind(name);
+    return column == m_columns.cend() ? Origin() : Origin{Origin::Column, *column};
 }
 
 void BoundModifiers::setOrigin(const QString &target, const Origin &origin)

@@ -62,6 +62,12 @@ public:
     /// modifiers add.
     [[nodiscard]] QStringList names() const;
     [[nodiscard]] int formulaCount() const { return int(m_formulas.size()); }
+    /// Columns of the source table that a formula reads, itself or through formulas before it;
+    /// ascending. None for a constant.
+    [[nodiscard]] const std::vector<int> &formulaColumns(int formula) const
+    {
+        return m_formulaColumns[size_t(formula)];
+    }
 
     /// Evaluates all formulas on a line of the table. Results keep their room for the next line.
     void evaluate(const LineView &line, Results &results) const;
@@ -94,7 +100,11 @@ private:
     };
     /// In order of columns.
     QList<TableVariable> m_variables;
+    /// Columns of m_variables.
+    QHash<QString, int> m_columns;
     std::vector<BoundExpression> m_formulas;
+    /// For each of them.
+    std::vector<std::vector<int>> m_formulaColumns;
 };
 
 } // namespace VKTab

@@ -12,6 +12,7 @@
 #include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/value/CellKey.h>
 
 #include <algorithm>
 
@@ -33,6 +34,15 @@ bool hasConfirmedLine(const PrjMappingTargetC &target)
             return true;
     }
     return false;
+}
+
+std::optional<QString> faultyConditionOf(const PrjMappingTargetC &target)
+{
+    for (const VarsetConditionI *condition : target.getConditions()) {
+        if (!condition->program())
+            return condition->getCondition();
+    }
+    return std::nullopt;
 }
 
 PrjMappingTargetC withoutLines(PrjMappingTargetC target)
@@ -64,6 +74,7 @@ BoundTarget::BoundTarget(int index, const PrjMappingTargetC &target,
     , m_hasVerified(hasConfirmedLine(target))
     , m_conditions(target.getConditions(), source.data().get())
     , m_modifiers(target.getVarsetModifier(), source.data().get())
+    , m_faultyCondition(faultyConditionOf(target))
 {
     if (m_table && m_source.isValid())
         bindVariables();
@@ -82,20 +93,79 @@ void BoundTarget::bindVariables()
         m_origins.push_back(origin);
     }
     bindUses();
+    bindTexts();
 }
 
 void BoundTarget::bindUses()
 {
     std::vector<int> uses(size_t(m_source.data()->descriptor().fields.size()));
     for (const Origin &origin : m_origins) {
-        if (origin.kind != Origin::Column)
+        if (origin.kind == Origin::Formula)
             return;
-        ++uses[size_t(origin.index)];
+        if (origin.kind == Origin::Column)
+            uses[size_t(origin.index)] = 1;
     }
     m_uses = std::move(uses);
     const std::vector<int> &columns = m_source.columns();
     m_comparesEverything = std::all_of(columns.begin(), columns.end(),
                                        [this](int column) { return m_uses[size_t(column)] > 0; });
+}
+
+void BoundTarget::bindTexts()
+{
+    const int stored = m_source.data()->columnCount();
+    for (size_t i = 0; i < m_variables.size(); ++i) {
+        const TargetVariable &variable = m_table->variables()[size_t(m_variables[i])];
+        const Origin &origin = m_origins[i];
+        if (origin.kind == Origin::NoValue || !isText(m_variables[i]))
+            continue;
+        if (variable.stored && origin.kind == Origin::Column && origin.index < stored)
+            m_textPairs.push_back({origin.index, variable.column});
+        else
+            m_textsAreStored = false;
+    }
+    const VKTab::TableData &target = m_table->data();
+    m_sameColumns = m_source.data()->header() == target.header() &&
+                    std::all_of(m_textPairs.begin(), m_textPairs.end(), [](const TextPair &pair) {
+                        return pair.sourceColumn == pair.targetColumn;
+                    });
+}
+
+bool BoundTarget::isText(int variable) const
+{
+    const TargetVariable &target = m_table->variables()[size_t(variable)];
+    const Origin origin = m_modifiers.origin(target.name);
+    return target.text || (origin.kind == Origin::Column &&
+                           !m_source.data()->descriptor().fields[origin.index].isNumeric());
+}
+
+bool BoundTarget::hasSameTexts(int sourceRow, int row) const
+{
+    if (m_textPairs.empty())
+        return true;
+    const VKTab::TableData &source = *m_source.data();
+    const VKTab::TableData &target = m_table->data();
+    if (m_sameColumns && source.rawRow(sourceRow) == target.rawRow(row))
+        return true;
+    std::string sourceScratch;
+    std::string targetScratch;
+    return std::all_of(m_textPairs.begin(), m_textPairs.end(), [&](const TextPair &pair) {
+        const auto text = source.cell(sourceRow, pair.sourceColumn, sourceScratch);
+        const auto other = target.cell(row, pair.targetColumn, targetScratch);
+        return VKTab::trimmedCell(text) == VKTab::trimmedCell(other) ||
+               (source.isMissing(text) && target.isMissing(other));
+    });
+}
+
+bool BoundTarget::hasSameTexts(const TargetValues &values, int row) const
+{
+    const std::vector<int> &variables = values.search->variables();
+    for (size_t place = 0; place < variables.size(); ++place) {
+        if (isText(variables[place]) &&
+            !values.search->equalsAsText(values.texts.values[place], row, place))
+            return false;
+    }
+    return true;
 }
 
 bool BoundTarget::countCompared(const LineInput &line, int &compared, int &values) const
@@ -106,14 +176,51 @@ bool BoundTarget::countCompared(const LineInput &line, int &compared, int &value
     return true;
 }
 
-QStringList BoundTarget::comparedSourceNames() const
+void BoundTarget::countCompared(const LineInput &line, const TargetValues &taken, int &compared,
+                                int &values) const
 {
+    QSet<QString> reached;
+    const std::vector<int> &variables = taken.search->variables();
+    for (size_t place = 0; place < variables.size(); ++place) {
+        if (taken.texts.values[place].text.empty())
+            continue;
+        for (const QString &name : sourceNames(variables[place]))
+            reached.insert(name);
+    }
+    const Varset own = line.view ? varsetOf(*line.view) : *line.varset;
+    compared = 0;
+    values = 0;
+    for (auto value = own.begin(); value != own.end(); ++value) {
+        if (value->getValue().toString().trimmed().isEmpty())
+            continue;
+        ++values;
+        compared += reached.contains(value.key()) ? 1 : 0;
+    }
+}
+
+QStringList BoundTarget::sourceNames(int variable) const
+{
+    const QString &name = m_table->variables()[size_t(variable)].name;
+    const Origin origin = m_modifiers.origin(name);
+    if (origin.kind == Origin::Absent) // no column, but perhaps one of the values at hand
+        return {name};
+    if (origin.kind == Origin::NoValue)
+        return {};
+    const QList<VKTab::TableField> &fields = m_source.data()->descriptor().fields;
+    if (origin.kind == Origin::Column)
+        return {fields[origin.index].name};
     QStringList names;
-    for (size_t i = 0; i < m_variables.size(); ++i) {
-        if (m_origins[i].kind == Origin::Column)
-            names.append(m_source.data()->descriptor().fields[m_origins[i].index].name);
-        else
-            names.append(m_table->variables()[size_t(m_variables[i])].name);
+    for (int column : m_modifiers.formulaColumns(origin.index))
+        names.append(fields[column].name);
+    return names;
+}
+
+QSet<QString> BoundTarget::comparedSourceNames() const
+{
+    QSet<QString> names;
+    for (int variable : m_variables) {
+        for (const QString &name : sourceNames(variable))
+            names.insert(name);
     }
     return names;
 }

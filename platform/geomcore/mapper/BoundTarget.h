@@ -9,9 +9,11 @@
 #include <geomcore/binding/BoundModifiers.h>
 #include <geomcore/records/PrjMappingTargetC.h>
 
+#include <QSet>
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,6 +57,12 @@ public:
     [[nodiscard]] const std::vector<int> &variables() const { return m_variables; }
 
     [[nodiscard]] bool conditionsHold(const LineInput &line) const;
+    /// Text of a condition that does not parse, so that nobody knows for which lines the target
+    /// is.
+    [[nodiscard]] const std::optional<QString> &faultyCondition() const
+    {
+        return m_faultyCondition;
+    }
     /// Texts of the conditions that do not hold.
     [[nodiscard]] QStringList failingConditions(const LineInput &line) const;
     [[nodiscard]] Varset updateVarset(const LineInput &line) const;
@@ -80,11 +88,23 @@ public:
     /// Every variable of the source table is one of the target's, so all values of a line are
     /// compared.
     [[nodiscard]] bool comparesEverything() const { return m_comparesEverything; }
-    /// Counts the values of a line, and those of them that the target has variables for, without
-    /// taking them. False if the variables come from more than single columns.
+    /// Counts the values of a line, and those of them that reach a variable of the target, however
+    /// many. The first form works without taking them and gives false if it cannot tell.
     [[nodiscard]] bool countCompared(const LineInput &line, int &compared, int &values) const;
+    void countCompared(const LineInput &line, const TargetValues &taken, int &compared,
+                       int &values) const;
     /// Variables of the source table that the target's values are made of.
-    [[nodiscard]] QStringList comparedSourceNames() const;
+    [[nodiscard]] QSet<QString> comparedSourceNames() const;
+
+    /// For a row with equal values: whether values of text columns are equal as texts too, "007"
+    /// being another one than "7".
+    [[nodiscard]] bool hasSameTexts(const TargetValues &values, int row) const;
+    /// The same for a line as stored, without taking its values.
+    [[nodiscard]] bool hasSameTexts(int sourceRow, int row) const;
+    /// The second form knows all texts.
+    [[nodiscard]] bool textsAreStored() const { return m_textsAreStored; }
+    /// Whether values of a variable are texts in either table.
+    [[nodiscard]] bool isText(int variable) const;
 
     /// What PairJoinBuilder needs to join without looking at single lines: the columns of the
     /// source table, one for each variable. Empty if there is more to it.
@@ -99,6 +119,9 @@ public:
 private:
     void bindVariables();
     void bindUses();
+    void bindTexts();
+    /// Names of the source's variables that a variable of the target is made of.
+    [[nodiscard]] QStringList sourceNames(int variable) const;
     void setSearch(const std::vector<int> &variables, TargetValues &values) const;
     [[nodiscard]] std::string signature() const;
 
@@ -115,7 +138,17 @@ private:
     std::vector<int> m_variables;
     std::vector<VKTab::BoundModifiers::Origin> m_origins;
     bool m_comparesEverything = false;
-    std::vector<int> m_uses; ///< By source column: variables that are that column; empty if others.
+    std::vector<int>
+        m_uses; ///< By source column: 1 if it reaches a variable; empty if formulas do.
+    std::optional<QString> m_faultyCondition;
+    struct TextPair
+    {
+        int sourceColumn;
+        int targetColumn;
+    };
+    std::vector<TextPair> m_textPairs; ///< Columns that are to be equal as texts.
+    bool m_textsAreStored = true;      ///< m_textPairs has all of them.
+    bool m_sameColumns = false;        ///< Both files have the same columns in the same order.
     mutable std::shared_ptr<const ExactSearch> m_search;
     mutable std::shared_ptr<const PairJoin> m_join;
     mutable std::unique_ptr<IdentityKey> m_identity;

@@ -101,6 +101,33 @@ QString failedCondition(const QString &condition)
         .arg(condition);
 }
 
+QString faultyCondition(const QString &condition)
+{
+    return PString::translate("Eine Bedingung eines Zielprojekts ist fehlerhaft.\n  %1",
+                              "VelkGeomCore")
+        .arg(condition);
+}
+
+QString dividedLine()
+{
+    return PString::translate("Andere Werte der Wertebereiche gehören zu einem anderen Ziel.",
+                              "VelkGeomCore");
+}
+
+QString tooManyOverlap()
+{
+    return PString::translate("Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle "
+                              "zu vergleichen.",
+                              "VelkGeomCore");
+}
+
+QString confirmedForOther(int sourceLine)
+{
+    return withLines(PString::translate("Die Zielzeile ist schon für eine andere Zeile bestätigt.",
+                                        "VelkGeomCore"),
+                     sourceLine < 0 ? QList<int>() : QList<int>{sourceLine});
+}
+
 QString noTable(const QString &project)
 {
     return PString::translate("Die Tabelle des Zielprojekts konnte nicht gelesen werden.\n  "

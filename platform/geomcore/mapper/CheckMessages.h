@@ -21,6 +21,11 @@ namespace Mapper::CheckMessages {
 [[nodiscard]] QString reworkedTable(const QString &project);
 [[nodiscard]] QString otherDesignation(std::string_view oldText, std::string_view newText);
 [[nodiscard]] QString failedCondition(const QString &condition);
+[[nodiscard]] QString faultyCondition(const QString &condition);
+[[nodiscard]] QString dividedLine();
+[[nodiscard]] QString tooManyOverlap();
+/// -1 for several lines.
+[[nodiscard]] QString confirmedForOther(int sourceLine);
 [[nodiscard]] QString noTable(const QString &project);
 [[nodiscard]] QString noLine(const QString &project, int line);
 

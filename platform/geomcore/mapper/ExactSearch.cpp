@@ -141,6 +141,16 @@ bool ExactSearch::equals(const LineTexts &line, int row) const
     return true;
 }
 
+bool ExactSearch::equalsAsText(const LineTexts::Value &value, int row, size_t place) const
+{
+    const int variable = m_variables[place];
+    const TargetVariable &target = m_table.variables()[size_t(variable)];
+    std::string scratch;
+    const std::string_view cell = m_table.text(row, variable, scratch);
+    return cell == value.text ||
+           (target.range && rangeHasTexts(cell, target.decimalChar, value.text, value.decimalChar));
+}
+
 bool ExactSearch::restEquals(const LineTexts &line, int row) const
 {
     for (size_t place : m_rest) {

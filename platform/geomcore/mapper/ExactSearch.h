@@ -35,6 +35,9 @@ public:
     /// Whether one cell equals the value; \a place counts the variables of this search.
     [[nodiscard]] bool equals(const LineTexts::Value &value, int row, size_t place) const;
     [[nodiscard]] bool equals(const LineTexts &line, int row) const;
+    /// Whether a cell that equals the value has the same text, or a range of texts has all of them
+    /// literally.
+    [[nodiscard]] bool equalsAsText(const LineTexts::Value &value, int row, size_t place) const;
     /// Whether every range of the row has the same values as the line, not only contains them.
     [[nodiscard]] bool hasSameRanges(const LineTexts &line, int row) const;
 

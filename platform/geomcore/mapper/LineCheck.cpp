@@ -10,6 +10,8 @@
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/table/TableData.h>
 
+#include <algorithm>
+
 namespace Mapper {
 
 namespace {
@@ -98,21 +100,23 @@ bool LineCheck::checkValues(int row)
     if (!checkEqual(row))
         return false;
     bool ok = true;
-    for (bool (LineCheck::*check)() :
-         {&LineCheck::checkOtherTargets, &LineCheck::checkCompared, &LineCheck::checkProject}) {
-        ok = (this->*check)() && ok;
+    for (bool (LineCheck::*check)(int) :
+         {&LineCheck::checkTargets, &LineCheck::checkCombinations, &LineCheck::checkCompared,
+          &LineCheck::checkProject, &LineCheck::checkClaims, &LineCheck::checkConfirmed}) {
+        ok = (this->*check)(row) && ok;
         if (!ok && m_quiet)
             return false;
     }
-    return checkClaims(row) && ok;
+    return ok;
 }
 
 bool LineCheck::checkEqual(int row)
 {
-    if (usesJoins() && !m_assignment->targetVarset) {
+    if (usesJoins() && !m_assignment->targetVarset && m_target->textsAreStored()) {
         const PairJoin *join = m_target->join();
         const int sourceRow = m_assignment->line.row;
-        if (join->hit(sourceRow) == row && !join->isSeveral(sourceRow))
+        if (join->hit(sourceRow) == row && !join->isSeveral(sourceRow) &&
+            m_target->hasSameTexts(sourceRow, row))
             return true;
     }
     takeValues();
@@ -128,7 +132,9 @@ bool LineCheck::checkDifferences(int row)
     const std::vector<int> &variables = m_values.search->variables();
     for (size_t place = 0; place < variables.size() && (ok || !m_quiet); ++place) {
         const LineTexts::Value &value = m_values.texts.values[place];
-        if (m_values.search->equals(value, row, place))
+        if (m_values.search->equals(value, row, place) &&
+            (!m_target->isText(variables[place]) ||
+             m_values.search->equalsAsText(value, row, place)))
             continue;
         const std::string_view cell = m_target->table()->text(row, variables[place], scratch);
         const QString &name = m_target->table()->variables()[size_t(variables[place])].name;
@@ -147,48 +153,126 @@ bool LineCheck::checkAlone(int row)
     return lines.isEmpty() || complain(CheckMessages::equalTargetLines(lines));
 }
 
-int LineCheck::equalRowOf(const BoundTarget &target)
+const PairJoin *LineCheck::joinOf(const BoundTarget &target) const
 {
-    if (usesJoins())
-        return target.join()->hit(m_assignment->line.row);
-    if (!target.conditionsHold(m_assignment->line))
-        return -1;
-    target.takeValues(m_assignment->line, m_otherValues);
-    return target.findEqual(m_otherValues).row;
+    return m_assignment->line.row >= 0 && target.isOpen() ? target.join() : nullptr;
 }
 
-bool LineCheck::checkOtherTargets()
+int LineCheck::equalRowOf(const BoundTarget &target)
+{
+    const PairJoin *join = joinOf(target);
+    if (usesJoins())
+        return join->hit(m_assignment->line.row);
+    if (target.conditionsHold(m_assignment->line)) {
+        target.takeValues(m_assignment->line, m_otherValues);
+        const int row = target.findEqual(m_otherValues).row;
+        if (row >= 0)
+            return row;
+    }
+    // One of the other combinations.
+    return join && !m_targets.ranges().isEmpty() ? join->hit(m_assignment->line.row) : -1;
+}
+
+bool LineCheck::checkTargets(int row)
 {
     bool ok = true;
     for (int i = 0; i < m_targets.count() && (ok || !m_quiet); ++i) {
-        const BoundTarget *other = m_targets.at(i, m_mapping);
-        if (!other || !other->isOpen() || other->path() == m_target->path())
+        const BoundTarget *target = m_targets.at(i, m_mapping);
+        if (!target)
             continue;
-        const int row = equalRowOf(*other);
-        if (row < 0)
-            continue;
-        const int line = other->table()->data().lineNumber(row);
-        ok = complain(m_quiet ? QString() : CheckMessages::equalElsewhere(other->path(), line));
+        if (target->faultyCondition())
+            ok = complain(CheckMessages::faultyCondition(*target->faultyCondition()));
+        else if (target != m_target)
+            ok = checkOtherTarget(*target, row) && ok;
     }
     return ok;
 }
 
-bool LineCheck::checkClaims(int row)
+bool LineCheck::mayTakeLine(const BoundTarget &target) const
 {
-    const PairJoin *join = m_assignment->line.row >= 0 ? m_target->join() : nullptr;
-    if (!join || join->claims(row) <= 1)
-        return true;
-    QList<int> lines;
-    const VKTab::TableData &source = *m_targets.source().data();
-    for (int other = 0; !m_quiet && other < source.rowCount() && lines.size() <= MaxNamed;
-         ++other) {
-        if (other != m_assignment->line.row && join->hit(other) == row)
-            lines.append(source.lineNumber(other));
-    }
-    return complain(CheckMessages::equalSourceLines(lines));
+    // Without its table nobody knows what becomes of the other combinations of a line.
+    return !m_targets.ranges().isEmpty() || target.conditionsHold(m_assignment->line);
 }
 
-bool LineCheck::checkCompared()
+bool LineCheck::checkOtherTarget(const BoundTarget &other, int row)
+{
+    if (!other.isOpen())
+        return !mayTakeLine(other) || complain(CheckMessages::noTable(other.path()));
+    const int otherRow = equalRowOf(other);
+    const bool same = otherRow == row && TargetSet::haveSameProject(other, *m_target);
+    if (otherRow < 0 || same)
+        return true;
+    const int line = other.table()->data().lineNumber(otherRow);
+    return complain(m_quiet ? QString() : CheckMessages::equalElsewhere(other.path(), line));
+}
+
+bool LineCheck::checkCombinations(int /*row*/)
+{
+    const PairJoin *join = m_targets.ranges().isEmpty() ? nullptr : joinOf(*m_target);
+    if (!join)
+        return true;
+    const int sourceRow = m_assignment->line.row;
+    bool divided = join->isDivided(sourceRow);
+    for (int i = 0; i < m_targets.count() && !divided && join->refusesSome(sourceRow); ++i) {
+        const BoundTarget *other = m_targets.at(i, m_mapping);
+        const PairJoin *joined = other && other != m_target ? joinOf(*other) : nullptr;
+        divided = joined && joined->takesSome(sourceRow);
+    }
+    return !divided || complain(CheckMessages::dividedLine());
+}
+
+template<class Visit>
+void LineCheck::forEachOfProject(Visit visit)
+{
+    for (int i = 0; i < m_targets.count(); ++i) {
+        const BoundTarget *target = m_targets.at(i, m_mapping);
+        if (target && target->isOpen() && TargetSet::haveSameProject(*target, *m_target))
+            visit(*target);
+    }
+}
+
+bool LineCheck::checkClaims(int row)
+{
+    const int sourceRow = m_assignment->line.row;
+    if (sourceRow < 0)
+        return true;
+    int others = 0;
+    bool known = true;
+    forEachOfProject([&](const BoundTarget &target) {
+        const PairJoin *join = target.join();
+        const int own = &target == m_target || join->hit(sourceRow) == row ? 1 : 0;
+        others += std::max(0, join->claims(row) - own);
+        known = known && join->knowsClaims(row);
+    });
+    if (others == 0)
+        return known || complain(CheckMessages::tooManyOverlap());
+    return complain(CheckMessages::equalSourceLines(m_quiet ? QList<int>() : claimingLines(row)));
+}
+
+QList<int> LineCheck::claimingLines(int row)
+{
+    const VKTab::TableData &source = *m_targets.source().data();
+    std::vector<const PairJoin *> joins;
+    forEachOfProject([&](const BoundTarget &target) { joins.push_back(target.join()); });
+    QList<int> lines;
+    for (int other = 0; other < source.rowCount() && lines.size() <= MaxNamed; ++other) {
+        const bool claims = std::any_of(joins.begin(), joins.end(), [&](const PairJoin *join) {
+            return join->hit(other) == row;
+        });
+        if (claims && other != m_assignment->line.row)
+            lines.append(source.lineNumber(other));
+    }
+    return lines;
+}
+
+bool LineCheck::checkConfirmed(int row)
+{
+    const int line = m_targets.confirmedFor(*m_target, row, m_mapping);
+    return line == TargetSet::Nobody || line == m_assignment->line.lineId ||
+           complain(CheckMessages::confirmedForOther(line == TargetSet::Several ? -1 : line));
+}
+
+bool LineCheck::checkCompared(int /*row*/)
 {
     if (m_target->comparesEverything() && !m_assignment->targetVarset)
         return true;
@@ -197,8 +281,7 @@ bool LineCheck::checkCompared()
     int values = 0;
     if (m_assignment->targetVarset || !m_target->countCompared(line, compared, values)) {
         takeValues();
-        compared = m_values.texts.countValues();
-        values = countValues(line, m_targets.source());
+        m_target->countCompared(line, m_values, compared, values);
     }
     return enoughCompared(compared, values) ||
            complain(CheckMessages::tooLittleCompared(namesNotCompared()));
@@ -211,7 +294,7 @@ QStringList LineCheck::namesNotCompared() const
     const Varset own =
         m_assignment->line.view ? varsetOf(*m_assignment->line.view) : *m_assignment->line.varset;
     QStringList names;
-    const QStringList compared = m_target->comparedSourceNames();
+    const QSet<QString> compared = m_target->comparedSourceNames();
     for (auto at = own.begin(); at != own.end(); ++at) {
         if (!at->getValue().toString().trimmed().isEmpty() && !compared.contains(at.key()))
             names.append(at.key());
@@ -220,7 +303,7 @@ QStringList LineCheck::namesNotCompared() const
     return names;
 }
 
-bool LineCheck::checkProject()
+bool LineCheck::checkProject(int /*row*/)
 {
     if (!m_assignment->automatic)
         return true;

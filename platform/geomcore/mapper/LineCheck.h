@@ -10,11 +10,14 @@ namespace Mapper {
 
 /// Checks one assignment of a source line to a line of a target.
 ///
-/// Values are equal and unambiguous if the target line has equal values, no other line of the
-/// target has, no other project among the targets whose conditions hold has, and no other source
-/// line could go to the same line; if enough of the line's values are compared; and, where the
-/// program chose the project, if name or a confirmed line connect it with the source and most lines
-/// of both tables agree: in a table that was reworked a single equal line is chance.
+/// Values are equal and unambiguous if the target line has equal values, those of text columns also
+/// as texts; no other line of the target has, and no other project among the targets whose
+/// conditions hold; no other source line could go to the same line through a target of the same
+/// project, or is confirmed for it; if all combinations of the line's ranges belong to it; if
+/// enough of the line's values are compared, each counted once; and, where the program chose the
+/// project, if name or a confirmed line connect it with the source and most lines of both tables
+/// agree: in a table that was reworked a single equal line is chance. What cannot be read or
+/// parsed, or is too much to be compared, leaves no certainty.
 class LineCheck
 {
 public:
@@ -46,18 +49,29 @@ private:
     bool checkEqual(int row);
     bool checkDifferences(int row);
     bool checkAlone(int row);
-    bool checkOtherTargets();
+    bool checkTargets(int row);
+    bool checkOtherTarget(const BoundTarget &other, int row);
+    bool checkCombinations(int row);
     bool checkClaims(int row);
-    bool checkCompared();
-    bool checkProject();
+    bool checkConfirmed(int row);
+    bool checkCompared(int row);
+    bool checkProject(int row);
     bool checkDesignations(int row);
     bool checkConditions();
 
     bool complain(const QString &message);
     [[nodiscard]] bool usesJoins() const;
     void takeValues();
+    [[nodiscard]] bool mayTakeLine(const BoundTarget &target) const;
     [[nodiscard]] int equalRowOf(const BoundTarget &target);
+    /// The join of the source table with the target; null if the line is none of that table.
+    [[nodiscard]] const PairJoin *joinOf(const BoundTarget &target) const;
+    /// Calls visit for each target of the checked one's project, itself included.
+    template<class Visit>
+    void forEachOfProject(Visit visit);
     [[nodiscard]] QStringList namesNotCompared() const;
+    /// Numbers of other source lines with that equal row, as many as a message names.
+    [[nodiscard]] QList<int> claimingLines(int row);
 
     TargetSet &m_targets;
     const PrjMappingC &m_mapping;

@@ -1,6 +1,9 @@
 #include "NameRank.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <utility>
 
 namespace Mapper {
 
@@ -15,18 +18,24 @@ QString belowCatalog(QStringView path)
     return text.mid(text.indexOf(u'/') + 1);
 }
 
-QString plainName(const QString &path)
+/// Runs of letters and runs of digits, in lower case.
+QStringList runsOf(const QString &path)
 {
     QString file = path.mid(path.lastIndexOf(u'/') + 1);
     const qsizetype ending = file.lastIndexOf(u'.');
     if (ending > 0)
         file.truncate(ending);
-    QString plain;
-    for (const QChar c : file) {
-        if (c.isLetterOrNumber())
-            plain += c.toLower();
+    QStringList runs;
+    QChar before;
+    for (const QChar c : std::as_const(file)) {
+        const bool goesOn = c.isLetter() ? before.isLetter() : c.isNumber() && before.isNumber();
+        if (goesOn)
+            runs.last() += c.toLower();
+        else if (c.isLetterOrNumber())
+            runs.append(c.toLower());
+        before = c;
     }
-    return plain;
+    return runs;
 }
 
 } // namespace
@@ -37,8 +46,8 @@ NameRank nameRank(QStringView sourcePath, QStringView targetPath)
     const QString target = belowCatalog(targetPath);
     if (source == target)
         return NameRank::Path;
-    const QString name = plainName(source);
-    return !name.isEmpty() && name == plainName(target) ? NameRank::Name : NameRank::Other;
+    const QStringList name = runsOf(source);
+    return !name.isEmpty() && name == runsOf(target) ? NameRank::Name : NameRank::Other;
 }
 
 } // namespace Mapper

@@ -9,7 +9,7 @@ namespace Mapper {
 /// How far the paths of two projects say that they are the same project.
 enum class NameRank {
     Other = 1, ///< Nothing speaks for it.
-    Name = 2,  ///< Equal file names, but for case, ending and all that is neither letter nor digit.
+    Name = 2,  ///< File names of the same runs of letters and of digits, but for case and ending.
     Path = 3,  ///< Equal paths below the catalog.
 };
 

@@ -8,6 +8,7 @@ PairJoin::PairJoin(int sourceRows, int targetRows)
     : m_hits(size_t(sourceRows), -1)
     , m_several(sourceRows, false)
     , m_claims(size_t(targetRows), 0)
+    , m_claimsKnownTo(targetRows)
 {
 }
 

@@ -29,6 +29,15 @@ public:
     /// How many source lines have this row as an equal one: 0, 1 or 2 for more. Of several equal
     /// rows the first counts.
     [[nodiscard]] int claims(int targetRow) const { return m_claims[size_t(targetRow)]; }
+    /// Whether claims() knows all: beyond a row that too many others equal as well it does not.
+    [[nodiscard]] bool knowsClaims(int targetRow) const { return targetRow <= m_claimsKnownTo; }
+    /// The combinations of the row's ranges have different equal rows, or are too many to be looked
+    /// at.
+    [[nodiscard]] bool isDivided(int sourceRow) const { return has(m_divided, sourceRow); }
+    /// The conditions hold for some combination, do not hold for some. No only while no ranges are
+    /// walked.
+    [[nodiscard]] bool takesSome(int sourceRow) const { return has(m_taken, sourceRow); }
+    [[nodiscard]] bool refusesSome(int sourceRow) const { return has(m_refused, sourceRow); }
     /// From 0 to 1: how many of the source lines that should have an equal line have one; 1 if none
     /// should.
     [[nodiscard]] double agreement() const { return m_agreement; }
@@ -49,11 +58,20 @@ public:
 private:
     friend class PairJoinBuilder;
 
+    static bool has(const VKTab::LineSet &rows, int row)
+    {
+        return rows.capacity() > 0 && rows.contains(row);
+    }
     void findNeighbours() const;
 
     std::vector<int> m_hits;
     VKTab::LineSet m_several;
     std::vector<quint8> m_claims;
+    int m_claimsKnownTo = 0;
+    // Empty unless ranges are walked.
+    VKTab::LineSet m_divided;
+    VKTab::LineSet m_taken;
+    VKTab::LineSet m_refused;
     double m_agreement = 0;
     mutable std::once_flag m_freeOnce;
     mutable std::shared_ptr<const SimilarCandidates> m_free;

@@ -25,6 +25,8 @@ namespace {
 
 /// Equal rows of one line that are counted as claimed by it.
 constexpr int MaxClaimed = 16;
+/// Combinations of the ranges of one line that are looked at.
+constexpr int MaxCombinations = 100'000;
 /// Equal rows that are stepped over in search of the next one to pair off.
 constexpr int MaxSteps = 1000;
 
@@ -51,7 +53,7 @@ PairJoinBuilder::PairJoinBuilder(const SourceTable &source, const BoundTarget &t
 
 std::shared_ptr<const PairJoin> PairJoinBuilder::build()
 {
-    if (m_target.variables().empty())
+    if (m_target.variables().empty() && m_ranges.isEmpty())
         return m_join;
     const bool simple =
         m_ranges.isEmpty() && m_source.content().isPlain() && !m_target.plainColumns().empty();
@@ -93,6 +95,10 @@ void PairJoinBuilder::joinInPlace(const LineIndex &index)
 
 void PairJoinBuilder::joinLineByLine()
 {
+    const int count = m_ranges.isEmpty() ? 0 : m_source.data()->rowCount();
+    for (VKTab::LineSet *rows : {&m_join->m_divided, &m_join->m_taken, &m_join->m_refused})
+        *rows = VKTab::LineSet(count, false);
+    m_claimedBy.resize(size_t(m_target.table()->data().rowCount()));
     for (int row = 0; row < m_source.data()->rowCount(); ++row)
         joinLine(row);
 }
@@ -100,46 +106,68 @@ void PairJoinBuilder::joinLineByLine()
 void PairJoinBuilder::joinLine(int row)
 {
     const int before = m_lines;
-    std::vector<int> claimed;
-    const VKTab::LineId id = m_source.data()->lineId(row);
-    joinView(row, LineView(m_source.content(), id), claimed);
-    if (!m_ranges.isEmpty()) {
-        VKTab::Line line = m_source.content().getLine(id, true);
-        const VKTab::ResolveRangeOptionsC options;
-        VKTab::ValueRangeIterator combinations(m_source.content(), line, options);
-        combinations.setVariablesToResolve(m_ranges);
-        while (combinations.next())
-            joinView(row, LineView(line), claimed);
-    }
+    bool taken = false;
+    joinView(row, LineView(m_source.content(), m_source.data()->lineId(row)), taken);
+    if (!m_ranges.isEmpty() && joinCombinations(row) == 0)
+        (taken ? m_join->m_taken : m_join->m_refused).insert(row);
     m_lines = std::min(m_lines, before + 1); // however many combinations
-    m_hits += claimed.empty() ? 0 : 1;
-    for (int target : claimed)
-        claim(target);
+    m_hits += m_join->m_hits[size_t(row)] >= 0 ? 1 : 0;
 }
 
-void PairJoinBuilder::joinView(int row, const LineView &view, std::vector<int> &claimed)
+int PairJoinBuilder::joinCombinations(int row)
+{
+    VKTab::Line line = m_source.content().getLine(m_source.data()->lineId(row), true);
+    const VKTab::ResolveRangeOptionsC options;
+    VKTab::ValueRangeIterator combinations(m_source.content(), line, options);
+    combinations.setVariablesToResolve(m_ranges);
+    int count = 0;
+    while (combinations.next()) {
+        if (++count > MaxCombinations) {
+            m_join->m_divided.insert(row);
+            break;
+        }
+        bool taken = false;
+        const int hit = joinView(row, LineView(line), taken);
+        (taken ? m_join->m_taken : m_join->m_refused).insert(row);
+        if (hit >= 0 && hit != m_join->m_hits[size_t(row)])
+            m_join->m_divided.insert(row);
+    }
+    return count;
+}
+
+int PairJoinBuilder::joinView(int row, const LineView &view, bool &taken)
 {
     const LineInput input = inputOf(m_source, row, view);
-    if (!m_target.conditionsHold(input))
-        return;
+    taken = m_target.conditionsHold(input);
+    if (!taken)
+        return -1;
     ++m_lines;
     m_target.takeValues(input, m_values);
-    const std::vector<int> rows = m_target.equalRows(m_values, MaxClaimed);
+    const std::vector<int> rows = m_target.equalRows(m_values, MaxClaimed + 1);
     if (rows.empty())
-        return;
+        return -1;
+    const BoundTarget::Hit hit = m_target.findEqual(m_values);
     if (m_join->m_hits[size_t(row)] < 0) {
-        const BoundTarget::Hit hit = m_target.findEqual(m_values);
         m_join->m_hits[size_t(row)] = hit.row;
         if (hit.several)
             m_join->m_several.insert(row);
     }
+    claimRows(row, rows);
+    return hit.row;
+}
+
+void PairJoinBuilder::claimRows(int row, const std::vector<int> &rows)
+{
     const bool first = m_values.search->onlyIndex() != nullptr;
-    for (int target : rows) {
-        if (std::find(claimed.begin(), claimed.end(), target) == claimed.end())
-            claimed.push_back(target);
-        if (first)
-            break;
+    const size_t count = first ? 1 : std::min(rows.size(), size_t(MaxClaimed));
+    for (size_t i = 0; i < count; ++i) {
+        int &claimedBy = m_claimedBy[size_t(rows[i])];
+        if (claimedBy != row + 1)
+            claim(rows[i]);
+        claimedBy = row + 1;
     }
+    if (!first && rows.size() > count)
+        m_join->m_claimsKnownTo = std::min(m_join->m_claimsKnownTo, rows[count - 1]);
 }
 
 void PairJoinBuilder::claim(int targetRow)
@@ -169,24 +197,25 @@ int PairJoinBuilder::nextEqual(int first, int after)
     for (int steps = 0; row >= 0 && steps < MaxSteps; ++steps) {
         const bool proposable = !m_target.shownOnly() || m_target.table()->isShown(row);
         if (row > after && proposable)
-            break;
+            return lastPaired = row;
         row = index.nextOf(row);
     }
-    lastPaired = row >= 0 ? row : first;
-    return lastPaired;
+    return lastPaired = first;
 }
 
 void PairJoinBuilder::computeAgreement()
 {
     int expected = std::min(m_lines, m_target.table()->data().rowCount());
-    if (m_hits < EnoughAgreement * expected && m_target.identity().isValid())
-        expected = countKnownKeys();
-    m_join->m_agreement = expected == 0 ? 1 : std::min(1.0, double(m_hits) / expected);
+    int hits = m_hits;
+    if (hits < EnoughAgreement * expected && m_target.identity().isValid())
+        countKnown(expected, hits);
+    m_join->m_agreement = expected == 0 ? 1 : std::min(1.0, double(hits) / expected);
 }
 
-int PairJoinBuilder::countKnownKeys() const
+void PairJoinBuilder::countKnown(int &lines, int &hits) const
 {
     int known = 0;
+    int hitsAmongThem = 0;
     TargetValues values;
     for (int row = 0; row < m_source.data()->rowCount(); ++row) {
         const LineView view(m_source.content(), m_source.data()->lineId(row));
@@ -194,9 +223,15 @@ int PairJoinBuilder::countKnownKeys() const
         if (!m_target.conditionsHold(input))
             continue;
         m_target.takeValues(input, values);
-        known += m_target.identity().rows(input, values, 1).empty() ? 0 : 1;
+        if (m_target.identity().rows(input, values, 1).empty())
+            continue;
+        ++known;
+        hitsAmongThem += m_join->hit(row) >= 0 ? 1 : 0;
     }
-    return known;
+    if (known == 0) // what identifies lines here does not there
+        return;
+    lines = known;
+    hits = hitsAmongThem;
 }
 
 } // namespace Mapper

@@ -33,19 +33,26 @@ private:
     void joinInPlace(const VKTab::LineIndex &index);
     void joinLineByLine();
     void joinLine(int row);
-    void joinView(int row, const VKTab::LineView &view, std::vector<int> &claimed);
+    /// How many there are; 0 if the line has no range to walk.
+    int joinCombinations(int row);
+    /// The row proposed for the values; -1 if there is none, or the conditions do not hold.
+    int joinView(int row, const VKTab::LineView &view, bool &taken);
+    void claimRows(int row, const std::vector<int> &rows);
     void claim(int targetRow);
     void pairOff();
     [[nodiscard]] int nextEqual(int first, int after);
     void computeAgreement();
-    [[nodiscard]] int countKnownKeys() const;
+    /// Of the lines whose identity the target knows: how many there are, and how many have an equal
+    /// line. Nothing changes if it knows none.
+    void countKnown(int &lines, int &hits) const;
 
     const SourceTable &m_source;
     const BoundTarget &m_target;
     const QStringList m_ranges;
     std::shared_ptr<PairJoin> m_join;
     TargetValues m_values;
-    int m_lines = 0; ///< For which the conditions hold.
+    std::vector<int> m_claimedBy; ///< The source row that claimed a row last, from 1.
+    int m_lines = 0;              ///< For which the conditions hold.
     int m_hits = 0;
     std::unordered_map<int, int> m_lastOfRing; ///< Last paired row by the first equal row.
 };

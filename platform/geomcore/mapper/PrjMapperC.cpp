@@ -145,8 +145,7 @@ bool PrjMapperC::addLine(const PrjMapperLineC &line)
                        !d->working.mapping().targetAt(index).isNotFoundTarget();
     if (!line.isValid() || !line.isFound() || !known)
         return false;
-    d->working.enter(line.getSourceLineId(), index, line.getTargetLineId(), line.getCheckState(),
-                     line.m_working);
+    d->enter(line);
     return true;
 }
 

@@ -227,6 +227,15 @@ PrjMapperPrivate::Bound PrjMapperPrivate::boundFor(const PrjMapperLineC &line)
     return bound;
 }
 
+void PrjMapperPrivate::enter(const PrjMapperLineC &line)
+{
+    const bool confirmed =
+        working.enter(line.getSourceLineId(), line.getTargetIndex(), line.getTargetLineId(),
+                      line.getCheckState(), line.m_working);
+    if (confirmed && m_targets)
+        m_targets->forgetConfirmed();
+}
+
 PrjMapperPrivate::Varset PrjMapperPrivate::updateVarset(const PrjMapperLineC &line,
                                                         const LineInput &input,
                                                         VarsetModeFlags mode)

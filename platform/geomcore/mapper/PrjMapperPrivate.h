@@ -39,6 +39,8 @@ public:
 
     [[nodiscard]] PrjMapperLineC toMapperLine(const PrjMappingLineC &line) const;
     [[nodiscard]] PrjMapperLineC createLine(const Mapper::LineInput &line, bool firstTargetOnly);
+    /// Enters a line that is found in the working mapping.
+    void enter(const PrjMapperLineC &line);
     [[nodiscard]] Varset updateVarset(const PrjMapperLineC &line, const Mapper::LineInput &input,
                                       VarsetModeFlags mode);
     [[nodiscard]] PrjMapperCheckResultC check(const PrjMapperLineC &line,

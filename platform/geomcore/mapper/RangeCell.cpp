@@ -2,6 +2,8 @@
 
 #include <geomcore/value/RangeText.h>
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace Mapper {
@@ -47,6 +49,20 @@ bool sameRange(std::string_view a, char aDecimal, std::string_view b, char bDeci
     const auto first = parse(a, aDecimal);
     const auto second = parse(b, bDecimal);
     return first && second && first->containsAll(*second) && second->containsAll(*first);
+}
+
+bool rangeHasTexts(std::string_view range, char rangeDecimal, std::string_view value,
+                   char valueDecimal)
+{
+    const auto outer = parse(range, rangeDecimal);
+    const auto inner = parse(value, valueDecimal);
+    if (!outer || !inner || outer->count() > MaxCompared || inner->count() > MaxCompared)
+        return false;
+    const QStringList texts = outer->values();
+    const QSet<QString> offered(texts.begin(), texts.end());
+    const QStringList wanted = inner->values();
+    return std::all_of(wanted.begin(), wanted.end(),
+                       [&](const QString &text) { return offered.contains(text); });
 }
 
 double rangeSimilarity(std::string_view range, char rangeDecimal, std::string_view value,

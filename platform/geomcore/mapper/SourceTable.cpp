@@ -7,6 +7,8 @@
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 
+#include <QSet>
+
 namespace Mapper {
 
 using VKTab::FieldKind;
@@ -37,8 +39,11 @@ SourceTable::SourceTable(const VKTab::Content &content)
         return;
     const QList<TableField> &fields = m_data->descriptor().fields;
     for (int column = 0; column < int(fields.size()); ++column) {
-        if (isCompared(fields[column]))
-            m_columns.push_back(column);
+        if (!isCompared(fields[column]))
+            continue;
+        m_columns.push_back(column);
+        if (!m_columnOf.contains(fields[column].name))
+            m_columnOf.insert(fields[column].name, column);
     }
     m_pattern = DesignationPattern(m_data->descriptor());
     m_designation = DesignationPattern::ofDesignation(m_data->descriptor());
@@ -51,11 +56,7 @@ int SourceTable::rowOf(int lineId) const
 
 int SourceTable::columnOf(const QString &name) const
 {
-    for (int column : m_columns) {
-        if (m_data->descriptor().fields[column].name == name)
-            return column;
-    }
-    return -1;
+    return m_columnOf.value(name, -1);
 }
 
 char SourceTable::decimalChar(int column) const
@@ -65,10 +66,11 @@ char SourceTable::decimalChar(int column) const
 
 QStringList SourceTable::rangesAmong(const QStringList &names) const
 {
+    const QSet<QString> wanted(names.begin(), names.end());
     QStringList ranges;
     for (int column : m_columns) {
         const TableField &field = m_data->descriptor().fields[column];
-        if (field.isRange() && names.contains(field.name))
+        if (field.isRange() && wanted.contains(field.name))
             ranges.append(field.name);
     }
     return ranges;

@@ -62,6 +62,7 @@ private:
     VKTab::Content m_content;
     std::shared_ptr<const VKTab::TableData> m_data;
     std::vector<int> m_columns;
+    QHash<QString, int> m_columnOf;
     [[nodiscard]] std::string textOf(const DesignationPattern &pattern,
                                      const VKTab::LineView &line) const;
 

@@ -1,6 +1,9 @@
 #include "TargetSet.h"
 
+#include "TargetTable.h"
+
 #include <geomcore/binding/VarsetConditionI.h>
+#include <geomcore/table/TableData.h>
 
 #include <algorithm>
 
@@ -51,6 +54,34 @@ void TargetSet::bind(Slot &slot, int index, const PrjMappingTargetC &target)
     slot.rank = nameRank(m_sourcePath, slot.target->path());
     if (slot.target->hasVerified())
         slot.rank = std::max(slot.rank, NameRank::Name);
+}
+
+int TargetSet::confirmedFor(const BoundTarget &target, int row, const PrjMappingC &mapping)
+{
+    auto known = m_confirmed.find(target.index());
+    if (known == m_confirmed.end())
+        known = m_confirmed.emplace(target.index(), confirmedLines(target, mapping)).first;
+    return known->second.empty() ? Nobody : known->second[size_t(row)];
+}
+
+std::vector<int> TargetSet::confirmedLines(const BoundTarget &target, const PrjMappingC &mapping)
+{
+    std::vector<int> lines;
+    const VKTab::TableData &table = target.table()->data();
+    for (int i = 0; i < count(); ++i) {
+        const BoundTarget *other = at(i, mapping);
+        const PrjMappingTargetC &entries = mapping.targetAt(i);
+        if (!other || !haveSameProject(*other, target) || entries.lineCounts().verified() == 0)
+            continue;
+        lines.resize(size_t(table.rowCount()), Nobody);
+        for (const LineTable::Iterator &entry : entries.lines()) {
+            const int row =
+                entry.state() == PRJMAPPING::Verified ? table.rowOf(entry.targetLine()) : -1;
+            if (row >= 0)
+                lines[size_t(row)] = lines[size_t(row)] == Nobody ? entry.sourceLine() : Several;
+        }
+    }
+    return lines;
 }
 
 } // namespace Mapper

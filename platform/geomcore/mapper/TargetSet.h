@@ -7,6 +7,7 @@
 #include <geomcore/records/PrjMappingC.h>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -32,6 +33,18 @@ public:
     {
         return m_targets[size_t(target.index())].rank;
     }
+    /// Targets of the same project hold the same lines.
+    [[nodiscard]] static bool haveSameProject(const BoundTarget &a, const BoundTarget &b)
+    {
+        return &a == &b || a.path() == b.path() || (a.isOpen() && a.table() == b.table());
+    }
+    static constexpr int Nobody = -1;
+    static constexpr int Several = -2;
+    /// The source line for which a row of the target's table is confirmed, Nobody, or Several.
+    /// Looks through the confirmed lines of the mapping at the first call.
+    [[nodiscard]] int confirmedFor(const BoundTarget &target, int row, const PrjMappingC &mapping);
+    /// To be called when a confirmed line has been entered or taken out.
+    void forgetConfirmed() { m_confirmed.clear(); }
     /// Ranges of the source table that conditions of any target read.
     [[nodiscard]] const QStringList &ranges() const { return m_ranges; }
     [[nodiscard]] const QString &sourcePath() const { return m_sourcePath; }
@@ -46,6 +59,8 @@ private:
     };
 
     void bind(Slot &slot, int index, const PrjMappingTargetC &target);
+    [[nodiscard]] std::vector<int> confirmedLines(const BoundTarget &target,
+                                                  const PrjMappingC &mapping);
 
     const SourceTable &m_source;
     const Open m_open;
@@ -53,6 +68,8 @@ private:
     const QString m_sourcePath;
     QStringList m_ranges;
     std::vector<Slot> m_targets;
+    /// By index of the target: source lines by row; empty if none is confirmed.
+    std::map<int, std::vector<int>> m_confirmed;
 };
 
 } // namespace Mapper

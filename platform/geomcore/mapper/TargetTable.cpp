@@ -43,8 +43,11 @@ TargetTable::TargetTable(const VKTab::Content &content)
     for (int column = 0; column < int(fields.size()); ++column) {
         const TableField &field = fields[column];
         if (isCompared(field)) {
+            if (!m_variableOf.contains(field.name))
+                m_variableOf.insert(field.name, int(m_variables.size()));
             m_variables.push_back({field.name, column, field.isRange(),
-                                   column < m_data->columnCount(), field.decimalChar});
+                                   column < m_data->columnCount(), field.decimalChar,
+                                   !field.isNumeric()});
         }
     }
     takeFilterConditions();
@@ -67,11 +70,7 @@ void TargetTable::takeFilterConditions()
 
 int TargetTable::variableOf(const QString &name) const
 {
-    for (size_t i = 0; i < m_variables.size(); ++i) {
-        if (m_variables[i].name == name)
-            return int(i);
-    }
-    return -1;
+    return m_variableOf.value(name, -1);
 }
 
 std::string_view TargetTable::text(int row, int variable, std::string &scratch) const

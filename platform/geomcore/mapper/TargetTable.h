@@ -8,6 +8,8 @@
 #include <geomcore/table/LineIndex.h>
 #include <geomcore/table/LineSet.h>
 
+#include <QHash>
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -81,6 +83,7 @@ private:
     VKTab::Content m_content;
     std::shared_ptr<const VKTab::TableData> m_data;
     std::vector<TargetVariable> m_variables;
+    QHash<QString, int> m_variableOf;
     std::unique_ptr<const VKTab::LineSet> m_shown; ///< Null: all.
     mutable Memo<std::vector<int>, ExactSearch> m_exact;
     mutable Memo<std::vector<int>, VKTab::LineIndex> m_indexes;

@@ -12,6 +12,7 @@ struct TargetVariable
     bool range = false;
     bool stored = true; ///< Has a column in the file; a computed variable may have none.
     char decimalChar = '.';
+    bool text = false; ///< Its values are texts, also those that look like numbers.
 };
 
 } // namespace Mapper

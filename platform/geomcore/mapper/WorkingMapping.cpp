@@ -32,33 +32,38 @@ void WorkingMapping::note(int lineId)
         takeOut(lineId, -1, false, {});
 }
 
-void WorkingMapping::takeOut(int lineId, int exceptTarget, bool alsoVerified,
+bool WorkingMapping::takeOut(int lineId, int exceptTarget, bool alsoVerified,
                              const std::shared_ptr<const PrjMappingC> &holder)
 {
+    bool confirmed = false;
     for (int i = 0; i < m_mapping->countTargets(); ++i) {
         const LineTable::Row *row = m_mapping->targetAt(i).lines().findRow(lineId);
         if (!row || i == exceptTarget || (row->state() == PRJMAPPING::Verified && !alsoVerified))
             continue;
+        confirmed = confirmed || row->state() == PRJMAPPING::Verified;
         edit(holder).editTarget(i).removeLineId(lineId);
     }
+    return confirmed;
 }
 
-void WorkingMapping::enter(int lineId, int targetIndex, int targetLine, CheckState state,
+bool WorkingMapping::enter(int lineId, int targetIndex, int targetLine, CheckState state,
                            const std::shared_ptr<const PrjMappingC> &holder)
 {
     m_entered.insert(lineId);
-    takeOut(lineId, targetIndex, state == PRJMAPPING::Verified, holder);
+    const bool wentOut = takeOut(lineId, targetIndex, state == PRJMAPPING::Verified, holder);
     const LineTable::Row *row = m_mapping->targetAt(targetIndex).lines().findRow(lineId);
+    const bool was = row && row->state() == PRJMAPPING::Verified;
     if (!row || row->targetLine != targetLine) {
         edit(holder).editTarget(targetIndex).addLineId(lineId, targetLine, state, QString());
-        return;
+        return wentOut || was || state == PRJMAPPING::Verified;
     }
     if (row->state() == state)
-        return;
+        return wentOut;
     PrjMappingTargetC &target = edit(holder).editTarget(targetIndex);
     const PrjMappingTargetLineC entry = target.getMappedLine(lineId);
     target.addLineId(lineId, targetLine, state, entry.getExtended());
     target.setLineConflicted(lineId, entry.getConflict());
+    return wentOut || was || state == PRJMAPPING::Verified;
 }
 
 std::vector<int> WorkingMapping::linesWithoutTarget() const

@@ -24,8 +24,8 @@ public:
     /// go.
     void note(int lineId);
     /// Enters a line with a target line. \a holder is a reference of its own that need not keep the
-    /// former state.
-    void enter(int lineId, int targetIndex, int targetLine, PRJMAPPING::CheckState state,
+    /// former state. True if a confirmed line came, changed or went.
+    bool enter(int lineId, int targetIndex, int targetLine, PRJMAPPING::CheckState state,
                const std::shared_ptr<const PrjMappingC> &holder);
     /// Enters every noted line that no target holds in the not-found target, and refreshes the
     /// state.
@@ -33,7 +33,8 @@ public:
 
 private:
     [[nodiscard]] PrjMappingC &edit(const std::shared_ptr<const PrjMappingC> &holder = {});
-    void takeOut(int lineId, int exceptTarget, bool alsoVerified,
+    /// True if a confirmed one went.
+    bool takeOut(int lineId, int exceptTarget, bool alsoVerified,
                  const std::shared_ptr<const PrjMappingC> &holder);
     [[nodiscard]] std::vector<int> linesWithoutTarget() const;
 
