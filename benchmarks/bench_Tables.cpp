@@ -7,7 +7,7 @@
 #include <mapping/table/TableMappingWidget.h>
 
 #include <geomcore/project/PrjClass.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
@@ -41,11 +41,9 @@ public:
     [[nodiscard]] QString project() const { return QString::fromStdString(m_project); }
     [[nodiscard]] VKTab::ContentRef oldTable() const
     {
-        const refHandle<PrjClass> project(new PrjClass(false, false, false));
-        project->read(QString::fromStdString((m_folder.path() / "old" / m_project).string()),
-                      PrjClass::ReadAll);
         VKTab::ContentRef table = VKTab::Content();
-        VKTab::Reader().readByProject(project, table, true);
+        (void)VKTab::readProjectTable(
+            QString::fromStdString((m_folder.path() / "old" / m_project).string()), table);
         return table;
     }
 

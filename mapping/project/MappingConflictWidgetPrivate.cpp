@@ -7,7 +7,7 @@
 #include <core/text/PString.h>
 #include <geomcore/records/ReleaseMappingC.h>
 #include <geomcore/table/Line.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 
 #include <QLabel>
 #include <QScrollArea>
@@ -92,10 +92,8 @@ QString MappingConflictWidgetPrivate::targetLineText(const PrjMappingTargetC &ta
     if (line.getTargetLineId() == -1 || target.getTargetPath().isEmpty())
         return QString();
     const PPathName path = PPathName("$TORMEVA_DATA/23d-libs") + PPathName(target.getTargetPath());
-    const refHandle<PrjClass> project(new PrjClass(false, false, false));
-    project->read(path.native(), PrjClass::ReadAll);
     VKTab::ContentRef table;
-    VKTab::Reader().readByProject(project, table, true);
+    (void)VKTab::readProjectTable(path.native(), table);
     const VKTab::LineId id(line.getTargetLineId());
     if (!table.getLineIdList().contains(id))
         return QString();

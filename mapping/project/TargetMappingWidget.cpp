@@ -8,7 +8,7 @@
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
 #include <geomcore/binding/createVarsetFromVKTable.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 
 #include <QLabel>
 #include <QPushButton>
@@ -46,9 +46,7 @@ void TargetMappingWidget::showPath(const QString &path, const QString &builtPath
 
 void TargetMappingWidget::readTable(const QString &builtPath)
 {
-    const refHandle<PrjClass> project(new PrjClass(false, false, false));
-    project->read(PPathName(builtPath).native(), PrjClass::ReadAll);
-    VKTab::Reader().readByProject(project, targetContent, true);
+    (void)VKTab::readProjectTable(PPathName(builtPath).native(), targetContent);
     sourceVariables =
         createVarsetFromVKTable(sourceContent, sourceContent.getLineIdList().value(0), {});
     targetVariables =

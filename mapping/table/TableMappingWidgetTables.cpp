@@ -2,7 +2,6 @@
 
 #include "LineLookUp.h"
 #include "lineToolTips.h"
-#include "removeProjectFilters.h"
 #include "TablePane.h"
 #include "TargetTableView.h"
 
@@ -13,6 +12,7 @@
 #include <core/text/PString.h>
 #include <geomcore/mapper/PrjMapperCheckResultC.h>
 #include <geomcore/table/Line.h>
+#include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/SignalConnect.h>
 #include <geomcore/value/LangThreadSettings.h>
 #include <geomcoregui/table/VkTableModel.h>
@@ -33,7 +33,8 @@ void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
         setupStatusKeys(own);
     else
         sourceTable.setOptions(options);
-    removeProjectFilters(sourceTable);
+    // The project's own choice must not hide lines from the editor.
+    VKTab::removeProjectFilters(sourceTable);
     btnResolvedRanges->setEnabled(!valueRangeVariables(sourceTable).isEmpty());
     m_sourcePane->showPath(newMapping.getSourcePath());
     m_sourcePane->showNumberOf(sourceTable);

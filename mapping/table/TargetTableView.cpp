@@ -1,14 +1,13 @@
 #include "TargetTableView.h"
 
 #include "LineIdColumnLayer.h"
-#include "removeProjectFilters.h"
 
 #include <core/text/PPathName.h>
 #include <geomcore/expression/toTabVarValues.h>
 #include <geomcore/table/FilterByLineId.h>
 #include <geomcore/table/Finder.h>
 #include <geomcore/table/ModifyLayer.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
@@ -51,13 +50,10 @@ TargetTableView::Shown TargetTableView::show(const QString &path, const Reading 
 VKTab::ContentRef TargetTableView::read(const QString &path, const Reading &reading)
 {
     VKTab::ContentRef content = VKTab::Content();
-    content.setOptions(reading.options);
     m_view->model()->setShowHiddenVars(reading.showHiddenCols);
-    const refHandle<PrjClass> project(new PrjClass(false, false, false));
-    project->read(PPathName(path).native(), PrjClass::ReadAll);
-    if (VKTab::Reader().readByProject(project, content, true) != 1)
+    if (!VKTab::readProjectTable(PPathName(path).native(), content,
+                                 {.options = reading.options, .allLines = true}))
         return {};
-    removeProjectFilters(content);
     m_view->setTable(content);
     m_marked = VKTab::LineId();
     const double zoom = std::max(m_sourceView->getZoomFactor(), m_view->getZoomFactor());

@@ -8,7 +8,7 @@
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/toTabVarValues.h>
 #include <geomcore/table/Finder.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/ValueRangeIterator.h>
 #include <geomcore/value/MidentClass.h>
 #include <geomcoregui/table/VkTableModel.h>
@@ -99,9 +99,7 @@ VKTab::ContentRef VarsetMappingRunnable::targetTable(const QString &targetPath)
     const QString path =
         CatalogMappingWidget::buildTargetPath(!m_task.targetFromRepository, targetPath);
     VKTab::ContentRef table = VKTab::Content();
-    const refHandle<PrjClass> project(new PrjClass(false, false, false));
-    project->read(PPathName(path).native(), PrjClass::ReadAll);
-    VKTab::Reader().readByProject(project, table, true);
+    (void)VKTab::readProjectTable(PPathName(path).native(), table);
     showHiddenColumns();
     m_tables.insert(targetPath, table);
     return table;

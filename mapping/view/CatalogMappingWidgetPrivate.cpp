@@ -13,8 +13,7 @@
 #include <core/config/PConfigService.h>
 #include <core/text/PString.h>
 #include <geomcore/binding/sameTargetHead.h>
-#include <geomcore/table/makeSachmRelativeToCatalog.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QCheckBox>
@@ -99,11 +98,8 @@ bool CatalogMappingWidgetPrivate::loadProject(const Node &node)
     const QString path = node->getPath();
     if (path.isEmpty())
         return false;
-    const refHandle<PrjClass> project(new PrjClass(true, false, false));
-    project->read(projectFile(path).native(), PrjClass::ReadAll);
-    VKTab::makeSachmRelativeToCatalog(project, path);
     VKTab::ContentRef content;
-    if (VKTab::Reader().readByProject(project, content, true) == -1)
+    if (!VKTab::readProjectTable(projectFile(path).native(), content, {.catalogPath = path}))
         return false;
     const CatalogMappingC catalog = handler->getCatalogMapping();
     const PrjMappingC mapping = node->getMapping();

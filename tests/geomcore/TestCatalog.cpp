@@ -4,7 +4,7 @@
 #include <geomcore/binding/VarsetValueMappingC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/project/PrjFile.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 
 #include <QDir>
 #include <QFile>
@@ -78,10 +78,8 @@ void TestCatalog::write(const QString &project, const QByteArray &table, const E
 
 VKTab::Content TestCatalog::read(const QString &project) const
 {
-    const refHandle<PrjClass> prj(new PrjClass(false, false, false));
-    prj->read(file(project), PrjClass::ReadAll);
     VKTab::Content content;
-    VKTab::Reader().readByProject(prj, content, false);
+    (void)VKTab::readProjectTable(file(project), content, {.tells = false});
     return content;
 }
 

@@ -2,10 +2,9 @@
 
 #include <core/progress/PProgress.h>
 #include <core/text/PPathName.h>
-#include <geomcore/project/PrjClass.h>
 #include <geomcore/records/ReleaseMappingC.h>
 #include <geomcore/table/Content.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 
 #include <QCache>
 #include <QCoreApplication>
@@ -119,10 +118,8 @@ private:
         if (const VKTab::ContentRef *known = m_tables.object(path))
             return known;
         VKTab::ContentRef table{VKTab::Content()};
-        const refHandle<PrjClass> project(new PrjClass(false, false, false));
         const QString file = (PPathName(m_root) + PPathName(path)).native();
-        if (project->read(file, PrjClass::ReadAll) == 1)
-            VKTab::Reader().readByProject(project, table, false);
+        (void)VKTab::readProjectTable(file, table, {.tells = false});
         m_tables.insert(path, new VKTab::ContentRef(table));
         return m_tables.object(path);
     }

@@ -7,9 +7,9 @@
 #include "SimilarCandidates.h"
 #include "SourceTable.h"
 
-#include <geomcore/table/FileLayer.h>
 #include <geomcore/table/LineMapping.h>
 #include <geomcore/table/LineView.h>
+#include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TableData.h>
 
 #include <numeric>
@@ -23,9 +23,6 @@ using VKTab::LineView;
 using VKTab::TableField;
 
 namespace {
-
-/// The names under which a project's own choice of lines stands in a table.
-const QString projectConditions[] = {QStringLiteral("PRJLINECOND"), QStringLiteral("BYPRJ")};
 
 bool isCompared(const TableField &field)
 {
@@ -64,8 +61,7 @@ void TargetTable::takeFilterConditions()
             rows->insert(m_data->rowOf(shown.getLineId(i)));
         m_shown = std::move(rows);
     }
-    for (const QString &name : projectConditions)
-        m_content.getFileLayer()->removeFilterCondition(name);
+    VKTab::removeProjectFilters(m_content);
 }
 
 int TargetTable::variableOf(const QString &name) const

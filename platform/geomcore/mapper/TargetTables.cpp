@@ -2,8 +2,8 @@
 
 #include "TargetTable.h"
 
-#include <geomcore/project/PrjClass.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/Content.h>
+#include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TableData.h>
 
 #include <algorithm>
@@ -12,12 +12,12 @@ namespace Mapper {
 
 namespace {
 
-QStringList filesOf(const QString &projectPath, const PrjClass &project,
+QStringList filesOf(const QString &projectPath, const VKTab::ProjectTable &table,
                     const VKTab::Content &content)
 {
     QStringList files{projectPath};
-    if (!project.tableFile().isEmpty())
-        files.append(project.tableFile());
+    if (!table.file.isEmpty())
+        files.append(table.file);
     if (const auto data = content.getTableData())
         files.append(data->fileName());
     return files;
@@ -47,15 +47,13 @@ std::shared_ptr<const TargetTable> TargetTables::open(const QString &nativeProje
 
 std::shared_ptr<const TargetTable> TargetTables::read(Entry &entry)
 {
-    const refHandle<PrjClass> project(new PrjClass(false, false, false));
-    project->read(entry.path, PrjClass::ReadAll);
     const bool told = entry.failed && FileStamps(entry.stamps.paths()) == entry.stamps;
     VKTab::Content content;
-    VKTab::Reader reader;
-    const bool wasRead = reader.readByProject(project, content, !told) == 1;
-    entry.failed = !wasRead;
-    entry.stamps = FileStamps(filesOf(entry.path, *project, content));
-    const auto table = wasRead ? std::make_shared<const TargetTable>(content) : nullptr;
+    const VKTab::ProjectTable project =
+        VKTab::readProjectTable(entry.path, content, {.tells = !told});
+    entry.failed = !project;
+    entry.stamps = FileStamps(filesOf(entry.path, project, content));
+    const auto table = project ? std::make_shared<const TargetTable>(content) : nullptr;
     entry.table = table;
     return table;
 }

@@ -2,6 +2,8 @@
 
 #include "FileStamps.h"
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <QString>
 
 #include <list>
@@ -16,7 +18,7 @@ class TargetTable;
 /// stay open, so that mappers made for a single line find what earlier ones built; others stay as
 /// long as a mapper holds them. A table whose project file, descriptor or lines were written since
 /// is read anew. Any thread.
-class TargetTables
+class VELKGEOMCORE_EXPORT TargetTables
 {
 public:
     [[nodiscard]] static TargetTables &instance();
