@@ -77,7 +77,7 @@ private Q_SLOTS:
             QCOMPARE(mapping.lineCounts().lines() == 0, error);
         }
         QCOMPARE(broken, 1);
-        QVERIFY2(m_out.contains("lines assigned"), qPrintable(m_out));
+        QVERIFY2(m_out.contains(" lines: "), qPrintable(m_out));
     }
 
     void numberOfJobsDoesNotMatter()

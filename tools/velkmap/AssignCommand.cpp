@@ -1,51 +1,28 @@
 #include "AssignCommand.h"
 
 #include "CommandLine.h"
+#include "InterruptGuard.h"
 #include "ReleaseFile.h"
 #include "TerminalProgress.h"
-#include <release/assign/ReleaseAssigner.h>
 
 #include <core/parallel/WorkerPool.h>
 #include <geomcore/index/IndexTreeC.h>
+#include <release/assign/ReleaseAssigner.h>
 
 #include <QFileInfo>
 #include <QTextStream>
 
-#include <atomic>
-#include <csignal>
+#include <optional>
 
 namespace velkmap {
 
 namespace {
 
-std::atomic<bool> interrupted{false};
-static_assert(std::atomic<bool>::is_always_lock_free, "set in a signal handler");
-
-/// While it lives, Ctrl+C asks the work to end instead of ending the program. A second Ctrl+C ends
-/// it at once.
-class InterruptGuard
-{
-public:
-    InterruptGuard()
-    {
-        interrupted = false;
-        m_former = std::signal(SIGINT, [](int) {
-            interrupted = true;
-            std::signal(SIGINT, SIG_DFL);
-        });
-    }
-    ~InterruptGuard() { std::signal(SIGINT, m_former); }
-    InterruptGuard(const InterruptGuard &) = delete;
-    InterruptGuard &operator=(const InterruptGuard &) = delete;
-
-private:
-    void (*m_former)(int);
-};
-
 constexpr const char *description =
     "Assigns the table lines of a release's projects to lines of their targets.\n"
-    "Existing assignments stay, with --force only the confirmed ones. Ctrl+C ends\n"
-    "the work and keeps what is done (exit status 130).";
+    "Existing assignments stay, with --force only the confirmed ones. Projects whose\n"
+    "tables, or whose targets' tables with --force, cannot be read keep their lines.\n"
+    "Ctrl+C ends the work and writes the projects that are done (exit status 130).";
 
 void addOptions(CommandLine &line)
 {
@@ -65,6 +42,106 @@ bool isDirectory(const QString &path, QTextStream &err)
     return false;
 }
 
+/// How the lines of the projects stand; the parts add up.
+QString sumText(const LineCounts &counts)
+{
+    const int confirmed =
+        counts.lines() - counts.notFound() - counts.assigned() - counts.unverified();
+    return QString("%1 lines: %2 mapped, %3 to check, %4 confirmed, %5 without target")
+        .arg(QString::number(counts.lines()), QString::number(counts.assigned()),
+             QString::number(counts.unverified()), QString::number(confirmed),
+             QString::number(counts.notFound()));
+}
+
+/// A wrong catalog gives no error, but hardly any line has a target.
+void warnIfNothingFits(const LineCounts &counts, QTextStream &err)
+{
+    if (counts.notFound() * qint64(2) > counts.lines())
+        err << "velkmap assign: more than half of the lines have no target; do source and target "
+               "fit the mapping?\n";
+}
+
+/// The run of the command on a mapping that was read.
+class AssignRun
+{
+public:
+    AssignRun(const CommandLine &line, QTextStream &out, QTextStream &err)
+        : m_assigner(line.value("source"))
+        , m_out(out)
+        , m_err(err)
+    {
+        m_assigner.setProjects(line.values("project"));
+        m_assigner.setForce(line.isSet("force"));
+    }
+
+    /// Says what cannot work at all.
+    std::optional<ExitStatus> check(const CommandLine &line, const ReleaseMappingC &release);
+    ExitStatus run(ReleaseFile &file);
+
+private:
+    [[nodiscard]] bool assign(ReleaseMappingC &release);
+    void tell(const VelkRelease::ReleaseAssigner::Progress &progress, TerminalProgress &terminal);
+
+    VelkRelease::ReleaseAssigner m_assigner;
+    VelkRelease::ReleaseAssigner::Progress m_reached;
+    bool m_toldInterrupt = false;
+    QTextStream &m_out;
+    QTextStream &m_err;
+};
+
+std::optional<ExitStatus> AssignRun::check(const CommandLine &line, const ReleaseMappingC &release)
+{
+    const QStringList unknown = m_assigner.unknownProjects(release);
+    if (!unknown.isEmpty())
+        return line.wrongUsage("the mapping has no project " + unknown.join(", "), m_err);
+    const QStringList missing = m_assigner.missingCatalogs(release, line.value("target"));
+    for (const QString &directory : missing)
+        m_err << "velkmap assign: there is no catalog " << directory << "; nothing was assigned\n";
+    if (missing.isEmpty())
+        return std::nullopt;
+    return ExitStatus::InputUnreadable;
+}
+
+void AssignRun::tell(const VelkRelease::ReleaseAssigner::Progress &progress,
+                     TerminalProgress &terminal)
+{
+    m_reached = progress;
+    if (InterruptGuard::isRequested() && !m_toldInterrupt) {
+        m_toldInterrupt = true;
+        m_err << "\nvelkmap assign: ending; what is done will be written\n";
+        m_err.flush();
+    }
+    terminal.show(progress.projects, progress.totalProjects, progress.counts.lines());
+}
+
+bool AssignRun::assign(ReleaseMappingC &release)
+{
+    TerminalProgress terminal;
+    m_assigner.setObserver(
+        [&](const VelkRelease::ReleaseAssigner::Progress &progress) { tell(progress, terminal); });
+    return m_assigner.run(release, InterruptGuard::isRequested());
+}
+
+ExitStatus AssignRun::run(ReleaseFile &file)
+{
+    const InterruptGuard guard; // until the result is written
+    ReleaseMappingC release = file.release();
+    const bool allRead = assign(release);
+    for (const QString &error : m_assigner.errors())
+        m_err << "velkmap assign: " << error << '\n';
+    if (const ExitStatus written = file.write(release, m_err); written != ExitStatus::Done)
+        return written;
+    m_out << m_reached.projects << " of " << m_reached.totalProjects << " projects with "
+          << sumText(m_reached.counts) << '\n';
+    warnIfNothingFits(m_reached.counts, m_err);
+    if (InterruptGuard::isRequested() && m_reached.projects < m_reached.totalProjects) {
+        m_err << "velkmap assign: interrupted after " << m_reached.projects
+              << " projects; they are saved, run it again for the others\n";
+        return ExitStatus::Interrupted;
+    }
+    return allRead ? ExitStatus::Done : ExitStatus::InputUnreadable;
+}
+
 } // namespace
 
 ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream &err)
@@ -80,40 +157,17 @@ ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream
     if (!isDirectory(line.value("source"), err) || !isDirectory(line.value("target"), err))
         return ExitStatus::InputUnreadable;
     ReleaseFile file;
+    if (const auto failed = file.lock(line, err))
+        return *failed;
     if (const auto failed = file.read(line, err))
         return *failed;
 
     IndexTreeC::instance()->setCatalogRoot(line.value("target"));
-    VelkRelease::ReleaseAssigner assigner(line.value("source"));
-    assigner.setProjects(line.values("project"));
-    assigner.setForce(line.isSet("force"));
     WorkerPool::instance().setThreads(jobs);
-    ReleaseMappingC release = file.release();
-    if (const QStringList unknown = assigner.unknownProjects(release); !unknown.isEmpty())
-        return line.wrongUsage("the mapping has no project " + unknown.join(", "), err);
-
-    bool allRead = false;
-    VelkRelease::ReleaseAssigner::Progress reached;
-    {
-        const InterruptGuard guard;
-        TerminalProgress terminal;
-        assigner.setObserver([&](const VelkRelease::ReleaseAssigner::Progress &progress) {
-            reached = progress;
-            terminal.show(progress.projects, progress.totalProjects, progress.lines);
-        });
-        allRead = assigner.run(release, interrupted);
-    }
-    for (const QString &error : assigner.errors())
-        err << "velkmap assign: " << error << '\n';
-    if (const ExitStatus written = file.write(release, err); written != ExitStatus::Done)
-        return written;
-    out << reached.projects << " projects with " << reached.lines << " lines assigned\n";
-    if (interrupted && reached.projects < reached.totalProjects) {
-        err << "velkmap assign: interrupted after " << reached.projects
-            << " projects; they are saved, run it again for the others\n";
-        return ExitStatus::Interrupted;
-    }
-    return allRead ? ExitStatus::Done : ExitStatus::InputUnreadable;
+    AssignRun run(line, out, err);
+    if (const auto failed = run.check(line, file.release()))
+        return *failed;
+    return run.run(file);
 }
 
 } // namespace velkmap

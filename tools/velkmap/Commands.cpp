@@ -25,8 +25,9 @@ void printHelp(QTextStream &out)
         out << "  " << command.name.leftJustified(8) << command.summary << '\n';
     out << "\n'velkmap COMMAND --help' tells a command's options; 'velkmap --version' the "
            "version.\n"
-           "\nExit status: 0 done, 1 wrong usage, 2 input could not be read,\n"
-           "3 the result could not be written.\n";
+           "\nExit status:\n";
+    for (const auto &[status, text] : exitStatusTexts)
+        out << QString::number(int(status)).rightJustified(5) << "  " << text << '\n';
 }
 
 } // namespace
@@ -66,6 +67,16 @@ ExitStatus run(const QStringList &arguments, QTextStream &out, QTextStream &err)
         return ExitStatus::WrongUsage;
     }
     return found->run(arguments.mid(1), out, err);
+}
+
+ExitStatus finish(ExitStatus status, QTextStream &out, QTextStream &err)
+{
+    out.flush();
+    if (out.status() == QTextStream::Ok)
+        return status;
+    err << "velkmap: standard output cannot be written\n";
+    err.flush();
+    return ExitStatus::ResultUnwritable;
 }
 
 } // namespace velkmap

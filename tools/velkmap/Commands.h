@@ -29,4 +29,8 @@ struct Command
 /// and the files that the command names.
 ExitStatus run(const QStringList &arguments, QTextStream &out, QTextStream &err);
 
+/// Hands on what was printed. Standard output is a result like any other: gives ResultUnwritable if
+/// it cannot be written, else \a status.
+ExitStatus finish(ExitStatus status, QTextStream &out, QTextStream &err);
+
 } // namespace velkmap

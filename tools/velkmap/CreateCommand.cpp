@@ -1,6 +1,7 @@
 #include "CreateCommand.h"
 
 #include "CommandLine.h"
+#include "ReleaseFile.h"
 #include <release/assign/ReleaseDate.h>
 #include <release/assign/ReleaseMappingBuilder.h>
 
@@ -70,6 +71,14 @@ void printSummary(const Builder &builder, QTextStream &out)
         << " without target, " << counts.unreadable << " unreadable\n";
 }
 
+/// A wrong catalog gives no error, but hardly any project has a target.
+void warnIfNothingFits(const Builder &builder, QTextStream &err)
+{
+    if (builder.counts().gone * 2 > builder.release().countMappings())
+        err << "velkmap create: more than half of the projects have no target; do source and "
+               "target fit?\n";
+}
+
 QString alreadyThere(const QString &path, const QString &date)
 {
     return path + " has a release of " + date +
@@ -101,6 +110,9 @@ ExitStatus runCreate(const QStringList &arguments, QTextStream &out, QTextStream
         return line.wrongUsage(wrong, err);
 
     const QString path = QDir::cleanPath(line.value("mapping"));
+    EditLock lock;
+    if (const auto failed = takeLock(lock, path, err))
+        return *failed;
     MappingFile file;
     // No release has that date: all stay text.
     if (QString error; QFileInfo::exists(path) && !file.read(path, " ", &error)) {
@@ -118,6 +130,7 @@ ExitStatus runCreate(const QStringList &arguments, QTextStream &out, QTextStream
     if (const ExitStatus stored = store(builder, path, file, err); stored != ExitStatus::Done)
         return stored;
     printSummary(builder, out);
+    warnIfNothingFits(builder, err);
     return outcome == Builder::Outcome::Incomplete ? ExitStatus::InputUnreadable : ExitStatus::Done;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 namespace velkmap {
 
 /// Exit status of the program.
@@ -10,5 +12,20 @@ enum class ExitStatus {
     ResultUnwritable = 3,
     Interrupted = 130, ///< by Ctrl+C; what was done is kept
 };
+
+struct ExitStatusText
+{
+    ExitStatus status;
+    const char *text; ///< For help text and manual.
+};
+
+/// All of them, in ascending order.
+inline constexpr std::array<ExitStatusText, 5> exitStatusTexts{{
+    {ExitStatus::Done, "done"},
+    {ExitStatus::WrongUsage, "wrong usage"},
+    {ExitStatus::InputUnreadable, "input could not be read; all other work is done"},
+    {ExitStatus::ResultUnwritable, "the result could not be written, or somebody else works on it"},
+    {ExitStatus::Interrupted, "ended by Ctrl+C; what was done is written"},
+}};
 
 } // namespace velkmap

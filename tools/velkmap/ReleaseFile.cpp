@@ -2,6 +2,7 @@
 
 #include "CommandLine.h"
 
+#include <QFileInfo>
 #include <QTextStream>
 
 namespace velkmap {
@@ -11,13 +12,47 @@ namespace {
 // No source date reads so; used to learn a file's dates without making records.
 const QString noDate = QStringLiteral("\x01");
 
+QString ownerText(const SessionOwner &owner)
+{
+    QStringList parts;
+    if (!owner.user.isEmpty())
+        parts << owner.user;
+    if (!owner.host.isEmpty())
+        parts << "on " + owner.host;
+    if (owner.process > 0)
+        parts << QString("(%1, process %2)").arg(owner.program, QString::number(owner.process));
+    return parts.isEmpty() ? QString("somebody") : parts.join(' ');
+}
+
 } // namespace
+
+std::optional<ExitStatus> takeLock(EditLock &lock, const QString &mappingFile, QTextStream &err)
+{
+    const EditLock::Result result = lock.take(mappingFile);
+    if (result == EditLock::Taken)
+        return std::nullopt;
+    err << "velkmap: " << mappingFile;
+    if (result == EditLock::HeldByOther)
+        err << " is being worked on by " << ownerText(lock.owner()) << "; nothing was changed\n";
+    else
+        err << " cannot be written: its folder takes no file\n";
+    return ExitStatus::ResultUnwritable;
+}
 
 void ReleaseFile::addOptions(CommandLine &line)
 {
     line.addRequired("mapping", "FILE", "The mapping file.");
     line.addOptional("release", "DATE",
                      "Source date of the release to work on; the last one of the file by default.");
+}
+
+std::optional<ExitStatus> ReleaseFile::lock(const CommandLine &line, QTextStream &err)
+{
+    const QString path = line.value("mapping");
+    if (QFileInfo::exists(path))
+        return takeLock(m_lock, path, err);
+    err << "velkmap: " << path << ": there is no such file; make it with velkmap create\n";
+    return ExitStatus::InputUnreadable;
 }
 
 std::optional<ExitStatus> ReleaseFile::read(const CommandLine &line, QTextStream &err)

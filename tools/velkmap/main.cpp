@@ -18,5 +18,6 @@ int main(int argc, char **argv)
     PTranslateManager::instance().setLanguage(QStringLiteral("en"));
     QTextStream out(stdout);
     QTextStream err(stderr);
-    return int(velkmap::run(QCoreApplication::arguments().mid(1), out, err));
+    const auto status = velkmap::run(QCoreApplication::arguments().mid(1), out, err);
+    return int(velkmap::finish(status, out, err));
 }

@@ -643,16 +643,16 @@ Please choose another file or copy a backup (%2) back.</translation>
         <translation>%1 projects: %2 in the same place, %3 elsewhere, %4 split, %5 without target, %6 unreadable</translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen zugeordnet</source>
-        <translation>%1 of %2 projects with %3 lines assigned</translation>
+        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
+        <translation>%1 of %2 projects with %3 lines, of these %4 mapped, %5 to check, %6 without target</translation>
     </message>
     <message>
         <source>Abgebrochen, es wurde nichts angelegt</source>
         <translation>Cancelled, nothing was made</translation>
     </message>
     <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen zugeordnet</source>
-        <translation>Cancelled: %1 of %2 projects with %3 lines assigned</translation>
+        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
+        <translation>Cancelled: %1 of %2 projects with %3 lines, of these %4 mapped, %5 to check, %6 without target</translation>
     </message>
     <message>
         <source>Zeilen werden zugeordnet</source>

@@ -78,7 +78,7 @@ void MappingMaker::assignLines(const QString &sourceRoot, const QString &targetR
     PProgress progress(0, m_release.countMappings(), 1, true, false);
     progress.setText(tr("Zeilen werden zugeordnet"));
     std::atomic<bool> cancelled{progress.isCanceled()};
-    ReleaseAssigner::Progress reached{0, m_release.countMappings(), 0};
+    ReleaseAssigner::Progress reached{0, m_release.countMappings(), {}};
     assigner.setObserver([&](const ReleaseAssigner::Progress &now) {
         while (progress.count() < now.projects)
             progress.nextStep();
@@ -90,11 +90,16 @@ void MappingMaker::assignLines(const QString &sourceRoot, const QString &targetR
     progress.done();
     display.deactivate();
     report(assigner.errors());
-    m_summary = reached.projects < reached.totalProjects
-                    ? tr("Abgebrochen: %1 von %2 Projekten mit %3 Zeilen zugeordnet")
-                    : tr("%1 von %2 Projekten mit %3 Zeilen zugeordnet");
+    m_summary =
+        reached.projects < reached.totalProjects
+            ? tr("Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu "
+                 "prüfen, %6 ohne Ziel")
+            : tr("%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 "
+                 "ohne Ziel");
+    const LineCounts &counts = reached.counts;
     m_summary =
         m_summary.arg(QString::number(reached.projects), QString::number(reached.totalProjects),
-                      QString::number(reached.lines));
+                      QString::number(counts.lines()), QString::number(counts.assigned()),
+                      QString::number(counts.unverified()), QString::number(counts.notFound()));
     PMessage::LogToWindow(m_summary);
 }

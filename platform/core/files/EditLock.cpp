@@ -66,7 +66,9 @@ bool EditLock::isTaken() const
 
 QString EditLock::lockFile(const QString &mappingFile)
 {
-    return mappingFile + QStringLiteral(".edit");
+    const QFileInfo info(mappingFile);
+    const QString path = info.canonicalFilePath();
+    return (path.isEmpty() ? info.absoluteFilePath() : path) + QStringLiteral(".edit");
 }
 
 SessionOwner EditLock::self()

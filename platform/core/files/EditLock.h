@@ -34,6 +34,7 @@ public:
     /// Of the lock that was found in the way.
     [[nodiscard]] const SessionOwner &owner() const { return m_owner; }
 
+    /// The same by whatever link the file is named.
     [[nodiscard]] static QString lockFile(const QString &mappingFile);
     /// This process.
     [[nodiscard]] static SessionOwner self();

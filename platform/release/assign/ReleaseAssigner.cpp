@@ -6,13 +6,13 @@
 #include <core/parallel/WorkerPool.h>
 #include <core/text/PPathName.h>
 #include <geomcore/binding/VarsetConditionI.h>
-#include <geomcore/project/PrjClass.h>
 #include <geomcore/table/ContentRef.h>
-#include <geomcore/table/FileLayer.h>
-#include <geomcore/table/Reader.h>
+#include <geomcore/table/readProjectTable.h>
 
+#include <QFileInfo>
 #include <QSet>
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
@@ -34,29 +34,33 @@ QStringList conditionVariables(const PrjMappingC &mapping)
     return names;
 }
 
-// The table of a source project without the project's own filters: every line is to be assigned.
-VKTab::ContentRef readTable(const QString &path, QStringList &errors)
-{
-    refHandle<PrjClass> project(new PrjClass(false, false, false));
-    project->read(PPathName(path).native(), 7);
-    VKTab::ContentRef table;
-    VKTab::Reader reader;
-    const int result = reader.readByProject(project, table, false);
-    for (const VKTab::TableError &error : reader.errors())
-        errors << error.toString();
-    if (result != 1)
-        return {};
-    if (const auto layer = table.getFileLayer()) {
-        layer->removeFilterCondition("PRJLINECOND");
-        layer->removeFilterCondition("BYPRJ");
-        table.invalidate(VKTab::Content::InvalidateFilter, true);
-    }
-    return table;
-}
+constexpr std::chrono::milliseconds TellEvery(100);
 
 void setTableError(PrjMappingC &mapping, bool error)
 {
     mapping.setMappingState(mapping.getMappingState().setFlag(PRJMAPPING::StateTableError, error));
+}
+
+bool hasTableError(const PrjMappingC &mapping)
+{
+    return mapping.getMappingState().testFlag(PRJMAPPING::StateTableError);
+}
+
+QStringList textsOf(const VKTab::TableErrorList &errors)
+{
+    QStringList texts;
+    for (const VKTab::TableError &error : errors)
+        texts << error.toString();
+    return texts;
+}
+
+/// What a project says that was left because of its targets.
+QString targetsText(const QString &sourcePath, const AssignmentOutcome &outcome)
+{
+    return sourcePath + ": the table of " + outcome.unreadableTargets.join(", ") +
+           " could not be read" +
+           (outcome.isLeft ? "; the project's lines were left as they are"
+                           : "; nothing that was assigned without it is sure");
 }
 
 } // namespace
@@ -102,23 +106,52 @@ QList<int> ReleaseAssigner::chosenPositions(const ReleaseMappingC &release) cons
     return positions;
 }
 
-ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
-                                                 const ReleaseMappingC &dates) const
+QStringList ReleaseAssigner::missingCatalogs(const ReleaseMappingC &release,
+                                             const QString &targetRoot) const
 {
-    Outcome outcome{mapping, {}};
+    QStringList missing;
+    const auto look = [&missing](const QString &root, const QString &path) {
+        const QString catalog = QString(path).replace(u'\\', u'/').section(u'/', 0, 0);
+        if (catalog.isEmpty() || catalog.startsWith(u'$') || catalog.contains(u':'))
+            return; // absolute
+        const QString directory = (PPathName(root) + PPathName(catalog)).native();
+        if (!missing.contains(directory) && !QFileInfo(directory).isDir())
+            missing << directory;
+    };
+    for (const int position : chosenPositions(release)) {
+        const PrjMappingC mapping = release.mappingAt(position);
+        look(m_sourceRoot, mapping.getSourcePath());
+        for (const PrjMappingTargetC &target : mapping.getTargets())
+            look(targetRoot, target.getTargetPath());
+    }
+    return missing;
+}
+
+ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
+                                                 const ReleaseMappingC &dates,
+                                                 const std::atomic<bool> &cancelled) const
+{
+    Outcome outcome{mapping, {}, true};
     PStringMessageImpl messages(PMsgReply::Cancel, false);
     const QString sourcePath = mapping.getSourcePath();
-    VKTab::ContentRef table =
-        readTable((PPathName(m_sourceRoot) + PPathName(sourcePath)).native(), outcome.errors);
-    setTableError(outcome.mapping, !table.isValid());
-    if (table.isValid()) {
-        assignProjectLines(sourcePath, outcome.mapping, table, dates, conditionVariables(mapping),
-                           m_force);
+    const QString file = (PPathName(m_sourceRoot) + PPathName(sourcePath)).native();
+    VKTab::ContentRef table;
+    const VKTab::ProjectTable read =
+        VKTab::readProjectTable(file, table, {.allLines = true, .tells = false});
+    outcome.errors = textsOf(read.errors);
+    setTableError(outcome.mapping, !read);
+    if (read) {
+        const AssignmentOutcome assigned =
+            assignProjectLines(sourcePath, outcome.mapping, table, dates,
+                               conditionVariables(mapping), m_force, &cancelled);
+        outcome.isDone = !assigned.isLeft || !assigned.unreadableTargets.isEmpty();
+        if (!assigned.unreadableTargets.isEmpty())
+            outcome.errors << targetsText(sourcePath, assigned);
     }
     messages.deactivate();
     if (!messages.buffer().isEmpty())
-        outcome.errors << messages.buffer();
-    if (!table.isValid() && outcome.errors.isEmpty())
+        outcome.errors.prepend(messages.buffer());
+    if (!read && outcome.errors.isEmpty())
         outcome.errors << sourcePath + ": the project's table could not be read";
     return outcome;
 }
@@ -126,61 +159,59 @@ ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
 bool ReleaseAssigner::run(ReleaseMappingC &release, const std::atomic<bool> &cancelled)
 {
     const QList<int> positions = chosenPositions(release);
-    const auto total = int(positions.size());
-    std::vector<PrjMappingC> mappings;
-    mappings.reserve(std::size_t(total));
-    for (const int position : positions)
-        mappings.push_back(release.mappingAt(position));
     ReleaseMappingC dates;
     dates.setSourceDate(release.getSourceDate());
     dates.setTargetDate(release.getTargetDate());
+    std::vector<Outcome> outcomes;
+    for (const int position : positions)
+        outcomes.push_back({release.mappingAt(position), {}, false});
 
     // The pool takes the projects; this thread only tells how far it has come.
-    std::vector<Outcome> outcomes(mappings.size());
-    std::vector<char> done(mappings.size(), 0);
+    Progress progress{0, int(positions.size()), {}};
     std::mutex mutex;
     std::condition_variable changed;
-    Progress progress{0, total, 0};
     bool working = true;
-    const auto work = [&](int i) {
+    const auto step = [&](int i) {
+        Outcome &outcome = outcomes[std::size_t(i)];
         if (cancelled.load())
             return;
-        Outcome outcome = assign(mappings[std::size_t(i)], dates);
+        outcome = assign(outcome.mapping, dates, cancelled);
+        if (!outcome.isDone)
+            return;
         const std::lock_guard lock(mutex);
         progress.projects += 1;
-        progress.lines += outcome.mapping.lineCounts().lines();
-        outcomes[std::size_t(i)] = std::move(outcome);
-        done[std::size_t(i)] = 1;
+        progress.counts.add(outcome.mapping.lineCounts());
         changed.notify_one();
     };
-    std::thread worker([&] {
-        WorkerPool::instance().run(total, work);
+    std::jthread worker([&] {
+        WorkerPool::instance().run(progress.totalProjects, step);
         const std::lock_guard lock(mutex);
         working = false;
         changed.notify_one();
     });
-    {
-        std::unique_lock lock(mutex);
-        for (int told = 0; working || told < progress.projects;) {
-            changed.wait(lock, [&] { return !working || told < progress.projects; });
-            told = progress.projects;
-            const Progress copy = progress;
-            lock.unlock();
-            if (m_observer && told > 0)
-                m_observer(copy);
-            lock.lock();
-        }
+    std::unique_lock lock(mutex);
+    for (int told = 0; working || told < progress.projects;) {
+        changed.wait_for(lock, TellEvery, [&] { return !working || told < progress.projects; });
+        told = progress.projects;
+        const Progress copy = progress;
+        lock.unlock();
+        if (m_observer)
+            m_observer(copy);
+        lock.lock();
     }
+    lock.unlock();
     worker.join();
+    return take(outcomes, release);
+}
 
+bool ReleaseAssigner::take(const std::vector<Outcome> &outcomes, ReleaseMappingC &release)
+{
     m_errors.clear();
     bool allRead = true;
-    for (int i = 0; i < total; ++i) {
-        Outcome &outcome = outcomes[std::size_t(i)];
-        if (!done[std::size_t(i)])
+    for (const Outcome &outcome : outcomes) {
+        if (!outcome.isDone)
             continue;
-        allRead =
-            allRead && !outcome.mapping.getMappingState().testFlag(PRJMAPPING::StateTableError);
+        allRead = allRead && !hasTableError(outcome.mapping);
         m_errors += outcome.errors;
         release.addMapping(outcome.mapping);
     }

@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <functional>
+#include <vector>
 
 namespace VelkRelease {
 
@@ -16,12 +17,13 @@ namespace VelkRelease {
 class VELKRELEASE_EXPORT ReleaseAssigner
 {
 public:
-    /// What is told after each project, on the thread that runs the assigner.
+    /// What is told after each project and every tenth of a second, on the thread that runs the
+    /// assigner.
     struct Progress
     {
         int projects = 0; ///< done so far
         int totalProjects = 0;
-        qint64 lines = 0; ///< in the projects done so far
+        LineCounts counts; ///< of the projects done so far
     };
 
     /// \a sourceRoot holds the old release's catalog directory. Target projects are looked up
@@ -34,23 +36,31 @@ public:
     void setForce(bool force);
     void setObserver(std::function<void(const Progress &)> observer);
 
-    /// Works on \a release in place, with the threads of WorkerPool. When \a cancelled becomes true, the projects that were begun
-    /// are finished and the others stay as they are. False if a project's table could not be read;
-    /// such a project keeps its lines and is marked with StateTableError.
+    /// Works on \a release in place, with the threads of WorkerPool. When \a cancelled becomes
+    /// true, projects that are not done stay as they are. False if a project's table, or that of
+    /// one of its targets, could not be read: such a project is marked with StateTableError. It
+    /// keeps its lines if the table is its own, and with force in any case.
     bool run(ReleaseMappingC &release, const std::atomic<bool> &cancelled);
 
     /// What could not be read, one message a project, in the release's order.
     [[nodiscard]] const QStringList &errors() const { return m_errors; }
     /// Chosen source paths that the release does not have.
     [[nodiscard]] QStringList unknownProjects(const ReleaseMappingC &release) const;
+    /// Directories of catalogs that the chosen projects lie in, or have targets in, and that are
+    /// not there.
+    [[nodiscard]] QStringList missingCatalogs(const ReleaseMappingC &release,
+                                              const QString &targetRoot) const;
 
 private:
     struct Outcome
     {
         PrjMappingC mapping;
         QStringList errors;
+        bool isDone = false;
     };
-    [[nodiscard]] Outcome assign(const PrjMappingC &mapping, const ReleaseMappingC &dates) const;
+    [[nodiscard]] Outcome assign(const PrjMappingC &mapping, const ReleaseMappingC &dates,
+                                 const std::atomic<bool> &cancelled) const;
+    [[nodiscard]] bool take(const std::vector<Outcome> &outcomes, ReleaseMappingC &release);
     [[nodiscard]] QList<int> chosenPositions(const ReleaseMappingC &release) const;
 
     QString m_sourceRoot;

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class PrjMappingC;
+namespace Mapper {
+class TargetTable;
+}
+
+namespace VelkRelease {
+
+/// Looks whether the tables of all targets of a mapping can be read, below the catalog root of the
+/// index tree, and keeps them open, so that an assignment does not read them again.
+class TargetGuard
+{
+public:
+    explicit TargetGuard(const PrjMappingC &mapping);
+
+    /// Target paths of those that cannot be read, each once, in the mapping's order.
+    [[nodiscard]] const QStringList &unreadable() const { return m_unreadable; }
+
+private:
+    std::vector<std::shared_ptr<const Mapper::TargetTable>> m_tables;
+    QStringList m_unreadable;
+};
+
+} // namespace VelkRelease

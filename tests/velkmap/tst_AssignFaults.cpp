@@ -1,0 +1,279 @@
+#include "TestCatalog.h"
+
+#include <core/files/EditLock.h>
+#include <geomcore/index/IndexTreeC.h>
+#include <geomcore/records/MappingFile.h>
+#include <geomcore/table/ContentRef.h>
+#include <geomcore/table/readProjectTable.h>
+#include <release/assign/assignProjectLines.h>
+#include <tools/velkmap/Commands.h>
+#include <tools/velkmap/InterruptGuard.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextStream>
+
+#include <csignal>
+
+using velkmap::ExitStatus;
+
+// What is there must outlive tables that cannot be read, others who write, and Ctrl+C. Two
+// projects: "both" with lines in two targets, "other" beside it.
+class tst_AssignFaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void unreadableTargets_data();
+    void unreadableTargets();
+    void missingCatalog_data();
+    void missingCatalog();
+    void catalogsOfOtherProjects();
+    void lockedFile();
+    void ownLockGoes();
+    void sums();
+    void hardlyAnyTarget();
+    void cancelledInsideAProject();
+    void interruptsAsk();
+
+private:
+    ExitStatus run(const QStringList &arguments);
+    ExitStatus assign(const QStringList &more = {})
+    {
+        return run(QStringList{"assign", "--mapping", path("m.json"), "--source", path("r1"),
+                               "--target", path("r2")} +
+                   more);
+    }
+    [[nodiscard]] QString path(const QString &name) const { return m_dir->filePath(name); }
+    [[nodiscard]] QByteArray content(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    [[nodiscard]] PrjMappingC mapping(const QString &project) const;
+    [[nodiscard]] QStringList linesOf(const QString &project) const;
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    QString m_out;
+    QString m_err;
+};
+
+ExitStatus tst_AssignFaults::run(const QStringList &arguments)
+{
+    m_out.clear();
+    m_err.clear();
+    QTextStream out(&m_out);
+    QTextStream err(&m_err);
+    return velkmap::run(arguments, out, err);
+}
+
+void tst_AssignFaults::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    TestCatalog old(path("r1/cat"));
+    old.add("both", "key,a,b;k1,1,2;k2,3,4;k3,5,6;k4,7,8", {"key"});
+    old.add("other", "key,a,b;o1,11,12;o2,13,14", {"key"});
+    TestCatalog now(path("r2/cat"));
+    now.add("first", "key,a,b;k1,1,2;k2,3,4", {"key"});
+    now.add("second", "key,a,b;k3,5,6;k4,7,8", {"key"});
+    now.add("other", "key,a,b;o1,11,12;o2,13,14", {"key"});
+    QCOMPARE(run({"create", "--source", path("r1"), "--target", path("r2"), "--catalog", "cat",
+                  "--mapping", path("m.json")}),
+             ExitStatus::Done);
+    QCOMPARE(mapping("cat/both.prj").countTargets(), 2);
+    QCOMPARE(assign(), ExitStatus::Done);
+    QCOMPARE(mapping("cat/both.prj").lineCounts().lines(), 4);
+    QCOMPARE(mapping("cat/both.prj").lineCounts().notFound(), 0);
+}
+
+PrjMappingC tst_AssignFaults::mapping(const QString &project) const
+{
+    MappingFile file;
+    if (!file.read(path("m.json")))
+        return {};
+    for (const PrjMappingC &mapping : file.releases().value(0).getMappingList()) {
+        if (mapping.getSourcePath() == project)
+            return mapping;
+    }
+    return {};
+}
+
+QStringList tst_AssignFaults::linesOf(const QString &project) const
+{
+    QStringList lines;
+    const QList<PrjMappingTargetC> targets = mapping(project).getTargets();
+    for (const PrjMappingTargetC &target : targets) {
+        for (const LineTable::Iterator &line : target.lines())
+            lines << QStringLiteral("%1:%2>%3")
+                         .arg(target.getTargetPath(), QString::number(line.sourceLine()),
+                              QString::number(line.line().getTargetLineId()));
+    }
+    return lines;
+}
+
+void tst_AssignFaults::unreadableTargets_data()
+{
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<bool>("force");
+    for (const bool force : {false, true}) {
+        const QByteArray how = force ? ", with force" : "";
+        QTest::newRow("no project" + how) << "second.prj" << force;
+        QTest::newRow("no descriptor" + how) << "second.json" << force;
+        QTest::newRow("no lines" + how) << "second.csv" << force;
+        QTest::newRow("lines that are no UTF-8" + how) << "" << force;
+    }
+}
+
+void tst_AssignFaults::unreadableTargets()
+{
+    QFETCH(QString, fault);
+    QFETCH(bool, force);
+    const QStringList before = linesOf("cat/both.prj");
+    if (fault.isEmpty())
+        TestCatalog(path("r2/cat")).writeFile("second.csv", "key,a,b\nk3,\xff,6\n");
+    else
+        QVERIFY(QFile::remove(path("r2/cat/" + fault)));
+    QCOMPARE(assign(force ? QStringList{"--force"} : QStringList()), ExitStatus::InputUnreadable);
+    QVERIFY2(m_err.contains("cat/second.prj"), qPrintable(m_err));
+    QCOMPARE(linesOf("cat/both.prj"), before);
+    QVERIFY(mapping("cat/both.prj").getMappingState().testFlag(PRJMAPPING::StateTableError));
+    QCOMPARE(linesOf("cat/other.prj").size(), 2);
+    QVERIFY(!mapping("cat/other.prj").getMappingState().testFlag(PRJMAPPING::StateTableError));
+}
+
+void tst_AssignFaults::missingCatalog_data()
+{
+    QTest::addColumn<QString>("gone");
+    QTest::newRow("of the targets") << "r2/cat";
+    QTest::newRow("of the source") << "r1/cat";
+}
+
+void tst_AssignFaults::missingCatalog()
+{
+    QFETCH(QString, gone);
+    QVERIFY(QDir().rename(path(gone), path("elsewhere")));
+    const QByteArray before = content("m.json");
+    for (const QStringList &more : {QStringList(), QStringList{"--force"}}) {
+        QCOMPARE(assign(more), ExitStatus::InputUnreadable);
+        QVERIFY2(m_err.contains(path(gone)), qPrintable(m_err));
+        QCOMPARE(content("m.json"), before);
+    }
+}
+
+void tst_AssignFaults::catalogsOfOtherProjects()
+{
+    MappingFile file;
+    QVERIFY(file.read(path("m.json")));
+    ReleaseMappingC release = file.releases().value(0);
+    PrjMappingC elsewhere;
+    elsewhere.setSourcePath("gone/a.prj");
+    elsewhere.setSourceVersion("v1");
+    release.addMapping(elsewhere);
+    file.setRelease(release);
+    QVERIFY(file.write(path("m.json")));
+    QCOMPARE(assign({"--project", "cat/other.prj"}), ExitStatus::Done);
+    QCOMPARE(assign(), ExitStatus::InputUnreadable);
+    QVERIFY2(m_err.contains(path("r1/gone")), qPrintable(m_err));
+}
+
+void tst_AssignFaults::lockedFile()
+{
+    const QByteArray before = content("m.json");
+    QVERIFY(QFile::link(path("m.json"), path("link.json")));
+    EditLock lock;
+    QCOMPARE(lock.take(path("m.json")), EditLock::Taken);
+    QCOMPARE(assign({"--force"}), ExitStatus::ResultUnwritable);
+    QVERIFY2(m_err.contains(QString("process %1").arg(QCoreApplication::applicationPid())),
+             qPrintable(m_err));
+    for (const char *name : {"m.json", "link.json"}) {
+        QCOMPARE(run({"create", "--replace", "--source", path("r1"), "--target", path("r2"),
+                      "--catalog", "cat", "--mapping", path(name)}),
+                 ExitStatus::ResultUnwritable);
+        QVERIFY2(m_err.contains(name), qPrintable(m_err));
+    }
+    QCOMPARE(content("m.json"), before);
+    QCOMPARE(run({"stats", "--mapping", path("m.json")}), ExitStatus::Done);
+}
+
+void tst_AssignFaults::ownLockGoes()
+{
+    QCOMPARE(assign(), ExitStatus::Done);
+    QVERIFY(!QFile::exists(EditLock::lockFile(path("m.json"))));
+}
+
+void tst_AssignFaults::sums()
+{
+    QCOMPARE(assign(), ExitStatus::Done);
+    QCOMPARE(m_out, QString("2 of 2 projects with 6 lines: 2 mapped, 4 to check, 0 confirmed, 0 "
+                            "without target\n"));
+    QCOMPARE(m_err, QString());
+    MappingFile file;
+    QVERIFY(file.read(path("m.json")));
+    ReleaseMappingC release = file.releases().value(0);
+    PrjMappingC changed = mapping("cat/both.prj");
+    PrjMappingTargetC target = changed.findTarget(0);
+    target.addLineId(1, 1, PRJMAPPING::Verified, {});
+    target.addLineId(2, 2, PRJMAPPING::ToCheck, {});
+    changed.updateTarget(0, target);
+    PrjMappingTargetC none;
+    none.setValid(true);
+    none.addLineId(9, -1, PRJMAPPING::Verified, {});
+    changed.addTarget(none);
+    release.addMapping(changed);
+    file.setRelease(release);
+    QVERIFY(file.write(path("m.json")));
+    QVERIFY(QFile::remove(path("r1/cat/both.prj"))); // its lines stay
+    QCOMPARE(assign(), ExitStatus::InputUnreadable);
+    QCOMPARE(m_out, QString("2 of 2 projects with 7 lines: 2 mapped, 3 to check, 1 confirmed, 1 "
+                            "without target\n"));
+}
+
+void tst_AssignFaults::hardlyAnyTarget()
+{
+    for (const char *name : {"first", "second"})
+        TestCatalog(path("r2/cat")).add(name, "key,c;zzz,quite another text", {"key"});
+    QCOMPARE(assign({"--force", "--project", "cat/both.prj"}), ExitStatus::Done);
+    QVERIFY2(m_out.contains("4 without target"), qPrintable(m_out));
+    QVERIFY2(m_err.contains("more than half of the lines have no target"), qPrintable(m_err));
+    TestCatalog(path("r3/cat")).add("first", "key,c;zzz,quite another text", {"key"});
+    QCOMPARE(run({"create", "--source", path("r1"), "--target", path("r3"), "--catalog", "cat",
+                  "--mapping", path("other.json")}),
+             ExitStatus::Done);
+    QVERIFY2(m_err.contains("more than half of the projects have no target"), qPrintable(m_err));
+}
+
+void tst_AssignFaults::cancelledInsideAProject()
+{
+    IndexTreeC::instance()->setCatalogRoot(path("r2"));
+    VKTab::ContentRef table;
+    QVERIFY(VKTab::readProjectTable(path("r1/cat/both.prj"), table));
+    const PrjMappingC before = mapping("cat/both.prj");
+    PrjMappingC now = before;
+    const std::atomic<bool> cancelled{true};
+    const VelkRelease::AssignmentOutcome outcome = VelkRelease::assignProjectLines(
+        "cat/both.prj", now, table, ReleaseMappingC(), {}, true, &cancelled);
+    QVERIFY(outcome.isLeft);
+    QVERIFY(outcome.unreadableTargets.isEmpty());
+    QCOMPARE(now.lineCounts(), before.lineCounts());
+    QCOMPARE(int(now.getMappingState()), int(before.getMappingState()));
+}
+
+void tst_AssignFaults::interruptsAsk()
+{
+    {
+        const velkmap::InterruptGuard guard;
+        QVERIFY(!velkmap::InterruptGuard::isRequested());
+        QCOMPARE(std::raise(SIGINT), 0);
+        QVERIFY(velkmap::InterruptGuard::isRequested());
+        QCOMPARE(std::raise(SIGINT), 0);
+        QCOMPARE(std::raise(SIGTERM), 0);
+    }
+    const velkmap::InterruptGuard guard;
+    QVERIFY(!velkmap::InterruptGuard::isRequested());
+}
+
+QTEST_GUILESS_MAIN(tst_AssignFaults)
+#include "tst_AssignFaults.moc"
