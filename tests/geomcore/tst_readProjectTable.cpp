@@ -88,7 +88,7 @@ void tst_readProjectTable::ownChoiceOfLines()
     QFETCH(int, count);
     const TestCatalog catalog;
     catalog.write("cat/a.prj", "A:n\n1\n2\n3\n", [&](VKTab::TableDescriptor &descriptor) {
-        descriptor.filterConditions.append({name, QStringLiteral("A<2"), {}});
+        descriptor.filterConditions.append({name, QStringLiteral("A .EQ. 2"), {}});
     });
     VKTab::Content table;
     QVERIFY(VKTab::readProjectTable(catalog.file("cat/a.prj"), table,
