@@ -12,6 +12,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace {
 
 PJsonValue record(const char *kind, const QString &text = QString())
@@ -36,7 +38,13 @@ private Q_SLOTS:
     void sessions();
     void damage_data();
     void damage();
+    void halfARowIsEndedFirst();
+    void unknownSessions_data();
+    void unknownSessions();
     void aFolderIsNoJournal();
+    void otherThingsAreNoJournal_data();
+    void otherThingsAreNoJournal();
+    void knowsWhetherItIsInPlace();
 };
 
 void tst_JournalFile::appendsToWhatIsThere()
@@ -164,7 +172,7 @@ void tst_JournalFile::damage_data()
     QTest::newRow("zeros at the end")
         << opened + step + QByteArray(5000, '\0') << 1 << QList<int>{1};
     QTest::newRow("garbage before") << "garbage\n" + opened + step << 1 << QList<int>{};
-    QTest::newRow("no opening") << step + step << 1 << QList<int>{0};
+    QTest::newRow("no opening") << step + step << 2 << QList<int>{};
     QTest::newRow("only garbage") << QByteArray(100000, 'x') << 0 << QList<int>{0};
 }
 
@@ -180,6 +188,119 @@ void tst_JournalFile::damage()
     QVERIFY(reader.read(path));
     QCOMPARE(reader.sessions().last().records.size(), records);
     QCOMPARE(reader.sessions().last().gaps, gaps);
+}
+
+/// What a killed program left of a row spoils nothing that comes later.
+void tst_JournalFile::halfARowIsEndedFirst()
+{
+    const SessionFixture files;
+    const QString path = files.path(QStringLiteral("j"));
+    const QByteArray opened = JournalText::frame(R"({"kind":"opened","sourceDate":"1"})");
+    SessionFixture::setContent(path, opened + opened.chopped(5));
+    {
+        JournalFile journal;
+        QVERIFY(journal.open(path));
+        journal.append(record("opened"));
+        journal.append(record("step"));
+        QVERIFY(journal.flush());
+    }
+    JournalReader reader;
+    QVERIFY(reader.read(path));
+    QCOMPARE(reader.sessions().size(), 2);
+    QCOMPARE(reader.sessions()[0].gaps, QList<int>{0});
+    QVERIFY(reader.sessions()[1].isKnown);
+    QVERIFY(reader.sessions()[1].gaps.isEmpty());
+    QCOMPARE(reader.sessions()[1].records.size(), 1);
+    // A whole last row is left as it is.
+    const QByteArray before = SessionFixture::content(path);
+    JournalFile journal;
+    QVERIFY(journal.open(path));
+    journal.append(record("step"));
+    QVERIFY(journal.flush());
+    QVERIFY(!SessionFixture::content(path).contains("\n\n"));
+    QVERIFY(SessionFixture::content(path).startsWith(before));
+}
+
+void tst_JournalFile::unknownSessions_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QList<int>>("records"); ///< of each session
+    QTest::addColumn<QList<bool>>("known");
+    const QByteArray opened = JournalText::frame(R"({"kind":"opened","sourceDate":"1"})");
+    const QByteArray step = JournalText::frame(R"({"kind":"step"})");
+    const QByteArray closed = JournalText::frame(R"({"kind":"closed"})");
+    QTest::newRow("behind a closed one")
+        << opened + step + closed + step + step << QList<int>{1, 2} << QList<bool>{true, false};
+    QTest::newRow("damage behind a closed one")
+        << opened + closed + "x\n" + step << QList<int>{0, 1} << QList<bool>{true, false};
+    QTest::newRow("damage in an open one")
+        << opened + step + "x\n" + step << QList<int>{2} << QList<bool>{true};
+    QTest::newRow("closed itself") << opened + closed + "x\n" + step + closed + opened
+                                   << QList<int>{0, 1, 0} << QList<bool>{true, false, true};
+    QTest::newRow("nothing known") << step << QList<int>{1} << QList<bool>{false};
+}
+
+void tst_JournalFile::unknownSessions()
+{
+    QFETCH(QByteArray, bytes);
+    const SessionFixture files;
+    SessionFixture::setContent(files.path(QStringLiteral("j")), bytes);
+    JournalReader reader;
+    QVERIFY(reader.read(files.path(QStringLiteral("j"))));
+    QList<int> records;
+    QList<bool> known;
+    for (const JournalReader::Session &session : reader.sessions()) {
+        records += int(session.records.size());
+        known += session.isKnown;
+    }
+    QTEST(records, "records");
+    QTEST(known, "known");
+}
+
+void tst_JournalFile::otherThingsAreNoJournal_data()
+{
+    QTest::addColumn<QString>("thing");
+    for (const char *thing : {"link", "dangling link", "pipe"})
+        QTest::newRow(thing) << QString::fromLatin1(thing);
+}
+
+void tst_JournalFile::otherThingsAreNoJournal()
+{
+    QFETCH(QString, thing);
+    const SessionFixture files;
+    const QString path = files.path(QStringLiteral("j"));
+    const QString victim = files.path(QStringLiteral("victim"));
+    if (thing == u"link")
+        SessionFixture::setContent(victim, "precious");
+    if (thing == u"pipe")
+        QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
+    else
+        QVERIFY(QFile::link(victim, path));
+    JournalFile journal;
+    QVERIFY(!journal.open(path));
+    QVERIFY2(journal.errorText().contains(QStringLiteral("gewöhnliche Datei")),
+             qPrintable(journal.errorText()));
+    JournalReader reader;
+    QString error;
+    QVERIFY(!reader.read(path, &error));
+    QVERIFY(!error.isEmpty());
+    QCOMPARE(SessionFixture::content(victim),
+             thing == u"link" ? QByteArray("precious") : QByteArray());
+    QCOMPARE(QFile::exists(victim), thing == u"link");
+}
+
+void tst_JournalFile::knowsWhetherItIsInPlace()
+{
+    const SessionFixture files;
+    const QString path = files.path(QStringLiteral("j"));
+    JournalFile journal;
+    QVERIFY(!journal.isInPlace());
+    QVERIFY(journal.open(path));
+    QVERIFY(journal.isInPlace());
+    QVERIFY(QFile::remove(path));
+    QVERIFY(!journal.isInPlace());
+    SessionFixture::setContent(path, {});
+    QVERIFY(!journal.isInPlace());
 }
 
 void tst_JournalFile::aFolderIsNoJournal()

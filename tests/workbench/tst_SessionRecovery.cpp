@@ -159,6 +159,13 @@ private Q_SLOTS:
     void newReleaseInAKnownFile_data();
     void newReleaseInAKnownFile();
     void readOnlyDoesNotAsk();
+    void aDamagedOpeningHidesNothing_data();
+    void aDamagedOpeningHidesNothing();
+    void damageBehindTheLastSession();
+    void laterChangesAreOfferedApart();
+    void anUnreadableJournalIsTold();
+    void theSavedVersionMayBeNewer();
+    void otherReleasesComeFromTheBackup();
 
 private:
     void kill(const QStringList &deeds);
@@ -407,8 +414,8 @@ void tst_SessionRecovery::damagedJournals_data()
                                        << QStringLiteral("Die letzte Änderung kann fehlen.");
     QTest::newRow("second change wrong") << QByteArray("\"change\",\"step\":2") << false << 3
                                          << QStringLiteral("Die letzte Änderung kann fehlen.");
-    QTest::newRow("first change wrong") << QByteArray("\"change\",\"step\":1") << false << 0
-                                        << QStringLiteral("Mindestens 1 spätere");
+    QTest::newRow("first change wrong") << QByteArray("\"change\",\"step\":1") << false << 1
+                                        << QStringLiteral("passen noch 1 Änderungen");
 }
 
 void tst_SessionRecovery::damagedJournals()
@@ -427,16 +434,6 @@ void tst_SessionRecovery::damagedJournals()
     else
         bytes[at + 1] = char(bytes[at + 1] ^ 1);
     SessionFixture::setContent(journal, bytes);
-    if (verified == 0) {
-        // Nothing before the damage: the saved version is opened, the journal stays to be read.
-        QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
-        QCOMPARE(open(), MappingDocument::OpenResult::Opened);
-        QCOMPARE(problems.size(), 1);
-        QVERIFY(problems.first().first().toString().contains(damage));
-        QCOMPARE(m_document->counts().verified(), 0);
-        QCOMPARE(names(QStringLiteral("release.json.journal.alt-*")).size(), 1);
-        return;
-    }
     QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
     QCOMPARE(m_document->recoveryOffer().recovered.counts.verified(), verified);
     QVERIFY2(m_document->recoveryOffer().damage.contains(damage),
@@ -486,7 +483,10 @@ void tst_SessionRecovery::damageAnywhere()
         const QByteArray found = recovery.offer().isValid()
                                      ? SessionFixture::bytes(recovery.recoveredRelease())
                                      : states.first();
-        QVERIFY2(found == states[step] || found == states[step + 1],
+        // With nothing before it, what is behind it and fits.
+        const bool later = recovery.offer().laterChanges > 0 && !recovery.offer().further.available;
+        QVERIFY2(found == states[step] || found == states[step + 1] ||
+                     (later && step == 0 && recovery.offer().recovered.counts.verified() > 0),
                  qPrintable(QStringLiteral("damaged at %1").arg(at)));
         if (recovery.offer().isValid() && !cut)
             QVERIFY(!recovery.offer().damage.isEmpty());
@@ -661,6 +661,158 @@ void tst_SessionRecovery::readOnlyDoesNotAsk()
     QCOMPARE(m_document->open({m_file, {}, {}, MappingDocument::Access::ReadOnly, {}}),
              MappingDocument::OpenResult::OpenedReadOnly);
     QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+}
+
+void tst_SessionRecovery::aDamagedOpeningHidesNothing_data()
+{
+    QTest::addColumn<QString>("how");
+    for (const char *how : {"one bit", "cut", "merged", "gone", "zeros"})
+        QTest::newRow(how) << QString::fromLatin1(how);
+}
+
+/// The row that opens the last session cannot be read; the one before was closed.
+void tst_SessionRecovery::aDamagedOpeningHidesNothing()
+{
+    QFETCH(QString, how);
+    m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2020-01-01")));
+    QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    m_document->close();
+    const QString journal = m_file + QStringLiteral(".journal");
+    const QByteArray before = SessionFixture::content(journal);
+    QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(id("cat/a.prj")), {1, 2}, 2));
+    m_document->finishStep();
+    QByteArray now = SessionFixture::content(journal);
+    m_document->close();
+    const qsizetype end = now.indexOf('\n', before.size()) + 1;
+    if (how == u"one bit")
+        now[before.size() + 30] = char(now[before.size() + 30] ^ 1);
+    else if (how == u"cut")
+        now.remove(before.size() + 20, 40);
+    else if (how == u"merged")
+        now.insert(before.size(), now.mid(before.size(), 20));
+    else if (how == u"gone")
+        now.remove(before.size(), end - before.size());
+    else
+        now.replace(before.size(), 16, QByteArray(16, '\0'));
+    SessionFixture::setContent(journal, now);
+
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    const RecoveryOffer &offer = m_document->recoveryOffer();
+    QCOMPARE(offer.sourceDate, Date);
+    QCOMPARE(offer.recovered.counts.verified(), 2);
+    QCOMPARE(offer.damage.isEmpty(), how == u"gone");
+    QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
+    QCOMPARE(m_document->counts().verified(), 2);
+    QCOMPARE(m_document->release().getSourceDate(), Date);
+}
+
+void tst_SessionRecovery::damageBehindTheLastSession()
+{
+    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
+    const QString journal = m_document->journalFile();
+    m_document->close();
+    SessionFixture::setContent(journal, SessionFixture::content(journal) + "half a row");
+    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
+    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
+    QCOMPARE(problems.size(), 1);
+    QVERIFY2(problems.first().first().toString().contains(
+                 QStringLiteral("Hinter der letzten abgeschlossenen Sitzung")),
+             qPrintable(problems.first().first().toString()));
+    QCOMPARE(names(QStringLiteral("release.json.journal.alt-*")).size(), 1);
+}
+
+void tst_SessionRecovery::laterChangesAreOfferedApart()
+{
+    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
+    for (int line = 1; line <= 10; ++line) {
+        for (const char *path : {"cat/a.prj", "cat/screws/b.prj"}) {
+            m_document->updateMapping(
+                SessionFixture::withState(m_document->mapping(id(path)), {line}, 2));
+            m_document->finishStep();
+        }
+    }
+    const QString journal = m_document->journalFile();
+    QByteArray bytes = SessionFixture::content(journal);
+    m_document->close();
+    const qsizetype second = bytes.indexOf("\"change\",\"step\":2");
+    bytes[second + 2] = char(bytes[second + 2] ^ 1);
+    SessionFixture::setContent(journal, bytes);
+
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    const RecoveryOffer &offer = m_document->recoveryOffer();
+    QCOMPARE(offer.recovered.counts.verified(), 1);
+    QVERIFY(offer.further.available);
+    QCOMPARE(offer.further.counts.verified(), 19);
+    QCOMPARE(offer.laterChanges, 18);
+    QCOMPARE(offer.lostChanges, 0);
+    QVERIFY2(offer.damage.contains(QStringLiteral("passen noch 18 Änderungen")),
+             qPrintable(offer.damage));
+    QCOMPARE(open(MappingDocument::Recovery::UseFurther), MappingDocument::OpenResult::Opened);
+    QCOMPARE(m_document->counts().verified(), 19);
+    m_document->undo();
+    QCOMPARE(m_document->counts().verified(), 0);
+}
+
+void tst_SessionRecovery::anUnreadableJournalIsTold()
+{
+    QVERIFY(QDir().mkpath(m_file + QStringLiteral(".journal")));
+    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
+    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
+    QVERIFY(problems.size() >= 1);
+    QStringList texts;
+    for (const QList<QVariant> &problem : problems)
+        texts += problem.first().toString();
+    QVERIFY2(texts.join(u' ').contains(QStringLiteral("gewöhnliche Datei")),
+             qPrintable(texts.join(u' ')));
+}
+
+/// The journal could not be written any more, saving went well, then the program was killed.
+void tst_SessionRecovery::theSavedVersionMayBeNewer()
+{
+    kill({QStringLiteral("confirm")});
+    QVERIFY(QFile::copy(m_file, m_file + QStringLiteral(".bak")));
+    ReleaseMappingC saved = SessionFixture::sampleRelease();
+    saved.addMapping(SessionFixture::withState(saved.mappingAt(0), {1, 2, 3, 4, 5}, 2));
+    QTest::qWait(20);
+    m_files->addRelease(m_file, saved);
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    QCOMPARE(m_document->recoveryOffer().saved.counts.verified(), 5);
+    QCOMPARE(m_document->recoveryOffer().recovered.counts.verified(), 3);
+    QVERIFY(m_document->recoveryOffer().savedIsNewer);
+    // Not so in the usual case.
+    m_files->addRelease(m_file, SessionFixture::sampleRelease());
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    QVERIFY(!m_document->recoveryOffer().savedIsNewer);
+}
+
+/// The file is torn, as an earlier version of the program could leave it.
+void tst_SessionRecovery::otherReleasesComeFromTheBackup()
+{
+    const ReleaseMappingC other = SessionFixture::sampleRelease(QStringLiteral("2020-01-01"));
+    m_files->addRelease(m_file, other);
+    QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(id("cat/a.prj")), {1}, 2));
+    m_document->finishStep();
+    const QByteArray journal = SessionFixture::content(m_document->journalFile());
+    const QString journalFile = m_document->journalFile();
+    m_document->close();
+    SessionFixture::setContent(journalFile, journal);
+    QVERIFY(QFile::copy(m_file, m_file + QStringLiteral(".bak")));
+    SessionFixture::setContent(m_file, SessionFixture::content(m_file).left(300));
+
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
+    SaveOptions options;
+    options.overUnreadable = true;
+    QCOMPARE(m_document->save(options).result, SaveResult::Saved);
+    MappingFile now;
+    QVERIFY(now.read(m_file));
+    QCOMPARE(SessionFixture::bytes(now.release(QStringLiteral("2020-01-01"))),
+             SessionFixture::bytes(other));
+    QCOMPARE(now.release(Date).mappingAt(0).lineCounts().verified(), 1);
 }
 
 int main(int argc, char *argv[])

@@ -1,6 +1,7 @@
 #include "JournalFile.h"
 
 #include "JournalText.h"
+#include "OwnFile.h"
 
 #include <core/files/DurableFile.h>
 #include <core/json/PJsonValue.h>
@@ -29,16 +30,29 @@ JournalFile::~JournalFile()
 bool JournalFile::open(const QString &path)
 {
     close();
-    m_file.setFileName(path);
-    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
-        m_errorText = m_file.errorString();
+    m_path = path;
+    if (!OwnFile::open(m_file, path,
+                       QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered,
+                       &m_errorText))
         return false;
-    }
     m_goodSize = m_file.size();
+    // Half a row of a killed program must not take the next one along.
+    if (m_goodSize > 0 && !endsWithLineFeed())
+        m_pending = QByteArrayLiteral("\n");
     m_failing = false;
     m_errorText.clear();
     m_sinceFlush.start();
     return true;
+}
+
+bool JournalFile::endsWithLineFeed()
+{
+    return m_file.seek(m_goodSize - 1) && m_file.read(1) == "\n";
+}
+
+bool JournalFile::isInPlace() const
+{
+    return isOpen() && OwnFile::isName(m_path, m_file);
 }
 
 void JournalFile::close()
@@ -81,7 +95,6 @@ bool JournalFile::flush()
         m_failing = false;
         return true;
     }
-    m_errorText = m_file.errorString();
     // Half a row must not stay before the rows that come later.
     if (m_file.resize(m_goodSize))
         m_file.seek(m_goodSize);
@@ -94,9 +107,11 @@ bool JournalFile::flush()
 
 bool JournalFile::write()
 {
-    if (m_file.size() != m_goodSize && !m_file.resize(m_goodSize))
+    if (m_file.size() != m_goodSize && !m_file.resize(m_goodSize)) {
+        m_errorText = m_file.errorString();
         return false;
-    if (m_file.write(m_pending) != m_pending.size())
+    }
+    if (!OwnFile::append(m_file, m_pending, &m_errorText))
         return false;
     m_goodSize += m_pending.size();
     m_pending.clear();

@@ -21,11 +21,14 @@ public:
     explicit JournalFile(QObject *parent = nullptr);
     ~JournalFile() override;
 
-    /// Opens the file for appending, made if it is missing. False with errorText().
+    /// Opens the file for appending, made if it is missing; a last row without an end gets one.
+    /// False with errorText().
     [[nodiscard]] bool open(const QString &path);
     void close();
     [[nodiscard]] bool isOpen() const { return m_file.isOpen(); }
-    [[nodiscard]] QString path() const { return m_file.fileName(); }
+    [[nodiscard]] QString path() const { return m_path; }
+    /// What is open stands under its name; not so when its folder was deleted meanwhile.
+    [[nodiscard]] bool isInPlace() const;
     [[nodiscard]] QString errorText() const { return m_errorText; }
 
     void append(const PJsonValue &record);
@@ -41,9 +44,11 @@ Q_SIGNALS:
     void failed(const QString &errorText);
 
 private:
+    [[nodiscard]] bool endsWithLineFeed();
     void appendRow(const QByteArray &row);
     bool write();
 
+    QString m_path;
     QFile m_file;
     QByteArray m_pending;
     qint64 m_goodSize = 0; ///< where the last whole row ends

@@ -1,6 +1,7 @@
 #include "JournalReader.h"
 
 #include "JournalText.h"
+#include "OwnFile.h"
 
 #include <core/json/PJsonValue.h>
 
@@ -16,6 +17,7 @@ QDateTime timeOf(const PJsonValue &record)
 JournalReader::Session makeSession(const PJsonValue &record)
 {
     JournalReader::Session session;
+    session.isKnown = true;
     session.owner.user = record.value(QStringLiteral("user")).toText();
     session.owner.host = record.value(QStringLiteral("host")).toText();
     session.owner.program = record.value(QStringLiteral("program")).toText();
@@ -32,14 +34,11 @@ JournalReader::Session makeSession(const PJsonValue &record)
 bool JournalReader::read(const QString &path, QString *error)
 {
     m_sessions.clear();
-    QFile file(path);
-    if (!file.exists())
+    if (OwnFile::place(path) == OwnFile::Place::Free)
         return true;
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = QStringLiteral("%1: %2").arg(path, file.errorString());
+    QFile file;
+    if (!OwnFile::open(file, path, QIODevice::ReadOnly, error))
         return false;
-    }
     while (!file.atEnd()) {
         QByteArray row = file.readLine();
         const bool whole = row.endsWith('\n');
@@ -56,32 +55,27 @@ bool JournalReader::read(const QString &path, QString *error)
 
 void JournalReader::take(QByteArrayView record)
 {
-    // All records begin with their kind.
-    const auto is = [record](const char *kind) {
-        return record.startsWith(QByteArray("{\"kind\":\"") + kind + '"');
-    };
-    if (is("opened")) {
+    if (isKind(record, "opened"))
         m_sessions.append(makeSession(parse(record.toByteArray())));
-        return;
-    }
-    if (m_sessions.isEmpty()) {
-        noteDamage();
-        return;
-    }
-    if (is("closed"))
-        m_sessions.last().closed = true;
+    else if (isKind(record, "closed"))
+        openSession().closed = true;
     else
-        m_sessions.last().records.append(record.toByteArray());
+        openSession().records.append(record.toByteArray());
 }
 
 void JournalReader::noteDamage()
 {
-    if (m_sessions.isEmpty())
-        m_sessions.append(Session());
-    Session &session = m_sessions.last();
+    Session &session = openSession();
     const int at = int(session.records.size());
     if (session.gaps.isEmpty() || session.gaps.last() != at)
         session.gaps.append(at);
+}
+
+JournalReader::Session &JournalReader::openSession()
+{
+    if (m_sessions.isEmpty() || m_sessions.last().closed)
+        m_sessions.append(Session());
+    return m_sessions.last();
 }
 
 PJsonValue JournalReader::parse(const QByteArray &record)
@@ -90,9 +84,9 @@ PJsonValue JournalReader::parse(const QByteArray &record)
     return value.parse(record) ? value : PJsonValue();
 }
 
-QString JournalReader::kindOf(const PJsonValue &record)
+bool JournalReader::isKind(QByteArrayView record, const char *kind)
 {
-    return record.value(QStringLiteral("kind")).toText();
+    return record.startsWith(QByteArray("{\"kind\":\"") + kind + '"');
 }
 
 QList<JournalReader::Step> JournalReader::steps(const Session &session, int from)
@@ -100,7 +94,7 @@ QList<JournalReader::Step> JournalReader::steps(const Session &session, int from
     QList<Step> result;
     for (int i = from; i < session.records.size(); ++i) {
         const QByteArray &row = session.records[i];
-        if (!row.startsWith("{\"kind\":\"step\""))
+        if (!isKind(row, "step"))
             continue;
         const PJsonValue record = parse(row);
         result.append({i, int(record.value(QStringLiteral("step")).toInt()), timeOf(record),

@@ -14,9 +14,12 @@ class PJsonValue;
 class JournalReader
 {
 public:
-    /// The part from one opening of the mapping file to the next, in the order of writing.
+    /// The part from one opening of the mapping file to the next, in the order of writing. What
+    /// stands behind a session that was closed, or behind damage that may hide an opening, begins
+    /// an unknown one.
     struct Session
     {
+        bool isKnown = false; ///< its opening could be read; if not, all up to `closed` is empty
         SessionOwner owner;
         QString sourceDate;
         QString targetDate;
@@ -43,11 +46,13 @@ public:
     /// The steps of a session that can be read, from a record on.
     [[nodiscard]] static QList<Step> steps(const Session &session, int from = 0);
     [[nodiscard]] static PJsonValue parse(const QByteArray &record);
-    [[nodiscard]] static QString kindOf(const PJsonValue &record);
+    /// Whether the row of a record says so; all begin with their kind.
+    [[nodiscard]] static bool isKind(QByteArrayView record, const char *kind);
 
 private:
     void take(QByteArrayView record);
     void noteDamage();
+    [[nodiscard]] Session &openSession();
 
     QList<Session> m_sessions;
 };

@@ -34,6 +34,7 @@ public:
         Ask, ///< open() gives RecoveryPending if there is something to recover
         UseSaved,
         UseRecovered, ///< opens the release that was being edited, whatever was wanted
+        UseFurther,   ///< the same with the changes behind a damaged place that still fit
     };
     struct OpenRequest
     {

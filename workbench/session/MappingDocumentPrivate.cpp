@@ -155,7 +155,12 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
     }
     switch (request.recovery) {
     case MappingDocument::Recovery::UseRecovered:
-        return openRecovered(recovery, request.rootName);
+        return openRecovered(recovery, recovery.recoveredRelease(), request.rootName);
+    case MappingDocument::Recovery::UseFurther:
+        return openRecovered(recovery,
+                             recovery.offer().further.available ? recovery.furtherRelease()
+                                                                : recovery.recoveredRelease(),
+                             request.rootName);
     case MappingDocument::Recovery::UseSaved:
         m_putAside = true;
         return OpenResult::OpenedReadOnly;
@@ -167,17 +172,15 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
 }
 
 OpenResult MappingDocumentPrivate::openRecovered(const SessionRecovery &recovery,
+                                                 const ReleaseMappingC &recovered,
                                                  const QString &name)
 {
-    const ReleaseMappingC &recovered = recovery.recoveredRelease();
     // Saving over what somebody else did since must be asked for.
     m_known = recovery.fitsSavedFile() ? FileState::of(file) : FileState();
     m_loaded = recovery.fitsSavedFile() ? recovery.savedRelease() : ReleaseMappingC();
     // The side file gets all that is recovered before the journal goes.
-    MappingFile side;
-    side.setRelease(recovered);
     QString error;
-    if (!side.write(SessionRecovery::autosaveFile(file), &error))
+    if (!OwnFile::replace(SessionRecovery::autosaveFile(file), fileOf(recovered), &error))
         return fail(OpenResult::Unreadable,
                     MappingDocument::tr("Der wiederhergestellte Stand kann nicht gesichert werden "
                                         "(%1). Bitte Platz schaffen und noch einmal öffnen; das "
@@ -196,9 +199,9 @@ void MappingDocumentPrivate::pushRecovery(const SessionRecovery &recovery)
     step.text = MappingDocument::tr("Wiederherstellung nach einem Absturz");
     step.lines = recovery.offer().changedLines;
     step.releaseBefore = recovery.savedRelease();
-    step.releaseAfter = recovery.recoveredRelease();
+    step.releaseAfter = release();
     if (recovery.offer().saved.available) {
-        journalRelease(recovery.savedRelease(), recovery.recoveredRelease());
+        journalRelease(recovery.savedRelease(), release());
         history.push(step);
     } else {
         history.markDirty();
@@ -239,7 +242,7 @@ void MappingDocumentPrivate::beginJournal()
     constexpr qint64 MaxSize = 32 << 20;
     const QString path = SessionRecovery::journalFile(file);
     if (QFileInfo(path).size() > MaxSize)
-        (void)DurableFile::rename(path, DurableFile::stampedName(path, QStringLiteral("alt")));
+        (void)OwnFile::rename(path, DurableFile::stampedName(path, QStringLiteral("alt")));
     if (!m_journal.open(path)) {
         Q_EMIT q->problemOccurred(
             MappingDocument::tr("Das Journal %1 kann nicht angelegt werden (%2). Nach einem "
@@ -279,7 +282,7 @@ void MappingDocumentPrivate::close(bool tell)
         closed[QStringLiteral("modified")] = PJsonValue::fromBool(isModified());
         m_journal.append(closed);
         m_journal.close();
-        QFile::remove(SessionRecovery::autosaveFile(file));
+        OwnFile::remove(SessionRecovery::autosaveFile(file));
     }
     isOpen = false;
     m_refused = false;

@@ -4,9 +4,9 @@
 #include "JournalFile.h"
 #include "MappingDifference.h"
 #include "MappingDocument.h"
+#include "OwnFile.h"
 #include "UndoHistory.h"
 
-#include <core/files/DurableFile.h>
 #include <core/files/EditLock.h>
 #include <core/text/PPrivateData.h>
 #include <mapping/data/CatalogMappingHandlerI.h>
@@ -70,6 +70,8 @@ public:
     [[nodiscard]] SaveOutcome saveAs(const QString &path, const SaveOptions &options);
     void autosave();
     void startAutosave();
+    /// A mapping file with this release alone.
+    [[nodiscard]] static QByteArray fileOf(const ReleaseMappingC &release);
 
     QSettings *const settings;
     bool isOpen = false;
@@ -96,6 +98,7 @@ private:
                                                           ReleaseMappingC &release);
     [[nodiscard]] MappingDocument::OpenResult recover(const MappingDocument::OpenRequest &request);
     [[nodiscard]] MappingDocument::OpenResult openRecovered(const SessionRecovery &recovery,
+                                                            const ReleaseMappingC &recovered,
                                                             const QString &name);
     void pushRecovery(const SessionRecovery &recovery);
     MappingDocument::OpenResult begin(const ReleaseMappingC &release, const QString &name);

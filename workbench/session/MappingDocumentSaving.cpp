@@ -72,7 +72,7 @@ void MappingDocumentPrivate::moveTo(const QString &path)
     if (m_journal.isOpen()) {
         m_journal.append(record("closed"));
         m_journal.close();
-        QFile::remove(SessionRecovery::autosaveFile(file));
+        OwnFile::remove(SessionRecovery::autosaveFile(file));
     }
     file = path;
     takeLock(MappingDocument::Access::ReadWrite);
@@ -108,9 +108,16 @@ void MappingDocumentPrivate::noteSaved(const FileState &state)
     json[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(state.hash));
     m_journal.append(json);
     m_journal.sync();
-    QFile::remove(SessionRecovery::autosaveFile(file));
+    OwnFile::remove(SessionRecovery::autosaveFile(file));
     tellModified();
     Q_EMIT q->saved();
+}
+
+QByteArray MappingDocumentPrivate::fileOf(const ReleaseMappingC &release)
+{
+    MappingFile file;
+    file.setRelease(release);
+    return file.toByteArray();
 }
 
 void MappingDocumentPrivate::startAutosave()
@@ -127,10 +134,9 @@ void MappingDocumentPrivate::autosave()
         m_autosavedStep == m_step + 1)
         return;
     const QString path = SessionRecovery::autosaveFile(file);
-    MappingFile side;
-    side.setRelease(release());
+    const QByteArray side = fileOf(release());
     QString error;
-    if (!side.write(path, &error)) {
+    if (!OwnFile::replace(path, side, &error)) {
         Q_EMIT q->problemOccurred(
             MappingDocument::tr("Die automatische Sicherung ist nicht gelungen (%1). Bitte bald "
                                 "speichern.")
@@ -141,7 +147,7 @@ void MappingDocumentPrivate::autosave()
     lastAutosave = QDateTime::currentDateTimeUtc();
     PJsonValue json = record("autosaved");
     json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
-    json[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(FileState::of(path).hash));
+    json[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(FileState::hashOf(side)));
     m_journal.append(json);
     m_journal.sync();
     Q_EMIT q->autosaved(path);

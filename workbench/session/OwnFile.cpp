@@ -157,6 +157,24 @@ bool OwnFile::open(QFile &file, const QString &path, QIODevice::OpenMode mode, Q
            report(error, file.errorString());
 }
 
+bool OwnFile::append(QFile &file, QByteArrayView bytes, QString *error)
+{
+    return writeAll(file.handle(), bytes) || reportErrno(error);
+}
+
+bool OwnFile::isName(const QString &path, const QFile &file)
+{
+    struct stat named
+    {
+    };
+    struct stat opened
+    {
+    };
+    return ::lstat(nativeName(path).constData(), &named) == 0 &&
+           ::fstat(file.handle(), &opened) == 0 && named.st_dev == opened.st_dev &&
+           named.st_ino == opened.st_ino;
+}
+
 std::optional<QByteArray> OwnFile::read(const QString &path, QString *error)
 {
     QFile file;

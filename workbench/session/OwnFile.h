@@ -33,6 +33,10 @@ enum class Place {
 /// be opened.
 [[nodiscard]] bool open(QFile &file, const QString &path, QIODevice::OpenMode mode,
                         QString *error = nullptr);
+/// Hands bytes to the system behind what is there. False with \a error, and a part may be written.
+[[nodiscard]] bool append(QFile &file, QByteArrayView bytes, QString *error = nullptr);
+/// Whether what is open stands under the name.
+[[nodiscard]] bool isName(const QString &path, const QFile &file);
 /// The content of a file of ours.
 [[nodiscard]] std::optional<QByteArray> read(const QString &path, QString *error = nullptr);
 /// Has the system put onto the disk what it took. False with \a error if it refuses.

@@ -1,28 +1,17 @@
 #include "SessionRecovery.h"
 
 #include "GuardedSave.h"
-#include "JournalText.h"
 #include "ReleaseChanges.h"
 #include "StepSummary.h"
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>
 
-#include <QCoreApplication>
 #include <QFileInfo>
-#include <QSet>
+
+using Extent = JournalReplay::Extent;
 
 namespace {
-
-QString say(const char *text)
-{
-    return QCoreApplication::translate("SessionRecovery", text);
-}
-
-bool isKind(const QByteArray &record, const char *kind)
-{
-    return record.startsWith(QByteArray("{\"kind\":\"") + kind + '"');
-}
 
 RecoveryVersion describe(const ReleaseMappingC &release, const QDateTime &time)
 {
@@ -34,42 +23,52 @@ QDateTime timeOf(const QString &file)
     return QFileInfo(file).lastModified().toUTC();
 }
 
+QByteArray hashIn(const QByteArray &record)
+{
+    return JournalReader::parse(record).value(QStringLiteral("fileHash")).toText().toLatin1();
+}
+
+bool isThere(const QString &file)
+{
+    return OwnFile::place(file) != OwnFile::Place::Free;
+}
+
 bool putAsideFile(const QString &file)
 {
-    return !QFileInfo::exists(file) ||
-           DurableFile::rename(file, DurableFile::stampedName(file, QStringLiteral("alt")));
+    return !isThere(file) ||
+           OwnFile::rename(file, DurableFile::stampedName(file, QStringLiteral("alt")));
 }
 
 } // namespace
 
 SessionRecovery::SessionRecovery(const QString &mappingFile)
-    : m_file(mappingFile)
+    : SessionRecovery(mappingFile, FileContent::of(mappingFile))
 {
-    JournalReader journal;
-    if (journal.read(journalFile(mappingFile)) && !journal.sessions().isEmpty())
-        m_session = journal.sessions().last();
-    const bool leftOpen = !m_session.sourceDate.isEmpty() && !m_session.closed;
-    if (!leftOpen && !QFileInfo::exists(autosaveFile(mappingFile)))
-        return;
-    if (!leftOpen)
-        m_session = JournalReader::Session();
+}
+
+SessionRecovery::SessionRecovery(const QString &mappingFile, const FileContent &content)
+    : m_file(mappingFile)
+    , m_state(content.state)
+{
+    readSession();
+    const QString side = autosaveFile(m_file);
+    const bool sideFile = OwnFile::place(side) == OwnFile::Place::RegularFile;
     findLastSaving();
-    m_leftSomething = m_anyChange || QFileInfo::exists(autosaveFile(mappingFile));
-    const bool readable = readBase(m_file, m_saved);
-    if (readable)
-        m_offer.saved = describe(m_saved, timeOf(m_file));
-    if (m_anyChange && readable) {
-        Replay candidate = replay(m_saved, m_savedAt);
-        candidate.onSavedFile = true;
-        take(candidate);
-    }
-    if (!isComplete(m_best))
-        tryAutosave();
-    if (!isComplete(m_best))
+    m_leftSomething = m_anyChange || sideFile;
+    if (!m_leftSomething)
+        return;
+    findSaved(content);
+    if (m_anyChange && m_offer.saved.available)
+        consider({m_saved, m_savedAt, true});
+    if (!isComplete() && sideFile)
+        tryAutosave(OwnFile::read(side));
+    if (!isComplete())
         tryBackup();
-    if (m_anyChange && !isComplete(m_best))
+    if (m_base && !isComplete())
+        takeFurther();
+    if (m_anyChange && (!isComplete() || m_offer.laterChanges > 0))
         m_damage = damageText();
-    if (m_best.possible)
+    if (m_base)
         compare();
 }
 
@@ -83,6 +82,11 @@ QString SessionRecovery::autosaveFile(const QString &mappingFile)
     return mappingFile + QStringLiteral(".autosave");
 }
 
+bool SessionRecovery::mayHaveLeft(const QString &mappingFile)
+{
+    return isThere(journalFile(mappingFile)) || isThere(autosaveFile(mappingFile));
+}
+
 bool SessionRecovery::putAside(const QString &mappingFile)
 {
     const bool journal = putAsideFile(journalFile(mappingFile));
@@ -94,126 +98,160 @@ bool SessionRecovery::putAsideJournal(const QString &mappingFile)
     return putAsideFile(journalFile(mappingFile));
 }
 
+/// The last one, unless it was closed.
+void SessionRecovery::readSession()
+{
+    JournalReader journal;
+    QString error;
+    if (!journal.read(journalFile(m_file), &error))
+        m_damage =
+            tr("Das Journal %1 kann nicht gelesen werden (%2).").arg(journalFile(m_file), error);
+    if (!journal.sessions().isEmpty() && !journal.sessions().last().closed)
+        m_session = journal.sessions().last();
+    for (const JournalReader::Session &session : journal.sessions())
+        m_lastDate = session.isKnown ? session.sourceDate : m_lastDate;
+    m_date = m_session.sourceDate;
+}
+
 void SessionRecovery::findLastSaving()
 {
     m_savedHash = m_session.fileHash;
+    m_noted.insert(m_savedHash);
     for (int i = 0; i < m_session.records.size(); ++i) {
         const QByteArray &record = m_session.records[i];
-        m_anyChange = m_anyChange || isKind(record, "change") || isKind(record, "targetDate");
-        if (!isKind(record, "saved"))
+        m_anyChange = m_anyChange || JournalReader::isKind(record, "change") ||
+                      JournalReader::isKind(record, "targetDate");
+        if (!JournalReader::isKind(record, "saved"))
             continue;
         m_savedAt = i + 1;
-        m_savedHash =
-            JournalReader::parse(record).value(QStringLiteral("fileHash")).toText().toLatin1();
+        m_savedHash = hashIn(record);
+        m_noted.insert(m_savedHash);
         m_anyChange = false;
     }
     m_anyChange = m_anyChange || (!m_session.gaps.isEmpty() && m_session.gaps.last() >= m_savedAt);
 }
 
-bool SessionRecovery::readBase(const QString &file, ReleaseMappingC &release) const
+void SessionRecovery::findSaved(const FileContent &content)
 {
-    MappingFile mappings;
-    if (!mappings.read(file, m_session.sourceDate))
-        return false;
-    QString date = m_session.sourceDate;
-    if (date.isEmpty() && !mappings.releases().isEmpty())
-        date = mappings.releases().last().getSourceDate();
-    if (!mappings.contains(date))
-        return false;
-    release = mappings.release(date);
-    return true;
+    if (m_date.isEmpty())
+        chooseDate(content);
+    const std::optional<ReleaseMappingC> saved = releaseIn(content.bytes);
+    if (!saved)
+        return;
+    m_saved = *saved;
+    m_offer.saved = describe(m_saved, content.state.time);
 }
 
-SessionRecovery::Replay SessionRecovery::replay(const ReleaseMappingC &base, int from) const
+/// Nobody wrote down which release was edited: that to which most changes fit, of several the one
+/// that was edited before, else the last one.
+void SessionRecovery::chooseDate(const FileContent &content)
 {
-    Replay result;
-    result.release = base;
-    result.possible = true;
-    result.records = from;
-    int end = int(m_session.records.size());
-    for (int gap : m_session.gaps) {
-        if (gap >= from)
-            end = qMin(end, gap);
+    MappingFile mappings;
+    if (!mappings.parse(content.bytes))
+        return;
+    int most = -1;
+    const QList<ReleaseMappingC> releases = mappings.releases();
+    for (const ReleaseMappingC &release : releases) {
+        const int fitting =
+            JournalReplay::run(m_session, release, m_savedAt, Extent::Fitting).applied;
+        if (fitting < most || (fitting == most && m_date == m_lastDate))
+            continue;
+        most = fitting;
+        m_date = release.getSourceDate();
     }
-    for (; result.records < end; ++result.records) {
-        const QByteArray &row = m_session.records[result.records];
-        const PJsonValue record = JournalReader::parse(row);
-        if (isKind(row, "change")) {
-            const std::optional<MappingDifference> change = JournalText::readChange(record);
-            if (!change || !applyChange(result.release, *change))
-                return result;
-        } else if (isKind(row, "targetDate")) {
-            result.release.setTargetDate(record.value(QStringLiteral("after")).toText());
-        }
-    }
-    return result;
+}
+
+/// The release that was edited, the last one if that is not known.
+std::optional<ReleaseMappingC> SessionRecovery::releaseIn(const QByteArray &content) const
+{
+    MappingFile mappings;
+    if (!mappings.parse(content, m_date))
+        return std::nullopt;
+    const QStringList dates = mappings.sourceDates();
+    const QString date = m_date.isEmpty() ? dates.value(dates.size() - 1) : m_date;
+    if (!mappings.contains(date))
+        return std::nullopt;
+    return mappings.release(date);
+}
+
+/// Keeps the candidate that gets furthest.
+void SessionRecovery::consider(const Base &base)
+{
+    const JournalReplay candidate =
+        JournalReplay::run(m_session, base.release, base.from, Extent::Unbroken);
+    if (m_base && candidate.records <= m_best.records)
+        return;
+    m_base = base;
+    m_best = candidate;
+}
+
+bool SessionRecovery::isComplete() const
+{
+    const bool gapAhead = !m_session.gaps.isEmpty() && m_session.gaps.last() >= m_best.records;
+    return m_base && !gapAhead && m_best.records == m_session.records.size();
 }
 
 bool SessionRecovery::fitsSavedFile() const
 {
-    return !m_offer.saved.available || m_best.onSavedFile ||
-           (!m_savedHash.isEmpty() && FileState::of(m_file).hash == m_savedHash);
-}
-
-/// Keeps the candidate that got furthest.
-void SessionRecovery::take(const Replay &candidate)
-{
-    if (!m_best.possible || candidate.records > m_best.records)
-        m_best = candidate;
-}
-
-bool SessionRecovery::isComplete(const Replay &candidate) const
-{
-    const bool gapAhead = !m_session.gaps.isEmpty() && m_session.gaps.last() >= candidate.records;
-    return candidate.possible && !gapAhead && candidate.records == m_session.records.size();
+    return !m_offer.saved.available || (m_base && m_base->isSavedFile) ||
+           (!m_savedHash.isEmpty() && m_state.hash == m_savedHash);
 }
 
 /// The side file stands for the state at its mark in the journal; without a mark, as if the program
 /// ended between both, for all that was noted.
-void SessionRecovery::tryAutosave()
+void SessionRecovery::tryAutosave(const std::optional<QByteArray> &content)
 {
-    const QString file = autosaveFile(m_file);
-    ReleaseMappingC release;
-    if (!QFileInfo::exists(file) || !readBase(file, release))
+    const std::optional<ReleaseMappingC> release = content ? releaseIn(*content) : std::nullopt;
+    if (!release)
         return;
-    const QByteArray hash = FileState::of(file).hash;
+    const QByteArray hash = FileState::hashOf(*content);
     for (int i = int(m_session.records.size()) - 1; i >= 0; --i) {
         const QByteArray &record = m_session.records[i];
-        if (!isKind(record, "autosaved"))
-            continue;
-        if (JournalReader::parse(record).value(QStringLiteral("fileHash")).toText().toLatin1() ==
-            hash) {
-            take(replay(release, i + 1));
+        if (JournalReader::isKind(record, "autosaved") && hashIn(record) == hash) {
+            consider({*release, i + 1, false});
             return;
         }
     }
-    if (m_offer.saved.available && timeOf(file) < m_offer.saved.time)
+    if (m_offer.saved.available && timeOf(autosaveFile(m_file)) < m_offer.saved.time)
         return;
-    Replay candidate;
-    candidate.release = release;
-    candidate.possible = true;
-    candidate.records = int(m_session.records.size());
-    take(candidate);
+    m_base = Base{*release, int(m_session.records.size()), false};
+    m_best = {*release, int(m_session.records.size()), 0, 0};
 }
 
-/// A program that ended while it was saving leaves the former content in the backup.
+/// The former content, if a program ended while it was saving.
 void SessionRecovery::tryBackup()
 {
-    const QString backup = GuardedSave::backupFile(m_file);
-    ReleaseMappingC release;
-    if (m_savedHash.isEmpty() || FileState::of(backup).hash != m_savedHash ||
-        !readBase(backup, release))
+    if (m_savedHash.isEmpty())
         return;
-    take(replay(release, m_savedAt));
+    const std::optional<QByteArray> backup = OwnFile::read(GuardedSave::backupFile(m_file));
+    if (!backup || FileState::hashOf(*backup) != m_savedHash)
+        return;
+    if (const std::optional<ReleaseMappingC> release = releaseIn(*backup))
+        consider({*release, m_savedAt, false});
+}
+
+/// What is behind the damage and still fits is a version of its own, unless there is nothing before
+/// the damage.
+void SessionRecovery::takeFurther()
+{
+    m_further = JournalReplay::run(m_session, m_base->release, m_base->from, Extent::Fitting);
+    if (m_further.applied <= m_best.applied)
+        return;
+    m_offer.laterChanges = m_further.applied - m_best.applied;
+    m_offer.lostChanges = m_further.refused;
+    if (m_best.applied > 0 || !m_base->isSavedFile)
+        m_offer.further = describe(m_further.release, timeOf(journalFile(m_file)));
+    else
+        m_best = m_further;
 }
 
 void SessionRecovery::compare()
 {
-    m_recovered = m_best.release;
+    const ReleaseMappingC &recovered = m_best.release;
     StepSummary summary;
-    const std::vector<MappingDifference> differences = releaseDifferences(m_saved, m_recovered);
-    if (m_offer.saved.available && differences.empty() &&
-        m_saved.getTargetDate() == m_recovered.getTargetDate())
+    const std::vector<MappingDifference> differences = releaseDifferences(m_saved, recovered);
+    if (m_offer.saved.available && differences.empty() && !m_offer.further.available &&
+        m_saved.getTargetDate() == recovered.getTargetDate())
         return;
     QSet<QString> projects;
     for (const MappingDifference &difference : differences) {
@@ -221,11 +259,11 @@ void SessionRecovery::compare()
         projects.insert(difference.project.path);
     }
     m_offer.owner = m_session.owner;
-    m_offer.sourceDate = m_recovered.getSourceDate();
+    m_offer.sourceDate = recovered.getSourceDate();
     m_offer.changedLines = summary.lines();
     m_offer.changedProjects = int(projects.size());
     QDateTime time =
-        timeOf(QFileInfo::exists(journalFile(m_file)) ? journalFile(m_file) : autosaveFile(m_file));
+        timeOf(isThere(journalFile(m_file)) ? journalFile(m_file) : autosaveFile(m_file));
     for (const JournalReader::Step &step : JournalReader::steps(m_session, m_savedAt)) {
         if (step.record >= m_best.records)
             break;
@@ -233,20 +271,38 @@ void SessionRecovery::compare()
         m_offer.lastStep = step.text;
         time = step.time;
     }
-    m_offer.recovered = describe(m_recovered, time);
+    m_offer.recovered = describe(recovered, time);
     m_offer.damage = m_damage;
+    m_offer.savedIsNewer = m_offer.saved.available && m_base && !m_base->isSavedFile &&
+                           m_offer.saved.time > time && !m_noted.contains(m_state.hash);
+}
+
+int SessionRecovery::changesFrom(int record) const
+{
+    int changes = 0;
+    for (int i = record; i < m_session.records.size(); ++i)
+        changes += JournalReader::isKind(m_session.records[i], "change") ? 1 : 0;
+    return changes;
 }
 
 QString SessionRecovery::damageText() const
 {
-    int lost = 0;
-    for (int i = m_best.records; i < m_session.records.size(); ++i)
-        lost += isKind(m_session.records[i], "change") ? 1 : 0;
-    if (lost == 0)
-        return say("Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.")
-            .arg(journalFile(m_file));
-    return say("Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 "
-               "spätere Änderungen fehlen; das Journal wird aufgehoben.")
-        .arg(journalFile(m_file))
-        .arg(lost);
+    const QString journal = journalFile(m_file);
+    if (!m_session.isKnown && m_session.records.isEmpty())
+        return tr("Hinter der letzten abgeschlossenen Sitzung ist das Journal %1 nicht lesbar. Was "
+                  "dort stand, ist nicht bekannt; das Journal wird aufgehoben.")
+            .arg(journal);
+    if (m_offer.laterChanges > 0)
+        return tr("Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 "
+                  "Änderungen, "
+                  "%3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.")
+            .arg(journal, QString::number(m_offer.laterChanges),
+                 QString::number(m_offer.lostChanges));
+    const int lost = changesFrom(m_best.records);
+    if (lost == 0 && m_session.isKnown)
+        return tr("Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.")
+            .arg(journal);
+    return tr("Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 "
+              "spätere Änderungen fehlen; das Journal wird aufgehoben.")
+        .arg(journal, QString::number(lost));
 }

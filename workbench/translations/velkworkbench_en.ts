@@ -842,12 +842,20 @@ Line: %2
         <translation>Confirmed</translation>
     </message>
     <message>
+        <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
+        <translation>The saved version is younger than all that can be recovered.</translation>
+    </message>
+    <message>
         <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
         <translation>There is work on %1 that was not saved: %2 steps with %3 lines in %4 projects, the last one “%5”. It is by %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
         <translation>Saved</translation>
+    </message>
+    <message>
+        <source>Mit &amp;späteren Änderungen (%1)</source>
+        <translation>With &amp;later changes (%1)</translation>
     </message>
     <message>
         <source>Nicht gefunden</source>
@@ -898,6 +906,18 @@ Line: %2
     <message>
         <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>The journal %1 is damaged or does not fit the mapping file. At least %2 later changes are missing; the journal is kept.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>The journal %1 is damaged. Behind the damage %2 changes still fit, %3 do not; others may be missing. The journal is kept.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht gelesen werden (%2).</source>
+        <translation>The journal %1 cannot be read (%2).</translation>
+    </message>
+    <message>
+        <source>Hinter der letzten abgeschlossenen Sitzung ist das Journal %1 nicht lesbar. Was dort stand, ist nicht bekannt; das Journal wird aufgehoben.</source>
+        <translation>Behind the last session that was closed the journal %1 is not readable. What stood there is not known; the journal is kept.</translation>
     </message>
 </context>
 <context>

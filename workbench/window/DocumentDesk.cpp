@@ -128,8 +128,7 @@ bool DocumentDesk::recover(MappingDocument::OpenRequest request)
     RecoveryDialog dialog(request.mappingFile, m_document->recoveryOffer(), m_window);
     if (dialog.exec() != QDialog::Accepted)
         return false;
-    request.recovery = dialog.recovers() ? MappingDocument::Recovery::UseRecovered
-                                         : MappingDocument::Recovery::UseSaved;
+    request.recovery = dialog.choice();
     const auto result = m_document->open(request);
     if (result == MappingDocument::OpenResult::Opened ||
         result == MappingDocument::OpenResult::OpenedReadOnly)

@@ -82,27 +82,52 @@ RecoveryDialog::RecoveryDialog(const QString &file, const RecoveryOffer &offer, 
     addCount(tr("Zu überprüfen"), saved.counts.toCheck(), found.counts.toCheck(), "toCheck");
     addCount(tr("Nicht gefunden"), saved.counts.notFound(), found.counts.notFound(), "notFound");
     layout->addLayout(grid);
-    if (!offer.damage.isEmpty()) {
-        auto *damage = new QLabel(offer.damage, this);
-        damage->setObjectName("damage");
-        damage->setWordWrap(true);
-        layout->addWidget(damage);
-    }
-
-    auto *buttons = new QDialogButtonBox(this);
-    auto *recover = buttons->addButton(tr("&Wiederherstellen"), QDialogButtonBox::AcceptRole);
-    recover->setObjectName("recover");
-    recover->setDefault(true);
-    auto *discard =
-        buttons->addButton(tr("&Gespeicherten Stand öffnen"), QDialogButtonBox::DestructiveRole);
-    discard->setObjectName("useSaved");
-    discard->setEnabled(saved.available);
-    buttons->addButton(Question::cancelText(), QDialogButtonBox::RejectRole);
-    layout->addWidget(buttons);
-    connect(recover, &QPushButton::clicked, this, [this] { choose(true); });
-    connect(discard, &QPushButton::clicked, this, [this] { choose(false); });
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    addNotes(offer);
+    addButtons(offer);
     PApplication::setupWindow(this);
+}
+
+void RecoveryDialog::addNotes(const RecoveryOffer &offer)
+{
+    const auto add = [this](const QString &text, const char *name) {
+        if (text.isEmpty())
+            return;
+        auto *note = new QLabel(text, this);
+        note->setObjectName(name);
+        note->setTextFormat(Qt::PlainText);
+        note->setWordWrap(true);
+        layout()->addWidget(note);
+    };
+    add(offer.savedIsNewer
+            ? tr("Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.")
+            : QString(),
+        "savedIsNewer");
+    add(offer.damage, "damage");
+}
+
+void RecoveryDialog::addButtons(const RecoveryOffer &offer)
+{
+    using Recovery = MappingDocument::Recovery;
+    auto *buttons = new QDialogButtonBox(this);
+    const auto add = [&](const QString &text, QDialogButtonBox::ButtonRole role, const char *name,
+                         Recovery choice) {
+        QPushButton *button = buttons->addButton(text, role);
+        button->setObjectName(name);
+        connect(button, &QPushButton::clicked, this, [this, choice] { choose(choice); });
+        return button;
+    };
+    QPushButton *recover = add(tr("&Wiederherstellen"), QDialogButtonBox::AcceptRole, "recover",
+                               Recovery::UseRecovered);
+    if (offer.further.available)
+        add(tr("Mit &späteren Änderungen (%1)").arg(offer.laterChanges),
+            QDialogButtonBox::AcceptRole, "useFurther", Recovery::UseFurther);
+    QPushButton *saved = add(tr("&Gespeicherten Stand öffnen"), QDialogButtonBox::DestructiveRole,
+                             "useSaved", Recovery::UseSaved);
+    saved->setEnabled(offer.saved.available);
+    (offer.savedIsNewer ? saved : recover)->setDefault(true);
+    buttons->addButton(Question::cancelText(), QDialogButtonBox::RejectRole);
+    layout()->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
 RecoveryDialog::~RecoveryDialog()
@@ -110,8 +135,8 @@ RecoveryDialog::~RecoveryDialog()
     PApplication::saveWindow(this);
 }
 
-void RecoveryDialog::choose(bool recover)
+void RecoveryDialog::choose(MappingDocument::Recovery choice)
 {
-    m_recovers = recover;
+    m_choice = choice;
     accept();
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QDialog>
+#include <workbench/session/MappingDocument.h>
 
-struct RecoveryOffer;
-class QLabel;
+#include <QDialog>
 
 /// After a crash: shows the saved version and the one with what was not saved side by side, and
 /// lets the user choose. Rejected: nothing is opened, both versions stay.
@@ -15,11 +14,13 @@ public:
     RecoveryDialog(const QString &file, const RecoveryOffer &offer, QWidget *parent);
     ~RecoveryDialog() override;
 
-    /// The version with unsaved work was chosen.
-    [[nodiscard]] bool recovers() const { return m_recovers; }
+    /// What was chosen.
+    [[nodiscard]] MappingDocument::Recovery choice() const { return m_choice; }
 
 private:
-    void choose(bool recover);
+    void addNotes(const RecoveryOffer &offer);
+    void addButtons(const RecoveryOffer &offer);
+    void choose(MappingDocument::Recovery choice);
 
-    bool m_recovers = true;
+    MappingDocument::Recovery m_choice = MappingDocument::Recovery::UseRecovered;
 };

@@ -155,7 +155,36 @@ private Q_SLOTS:
         QVERIFY(text("intro").contains("„<b>last“"));
         QTest::mouseClick(dialog.findChild<QPushButton *>("useSaved"), Qt::LeftButton);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QVERIFY(!dialog.recovers());
+        QCOMPARE(dialog.choice(), MappingDocument::Recovery::UseSaved);
+    }
+
+    void recoveryOffersLaterChangesApart()
+    {
+        const WindowFixture fixture;
+        RecoveryOffer offer;
+        offer.saved.available = offer.recovered.available = true;
+        const RecoveryDialog without("/d/m.json", offer, nullptr);
+        QVERIFY(!without.findChild<QPushButton *>("useFurther"));
+        offer.further.available = true;
+        offer.laterChanges = 18;
+        RecoveryDialog dialog("/d/m.json", offer, nullptr);
+        auto *button = dialog.findChild<QPushButton *>("useFurther");
+        QVERIFY(button->text().contains("(18)"));
+        QVERIFY(dialog.findChild<QPushButton *>("recover")->isDefault());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(dialog.choice(), MappingDocument::Recovery::UseFurther);
+    }
+
+    void aYoungerSavedVersionIsTheDefault()
+    {
+        const WindowFixture fixture;
+        RecoveryOffer offer;
+        offer.saved.available = offer.recovered.available = true;
+        offer.savedIsNewer = true;
+        const RecoveryDialog dialog("/d/m.json", offer, nullptr);
+        QVERIFY(dialog.findChild<QPushButton *>("useSaved")->isDefault());
+        QVERIFY(!dialog.findChild<QPushButton *>("recover")->isDefault());
+        QVERIFY(dialog.findChild<QLabel *>("savedIsNewer"));
     }
 
     void recoveryWithoutASavedVersion()
