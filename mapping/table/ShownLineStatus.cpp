@@ -1,51 +1,28 @@
 #include "ShownLineStatus.h"
 
+#include "LineStates.h"
 #include "MappingDifference.h"
 #include "TableMappingWidgetPrivate.h"
 
-#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/table/BaseLayer.h>
-#include <geomcore/table/LineView.h>
+
+#include <algorithm>
 
 namespace {
 
-PrjMappingLineC findLine(const PrjMappingC &mapping, const VKTab::Content &table,
-                         const VKTab::LineId &id)
-{
-    const VKTab::LineView view(table, id);
-    return view.isValid() ? mapping.findLine(id.value(0), view)
-                          : mapping.findLine(id.value(0), createVarsetFromVKTable(table, id, {}));
-}
+const QString stateKey = QStringLiteral("CatalogMapper");
 
-bool isConflicted(const PrjMappingC &mapping, const PrjMappingLineC &line, int number)
-{
-    const int index = line.getTargetIndex();
-    return index >= 0 && index < mapping.countTargets() &&
-           mapping.targetAt(index).getLineConflicted(number);
-}
+/// Above that views hear of a change of all lines instead of each.
+constexpr size_t manyLines = 500;
 
 } // namespace
-
-QString ShownLineStatus::statusOf(const VKTab::ContentRef &table, const VKTab::LineId &id,
-                                  const PrjMappingC &mapping)
-{
-    const PrjMappingLineC line = findLine(mapping, table, id);
-    if (isConflicted(mapping, line, id.value(0)))
-        return QStringLiteral("Conflicted");
-    const bool isVerified = line.getCheckState() == PRJMAPPING::Verified;
-    if (!line.isValid() || !line.isFound())
-        return isVerified ? QStringLiteral("NC") : QStringLiteral("N");
-    if (isVerified)
-        return QStringLiteral("M");
-    return line.getCheckState() == PRJMAPPING::Mapped ? QString() : QStringLiteral("C");
-}
 
 void ShownLineStatus::update(const VKTab::ContentRef &table, const PrjMappingC &mapping)
 {
     const boost::shared_ptr<VKTab::BaseLayer> layer = table.getModifyLayer();
     const bool ranges = !TableMappingWidgetPrivate::valueRangeVariables(table).isEmpty();
     const bool isSame = m_table == table && m_layer.lock() == layer && ranges == m_offersRanges;
-    const auto changed =
+    auto changed =
         isSame && !m_hasSecondNumbers ? changedSourceLines(m_mapping, mapping) : std::nullopt;
     m_table = table;
     m_layer = layer;
@@ -58,36 +35,49 @@ void ShownLineStatus::update(const VKTab::ContentRef &table, const PrjMappingC &
         updateAll();
         return;
     }
+    changed->insert(changed->end(), modified.begin(), modified.end());
+    if (changed->size() > manyLines) {
+        updateMany(idsOf(*changed));
+        return;
+    }
     for (const int line : *changed)
-        updateNumber(line);
-    for (const int line : modified)
-        updateNumber(line);
+        updateLine(line);
+}
+
+QVector<VKTab::LineId> ShownLineStatus::idsOf(const std::vector<int> &lines) const
+{
+    QVector<VKTab::LineId> ids;
+    for (const int line : lines) {
+        if (const VKTab::LineId id = m_table.getLineInfo(line).getLineId(); id.isValid())
+            ids.append(id);
+    }
+    return ids;
+}
+
+void ShownLineStatus::updateMany(const QVector<VKTab::LineId> &lines) const
+{
+    m_table.getModifyLayer()->setLineKeyValues(lines, stateKey, LineStates::texts(),
+                                               LineStates::ofAll(lines, m_table, m_mapping));
 }
 
 void ShownLineStatus::updateAll()
 {
-    m_hasSecondNumbers = false;
-    for (const VKTab::LineId &id : m_table.getLineIdList()) {
-        m_hasSecondNumbers = m_hasSecondNumbers || id.value(1) != 0;
-        updateLine(id);
-        if (m_offersRanges)
-            write(id, QStringLiteral("ValueRangeMapping"), QStringLiteral("VR"));
-    }
+    const QVector<VKTab::LineId> lines = m_table.getLineIdList();
+    m_hasSecondNumbers = std::any_of(lines.begin(), lines.end(),
+                                     [](const VKTab::LineId &id) { return id.value(1) != 0; });
+    updateMany(lines);
+    if (m_offersRanges)
+        m_table.getModifyLayer()->setLineKeyValues(lines, QStringLiteral("ValueRangeMapping"),
+                                                   {QStringLiteral("VR")},
+                                                   std::vector<quint8>(size_t(lines.size()), 0));
 }
 
-void ShownLineStatus::updateNumber(int line) const
+void ShownLineStatus::updateLine(int number) const
 {
-    if (const VKTab::LineId id = m_table.getLineInfo(line).getLineId(); id.isValid())
-        updateLine(id);
-}
-
-void ShownLineStatus::updateLine(const VKTab::LineId &id) const
-{
-    write(id, QStringLiteral("CatalogMapper"), statusOf(m_table, id, m_mapping));
-}
-
-void ShownLineStatus::write(const VKTab::LineId &id, const QString &key, const QString &value) const
-{
-    // Asked anew: whoever heard of the write before may have had the table read again.
-    m_table.getModifyLayer()->setLineKeyValue(id, key, value);
+    const VKTab::LineId id = m_table.getLineInfo(number).getLineId();
+    // The layer is asked for anew: whoever heard of the line before may have had the table read
+    // again.
+    if (id.isValid())
+        m_table.getModifyLayer()->setLineKeyValue(
+            id, stateKey, LineStates::texts().at(LineStates::of(id, m_table, m_mapping)));
 }

@@ -5,9 +5,10 @@
 
 #include <boost/weak_ptr.hpp>
 
-#include <QString>
+#include <QVector>
 
 #include <set>
+#include <vector>
 
 /// Keeps the status columns of a source table in line with a mapping. The result is that of a walk
 /// over the whole table; touched are the lines whose entries or values changed since the last time.
@@ -18,15 +19,11 @@ public:
     /// Cells of a line changed, so that conditions may send it elsewhere.
     void noteModifiedLine(int line) { m_modified.insert(line); }
 
-    /// The value of the status key "CatalogMapper" for a line.
-    [[nodiscard]] static QString statusOf(const VKTab::ContentRef &table, const VKTab::LineId &id,
-                                          const PrjMappingC &mapping);
-
 private:
     void updateAll();
-    void updateNumber(int line) const;
-    void updateLine(const VKTab::LineId &id) const;
-    void write(const VKTab::LineId &id, const QString &key, const QString &value) const;
+    void updateLine(int number) const;
+    void updateMany(const QVector<VKTab::LineId> &lines) const;
+    [[nodiscard]] QVector<VKTab::LineId> idsOf(const std::vector<int> &lines) const;
 
     VKTab::ContentRef m_table;
     PrjMappingC m_mapping;

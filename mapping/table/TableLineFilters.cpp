@@ -1,16 +1,16 @@
 #include "TableLineFilters.h"
 
-#include <geomcore/table/Line.h>
+#include <geomcore/table/BaseLayer.h>
+
+#include <algorithm>
 
 namespace {
 
-using LineNumbers = QHash<int, VKTab::TabFilterData>;
-
-/// An empty hash would show every line.
-LineNumbers orNoLine(LineNumbers lines)
+/// Without any number a filter shows every line.
+std::vector<int> orNoLine(std::vector<int> lines)
 {
-    if (lines.isEmpty())
-        lines.insert(-1, VKTab::TabFilterData());
+    if (lines.empty())
+        lines.push_back(-1);
     return lines;
 }
 
@@ -20,19 +20,20 @@ void setFilter(VKTab::ContentRef &table, const VKTab::FilterByLineId &filter)
     table.invalidate(VKTab::Content::InvalidateFilter, true);
 }
 
-void setLines(VKTab::ContentRef &table, const LineNumbers &lines)
+VKTab::FilterByLineId filterOf(std::vector<int> lines)
 {
-    setFilter(table, VKTab::FilterByLineId(lines, true));
+    std::sort(lines.begin(), lines.end());
+    return VKTab::FilterByLineId::ofAscending(std::move(lines));
 }
 
-/// The lines of a table whose numbers are accepted.
+/// Numbers of the lines of a table that are accepted.
 template<class Accepts>
-LineNumbers linesOf(const VKTab::Content &table, Accepts accepts)
+std::vector<int> linesOf(const VKTab::Content &table, Accepts accepts)
 {
-    LineNumbers lines;
+    std::vector<int> lines;
     for (const VKTab::LineId &id : table.getLineIdList()) {
         if (accepts(id.value(0)))
-            lines.insert(id.value(0), VKTab::TabFilterData());
+            lines.push_back(id.value(0));
     }
     return lines;
 }
@@ -41,19 +42,14 @@ LineNumbers linesOf(const VKTab::Content &table, Accepts accepts)
 
 void TableLineFilters::showAll(VKTab::ContentRef table)
 {
-    setLines(table, {});
+    setFilter(table, filterOf({}));
 }
 
 void TableLineFilters::showUnassigned(VKTab::ContentRef source)
 {
-    LineNumbers lines;
-    for (const VKTab::LineId &id : source.getLineIdList()) {
-        const QString status =
-            source.getLine(id, false).getLineKeyValue(QStringLiteral("CatalogMapper")).toString();
-        if (status == QLatin1String("C") || status == QLatin1String("N"))
-            lines.insert(id.value(0), VKTab::TabFilterData());
-    }
-    setLines(source, orNoLine(lines));
+    setFilter(source,
+              filterOf(orNoLine(source.getModifyLayer()->linesWithKeyValue(
+                  QStringLiteral("CatalogMapper"), {QStringLiteral("C"), QStringLiteral("N")}))));
 }
 
 void TableLineFilters::showUnused(VKTab::ContentRef target, const PrjMappingC &mapping,
@@ -64,7 +60,7 @@ void TableLineFilters::showUnused(VKTab::ContentRef target, const PrjMappingC &m
         const auto isUnused = [this](int line) {
             return !m_mapped.contains(line);
         };
-        m_unused = VKTab::FilterByLineId(orNoLine(linesOf(target, isUnused)), true);
+        m_unused = filterOf(orNoLine(linesOf(target, isUnused)));
     } else if (target.getFilter(VKTab::FilterByLineId::className()).rule() == m_unused->rule()) {
         return;
     }
@@ -76,18 +72,18 @@ void TableLineFilters::showUsedTwice(VKTab::ContentRef target, const PrjMappingC
 {
     MappedTargetLines mapped;
     mapped.update(mapping, targets);
-    setLines(target, linesOf(target, [&](int line) { return mapped.times(line) > 1; }));
+    setFilter(target, filterOf(linesOf(target, [&](int line) { return mapped.times(line) > 1; })));
 }
 
 void TableLineFilters::showSourcesOf(const VKTab::LineId &targetLine, VKTab::ContentRef source,
                                      const PrjMappingC &mapping, const QList<int> &targets)
 {
-    LineNumbers lines;
+    std::vector<int> lines;
     for (const int target : targets) {
         for (const LineTable::Iterator &entry : mapping.targetAt(target).lines()) {
             if (entry.targetLine() == targetLine.value(0))
-                lines.insert(entry.sourceLine(), VKTab::TabFilterData());
+                lines.push_back(entry.sourceLine());
         }
     }
-    setLines(source, lines);
+    setFilter(source, filterOf(std::move(lines)));
 }

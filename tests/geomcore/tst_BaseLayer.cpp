@@ -86,6 +86,8 @@ private Q_SLOTS:
     void hasNoLinesOfItsOwn();
     void keepsKeyValues();
     void keepsStatusKeys();
+    void keepsStatusKeysOfManyLines();
+    void findsLinesByStatusKey();
     void hidesLines();
     void keepsValues();
     void copiesLines();
@@ -320,6 +322,40 @@ void tst_BaseLayer::keepsStatusKeys()
     QCOMPARE(m_changes.size(), 3);
     m_layer->setLineKeyValue(1, "K", QVariant());
     QCOMPARE(m_layer->getLineKeyValue(1, "K"), unset);
+}
+
+void tst_BaseLayer::keepsStatusKeysOfManyLines()
+{
+    const QVariantList values = {"", "M", "N"};
+    m_layer->setLineKeyValues({1, 2, LineId(3, 1)}, "K", values, {0, 0, 0});
+    QVERIFY(!m_layer->hasLineKeyValues("K"));
+    QCOMPARE(m_changes.size(), 0);
+    m_layer->setLineKeyValues({1, 700, LineId(3, 1), LineId(), 2}, "K", values, {1, 2, 2, 1, 0});
+    QCOMPARE(m_layer->getLineKeyValue(1, "K"), QVariant("M"));
+    QCOMPARE(m_layer->getLineKeyValue(700, "K"), QVariant("N"));
+    QCOMPARE(m_layer->getLineKeyValue(LineId(3, 1), "K"), QVariant("N"));
+    QCOMPARE(m_layer->getLineKeyValue(3, "K"), QVariant(""));
+    QCOMPARE(m_layer->getLineKeyValue(2, "K"), QVariant(""));
+    // Told once, as a change of all lines; not if nothing changed.
+    const QStringList once(QString::number(int(LayerChange::Status)) + ":-1");
+    QCOMPARE(changes(m_changes), once);
+    m_layer->setLineKeyValues({1, 700}, "K", values, {1, 2});
+    QCOMPARE(changes(m_changes), once);
+    m_layer->setLineKeyValues({1, 700}, "K", {QVariant(), "M"}, {0, 1});
+    QCOMPARE(m_layer->getLineKeyValue(1, "K"), QVariant(""));
+    QCOMPARE(m_layer->getLineKeyValue(700, "K"), QVariant("M"));
+}
+
+void tst_BaseLayer::findsLinesByStatusKey()
+{
+    using Lines = std::vector<int>;
+    QCOMPARE(m_layer->linesWithKeyValue("K", {"M"}), Lines());
+    m_layer->setLineKeyValues({1000, 5, LineId(7, 1), LineId(7, 2), 300, LineId(5, 3)}, "K",
+                              {"M", "N", "C"}, {0, 0, 1, 1, 2, 0});
+    QCOMPARE(m_layer->linesWithKeyValue("K", {"M"}), Lines({5, 1000}));
+    QCOMPARE(m_layer->linesWithKeyValue("K", {"C", "N"}), Lines({7, 300}));
+    QCOMPARE(m_layer->linesWithKeyValue("K", {"X", ""}), Lines());
+    QCOMPARE(m_layer->linesWithKeyValue("Other", {"M"}), Lines());
 }
 
 void tst_BaseLayer::hidesLines()

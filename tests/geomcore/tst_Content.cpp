@@ -145,6 +145,7 @@ private Q_SLOTS:
     void tellsOfStatusKeysApart();
     void invalidateTellsTheFlags();
     void showsWhatFiltersLeave();
+    void filterByAscendingNumbers();
     void mappingsAreSnapshots();
 };
 
@@ -541,6 +542,26 @@ void tst_Content::showsWhatFiltersLeave()
     table.getModifyLayer()->setLineHidden(4, false);
     QCOMPARE(table.getLineMapping().count(), 4);
     QCOMPARE(table.getLineMapping().getLineId(3), LineId(4));
+}
+
+void tst_Content::filterByAscendingNumbers()
+{
+    ContentRef table = TestTables::screws();
+    const FilterByLineId filter = FilterByLineId::ofAscending({-1, 2, 4, 700});
+    QVERIFY(filter.getLineIdFilterUsed());
+    QCOMPARE(filter.getLines(), (QHash<int, TabFilterData>{{-1, {}}, {2, {}}, {4, {}}, {700, {}}}));
+    table.setFilter(filter);
+    QCOMPARE(numbers(table.getLineMapping().getOrdered()), (QList<int>{2, 4}));
+    table.setFilter(FilterByLineId::ofAscending({-1}));
+    QCOMPARE(table.getLineMapping().count(), 0);
+    table.setFilter(FilterByLineId::ofAscending({}));
+    QCOMPARE(table.getLineMapping().count(), 4);
+    FilterByLineId unused = filter;
+    unused.setLineIdFilterUsed(false);
+    QVERIFY(!unused.getLineIdFilterUsed());
+    QCOMPARE(unused.getLines().size(), 4);
+    unused.setLineIdFilterUsed(true);
+    QCOMPARE(unused.getLines(), filter.getLines());
 }
 
 void tst_Content::mappingsAreSnapshots()

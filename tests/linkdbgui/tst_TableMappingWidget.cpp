@@ -1,6 +1,9 @@
 #include "TableEditorFixture.h"
 
+#include <core/config/PConfigService.h>
+#include <core/message/PScriptedMessageSink.h>
 #include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/table/BaseLayer.h>
 #include <geomcore/table/FileLayer.h>
 #include <geomcore/table/FilterByLineId.h>
 #include <geomcore/table/LayerType.h>
@@ -11,6 +14,8 @@
 
 #include <QAbstractItemModelTester>
 #include <QBoxLayout>
+#include <QDialog>
+#include <QDir>
 #include <QLabel>
 #include <QLayout>
 #include <QMenu>
@@ -18,6 +23,7 @@
 #include <QRandomGenerator>
 #include <QSplitter>
 #include <QTest>
+#include <QTimer>
 
 #include <boost/make_shared.hpp>
 
@@ -65,6 +71,7 @@ class tst_TableMappingWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QDir::setSearchPaths("bitmaps", {":/hostbitmaps"}); }
     void init();
     void cleanup() { f.reset(); }
 
@@ -76,6 +83,8 @@ private Q_SLOTS:
     void boxes();
     void views();
     void statusKeys();
+    void optionsComeFromTheConfiguration();
+    void valueRangeVariablesInTableOrder();
     void statusColumnsOfBothTables();
     void optionsOfTheTable();
     void optionsWithKeysStayAsTheyAre();
@@ -99,6 +108,10 @@ private Q_SLOTS:
     void targetsComeAndGo();
     void modifiedLineIsLookedAtAgain();
     void sharedLineNumbers();
+    void layerIsAskedAnewForEveryWrite();
+    void manyChangedLinesAtOnce();
+    void updateRepaints();
+    void designationsFollowThePalette();
 
     void toolTips_data();
     void toolTips();
@@ -192,17 +205,18 @@ void tst_TableMappingWidget::buttons_data()
     QTest::addColumn<bool>("enabled");
 
     const QKeySequence none;
-    QTest::newRow("btnResolvedRanges")
-        << "Aufgelöste Wertebereiche zuordnen" << none << "" << false;
+    QTest::newRow("btnResolvedRanges") << "Aufgelöste Wertebereiche zuordnen" << none
+                                       << ":/toolicons/actionFormatRanges_16.png" << false;
     QTest::newRow("btnCondition")
         << "Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren" << none
-        << "" << true;
+        << ":/toolicons/actionFormatAlgorithm_16.png" << true;
     QTest::newRow("btnVerifyAll") << "Alle Zuordnungen bestätigen" << none
                                   << ":/bitmaps/double_check.png" << true;
     QTest::newRow("btnMapLine") << "Aktuell markierte Zeile zuordnen (v)" << QKeySequence(Qt::Key_V)
                                 << ":/bitmaps/line.png" << true;
     QTest::newRow("btnRemoveLine")
-        << "Zuordnung zu diesem Projekt aufheben (x)" << QKeySequence(Qt::Key_X) << "" << true;
+        << "Zuordnung zu diesem Projekt aufheben (x)" << QKeySequence(Qt::Key_X)
+        << "bitmaps:indextree/state_deleted.png" << true;
     QTest::newRow("btnRemoveVerifyLine")
         << "Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)"
         << QKeySequence(Qt::CTRL | Qt::Key_X) << ":/bitmaps/remove_verify.png" << true;
@@ -218,10 +232,8 @@ void tst_TableMappingWidget::buttons()
     QCOMPARE(button->accessibleName(), button->toolTip());
     QCOMPARE(button->text(), QString());
     QFETCH(QString, image);
-    if (!image.isEmpty()) {
-        QCOMPARE(button->icon().pixmap(16).toImage(), QIcon(image).pixmap(16).toImage());
-        QVERIFY(!button->icon().isNull());
-    }
+    QVERIFY(!QIcon(image).pixmap(16).isNull());
+    QCOMPARE(button->icon().pixmap(16).toImage(), QIcon(image).pixmap(16).toImage());
 }
 
 void tst_TableMappingWidget::boxes()
@@ -274,6 +286,45 @@ void tst_TableMappingWidget::statusKeys()
                   "Conflicted|:/bitmaps/state_conflict.png|handler",
                   "VR|:/toolicons/actionFormatRanges_16.png|Wertebereichszuordnungen bearbeiten",
                   "C|:/bitmaps/line.png|Aktuell zugeordnete Zeile"}));
+}
+
+void tst_TableMappingWidget::optionsComeFromTheConfiguration()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("velkopt.cfg"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[TabOptions]\nToolTipTextExportOn=from the set-up\n");
+    file.close();
+    const PStringList former = PConfigService::directories();
+    PConfigService::setDirectories(QStringList(folder.path()));
+    TableEditorFixture other;
+    PConfigService::setDirectories(former);
+    other.catalog.write("old/a.prj", "k:n\n5\n");
+    other.load();
+    QCOMPARE(other.sourceTable().getOptions()->getToolTipTextExportOn(),
+             QString("from the set-up"));
+    QVERIFY(other.sourceTable().getOptions()->isStatusColumnsShown());
+}
+
+void tst_TableMappingWidget::valueRangeVariablesInTableOrder()
+{
+    f->catalog.write("old/a.prj", "Z:r,D,A:r,M:r\n1;2,x,3;4,5;6\n");
+    f->load();
+    QStringList names;
+    auto *const timer = new QTimer(f->widget.get());
+    connect(timer, &QTimer::timeout, this, [&] {
+        if (auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+            timer->stop();
+            for (const QCheckBox *const box : dialog->findChildren<QCheckBox *>())
+                names.append(box->text());
+            dialog->reject();
+        }
+    });
+    timer->start(5);
+    const PMessageSinkScope scope(
+        std::make_shared<PScriptedMessageSink>(QList<PMsgReply>{PMsgReply::Ok}));
+    f->button("btnResolvedRanges")->click();
+    QCOMPARE(names, QStringList({"Z", "A", "M"}));
 }
 
 void tst_TableMappingWidget::statusColumnsOfBothTables()
@@ -598,6 +649,85 @@ void tst_TableMappingWidget::sharedLineNumbers()
     for (const LineId &id : {LineId(1, 0), LineId(1, 1)})
         QCOMPARE(f->sourceTable().getLine(id, false).getLineKeyValue("CatalogMapper").toString(),
                  QString("M"));
+}
+
+void tst_TableMappingWidget::layerIsAskedAnewForEveryWrite()
+{
+    f->load();
+    VKTab::ContentRef table = f->sourceTable();
+    const VKTab::ContentRef again = f->read("old/a.prj");
+    QList<int> heard;
+    const boost::signals2::scoped_connection connection =
+        table.signalConnect().connectSignalLineStatus(
+            [&](const VKTab::Content &, const LineId &id) {
+                heard.append(id.value(0));
+                if (heard.size() == 1)
+                    table.setFileLayer(again.getFileLayer()); // as if the table were read again
+            });
+    enter(f->mapping, 0, 1, 3, Verified);
+    enter(f->mapping, 0, 2, 2, Verified);
+    f->widget->onProjectMappingUpdated(f->mapping);
+    QVERIFY(heard.size() >= 2);
+    QCOMPARE(TableEditorFixture::status(table, 2, "CatalogMapper"), QString("M"));
+}
+
+void tst_TableMappingWidget::manyChangedLinesAtOnce()
+{
+    QByteArray lines = "k:n\n";
+    for (int i = 1; i <= 900; ++i)
+        lines += QByteArray::number(i) + "\n";
+    f->catalog.write("old/a.prj", lines);
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    for (int line = 1; line <= 800; ++line)
+        enter(f->mapping, 0, line, 1, ToCheck);
+    f->load();
+    // What nobody changed is not written again, so a foreign value stays.
+    f->sourceTable().getModifyLayer()->setLineKeyValue(LineId(900), "CatalogMapper", "C");
+    int heard = 0;
+    const boost::signals2::scoped_connection connection =
+        f->sourceTable().signalConnect().connectSignalLineStatus(
+            [&](const VKTab::Content &, const LineId &) { ++heard; });
+    f->mapping.verifyAll();
+    f->widget->onProjectMappingUpdated(f->mapping);
+    QCOMPARE(heard, 1);
+    QCOMPARE(f->states().count('M'), 800);
+    QCOMPARE(f->states().count('N'), 99);
+    QVERIFY(f->states().endsWith("N C"));
+}
+
+void tst_TableMappingWidget::updateRepaints()
+{
+    class PaintCount : public QObject
+    {
+    public:
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    } paints;
+    f->load();
+    QTest::qWait(1);
+    f->widget->installEventFilter(&paints);
+    QCoreApplication::processEvents();
+    paints.count = 0;
+    f->widget->onProjectMappingUpdated(f->mapping); // nothing changed
+    QTRY_VERIFY(paints.count > 0);
+}
+
+void tst_TableMappingWidget::designationsFollowThePalette()
+{
+    f->catalog.write("old/a.prj", "D\nM8\n", [](auto &table) { table.lineDesignation = "{D}"; });
+    f->load();
+    f->select(1);
+    const QLabel *const label = f->label("sourceDesignationLabel");
+    QVERIFY(!label->text().isEmpty());
+    QVERIFY(!label->autoFillBackground());
+    f->widget->setPalette(QPalette(QColor(40, 40, 40)));
+    QVERIFY(label->autoFillBackground());
+    f->widget->setPalette(QPalette(QColor(240, 240, 240)));
+    QVERIFY(!label->autoFillBackground());
 }
 
 void tst_TableMappingWidget::toolTips_data()

@@ -2,7 +2,11 @@
 
 #include "LayerI.h"
 
+#include <QVariant>
+#include <QVector>
+
 #include <memory>
+#include <vector>
 
 namespace VKTab {
 
@@ -89,6 +93,14 @@ public:
     void setKeyValue(const QString &name, const QVariant &value);
     /// Sets the value of a status key on one line; an empty text shows nothing.
     void setLineKeyValue(const LineId &line, const QString &key, const QVariant &value);
+    /// The same for many lines: \a numbers has, for each of them, the place of its value among \a
+    /// values. Listeners hear of it once, as of a change of all lines.
+    void setLineKeyValues(const QVector<LineId> &lines, const QString &key,
+                          const QVariantList &values, const std::vector<quint8> &numbers);
+    /// Numbers of the lines that have one of the values, none of them empty, of that status key;
+    /// ascending, each once.
+    [[nodiscard]] std::vector<int> linesWithKeyValue(const QString &key,
+                                                     const QVariantList &values) const;
     /// Some line has, or had, a value of that status key. Cheap.
     [[nodiscard]] bool hasLineKeyValues(const QString &key) const;
     void addFilterCondition(const FilterCondition &condition);

@@ -45,6 +45,23 @@ void BaseLayer::setLineKeyValue(const LineId &line, const QString &key, const QV
     emitChanged(LayerChange::Status, line);
 }
 
+void BaseLayer::setLineKeyValues(const QVector<LineId> &lines, const QString &key,
+                                 const QVariantList &values, const std::vector<quint8> &numbers)
+{
+    {
+        const std::unique_lock guard(m_shared->lock);
+        if (!m_shared->state.status.set(lines, key, values, numbers))
+            return;
+    }
+    emitChanged(LayerChange::Status, LineId());
+}
+
+std::vector<int> BaseLayer::linesWithKeyValue(const QString &key, const QVariantList &values) const
+{
+    const std::shared_lock guard(m_shared->lock);
+    return m_shared->state.status.linesWith(key, values);
+}
+
 bool BaseLayer::hasLineKeyValues(const QString &key) const
 {
     const std::shared_lock guard(m_shared->lock);

@@ -5,6 +5,8 @@
 #include "LineSet.h"
 #include "TableData.h"
 
+#include <algorithm>
+
 namespace VKTab {
 
 namespace {
@@ -12,16 +14,17 @@ namespace {
 class LineNumberRule : public FilterRule
 {
 public:
-    LineNumberRule(QHash<int, TabFilterData> lines, bool used)
+    /// \a lines ascend.
+    LineNumberRule(std::vector<int> lines, bool used)
         : m_lines(std::move(lines))
         , m_used(used)
     {
     }
 
-    [[nodiscard]] const QHash<int, TabFilterData> &lines() const { return m_lines; }
+    [[nodiscard]] const std::vector<int> &lines() const { return m_lines; }
 
     [[nodiscard]] QString className() const override { return FilterByLineId::className(); }
-    [[nodiscard]] bool isUsed() const override { return m_used && !m_lines.isEmpty(); }
+    [[nodiscard]] bool isUsed() const override { return m_used && !m_lines.empty(); }
     void evaluate(const Content &content, LineSet &visible) const override
     {
         const auto table = content.getTableData();
@@ -36,8 +39,8 @@ public:
 private:
     void insertByNumber(const TableData &table, LineSet &shown) const
     {
-        for (auto line = m_lines.keyBegin(); line != m_lines.keyEnd(); ++line) {
-            const int row = table.rowOf(*line);
+        for (const int line : m_lines) {
+            const int row = table.rowOf(line);
             if (row >= 0)
                 shown.insert(row);
         }
@@ -47,14 +50,21 @@ private:
     void insertByRow(const TableData &table, LineSet &shown) const
     {
         for (int row = 0; row < shown.capacity(); ++row) {
-            if (m_lines.contains(table.lineNumber(row)))
+            if (std::binary_search(m_lines.begin(), m_lines.end(), table.lineNumber(row)))
                 shown.insert(row);
         }
     }
 
-    QHash<int, TabFilterData> m_lines;
+    std::vector<int> m_lines;
     bool m_used;
 };
+
+std::vector<int> ascending(const QHash<int, TabFilterData> &lines)
+{
+    std::vector<int> numbers(lines.keyBegin(), lines.keyEnd());
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
 
 const LineNumberRule *ruleOf(const FilterBase &filter)
 {
@@ -69,15 +79,22 @@ FilterByLineId::FilterByLineId()
 }
 
 FilterByLineId::FilterByLineId(const QHash<int, TabFilterData> &lines, bool used)
-    : FilterBase(std::make_shared<LineNumberRule>(lines, used))
+    : FilterBase(std::make_shared<LineNumberRule>(ascending(lines), used))
 {
+}
+
+FilterByLineId FilterByLineId::ofAscending(std::vector<int> lines)
+{
+    FilterByLineId filter;
+    filter.setRule(std::make_shared<LineNumberRule>(std::move(lines), true));
+    return filter;
 }
 
 FilterByLineId::FilterByLineId(const FilterBase &filter)
     : FilterBase(filter)
 {
     if (!ruleOf(filter))
-        setRule(std::make_shared<LineNumberRule>(QHash<int, TabFilterData>(), false));
+        setRule(std::make_shared<LineNumberRule>(std::vector<int>(), false));
 }
 
 FilterByLineId::FilterByLineId(const FilterByLineId &other) = default;
@@ -91,13 +108,19 @@ bool FilterByLineId::getLineIdFilterUsed() const
 
 void FilterByLineId::setLineIdFilterUsed(bool used)
 {
-    setRule(std::make_shared<LineNumberRule>(getLines(), used));
+    const LineNumberRule *const rule = ruleOf(*this);
+    setRule(std::make_shared<LineNumberRule>(rule ? rule->lines() : std::vector<int>(), used));
 }
 
 QHash<int, TabFilterData> FilterByLineId::getLines() const
 {
-    const LineNumberRule *rule = ruleOf(*this);
-    return rule ? rule->lines() : QHash<int, TabFilterData>();
+    const LineNumberRule *const rule = ruleOf(*this);
+    QHash<int, TabFilterData> lines;
+    if (!rule)
+        return lines;
+    for (const int line : rule->lines())
+        lines.insert(line, TabFilterData());
+    return lines;
 }
 
 QString FilterByLineId::className()

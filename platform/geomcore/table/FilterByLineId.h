@@ -5,6 +5,8 @@
 
 #include <QHash>
 
+#include <vector>
+
 namespace VKTab {
 
 /// Filter that shows exactly the lines of the given numbers while it is in use. An empty hash
@@ -15,6 +17,8 @@ public:
     FilterByLineId();
     /// `used` false keeps the numbers without filtering by them.
     FilterByLineId(const QHash<int, TabFilterData> &lines, bool used);
+    /// A filter in use by numbers in ascending order: the cheap way for very many.
+    [[nodiscard]] static FilterByLineId ofAscending(std::vector<int> lines);
     /// The filter that a table returned; a filter of another class gives one that filters nothing.
     FilterByLineId(const FilterBase &filter);
     FilterByLineId(const FilterByLineId &other);

@@ -1,21 +1,88 @@
 #include "LineStatusTable.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace VKTab {
 
+namespace {
+
+bool clears(const QVariant &value)
+{
+    return !value.isValid() || value.toString().isEmpty();
+}
+
+} // namespace
+
+LineStatusTable::Column &LineStatusTable::column(const QString &key)
+{
+    const Column *const known = find(key);
+    if (known)
+        return m_columns[static_cast<size_t>(known - m_columns.data())];
+    m_columns.emplace_back().key = key;
+    return m_columns.back();
+}
+
 bool LineStatusTable::set(const LineId &line, const QString &key, const QVariant &value)
 {
-    const bool clears = !value.isValid() || value.toString().isEmpty();
-    const Column *known = find(key);
-    if (!line.isValid() || (clears && !known))
+    if (!line.isValid() || (clears(value) && !find(key)))
         return false;
-    if (!known) {
-        m_columns.emplace_back().key = key;
-        known = &m_columns.back();
+    Column &places = column(key);
+    return places.store(line, clears(value) ? 0 : places.numberOf(value));
+}
+
+bool LineStatusTable::set(const QVector<LineId> &lines, const QString &key,
+                          const QVariantList &values, const std::vector<quint8> &numbers)
+{
+    const bool clearsAll = std::all_of(numbers.begin(), numbers.end(),
+                                       [&](quint8 number) { return clears(values[number]); });
+    if (clearsAll && !find(key))
+        return false;
+    Column &places = column(key);
+    std::vector<quint32> kept;
+    for (const QVariant &value : values)
+        kept.push_back(clears(value) ? 0 : places.numberOf(value));
+    bool changed = false;
+    int pageKey = -1;
+    Page *page = nullptr; // neighbouring lines share it
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const LineId &line = lines[i];
+        const quint32 number = kept[numbers[size_t(i)]];
+        if (!line.isValid() || line.value(1) != 0) {
+            changed |= line.isValid() && places.store(line, number);
+            continue;
+        }
+        if (std::exchange(pageKey, line.value(0) >> PageBits) != line.value(0) >> PageBits)
+            page = &places.pages[pageKey];
+        quint32 &place = (*page)[size_t(line.value(0)) % PageSize];
+        changed |= std::exchange(place, number) != number;
     }
-    Column &column = m_columns[static_cast<size_t>(known - m_columns.data())];
-    return column.store(line, clears ? 0 : column.numberOf(value));
+    return changed;
+}
+
+std::vector<int> LineStatusTable::linesWith(const QString &key, const QVariantList &values) const
+{
+    std::vector<int> lines;
+    const Column *const places = find(key);
+    if (!places)
+        return lines;
+    std::vector<bool> wanted;
+    for (const QVariant &value : places->values)
+        wanted.push_back(values.contains(value));
+    wanted[0] = false; // lines without a value are not known here
+    for (const auto &[begin, page] : places->pages) {
+        for (int i = 0; i < PageSize; ++i) {
+            if (wanted[page[size_t(i)]])
+                lines.push_back((begin << PageBits) + i);
+        }
+    }
+    for (const auto &[line, number] : places->others) {
+        if (wanted[number])
+            lines.push_back(line.value(0));
+    }
+    std::sort(lines.begin(), lines.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
+    return lines;
 }
 
 QVariant LineStatusTable::get(const LineId &line, const QString &key) const

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QVariant>
+#include <QVector>
 
 #include <array>
 #include <map>
@@ -20,6 +21,11 @@ class LineStatusTable
 public:
     /// A null value and an empty text clear. True if that changed something.
     bool set(const LineId &line, const QString &key, const QVariant &value);
+    /// set() for many lines; \a numbers has the place of each line's value among \a values.
+    bool set(const QVector<LineId> &lines, const QString &key, const QVariantList &values,
+             const std::vector<quint8> &numbers);
+    /// Numbers of the lines that have one of the values, ascending and each once.
+    [[nodiscard]] std::vector<int> linesWith(const QString &key, const QVariantList &values) const;
     /// An empty text when unset.
     [[nodiscard]] QVariant get(const LineId &line, const QString &key) const;
     /// True if the line had a value.
@@ -50,6 +56,7 @@ private:
     };
 
     [[nodiscard]] const Column *find(const QString &key) const;
+    [[nodiscard]] Column &column(const QString &key);
 
     std::vector<Column> m_columns;
 };
