@@ -8,6 +8,7 @@
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -23,6 +24,13 @@ TableSelectionLink::TableSelectionLink(TableGrid *grid, VkTableModel *model)
             &TableSelectionLink::onCurrentChanged);
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this,
             &TableSelectionLink::onAboutToReset);
+    const auto forgetCount = [this] {
+        m_count = -1;
+    };
+    connect(model, &QAbstractItemModel::modelReset, this, forgetCount);
+    connect(model, &QAbstractItemModel::rowsInserted, this, forgetCount);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, forgetCount);
+    connect(model, &QAbstractItemModel::layoutChanged, this, forgetCount);
 }
 
 TableSelectionLink::~TableSelectionLink() = default;
@@ -37,6 +45,13 @@ void TableSelectionLink::connectTable()
         VKTab::ConnectGroupLibrary);
     m_wasMany = false;
     takeFromTable();
+}
+
+void TableSelectionLink::clear()
+{
+    const QSignalBlocker blocker(m_grid->selectionModel());
+    m_grid->selectionModel()->clear();
+    m_count = -1;
 }
 
 void TableSelectionLink::setFollowing(bool following)
@@ -70,10 +85,13 @@ QList<VKTab::LineId> TableSelectionLink::selectedLines() const
 
 int TableSelectionLink::selectedCount() const
 {
-    int count = 0;
+    // Asked at every change of a line, and the selection is put together at every request.
+    if (m_count >= 0)
+        return m_count;
+    m_count = 0;
     for (const QItemSelectionRange &range : m_grid->selectionModel()->selection())
-        count += range.height();
-    return count;
+        m_count += range.height();
+    return m_count;
 }
 
 VKTab::LineId TableSelectionLink::wanted() const
@@ -90,6 +108,7 @@ VKTab::LineId TableSelectionLink::wanted() const
 
 void TableSelectionLink::onSelectionChanged()
 {
+    m_count = -1;
     if (!m_busy)
         announce(true);
 }
@@ -172,6 +191,7 @@ void TableSelectionLink::selectLines(const QList<VKTab::LineId> &lines)
 void TableSelectionLink::onAboutToReset()
 {
     m_remembered = selectedLines();
+    m_count = -1;
     m_column = m_grid->currentIndex().isValid() ? m_grid->currentIndex().column() : -1;
     m_horizontal = m_grid->horizontalScrollBar()->value();
     m_vertical = m_grid->verticalScrollBar()->value();

@@ -24,6 +24,8 @@ public:
     ~TableSelectionLink() override;
 
     void connectTable();
+    /// Selects nothing, unheard: the table is about to be another one.
+    void clear();
     void setFollowing(bool following);
     /// After a reset of the model, once the grid has its columns: selects and scrolls as before.
     void restore();
@@ -47,6 +49,7 @@ private:
     bool m_busy = false; // the change is our own
     bool m_following = true;
     bool m_wasMany = false;
+    mutable int m_count = -1;          // of selected lines, -1 if not known
     QList<VKTab::LineId> m_remembered; // during a reset
     int m_horizontal = 0;              // scroll positions during a reset
     int m_vertical = 0;

@@ -92,13 +92,10 @@ void VkTableViewPrivate::connectGrid()
 
 void VkTableViewPrivate::setTable(const VKTab::ContentRef &table)
 {
-    {
-        // What was selected and in view belongs to the former table.
-        const QSignalBlocker blocker(grid->selectionModel());
-        grid->selectionModel()->clear();
-        grid->horizontalScrollBar()->setValue(0);
-        grid->verticalScrollBar()->setValue(0);
-    }
+    // What was selected and in view belongs to the former table.
+    selection->clear();
+    grid->horizontalScrollBar()->setValue(0);
+    grid->verticalScrollBar()->setValue(0);
     model->setTable(table);
     selection->connectTable();
     widths->load();
