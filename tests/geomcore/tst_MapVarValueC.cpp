@@ -1,4 +1,5 @@
 #include <geomcore/expression/MapVarValueC.h>
+#include <geomcore/expression/toTabVarValues.h>
 
 #include <QTest>
 
@@ -80,6 +81,23 @@ private Q_SLOTS:
         value.setValue(VKTab::Value("12.5"));
         value.setNumeric(true);
         QVERIFY(value.toTabVarValue() == TabVarValue("D", "12.5", "", 0, 1));
+    }
+
+    void valuesToFind()
+    {
+        QHash<QString, MapVarValueC> varset;
+        for (const char *const name : {"A", "B", "C"}) {
+            MapVarValueC value;
+            value.setName(name);
+            value.setValue(VKTab::Value(name));
+            varset.insert(name, value);
+        }
+        const QList<TabVarValue> values = toTabVarValues(varset);
+        QCOMPARE(values.size(), 3);
+        qsizetype place = 0;
+        for (const MapVarValueC &value : varset) // the order of the hash
+            QCOMPARE(values[place++].getName(), value.getName());
+        QVERIFY(toTabVarValues({}).isEmpty());
     }
 };
 

@@ -162,6 +162,9 @@ inline void TableEditorFixture::clickIcon(VkTableView *view, int line, const QSt
 {
     const QModelIndex index = tableCell(view, line, key);
     QVERIFY(index.isValid());
+    // A column that is not shown, or not there, has no place to click at.
+    QCOMPARE(index.data(VkTableModel::StatusKeyRole).toString(), key);
+    QVERIFY(!view->grid()->visualRect(index).isEmpty());
     QTest::mouseClick(view->grid()->viewport(), Qt::LeftButton, Qt::NoModifier,
                       view->grid()->visualRect(index).center());
 }

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void fromTheMenu();
     void withoutSelection();
     void withoutTable();
+    void lineWithoutValues();
     void severalSelectedLines();
     void holdsForItsLine();
 
@@ -162,6 +163,16 @@ void tst_ConditionText::fromTheMenu()
 void tst_ConditionText::withoutSelection()
 {
     f->load();
+    QVERIFY(f->button("btnCondition")->isEnabled());
+    QTest::mouseClick(f->button("btnCondition"), Qt::LeftButton);
+    QCOMPARE(clipboard()->text(), QString("before"));
+}
+
+void tst_ConditionText::lineWithoutValues()
+{
+    f->catalog.write("old/a.prj", "I:i\n1\n2\n");
+    f->load();
+    f->select(1);
     QVERIFY(f->button("btnCondition")->isEnabled());
     QTest::mouseClick(f->button("btnCondition"), Qt::LeftButton);
     QCOMPARE(clipboard()->text(), QString("before"));

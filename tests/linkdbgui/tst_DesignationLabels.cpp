@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QTest>
+#include <QTextDocumentFragment>
 
 class tst_DesignationLabels : public QObject
 {
@@ -14,6 +15,16 @@ private Q_SLOTS:
     void everyChangeShows();
     void lightGroundInADarkWindow();
 };
+
+namespace {
+
+/// What a reader sees of a text that may be HTML.
+QString shownBy(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+} // namespace
 
 void tst_DesignationLabels::texts_data()
 {
@@ -38,6 +49,10 @@ void tst_DesignationLabels::texts_data()
                                       << "M9" << red.arg("") << red.arg("M9");
     QTest::newRow("case counts") << "m8"
                                  << "M8" << red.arg("m8") << red.arg("M8");
+    QTest::newRow("signs of HTML")
+        << "M8 <rechts> & \"x\""
+        << "M8 <links>" << red.arg("M8 &lt;rechts&gt; &amp; &quot;x&quot;")
+        << red.arg("M8 &lt;links&gt;");
     QTest::newRow("place holders stay") << "%1"
                                         << "%1" << green.arg("%1") << green.arg("%1");
 }
@@ -55,8 +70,9 @@ void tst_DesignationLabels::texts()
     labels.setTargetText(target);
     QTEST(sourceLabel.text(), "sourceShown");
     QTEST(targetLabel.text(), "targetShown");
-    QCOMPARE(sourceLabel.toolTip(), source);
-    QCOMPARE(targetLabel.toolTip(), target);
+    QCOMPARE(shownBy(sourceLabel.toolTip()), source);
+    QCOMPARE(shownBy(targetLabel.toolTip()), target);
+    QCOMPARE(shownBy(sourceLabel.text()), source);
     QCOMPARE(labels.sourceText, source);
     QCOMPARE(labels.targetText, target);
 }
@@ -103,6 +119,10 @@ void tst_DesignationLabels::lightGroundInADarkWindow()
     QVERIFY(sourceLabel.palette().color(QPalette::Window).lightness() > 200);
     QVERIFY(!targetLabel.autoFillBackground());
     labels.setSourceText("");
+    QVERIFY(!sourceLabel.autoFillBackground());
+    labels.setSourceText("c");
+    window.setPalette(QPalette(QColor(240, 240, 240)));
+    labels.show();
     QVERIFY(!sourceLabel.autoFillBackground());
 }
 

@@ -2,13 +2,19 @@
 
 #include <mapping/project/ProjectMappingWidget.h>
 
+#include <core/message/PScriptedMessageSink.h>
 #include <core/progress/PProgressObserverBase.h>
+#include <geomcore/table/BaseLayer.h>
 #include <geomcore/table/Line.h>
+#include <gui/progress/DefaultObserverDelegate.h>
+#include <gui/progress/ProgressDisplayI.h>
 
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QTest>
 
 using PRJMAPPING::Mapped;
@@ -46,6 +52,68 @@ private:
     const int m_steps;
 };
 
+/// Does something as soon as a progress has come so far.
+class AtStep : public PProgressObserverBase
+{
+public:
+    AtStep(int step, const std::function<void()> &work)
+        : m_step(step)
+        , m_work(work)
+    {
+        activate(Thread);
+    }
+    ~AtStep() override { deactivate(); }
+    void progressStarted(const PProgressInfo &) override {}
+    void progressChanged(const PProgressInfo &info) override
+    {
+        if (info.count == m_step)
+            m_work();
+    }
+    void progressDone(const PProgressInfo &) override {}
+
+private:
+    const int m_step;
+    const std::function<void()> m_work;
+};
+
+/// Notes what a progress shows.
+class NotingDisplay : public ProgressDisplayI
+{
+public:
+    explicit NotingDisplay(QList<PProgressInfo> *shown)
+        : m_shown(shown)
+    {
+    }
+    void showProgress(const QList<PProgressInfo> &running) override { m_shown->append(running); }
+    bool acceptsInput(const QWidget *) const override { return false; }
+
+private:
+    QList<PProgressInfo> *m_shown;
+};
+
+/// Notes at which step of a progress something came to the log window.
+class LoggedAt : public PMessageSink
+{
+public:
+    explicit LoggedAt(const CancelAfter *observer)
+        : m_observer(observer)
+    {
+    }
+    PMsgReply show(const QString &, PMsgDlgModes) override { return PMsgReply::Ok; }
+    void logToWindow(const QString &) override { counts.append(m_observer->last.count); }
+
+    QList<qint64> counts;
+
+private:
+    const CancelAfter *m_observer;
+};
+
+/// What line 1 shows.
+QString shownValue(const VKTab::Content &table, QStringView name)
+{
+    return table.getLine(LineId(1), false).getValue(table.getVar(name), {}).toString();
+}
+
 constexpr const char *confirmText = "Zuordnung bestätigen";
 constexpr const char *removeText = "Zuordnung dieser Zeile aufheben";
 constexpr const char *removeVerifyText = "Zuordnung dieser Zeile aufheben und bestätigen";
@@ -57,8 +125,9 @@ class tst_LineMappingActions : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QDir::setSearchPaths("bitmaps", {":/hostbitmaps"}); }
     void init();
-    void cleanup() { f.reset(); }
+    void cleanup();
 
     void confirmByKey();
     void keyActsAtOnce();
@@ -77,6 +146,7 @@ private Q_SLOTS:
     void extendedTextGoesOnChange();
     void onlyOwnCombinationTakesTheChosenLine();
     void rangesThatNoConditionReadsAreNotWalked();
+    void rangesAreWalkedInTableOrder();
     void conflictIsAcceptedBeforeTheChange();
 
     void removeByKey();
@@ -91,6 +161,8 @@ private Q_SLOTS:
     void verifyAll();
     void verifyAllWithoutTable();
     void receiversDoNotChangeWhatIsPublished();
+    void receiverClosesTheWidget_data();
+    void receiverClosesTheWidget();
 
     void remap_data();
     void remap();
@@ -98,17 +170,23 @@ private Q_SLOTS:
     void remapWithoutRelease();
     void remapCancelled();
     void remapWalksCombinations();
+    void remapShowsItsProgress();
+    void remapStepsAfterTheWork();
+    void remapInAWidgetThatGoes();
 
     void sourceMenu();
+    void sourceMenuIcons();
     void sourceMenuWithAnotherTargetLine();
     void sourceMenuWithoutTarget();
     void sourceMenuOfSeveralLines();
     void sourceMenuRowsAct();
     void targetMenu();
     void menusBesideLines();
+    void menusOfHeaders();
 
     void iconOfPassingLine();
     void iconOfFailingLine();
+    void iconLeavesHiddenRangesAlone();
     void iconOfUnknownKey();
 
 private:
@@ -120,11 +198,26 @@ private:
         f->mapping.updateTarget(0, target);
     }
 
+    /// A line whose condition does not hold for 20, with columns hidden as wanted.
+    void loadFailingLine(const TestCatalog::Edit &edit = {},
+                         const QString &condition = "L .LT. 15");
+
     std::unique_ptr<TableEditorFixture> f;
+    std::shared_ptr<PScriptedMessageSink> m_messages;
+    std::unique_ptr<PMessageSinkScope> m_scope;
 };
+
+void tst_LineMappingActions::cleanup()
+{
+    f.reset();
+    m_scope.reset();
+    QCOMPARE(m_messages->texts(), QStringList()); // no action shows a message
+}
 
 void tst_LineMappingActions::init()
 {
+    m_messages = std::make_shared<PScriptedMessageSink>();
+    m_scope = std::make_unique<PMessageSinkScope>(m_messages);
     f = std::make_unique<TableEditorFixture>();
     f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\n");
     f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n");
@@ -354,6 +447,31 @@ void tst_LineMappingActions::rangesThatNoConditionReadsAreNotWalked()
     QCOMPARE(entries(), QString("0:1>2/2"));
 }
 
+void tst_LineMappingActions::rangesAreWalkedInTableOrder()
+{
+    f->catalog.write("old/a.prj", "D,Z:r,A:r\nM8,1;2,1;2\n");
+    f->catalog.write("new/a.prj", "D,Z:n,A:n\nM8,1,1\n");
+    f->catalog.write("new/b.prj", "D,Z:n,A:n\nM8,2,1\n");
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj"});
+    addCondition(f->mapping, 0, "A .GE. Z");
+    addCondition(f->mapping, 1, "A .LT. Z");
+    for (const int target : {0, 1})
+        enter(f->mapping, target, 1, 1, Mapped);
+    ProjectMappingWidget project(nullptr);
+    f->widget->setProjectMappingWidget(&project);
+    project.loadSourceProject(f->mapping, f->read("old/a.prj"), CatalogMappingC());
+    f->load();
+    f->select(1);
+    f->press(Qt::Key_V);
+    QStringList states;
+    for (const PrjMappingC &mapping : f->published)
+        states.append(entriesOf(mapping));
+    // Z = 1 with both of A first.
+    QCOMPARE(states, QStringList({"0:1>1/2 1:1>1/1", "0:1>1/2 1:1>1/1", "0:1>1/2 1:1>1/2",
+                                  "0:1>1/2 1:1>1/2"}));
+    f->widget->setProjectMappingWidget(nullptr);
+}
+
 void tst_LineMappingActions::conflictIsAcceptedBeforeTheChange()
 {
     conflict(2);
@@ -500,6 +618,39 @@ void tst_LineMappingActions::receiversDoNotChangeWhatIsPublished()
     QCOMPARE(f->states(), QString("M M -"));
 }
 
+void tst_LineMappingActions::receiverClosesTheWidget_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("accepting");
+
+    for (const char *const name :
+         {"btnMapLine", "btnRemoveLine", "btnRemoveVerifyLine", "btnVerifyAll"})
+        QTest::addRow("%s, at the change", name) << name << false;
+    for (const char *const name : {"btnMapLine", "btnVerifyAll"})
+        QTest::addRow("%s, at an accepted conflict", name) << name << true;
+}
+
+void tst_LineMappingActions::receiverClosesTheWidget()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, accepting);
+    conflict(1);
+    conflict(2);
+    f->load();
+    f->select(1);
+    f->click(f->source, 2, Qt::ShiftModifier);
+    const auto close = [this] {
+        f->widget.reset();
+    };
+    if (accepting)
+        connect(f->widget.get(), &TableMappingWidget::targetLineConflictAccepted, this, close);
+    else
+        connect(f->widget.get(), &TableMappingWidget::projectMappingUpdated, this, close);
+    f->button(button.toLatin1())->click();
+    QVERIFY(!f->widget);
+    QCOMPARE(f->published.size(), accepting ? 0 : 1);
+}
+
 void tst_LineMappingActions::remap_data()
 {
     QTest::addColumn<int>("state");
@@ -507,7 +658,7 @@ void tst_LineMappingActions::remap_data()
     QTest::addColumn<QString>("expected");
     QTest::addColumn<QString>("marker");
 
-    QTest::newRow("confirmed survives") << 2 << 1 << "0:1>1/2"
+    QTest::newRow("confirmed survives") << 2 << 4 << "0:1>4/2"
                                         << "M";
     QTest::newRow("confirmed expiry survives") << 2 << -1 << "0:1>-1/2"
                                                << "NC";
@@ -521,6 +672,7 @@ void tst_LineMappingActions::remap()
 {
     QFETCH(int, state);
     QFETCH(int, targetLine);
+    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\nM20,1\n");
     f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
     enter(f->mapping, 0, 1, targetLine, PRJMAPPING::CheckState(state));
     f->load();
@@ -585,6 +737,68 @@ void tst_LineMappingActions::remapWalksCombinations()
     // Both combinations are found; the last one holds the line.
     QCOMPARE(entries().section('/', 0, 0), QString("1:1>1"));
     f->widget->setProjectMappingWidget(nullptr);
+}
+
+void tst_LineMappingActions::remapShowsItsProgress()
+{
+    f->load();
+    QList<PProgressInfo> shown;
+    DefaultObserverDelegate::setDisplay(std::make_shared<NotingDisplay>(&shown));
+    DefaultObserverDelegate::setTimes(0, 0);
+    f->widget->onRemapLinesClicked();
+    DefaultObserverDelegate::setTimes(500, 100);
+    DefaultObserverDelegate::setDisplay(nullptr);
+    QVERIFY(!shown.isEmpty());
+    for (const PProgressInfo &info : std::as_const(shown)) {
+        QVERIFY(info.cancellable);
+        QCOMPARE(info.total, qint64(3));
+    }
+    QCOMPARE(shown.last().text, QString("Zeilen werden neu zugewiesen"));
+}
+
+void tst_LineMappingActions::remapStepsAfterTheWork()
+{
+    // The first line's work comes to a table that cannot be read, and says so.
+    f->catalog.write("new/torn.prj", "k:n\n5\n");
+    QVERIFY(QFile::remove(f->catalog.file("new/torn.csv")));
+    f->mapping = mappingOf("old/a.prj", {"new/torn.prj"});
+    f->load();
+    const CancelAfter observer(1000);
+    const auto sink = std::make_shared<LoggedAt>(&observer);
+    {
+        const PMessageSinkScope scope(sink);
+        f->widget->onRemapLinesClicked();
+    }
+    QCOMPARE(observer.last.count, qint64(3));
+    QCOMPARE(sink->counts.value(0, -1), qint64(0));
+}
+
+void tst_LineMappingActions::remapInAWidgetThatGoes()
+{
+    f->load();
+    const QPointer<QWidget> widget = f->widget.get();
+    const AtStep closing(1, [this] { f->widget.reset(); });
+    f->widget->onRemapLinesClicked();
+    QVERIFY(!widget);
+    QCOMPARE(f->published.size(), 0);
+}
+
+void tst_LineMappingActions::sourceMenuIcons()
+{
+    f->load();
+    f->select(2);
+    QMenu *const menu = f->openMenu(f->source, 2);
+    QVERIFY(menu);
+    const QStringList icons = {":/bitmaps/confirm_mapping.png",
+                               "bitmaps:indextree/state_deleted.png", ":/bitmaps/remove_verify.png",
+                               ":/toolicons/actionFormatAlgorithm_16.png",
+                               ":/toolicons/actionFormatRanges_16.png"};
+    for (int i = 0; i < icons.size(); ++i) {
+        const QImage image = QIcon(icons.at(i)).pixmap(16).toImage();
+        QVERIFY(!image.isNull());
+        QCOMPARE(menu->actions().at(i)->icon().pixmap(16).toImage(), image);
+    }
+    menu->close();
 }
 
 void tst_LineMappingActions::sourceMenu()
@@ -689,6 +903,24 @@ void tst_LineMappingActions::menusBesideLines()
     }
 }
 
+void tst_LineMappingActions::menusOfHeaders()
+{
+    // A view may be asked for the menu of a header while a row is known.
+    struct Asking : VkTableView
+    {
+        using VkTableView::askPopupShow;
+    };
+    f->load();
+    f->select(2);
+    for (VkTableView *const view : {f->source, f->target}) {
+        QMenu menu;
+        QVERIFY((view->*(&Asking::askPopupShow))(&menu, VkTableViewBase::PopupHeader, 2));
+        QVERIFY(menu.isEmpty());
+        QVERIFY((view->*(&Asking::askPopupShow))(&menu, VkTableViewBase::PopupCells, 2));
+        QVERIFY(!menu.isEmpty());
+    }
+}
+
 void tst_LineMappingActions::iconOfPassingLine()
 {
     f->catalog.write("old/a.prj", "D,k:r\nM8,5;6\nM9,6\nM10,7\n");
@@ -700,29 +932,43 @@ void tst_LineMappingActions::iconOfPassingLine()
     QCOMPARE(f->published.size(), 0);
 }
 
-void tst_LineMappingActions::iconOfFailingLine()
+void tst_LineMappingActions::loadFailingLine(const TestCatalog::Edit &edit,
+                                             const QString &condition)
 {
-    // The condition reads L; with 20 it does not hold.
-    f->catalog.write("old/a.prj", "D,E,L:r\nM8,x,10;20\nM9,x,10\n");
-    f->catalog.write("new/a.prj", "D,E,L:r\nM8,x,10;20\nM9,x,10\n");
+    f->catalog.write("old/a.prj", "D,E,L:r,H:r\nM8,x,10;20,1;2\nM9,x,10,1\n", edit);
+    f->catalog.write("new/a.prj", "D,E,L:r,H:r\nM8,x,10;20,1;2\nM9,x,10,1\n");
     f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
-    addCondition(f->mapping, 0, "L .LT. 15");
+    addCondition(f->mapping, 0, condition);
     enter(f->mapping, 0, 1, 1, ToCheck);
     f->load();
-    const VKTab::Var var = f->sourceTable().getVar(u"L");
-    const auto shown = [&] {
-        return f->sourceTable().getLine(LineId(1), false).getValue(var, {}).toString();
-    };
-    QCOMPARE(shown(), QString("10;20"));
+}
+
+void tst_LineMappingActions::iconOfFailingLine()
+{
+    loadFailingLine(); // the condition reads L; with 20 it does not hold
+    QCOMPARE(shownValue(f->sourceTable(), u"L"), QString("10;20"));
     f->clickIcon(f->source, 1, "CatalogMapper");
-    QCOMPARE(shown(), QString("20"));
+    QCOMPARE(shownValue(f->sourceTable(), u"L"), QString("20"));
+    QCOMPARE(f->published.size(), 0);
+}
+
+void tst_LineMappingActions::iconLeavesHiddenRangesAlone()
+{
+    loadFailingLine([](auto &table) { table.fields[3].hidden = true; }, "L .LT. 15 .AND. H .LT. 5");
+    f->clickIcon(f->source, 1, "CatalogMapper");
+    QCOMPARE(shownValue(f->sourceTable(), u"L"), QString("20"));
+    QCOMPARE(shownValue(f->sourceTable(), u"H"), QString("1;2"));
 }
 
 void tst_LineMappingActions::iconOfUnknownKey()
 {
-    f->load();
+    loadFailingLine();
+    f->sourceTable().getModifyLayer()->setLineKeyValue(1, "TargetMapping", "C");
+    QCoreApplication::processEvents(); // the column comes into view
     f->clickIcon(f->source, 1, "TargetMapping");
-    QVERIFY(f->sourceTable().isPlain());
+    QCOMPARE(shownValue(f->sourceTable(), u"L"), QString("10;20"));
+    f->clickIcon(f->source, 1, "CatalogMapper");
+    QCOMPARE(shownValue(f->sourceTable(), u"L"), QString("20"));
 }
 
 QTEST_MAIN(tst_LineMappingActions)

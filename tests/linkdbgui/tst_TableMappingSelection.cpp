@@ -2,8 +2,11 @@
 
 #include <mapping/project/ProjectMappingWidget.h>
 
+#include <geomcore/table/BaseLayer.h>
 #include <geomcore/table/FilterByLineId.h>
 #include <geomcore/table/Line.h>
+#include <geomcore/table/SignalConnect.h>
+#include <geomcore/table/TableData.h>
 #include <geomcore/value/LangThreadSettings.h>
 #include <geomcoregui/table/VkTableModel.h>
 
@@ -44,6 +47,15 @@ private Q_SLOTS:
     void targetThatCannotBeRead();
     void severalSelectedLines();
     void backToOneLine();
+    void tellsOfBothTablesAreObeyed_data();
+    void tellsOfBothTablesAreObeyed();
+    void modifiedLinesAreShownAnew();
+    void otherListenersHearFirst();
+    void deselectionForgetsTheLine();
+    void targetSelectionWithoutSourceLine();
+    void newTableKeepsItsPosition();
+    void formerTablesAreLetGo();
+    void targetLabelIsUntranslated();
     void sameTargetKeepsTableAndPosition();
     void otherTargetReadsItsTable();
     void targetTableIsReadWithoutProjectFilters();
@@ -69,11 +81,13 @@ private Q_SLOTS:
     void boxTakesItsFilterBack();
     void otherFilterStays();
     void boxesOff();
+    void filtersOfInvalidTables();
     void filterTargetTable();
     void filterTargetTableWithoutAny();
     void filterSourceTable();
     void filterSourceTableWithoutAny();
     void hiddenColumns();
+    void hiddenColumnsAreToldToTheTables();
 
 private:
     void menuRow(VkTableView *view, int line, const QString &text) const;
@@ -215,6 +229,175 @@ void tst_TableMappingSelection::backToOneLine()
     f->select(2);
     QVERIFY(f->targetTable().isValid());
     QVERIFY(f->button("btnCondition")->isEnabled());
+}
+
+void tst_TableMappingSelection::tellsOfBothTablesAreObeyed_data()
+{
+    QTest::addColumn<bool>("modifies");
+    QTest::newRow("selection") << false;
+    QTest::newRow("modification") << true;
+}
+
+/// Puts a value into a line, or takes it back.
+static void modify(const VKTab::ContentRef &table, int line, const char *value)
+{
+    VKTab::Line changed = table.getLine(LineId(line), false);
+    changed.putValue(table.getVar(u"k").getVarId(),
+                     value ? VKTab::Value(value) : changed.getValue(table.getVar(u"k"), {}));
+    QVERIFY(changed.apply());
+}
+
+void tst_TableMappingSelection::tellsOfBothTablesAreObeyed()
+{
+    QFETCH(bool, modifies);
+    f->catalog.write("old/a.prj", "D,k:r\nM8,5;6\nM9,6\n");
+    f->catalog.write("new/a.prj", "D,k:r\nM10,7\nM9,66\nM8,5;6\n");
+    f->load();
+    f->select(1);
+    const VKTab::ContentRef source = f->sourceTable();
+    VKTab::ContentRef target = f->targetTable();
+    // A line that is no longer selected, or shows the file's values again, changes nothing but what
+    // is known of the last line shown: with the selection gone the labels stay.
+    f->label("targetPathLabel")->setText("left alone");
+    f->label("targetNumberLabel")->setText("left alone");
+    if (modifies) {
+        source.getModifyLayer()->setValue(source.getVar(u"k").getVarId(), 1, VKTab::Value("5"));
+        QCOMPARE(f->label("targetPathLabel")->text(), QString("new/a.prj"));
+        f->label("targetPathLabel")->setText("left alone");
+        source.getModifyLayer()->setValue(source.getVar(u"k").getVarId(), 1, VKTab::Value());
+        QCOMPARE(f->label("targetPathLabel")->text(), QString("left alone"));
+        f->label("targetNumberLabel")->setText("left alone");
+        target.getModifyLayer()->setValue(target.getVar(u"k").getVarId(), 1, VKTab::Value("8"));
+        QCOMPARE(f->label("targetNumberLabel")->text(), QString());
+        f->label("targetNumberLabel")->setText("left alone");
+        target.getModifyLayer()->setValue(target.getVar(u"k").getVarId(), 1, VKTab::Value());
+    } else {
+        target.setSelection(LineId(), true);
+        QCOMPARE(f->label("targetNumberLabel")->text(), QString("left alone"));
+        VKTab::ContentRef(source).setSelection(LineId(), true);
+        QCOMPARE(f->label("targetPathLabel")->text(), QString("left alone"));
+    }
+    QCOMPARE(f->label("targetNumberLabel")->text(), QString("left alone"));
+}
+
+void tst_TableMappingSelection::modifiedLinesAreShownAnew()
+{
+    f->catalog.write("old/a.prj", "D,k:r\nM8,5;6\nM9,6\n");
+    f->catalog.write("new/a.prj", "D,k:r\nM10,7\nM9,66\nM8,5;6;7\n");
+    f->load();
+    f->select(1);
+    const VKTab::ContentRef target = f->targetTable();
+    const auto shown = [&] {
+        return target.getLine(LineId(3), false).getValue(target.getVar(u"k"), {}).toString();
+    };
+    modify(f->sourceTable(), 1, "6");
+    QCOMPARE(shown(), QString("6"));
+    modify(f->sourceTable(), 1, "5");
+    QCOMPARE(shown(), QString("5"));
+    // In the target table the button looks again.
+    f->button("btnMapLine")->setEnabled(false);
+    modify(target, 3, "7");
+    QVERIFY(f->button("btnMapLine")->isEnabled());
+}
+
+void tst_TableMappingSelection::otherListenersHearFirst()
+{
+    f->load();
+    f->select(1);
+    // The tables' own listeners, which come first, have the new line when the widget asks.
+    QString atLibraryTime;
+    const auto listen = [&](const VKTab::ContentRef &table, QLabel *label) {
+        return table.signalConnect().connectSignalLineSelected(
+            [&atLibraryTime, label](const VKTab::Content &, const LineId &, bool selected) {
+                if (selected)
+                    atLibraryTime = label->text();
+                return 0;
+            },
+            VKTab::ConnectGroupLibrary);
+    };
+    const boost::signals2::scoped_connection source =
+        listen(f->sourceTable(), f->label("sourceDesignationLabel"));
+    f->select(2);
+    QVERIFY(atLibraryTime.contains("M8"));
+    QVERIFY(f->label("sourceDesignationLabel")->text().contains("M9"));
+    const boost::signals2::scoped_connection target =
+        listen(f->targetTable(), f->label("targetDesignationLabel"));
+    f->click(f->target, 4);
+    QVERIFY(atLibraryTime.contains("M9"));
+    QVERIFY(f->label("targetDesignationLabel")->text().contains("M20"));
+}
+
+void tst_TableMappingSelection::deselectionForgetsTheLine()
+{
+    f->load();
+    f->select(1);
+    const QString toolTip = f->button("btnMapLine")->toolTip();
+    f->sourceTable().setSelection(LineId(), true);
+    QVERIFY(f->targetTable().isValid());
+    f->click(f->target, 1); // belongs to no source line now
+    QCOMPARE(f->button("btnMapLine")->toolTip(), toolTip);
+    QCOMPARE(f->label("targetNumberLabel")->text(), QString());
+}
+
+void tst_TableMappingSelection::targetSelectionWithoutSourceLine()
+{
+    f->load();
+    f->select(1);
+    f->source->setActive(
+        false); // the view keeps no selection of its own for a line shown by others
+    f->sourceTable().setSelection(LineId(2), true);
+    f->click(f->target, 1);
+    QCOMPARE(f->label("targetNumberLabel")->text(), QString("ISO 1-M10"));
+    f->source->setActive(true);
+}
+
+void tst_TableMappingSelection::newTableKeepsItsPosition()
+{
+    QByteArray head = "D";
+    QByteArray line = "M8";
+    for (int i = 0; i < 40; ++i) {
+        head += ",column" + QByteArray::number(i);
+        line += ",value";
+    }
+    f->catalog.write("new/a.prj", head + "\n" + line + "\n" + line + "\n" + line + "\n");
+    f->catalog.write("new/b.prj", head + "\n" + line + "\n");
+    f->load();
+    f->select(1);
+    f->target->setHorizontalScrollPos(150);
+    f->select(4);
+    QCOMPARE(f->target->getHorizontalScrollPos(), 0);
+}
+
+void tst_TableMappingSelection::formerTablesAreLetGo()
+{
+    f->load();
+    f->select(1);
+    tick("chkFilterTarget");
+    const std::weak_ptr<const VKTab::TableData> target = f->targetTable().getTableData();
+    tick("chkFilterTarget");
+    f->select(4);
+    QVERIFY(target.expired());
+    const std::weak_ptr<const VKTab::TableData> source = f->sourceTable().getTableData();
+    f->load(VKTab::ContentRef());
+    QVERIFY(source.expired());
+}
+
+void tst_TableMappingSelection::targetLabelIsUntranslated()
+{
+    f->catalog.write("old/a.prj", "D,k:n\nBlank,5\n");
+    f->catalog.write("new/a.prj", "D,k:n\nBlank,5\nBlank,6\nBlank,7\n",
+                     [](VKTab::TableDescriptor &table) {
+                         table.lineDesignation = "D";
+                         table.lineNormNumber = "D";
+                         table.translations["en"].insert("Blank", "bare");
+                     });
+    VKTab::LangThreadSettings language;
+    language.setLanguage("en");
+    f->load();
+    f->select(1);
+    f->click(f->target, 2); // no source line is being shown meanwhile
+    QVERIFY(f->label("targetDesignationLabel")->text().contains("Blank"));
+    QCOMPARE(f->label("targetNumberLabel")->text(), QString("Blank"));
 }
 
 void tst_TableMappingSelection::sameTargetKeepsTableAndPosition()
@@ -547,6 +730,38 @@ void tst_TableMappingSelection::boxesOff()
     QCOMPARE(visible(f->target), QString("1 2 3 4"));
 }
 
+void tst_TableMappingSelection::filtersOfInvalidTables()
+{
+    f->load();
+    f->select(2);
+    QMenu *const menu = f->openMenu(f->target, 2);
+    QVERIFY(menu);
+    const auto triggerAll = [&] {
+        for (const char *const name : {"chkFilterSource", "chkFilterTarget"})
+            QMetaObject::invokeMethod(f->box(name), "stateChanged", Q_ARG(int, Qt::Checked));
+        menu->actions().at(0)->trigger();
+        menu->actions().at(1)->trigger();
+    };
+    const auto isFiltered = [](const VKTab::Content &table) {
+        return table.getFilter(VKTab::FilterByLineId::className()).rule() != nullptr;
+    };
+    // A target table that is left over beside no source table.
+    f->load(VKTab::ContentRef());
+    VKTab::ContentRef table = f->read("new/a.prj");
+    table.setSelection(LineId(2), false);
+    f->target->setTable(table);
+    triggerAll();
+    QVERIFY(!isFiltered(table));
+    // A source table beside no target table.
+    table = f->read("old/a.prj");
+    f->load(table);
+    menu->actions().at(0)->trigger();
+    menu->actions().at(1)->trigger();
+    QMetaObject::invokeMethod(f->box("chkFilterTarget"), "stateChanged", Q_ARG(int, Qt::Checked));
+    QVERIFY(!isFiltered(table));
+    menu->close();
+}
+
 void tst_TableMappingSelection::filterTargetTable()
 {
     enter(f->mapping, 0, 4, 2, Mapped);
@@ -606,6 +821,22 @@ void tst_TableMappingSelection::hiddenColumns()
     QVERIFY(isShown(f->target));
     tick("chkShowHiddenCols");
     QVERIFY(!isShown(f->source) && !isShown(f->target));
+}
+
+void tst_TableMappingSelection::hiddenColumnsAreToldToTheTables()
+{
+    f->load();
+    f->select(1);
+    QList<VKTab::Content::InvalidateFlags> heard;
+    const auto note = [&](const VKTab::Content &, VKTab::Content::InvalidateFlags flags) {
+        heard.append(flags);
+    };
+    const boost::signals2::scoped_connection source =
+        f->sourceTable().signalConnect().connectSignalInvalidated(note);
+    const boost::signals2::scoped_connection target =
+        f->targetTable().signalConnect().connectSignalInvalidated(note);
+    tick("chkShowHiddenCols");
+    QCOMPARE(heard, QList<VKTab::Content::InvalidateFlags>(2, VKTab::Content::InvalidateColumns));
 }
 
 QTEST_MAIN(tst_TableMappingSelection)

@@ -45,6 +45,22 @@ void whenOpen(const std::function<void(Dialog &)> &work)
     timer->start(5);
 }
 
+/// Does something as soon as events are delivered after the choice of variables: during the run.
+void whenRunning(const std::function<void()> &work)
+{
+    auto *const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, work, seen = false]() mutable {
+        if (QApplication::activeModalWidget()) {
+            seen = true;
+        } else if (seen) {
+            timer->deleteLater();
+            timer->stop();
+            work();
+        }
+    });
+    timer->start(1);
+}
+
 void chooseRow(QMenu *menu)
 {
     const QPointer<QMenu> open = menu; // a dialog closes it
@@ -73,6 +89,10 @@ private Q_SLOTS:
     void selectedLineWithoutSelection();
     void tableWithoutRanges();
     void runWithoutHits();
+    void mappingIsTakenOverInAnyCase();
+    void widgetGoesDuringTheRun();
+    void widgetGoesBehindADialog_data();
+    void widgetGoesBehindADialog();
     void otherTexts();
 
     void firstInDisplayOrder();
@@ -97,6 +117,14 @@ private:
     /// A run over all lines, without widgets.
     [[nodiscard]] PrjMappingC run(const QStringList &variables, bool *changed = nullptr) const;
     void chooseVariables(const QStringList &names) const;
+    /// So many lines that the run takes its time.
+    void writeLongTable() const
+    {
+        QByteArray lines = "D,L:r\n";
+        for (int i = 0; i < 3000; ++i)
+            lines += "M8,10;20\n";
+        f->catalog.write("old/a.prj", lines);
+    }
 
     std::unique_ptr<TableEditorFixture> f;
     std::shared_ptr<PScriptedMessageSink> m_messages;
@@ -259,6 +287,78 @@ void tst_ValueRangeMapping::runWithoutHits()
     f->load();
     chooseVariables({"L"});
     QTest::mouseClick(f->button("btnResolvedRanges"), Qt::LeftButton);
+    QCOMPARE(f->published.size(), 0);
+}
+
+void tst_ValueRangeMapping::mappingIsTakenOverInAnyCase()
+{
+    writeLongTable();
+    f->catalog.write("new/a.prj", "D,L:r\nZ,1\n"); // no line will be found
+    m_messages->addAnswer(PMsgReply::Ok);
+    f->load();
+    chooseVariables({"L"});
+    QStringList paths;
+    whenRunning([&] {
+        f->widget->onProjectMappingUpdated(mappingOf("old/other.prj", {}));
+        paths.append(f->widget->sourcePath());
+    });
+    f->button("btnResolvedRanges")->click();
+    QCOMPARE(paths, QStringList("old/other.prj"));
+    QCOMPARE(f->published.size(), 0);
+    QCOMPARE(f->widget->sourcePath(), QString("old/a.prj"));
+}
+
+void tst_ValueRangeMapping::widgetGoesDuringTheRun()
+{
+    writeLongTable();
+    m_messages->addAnswer(PMsgReply::Ok);
+    f->load();
+    chooseVariables({"L"});
+    whenRunning([this] { f->widget.reset(); });
+    f->button("btnResolvedRanges")->click();
+    QVERIFY(!f->widget);
+    QCOMPARE(f->published.size(), 0);
+}
+
+void tst_ValueRangeMapping::widgetGoesBehindADialog_data()
+{
+    QTest::addColumn<QString>("behind");
+    for (const char *const name : {"warning", "choice of variables", "edited text"})
+        QTest::newRow(name) << name;
+}
+
+void tst_ValueRangeMapping::widgetGoesBehindADialog()
+{
+    QFETCH(QString, behind);
+    f->load();
+    if (behind == "edited text") {
+        whenOpen<dlgEditValueRangeMappings>([this](auto &) { f->widget.reset(); });
+        f->clickIcon(f->source, 1, "ValueRangeMapping");
+    } else if (behind == "choice of variables") {
+        m_messages->addAnswer(PMsgReply::Ok);
+        whenOpen<dlgSelectValueRangeVars>([this](auto &) { f->widget.reset(); });
+        f->button("btnResolvedRanges")->click();
+    } else {
+        class ClosingSink : public PScriptedMessageSink
+        {
+        public:
+            std::function<void()> close;
+            PMsgReply show(const QString &text, PMsgDlgModes mode) override
+            {
+                close();
+                return PScriptedMessageSink::show(text, mode);
+            }
+        };
+        const auto sink = std::make_shared<ClosingSink>();
+        sink->addAnswer(PMsgReply::Ok);
+        sink->close = [this] {
+            f->widget.reset();
+        };
+        const PMessageSinkScope scope(sink);
+        f->button("btnResolvedRanges")->click();
+    }
+    QVERIFY(!f->widget);
+    QVERIFY(!QApplication::activeModalWidget());
     QCOMPARE(f->published.size(), 0);
 }
 

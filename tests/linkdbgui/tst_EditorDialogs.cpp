@@ -1,0 +1,73 @@
+#include "../geomcore/TestCatalog.h"
+
+#include <mapping/project/TableLineSelectionDialog.h>
+#include <mapping/table/dlgEditValueRangeMappings.h>
+#include <mapping/table/dlgSelectValueRangeVars.h>
+
+#include <core/config/PConfigInst.h>
+#include <geomcoregui/table/VkTableModel.h>
+#include <geomcoregui/table/VkTableView.h>
+#include <gui/application/PApplication.h>
+
+#include <QTest>
+
+#include <functional>
+
+using Maker = std::function<QDialog *()>;
+Q_DECLARE_METATYPE(Maker)
+
+/// What the dialogs of the table editor have in common.
+class tst_EditorDialogs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void placeIsKept_data();
+    void placeIsKept();
+    void tableWithoutTopology();
+};
+
+void tst_EditorDialogs::placeIsKept_data()
+{
+    QTest::addColumn<Maker>("make");
+    QTest::newRow("dlgSelectValueRangeVars") << Maker([] {
+        return new dlgSelectValueRangeVars({"L", "T"}, nullptr);
+    });
+    QTest::newRow("dlgEditValueRangeMappings")
+        << Maker([] { return new dlgEditValueRangeMappings("{L=1} -> 2", nullptr); });
+    QTest::newRow("TableLineSelectionDialog")
+        << Maker([] { return new TableLineSelectionDialog(VKTab::ContentRef(), nullptr); });
+}
+
+void tst_EditorDialogs::placeIsKept()
+{
+    QFETCH(Maker, make);
+    const QTemporaryDir folder;
+    const PApplication application(
+        PRefPtr<PConfig>(new PConfigInst(folder.filePath("app.cfg"), false)));
+    std::unique_ptr<QDialog> dialog(make());
+    QCOMPARE(dialog->objectName(), QString(QTest::currentDataTag()));
+    dialog->resize(531, 417); // kept as it is at the end, with all that is in it
+    dialog.reset();
+    dialog.reset(make());
+    QCOMPARE(dialog->size(), QSize(531, 417));
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+    QCOMPARE(dialog->size(), QSize(531, 417));
+}
+
+void tst_EditorDialogs::tableWithoutTopology()
+{
+    const TestCatalog catalog;
+    catalog.write("new/a.prj", "k:n,T:n\n5,2\n",
+                  [](auto &table) { table.fields[1].kind = VKTab::FieldKind::Topology; });
+    const VKTab::ContentRef table = catalog.read("new/a.prj");
+    const TableLineSelectionDialog dialog(table, nullptr);
+    const auto *const view = dialog.findChild<VkTableView *>();
+    QVERIFY(!view->isHeaderVisible());
+    QVERIFY(view->model()->columnOf(table.getVar(u"k").getVarId()) >= 0);
+    QCOMPARE(view->model()->columnOf(table.getVar(u"T").getVarId()), -1);
+}
+
+QTEST_MAIN(tst_EditorDialogs)
+#include "tst_EditorDialogs.moc"
