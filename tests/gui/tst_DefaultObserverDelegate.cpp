@@ -32,6 +32,26 @@ public:
     QStringList events;
 };
 
+/// Calls a function at the first request to quit.
+class QuitWatch : public QObject
+{
+public:
+    explicit QuitWatch(std::function<void()> function)
+        : m_function(std::move(function))
+    {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        if (event->type() == QEvent::Quit && m_function)
+            std::exchange(m_function, {})();
+        return QObject::eventFilter(receiver, event);
+    }
+
+private:
+    std::function<void()> m_function;
+};
+
 /// A window of the application with a button, an edit and a shortcut.
 struct Window : QWidget
 {
@@ -275,6 +295,63 @@ private Q_SLOTS:
         QTest::mouseClick(&window.button, Qt::LeftButton);
         QCOMPARE(clicked.size(), 1);
     }
+    void escapeCancels_data()
+    {
+        QTest::addColumn<bool>("cancellable");
+        QTest::addColumn<bool>("shown");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("as the button does") << true << true << true;
+        QTest::newRow("not what cannot be cancelled") << false << true << false;
+        QTest::newRow("not what nobody sees yet") << true << false << false;
+    }
+    void escapeCancels()
+    {
+        QFETCH(bool, cancellable);
+        QFETCH(bool, shown);
+        Window window;
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.edit.setFocus();
+        DefaultObserverDelegate::setTimes(shown ? 0 : 1000000, 1000000);
+        DefaultObserverDelegate delegate;
+        delegate.activate(1);
+        PProgress outer(0, 10);
+        PProgress progress(0, 10, 1.0, cancellable, false);
+        progress.nextStep();
+        QTest::keyClick(&window.edit, Qt::Key_A);
+        QVERIFY(!progress.isCanceled());
+        const qsizetype before = m_display->shown.size();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+        QTEST(progress.isCanceled(), "expected");
+        QCOMPARE(m_display->shown.size() > before, shown); // says so at once
+        QCOMPARE(window.edit.text(), QString());
+    }
+    void escapeInTheDisplayCancelsToo()
+    {
+        Window window;
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        m_display->own = &window.button;
+        window.button.setFocus();
+        DefaultObserverDelegate delegate;
+        delegate.activate(1);
+        PProgress progress(0, 10, 1.0, true, false);
+        progress.nextStep();
+        QTest::keyClick(&window.button, Qt::Key_Escape, Qt::ShiftModifier);
+        QVERIFY(!progress.isCanceled());
+        QTest::keyClick(&window.button, Qt::Key_Escape);
+        QVERIFY(progress.isCanceled());
+    }
+    void escapeClosesADialogOpenedSince()
+    {
+        Window window;
+        DefaultObserverDelegate delegate;
+        delegate.activate(1);
+        PProgress progress(0, 10, 1.0, true, false);
+        progress.nextStep();
+        QDialog dialog(&window);
+        QTimer::singleShot(0, [&dialog] { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+        QVERIFY(!progress.isCanceled());
+    }
     void inputToADialogOpenedSincePasses()
     {
         Window window;
@@ -306,11 +383,14 @@ private Q_SLOTS:
         auto delegate = std::make_unique<DefaultObserverDelegate>();
         delegate->activate(1);
         bool stillRunning = false;
-        QTimer::singleShot(0, [] { QCoreApplication::quit(); });
-        QTimer::singleShot(20, [&] {
-            stillRunning = true;
-            delegate.reset();
+        // Hears of the request before the delegate drops it.
+        QuitWatch watch([&] {
+            QTimer::singleShot(0, qApp, [&] {
+                stillRunning = true;
+                delegate.reset();
+            });
         });
+        QTimer::singleShot(0, [] { QCoreApplication::quit(); });
         QCOMPARE(QCoreApplication::exec(), 0);
         QVERIFY(stillRunning);
     }

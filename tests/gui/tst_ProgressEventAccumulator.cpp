@@ -149,11 +149,13 @@ private Q_SLOTS:
     }
     void observerMayEndFirst()
     {
+        const Recorder outer;
         auto recorder = std::make_unique<Recorder>();
         ProgressEventAccumulator accumulator(0, -1);
         recorder.reset();
         accumulator.post(PProgressEvent::Started, info(1, 0));
         QCoreApplication::processEvents();
+        QVERIFY(outer.events.isEmpty()); // it was meant for the one that went
     }
 
     void collectorTakesNestedOnesAlongOrNot_data()
@@ -183,10 +185,12 @@ private Q_SLOTS:
     }
     void collectorWithoutAccumulatorIsSilent()
     {
+        const Recorder outer;
         ThreadLocalProgressEventCollector collector(nullptr, true);
         collector.activate(1);
         PProgress progress(0, 1);
         progress.nextStep();
+        QVERIFY(outer.events.isEmpty());
     }
 
     /// A worker of a pool, watched by the thread of the windows.

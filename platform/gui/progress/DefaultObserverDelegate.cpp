@@ -47,6 +47,8 @@ public:
         : display(currentDisplay())
         , inputFilter(display)
     {
+        QObject::connect(&inputFilter, &ProgressInputFilter::cancelRequested,
+                         [this] { requestCancel(); });
     }
 
     void set(const PProgressInfo &info);
@@ -61,6 +63,7 @@ private:
     [[nodiscard]] bool isDue() const;
     void update();
     void show();
+    void requestCancel();
     void showAfterDelivery();
 
     const std::shared_ptr<ProgressDisplayI> display;
@@ -130,6 +133,18 @@ void DefaultObserverDelegatePrivate::show()
     shown = true;
     sinceShow.start();
     display->showProgress(running);
+}
+
+/// Of work that the user sees.
+void DefaultObserverDelegatePrivate::requestCancel()
+{
+    if (!shown || running.isEmpty())
+        return;
+    for (const PProgressInfo &info : std::as_const(running)) {
+        if (info.cancellable && info.cancel)
+            info.cancel->request();
+    }
+    show();
 }
 
 void DefaultObserverDelegatePrivate::takeAway()

@@ -13,7 +13,8 @@ class ProgressDisplayI;
 ///
 /// The display appears when work has gone on for half a second. Meanwhile events are processed
 /// every 100 ms at most, and from activate() to deactivate() input to other windows than the
-/// display and dialogs opened since is dropped; a request to quit waits for the end.
+/// display and dialogs opened since is dropped, but that Escape cancels what is shown; a request to
+/// quit waits for the end.
 ///
 /// In a program without QApplication, on another thread than the GUI's, or inside another delegate
 /// it does nothing: the observer that is active already goes on hearing of everything.

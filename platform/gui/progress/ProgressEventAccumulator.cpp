@@ -70,8 +70,10 @@ qsizetype ProgressEventAccumulatorPrivate::lastOf(quint64 id) const
 /// telling is of interest to nobody.
 bool ProgressEventAccumulatorPrivate::join(PProgressEvent event, const PProgressInfo &info)
 {
+    if (event == PProgressEvent::Started)
+        return false; // and no search of the whole queue for what cannot be there
     qsizetype last = lastOf(info.id);
-    if (last < 0 || event == PProgressEvent::Started)
+    if (last < 0)
         return false;
     if (event != PProgressEvent::Done) {
         if (!isIntermediate(queue[last]))

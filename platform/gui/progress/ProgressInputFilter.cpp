@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -88,7 +89,31 @@ bool ProgressInputFilter::eventFilter(QObject *receiver, QEvent *event)
         return true;
     }
     // Windows hand their events to widgets, where they are judged.
-    return isInput(event->type()) && !receiver->isWindowType() && !mayPass(receiver);
+    return takeEscape(receiver, event) ||
+           (isInput(event->type()) && !receiver->isWindowType() && !mayPass(receiver));
+}
+
+bool ProgressInputFilter::takeEscape(const QObject *receiver, QEvent *event)
+{
+    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (!key || !receiver->isWidgetType())
+        return false;
+    const auto *const pressed = static_cast<QKeyEvent *>(event);
+    if (pressed->key() != Qt::Key_Escape || pressed->modifiers() != Qt::NoModifier)
+        return false;
+    // There it closes a menu or the dialog.
+    if (QApplication::activePopupWidget() || isInNewDialog(nearestWidget(receiver)))
+        return false;
+    if (event->type() == QEvent::KeyPress)
+        Q_EMIT cancelRequested();
+    event->accept();
+    return true;
+}
+
+bool ProgressInputFilter::isInNewDialog(const QWidget *widget) const
+{
+    const QWidget *const modal = QApplication::activeModalWidget();
+    return modal && modal != m_modalBefore && isWithin(widget, modal);
 }
 
 bool ProgressInputFilter::mayPass(const QObject *receiver) const
@@ -96,9 +121,7 @@ bool ProgressInputFilter::mayPass(const QObject *receiver) const
     const QWidget *const widget = nearestWidget(receiver);
     if (!widget)
         return false;
-    const QWidget *const modal = QApplication::activeModalWidget();
-    return m_display->acceptsInput(widget) ||
-           (modal && modal != m_modalBefore && isWithin(widget, modal));
+    return m_display->acceptsInput(widget) || isInNewDialog(widget);
 }
 
 bool ProgressInputFilter::mayClose(const QObject *receiver) const

@@ -9,7 +9,8 @@
 
 /// Keeps the user from changing what a piece of work is busy with, as long as it lives: drops key,
 /// mouse, close and drop events of the application except for the progress display and for modal
-/// dialogs that opened since. A request to quit is repeated at the end.
+/// dialogs that opened since. Escape outside of those asks for the work to be cancelled, wherever
+/// the focus is. A request to quit is repeated at the end.
 class ProgressInputFilter : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,12 @@ public:
 
     bool eventFilter(QObject *receiver, QEvent *event) override;
 
+Q_SIGNALS:
+    void cancelRequested();
+
 private:
+    [[nodiscard]] bool takeEscape(const QObject *receiver, QEvent *event);
+    [[nodiscard]] bool isInNewDialog(const QWidget *widget) const;
     [[nodiscard]] bool mayPass(const QObject *receiver) const;
     [[nodiscard]] bool mayClose(const QObject *receiver) const;
 

@@ -29,7 +29,9 @@ ProgressRow::ProgressRow(QWidget *parent)
     m_bar->setTextVisible(false);
     m_details->setObjectName("progressDetails");
     m_cancel->setObjectName("progressCancel");
-    m_cancel->setAccessibleDescription(PString::translate("Bricht die Arbeit ab", "VelkGui"));
+    const QString description = PString::translate("Bricht die Arbeit ab", "VelkGui");
+    m_cancel->setAccessibleDescription(description);
+    m_cancel->setToolTip(description + QLatin1String(" (Esc)"));
     auto *const middle = new QHBoxLayout;
     middle->addWidget(m_bar, 1);
     middle->addWidget(m_cancel);

@@ -7,7 +7,11 @@
 #include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
 
-/// Draws a row of buttons in each cell of a column. The cell's own text and icon are not drawn.
+class QKeyEvent;
+class QMouseEvent;
+
+/// Draws a row of buttons in each cell of a column. The cell's own text and icon are not drawn. In
+/// the current cell the blank presses the first button, the digits from 1 on press each.
 class VELKGUI_EXPORT ButtonBarDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -21,8 +25,10 @@ public:
     int addButton(const QString &name, const QString &toolTip, const QIcon &icon);
     [[nodiscard]] int countButtons() const { return int(m_buttons.size()); }
     [[nodiscard]] QString buttonName(int button) const;
-    /// Where a button stands in a cell.
-    [[nodiscard]] QRect buttonRect(const QRect &cell, int button) const;
+    /// Where a button stands in a cell: the first at its left, or at its right in a layout from
+    /// right to left.
+    [[nodiscard]] QRect buttonRect(const QRect &cell, int button,
+                                   Qt::LayoutDirection direction = Qt::LeftToRight) const;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
@@ -47,7 +53,10 @@ private:
         QString toolTip;
         QIcon icon;
     };
-    [[nodiscard]] int buttonAt(const QRect &cell, const QPoint &position) const;
+    [[nodiscard]] int buttonAt(const QStyleOptionViewItem &option, const QPoint &position) const;
+    [[nodiscard]] int buttonOf(const QKeyEvent &event) const;
+    bool mouseEvent(const QMouseEvent &event, const QStyleOptionViewItem &option,
+                    const QModelIndex &index);
 
     QList<Button> m_buttons;
     QPersistentModelIndex m_pressedIndex;

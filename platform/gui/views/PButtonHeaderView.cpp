@@ -1,10 +1,13 @@
 #include "PButtonHeaderView.h"
 
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionToolButton>
 #include <QToolTip>
+
+#include <algorithm>
 
 PButtonHeaderView::PButtonHeaderView(const QSize &buttonSize, Qt::Orientation orientation,
                                      QWidget *parent)
@@ -14,6 +17,7 @@ PButtonHeaderView::PButtonHeaderView(const QSize &buttonSize, Qt::Orientation or
     viewport()->setMouseTracking(true);
     setStretchLastSection(true);
     setSectionsClickable(true);
+    connect(this, &QHeaderView::sectionCountChanged, this, &PButtonHeaderView::fitFirstSection);
 }
 
 PButtonHeaderView::~PButtonHeaderView() = default;
@@ -22,6 +26,7 @@ void PButtonHeaderView::setButtonForSection(int section, const QString &text, co
                                             const QString &toolTip)
 {
     m_buttons.insert(section, {text, icon, toolTip});
+    setFocusPolicy(Qt::TabFocus);
     setAccessibleName(text.isEmpty() ? toolTip : text);
     if (section < count())
         resizeSection(section, sectionSizeHint(section));
@@ -31,7 +36,13 @@ void PButtonHeaderView::setButtonForSection(int section, const QString &text, co
 void PButtonHeaderView::setModel(QAbstractItemModel *model)
 {
     QHeaderView::setModel(model);
-    if (model && count() > 0)
+    fitFirstSection();
+}
+
+/// The model may get its columns later.
+void PButtonHeaderView::fitFirstSection()
+{
+    if (count() > 0)
         setSectionResizeMode(0, QHeaderView::ResizeToContents);
 }
 
@@ -96,7 +107,20 @@ void PButtonHeaderView::paintSection(QPainter *painter, const QRect &rect, int s
     option.state.setFlag(QStyle::State_MouseOver, section == m_hovered);
     option.state.setFlag(QStyle::State_Raised, section == m_hovered);
     option.state.setFlag(QStyle::State_Sunken, section == m_pressed && section == m_hovered);
+    option.state.setFlag(QStyle::State_HasFocus, section == m_current);
     style()->drawComplexControl(QStyle::CC_ToolButton, &option, painter, this);
+    if (section == m_current)
+        paintFocus(option, painter);
+}
+
+/// Styles frame the buttons of a tool bar weakly or not at all.
+void PButtonHeaderView::paintFocus(const QStyleOption &button, QPainter *painter) const
+{
+    QStyleOptionFocusRect frame;
+    frame.QStyleOption::operator=(button);
+    frame.state.setFlag(QStyle::State_KeyboardFocusChange);
+    frame.backgroundColor = palette().color(QPalette::Button);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, painter, this);
 }
 
 QSize PButtonHeaderView::sectionSizeFromContents(int section) const
@@ -135,6 +159,62 @@ void PButtonHeaderView::mouseReleaseEvent(QMouseEvent *event)
     viewport()->update();
     if (buttonAt(event->position().toPoint()) == pressed)
         Q_EMIT buttonClicked(pressed);
+}
+
+/// From left to right, as they are seen.
+QList<int> PButtonHeaderView::sectionsWithButton() const
+{
+    QList<int> sections;
+    for (int visual = 0; visual < count(); ++visual) {
+        const int section = logicalIndex(visual);
+        if (m_buttons.contains(section) && !isSectionHidden(section))
+            sections.append(section);
+    }
+    if (layoutDirection() == Qt::RightToLeft && orientation() == Qt::Horizontal)
+        std::reverse(sections.begin(), sections.end());
+    return sections;
+}
+
+void PButtonHeaderView::setCurrent(int section)
+{
+    m_current = section;
+    viewport()->update();
+}
+
+void PButtonHeaderView::keyPressEvent(QKeyEvent *event)
+{
+    const QList<int> sections = sectionsWithButton();
+    const qsizetype at = sections.indexOf(m_current);
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        setCurrent(sections.value(qMax(at - 1, qsizetype(0)), -1));
+        return;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        setCurrent(sections.value(qMin(at + 1, sections.size() - 1), -1));
+        return;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (at >= 0 && !event->isAutoRepeat())
+            Q_EMIT buttonClicked(m_current);
+        return;
+    default:
+        QHeaderView::keyPressEvent(event);
+    }
+}
+
+void PButtonHeaderView::focusInEvent(QFocusEvent *event)
+{
+    QHeaderView::focusInEvent(event);
+    setCurrent(sectionsWithButton().value(0, -1));
+}
+
+void PButtonHeaderView::focusOutEvent(QFocusEvent *event)
+{
+    QHeaderView::focusOutEvent(event);
+    setCurrent(-1);
 }
 
 bool PButtonHeaderView::viewportEvent(QEvent *event)

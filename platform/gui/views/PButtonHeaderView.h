@@ -5,9 +5,13 @@
 #include <QHash>
 #include <QHeaderView>
 #include <QIcon>
+#include <QList>
+
+class QStyleOption;
 
 /// A header in whose sections buttons can stand. Section 0 is as wide as its contents, the last one
-/// takes the rest.
+/// takes the rest. With a button it can be reached by Tab: the arrow keys go from button to button,
+/// the blank and Return press the one that is framed.
 class VELKGUI_EXPORT PButtonHeaderView : public QHeaderView
 {
     Q_OBJECT
@@ -27,7 +31,7 @@ public:
     void setModel(QAbstractItemModel *model) override;
 
 Q_SIGNALS:
-    /// The left mouse button was pressed and released on the button of that section.
+    /// The left mouse button was pressed and released on the button of that section, or the key.
     void buttonClicked(int section);
 
 protected:
@@ -36,6 +40,9 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     bool viewportEvent(QEvent *event) override;
 
 private:
@@ -48,10 +55,15 @@ private:
     [[nodiscard]] int buttonAt(const QPoint &position) const;
     [[nodiscard]] int buttonWidth(const Button &button) const;
     [[nodiscard]] QRect rectIn(const QRect &sectionRect, const Button &button) const;
+    [[nodiscard]] QList<int> sectionsWithButton() const;
+    void paintFocus(const QStyleOption &button, QPainter *painter) const;
+    void fitFirstSection();
     void setHovered(int section);
+    void setCurrent(int section);
 
     QSize m_buttonSize;
     QHash<int, Button> m_buttons;
     int m_hovered = -1;
     int m_pressed = -1;
+    int m_current = -1; ///< which the keys press; -1 without focus
 };
