@@ -1,7 +1,6 @@
 #include "TableCellText.h"
 
 #include <geomcore/table/TableData.h>
-#include <geomcore/value/LangThreadSettings.h>
 
 #include <algorithm>
 
@@ -26,6 +25,25 @@ QString shownText(const VKTab::LineI &line, const VKTab::Var &var)
     if (!unit.isEmpty() && text.endsWith(u' ' + unit))
         text.chop(unit.size() + 1);
     return text;
+}
+
+QString cutText(const QString &text)
+{
+    if (text.size() <= MostShownCharacters)
+        return text;
+    const bool pair = text.at(MostShownCharacters - 1).isHighSurrogate();
+    return text.left(MostShownCharacters - (pair ? 1 : 0)) + QChar(0x2026);
+}
+
+std::optional<QString> cutText(std::string_view utf8)
+{
+    constexpr size_t most = 4 * size_t(MostShownCharacters);
+    if (utf8.size() <= most)
+        return std::nullopt;
+    size_t end = most; // not inside a character
+    while ((static_cast<unsigned char>(utf8[end]) & 0xC0) == 0x80)
+        --end;
+    return cutText(QString::fromUtf8(utf8.data(), qsizetype(end)) + QChar(0x2026));
 }
 
 bool showsRawText(const VKTab::TableData &table, int column)

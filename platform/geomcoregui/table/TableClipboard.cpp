@@ -81,8 +81,8 @@ QMimeData *tableMimeData(const TableGrid &grid, const QList<int> &rows)
     for (const int row : rows) {
         writer.beginRow();
         for (const int column : columns)
-            writer.addCell(model->index(row, column).data().toString(), QStringLiteral("td"),
-                           isRight(column));
+            writer.addCell(model->index(row, column).data(VkTableModel::WholeTextRole).toString(),
+                           QStringLiteral("td"), isRight(column));
         writer.endRow();
     }
     return writer.mimeData();

@@ -32,6 +32,7 @@ public:
         VarIdRole,                 ///< int, variable of a column; -1 for a status column
         StatusKeyRole,             ///< name of a column's status key, else empty
         RangeRole,                 ///< text of the range that a cell offers, else empty
+        WholeTextRole,             ///< text of a value, however long; Qt::DisplayRole is cut
     };
 
     explicit VkTableModel(QObject *parent = nullptr);

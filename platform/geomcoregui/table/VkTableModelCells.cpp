@@ -2,6 +2,8 @@
 #include "VkTableModelPrivate.h"
 
 #include <core/text/PString.h>
+#include <geomcore/table/LineView.h>
+#include <geomcore/table/TableData.h>
 #include <geomcore/value/RangeText.h>
 #include <geomcore/value/StatusValue.h>
 
@@ -32,6 +34,7 @@ QVariant VkTableModel::data(const QModelIndex &index, int role) const
 {
     if (index.model() != this || index.row() >= d->rows.count())
         return {};
+    const ViewLanguage language;
     const TableColumn &column = d->columns.at(index.column());
     if (role == LineIdRole)
         return QVariant::fromValue(lineId(index.row()));
@@ -41,6 +44,7 @@ QVariant VkTableModel::data(const QModelIndex &index, int role) const
 
 QVariant VkTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    const ViewLanguage language;
     if (orientation == Qt::Horizontal) {
         const TableColumn *const column = d->column(section);
         return column ? d->columnHeader(*column, role) : QVariant();
@@ -94,6 +98,10 @@ QVariant VkTableModelPrivate::valueData(int row, const VKTab::Var &var, int role
 {
     switch (role) {
     case Qt::DisplayRole:
+        if (const auto text = longText(row, var))
+            return *text;
+        return cutText(shownText(lineAt(row), var));
+    case VkTableModel::WholeTextRole:
         return shownText(lineAt(row), var);
     case Qt::ToolTipRole:
         return valueToolTip(row, var);
@@ -110,14 +118,30 @@ QVariant VkTableModelPrivate::valueData(int row, const VKTab::Var &var, int role
     }
 }
 
+std::optional<QString> VkTableModelPrivate::longText(int row, const VKTab::Var &var) const
+{
+    const int column = VKTab::LineView::columnOf(var.getVarId());
+    const VKTab::LineView view(table, rows.lineId(row));
+    if (column < 0 || column >= view.columnCount() || !view.isPlain())
+        return std::nullopt;
+    std::string scratch;
+    return cutText(view.cell(column, scratch));
+}
+
 QString VkTableModelPrivate::rangeText(int row, const VKTab::Var &var) const
 {
-    return var.isFW() ? table.getRangeText(var.getVarId(), rows.lineId(row)) : QString();
+    if (!var.isFW())
+        return {};
+    if (const auto text = longText(row, var))
+        return *text;
+    return table.getRangeText(var.getVarId(), rows.lineId(row));
 }
 
 QString VkTableModelPrivate::valueToolTip(int row, const VKTab::Var &var) const
 {
     constexpr qint64 most = 50;
+    if (!var.isFW() || longText(row, var))
+        return {};
     const QString text = rangeText(row, var);
     const auto range = VKTab::RangeText::parse(text, table.getDecimalChar(var.getVarId()));
     if (!range || range->isEmpty())

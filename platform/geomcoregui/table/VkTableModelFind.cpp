@@ -84,6 +84,7 @@ private:
 
 QModelIndex VkTableModel::find(const QString &text, const QModelIndex &from, bool backwards) const
 {
+    const ViewLanguage language;
     CellFinder finder(*d, text);
     const int count = rowCount();
     const int last = columnCount() - 1;

@@ -1,5 +1,6 @@
 #include "VkTableModelPrivate.h"
 
+#include "TableCellText.h"
 #include "TableRowBuilder.h"
 
 #include <geomcore/table/SignalConnect.h>
@@ -125,10 +126,11 @@ void VkTableModelPrivate::flush(DirtyRows &dirty, int firstColumn, int lastColum
                                 const QList<int> &roles)
 {
     const DirtyRows changed = std::exchange(dirty, DirtyRows());
-    if (changed.isEmpty() || lastColumn < firstColumn || changed.last() >= rows.count())
+    const int last = std::min(changed.last(), rows.count() - 1);
+    if (changed.isEmpty() || lastColumn < firstColumn || changed.first() > last)
         return;
-    Q_EMIT q->dataChanged(q->index(changed.first(), firstColumn),
-                          q->index(changed.last(), lastColumn), roles);
+    Q_EMIT q->dataChanged(q->index(changed.first(), firstColumn), q->index(last, lastColumn),
+                          roles);
 }
 
 void VkTableModelPrivate::takeChoice(const TableColumnChoice &newChoice)
@@ -188,6 +190,7 @@ TableRows VkTableModelPrivate::makeRows()
 {
     if (!table.isValid())
         return {};
+    const ViewLanguage language;
     TableRowBuilder builder(table);
     for (const auto &[id, text] : quickFilters) {
         if (const int index = q->columnOf(id); index >= 0)

@@ -69,6 +69,8 @@ public:
     [[nodiscard]] QVariant statusData(int row, const TableColumn &column, int index,
                                       int role) const;
     [[nodiscard]] QVariant valueData(int row, const VKTab::Var &var, int role) const;
+    /// The cut text of a cell that is far too long to be shown, without making all of it.
+    [[nodiscard]] std::optional<QString> longText(int row, const VKTab::Var &var) const;
     [[nodiscard]] QString rangeText(int row, const VKTab::Var &var) const;
     [[nodiscard]] QString valueToolTip(int row, const VKTab::Var &var) const;
     [[nodiscard]] const VKTab::StatusValue *state(int row, const TableColumn &column) const;

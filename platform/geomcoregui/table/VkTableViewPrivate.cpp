@@ -1,6 +1,7 @@
 #include "VkTableViewPrivate.h"
 
 #include "TableBar.h"
+#include "TableCellText.h"
 #include "TableClipboard.h"
 #include "TableColumnWidths.h"
 #include "TableFilterBar.h"
@@ -152,6 +153,7 @@ void VkTableViewPrivate::applyZoom()
 
 void VkTableViewPrivate::showTitle()
 {
+    const ViewLanguage language;
     const VKTab::ContentRef table = model->getTable();
     QStringList parts;
     if (table.isValid()) {
