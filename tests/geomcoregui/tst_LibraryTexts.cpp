@@ -1,3 +1,5 @@
+#include "ViewTables.h"
+
 #include <core/message/PScriptedMessageSink.h>
 #include <core/plugin/PTranslateManager.h>
 #include <core/text/PString.h>
@@ -5,7 +7,9 @@
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QFile>
+#include <QLineEdit>
 #include <QTest>
+#include <QToolButton>
 
 #include <memory>
 
@@ -78,6 +82,37 @@ private Q_SLOTS:
                  QString("A .EQ. contains errors! Character 7: Expected a value, found the end"));
         QCOMPARE(told("de"), QString("A .EQ. enthält Fehler! Zeichen 7: Erwartet wird ein Wert, "
                                      "gefunden wurde das Ende"));
+    }
+
+    // What is shown already changes with the language.
+    void shownBarsAreTranslatedAnew()
+    {
+        PTranslateManager::instance().setLanguage("en");
+        view->setTable(ViewTables::large(2));
+        view->show();
+        view->showFilterBar(true);
+        const auto *const filter = view->findChild<QLineEdit *>("filter_B");
+        QVERIFY(filter);
+        const auto texts = [&] {
+            QStringList result{filter->accessibleName(), filter->toolTip()};
+            for (const QToolButton *button : view->findChildren<QToolButton *>())
+                result.append(button->toolTip());
+            for (const QLineEdit *edit : view->findChildren<QLineEdit *>())
+                result.append(edit->placeholderText());
+            return result;
+        };
+        QTRY_VERIFY(texts().contains("Next match (F3)"));
+        const QStringList english = texts();
+        PTranslateManager::instance().setLanguage("de");
+        QTRY_VERIFY(texts().contains("Nächste Fundstelle (F3)"));
+        const QStringList german = texts();
+        QVERIFY(german.contains("In der Tabelle suchen"));
+        QVERIFY(german.contains("Alle Spaltenfilter aufheben"));
+        QVERIFY(german.contains("Spaltenfilter B"));
+        for (qsizetype i = 0; i < german.size(); ++i)
+            QVERIFY2(german.at(i) != english.at(i) || german.at(i).isEmpty() ||
+                         german.at(i) == "Filter",
+                     qPrintable(german.at(i)));
     }
 
 private:

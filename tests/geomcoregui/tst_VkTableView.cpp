@@ -72,6 +72,8 @@ private Q_SLOTS:
 
     void headerClickSorts();
     void columnsKeepTheirWidths();
+    void columnsFitTheirContents();
+    void commandsRunOnce();
     void zoomByKeysAndWheel();
     void zoomIsLimited();
     void copiesATable();
@@ -638,6 +640,53 @@ void tst_VkTableView::columnsKeepTheirWidths()
     again.setTable(m_table);
     again.setZoomFactor(2);
     QCOMPARE(table->columnWidth(2), 266);
+}
+
+void tst_VkTableView::columnsFitTheirContents()
+{
+    const QTemporaryDir dir;
+    const PApplication host(PRefPtr<PConfig>(new PConfigInst(dir.filePath("app.cfg"), false)));
+    m_view->setTable(m_table);
+    QHeaderView *const header = grid()->horizontalHeader();
+    const int dia = grid()->columnWidth(2);
+    const int note = grid()->columnWidth(4);
+    grid()->setColumnWidth(2, 203);
+    grid()->setColumnWidth(4, 207);
+    const QPoint edge(header->sectionViewportPosition(2) + 202, header->height() / 2);
+    QTest::mouseMove(header->viewport(), edge);
+    QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, edge);
+    QCOMPARE(grid()->columnWidth(2), dia);
+    QCOMPARE(grid()->columnWidth(4), 207);
+    grid()->setColumnWidth(2, 203);
+    contextMenu(cellAt(0, 2));
+    QApplication::activePopupWidget()->findChild<QAction *>("fitColumns")->trigger();
+    QApplication::activePopupWidget()->close();
+    QCOMPARE(grid()->columnWidth(2), dia);
+    QCOMPARE(grid()->columnWidth(4), note);
+    m_view->setZoomFactor(2); // nothing is remembered that the user took back
+    m_view->setZoomFactor(1);
+    QCOMPARE(grid()->columnWidth(4), note);
+}
+
+// The system asks for a key as a shortcut first, and then sends it.
+void tst_VkTableView::commandsRunOnce()
+{
+    const auto send = [this](QEvent::Type type, int code, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(type, code, modifiers);
+        event.ignore();
+        QApplication::sendEvent(grid(), &event);
+        return event.isAccepted();
+    };
+    auto *const bar = part<QWidget>("filterBar");
+    const Qt::KeyboardModifiers both = Qt::ControlModifier | Qt::ShiftModifier;
+    QVERIFY(send(QEvent::ShortcutOverride, Qt::Key_F, both));
+    QVERIFY(!bar->isVisible());
+    QVERIFY(send(QEvent::KeyPress, Qt::Key_F, both));
+    QVERIFY(bar->isVisible());
+    QVERIFY(send(QEvent::ShortcutOverride, Qt::Key_Plus, Qt::ControlModifier));
+    QCOMPARE(m_view->getZoomFactor(), 1.0);
+    QVERIFY(!send(QEvent::ShortcutOverride, Qt::Key_V, Qt::NoModifier));
+    QVERIFY(!send(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier));
 }
 
 void tst_VkTableView::zoomByKeysAndWheel()
