@@ -1,6 +1,8 @@
+#include <core/parallel/WorkerPool.h>
 #include <geomcore/table/LineIndex.h>
 
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <thread>
@@ -105,6 +107,8 @@ private Q_SLOTS:
     void ordered_data();
     void ordered();
     void probesFromManyThreads();
+    void builtByManyThreads_data();
+    void builtByManyThreads();
 };
 
 void tst_LineIndex::finds_data()
@@ -338,6 +342,40 @@ void tst_LineIndex::probesFromManyThreads()
         thread.join();
     for (int count : right)
         QCOMPARE(count, 3000);
+}
+
+void tst_LineIndex::builtByManyThreads_data()
+{
+    QTest::addColumn<int>("distinct");
+    QTest::newRow("all rows differ") << 50000;
+    QTest::newRow("some are equal") << 30000;
+    QTest::newRow("few values") << 7;
+    QTest::newRow("all are equal") << 1;
+}
+
+// Parts of the slots are filled at once; rows at their ends go over into the next one.
+void tst_LineIndex::builtByManyThreads()
+{
+    QFETCH(int, distinct);
+    QByteArray csv = "a,b\n";
+    for (int i = 0; i < 50000; ++i)
+        csv += "M" + QByteArray::number(i * 7919LL % distinct) + ',' + QByteArray::number(i) + '\n';
+    const auto table = tableOf(csv);
+    const auto restore = qScopeGuard([] { WorkerPool::instance().setThreads(0); });
+    WorkerPool::instance().setThreads(1);
+    const LineIndex one(table, keysOf({0}));
+    WorkerPool::instance().setThreads(50);
+    const LineIndex many(table, keysOf({0}));
+    QCOMPARE(many.distinctCount(), distinct);
+    QCOMPARE(one.distinctCount(), distinct);
+    LineIndex::Probe probe(many, *table, {0});
+    std::vector<int> found(size_t(table->rowCount()));
+    probe.find(0, found);
+    for (int row = 0; row < table->rowCount(); ++row) {
+        if (many.firstOf(row) != one.firstOf(row) || many.nextOf(row) != one.nextOf(row) ||
+            found[size_t(row)] != one.firstOf(row))
+            QFAIL(qPrintable(QStringLiteral("row %1 differs").arg(row)));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_LineIndex)

@@ -8,6 +8,7 @@
 #include <tools/velkmap/TerminalProgress.h>
 
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>

@@ -25,6 +25,13 @@ void CsvScan::setIdColumns(int number, int subNumber)
     m_subIdColumn = subNumber;
 }
 
+CsvScan CsvScan::part(quint64 begin, quint64 end) const
+{
+    CsvScan part(m_bytes.substr(0, end), begin, m_columnCount, m_file);
+    part.setIdColumns(m_idColumn, m_subIdColumn);
+    return part;
+}
+
 std::string_view CsvScan::rowBytes(std::string_view bytes, quint64 begin, quint64 next)
 {
     quint64 end = next - 1;

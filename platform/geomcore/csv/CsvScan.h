@@ -23,6 +23,12 @@ public:
 
     /// Columns whose integers are wanted; -1 for none.
     void setIdColumns(int number, int subNumber);
+    [[nodiscard]] std::string_view bytes() const { return m_bytes; }
+    /// Where the next row to be scanned begins.
+    [[nodiscard]] quint64 begin() const { return m_rowBegin; }
+    /// A scan of some rows only, with the same columns.
+    [[nodiscard]] CsvScan part(quint64 begin, quint64 end) const;
+
     /// Scans all. False if something is wrong, which errors() then tells.
     [[nodiscard]] bool run();
 

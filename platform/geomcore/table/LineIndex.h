@@ -4,6 +4,7 @@
 #include <geomcore/value/CellKey.h>
 
 #include <memory>
+#include <mutex>
 #include <span>
 #include <vector>
 
@@ -77,8 +78,16 @@ private:
         qint32 last = -1; ///< Last of the equal rows; -1 if the slot is free.
     };
 
+    /// Neighbouring slots, filled by one thread.
+    struct Part;
+
     void build();
-    void insert(int row, const LineKeys &keys, LineKeys &other);
+    [[nodiscard]] std::vector<quint64> hashes() const;
+    void fill(Part &part, const std::vector<quint64> &hashes);
+    /// False if there is no room up to \a end.
+    bool insert(int row, quint64 hash, size_t end, Part &part);
+    [[nodiscard]] bool equalRows(int a, int b, Part &part) const;
+    void makeRings();
     /// First row in a slot of that hash for which equal(row) holds; -1 if there is none.
     template<class Equal>
     [[nodiscard]] int walk(quint64 hash, Equal equal) const;
@@ -92,6 +101,7 @@ private:
     /// differ.
     std::vector<qint32> m_first;
     std::vector<qint32> m_next;
+    std::once_flag m_ringsOnce;
     int m_distinct = 0;
 };
 

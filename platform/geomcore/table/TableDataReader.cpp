@@ -4,6 +4,7 @@
 #include <geomcore/csv/CsvCells.h>
 #include <geomcore/csv/CsvScan.h>
 #include <geomcore/csv/HeaderNames.h>
+#include <geomcore/csv/ScanInParts.h>
 #include <geomcore/csv/Utf8Check.h>
 #include <geomcore/value/RangeText.h>
 
@@ -167,7 +168,7 @@ bool TableDataReader::scan(quint64 bodyBegin)
                  m_data->m_fileName);
     scan.setIdColumns(m_data->columnOf(descriptor.lineIdField),
                       m_data->columnOf(descriptor.lineSubIdField));
-    if (!scan.run()) {
+    if (!scanInParts(scan)) {
         m_errors += scan.errors;
         return false;
     }
