@@ -64,6 +64,8 @@ private Q_SLOTS:
     void changedLines();
     void changedLinesOfRandomTables_data();
     void changedLinesOfRandomTables();
+    void joined_data();
+    void joined();
     void emptyTable()
     {
         LineTable table;
@@ -382,6 +384,52 @@ void tst_LineTable::changedLinesOfRandomTables()
         }
         QCOMPARE(LineTable::changedLines(former, table), expected);
     }
+}
+
+void tst_LineTable::joined_data()
+{
+    QTest::addColumn<int>("entries");
+    QTest::addColumn<int>("slices");
+    for (const int entries : {0, 5, 300, 20000}) {
+        for (const int slices : {1, 2, 7})
+            QTest::addRow("%d entries in %d slices", entries, slices) << entries << slices;
+    }
+}
+
+// Of each table the entries between the borders, as if they had been entered in one.
+void tst_LineTable::joined()
+{
+    QFETCH(int, entries);
+    QFETCH(int, slices);
+    QRandomGenerator random(11);
+    std::vector<LineTable> tables(static_cast<std::size_t>(slices));
+    std::vector<LineTable::Slice> parts;
+    Reference expected;
+    int after = -1;
+    for (std::size_t i = 0; i < tables.size(); ++i) {
+        for (int k = 0; k < entries; ++k)
+            tables[i].set(random.bounded(0, 2 * entries), randomLine(random));
+        const bool isLast = i + 1 == tables.size();
+        const int last =
+            isLast ? std::numeric_limits<int>::max() : 2 * entries * int(i + 1) / slices;
+        for (const LineTable::Iterator &entry : tables[i]) {
+            if (entry.sourceLine() > after && entry.sourceLine() <= last)
+                expected.insert(entry.sourceLine(), entry.line());
+        }
+        parts.push_back({&tables[i], last});
+        after = last;
+    }
+    LineTable table = LineTable::joined(parts);
+    QCOMPARE(difference(table, expected), QString());
+    for (int k = 0; k < 2000; ++k) { // what follows finds a table like any other
+        const int line = random.bounded(0, 3 * entries + 2);
+        const PrjMappingTargetLineC value = randomLine(random);
+        table.set(line, value);
+        expected.insert(line, value);
+        const int gone = random.bounded(0, 3 * entries + 2);
+        QCOMPARE(table.remove(gone), expected.remove(gone) > 0);
+    }
+    QCOMPARE(difference(table, expected), QString());
 }
 
 QTEST_GUILESS_MAIN(tst_LineTable)

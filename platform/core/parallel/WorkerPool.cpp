@@ -140,6 +140,8 @@ void WorkerPool::run(int count, const std::function<void(int)> &step)
 bool WorkerPool::run(int count, const std::function<void(int)> &step,
                      const std::function<bool(int)> &tell)
 {
+    if (!tell(0))
+        return count == 0;
     Job job(count, step);
     const bool shared = count > 1 && d->count > 1;
     if (shared) {

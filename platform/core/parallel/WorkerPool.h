@@ -30,9 +30,9 @@ public:
     /// and returns when all have been made. \a step throws nothing. Any thread.
     void run(int count, const std::function<void(int)> &step);
 
-    /// As above; besides, \a tell is called on the calling thread with the number of steps made, at
-    /// least after each of its own steps and at the end. If it answers false, no further step is
-    /// begun. True if all steps were made.
+    /// As above; besides, \a tell is called on the calling thread with the number of steps made: at
+    /// the begin, at least after each of its own steps, and at the end. If it answers false, no
+    /// further step is begun. True if all steps were made.
     [[nodiscard]] bool run(int count, const std::function<void(int)> &step,
                            const std::function<bool(int)> &tell);
 

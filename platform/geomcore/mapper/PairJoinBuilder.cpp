@@ -6,6 +6,7 @@
 #include "SourceTable.h"
 #include "TargetTable.h"
 
+#include <core/parallel/WorkerPool.h>
 #include <geomcore/table/Line.h>
 #include <geomcore/table/LineIndex.h>
 #include <geomcore/table/LineView.h>
@@ -14,7 +15,6 @@
 #include <geomcore/value/ResolveRangeOptionsC.h>
 
 #include <algorithm>
-#include <array>
 
 namespace Mapper {
 
@@ -27,6 +27,8 @@ namespace {
 constexpr int MaxClaimed = 16;
 /// Combinations of the ranges of one line that are looked at.
 constexpr int MaxCombinations = 100'000;
+/// Rows that a thread looks up in one go.
+constexpr int RowsAStep = 16384;
 /// Equal rows that are stepped over in search of the next one to pair off.
 constexpr int MaxSteps = 1000;
 
@@ -72,24 +74,31 @@ void PairJoinBuilder::joinInPlace(const LineIndex &index)
     const std::vector<VKTab::CellKey> noValues(index.keys().size());
     const int blank = index.find(noValues); // a line without any value equals nothing
     const bool conditional = !m_target.conditions().isEmpty();
-    LineIndex::Probe probe(index, source, m_target.plainColumns());
-    std::array<int, 256> rows{};
-    for (int from = 0; from < source.rowCount(); from += int(rows.size())) {
-        const int count = std::min(int(rows.size()), source.rowCount() - from);
-        probe.find(from, std::span(rows.data(), size_t(count)));
-        for (int i = 0; i < count; ++i) {
-            if (conditional && !m_target.conditions().holds(LineView(source, from + i)))
-                continue;
-            ++m_lines;
-            const int hit = rows[size_t(i)];
-            if (hit < 0 || hit == blank)
-                continue;
-            ++m_hits;
-            m_join->m_hits[size_t(from + i)] = hit;
-            if (!index.isUnique(hit))
-                m_join->m_several.insert(from + i);
-            claim(hit);
+    const int rows = source.rowCount();
+    std::vector<char> holds(conditional ? size_t(rows) : 0);
+    WorkerPool::instance().run((rows + RowsAStep - 1) / RowsAStep, [&](int step) {
+        const int from = step * RowsAStep;
+        const int count = std::min(RowsAStep, rows - from);
+        LineIndex::Probe probe(index, source, m_target.plainColumns());
+        probe.find(from, std::span(m_join->m_hits).subspan(size_t(from), size_t(count)));
+        for (int row = from; conditional && row < from + count; ++row)
+            holds[size_t(row)] = char(m_target.conditions().holds(LineView(source, row)));
+    });
+    for (int row = 0; row < rows; ++row) {
+        int &hit = m_join->m_hits[size_t(row)];
+        if (conditional && !holds[size_t(row)]) {
+            hit = -1;
+            continue;
         }
+        ++m_lines;
+        if (hit < 0 || hit == blank) {
+            hit = -1;
+            continue;
+        }
+        ++m_hits;
+        if (!index.isUnique(hit))
+            m_join->m_several.insert(row);
+        claim(hit);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "LineTable.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -175,6 +176,46 @@ void LineTable::setAllStates(PRJMAPPING::CheckState state)
         }
     }
     m_counts = counts;
+}
+
+LineTable LineTable::joined(const std::vector<Slice> &slices)
+{
+    LineTable table;
+    qint64 after = std::numeric_limits<qint64>::min();
+    for (const Slice &slice : slices) {
+        table.appendRows(*slice.table, after, slice.last);
+        after = slice.last;
+    }
+    return table;
+}
+
+void LineTable::appendRows(const LineTable &from, qint64 after, int last)
+{
+    for (const ChunkRef &chunk : from.m_chunks) {
+        for (const PageRef &ref : chunk.chunk->pages) {
+            const Page &page = *ref.page;
+            if (page.rows.back().sourceLine <= after || page.rows.front().sourceLine > last)
+                continue;
+            if (page.rows.front().sourceLine > after && page.rows.back().sourceLine <= last) {
+                appendPage(ref);
+                continue;
+            }
+            for (std::size_t i = 0; i < page.rows.size(); ++i) {
+                const Row &row = page.rows[i];
+                if (row.sourceLine > after && row.sourceLine <= last)
+                    append(row, page.extended.empty() ? ExtendedTextPtr() : page.extended[i]);
+            }
+        }
+    }
+}
+
+void LineTable::appendPage(const PageRef &page)
+{
+    if (isEmpty() || m_chunks.back().chunk->pages.size() == ChunkPages)
+        m_chunks.push_back({page.firstLine, QExplicitlySharedDataPointer<Chunk>(new Chunk)});
+    writableChunk(m_chunks.size() - 1).pages.push_back(page);
+    for (const Row &row : page.page->rows)
+        count(m_counts, row, 1);
 }
 
 bool LineTable::isBeyondLast(int sourceLine) const

@@ -148,6 +148,16 @@ public:
     /// Gives every entry the state, keeping all else.
     void setAllStates(PRJMAPPING::CheckState state);
 
+    /// The entries of a table up to and including an id.
+    struct Slice
+    {
+        const LineTable *table;
+        int last;
+    };
+    /// A table of the entries of \a slices, each from behind the slice before it; their last ids
+    /// ascend. Pages that lie in one slice are shared.
+    [[nodiscard]] static LineTable joined(const std::vector<Slice> &slices);
+
     /// Ids of the entries that are in one table only or differ, ascending. Costs next to nothing
     /// for the pages that both share, as a table and its changed copy do.
     [[nodiscard]] static std::vector<int> changedLines(const LineTable &before,
@@ -166,6 +176,8 @@ private:
     Page &writablePage(const Place &place);
     Chunk &writableChunk(std::size_t chunk);
     void append(const Row &row, const ExtendedTextPtr &extended);
+    void appendPage(const PageRef &page);
+    void appendRows(const LineTable &from, qint64 after, int last);
     void insert(Place place, const Row &row, const ExtendedTextPtr &extended);
     void replace(const Place &place, const Row &row, const ExtendedTextPtr &extended);
     Place splitPage(const Place &place);

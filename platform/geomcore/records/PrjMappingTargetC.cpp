@@ -149,6 +149,11 @@ void PrjMappingTargetC::removeLineId(int sourceLineId)
         d->lines.remove(sourceLineId);
 }
 
+void PrjMappingTargetC::setLines(const LineTable &lines)
+{
+    d->lines = lines;
+}
+
 void PrjMappingTargetC::clearLines(bool keepVerified)
 {
     if (keepVerified)

@@ -61,6 +61,8 @@ public:
     /// As addLineId, with the conflict flag of \a line.
     void setMappedLine(int sourceLineId, const PrjMappingTargetLineC &line);
     void removeLineId(int sourceLineId);
+    /// All entries at once.
+    void setLines(const LineTable &lines);
     /// True: only those that are not Verified; a confirmed decision survives.
     void clearLines(bool keepVerified);
     /// Confirms every entry, keeping target line, extended text and conflict flag.

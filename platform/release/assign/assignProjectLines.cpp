@@ -1,13 +1,12 @@
 #include "assignProjectLines.h"
 
-#include "LineRun.h"
+#include "LinePart.h"
 #include "TargetGuard.h"
 
-#include <core/progress/PProgress.h>
-#include <core/text/PPathName.h>
-#include <core/text/PString.h>
-#include <geomcore/index/IndexTreeC.h>
 #include <geomcore/records/CatalogMappingC.h>
+#include <geomcore/table/Content.h>
+
+#include <optional>
 
 namespace VelkRelease {
 
@@ -42,19 +41,25 @@ CatalogMappingC catalogOf(const PrjMappingC &mapping, const ReleaseMappingC &dat
 }
 
 /// False if the work was to end.
-bool assignLines(LineRun &run, const QList<VKTab::LineInfo> &lines,
-                 const std::atomic<bool> *cancelled)
+bool assignOneByOne(LinePart &part, const std::vector<VKTab::LineId> &lines,
+                    const std::atomic<bool> *cancelled, const LineSteps &steps)
 {
-    PProgress progress(0, double(lines.size()), 1.0, false, false);
-    progress.setText(PString::translate("Zeilen werden neu zugewiesen", "VelkLinkDbGui"));
-    for (const VKTab::LineInfo &line : lines) {
+    steps.begin(int(lines.size()));
+    for (const VKTab::LineId &line : lines) {
         if (cancelled && cancelled->load(std::memory_order_relaxed))
             return false;
-        progress.nextStep();
-        run.assign(line.getLineId());
+        steps.beforeLine();
+        part.assign(line);
     }
-    progress.done();
     return true;
+}
+
+std::vector<VKTab::LineId> shownLines(const VKTab::Content &table)
+{
+    std::vector<VKTab::LineId> lines;
+    for (const VKTab::LineInfo &line : table.getLineInfoList())
+        lines.push_back(line.getLineId());
+    return lines;
 }
 
 void markTableError(PrjMappingC &mapping)
@@ -67,7 +72,7 @@ void markTableError(PrjMappingC &mapping)
 AssignmentOutcome assignProjectLines(const QString &sourcePath, PrjMappingC &mapping,
                                      VKTab::Content &table, const ReleaseMappingC &release,
                                      const QStringList &conditionVariables, bool force,
-                                     const std::atomic<bool> *cancelled)
+                                     const std::atomic<bool> *cancelled, const LineSteps *steps)
 {
     const TargetGuard targets(mapping);
     AssignmentOutcome outcome{targets.unreadable(), false};
@@ -77,23 +82,27 @@ AssignmentOutcome assignProjectLines(const QString &sourcePath, PrjMappingC &map
         return outcome;
     }
     const PrjMappingC before = mapping;
-    PrjMapperC mapper(IndexTreeC::instance());
-    mapper.setCreatorMode(true);
-    mapper.setSourceProject(PPathName(sourcePath));
-    mapper.setSourceTable(table);
     emptyNotFoundTarget(mapping);
     mapping.setMappingState(PRJMAPPING::StateUsable);
-    const auto state =
-        mapper.findMapping(sourcePath, mapping.getSourceVersion(), catalogOf(mapping, release));
-    if (!(state & PRJMAPPING::StateUsable))
+    const CatalogMappingC catalog = catalogOf(mapping, release);
+    const auto makePart = [&] {
+        return std::make_unique<LinePart>(sourcePath, mapping.getSourceVersion(), catalog, table,
+                                          conditionVariables, force);
+    };
+    const std::unique_ptr<LinePart> first = makePart();
+    if (!first->isUsable())
         return outcome;
-    LineRun run(mapper, table, conditionVariables, force);
-    outcome.isLeft = !assignLines(run, table.getLineInfoList(), cancelled);
+    std::optional<PrjMappingC> result;
+    if (!steps)
+        result = assignInParts(*first, makePart, shownLines(table), cancelled);
+    else if (assignOneByOne(*first, shownLines(table), cancelled, *steps))
+        result = first->mapping();
+    outcome.isLeft = !result;
     if (outcome.isLeft) {
         mapping = before;
         return outcome;
     }
-    mapping = mapper.getMappingNode().getMapping();
+    mapping = *result;
     removeEmptyNotFoundTarget(mapping);
     mapping.updateMappingState();
     if (!outcome.unreadableTargets.isEmpty())
