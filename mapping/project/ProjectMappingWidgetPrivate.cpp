@@ -266,9 +266,7 @@ bool ProjectMappingWidgetPrivate::removeTargetWidget(int index)
 void ProjectMappingWidgetPrivate::keepLostLines()
 {
     PrjMappingC &mapping = params.projectMapping;
-    int notFound = mapping.getNotFoundTarget();
-    if (notFound == -1)
-        notFound = mapping.addTarget(QString(), QString());
+    const int notFound = mapping.ensureNotFoundTarget();
     PrjMappingTargetC target = mapping.findTarget(notFound);
     for (const VKTab::LineInfo &info : content.getLineInfoList()) {
         const VKTab::LineId id = info.getLineId();

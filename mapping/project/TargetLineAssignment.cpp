@@ -7,6 +7,7 @@
 
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/mapper/PrjMapperC.h>
+#include <release/decide/notFoundLines.h>
 
 #include <QPointer>
 #include <QScopeGuard>
@@ -72,11 +73,7 @@ void TargetMappingWidget::assignLine(const VKTab::LineId &sourceLine,
     target.addLineId(sourceLine.value(0), targetLine.value(0), PRJMAPPING::Mapped, QString());
     if (!passesCheck(target, sourceLine, targetLine))
         target.addLineId(sourceLine.value(0), targetLine.value(0), PRJMAPPING::ToCheck, QString());
-    const int notFound = mapping.getNotFoundTarget();
-    if (PrjMappingTargetC lost = mapping.findTarget(notFound); lost.isValid()) {
-        lost.removeLineId(sourceLine.value(0));
-        mapping.updateTarget(notFound, lost);
-    }
+    VelkRelease::leaveNotFound(mapping, sourceLine.value(0));
     mapping.updateMappingState();
     if (notify)
         notify(target, index, TargetModified);

@@ -1,6 +1,7 @@
 #include "LineDecisions.h"
 
 #include <geomcore/mapper/PrjMapperLineC.h>
+#include <release/decide/notFoundLines.h>
 
 namespace {
 
@@ -28,18 +29,6 @@ std::optional<Work> workOn(const PrjMapperLineC &line)
     const PrjMappingC &mapping = history.last().second;
     const PrjMappingTargetC target = mapping.findTarget(index);
     return target.isValid() ? std::optional(Work{mapping, index, target}) : std::nullopt;
-}
-
-void addToNotFound(PrjMappingC &mapping, int sourceLine)
-{
-    int index = mapping.getNotFoundTarget();
-    if (index == -1)
-        index = mapping.addTarget(QString(), QString());
-    PrjMappingTargetC target = mapping.findTarget(index);
-    if (!target.isValid())
-        return;
-    target.addLineId(sourceLine, -1, PRJMAPPING::Mapped, QString());
-    mapping.updateTarget(index, target);
 }
 
 std::optional<int> ifConflicted(const PrjMappingTargetC &target, int line, int accepted)
@@ -76,7 +65,7 @@ std::optional<LineDecision> LineDecisions::remove(const PrjMapperLineC &line,
     // Looks at the target as it is without the line.
     const auto accepted = ifConflicted(work->target, line.getSourceLineId(), number);
     work->mapping.updateTarget(work->index, work->target);
-    addToNotFound(work->mapping, number);
+    VelkRelease::enterNotFound(work->mapping, number, PRJMAPPING::Mapped);
     work->mapping.updateMappingState();
     return LineDecision{work->mapping, accepted};
 }

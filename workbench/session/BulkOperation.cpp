@@ -3,10 +3,13 @@
 #include "MappingDocument.h"
 
 #include <geomcore/table/Content.h>
+#include <release/decide/LineEdits.h>
 
 #include <QCoreApplication>
 
 #include <algorithm>
+
+using VelkRelease::LineEdits;
 
 namespace {
 
@@ -63,106 +66,20 @@ QString describe(BulkOperation::Action action, const BulkOperation::Preview &pre
     return parts.join(u'\n');
 }
 
-/// The targets of a mapping, changed one line at a time.
-class Editor
-{
-public:
-    explicit Editor(const PrjMappingC &mapping)
-        : m_targets(mapping.getTargets())
-        , m_notFound(mapping.getNotFoundTarget())
-    {
-    }
-
-    /// Where the line stands; its entries in real targets with a target line count as assigned.
-    void look(int line)
-    {
-        m_known = m_assigned = m_conflict = m_verified = m_text = false;
-        bool allVerified = true;
-        for (const PrjMappingTargetC &target : std::as_const(m_targets)) {
-            if (!target.containsLine(line))
-                continue;
-            const PrjMappingTargetLineC entry = target.getMappedLine(line);
-            const bool verified = entry.getState() == PRJMAPPING::Verified;
-            m_known = true;
-            m_conflict = m_conflict || entry.getConflict();
-            m_verified = m_verified || verified;
-            allVerified = allVerified && verified;
-            if (target.isNotFoundTarget() || entry.getTargetLineId() == -1)
-                continue;
-            m_assigned = true;
-            m_text = m_text || !entry.getExtended().isEmpty();
-        }
-        m_settled = m_known && allVerified;
-    }
-    [[nodiscard]] bool isKnown() const { return m_known; }
-    [[nodiscard]] bool isAssigned() const { return m_assigned; }
-    [[nodiscard]] bool isInConflict() const { return m_conflict; }
-    /// Confirmed in any, or in each of its targets.
-    [[nodiscard]] bool isVerified() const { return m_verified; }
-    [[nodiscard]] bool isSettled() const { return m_settled; }
-    [[nodiscard]] bool hasText() const { return m_text; }
-
-    void confirm(int line)
-    {
-        for (PrjMappingTargetC &target : m_targets) {
-            if (!target.containsLine(line))
-                continue;
-            const PrjMappingTargetLineC entry = target.getMappedLine(line);
-            target.addLineId(line, entry.getTargetLineId(), PRJMAPPING::Verified,
-                             entry.getExtended());
-        }
-    }
-
-    void remove(int line, PRJMAPPING::CheckState state)
-    {
-        if (m_notFound < 0) {
-            PrjMappingTargetC target;
-            target.setValid(true);
-            m_notFound = int(m_targets.size());
-            m_targets.append(target);
-        }
-        for (int i = 0; i < m_targets.size(); ++i) {
-            if (i == m_notFound)
-                m_targets[i].addLineId(line, -1, state, QString());
-            else
-                m_targets[i].removeLineId(line);
-        }
-    }
-
-    [[nodiscard]] PrjMappingC writeTo(PrjMappingC mapping)
-    {
-        const int known = mapping.countTargets();
-        for (int i = 0; i < m_targets.size(); ++i) {
-            if (i < known)
-                mapping.updateTarget(i, m_targets[i]);
-            else
-                mapping.addTarget(m_targets[i]);
-        }
-        return mapping;
-    }
-
-private:
-    QList<PrjMappingTargetC> m_targets;
-    int m_notFound;
-    bool m_known = false;
-    bool m_assigned = false;
-    bool m_conflict = false;
-    bool m_verified = false;
-    bool m_settled = false;
-    bool m_text = false;
-};
-
 /// False if the line is already as wanted.
-bool act(Editor &editor, int line, BulkOperation::Action action)
+bool act(LineEdits &edits, int line, const LineEdits::Standing &standing,
+         BulkOperation::Action action)
 {
-    if (action == BulkOperation::Confirm || !editor.isAssigned()) {
-        if (editor.isSettled() || action == BulkOperation::Remove)
+    if (action == BulkOperation::Confirm || !standing.assigned) {
+        if (standing.settled || action == BulkOperation::Remove)
             return false;
-        editor.confirm(line);
+        edits.confirm(line);
         return true;
     }
-    editor.remove(line,
-                  action == BulkOperation::Remove ? PRJMAPPING::Mapped : PRJMAPPING::Verified);
+    if (action == BulkOperation::Remove)
+        edits.remove(line);
+    else
+        edits.expire(line);
     return true;
 }
 
@@ -199,22 +116,22 @@ int BulkOperation::run(Action action) const
 PrjMappingC BulkOperation::apply(Action action, Preview &preview) const
 {
     const PrjMappingC mapping = m_document.mapping(m_project);
-    Editor editor(mapping);
+    LineEdits edits(mapping);
     for (int line : m_lines) {
-        editor.look(line);
-        if (!editor.isKnown()) {
+        const LineEdits::Standing standing = edits.standing(line);
+        if (!standing.known) {
             ++preview.unknown;
-        } else if (editor.isInConflict()) {
+        } else if (standing.conflicted) {
             ++preview.conflicts;
-        } else if (act(editor, line, action)) {
+        } else if (act(edits, line, standing, action)) {
             ++preview.lines;
-            preview.confirmed += editor.isVerified() ? 1 : 0;
-            preview.lostTexts += editor.hasText() && action != Confirm ? 1 : 0;
+            preview.confirmed += standing.verified ? 1 : 0;
+            preview.lostTexts += standing.hasText && action != Confirm ? 1 : 0;
         } else {
             ++preview.unchanged;
         }
     }
-    return preview.lines > 0 ? editor.writeTo(mapping) : mapping;
+    return preview.lines > 0 ? edits.mapping() : mapping;
 }
 
 QList<int> BulkOperation::shownLines(const VKTab::Content &table)

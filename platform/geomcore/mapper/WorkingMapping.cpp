@@ -85,10 +85,7 @@ void WorkingMapping::enterNotFound()
     const std::vector<int> lines = linesWithoutTarget();
     PrjMappingC &mapping = edit();
     if (!lines.empty()) {
-        int index = mapping.getNotFoundTarget();
-        if (index < 0)
-            index = mapping.addTarget(QString(), QString());
-        PrjMappingTargetC &target = mapping.editTarget(index);
+        PrjMappingTargetC &target = mapping.editTarget(mapping.ensureNotFoundTarget());
         for (int line : lines)
             target.addLineId(line, -1, PRJMAPPING::ToCheck, QString());
     }

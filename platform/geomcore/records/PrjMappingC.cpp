@@ -224,6 +224,12 @@ int PrjMappingC::getNotFoundTarget() const
     return -1;
 }
 
+int PrjMappingC::ensureNotFoundTarget()
+{
+    const int index = getNotFoundTarget();
+    return index == -1 ? addTarget(QString(), QString()) : index;
+}
+
 PrjMappingLineC PrjMappingC::findLine(int sourceLineId,
                                       const QHash<QString, MapVarValueC> &varset) const
 {

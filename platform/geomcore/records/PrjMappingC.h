@@ -72,6 +72,8 @@ public:
     void removeTarget(int index);
     /// Index of the target without path, or -1.
     [[nodiscard]] int getNotFoundTarget() const;
+    /// The same; without one it is made, as the last target.
+    int ensureNotFoundTarget();
 
     /// Where a line went. Of several targets that hold it, the first one with a path whose
     /// conditions all hold for the values, else the first one. Not valid if no target knows it.
