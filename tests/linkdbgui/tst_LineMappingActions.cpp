@@ -678,11 +678,13 @@ void tst_LineMappingActions::remap()
     f->load();
     f->widget->onRemapLinesClicked();
     QCOMPARE(f->published.size(), 1);
-    // Line 2 fails its check, line 3 passes.
+    // Line 2 fails its check; line 3 passes, but is not certain of a line confirmed for another
+    // one.
+    const bool isClaimed = targetLine == 1 && state == PRJMAPPING::Verified;
     QTEST(entries().section(' ', 0, 0), "expected");
-    QCOMPARE(entries().section(' ', 1), QString("0:2>2/0 0:3>1/1"));
+    QCOMPARE(entries().section(' ', 1), QString(isClaimed ? "0:2>2/0 0:3>1/0" : "0:2>2/0 0:3>1/1"));
     QTEST(f->states().section(' ', 0, 0), "marker");
-    QCOMPARE(f->states().section(' ', 1), QString("C -"));
+    QCOMPARE(f->states().section(' ', 1), QString(isClaimed ? "C C" : "C -"));
 }
 
 void tst_LineMappingActions::remapTakesChangedTables()
