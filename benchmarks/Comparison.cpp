@@ -66,6 +66,7 @@ void Comparison::run(benchmark::State &state, const std::function<void()> &produ
     }
     for (const Reference &reference : m_references) {
         state.counters["vs_" + reference.name] = m_product.cpu / reference.best.cpu;
+        state.counters["wall_vs_" + reference.name] = m_product.wall / reference.best.wall;
         state.counters["ms_" + reference.name] = reference.best.cpu * 1e3;
     }
     state.counters["ms_best"] = m_product.cpu * 1e3;

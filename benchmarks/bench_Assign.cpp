@@ -22,8 +22,10 @@ namespace {
 class AssignRun
 {
 public:
-    explicit AssignRun(const CatalogShape &shape)
-        : m_projects(CatalogGenerator(shape).write(m_folder.path()))
+    /// \a threads: how many the product takes; 0 for all cores.
+    explicit AssignRun(const CatalogShape &shape, int threads = 1)
+        : m_threads(threads)
+        , m_projects(CatalogGenerator(shape).write(m_folder.path()))
     {
         writeEmptyMapping(m_projects, emptyMapping());
     }
@@ -45,7 +47,7 @@ public:
         runVelkmap({QStringLiteral("assign"), QStringLiteral("--mapping"), qtPath(mapping()),
                     QStringLiteral("--source"), qtPath(m_folder.path() / "old"),
                     QStringLiteral("--target"), qtPath(m_folder.path() / "new"),
-                    QStringLiteral("--jobs"), QStringLiteral("1")});
+                    QStringLiteral("--jobs"), QString::number(m_threads)});
     }
 
     JoinResult join() const
@@ -61,6 +63,7 @@ public:
     std::filesystem::path reference() const { return m_folder.path() / "reference.json"; }
 
 private:
+    int m_threads;
     TemporaryFolder m_folder;
     std::vector<GeneratedProject> m_projects;
 };
@@ -73,9 +76,9 @@ CatalogShape shapeOf(const benchmark::State &state)
     return shape;
 }
 
-void assign(benchmark::State &state)
+void assignWith(benchmark::State &state, int threads)
 {
-    AssignRun run(shapeOf(state));
+    AssignRun run(shapeOf(state), threads);
     const size_t hits = run.join().hits;
     Comparison comparison;
     comparison.addReference("join", [&] { benchmark::DoNotOptimize(run.join().hits); });
@@ -91,6 +94,17 @@ void assign(benchmark::State &state)
     state.counters["mapped"] = counts.mapped;
     state.counters["toCheck"] = counts.toCheck;
     state.counters["notFound"] = counts.notFound;
+}
+
+void assign(benchmark::State &state)
+{
+    assignWith(state, 1);
+}
+
+/// All cores; wall_vs_join is what counts.
+void assignOnAllCores(benchmark::State &state)
+{
+    assignWith(state, 0);
 }
 
 void assignMemory(benchmark::State &state)
@@ -116,6 +130,7 @@ void sizes(benchmark::internal::Benchmark *benchmark)
 }
 
 BENCHMARK(assign)->Apply(sizes)->UseManualTime();
+BENCHMARK(assignOnAllCores)->Apply(sizes)->UseManualTime();
 BENCHMARK(assignMemory)->Apply(sizes)->Iterations(1);
 
 } // namespace

@@ -4,6 +4,8 @@
 #include "NearCells.h"
 #include "TargetTable.h"
 
+#include <core/parallel/WorkerPool.h>
+
 #include <algorithm>
 
 namespace Mapper {
@@ -26,16 +28,29 @@ SimilarCandidates::SimilarCandidates(const TargetTable &table, std::vector<int> 
 
 SimilarCandidates::~SimilarCandidates() = default;
 
+std::shared_ptr<const NearCells> SimilarCandidates::cellsOf(int variable) const
+{
+    return m_cells.get(variable,
+                       [&] { return std::make_shared<NearCells>(m_table, variable, m_rows); });
+}
+
 std::vector<int> SimilarCandidates::find(const std::vector<int> &variables,
                                          const std::vector<ComparableCell> &cells) const
 {
+    // What the first line needs, most others need too.
+    std::call_once(m_prepared, [&] {
+        WorkerPool::instance().run(int(variables.size()), [&](int place) {
+            const int variable = variables[size_t(place)];
+            if (cells[size_t(place)].hasValue() && !m_table.variables()[size_t(variable)].range)
+                static_cast<void>(cellsOf(variable));
+        });
+    });
     std::vector<std::vector<int>> lists;
     for (size_t place = 0; place < variables.size(); ++place) {
         const int variable = variables[place];
         if (!cells[place].hasValue() || m_table.variables()[size_t(variable)].range)
             continue;
-        const auto index = m_cells.get(
-            variable, [&] { return std::make_shared<NearCells>(m_table, variable, m_rows); });
+        const auto index = cellsOf(variable);
         std::vector<int> rows = index->rows(cells[place], MaxOfVariable);
         if (!rows.empty())
             lists.push_back(std::move(rows));

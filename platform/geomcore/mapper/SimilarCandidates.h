@@ -25,9 +25,12 @@ public:
                                         const std::vector<ComparableCell> &cells) const;
 
 private:
+    [[nodiscard]] std::shared_ptr<const NearCells> cellsOf(int variable) const;
+
     const TargetTable &m_table;
     const std::vector<int> m_rows;
     mutable Memo<int, NearCells> m_cells;
+    mutable std::once_flag m_prepared;
 };
 
 } // namespace Mapper

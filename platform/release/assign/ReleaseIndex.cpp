@@ -53,7 +53,6 @@ void ReleaseIndex::finish()
     std::ranges::sort(m_values);
     std::ranges::sort(m_rows);
     std::ranges::sort(m_wholes);
-    m_votes.assign(m_tables.size(), 0);
 }
 
 void ReleaseIndex::addPostings(int table, std::vector<quint64> &values, std::vector<quint64> &rows)
@@ -90,8 +89,38 @@ std::vector<int> ReleaseIndex::withName(const QString &foldedName) const
     return tables;
 }
 
-void ReleaseIndex::vote(const Postings &postings, quint64 hash, int weight,
-                        std::vector<int> &touched) const
+/// What the tables got in one search. The place for it is kept for the thread's next one.
+struct ReleaseIndex::Votes
+{
+    explicit Votes(size_t tables)
+    {
+        if (byTable.size() < tables)
+            byTable.resize(tables, 0);
+    }
+    ~Votes()
+    {
+        for (const int table : touched)
+            byTable[size_t(table)] = 0;
+    }
+    Votes(const Votes &) = delete;
+    Votes &operator=(const Votes &) = delete;
+
+    void add(int table, int weight)
+    {
+        int &votes = byTable[size_t(table)];
+        if (votes == 0)
+            touched.push_back(table);
+        votes += weight;
+    }
+    [[nodiscard]] int of(int table) const { return byTable[size_t(table)]; }
+
+    static thread_local std::vector<int> byTable; ///< All 0 between two searches.
+    std::vector<int> touched;
+};
+
+thread_local std::vector<int> ReleaseIndex::Votes::byTable;
+
+void ReleaseIndex::vote(const Postings &postings, quint64 hash, int weight, Votes &votes)
 {
     const auto begin = std::ranges::lower_bound(postings, posting(hash, 0));
     auto end = begin;
@@ -99,42 +128,34 @@ void ReleaseIndex::vote(const Postings &postings, quint64 hash, int weight,
         if (++end - begin > CommonLimit)
             return;
     }
-    for (auto it = begin; it != end; ++it) {
-        const int table = int(*it & TableMask);
-        int &votes = m_votes[size_t(table)];
-        if (votes == 0)
-            touched.push_back(table);
-        votes += weight;
-    }
+    for (auto it = begin; it != end; ++it)
+        votes.add(int(*it & TableMask), weight);
 }
 
 std::vector<int> ReleaseIndex::holders(const LineCells &cells, const std::vector<int> &rows,
                                        int limit) const
 {
-    std::vector<int> touched;
+    Votes votes(m_tables.size());
     const int columns = int(cells.variables().size());
     for (const int row : rows) {
         quint64 sum = 0;
         for (int column = 0; column < columns; ++column) {
             if (const quint64 hash = cells.valueHash(row, column)) {
-                vote(m_values, hash, 1, touched);
+                vote(m_values, hash, 1, votes);
                 sum += hash;
             }
         }
         if (sum)
-            vote(m_rows, sum, columns, touched);
+            vote(m_rows, sum, columns, votes);
     }
-    vote(m_wholes, cells.tableHash(), columns * cells.rowCount() + 1, touched);
-    const auto better = [this](int a, int b) {
-        return std::pair(-m_votes[size_t(a)], a) < std::pair(-m_votes[size_t(b)], b);
+    vote(m_wholes, cells.tableHash(), columns * cells.rowCount() + 1, votes);
+    const auto better = [&votes](int a, int b) {
+        return std::pair(-votes.of(a), a) < std::pair(-votes.of(b), b);
     };
-    const auto kept = touched.begin() + std::min<std::ptrdiff_t>(limit, std::ssize(touched));
-    std::ranges::partial_sort(touched, kept, better);
-    std::vector<int> tables(touched.begin(), kept);
-    const int fewest = tables.empty() ? 0 : m_votes[size_t(tables.front())] / MinorShare;
-    std::erase_if(tables, [&](int table) { return m_votes[size_t(table)] < fewest; });
-    for (const int table : touched)
-        m_votes[size_t(table)] = 0;
+    std::vector<int> tables(std::min<size_t>(size_t(limit), votes.touched.size()));
+    std::ranges::partial_sort_copy(votes.touched, tables, better);
+    const int fewest = tables.empty() ? 0 : votes.of(tables.front()) / MinorShare;
+    std::erase_if(tables, [&](int table) { return votes.of(table) < fewest; });
     return tables;
 }
 

@@ -34,7 +34,7 @@ public:
 
     /// Tables that hold values of these lines, those that hold most of them first, \a limit at
     /// most. Values and lines that more than CommonLimit tables hold count for nothing; a table
-    /// with less than a MinorShare-th of the best one's values is left out. One search at a time.
+    /// with less than a MinorShare-th of the best one's values is left out. Any thread.
     [[nodiscard]] std::vector<int> holders(const LineCells &cells, const std::vector<int> &rows,
                                            int limit) const;
     static constexpr int CommonLimit = 256;
@@ -45,7 +45,8 @@ private:
     using Postings = std::vector<quint64>;
 
     void addPostings(int table, std::vector<quint64> &values, std::vector<quint64> &rows);
-    void vote(const Postings &postings, quint64 hash, int weight, std::vector<int> &touched) const;
+    struct Votes;
+    static void vote(const Postings &postings, quint64 hash, int weight, Votes &votes);
 
     std::vector<LineCells> m_tables;
     QStringList m_paths;
@@ -55,7 +56,6 @@ private:
     Postings m_values;
     Postings m_rows;
     Postings m_wholes;
-    mutable std::vector<int> m_votes; ///< By table; all 0 between two searches.
 };
 
 } // namespace VelkRelease

@@ -9,6 +9,7 @@
 #include "ReleaseIndex.h"
 #include "VariableNames.h"
 
+#include <core/parallel/WorkerPool.h>
 #include <core/progress/PProgress.h>
 #include <geomcore/table/TableData.h>
 
@@ -51,8 +52,8 @@ private:
                                      const std::vector<ReadProject> &projects);
     [[nodiscard]] bool setDates();
     void takeMessages();
-    void mapSource(const ReadProject &source);
-    void addTargets(PrjMappingC &mapping, const std::vector<int> &tables);
+    [[nodiscard]] PrjMappingC mappingOf(const ReadProject &source) const;
+    void addTargets(PrjMappingC &mapping, const std::vector<int> &tables) const;
     void count(const PrjMappingC &mapping);
 
     ReleaseMappingBuilder &m_builder;
@@ -78,8 +79,14 @@ ReleaseMappingBuilder::Outcome ReleaseMappingBuilder::Work::run()
     for (ReadProject &target : m_targets)
         m_index.add(target.project.path, std::move(target.cells));
     m_index.finish();
-    for (const ReadProject &source : m_sources)
-        mapSource(source);
+    std::vector<PrjMappingC> mappings(m_sources.size());
+    WorkerPool::instance().run(int(m_sources.size()), [&](int i) {
+        mappings[size_t(i)] = mappingOf(m_sources[size_t(i)]);
+    });
+    for (const PrjMappingC &mapping : mappings) {
+        count(mapping);
+        m_release.addMapping(mapping);
+    }
     m_builder.m_release = m_release;
     return m_builder.m_messages.isEmpty() ? Outcome::Complete : Outcome::Incomplete;
 }
@@ -122,7 +129,7 @@ ReadProject ReleaseMappingBuilder::Work::readProject(const CatalogReader &catalo
     return read;
 }
 
-void ReleaseMappingBuilder::Work::mapSource(const ReadProject &source)
+PrjMappingC ReleaseMappingBuilder::Work::mappingOf(const ReadProject &source) const
 {
     PrjMappingC mapping;
     mapping.setSourcePath(source.project.path);
@@ -132,11 +139,11 @@ void ReleaseMappingBuilder::Work::mapSource(const ReadProject &source)
     mapping.updateMappingState();
     if (!source.project.errors.isEmpty())
         mapping.setMappingState(mapping.getMappingState() | PRJMAPPING::StateTableError);
-    count(mapping);
-    m_release.addMapping(mapping);
+    return mapping;
 }
 
-void ReleaseMappingBuilder::Work::addTargets(PrjMappingC &mapping, const std::vector<int> &tables)
+void ReleaseMappingBuilder::Work::addTargets(PrjMappingC &mapping,
+                                             const std::vector<int> &tables) const
 {
     for (const int table : tables) {
         const CatalogProject &project = m_targets[size_t(table)].project;
