@@ -61,6 +61,12 @@ private Q_SLOTS:
     void dates();
     void badTables_data();
     void badTables();
+    void foreignForms_data();
+    void foreignForms();
+    void nothingOutsideOfTheCatalog_data();
+    void nothingOutsideOfTheCatalog();
+    void pathInsideOfTheCatalog();
+    void placeholdersInNames();
     void goodTablesBesideBadOnes();
     void sameNameTwice();
     void brokenFormerTable();
@@ -506,7 +512,21 @@ void tst_Import::badTables_data()
                                        "has\n";
     QTest::newRow("no UTF-8")
         << QByteArray("a,b\n1,\xE4\n")
-        << ": row 2, column 2: the bytes are no UTF-8; save the file as UTF-8\n";
+        << ": row 2, column 2: the bytes are no UTF-8; save the file as UTF-8\n*: if it is written "
+           "in another encoding, name that by --encoding\n";
+    const QString bareReturn =
+        ": the row ends with a carriage return alone; save the file with line feeds\n";
+    QTest::newRow("carriage returns as line ends")
+        << QByteArray("Name,A,B\rx,1,2\ry,2,3\r") << ": row 1" + bareReturn;
+    QTest::newRow("a carriage return between line feeds")
+        << QByteArray("a,b\r\n1,2\r\n3,4\r5,6\r\n") << ": row 3" + bareReturn;
+    QTest::newRow("a carriage return at the end")
+        << QByteArray("a,b\n1,2\r") << ": row 2" + bareReturn;
+    QTest::newRow("a quote left open between semicolons")
+        << QByteArray("a;b\n1;\"2\n") << ": row 2, column 2: a quote is left open\n";
+    QTest::newRow("text behind a quoted cell")
+        << QByteArray("a,b\n\"x\"y,1\n")
+        << ": row 2, column 1: text after the closing quote of a cell\n";
 }
 
 void tst_Import::badTables()
@@ -515,9 +535,148 @@ void tst_Import::badTables()
     QFETCH(QString, message);
     writeFile(from("t.csv"), csv);
     QCOMPARE(import(), ExitStatus::InputUnreadable);
-    QCOMPARE(m_err, from("t.csv") + message);
+    QCOMPARE(m_err, from("t.csv") + message.replace(u'*', from("t.csv")));
     QVERIFY(!QFile::exists(into("t.prj")));
     QVERIFY(!QFile::exists(into("t.csv")));
+}
+
+void tst_Import::foreignForms_data()
+{
+    QTest::addColumn<QByteArray>("csv");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("result");
+    QTest::addColumn<QString>("note");
+
+    const QStringList none;
+    QTest::newRow("semicolons") << QByteArray("Name;L\nx;1,5\ny;2,5\n") << none
+                                << QByteArray("Name,L,LineId\nx,\"1,5\",1\ny,\"2,5\",2\n")
+                                << "cells are separated by semicolons";
+    QTest::newRow("semicolons, quoted cells, CRLF")
+        << QByteArray("Name;L\r\n\"a;\"\"b\";1\r\n\"\";2\r\n") << none
+        << QByteArray("Name,L,LineId\r\n\"a;\"\"b\",1,1\r\n\"\",2,2\r\n")
+        << "cells are separated by semicolons";
+    QTest::newRow("tabs") << QByteArray("Name\tL\nx\t1\ny\t\n") << none
+                          << QByteArray("Name,L,LineId\nx,1,1\ny,,2\n")
+                          << "cells are separated by tabs";
+    QTest::newRow("semicolons in cells between commas")
+        << QByteArray("Name,L\nx,10;12;16\ny,5;6;7\n") << none
+        << QByteArray("Name,L,LineId\nx,10;12;16,1\ny,5;6;7,2\n") << "";
+    QTest::newRow("the separator as it is named")
+        << QByteArray("Name,M;L\nx,a;1\ny,b;2\n") << QStringList{"--separator", "semicolon"}
+        << QByteArray("\"Name,M\",L,LineId\n\"x,a\",1,1\n\"y,b\",2,2\n")
+        << "cells are separated by semicolons";
+    QTest::newRow("inch marks") << QByteArray("Name,D\nbolt,1/4\" x 2\"\nnut,3\n") << none
+                                << QByteArray(
+                                       "Name,D,LineId\nbolt,\"1/4\"\" x 2\"\"\",1\nnut,3,2\n")
+                                << "quotes inside of cells are taken as characters, first in row "
+                                   "2, column 2";
+    QTest::newRow("inch marks between semicolons, byte order mark")
+        << QByteArray("\xef\xbb\xbfName;D\nbolt;1/4\"\nnut;3\n") << none
+        << QByteArray("Name,D,LineId\nbolt,\"1/4\"\"\",1\nnut,3,2\n")
+        << "quotes inside of cells are taken as characters, first in row 2, column 2";
+    QTest::newRow("UTF-16, little end first")
+        << QByteArray("\xff\xfeN\0;\0\xe4\0\n\0x\0;\0001\0\n\0y\0;\0002\0\n\0", 26) << none
+        << QByteArray("N,\xc3\xa4,LineId\nx,1,1\ny,2,2\n") << "read as UTF-16";
+    QTest::newRow("UTF-16, big end first")
+        << QByteArray("\xfe\xff\0N\0,\0\xe4\0\n\0x\0,\0001\0\n\0y\0,\0002\0\n", 26) << none
+        << QByteArray("N,\xc3\xa4,LineId\nx,1,1\ny,2,2\n") << "read as UTF-16";
+    QTest::newRow("Windows-1252") << QByteArray("Name,\xe4\nx,\x80\ny,\xb0\n")
+                                  << QStringList{"--encoding", "Windows-1252"}
+                                  << QByteArray(
+                                         "Name,\xc3\xa4,LineId\nx,\xe2\x82\xac,1\ny,\xc2\xb0,2\n")
+                                  << "read as Windows-1252";
+    QTest::newRow("a carriage return in a quoted cell")
+        << QByteArray("Name,D\n\"a\rb\",1\nc,2\n") << none
+        << QByteArray("Name,D,LineId\n\"a\rb\",1,1\nc,2,2\n") << "";
+    QTest::newRow("no names") << QByteArray("1,M8,3\n2,M10,4\n3,M12,5\n") << none
+                              << QByteArray("1,M8,3,LineId\n2,M10,4,1\n3,M12,5,2\n")
+                              << "the first row looks like data; it is taken as the columns' "
+                                 "names, so put a row with names before it";
+    QTest::newRow("a separator in the only name")
+        << QByteArray("Name;L\nx\ny\n") << none << QByteArray("Name;L,LineId\nx,1\ny,2\n")
+        << "the only column is named \"Name;L\"; if its cells are several, name what separates "
+           "them by --separator";
+}
+
+void tst_Import::foreignForms()
+{
+    QFETCH(QByteArray, csv);
+    QFETCH(QStringList, options);
+    QFETCH(QByteArray, result);
+    QFETCH(QString, note);
+    writeFile(from("t.csv"), csv);
+    QCOMPARE(import(options), ExitStatus::Done);
+    QCOMPARE(m_err, QString());
+    QCOMPARE(readFile(into("t.csv")), result);
+    if (note.isEmpty())
+        QVERIFY2(!m_out.contains("separated by") && !m_out.contains("quotes"), qPrintable(m_out));
+    else
+        QVERIFY2(m_out.contains("  note: " + note + '\n'), qPrintable(m_out));
+    // The same again changes nothing.
+    QCOMPARE(import(options), ExitStatus::Done);
+    QVERIFY2(m_out.contains("1 unchanged"), qPrintable(m_out));
+}
+
+void tst_Import::nothingOutsideOfTheCatalog_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("up in the descriptor") << "../../out/victim.txt";
+    QTest::newRow("absolute in the descriptor") << "absolute";
+    QTest::newRow("a link in place of the lines") << "link";
+    QTest::newRow("a link to nothing in place of the lines") << "dangling";
+    QTest::newRow("a link in place of the folder") << "folder";
+}
+
+void tst_Import::nothingOutsideOfTheCatalog()
+{
+    QFETCH(QString, way);
+    writeFile(from("d/t.csv"), "a\n1\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    const QString victim = m_dir->filePath("root/out/victim.txt");
+    writeFile(victim, "a\nx\n");
+    if (way == "link" || way == "dangling") {
+        QVERIFY(QFile::remove(into("d/t.csv")));
+        QVERIFY(QFile::link(way == "link" ? victim : victim + 's', into("d/t.csv")));
+    } else if (way == "folder") {
+        QVERIFY(QDir().rename(into("d"), m_dir->filePath("root/out/d")));
+        QVERIFY(QFile::link(m_dir->filePath("root/out/d"), into("d")));
+    } else {
+        const QString path = way == "absolute" ? victim : "../" + way;
+        QByteArray descriptor = readFile(into("d/t.json"));
+        descriptor.insert(descriptor.indexOf('{') + 1, "\"path\": \"" + path.toUtf8() + "\",");
+        writeFile(into("d/t.json"), descriptor);
+    }
+    writeFile(from("d/t.csv"), "a\n1\n2\n");
+    QCOMPARE(import(), ExitStatus::InputUnreadable);
+    QVERIFY2(m_err.contains(into("d/t.json")) && m_err.contains("outside of the catalog"),
+             qPrintable(m_err));
+    QCOMPARE(readFile(victim), QByteArray("a\nx\n"));
+    QVERIFY(!QFile::exists(victim + 's'));
+    if (way == "folder")
+        QCOMPARE(readFile(m_dir->filePath("root/out/d/t.csv")), QByteArray("a,LineId\n1,1\n"));
+}
+
+void tst_Import::pathInsideOfTheCatalog()
+{
+    writeFile(from("d/t.csv"), "a\n1\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QVERIFY(QDir().mkpath(into("lines")));
+    QVERIFY(QFile::rename(into("d/t.csv"), into("lines/t.csv")));
+    QByteArray descriptor = readFile(into("d/t.json"));
+    descriptor.insert(descriptor.indexOf('{') + 1, R"("path": "../lines/t.csv",)");
+    writeFile(into("d/t.json"), descriptor);
+    writeFile(from("d/t.csv"), "a\n1\n2\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QCOMPARE(readFile(into("lines/t.csv")), QByteArray("a,LineId\n1,1\n2,2\n"));
+}
+
+void tst_Import::placeholdersInNames()
+{
+    writeFile(from("t.csv"), "%2,%2,%1,\n1,2,3,4\n");
+    QCOMPARE(import(), ExitStatus::Done);
+    QVERIFY2(m_out.contains("column 2 is named \"%2\" once more and is called \""),
+             qPrintable(m_out));
+    QVERIFY2(m_out.contains("column 4 has no name and is called \"Column4\""), qPrintable(m_out));
 }
 
 void tst_Import::goodTablesBesideBadOnes()

@@ -20,7 +20,7 @@ namespace velkmap {
 namespace {
 
 const QString Description = QStringLiteral(
-    "Makes a catalog of projects and tables from a folder tree of CSV tables (RFC 4180, UTF-8). "
+    "Makes a catalog of projects and tables from a folder tree of CSV tables. "
     "Each NAME.csv becomes NAME.prj, NAME.json (the descriptor) and NAME.csv below CATALOG, at the "
     "same relative path. Column types, value ranges, decimal commas and key columns are recognised "
     "and printed. What is wrong can be corrected in the descriptor: a later import keeps it. It "
@@ -173,8 +173,22 @@ void ImportRun::printSummary()
 
 bool lieInside(const QString &inner, const QString &outer)
 {
-    const QString path = QDir::cleanPath(QDir(inner).absolutePath()) + u'/';
-    return path.startsWith(QDir::cleanPath(QDir(outer).absolutePath()) + u'/');
+    return (inner + u'/').startsWith(outer + u'/');
+}
+
+QString absolute(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+/// 0 for something else.
+char separatorNamed(const QString &name)
+{
+    if (name == QLatin1String("comma") || name == QLatin1String(","))
+        return ',';
+    if (name == QLatin1String("semicolon") || name == QLatin1String(";"))
+        return ';';
+    return name == QLatin1String("tab") || name == QLatin1String("\t") ? '\t' : '\0';
 }
 
 } // namespace
@@ -192,14 +206,30 @@ ExitStatus runImport(const QStringList &arguments, QTextStream &out, QTextStream
                        "Without it: now, and only for tables that are new or changed."));
     line.addOptional(QStringLiteral("key"), QStringLiteral("COLUMN"),
                      QStringLiteral("Key column of all tables that have it."));
+    line.addOptional(QStringLiteral("separator"), QStringLiteral("NAME"),
+                     QStringLiteral("What separates the cells: comma, semicolon or tab; recognised "
+                                    "without it."));
+    line.addOptional(QStringLiteral("encoding"), QStringLiteral("NAME"),
+                     QStringLiteral("utf-8, utf-16 or windows-1252; without it UTF-16 by its byte "
+                                    "order mark, else UTF-8."));
     if (const auto status = line.parse(arguments, out, err))
         return *status;
-    const QString from = QDir::cleanPath(line.value(QStringLiteral("from")));
-    const QString into = QDir::cleanPath(line.value(QStringLiteral("into")));
+    const QString from = absolute(line.value(QStringLiteral("from")));
+    const QString into = absolute(line.value(QStringLiteral("into")));
     if (lieInside(into, from) || lieInside(from, into))
         return line.wrongUsage(QStringLiteral("--from and --into lie inside each other"), err);
     VelkRelease::ImportOptions options;
     options.keyColumn = line.value(QStringLiteral("key"));
+    options.root = into;
+    options.form.encoding = line.value(QStringLiteral("encoding")).toLower();
+    if (line.isSet(QStringLiteral("encoding")) &&
+        !VelkRelease::SourceText::encodings().contains(options.form.encoding))
+        return line.wrongUsage(QStringLiteral("--encoding is none of ") +
+                                   VelkRelease::SourceText::encodings().join(QStringLiteral(", ")),
+                               err);
+    options.form.separator = separatorNamed(line.value(QStringLiteral("separator")));
+    if (line.isSet(QStringLiteral("separator")) && !options.form.separator)
+        return line.wrongUsage(QStringLiteral("--separator is none of comma, semicolon, tab"), err);
     options.dateIsGiven = line.isSet(QStringLiteral("date"));
     options.date = options.dateIsGiven ? VelkRelease::dateInUtc(line.value(QStringLiteral("date")))
                                        : QDateTime::currentDateTimeUtc().toString(Qt::ISODate);

@@ -31,9 +31,9 @@ TableReadResult TableData::read(const TableDescriptor &descriptor, const QString
 }
 
 TableReadResult TableData::fromMemory(const TableDescriptor &descriptor, const QByteArray &csv,
-                                      const QString &name)
+                                      const QString &name, HeaderRule rule)
 {
-    return TableDataReader(descriptor, name).readBytes(csv);
+    return TableDataReader(descriptor, name, rule).readBytes(csv);
 }
 
 int TableData::columnOf(QStringView name) const

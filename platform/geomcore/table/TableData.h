@@ -56,7 +56,8 @@ public:
     /// The same on bytes in memory, which stay shared. \a name stands for the file in errors.
     [[nodiscard]] static TableReadResult fromMemory(const TableDescriptor &descriptor,
                                                     const QByteArray &csv,
-                                                    const QString &name = QStringLiteral("memory"));
+                                                    const QString &name = QStringLiteral("memory"),
+                                                    HeaderRule rule = HeaderRule::Exact);
 
     /// The descriptor with its fields in the order of the columns and with a plain text field for
     /// each column that it does not name.

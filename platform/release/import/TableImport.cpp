@@ -7,9 +7,13 @@
 #include <core/config/PIniFile.h>
 #include <geomcore/csv/CsvCells.h>
 #include <geomcore/csv/HeaderNames.h>
+#include <geomcore/value/CanonicalNumber.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -26,6 +30,33 @@ QByteArray contentOf(const QString &file)
 {
     QFile in(file);
     return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+/// Where a file really is or would be, with all links followed; empty if a link leads nowhere.
+QString realPath(const QString &file)
+{
+    const QFileInfo info(file);
+    if (info.exists())
+        return info.canonicalFilePath();
+    if (info.isSymLink())
+        return QString();
+    const QString folder = info.path();
+    return folder == file ? file : realPath(folder) + u'/' + info.fileName();
+}
+
+/// Without a root everything does.
+bool liesInside(const QString &file, const QString &root)
+{
+    const QString path = realPath(QDir::cleanPath(QFileInfo(file).absoluteFilePath()));
+    return root.isEmpty() ||
+           path.startsWith(realPath(QDir::cleanPath(QFileInfo(root).absoluteFilePath())) + u'/');
+}
+
+bool isUtf8(const QByteArray &bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(bytes);
+    return text.isEmpty() || !decoder.hasError();
 }
 
 QString quotedList(const QStringList &names)
@@ -58,28 +89,62 @@ bool TableImport::readSource()
 {
     TableDescriptor plain;
     plain.missingValues = QStringList{QString(), QStringLiteral("None")};
-    const TableReadResult read = TableData::read(plain, m_csvFile, HeaderRule::Repair);
-    m_errors += read.errors;
+    SourceText text(m_csvFile, m_options.form);
+    const bool readable = text.read();
+    TableReadResult read;
+    if (readable && text.isAsWritten())
+        read = TableData::read(plain, m_csvFile, HeaderRule::Repair);
+    if (readable && !read && (!text.isAsWritten() || text.acceptBareQuotes()))
+        read = TableData::fromMemory(plain, text.csv(), m_csvFile, HeaderRule::Repair);
+    m_errors += text.errors() + read.errors;
+    m_notes += text.notes();
     m_source = read.data;
-    if (m_source)
-        noteNames();
-    return m_source != nullptr;
+    if (!m_source) {
+        if (readable && !isUtf8(text.csv()))
+            error(m_csvFile, QStringLiteral("if it is written in another encoding, name that by "
+                                            "--encoding"));
+        return false;
+    }
+    noteNames();
+    noteHeader();
+    return true;
 }
 
 bool TableImport::readFormer()
 {
     const QString file = m_target + QStringLiteral(".json");
+    if (QFileInfo::exists(file)) {
+        TableErrorList faults; // reading the table tells them too
+        m_formerDescriptor = TableDescriptor::read(file, faults);
+    }
+    if (!staysInCatalog())
+        return false;
     if (!QFileInfo::exists(file))
         return true;
     const TableReadResult read = TableData::read(file);
-    m_formerDescriptor = TableDescriptor::read(file, m_errors);
-    m_errors = read.errors;
+    m_errors += read.errors;
     m_former = read.data;
     if (!m_former)
         error(file,
               QStringLiteral("the table as it was imported before cannot be read, so its line "
                              "ids cannot be kept; correct it, or remove it to start anew"));
     return m_former != nullptr;
+}
+
+bool TableImport::staysInCatalog()
+{
+    const TableDescriptor descriptor = m_formerDescriptor.value_or(TableDescriptor());
+    const QString json = m_target + QStringLiteral(".json");
+    for (const QString &file :
+         {descriptor.csvFile(json), json, m_target + QStringLiteral(".prj")}) {
+        if (liesInside(file, m_options.root))
+            continue;
+        error(json, QStringLiteral("%1 lies outside of the catalog and is not written; correct the "
+                                   "\"path\" of the descriptor or remove the link")
+                        .arg(QDir::toNativeSeparators(file)));
+        return false;
+    }
+    return true;
 }
 
 void TableImport::describe()
@@ -158,9 +223,8 @@ void TableImport::takeKey()
         return;
     if (const int repeated = recognition.repeatedCells(m_source->columnOf(key.first())))
         m_notes.append(QStringLiteral("the key \"%1\" is missing or repeated in %2 of %3 lines")
-                           .arg(key.first())
-                           .arg(repeated)
-                           .arg(m_source->rowCount()));
+                           .arg(key.first(), QString::number(repeated),
+                                QString::number(m_source->rowCount())));
 }
 
 QStringList TableImport::idKey() const
@@ -273,19 +337,32 @@ void TableImport::noteNames()
         byFoldedName[names.at(i).toCaseFolded()].append(names.at(i));
         if (header.at(i).isEmpty())
             m_notes.append(QStringLiteral("column %1 has no name and is called \"%2\"")
-                               .arg(i + 1)
-                               .arg(names.at(i)));
+                               .arg(QString::number(i + 1), names.at(i)));
         else if (header.at(i) != names.at(i))
             m_notes.append(
                 QStringLiteral("column %1 is named \"%2\" once more and is called \"%3\"")
-                    .arg(i + 1)
-                    .arg(header.at(i), names.at(i)));
+                    .arg(QString::number(i + 1), header.at(i), names.at(i)));
     }
     for (const QString &name : names) {
         const QStringList alike = byFoldedName.take(name.toCaseFolded());
         if (alike.size() > 1)
             m_notes.append(QStringLiteral("%1 differ in case alone").arg(quotedList(alike)));
     }
+}
+
+void TableImport::noteHeader()
+{
+    const QStringList &header = m_source->header();
+    const auto isNumber = [](const QString &name) {
+        return CanonicalNumber::parse(name.toStdString(), ',').has_value();
+    };
+    if (std::count_if(header.cbegin(), header.cend(), isNumber) * 2 >= header.size())
+        m_notes.append(QStringLiteral("the first row looks like data; it is taken as the columns' "
+                                      "names, so put a row with names before it"));
+    if (header.size() == 1 && header.first().contains(QRegularExpression(QStringLiteral("[;\t]"))))
+        m_notes.append(QStringLiteral("the only column is named \"%1\"; if its cells are several, "
+                                      "name what separates them by --separator")
+                           .arg(header.first()));
 }
 
 bool TableImport::checkResult()

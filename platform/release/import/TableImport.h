@@ -2,6 +2,8 @@
 
 #include <release/VelkReleaseGlobal.h>
 
+#include "SourceText.h"
+
 #include <geomcore/table/TableData.h>
 
 #include <QStringList>
@@ -16,6 +18,8 @@ struct VELKRELEASE_EXPORT ImportOptions
     QString date;             ///< ISO 8601 in UTC; what a changed table's date becomes.
     bool dateIsGiven = false; ///< Unchanged tables get the date too.
     QString keyColumn;        ///< Empty: recognised.
+    QString root;             ///< Directory of the catalog; nothing outside of it is touched.
+    SourceForm form;
 };
 
 /// Imports one CSV file: NAME.csv becomes NAME.prj, NAME.json (the descriptor) and NAME.csv (the
@@ -47,6 +51,7 @@ public:
 private:
     [[nodiscard]] bool readSource();
     [[nodiscard]] bool readFormer();
+    [[nodiscard]] bool staysInCatalog();
     void describe();
     void takeFields();
     void checkField(const VKTab::TableField &field, const VKTab::TableField &found);
@@ -55,6 +60,7 @@ private:
     void makeCsv();
     void makeProject();
     void noteNames();
+    void noteHeader();
     [[nodiscard]] bool checkResult();
     [[nodiscard]] QStringList idKey() const;
     void compareWithFormer();
