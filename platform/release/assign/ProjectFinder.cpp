@@ -81,7 +81,7 @@ private:
 
     void addNamed();
     void searchRest(bool named);
-    [[nodiscard]] Candidates related() const;
+    [[nodiscard]] Candidates related(bool named) const;
     void addSimilar(Candidates &candidates);
     void addParts(Candidates &candidates);
     void addOnlyHolders(Candidates &candidates);
@@ -116,7 +116,7 @@ void Search::addNamed()
 
 void Search::searchRest(bool named)
 {
-    Candidates candidates = related();
+    Candidates candidates = related(named);
     if (!named) {
         addSimilar(candidates);
         addParts(candidates);
@@ -124,11 +124,12 @@ void Search::searchRest(bool named)
     addOnlyHolders(candidates);
 }
 
-/// Tables that share enough variables. If none of them has all lines, near lines count too.
-Candidates Search::related() const
+/// Tables that share enough variables. If none of them has all lines, near lines count too, unless
+/// the project was found by its name: then others matter for equal lines alone.
+Candidates Search::related(bool named) const
 {
     Candidates candidates;
-    bool complete = false;
+    bool complete = named;
     for (const int table : m_index.holders(m_cells, m_rest, Compared)) {
         if (std::ranges::count(m_found, table))
             continue;

@@ -3,6 +3,7 @@
 #include "LineCells.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace VelkRelease {
 
@@ -21,26 +22,52 @@ int valuesIn(const LineCells &cells, int row, const std::vector<int> &columns)
     return int(std::ranges::count_if(columns, [&](int c) { return cells.cell(row, c) != 0; }));
 }
 
-/// The sums of all rows over these columns, sorted.
-std::vector<quint64> sortedSums(const LineCells &cells, const std::vector<int> &columns)
+/// Sums that are well mixed already, so that their lower bits choose the place.
+class SumSet
 {
-    std::vector<quint64> sums;
-    sums.reserve(size_t(cells.rowCount()));
-    for (int row = 0; row < cells.rowCount(); ++row)
-        sums.push_back(sumOver(cells, row, columns));
-    std::ranges::sort(sums);
-    return sums;
-}
+public:
+    explicit SumSet(size_t count)
+        : m_slots(std::bit_ceil(std::max<size_t>(2 * count, 2)), 0)
+    {
+    }
+
+    void insert(quint64 sum)
+    {
+        if (sum == 0)
+            m_hasZero = true;
+        else
+            m_slots[place(sum)] = sum;
+    }
+    [[nodiscard]] bool contains(quint64 sum) const
+    {
+        return sum == 0 ? m_hasZero : m_slots[place(sum)] == sum;
+    }
+
+private:
+    [[nodiscard]] size_t place(quint64 sum) const
+    {
+        const size_t mask = m_slots.size() - 1;
+        size_t slot = size_t(sum) & mask;
+        while (m_slots[slot] != 0 && m_slots[slot] != sum)
+            slot = (slot + 1) & mask;
+        return slot;
+    }
+
+    std::vector<quint64> m_slots; ///< A power of two, at most half of them taken.
+    bool m_hasZero = false;
+};
 
 /// For each row of the source whether the target has a row that is equal on these columns.
 std::vector<bool> equalRows(const LineCells &source, const std::vector<int> &sourceColumns,
                             const LineCells &target, const std::vector<int> &targetColumns)
 {
-    const std::vector<quint64> sums = sortedSums(target, targetColumns);
+    SumSet sums(size_t(target.rowCount()));
+    for (int row = 0; row < target.rowCount(); ++row)
+        sums.insert(sumOver(target, row, targetColumns));
     std::vector<bool> equal(size_t(source.rowCount()), false);
     for (int row = 0; row < source.rowCount(); ++row) {
         const quint64 sum = sumOver(source, row, sourceColumns);
-        equal[size_t(row)] = sum != 0 && std::ranges::binary_search(sums, sum);
+        equal[size_t(row)] = sum != 0 && sums.contains(sum);
     }
     return equal;
 }
@@ -104,14 +131,12 @@ void TableMatch::findNearLines()
     const size_t count = m_sourceColumns.size();
     if (count < 3)
         return;
-    std::vector<quint64> sums;
-    sums.reserve(size_t(m_target->rowCount()) * count);
+    SumSet sums(size_t(m_target->rowCount()) * count);
     for (int row = 0; row < m_target->rowCount(); ++row) {
         const quint64 sum = sumOver(*m_target, row, m_targetColumns);
         for (size_t i = 0; i < count; ++i)
-            sums.push_back(sumWithout(sum, m_target->valueHash(row, m_targetColumns[i]), i));
+            sums.insert(sumWithout(sum, m_target->valueHash(row, m_targetColumns[i]), i));
     }
-    std::ranges::sort(sums);
     for (int row = 0; row < m_source->rowCount(); ++row) {
         if (isEqual(row))
             continue;
@@ -120,7 +145,7 @@ void TableMatch::findNearLines()
         int &most = m_equalValues[size_t(row)];
         for (size_t i = 0; i < count && most < values; ++i) {
             const quint64 left = m_source->valueHash(row, m_sourceColumns[i]);
-            if (std::ranges::binary_search(sums, sumWithout(sum, left, i)))
+            if (sums.contains(sumWithout(sum, left, i)))
                 most = std::max(most, values - (left != 0));
         }
     }
