@@ -1,3 +1,5 @@
+#include "../ForeignLocale.h"
+
 #include <core/config/PConfigInst.h>
 #include <core/config/PConfigService.h>
 #include <core/message/PMessage.h>
@@ -70,6 +72,11 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QTEST(PConfigVal(text).GetInt(7), "expected");
     }
+    void foreignLocaleIsThere()
+    {
+        if (qEnvironmentVariableIsSet("LOCPATH"))
+            QVERIFY(ForeignLocale::isThere());
+    }
     void otherLocales_data()
     {
         QTest::addColumn<QString>("zone");
@@ -86,14 +93,11 @@ private Q_SLOTS:
     {
         QFETCH(QString, zone);
         QFETCH(QString, locale);
-        QProcess process;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert("TZ", zone);
-        env.insert("LC_ALL", locale);
-        process.setProcessEnvironment(env);
-        process.start(QCoreApplication::applicationFilePath(), {"intOf", "boolOf"});
-        QVERIFY(process.waitForFinished());
-        QVERIFY2(process.exitCode() == 0, process.readAllStandardOutput().constData());
+        QByteArray output;
+        const ForeignLocale foreign(zone, locale);
+        const int status = foreign.run(QCoreApplication::applicationFilePath(),
+                                       {"foreignLocaleIsThere", "intOf", "boolOf"}, &output);
+        QVERIFY2(status == 0, output.constData());
     }
     void setValueOfAValue()
     {

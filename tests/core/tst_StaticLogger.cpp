@@ -1,12 +1,30 @@
+#include "../ForeignLocale.h"
+
 #include <core/config/PConfigService.h>
 #include <core/logging/StaticLogger.h>
 
+#include <QLoggingCategory>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <atomic>
 #include <iostream>
 #include <thread>
+
+namespace {
+
+QStringList messages;
+
+void keep(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    messages.append(QStringLiteral("%1 %2 %3:%4 %5: %6")
+                        .arg(QLatin1String(context.category), QString::number(int(type)),
+                             QLatin1String(context.file), QString::number(context.line),
+                             QLatin1String(context.function), text));
+}
+
+} // namespace
 
 class tst_StaticLogger : public QObject
 {
@@ -16,7 +34,7 @@ private Q_SLOTS:
     void cleanup()
     {
         StaticLogger::setLevels("");
-        StaticLogger::setOutput({});
+        qInstallMessageHandler(nullptr);
     }
 
     void level_data()
@@ -59,17 +77,23 @@ private Q_SLOTS:
         StaticLogger::setLevels("a=8");
         QCOMPARE(known.level.load(), -2);
     }
-    void outputGetsAllParts()
+    void messageHasAllParts()
     {
-        QList<StaticLogger::Entry> entries;
-        StaticLogger::setOutput([&](const StaticLogger::Entry &entry) { entries.append(entry); });
+        messages.clear();
+        qInstallMessageHandler(keep);
         StaticLogger::log(5000, "linkdbgui\\DocumentListDialog", "void f()", 12, "Größe");
-        QCOMPARE(entries.size(), 1);
-        QCOMPARE(entries[0].level, 5000);
-        QCOMPARE(entries[0].file, QString("linkdbgui\\DocumentListDialog"));
-        QCOMPARE(entries[0].function, QString("void f()"));
-        QCOMPARE(entries[0].line, 12);
-        QCOMPARE(entries[0].message, QString("Größe"));
+        QCOMPARE(messages,
+                 QStringList{"velk 0 linkdbgui\\DocumentListDialog:12 void f(): 5000 Größe"});
+        // As every category of Qt it can be switched off.
+        QLoggingCategory::setFilterRules("velk.debug=false");
+        StaticLogger::log(5000, "f", "g", 1, "m");
+        QLoggingCategory::setFilterRules({});
+        QCOMPARE(messages.size(), 1);
+    }
+    void foreignLocaleIsThere()
+    {
+        if (qEnvironmentVariableIsSet("LOCPATH"))
+            QVERIFY(ForeignLocale::isThere());
     }
     void otherLocales_data()
     {
@@ -87,32 +111,31 @@ private Q_SLOTS:
     {
         QFETCH(QString, zone);
         QFETCH(QString, locale);
-        QProcess process;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert("TZ", zone);
-        env.insert("LC_ALL", locale);
-        process.setProcessEnvironment(env);
-        process.start(QCoreApplication::applicationFilePath(), {"configured"});
-        QVERIFY(process.waitForFinished());
-        QVERIFY2(process.exitCode() == 0, process.readAllStandardOutput().constData());
+        QByteArray output;
+        const ForeignLocale foreign(zone, locale);
+        const int status = foreign.run(QCoreApplication::applicationFilePath(),
+                                       {"foreignLocaleIsThere", "configured"}, &output);
+        QVERIFY2(status == 0, output.constData());
     }
-    void threadsLogOneAtATime()
+    // Records may come from several libraries that are loaded by several threads.
+    void threadsShareTheLevels()
     {
-        int lines = 0;
-        StaticLogger::setOutput([&](const StaticLogger::Entry &) { ++lines; });
+        StaticLogger::setLevels("t=3");
+        std::atomic<int> right = 0;
         std::vector<std::thread> threads;
         for (int t = 0; t < 4; ++t) {
-            threads.emplace_back([] {
-                StaticLoggerRecord record("t");
-                StaticLogger::init(record);
-                for (int i = 0; i < 1000; ++i)
-                    StaticLogger::log(1, "f", "g", i, "m");
-                StaticLogger::release(record);
+            threads.emplace_back([&right] {
+                for (int i = 0; i < 1000; ++i) {
+                    StaticLoggerRecord record("t");
+                    StaticLogger::init(record);
+                    right += record.level == 3 ? 1 : 0;
+                    StaticLogger::release(record);
+                }
             });
         }
         for (std::thread &thread : threads)
             thread.join();
-        QCOMPARE(lines, 4000);
+        QCOMPARE(right.load(), 4000);
     }
 
     void configured_data()
@@ -135,13 +158,12 @@ private Q_SLOTS:
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert("TORMEVA_SETUP", dir.path());
         env.insert("VELK_LOG_LEVELS", environment);
+        env.insert("QT_MESSAGE_PATTERN", "%{category} %{file}:%{line} %{function}: %{message}");
         process.setProcessEnvironment(env);
         process.start(QCoreApplication::applicationFilePath(), {"--levels"});
         QVERIFY(process.waitForFinished());
         QTEST(process.readAllStandardOutput().trimmed(), "expected");
-        const QByteArray line = process.readAllStandardError();
-        QVERIFY2(line.endsWith(" 5000 f.cpp:7 void g(): text\n"), line.constData());
-        QVERIFY2(line.startsWith("20") && line.contains("Z 5000"), "the time is told in UTC");
+        QCOMPARE(process.readAllStandardError(), QByteArray("velk f.cpp:7 g: 5000 text\n"));
     }
 };
 

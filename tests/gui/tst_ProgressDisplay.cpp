@@ -1,3 +1,5 @@
+#include "../ForeignLocale.h"
+
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <gui/progress/ProgressDisplay.h>
 #include <gui/progress/ProgressText.h>
@@ -104,6 +106,11 @@ private Q_SLOTS:
         QTEST(withPlainBlanks(progressDetails(info)), "expected");
     }
 
+    void foreignLocaleIsThere()
+    {
+        if (qEnvironmentVariableIsSet("LOCPATH"))
+            QVERIFY(ForeignLocale::isThere());
+    }
     void otherLocales_data()
     {
         QTest::addColumn<QString>("zone");
@@ -120,14 +127,11 @@ private Q_SLOTS:
     {
         QFETCH(QString, zone);
         QFETCH(QString, locale);
-        QProcess process;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert("TZ", zone);
-        env.insert("LC_ALL", locale);
-        process.setProcessEnvironment(env);
-        process.start(QCoreApplication::applicationFilePath(), {"time", "details"});
-        QVERIFY(process.waitForFinished());
-        QVERIFY2(process.exitCode() == 0, process.readAllStandardOutput().constData());
+        QByteArray output;
+        const ForeignLocale foreign(zone, locale);
+        const int status = foreign.run(QCoreApplication::applicationFilePath(),
+                                       {"foreignLocaleIsThere", "time", "details"}, &output);
+        QVERIFY2(status == 0, output.constData());
     }
     void showsARowForEachProgress()
     {

@@ -353,9 +353,12 @@ void tst_LinkDbGuiC::loggers()
 
 void tst_LinkDbGuiC::nothingIsLogged()
 {
-    int lines = 0;
+    static int lines = 0;
     StaticLogger::setLevels(QStringLiteral("*=0"));
-    StaticLogger::setOutput([&lines](const StaticLogger::Entry &) { ++lines; });
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &context, const QString &) {
+        lines += qstrcmp(context.category, "velk") == 0 ? 1 : 0;
+    });
+    StaticLogger::log(5000, "f", "g", 1, QStringLiteral("seen"));
     {
         PApplication host({});
         PApplicationPool pool;
@@ -364,9 +367,9 @@ void tst_LinkDbGuiC::nothingIsLogged()
         plugin.initLinkDb(PRefPtr<PLinkDbC>(new PLinkDbC));
         host.setInitialized();
     }
-    StaticLogger::setOutput({});
+    qInstallMessageHandler(nullptr);
     StaticLogger::setLevels({});
-    QCOMPARE(lines, 0);
+    QCOMPARE(lines, 1);
     // Whoever logs asks for the level first.
     QCOMPARE(linkDbGuiLogger().level.load(), -2);
 }

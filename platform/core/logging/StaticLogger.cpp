@@ -2,12 +2,12 @@
 
 #include <core/config/PConfigService.h>
 
-#include <QDateTime>
+#include <QDebug>
 #include <QHash>
 #include <QList>
+#include <QLoggingCategory>
 #include <QMutex>
 
-#include <cstdio>
 #include <limits>
 
 namespace {
@@ -21,8 +21,6 @@ struct Logger
     QList<StaticLoggerRecord *> records;
     bool levelsKnown = false;
     Levels levels;
-    QMutex outputMutex;
-    StaticLogger::Output output;
 };
 
 /// Never destroyed: libraries release their records at the very end of the process.
@@ -81,31 +79,36 @@ int levelOf(const QString &category, const Levels &levels)
     return levels.value(QStringLiteral("*"), StaticLogger::Silent);
 }
 
-void writeToStandardError(const StaticLogger::Entry &entry)
+bool levelsAreKnown()
 {
-    const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
-    const QString text = QStringLiteral("%1 %2 %3:%4 %5: %6\n")
-                             .arg(now, QString::number(entry.level), entry.file,
-                                  QString::number(entry.line), entry.function, entry.message);
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
-    std::fflush(stderr);
+    const QMutexLocker lock(&logger().mutex);
+    return logger().levelsKnown;
+}
+
+void takeFirstLevels(const Levels &levels)
+{
+    Logger &all = logger();
+    const QMutexLocker lock(&all.mutex);
+    if (!all.levelsKnown)
+        all.levels = levels;
+    all.levelsKnown = true;
+}
+
+/// Never destroyed, as the logger.
+const QLoggingCategory &category()
+{
+    static auto *const instance = new QLoggingCategory("velk", QtDebugMsg);
+    return *instance;
 }
 
 } // namespace
 
 void StaticLogger::init(StaticLoggerRecord &record)
 {
+    if (!levelsAreKnown())
+        takeFirstLevels(configuredLevels()); // may issue messages, so without the lock
     Logger &all = logger();
-    QMutexLocker lock(&all.mutex);
-    if (!all.levelsKnown) {
-        lock.unlock();
-        const Levels levels = configuredLevels(); // may issue messages, so without the lock
-        lock.relock();
-        if (!all.levelsKnown)
-            all.levels = levels;
-        all.levelsKnown = true;
-    }
+    const QMutexLocker lock(&all.mutex);
     record.level = levelOf(QString::fromUtf8(record.category), all.levels);
     if (!all.records.contains(&record))
         all.records.append(&record);
@@ -114,12 +117,9 @@ void StaticLogger::init(StaticLoggerRecord &record)
 void StaticLogger::log(int level, const char *file, const char *function, int line,
                        const QString &message)
 {
-    const Entry entry{level, QString::fromUtf8(file), QString::fromUtf8(function), line, message};
-    const QMutexLocker lock(&logger().outputMutex);
-    if (logger().output)
-        logger().output(entry);
-    else
-        writeToStandardError(entry);
+    if (category().isDebugEnabled())
+        QMessageLogger(file, line, function, category().categoryName()).debug().noquote().nospace()
+            << level << ' ' << message;
 }
 
 void StaticLogger::release(StaticLoggerRecord &record)
@@ -137,10 +137,4 @@ void StaticLogger::setLevels(const QString &levels)
     all.levelsKnown = true;
     for (StaticLoggerRecord *record : std::as_const(all.records))
         record->level = levelOf(QString::fromUtf8(record->category), all.levels);
-}
-
-void StaticLogger::setOutput(Output output)
-{
-    const QMutexLocker lock(&logger().outputMutex);
-    logger().output = std::move(output);
 }

@@ -5,7 +5,6 @@
 #include <QString>
 
 #include <atomic>
-#include <functional>
 
 /// Logger of one category, a static object of its user. Lines of a level below its own are not
 /// wanted; the user compares before it builds the text.
@@ -25,20 +24,12 @@ struct StaticLoggerRecord
 /// configuration "logging", with categories as keys. A name stands for itself and all below it
 /// ("a" for "a.b"), the longest that fits wins, "*" fits all. Without any entry the level is 10000.
 /// Any thread.
+///
+/// What passes is a debug message of Qt's category "velk" that begins with its level:
+/// QT_MESSAGE_PATTERN gives it time and place, qInstallMessageHandler another destination.
 class VELKCORE_EXPORT StaticLogger
 {
 public:
-    /// One line as the output function gets it.
-    struct Entry
-    {
-        int level = 0;
-        QString file;
-        QString function;
-        int line = 0;
-        QString message;
-    };
-    using Output = std::function<void(const Entry &)>;
-
     static constexpr int Silent = 10000;
 
     /// Reads the configured level into the record and remembers it until release().
@@ -50,7 +41,4 @@ public:
 
     /// Levels as in VELK_LOG_LEVELS, which they replace; known records change at once.
     static void setLevels(const QString &levels);
-    /// Another destination than the standard error stream; an empty function brings that back. It
-    /// is called by one thread at a time and must not log.
-    static void setOutput(Output output);
 };
