@@ -1,3 +1,4 @@
+#include "../geomcore/SlotOrder.h"
 #include "ViewTables.h"
 
 #include <core/config/PConfigInst.h>
@@ -38,6 +39,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void slotOrder();
     void emptyAndFilled();
     void titleShowsTheTable();
     void clickSelectsTheTablesLine();
@@ -147,6 +149,18 @@ void tst_VkTableView::cleanup()
 {
     m_view.reset();
     m_table = ContentRef();
+}
+
+void tst_VkTableView::slotOrder()
+{
+    QCOMPARE(slotOf(&VkTableViewBase::setActive), 2);
+    QCOMPARE(slotOf(&VkTableViewBase::isViewOnlyMode), 3);
+    QCOMPARE(slotOf(&VkTableViewBase::getTable), 4);
+    QCOMPARE(slotOf(&VkTableViewBase::setTable), 5);
+    QCOMPARE(slotOf(&VkTableViewBase::setHorizontalScrollPos), 6);
+    QCOMPARE(slotOf(&VkTableViewBase::getHorizontalScrollPos), 7);
+    QCOMPARE(slotOf(&VkTableViewBase::setVerticalScrollPos), 8);
+    QCOMPARE(slotOf(&VkTableViewBase::getVerticalScrollPos), 9);
 }
 
 void tst_VkTableView::emptyAndFilled()
