@@ -108,16 +108,17 @@ PJsonValue PJsonValue::fromWriter(Type type, const std::function<void(JsonWriter
 bool PJsonValue::parseFile(const QString &nativePath, QString *error)
 {
     d.reset();
+    // A device could be read for ever, and a pipe would wait for its other end.
+    const QFileInfo info(nativePath);
+    if (info.exists() && !info.isFile()) {
+        if (error)
+            *error = QStringLiteral("%1: It is no regular file.").arg(nativePath);
+        return false;
+    }
     QFile file(nativePath);
     if (!file.open(QIODevice::ReadOnly)) {
         if (error)
             *error = QStringLiteral("%1: %2").arg(nativePath, file.errorString());
-        return false;
-    }
-    // A device could be read for ever.
-    if (!QFileInfo(nativePath).isFile()) {
-        if (error)
-            *error = QStringLiteral("%1: It is no regular file.").arg(nativePath);
         return false;
     }
     const QByteArray json = file.readAll();

@@ -54,7 +54,6 @@ public:
     [[nodiscard]] qint64 total() const { return m_total; }
     /// from() and the steps done since.
     [[nodiscard]] double position() const { return m_from + double(m_count) * m_step; }
-    [[nodiscard]] bool isCancellable() const { return m_cancellable; }
     [[nodiscard]] bool isIndeterminate() const { return m_total < 0; }
     [[nodiscard]] bool isDone() const { return m_done; }
 

@@ -72,13 +72,6 @@ public:
     explicit operator bool() const { return m_object != nullptr; }
     [[nodiscard]] bool isNull() const { return m_object == nullptr; }
 
-    /// The same object as another type, or null if it is none.
-    template<class U>
-    [[nodiscard]] PRefPtr<U> dynamicCast() const
-    {
-        return PRefPtr<U>(dynamic_cast<U *>(m_object));
-    }
-
     friend bool operator==(const PRefPtr &a, const PRefPtr &b) { return a.m_object == b.m_object; }
 
 private:

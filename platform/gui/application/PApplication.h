@@ -43,7 +43,6 @@ public:
     /// The host's call once its main window is there: emits applicationInitialized(), the first
     /// time only.
     void setInitialized();
-    [[nodiscard]] bool isInitialized() const { return m_initialized; }
 
 Q_SIGNALS:
     /// The GUI is up.
