@@ -1,4 +1,4 @@
-#include "TestCatalog.h"
+#include "../release/TestCatalog.h"
 
 #include <core/files/EditLock.h>
 #include <geomcore/index/IndexTreeC.h>

@@ -1,4 +1,4 @@
-#include "TestCatalog.h"
+#include "../release/TestCatalog.h"
 
 #include <geomcore/records/MappingFile.h>
 #include <tools/velkmap/CreateCommand.h>

@@ -2,7 +2,7 @@
 #include "WindowFixture.h"
 
 #include <geomcore/records/MappingFile.h>
-#include <tools/velkmap/Commands.h>
+#include <TestPaths.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
@@ -13,7 +13,6 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QProcess>
-#include <QTextStream>
 
 #include <csignal>
 
@@ -22,12 +21,11 @@ namespace {
 /// What a command of the batch program prints.
 QString commandOutput(const QStringList &arguments)
 {
-    QString out;
-    QString err;
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    velkmap::run(arguments, outStream, errStream);
-    return out + err;
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QStringLiteral(VELK_BINARY_DIR "/bin/velkmap"), arguments);
+    process.waitForFinished(60000);
+    return QString::fromUtf8(process.readAll());
 }
 
 QByteArray bytesOf(const QString &file)
