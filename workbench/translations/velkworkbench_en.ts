@@ -207,13 +207,6 @@
     </message>
 </context>
 <context>
-    <name>EditorArea</name>
-    <message>
-        <source>Katalog</source>
-        <translation>Catalog</translation>
-    </message>
-</context>
-<context>
     <name>FileNames</name>
     <message>
         <source>Mapping-Datei speichern</source>
