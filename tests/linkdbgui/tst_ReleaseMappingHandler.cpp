@@ -1,3 +1,5 @@
+#include "../workbench/SizeLimit.h"
+
 #include <geomcore/records/MappingFile.h>
 #include <mapping/data/ApplicationHandlerI.h>
 #include <mapping/data/ReleaseMappingHandler.h>
@@ -576,12 +578,17 @@ private Q_SLOTS:
 
     void commitOnAFullDisk()
     {
-        // Small enough to be taken by the buffer as a whole.
-        ReleaseMappingHandler small(release({mapping("a.prj", {{1, 0}})}), "", "/dev/full");
-        QVERIFY(!small.commitModifications());
+        QTemporaryDir dir;
+        const QString path = dir.filePath("m.json");
+        ReleaseMappingHandler small(release({mapping("a.prj", {{1, 0}})}), "", path);
         QList<Entry> entries(20000, Entry{1, 0});
-        ReleaseMappingHandler large(release({mapping("a.prj", entries)}), "", "/dev/full");
-        QVERIFY(!large.commitModifications());
+        ReleaseMappingHandler large(release({mapping("a.prj", entries)}), "", path);
+        {
+            const SizeLimit full(10);
+            // Small enough to be taken by the buffer as a whole.
+            QVERIFY(!small.commitModifications());
+            QVERIFY(!large.commitModifications());
+        }
         QCOMPARE(large.countLines(), 20000);
     }
 };
