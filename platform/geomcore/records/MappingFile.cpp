@@ -65,11 +65,12 @@ MappingFile::~MappingFile() = default;
 
 bool MappingFile::read(const QString &nativePath, const QString &sourceDate, QString *error)
 {
+    const QFileInfo info(nativePath);
+    if (info.exists() && !info.isFile()) // asked first: opening a pipe waits for its other end
+        return report(error, nativePath, QStringLiteral("It is no regular file."));
     QFile file(nativePath);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return report(error, nativePath, file.errorString());
-    if (!QFileInfo(nativePath).isFile())
-        return report(error, nativePath, QStringLiteral("It is no regular file."));
     QString what;
     if (readMappingFile(file, sourceDate, d->members, &what))
         return true;
