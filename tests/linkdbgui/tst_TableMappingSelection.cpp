@@ -331,7 +331,9 @@ void tst_TableMappingSelection::deselectionForgetsTheLine()
 {
     f->load();
     f->select(1);
+    f->click(f->target, 2);
     const QString toolTip = f->button("btnMapLine")->toolTip();
+    QVERIFY(toolTip.startsWith("Aktuell markierte"));
     f->sourceTable().setSelection(LineId(), true);
     QVERIFY(f->targetTable().isValid());
     f->click(f->target, 1); // belongs to no source line now
