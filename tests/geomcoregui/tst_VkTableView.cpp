@@ -51,6 +51,7 @@ private Q_SLOTS:
     void listenersSeeTheViewsSelection();
     void extendedSelection();
     void backToOneLineIsAnnounced();
+    void selectedLinesAreCounted();
     void selectedLinesAreInDisplayOrder();
     void hiddenLineStaysSelectedInItsTable();
     void filterKeepsSelectedLines();
@@ -305,6 +306,27 @@ void tst_VkTableView::backToOneLineIsAnnounced()
     QCOMPARE(m_table.getSelection(), LineId(1));
     click(0, 3);
     QCOMPARE(counts.last(), 1);
+}
+
+void tst_VkTableView::selectedLinesAreCounted()
+{
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    QCOMPARE(m_view->getSelectedLineCount(), 0);
+    key(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(m_view->getSelectedLineCount(), 4);
+    m_table.setFilter(FilterByLineId({{1, TabFilterData()}, {2, TabFilterData()}}, true));
+    m_table.invalidate(Content::InvalidateFilter, true);
+    QCOMPARE(m_view->getSelectedLineCount(), int(selected().size()));
+    m_table.setFilter(FilterByLineId(QHash<int, TabFilterData>(), true));
+    m_table.invalidate(Content::InvalidateFilter, true);
+    QCOMPARE(m_view->getSelectedLineCount(), int(selected().size()));
+    key(Qt::Key_A, Qt::ControlModifier);
+    click(0, 3, Qt::ControlModifier);
+    QCOMPARE(m_view->getSelectedLineCount(), 3);
+    m_view->setTable(ContentRef());
+    QCOMPARE(m_view->getSelectedLineCount(), 0);
+    m_view->setTable(m_table);
+    QCOMPARE(m_view->getSelectedLineCount(), int(selected().size()));
 }
 
 void tst_VkTableView::selectedLinesAreInDisplayOrder()

@@ -53,6 +53,8 @@ void tst_DesignationLabels::texts_data()
         << "M8 <rechts> & \"x\""
         << "M8 <links>" << red.arg("M8 &lt;rechts&gt; &amp; &quot;x&quot;")
         << red.arg("M8 &lt;links&gt;");
+    QTest::newRow("a tag") << "<b>M8</b>"
+                           << "" << red.arg("&lt;b&gt;M8&lt;/b&gt;") << red.arg("");
     QTest::newRow("place holders stay") << "%1"
                                         << "%1" << green.arg("%1") << green.arg("%1");
 }

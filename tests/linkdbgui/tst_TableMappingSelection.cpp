@@ -75,6 +75,7 @@ private Q_SLOTS:
     void filterNotMappedLinesWithoutAny();
     void filterTargetLines();
     void filterTargetLinesFollowsTheMapping();
+    void filterTargetLinesOfAChangedFile();
     void filterTargetLinesWithoutAny();
     void filterTargetLinesOfAllItsTargets();
     void filterGivesWay();
@@ -652,6 +653,18 @@ void tst_TableMappingSelection::filterTargetLinesFollowsTheMapping()
     f->press(Qt::Key_X);
     f->select(3);
     QCOMPARE(visible(f->target), QString("2 3"));
+}
+
+void tst_TableMappingSelection::filterTargetLinesOfAChangedFile()
+{
+    f->load();
+    f->select(1);
+    tick("chkFilterTarget");
+    QCOMPARE(visible(f->target), QString("4"));
+    f->select(5); // no target
+    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\nM20,1\nM30,2\n");
+    f->select(1);
+    QCOMPARE(visible(f->target), QString("4 5"));
 }
 
 void tst_TableMappingSelection::filterTargetLinesWithoutAny()

@@ -20,6 +20,7 @@
 #include <QLayout>
 #include <QMenu>
 #include <QMetaMethod>
+#include <QPaintEvent>
 #include <QRandomGenerator>
 #include <QSplitter>
 #include <QTest>
@@ -697,21 +698,24 @@ void tst_TableMappingWidget::manyChangedLinesAtOnce()
 
 void tst_TableMappingWidget::updateRepaints()
 {
+    /// Counts the times that a widget is painted from corner to corner.
     class PaintCount : public QObject
     {
     public:
-        bool eventFilter(QObject *, QEvent *event) override
+        bool eventFilter(QObject *object, QEvent *event) override
         {
-            count += event->type() == QEvent::Paint ? 1 : 0;
+            if (event->type() == QEvent::Paint &&
+                static_cast<QPaintEvent *>(event)->region().boundingRect() ==
+                    static_cast<QWidget *>(object)->rect())
+                ++count;
             return false;
         }
         int count = 0;
     } paints;
     f->load();
-    QTest::qWait(1);
+    f->widget->onProjectMappingUpdated(f->mapping); // buttons find their states
+    QTest::qWait(20);
     f->widget->installEventFilter(&paints);
-    QCoreApplication::processEvents();
-    paints.count = 0;
     f->widget->onProjectMappingUpdated(f->mapping); // nothing changed
     QTRY_VERIFY(paints.count > 0);
 }
