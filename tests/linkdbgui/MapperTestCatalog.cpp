@@ -1,2 +1,0 @@
-// The catalogs of the mapper's tests serve here as well.
-#include "../geomcore/TestCatalog.cpp"
