@@ -166,6 +166,10 @@ Opravdu pokračovat?</translation>
         <translation>Řádek %1 byl změněn.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Řádky nebyly znovu přiřazeny a zůstávají beze změny. Tyto cílové projekty nelze přečíst: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Tento řádek již není platný. Modelář to potvrdil</translation>
     </message>

@@ -166,6 +166,10 @@ Vil du virkelig fortsætte?</translation>
         <translation>Linjen %1 blev ændret.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Linjerne blev ikke tildelt igen og forbliver, som de er. Disse målprojekter kan ikke læses: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Denne linje er udgået. Modelløren har bekræftet det</translation>
     </message>

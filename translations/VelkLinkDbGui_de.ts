@@ -166,6 +166,10 @@ Wirklich fortfahren?</translation>
         <translation>Die Zeile %1 wurde geändert.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</translation>
     </message>

@@ -166,6 +166,10 @@ Really go on?</translation>
         <translation>The line %1 was changed.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>The lines were not assigned anew and stay as they are. These target projects cannot be read: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>This line has expired. The modeller has confirmed this</translation>
     </message>

@@ -166,6 +166,10 @@ Wirklich fortfahren?</source>
         <translation>Se cambió la línea %1.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Las líneas no se han vuelto a asignar y quedan como están. No se pueden leer estos proyectos de destino: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Esta línea ha caducado. El modelador lo ha confirmado</translation>
     </message>

@@ -166,6 +166,10 @@ Jatketaanko varmasti?</translation>
         <translation>Riviä %1 muutettiin.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Rivejä ei kohdistettu uudelleen, ja ne pysyvät ennallaan. Näitä kohdeprojekteja ei voi lukea: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Tämä rivi on poistunut. Mallintaja on vahvistanut sen</translation>
     </message>

@@ -166,6 +166,10 @@ Vraiment continuer ?</translation>
         <translation>La ligne %1 a été modifiée.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Les lignes n'ont pas été réaffectées et restent telles quelles. Ces projets cibles ne peuvent pas être lus : %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Cette ligne est supprimée du programme. Le modeleur l'a confirmé</translation>
     </message>

@@ -166,6 +166,10 @@ Valóban folytatja?</translation>
         <translation>A(z) %1 sor megváltozott.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>A sorok nem lettek újra hozzárendelve, és változatlanok maradnak. Ezek a célprojektek nem olvashatók: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Ez a sor megszűnt. A modellező megerősítette</translation>
     </message>

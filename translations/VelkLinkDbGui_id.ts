@@ -166,6 +166,10 @@ Sungguh lanjutkan?</translation>
         <translation>Baris %1 telah diubah.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Baris tidak ditetapkan ulang dan tetap seperti semula. Proyek target ini tidak dapat dibaca: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Baris ini sudah tidak berlaku. Pemodel telah mengonfirmasinya</translation>
     </message>

@@ -166,6 +166,10 @@ Continuare davvero?</translation>
         <translation>La riga %1 è stata modificata.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Le righe non sono state riassegnate e restano come sono. Questi progetti di destinazione non possono essere letti: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Questa riga è fuori produzione. Il modellatore lo ha confermato</translation>
     </message>

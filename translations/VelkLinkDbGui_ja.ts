@@ -166,6 +166,10 @@ Wirklich fortfahren?</source>
         <translation>行 %1 が変更されました。</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>行は再割り当てされず、そのまま残ります。次のターゲットプロジェクトを読み込めません: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>この行は廃止されました。モデラーが確認済みです</translation>
     </message>

@@ -166,6 +166,10 @@ Wirklich fortfahren?</source>
         <translation>행 %1이(가) 변경되었습니다.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>행이 다시 할당되지 않았으며 그대로 유지됩니다. 다음 대상 프로젝트를 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>이 행은 단종되었습니다. 모델러가 확인했습니다</translation>
     </message>

@@ -166,6 +166,10 @@ Vil du virkelig fortsette?</translation>
         <translation>Linjen %1 ble endret.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Linjene ble ikke tilordnet på nytt og forblir som de er. Disse målprosjektene kan ikke leses: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Denne linjen er utgått. Modelløren har bekreftet det</translation>
     </message>

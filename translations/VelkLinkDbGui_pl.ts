@@ -166,6 +166,10 @@ Naprawdę kontynuować?</translation>
         <translation>Zmieniono wiersz %1.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Wiersze nie zostały ponownie przypisane i pozostają bez zmian. Nie można odczytać tych projektów docelowych: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Ten wiersz został wycofany. Potwierdził to modelarz</translation>
     </message>

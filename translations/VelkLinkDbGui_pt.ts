@@ -166,6 +166,10 @@ Continuar mesmo?</translation>
         <translation>A linha %1 foi alterada.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>As linhas não foram atribuídas novamente e permanecem como estão. Não é possível ler estes projetos de destino: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Esta linha foi descontinuada. O modelador confirmou-o</translation>
     </message>

@@ -166,6 +166,10 @@ Wirklich fortfahren?</source>
         <translation>Строка %1 изменена.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Строки не были назначены заново и остаются без изменений. Не удаётся прочитать эти целевые проекты: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Эта строка снята с производства. Моделировщик это подтвердил</translation>
     </message>

@@ -166,6 +166,10 @@ Res nadaljujem?</translation>
         <translation>Vrstica %1 je bila spremenjena.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Vrstice niso bile znova dodeljene in ostanejo, kot so. Teh ciljnih projektov ni mogoče prebrati: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Ta vrstica je opuščena. Modelar je to potrdil</translation>
     </message>

@@ -166,6 +166,10 @@ Vill du verkligen fortsätta?</translation>
         <translation>Raden %1 ändrades.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Raderna tilldelades inte på nytt och förblir som de är. Dessa målprojekt kan inte läsas: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Den här raden har utgått. Modelleraren har bekräftat det</translation>
     </message>

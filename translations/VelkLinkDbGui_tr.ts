@@ -166,6 +166,10 @@ Gerçekten devam edilsin mi?</translation>
         <translation>%1 satırı değiştirildi.</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>Satırlar yeniden atanmadı ve olduğu gibi kaldı. Bu hedef projeler okunamıyor: %1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>Bu satır kaldırılmış. Modelci bunu onayladı</translation>
     </message>

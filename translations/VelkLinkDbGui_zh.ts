@@ -166,6 +166,10 @@ Wirklich fortfahren?</source>
         <translation>行 %1 已更改。</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>这些行未重新分配，保持原样。无法读取以下目标项目：%1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>此行已停用。建模人员已确认</translation>
     </message>

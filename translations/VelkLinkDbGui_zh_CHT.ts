@@ -166,6 +166,10 @@ Wirklich fortfahren?</source>
         <translation>列 %1 已變更。</translation>
     </message>
     <message>
+        <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
+        <translation>這些行未重新指派，保持原樣。無法讀取以下目標專案：%1</translation>
+    </message>
+    <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
         <translation>此列已停用。建模人員已確認</translation>
     </message>

@@ -1,5 +1,7 @@
 #include "remapProjectLines.h"
 
+#include "tellUnreadableTargets.h"
+
 #include <core/progress/PProgress.h>
 #include <core/text/PString.h>
 #include <gui/progress/DefaultObserverDelegate.h>
@@ -22,8 +24,10 @@ void remapProjectLines(const QString &sourcePath, PrjMappingC &mapping, VKTab::C
     steps.beforeLine = [&] {
         progress->nextStep();
     };
-    VelkRelease::assignProjectLines(sourcePath, mapping, table, release, conditionVariables, force,
-                                    nullptr, &steps);
+    const VelkRelease::AssignmentOutcome outcome = VelkRelease::assignProjectLines(
+        sourcePath, mapping, table, release, conditionVariables, force, nullptr, &steps);
     if (progress)
         progress->done();
+    if (outcome.isLeft)
+        tellUnreadableTargets(outcome.unreadableTargets);
 }

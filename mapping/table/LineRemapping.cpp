@@ -1,6 +1,8 @@
 #include "LineLookUp.h"
 #include "TableMappingWidgetPrivate.h"
 
+#include <mapping/project/tellUnreadableTargets.h>
+
 #include <core/progress/PProgress.h>
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
@@ -11,6 +13,7 @@
 #include <geomcore/table/ValueRangeIterator.h>
 #include <geomcore/value/ResolveRangeOptionsC.h>
 #include <gui/progress/DefaultObserverDelegate.h>
+#include <release/assign/TargetGuard.h>
 
 #include <QPointer>
 
@@ -81,6 +84,12 @@ void TableMappingWidgetPrivate::remapLines()
     mapper.setSourceProject(PPathName(mapping.getSourcePath()));
     if (!lookUp().start(mapper))
         return;
+    if (const VelkRelease::TargetGuard targets(mapping); !targets.unreadable().isEmpty()) {
+        mapping.setMappingState(mapping.getMappingState() | PRJMAPPING::StateTableError);
+        tellUnreadableTargets(targets.unreadable());
+        publish(PrjMappingC(mapping));
+        return;
+    }
     const VKTab::ContentRef table = sourceTable;
     const QVector<VKTab::LineId> lines = table.getLineIdList();
     DefaultObserverDelegate observer;

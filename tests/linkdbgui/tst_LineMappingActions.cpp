@@ -34,12 +34,18 @@ public:
         activate(Thread);
     }
     ~CancelAfter() override { deactivate(); }
-    void progressStarted(const PProgressInfo &info) override { note(info); }
+    void progressStarted(const PProgressInfo &info) override
+    {
+        if (atStart)
+            atStart();
+        note(info);
+    }
     void progressChanged(const PProgressInfo &info) override { note(info); }
     void progressText(const PProgressInfo &info) override { note(info); }
     void progressDone(const PProgressInfo &info) override { note(info); }
 
     PProgressInfo last;
+    std::function<void()> atStart;
 
 private:
     void note(const PProgressInfo &info)
@@ -168,6 +174,7 @@ private Q_SLOTS:
     void remap();
     void remapTakesChangedTables();
     void remapWithoutRelease();
+    void remapWithUnreadableTarget();
     void remapCancelled();
     void remapWalksCombinations();
     void remapShowsItsProgress();
@@ -706,6 +713,20 @@ void tst_LineMappingActions::remapWithoutRelease()
     QCOMPARE(f->published.size(), 0);
 }
 
+void tst_LineMappingActions::remapWithUnreadableTarget()
+{
+    f->mapping = mappingOf("old/a.prj", {"new/a.prj", "new/gone.prj"});
+    enter(f->mapping, 0, 1, 2, ToCheck);
+    enter(f->mapping, 1, 2, 7, Mapped);
+    enter(f->mapping, 1, 3, 8, Verified);
+    f->load();
+    const QString before = entries();
+    f->widget->onRemapLinesClicked();
+    QCOMPARE(entries(), before);
+    QVERIFY(f->current().getMappingState().testFlag(PRJMAPPING::StateTableError));
+    QVERIFY2(m_messages->logged().join('\n').contains("new/gone.prj"), "not told");
+}
+
 void tst_LineMappingActions::remapCancelled()
 {
     f->mapping = mappingOf("old/a.prj", {"new/a.prj"});
@@ -760,12 +781,14 @@ void tst_LineMappingActions::remapShowsItsProgress()
 
 void tst_LineMappingActions::remapStepsAfterTheWork()
 {
-    // The first line's work comes to a table that cannot be read, and says so.
+    // The first line's work comes to a table that cannot be read any more, and says so.
     f->catalog.write("new/torn.prj", "k:n\n5\n");
-    QVERIFY(QFile::remove(f->catalog.file("new/torn.csv")));
     f->mapping = mappingOf("old/a.prj", {"new/torn.prj"});
     f->load();
-    const CancelAfter observer(1000);
+    CancelAfter observer(1000);
+    observer.atStart = [this] {
+        QFile::remove(f->catalog.file("new/torn.csv"));
+    };
     const auto sink = std::make_shared<LoggedAt>(&observer);
     {
         const PMessageSinkScope scope(sink);

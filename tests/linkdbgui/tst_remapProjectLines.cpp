@@ -82,6 +82,7 @@ private Q_SLOTS:
     void lineWithoutCombination();
     void addedLayerTakesPartInCombinations();
     void changedCell();
+    void unreadableTarget();
     void stateIsRefreshed();
     void progress();
     void severalThreads();
@@ -365,6 +366,20 @@ void tst_remapProjectLines::changedCell()
                                              VKTab::Value("M10")));
     remapProjectLines("cat/a.prj", m_mapping, table, ReleaseMappingC(), {}, false);
     QCOMPARE(entriesOf(m_mapping), "0:1>3/0 0:2>2/1 0:3>3/0");
+}
+
+void tst_remapProjectLines::unreadableTarget()
+{
+    m_mapping = mappingOf("cat/a.prj", {"new/a.prj", "new/gone.prj"});
+    enter(m_mapping, 0, 1, 2, ToCheck);
+    enter(m_mapping, 1, 2, 7, Mapped);
+    enter(m_mapping, 1, 3, 8, Verified);
+    const QString before = entriesOf(m_mapping);
+    QCOMPARE(remap({}, true), before);
+    QVERIFY(m_mapping.getMappingState().testFlag(PRJMAPPING::StateTableError));
+    write("new/gone.prj", lines);
+    QVERIFY(remap({}, true) != before);
+    QVERIFY(!m_mapping.getMappingState().testFlag(PRJMAPPING::StateTableError));
 }
 
 void tst_remapProjectLines::stateIsRefreshed()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <release/VelkReleaseGlobal.h>
+
 #include <QStringList>
 
 #include <memory>
@@ -14,7 +16,7 @@ namespace VelkRelease {
 
 /// Looks whether the tables of all targets of a mapping can be read, below the catalog root of the
 /// index tree, and keeps them open, so that an assignment does not read them again.
-class TargetGuard
+class VELKRELEASE_EXPORT TargetGuard
 {
 public:
     explicit TargetGuard(const PrjMappingC &mapping);
