@@ -57,7 +57,8 @@ public:
 
     CatalogMappingHandlerI *handler;
     PPathName basePath;
-    CatalogStructureModel *model = nullptr; ///< never deleted
+    /// Never deleted: what was shown of the tree stays in memory until the process ends.
+    CatalogStructureModel *model = nullptr;
     QTreeView *treeView = nullptr;
     QLabel *statisticsLabel = nullptr;
     TableMappingWidget *tableWidget = nullptr;
