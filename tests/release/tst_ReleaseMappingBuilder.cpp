@@ -61,6 +61,9 @@ private Q_SLOTS:
     void targetsAreValidAndWithoutLines();
     void brokenSourceTable();
     void brokenTargetTable();
+    void wrongCells();
+    void tableReferences_data();
+    void tableReferences();
     void missingTableFile();
     void projectWithoutTable();
     void missingCatalog_data();
@@ -192,6 +195,42 @@ void tst_ReleaseMappingBuilder::brokenTargetTable()
     QCOMPARE(builder.messages().size(), 1);
     QCOMPARE(told(builder.release()), QStringList("old/a/bolt.prj: new/a/bolt.prj new/b/copy.prj"));
     QVERIFY(!builder.release().getMappingState().testFlag(PRJMAPPING::StateTableError));
+}
+
+void tst_ReleaseMappingBuilder::wrongCells()
+{
+    Releases releases;
+    releases.source.add("a/bolt", "size,L;M3,10..");
+    releases.source.writeFile("a/bolt.json", R"({"fields":[{"name":"L","kind":"range"}]})");
+    releases.target.add("a/bolt", "size,L;M3,10");
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), ReleaseMappingBuilder::Outcome::Complete);
+    QCOMPARE(builder.messages().size(), 1);
+    QVERIFY2(builder.messages().first().contains("bolt.csv: row 2"),
+             qPrintable(builder.messages().first()));
+    QCOMPARE(builder.counts().unreadable, 0);
+}
+
+void tst_ReleaseMappingBuilder::tableReferences_data()
+{
+    QTest::addColumn<QByteArray>("reference");
+    QTest::newRow("beside the project") << QByteArray("bolt.json");
+    QTest::newRow("backslashes") << QByteArray(R"(..\a\bolt.json)");
+    QTest::newRow("from the catalog root") << QByteArray("old/a/bolt.json");
+}
+
+void tst_ReleaseMappingBuilder::tableReferences()
+{
+    QFETCH(QByteArray, reference);
+    Releases releases;
+    releases.source.add("a/bolt", "size,s;M3,5.5");
+    releases.source.writeFile(
+        "a/bolt.prj", "[PROJECT]\nDATE = 2022-05-01T10:00:00Z\nSACHM = " + reference + '\n');
+    releases.target.add("a/bolt", "size,s;M3,5.5");
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), ReleaseMappingBuilder::Outcome::Complete);
+    QCOMPARE(builder.messages(), QStringList());
+    QCOMPARE(builder.counts().same, 1);
 }
 
 void tst_ReleaseMappingBuilder::missingTableFile()

@@ -1,7 +1,8 @@
 #include "CatalogReader.h"
 
 #include <geomcore/project/CipVersionMgmtC.h>
-#include <geomcore/project/PrjFile.h>
+#include <geomcore/project/PrjClass.h>
+#include <geomcore/table/makeSachmRelativeToCatalog.h>
 #include <geomcore/table/TableData.h>
 
 #include <QDir>
@@ -23,8 +24,11 @@ void readTable(const QString &file, CatalogProject &project)
     for (const VKTab::TableError &error : result.errors)
         project.errors << error.toString();
     project.table = result.data;
-    if (result.data)
-        project.tableVersion = versionOf(result.data->descriptor().finalDate);
+    if (!result.data)
+        return;
+    project.tableVersion = versionOf(result.data->descriptor().finalDate);
+    for (const VKTab::TableError &warning : result.data->warnings())
+        project.warnings << warning.toString();
 }
 
 } // namespace
@@ -60,15 +64,16 @@ CatalogProject CatalogReader::read(const QString &projectPath) const
     CatalogProject project;
     project.path = projectPath;
     const QString file = m_root + '/' + projectPath;
-    PrjFile prj;
-    if (prj.Load(file, false) != 1) {
-        project.errors << prj.errorText();
+    const refHandle<PrjClass> prj(new PrjClass(true, false, false));
+    if (prj->read(file, PrjClass::ReadAll) != 1) {
+        project.errors << prj->errorText();
         return project;
     }
-    project.date = prj.GetLexemValue("DATE");
+    project.date = prj->lexem("DATE");
     project.version = versionOf(project.date);
-    if (const QString table = prj.GetLexemValue("SACHM"); !table.isEmpty())
-        readTable(QDir::cleanPath(QFileInfo(file).path() + '/' + table), project);
+    VKTab::makeSachmRelativeToCatalog(prj, projectPath);
+    if (const QString table = prj->tableFile(); !table.isEmpty())
+        readTable(table, project);
     return project;
 }
 

@@ -26,6 +26,8 @@ struct CatalogProject
     std::shared_ptr<const VKTab::TableData> table;
     /// What could not be read, with file and place.
     QStringList errors;
+    /// What is wrong in a table that was read: lines, formulas.
+    QStringList warnings;
 };
 
 /// Reads the projects of one catalog of a release.

@@ -136,8 +136,8 @@ ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
     const QString sourcePath = mapping.getSourcePath();
     const QString file = (PPathName(m_sourceRoot) + PPathName(sourcePath)).native();
     VKTab::ContentRef table;
-    const VKTab::ProjectTable read =
-        VKTab::readProjectTable(file, table, {.allLines = true, .tells = false});
+    const VKTab::ProjectTable read = VKTab::readProjectTable(
+        file, table, {.catalogPath = sourcePath, .allLines = true, .tells = false});
     outcome.errors = textsOf(read.errors);
     setTableError(outcome.mapping, !read);
     if (read) {

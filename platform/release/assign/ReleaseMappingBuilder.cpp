@@ -65,6 +65,7 @@ private:
     std::vector<ReadProject> m_targets; ///< The index numbers them alike.
     ReleaseIndex m_index;
     ReleaseMappingC m_release;
+    bool m_allRead = true;
 };
 
 ReleaseMappingBuilder::Outcome ReleaseMappingBuilder::Work::run()
@@ -88,7 +89,7 @@ ReleaseMappingBuilder::Outcome ReleaseMappingBuilder::Work::run()
         m_release.addMapping(mapping);
     }
     m_builder.m_release = m_release;
-    return m_builder.m_messages.isEmpty() ? Outcome::Complete : Outcome::Incomplete;
+    return m_allRead ? Outcome::Complete : Outcome::Incomplete;
 }
 
 bool ReleaseMappingBuilder::Work::exists(const CatalogReader &catalog)
@@ -174,8 +175,10 @@ void ReleaseMappingBuilder::Work::count(const PrjMappingC &mapping)
 void ReleaseMappingBuilder::Work::takeMessages()
 {
     for (const auto *projects : {&m_sources, &m_targets}) {
-        for (const ReadProject &read : *projects)
-            m_builder.m_messages << read.project.errors;
+        for (const ReadProject &read : *projects) {
+            m_builder.m_messages << read.project.errors << read.project.warnings;
+            m_allRead = m_allRead && read.project.errors.isEmpty();
+        }
     }
 }
 
