@@ -107,14 +107,17 @@ public:
         m_table.setSelection(line, true);
         QCoreApplication::processEvents();
     }
-    /// Every line of that step, beginning with the first one.
+    /// Every line of that step, beginning with the first one; lines that stand together as one
+    /// range, as the user selects them.
     void selectLines(int lines, int step)
     {
         const VkTableModel *const model = source()->model();
+        const int last = model->columnCount() - 1;
         QItemSelection selection;
-        for (int i = 0; i < lines; ++i)
-            selection.append(QItemSelectionRange(model->index(i * step, 0),
-                                                 model->index(i * step, model->columnCount() - 1)));
+        if (step == 1)
+            selection.select(model->index(0, 0), model->index(lines - 1, last));
+        for (int i = 0; step > 1 && i < lines; ++i)
+            selection.select(model->index(i * step, 0), model->index(i * step, last));
         source()->grid()->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
         QCoreApplication::processEvents();
     }
