@@ -62,9 +62,13 @@ function(velk_defaults target)
 endfunction()
 
 # velk_library(NAME MACRO DEPENDS... ) : a shared library of all sources below the folders in SOURCES
-# (default: the current folder). MACRO is the define under which its own headers export.
+# (default: the current folder), or a library of that TYPE. MACRO is the define under which its own
+# headers export.
 function(velk_library name)
-  cmake_parse_arguments(ARG "" "MACRO;PCH;INCLUDE" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "" "MACRO;PCH;INCLUDE;TYPE" "SOURCES;DEPENDS" ${ARGN})
+  if(NOT ARG_TYPE)
+    set(ARG_TYPE SHARED)
+  endif()
   if(NOT ARG_SOURCES)
     set(ARG_SOURCES "${CMAKE_CURRENT_SOURCE_DIR}")
   endif()
@@ -74,7 +78,7 @@ function(velk_library name)
     list(APPEND files ${found})
   endforeach()
   list(FILTER files EXCLUDE REGEX "/pch\\.h$")
-  add_library(${name} SHARED ${files})
+  add_library(${name} ${ARG_TYPE} ${files})
   # Makes the moc step notice headers that were added since it last ran.
   set(headers ${files})
   list(FILTER headers INCLUDE REGEX "\\.h$")

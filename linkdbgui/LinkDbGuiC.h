@@ -1,14 +1,12 @@
 #pragma once
 
-#include "VelkLinkDbGuiGlobal.h"
-
 #include <core/plugin/PLinkDbGuiI.h>
 
 #include <QObject>
 
 /// The plug-in object. The host makes it by its meta object, after the PApplication, and owns it;
 /// it is gone before the library is unloaded. GUI thread.
-class VELKLINKDBGUI_EXPORT LinkDbGuiC : public QObject, public PLinkDbGuiI
+class LinkDbGuiC : public QObject, public PLinkDbGuiI
 {
     Q_OBJECT
     Q_CLASSINFO("Interfaces", "PLinkDbGuiI")

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "VelkLinkDbGuiGlobal.h"
-
 #include <core/logging/StaticLogger.h>
 
 /// Of the document dialog.
-[[nodiscard]] VELKLINKDBGUI_EXPORT StaticLoggerRecord &plmDocumentsLogger();
+[[nodiscard]] StaticLoggerRecord &plmDocumentsLogger();
 /// Of the plug-in; nothing is written to it.
-[[nodiscard]] VELKLINKDBGUI_EXPORT StaticLoggerRecord &linkDbGuiLogger();
+[[nodiscard]] StaticLoggerRecord &linkDbGuiLogger();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
+#include <mapping/VelkLinkDbGuiGlobal.h>
 
 #include <geomcore/records/PrjMappingC.h>
 

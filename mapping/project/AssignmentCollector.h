@@ -1,14 +1,12 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/expression/NodeVisitor.h>
 #include <geomcore/value/VarId.h>
 
 #include <QSet>
 
 /// Collects the variables that a statement assigns. A formula assigns exactly one.
-class VELKLINKDBGUI_EXPORT AssignmentCollector : public VKTab::NodeVisitor
+class AssignmentCollector : public VKTab::NodeVisitor
 {
 public:
     ~AssignmentCollector() override;

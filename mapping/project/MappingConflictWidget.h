@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/records/CatalogMappingC.h>
 #include <geomcore/records/MappingChange.h>
 #include <geomcore/table/ContentRef.h>
@@ -13,7 +11,7 @@ class MappingConflictWidgetPrivate;
 /// The strip that tells what an update from the server did to the selected project, and what of the
 /// modeller's own work was not taken over. Visible, yet empty, until the first project; from then
 /// on only for projects with such local changes.
-class VELKLINKDBGUI_EXPORT MappingConflictWidget : public QWidget
+class MappingConflictWidget : public QWidget
 {
     Q_OBJECT
 

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/records/PrjMappingC.h>
 
 #include <QWidget>
 
 /// Base of the editor's columns that work on one project's mapping. Each has a copy of its own;
 /// being connected through these signals and slots keeps the copies equal. GUI thread.
-class VELKLINKDBGUI_EXPORT PrjMappingWidgetBase : public QWidget
+class PrjMappingWidgetBase : public QWidget
 {
     Q_OBJECT
 

@@ -57,9 +57,11 @@ void ProjectMappingWidget::setApplicationHandler(ApplicationHandlerI *applicatio
     d->params.application = application;
 }
 
-void ProjectMappingWidget::setTableMappingWidget(TableMappingWidget *widget)
+void ProjectMappingWidget::setTableColumn(TableMappingWidget *widget,
+                                          const std::function<VKTab::LineId()> &selectedLine)
 {
     d->params.tableMappingWidget = widget;
+    d->params.selectedSourceLine = selectedLine;
 }
 
 void ProjectMappingWidget::setRemoteViewerMode(bool remote)

@@ -7,13 +7,15 @@
 
 #include <QStringList>
 
+#include <functional>
+
 class ApplicationHandlerI;
 class ProjectMappingWidgetPrivate;
 class TableMappingWidget;
 
 /// The column that edits the ordered targets of one source project: a panel for each target with a
 /// path, buttons to add a target and to assign the lines anew.
-class VELKLINKDBGUI_EXPORT ProjectMappingWidget : public PrjMappingWidgetBase
+class ProjectMappingWidget : public PrjMappingWidgetBase
 {
     Q_OBJECT
 
@@ -36,8 +38,13 @@ public:
 
     /// Not owned; to be set once, before the first project. \a application may be null.
     void setApplicationHandler(ApplicationHandlerI *application);
-    /// Not owned; to be set once, before the first project.
-    void setTableMappingWidget(TableMappingWidget *widget);
+    /// Not owned; to be set once, before the first project. Its class stands above this one, so
+    /// only who calls this has to know it.
+    template<class Table>
+    void setTableMappingWidget(Table *widget)
+    {
+        setTableColumn(widget, [widget] { return widget->selectedSourceLine(); });
+    }
     /// True: target projects are looked for in the catalog repository, from the next project on.
     void setRemoteViewerMode(bool remote);
 
@@ -46,6 +53,9 @@ public Q_SLOTS:
     void onProjectMappingUpdated(const PrjMappingC &mapping) override;
 
 private:
+    void setTableColumn(TableMappingWidget *widget,
+                        const std::function<VKTab::LineId()> &selectedLine);
+
     friend class ProjectMappingWidgetPrivate;
     ProjectMappingWidgetPrivate *const d;
 };

@@ -6,7 +6,7 @@
 #include "remapProjectLines.h"
 #include "TargetMappingWidget.h"
 
-#include <mapping/view/CatalogMappingWidget.h>
+#include <mapping/data/targetPath.h>
 
 #include <core/message/PMessage.h>
 #include <core/text/PPathName.h>
@@ -74,8 +74,7 @@ void ProjectMappingWidgetPrivate::showTargets()
         const QString path = targets.at(index).getTargetPath();
         if (path.isEmpty())
             continue;
-        if (!PPathName(CatalogMappingWidget::buildTargetPath(!remoteViewerMode, path))
-                 .exists(false))
+        if (!PPathName(targetPath(!remoteViewerMode, path)).exists(false))
             PMessage::Show(
                 PString::translate("Das Zielprojekt %1 existiert nicht mehr", "VelkLinkDbGui")
                     .arg(path));

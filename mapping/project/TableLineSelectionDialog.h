@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/table/ContentRef.h>
 
 #include <QDialog>
@@ -14,7 +12,7 @@ class VkTableView;
 
 /// Lets the user point at one line of a table. The selection is the table's own, so it changes even
 /// if the user cancels.
-class VELKLINKDBGUI_EXPORT TableLineSelectionDialog : public QDialog
+class TableLineSelectionDialog : public QDialog
 {
     Q_OBJECT
 

@@ -3,8 +3,6 @@
 #include "TargetMappingParamSet.h"
 #include "TargetMappingWidget.h"
 
-#include <mapping/table/TableMappingWidget.h>
-
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/mapper/PrjMapperC.h>
 #include <release/decide/notFoundLines.h>
@@ -52,7 +50,7 @@ void TargetMappingWidget::onAssignTarget()
 {
     if (!params->tableMappingWidget || !targetContent.isValid())
         return;
-    const VKTab::LineId sourceLine = params->tableMappingWidget->selectedSourceLine();
+    const VKTab::LineId sourceLine = params->selectedSourceLine();
     if (!sourceLine.isValid())
         return;
     // The panel, and the dialog with it, can go while the dialog is open.

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <geomcore/records/CatalogMappingC.h>
+#include <geomcore/value/LineId.h>
 
 #include <QString>
+
+#include <functional>
 
 class ApplicationHandlerI;
 class TableMappingWidget;
@@ -21,4 +24,6 @@ struct TargetMappingParamSet
     bool copiedIsFormula = false;
     bool copiedIsIgnored = false;
     QString copiedCondition;
+    /// Of tableMappingWidget, whose class stands above this one.
+    std::function<VKTab::LineId()> selectedSourceLine;
 };

@@ -3,7 +3,7 @@
 #include "TargetMappingParamSet.h"
 
 #include <mapping/data/ApplicationHandlerI.h>
-#include <mapping/view/CatalogMappingWidget.h>
+#include <mapping/data/targetPath.h>
 
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
@@ -27,7 +27,7 @@ TargetMappingWidget::TargetMappingWidget(int targetIndex, const VKTab::ContentRe
     buildLists();
     const PrjMappingTargetC target = params->projectMapping.findTarget(index);
     const QString path = target.getTargetPath();
-    const QString builtPath = CatalogMappingWidget::buildTargetPath(!remoteViewerMode, path);
+    const QString builtPath = targetPath(!remoteViewerMode, path);
     showPath(path, builtPath);
     readTable(builtPath);
     loadConditions(target);

@@ -2,8 +2,6 @@
 
 #include "ProjectTargetNotificationType.h"
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/records/PrjMappingTargetC.h>
 #include <geomcore/table/ContentRef.h>
@@ -32,7 +30,7 @@ struct TargetMappingParamSet;
 /// it is for and how its variables get their values, and the buttons that move, remove and open it.
 /// Conditions and variable mappings can be deleted. Every change goes to the callback, which may
 /// delete the panel later, but not at once.
-class VELKLINKDBGUI_EXPORT TargetMappingWidget : public QWidget
+class TargetMappingWidget : public QWidget
 {
     Q_OBJECT
 

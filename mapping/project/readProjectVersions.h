@@ -1,11 +1,8 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <QPair>
 #include <QString>
 
 /// Versions of a target project and of its table, each empty if it cannot be told.
 /// \a targetPath is relative to the catalog root.
-[[nodiscard]] VELKLINKDBGUI_EXPORT QPair<QString, QString>
-readProjectVersions(const QString &targetPath);
+[[nodiscard]] QPair<QString, QString> readProjectVersions(const QString &targetPath);

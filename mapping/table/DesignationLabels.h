@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <QString>
 
 QT_BEGIN_NAMESPACE
@@ -10,7 +8,7 @@ QT_END_NAMESPACE
 
 /// Shows the norm designations of a source and a target line against each other: both green if they
 /// are equal, else both red.
-struct VELKLINKDBGUI_EXPORT DesignationLabels
+struct DesignationLabels
 {
     QLabel *sourceLabel = nullptr; ///< not owned
     QLabel *targetLabel = nullptr; ///< not owned

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/records/PrjMappingC.h>
 #include <geomcore/value/LineId.h>
 
@@ -19,7 +17,7 @@ struct LineDecision
 /// What is written when a line is confirmed, sent to another target line or removed. Works on the
 /// mapping that what the mapper says of the line ends with; nothing comes of a line without history
 /// or target.
-class VELKLINKDBGUI_EXPORT LineDecisions
+class LineDecisions
 {
 public:
     /// \a targetLine is the line to take; without one the assigned line stays. The value range text

@@ -1,12 +1,10 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/table/BaseLayer.h>
 
 /// Adds the column "LINE_ID" with the line numbers to a table, as its last one: value range texts
 /// name target lines by their numbers.
-class VELKLINKDBGUI_EXPORT LineIdColumnLayer : public VKTab::BaseLayer
+class LineIdColumnLayer : public VKTab::BaseLayer
 {
 public:
     LineIdColumnLayer();

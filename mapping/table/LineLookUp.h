@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/mapper/PrjMapperC.h>
 #include <geomcore/records/CatalogMappingC.h>
@@ -14,7 +12,7 @@
 /// Asks the mapper about single lines of a source table. Every question makes a new mapper, over
 /// the dates of the first release with this mapping alone in it. Without a release, and for a
 /// mapping that cannot be used, the answers are not valid.
-class VELKLINKDBGUI_EXPORT LineLookUp
+class LineLookUp
 {
 public:
     using Varset = QHash<QString, MapVarValueC>;

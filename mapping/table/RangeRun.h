@@ -7,7 +7,7 @@
 
 /// Has a VarsetMappingRunnable work on a thread of its own while the window stays alive and shows
 /// the progress, for as long as the run is there. GUI thread.
-class VELKLINKDBGUI_EXPORT RangeRun
+class RangeRun
 {
 public:
     /// The task's accumulator is replaced by the run's own.

@@ -2,8 +2,6 @@
 
 #include "MappedTargetLines.h"
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/table/ContentRef.h>
 #include <geomcore/table/FilterByLineId.h>
 #include <geomcore/value/LineId.h>
@@ -14,7 +12,7 @@
 
 /// Which lines the two tables show: by the state of the source lines, and by which mapped lines
 /// lead to a target line. Targets are given by their indexes in the mapping.
-class VELKLINKDBGUI_EXPORT TableLineFilters
+class TableLineFilters
 {
 public:
     static void showAll(VKTab::ContentRef table);

@@ -17,7 +17,7 @@ class VkTableView;
 /// views are found by the object names "sourceView" and "targetView", its buttons by "btnMapLine",
 /// "btnRemoveLine", "btnRemoveVerifyLine", "btnResolvedRanges", "btnCondition" and "btnVerifyAll",
 /// its boxes by "chkFilterSource", "chkFilterTarget" and "chkShowHiddenCols".
-class VELKLINKDBGUI_EXPORT TableMappingWidget : public PrjMappingWidgetBase
+class TableMappingWidget : public PrjMappingWidgetBase
 {
     Q_OBJECT
 

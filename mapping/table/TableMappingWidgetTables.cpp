@@ -6,7 +6,7 @@
 #include "TargetTableView.h"
 
 #include <mapping/project/ProjectMappingWidget.h>
-#include <mapping/view/CatalogMappingWidget.h>
+#include <mapping/data/targetPath.h>
 
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
@@ -76,9 +76,9 @@ QStringList TableMappingWidgetPrivate::valueRangeVariables(const VKTab::Content 
     return names;
 }
 
-QString TableMappingWidgetPrivate::builtPath(const QString &targetPath) const
+QString TableMappingWidgetPrivate::builtPath(const QString &storedPath) const
 {
-    return CatalogMappingWidget::buildTargetPath(!targetFromRepository, targetPath);
+    return targetPath(!targetFromRepository, storedPath);
 }
 
 int TableMappingWidgetPrivate::onSourceLineSelected(const VKTab::LineId &id, bool selected)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <QKeySequence>
 #include <QString>
 #include <QWidget>
@@ -20,7 +18,7 @@ class Content;
 
 /// One side of the table editor: what is known of its project, buttons beside the norm number, the
 /// table, and boxes below it.
-class VELKLINKDBGUI_EXPORT TablePane : public QWidget
+class TablePane : public QWidget
 {
     Q_OBJECT
 

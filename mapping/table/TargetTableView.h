@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/table/ContentRef.h>
 #include <geomcore/value/LineId.h>
 
@@ -20,7 +18,7 @@ class QHash;
 
 /// The table of the project that the selected source line went to. Stays as long as the lines that
 /// are selected one after the other went to the same project.
-class VELKLINKDBGUI_EXPORT TargetTableView
+class TargetTableView
 {
 public:
     /// How tables are read.

@@ -1,6 +1,6 @@
 #include "VarsetMappingRunnable.h"
 
-#include <mapping/view/CatalogMappingWidget.h>
+#include <mapping/data/targetPath.h>
 
 #include <core/progress/PProgress.h>
 #include <core/text/PPathName.h>
@@ -92,16 +92,16 @@ void VarsetMappingRunnable::mapCombination(int sourceLine, const Varset &varset,
     m_changed = true;
 }
 
-VKTab::ContentRef VarsetMappingRunnable::targetTable(const QString &targetPath)
+VKTab::ContentRef VarsetMappingRunnable::targetTable(const QString &storedPath)
 {
-    if (const auto known = m_tables.constFind(targetPath); known != m_tables.cend())
+    if (const auto known = m_tables.constFind(storedPath); known != m_tables.cend())
         return *known;
     const QString path =
-        CatalogMappingWidget::buildTargetPath(!m_task.targetFromRepository, targetPath);
+        targetPath(!m_task.targetFromRepository, storedPath);
     VKTab::ContentRef table = VKTab::Content();
     (void)VKTab::readProjectTable(PPathName(path).native(), table);
     showHiddenColumns();
-    m_tables.insert(targetPath, table);
+    m_tables.insert(storedPath, table);
     return table;
 }
 

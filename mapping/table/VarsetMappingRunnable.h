@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/records/PrjMappingC.h>
 #include <geomcore/table/ContentRef.h>
@@ -23,7 +21,7 @@ class VkTableView;
 /// records it in the lines' value range texts. Runs on a worker thread and works on a mapping of
 /// its own, which is taken from it after the run; reads the source table, which nobody may change
 /// meanwhile. Cannot be cancelled.
-class VELKLINKDBGUI_EXPORT VarsetMappingRunnable : public QRunnable
+class VarsetMappingRunnable : public QRunnable
 {
 public:
     struct Task

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/expression/MapVarValueC.h>
 
 #include <QHash>
@@ -9,5 +7,4 @@
 /// A condition that holds for exactly these values: a comparison for each, in the order of the
 /// hash, joined by " .AND. ". Texts stand in single quotes as they are, so one with a quote in it
 /// gives a condition that does not parse.
-[[nodiscard]] VELKLINKDBGUI_EXPORT QString
-conditionText(const QHash<QString, MapVarValueC> &varset);
+[[nodiscard]] QString conditionText(const QHash<QString, MapVarValueC> &varset);

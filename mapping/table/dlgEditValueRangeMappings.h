@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <QDialog>
 
 QT_BEGIN_NAMESPACE
@@ -9,7 +7,7 @@ class QPlainTextEdit;
 QT_END_NAMESPACE
 
 /// Lets the modeller edit the value range text of a line. The text is not checked.
-class VELKLINKDBGUI_EXPORT dlgEditValueRangeMappings : public QDialog
+class dlgEditValueRangeMappings : public QDialog
 {
     Q_OBJECT
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <QDialog>
 #include <QList>
 #include <QStringList>
@@ -12,7 +10,7 @@ class QDialogButtonBox;
 QT_END_NAMESPACE
 
 /// Asks which value-range variables are to be resolved. Ok needs at least one.
-class VELKLINKDBGUI_EXPORT dlgSelectValueRangeVars : public QDialog
+class dlgSelectValueRangeVars : public QDialog
 {
     Q_OBJECT
 

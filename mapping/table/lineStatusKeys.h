@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/value/StatusValue.h>
 
 namespace VKTab {
@@ -11,5 +9,5 @@ class TabOptions;
 /// Gives the options the status keys of the editor's tables: "CatalogMapper", "ValueRangeMapping"
 /// and "TargetMapping". Options that have the first one keep what they have. \a toolTip tells about
 /// lines that are to be checked or in conflict.
-VELKLINKDBGUI_EXPORT void setLineStatusKeys(VKTab::TabOptions &options,
-                                            const VKTab::StatusValue::ToolTipHandler &toolTip);
+void setLineStatusKeys(VKTab::TabOptions &options,
+                       const VKTab::StatusValue::ToolTipHandler &toolTip);

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <QString>
 #include <QStringList>
 
 /// HTML for a line in conflict; \a text, HTML too, says what happened.
-[[nodiscard]] VELKLINKDBGUI_EXPORT QString conflictToolTip(const QString &text);
+[[nodiscard]] QString conflictToolTip(const QString &text);
 /// HTML for a line that is to be checked, with the messages of its check as plain texts.
-[[nodiscard]] VELKLINKDBGUI_EXPORT QString proposalToolTip(const QStringList &messages);
+[[nodiscard]] QString proposalToolTip(const QStringList &messages);

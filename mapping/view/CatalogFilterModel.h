@@ -1,12 +1,10 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <QSortFilterProxyModel>
 
 /// Leaves only projects that are incomplete, and the directories above them. After a change of the
 /// three settings call invalidate().
-class VELKLINKDBGUI_EXPORT CatalogFilterModel : public QSortFilterProxyModel
+class CatalogFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
 

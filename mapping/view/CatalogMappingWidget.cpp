@@ -4,6 +4,7 @@
 
 #include <mapping/data/ApplicationHandlerI.h>
 #include <mapping/data/CatalogMappingHandlerI.h>
+#include <mapping/data/targetPath.h>
 #include <mapping/project/MappingConflictWidget.h>
 #include <mapping/project/ProjectMappingWidget.h>
 #include <mapping/table/TableMappingWidget.h>
@@ -66,16 +67,7 @@ void CatalogMappingWidget::setRemoteViewerMode(bool remote)
     d->projectWidget->setRemoteViewerMode(remote);
 }
 
-QString CatalogMappingWidget::buildTargetPath(bool local, const QString &targetPath)
+QString CatalogMappingWidget::buildTargetPath(bool local, const QString &path)
 {
-    if (targetPath.isEmpty())
-        return QString();
-    if (local)
-        return QStringLiteral("$TORMEVA_DATA/23d-libs") +
-               (targetPath.startsWith(u'/') ? QString() : QStringLiteral("/")) + targetPath;
-    const qsizetype slash = targetPath.indexOf(u'/');
-    if (slash < 0)
-        return QString();
-    return QStringLiteral("svn://%1/trunk/catalog").arg(targetPath.left(slash)) +
-           targetPath.mid(slash);
+    return targetPath(local, path);
 }

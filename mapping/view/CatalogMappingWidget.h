@@ -1,6 +1,6 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
+#include <mapping/VelkLinkDbGuiGlobal.h>
 
 #include <geomcore/records/MappingChange.h>
 #include <geomcore/table/ContentRef.h>
@@ -50,7 +50,7 @@ public:
     /// Where a target project is: below the local catalog root (the reference in the result stays
     /// as it is, for PPathName to resolve), or an address in the repository of the catalog that the
     /// path begins with. Empty if the path does not tell.
-    [[nodiscard]] static QString buildTargetPath(bool local, const QString &targetPath);
+    [[nodiscard]] static QString buildTargetPath(bool local, const QString &path);
 
     // What a host needs to know of the editor and to do to it, without its inner widgets.
 

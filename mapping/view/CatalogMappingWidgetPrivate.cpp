@@ -12,7 +12,7 @@
 
 #include <core/config/PConfigService.h>
 #include <core/text/PString.h>
-#include <geomcore/binding/sameTargetHead.h>
+#include <geomcore/records/sameTargetHead.h>
 #include <geomcore/table/readProjectTable.h>
 #include <geomcoregui/table/VkTableView.h>
 

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <QStyledItemDelegate>
 
 class CatalogStructureDelegatePrivate;
 
 /// Draws the state of a catalog row as small icons, one above the other in one place before the
 /// row's own icon. The size of a row stays what it is without them.
-class VELKLINKDBGUI_EXPORT CatalogStructureDelegate : public QStyledItemDelegate
+class CatalogStructureDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 

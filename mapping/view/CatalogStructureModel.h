@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <mapping/data/CatalogStructureNodeI.h>
 
 #include <QAbstractItemModel>
@@ -13,7 +11,7 @@ class CatalogStructureModelPrivate;
 
 /// The catalog's tree of nodes as an item model of one column. Children are asked of a node when a
 /// view needs them, and once: the tree neither grows nor shrinks after that. GUI thread only.
-class VELKLINKDBGUI_EXPORT CatalogStructureModel : public QAbstractItemModel
+class CatalogStructureModel : public QAbstractItemModel
 {
     Q_OBJECT
 

@@ -1,11 +1,11 @@
 #include "TargetHead.h"
 
 #include <core/json/PJsonValue.h>
-#include <geomcore/binding/sameTargetHead.h>
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/binding/VarsetValueMappingC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/records/PrjMappingTargetC.h>
+#include <geomcore/records/sameTargetHead.h>
 
 #include <memory>
 

@@ -1,9 +1,16 @@
 #include "PPathName.h"
 
+#include "PathAlias.h"
+
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
+
+PString resolved(const PString &text)
+{
+    return PString::ResolveEnvirons(PathAlias::replacedIn(text));
+}
 
 bool isSeparator(QChar c)
 {
@@ -51,17 +58,17 @@ QString withSlashes(QStringView text)
     return result;
 }
 
-QString cleaned(const QString &resolved)
+QString cleaned(const QString &path)
 {
-    const qsizetype scheme = schemeLength(resolved);
+    const qsizetype scheme = schemeLength(path);
     if (!scheme)
-        return QDir::cleanPath(withSlashes(resolved));
-    const QString rest = withSlashes(QStringView(resolved).mid(scheme));
+        return QDir::cleanPath(withSlashes(path));
+    const QString rest = withSlashes(QStringView(path).mid(scheme));
     const qsizetype hostEnd = rest.indexOf(u'/');
     if (hostEnd < 0)
-        return resolved.left(scheme) + rest;
-    const QString path = QDir::cleanPath(rest.mid(hostEnd));
-    return resolved.left(scheme) + rest.left(hostEnd) + (path == u"/" ? QString() : path);
+        return path.left(scheme) + rest;
+    const QString below = QDir::cleanPath(rest.mid(hostEnd));
+    return path.left(scheme) + rest.left(hostEnd) + (below == u"/" ? QString() : below);
 }
 
 /// Position of the separator before the last component, -1 for none; separators at the end belong
@@ -107,24 +114,24 @@ bool PPathName::exists(bool dirOnly) const
 
 PString PPathName::native() const
 {
-    const PString resolved = PString::ResolveEnvirons(m_text);
-    if (schemeLength(resolved))
-        return resolved;
-    return QDir::toNativeSeparators(withSlashes(resolved));
+    const PString path = resolved(m_text);
+    if (schemeLength(path))
+        return path;
+    return QDir::toNativeSeparators(withSlashes(path));
 }
 
 bool PPathName::isAddress() const
 {
-    return schemeLength(PString::ResolveEnvirons(m_text)) > 0;
+    return schemeLength(resolved(m_text)) > 0;
 }
 
 bool PPathName::isAbsolute() const
 {
-    const PString resolved = PString::ResolveEnvirons(m_text);
-    if (schemeLength(resolved))
+    const PString path = resolved(m_text);
+    if (schemeLength(path))
         return true;
-    const qsizetype root = driveLength(resolved);
-    return resolved.size() > root && isSeparator(resolved.at(root));
+    const qsizetype root = driveLength(path);
+    return path.size() > root && isSeparator(path.at(root));
 }
 
 PPathName PPathName::directory() const
@@ -163,16 +170,14 @@ PPathName PPathName::MergeDirAndFile(const PPathName &directory, const PPathName
     if (file.isAbsolute())
         return file;
     const PPathName merged = directory + file;
-    return normalise && !merged.isEmpty()
-               ? PPathName(cleaned(PString::ResolveEnvirons(merged.m_text)))
-               : merged;
+    return normalise && !merged.isEmpty() ? PPathName(cleaned(resolved(merged.m_text))) : merged;
 }
 
 PString PPathName::normalized() const
 {
     if (isEmpty())
         return {};
-    const QString path = cleaned(PString::ResolveEnvirons(m_text));
+    const QString path = cleaned(resolved(m_text));
 #ifdef Q_OS_WIN
     return path.toLower();
 #else

@@ -1,16 +1,25 @@
 #include "IndexTreeC.h"
 
+#include <core/text/PathAlias.h>
+
 #include <mutex>
+
+namespace {
+
+constexpr const char *standardRoot = "$TORMEVA_DATA/23d-libs";
+
+} // namespace
 
 struct IndexTreeC::Private
 {
+    bool isProcessTree = false;
     mutable std::mutex lock;
     PPathName root;
     IndexTreeIconTableC icons;
 };
 
 IndexTreeC::IndexTreeC()
-    : IndexTreeC(PPathName("$TORMEVA_DATA/23d-libs"))
+    : IndexTreeC(PPathName(standardRoot))
 {
 }
 
@@ -24,7 +33,11 @@ IndexTreeC::~IndexTreeC() = default;
 
 PRefPtr<IndexTreeC> IndexTreeC::instance()
 {
-    static const PRefPtr<IndexTreeC> tree(new IndexTreeC);
+    static const PRefPtr<IndexTreeC> tree = [] {
+        PRefPtr<IndexTreeC> made(new IndexTreeC);
+        made->d->isProcessTree = true;
+        return made;
+    }();
     return tree;
 }
 
@@ -38,6 +51,10 @@ void IndexTreeC::setCatalogRoot(const PPathName &root)
 {
     const std::scoped_lock guard(d->lock);
     d->root = root;
+    if (!d->isProcessTree)
+        return;
+    const bool isStandard = root.text() == QLatin1String(standardRoot);
+    PathAlias::set(QLatin1String(standardRoot), isStandard ? QString() : QString(root.text()));
 }
 
 PPathName IndexTreeC::compatiblePathToResolvedPath(const PPathName &path) const

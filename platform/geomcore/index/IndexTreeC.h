@@ -24,6 +24,7 @@ public:
     /// Directory whose subdirectories are the catalogs. References in it are resolved when the file
     /// system is asked.
     [[nodiscard]] PPathName catalogRoot() const;
+    /// The root of the process's tree is what "$TORMEVA_DATA/23d-libs" stands for in every path.
     void setCatalogRoot(const PPathName &root);
 
     /// File of a project path that begins with the catalog's name, with "/" or "\", as mappings

@@ -3,7 +3,6 @@
 
 #include <core/message/PMessage.h>
 #include <geomcoregui/table/VkTableView.h>
-#include <mapping/project/TargetMappingWidget.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/window/DocumentDesk.h>
@@ -446,9 +445,8 @@ private Q_SLOTS:
         QTRY_VERIFY(document.canUndo());
         // Comes after the editor has shown it, and before a step of that turn would end.
         QList<bool> modified;
-        connect(&document, &MappingDocument::reselectRequested, this, [&] {
-            QTimer::singleShot(0, this, [&] { modified += document.isModified(); });
-        });
+        connect(&document, &MappingDocument::reselectRequested, this,
+                [&] { QTimer::singleShot(0, this, [&] { modified += document.isModified(); }); });
         fixture.press(Qt::Key_Z, Qt::ControlModifier);
         QTRY_COMPARE(modified, QList<bool>{false});
         QVERIFY(statistics(fixture).endsWith(" / 0"));
@@ -463,7 +461,7 @@ private Q_SLOTS:
         QVERIFY(editor->selectProject("standardparts/washers/din125.prj"));
         QVERIFY(editor->selectLine(3));
         const auto panels = [&] {
-            return editor->findChildren<TargetMappingWidget *>().size();
+            return editor->findChildren<QPushButton *>("assignButton").size();
         };
         const auto all = panels();
         QVERIFY(all > 1);

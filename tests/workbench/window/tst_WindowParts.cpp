@@ -284,14 +284,21 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
         qputenv("TORMEVA_DATA", "/before");
+        const PPathName project("$TORMEVA_DATA/23d-libs/cat/a.prj");
         {
             const TargetRoot root(directory.filePath(name));
-            QVERIFY(PPathName("$TORMEVA_DATA/23d-libs/cat/a.prj").exists(false));
+            QVERIFY(project.exists(false));
             QVERIFY(IndexTreeC::instance()
                         ->compatiblePathToResolvedPath(PPathName("cat/a.prj"))
                         .exists(false));
+            QCOMPARE(qgetenv("TORMEVA_DATA"), QByteArray("/before"));
+            {
+                const TargetRoot other(directory.path());
+                QVERIFY(!project.exists(false));
+            }
+            QVERIFY(project.exists(false));
         }
-        QCOMPARE(qgetenv("TORMEVA_DATA"), QByteArray("/before"));
+        QCOMPARE(project.native(), PString("/before/23d-libs/cat/a.prj"));
         QVERIFY(QFile::exists(file.fileName()));
         qunsetenv("TORMEVA_DATA");
     }

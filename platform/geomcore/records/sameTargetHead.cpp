@@ -1,17 +1,16 @@
 #include "sameTargetHead.h"
 
-#include "VarsetConditionC.h"
-#include "VarsetModifierI.h"
+#include "PrjMappingC.h"
 
 #include <core/json/PJsonValue.h>
-#include <geomcore/records/PrjMappingC.h>
+#include <geomcore/binding/VarsetConditionI.h>
+#include <geomcore/binding/VarsetModifierI.h>
 
 namespace {
 
 QString textOf(const VarsetConditionI *condition)
 {
-    const auto *const known = dynamic_cast<const VarsetConditionC *>(condition);
-    return known ? known->getCondition() : QString();
+    return condition->getCondition();
 }
 
 QByteArray textOf(const VarsetModifierI *modifier)
