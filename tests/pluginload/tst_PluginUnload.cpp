@@ -37,6 +37,7 @@ private Q_SLOTS:
     void unloadsCode();
     void pluginList();
     void resources();
+    void resourcesTwice();
     void translations();
     void scriptClasses();
     void loggers();
@@ -47,7 +48,7 @@ private Q_SLOTS:
     void afterTheEditorWasUsed();
 
 private:
-    void load();
+    void load(const char *file = VELK_PLUGIN_FILE);
     void unload();
     [[nodiscard]] bool isLoaded() const;
     /// A function of the library; null if it has none.
@@ -58,17 +59,21 @@ private:
     }
 
     void *m_library = nullptr;
+    const char *m_file = VELK_PLUGIN_FILE;
 };
 
 namespace {
 
+/// How often resources were registered and released.
+int registrations = 0;
+int releases = 0;
+
+using ResourceFunction = bool (*)(int, const unsigned char *, const unsigned char *,
+                                  const unsigned char *);
+
 const QString form = QStringLiteral(":/forms/linkdbgui/ClassificationDialog.ui");
 const QString bitmap = QStringLiteral(":/bitmaps/state_check.png");
 const QString catalog = QStringLiteral(":/translations/VelkLinkDbGui_en.qm");
-
-// Functions of the plug-in by the names that the linker knows.
-constexpr const char *ignoreMarkerSymbol = "_Z12ignoreMarkerv";
-constexpr const char *loggerSymbol = "_Z18plmDocumentsLoggerv";
 
 /// Of all types that Qt knows beyond its own.
 QStringList namesOfCustomTypes()
@@ -83,9 +88,27 @@ QStringList namesOfCustomTypes()
 
 } // namespace
 
-void tst_PluginUnload::load()
+// Libraries that are loaded bind to these instead of to Qt's.
+Q_DECL_EXPORT bool qRegisterResourceData(int version, const unsigned char *tree,
+                                         const unsigned char *name, const unsigned char *data)
 {
-    m_library = dlopen(VELK_PLUGIN_FILE, RTLD_NOW | RTLD_LOCAL);
+    ++registrations;
+    return ResourceFunction(dlsym(RTLD_NEXT, "_Z21qRegisterResourceDataiPKhS0_S0_"))(version, tree,
+                                                                                     name, data);
+}
+
+Q_DECL_EXPORT bool qUnregisterResourceData(int version, const unsigned char *tree,
+                                           const unsigned char *name, const unsigned char *data)
+{
+    ++releases;
+    return ResourceFunction(dlsym(RTLD_NEXT, "_Z23qUnregisterResourceDataiPKhS0_S0_"))(
+        version, tree, name, data);
+}
+
+void tst_PluginUnload::load(const char *file)
+{
+    m_file = file;
+    m_library = dlopen(m_file, RTLD_NOW | RTLD_LOCAL);
     QVERIFY2(m_library, dlerror());
 }
 
@@ -98,7 +121,7 @@ void tst_PluginUnload::unload()
 
 bool tst_PluginUnload::isLoaded() const
 {
-    void *const library = dlopen(VELK_PLUGIN_FILE, RTLD_NOW | RTLD_NOLOAD);
+    void *const library = dlopen(m_file, RTLD_NOW | RTLD_NOLOAD);
     if (library)
         dlclose(library);
     return library != nullptr;
@@ -156,6 +179,17 @@ void tst_PluginUnload::resources()
     QVERIFY(QDir(QStringLiteral(":/forms")).entryList().isEmpty());
 }
 
+void tst_PluginUnload::resourcesTwice()
+{
+    registrations = releases = 0;
+    load();
+    QCOMPARE(registrations, 2);
+    QCOMPARE(releases, 0);
+    unload();
+    QCOMPARE(registrations, 2);
+    QCOMPARE(releases, 2);
+}
+
 void tst_PluginUnload::translations()
 {
     load();
@@ -181,10 +215,10 @@ void tst_PluginUnload::scriptClasses()
 /// A record that was in use is forgotten: setLevels() writes into all that are known.
 void tst_PluginUnload::loggers()
 {
-    load();
-    auto *const logger = function<StaticLoggerRecord &()>(loggerSymbol);
+    load(VELK_PARTS_FILE);
+    auto *const logger = function<StaticLoggerRecord *()>("plmLoggerOfParts");
     QVERIFY(logger);
-    StaticLoggerRecord &record = logger();
+    StaticLoggerRecord &record = *logger();
     StaticLogger::init(record);
     StaticLogger::setLevels(QStringLiteral("*=5000"));
     QCOMPARE(record.level.load(), 5000);
@@ -226,12 +260,12 @@ void tst_PluginUnload::loadsOnceMore()
 void tst_PluginUnload::markerIsMadeBeforeTheTranslations()
 {
     PTranslateManager::instance().setLanguage(QStringLiteral("en"));
-    load();
-    auto *const marker = function<const QString &()>(ignoreMarkerSymbol);
+    load(VELK_PARTS_FILE);
+    auto *const marker = function<const QString *()>("ignoreMarkerOfParts");
     QVERIFY(marker);
     QCOMPARE(PString::translate("Variable ignorieren", "VelkLinkDbGui"),
              QStringLiteral("Ignore variable"));
-    QCOMPARE(marker(), QStringLiteral("<Variable ignorieren>"));
+    QCOMPARE(*marker(), QStringLiteral("<Variable ignorieren>"));
 }
 
 /// The catalog lies in the resource tree, which therefore has to be there first.
