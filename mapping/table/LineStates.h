@@ -1,7 +1,5 @@
 #pragma once
 
-#include <linkdbgui/VelkLinkDbGuiGlobal.h>
-
 #include <geomcore/records/PrjMappingC.h>
 #include <geomcore/table/Content.h>
 
@@ -12,7 +10,7 @@
 #include <vector>
 
 /// What the editor shows of source lines in its status column.
-class VELKLINKDBGUI_EXPORT LineStates
+class LineStates
 {
 public:
     enum State : quint8 { Assigned, Confirmed, ToCheck, NotFound, Expired, Conflicted };
