@@ -1,11 +1,11 @@
 #pragma once
 
 #include "CatalogStructureNodeI.h"
-
+#include "StateTreeI.h"
 #include "WatchedRelease.h"
 
 /// Root of the tree of a release.
-class ReleaseMappingStructureNode : public CatalogStructureNodeI
+class ReleaseMappingStructureNode : public CatalogStructureNodeI, public StateTreeI
 {
 public:
     ReleaseMappingStructureNode(const QString &name,
@@ -21,8 +21,7 @@ public:
     bool hasConflicts() const override;
     QList<boost::shared_ptr<CatalogStructureNodeI>> getChildren() const override;
     void invalidateState() override;
-    /// As if invalidateState were called on this node and on each one below, in one step.
-    void invalidateTree();
+    void invalidateTree() override;
 
 private:
     const QString m_name;

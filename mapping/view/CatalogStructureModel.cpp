@@ -3,7 +3,7 @@
 #include "catalogNodeToolTip.h"
 #include "CatalogStructureModelPrivate.h"
 
-#include <mapping/data/ReleaseMappingStructureNode.h>
+#include <mapping/data/StateTreeI.h>
 
 namespace {
 
@@ -27,7 +27,7 @@ bool isProject(const CatalogStructureNodeI &node)
 
 } // namespace
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): hosts call it so
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is given
 CatalogStructureModel::CatalogStructureModel(boost::shared_ptr<CatalogStructureNodeI> root)
     : d(new CatalogStructureModelPrivate(this, root))
 {
@@ -97,8 +97,8 @@ void CatalogStructureModel::invalidateNodes(CatalogStructureItem *item)
 {
     if (!item)
         item = d->rootItem.get();
-    if (auto *release = dynamic_cast<ReleaseMappingStructureNode *>(item->node.get())) {
-        release->invalidateTree();
+    if (auto *const tree = dynamic_cast<StateTreeI *>(item->node.get())) {
+        tree->invalidateTree();
         return;
     }
     item->loadChildren();

@@ -35,8 +35,10 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index,
                                 int role = Qt::DisplayRole) const override;
 
-    /// Makes all nodes from \a item down drop what they remember of their state, children before
-    /// parents; null begins at the root. Sends no signal: the caller repaints its views.
+    /// Makes all nodes from \a item down drop what they remember of their state; null begins at the
+    /// root. A root that is a StateTreeI does it by itself and loads nothing; else the items are
+    /// walked, which loads them, children before parents. Sends no signal: the caller repaints its
+    /// views.
     void invalidateNodes(CatalogStructureItem *item = nullptr);
 
     /// The node in a value of StructureNodeRole, of this model or of a proxy; null if it has none.

@@ -2,6 +2,7 @@
 
 #include <geomcore/index/IndexTreeC.h>
 #include <mapping/data/ReleaseMappingHandler.h>
+#include <mapping/data/StateTreeI.h>
 #include <mapping/view/CatalogStructureModel.h>
 
 #include <QAbstractItemModelTester>
@@ -348,6 +349,32 @@ private Q_SLOTS:
         model.invalidateNodes();
         QCOMPARE(TestNode::invalidated.size(), 14);
         QCOMPARE(root->asked, 1);
+    }
+
+    void invalidateByTheRootItself()
+    {
+        // A root of the host that wraps another one and hands the short way on.
+        class WrappedRoot : public TestNode, public StateTreeI
+        {
+        public:
+            WrappedRoot()
+                : TestNode(0, "wrapped")
+            {
+            }
+            void invalidateTree() override { ++dropped; }
+            int dropped = 0;
+        };
+        const auto root = boost::make_shared<WrappedRoot>();
+        root->children = {TestNode::directory("a", {TestNode::project("c.prj")})};
+        CatalogStructureModel model(root);
+        model.invalidateNodes();
+        QCOMPARE(root->dropped, 1);
+        QCOMPARE(root->asked, 0);
+        QCOMPARE(TestNode::invalidated, QStringList());
+        // From an item below it the nodes are walked.
+        model.invalidateNodes(
+            static_cast<CatalogStructureItem *>(model.index(0, 0).internalPointer()));
+        QCOMPARE(TestNode::invalidated, (QStringList{"c.prj", "a"}));
     }
 
     void invalidateBelowOneItem()

@@ -11,7 +11,9 @@
 #include <vector>
 
 /// The project mappings of a release in stored order, in pages of 256 that copies share, with an
-/// index from source path to positions and the number of mappings for each state.
+/// index from source path to positions and the number of mappings for each state. A mapping keeps
+/// its position for good: nothing is inserted or removed, and replacing keeps path and version.
+/// Whoever keeps positions, as the catalog's tree does, relies on that.
 class MappingList
 {
 public:
@@ -27,7 +29,7 @@ public:
     /// For each mapping in stored order the position of what find gives for its path and version.
     [[nodiscard]] QList<int> firstPositions() const;
     void append(const PrjMappingC &mapping);
-    /// The new mapping must have the source path of the old one.
+    /// The new mapping must have the source path and version of the old one.
     void replace(int position, const PrjMappingC &mapping);
     /// The states of RolledUpStates that any mapping has.
     [[nodiscard]] PRJMAPPING::MappingState state() const;
