@@ -4,6 +4,7 @@
 #include <gui/application/PApplicationPool.h>
 
 #include <QAction>
+#include <QFile>
 #include <QIcon>
 
 namespace {
@@ -55,6 +56,13 @@ const ActionDescription actions[] = {
      ":/bitmaps/linkdb/actionPreferredRanges_24.png", true},
 };
 
+/// Null for a file that is not there, so that a later registration gets its chance; Qt's own would
+/// only be empty.
+QIcon iconOf(const QString &file)
+{
+    return QFile::exists(file) ? QIcon(file) : QIcon();
+}
+
 void registerAction(PApplicationPool &pool, const ActionDescription &description)
 {
     const PString tip = PString::translate(description.tip, context);
@@ -63,7 +71,7 @@ void registerAction(PApplicationPool &pool, const ActionDescription &description
     action->setStatusTip(tip);
     action->setToolTip(tip);
     if (action->icon().isNull())
-        action->setIcon(QIcon(QString::fromUtf8(description.icon)));
+        action->setIcon(iconOf(QString::fromUtf8(description.icon)));
     if (description.isCheckable)
         action->setCheckable(true);
     if (!description.isEnabled)

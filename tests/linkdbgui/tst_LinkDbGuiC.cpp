@@ -37,6 +37,8 @@ private Q_SLOTS:
     void castByName_data();
     void castByName();
     void castOfNothing();
+    void isCreatedWithoutAPlaceForIt();
+    void connectsNoAction();
     void isRegistered();
     void isCreatedByTheRegistry();
     void initLinkDb_data();
@@ -146,6 +148,34 @@ void tst_LinkDbGuiC::castOfNothing()
     LinkDbGuiC plugin;
     QCOMPARE(plugin.asQObject(), &plugin);
     QCOMPARE(qobject_cast<PLinkDbGuiI *>(plugin.asQObject()), static_cast<PLinkDbGuiI *>(&plugin));
+}
+
+void tst_LinkDbGuiC::isCreatedWithoutAPlaceForIt()
+{
+    const PApplication host({});
+    void *arguments[] = {nullptr};
+    LinkDbGuiC::staticMetaObject.static_metacall(QMetaObject::CreateInstance, 0, arguments);
+    QObject *made = nullptr;
+    void *place[] = {&made};
+    LinkDbGuiC::staticMetaObject.static_metacall(QMetaObject::CreateInstance, 0, place);
+    QVERIFY(qobject_cast<LinkDbGuiC *>(made));
+    delete made;
+}
+
+void tst_LinkDbGuiC::connectsNoAction()
+{
+    class Action : public QAction
+    {
+    public:
+        using QAction::receivers;
+    };
+    const PApplication host({});
+    LinkDbGuiC plugin;
+    PApplicationPool pool;
+    plugin.registerActions(pool);
+    const auto actions = pool.actions();
+    for (const QAction *const action : actions)
+        QCOMPARE((action->*(&Action::receivers))(SIGNAL(triggered(bool))), 0);
 }
 
 void tst_LinkDbGuiC::isRegistered()
