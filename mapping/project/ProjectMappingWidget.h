@@ -48,8 +48,7 @@ public:
     /// True: target projects are looked for in the catalog repository, from the next project on.
     void setRemoteViewerMode(bool remote);
 
-public Q_SLOTS:
-    /// Replaces the mapping; the panels are not made anew.
+    /// Replaces the mapping; the panels are not made anew. A slot of the base alone.
     void onProjectMappingUpdated(const PrjMappingC &mapping) override;
 
 private:

@@ -16,6 +16,7 @@
 #include <geomcore/table/LineView.h>
 
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -52,8 +53,7 @@ void ProjectMappingWidgetPrivate::buildLayout()
     targetsWidget = new QWidget(scrollArea);
     targetsWidget->setObjectName(QStringLiteral("targetsWidget"));
     targetsWidget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    auto *const targetsLayout = new QVBoxLayout(targetsWidget);
-    Q_UNUSED(targetsLayout)
+    targetsWidget->setLayout(new QVBoxLayout);
     scrollArea->setWidget(targetsWidget);
     mainLayout->addWidget(scrollArea);
 
@@ -69,20 +69,29 @@ void ProjectMappingWidgetPrivate::clearTargets()
 
 void ProjectMappingWidgetPrivate::showTargets()
 {
+    const int load = ++m_load;
     const QList<PrjMappingTargetC> targets = params.projectMapping.getTargets();
     for (int index = 0; index < targets.size(); ++index) {
         const QString path = targets.at(index).getTargetPath();
         if (path.isEmpty())
             continue;
-        if (!PPathName(targetPath(!remoteViewerMode, path)).exists(false))
-            PMessage::Show(
-                PString::translate("Das Zielprojekt %1 existiert nicht mehr", "VelkLinkDbGui")
-                    .arg(path));
+        if (!tellIfMissing(path) || load != m_load)
+            return;
         TargetMappingWidget *const widget = makeTargetWidget(index, targetsWidget);
         targetsWidget->layout()->addWidget(widget);
         targetWidgets.append(widget);
     }
     updateMoveButtons();
+}
+
+bool ProjectMappingWidgetPrivate::tellIfMissing(const QString &path)
+{
+    if (PPathName(targetPath(!remoteViewerMode, path)).exists(false))
+        return true;
+    const QPointer<ProjectMappingWidgetPrivate> alive(this);
+    PMessage::Show(
+        PString::translate("Das Zielprojekt %1 existiert nicht mehr", "VelkLinkDbGui").arg(path));
+    return !alive.isNull();
 }
 
 TargetMappingWidget *ProjectMappingWidgetPrivate::makeTargetWidget(int index, QWidget *parent)
@@ -133,8 +142,10 @@ void ProjectMappingWidgetPrivate::relayoutTargets()
 
 void ProjectMappingWidgetPrivate::onAddTargetClicked()
 {
+    const QPointer<ProjectMappingWidgetPrivate> alive(this);
+    const int load = m_load;
     const QString path = chooseTargetProject(q, params.projectMapping.getSourcePath());
-    if (!path.isEmpty())
+    if (alive && load == m_load && !path.isEmpty())
         addTarget(path);
 }
 
@@ -156,20 +167,39 @@ void ProjectMappingWidgetPrivate::addTarget(const QString &path)
     target.setTargetVersion(versions.first);
     target.setTabVersion(versions.second);
     target.setValid(true);
-    const int index = params.projectMapping.insertTarget(insertIndex(path), target);
+    const int notFound = params.projectMapping.getNotFoundTarget();
+    int index = params.projectMapping.insertTarget(insertIndex(path), target);
     if (!params.catalogMapping.getReleases().isEmpty()) {
-        remapLines(collectConditionVariables(), false);
+        const int removed = remapLines(collectConditionVariables(), false);
+        // The panels have yet to learn of the new target.
+        if (removed >= 0)
+            closeGap(notFound);
+        if (removed >= 0 && removed < index)
+            --index;
         target = params.projectMapping.findTarget(index);
     }
     onTargetModified(target, index, TargetInserted);
 }
 
-void ProjectMappingWidgetPrivate::remapLines(const QStringList &conditionVariables, bool force)
+int ProjectMappingWidgetPrivate::remapLines(const QStringList &conditionVariables, bool force)
 {
+    const int notFound = params.projectMapping.getNotFoundTarget();
+    const int targets = params.projectMapping.countTargets();
     const QList<ReleaseMappingC> releases = params.catalogMapping.getReleases();
     remapProjectLines(params.projectMapping.getSourcePath(), params.projectMapping, content,
                       releases.isEmpty() ? ReleaseMappingC() : releases.first(), conditionVariables,
                       force);
+    return params.projectMapping.countTargets() < targets ? notFound : -1;
+}
+
+void ProjectMappingWidgetPrivate::closeGap(int removed)
+{
+    for (TargetMappingWidget *const widget : std::as_const(targetWidgets)) {
+        if (removed < 0 || widget->index <= removed)
+            continue;
+        --widget->index;
+        widget->updateMoveButtons();
+    }
 }
 
 QStringList ProjectMappingWidgetPrivate::conditionVariablesAt(int position) const
@@ -194,7 +224,7 @@ void ProjectMappingWidgetPrivate::onTargetModified(const PrjMappingTargetC &targ
         break;
     case TargetLinesChanged:
         params.projectMapping.updateTarget(index, target);
-        remapLines(conditionVariablesAt(index), false);
+        closeGap(remapLines(conditionVariablesAt(index), false));
         announce();
         break;
     case TargetInserted:
@@ -288,7 +318,7 @@ void ProjectMappingWidgetPrivate::moveTarget(int index, int neighbour)
     moved->updateMoveButtons();
     other->updateMoveButtons();
     if (!params.catalogMapping.getReleases().isEmpty())
-        remapLines(conditionVariablesAt(index), true);
+        closeGap(remapLines(conditionVariablesAt(index), true));
     announce();
     relayoutTargets();
 }

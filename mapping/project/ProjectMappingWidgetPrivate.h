@@ -59,8 +59,13 @@ public Q_SLOTS:
 
 private:
     [[nodiscard]] int insertIndex(const QString &path) const;
-    /// With the dates of the first release, or none without a release.
-    void remapLines(const QStringList &conditionVariables, bool force);
+    /// False if this went while the message was open.
+    [[nodiscard]] bool tellIfMissing(const QString &path);
+    /// With the dates of the first release, or none without a release. Gives the index that the
+    /// not-found target had if it was emptied and is gone, else -1.
+    [[nodiscard]] int remapLines(const QStringList &conditionVariables, bool force);
+    /// Brings the panels' indexes in line after the target with the index, if it is one, went.
+    void closeGap(int removed);
     [[nodiscard]] QStringList conditionVariablesAt(int position) const;
     void announce();
     void insertTarget(int index);
@@ -68,4 +73,6 @@ private:
     bool removeTargetWidget(int index);
     void keepLostLines();
     void moveTarget(int index, int neighbour);
+
+    int m_load = 0; ///< differs for each project that was shown
 };

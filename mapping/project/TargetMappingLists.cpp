@@ -144,14 +144,25 @@ void TargetMappingWidget::storeVariableMappings()
         notify(target, index, TargetModified);
 }
 
+void TargetMappingWidget::collapseEmptyLists()
+{
+    const bool filled = conditionModel->rowCount() > 0 || variableModel->rowCount() > 0;
+    conditionView->setVisible(filled);
+    variableView->setVisible(filled);
+}
+
 void TargetMappingWidget::onDeleteVarMapping(const QModelIndex &cell, int /*buttonIndex*/)
 {
-    if (variableModel->removeRows(cell.row(), 1))
-        storeVariableMappings();
+    if (!variableModel->removeRows(cell.row(), 1))
+        return;
+    collapseEmptyLists();
+    storeVariableMappings();
 }
 
 void TargetMappingWidget::onDeleteConditionClicked(const QModelIndex &cell, int /*buttonIndex*/)
 {
-    if (conditionModel->removeRows(cell.row(), 1))
-        storeConditions();
+    if (!conditionModel->removeRows(cell.row(), 1))
+        return;
+    collapseEmptyLists();
+    storeConditions();
 }

@@ -32,6 +32,7 @@ TargetMappingWidget::TargetMappingWidget(int targetIndex, const VKTab::ContentRe
     readTable(builtPath);
     loadConditions(target);
     loadVariableMappings(target);
+    collapseEmptyLists();
 }
 
 void TargetMappingWidget::showPath(const QString &path, const QString &builtPath)
@@ -79,9 +80,9 @@ void TargetMappingWidget::onSelectProjectClicked()
 
 void TargetMappingWidget::onMoveTargetUp()
 {
-    if (index <= 0)
-        return;
     const QList<PrjMappingTargetC> targets = params->projectMapping.getTargets();
+    if (index <= 0 || index >= targets.size())
+        return;
     params->projectMapping.updateTarget(index, targets.at(index - 1));
     params->projectMapping.updateTarget(index - 1, targets.at(index));
     if (notify)
@@ -91,7 +92,7 @@ void TargetMappingWidget::onMoveTargetUp()
 void TargetMappingWidget::onMoveTargetDown()
 {
     const QList<PrjMappingTargetC> targets = params->projectMapping.getTargets();
-    if (index >= targets.size() - 1)
+    if (index < 0 || index >= targets.size() - 1)
         return;
     params->projectMapping.updateTarget(index, targets.at(index + 1));
     params->projectMapping.updateTarget(index + 1, targets.at(index));

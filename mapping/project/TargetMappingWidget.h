@@ -75,6 +75,8 @@ private:
     void loadVariableMappings(const PrjMappingTargetC &target);
     void collectVariables(const QString &condition);
     [[nodiscard]] QString assignedVariable(const QString &formula) const;
+    /// As long as nothing can be entered, empty lists would only take room.
+    void collapseEmptyLists();
     void storeConditions();
     void storeVariableMappings();
     [[nodiscard]] bool passesCheck(const PrjMappingTargetC &target, const VKTab::LineId &sourceLine,

@@ -142,6 +142,7 @@ void CatalogMappingWidgetPrivate::makeConnections()
     connectTree();
     connectEditors();
     connectConflicts();
+    connect(projectWidget, SIGNAL(remapLinesClicked()), notifier, SIGNAL(linesReassigned()));
     connect(checkToCheck, SIGNAL(toggled(bool)), notifier, SIGNAL(onlyOpenProjectsChanged(bool)));
     connect(tableWidget->sourceView()->grid()->selectionModel(),
             SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), notifier,

@@ -17,4 +17,6 @@ Q_SIGNALS:
     /// Other lines of the source table are selected.
     void selectedLinesChanged();
     void onlyOpenProjectsChanged(bool on);
+    /// The lines of the project were assigned anew at the user's wish, with or without a change.
+    void linesReassigned();
 };

@@ -54,8 +54,9 @@ public:
 
     // What a host needs to know of the editor and to do to it, without its inner widgets.
 
-    /// Sends currentProjectChanged(), selectedLinesChanged() and onlyOpenProjectsChanged(bool), see
-    /// CatalogMappingNotifier; connected by name. Lives as long as the widget.
+    /// Sends the signals of CatalogMappingNotifier: currentProjectChanged(), selectedLinesChanged(),
+    /// onlyOpenProjectsChanged(bool), linesReassigned(). Connected by name; lives as long as the
+    /// widget.
     [[nodiscard]] QObject *notifier() const;
 
     /// Mapping of the project that was opened last, as the handler has it; not valid if none is or

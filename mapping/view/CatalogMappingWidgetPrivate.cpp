@@ -86,9 +86,14 @@ PPathName CatalogMappingWidgetPrivate::projectFile(const QString &sourcePath) co
 
 void CatalogMappingWidgetPrivate::openNode(const Node &node)
 {
+    const QPointer<CatalogMappingWidgetPrivate> alive(this);
     shownNode = node;
     setEditorsEnabled(isProject(node));
-    if (isProject(node) && !loadProject(node))
+    const bool loaded = isProject(node) && loadProject(node);
+    // Messages of missing targets let anything happen meanwhile.
+    if (!alive || shownNode != node)
+        return;
+    if (!loaded)
         setEditorsEnabled(false);
     Q_EMIT notifier->currentProjectChanged();
 }
@@ -104,7 +109,10 @@ bool CatalogMappingWidgetPrivate::loadProject(const Node &node)
     const CatalogMappingC catalog = handler->getCatalogMapping();
     const PrjMappingC mapping = node->getMapping();
     tableWidget->loadSourceTable(content, mapping, catalog);
+    const QPointer<CatalogMappingWidgetPrivate> alive(this);
     projectWidget->loadSourceProject(mapping, content, catalog);
+    if (!alive || shownNode != node)
+        return false;
     conflictWidget->loadSourceProject(mapping, content);
     return true;
 }
@@ -119,7 +127,10 @@ void CatalogMappingWidgetPrivate::reloadProject()
     const int line = place().currentLine();
     VkTableView *const view = tableWidget->sourceView();
     const int scroll = view->getVerticalScrollPos();
+    const QPointer<CatalogMappingWidgetPrivate> alive(this);
     openNode(Node(shownNode));
+    if (!alive)
+        return;
     view->setVerticalScrollPos(scroll);
     if (line >= 0)
         place().selectLine(line);
@@ -139,7 +150,10 @@ void CatalogMappingWidgetPrivate::showMapping(const PrjMappingC &mapping)
         tableWidget->onProjectMappingUpdated(mapping);
         conflictWidget->onMappingUpdated(mapping);
     } else if (shows(mapping)) {
+        const QPointer<CatalogMappingWidgetPrivate> alive(this);
         reloadProject();
+        if (!alive)
+            return;
     }
     showRelease();
 }

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemModel>
 #include <QPointer>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSplitter>
 
@@ -67,6 +68,7 @@ private Q_SLOTS:
     void showsAMappingSilently();
     void showsAMappingOfAnotherProject();
     void opensTheProjectAnewForOtherTargets();
+    void tellsReassignment();
     void filtersOpenProjects();
     void preferredRangesOfBothTables();
     void opensDirectories();
@@ -80,7 +82,7 @@ void tst_CatalogMappingSeam::signalsStandBesideTheWidget()
     const Editor editor;
     QCOMPARE(signalsOf(*editor.widget->notifier()->metaObject()),
              QStringList({"currentProjectChanged()", "selectedLinesChanged()",
-                          "onlyOpenProjectsChanged(bool)"}));
+                          "onlyOpenProjectsChanged(bool)", "linesReassigned()"}));
     QCOMPARE(signalsOf(CatalogMappingWidget::staticMetaObject), QStringList());
 }
 
@@ -247,6 +249,20 @@ void tst_CatalogMappingSeam::opensTheProjectAnewForOtherTargets()
     QCOMPARE(editor.widget->currentLine(), 2);
     QCOMPARE(announced.count(), 0);
     QVERIFY(!editor.calls.contains("updateMapping"));
+}
+
+void tst_CatalogMappingSeam::tellsReassignment()
+{
+    const Editor editor;
+    editor.show();
+    editor.click(a);
+    QStringList order;
+    connect(editor.table, &PrjMappingWidgetBase::projectMappingUpdated, this,
+            [&] { order += "published"; });
+    QSignalSpy reassigned(editor.widget->notifier(), SIGNAL(linesReassigned()));
+    QTest::mouseClick(editor.project->findChild<QPushButton *>("remapLinesButton"), Qt::LeftButton);
+    QCOMPARE(reassigned.size(), 1);
+    QCOMPARE(order, QStringList{"published"});
 }
 
 void tst_CatalogMappingSeam::filtersOpenProjects()

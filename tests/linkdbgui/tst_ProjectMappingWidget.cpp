@@ -1,105 +1,11 @@
-#include "EditorFixture.h"
+#include "ProjectEditor.h"
 
-#include <mapping/project/ProjectMappingWidget.h>
-
-#include <QApplication>
-#include <QFileDialog>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QSignalSpy>
-#include <QTableView>
-#include <QTimer>
 #include <QVBoxLayout>
 
 using PRJMAPPING::Mapped;
 using PRJMAPPING::ToCheck;
 using PRJMAPPING::Verified;
-
-namespace {
-
-const QByteArray lines = "D,k:n\nM8,5\nM9,6\nM10,7\n";
-
-/// Three target projects; the second holds the lines of the first too.
-struct Catalog
-{
-    Catalog()
-    {
-        catalog.write("old/a.prj", lines);
-        catalog.write("new/a.prj", "D,k:n\nM8,5\nM9,6\n");
-        catalog.write("new/b.prj", lines);
-        catalog.write("new/c.prj", "D,k:n\nM12,9\n");
-    }
-
-    TestCatalog catalog;
-    LocalCatalogs local{catalog.root()};
-    MessageCapture messages;
-};
-
-/// The widget with a project in it, and the announcements that it makes.
-struct Editor : Catalog
-{
-    void load(const PrjMappingC &mapping) { load(mapping, catalogOf(mapping)); }
-    void load(const PrjMappingC &mapping, const CatalogMappingC &catalogMapping)
-    {
-        widget.setApplicationHandler(&application);
-        widget.loadSourceProject(mapping, catalog.read("old/a.prj"), catalogMapping);
-        widget.resize(900, 700);
-        widget.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&widget));
-    }
-    [[nodiscard]] TargetMappingWidget *panel(int place) const
-    {
-        return targetPanels(&widget).value(place);
-    }
-    [[nodiscard]] QPushButton *button(int place, const char *name) const
-    {
-        return panel(place)->findChild<QPushButton *>(QLatin1String(name));
-    }
-    void click(int place, const char *name) const
-    {
-        QTest::mouseClick(button(place, name), Qt::LeftButton);
-    }
-    /// The last announced mapping.
-    [[nodiscard]] PrjMappingC announced() const
-    {
-        return updates.isEmpty() ? PrjMappingC() : updates.last().first().value<PrjMappingC>();
-    }
-    /// "index" of the panels as they stand, with "^" and "v" for enabled move buttons.
-    [[nodiscard]] QString places() const
-    {
-        QStringList texts;
-        const QList<TargetMappingWidget *> panels = targetPanels(&widget);
-        for (const TargetMappingWidget *const target : panels)
-            texts.append(QString::number(target->index) +
-                         (target->upButton->isEnabled() ? QStringLiteral("^") : QString()) +
-                         (target->downButton->isEnabled() ? QStringLiteral("v") : QString()));
-        return texts.join(u' ');
-    }
-    /// Answers the file dialog of the next event loop with a file, or cancels it.
-    static void answerFileDialog(const QString &file, QString *directory = nullptr)
-    {
-        QTimer::singleShot(0, [file, directory] {
-            auto *const dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
-            if (directory)
-                *directory = dialog->directory().path();
-            if (file.isEmpty()) {
-                dialog->reject();
-                return;
-            }
-            dialog->selectFile(file);
-            QMetaObject::invokeMethod(dialog, "accept");
-        });
-    }
-
-    QStringList calls;
-    NotingApplication application{&calls};
-    ProjectMappingWidget widget{nullptr};
-    QSignalSpy updates{&widget, SIGNAL(projectMappingUpdated(PrjMappingC))};
-    QSignalSpy accepted{&widget, SIGNAL(targetLineConflictAccepted(int))};
-};
-
-} // namespace
 
 class tst_ProjectMappingWidget : public QObject
 {
@@ -190,7 +96,9 @@ void tst_ProjectMappingWidget::metaObject()
                                    "targetLineConflictAccepted(int)/", "remapLinesClicked()/",
                                    "onProjectMappingUpdated(PrjMappingC)/mapping"}));
     QCOMPARE(base.superClass()->className(), "QWidget");
-    QCOMPARE(ProjectMappingWidget::staticMetaObject.superClass(), &base);
+    const QMetaObject &own = ProjectMappingWidget::staticMetaObject;
+    QCOMPARE(own.superClass(), &base);
+    QCOMPARE(own.methodCount(), own.methodOffset());
 }
 
 void tst_ProjectMappingWidget::remapButtonAsksForRemapping()
@@ -529,18 +437,6 @@ void tst_ProjectMappingWidget::conditionsAreShown()
     // By the list of panels, which keeps the order in which they were made.
     QCOMPARE(editor.widget.collectConditionVariables(), QStringList({"D", "k"}));
 }
-
-namespace {
-
-/// Clicks the delete button of a row.
-void clickDelete(QTableView *view, int row)
-{
-    const QRect cell = view->visualRect(view->model()->index(row, 0));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      cell.topLeft() + QPoint(12, cell.height() / 2));
-}
-
-} // namespace
 
 void tst_ProjectMappingWidget::deleteCondition()
 {
