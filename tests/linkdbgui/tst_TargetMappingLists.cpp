@@ -1,0 +1,137 @@
+// What the lists of a target show and what they store.
+#include "ProjectEditor.h"
+
+#include <mapping/project/TargetItemRole.h>
+
+#include <geomcore/binding/VarsetConditionI.h>
+#include <geomcore/binding/VarsetValueMappingC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
+
+namespace {
+
+QTableView *listOf(const Editor &editor, const char *name)
+{
+    return editor.panel(0)->findChild<QTableView *>(QLatin1String(name));
+}
+
+/// "target=source" or the formula, in stored order.
+QString modifiersOf(const PrjMappingTargetC &target)
+{
+    QStringList texts;
+    const auto modifiers = target.getVarsetModifier();
+    for (const VarsetModifierI *const modifier : modifiers) {
+        if (const auto *const plain = dynamic_cast<const VarsetVarMappingC *>(modifier))
+            texts += plain->getTargetVarName() + '=' + plain->getSourceVarName();
+        else if (const auto *const value = dynamic_cast<const VarsetValueMappingC *>(modifier))
+            texts += value->getFormula();
+    }
+    return texts.join("; ");
+}
+
+} // namespace
+
+class tst_TargetMappingLists : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void roles();
+    void ignoredRowIsStoredAsIgnored();
+    void orderIsStored();
+    void brokenConditionStaysARow();
+    void hiddenFormulaIsGone();
+    void emptyListsTakeNoRoom();
+    void removeButtonHasAnIcon();
+};
+
+void tst_TargetMappingLists::roles()
+{
+    QCOMPARE(int(RowRole), 32);
+    QCOMPARE(int(VariableNameRole), 33);
+    QCOMPARE(int(FormulaRole), 34);
+    QCOMPARE(int(IgnoredRole), 35);
+}
+
+void tst_TargetMappingLists::ignoredRowIsStoredAsIgnored()
+{
+    Editor editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addRename(mapping, 0, "k", "D");
+    addRename(mapping, 0, "", "k");
+    editor.load(mapping);
+    const QAbstractItemModel *const model = listOf(editor, "variableView")->model();
+    QCOMPARE(model->index(1, 2).data(IgnoredRole).toBool(), true);
+    QCOMPARE(model->index(0, 2).data(IgnoredRole).toBool(), false);
+    clickDelete(listOf(editor, "variableView"), 0);
+    QCOMPARE(modifiersOf(editor.announced().findTarget(0)), QStringLiteral("k="));
+}
+
+void tst_TargetMappingLists::orderIsStored()
+{
+    Editor editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addRename(mapping, 0, "k", "D");
+    addFormula(mapping, 0, "k = k + 1");
+    addRename(mapping, 0, "D", "k");
+    addRename(mapping, 0, "", "D");
+    editor.load(mapping);
+    QCOMPARE(listOf(editor, "variableView")->model()->index(1, 2).data(FormulaRole).toBool(), true);
+    clickDelete(listOf(editor, "variableView"), 0);
+    QCOMPARE(modifiersOf(editor.announced().findTarget(0)), QStringLiteral("k = k + 1; k=D; D="));
+}
+
+void tst_TargetMappingLists::brokenConditionStaysARow()
+{
+    Editor editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addCondition(mapping, 0, "D .EQ. 'M8'");
+    addCondition(mapping, 0, "gone .EQ. 1");
+    addCondition(mapping, 0, "k .LT. 9");
+    editor.load(mapping);
+    clickDelete(listOf(editor, "conditionView"), 0);
+    const QAbstractItemModel *const model = listOf(editor, "conditionView")->model();
+    QCOMPARE(model->rowCount(), 2);
+    QCOMPARE(model->index(0, 1).data().toString(), QStringLiteral("gone .EQ. 1"));
+    const auto stored = editor.announced().findTarget(0).getConditions();
+    QCOMPARE(stored.size(), 1);
+    QCOMPARE(stored.first()->getCondition(), QStringLiteral("k .LT. 9"));
+    QCOMPARE(editor.panel(0)->conditionVariables, QStringList("k"));
+}
+
+void tst_TargetMappingLists::hiddenFormulaIsGone()
+{
+    Editor editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addRename(mapping, 0, "k", "D");
+    addFormula(mapping, 0, "gone = k + 1");
+    addRename(mapping, 0, "D", "k");
+    editor.load(mapping);
+    QCOMPARE(listOf(editor, "variableView")->model()->rowCount(), 2);
+    clickDelete(listOf(editor, "variableView"), 0);
+    QCOMPARE(modifiersOf(editor.announced().findTarget(0)), QStringLiteral("k=D"));
+}
+
+void tst_TargetMappingLists::emptyListsTakeNoRoom()
+{
+    Editor editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj"});
+    addCondition(mapping, 0, "k .LT. 9");
+    editor.load(mapping, CatalogMappingC());
+    QVERIFY(listOf(editor, "conditionView")->isVisible());
+    QVERIFY(listOf(editor, "variableView")->isVisible());
+    QVERIFY(editor.panel(1)->findChild<QTableView *>("conditionView")->isHidden());
+    QVERIFY(editor.panel(1)->sizeHint().height() < editor.panel(0)->sizeHint().height());
+    clickDelete(listOf(editor, "conditionView"), 0);
+    QVERIFY(listOf(editor, "conditionView")->isHidden());
+    QVERIFY(listOf(editor, "variableView")->isHidden());
+}
+
+void tst_TargetMappingLists::removeButtonHasAnIcon()
+{
+    Editor editor;
+    editor.load(mappingOf("old/a.prj", {"new/a.prj"}));
+    QVERIFY(!editor.button(0, "removeButton")->icon().pixmap(16, 16).isNull());
+}
+
+QTEST_MAIN(tst_TargetMappingLists)
+#include "tst_TargetMappingLists.moc"
