@@ -1,5 +1,7 @@
 #include "StartOptions.h"
 
+#include "EditorLanguages.h"
+
 #include <core/Version.h>
 
 #include <QCommandLineParser>
@@ -28,7 +30,7 @@ void addOptions(QCommandLineParser &parser)
         {"size", "Size of the window, such as 1400x900.", "WxH"},
         {"scale", "Pixels for a length of 1 in a screenshot: 1 or 2.", "N", "1"},
         {"theme", "light or dark.", "THEME"},
-        {"language", "de or en.", "LANGUAGE"},
+        {"language", EditorLanguages::all().join(" or ") + ".", "LANGUAGE"},
         {"settings", "Directory of settings and journals; the user's own by default.", "DIR"},
     });
 }
@@ -54,8 +56,8 @@ QString wrongValue(const QCommandLineParser &parser, const StartOptions &options
         return wrong("scale", "1 or 2");
     if (!options.theme.isEmpty() && options.theme != "light" && options.theme != "dark")
         return wrong("theme", "light or dark");
-    if (!options.language.isEmpty() && options.language != "de" && options.language != "en")
-        return wrong("language", "de or en");
+    if (!options.language.isEmpty() && !EditorLanguages::all().contains(options.language))
+        return wrong("language", EditorLanguages::all().join(" or "));
     return {};
 }
 

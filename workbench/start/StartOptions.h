@@ -25,7 +25,7 @@ struct StartOptions
     QString screenshot; ///< file; the program renders the editor into it and ends
     QSize size;         ///< of the window, in device independent pixels
     QString theme;      ///< "light", "dark"; empty: as set
-    QString language;   ///< "de", "en"; empty: as set
+    QString language;   ///< one of EditorLanguages; empty: as set
     int scale = 1;
     QString settingsDirectory; ///< empty: the user's own
     bool readOnly = false;

@@ -29,8 +29,9 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     setWindowTitle(tr("Einstellungen"));
     m_language->setObjectName("language");
     // A language is called by its own name.
-    m_language->addItem(QStringLiteral("Deutsch"), "de");
-    m_language->addItem(QStringLiteral("English"), "en");
+    const QStringList languages = EditorLanguages::all();
+    for (const QString &language : languages)
+        m_language->addItem(EditorLanguages::nameOf(language), language);
     m_language->setCurrentIndex(m_language->findData(values.language));
     m_theme->setObjectName("theme");
     m_theme->addItem(tr("Wie der Desktop"), QString());

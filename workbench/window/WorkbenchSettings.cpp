@@ -37,7 +37,8 @@ WorkbenchSettings::WorkbenchSettings(const QString &file, QObject *parent)
 void WorkbenchSettings::read()
 {
     const Values standard;
-    m_values.language = m_store.value("Settings/language", standard.language).toString();
+    const QString language = m_store.value("Settings/language").toString();
+    m_values.language = EditorLanguages::all().contains(language) ? language : standard.language;
     m_values.theme = m_store.value("Settings/theme").toString();
     m_values.fontPercent =
         std::clamp(m_store.value("Settings/fontPercent", standard.fontPercent).toInt(),

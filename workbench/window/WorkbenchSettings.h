@@ -1,5 +1,7 @@
 #pragma once
 
+#include <workbench/start/EditorLanguages.h>
+
 #include <QKeySequence>
 #include <QObject>
 #include <QSettings>
@@ -14,10 +16,10 @@ public:
     /// What the settings dialog changes.
     struct Values
     {
-        QString language = QStringLiteral("de"); ///< "de", "en"
-        QString theme;                           ///< "light", "dark"; empty: as the desktop
-        int fontPercent = 100;                   ///< of the desktop's font size
-        int autosaveMinutes = 3;                 ///< 0: never
+        QString language = EditorLanguages::firstOn();
+        QString theme;           ///< "light", "dark"; empty: as the desktop
+        int fontPercent = 100;   ///< of the desktop's font size
+        int autosaveMinutes = 3; ///< 0: never
         QKeySequence nextLine = QKeySequence(QStringLiteral("F8"));
         QKeySequence previousLine = QKeySequence(QStringLiteral("Shift+F8"));
 

@@ -47,6 +47,9 @@ WindowFixture::WindowFixture()
 {
     if (!QDir::searchPaths("bitmaps").contains(":/hostbitmaps"))
         QDir::addSearchPath("bitmaps", ":/hostbitmaps");
+    WorkbenchSettings::Values values = settings->values();
+    values.language = "de"; // whatever the desktop has
+    settings->setValues(values);
     PTranslateManager::registerModule("velkworkbench");
     PTranslateManager::registerLibraries();
     PTranslateManager::instance().setLanguage("de");

@@ -19,7 +19,7 @@ private Q_SLOTS:
     {
         const WorkbenchSettings settings(m_directory.filePath("standard.ini"));
         QCOMPARE(settings.values(), WorkbenchSettings::Values());
-        QCOMPARE(settings.values().language, QStringLiteral("de"));
+        QCOMPARE(settings.values().language, EditorLanguages::firstOn());
         QCOMPARE(settings.values().nextLine, QKeySequence("F8"));
         QCOMPARE(settings.values().previousLine, QKeySequence("Shift+F8"));
         QCOMPARE(settings.values().autosaveMinutes, 3);
