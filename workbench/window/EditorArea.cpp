@@ -74,6 +74,7 @@ void EditorArea::make()
     connect(notifier, SIGNAL(selectedLinesChanged()), this, SIGNAL(linesSelected()));
     connect(notifier, SIGNAL(onlyOpenProjectsChanged(bool)), this,
             SIGNAL(onlyOpenProjectsChanged(bool)));
+    connect(notifier, SIGNAL(linesReassigned()), this, SIGNAL(linesReassigned()));
     m_editor->show();
     Q_EMIT editorMade();
 }

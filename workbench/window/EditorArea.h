@@ -70,6 +70,8 @@ Q_SIGNALS:
     void linesSelected();
     /// The tree's filter for projects with work left was set or taken away.
     void onlyOpenProjectsChanged(bool on);
+    /// The lines of the project were assigned anew at the user's wish, with or without a change.
+    void linesReassigned();
     /// The host's part view should show a target project.
     void targetProjectWanted(const QString &targetPath);
 

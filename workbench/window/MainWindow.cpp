@@ -97,6 +97,9 @@ void MainWindow::connectParts()
     connect(m_status, &StatusArea::nextOpenRequested, m_lines, &LineCommands::goNext);
     connect(m_status, &StatusArea::undoRequested, m_desk->document(), &MappingDocument::undo);
     connect(m_editor, &EditorArea::targetProjectWanted, this, &MainWindow::showTargetProject);
+    // What changed, if anything did, is told at the end of the step, over this.
+    connect(m_editor, &EditorArea::linesReassigned, this,
+            [this] { m_status->showNote(tr("Zeilen neu zugewiesen: keine Änderung")); });
     m_counterTimer->setSingleShot(true);
     m_counterTimer->setInterval(30);
     connect(m_counterTimer, &QTimer::timeout, this, &MainWindow::updateCounter);

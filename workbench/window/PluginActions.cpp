@@ -2,6 +2,7 @@
 
 #include "EditorArea.h"
 #include "LegendDialog.h"
+#include "Question.h"
 
 #include <core/plugin/PLinkDbGuiI.h>
 #include <core/plugin/PTranslateManager.h>
@@ -111,7 +112,7 @@ QString PluginActions::reasonAgainst(const QAction *action) const
         return {};
     if (name == "LinkDbFilteronoff" || name == "PreferredRanges")
         return m_editor->isOpen() ? QString() : tr("nicht verfügbar: es ist keine Datei geöffnet");
-    if (name != "LinkDbSendMail")
+    if (needsDatabase(action))
         return tr("nicht verfügbar: es ist keine Linkdatenbank verbunden");
     if (m_editor->currentPath().isEmpty())
         return tr("nicht verfügbar: es ist kein Projekt gewählt");
@@ -119,10 +120,20 @@ QString PluginActions::reasonAgainst(const QAction *action) const
                                        : QString();
 }
 
+bool PluginActions::needsDatabase(const QAction *action)
+{
+    static const QStringList others{"LinkDbSendMail", "LinkDbShowLegend", "LinkDbFilteronoff",
+                                    "PreferredRanges"};
+    return !others.contains(action->objectName());
+}
+
 void PluginActions::update()
 {
-    for (const Source &source : std::as_const(m_sources))
+    for (const Source &source : std::as_const(m_sources)) {
         setReason(source, reasonAgainst(source.action));
+        // They would only fill the bar as long as no database is set up.
+        source.action->setVisible(!needsDatabase(source.action));
+    }
 }
 
 void PluginActions::takeTreeFilter()
@@ -152,5 +163,9 @@ void PluginActions::sendMail()
     QUrl url;
     url.setScheme("mailto");
     url.setQuery(query);
-    QDesktopServices::openUrl(url);
+    if (!QDesktopServices::openUrl(url))
+        Question::tell(m_editor->window(), tr("Es konnte keine Mail begonnen werden."),
+                       tr("Auf diesem Rechner ist kein Mailprogramm eingerichtet. Die Anfrage "
+                          "lautet:\n\n%1: %2")
+                           .arg(path, line));
 }

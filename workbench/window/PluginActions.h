@@ -43,6 +43,7 @@ private:
     /// A reason disables the action and stands behind its tip.
     static void setReason(const Source &source, const QString &reason);
     [[nodiscard]] QString reasonAgainst(const QAction *action) const;
+    [[nodiscard]] static bool needsDatabase(const QAction *action);
 
     EditorArea *const m_editor;
     QList<Source> m_sources;

@@ -700,11 +700,15 @@ private Q_SLOTS:
         fixture.open(fixture.mappingFile());
         QVERIFY(fixture.window->editor()->selectProject(din933));
         QVERIFY(fixture.window->editor()->selectLine(4));
+        fixture.window->editor()->editor()->expandDirectories({"standardparts/washers"});
+        const QStringList open = fixture.window->editor()->editor()->expandedDirectories();
+        QVERIFY(open.contains("standardparts/washers"));
         const QPointer<QTreeView> before(fixture.window->findChild<QTreeView *>("treeView"));
         const QPointer<QAbstractItemModel> model(fixture.window->editor()->editor()->treeModel());
         fixture.press(Qt::Key_F5);
         QVERIFY(!before);
         QVERIFY(!model); // and with it the old release
+        QCOMPARE(fixture.window->editor()->editor()->expandedDirectories(), open);
         QCOMPARE(fixture.window->editor()->currentPath(), din933);
         QCOMPARE(fixture.window->editor()->currentLine(), 4);
     }

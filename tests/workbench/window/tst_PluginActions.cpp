@@ -83,6 +83,7 @@ private Q_SLOTS:
         const WindowFixture fixture;
         const QAction *const action = pooled(qPrintable(name));
         QVERIFY(!action->isEnabled());
+        QCOMPARE(action->isVisible(), !tip.contains("Linkdatenbank verbunden"));
         QCOMPARE(action->toolTip(), tip);
         QCOMPARE(action->statusTip(), tip);
     }
