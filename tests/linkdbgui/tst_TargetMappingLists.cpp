@@ -7,6 +7,8 @@
 #include <geomcore/binding/VarsetValueMappingC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
 
+#include <QScopeGuard>
+
 namespace {
 
 QTableView *listOf(const Editor &editor, const char *name)
@@ -128,6 +130,10 @@ void tst_TargetMappingLists::emptyListsTakeNoRoom()
 
 void tst_TargetMappingLists::removeButtonHasAnIcon()
 {
+    // The host's pictures, where it says that they are.
+    const QStringList before = QDir::searchPaths("bitmaps");
+    QDir::addSearchPath("bitmaps", ":/hostbitmaps");
+    const auto restore = qScopeGuard([&] { QDir::setSearchPaths("bitmaps", before); });
     Editor editor;
     editor.load(mappingOf("old/a.prj", {"new/a.prj"}));
     QVERIFY(!editor.button(0, "removeButton")->icon().pixmap(16, 16).isNull());
