@@ -45,7 +45,8 @@ public:
     {
         setTableColumn(widget, [widget] { return widget->selectedSourceLine(); });
     }
-    /// True: target projects are looked for in the catalog repository, from the next project on.
+    /// True: targets get addresses in the catalog repository, from the next project on. The library
+    /// reads no repository, so they count as missing.
     void setRemoteViewerMode(bool remote);
 
     /// Replaces the mapping; the panels are not made anew. A slot of the base alone.

@@ -44,7 +44,8 @@ public:
     void setConflictedOnlineChanges(const MappingChangeMap &changes);
     /// Whether any mapping of the last release holds a line in conflict.
     [[nodiscard]] bool hasConflicts() const;
-    /// True: target projects are shown from the catalog repository instead of the local catalogs.
+    /// True: targets get addresses in the catalog repository instead of local paths. The library
+    /// reads no repository, so each target is then told as missing and has no table.
     void setRemoteViewerMode(bool remote);
 
     /// Where a target project is: below the local catalog root (the reference in the result stays
@@ -54,9 +55,9 @@ public:
 
     // What a host needs to know of the editor and to do to it, without its inner widgets.
 
-    /// Sends the signals of CatalogMappingNotifier: currentProjectChanged(), selectedLinesChanged(),
-    /// onlyOpenProjectsChanged(bool), linesReassigned(). Connected by name; lives as long as the
-    /// widget.
+    /// Sends the signals of CatalogMappingNotifier: currentProjectChanged(),
+    /// selectedLinesChanged(), onlyOpenProjectsChanged(bool), linesReassigned(). Connected by name;
+    /// lives as long as the widget.
     [[nodiscard]] QObject *notifier() const;
 
     /// Mapping of the project that was opened last, as the handler has it; not valid if none is or

@@ -536,6 +536,10 @@
         <translation>Assign the lines of the whole catalog?</translation>
     </message>
     <message>
+        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <translation>Lines assigned again: no change</translation>
+    </message>
+    <message>
         <source>Zielprojekt: %1</source>
         <translation>Target project: %1</translation>
     </message>
@@ -761,6 +765,14 @@ Please choose another file or copy a backup (%2) back.</translation>
 <context>
     <name>PluginActions</name>
     <message>
+        <source>Auf diesem Rechner ist kein Mailprogramm eingerichtet. Die Anfrage lautet:
+
+%1: %2</source>
+        <translation>No mail program is set up on this computer. The request is:
+
+%1: %2</translation>
+    </message>
+    <message>
         <source>Bitte eine ERP-Nummer vergeben.
 
 Projekt: %1
@@ -775,6 +787,10 @@ Line: %2
     <message>
         <source>ERP-Nummer für %1, Zeile %2</source>
         <translation>ERP number for %1, line %2</translation>
+    </message>
+    <message>
+        <source>Es konnte keine Mail begonnen werden.</source>
+        <translation>No mail could be begun.</translation>
     </message>
     <message>
         <source>nicht verfügbar: es ist kein Projekt gewählt</source>
