@@ -37,6 +37,9 @@ CatalogMappingC ReleaseMappingHandler::getCatalogMapping() const
 
 void ReleaseMappingHandler::updateMapping(const PrjMappingC &mapping)
 {
+    Q_ASSERT_X(mapping.isValid(), "updateMapping", "a mapping without source path");
+    if (!mapping.isValid()) // it would spoil the counts and the file
+        return;
     const PrjMappingC stored = d->release->release().findMapping(
         mapping.getSourcePath(), mapping.getSourceVersion(), mapping.getTabVersion());
     if (stored.isValid())

@@ -12,17 +12,17 @@ bool MappedTargetLines::update(const PrjMappingC &mapping, const QList<int> &tar
     if (!changed)
         return countAll();
     std::unordered_map<int, bool> formerly;
-    const auto move = [&](const LineTable::Row *row, int difference) {
-        if (!row)
+    const auto move = [&](const LineTable::Iterator &entry, int difference) {
+        if (!entry)
             return;
-        formerly.emplace(row->targetLine, contains(row->targetLine));
-        count(row->targetLine, difference);
+        formerly.emplace(entry.targetLine(), contains(entry.targetLine()));
+        count(entry.targetLine(), difference);
     };
     for (const int index : targets) {
         for (const int line : *changed) {
             if (index < before.countTargets())
-                move(before.targetAt(index).lines().findRow(line), -1);
-            move(mapping.targetAt(index).lines().findRow(line), 1);
+                move(before.targetAt(index).lines().find(line), -1);
+            move(mapping.targetAt(index).lines().find(line), 1);
         }
     }
     for (const auto &[line, held] : formerly) {

@@ -54,7 +54,8 @@ inline PrjMappingTargetC randomTarget(QRandomGenerator &random, int lines)
             result.addModifier(VarsetValueMappingC::fromText(randomText(random)));
     }
     for (int i = 0; i < lines; ++i) {
-        const int id = random.bounded(3) == 0 ? int(random.generate()) : int(random.bounded(1000));
+        const int id =
+            random.bounded(3) == 0 ? int(random.generate() >> 1U) : int(random.bounded(1000));
         const int line = random.bounded(4) == 0 ? -1 : int(random.bounded(100000));
         result.addLineId(id, line, PRJMAPPING::CheckState(random.bounded(5)),
                          random.bounded(6) == 0 ? randomText(random) : QString());
@@ -66,8 +67,12 @@ inline PrjMappingTargetC randomTarget(QRandomGenerator &random, int lines)
 inline PrjMappingC randomMapping(QRandomGenerator &random, const QString &path)
 {
     PrjMappingC result = mapping(path, randomText(random), randomText(random));
-    for (quint32 i = random.bounded(4); i > 0; --i)
-        result.addTarget(randomTarget(random, int(random.bounded(40))));
+    for (quint32 i = random.bounded(4); i > 0; --i) {
+        PrjMappingTargetC target = randomTarget(random, int(random.bounded(40)));
+        if (i > 1 && target.isNotFoundTarget()) // is the last one if there is one
+            target.setTargetPath("cat/x.prj");
+        result.addTarget(target);
+    }
     if (random.bounded(3) == 0)
         result.setMappingState(PRJMAPPING::MappingState::fromInt(int(random.bounded(0x1000))));
     return result;

@@ -61,6 +61,10 @@ class tst_LineTable : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void walkBack();
+    void lowerBound();
+    void texts();
+    void differences();
     void changedLines();
     void changedLinesOfRandomTables_data();
     void changedLinesOfRandomTables();
@@ -72,7 +76,7 @@ private Q_SLOTS:
         QVERIFY(table.isEmpty());
         QVERIFY(table.begin() == table.end());
         QVERIFY(!table.contains(0));
-        QVERIFY(table.findRow(0) == nullptr);
+        QVERIFY(!table.find(0));
         QVERIFY(table.value(5) == PrjMappingTargetLineC(-1, PRJMAPPING::ToCheck, ""));
         QVERIFY(!table.remove(0));
         table.setConflict(0, true);
@@ -316,6 +320,95 @@ private Q_SLOTS:
         QCOMPARE(int(table.value(1).getState()), state);
     }
 };
+
+namespace {
+
+/// Lines 0, 3, 6 ... of several pages and chunks; each hundredth has a text.
+LineTable everyThird(int count)
+{
+    LineTable table;
+    for (int i = 0; i < count; ++i)
+        table.set(3 * i, makeLine(i, 1, false, i % 100 == 99 ? "text" : QString()));
+    return table;
+}
+
+} // namespace
+
+void tst_LineTable::walkBack()
+{
+    for (int count : {0, 1, 256, 257, 40000}) {
+        const LineTable table = everyThird(count);
+        LineTable::Iterator at = table.end();
+        for (int i = count - 1; i >= 0; --i) {
+            --at;
+            QCOMPARE(at->sourceLine(), 3 * i);
+            QCOMPARE(at->line(), table.value(3 * i));
+        }
+        QVERIFY(at == table.begin());
+        for (int i = 0; i < count; ++i)
+            QCOMPARE((at++)->sourceLine(), 3 * i);
+        QVERIFY(at == table.end());
+    }
+}
+
+void tst_LineTable::lowerBound()
+{
+    QVERIFY(LineTable().lowerBound(0) == LineTable().end());
+    constexpr int count = 40000;
+    const LineTable table = everyThird(count);
+    int wrong = 0;
+    for (int i = 0; i < count; ++i) {
+        for (int line = 3 * i - 2; line <= 3 * i; ++line)
+            wrong += table.lowerBound(line)->sourceLine() == 3 * i ? 0 : 1;
+    }
+    QCOMPARE(wrong, 0);
+    QVERIFY(table.lowerBound(3 * count - 2) == table.end());
+    QVERIFY(table.lowerBound(std::numeric_limits<qint64>::max()) == table.end());
+    QVERIFY(table.lowerBound(std::numeric_limits<qint64>::min()) == table.begin());
+    QVERIFY(table.find(3) != table.end());
+    QVERIFY(!table.find(4));
+}
+
+void tst_LineTable::texts()
+{
+    QList<int> found;
+    const LineTable table = everyThird(1000);
+    for (const LineTable::Iterator &entry : table.texts())
+        found.append(entry.sourceLine());
+    QCOMPARE(found, (QList<int>{297, 597, 897, 1197, 1497, 1797, 2097, 2397, 2697, 2997}));
+    LineTable sparse;
+    for (int i = 0; i < 3000; ++i)
+        sparse.set(i, makeLine(i, 1, false, i == 2500 ? "text" : QString()));
+    const LineTable::Texts texts = sparse.texts();
+    QCOMPARE(texts.begin()->sourceLine(), 2500);
+    QVERIFY(++texts.begin() == texts.end());
+    sparse.remove(2500);
+    QVERIFY(sparse.texts().begin() == sparse.texts().end());
+}
+
+void tst_LineTable::differences()
+{
+    LineTable before;
+    for (int i = 0; i < 5000; ++i)
+        before.set(i, makeLine(i, 1));
+    LineTable after = before;
+    after.set(3, makeLine(4, 2, true, "text"));
+    after.remove(2000);
+    after.set(9000, makeLine(1, 0));
+    const std::vector<LineDifference> found = LineTable::differences(before, after);
+    QCOMPARE(found.size(), 3U);
+    QCOMPARE(found[0].line, 3);
+    QVERIFY(found[0].inBefore && found[0].inAfter);
+    QCOMPARE(found[0].before, makeLine(3, 1));
+    QCOMPARE(found[0].after, makeLine(4, 2, true, "text"));
+    QCOMPARE(found[1].line, 2000);
+    QVERIFY(found[1].inBefore && !found[1].inAfter);
+    QCOMPARE(found[1].before, makeLine(2000, 1));
+    QCOMPARE(found[2].line, 9000);
+    QVERIFY(!found[2].inBefore && found[2].inAfter);
+    QCOMPARE(found[2].after, makeLine(1, 0));
+    QVERIFY(LineTable::differences(before, before).empty());
+}
 
 void tst_LineTable::changedLines()
 {

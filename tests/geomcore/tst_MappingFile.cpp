@@ -228,6 +228,54 @@ private Q_SLOTS:
         QCOMPARE(file.toByteArray(), Sound);
     }
 
+    void notFoundTargetIsMovedToTheEnd()
+    {
+        const QByteArray found = Sound.mid(Sound.indexOf("     {\n      \"path\""));
+        const QByteArray target = found.left(found.indexOf("\n    ]\n   }"));
+        QByteArray lost = target;
+        lost.replace("cat/b.prj", "").replace("[1,10,1]", "[7,-1,0]");
+        QByteArray second = lost;
+        second.replace("[7,-1,0]", "[8,-1,1]").replace("\"text\"", "\"other\"");
+        QByteArray bytes = Sound;
+        bytes.replace(target, lost + ",\n" + target + ",\n" + second);
+        MappingFile file;
+        QString error;
+        QVERIFY2(file.parse(bytes, QString(), &error), qPrintable(error));
+        QCOMPARE(file.notes(),
+                 QStringList{"\"2022\": mappings[0]: the target with an empty \"path\" "
+                             "was moved to the end."});
+        const PrjMappingC mapping = file.release("2022").mappingAt(0);
+        QCOMPARE(mapping.countTargets(), 2);
+        QCOMPARE(mapping.getNotFoundTarget(), 1);
+        QCOMPARE(mapping.targetAt(0).countLines(), 2);
+        const PrjMappingTargetC notFound = mapping.findTarget(1);
+        QCOMPARE(notFound.countLines(), 3);
+        QCOMPARE(notFound.getMappedLine(2).getExtended(), "text");
+        QCOMPARE(notFound.getMappedLine(8).getState(), PRJMAPPING::Mapped);
+
+        QVERIFY(file.parse(file.toByteArray()));
+        QCOMPARE(file.notes(), QStringList());
+    }
+    void releaseThatStandsTwiceIsTold_data()
+    {
+        QTest::addColumn<QString>("wanted");
+        QTest::newRow("as records") << QString();
+        QTest::newRow("as text") << "2030";
+    }
+    void releaseThatStandsTwiceIsTold()
+    {
+        QFETCH(QString, wanted);
+        QByteArray bytes = Sound;
+        bytes.replace("{\n \"2022\"",
+                      "{\"2022\": {\"sourceDate\": \"2022\", \"targetDate\": \"x\"}, "
+                      "\"2022\"");
+        MappingFile file;
+        QVERIFY(file.parse(bytes, wanted));
+        QCOMPARE(file.notes(),
+                 QStringList{"\"2022\" stands there more than once; the last one counts."});
+        QCOMPARE(file.sourceDates(), QStringList{"2022"});
+    }
+
     void unreadableConditionsAreKept()
     {
         QByteArray bytes = Sound;
@@ -379,10 +427,12 @@ private Q_SLOTS:
                                 << QList<int>{1, 2, 3};
         QTest::newRow("extended in between")
             << QByteArray("[1,2,0],[2,2,0],[3,2,0,\"x\"],[4,2,0]") << QList<int>{1, 2, 3, 4};
-        QTest::newRow("limits") << QByteArray(
-                                       "[0,0,0],[-2147483648,-0,2147483647],[2147483647,0,0]")
-                                << QList<int>{std::numeric_limits<int>::min(), 0,
-                                              std::numeric_limits<int>::max()};
+        QTest::newRow("limits") << QByteArray("[0,0,0],[1,-0,2147483647],[2147483647,0,0]")
+                                << QList<int>{0, 1, std::numeric_limits<int>::max()};
+        QTest::newRow("negative source line") << QByteArray("[1,2,0],[-5,1,1]") << none;
+        QTest::newRow("negative target line") << QByteArray("[1,2,0],[2,-7,1]") << none;
+        QTest::newRow("negative target line with a text")
+            << QByteArray("[1,2,0],[2,-2,1,\"x\"]") << none;
         QTest::newRow("leading zero") << QByteArray("[1,2,0],[02,2,0]") << none;
         QTest::newRow("leading zero behind a sign") << QByteArray("[1,2,0],[-02,2,0]") << none;
         QTest::newRow("plus sign") << QByteArray("[1,2,0],[+2,2,0]") << none;
@@ -432,7 +482,7 @@ private Q_SLOTS:
         for (int i = 1; i <= 30000; ++i) {
             rows += i == 1 ? "" : ",";
             rows += blank() + '[' + blank() + QByteArray::number(i * 7) + blank() + ',' + blank() +
-                    QByteArray::number(int(random.generate()) / 2) + ',' + blank() +
+                    QByteArray::number(int(random.generate() >> 1U)) + ',' + blank() +
                     QByteArray::number(random.bounded(4)) + blank();
             if (random.bounded(10) == 0)
                 rows += ",\"" + QByteArray(random.bounded(40), 'x') + '"';

@@ -97,6 +97,9 @@ private Q_SLOTS:
         line("row of six", "[1,2,0,\"\",true,0]", false);
         line("conflict false", "[1,2,0,\"\",false]", false);
         line("negative state", "[1,2,-1]", false);
+        line("negative source line", "[-1,2,0]", false);
+        line("no target line", "[1,-1,0]", true);
+        line("negative target line", "[1,-2,0]", false);
         line("fraction", "[1,2.5,0]", false);
         line("beyond an int", "[1,2147483648,0]", false);
         line("text as a line", "[\"1\",2,0]", false);

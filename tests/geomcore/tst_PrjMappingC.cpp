@@ -58,6 +58,40 @@ private Q_SLOTS:
         QCOMPARE(mapping.getTabVersion(), QString("v2"));
     }
 
+    void thereIsOneNotFoundTarget()
+    {
+        PrjMappingC mapping = RecordSamples::mapping("cat/a.prj", "v1", "v2");
+        mapping.addTarget("cat/b.prj", QString());
+        QCOMPARE(mapping.addTarget(QString(), QString()), 1);
+        mapping.changeTarget(1, [](PrjMappingTargetC &target) {
+            target.addLineId(7, -1, PRJMAPPING::Verified, QString());
+        });
+        QCOMPARE(mapping.addTarget(QString(), QString()), 1);
+        QCOMPARE(mapping.countTargets(), 2);
+        QCOMPARE(mapping.targetAt(1).countLines(), 1);
+    }
+
+    void setTargets()
+    {
+        PrjMappingC mapping = RecordSamples::mapping("cat/a.prj", "v1", "v2");
+        mapping.addTarget("cat/b.prj", QString());
+        mapping.setTargets({targetWith("cat/c.prj", {1}, 5), targetWith("cat/d.prj", {2}, -1)});
+        QCOMPARE(mapping.countTargets(), 2);
+        QCOMPARE(mapping.targetAt(0).getTargetPath(), "cat/c.prj");
+        QCOMPARE(mapping.getMappingState(),
+                 PRJMAPPING::StateIncomplete | PRJMAPPING::StateUnmapped);
+    }
+
+    void changeOfATargetStaysInItsMapping()
+    {
+        PrjMappingC mapping = RecordSamples::mapping("cat/a.prj", "v1", "v2");
+        mapping.addTarget(targetWith("cat/b.prj", {1}, 5));
+        const PrjMappingC before = mapping;
+        mapping.changeTarget(0, [](PrjMappingTargetC &target) { target.removeLineId(1); });
+        QCOMPARE(mapping.targetAt(0).countLines(), 0);
+        QCOMPARE(before.targetAt(0).countLines(), 1);
+    }
+
     void updateMappingState_data()
     {
         QTest::addColumn<QList<Entries>>("targets");

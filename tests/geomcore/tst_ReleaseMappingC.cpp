@@ -228,7 +228,7 @@ private Q_SLOTS:
         target.addModifier(new VarsetVarMappingC("A", "B"));
         target.addModifier(VarsetValueMappingC::fromText("C = 2 * A"));
         target.addLineId(30, 3, PRJMAPPING::Mapped, "");
-        target.addLineId(-4, 17, PRJMAPPING::Verified, "{D=4} -> 17\n{D=5} -> 18");
+        target.addLineId(4, 17, PRJMAPPING::Verified, "{D=4} -> 17\n{D=5} -> 18");
         target.addLineId(5, -1, PRJMAPPING::ToCheck, "");
         target.addLineId(6, 8, PRJMAPPING::ToCheck, "{D=4} -> 8");
         target.setLineConflicted(5, true);
@@ -264,7 +264,7 @@ private Q_SLOTS:
       }
      ],
      "lines": [
-      [-4,17,2,"{D=4} -> 17\n{D=5} -> 18"],
+      [4,17,2,"{D=4} -> 17\n{D=5} -> 18"],
       [5,-1,0,"",true],
       [6,8,0,"{D=4} -> 8",true],
       [30,3,1]

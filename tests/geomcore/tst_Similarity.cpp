@@ -330,6 +330,7 @@ void tst_Similarity::lineIdSet()
     set.clear();
     QVERIFY(!set.contains(1));
     QVERIFY(set.insert(1));
+    static_assert(!std::is_copy_constructible_v<LineIdSet>, "a set points into itself");
 }
 
 void tst_Similarity::lineIdSetKeepsOrder()

@@ -9,6 +9,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using Node = boost::shared_ptr<CatalogStructureNodeI>;
 using Entry = std::pair<int, int>; ///< target line, state
 
@@ -526,6 +531,52 @@ private Q_SLOTS:
         MappingFile file;
         QVERIFY(file.parse(bytes, "2022"));
         QCOMPARE(recount(file.release("2022")), counts(handler));
+    }
+
+    void commitKeepsWhateverIsJsonByGrammar_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::newRow("number beyond a double") << QByteArray("[1e999, -1E+9999]");
+        QTest::newRow("nested deeply") << QByteArray(600, '[') + QByteArray(600, ']');
+        QTest::newRow("half a surrogate pair") << QByteArray(R"({"\ud800": "\udc00"})");
+    }
+    void commitKeepsWhateverIsJsonByGrammar()
+    {
+        QFETCH(QByteArray, value);
+        QTemporaryDir dir;
+        const QString path = dir.filePath("m.json");
+        writeFile(path, "{\"2020\": " + value + ", \"2021\": {\"mappings\": []}}");
+        ReleaseMappingHandler handler(release({mapping("a.prj", {{1, 0}})}), "", path);
+        QVERIFY(handler.commitModifications());
+        const QByteArray bytes = readFile(path);
+        QVERIFY2(bytes.contains("\"2020\": " + value), bytes.constData());
+        QVERIFY(bytes.contains("\"2021\": {\"mappings\": []}"));
+    }
+
+    void mappingWithoutSourcePathIsRefused()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath("m.json");
+        ReleaseMappingHandler handler(release({mapping("a.prj", {{1, 0}})}), "", path);
+        const PrjMappingC invalid = mapping(QString(), {{1, 0}, {2, 0}});
+#ifdef QT_NO_DEBUG
+        handler.updateMapping(invalid);
+        QCOMPARE(handler.countLines(), 1);
+        QCOMPARE(handler.getCatalogMapping().lastRelease().countMappings(), 1);
+#else
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const rlimit none{};
+            ::setrlimit(RLIMIT_CORE, &none);
+            std::signal(SIGABRT, SIG_DFL);
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+            handler.updateMapping(invalid);
+            ::_exit(0);
+        }
+        int status = 0;
+        QCOMPARE(::waitpid(child, &status, 0), child);
+        QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT, "an assertion");
+#endif
     }
 
     void commitReplacesWhatDoesNotParse_data()

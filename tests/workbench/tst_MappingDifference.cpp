@@ -154,7 +154,7 @@ void tst_MappingDifference::sharedPagesArePassedOver()
     for (int line = 0; line < 400; ++line) {
         const PrjMappingTargetC before = target;
         target.addLineId(line * 499, 1, PRJMAPPING::Verified, QString());
-        const auto found = lineDifferences(before.lines(), target.lines());
+        const auto found = LineTable::differences(before.lines(), target.lines());
         QCOMPARE(found.size(), std::size_t(1));
         QCOMPARE(found[0].line, line * 499);
         QVERIFY(found[0].inBefore && found[0].inAfter);
@@ -167,11 +167,11 @@ void tst_MappingDifference::linesOfEqualTables()
 {
     const PrjMappingC a = SessionFixture::plainMapping(Path, 1000);
     const PrjMappingC b = SessionFixture::plainMapping(Path, 1000);
-    QVERIFY(lineDifferences(a.targetAt(0).lines(), b.targetAt(0).lines()).empty());
+    QVERIFY(LineTable::differences(a.targetAt(0).lines(), b.targetAt(0).lines()).empty());
     QVERIFY(MappingDifference::between(a, b).isEmpty());
-    QVERIFY(lineDifferences(LineTable(), LineTable()).empty());
-    QCOMPARE(lineDifferences(LineTable(), b.targetAt(0).lines()).size(), std::size_t(1000));
-    QCOMPARE(lineDifferences(b.targetAt(0).lines(), LineTable()).size(), std::size_t(1000));
+    QVERIFY(LineTable::differences(LineTable(), LineTable()).empty());
+    QCOMPARE(LineTable::differences(LineTable(), b.targetAt(0).lines()).size(), std::size_t(1000));
+    QCOMPARE(LineTable::differences(b.targetAt(0).lines(), LineTable()).size(), std::size_t(1000));
 }
 
 void tst_MappingDifference::randomChanges_data()

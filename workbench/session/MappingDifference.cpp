@@ -45,7 +45,7 @@ TargetPair makePair(const PrjMappingC &before, int b, const PrjMappingC &after, 
         if (head.modifiers == TargetHead::of(targetBefore).modifiers)
             pair.stillIgnored = head.ignored();
     }
-    pair.lines = lineDifferences(targetBefore.lines(), targetAfter.lines());
+    pair.lines = LineTable::differences(targetBefore.lines(), targetAfter.lines());
     return pair;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "LineDifferences.h"
 #include "SessionTypes.h"
 #include "TargetHead.h"
+#include <geomcore/records/LineTable.h>
 
 #include <optional>
 #include <vector>

@@ -16,50 +16,33 @@ namespace {
 constexpr qint64 BeforeAll = std::numeric_limits<qint64>::min();
 constexpr qint64 BehindAll = std::numeric_limits<qint64>::max();
 
-bool isOpen(const LineTable::Row &row, OpenLines::Kinds kinds)
+bool isOpen(const LineTable::Iterator &entry, OpenLines::Kinds kinds)
 {
-    if (row.targetLine == -1)
-        return row.state() != PRJMAPPING::Verified && kinds.testFlag(OpenLines::NotFound);
-    if (row.state() == PRJMAPPING::Mapped)
+    if (entry.targetLine() == -1)
+        return entry.state() != PRJMAPPING::Verified && kinds.testFlag(OpenLines::NotFound);
+    if (entry.state() == PRJMAPPING::Mapped)
         return kinds.testFlag(OpenLines::Proposed);
-    return row.state() != PRJMAPPING::Verified && kinds.testFlag(OpenLines::ToCheck);
+    return entry.state() != PRJMAPPING::Verified && kinds.testFlag(OpenLines::ToCheck);
 }
 
-/// The first open row behind a line.
+/// The first open line behind a line.
 std::optional<int> firstBehind(const LineTable &table, qint64 line, OpenLines::Kinds kinds)
 {
-    for (const LineTable::ChunkRef &chunk : table.chunks()) {
-        if (chunk.chunk->pages.back().page->rows.back().sourceLine <= line)
-            continue;
-        for (const LineTable::PageRef &page : chunk.chunk->pages) {
-            if (page.page->rows.back().sourceLine <= line)
-                continue;
-            for (const LineTable::Row &row : page.page->rows) {
-                if (row.sourceLine > line && isOpen(row, kinds))
-                    return row.sourceLine;
-            }
-        }
+    const qint64 from = line == BeforeAll ? line : line + 1;
+    for (LineTable::Iterator at = table.lowerBound(from); at != table.end(); ++at) {
+        if (isOpen(*at, kinds))
+            return at->sourceLine();
     }
     return std::nullopt;
 }
 
-/// The last open row before a line.
+/// The last open line before a line.
 std::optional<int> lastBefore(const LineTable &table, qint64 line, OpenLines::Kinds kinds)
 {
-    const auto &chunks = table.chunks();
-    for (auto chunk = chunks.rbegin(); chunk != chunks.rend(); ++chunk) {
-        if (chunk->firstLine >= line)
-            continue;
-        const auto &pages = chunk->chunk->pages;
-        for (auto page = pages.rbegin(); page != pages.rend(); ++page) {
-            if (page->firstLine >= line)
-                continue;
-            const auto &rows = page->page->rows;
-            for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-                if (row->sourceLine < line && isOpen(*row, kinds))
-                    return row->sourceLine;
-            }
-        }
+    for (LineTable::Iterator at = table.lowerBound(line); at != table.begin();) {
+        --at;
+        if (isOpen(*at, kinds))
+            return at->sourceLine();
     }
     return std::nullopt;
 }

@@ -37,15 +37,8 @@ private:
     {
         m_target = target.getTargetPath();
         m_toldMissing = false;
-        for (const LineTable::ChunkRef &chunk : target.lines().chunks()) {
-            for (const LineTable::PageRef &page : chunk.chunk->pages) {
-                // Most pages have no text at all.
-                for (std::size_t i = 0; i < page.page->extended.size(); ++i) {
-                    if (page.page->extended[i])
-                        check(page.page->rows[i].sourceLine, page.page->extended[i]->text);
-                }
-            }
-        }
+        for (const LineTable::Iterator &entry : target.lines().texts())
+            check(entry.sourceLine(), entry.extended()->text);
     }
 
     void check(int line, const QString &text)

@@ -35,7 +35,9 @@ bool LineIdSet::contains(int id) const
 
 void LineIdSet::clear()
 {
-    *this = LineIdSet();
+    m_pages.clear();
+    m_order.clear();
+    m_last = nullptr;
 }
 
 } // namespace Mapper

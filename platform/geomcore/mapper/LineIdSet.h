@@ -14,6 +14,11 @@ namespace Mapper {
 class VELKGEOMCORE_EXPORT LineIdSet
 {
 public:
+    LineIdSet() = default;
+    // It keeps the place of its last page.
+    LineIdSet(const LineIdSet &) = delete;
+    LineIdSet &operator=(const LineIdSet &) = delete;
+
     /// False if the number was there already.
     bool insert(int id);
     [[nodiscard]] bool contains(int id) const;

@@ -37,11 +37,14 @@ bool WorkingMapping::takeOut(int lineId, int exceptTarget, bool alsoVerified,
 {
     bool confirmed = false;
     for (int i = 0; i < m_mapping->countTargets(); ++i) {
-        const LineTable::Row *row = m_mapping->targetAt(i).lines().findRow(lineId);
-        if (!row || i == exceptTarget || (row->state() == PRJMAPPING::Verified && !alsoVerified))
+        const LineTable::Iterator entry = m_mapping->targetAt(i).lines().find(lineId);
+        if (!entry || i == exceptTarget)
             continue;
-        confirmed = confirmed || row->state() == PRJMAPPING::Verified;
-        edit(holder).editTarget(i).removeLineId(lineId);
+        const bool verified = entry->state() == PRJMAPPING::Verified;
+        if (verified && !alsoVerified)
+            continue;
+        confirmed = confirmed || verified;
+        edit(holder).changeTarget(i, [lineId](PrjMappingTargetC &t) { t.removeLineId(lineId); });
     }
     return confirmed;
 }
@@ -51,19 +54,18 @@ bool WorkingMapping::enter(int lineId, int targetIndex, int targetLine, CheckSta
 {
     m_entered.insert(lineId);
     const bool wentOut = takeOut(lineId, targetIndex, state == PRJMAPPING::Verified, holder);
-    const LineTable::Row *row = m_mapping->targetAt(targetIndex).lines().findRow(lineId);
-    const bool was = row && row->state() == PRJMAPPING::Verified;
-    if (!row || row->targetLine != targetLine) {
-        edit(holder).editTarget(targetIndex).addLineId(lineId, targetLine, state, QString());
-        return wentOut || was || state == PRJMAPPING::Verified;
-    }
-    if (row->state() == state)
+    const LineTable::Iterator known = m_mapping->targetAt(targetIndex).lines().find(lineId);
+    const bool same = known && known->targetLine() == targetLine;
+    if (same && known->state() == state)
         return wentOut;
-    PrjMappingTargetC &target = edit(holder).editTarget(targetIndex);
-    const PrjMappingTargetLineC entry = target.getMappedLine(lineId);
-    target.addLineId(lineId, targetLine, state, entry.getExtended());
-    target.setLineConflicted(lineId, entry.getConflict());
-    return wentOut || was || state == PRJMAPPING::Verified;
+    const bool wasConfirmed = known && known->state() == PRJMAPPING::Verified;
+    // Text and conflict stay with the target line.
+    const PrjMappingTargetLineC before = same ? known->line() : PrjMappingTargetLineC();
+    edit(holder).changeTarget(targetIndex, [&](PrjMappingTargetC &target) {
+        target.setMappedLine(lineId,
+                             {targetLine, state, before.getConflict(), before.extendedText()});
+    });
+    return wentOut || wasConfirmed || state == PRJMAPPING::Verified;
 }
 
 std::vector<int> WorkingMapping::linesWithoutTarget() const
@@ -85,9 +87,10 @@ void WorkingMapping::enterNotFound()
     const std::vector<int> lines = linesWithoutTarget();
     PrjMappingC &mapping = edit();
     if (!lines.empty()) {
-        PrjMappingTargetC &target = mapping.editTarget(mapping.ensureNotFoundTarget());
-        for (int line : lines)
-            target.addLineId(line, -1, PRJMAPPING::ToCheck, QString());
+        mapping.changeTarget(mapping.ensureNotFoundTarget(), [&](PrjMappingTargetC &target) {
+            for (int line : lines)
+                target.addLineId(line, -1, PRJMAPPING::ToCheck, QString());
+        });
     }
     mapping.updateMappingState();
 }

@@ -24,30 +24,31 @@ std::size_t refOf(const Refs &refs, int line)
     return behind == refs.begin() ? 0 : std::size_t(behind - refs.begin()) - 1;
 }
 
-/// Position of the line in a page, or where it belongs. Ids without gaps are found at once.
-std::size_t rowOf(const std::vector<LineTable::Row> &rows, int line)
+} // namespace
+
+std::size_t LineTable::rowOf(const std::vector<Row> &rows, int line)
 {
     const qint64 guess = qint64(line) - rows.front().sourceLine;
     if (guess >= 0 && guess < qint64(rows.size()) && rows[std::size_t(guess)].sourceLine == line)
         return std::size_t(guess);
-    const auto at =
-        std::lower_bound(rows.begin(), rows.end(), line, [](const LineTable::Row &row, int value) {
-            return row.sourceLine < value;
-        });
+    const auto at = std::lower_bound(rows.begin(), rows.end(), line, [](const Row &row, int value) {
+        return row.sourceLine < value;
+    });
     return std::size_t(at - rows.begin());
 }
 
-LineTable::Row makeRow(int sourceLine, int targetLine, PRJMAPPING::CheckState state, bool conflict)
+LineTable::Row LineTable::makeRow(int sourceLine, int targetLine, PRJMAPPING::CheckState state,
+                                  bool conflict)
 {
     return {sourceLine, targetLine, (quint32(state) << 1U) | quint32(conflict)};
 }
 
-void count(LineCounts &counts, const LineTable::Row &row, int factor)
+void LineTable::count(LineCounts &counts, const Row &row, int factor)
 {
     counts.add(row.targetLine, row.state(), row.conflict(), factor);
 }
 
-void setExtended(LineTable::Page &page, std::size_t row, const ExtendedTextPtr &extended)
+void LineTable::setExtended(Page &page, std::size_t row, const ExtendedTextPtr &extended)
 {
     if (page.extended.empty() && extended)
         page.extended.resize(page.rows.size());
@@ -55,35 +56,45 @@ void setExtended(LineTable::Page &page, std::size_t row, const ExtendedTextPtr &
         page.extended[row] = extended;
 }
 
-LineTable::PageRef newPage(int firstLine)
+LineTable::PageRef LineTable::newPage(int firstLine)
 {
-    LineTable::PageRef ref{firstLine,
-                           QExplicitlySharedDataPointer<LineTable::Page>(new LineTable::Page)};
+    PageRef ref{firstLine, QExplicitlySharedDataPointer<Page>(new Page)};
     ref.page->rows.reserve(FirstRows);
     return ref;
 }
 
-} // namespace
+LineTable::Iterator LineTable::at(const Place &place) const
+{
+    Iterator found(m_chunks, place.chunk, place.page);
+    found.goTo(place.row);
+    return found;
+}
 
-const LineTable::Row *LineTable::findRow(int sourceLine) const
+LineTable::Iterator LineTable::find(int sourceLine) const
 {
     if (isBeyondLast(sourceLine))
-        return nullptr;
+        return end();
     const Place place = locate(sourceLine);
-    return place.found ? &m_chunks[place.chunk].chunk->pages[place.page].page->rows[place.row]
-                       : nullptr;
+    return place.found ? at(place) : end();
+}
+
+LineTable::Iterator LineTable::lowerBound(qint64 sourceLine) const
+{
+    constexpr qint64 least = std::numeric_limits<int>::min();
+    if (sourceLine > std::numeric_limits<int>::max() ||
+        isBeyondLast(int(std::max(sourceLine, least))))
+        return end();
+    Place place = locate(int(std::max(sourceLine, least)));
+    // Where it belongs may be behind the last entry of a page: then the next page has it.
+    const bool behind =
+        place.row == m_chunks[place.chunk].chunk->pages[place.page].page->rows.size();
+    return behind ? Iterator(m_chunks, place.chunk, place.page + 1) : at(place);
 }
 
 PrjMappingTargetLineC LineTable::value(int sourceLine) const
 {
-    const Place place = locate(sourceLine);
-    if (!place.found)
-        return {};
-    const Page &page = *m_chunks[place.chunk].chunk->pages[place.page].page;
-    const Row &row = page.rows[place.row];
-    return PrjMappingTargetLineC(row.targetLine, row.state(), row.conflict(),
-                                 page.extended.empty() ? ExtendedTextPtr()
-                                                       : page.extended[place.row]);
+    const Iterator found = find(sourceLine);
+    return found ? found.line() : PrjMappingTargetLineC();
 }
 
 void LineTable::set(int sourceLine, const PrjMappingTargetLineC &line)

@@ -4,94 +4,102 @@
 
 namespace {
 
-/// A place among the rows of a table, which knows where pages and chunks begin.
-class RowCursor
+bool haveSameText(const ExtendedText *a, const ExtendedText *b)
 {
-public:
-    explicit RowCursor(const std::vector<LineTable::ChunkRef> &chunks)
-        : m_chunks(chunks)
-    {
-    }
+    return a == b || (a && b && a->text == b->text);
+}
 
-    [[nodiscard]] bool isAtEnd() const { return m_chunk == m_chunks.size(); }
-    [[nodiscard]] const LineTable::Row &row() const { return page().rows[m_row]; }
-    [[nodiscard]] QString extended() const
-    {
-        const ExtendedTextPtr text =
-            page().extended.empty() ? ExtendedTextPtr() : page().extended[m_row];
-        return text ? text->text : QString();
-    }
-    /// Steps over a chunk or page that begins here in both tables. False if there is none.
-    static bool skipShared(RowCursor &a, RowCursor &b)
-    {
-        if (a.m_row != 0 || b.m_row != 0)
-            return false;
-        if (a.m_page == 0 && b.m_page == 0 && &a.chunk() == &b.chunk()) {
-            a.nextChunk();
-            b.nextChunk();
-            return true;
-        }
-        if (&a.page() != &b.page())
-            return false;
-        a.nextPage();
-        b.nextPage();
-        return true;
-    }
-    void next()
-    {
-        if (++m_row == page().rows.size())
-            nextPage();
-    }
-
-private:
-    [[nodiscard]] const LineTable::Chunk &chunk() const { return *m_chunks[m_chunk].chunk; }
-    [[nodiscard]] const LineTable::Page &page() const { return *chunk().pages[m_page].page; }
-    void nextPage()
-    {
-        m_row = 0;
-        if (++m_page == chunk().pages.size())
-            nextChunk();
-    }
-    void nextChunk()
-    {
-        m_page = m_row = 0;
-        ++m_chunk;
-    }
-
-    const std::vector<LineTable::ChunkRef> &m_chunks;
-    std::size_t m_chunk = 0;
-    std::size_t m_page = 0;
-    std::size_t m_row = 0;
-};
-
-bool sameEntry(const RowCursor &a, const RowCursor &b)
+bool areSame(const LineTable::Iterator &a, const LineTable::Iterator &b)
 {
-    return a.row().targetLine == b.row().targetLine && a.row().packed == b.row().packed &&
-           a.extended() == b.extended();
+    return a.targetLine() == b.targetLine() && a.state() == b.state() &&
+           a.conflict() == b.conflict() && haveSameText(a.extended(), b.extended());
 }
 
 } // namespace
 
+LineTable::Iterator &LineTable::Iterator::operator--()
+{
+    const bool pageBegins =
+        !m_row || m_row == (*m_chunks)[m_chunk].chunk->pages[m_page].page->rows.data();
+    if (!pageBegins) {
+        m_extended -= m_extended ? 1 : 0;
+        --m_row;
+        return *this;
+    }
+    if (m_page == 0)
+        m_page = (*m_chunks)[--m_chunk].chunk->pages.size();
+    --m_page;
+    enterPage();
+    goTo(std::size_t(m_pageEnd - m_row) - 1);
+    return *this;
+}
+
+void LineTable::Iterator::seekText()
+{
+    while (m_row && !extended()) {
+        if (m_extended) {
+            ++*this;
+        } else {
+            ++m_page;
+            enterPage();
+        }
+    }
+}
+
+bool LineTable::Iterator::skipShared(Iterator &a, Iterator &b)
+{
+    if (!a || !b || a.m_pageEnd != b.m_pageEnd || a.m_row != b.m_row)
+        return false;
+    const Chunk *shared = (*a.m_chunks)[a.m_chunk].chunk.data();
+    const bool wholeChunk = shared == (*b.m_chunks)[b.m_chunk].chunk.data();
+    for (Iterator *at : {&a, &b}) {
+        at->m_page = wholeChunk ? shared->pages.size() : at->m_page + 1;
+        at->enterPage();
+    }
+    return true;
+}
+
+template<class Visit>
+void LineTable::walkDifferences(const LineTable &before, const LineTable &after, Visit visit)
+{
+    Iterator a = before.begin();
+    Iterator b = after.begin();
+    while (a || b) {
+        if (Iterator::skipShared(a, b))
+            continue;
+        const bool inBefore = a && (!b || a.sourceLine() <= b.sourceLine());
+        const bool inAfter = b && (!a || b.sourceLine() <= a.sourceLine());
+        if (!inBefore || !inAfter || !areSame(a, b))
+            visit(inBefore ? a : Iterator(), inAfter ? b : Iterator());
+        if (inBefore)
+            ++a;
+        if (inAfter)
+            ++b;
+    }
+}
+
+std::vector<LineDifference> LineTable::differences(const LineTable &before, const LineTable &after)
+{
+    std::vector<LineDifference> result;
+    walkDifferences(before, after, [&](const Iterator &a, const Iterator &b) {
+        LineDifference difference;
+        difference.line = a ? a.sourceLine() : b.sourceLine();
+        difference.inBefore = bool(a);
+        difference.inAfter = bool(b);
+        if (a)
+            difference.before = a.line();
+        if (b)
+            difference.after = b.line();
+        result.push_back(std::move(difference));
+    });
+    return result;
+}
+
 std::vector<int> LineTable::changedLines(const LineTable &before, const LineTable &after)
 {
     std::vector<int> changed;
-    RowCursor a(before.m_chunks);
-    RowCursor b(after.m_chunks);
-    while (!a.isAtEnd() && !b.isAtEnd()) {
-        if (RowCursor::skipShared(a, b))
-            continue;
-        const int first = a.row().sourceLine;
-        const int second = b.row().sourceLine;
-        if (first != second || !sameEntry(a, b))
-            changed.push_back(std::min(first, second));
-        if (first <= second)
-            a.next();
-        if (second <= first)
-            b.next();
-    }
-    for (; !a.isAtEnd(); a.next())
-        changed.push_back(a.row().sourceLine);
-    for (; !b.isAtEnd(); b.next())
-        changed.push_back(b.row().sourceLine);
+    walkDifferences(before, after, [&](const Iterator &a, const Iterator &b) {
+        changed.push_back(a ? a.sourceLine() : b.sourceLine());
+    });
     return changed;
 }

@@ -25,6 +25,7 @@ public:
     }
 
     QList<MappingFileMember> members;
+    QStringList notes;
 };
 
 namespace {
@@ -72,7 +73,7 @@ bool MappingFile::read(const QString &nativePath, const QString &sourceDate, QSt
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return report(error, nativePath, file.errorString());
     QString what;
-    if (readMappingFile(file, sourceDate, d->members, &what))
+    if (readMappingFile(file, sourceDate, d->members, d->notes, &what))
         return true;
     if (file.error() != QFileDevice::NoError)
         return report(error, nativePath, file.errorString());
@@ -86,7 +87,12 @@ bool MappingFile::parse(const QByteArray &json, const QString &sourceDate, QStri
     QBuffer buffer;
     buffer.setData(json);
     return buffer.open(QIODevice::ReadOnly) &&
-           readMappingFile(buffer, sourceDate, d->members, error);
+           readMappingFile(buffer, sourceDate, d->members, d->notes, error);
+}
+
+QStringList MappingFile::notes() const
+{
+    return d->notes;
 }
 
 QStringList MappingFile::sourceDates() const

@@ -33,6 +33,9 @@ public:
     [[nodiscard]] bool parse(const QByteArray &json, const QString &sourceDate = QString(),
                              QString *error = nullptr);
 
+    /// What the last reading put right or passed over, a sentence each: a release that stands twice
+    /// in the file, a target without path that is not the last one.
+    [[nodiscard]] QStringList notes() const;
     /// In the order of the file.
     [[nodiscard]] QStringList sourceDates() const;
     [[nodiscard]] bool contains(const QString &sourceDate) const;

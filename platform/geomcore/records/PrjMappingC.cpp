@@ -61,11 +61,11 @@ PrjMappingLineC findLineIn(const QList<PrjMappingTargetC> &targets, int sourceLi
     line.setSourceLineId(sourceLine);
     if (chosen < 0)
         return line;
-    const LineTable::Row *row = targets[chosen].lines().findRow(sourceLine);
+    const LineTable::Iterator entry = targets[chosen].lines().find(sourceLine);
     line.setValid(true);
     line.setTargetIndex(chosen);
-    line.setTargetLineId(row->targetLine);
-    line.setCheckState(row->state());
+    line.setTargetLineId(entry->targetLine());
+    line.setCheckState(entry->state());
     line.setInRealTarget(!targets[chosen].isNotFoundTarget());
     return line;
 }
@@ -172,7 +172,7 @@ const PrjMappingTargetC &PrjMappingC::targetAt(int index) const
     return d->targets.at(index);
 }
 
-PrjMappingTargetC &PrjMappingC::editTarget(int index)
+PrjMappingTargetC &PrjMappingC::writableTarget(int index)
 {
     return d->targets[index];
 }
@@ -182,8 +182,16 @@ int PrjMappingC::addTarget(const PrjMappingTargetC &target)
     return insertTarget(countTargets(), target);
 }
 
+void PrjMappingC::setTargets(const QList<PrjMappingTargetC> &targets)
+{
+    d->targets = targets;
+    d->updateState();
+}
+
 int PrjMappingC::addTarget(const QString &path, const QString &version)
 {
+    if (const int notFound = path.isEmpty() ? getNotFoundTarget() : -1; notFound >= 0)
+        return notFound;
     PrjMappingTargetC target;
     target.setTargetPath(path);
     target.setTargetVersion(version);

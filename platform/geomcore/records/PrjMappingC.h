@@ -56,13 +56,19 @@ public:
     /// The target itself instead of a copy; the index must be a known one. Valid until targets come
     /// or go.
     [[nodiscard]] const PrjMappingTargetC &targetAt(int index) const;
-    /// As above, to be changed in place; then call updateMappingState(). Not to be kept while this
-    /// mapping is copied.
-    [[nodiscard]] PrjMappingTargetC &editTarget(int index);
+    /// Calls change with the target of a known index, in place; then call updateMappingState().
+    template<class Change>
+    void changeTarget(int index, Change change)
+    {
+        change(writableTarget(index));
+    }
     /// Appends, and gives the new index.
     int addTarget(const PrjMappingTargetC &target);
-    /// Appends a valid target; two empty texts make the not-found target.
+    /// Appends a valid target; two empty texts make the not-found target. There is one of these: if
+    /// the mapping has it, it stays as it is, and its index is given.
     int addTarget(const QString &path, const QString &version);
+    /// Replaces all targets at once.
+    void setTargets(const QList<PrjMappingTargetC> &targets);
     /// Inserts, never replaces. An index out of range means the nearer end. Gives the index at
     /// which the target now stands.
     int insertTarget(int index, const PrjMappingTargetC &target);
@@ -85,6 +91,8 @@ public:
     void verifyAll();
 
 private:
+    [[nodiscard]] PrjMappingTargetC &writableTarget(int index);
+
     QSharedDataPointer<PrjMappingData> d;
 };
 Q_DECLARE_TYPEINFO(PrjMappingC, Q_RELOCATABLE_TYPE);

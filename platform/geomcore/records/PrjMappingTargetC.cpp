@@ -169,8 +169,8 @@ void PrjMappingTargetC::verifyLines()
 
 bool PrjMappingTargetC::getLineConflicted(int sourceLineId) const
 {
-    const LineTable::Row *row = d->lines.findRow(sourceLineId);
-    return row && row->conflict();
+    const LineTable::Iterator entry = d->lines.find(sourceLineId);
+    return entry && entry->conflict();
 }
 
 void PrjMappingTargetC::setLineConflicted(int sourceLineId, bool conflicted)

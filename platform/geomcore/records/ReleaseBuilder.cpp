@@ -4,6 +4,7 @@
 #include <geomcore/binding/VarsetValueMappingC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
 
+#include <algorithm>
 #include <bit>
 #include <iterator>
 
@@ -71,14 +72,17 @@ constexpr quint32 bitsOf(const Members &members, Condition condition)
 
 QString rowLayout()
 {
-    return QStringLiteral("must be [source line, target line, state], then the extended text if "
-                          "there is one, then true for a conflict");
+    return QStringLiteral(
+        "must be [source line, target line, state], then the extended text if "
+        "there is one, then true for a conflict; lines count from 0, -1 is no target "
+        "line");
 }
 
 } // namespace
 
 QString ReleaseBuilder::error() const
 {
+    static_assert(std::size(Members) == MemberCount && MemberCount <= 32, "a bit for each");
     QStringList path;
     if (m_place >= Mappings)
         path += m_place == Mappings ? QStringLiteral("mappings")
@@ -136,16 +140,45 @@ bool ReleaseBuilder::endObject()
         m_place = Targets;
         m_targets.append(m_target);
     } else if (m_place == Mapping) {
-        for (const PrjMappingTargetC &target : std::as_const(m_targets))
-            m_mapping.addTarget(target);
-        m_targets.clear();
-        m_mapping.setMappingState(m_state);
-        m_release.appendMapping(m_mapping);
-        m_place = Mappings;
+        return endMapping();
     } else {
         m_place = Outside;
     }
     return true;
+}
+
+bool ReleaseBuilder::endMapping()
+{
+    moveNotFoundTarget();
+    m_mapping.setTargets(m_targets);
+    m_targets.clear();
+    m_mapping.setMappingState(m_state);
+    m_release.appendMapping(m_mapping);
+    m_place = Mappings;
+    return true;
+}
+
+void ReleaseBuilder::moveNotFoundTarget()
+{
+    // Indexes of the others must not shift when the target of the lines without one goes.
+    const auto hasPath = [](const PrjMappingTargetC &target) {
+        return !target.isNotFoundTarget();
+    };
+    const bool inPlace = std::is_partitioned(m_targets.cbegin(), m_targets.cend(), hasPath);
+    const qsizetype first =
+        std::stable_partition(m_targets.begin(), m_targets.end(), hasPath) - m_targets.begin();
+    if (!inPlace || first + 1 < m_targets.size())
+        m_notes +=
+            QStringLiteral("mappings[%1]: the target with an empty \"path\" was moved to the "
+                           "end.")
+                .arg(m_release.countMappings());
+    for (; first + 1 < m_targets.size(); m_targets.removeLast()) {
+        // A line that several of them hold is where a look-up finds it: in the first.
+        for (const LineTable::Iterator &entry : std::as_const(m_targets).last().lines()) {
+            if (!std::as_const(m_targets)[first].containsLine(entry.sourceLine()))
+                m_targets[first].setMappedLine(entry.sourceLine(), entry.line());
+        }
+    }
 }
 
 bool ReleaseBuilder::startArray()
@@ -433,7 +466,7 @@ bool ReleaseBuilder::endRow()
 bool ReleaseBuilder::addRow(const ExtendedTextPtr &extended, bool conflict)
 {
     m_place = Row;
-    if (m_column < 3 || m_row[2] < 0)
+    if (m_column < 3 || m_row[0] < 0 || m_row[1] < -1 || m_row[2] < 0)
         return fail(rowLayout());
     const LineTable &lines = m_target.lines();
     if (!lines.isEmpty() && m_row[0] <= m_lastLine && lines.contains(m_row[0]))

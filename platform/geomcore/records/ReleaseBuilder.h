@@ -2,6 +2,8 @@
 
 #include "ReleaseMappingC.h"
 
+#include <QStringList>
+
 #include <array>
 #include <limits>
 #include <string>
@@ -21,6 +23,8 @@ public:
     [[nodiscard]] bool isIdle() const { return m_place == Outside; }
     /// The member and what is wrong with it.
     [[nodiscard]] QString error() const;
+    /// What was put right.
+    [[nodiscard]] const QStringList &notes() const { return m_notes; }
 
     bool startObject();
     bool endObject();
@@ -90,6 +94,8 @@ private:
     void enterArray();
     void setText(const QString &text);
     bool checkComplete(Place place);
+    bool endMapping();
+    void moveNotFoundTarget();
     bool endModifier();
     bool endRow();
     bool addRow(const ExtendedTextPtr &extended, bool conflict);
@@ -117,6 +123,8 @@ private:
     QString m_extended;
     bool m_conflict = false;
 
-    std::array<LastText, 19> m_last; ///< of each of Members
+    static constexpr std::size_t MemberCount = 19;
+    std::array<LastText, MemberCount> m_last; ///< of each of Members
     QString m_message;
+    QStringList m_notes;
 };

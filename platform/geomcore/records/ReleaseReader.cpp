@@ -143,6 +143,7 @@ public:
                             : QStringLiteral("Values are nested too deeply.");
     }
     [[nodiscard]] const QList<MappingFileMember> &members() const { return m_members; }
+    [[nodiscard]] const QStringList &notes() const { return m_notes; }
     /// For each member that did not become records.
     [[nodiscard]] const QHash<QString, Extent> &extents() const { return m_extents; }
 
@@ -184,6 +185,9 @@ private:
     void beginMember(const QString &name)
     {
         m_name = name;
+        if (m_positions.contains(name))
+            m_notes += QStringLiteral("\"%1\" stands there more than once; the last one counts.")
+                           .arg(name);
         m_reading = m_wanted.isEmpty() || name == m_wanted;
         m_builder = ReleaseBuilder();
         if (!m_reading) {
@@ -206,22 +210,26 @@ private:
         MappingFileMember &entry = member();
         entry.isRecords = true;
         entry.release = m_builder.release();
+        for (const QString &note : m_builder.notes())
+            m_notes += QStringLiteral("\"%1\": %2").arg(m_name, note);
         m_reading = false;
         return true;
     }
     MappingFileMember &member()
     {
-        for (MappingFileMember &known : m_members) {
-            if (known.sourceDate == m_name)
-                return known;
-        }
+        const auto known = m_positions.constFind(m_name);
+        if (known != m_positions.cend())
+            return m_members[*known];
+        m_positions.insert(m_name, m_members.size());
         return m_members.emplaceBack(MappingFileMember{m_name, false, {}, {}});
     }
 
     const QString m_wanted;
     JsonDeviceStream &m_stream;
     QList<MappingFileMember> m_members;
+    QHash<QString, qsizetype> m_positions; ///< in m_members
     QHash<QString, Extent> m_extents;
+    QStringList m_notes;
     ReleaseBuilder m_builder;
     QString m_name;
     QString m_message;
@@ -284,7 +292,7 @@ bool readRelease(const QByteArray &json, ReleaseMappingC &release, QString *erro
 }
 
 bool readMappingFile(QIODevice &file, const QString &sourceDate, QList<MappingFileMember> &members,
-                     QString *error)
+                     QStringList &notes, QString *error)
 {
     JsonDeviceStream stream(file);
     FileEvents events(sourceDate, stream);
@@ -303,5 +311,6 @@ bool readMappingFile(QIODevice &file, const QString &sourceDate, QList<MappingFi
             return report(error, {}, 0, QStringLiteral("The file changed while it was read."));
     }
     members = found;
+    notes = events.notes();
     return true;
 }

@@ -22,6 +22,7 @@ struct MappingFileMember
 
 /// Reads a whole mapping file in one pass, piece by piece; \a file is open and can be read again.
 /// The member named \a sourceDate becomes records, all if that is empty. False if anything is not
-/// as it should be, as above.
+/// as it should be, as above. \a notes says what was put right or passed over.
 [[nodiscard]] bool readMappingFile(QIODevice &file, const QString &sourceDate,
-                                   QList<MappingFileMember> &members, QString *error);
+                                   QList<MappingFileMember> &members, QStringList &notes,
+                                   QString *error);

@@ -43,8 +43,7 @@ void writeLines(JsonWriter &writer, const LineTable &lines)
     for (const LineTable::Iterator &line : lines) {
         const ExtendedText *extended = line.extended();
         if (!extended && !line.conflict()) {
-            const LineTable::Row row = line.row();
-            writer.row({row.sourceLine, row.targetLine, int(row.state())});
+            writer.row({line.sourceLine(), line.targetLine(), int(line.state())});
             continue;
         }
         writer.beginArray(true);

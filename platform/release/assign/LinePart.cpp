@@ -55,7 +55,9 @@ PrjMappingC joined(const std::vector<PrjMappingC> &parts, const std::vector<int>
             const bool known = target < parts[i].countTargets();
             slices.push_back({known ? &parts[i].targetAt(target).lines() : &none, lasts[i]});
         }
-        mapping.editTarget(target).setLines(LineTable::joined(slices));
+        mapping.changeTarget(target, [&](PrjMappingTargetC &changed) {
+            changed.setLines(LineTable::joined(slices));
+        });
     }
     return mapping;
 }
