@@ -344,7 +344,8 @@ void tst_PrjMapperCertainty::combinations_data()
     QTest::newRow("one line of the target")
         << QByteArray("D,L:r\nM8,20;10\n") << QByteArray("D,L:r\nM8,10;20\n") << true;
     QTest::newRow("more combinations than are looked at")
-        << QByteArray("D,L:r\nM8,20;1001..102000/1\n") << QByteArray("D,L:n\nM8,20\n") << false;
+        << QByteArray("D,L:r,W:r\nM8,20;1001..1400/1,1..400/1\n") << QByteArray("D,L:n\nM8,20\n")
+        << false;
 }
 
 void tst_PrjMapperCertainty::combinations()
@@ -353,9 +354,13 @@ void tst_PrjMapperCertainty::combinations()
     QFETCH(QByteArray, target);
     Case test(source, {{"new/a.prj", target}});
     addCondition(test.mapping(), 0, "L .GT. 0");
+    if (source.contains("W:r"))
+        addCondition(test.mapping(), 0, "W .GT. 0");
     test.fixture->start();
     MapperFixture::Varset values = test.fixture->varset(1);
     values["L"].setValue(VKTab::Value("20"));
+    if (values.contains("W"))
+        values["W"].setValue(VKTab::Value("1"));
     PrjMapperC &mapper = test.fixture->mapper;
     const PrjMapperLineC line = mapper.createLine(1, values, false);
     QVERIFY(line.isFound());

@@ -5,6 +5,7 @@
 #include <geomcore/mapper/SimilarityRules.h>
 #include <geomcore/mapper/TextSimilarity.h>
 
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Mapper;
@@ -16,6 +17,8 @@ class tst_Similarity : public QObject
 private Q_SLOTS:
     void tokens_data();
     void tokens();
+    void editDistancesOfLongTexts();
+    void longTexts();
     void editDistances_data();
     void editDistances();
     void texts_data();
@@ -59,7 +62,63 @@ void tst_Similarity::tokens()
     QFETCH(QByteArray, text);
     QFETCH(QStringList, expected);
     const ComparableText comparable({text.constData(), size_t(text.size())});
-    QCOMPARE(QStringList(comparable.tokens().begin(), comparable.tokens().end()), expected);
+    QStringList tokens;
+    for (const QStringView token : comparable.tokens())
+        tokens.append(token.toString());
+    QCOMPARE(tokens, expected);
+}
+
+namespace {
+
+/// The textbook's table.
+int plainDistance(const QString &a, const QString &b)
+{
+    QList<QList<int>> table(a.size() + 1, QList<int>(b.size() + 1));
+    for (int i = 0; i <= a.size(); ++i) {
+        for (int j = 0; j <= b.size(); ++j) {
+            if (i == 0 || j == 0)
+                table[i][j] = std::max(i, j);
+            else
+                table[i][j] = std::min({table[i - 1][j] + 1, table[i][j - 1] + 1,
+                                        table[i - 1][j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1)});
+        }
+    }
+    return table[a.size()][b.size()];
+}
+
+} // namespace
+
+void tst_Similarity::editDistancesOfLongTexts()
+{
+    QRandomGenerator random(5);
+    const auto text = [&random](int size) {
+        QString result;
+        while (result.size() < size)
+            result += random.bounded(4) == 0 ? QChar(0x20AC) : QChar('a' + int(random.bounded(4)));
+        return result;
+    };
+    for (int size : {1, 63, 64, 65, 127, 128, 129, 200}) {
+        for (int other : {1, 64, 128, 150}) {
+            const QString a = text(size);
+            const QString b = text(other);
+            QCOMPARE(editDistance(a, b), plainDistance(a, b));
+        }
+    }
+}
+
+void tst_Similarity::longTexts()
+{
+    // The tokens of the whole texts count, characters of their beginning only.
+    const QString begin = QString(300, 'x');
+    const ComparableText first((begin + " one two three").toStdString());
+    const ComparableText second((begin + " one two four").toStdString());
+    QCOMPARE(first.similarity(second), 0.5 * 6 / 8 + 0.5);
+    // Below what is needed an upper bound does.
+    const ComparableText third("one two");
+    const ComparableText fourth("six ten");
+    QVERIFY(third.similarity(fourth) < 0.5);
+    QCOMPARE(third.similarity(fourth, 0.9), 0.5);
+    QCOMPARE(third.similarity(fourth, 0.4), third.similarity(fourth));
 }
 
 void tst_Similarity::editDistances_data()

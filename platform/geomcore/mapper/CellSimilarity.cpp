@@ -29,18 +29,24 @@ ComparableCell::ComparableCell(std::string_view text)
         m_number = number->toDouble();
 }
 
-double ComparableCell::similarity(std::string_view cell, char decimalChar) const
+std::optional<double> ComparableCell::quickSimilarity(std::string_view cell, char decimalChar) const
 {
-    const std::string_view trimmed = VKTab::trimmedCell(cell);
-    if (trimmed == m_text)
+    if (VKTab::trimmedCell(cell) == m_text)
         return 1;
     if (m_number) {
         if (const std::optional<CanonicalNumber> other = CanonicalNumber::parse(cell, decimalChar))
             return numberSimilarity(*m_number, other->toDouble());
     }
+    return std::nullopt;
+}
+
+double ComparableCell::similarity(std::string_view cell, char decimalChar, double least) const
+{
+    if (const std::optional<double> quick = quickSimilarity(cell, decimalChar))
+        return *quick;
     if (!m_comparable)
         m_comparable.emplace(m_text);
-    return m_comparable->similarity(ComparableText(trimmed));
+    return m_comparable->similarity(ComparableText(VKTab::trimmedCell(cell)), least);
 }
 
 } // namespace Mapper

@@ -23,8 +23,12 @@ public:
     [[nodiscard]] bool hasValue() const { return !m_text.empty(); }
     [[nodiscard]] std::string_view text() const { return m_text; }
     [[nodiscard]] const std::optional<double> &number() const { return m_number; }
-    /// From 0 to 1 with a cell that has a value.
-    [[nodiscard]] double similarity(std::string_view cell, char decimalChar) const;
+    /// From 0 to 1 with a cell that has a value. \a least as in ComparableText::similarity.
+    [[nodiscard]] double similarity(std::string_view cell, char decimalChar,
+                                    double least = 0) const;
+    /// The same if it costs little; nothing for two texts that differ.
+    [[nodiscard]] std::optional<double> quickSimilarity(std::string_view cell,
+                                                        char decimalChar) const;
 
 private:
     std::string_view m_text;

@@ -50,14 +50,30 @@ void ElementIndex::addRow(const TargetTable &table, int variable, int row)
     }
 }
 
+ElementIndex::Rows ElementIndex::rowsOf(std::string_view value) const
+{
+    const quint64 hash = hashOf(value, '.');
+    const auto [first, last] =
+        std::equal_range(m_rows.begin(), m_rows.end(), std::pair(hash, 0),
+                         [](const auto &a, const auto &b) { return a.first < b.first; });
+    return {first, last};
+}
+
+size_t ElementIndex::countCandidates(std::string_view source) const
+{
+    size_t count = rowsOf(source).size();
+    const auto range = RangeText::parse(QString::fromUtf8(source.data(), qsizetype(source.size())));
+    if (range && !range->isEmpty())
+        count += rowsOf(range->value(0).toStdString()).size() + m_wide.size();
+    return count;
+}
+
 std::vector<int> ElementIndex::candidates(std::string_view source) const
 {
     std::vector<int> rows;
     const auto add = [&](std::string_view value) {
-        const quint64 hash = hashOf(value, '.');
-        auto at = std::lower_bound(m_rows.begin(), m_rows.end(), std::pair(hash, -1));
-        for (; at != m_rows.end() && at->first == hash; ++at)
-            rows.push_back(at->second);
+        for (const auto &[hash, row] : rowsOf(value))
+            rows.push_back(row);
     };
     add(source);
     const auto range = RangeText::parse(QString::fromUtf8(source.data(), qsizetype(source.size())));

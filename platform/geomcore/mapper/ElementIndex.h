@@ -22,7 +22,12 @@ public:
     /// Rows with no value for an empty text. To be compared by the caller.
     [[nodiscard]] std::vector<int> candidates(std::string_view source) const;
 
+    /// Number of these, but for rows that come more than once.
+    [[nodiscard]] size_t countCandidates(std::string_view source) const;
+
 private:
+    using Rows = std::span<const std::pair<quint64, int>>;
+    [[nodiscard]] Rows rowsOf(std::string_view value) const;
     void addRow(const TargetTable &table, int variable, int row);
 
     std::vector<std::pair<quint64, int>> m_rows; ///< Sorted by hash of the value, then row.

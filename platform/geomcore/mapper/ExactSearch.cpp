@@ -8,6 +8,8 @@
 #include <geomcore/table/TableData.h>
 #include <geomcore/value/CellKey.h>
 
+#include <limits>
+
 namespace Mapper {
 
 using VKTab::CellKey;
@@ -98,11 +100,16 @@ void ExactSearch::forEachCandidate(const std::vector<int> &rows, int after, int 
 std::vector<int> ExactSearch::elementCandidates(const LineTexts &line) const
 {
     size_t chosen = m_rest.front();
+    size_t fewest = std::numeric_limits<size_t>::max();
     for (size_t place : m_rest) {
-        if (!line.values[place].text.empty()) {
+        const std::string_view text = line.values[place].text;
+        const size_t count = m_table.elementIndex(m_variables[place])->countCandidates(text);
+        if (count < fewest) {
             chosen = place;
-            break;
+            fewest = count;
         }
+        if (fewest <= size_t(LongRing)) // no need to build another index
+            break;
     }
     return m_table.elementIndex(m_variables[chosen])->candidates(line.values[chosen].text);
 }

@@ -50,7 +50,7 @@ void NearCells::add(std::string_view text, char decimalChar, int row)
     }
     const ComparableText comparable(text);
     m_texts.emplace_back(qHash(comparable.text()), row);
-    for (const QString &token : comparable.tokens())
+    for (const QStringView token : comparable.tokens())
         m_tokens.emplace_back(qHash(token), row);
 }
 
@@ -72,7 +72,7 @@ std::vector<int> NearCells::textRows(std::string_view text, size_t limit) const
 {
     const ComparableText comparable(text);
     std::vector<int> best;
-    for (const QString &token : comparable.tokens()) {
+    for (const QStringView token : comparable.tokens()) {
         const size_t hash = qHash(token);
         std::vector<int> found = rowsOf(m_tokens, hash, hash, limit);
         if (!found.empty() && (best.empty() || found.size() < best.size()))

@@ -25,7 +25,7 @@ namespace {
 
 /// Equal rows of one line that are counted as claimed by it.
 constexpr int MaxClaimed = 16;
-/// Combinations of the ranges of one line that are looked at.
+/// A line with so many combinations is not certain: there may be more than are walked.
 constexpr int MaxCombinations = 100'000;
 /// Rows that a thread looks up in one go.
 constexpr int RowsAStep = 16384;
@@ -131,7 +131,7 @@ int PairJoinBuilder::joinCombinations(int row)
     combinations.setVariablesToResolve(m_ranges);
     int count = 0;
     while (combinations.next()) {
-        if (++count > MaxCombinations) {
+        if (++count == MaxCombinations) {
             m_join->m_divided.insert(row);
             break;
         }

@@ -30,7 +30,7 @@ public:
     /// counts 0.
     [[nodiscard]] double similarity(const LineTexts &line, int row) const;
     /// Among the candidates; \a alsoRow is looked at in any case unless it is -1. \a shownOnly
-    /// leaves out lines that the project hides.
+    /// leaves out lines that the project hides. Figures too low to play a part are not exact.
     [[nodiscard]] Result find(const LineTexts &line, int alsoRow, bool shownOnly) const;
     /// The best among these rows.
     [[nodiscard]] Result best(const LineTexts &line, const std::vector<int> &rows) const;
@@ -38,12 +38,17 @@ public:
 private:
     using Cells = std::vector<ComparableCell>;
 
-    [[nodiscard]] double similarity(const LineTexts &line, const Cells &cells, int row) const;
+    /// Exact from \a least on, else anything below it.
+    [[nodiscard]] double similarity(const LineTexts &line, const Cells &cells, int row,
+                                    double least) const;
+    [[nodiscard]] Result best(const LineTexts &line, const std::vector<int> &rows,
+                              double least) const;
 
     const TargetTable &m_table;
     std::vector<int> m_variables;
     std::shared_ptr<const SimilarCandidates> m_candidates;
-    mutable TargetTable::Row m_row; ///< Room for the row that is compared.
+    mutable TargetTable::Row m_row;     ///< Room for the row that is compared.
+    mutable std::vector<size_t> m_slow; ///< Room for the places that cost much.
 };
 
 } // namespace Mapper

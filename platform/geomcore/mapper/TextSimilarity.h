@@ -17,14 +17,17 @@ public:
     explicit ComparableText(std::string_view utf8);
 
     /// From 0 to 1: the mean of how many tokens both have (Dice) and of how few characters have to
-    /// be edited (Levenshtein, over the longer length). Two equal texts have 1.
-    [[nodiscard]] double similarity(const ComparableText &other) const;
+    /// be edited (Levenshtein, over the longer length). Two equal texts have 1. Of long texts only
+    /// the beginning is compared character by character. Characters are not looked at if the tokens
+    /// alone show that the result stays below \a least; it is then an upper bound.
+    [[nodiscard]] double similarity(const ComparableText &other, double least = 0) const;
     [[nodiscard]] const QString &text() const { return m_text; }
-    [[nodiscard]] const std::vector<QString> &tokens() const { return m_tokens; }
+    /// Parts of text().
+    [[nodiscard]] const std::vector<QStringView> &tokens() const { return m_tokens; }
 
 private:
     QString m_text;
-    std::vector<QString> m_tokens; ///< Sorted, each once.
+    std::vector<QStringView> m_tokens; ///< Sorted, each once.
 };
 
 /// Smallest number of inserted, removed and replaced characters that makes one text the other.
