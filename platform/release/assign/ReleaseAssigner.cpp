@@ -1,6 +1,7 @@
 #include "ReleaseAssigner.h"
 
 #include "assignProjectLines.h"
+#include "SharedTargetLines.h"
 
 #include <core/message/PStringMessageImpl.h>
 #include <core/parallel/WorkerPool.h>
@@ -201,7 +202,14 @@ bool ReleaseAssigner::run(ReleaseMappingC &release, const std::atomic<bool> &can
     }
     lock.unlock();
     worker.join();
-    return take(outcomes, release);
+    const bool allRead = take(outcomes, release);
+    QList<int> done;
+    for (qsizetype i = 0; i < positions.size(); ++i) {
+        if (outcomes[std::size_t(i)].isDone)
+            done.append(positions[i]);
+    }
+    doubtSharedTargetLines(release, done);
+    return allRead;
 }
 
 bool ReleaseAssigner::take(const std::vector<Outcome> &outcomes, ReleaseMappingC &release)
