@@ -2,6 +2,7 @@
 
 #include <core/message/PMessageSink.h>
 
+#include <QDateTime>
 #include <QFile>
 #include <QTest>
 
@@ -49,6 +50,8 @@ class tst_PrjMapperTables : public QObject
 
 private Q_SLOTS:
     void writtenTableIsReadAnew();
+    void writtenTableOfTheSameSizeIsReadAnew();
+    void conditionsTellJoinsApart();
     void writtenProjectIsReadAnew();
     void tableThatAppears();
     void openTableStaysWithItsMapper();
@@ -66,6 +69,42 @@ void tst_PrjMapperTables::writtenTableIsReadAnew()
     QCOMPARE(proposal(catalog), "0:1 ok");
     catalog.write("new/a.prj", "D,k:n\nX10,1\nM9,6\nM8,5\n");
     QCOMPARE(proposal(catalog), "0:3 ok");
+}
+
+void tst_PrjMapperTables::writtenTableOfTheSameSizeIsReadAnew()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("new/a.prj", table);
+    QCOMPARE(proposal(catalog), "0:1 ok");
+    catalog.writeFile("new/a.csv", "D,k\nM9,6\nM8,5\n");
+    QFile file(catalog.file("new/a.csv"));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60),
+                             QFileDevice::FileModificationTime));
+    file.close();
+    QCOMPARE(proposal(catalog), "0:2 ok");
+}
+
+void tst_PrjMapperTables::conditionsTellJoinsApart()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n,g:n\nM8,5,1\nM8,5,2\n");
+    catalog.write("new/a.prj", "D,k:n\nM8,5\n");
+    const VKTab::Content source = catalog.read("old/a.prj");
+    const auto proposed = [&](const QString &condition) {
+        MapperFixture fixture(catalog, {"new/a.prj"});
+        fixture.source = source;
+        if (!condition.isEmpty())
+            addCondition(fixture.mapping, 0, condition);
+        fixture.start();
+        const PrjMapperLineC line = fixture.create(1);
+        const VKTab::LineView view(source, VKTab::LineId(1));
+        return fixture.mapper.passesCheck(line, view, CheckValues | CheckConditions);
+    };
+    QVERIFY2(!proposed(QString()), "two source lines for one target line");
+    QVERIFY2(proposed("g .EQ. 1"), "the other one is not for this target");
+    QVERIFY(!proposed(QString()));
 }
 
 void tst_PrjMapperTables::writtenProjectIsReadAnew()

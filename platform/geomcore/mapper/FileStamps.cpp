@@ -19,4 +19,12 @@ FileStamps::FileStamps(const QStringList &nativePaths)
     }
 }
 
+void FileStamps::distrustSince(qint64 moment)
+{
+    for (Stamp &stamp : m_stamps) {
+        if (stamp.time > moment)
+            stamp.size = -2;
+    }
+}
+
 } // namespace Mapper

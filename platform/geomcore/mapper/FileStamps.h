@@ -15,6 +15,9 @@ public:
     explicit FileStamps(const QStringList &nativePaths);
 
     [[nodiscard]] const QStringList &paths() const { return m_paths; }
+    /// Makes the stamps of files written since that moment (milliseconds since 1970) equal to
+    /// nothing: what was read meanwhile may be half of it.
+    void distrustSince(qint64 moment);
 
     friend bool operator==(const FileStamps &, const FileStamps &) = default;
 

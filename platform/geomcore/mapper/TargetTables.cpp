@@ -6,6 +6,8 @@
 #include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TableData.h>
 
+#include <QDateTime>
+
 #include <algorithm>
 
 namespace Mapper {
@@ -48,11 +50,17 @@ std::shared_ptr<const TargetTable> TargetTables::open(const QString &nativeProje
 std::shared_ptr<const TargetTable> TargetTables::read(Entry &entry)
 {
     const bool told = entry.failed && FileStamps(entry.stamps.paths()) == entry.stamps;
+    // Stamped before they are read, as far as it is known which files these are.
+    const FileStamps before(entry.stamps.paths());
+    const qint64 begin = QDateTime::currentMSecsSinceEpoch();
     VKTab::Content content;
     const VKTab::ProjectTable project =
         VKTab::readProjectTable(entry.path, content, {.tells = !told});
     entry.failed = !project;
-    entry.stamps = FileStamps(filesOf(entry.path, project, content));
+    const QStringList files = filesOf(entry.path, project, content);
+    entry.stamps = files == before.paths() ? before : FileStamps(files);
+    if (files != before.paths())
+        entry.stamps.distrustSince(begin);
     const auto table = project ? std::make_shared<const TargetTable>(content) : nullptr;
     entry.table = table;
     return table;
