@@ -74,6 +74,9 @@ private Q_SLOTS:
     void orderOfTargetsMatters();
     void hiddenLinesCount();
     void conditionsMoveLines();
+    void existingEntryIsCheckedWithItsConditions();
+    void internalVariablesAreNotCompared();
+    void decimalCommaInCombinations();
     void firstCombinationSettles();
     void laterCombinationIsTried();
     void rangeThatNoConditionReadsIsNotWalked();
@@ -266,6 +269,31 @@ void tst_remapProjectLines::conditionsMoveLines()
     enter(m_mapping, 1, 1, 1, Mapped); // its condition does not hold any more
     QCOMPARE(remap({"k"}), "1:1>1/1 1:2>2/1 1:3>3/1");
     QCOMPARE(remap({"k"}, true), "0:1>1/1 1:2>2/1 1:3>3/1");
+}
+
+void tst_remapProjectLines::existingEntryIsCheckedWithItsConditions()
+{
+    enter(m_mapping, 0, 1, 1, ToCheck);
+    enter(m_mapping, 0, 2, 2, ToCheck);
+    addCondition(m_mapping, 0, "k .GT. 5");
+    QCOMPARE(remap(), "0:1>1/0 0:2>2/1 0:3>3/1");
+}
+
+void tst_remapProjectLines::internalVariablesAreNotCompared()
+{
+    write("cat/a.prj", "D,L:r,no:i\nM8,10;20,1\n");
+    write("new/a.prj", "D,L:n,no:n\nM8,20,2\n");
+    addCondition(m_mapping, 0, "L .GT. 15");
+    QCOMPARE(remap({"L"}), "0:1>1/1");
+}
+
+void tst_remapProjectLines::decimalCommaInCombinations()
+{
+    m_catalog->write("cat/a.prj", "D,L:r\nM8,\"1,5;2,5\"\n",
+                     [](VKTab::TableDescriptor &table) { table.fields[1].decimalChar = ','; });
+    write("new/a.prj", "D,L:n\nM8,2.50\n");
+    addCondition(m_mapping, 0, "L .GT. 2");
+    QCOMPARE(remap({"L"}), "0:1>1/1");
 }
 
 void tst_remapProjectLines::firstCombinationSettles()

@@ -100,7 +100,7 @@ LinePart::LinePart(const QString &sourcePath, const QString &sourceVersion,
                    const QStringList &conditionVariables, bool force)
     : m_mapper(IndexTreeC::instance())
     , m_usable(false)
-    , m_run(m_mapper, table, conditionVariables, force)
+    , m_run(m_mapper, table, {.conditionVariables = conditionVariables, .force = force})
 {
     m_mapper.setCreatorMode(true);
     m_mapper.setSourceProject(PPathName(sourcePath));

@@ -12,15 +12,14 @@ constexpr CheckModeFlags automaticCheck = CheckModeFlags(CheckValues) | CheckCon
 
 } // namespace
 
-LineRun::LineRun(PrjMapperC &mapper, const VKTab::Content &table,
-                 const QStringList &conditionVariables, bool force)
+LineRun::LineRun(PrjMapperC &mapper, const VKTab::Content &table, const LineRunOptions &options)
     : m_mapper(mapper)
     , m_table(table)
-    , m_force(force)
+    , m_runOptions(options)
     , m_data(table.isPlain() ? table.getTableData() : nullptr)
 {
     for (const VKTab::Var &var : table.getVarList()) {
-        if (var.isFW() && conditionVariables.contains(var.getName()))
+        if (var.isFW() && options.conditionVariables.contains(var.getName()))
             m_ranges.append(var.getName());
     }
     for (const VKTab::VarId &id : table.getColumnMapping().getOrdered()) {
@@ -45,12 +44,14 @@ void LineRun::assign(const VKTab::LineId &id)
 
 void LineRun::assignCombinations(const VKTab::LineId &id)
 {
-    VKTab::Line line = m_table.getLine(id, true);
+    const bool all = m_runOptions.combinations == LineRunOptions::Combinations::All;
+    VKTab::Line line = m_table.getLine(id, !all);
     VKTab::ValueRangeIterator combinations(m_table, line, m_options);
     combinations.setVariablesToResolve(m_ranges);
     const bool hasRange = combinations.next();
     do {
-        if (hasRange ? assignShown(id.value(0), line) : assignStored(id))
+        const bool settled = hasRange ? assignShown(id.value(0), line) : assignStored(id);
+        if ((settled && !all) || isCanceled())
             return;
     } while (combinations.next());
 }
@@ -68,6 +69,8 @@ bool LineRun::assignStored(const VKTab::LineId &id)
 
 bool LineRun::assignShown(int lineId, const VKTab::Line &line)
 {
+    if (m_runOptions.combinations == LineRunOptions::Combinations::All)
+        return settle(lineId, createVarsetFromVKTable(line, {}));
     const VKTab::LineView view(line);
     return m_viewsSuffice && view.isValid() ? settle(lineId, view)
                                             : settle(lineId, shownVarset(line));
@@ -91,7 +94,7 @@ template<class Values>
 bool LineRun::settle(int lineId, const Values &values)
 {
     PrjMapperLineC line = m_mapper.findLine(lineId, values);
-    if (!line.isValid() || (m_force && line.getCheckState() != PRJMAPPING::Verified)) {
+    if (!line.isValid() || (m_runOptions.force && line.getCheckState() != PRJMAPPING::Verified)) {
         line = PrjMapperLineC(); // lets go of the mapping that is about to change
         line = m_mapper.createLine(lineId, values, false);
     }
