@@ -3,6 +3,7 @@
 #include <core/config/PIniFile.h>
 #include <core/files/DurableFile.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void fullDisk();
     void fullDiskAtAnIniFile();
     void laterErrorsOfTheStream();
+    void stampedNameIsFree();
 
 private:
     [[nodiscard]] QString path(const QString &name) const { return m_dir->filePath(name); }
@@ -158,6 +160,18 @@ void tst_DurableFile::laterErrorsOfTheStream()
     QVERIFY(!DurableFile::commit(file));
     QCOMPARE(content(path("a")), QByteArray("former"));
     QCOMPARE(entries(), QStringList{"a"});
+}
+
+/// Also of a file whose name looks like a place for another text.
+void tst_DurableFile::stampedNameIsFree()
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    for (int second = 0; second < 60; ++second) {
+        const QString stamp = now.addSecs(second).toString("yyyyMMdd-hhmmss'Z'");
+        QVERIFY(DurableFile::write(path("a%1b.copy-" + stamp), "taken"));
+    }
+    const QString name = DurableFile::stampedName(path("a%1b"), "copy");
+    QVERIFY2(name.startsWith(path("a%1b.copy-")) && name.endsWith("Z-2"), qPrintable(name));
 }
 
 QTEST_GUILESS_MAIN(tst_DurableFile)

@@ -142,7 +142,7 @@ QString DurableFile::stampedName(const QString &path, const QString &word)
     const QString name = QStringLiteral("%1.%2-%3").arg(path, word, stamp);
     QString free = name;
     for (int i = 2; QFile::exists(free); ++i)
-        free = QStringLiteral("%1-%2").arg(name).arg(i);
+        free = QStringLiteral("%1-%2").arg(name, QString::number(i));
     return free;
 }
 
