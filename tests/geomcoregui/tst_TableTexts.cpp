@@ -146,6 +146,13 @@ private Q_SLOTS:
         const int width = grid()->columnWidth(0);
         QVERIFY(width > 100 && width <= 360);
         grid()->grab();
+        // The same by a double click on the edge of its caption.
+        const QHeaderView *const header = grid()->horizontalHeader();
+        grid()->setColumnWidth(0, 203);
+        const QPoint edge(header->sectionViewportPosition(0) + 202, header->height() / 2);
+        QTest::mouseMove(header->viewport(), edge);
+        QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, edge);
+        QCOMPARE(grid()->columnWidth(0), width);
     }
 
 private:

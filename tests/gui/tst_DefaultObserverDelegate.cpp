@@ -348,7 +348,11 @@ private Q_SLOTS:
         PProgress progress(0, 10, 1.0, true, false);
         progress.nextStep();
         QDialog dialog(&window);
-        QTimer::singleShot(0, [&dialog] { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        QTimer::singleShot(0, [&dialog] {
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            if (dialog.isVisible())
+                dialog.accept();
+        });
         QCOMPARE(dialog.exec(), int(QDialog::Rejected));
         QVERIFY(!progress.isCanceled());
     }
