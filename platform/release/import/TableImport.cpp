@@ -17,7 +17,18 @@
 
 #include <algorithm>
 
-using namespace VKTab;
+using VKTab::CanonicalNumber;
+using VKTab::FieldKind;
+using VKTab::FieldType;
+using VKTab::HeaderRule;
+using VKTab::TableData;
+using VKTab::TableDescriptor;
+using VKTab::TableError;
+using VKTab::TableErrorList;
+using VKTab::TableField;
+using VKTab::TableReadResult;
+using VKTab::appendCell;
+using VKTab::uniqueColumnNames;
 
 namespace VelkRelease {
 
