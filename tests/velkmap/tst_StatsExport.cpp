@@ -219,6 +219,22 @@ private Q_SLOTS:
         }
     }
 
+    void tellsWhatWasPutRight()
+    {
+        PrjMappingC mapping;
+        mapping.setSourcePath("cat/a.prj");
+        mapping.setTargets({target(""), target("cat2/first.prj")});
+        ReleaseMappingC release;
+        release.setSourceDate("v1");
+        release.addMapping(mapping);
+        MappingFile file;
+        file.setRelease(release);
+        const QString path = m_dir.filePath("moved.json");
+        QVERIFY(file.write(path));
+        QCOMPARE(run({"stats", "--mapping", path}), ExitStatus::Done);
+        QVERIFY2(m_err.contains("moved to the end"), qPrintable(m_err));
+    }
+
     void missingMappingFile()
     {
         QCOMPARE(run({"stats", "--mapping", m_dir.filePath("none.json")}),

@@ -73,6 +73,8 @@ std::optional<ExitStatus> ReleaseFile::read(const CommandLine &line, QTextStream
     }
     if (!m_file.read(m_path, date, &error))
         return unreadable(error);
+    for (const QString &note : m_file.notes())
+        err << "velkmap: " << m_path << ": " << note << '\n';
     if (!m_file.contains(date)) {
         return unreadable(m_path + ": there is no release " + date + "; the file holds " +
                           m_file.sourceDates().join(", "));

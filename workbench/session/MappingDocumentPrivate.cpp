@@ -4,6 +4,7 @@
 #include "SessionRecovery.h"
 
 #include <core/json/PJsonValue.h>
+#include <core/message/PMessage.h>
 #include <core/text/PPathName.h>
 #include <geomcore/records/MappingFile.h>
 #include <mapping/data/ReleaseMappingHandler.h>
@@ -140,6 +141,8 @@ OpenResult MappingDocumentPrivate::readRelease(const QString &wantedDate, Releas
         return fail(
             OpenResult::Unreadable,
             MappingDocument::tr("Der Stand %1 kann nicht gelesen werden. %2").arg(date, error));
+    for (const QString &note : mappings.notes())
+        PMessage::LogToWindow(file + QStringLiteral(": ") + note);
     release = mappings.release(date);
     return OpenResult::Opened;
 }
