@@ -4,6 +4,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace {
 
 /// Text of all kinds that a file may not be able to hold as it stands.
@@ -145,6 +147,9 @@ private Q_SLOTS:
         QTest::newRow("short code")
             << QByteArray("a=\"\\u0x1\"") << "x.ini:1: unknown escape \\u is taken as it stands";
         QTest::newRow("not UTF-8") << QByteArray("a=1\nb=\xe4\n") << "x.ini:2: not UTF-8";
+        QTest::newRow("carriage returns alone")
+            << QByteArray("a=1\rb=2\r")
+            << "x.ini:1: the lines end with carriage returns alone; save the file with line feeds";
     }
     void diagnostics()
     {
@@ -153,6 +158,25 @@ private Q_SLOTS:
         const PIniFile file = parsed(content);
         QCOMPARE(file.diagnosticTexts(), QStringList{expected});
         QCOMPARE(file.toByteArray(), content);
+    }
+    void utf16IsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("little endian") << QByteArray("\xff\xfe[\0S\0]\0\n\0", 10);
+        QTest::newRow("big endian") << QByteArray("\xfe\xff\0[\0S\0]\0\n", 10);
+    }
+    void utf16IsNamed()
+    {
+        QFETCH(QByteArray, content);
+        QCOMPARE(parsed(content).diagnosticTexts().value(0),
+                 "x.ini:1: the file is UTF-16; save it as UTF-8");
+    }
+    void aHeadingWithoutNameIsThePartBeforeTheFirst()
+    {
+        const PIniFile file = parsed("[s]\na=1\n[]\na=2\n");
+        QCOMPARE(file.diagnosticTexts(), QStringList());
+        QCOMPARE(file.value("", "a"), "2");
+        QCOMPARE(file.value("s", "a"), "1");
     }
     void whatMakesNoSenseIsTakenAsItStands()
     {
@@ -211,18 +235,6 @@ private Q_SLOTS:
         file.setValue("s", "k", "4");
         QCOMPARE(file.toByteArray(), QByteArray("[s]\na=0\n[t]\nk=9\n[s]\nk = 4\n"));
     }
-    void removeSectionTakesItsHeadings()
-    {
-        PIniFile file = parsed("; head\nx=1\n[s]\nk=1\n[t]\nk=2\n[s]\nk=3\n");
-        file.removeSection("s");
-        QCOMPARE(file.toByteArray(), QByteArray("; head\nx=1\n[t]\nk=2\n"));
-        QCOMPARE(file.sections(), QStringList({"", "t"}));
-        file.removeSection("");
-        QCOMPARE(file.toByteArray(), QByteArray("; head\n[t]\nk=2\n"));
-        file.setValue("", "y", "1");
-        file.setValue("s", "k", "4");
-        QCOMPARE(file.toByteArray(), QByteArray("; head\ny = 1\n[t]\nk=2\n\n[s]\nk = 4\n"));
-    }
     void builtFromNothing()
     {
         PIniFile file;
@@ -255,17 +267,13 @@ private Q_SLOTS:
         for (int i = 0; i < 150; ++i) {
             const QString section = name();
             const QString key = name();
-            const int action = random.bounded(20);
-            if (action < 16) {
+            if (random.bounded(20) < 16) {
                 const QString text = randomText(random);
                 file.setValue(section, key, text);
                 expected[section][key] = text;
-            } else if (action < 19) {
+            } else {
                 file.remove(section, key);
                 expected[section].remove(key);
-            } else {
-                file.removeSection(section);
-                expected.remove(section);
             }
             if (i % 30 == 29)
                 file.parse(file.toByteArray());
@@ -307,6 +315,35 @@ private Q_SLOTS:
         QVERIFY2(file.errorText().startsWith("/no/such/file.ini: cannot be read: "),
                  qPrintable(file.errorText()));
         QVERIFY(!file.contains("", "a"));
+    }
+    void onlyRegularFilesAreOpened_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("pipe") << "pipe"
+                              << "it is no regular file";
+        QTest::newRow("link to a pipe") << "link"
+                                        << "it is no regular file";
+        QTest::newRow("directory") << "directory"
+                                   << "it is a directory";
+        QTest::newRow("name with a NUL") << QString("file") + QChar(u'\0') + "x"
+                                         << "the name has a NUL in it";
+    }
+    void onlyRegularFilesAreOpened()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, reason);
+        const QTemporaryDir dir;
+        QCOMPARE(mkfifo(QFile::encodeName(dir.filePath("pipe")).constData(), 0600), 0);
+        QVERIFY(QFile::link(dir.filePath("pipe"), dir.filePath("link")));
+        QVERIFY(QDir(dir.path()).mkdir("directory"));
+        PIniFile there;
+        there.setValue("", "a", "1");
+        QVERIFY(there.save(dir.filePath("file")));
+        PIniFile file;
+        QVERIFY(!file.load(dir.path() + u'/' + name));
+        QVERIFY2(file.errorText().endsWith(": cannot be read: " + reason),
+                 qPrintable(file.errorText()));
     }
     void fileThatCannotBeWrittenStaysAsItWas()
     {

@@ -1,6 +1,7 @@
 #include "PIniFile.h"
 
 #include "PIniText.h"
+#include <core/file/openRegularFile.h>
 
 #include <QFile>
 #include <QStringDecoder>
@@ -34,8 +35,9 @@ bool PIniFile::load(const QString &nativePath)
     clear();
     m_fileName = nativePath;
     QFile file(nativePath);
-    if (!file.open(QIODevice::ReadOnly)) {
-        m_errorText = QStringLiteral("%1: cannot be read: %2").arg(nativePath, file.errorString());
+    QString problem;
+    if (!openRegularFile(file, problem)) {
+        m_errorText = QStringLiteral("%1: cannot be read: %2").arg(nativePath, problem);
         return false;
     }
     const QByteArray content = file.readAll();
@@ -57,6 +59,7 @@ void PIniFile::parse(const QByteArray &content, const QString &fileName)
     clear();
     m_fileName = fileName;
     m_byteOrderMark = content.startsWith(ByteOrderMark);
+    noteEncoding(content);
     addBlock(QString());
     qsizetype begin = m_byteOrderMark ? ByteOrderMark.size() : 0;
     const qsizetype firstEnd = content.indexOf('\n', begin);
@@ -68,6 +71,16 @@ void PIniFile::parse(const QByteArray &content, const QString &fileName)
         parseLine(content.mid(begin, end - begin), number);
         begin = end;
     }
+}
+
+/// What makes a whole file senseless, told once and first.
+void PIniFile::noteEncoding(const QByteArray &content)
+{
+    if (content.startsWith("\xff\xfe") || content.startsWith("\xfe\xff"))
+        note(1, QStringLiteral("the file is UTF-16; save it as UTF-8"));
+    else if (content.contains('\r') && !content.contains('\n'))
+        note(1, QStringLiteral("the lines end with carriage returns alone; save the file with "
+                               "line feeds"));
 }
 
 void PIniFile::parseLine(const QByteArray &bytes, int number)

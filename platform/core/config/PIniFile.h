@@ -60,8 +60,6 @@ public:
     void setValue(const QString &section, const QString &key, const QString &value);
     /// Takes out every line of the key.
     void remove(const QString &section, const QString &key);
-    /// Takes out all keys of the section with its headings and the comments between them.
-    void removeSection(const QString &section);
 
     [[nodiscard]] const QList<Diagnostic> &diagnostics() const { return m_diagnostics; }
     /// The diagnostics as "file:line: message".
@@ -98,6 +96,7 @@ private:
     };
 
     void clear();
+    void noteEncoding(const QByteArray &content);
     void parseLine(const QByteArray &bytes, int number);
     bool parseHeading(QStringView text, int number);
     bool parseKey(QStringView text, Line &line);
@@ -110,7 +109,6 @@ private:
                                 const QByteArray &comment) const;
     void insertKey(const QString &section, Line line);
     void addSection(const QString &section);
-    void reopenPreamble();
     void endLine(Line &line) const;
     [[nodiscard]] static size_t endOfText(const std::vector<Line> &lines);
 

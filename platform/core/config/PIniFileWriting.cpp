@@ -108,32 +108,6 @@ void PIniFile::remove(const QString &section, const QString &key)
     }
 }
 
-void PIniFile::removeSection(const QString &section)
-{
-    const auto found = m_sections.find(section);
-    if (found == m_sections.end())
-        return;
-    for (const int block : std::as_const(found->blocks)) {
-        if (block != 0) {
-            m_blocks[size_t(block)].lines.clear();
-            continue;
-        }
-        for (Line &line : m_blocks[0].lines)
-            line = line.isKey ? Line() : line;
-    }
-    m_sections.erase(found);
-    m_sectionOrder.removeOne(section);
-    if (section.isEmpty())
-        reopenPreamble();
-}
-
-/// The part before the first heading is always there.
-void PIniFile::reopenPreamble()
-{
-    m_sections[QString()].blocks.append(0);
-    m_sectionOrder.prepend(QString());
-}
-
 // Writing
 
 QByteArray PIniFile::toByteArray() const
