@@ -1,3 +1,4 @@
+#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/project/PrjClass.h>
 #include <geomcore/project/PrjFile.h>
 #include <geomcore/table/makeSachmRelativeToCatalog.h>
@@ -70,6 +71,8 @@ private Q_SLOTS:
     void readsParts_data();
     void readsParts();
     void readFails();
+    void addressesAndWaysOutAreRefused();
+    void keepsWarnings();
     void readsAgain();
     void tableFile_data();
     void tableFile();
@@ -206,6 +209,35 @@ void tst_PrjClass::readFails()
     const refHandle<PrjClass> made(new PrjClass(false, true, false));
     QCOMPARE(made->read(path("none.prj"), 7), 1);
     QCOMPARE(made->lexems().size(), 0);
+}
+
+void tst_PrjClass::addressesAndWaysOutAreRefused()
+{
+    const QString former = QDir::currentPath();
+    writeFile(path("svn:/host/a.prj"), Project);
+    QVERIFY(QDir::setCurrent(m_dir->path()));
+    PrjClass project(false, false, false);
+    const int result = project.read("svn://host/a.prj", 7);
+    QDir::setCurrent(former);
+    QCOMPARE(result, -1);
+    QCOMPARE(project.errorText(), "svn://host/a.prj: is an address; only files are read");
+
+    QVERIFY(QDir().mkpath(path("root")));
+    CatalogPlaces::instance().addRoot(PPathName(path("root")));
+    QCOMPARE(project.read(path("a.prj"), 7), 1);
+    QCOMPARE(project.read(path("root/../a.prj"), 7), -1);
+    QVERIFY2(project.errorText().contains("lies outside of"), qPrintable(project.errorText()));
+}
+
+void tst_PrjClass::keepsWarnings()
+{
+    writeFile(path("bad.prj"), "[PROJECT]\nNAME = x\nwhat is this\n");
+    PrjClass project(false, false, false);
+    QCOMPARE(project.read(path("bad.prj"), 7), 1);
+    QCOMPARE(project.warnings().size(), 1);
+    QCOMPARE(project.warnings().first().line, 3);
+    QCOMPARE(project.read(path("a.prj"), 7), 1);
+    QVERIFY(project.warnings().isEmpty());
 }
 
 void tst_PrjClass::readsAgain()

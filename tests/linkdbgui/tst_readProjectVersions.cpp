@@ -43,6 +43,10 @@ void tst_readProjectVersions::versions_data()
                                              << Versions("v240531114500", "");
     QTest::newRow("table elsewhere") << head + date + "SACHM=../other/dated.json\n"
                                      << Versions("v240531114500", "v200102030405");
+    QTest::newRow("table from the catalog root") << head + date + "SACHM=cat/other/dated.json\n"
+                                                 << Versions("v240531114500", "v200102030405");
+    QTest::newRow("table outside of the root") << head + date + "SACHM=../../../dated.json\n"
+                                               << Versions("v240531114500", "");
     QTest::newRow("table with a backslash") << head + date + "SACHM=..\\other\\dated.json\n"
                                             << Versions("v240531114500", "v200102030405");
     QTest::newRow("nothing told") << head << Versions();

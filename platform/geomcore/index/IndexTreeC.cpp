@@ -1,5 +1,6 @@
 #include "IndexTreeC.h"
 
+#include "CatalogPlaces.h"
 #include <core/text/PathAlias.h>
 
 #include <mutex>
@@ -27,6 +28,7 @@ IndexTreeC::IndexTreeC(const PPathName &catalogRoot)
     : d(std::make_unique<Private>())
 {
     d->root = catalogRoot;
+    CatalogPlaces::instance().addRoot(catalogRoot);
 }
 
 IndexTreeC::~IndexTreeC() = default;
@@ -49,6 +51,7 @@ PPathName IndexTreeC::catalogRoot() const
 
 void IndexTreeC::setCatalogRoot(const PPathName &root)
 {
+    CatalogPlaces::instance().addRoot(root);
     const std::scoped_lock guard(d->lock);
     d->root = root;
     if (!d->isProcessTree)

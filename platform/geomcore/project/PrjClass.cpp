@@ -1,6 +1,8 @@
 #include "PrjClass.h"
 
 #include "PrjFile.h"
+#include "tableFileOf.h"
+#include <geomcore/index/CatalogPlaces.h>
 
 #include <QDir>
 #include <QLockFile>
@@ -16,20 +18,22 @@ PrjClass::~PrjClass() = default;
 
 int PrjClass::read(const QString &nativePath, int parts)
 {
+    clear();
+    const bool address = PPathName(nativePath).isAddress();
     // Absolute, so that the table's path is right wherever it is asked for.
-    m_path = QDir::isRelativePath(nativePath) ? QDir().absoluteFilePath(nativePath) : nativePath;
-    m_valid = false;
-    m_errorText.clear();
-    m_lexems.clear();
-    m_variables.clear();
-    m_tableReference.clear();
+    m_path = !address && QDir::isRelativePath(nativePath) ? QDir().absoluteFilePath(nativePath)
+                                                          : nativePath;
+    if (address)
+        return fail(m_path + QStringLiteral(": is an address; only files are read"));
+    const QString refusal = CatalogPlaces::instance().refusal(m_path);
+    if (!refusal.isEmpty())
+        return fail(m_path + QStringLiteral(": ") + refusal);
     if (!takeLock())
         return -1;
     PrjFile file;
-    if (file.Load(nativePath, m_create) != 1) {
-        m_errorText = file.errorText();
-        return -1;
-    }
+    if (file.Load(nativePath, m_create) != 1)
+        return fail(file.errorText());
+    m_warnings = file.diagnostics();
     if (parts & ReadLexems) {
         for (const QString &name : file.lexemNames())
             m_lexems.insert(name, file.GetLexemValue(name));
@@ -45,6 +49,22 @@ int PrjClass::read(const QString &nativePath, int parts)
     return 1;
 }
 
+void PrjClass::clear()
+{
+    m_valid = false;
+    m_errorText.clear();
+    m_warnings.clear();
+    m_lexems.clear();
+    m_variables.clear();
+    m_tableReference.clear();
+}
+
+int PrjClass::fail(const QString &error)
+{
+    m_errorText = error;
+    return -1;
+}
+
 bool PrjClass::takeLock()
 {
     m_lockFile.reset();
@@ -58,8 +78,7 @@ bool PrjClass::takeLock()
     QString application;
     const bool known = m_lockFile->getLockInfo(&process, &host, &application);
     m_errorText = m_path + (known ? QStringLiteral(": is locked by %1 on %2 (process %3)")
-                                        .arg(application, host)
-                                        .arg(process)
+                                        .arg(application, host, QString::number(process))
                                   : QStringLiteral(": the lock file beside it cannot be written"));
     m_lockFile.reset();
     return false;
@@ -67,9 +86,5 @@ bool PrjClass::takeLock()
 
 QString PrjClass::tableFile() const
 {
-    if (m_tableReference.isEmpty())
-        return {};
-    return PPathName::MergeDirAndFile(PPathName(m_path).directory(), PPathName(m_tableReference),
-                                      true)
-        .native();
+    return tableFileOf(m_path, m_tableReference);
 }

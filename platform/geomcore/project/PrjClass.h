@@ -2,6 +2,7 @@
 
 #include "refHandle.h"
 
+#include <core/config/PIniFile.h>
 #include <core/text/PPathName.h>
 #include <geomcore/VelkGeomCoreGlobal.h>
 
@@ -25,7 +26,7 @@ public:
     };
 
     /// \a keepRelative: the reference to the table stays as the file has it, else it is resolved
-    /// against the project's directory while reading. \a create: a file that is not there is an
+    /// while reading. \a create: a file that is not there is an
     /// empty project. \a lock: reading takes the lock file "NAME.prj.lock", kept until the project
     /// goes; without it reading fails.
     PrjClass(bool keepRelative, bool create, bool lock);
@@ -38,6 +39,8 @@ public:
     [[nodiscard]] bool isValid() const { return m_valid; }
     /// Why reading failed, with the file's name; empty if it did not.
     [[nodiscard]] const QString &errorText() const { return m_errorText; }
+    /// The lines of the file that made no sense and were passed over.
+    [[nodiscard]] const QList<PIniFile::Diagnostic> &warnings() const { return m_warnings; }
     /// Native path of the file given to read().
     [[nodiscard]] const QString &path() const { return m_path; }
     /// Value of a lexeme, empty if there is none.
@@ -49,11 +52,13 @@ public:
     /// project without a table.
     [[nodiscard]] const QString &tableReference() const { return m_tableReference; }
     void setTableReference(const QString &reference) { m_tableReference = reference; }
-    /// Native path of the table's descriptor, resolved against the project's directory; empty for a
-    /// project without a table.
+    /// Native path of the table's descriptor, see tableFileOf(); empty for a project without a
+    /// table.
     [[nodiscard]] QString tableFile() const;
 
 private:
+    void clear();
+    int fail(const QString &error);
     [[nodiscard]] bool takeLock();
 
     bool m_keepRelative;
@@ -62,6 +67,7 @@ private:
     bool m_valid = false;
     QString m_path;
     QString m_errorText;
+    QList<PIniFile::Diagnostic> m_warnings;
     QMap<QString, QString> m_lexems;
     QMap<QString, QString> m_variables;
     QString m_tableReference;

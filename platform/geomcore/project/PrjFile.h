@@ -37,7 +37,12 @@ public:
     void setVariable(const QString &name, const QString &value);
 
     [[nodiscard]] const QString &errorText() const { return m_errorText; }
-    /// "file:line: message" for each line that was passed over.
+    /// The lines that were passed over.
+    [[nodiscard]] const QList<PIniFile::Diagnostic> &diagnostics() const
+    {
+        return m_file.diagnostics();
+    }
+    /// The same as "file:line: message".
     [[nodiscard]] QStringList warnings() const { return m_file.diagnosticTexts(); }
 
 private:
