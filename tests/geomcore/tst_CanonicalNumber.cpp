@@ -172,6 +172,14 @@ void tst_CanonicalNumber::toText_data()
                           << "1e-20";
     QTest::newRow("rounded") << "12.8316097327394"
                              << "12.83160973";
+    QTest::newRow("all behind the point") << ".5"
+                                          << "0.5";
+    QTest::newRow("first with an exponent") << "1e16"
+                                            << "1e16";
+    QTest::newRow("smallest in plain notation") << "1e-15"
+                                                << "0.000000000000001";
+    QTest::newRow("first with a negative exponent") << "1e-16"
+                                                    << "1e-16";
 }
 
 void tst_CanonicalNumber::toText()

@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+#include <cmath>
+
 using namespace VKTab;
 
 class tst_Line : public QObject
@@ -28,6 +30,9 @@ private Q_SLOTS:
     void patternsKeepWhatTheyDoNotKnow();
     void designationsAreTranslated();
     void computesValues();
+    void computesChains();
+    void computesLongChains();
+    void computesColumnsOfAnyName();
     void showsPutInValues();
     void copiesGoSeparateWays();
     void otherLinesDoNotShowPutInValues();
@@ -211,17 +216,63 @@ void tst_Line::computesValues()
     QCOMPARE(shown(1, "Volume"), "14");
     m_table.getModifyLayer()->setValue(var("Volume").getVarId(), 1, Value("99"));
     QCOMPARE(shown(1, "Volume"), "99");
+}
 
+void tst_Line::computesChains()
+{
+    // Each needs the one before it twice: without memory of the line this takes 2^60 evaluations.
     TableDescriptor descriptor = TestTables::screwDescriptor();
-    descriptor.fields[4].formula = "Volume = Volume2 + 1";
-    descriptor.fields.append(TestTables::field("Volume2", FieldType::Number, FieldKind::Computed));
-    descriptor.fields[5].formula = "Volume + 1";
+    descriptor.fields[4].formula = "Dia * 0 + 1";
+    QString former = "Volume";
+    for (int i = 0; i < 60; ++i) {
+        descriptor.fields.append(
+            TestTables::field(QString("C%1").arg(i), FieldType::Number, FieldKind::Computed));
+        descriptor.fields.last().formula = former + " + " + former;
+        former = descriptor.fields.last().name;
+    }
+    m_table = TestTables::table(descriptor, TestTables::screwLines());
+    QCOMPARE(shown(1, "C9"), "1024");
+    QCOMPARE(shown(1, "C59").toDouble(), std::ldexp(1.0, 60));
+    // What is put in between goes on from there, for this line only.
+    Line line = m_table.getLine(1, false);
+    line.putValue(var("C8").getVarId(), Value("10"));
+    QCOMPARE(text(line, "C9"), "20");
+    QCOMPARE(text(line, "C7"), "256");
+    QCOMPARE(shown(1, "C9"), "1024");
+    QCOMPARE(shown(2, "C9"), "1024");
+    line.takeValues();
+    QCOMPARE(text(line, "C9"), "1024");
+    m_table.getModifyLayer()->setValue(var("C8").getVarId(), 2, Value("1"));
+    QCOMPARE(shown(2, "C9"), "2");
+    QCOMPARE(shown(1, "C9"), "1024");
+}
+
+void tst_Line::computesLongChains()
+{
+    TableDescriptor descriptor = TestTables::screwDescriptor();
+    descriptor.fields[4].formula = "Dia";
+    // Against the order of the fields, and longer than any stack of evaluations.
+    constexpr int length = 5000;
+    for (int i = 0; i < length; ++i) {
+        descriptor.fields.append(
+            TestTables::field(QString("C%1").arg(i), FieldType::Number, FieldKind::Computed));
+        descriptor.fields.last().formula =
+            i + 1 < length ? QString("C%1 + 1").arg(i + 1) : QString("Volume");
+    }
+    m_table = TestTables::table(descriptor, TestTables::screwLines());
+    QCOMPARE(shown(1, "C0"), QString::number(8 + length - 1));
+    QCOMPARE(shown(2, "C0"), QString::number(10 + length - 1));
+}
+
+void tst_Line::computesColumnsOfAnyName()
+{
+    TableDescriptor descriptor = TestTables::screwDescriptor();
+    descriptor.fields[4].name = QString::fromUtf8("Länge 2");
     descriptor.fields.append(TestTables::field("Bad", FieldType::Number, FieldKind::Computed));
-    descriptor.fields[6].formula = "Dia *";
-    const ContentRef circle = TestTables::table(descriptor, TestTables::screwLines());
-    const Line bad = circle.getLine(1, false);
-    QCOMPARE(bad.getValue(circle.getVar(u"Volume"), FormatPlain, {}).toString(), "");
-    QCOMPARE(bad.getValue(circle.getVar(u"Bad"), FormatPlain, {}).toString(), "");
+    descriptor.fields.last().formula = "Dia *";
+    m_table = TestTables::table(descriptor, TestTables::screwLines());
+    QCOMPARE(text(m_table.getLine(1, false), "Länge 2"), "16");
+    QCOMPARE(shown(1, "Bad"), "");
 }
 
 void tst_Line::showsPutInValues()

@@ -1,7 +1,10 @@
+#include <geomcore/value/RangeCell.h>
 #include <geomcore/value/RangeText.h>
 
 #include <QRandomGenerator>
 #include <QTest>
+
+#include <limits>
 
 using namespace VKTab;
 
@@ -21,6 +24,9 @@ private Q_SLOTS:
     void canonicalText_data();
     void canonicalText();
     void hugeRanges();
+    void countSaturates();
+    void sharedStepsAreLookedAtUpToABound();
+    void largeCellsOfferNothing();
     void randomSteps();
 };
 
@@ -240,6 +246,30 @@ void tst_RangeText::hugeRanges()
     QVERIFY(range->containsAll(*RangeText::parse(u"0..100000000/0.0002")));
     QVERIFY(!RangeText::parse(u"1;2")->containsAll(*range));
     QCOMPARE(range->value(range->count()), QString());
+}
+
+void tst_RangeText::countSaturates()
+{
+    QStringList pieces;
+    for (int i = 0; i < 20000; ++i)
+        pieces.append("0..900000000000000/1");
+    const auto range = RangeText::parse(pieces.join(u';'));
+    QVERIFY(range);
+    QCOMPARE(range->count(), std::numeric_limits<qint64>::max());
+    QCOMPARE(range->value(1), "1");
+}
+
+void tst_RangeText::sharedStepsAreLookedAtUpToABound()
+{
+    const auto halves = RangeText::parse(u"0..100000000000/2;1..100000000000/2");
+    QVERIFY(halves->containsAll(*RangeText::parse(u"0..99999/1")));
+    QVERIFY(!halves->containsAll(*RangeText::parse(u"0..99999999999/1")));
+}
+
+void tst_RangeText::largeCellsOfferNothing()
+{
+    QCOMPARE(parseRangeCell(u"1..100000/1", '.')->count(), RangeText::MaxValues);
+    QVERIFY(!parseRangeCell(u"0..100000/1", '.'));
 }
 
 void tst_RangeText::randomSteps()

@@ -61,7 +61,8 @@ private Q_SLOTS:
     void formerTableGoes();
     void longForm();
     void marksBadRanges();
-    void tellsAFew();
+    void keepsAFew();
+    void namesLinesOfTheProjectThatMakeNoSense();
     void fails_data();
     void fails();
     void silent();
@@ -164,13 +165,15 @@ void tst_Reader::marksBadRanges()
     QCOMPARE(reader.readByProject(project(), content, true), 1);
     QCOMPARE(content.getTableData()->markedRows(), (std::vector<int>{0}));
     QCOMPARE(reader.errors().size(), 1);
-    QCOMPARE(m_sink->logged,
-             QStringList{path("t.csv") +
-                         ": row 2, column 2: \"10..20\" is no value range of L: \"10..20\" "
-                         "has no step; write it as 10..50/5"});
+    QCOMPARE(reader.errors().first().toString(),
+             path("t.csv") + ": row 2, column 2: \"10..20\" is no value range of L: \"10..20\" "
+                             "has no step; write it as 10..50/5");
+    QVERIFY(m_sink->logged.isEmpty());
+    QCOMPARE(reader.readByProject(project(), content, false), 1);
+    QVERIFY(reader.errors().isEmpty());
 }
 
-void tst_Reader::tellsAFew()
+void tst_Reader::keepsAFew()
 {
     QByteArray csv("Dia,L,Id\n");
     for (int i = 1; i <= 25; ++i)
@@ -179,9 +182,29 @@ void tst_Reader::tellsAFew()
     ContentRef content{Content()};
     Reader reader;
     QCOMPARE(reader.readByProject(project(), content, true), 1);
-    QCOMPARE(reader.errors().size(), 25);
-    QCOMPARE(m_sink->logged.size(), 21);
-    QCOMPARE(m_sink->logged.last(), path("t.csv") + ": 5 more cells are wrong");
+    QCOMPARE(reader.errors().size(), 21);
+    QCOMPARE(reader.errors().last().toString(), path("t.csv") + ": 5 more errors");
+    QVERIFY(m_sink->logged.isEmpty());
+}
+
+void tst_Reader::namesLinesOfTheProjectThatMakeNoSense()
+{
+    writeFile(path("p.prj"), "[PROJECT]\nwhat is this\nSACHM=t.json\n");
+    ContentRef content{Content()};
+    Reader reader;
+    QCOMPARE(reader.readByProject(project(), content, true), 1);
+    QCOMPARE(reader.errors().size(), 1);
+    QCOMPARE(reader.errors().first().toString(),
+             path("p.prj") + ": row 2: neither section, key nor comment");
+    writeFile(path("p.prj"), "[PROJECT]\nSACHM: t.json\n");
+    QCOMPARE(reader.readByProject(project(), content, true), -1);
+    QCOMPARE(reader.errors().last().toString(),
+             path("p.prj") + ": row 2: neither section, key nor comment");
+    writeFile(path("p.prj"), QByteArray("\xff\xfe[\0P\0]\0", 8));
+    QCOMPARE(reader.readByProject(project(), content, true), -1);
+    QCOMPARE(reader.errors().at(1).toString(),
+             path("p.prj") + ": row 1: the file is UTF-16; save it as UTF-8");
+    QVERIFY(m_sink->logged.isEmpty());
 }
 
 void tst_Reader::fails_data()
@@ -193,6 +216,19 @@ void tst_Reader::fails_data()
     QTest::newRow("no such project") << "p.prj" << QByteArray() << "p.prj";
     QTest::newRow("no table") << "p.prj" << QByteArray("[PROJECT]\nNAME=P\n")
                               << "p.prj: the project has no table; its lexeme SACHM is to name one";
+    QTest::newRow("project of nonsense")
+        << "p.prj" << QByteArray("[PROJECT]\nSACHM: t.json\n")
+        << "p.prj: the project has no table; its lexeme SACHM is to name one";
+    QTest::newRow("table elsewhere")
+        << "p.prj" << QByteArray("[PROJECT]\nSACHM=../t.json\n") << "lies outside of";
+    QTest::newRow("absolute table")
+        << "p.prj" << QByteArray("[PROJECT]\nSACHM=/abs/t.json\n") << "lies outside of";
+    QTest::newRow("table by a variable")
+        << "p.prj" << QByteArray("[PROJECT]\nSACHM=$HOME/t.json\n") << "lies outside of";
+    QTest::newRow("table by address")
+        << "p.prj" << QByteArray("[PROJECT]\nSACHM=svn://host/t.json\n") << "is an address";
+    QTest::newRow("table with a NUL")
+        << "p.prj" << QByteArray("[PROJECT]\nSACHM=\"t.json\\u0000x\"\n") << "has a NUL in it";
     QTest::newRow("missing descriptor") << "t.json" << QByteArray() << "t.json: cannot be opened: ";
     QTest::newRow("descriptor no JSON")
         << "t.json" << QByteArray("{\n\"name\"}")
@@ -232,11 +268,12 @@ void tst_Reader::fails()
     QCOMPARE(reader.readByProject(project(), table, true), -1);
     QVERIFY(!table.isValid());
     QVERIFY(!table.getFileLayer());
-    QCOMPARE(reader.errors().size(), 1);
+    QCOMPARE(reader.errors().size(),
+             QTest::currentDataTag() == QByteArray("project of nonsense") ? 2 : 1);
     QVERIFY2(reader.errors().first().toString().contains(message),
              qPrintable(reader.errors().first().toString()));
     QVERIFY(reader.errors().first().toString().contains(m_dir->path()));
-    QCOMPARE(m_sink->logged, QStringList{reader.errors().first().toString()});
+    QVERIFY(m_sink->logged.isEmpty());
     QVERIFY(m_sink->shown.isEmpty());
 }
 

@@ -1,10 +1,13 @@
 #include <geomcore/table/TableData.h>
 #include <geomcore/value/LineId.h>
 
+#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 #include <thread>
 
@@ -65,6 +68,15 @@ private Q_SLOTS:
     void refusesIds_data();
     void refusesIds();
     void marksRanges();
+    void marksLargeRanges();
+    void keepsAFewWarnings();
+    void keepsAFewErrors();
+    void namesWhatDoesNotParse();
+    void computedColumnsThatNeedEachOther_data();
+    void computedColumnsThatNeedEachOther();
+    void opensRegularFilesOnly();
+    void linesLieBelowTheDescriptor_data();
+    void linesLieBelowTheDescriptor();
     void fieldsFollowColumns();
     void refusesNames_data();
     void refusesNames();
@@ -381,13 +393,136 @@ void tst_TableData::marksRanges()
     QVERIFY(result);
     QVERIFY(result.errors.isEmpty());
     QCOMPARE(result.data->markedRows(), (std::vector<int>{2, 5, 7}));
-    QVERIFY(result.data->isMarked(5));
-    QVERIFY(!result.data->isMarked(4));
     QCOMPARE(result.data->warnings().size(), 3);
     QCOMPARE(
         result.data->warnings().first().toString(),
         QStringLiteral("memory: row 4, column 2: \"10..50\" is no value range of L: \"10..50\" has "
                        "no step; write it as 10..50/5"));
+}
+
+void tst_TableData::marksLargeRanges()
+{
+    TableDescriptor descriptor = describe({"L"}, FieldKind::Range);
+    QByteArray list("1");
+    for (int i = 0; i < 100000; ++i)
+        list += ";1";
+    const TableReadResult result =
+        TableData::fromMemory(descriptor, "L\n1..100000/1\n0..100000/1\n" + list + "\n");
+    QVERIFY(result);
+    QCOMPARE(result.data->markedRows(), (std::vector<int>{1, 2}));
+    QCOMPARE(result.data->warnings().first().toString(),
+             "memory: row 3, column 1: the value range \"0..100000/1\" of L has 100001 values; "
+             "more than 100000 are not used");
+    QVERIFY(result.data->warnings().last().text.size() < 400);
+}
+
+void tst_TableData::keepsAFewWarnings()
+{
+    QByteArray csv("L\n");
+    for (int i = 0; i < 25; ++i)
+        csv += "1..\n";
+    const auto result = TableData::fromMemory(describe({"L"}, FieldKind::Range), csv);
+    QCOMPARE(result.data->markedRows().size(), size_t(25));
+    QCOMPARE(result.data->warnings().size(), 21);
+    QCOMPARE(result.data->warnings().last().toString(), "memory: 5 more errors");
+}
+
+void tst_TableData::keepsAFewErrors()
+{
+    const QStringList names(100, QStringLiteral("a"));
+    const auto result = TableData::fromMemory(TableDescriptor(), names.join(u',').toUtf8() + "\n");
+    QCOMPARE(result.errors.size(), 21);
+    QCOMPARE(result.errors.first().toString(),
+             "memory: row 1, column 2: the column \"a\" stands twice");
+    QCOMPARE(result.errors.last().toString(), "memory: 79 more errors");
+}
+
+void tst_TableData::namesWhatDoesNotParse()
+{
+    TableDescriptor descriptor = describe({"a"});
+    descriptor.fields.append(
+        TableField{.name = "v", .kind = FieldKind::Computed, .formula = "a *"});
+    descriptor.filterConditions = {{"BYPRJ", QString(300000, u'x'), {}}, {"B", "a .EQ. 1", {}}};
+    const auto result = TableData::fromMemory(descriptor, "a\n1\n");
+    QVERIFY(result);
+    QCOMPARE(result.data->warnings().size(), 2);
+    QVERIFY(result.data->warnings().first().text.startsWith(
+        "the formula of the computed column \"v\" does not parse: "));
+    QVERIFY(result.data->warnings().last().text.startsWith(
+        "the filter condition \"BYPRJ\" does not parse: "));
+    QVERIFY(result.data->warnings().last().text.size() < 400);
+}
+
+void tst_TableData::computedColumnsThatNeedEachOther_data()
+{
+    QTest::addColumn<QStringList>("formulas");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("itself") << QStringList{"C0 + C0"} << "C0";
+    QTest::newRow("two") << QStringList{"C1 + 1", "C0 + 1"} << "C0, C1";
+    QTest::newRow("behind a chain")
+        << QStringList{"C1", "C2 + a", "C3", "C2 + C4", "a"} << "C2, C3";
+    QTest::newRow("none") << QStringList{"C1 + C2", "C2", "a"} << QString();
+}
+
+void tst_TableData::computedColumnsThatNeedEachOther()
+{
+    QFETCH(QStringList, formulas);
+    QFETCH(QString, named);
+    TableDescriptor descriptor = describe({"a"});
+    for (int i = 0; i < formulas.size(); ++i)
+        descriptor.fields.append(TableField{
+            .name = QString("C%1").arg(i), .kind = FieldKind::Computed, .formula = formulas.at(i)});
+    const auto result = TableData::fromMemory(descriptor, "a\n1\n");
+    QCOMPARE(bool(result), named.isEmpty());
+    if (!named.isEmpty())
+        QCOMPARE(result.errors.first().toString(),
+                 "memory: these computed columns need each other: " + named);
+}
+
+void tst_TableData::opensRegularFilesOnly()
+{
+    const QTemporaryDir dir;
+    QCOMPARE(mkfifo(QFile::encodeName(dir.filePath("t.csv")).constData(), 0600), 0);
+    writeFile(dir.filePath("t.json"), "{\"fields\": []}");
+    QCOMPARE(TableData::read(dir.filePath("t.json")).errors.first().toString(),
+             dir.filePath("t.csv") + ": cannot be opened: it is no regular file");
+    QCOMPARE(mkfifo(QFile::encodeName(dir.filePath("f.json")).constData(), 0600), 0);
+    QCOMPARE(TableData::read(dir.filePath("f.json")).errors.first().toString(),
+             dir.filePath("f.json") + ": cannot be opened: it is no regular file");
+}
+
+void tst_TableData::linesLieBelowTheDescriptor_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("read");
+    QTest::newRow("beside") << "t.csv" << true;
+    QTest::newRow("below") << "sub/t.csv" << true;
+    QTest::newRow("down and up") << "sub/../t.csv" << true;
+    QTest::newRow("above") << "../t.csv" << false;
+    QTest::newRow("absolute") << "ABSOLUTE" << false;
+    QTest::newRow("link") << "link.csv" << false;
+    QTest::newRow("through a linked directory") << "linked/t.csv" << false;
+}
+
+void tst_TableData::linesLieBelowTheDescriptor()
+{
+    QFETCH(QString, path);
+    QFETCH(bool, read);
+    const QTemporaryDir dir;
+    QVERIFY(QDir(dir.path()).mkpath("c/sub"));
+    for (const char *name : {"t.csv", "c/t.csv", "c/sub/t.csv"})
+        writeFile(dir.filePath(name), "a\n1\n");
+    QVERIFY(QFile::link(dir.filePath("t.csv"), dir.filePath("c/link.csv")));
+    QVERIFY(QFile::link(dir.path(), dir.filePath("c/linked")));
+    if (path == "ABSOLUTE")
+        path = dir.filePath("t.csv");
+    writeFile(dir.filePath("c/t.json"), "{\"path\": \"" + path.toUtf8() + "\", \"fields\": []}");
+    const auto result = TableData::read(dir.filePath("c/t.json"));
+    QCOMPARE(bool(result), read);
+    if (!read)
+        QVERIFY2(result.errors.first().toString().contains("t.json: \"") &&
+                     result.errors.first().text.contains("lies outside of"),
+                 qPrintable(result.errors.first().toString()));
 }
 
 void tst_TableData::fieldsFollowColumns()

@@ -107,6 +107,8 @@ private Q_SLOTS:
     void refuses_data();
     void refuses();
     void tellsAllErrors();
+    void keepsAFewErrors();
+    void manyMembersAreToldApart();
     void missingFile();
     void byteOrderMark();
     void keyAsText();
@@ -279,6 +281,29 @@ void tst_TableDescriptor::tellsAllErrors()
     QCOMPARE(errors.at(1).row, 2);
     QCOMPARE(errors.at(2).row, 3);
     QCOMPARE(errors.at(3).text, QStringLiteral("the field has no name"));
+}
+
+void tst_TableDescriptor::keepsAFewErrors()
+{
+    QByteArray fields;
+    for (int i = 0; i < 100; ++i)
+        fields += i == 0 ? "\n{}" : ",\n{}";
+    TableErrorList errors;
+    QVERIFY(!TableDescriptor::fromJson("{\"fields\": [" + fields + "]}", "t.json", errors));
+    QCOMPARE(errors.size(), 21);
+    QCOMPARE(errors.at(19).toString(), "t.json: row 21, column 1: the field has no name");
+    QCOMPARE(errors.last().toString(), "t.json: 80 more errors");
+}
+
+void tst_TableDescriptor::manyMembersAreToldApart()
+{
+    QByteArray json("{\"x\": {\"m0\": 1}");
+    for (int i = 0; i < 1000; ++i)
+        json += ", \"m" + QByteArray::number(i) + "\": [{\"m0\": 1}]";
+    TableErrorList errors;
+    QVERIFY(TableDescriptor::fromJson(json + "}", "t.json", errors));
+    QVERIFY(!TableDescriptor::fromJson(json + ", \"m500\": 1}", "t.json", errors));
+    QVERIFY(errors.first().text.contains("\"m500\" stands twice"));
 }
 
 void tst_TableDescriptor::missingFile()

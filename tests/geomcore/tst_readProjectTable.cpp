@@ -1,11 +1,26 @@
 #include "TestCatalog.h"
 
+#include <core/message/PMessage.h>
 #include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TabOptions.h>
 
 #include <boost/make_shared.hpp>
 
+#include <QFileInfo>
 #include <QTest>
+
+namespace {
+
+class LogSink : public PMessageSink
+{
+public:
+    PMsgReply show(const QString &, PMsgDlgModes) override { return PMsgReply::Ok; }
+    void logToWindow(const QString &text) override { logged.append(text); }
+
+    QStringList logged;
+};
+
+} // namespace
 
 class tst_readProjectTable : public QObject
 {
@@ -19,6 +34,8 @@ private Q_SLOTS:
     void ownChoiceOfLines();
     void referenceFromTheRoot();
     void takesOptions();
+    void tellsOnce();
+    void targetsDoNotLeadOutOfTheRoot();
 };
 
 void tst_readProjectTable::reads()
@@ -117,6 +134,45 @@ void tst_readProjectTable::takesOptions()
     QVERIFY(VKTab::readProjectTable(catalog.file("cat/a.prj"), table,
                                     {.options = options, .tells = false}));
     QCOMPARE(table.getOptions(), options);
+}
+
+void tst_readProjectTable::tellsOnce()
+{
+    const auto sink = std::make_shared<LogSink>();
+    const auto former = PMessage::setSink(sink);
+    const TestCatalog catalog;
+    catalog.write("cat/a.prj", "A:r\n1..\n");
+    VKTab::Content table;
+    const auto read = [&](bool tells) {
+        sink->logged.clear();
+        (void)VKTab::readProjectTable(catalog.file("cat/a.prj"), table, {.tells = tells});
+        return sink->logged.size();
+    };
+    QCOMPARE(read(false), 0);
+    QCOMPARE(read(true), 1);
+    QVERIFY(sink->logged.first().startsWith(catalog.file("cat/a.csv") + ": row 2, column 1: "));
+    QCOMPARE(read(true), 0);
+    catalog.write("cat/a.prj", "A:r\n1..\n2..\n");
+    QCOMPARE(read(true), 2);
+    catalog.write("cat/a.prj", "A:r\n1\n");
+    QCOMPARE(read(true), 0);
+    catalog.write("cat/a.prj", "A:r\n1..\n2..\n");
+    QCOMPARE(read(true), 2); // it was right in between
+    PMessage::setSink(former);
+}
+
+void tst_readProjectTable::targetsDoNotLeadOutOfTheRoot()
+{
+    const TestCatalog outside;
+    outside.write("cat/a.prj", "A\n1\n");
+    const TestCatalog catalog;
+    VKTab::Content table;
+    const QString joined =
+        catalog.root() + "/../" + QFileInfo(outside.root()).fileName() + "/cat/a.prj";
+    QVERIFY(QFile::exists(joined));
+    const auto result = VKTab::readProjectTable(joined, table, {.tells = false});
+    QVERIFY(!result);
+    QVERIFY(result.errors.first().text.contains("lies outside of"));
 }
 
 QTEST_GUILESS_MAIN(tst_readProjectTable)

@@ -49,8 +49,9 @@ public:
         const QString name = QString::fromUtf8(text, length);
         const qsizetype begin = valueBegin();
         m_last = position();
-        if (object.names.contains(name))
+        if (m_names.back().contains(name))
             return fail(begin, QStringLiteral("the member \"%1\" stands twice").arg(name));
+        m_names.back().insert(name);
         object.names.append(name);
         return true;
     }
@@ -94,6 +95,7 @@ private:
             return fail(node->begin, QStringLiteral("more than 64 levels deep"));
         m_last = node->begin + 1; // the event comes before the bracket is taken
         m_open.push_back(node);
+        m_names.emplace_back();
         return true;
     }
 
@@ -101,6 +103,7 @@ private:
     {
         m_open.back()->end = m_last = position() + 1; // likewise
         m_open.pop_back();
+        m_names.pop_back();
         return true;
     }
 
@@ -114,7 +117,8 @@ private:
     const QByteArray &m_json;
     const rapidjson::MemoryStream &m_stream;
     LocatedJson &m_root;
-    std::vector<LocatedJson *> m_open; // only the innermost's items grow, so these stay in place
+    std::vector<LocatedJson *> m_open;  // only the innermost's items grow, so these stay in place
+    std::vector<QSet<QString>> m_names; // of each open object or list
     qsizetype m_last = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "TableDescriptor.h"
 
+#include <core/file/openRegularFile.h>
 #include <geomcore/value/CellKey.h>
 
 #include <QDir>
@@ -13,8 +14,9 @@ namespace VKTab {
 std::optional<TableDescriptor> TableDescriptor::read(const QString &file, TableErrorList &errors)
 {
     QFile in(file);
-    if (!in.open(QIODevice::ReadOnly)) {
-        errors.append({file, 0, 0, QStringLiteral("cannot be opened: ") + in.errorString()});
+    QString problem;
+    if (!openRegularFile(in, problem)) {
+        errors.append({file, 0, 0, QStringLiteral("cannot be opened: ") + problem});
         return {};
     }
     const QByteArray json = in.readAll();

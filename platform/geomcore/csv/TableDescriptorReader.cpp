@@ -71,17 +71,18 @@ TableDescriptorReader::TableDescriptorReader(const QByteArray &json, const QStri
 
 std::optional<TableDescriptor> TableDescriptorReader::read()
 {
-    const qsizetype before = m_errors.size();
     LocatedJson root;
-    if (!LocatedJson::parse(m_json, m_file, root, m_errors) ||
-        !isOf(LocatedJson::Type::Object, root, "an object"))
+    if (!LocatedJson::parse(m_json, m_file, root, m_errors))
         return {};
     TableDescriptor result;
-    for (qsizetype i = 0; i < root.names.size(); ++i)
-        readMember(root.names.at(i), root.items[size_t(i)], result);
-    if (m_errors.size() != before)
-        return {};
-    return result;
+    if (isOf(LocatedJson::Type::Object, root, "an object")) {
+        for (qsizetype i = 0; i < root.names.size(); ++i)
+            readMember(root.names.at(i), root.items[size_t(i)], result);
+    }
+    if (m_found.isEmpty())
+        return result;
+    m_errors += m_found.list();
+    return {};
 }
 
 void TableDescriptorReader::readMember(const QString &name, const LocatedJson &value,
@@ -268,7 +269,9 @@ bool TableDescriptorReader::isOf(LocatedJson::Type type, const LocatedJson &valu
 
 void TableDescriptorReader::error(const LocatedJson &at, const QString &text)
 {
-    m_errors.append(LocatedJson::errorAt(m_json, m_file, at.begin, text));
+    // The place costs a walk over the text.
+    m_found.add(m_found.isFull() ? TableError()
+                                 : LocatedJson::errorAt(m_json, m_file, at.begin, text));
 }
 
 std::optional<TableDescriptor>

@@ -2,11 +2,12 @@
 
 #include "LocatedJson.h"
 #include "TableDescriptor.h"
+#include "TableErrors.h"
 
 namespace VKTab {
 
-/// Turns the JSON of a descriptor into its value and notes what is wrong, all of it, with its
-/// place.
+/// Turns the JSON of a descriptor into its value and notes what is wrong with its place, as many
+/// faults as TableErrors keeps.
 class TableDescriptorReader
 {
 public:
@@ -34,6 +35,7 @@ private:
     const QByteArray &m_json;
     QString m_file;
     TableErrorList &m_errors;
+    TableErrors m_found;
 };
 
 } // namespace VKTab

@@ -55,10 +55,7 @@ std::vector<BoundExpression::Slot> slotsOf(const Program *program, const TableDa
 
 int columnOfVariable(const TableData *table, QStringView name)
 {
-    const int column = table && !name.isEmpty() ? table->descriptor().indexOf(name) : -1;
-    if (column < 0)
-        return -1;
-    return table->descriptor().fields[column].kind <= FieldKind::Computed ? column : -1;
+    return table ? table->fields().indexOfVariable(name) : -1;
 }
 
 BoundExpression::BoundExpression(std::shared_ptr<const Program> program, const TableData *table)

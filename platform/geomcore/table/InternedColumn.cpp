@@ -64,13 +64,13 @@ const InternedColumn &TableData::interned(int column) const
 void TableData::intern(int column, InternedColumn &out) const
 {
     Interner interner(out);
-    out.ids.reserve(m_rowCount);
+    out.ids.reserve(m.rowCount());
     std::vector<std::string_view> cells(size_t(column) + 1);
     std::string scratch;
     for (int row = 0; row < rowCount(); ++row) {
         firstCells(row, cells, scratch);
         const std::string_view text = cells.back();
-        const bool lasting = text.data() >= m_bytes && text.data() <= m_bytes + m_size;
+        const bool lasting = text.data() >= m.bytes && text.data() <= m.bytes + m.size;
         out.ids.push_back(interner.idOf(text, lasting));
     }
 }

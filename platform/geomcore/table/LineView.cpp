@@ -78,16 +78,25 @@ std::string_view LineView::text(int column, std::string &scratch) const
 {
     if (!isValid() || column < 0 || column >= columnCount())
         return {};
-    std::string_view text;
-    if (const auto instead = shownInstead(column)) {
-        scratch = instead->toString().toUtf8().toStdString();
-        text = scratch;
-    } else if (column < m_table->columnCount()) {
-        text = m_table->cell(m_row, column, scratch);
-    } else {
+    if (column >= m_table->columnCount()) {
         m_table->computed().evaluate(*this, column, scratch);
-        text = scratch;
+        return scratch;
     }
+    return takeShownInstead(column, scratch)
+               ? shownText(column, scratch, scratch)
+               : shownText(column, m_table->cell(m_row, column, scratch), scratch);
+}
+
+bool LineView::takeShownInstead(int column, std::string &text) const
+{
+    const auto instead = shownInstead(column);
+    if (instead)
+        text = instead->toString().toUtf8().toStdString();
+    return instead.has_value();
+}
+
+std::string_view LineView::shownText(int column, std::string_view text, std::string &scratch) const
+{
     if (m_table->isMissing(text))
         return {};
     return plainText(text, m_table->descriptor().fields.at(column), scratch);

@@ -33,6 +33,13 @@ public:
         , m_row(row)
     {
     }
+    /// A line with the cells that were changed over it.
+    LineView(const TableData &table, const ModifyLayer &changes, int row)
+        : m_table(&table)
+        , m_modify(&changes)
+        , m_row(row)
+    {
+    }
     /// The line as it shows itself now, put-in values included.
     LineView(const Line &line);
     /// The line as the table has it now, changed cells included.
@@ -65,7 +72,13 @@ public:
     [[nodiscard]] static VarId varIdOf(int column);
 
 private:
+    friend class ComputedColumns;
     [[nodiscard]] std::optional<Value> shownInstead(int column) const;
+    /// Sets \a text to what was put over the cell; false if nothing was.
+    bool takeShownInstead(int column, std::string &text) const;
+    /// The text of a cell in plain notation; empty if it means "no value".
+    [[nodiscard]] std::string_view shownText(int column, std::string_view text,
+                                             std::string &scratch) const;
 
     const TableData *m_table = nullptr;
     const ModifyLayer *m_modify = nullptr;

@@ -5,57 +5,67 @@
 #include "TabOptions.h"
 #include "TabReader.h"
 
-#include <core/message/PMessage.h>
+#include <geomcore/csv/TableErrors.h>
+#include <geomcore/index/CatalogPlaces.h>
 
 namespace VKTab {
 
-int Reader::readByProject(const refHandle<PrjClass> &project, Content &content, bool tell)
+namespace {
+
+TableErrorList warningsOf(const PrjClass &project)
+{
+    TableErrors warnings;
+    for (const PIniFile::Diagnostic &diagnostic : project.warnings())
+        warnings.add({project.path(), diagnostic.line, 0, diagnostic.message});
+    return warnings.list();
+}
+
+} // namespace
+
+int Reader::readByProject(const refHandle<PrjClass> &project, Content &content, bool details)
 {
     m_errors.clear();
     const bool read = fill(project, content);
     if (!read)
         content.setFileLayer(nullptr);
-    if (tell)
-        tellErrors();
+    if (project && details)
+        m_errors += warningsOf(*project);
+    else if (read)
+        m_errors.clear();
     return read ? 1 : -1;
 }
 
 int Reader::readByProject(const refHandle<PrjClass> &project, Content &content,
                           const boost::shared_ptr<TabOptions> &options,
-                          const PRefPtr<PLinkDbC> & /*linkDb*/, bool tell)
+                          const PRefPtr<PLinkDbC> & /*linkDb*/, bool details)
 {
     if (options)
         content.setOptions(options);
-    return readByProject(project, content, tell);
+    return readByProject(project, content, details);
 }
 
-void Reader::tellErrors() const
+bool Reader::fail(const QString &file, const QString &text)
 {
-    for (const TableError &error : m_errors.first(qMin(m_errors.size(), MaxTold)))
-        PMessage::LogToWindow(error.toString());
-    if (m_errors.size() > MaxTold)
-        PMessage::LogToWindow(QStringLiteral("%1: %2 more cells are wrong")
-                                  .arg(m_errors.first().file)
-                                  .arg(m_errors.size() - MaxTold));
+    m_errors.append({file, 0, 0, text});
+    return false;
 }
 
 bool Reader::fill(const refHandle<PrjClass> &project, Content &content)
 {
     if (!project || !project->isValid()) {
-        const QString path = project ? project->path() : QString();
         const QString reason = project ? project->errorText() : QString();
-        m_errors.append({reason.isEmpty() ? path : QString(), 0, 0,
-                         reason.isEmpty() ? QStringLiteral("the project was not read") : reason});
-        return false;
+        const QString path = project && reason.isEmpty() ? project->path() : QString();
+        return fail(path, reason.isEmpty() ? QStringLiteral("the project was not read") : reason);
     }
-    if (project->tableFile().isEmpty()) {
-        m_errors.append(
-            {project->path(), 0, 0,
-             QStringLiteral("the project has no table; its lexeme SACHM is to name one")});
-        return false;
-    }
+    const QString table = project->tableFile();
+    if (table.isEmpty())
+        return fail(project->path(),
+                    QStringLiteral("the project has no table; its lexeme SACHM is to name one"));
+    const QString refusal = CatalogPlaces::instance().refusal(table, project->path());
+    if (!refusal.isEmpty())
+        return fail(project->path(), refusal);
     TabReader reader;
-    const bool read = reader.readFile(project->tableFile(), false) == 1;
+    const bool read = reader.readFile(table, false) == 1;
     m_errors = reader.errors();
     if (!read)
         return false;

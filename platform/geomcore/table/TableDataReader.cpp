@@ -1,6 +1,8 @@
 #include "TableDataReader.h"
 
-#include "TableDataPrivate.h"
+#include "ComputedColumns.h"
+#include "tableExpressions.h"
+#include <core/file/openRegularFile.h>
 #include <geomcore/csv/CsvCells.h>
 #include <geomcore/csv/CsvScan.h>
 #include <geomcore/csv/HeaderNames.h>
@@ -8,6 +10,7 @@
 #include <geomcore/csv/Utf8Check.h>
 #include <geomcore/value/RangeText.h>
 
+#include <QFile>
 #include <QSet>
 
 #include <algorithm>
@@ -16,72 +19,88 @@
 
 namespace VKTab {
 
-static_assert(CsvScan::QuoteBit == quint64(1) << 63);
+namespace {
 
-TableDataReader::TableDataReader(TableDescriptor descriptor, QString fileName, HeaderRule rule)
-    : m_data(new TableData)
-    , m_rule(rule)
+/// So much of a text stands in a message.
+constexpr qsizetype MaxShown = 200;
+
+QString shortened(const QString &text)
 {
-    m_data->m_descriptor = std::move(descriptor);
-    m_data->m_fileName = std::move(fileName);
-    m_data->m_source = std::make_unique<TableData::Source>();
+    return text.size() <= MaxShown ? text : text.left(MaxShown) + QStringLiteral("...");
+}
+
+} // namespace
+
+static_assert(CsvScan::QuoteBit == TableContents::QuoteBit);
+
+TableDataReader::TableDataReader(const TableDescriptor &descriptor, const QString &fileName,
+                                 HeaderRule rule)
+    : m_rule(rule)
+{
+    m_table.descriptor = descriptor;
+    m_table.fileName = fileName;
 }
 
 TableReadResult TableDataReader::readFile()
 {
-    if (!open())
-        return {nullptr, m_errors};
-    return readAll();
+    return open() ? readAll() : failure();
 }
 
 TableReadResult TableDataReader::readBytes(const QByteArray &csv)
 {
-    m_data->m_source->bytes = csv;
-    m_data->m_bytes = m_data->m_source->bytes.constData();
-    m_data->m_size = quint64(csv.size());
+    const auto bytes = std::make_shared<const QByteArray>(csv);
+    m_table.bytes = bytes->constData();
+    m_table.size = quint64(bytes->size());
+    m_table.owner = bytes;
     return readAll();
 }
 
 bool TableDataReader::open()
 {
-    QFile &file = m_data->m_source->file;
-    file.setFileName(m_data->m_fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error(0, 0, QStringLiteral("cannot be opened: ") + file.errorString());
+    const auto file = std::make_shared<QFile>(m_table.fileName);
+    QString problem;
+    if (!openRegularFile(*file, problem)) {
+        error(0, 0, QStringLiteral("cannot be opened: ") + problem);
         return false;
     }
-    m_data->m_size = quint64(file.size());
-    if (const uchar *mapped = file.map(0, file.size())) {
-        m_data->m_bytes = reinterpret_cast<const char *>(mapped);
+    if (const uchar *mapped = file->map(0, file->size())) {
+        m_table.bytes = reinterpret_cast<const char *>(mapped);
+        m_table.size = quint64(file->size());
+        m_table.owner = file;
+        file->close(); // the mapping stays
         return true;
     }
-    QByteArray &bytes = m_data->m_source->bytes; // empty files and devices cannot be mapped
-    bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        error(0, 0, QStringLiteral("cannot be read: ") + file.errorString());
+    const auto bytes = std::make_shared<const QByteArray>(file->readAll()); // of an empty file
+    if (file->error() != QFileDevice::NoError) {
+        error(0, 0, QStringLiteral("cannot be read: ") + file->errorString());
         return false;
     }
-    m_data->m_bytes = bytes.constData();
-    m_data->m_size = quint64(bytes.size());
+    m_table.bytes = bytes->constData();
+    m_table.size = quint64(bytes->size());
+    m_table.owner = bytes;
     return true;
 }
 
 TableReadResult TableDataReader::readAll()
 {
     quint64 bodyBegin = 0;
-    if (!readHeader(bodyBegin) || !scan(bodyBegin))
-        return {nullptr, m_errors};
+    if (!readHeader(bodyBegin))
+        return failure();
+    readFormulas();
+    if (!m_errors.isEmpty() || !scan(bodyBegin))
+        return failure();
     indexIds();
     if (!m_errors.isEmpty())
-        return {nullptr, m_errors};
+        return failure();
+    checkConditions();
     checkRanges();
-    m_data->m_source->file.close(); // the mapping stays
-    return {m_data, {}};
+    m_table.warnings = m_warnings.list();
+    return {std::make_shared<const TableData>(std::move(m_table)), {}};
 }
 
 bool TableDataReader::readHeader(quint64 &bodyBegin)
 {
-    const std::string_view bytes(m_data->m_bytes, m_data->m_size);
+    const std::string_view bytes(m_table.bytes, m_table.size);
     const quint64 begin = bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0;
     if (bytes.size() == begin) {
         error(1, 0, QStringLiteral("the file is empty; its first row must name the columns"));
@@ -102,7 +121,7 @@ bool TableDataReader::readHeader(quint64 &bodyBegin)
     QStringList names;
     for (const std::string &cell : header.cells)
         names.append(QString::fromUtf8(cell.data(), qsizetype(cell.size())));
-    m_data->m_header = names;
+    m_table.header = names;
     fitFields(m_rule == HeaderRule::Repair ? uniqueColumnNames(names) : names);
     checkNames();
     bodyBegin = header.end;
@@ -111,8 +130,8 @@ bool TableDataReader::readHeader(quint64 &bodyBegin)
 
 void TableDataReader::fitFields(const QStringList &header)
 {
-    TableDescriptor &descriptor = m_data->m_descriptor;
-    m_data->m_columnCount = int(header.size());
+    TableDescriptor descriptor = m_table.descriptor;
+    const FieldIndex known(descriptor.fields);
     QList<TableField> fields;
     QSet<QString> seen;
     for (qsizetype i = 0; i < header.size(); ++i) {
@@ -122,10 +141,10 @@ void TableDataReader::fitFields(const QStringList &header)
         else if (seen.contains(name))
             error(1, int(i) + 1, QStringLiteral("the column \"%1\" stands twice").arg(name));
         seen.insert(name);
-        const int known = descriptor.indexOf(name);
-        fields.append(known >= 0 ? descriptor.fields.at(known) : TableField{.name = name});
+        const int index = known.indexOf(name);
+        fields.append(index >= 0 ? known.fields().at(index) : TableField{.name = name});
     }
-    for (const TableField &field : std::as_const(descriptor.fields)) {
+    for (const TableField &field : known.fields()) {
         if (seen.contains(field.name))
             continue;
         if (field.kind == FieldKind::Computed)
@@ -136,11 +155,13 @@ void TableDataReader::fitFields(const QStringList &header)
                       .arg(field.name));
     }
     descriptor.fields = fields;
+    m_table.columnCount = int(header.size());
+    m_table.setDescriptor(descriptor);
 }
 
 void TableDataReader::checkNames()
 {
-    const TableDescriptor &descriptor = m_data->m_descriptor;
+    const TableDescriptor &descriptor = m_table.descriptor;
     for (const QString &name : descriptor.primaryKey)
         (void)namedColumn(QStringLiteral("primaryKey"), name);
     (void)namedColumn(QStringLiteral("lineIdField"), descriptor.lineIdField);
@@ -153,7 +174,7 @@ int TableDataReader::namedColumn(const QString &member, const QString &name)
 {
     if (name.isEmpty())
         return -1;
-    const int column = m_data->columnOf(name);
+    const int column = m_table.columnOf(name);
     if (column < 0)
         error(1, 0,
               QStringLiteral("the column \"%1\" is missing, which the descriptor's %2 names")
@@ -161,32 +182,57 @@ int TableDataReader::namedColumn(const QString &member, const QString &name)
     return column;
 }
 
+void TableDataReader::readFormulas()
+{
+    const auto computed = std::make_shared<ComputedColumns>(m_table.fields, m_table.columnCount);
+    for (const ComputedColumns::Fault &fault : computed->faults())
+        descriptorWarning(QStringLiteral("formula of the computed column"), fault.column,
+                          fault.text);
+    if (!computed->cycle().isEmpty())
+        m_errors.add({m_descriptorFile.isEmpty() ? m_table.fileName : m_descriptorFile, 0, 0,
+                      QStringLiteral("these computed columns need each other: ") +
+                          shortened(computed->cycle().join(QStringLiteral(", ")))});
+    m_table.computed = computed;
+}
+
+void TableDataReader::checkConditions()
+{
+    for (const TableFilterCondition &condition : m_table.descriptor.filterConditions) {
+        const TableExpression parsed = parseCondition(condition.condition);
+        if (!parsed.program)
+            descriptorWarning(QStringLiteral("filter condition"), condition.name, parsed.error);
+    }
+}
+
+void TableDataReader::descriptorWarning(const QString &what, const QString &name,
+                                        const QString &error)
+{
+    m_warnings.add({m_descriptorFile.isEmpty() ? m_table.fileName : m_descriptorFile, 0, 0,
+                    QStringLiteral("the %1 \"%2\" does not parse: %3")
+                        .arg(what, shortened(name), shortened(error))});
+}
+
 bool TableDataReader::scan(quint64 bodyBegin)
 {
-    const TableDescriptor &descriptor = m_data->m_descriptor;
-    CsvScan scan({m_data->m_bytes, m_data->m_size}, bodyBegin, m_data->m_columnCount,
-                 m_data->m_fileName);
-    scan.setIdColumns(m_data->columnOf(descriptor.lineIdField),
-                      m_data->columnOf(descriptor.lineSubIdField));
-    if (!scanInParts(scan)) {
-        m_errors += scan.errors;
-        return false;
-    }
-    m_data->m_rows = std::move(scan.rows);
-    m_data->m_rowCount = m_data->m_rows.size() - 1;
-    m_data->m_lineNumbers = std::move(scan.numbers);
-    m_data->m_lineSubNumbers = std::move(scan.subNumbers);
-    m_data->setMissing();
-    m_data->m_interned = std::make_unique<TableData::Interned[]>(size_t(m_data->m_columnCount));
-    return true;
+    const TableDescriptor &descriptor = m_table.descriptor;
+    CsvScan scan({m_table.bytes, m_table.size}, bodyBegin, m_table.columnCount, m_table.fileName);
+    scan.setIdColumns(m_table.columnOf(descriptor.lineIdField),
+                      m_table.columnOf(descriptor.lineSubIdField));
+    const bool good = scanInParts(scan);
+    for (const TableError &error : std::as_const(scan.errors))
+        m_errors.add(error);
+    m_table.rows = std::move(scan.rows);
+    m_table.lineNumbers = std::move(scan.numbers);
+    m_table.lineSubNumbers = std::move(scan.subNumbers);
+    return good;
 }
 
 void TableDataReader::indexIds()
 {
-    std::vector<int> &numbers = m_data->m_lineNumbers;
+    std::vector<int> &numbers = m_table.lineNumbers;
     if (numbers.empty())
         return;
-    const bool plain = m_data->m_lineSubNumbers.empty();
+    const bool plain = m_table.lineSubNumbers.empty();
     bool ordinal = plain;
     for (size_t row = 0; ordinal && row < numbers.size(); ++row)
         ordinal = numbers[row] == int(row) + 1;
@@ -203,10 +249,10 @@ void TableDataReader::indexIds()
 
 void TableDataReader::indexDense(int highest)
 {
-    const std::vector<int> &numbers = m_data->m_lineNumbers;
-    m_data->m_rowByNumber.assign(size_t(highest) + 1, -1);
+    const std::vector<int> &numbers = m_table.lineNumbers;
+    m_table.rowByNumber.assign(size_t(highest) + 1, -1);
     for (size_t row = 0; row < numbers.size(); ++row) {
-        int &at = m_data->m_rowByNumber[size_t(numbers[row])];
+        int &at = m_table.rowByNumber[size_t(numbers[row])];
         if (at >= 0)
             duplicateId(at, int(row));
         at = int(row);
@@ -216,10 +262,10 @@ void TableDataReader::indexDense(int highest)
 void TableDataReader::indexSorted()
 {
     const auto idOf = [this](int row) {
-        return std::pair(m_data->lineNumber(row), m_data->lineSubNumber(row));
+        return std::pair(m_table.lineNumber(size_t(row)), m_table.lineSubNumber(size_t(row)));
     };
-    std::vector<int> &rows = m_data->m_rowsById;
-    rows.resize(m_data->m_rowCount);
+    std::vector<int> &rows = m_table.rowsById;
+    rows.resize(m_table.rowCount());
     std::iota(rows.begin(), rows.end(), 0);
     std::sort(rows.begin(), rows.end(),
               [&idOf](int a, int b) { return std::pair(idOf(a), a) < std::pair(idOf(b), b); });
@@ -231,30 +277,33 @@ void TableDataReader::indexSorted()
 
 void TableDataReader::duplicateId(int first, int second)
 {
-    if (m_errors.size() >= CsvScan::MaxErrors)
+    if (m_errors.isFull()) {
+        m_errors.add({});
         return;
-    QString id = QString::number(m_data->lineNumber(second));
-    if (m_data->lineSubNumber(second) != 0)
-        id += QLatin1Char('.') + QString::number(m_data->lineSubNumber(second));
-    error(second + 2, m_data->columnOf(m_data->m_descriptor.lineIdField) + 1,
-          QStringLiteral("the line id %1 is that of row %2 already").arg(id).arg(first + 2));
+    }
+    QString id = QString::number(m_table.lineNumber(size_t(second)));
+    if (m_table.lineSubNumber(size_t(second)) != 0)
+        id += QLatin1Char('.') + QString::number(m_table.lineSubNumber(size_t(second)));
+    error(second + 2, m_table.columnOf(m_table.descriptor.lineIdField) + 1,
+          QStringLiteral("the line id %1 is that of row %2 already")
+              .arg(id, QString::number(first + 2)));
 }
 
 void TableDataReader::checkRanges()
 {
     std::vector<int> columns;
-    for (int column = 0; column < m_data->m_columnCount; ++column) {
-        if (m_data->m_descriptor.fields.at(column).isRange())
+    for (int column = 0; column < m_table.columnCount; ++column) {
+        if (m_table.descriptor.fields.at(column).isRange())
             columns.push_back(column);
     }
     if (columns.empty())
         return;
     std::vector<std::string_view> cells(size_t(columns.back()) + 1);
     std::string scratch;
-    for (int row = 0; row < m_data->rowCount(); ++row) {
-        m_data->firstCells(row, cells, scratch);
+    for (size_t row = 0; row < m_table.rowCount(); ++row) {
+        m_table.firstCells(row, cells, scratch);
         for (int column : columns)
-            checkRange(row, column, cells[size_t(column)]);
+            checkRange(int(row), column, cells[size_t(column)]);
     }
 }
 
@@ -268,30 +317,41 @@ TableDataReader::KnownRange &TableDataReader::placeOf(int column, std::string_vi
 
 void TableDataReader::checkRange(int row, int column, std::string_view cell)
 {
-    if (m_data->isMissing(cell) || RangeText::isSimple(cell))
+    if (m_table.isMissing(cell) ||
+        (RangeText::isSimple(cell) && cell.size() < RangeText::MaxValues))
         return;
     KnownRange &known = placeOf(column, cell);
     if (known.column == column && known.text == cell)
         return;
-    const TableField &field = m_data->m_descriptor.fields.at(column);
-    QString problem;
-    const QString text = QString::fromUtf8(cell.data(), qsizetype(cell.size()));
-    if (RangeText::parse(text, field.decimalChar, &problem)) {
+    const QString fault = rangeFault(m_table.descriptor.fields.at(column), cell);
+    if (fault.isEmpty()) {
         known.column = column;
         known.text = cell;
         return;
     }
-    if (m_data->m_markedRows.empty() || m_data->m_markedRows.back() != row)
-        m_data->m_markedRows.push_back(row);
-    if (m_data->m_warnings.size() < TableData::MaxWarnings)
-        m_data->m_warnings.append(
-            {m_data->m_fileName, row + 2, column + 1,
-             QStringLiteral("\"%1\" is no value range of %2: %3").arg(text, field.name, problem)});
+    if (m_table.markedRows.empty() || m_table.markedRows.back() != row)
+        m_table.markedRows.push_back(row);
+    m_warnings.add({m_table.fileName, row + 2, column + 1, fault});
+}
+
+QString TableDataReader::rangeFault(const TableField &field, std::string_view cell) const
+{
+    const QString text = QString::fromUtf8(cell.data(), qsizetype(cell.size()));
+    QString problem;
+    const auto range = RangeText::parse(text, field.decimalChar, &problem);
+    if (!range)
+        return QStringLiteral("\"%1\" is no value range of %2: %3")
+            .arg(shortened(text), field.name, shortened(problem));
+    if (range->count() <= RangeText::MaxValues)
+        return {};
+    return QStringLiteral("the value range \"%1\" of %2 has %3 values; more than %4 are not used")
+        .arg(shortened(text), field.name, QString::number(range->count()),
+             QString::number(RangeText::MaxValues));
 }
 
 void TableDataReader::error(int row, int column, const QString &text)
 {
-    m_errors.append({m_data->m_fileName, row, column, text});
+    m_errors.add({m_table.fileName, row, column, text});
 }
 
 } // namespace VKTab

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TableData.h"
+#include <geomcore/csv/TableErrors.h>
 
 #include <string>
 #include <vector>
@@ -8,13 +9,15 @@
 namespace VKTab {
 
 /// Makes a TableData: opens and maps the file, fits header and descriptor together, scans the rows,
-/// orders the line ids and looks at the range cells.
+/// orders the line ids, and looks at formulas, conditions and range cells. Reads once.
 class TableDataReader
 {
 public:
-    TableDataReader(TableDescriptor descriptor, QString fileName,
+    TableDataReader(const TableDescriptor &descriptor, const QString &fileName,
                     HeaderRule rule = HeaderRule::Exact);
 
+    /// File that errors of the descriptor name; without one they name the table's.
+    void setDescriptorFile(const QString &file) { m_descriptorFile = file; }
     [[nodiscard]] TableReadResult readFile();
     [[nodiscard]] TableReadResult readBytes(const QByteArray &csv);
 
@@ -25,6 +28,8 @@ private:
     void fitFields(const QStringList &header);
     void checkNames();
     [[nodiscard]] int namedColumn(const QString &member, const QString &name);
+    void readFormulas();
+    void checkConditions();
     [[nodiscard]] bool scan(quint64 bodyBegin);
     void indexIds();
     void indexDense(int highest);
@@ -32,6 +37,8 @@ private:
     void duplicateId(int first, int second);
     void checkRanges();
     void checkRange(int row, int column, std::string_view cell);
+    /// What is wrong with a range cell; empty if nothing is.
+    [[nodiscard]] QString rangeFault(const TableField &field, std::string_view cell) const;
     /// Ranges recur from line to line: those that parsed are kept, one for each place.
     struct KnownRange
     {
@@ -40,10 +47,14 @@ private:
     };
     [[nodiscard]] KnownRange &placeOf(int column, std::string_view cell);
     void error(int row, int column, const QString &text);
+    void descriptorWarning(const QString &what, const QString &name, const QString &error);
+    [[nodiscard]] TableReadResult failure() const { return {nullptr, m_errors.list()}; }
 
-    std::shared_ptr<TableData> m_data;
-    TableErrorList m_errors;
+    TableContents m_table;
+    TableErrors m_errors;
+    TableErrors m_warnings;
     HeaderRule m_rule;
+    QString m_descriptorFile;
     std::vector<KnownRange> m_knownRanges;
 };
 

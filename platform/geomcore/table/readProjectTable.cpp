@@ -4,6 +4,7 @@
 #include "FileLayer.h"
 #include "makeSachmRelativeToCatalog.h"
 #include "Reader.h"
+#include "tellTableErrors.h"
 
 namespace VKTab {
 
@@ -19,8 +20,10 @@ ProjectTable readProjectTable(const QString &nativeProjectPath, Content &content
     ProjectTable result;
     if (options.options)
         content.setOptions(options.options);
-    result.isRead = reader.readByProject(project, content, options.tells) == 1;
+    result.isRead = reader.readByProject(project, content, true) == 1;
     result.errors = reader.errors();
+    if (options.tells)
+        tellTableErrors(nativeProjectPath, result.errors);
     result.file = project->tableFile();
     if (result.isRead && options.allLines) {
         removeProjectFilters(content);

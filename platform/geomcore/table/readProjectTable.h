@@ -23,7 +23,7 @@ struct ProjectTableOptions
     boost::shared_ptr<TabOptions> options;
     /// All lines; else those that the project itself chooses, by conditions in its table.
     bool allLines = false;
-    /// What is wrong goes to the log window too.
+    /// What is wrong goes to the log window too, see tellTableErrors().
     bool tells = true;
 };
 
@@ -31,7 +31,7 @@ struct ProjectTableOptions
 struct ProjectTable
 {
     bool isRead = false;
-    /// Why it could not be read; of a table that was read the lines that are marked.
+    /// Why it could not be read, the lines that are marked, and what else Reader::errors() has.
     TableErrorList errors;
     /// Native path of the descriptor; empty if the project has no table or was not read.
     QString file;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 namespace VKTab {
 
@@ -187,8 +188,11 @@ bool RangeText::Part::containsNumber(QStringView value, char decimalChar) const
 qint64 RangeText::count() const
 {
     qint64 sum = 0;
-    for (const Part &part : m_parts)
+    for (const Part &part : m_parts) {
+        if (part.count() > std::numeric_limits<qint64>::max() - sum)
+            return std::numeric_limits<qint64>::max();
         sum += part.count();
+    }
     return sum;
 }
 
@@ -243,7 +247,7 @@ bool RangeText::containsSteps(const Part &steps) const
         if (ends && part.containsNumber(steps.value(std::min<qint64>(1, steps.count() - 1)), '.'))
             return true;
     }
-    if (steps.count() > count())
+    if (steps.count() > std::min<qint64>(count(), MaxValues))
         return false;
     for (qint64 i = 0; i < steps.count(); ++i) {
         if (!contains(steps.value(i)))

@@ -18,6 +18,9 @@ namespace VKTab {
 class VELKGEOMCORE_EXPORT RangeText
 {
 public:
+    /// A cell that has more values is not used as a range.
+    static constexpr int MaxValues = 100'000;
+
     /// A range without values.
     RangeText() = default;
 
@@ -30,7 +33,8 @@ public:
     [[nodiscard]] static bool isSimple(std::string_view text);
 
     [[nodiscard]] bool isEmpty() const { return m_parts.empty(); }
-    /// Number of values, without making them; one that stands twice counts twice.
+    /// Number of values, without making them; one that stands twice counts twice. The greatest
+    /// qint64 stands for that and more.
     [[nodiscard]] qint64 count() const;
     /// The value at \a index in written order, 0 to count() - 1. Values of a list as written,
     /// values of steps in plain notation with '.'.
@@ -39,7 +43,8 @@ public:
     [[nodiscard]] QStringList values() const;
     /// Numbers compare by value, other texts exactly after trimming.
     [[nodiscard]] bool contains(QStringView value, char decimalChar = '.') const;
-    /// Whether every value of \a other is one of these.
+    /// Whether every value of \a other is one of these; of steps that several parts of this share
+    /// only up to MaxValues are looked at one by one, more count as not contained.
     [[nodiscard]] bool containsAll(const RangeText &other) const;
     /// Shortest text of the same range: equal ranges written differently ("10;12,0", "10.0;12")
     /// give the same one. Order is kept.
