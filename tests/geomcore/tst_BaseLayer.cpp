@@ -82,6 +82,8 @@ private Q_SLOTS:
     void givesAttributesAndProperties();
     void setsAttributes();
     void deletesVariables();
+    void aVariableComesBackWithoutItsCells();
+    void findsTheFirstOfEqualNames();
     void addsVariables();
     void hasNoLinesOfItsOwn();
     void keepsKeyValues();
@@ -237,6 +239,9 @@ void tst_BaseLayer::setsAttributes()
     QCOMPARE(var.getDescription(), "Uno");
     QVERIFY(var.isHidden());
     QCOMPARE(m_layer->getVarGroups(), QStringList{"G3"});
+    // What is no truth value changes nothing.
+    QVERIFY(!m_layer->setVarAttribute(id, VarAttrHidden, QStringList{"x"}));
+    QVERIFY(m_layer->getVar(id).isHidden());
     // Only a range has a default among its values.
     QVERIFY(!m_layer->setVarAttribute(id, VarAttrRangeDefault, "12"));
     Var range = var;
@@ -261,6 +266,37 @@ void tst_BaseLayer::deletesVariables()
     QVERIFY(m_layer->getVarList().isEmpty());
     QVERIFY(m_layer->getColumnFilter().isEmpty());
     QVERIFY(!m_layer->isValid());
+}
+
+void tst_BaseLayer::aVariableComesBackWithoutItsCells()
+{
+    const Var var = m_layer->getVar(m_layer->id());
+    const Var other = named("TWO", m_layer->id().value() + 1);
+    m_layer->addVar(other);
+    QVERIFY(m_layer->setValue(var.getVarId(), 1, Value("a")));
+    QVERIFY(m_layer->setValue(var.getVarId(), 2, Value("b")));
+    QVERIFY(m_layer->setValue(other.getVarId(), 2, Value("c")));
+    QVERIFY(m_layer->deleteVar(var.getVarId()));
+    QCOMPARE(m_layer->getVarId(u"TWO"), other.getVarId());
+    m_layer->addVar(var);
+    QVERIFY(m_layer->getValue(var.getVarId(), 1).isNull());
+    QVERIFY(m_layer->isDefValue(var.getVarId(), 2));
+    QCOMPARE(m_layer->getValue(other.getVarId(), 2).toString(), "c");
+}
+
+void tst_BaseLayer::findsTheFirstOfEqualNames()
+{
+    BaseLayer layer(OneColumnLayer::type());
+    layer.addVar(named("A", 5));
+    layer.addVar(named("A", 3));
+    layer.addVar(named("B", 4));
+    QCOMPARE(layer.getVarId(u"A"), VarId(5));
+    layer.addVar(named("C", 5));
+    QCOMPARE(layer.getVarId(u"A"), VarId(3));
+    QCOMPARE(layer.getVarId(u"C"), VarId(5));
+    QVERIFY(layer.deleteVar(VarId(5)));
+    QCOMPARE(layer.getVarId(u"B"), VarId(4));
+    QVERIFY(!layer.getVarId(u"C").isValid());
 }
 
 void tst_BaseLayer::addsVariables()

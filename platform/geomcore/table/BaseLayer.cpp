@@ -10,27 +10,6 @@
 
 namespace VKTab {
 
-const Var *BaseLayerState::findVar(const VarId &id) const
-{
-    const auto var =
-        std::find_if(vars.begin(), vars.end(), [&](const Var &v) { return v.getVarId() == id; });
-    return var == vars.end() ? nullptr : &*var;
-}
-
-const Var *BaseLayerState::findVar(QStringView name) const
-{
-    const auto var =
-        std::find_if(vars.begin(), vars.end(), [&](const Var &v) { return v.getName() == name; });
-    return var == vars.end() ? nullptr : &*var;
-}
-
-Var *BaseLayerState::findVar(const VarId &id)
-{
-    const auto var =
-        std::find_if(vars.begin(), vars.end(), [&](const Var &v) { return v.getVarId() == id; });
-    return var == vars.end() ? nullptr : &*var;
-}
-
 BaseLayer::BaseLayer()
     : m_shared(std::make_unique<BaseLayerShared>())
 {
@@ -76,9 +55,9 @@ int BaseLayer::getLayerType() const
 {
     const std::shared_lock guard(m_shared->lock);
     const BaseLayerState &state = m_shared->state;
-    if (state.layerType != 0 || state.vars.isEmpty())
+    if (state.layerType != 0 || state.vars.list().isEmpty())
         return state.layerType;
-    return state.vars.first().getVarSource();
+    return state.vars.list().first().getVarSource();
 }
 
 QVariant BaseLayer::getKeyValue(KeyValueId id) const
@@ -156,7 +135,7 @@ void BaseLayer::updateVariableStructure()
 bool BaseLayer::isValid() const
 {
     const std::shared_lock guard(m_shared->lock);
-    return !m_shared->state.vars.isEmpty();
+    return !m_shared->state.vars.list().isEmpty();
 }
 
 void BaseLayer::emitChanged(LayerChange::Kind kind, const LineId &line)

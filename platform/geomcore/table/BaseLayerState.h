@@ -2,6 +2,7 @@
 
 #include "FilterCondition.h"
 #include "LayerI.h"
+#include "LayerVars.h"
 #include "LineStatusTable.h"
 
 #include <QHash>
@@ -18,14 +19,10 @@ namespace VKTab {
 /// What a BaseLayer holds; a value.
 struct BaseLayerState
 {
-    [[nodiscard]] const Var *findVar(const VarId &id) const;
-    [[nodiscard]] const Var *findVar(QStringView name) const;
-    [[nodiscard]] Var *findVar(const VarId &id);
-
     int layerType = 0;
     QMap<int, QVariant> keyValues;
     QMap<QString, QVariant> attributes;
-    QList<Var> vars;
+    LayerVars vars;
     QHash<VarId, QStringList> columnFilter;
     QHash<VarId, Value> rangeDefaults;
     QList<FilterCondition> conditions;

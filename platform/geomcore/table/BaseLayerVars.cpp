@@ -2,6 +2,8 @@
 #include "BaseLayerState.h"
 #include "LayerType.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <mutex>
 
@@ -10,34 +12,34 @@ namespace VKTab {
 QList<Var> BaseLayer::getVarList() const
 {
     const std::shared_lock guard(m_shared->lock);
-    return m_shared->state.vars;
+    return m_shared->state.vars.list();
 }
 
 VarId BaseLayer::getVarId(QStringView name) const
 {
     const std::shared_lock guard(m_shared->lock);
-    const Var *var = std::as_const(m_shared->state).findVar(name);
+    const Var *var = std::as_const(m_shared->state.vars).find(name);
     return var ? var->getVarId() : VarId();
 }
 
 std::optional<Var> BaseLayer::getVar(QStringView name) const
 {
     const std::shared_lock guard(m_shared->lock);
-    const Var *var = std::as_const(m_shared->state).findVar(name);
+    const Var *var = std::as_const(m_shared->state.vars).find(name);
     return var ? std::optional<Var>(*var) : std::nullopt;
 }
 
 Var BaseLayer::getVar(const VarId &id) const
 {
     const std::shared_lock guard(m_shared->lock);
-    const Var *var = std::as_const(m_shared->state).findVar(id);
+    const Var *var = std::as_const(m_shared->state.vars).find(id);
     return var ? *var : Var();
 }
 
 bool BaseLayer::isValid(const VarId &id) const
 {
     const std::shared_lock guard(m_shared->lock);
-    return std::as_const(m_shared->state).findVar(id) != nullptr;
+    return std::as_const(m_shared->state.vars).find(id) != nullptr;
 }
 
 QString BaseLayer::getName(const VarId &id) const
@@ -112,7 +114,7 @@ QVariant BaseLayer::getVarProperty(const VarId &id, VarPropId property) const
 bool BaseLayer::setVarAttribute(const VarId &id, VarAttr attribute, const QVariant &value)
 {
     const std::unique_lock guard(m_shared->lock);
-    Var *var = m_shared->state.findVar(id);
+    Var *var = m_shared->state.vars.find(id);
     if (!var)
         return false;
     switch (attribute) {
@@ -120,8 +122,10 @@ bool BaseLayer::setVarAttribute(const VarId &id, VarAttr attribute, const QVaria
         var->setDescription(value.toString());
         return true;
     case VarAttrHidden:
+        if (!value.canConvert<bool>())
+            return false;
         var->setHidden(value.toBool());
-        return value.canConvert<bool>();
+        return true;
     case VarAttrGroups:
         var->setGroups(value.toStringList());
         return true;
@@ -139,27 +143,25 @@ bool BaseLayer::deleteVar(const VarId &id)
 {
     const std::unique_lock guard(m_shared->lock);
     BaseLayerState &state = m_shared->state;
+    if (!state.vars.remove(id))
+        return false;
     state.columnFilter.remove(id);
     state.rangeDefaults.remove(id);
-    return state.vars.removeIf([&](const Var &var) { return var.getVarId() == id; }) > 0;
+    for (auto &line : state.values)
+        line.second.erase(id);
+    std::erase_if(state.values, [](const auto &line) { return line.second.empty(); });
+    m_shared->hasValues = !state.values.empty();
+    return true;
 }
 
 void BaseLayer::addVar(const Var &var)
 {
     const std::unique_lock guard(m_shared->lock);
     BaseLayerState &state = m_shared->state;
-    if (Var *known = state.findVar(var.getVarId())) {
-        *known = var;
-        return;
-    }
     Var added = var;
-    if (!added.getVarId().isValid()) {
-        int next = getLayerIdOffset(state.layerType);
-        for (const Var &other : std::as_const(state.vars))
-            next = std::max(next, other.getVarId().value() + 1);
-        added.setVarId(VarId(next));
-    }
-    state.vars.append(added);
+    if (!added.getVarId().isValid())
+        added.setVarId(VarId(std::max(getLayerIdOffset(state.layerType), state.vars.nextId())));
+    state.vars.put(added);
 }
 
 Value BaseLayer::getRangeValueCustomDefault(const VarId &id) const
@@ -183,16 +185,19 @@ QList<VarId> BaseLayer::evaluateColumnMapping(const QList<Var> &vars,
                                               const VarPredicate &accepts) const
 {
     const QString others = QStringLiteral("...");
-    QList<VarId> named;
+    QSet<VarId> named;
     for (const QString &name : order) {
         const auto var = byName.constFind(name);
-        if (name != others && var != byName.constEnd() && !named.contains(var->getVarId()))
-            named.append(var->getVarId());
+        if (name != others && var != byName.constEnd())
+            named.insert(var->getVarId());
     }
     QList<VarId> result;
+    QSet<VarId> added;
     const auto add = [&](const Var &var) {
-        if ((!accepts || accepts(var)) && !result.contains(var.getVarId()))
+        if ((!accepts || accepts(var)) && !added.contains(var.getVarId())) {
+            added.insert(var.getVarId());
             result.append(var.getVarId());
+        }
     };
     const auto addOthers = [&] {
         for (const Var &var : vars) {
