@@ -125,6 +125,8 @@ class tst_Content : public QObject
 private Q_SLOTS:
     void aDefaultContentIsInvalidButTakesOptions();
     void aDefaultReferenceRefersToNothing();
+    void theHubOfNothingKeepsNoListener();
+    void aListenerMayLetGoOfTheTable();
     void copiesSeeTheSameTable();
     void assignmentRebinds();
     void aReferenceToNothingCanBeFilled();
@@ -193,6 +195,38 @@ void tst_Content::aDefaultReferenceRefersToNothing()
         [&](const Content &, Content::InvalidateFlags) { called = true; });
     ref.invalidate(Content::InvalidateFilter, true);
     QVERIFY(!called);
+}
+
+void tst_Content::theHubOfNothingKeepsNoListener()
+{
+    const auto heard = std::make_shared<int>(0);
+    SignalConnect &hub = ContentRef().signalConnect();
+    const auto line = [heard](const Content &, const LineId &, bool) {
+        return ++*heard;
+    };
+    QVERIFY(!hub.connectSignalLineSelected(line, ConnectGroupUser).connected());
+    QVERIFY(!hub.connectSignalLineModified(line).connected());
+    QVERIFY(!hub.connectSignalInvalidated([heard](const Content &, Content::InvalidateFlags) {})
+                 .connected());
+    QVERIFY(!hub.connectSignalLineStatus([heard](const Content &, const LineId &) {}).connected());
+    QCOMPARE(heard.use_count(), 2); // the test's own two
+}
+
+void tst_Content::aListenerMayLetGoOfTheTable()
+{
+    auto table = std::make_unique<ContentRef>(TestTables::screws());
+    QVERIFY(table->setSelection(1, true));
+    QStringList heard;
+    table->signalConnect().connectSignalLineSelected(
+        [&](const Content &, const LineId &id, bool on) {
+            heard.append(QString("%1 %2").arg(id.value(0)).arg(int(on)));
+            table.reset();
+            return 0;
+        },
+        ConnectGroupUser);
+    table->setSelection(2, true);
+    QVERIFY(!table);
+    QCOMPARE(heard, QStringList({"1 0", "2 1"}));
 }
 
 void tst_Content::copiesSeeTheSameTable()

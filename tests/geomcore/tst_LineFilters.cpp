@@ -1,5 +1,6 @@
 #include "TestTables.h"
 
+#include <core/message/PMessage.h>
 #include <geomcore/table/BaseLayer.h>
 #include <geomcore/table/FilterByLineId.h>
 #include <geomcore/table/FilterRule.h>
@@ -7,6 +8,9 @@
 #include <geomcore/table/LineSet.h>
 
 #include <QTest>
+
+#include <functional>
+#include <utility>
 
 using namespace VKTab;
 
@@ -22,10 +26,46 @@ public:
     }
     QString className() const override { return "HideRow"; }
     bool isUsed() const override { return m_row >= 0; }
-    void evaluate(const Content &, LineSet &visible) const override { visible.remove(m_row); }
+    void evaluate(const FilteredTable &, LineSet &visible) const override { visible.remove(m_row); }
 
 private:
     int m_row;
+};
+
+/// Does something to the table whenever it is asked for its filter.
+class MeddlingLayer : public BaseLayer
+{
+public:
+    explicit MeddlingLayer(std::function<FilterBase(const Content &)> meddle)
+        : BaseLayer(registerLayerType("MeddlingLayer"))
+        , m_meddle(std::move(meddle))
+    {
+    }
+    boost::shared_ptr<LayerI> clone() const override
+    {
+        return boost::make_shared<MeddlingLayer>(*this);
+    }
+    boost::shared_ptr<FilterBase> getFilter(const QList<FilterCondition> &,
+                                            const Content &content) const override
+    {
+        return boost::make_shared<FilterBase>(m_meddle(content));
+    }
+
+private:
+    std::function<FilterBase(const Content &)> m_meddle;
+};
+
+class CountingSink : public PMessageSink
+{
+public:
+    PMsgReply show(const QString &, PMsgDlgModes) override
+    {
+        ++messages;
+        return PMsgReply::Ok;
+    }
+    void logToWindow(const QString &) override { ++messages; }
+
+    int messages = 0;
 };
 
 } // namespace
@@ -47,6 +87,10 @@ private Q_SLOTS:
     void conditionsOfTheFileHideLines();
     void conditionsCanBeRemoved();
     void conditionsThatDoNotParseHideNothing();
+    void conditionsAreParsedOnce();
+    void theOwnerMayTakeTheTableMeanwhile_data();
+    void theOwnerMayTakeTheTableMeanwhile();
+    void layersMayAskTheTable();
     void conditionsSeeChangedCellsAfterInvalidate();
     void columnFilters_data();
     void columnFilters();
@@ -212,7 +256,68 @@ void tst_LineFilters::conditionsThatDoNotParseHideNothing()
     TableDescriptor descriptor = TestTables::screwDescriptor();
     descriptor.filterConditions = {{"A", "Dia .GT.", {}}, {"B", "Dia .LT. 16", {}}};
     m_table = TestTables::table(descriptor, TestTables::screwLines());
-    QCOMPARE(visible(), "123");
+    const auto sink = std::make_shared<CountingSink>();
+    const auto former = PMessage::setSink(sink);
+    for (int round = 0; round < 5; ++round) {
+        m_table.invalidate(Content::InvalidateFilter, true);
+        QCOMPARE(visible(), "123");
+    }
+    PMessage::setSink(former);
+    QCOMPARE(sink->messages, 0); // who reads the table tells of it
+}
+
+void tst_LineFilters::conditionsAreParsedOnce()
+{
+    TableDescriptor descriptor = TestTables::screwDescriptor();
+    descriptor.filterConditions = {{"A", "Dia .LT. 16", {}}};
+    m_table = TestTables::table(descriptor, TestTables::screwLines());
+    const auto file = m_table.getFileLayer();
+    const auto rule = [&] {
+        return file->getFilter(file->getFilterConditions(), m_table)->rule();
+    };
+    const auto first = rule();
+    QCOMPARE(rule(), first);
+    file->addFilterCondition({"B", "Dia .LT. 10"});
+    QVERIFY(rule() != first);
+    QCOMPARE(visible(), "1");
+}
+
+void tst_LineFilters::theOwnerMayTakeTheTableMeanwhile_data()
+{
+    QTest::addColumn<bool>("byCondition");
+    QTest::newRow("condition") << true;
+    QTest::newRow("lines") << false;
+}
+
+void tst_LineFilters::theOwnerMayTakeTheTableMeanwhile()
+{
+    QFETCH(bool, byCondition);
+    MeddlingLayer layer([byCondition](Content table) {
+        table.setFileLayer(nullptr);
+        const FilterByLineId lines({{2, {}}}, true);
+        return byCondition ? FilterBase() : FilterBase(lines.rule());
+    });
+    TableDescriptor descriptor = TestTables::screwDescriptor();
+    descriptor.filterConditions = {
+        {"A", byCondition ? "Dia .EQ. 10 .AND. Note .NE. 'x'" : "1 .EQ. 1", {}}};
+    m_table = TestTables::table(descriptor, TestTables::screwLines());
+    m_table.addLayer(layer);
+    QCOMPARE(m_table.getLineMapping().getOrdered(), QVector<LineId>{2}); // of the table as it was
+    QVERIFY(!m_table.isValid());
+    QCOMPARE(m_table.getLineMapping().count(), 0);
+}
+
+void tst_LineFilters::layersMayAskTheTable()
+{
+    bool asked = false;
+    MeddlingLayer layer([&asked](const Content &table) {
+        if (!std::exchange(asked, true))
+            (void)table.getLineMapping().count();
+        return FilterBase();
+    });
+    m_table.addLayer(layer);
+    QCOMPARE(visible(), "1234");
+    QVERIFY(asked);
 }
 
 void tst_LineFilters::conditionsSeeChangedCellsAfterInvalidate()

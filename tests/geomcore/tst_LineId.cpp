@@ -42,6 +42,8 @@ void tst_LineId::tellsWhetherItNamesALine()
     QTEST(id.isValid(), "valid");
     QTEST(id.value(0), "line");
     QTEST(id.value(1), "sub");
+    QCOMPARE(id.value(2), 0);
+    QCOMPARE(id.value(-1), 0);
 }
 
 void tst_LineId::idsWithoutSecondNumberAreOneAndTheSame()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void init();
     void firstReadersOnSeveralThreadsAgree();
     void readersStandBesideTheOwner();
+    void readersStandBesideAnOwnerWhoReplacesTheTable();
     void linesOutliveChangesOfLayers();
 
 private:
@@ -135,6 +136,38 @@ void tst_TableThreads::readersStandBesideTheOwner()
     }
     for (int round = 0; round < 200; ++round)
         write(round);
+    stop = true;
+    for (std::thread &thread : threads)
+        thread.join();
+    QCOMPARE(wrong.load(), 0);
+}
+
+void tst_TableThreads::readersStandBesideAnOwnerWhoReplacesTheTable()
+{
+    std::atomic<bool> stop = false;
+    std::atomic<int> wrong = 0;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 3; ++i) {
+        threads.emplace_back([&, i] {
+            for (int n = i; !stop; ++n) {
+                const LineId id(n % Lines + 1);
+                const int shown = m_table.getLineMapping().count();
+                wrong += shown < 0 || shown > Lines;
+                wrong += m_table.isLineVisible(LineId(Lines + 1));
+                const Line line = m_table.getLine(id, false);
+                const QString text =
+                    line.getValue(m_table.getVar(u"C"), FormatPlain, {}).toString();
+                wrong += !text.isEmpty() && text != QString::number((id.value(0) - 1) * 2);
+            }
+        });
+    }
+    const auto file = m_table.getFileLayer();
+    for (int round = 0; round < 200; ++round) {
+        m_table.setFileLayer(nullptr);
+        m_table.setFilter(FilterByLineId({{round % Lines, {}}}, true));
+        m_table.setFileLayer(file);
+        m_table.setFilter(FilterByLineId({{round % Lines, {}}}, round % 2 != 0));
+    }
     stop = true;
     for (std::thread &thread : threads)
         thread.join();

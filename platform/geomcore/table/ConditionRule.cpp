@@ -1,12 +1,12 @@
 #include "ConditionRule.h"
 
-#include "Content.h"
+#include "FilteredTable.h"
 #include "LineSet.h"
 #include "LineView.h"
 #include "TableData.h"
 
 #include "BoundExpression.h"
-#include <geomcore/expression/ExpressionText.h>
+#include "tableExpressions.h"
 
 namespace VKTab {
 
@@ -41,14 +41,11 @@ void evaluateColumn(const BoundExpression &condition, const TableData &table, in
     }
 }
 
-void evaluateLines(const BoundExpression &condition, const Content &content, const TableData &table,
-                   LineSet &visible)
+void evaluateLines(const BoundExpression &condition, const FilteredTable &table, LineSet &visible)
 {
-    const bool plain = content.isPlain();
     LineSet hidden(visible.capacity(), false);
     visible.forEach([&](int row) {
-        const LineView line = plain ? LineView(table, row) : LineView(content, table.lineId(row));
-        if (!condition.holds(line))
+        if (!condition.holds(table.line(row)))
             hidden.insert(row);
     });
     hidden.forEach([&](int row) { visible.remove(row); });
@@ -59,7 +56,7 @@ void evaluateLines(const BoundExpression &condition, const Content &content, con
 ConditionRule::ConditionRule(const QList<FilterCondition> &conditions)
 {
     for (const FilterCondition &condition : conditions) {
-        if (auto program = ExpressionText(ExpressionUse::Condition, condition.text).program())
+        if (auto program = parseCondition(condition.text).program)
             m_conditions.push_back(std::move(program));
     }
 }
@@ -76,16 +73,15 @@ bool ConditionRule::isUsed() const
     return !m_conditions.empty();
 }
 
-void ConditionRule::evaluate(const Content &content, LineSet &visible) const
+void ConditionRule::evaluate(const FilteredTable &table, LineSet &visible) const
 {
-    const auto table = content.getTableData();
     for (const auto &condition : m_conditions) {
-        const BoundExpression bound(condition, table.get());
-        const int column = content.isPlain() ? onlyColumn(*condition, *table) : -1;
+        const BoundExpression bound(condition, &table.data());
+        const int column = table.isPlain() ? onlyColumn(*condition, table.data()) : -1;
         if (column >= 0)
-            evaluateColumn(bound, *table, column, visible);
+            evaluateColumn(bound, table.data(), column, visible);
         else
-            evaluateLines(bound, content, *table, visible);
+            evaluateLines(bound, table, visible);
     }
 }
 

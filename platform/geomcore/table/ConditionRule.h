@@ -10,13 +10,10 @@
 
 namespace VKTab {
 
-class ExpressionText;
-class LineView;
 class Program;
-class TableData;
 
 /// Filter that shows the lines for which all conditions hold. A condition that does not parse hides
-/// nothing; the log window is told.
+/// nothing; reading its table tells of it.
 class VELKGEOMCORE_EXPORT ConditionRule : public FilterRule
 {
 public:
@@ -25,7 +22,7 @@ public:
 
     [[nodiscard]] QString className() const override;
     [[nodiscard]] bool isUsed() const override;
-    void evaluate(const Content &content, LineSet &visible) const override;
+    void evaluate(const FilteredTable &table, LineSet &visible) const override;
 
 private:
     std::vector<std::shared_ptr<const Program>> m_conditions;

@@ -207,7 +207,7 @@ void Content::setFileLayer(const boost::shared_ptr<FileLayer> &layer)
 
 SignalConnect &Content::signalConnect() const
 {
-    static SignalConnect nobody;
+    static SignalConnect nobody{SignalConnect::Nobody()};
     return d ? d->signalConnect() : nobody;
 }
 

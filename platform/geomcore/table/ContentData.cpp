@@ -30,19 +30,25 @@ std::shared_ptr<const ContentStructure> ContentData::structure() const
 
 std::shared_ptr<const LineOrder> ContentData::order() const
 {
-    const std::lock_guard guard(m_orderLock);
     const int state = m_filterState;
-    if (state != m_orderState) {
-        m_order = evaluateFilters();
+    {
+        const std::lock_guard guard(m_orderLock);
+        if (state == m_orderState)
+            return m_order;
+    }
+    // Without a lock: rules and layers may be anybody's.
+    const auto made = evaluateFilters();
+    const std::lock_guard guard(m_orderLock);
+    if (m_orderState < state) {
+        m_order = made;
         m_orderState = state;
     }
-    return m_order;
+    return made;
 }
 
 std::shared_ptr<const LineOrder> ContentData::evaluateFilters() const
 {
-    const auto current = structure();
-    LineFilters filters(handle(), *current);
+    LineFilters filters(handle(), structure());
     {
         const std::lock_guard guard(m_lock);
         for (const FilterBase &filter : m_filters)
@@ -71,6 +77,7 @@ LineId ContentData::selection() const
 
 bool ContentData::setSelection(const LineId &id, bool notify)
 {
+    const auto self = shared_from_this(); // a listener may let go of the last reference
     const LineId selected = structure()->lineInfo(id).getLineId();
     if (id.isValid() && !selected.isValid())
         return false;
@@ -108,6 +115,7 @@ void ContentData::setFilter(const FilterBase &filter)
 
 void ContentData::invalidate(Content::InvalidateFlags flags, bool notify)
 {
+    const auto self = shared_from_this();
     if (flags.testFlag(Content::InvalidateColumns))
         rebuildStructure();
     if (flags & (Content::InvalidateValues | Content::InvalidateFilter))
@@ -118,6 +126,7 @@ void ContentData::invalidate(Content::InvalidateFlags flags, bool notify)
 
 void ContentData::addLayer(const LayerI &layer)
 {
+    const auto self = shared_from_this();
     const auto current = structure();
     auto layers = current->added();
     const boost::shared_ptr<LayerI> added = layer.clone();
@@ -132,6 +141,7 @@ void ContentData::addLayer(const LayerI &layer)
 
 void ContentData::setFileLayer(const boost::shared_ptr<FileLayer> &layer)
 {
+    const auto self = shared_from_this();
     {
         const std::lock_guard guard(m_lock);
         m_selection = LineId();
@@ -173,6 +183,7 @@ void ContentData::connectLayers(const ContentStructure &structure)
 
 void ContentData::onLayerChanged(const LayerI *layer, const LayerChange &change)
 {
+    const auto self = shared_from_this();
     switch (change.kind) {
     case LayerChange::Values:
         onValuesChanged(layer, change.line);

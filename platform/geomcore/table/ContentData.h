@@ -67,7 +67,7 @@ private:
     QMap<QString, FilterBase> m_filters;
 
     std::atomic<int> m_filterState = 1; // counts changes
-    mutable std::mutex m_orderLock;     // guards the next two; taken before m_lock
+    mutable std::mutex m_orderLock;     // guards the next two
     mutable std::shared_ptr<const LineOrder> m_order;
     mutable int m_orderState = 0; // the filter state that the order was made for
 

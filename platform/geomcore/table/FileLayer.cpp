@@ -2,6 +2,7 @@
 
 #include "CellText.h"
 #include "ConditionRule.h"
+#include "ConditionRules.h"
 #include "Content.h"
 #include "LayerType.h"
 #include "LineView.h"
@@ -55,6 +56,7 @@ FileLayer::FileLayer(std::shared_ptr<const TableData> data)
     , m_data(std::move(data))
     , m_descriptor(m_data ? std::shared_ptr<const TableDescriptor>(m_data, &m_data->descriptor())
                           : std::make_shared<const TableDescriptor>())
+    , m_rules(std::make_shared<ConditionRules>())
 {
     takeDescriptor();
 }
@@ -62,6 +64,7 @@ FileLayer::FileLayer(std::shared_ptr<const TableData> data)
 FileLayer::FileLayer(const TableDescriptor &descriptor)
     : BaseLayer(fileLayerType())
     , m_descriptor(std::make_shared<const TableDescriptor>(descriptor))
+    , m_rules(std::make_shared<ConditionRules>())
 {
     takeDescriptor();
 }
@@ -72,7 +75,7 @@ FileLayer::~FileLayer() = default;
 void FileLayer::takeDescriptor()
 {
     for (int column = 0; column < m_descriptor->fields.size(); ++column)
-        addVar(varOf(m_descriptor->fields[column], column));
+        addVar(varOf(m_descriptor->fields.at(column), column));
     setKeyValue(KeyNormNumber, m_descriptor->normNumber);
     for (auto it = m_descriptor->attributes.begin(); it != m_descriptor->attributes.end(); ++it)
         setKeyValue(it.key(), it.value());
@@ -176,7 +179,7 @@ boost::shared_ptr<FilterBase> FileLayer::getFilter(const QList<FilterCondition> 
 {
     if (conditions.isEmpty())
         return {};
-    return boost::make_shared<FilterBase>(std::make_shared<const ConditionRule>(conditions));
+    return boost::make_shared<FilterBase>(m_rules->ruleOf(conditions));
 }
 
 bool FileLayer::isValid() const

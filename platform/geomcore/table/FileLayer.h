@@ -6,6 +6,7 @@
 
 namespace VKTab {
 
+class ConditionRules;
 class TableData;
 class TableDescriptor;
 
@@ -54,6 +55,7 @@ private:
 
     std::shared_ptr<const TableData> m_data;
     std::shared_ptr<const TableDescriptor> m_descriptor; // never null
+    std::shared_ptr<ConditionRules> m_rules;             // never null; shared with copies
 };
 
 } // namespace VKTab

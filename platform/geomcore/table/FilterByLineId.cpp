@@ -1,6 +1,6 @@
 #include "FilterByLineId.h"
 
-#include "Content.h"
+#include "FilteredTable.h"
 #include "FilterRule.h"
 #include "LineSet.h"
 #include "TableData.h"
@@ -25,14 +25,13 @@ public:
 
     [[nodiscard]] QString className() const override { return FilterByLineId::className(); }
     [[nodiscard]] bool isUsed() const override { return m_used && !m_lines.empty(); }
-    void evaluate(const Content &content, LineSet &visible) const override
+    void evaluate(const FilteredTable &table, LineSet &visible) const override
     {
-        const auto table = content.getTableData();
         LineSet shown(visible.capacity(), false);
-        if (table->descriptor().lineSubIdField.isEmpty())
-            insertByNumber(*table, shown);
+        if (table.data().descriptor().lineSubIdField.isEmpty())
+            insertByNumber(table.data(), shown);
         else
-            insertByRow(*table, shown);
+            insertByRow(table.data(), shown);
         visible.intersect(shown);
     }
 

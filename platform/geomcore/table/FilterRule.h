@@ -6,7 +6,7 @@
 
 namespace VKTab {
 
-class Content;
+class FilteredTable;
 class LineSet;
 
 /// What a filter does. Immutable, so that it may be evaluated on any thread.
@@ -19,7 +19,7 @@ public:
     /// False if evaluating it changes nothing.
     [[nodiscard]] virtual bool isUsed() const = 0;
     /// Takes the lines that it hides out of the set, which has one entry for each row of the table.
-    virtual void evaluate(const Content &content, LineSet &visible) const = 0;
+    virtual void evaluate(const FilteredTable &table, LineSet &visible) const = 0;
 };
 
 } // namespace VKTab

@@ -43,6 +43,7 @@ public:
 
 private:
     friend class Content;
+    friend class LineFilters;
     friend class LineView;
     using Overlay = boost::container::flat_map<VarId, Value>;
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Content.h"
 #include "FilterBase.h"
 #include "LineOrder.h"
 #include "LineSet.h"
+#include <geomcore/value/VarId.h>
 
 #include <QStringList>
 
@@ -12,6 +12,7 @@
 
 namespace VKTab {
 
+class Content;
 class ContentStructure;
 class LayerI;
 
@@ -20,7 +21,8 @@ class LayerI;
 class LineFilters
 {
 public:
-    LineFilters(const Content &content, const ContentStructure &structure);
+    /// \a content is what the layers are asked with for their filters.
+    LineFilters(const Content &content, std::shared_ptr<const ContentStructure> structure);
 
     void add(const FilterBase &filter);
     [[nodiscard]] std::shared_ptr<const LineOrder> evaluate();
@@ -32,8 +34,7 @@ private:
     void filterByLines(const VarId &id, const QStringList &texts, LineSet &visible) const;
     [[nodiscard]] bool filtersAnything() const;
 
-    Content m_content;
-    const ContentStructure &m_structure;
+    std::shared_ptr<const ContentStructure> m_structure;
     std::vector<FilterBase> m_filters;
 };
 

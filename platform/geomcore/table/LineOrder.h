@@ -23,7 +23,6 @@ public:
     LineOrder(std::shared_ptr<const TableData> table, LineSet shown);
 
     [[nodiscard]] int count() const { return m_count; }
-    [[nodiscard]] bool isAll() const { return m_all; }
     /// Row of the table at a place, from 0.
     [[nodiscard]] int rowAt(int place) const
     {

@@ -25,7 +25,13 @@ public:
     using InvalidateSlot = std::function<void(const Content &, Content::InvalidateFlags)>;
     using LineStatusSlot = std::function<void(const Content &, const LineId &)>;
 
+    /// Tells nobody and keeps no listener.
+    struct Nobody
+    {
+    };
+
     SignalConnect();
+    explicit SignalConnect(Nobody);
     SignalConnect(const SignalConnect &) = delete;
     SignalConnect &operator=(const SignalConnect &) = delete;
     ~SignalConnect();
@@ -44,7 +50,7 @@ public:
 private:
     friend class ContentData;
     struct Signals;
-    std::unique_ptr<Signals> m_signals;
+    std::unique_ptr<Signals> m_signals; // null if it tells nobody
 };
 
 } // namespace VKTab

@@ -27,10 +27,12 @@ public:
     }
 
     [[nodiscard]] constexpr bool isValid() const { return m_values[0] >= 0; }
-    /// Component 0 is the line number (-1 for no line), component 1 the second number.
+    /// Component 0 is the line number (-1 for no line), component 1 the second number; further ones
+    /// are 0.
     [[nodiscard]] constexpr int value(int index) const
     {
-        return m_values[static_cast<std::size_t>(index)];
+        const auto place = static_cast<std::size_t>(index);
+        return place < m_values.size() ? m_values[place] : 0;
     }
 
     friend constexpr bool operator==(const LineId &a, const LineId &b) = default;
