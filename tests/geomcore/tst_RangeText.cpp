@@ -1,4 +1,3 @@
-#include <geomcore/value/RangeCell.h>
 #include <geomcore/value/RangeText.h>
 
 #include <QRandomGenerator>
@@ -26,7 +25,6 @@ private Q_SLOTS:
     void hugeRanges();
     void countSaturates();
     void sharedStepsAreLookedAtUpToABound();
-    void largeCellsOfferNothing();
     void randomSteps();
 };
 
@@ -264,12 +262,6 @@ void tst_RangeText::sharedStepsAreLookedAtUpToABound()
     const auto halves = RangeText::parse(u"0..100000000000/2;1..100000000000/2");
     QVERIFY(halves->containsAll(*RangeText::parse(u"0..99999/1")));
     QVERIFY(!halves->containsAll(*RangeText::parse(u"0..99999999999/1")));
-}
-
-void tst_RangeText::largeCellsOfferNothing()
-{
-    QCOMPARE(parseRangeCell(u"1..100000/1", '.')->count(), RangeText::MaxValues);
-    QVERIFY(!parseRangeCell(u"0..100000/1", '.'));
 }
 
 void tst_RangeText::randomSteps()

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void varsetsFollowTheWalk();
     void theFormOfTheEditor();
     void largeRangesBeginAtOnce();
+    void walksABoundedNumber();
 
 private:
     [[nodiscard]] QStringList walk(const LineId &id, const QStringList &names, bool detached)
@@ -320,6 +321,27 @@ void tst_ValueRangeIterator::largeRangesBeginAtOnce()
     iterator.setVariablesToResolve({"A"});
     QVERIFY(iterator.next() && iterator.next());
     QCOMPARE(shown(line), "1|b|c");
+}
+
+void tst_ValueRangeIterator::walksABoundedNumber()
+{
+    TableDescriptor descriptor;
+    descriptor.fields = {TestTables::field("A", FieldType::Number, FieldKind::Range),
+                         TestTables::field("B", FieldType::Number, FieldKind::Range),
+                         TestTables::field("C")};
+    m_table = TestTables::table(descriptor, "A,B,C\n0..999/1,0..999/1,c\n");
+    Line line = m_table.getLine(1, true);
+    const ResolveRangeOptionsC options;
+    ValueRangeIterator iterator(m_table, line, options);
+    for (int round = 0; round < 2; ++round) {
+        iterator.setVariablesToResolve({"A", "B"});
+        int walked = 0;
+        while (iterator.next())
+            ++walked;
+        QCOMPARE(walked, RangeText::MaxValues);
+        QVERIFY(!iterator.next());
+        QCOMPARE(shown(line), "0..999/1|0..999/1|c"); // taken out as after the last one
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_ValueRangeIterator)

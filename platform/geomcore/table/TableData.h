@@ -108,8 +108,8 @@ public:
     [[nodiscard]] int rowOf(int lineNumber, int lineSubNumber = 0) const;
     [[nodiscard]] int rowOf(const LineId &id) const;
 
-    /// Rows, ascending, with a range that does not parse or has more than RangeText::MaxValues
-    /// values; such a cell offers none.
+    /// Rows, ascending, with a range that does not parse, which offers no values, or one of more
+    /// than RangeText::MaxValues values.
     [[nodiscard]] const std::vector<int> &markedRows() const { return m.markedRows; }
     /// What is wrong but kept nothing from being read: formulas and conditions that do not parse,
     /// the marked rows. As many as TableErrors keeps, and the number of the rest.

@@ -344,7 +344,7 @@ QString TableDataReader::rangeFault(const TableField &field, std::string_view ce
             .arg(shortened(text), field.name, shortened(problem));
     if (range->count() <= RangeText::MaxValues)
         return {};
-    return QStringLiteral("the value range \"%1\" of %2 has %3 values; more than %4 are not used")
+    return QStringLiteral("the value range \"%1\" of %2 has %3 values; only %4 are walked")
         .arg(shortened(text), field.name, QString::number(range->count()),
              QString::number(RangeText::MaxValues));
 }

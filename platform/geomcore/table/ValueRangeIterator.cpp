@@ -21,6 +21,7 @@ ValueRangeIterator::~ValueRangeIterator() = default;
 void ValueRangeIterator::setVariablesToResolve(const QStringList &names)
 {
     m_ranges.clear();
+    m_walked = 0;
     m_started = false;
     m_done = false;
     for (const QString &name : names)
@@ -44,7 +45,7 @@ bool ValueRangeIterator::next()
 {
     if (m_done || m_ranges.empty())
         return false;
-    if (m_started && !step()) {
+    if (m_started && (m_walked == RangeText::MaxValues || !step())) {
         m_done = true;
         for (const Range &range : m_ranges)
             m_line.takeValue(range.id);
@@ -55,6 +56,7 @@ bool ValueRangeIterator::next()
             m_line.putValue(range.id, range.values.value(0));
     }
     m_started = true;
+    ++m_walked;
     return true;
 }
 

@@ -17,10 +17,10 @@ class Content;
 class LineI;
 class Var;
 
-/// Walk over the value combinations of a line's ranges. The variable named last runs fastest, each
-/// range in its written order. Every combination is put into the line; after the last one the
-/// values are taken out, and the line shows what its table has. An iterator that ends before the
-/// last combination leaves that one in the line.
+/// Walk over the value combinations of a line's ranges, at most RangeText::MaxValues of them. The
+/// variable named last runs fastest, each range in its written order. Every combination is put into
+/// the line; after the last one the values are taken out, and the line shows what its table has. An
+/// iterator that ends before the last combination leaves that one in the line.
 ///
 /// A variable takes part if it is a range variable whose cell lists values or steps; a cell with
 /// one plain value, an empty one, or one that is no range does not. Values that were chosen from a
@@ -55,6 +55,7 @@ private:
     LineI &m_line;
     const ResolveRangeOptionsI &m_options;
     std::vector<Range> m_ranges;
+    int m_walked = 0;
     bool m_started = false;
     bool m_done = false;
 };

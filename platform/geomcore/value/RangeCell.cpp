@@ -9,8 +9,7 @@ std::optional<RangeText> parseRangeCell(QStringView text, char decimalChar)
     if (!text.contains(u';') && !text.contains(u".."))
         return std::nullopt;
     auto range = RangeText::parse(text, decimalChar);
-    const qint64 count = range ? range->count() : 0;
-    return count > 0 && count <= RangeText::MaxValues ? range : std::nullopt;
+    return range && range->count() > 0 ? range : std::nullopt;
 }
 
 bool equalCells(QStringView a, QStringView b, char decimalChar)

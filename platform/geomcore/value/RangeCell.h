@@ -8,10 +8,9 @@
 
 namespace VKTab {
 
-/// The range that a cell offers; nothing for a cell with one plain value, an empty one, a text that
-/// is no range, or a range of more than RangeText::MaxValues values.
-[[nodiscard]] VELKGEOMCORE_EXPORT std::optional<RangeText> parseRangeCell(QStringView text,
-                                                                          char decimalChar);
+/// The range that a cell offers; nothing for a cell with one plain value, an empty one, or a text
+/// that is no range.
+[[nodiscard]] std::optional<RangeText> parseRangeCell(QStringView text, char decimalChar);
 
 /// True if two texts are the same value: equal numbers to ten significant digits, or else equal
 /// texts after trimming.

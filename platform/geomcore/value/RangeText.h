@@ -18,7 +18,8 @@ namespace VKTab {
 class VELKGEOMCORE_EXPORT RangeText
 {
 public:
-    /// A cell that has more values is not used as a range.
+    /// So many values, and so many combinations of a line's ranges, are walked; a line with a cell
+    /// of more is marked while its table is read.
     static constexpr int MaxValues = 100'000;
 
     /// A range without values.
