@@ -1,5 +1,6 @@
 #include "CatalogReader.h"
 
+#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/project/CipVersionMgmtC.h>
 #include <geomcore/project/PrjClass.h>
 #include <geomcore/table/makeSachmRelativeToCatalog.h>
@@ -37,6 +38,7 @@ CatalogReader::CatalogReader(const QString &root, const QString &catalog)
     : m_root(QDir::cleanPath(root))
     , m_catalog(catalog)
 {
+    CatalogPlaces::instance().addRoot(PPathName(m_root));
 }
 
 QString CatalogReader::directory() const
@@ -72,8 +74,14 @@ CatalogProject CatalogReader::read(const QString &projectPath) const
     project.date = prj->lexem("DATE");
     project.version = versionOf(project.date);
     VKTab::makeSachmRelativeToCatalog(prj, projectPath);
-    if (const QString table = prj->tableFile(); !table.isEmpty())
+    const QString table = prj->tableFile();
+    if (table.isEmpty())
+        return project;
+    const QString refusal = CatalogPlaces::instance().refusal(table, file);
+    if (refusal.isEmpty())
         readTable(table, project);
+    else
+        project.errors << file + QStringLiteral(": ") + refusal;
     return project;
 }
 
