@@ -7,6 +7,7 @@
 #include <core/config/PIniFile.h>
 #include <geomcore/csv/CsvCells.h>
 #include <geomcore/csv/HeaderNames.h>
+#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/value/CanonicalNumber.h>
 
 #include <QDir>
@@ -17,6 +18,7 @@
 
 #include <algorithm>
 
+using VKTab::appendCell;
 using VKTab::CanonicalNumber;
 using VKTab::FieldKind;
 using VKTab::FieldType;
@@ -27,7 +29,6 @@ using VKTab::TableError;
 using VKTab::TableErrorList;
 using VKTab::TableField;
 using VKTab::TableReadResult;
-using VKTab::appendCell;
 using VKTab::uniqueColumnNames;
 
 namespace VelkRelease {
@@ -132,6 +133,7 @@ bool TableImport::readFormer()
         return false;
     if (!QFileInfo::exists(file))
         return true;
+    CatalogPlaces::instance().addRoot(PPathName(m_options.root));
     const TableReadResult read = TableData::read(file);
     m_errors += read.errors;
     m_former = read.data;
