@@ -11,6 +11,7 @@
 #include <mapping/table/TableMappingWidget.h>
 
 #include <geomcore/table/TabOptions.h>
+#include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QCheckBox>
@@ -54,6 +55,42 @@ bool CatalogMappingWidget::selectLine(int line)
 void CatalogMappingWidget::focusLines()
 {
     d->tableWidget->sourceView()->grid()->setFocus(Qt::OtherFocusReason);
+}
+
+int CatalogMappingWidget::shownLineCount() const
+{
+    return sourceTable().isValid() ? d->tableWidget->sourceView()->model()->rowCount() : 0;
+}
+
+int CatalogMappingWidget::shownLine(int row) const
+{
+    const VKTab::LineId line = d->tableWidget->sourceView()->model()->lineId(row);
+    return line.isValid() ? line.value(0) : -1;
+}
+
+int CatalogMappingWidget::rowOfLine(int line) const
+{
+    return d->tableWidget->sourceView()->model()->rowOf(VKTab::LineId(line));
+}
+
+bool CatalogMappingWidget::linesAreFiltered() const
+{
+    const VKTab::ContentRef table = sourceTable();
+    return table.isValid() && shownLineCount() < table.getLineCount();
+}
+
+QStringList CatalogMappingWidget::columnFilters() const
+{
+    const VkTableModel *const model = d->tableWidget->sourceView()->model();
+    QStringList filters;
+    for (int column = 0; column < model->columnCount(); ++column) {
+        const VKTab::Var variable = model->variable(column);
+        const QString text =
+            variable.isValid() ? model->quickFilter(variable.getVarId()) : QString();
+        if (!text.isEmpty())
+            filters += QStringLiteral("%1: %2").arg(variable.getName(), text);
+    }
+    return filters;
 }
 
 void CatalogMappingWidget::showMapping(const PrjMappingC &mapping)

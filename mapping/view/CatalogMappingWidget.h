@@ -77,6 +77,16 @@ public:
     bool selectLine(int line);
     /// The keys go to the source table.
     void focusLines();
+    /// Rows of the source table that are shown, all filters applied; 0 if no table is.
+    [[nodiscard]] int shownLineCount() const;
+    /// The line in a row, from 0, in display order; -1 for a row out of range.
+    [[nodiscard]] int shownLine(int row) const;
+    /// -1 if the line has no row.
+    [[nodiscard]] int rowOfLine(int line) const;
+    /// A filter of columns, states or lines leaves lines of the source table out.
+    [[nodiscard]] bool linesAreFiltered() const;
+    /// "NAME: text" for each column of the source table that has a filter.
+    [[nodiscard]] QStringList columnFilters() const;
 
     /// Shows a mapping that changed behind the editor and that the handler has already: in place,
     /// or if it is the current project's and more than its lines changed, by opening the project

@@ -1,6 +1,7 @@
 #include "SessionFixture.h"
 
 #include <core/json/PJsonValue.h>
+#include <core/plugin/PTranslateManager.h>
 #include <geomcore/records/MappingFile.h>
 
 #include <QFile>
@@ -8,6 +9,9 @@
 SessionFixture::SessionFixture()
 {
     Q_ASSERT(m_folder.isValid());
+    // German plurals come from a catalog, too.
+    PTranslateManager::registerModule("velkworkbench");
+    PTranslateManager::instance().setLanguage(QStringLiteral("de"));
 }
 
 QString SessionFixture::write(const ReleaseMappingC &release) const

@@ -1,10 +1,7 @@
 #include "SessionFixture.h"
-#include "TableFixture.h"
 
 #include <workbench/session/BulkOperation.h>
 #include <workbench/session/MappingDocument.h>
-
-#include <geomcore/table/FilterByLineId.h>
 
 #include <QSignalSpy>
 #include <QTest>
@@ -65,7 +62,7 @@ private Q_SLOTS:
     void aRemovedLineKeepsItsPlaceInTheNotFoundTarget();
     void readOnly();
     void tenThousandLines();
-    void shownLines();
+    void resultsNameWhatWasLeftOut();
 
 private:
     void use(const PrjMappingC &mapping);
@@ -106,7 +103,12 @@ void tst_BulkOperation::actions_data()
     };
     row("confirm", {{1, 5, 0, {}, false}, {2, 6, 1, {}, false}}, confirm, "0:1>5/2 0:2>6/2", 2);
     row("confirm keeps the text", {{1, 5, 0, text, false}}, confirm, "0:1>5/2T", 1);
-    row("confirm without target line", {{1, -1, 1, {}, false}}, confirm, "0:1>-1/2", 1);
+    row("confirm leaves lines without target", {{1, -1, 1, {}, false}, {2, 6, 1, {}, false}},
+        confirm, "0:1>-1/1 0:2>6/2", 1);
+    row("expired", {{1, -1, 1, {}, false}, {2, 6, 1, {}, false}}, BulkOperation::ConfirmExpired,
+        "0:1>-1/2 0:2>6/1", 1);
+    row("expired leaves conflicts", {{1, -1, 0, {}, true}}, BulkOperation::ConfirmExpired,
+        "0:1>-1/0!", 0);
     row("confirm what is confirmed", {{1, 5, 2, {}, false}}, confirm, "0:1>5/2", 0);
     row("confirm leaves conflicts", {{1, 5, 0, {}, true}}, confirm, "0:1>5/0!", 0);
     row("remove", {{1, 5, 0, {}, false}, {2, 6, 2, {}, false}}, remove, "-:1>-1/1 -:2>-1/1", 2);
@@ -128,9 +130,8 @@ void tst_BulkOperation::actions()
     QFETCH(int, changed);
     use(SessionFixture::mapping(Path, before));
     const BulkOperation operation(*m_document, project(), {3, 2, 1, 1});
-    const BulkOperation::Preview preview = operation.preview(BulkOperation::Action(action));
-    QCOMPARE(preview.lines, changed);
-    QCOMPARE(operation.run(BulkOperation::Action(action)), changed);
+    QCOMPARE(operation.preview(BulkOperation::Action(action)).lines, changed);
+    QCOMPARE(operation.run(BulkOperation::Action(action)).lines, changed);
     QCOMPARE(entries(m_document->mapping(project())), after);
     QCOMPARE(m_document->canUndo(), changed > 0);
 }
@@ -144,9 +145,9 @@ void tst_BulkOperation::linesInSeveralTargets()
     mapping.addTarget(second);
     use(mapping);
     const BulkOperation operation(*m_document, project(), {1});
-    QCOMPARE(operation.run(BulkOperation::Confirm), 1);
+    QCOMPARE(operation.run(BulkOperation::Confirm).lines, 1);
     QCOMPARE(entries(m_document->mapping(project())), QStringLiteral("0:1>5/2 1:1>8/2"));
-    QCOMPARE(operation.run(BulkOperation::Remove), 1);
+    QCOMPARE(operation.run(BulkOperation::Remove).lines, 1);
     QCOMPARE(entries(m_document->mapping(project())), QStringLiteral("-:1>-1/1"));
     m_document->undo();
     m_document->undo();
@@ -157,12 +158,12 @@ void tst_BulkOperation::isOneStep()
 {
     use(SessionFixture::plainMapping(Path, 100));
     QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
-    QCOMPARE(BulkOperation(*m_document, project(), upTo(60)).run(BulkOperation::Confirm), 60);
+    QCOMPARE(BulkOperation(*m_document, project(), upTo(60)).run(BulkOperation::Confirm).lines, 60);
     QCOMPARE(m_document->undoTexts(),
              QStringList(QStringLiteral("60 Zeilen bestätigt in cat/a.prj")));
     QCOMPARE(done.size(), 1);
     QCOMPARE(done.first().at(1).toInt(), 60);
-    QCOMPARE(BulkOperation(*m_document, project(), upTo(70)).run(BulkOperation::Remove), 70);
+    QCOMPARE(BulkOperation(*m_document, project(), upTo(70)).run(BulkOperation::Remove).lines, 70);
     QCOMPARE(m_document->undoText(),
              QStringLiteral("Zuordnung von 70 Zeilen aufgehoben in cat/a.prj"));
     m_document->undo();
@@ -174,10 +175,10 @@ void tst_BulkOperation::isOneStep()
 void tst_BulkOperation::nothingToDoIsNoStep()
 {
     use(SessionFixture::plainMapping(Path, 5, 2));
-    QCOMPARE(BulkOperation(*m_document, project(), upTo(5)).run(BulkOperation::Confirm), 0);
-    QCOMPARE(BulkOperation(*m_document, project(), {}).run(BulkOperation::Remove), 0);
+    QCOMPARE(BulkOperation(*m_document, project(), upTo(5)).run(BulkOperation::Confirm).lines, 0);
+    QCOMPARE(BulkOperation(*m_document, project(), {}).run(BulkOperation::Remove).lines, 0);
     const ProjectId unknown{QStringLiteral("gone.prj"), {}, {}};
-    QCOMPARE(BulkOperation(*m_document, unknown, upTo(5)).run(BulkOperation::Remove), 0);
+    QCOMPARE(BulkOperation(*m_document, unknown, upTo(5)).run(BulkOperation::Remove).lines, 0);
     QVERIFY(!m_document->canUndo());
     QVERIFY(!m_document->isModified());
 }
@@ -204,7 +205,8 @@ void tst_BulkOperation::previewTexts_data()
         << QList<SampleLine>{{1, 5, 0, {}, false}} << int(BulkOperation::Confirm)
         << QStringLiteral("1 Zeile bestätigen?\n9 Zeilen sind in keinem Zielprojekt eingetragen.");
     QTest::newRow("confirm many") << many << int(BulkOperation::Confirm)
-                                  << QStringLiteral("3 Zeilen bestätigen?\n"
+                                  << QStringLiteral("1 Zeile bestätigen?\n"
+                                                    "2 Zeilen ohne Ziel bleiben unbestätigt.\n"
                                                     "2 Zeilen bleiben, wie sie sind.\n"
                                                     "1 Zeile mit Konflikt wird nicht geändert.\n"
                                                     "4 Zeilen sind in keinem Zielprojekt "
@@ -219,7 +221,7 @@ void tst_BulkOperation::previewTexts_data()
                                         "4 Zeilen sind in keinem Zielprojekt eingetragen.");
     QTest::newRow("remove and confirm many")
         << many << int(BulkOperation::RemoveAndConfirm)
-        << QStringLiteral("Zuordnung von 5 Zeilen aufheben und bestätigen?\n"
+        << QStringLiteral("Zuordnung von 5 Zeilen aufheben und als ausgelaufen bestätigen?\n"
                           "2 davon sind schon bestätigt.\n"
                           "2 davon verlieren ihre Wertebereichszuordnung.\n"
                           "1 Zeile mit Konflikt wird nicht geändert.\n"
@@ -237,9 +239,10 @@ void tst_BulkOperation::previewTexts()
     QFETCH(int, action);
     QFETCH(QString, text);
     use(SessionFixture::mapping(Path, lines));
-    QCOMPARE(
-        BulkOperation(*m_document, project(), upTo(10)).preview(BulkOperation::Action(action)).text,
-        text);
+    const BulkOperation operation(*m_document, project(), upTo(10));
+    QCOMPARE(BulkOperation::question(BulkOperation::Action(action),
+                                     operation.preview(BulkOperation::Action(action))),
+             text);
 }
 
 void tst_BulkOperation::aRemovedLineKeepsItsPlaceInTheNotFoundTarget()
@@ -250,7 +253,7 @@ void tst_BulkOperation::aRemovedLineKeepsItsPlaceInTheNotFoundTarget()
     notFound.addLineId(7, -1, PRJMAPPING::ToCheck, QString());
     mapping.addTarget(notFound);
     use(mapping);
-    BulkOperation(*m_document, project(), upTo(7)).run(BulkOperation::Remove);
+    (void)BulkOperation(*m_document, project(), upTo(7)).run(BulkOperation::Remove);
     QCOMPARE(entries(m_document->mapping(project())), QStringLiteral("-:1>-1/1 -:2>-1/1 -:7>-1/0"));
     QCOMPARE(m_document->mapping(project()).countTargets(), 2);
 }
@@ -260,14 +263,15 @@ void tst_BulkOperation::readOnly()
     use(SessionFixture::plainMapping(Path, 5));
     const QString file = m_document->mappingFile();
     m_document->open({file, {}, {}, MappingDocument::Access::ReadOnly, {}});
-    QCOMPARE(BulkOperation(*m_document, project(), upTo(5)).run(BulkOperation::Confirm), 0);
+    QCOMPARE(BulkOperation(*m_document, project(), upTo(5)).run(BulkOperation::Confirm).lines, 0);
     QCOMPARE(m_document->counts().verified(), 0);
 }
 
 void tst_BulkOperation::tenThousandLines()
 {
     use(SessionFixture::plainMapping(Path, 100000));
-    QCOMPARE(BulkOperation(*m_document, project(), upTo(10000)).run(BulkOperation::Confirm), 10000);
+    QCOMPARE(BulkOperation(*m_document, project(), upTo(10000)).run(BulkOperation::Confirm).lines,
+             10000);
     QCOMPARE(m_document->counts().verified(), 10000);
     m_document->undo();
     QCOMPARE(m_document->counts().verified(), 0);
@@ -275,16 +279,19 @@ void tst_BulkOperation::tenThousandLines()
     QCOMPARE(m_document->counts().verified(), 10000);
 }
 
-void tst_BulkOperation::shownLines()
+void tst_BulkOperation::resultsNameWhatWasLeftOut()
 {
-    const QString root = m_files->path(QString());
-    TableFixture::write(
-        root, QStringLiteral("t.prj"),
-        {{5, QStringLiteral("a")}, {3, QStringLiteral("b")}, {9, QStringLiteral("c")}});
-    VKTab::ContentRef table = TableFixture::read(root, QStringLiteral("t.prj"));
-    QCOMPARE(BulkOperation::shownLines(table), QList<int>({5, 3, 9}));
-    table.setFilter(VKTab::FilterByLineId({{9, {}}, {5, {}}}, true));
-    QCOMPARE(BulkOperation::shownLines(table), QList<int>({5, 9}));
+    use(SessionFixture::mapping(
+        Path,
+        {{1, 5, 0, {}, false}, {2, 6, 0, {}, false}, {3, -1, 1, {}, false}, {4, 7, 0, {}, true}}));
+    const BulkOperation operation(*m_document, project(), upTo(4));
+    QCOMPARE(BulkOperation::result(BulkOperation::Confirm, operation.run(BulkOperation::Confirm)),
+             QStringLiteral("2 Zeilen bestätigt. 1 Zeile ohne Ziel bleibt unbestätigt. 1 Zeile mit "
+                            "Konflikt wird nicht geändert."));
+    QCOMPARE(BulkOperation::result(BulkOperation::ConfirmExpired,
+                                   operation.run(BulkOperation::ConfirmExpired)),
+             QStringLiteral("1 Zeile als ausgelaufen bestätigt. 2 Zeilen bleiben, wie sie sind. 1 "
+                            "Zeile mit Konflikt wird nicht geändert."));
 }
 
 QTEST_GUILESS_MAIN(tst_BulkOperation)

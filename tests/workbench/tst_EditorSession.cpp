@@ -169,7 +169,7 @@ void tst_EditorSession::manyLinesAtOnceAreOneStep()
     key(Qt::Key_X, Qt::ControlModifier);
     QCoreApplication::processEvents();
     QCOMPARE(done.size(), 2);
-    QCOMPARE(m_document->undoText(), QStringLiteral("5 Zeilen als entfallen bestätigt in "
+    QCOMPARE(m_document->undoText(), QStringLiteral("5 Zeilen als ausgelaufen bestätigt in "
                                                     "standardparts/nuts/din985.prj"));
 }
 

@@ -428,7 +428,7 @@ void tst_MappingDocument::markingConflictsIsNoStep()
     change(marked(3)); // found by what it does
     m_document->updateWithoutStep([&] { m_document->updateMapping(marked(4)); });
     QCOMPARE(m_document->undoTexts(),
-             QStringList(QStringLiteral("1 Zeile bestätigt in cat/a.prj")));
+             QStringList(QStringLiteral("Zeile 1 → 1 bestätigt in cat/a.prj")));
     m_document->undo();
     const PrjMappingTargetC target = m_document->mapping(id(Path)).findTarget(0);
     QCOMPARE(m_document->conflictedProjects(), QList<ProjectId>{id(Path)});
@@ -580,9 +580,9 @@ void tst_MappingDocument::journalTellsWhatHappened()
     for (const JournalReader::Step &step : JournalReader::steps(session))
         told += step.origin + u'|' + step.text;
     QCOMPARE(told,
-             QStringList({QStringLiteral("edit|1 Zeile bestätigt in cat/a.prj"),
-                          QStringLiteral("undo|Rückgängig: 1 Zeile bestätigt in cat/a.prj"),
-                          QStringLiteral("redo|Wiederholt: 1 Zeile bestätigt in cat/a.prj")}));
+             QStringList({QStringLiteral("edit|Zeile 1 → 1 bestätigt in cat/a.prj"),
+                          QStringLiteral("undo|Rückgängig: Zeile 1 → 1 bestätigt in cat/a.prj"),
+                          QStringLiteral("redo|Wiederholt: Zeile 1 → 1 bestätigt in cat/a.prj")}));
     // The next session goes on in the same file.
     open();
     QVERIFY(reader.read(journal));

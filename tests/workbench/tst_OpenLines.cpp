@@ -45,9 +45,11 @@ private Q_SLOTS:
     void countsFollowChanges();
     void followsANewTree();
     void linesOfSeveralTargets();
+    void conflictsComeFirst();
+    void goesOnWhereItWas();
+    void staysWithinTheFilter();
     void projectsThatStandTwice();
     void largeTables();
-    void lineByNumber();
     void linesByText_data();
     void linesByText();
 
@@ -91,10 +93,10 @@ void tst_OpenLines::walksInTheOrderOfTheTree()
     LineRef at;
     for (int round = 0; round < 2; ++round) {
         for (const LineRef &expected : order) {
-            const LineRef next = lines.next(at);
-            QCOMPARE(next, expected);
-            QCOMPARE(lines.wraps(at, next, true), round == 1 && expected == order.first());
-            at = next;
+            const OpenLines::Found next = lines.next(at);
+            QCOMPARE(next.line, expected);
+            QCOMPARE(next.wrapped, round == 1 && expected == order.first());
+            at = next.line;
         }
     }
 }
@@ -105,10 +107,10 @@ void tst_OpenLines::walksBackwards()
     const OpenLines lines(m_document.get());
     LineRef at = ref(B, 12);
     for (const LineRef &expected : {ref(B, 3), ref(A, 7), ref(D, 2), ref(B, 12), ref(B, 3)}) {
-        const LineRef previous = lines.previous(at);
-        QCOMPARE(previous, expected);
-        QCOMPARE(lines.wraps(at, previous, false), expected == ref(A, 7));
-        at = previous;
+        const OpenLines::Found previous = lines.previous(at);
+        QCOMPARE(previous.line, expected);
+        QCOMPARE(previous.wrapped, expected == ref(A, 7));
+        at = previous.line;
     }
 }
 
@@ -116,40 +118,40 @@ void tst_OpenLines::startsWithoutAPlace()
 {
     use({open(A, {7}), open(B, {3, 12})});
     const OpenLines lines(m_document.get());
-    QCOMPARE(lines.next(LineRef()), ref(B, 3));
-    QCOMPARE(lines.previous(LineRef()), ref(A, 7));
-    QCOMPARE(lines.next({id(QString::fromLatin1(A)), -1}), ref(A, 7));
-    QCOMPARE(lines.previous({id(QString::fromLatin1(B)), -1}), ref(B, 12));
-    QCOMPARE(lines.next(ref("gone.prj", 5)), ref(B, 3));
+    QCOMPARE(lines.next(LineRef()).line, ref(B, 3));
+    QCOMPARE(lines.previous(LineRef()).line, ref(A, 7));
+    QCOMPARE(lines.next({id(QString::fromLatin1(A)), -1}).line, ref(A, 7));
+    QCOMPARE(lines.previous({id(QString::fromLatin1(B)), -1}).line, ref(B, 12));
+    QCOMPARE(lines.next(ref("gone.prj", 5)).line, ref(B, 3));
 }
 
 void tst_OpenLines::startsBesideOpenLines()
 {
     use({open(A, {7}), open(B, {3, 12})});
     const OpenLines lines(m_document.get());
-    QCOMPARE(lines.next(ref(B, 4)), ref(B, 12));
-    QCOMPARE(lines.next(ref(B, 500)), ref(A, 7));
-    QCOMPARE(lines.previous(ref(B, 11)), ref(B, 3));
-    QCOMPARE(lines.previous(ref(B, 3)), ref(A, 7));
+    QCOMPARE(lines.next(ref(B, 4)).line, ref(B, 12));
+    QCOMPARE(lines.next(ref(B, 500)).line, ref(A, 7));
+    QCOMPARE(lines.previous(ref(B, 11)).line, ref(B, 3));
+    QCOMPARE(lines.previous(ref(B, 3)).line, ref(A, 7));
 }
 
 void tst_OpenLines::aloneIsItsOwnNext()
 {
     use({open(A, {}), open(B, {3}), open(D, {})});
     const OpenLines lines(m_document.get());
-    QCOMPARE(lines.next(ref(B, 3)), ref(B, 3));
-    QCOMPARE(lines.previous(ref(B, 3)), ref(B, 3));
-    QVERIFY(lines.wraps(ref(B, 3), ref(B, 3), true));
+    QCOMPARE(lines.next(ref(B, 3)).line, ref(B, 3));
+    QCOMPARE(lines.previous(ref(B, 3)).line, ref(B, 3));
+    QVERIFY(lines.next(ref(B, 3)).wrapped);
 }
 
 void tst_OpenLines::nothingOpen()
 {
     const OpenLines closed(m_document.get());
-    QVERIFY(!closed.next(LineRef()).isValid());
+    QVERIFY(!closed.next(LineRef()).line.isValid());
     QCOMPARE(closed.count(), 0);
     use({open(A, {}), open(B, {})});
-    QVERIFY(!closed.next(ref(A, 1)).isValid());
-    QVERIFY(!closed.previous(ref(A, 1)).isValid());
+    QVERIFY(!closed.next(ref(A, 1)).line.isValid());
+    QVERIFY(!closed.previous(ref(A, 1)).line.isValid());
     QCOMPARE(closed.count(), 0);
     QCOMPARE(closed.projectCount(), 0);
 }
@@ -162,9 +164,10 @@ void tst_OpenLines::kinds_data()
     QTest::newRow("to check") << int(OpenLines::ToCheck) << QList<int>{1, 4};
     QTest::newRow("not found") << int(OpenLines::NotFound) << QList<int>{5, 6, 8};
     QTest::newRow("proposed") << int(OpenLines::Proposed) << QList<int>{2};
-    QTest::newRow("as it begins") << int(OpenLines::ToCheck | OpenLines::NotFound)
+    QTest::newRow("as it begins") << int(OpenLines::Conflict | OpenLines::ToCheck |
+                                         OpenLines::NotFound)
                                   << QList<int>{1, 4, 5, 6, 8};
-    QTest::newRow("all") << 7 << QList<int>{1, 2, 4, 5, 6, 8};
+    QTest::newRow("all") << 15 << QList<int>{1, 4, 5, 6, 8, 2};
     QTest::newRow("none") << 0 << QList<int>{};
 }
 
@@ -184,11 +187,11 @@ void tst_OpenLines::kinds()
     QCOMPARE(open.projectCount(), lines.isEmpty() ? 0 : 1);
     LineRef at;
     for (int line : lines) {
-        at = open.next(at);
+        at = open.next(at).line;
         QCOMPARE(at, ref(A, line));
     }
     for (auto line = lines.rbegin() + (lines.isEmpty() ? 0 : 1); line != lines.rend(); ++line) {
-        at = open.previous(at);
+        at = open.previous(at).line;
         QCOMPARE(at, ref(A, *line));
     }
 }
@@ -215,13 +218,13 @@ void tst_OpenLines::followsANewTree()
 {
     use({open(A, {7})});
     const OpenLines lines(m_document.get());
-    QCOMPARE(lines.next(LineRef()), ref(A, 7));
+    QCOMPARE(lines.next(LineRef()).line, ref(A, 7));
     ReleaseMappingC other = m_document->release();
     other.addMapping(open(D, {1}));
     m_document->replaceRelease(other, QString());
-    QCOMPARE(lines.next(LineRef()), ref(D, 1));
+    QCOMPARE(lines.next(LineRef()).line, ref(D, 1));
     m_document->undo();
-    QCOMPARE(lines.next(LineRef()), ref(A, 7));
+    QCOMPARE(lines.next(LineRef()).line, ref(A, 7));
 }
 
 void tst_OpenLines::linesOfSeveralTargets()
@@ -234,12 +237,108 @@ void tst_OpenLines::linesOfSeveralTargets()
     use({mapping});
     const OpenLines lines(m_document.get());
     QCOMPARE(lines.count(), 4);
-    QCOMPARE(lines.next(ref(A, 1)), ref(A, 4));
-    QCOMPARE(lines.next(ref(A, 4)), ref(A, 6));
-    QCOMPARE(lines.next(ref(A, 6)), ref(A, 9));
-    QCOMPARE(lines.next(ref(A, 9)), ref(A, 4));
-    QCOMPARE(lines.previous(ref(A, 9)), ref(A, 6));
-    QCOMPARE(lines.previous(ref(A, 4)), ref(A, 9));
+    // The line to check, then the two without target line, one of them in both lists.
+    OpenLines::Found at;
+    std::optional<OpenLines::Kind> among;
+    for (const int line : {4, 9, 6, 9, 4}) {
+        at = lines.next(at.line, OpenLines::Shown(), among);
+        QCOMPARE(at.line, ref(A, line));
+        among = at.kind;
+    }
+    QVERIFY(at.wrapped);
+    for (const int line : {9, 6, 9}) {
+        at = lines.previous(at.line, OpenLines::Shown(), among);
+        QCOMPARE(at.line, ref(A, line));
+        among = at.kind;
+    }
+}
+
+void tst_OpenLines::conflictsComeFirst()
+{
+    QList<SampleLine> lines;
+    for (int i = 1; i <= 6; ++i)
+        lines.append({i, i, 2, QString(), i == 2 || i == 5});
+    lines[2].state = 0;
+    const PrjMappingC conflicts = SessionFixture::mapping(QString::fromLatin1(D), lines);
+    use({open(A, {7}), conflicts, open(B, {3})});
+    const OpenLines open(m_document.get());
+    QCOMPARE(open.count(), 5);
+    QCOMPARE(open.countOf(OpenLines::Conflict), 2);
+    QCOMPARE(open.countOf(OpenLines::ToCheck), 3);
+    QCOMPARE(open.count(id(QString::fromLatin1(D))), 3);
+    // Though they are confirmed, and although the other project comes first.
+    OpenLines::Found at;
+    for (const LineRef &expected : {ref(D, 2), ref(D, 5), ref(B, 3), ref(D, 3), ref(A, 7)}) {
+        at = open.next(at.line);
+        QCOMPARE(at.line, expected);
+        QVERIFY(!at.wrapped);
+    }
+    at = open.next(at.line);
+    QCOMPARE(at.line, ref(D, 2));
+    QVERIFY(at.wrapped);
+    QCOMPARE(at.kind, OpenLines::Conflict);
+    QCOMPARE(open.placeOf(ref(D, 2), OpenLines::Conflict), 1);
+    QCOMPARE(open.placeOf(ref(D, 5), OpenLines::Conflict), 2);
+    QCOMPARE(open.placeOf(ref(A, 7), OpenLines::ToCheck), 3);
+    QCOMPARE(open.kindOf(ref(D, 2)), std::optional(OpenLines::Conflict));
+    QCOMPARE(open.kindOf(ref(D, 3)), std::optional(OpenLines::ToCheck));
+    QVERIFY(!open.kindOf(ref(D, 1)));
+}
+
+/// One that is settled is behind: not back to the conflicts before.
+void tst_OpenLines::goesOnWhereItWas()
+{
+    QList<SampleLine> lines;
+    for (int i = 1; i <= 6; ++i)
+        lines.append({i, i, i == 4 || i == 6 ? 0 : 2, QString(), i == 1});
+    use({SessionFixture::mapping(QString::fromLatin1(A), lines)});
+    const OpenLines open(m_document.get());
+    OpenLines::Found at = open.next(open.next({}).line);
+    QCOMPARE(at.line, ref(A, 4));
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(id(QString::fromLatin1(A))), {4}, 2));
+    m_document->finishStep();
+    QCOMPARE(open.next(at.line, OpenLines::Shown(), at.kind).line, ref(A, 6));
+    QCOMPARE(open.next(at.line).line, ref(A, 1));
+}
+
+void tst_OpenLines::staysWithinTheFilter()
+{
+    use({open(B, {1, 2}), open(D, {2, 5, 8, 9, 14}), open(A, {7})});
+    const OpenLines lines(m_document.get());
+    const QList<int> rows{14, 3, 5, 2};
+    OpenLines::Shown shown;
+    shown.project = id(QString::fromLatin1(D));
+    shown.rows = int(rows.size());
+    shown.isFiltered = true;
+    shown.lineAt = [&](int row) {
+        return rows.at(row);
+    };
+    shown.rowOf = [&](int line) {
+        return int(rows.indexOf(line));
+    };
+    QCOMPARE(lines.countIn(shown), 3);
+    OpenLines::Found at = lines.next({shown.project, -1}, shown);
+    QCOMPARE(at.line, ref(D, 14));
+    at = lines.next(at.line, shown);
+    QCOMPARE(at.line, ref(D, 5));
+    at = lines.next(at.line, shown);
+    QCOMPARE(at.line, ref(D, 2));
+    QVERIFY(!at.wrapped);
+    at = lines.next(at.line, shown);
+    QCOMPARE(at.line, ref(D, 14));
+    QVERIFY(at.wrapped);
+    QCOMPARE(lines.previous(ref(D, 5), shown).line, ref(D, 14));
+    QCOMPARE(lines.previous(ref(D, 14), shown).line, ref(D, 2));
+    // Nothing in the filter is nothing, whatever is elsewhere.
+    shown.rows = 0;
+    QVERIFY(!lines.next({shown.project, -1}, shown).line.isValid());
+    // Without a filter only the order of the rows counts.
+    shown.rows = int(rows.size());
+    shown.isFiltered = false;
+    QCOMPARE(lines.next(ref(D, 14), shown).line, ref(D, 5));
+    QCOMPARE(lines.next(ref(D, 2), shown).line, ref(A, 7));
+    QCOMPARE(lines.next(ref(B, 2), shown).line, ref(D, 14));
 }
 
 void tst_OpenLines::projectsThatStandTwice()
@@ -249,10 +348,10 @@ void tst_OpenLines::projectsThatStandTwice()
     second.setTabVersion(QStringLiteral("t2"));
     use({open(A, {7}), open(B, {3}), second});
     const OpenLines lines(m_document.get());
-    QCOMPARE(lines.next(LineRef()), ref(B, 3));
-    QCOMPARE(lines.next(ref(B, 3)), ref(A, 7));
-    QCOMPARE(lines.next(ref(A, 7)), ref(B, 3));
-    QCOMPARE(lines.previous(ref(B, 3)), ref(A, 7));
+    QCOMPARE(lines.next(LineRef()).line, ref(B, 3));
+    QCOMPARE(lines.next(ref(B, 3)).line, ref(A, 7));
+    QCOMPARE(lines.next(ref(A, 7)).line, ref(B, 3));
+    QCOMPARE(lines.previous(ref(B, 3)).line, ref(A, 7));
 }
 
 void tst_OpenLines::largeTables()
@@ -263,23 +362,14 @@ void tst_OpenLines::largeTables()
     const OpenLines lines(m_document.get());
     LineRef at;
     for (int line : wanted) {
-        at = lines.next(at);
+        at = lines.next(at).line;
         QCOMPARE(at.line, line);
     }
-    QCOMPARE(lines.next(at).line, 1);
+    QCOMPARE(lines.next(at).line.line, 1);
     for (qsizetype i = wanted.size() - 2; i >= 0; --i) {
-        at = lines.previous(at);
+        at = lines.previous(at).line;
         QCOMPARE(at.line, wanted[i]);
     }
-}
-
-void tst_OpenLines::lineByNumber()
-{
-    use({open(A, {7})});
-    const OpenLines lines(m_document.get());
-    QCOMPARE(lines.lineByNumber(id(QString::fromLatin1(A)), 20), ref(A, 20));
-    QVERIFY(!lines.lineByNumber(id(QString::fromLatin1(A)), 21).isValid());
-    QVERIFY(!lines.lineByNumber(id(QString::fromLatin1(B)), 1).isValid());
 }
 
 void tst_OpenLines::linesByText_data()

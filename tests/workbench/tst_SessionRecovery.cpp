@@ -242,7 +242,7 @@ void tst_SessionRecovery::bothVersionsAreOffered()
     QVERIFY(offer.recovered.time <= QDateTime::currentDateTimeUtc());
     QVERIFY(offer.saved.time.isValid());
     QCOMPARE(offer.steps, 2);
-    QCOMPARE(offer.lastStep, QStringLiteral("1 Zeile bestätigt in cat/a.prj"));
+    QCOMPARE(offer.lastStep, QStringLiteral("Zeile 5 → 5 bestätigt in cat/a.prj"));
     QCOMPARE(offer.changedLines, 4);
     QCOMPARE(offer.changedProjects, 1);
     QCOMPARE(offer.damage, QString());

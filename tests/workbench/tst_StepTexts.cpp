@@ -94,20 +94,40 @@ void tst_StepTexts::stepTexts_data()
         return SessionFixture::mapping(Path, list);
     };
     row("one confirmed", plain, SessionFixture::withState(plain, {2}, 2),
-        "1 Zeile bestätigt in cat/a.prj");
+        "Zeile 2 → 2 bestätigt in cat/a.prj");
     row("some confirmed", plain, SessionFixture::withState(plain, {1, 2, 4}, 2),
         "3 Zeilen bestätigt in cat/a.prj");
     row("expired", lines({{1, -1, 1, {}, false}}), lines({{1, -1, 2, {}, false}}),
-        "1 Zeile als entfallen bestätigt in cat/a.prj");
+        "Zeile 1 als ausgelaufen bestätigt in cat/a.prj");
     row("assigned", lines({{1, 5, 0, {}, false}}), lines({{1, 6, 1, {}, false}}),
-        "1 Zeile zugeordnet in cat/a.prj");
+        "Zeile 1 → 6 zugeordnet (vorher 5) in cat/a.prj");
+    row("one line confirmed", lines({{3, 5, 0, {}, false}}), lines({{3, 5, 2, {}, false}}),
+        "Zeile 3 → 5 bestätigt in cat/a.prj");
+    row("one confirmed elsewhere", lines({{3, 5, 0, {}, false}}), lines({{3, 7, 2, {}, false}}),
+        "Zeile 3 → 7 bestätigt (vorher 5) in cat/a.prj");
+    row("one expired", lines({{3, 5, 0, {}, false}}), lines({{3, -1, 2, {}, false}}),
+        "Zeile 3 als ausgelaufen bestätigt (vorher 5) in cat/a.prj");
+    row("one removed", lines({{3, 5, 0, {}, false}}), lines({{3, -1, 1, {}, false}}),
+        "Zuordnung von Zeile 3 aufgehoben (vorher 5) in cat/a.prj");
+    row("everything",
+        lines({{1, 5, 0, {}, false},
+               {2, 6, 0, {}, true},
+               {3, 7, 1, {}, false},
+               {4, -1, 1, {}, false}}),
+        lines({{1, 5, 2, {}, false},
+               {2, 6, 2, {}, false},
+               {3, 7, 2, {}, false},
+               {4, -1, 2, {}, false}}),
+        "3 Zeilen bestätigt, 1 Zeile als ausgelaufen bestätigt, 1 Konflikt angenommen in "
+        "cat/a.prj");
     row("text", lines({{1, 5, 0, {}, false}}),
         lines({{1, 5, 0, QStringLiteral("{L=1} -> 2"), false}}),
         "Wertebereichszuordnung von 1 Zeile geändert in cat/a.prj");
     row("conflict settled", lines({{1, 5, 0, {}, true}}), lines({{1, 5, 0, {}, false}}),
         "Konflikt von 1 Zeile gelöst in cat/a.prj");
     row("mixed", lines({{1, 5, 0, {}, false}, {2, 5, 0, {}, false}}),
-        lines({{1, 5, 2, {}, false}, {2, 6, 0, {}, false}}), "2 Zeilen geändert in cat/a.prj");
+        lines({{1, 5, 2, {}, false}, {2, 6, 0, {}, false}}),
+        "1 Zeile bestätigt, 1 Zeile zugeordnet in cat/a.prj");
 
     PrjMappingC removed = plain;
     PrjMappingTargetC first = removed.findTarget(0);
@@ -134,7 +154,7 @@ void tst_StepTexts::stepTexts_data()
             both.addTarget(realTarget(QStringLiteral("new/u.prj")));
             return both;
         }(),
-        "Zielprojekt hinzugefügt (1 Zeile bestätigt) in cat/a.prj");
+        "Zielprojekt hinzugefügt (Zeile 1 → 1 bestätigt) in cat/a.prj");
 
     PrjMappingC condition = plain;
     PrjMappingTargetC target = plain.findTarget(0);
@@ -217,6 +237,17 @@ void tst_StepTexts::notices_data()
     added.addTarget(realTarget(QStringLiteral("new/u.prj")));
     QTest::newRow("target added") << with({}, {}) << added << QList<int>{ChangeNotice::RemapDue}
                                   << QString();
+    PrjMappingC shared = with({}, {});
+    PrjMappingTargetC first = shared.findTarget(0);
+    first.addLineId(1, 2, PRJMAPPING::Mapped, QString());
+    shared.updateTarget(0, first);
+    QTest::newRow("target line shared by the program")
+        << with({}, {}) << shared << QList<int>{} << QString();
+    first.addLineId(1, 2, PRJMAPPING::Verified, QString());
+    shared.updateTarget(0, first);
+    QTest::newRow("target line shared")
+        << with({}, {}) << shared << QList<int>{ChangeNotice::TargetLineShared}
+        << QStringLiteral("Zeile 1 → 2 in cat/a.prj: die Zielzeile hat auch 1 andere Zeile: 2");
     QTest::newRow("lines only") << with({}, {}) << SessionFixture::withState(with({}, {}), {1}, 2)
                                 << QList<int>{} << QString();
 }
@@ -258,8 +289,9 @@ void tst_StepTexts::expiredLinesAreListed()
     const auto notice = raised.first().first().value<ChangeNotice>();
     QCOMPARE(notice.kind, ChangeNotice::ExpiredLost);
     QCOMPARE(notice.lines, QList<int>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
-    QCOMPARE(notice.text, QStringLiteral("12 Zeilen in cat/a.prj waren als entfallen bestätigt und "
-                                         "sind es nicht mehr: 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, ..."));
+    QCOMPARE(notice.text,
+             QStringLiteral("12 Zeilen in cat/a.prj waren als ausgelaufen bestätigt und "
+                            "sind es nicht mehr: 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, ..."));
 }
 
 void tst_StepTexts::asManyExpiredLinesAsBefore()
@@ -272,8 +304,8 @@ void tst_StepTexts::asManyExpiredLinesAsBefore()
     change(SessionFixture::mapping(Path, {{1, 5, 1, {}, false}, {2, 6, 1, {}, false}}));
     QCOMPARE(raised.size(), 1);
     QCOMPARE(raised.first().first().value<ChangeNotice>().text,
-             QStringLiteral("Zeile 2 in cat/a.prj war als entfallen bestätigt und ist es nicht "
-                            "mehr."));
+             QStringLiteral("1 Zeile in cat/a.prj war als ausgelaufen bestätigt und ist es nicht "
+                            "mehr: 2"));
 }
 
 void tst_StepTexts::stillIgnoredVariablesAreTold()

@@ -2,26 +2,13 @@
 
 #include "MappingDocument.h"
 
-#include <geomcore/table/Content.h>
 #include <release/decide/LineEdits.h>
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
 using VelkRelease::LineEdits;
 
 namespace {
-
-QString say(const char *text)
-{
-    return QCoreApplication::translate("BulkOperation", text);
-}
-
-QString say(const char *one, const char *many, int count)
-{
-    return count == 1 ? say(one) : say(many).arg(count);
-}
 
 QList<int> sorted(QList<int> lines)
 {
@@ -30,56 +17,23 @@ QList<int> sorted(QList<int> lines)
     return lines;
 }
 
-QString question(BulkOperation::Action action, int lines)
-{
-    switch (action) {
-    case BulkOperation::Confirm:
-        return say("1 Zeile bestätigen?", "%1 Zeilen bestätigen?", lines);
-    case BulkOperation::Remove:
-        return say("Zuordnung von 1 Zeile aufheben?", "Zuordnung von %1 Zeilen aufheben?", lines);
-    case BulkOperation::RemoveAndConfirm:
-        return say("Zuordnung von 1 Zeile aufheben und bestätigen?",
-                   "Zuordnung von %1 Zeilen aufheben und bestätigen?", lines);
-    }
-    return QString();
-}
-
-QString describe(BulkOperation::Action action, const BulkOperation::Preview &preview)
-{
-    QStringList parts{preview.lines > 0 ? question(action, preview.lines)
-                                        : say("Es ist nichts zu ändern.")};
-    if (preview.confirmed > 0)
-        parts += say("1 davon ist schon bestätigt.", "%1 davon sind schon bestätigt.",
-                     preview.confirmed);
-    if (preview.lostTexts > 0)
-        parts += say("1 davon verliert ihre Wertebereichszuordnung.",
-                     "%1 davon verlieren ihre Wertebereichszuordnung.", preview.lostTexts);
-    if (preview.unchanged > 0)
-        parts += say("1 Zeile bleibt, wie sie ist.", "%1 Zeilen bleiben, wie sie sind.",
-                     preview.unchanged);
-    if (preview.conflicts > 0)
-        parts += say("1 Zeile mit Konflikt wird nicht geändert.",
-                     "%1 Zeilen mit Konflikt werden nicht geändert.", preview.conflicts);
-    if (preview.unknown > 0)
-        parts += say("1 Zeile ist in keinem Zielprojekt eingetragen.",
-                     "%1 Zeilen sind in keinem Zielprojekt eingetragen.", preview.unknown);
-    return parts.join(u'\n');
-}
-
 /// False if the line is already as wanted.
 bool act(LineEdits &edits, int line, const LineEdits::Standing &standing,
          BulkOperation::Action action)
 {
-    if (action == BulkOperation::Confirm || !standing.assigned) {
-        if (standing.settled || action == BulkOperation::Remove)
-            return false;
-        edits.confirm(line);
+    const bool removes =
+        action == BulkOperation::Remove || action == BulkOperation::RemoveAndConfirm;
+    if (removes && standing.assigned) {
+        if (action == BulkOperation::Remove)
+            edits.remove(line);
+        else
+            edits.expire(line);
         return true;
     }
-    if (action == BulkOperation::Remove)
-        edits.remove(line);
-    else
-        edits.expire(line);
+    if (standing.settled || action == BulkOperation::Remove ||
+        (action == BulkOperation::ConfirmExpired && standing.assigned))
+        return false;
+    edits.confirm(line);
     return true;
 }
 
@@ -93,51 +47,103 @@ BulkOperation::BulkOperation(MappingDocument &document, const ProjectId &project
 {
 }
 
-BulkOperation::Preview BulkOperation::preview(Action action) const
+BulkOperation::Numbers BulkOperation::preview(Action action) const
 {
-    Preview result;
-    (void)apply(action, result);
-    result.text = describe(action, result);
-    return result;
+    Numbers numbers;
+    (void)apply(action, numbers);
+    return numbers;
 }
 
-int BulkOperation::run(Action action) const
+BulkOperation::Numbers BulkOperation::run(Action action) const
 {
-    Preview result;
-    const PrjMappingC changed = apply(action, result);
-    if (result.lines == 0 || m_document.isReadOnly())
-        return 0;
+    Numbers numbers;
+    const PrjMappingC changed = apply(action, numbers);
+    if (m_document.isReadOnly())
+        return Numbers();
+    if (numbers.lines == 0)
+        return numbers;
     m_document.beginStep();
     m_document.updateMapping(changed);
     m_document.endStep();
-    return result.lines;
+    return numbers;
 }
 
-PrjMappingC BulkOperation::apply(Action action, Preview &preview) const
+PrjMappingC BulkOperation::apply(Action action, Numbers &numbers) const
 {
     const PrjMappingC mapping = m_document.mapping(m_project);
     LineEdits edits(mapping);
     for (int line : m_lines) {
         const LineEdits::Standing standing = edits.standing(line);
         if (!standing.known) {
-            ++preview.unknown;
+            ++numbers.unknown;
         } else if (standing.conflicted) {
-            ++preview.conflicts;
+            ++numbers.conflicts;
+        } else if (action == Confirm && !standing.assigned && !standing.settled) {
+            ++numbers.withoutTarget;
         } else if (act(edits, line, standing, action)) {
-            ++preview.lines;
-            preview.confirmed += standing.verified ? 1 : 0;
-            preview.lostTexts += standing.hasText && action != Confirm ? 1 : 0;
+            ++numbers.lines;
+            numbers.confirmed += standing.verified ? 1 : 0;
+            numbers.lostTexts +=
+                standing.hasText && (action == Remove || action == RemoveAndConfirm) ? 1 : 0;
         } else {
-            ++preview.unchanged;
+            ++numbers.unchanged;
         }
     }
-    return preview.lines > 0 ? edits.mapping() : mapping;
+    return numbers.lines > 0 ? edits.mapping() : mapping;
 }
 
-QList<int> BulkOperation::shownLines(const VKTab::Content &table)
+QString BulkOperation::question(Action action, const Numbers &numbers)
 {
-    QList<int> lines;
-    for (const VKTab::LineId &id : table.getLineMapping().getOrdered())
-        lines += id.value(0);
-    return lines;
+    QStringList parts;
+    if (numbers.lines == 0)
+        parts += tr("Es ist nichts zu ändern.");
+    else if (action == Confirm)
+        parts += tr("%n Zeile(n) bestätigen?", nullptr, numbers.lines);
+    else if (action == ConfirmExpired)
+        parts += tr("%n Zeile(n) als ausgelaufen bestätigen?", nullptr, numbers.lines);
+    else if (action == Remove)
+        parts += tr("Zuordnung von %n Zeile(n) aufheben?", nullptr, numbers.lines);
+    else
+        parts += tr("Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?", nullptr,
+                    numbers.lines);
+    if (numbers.confirmed > 0)
+        parts += tr("%n davon ist/sind schon bestätigt.", nullptr, numbers.confirmed);
+    if (numbers.lostTexts > 0)
+        parts += tr("%n davon verliert/verlieren ihre Wertebereichszuordnung.", nullptr,
+                    numbers.lostTexts);
+    const QString left = leftOut(numbers);
+    return left.isEmpty() ? parts.join(u'\n') : parts.join(u'\n') + u'\n' + left;
+}
+
+QString BulkOperation::leftOut(const Numbers &numbers)
+{
+    QStringList parts;
+    if (numbers.withoutTarget > 0)
+        parts +=
+            tr("%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.", nullptr, numbers.withoutTarget);
+    if (numbers.unchanged > 0)
+        parts += tr("%n Zeile(n) bleibt/bleiben, wie sie ist/sind.", nullptr, numbers.unchanged);
+    if (numbers.conflicts > 0)
+        parts +=
+            tr("%n Zeile(n) mit Konflikt wird/werden nicht geändert.", nullptr, numbers.conflicts);
+    if (numbers.unknown > 0)
+        parts +=
+            tr("%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.", nullptr, numbers.unknown);
+    return parts.join(u'\n');
+}
+
+QString BulkOperation::result(Action action, const Numbers &numbers)
+{
+    QString text;
+    if (action == Confirm)
+        text = tr("%n Zeile(n) bestätigt.", nullptr, numbers.lines);
+    else if (action == ConfirmExpired)
+        text = tr("%n Zeile(n) als ausgelaufen bestätigt.", nullptr, numbers.lines);
+    else if (action == Remove)
+        text = tr("Zuordnung von %n Zeile(n) aufgehoben.", nullptr, numbers.lines);
+    else
+        text = tr("Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.", nullptr,
+                  numbers.lines);
+    const QString left = leftOut(numbers).replace(u'\n', u' ');
+    return left.isEmpty() ? text : text + u' ' + left;
 }

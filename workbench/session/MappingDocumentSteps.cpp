@@ -195,7 +195,7 @@ UndoStep MappingDocumentPrivate::takeStep(QList<ChangeNotice> &notices)
             break;
         const MappingDifference difference =
             MappingDifference::between(change.before, change.after);
-        notices += stepNotices(difference);
+        notices += stepNotices(difference, change.after);
         add(difference);
         if (!difference.isEmpty())
             step.changes.append(change);

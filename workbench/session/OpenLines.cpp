@@ -6,7 +6,7 @@
 #include <geomcore/table/Content.h>
 #include <mapping/data/CatalogMappingHandlerI.h>
 
-#include <algorithm>
+#include <array>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -16,32 +16,66 @@ namespace {
 constexpr qint64 BeforeAll = std::numeric_limits<qint64>::min();
 constexpr qint64 BehindAll = std::numeric_limits<qint64>::max();
 
-bool isOpen(const LineTable::Iterator &entry, OpenLines::Kinds kinds)
+constexpr std::array SearchOrder{OpenLines::Conflict, OpenLines::ToCheck, OpenLines::NotFound,
+                                 OpenLines::Proposed};
+
+std::optional<OpenLines::Kind> kindOfEntry(int targetLine, PRJMAPPING::CheckState state,
+                                           bool conflict)
 {
-    if (entry.targetLine() == -1)
-        return entry.state() != PRJMAPPING::Verified && kinds.testFlag(OpenLines::NotFound);
-    if (entry.state() == PRJMAPPING::Mapped)
-        return kinds.testFlag(OpenLines::Proposed);
-    return entry.state() != PRJMAPPING::Verified && kinds.testFlag(OpenLines::ToCheck);
+    if (conflict)
+        return OpenLines::Conflict;
+    if (state == PRJMAPPING::Verified)
+        return std::nullopt;
+    if (targetLine == -1)
+        return OpenLines::NotFound;
+    return state == PRJMAPPING::Mapped ? OpenLines::Proposed : OpenLines::ToCheck;
+}
+
+bool isOpen(const LineTable::Iterator &entry, OpenLines::Kind kind)
+{
+    return kindOfEntry(entry.targetLine(), entry.state(), entry.conflict()) == kind;
+}
+
+int countKind(const LineCounts &counts, OpenLines::Kind kind)
+{
+    switch (kind) {
+    case OpenLines::Conflict:
+        return counts.conflicts();
+    case OpenLines::ToCheck:
+        return counts.unverified() - counts.unverifiedConflicts();
+    case OpenLines::NotFound:
+        return counts.unmapped() - counts.unmappedConflicts();
+    case OpenLines::Proposed:
+        break;
+    }
+    return counts.assigned() - counts.assignedConflicts();
+}
+
+int countKinds(const LineCounts &counts, OpenLines::Kinds kinds)
+{
+    int sum = 0;
+    for (const OpenLines::Kind kind : SearchOrder)
+        sum += kinds.testFlag(kind) ? countKind(counts, kind) : 0;
+    return sum;
 }
 
 /// The first open line behind a line.
-std::optional<int> firstBehind(const LineTable &table, qint64 line, OpenLines::Kinds kinds)
+std::optional<int> firstBehind(const LineTable &table, qint64 line, OpenLines::Kind kind)
 {
     const qint64 from = line == BeforeAll ? line : line + 1;
     for (LineTable::Iterator at = table.lowerBound(from); at != table.end(); ++at) {
-        if (isOpen(*at, kinds))
+        if (isOpen(*at, kind))
             return at->sourceLine();
     }
     return std::nullopt;
 }
 
 /// The last open line before a line.
-std::optional<int> lastBefore(const LineTable &table, qint64 line, OpenLines::Kinds kinds)
+std::optional<int> lastBefore(const LineTable &table, qint64 line, OpenLines::Kind kind)
 {
     for (LineTable::Iterator at = table.lowerBound(line); at != table.begin();) {
         --at;
-        if (isOpen(*at, kinds))
+        if (isOpen(*at, kind))
             return at->sourceLine();
     }
     return std::nullopt;
@@ -86,21 +120,29 @@ void OpenLines::noteCount()
         Q_EMIT countChanged(now);
 }
 
-int OpenLines::countIn(const LineCounts &counts) const
-{
-    return (m_kinds.testFlag(ToCheck) ? counts.unverified() : 0) +
-           (m_kinds.testFlag(NotFound) ? counts.unmapped() : 0) +
-           (m_kinds.testFlag(Proposed) ? counts.assigned() : 0);
-}
-
 int OpenLines::count() const
 {
-    return countIn(m_document->counts());
+    return countKinds(m_document->counts(), m_kinds);
 }
 
 int OpenLines::count(const ProjectId &project) const
 {
-    return countIn(m_document->mapping(project).lineCounts());
+    return countKinds(m_document->mapping(project).lineCounts(), m_kinds);
+}
+
+int OpenLines::countOf(Kind kind) const
+{
+    return countKind(m_document->counts(), kind);
+}
+
+int OpenLines::countIn(const Shown &shown) const
+{
+    int lines = 0;
+    for (int row = 0; row < shown.rows; ++row) {
+        const std::optional<Kind> kind = kindOf({shown.project, shown.lineAt(row)});
+        lines += kind && m_kinds.testFlag(*kind) ? 1 : 0;
+    }
+    return lines;
 }
 
 int OpenLines::projectCount() const
@@ -108,8 +150,37 @@ int OpenLines::projectCount() const
     const ReleaseMappingC release = m_document->release();
     int result = 0;
     for (int i = 0; i < release.countMappings(); ++i)
-        result += countIn(release.mappingAt(i).lineCounts()) > 0 ? 1 : 0;
+        result += countKinds(release.mappingAt(i).lineCounts(), m_kinds) > 0 ? 1 : 0;
     return result;
+}
+
+int OpenLines::placeOf(const LineRef &line, Kind kind) const
+{
+    const int position = order().positionOf(line.project);
+    int place = 0;
+    for (int i = 0; i < position; ++i)
+        place += countKind(m_document->mapping(order().at(i)).lineCounts(), kind);
+    std::optional<int> at;
+    while ((at = lineIn(line.project, kind, at, true)) && *at <= line.line)
+        ++place;
+    return place;
+}
+
+std::optional<OpenLines::Kind> OpenLines::kindOf(const LineRef &line) const
+{
+    const PrjMappingC mapping = m_document->mapping(line.project);
+    std::optional<Kind> first;
+    for (int i = 0; i < mapping.countTargets(); ++i) {
+        const PrjMappingTargetC &target = mapping.targetAt(i);
+        if (!target.containsLine(line.line))
+            continue;
+        const PrjMappingTargetLineC entry = target.getMappedLine(line.line);
+        const std::optional<Kind> kind =
+            kindOfEntry(entry.getTargetLineId(), entry.getState(), entry.getConflict());
+        if (kind && (!first || *kind < *first))
+            first = kind;
+    }
+    return first;
 }
 
 const ProjectOrder &OpenLines::order() const
@@ -120,69 +191,115 @@ const ProjectOrder &OpenLines::order() const
     return *m_order;
 }
 
-LineRef OpenLines::next(const LineRef &from) const
+OpenLines::Found OpenLines::next(const LineRef &from, const Shown &shown,
+                                 std::optional<Kind> among) const
 {
-    return seek(from, true);
+    return seek(from, shown, among, true);
 }
 
-LineRef OpenLines::previous(const LineRef &from) const
+OpenLines::Found OpenLines::previous(const LineRef &from, const Shown &shown,
+                                     std::optional<Kind> among) const
 {
-    return seek(from, false);
+    return seek(from, shown, among, false);
 }
 
-/// Looks into the rest of the line's project, then into the others, at last into the project's
-/// beginning.
-LineRef OpenLines::seek(const LineRef &from, bool forward) const
+/// Behind a line of a kind: the rest of the kind, then the kinds that follow. From elsewhere: the
+/// first kind of which there are any.
+OpenLines::Found OpenLines::seek(const LineRef &from, const Shown &shown, std::optional<Kind> among,
+                                 bool forward) const
+{
+    QList<Kind> kinds;
+    for (const Kind kind : SearchOrder) {
+        if (m_kinds.testFlag(kind))
+            kinds += kind;
+    }
+    if (!among)
+        among = kindOf(from);
+    const qsizetype start = among ? kinds.indexOf(*among) : -1;
+    Found found;
+    if (start >= 0)
+        found = seekKind(kinds[start], from, shown, forward, false);
+    const qsizetype size = kinds.size();
+    for (qsizetype step = 1; step <= size && !found.line.isValid(); ++step) {
+        if (start < 0) {
+            found = seekKind(kinds[step - 1], from, shown, forward, true);
+            continue;
+        }
+        const qsizetype at = forward ? start + step : start - step;
+        found = seekKind(kinds[(at + size) % size], LineRef(), shown, forward, false);
+        found.wrapped = at < 0 || at >= size;
+    }
+    return found;
+}
+
+/// With \a round also what stands before the line, at last.
+OpenLines::Found OpenLines::seekKind(Kind kind, const LineRef &from, const Shown &shown,
+                                     bool forward, bool round) const
 {
     const int size = order().size();
-    const qint64 atFirst = forward ? BeforeAll : BehindAll;
-    const int position = order().positionOf(from.project);
-    const int start = position >= 0 ? position : (forward ? 0 : size - 1);
-    const bool inside = position >= 0 && from.line >= 0;
-    for (int step = 0; step <= size && size > 0; ++step) {
-        const int at = ((forward ? start + step : start - step) % size + size) % size;
-        LineRef found = lineAt(at, step == 0 && inside ? qint64(from.line) : atFirst, forward);
-        if (found.isValid())
-            return found;
+    if (countOf(kind) == 0 || size == 0)
+        return {};
+    const int shownAt = order().positionOf(shown.project);
+    const bool within = shown.isFiltered && shownAt >= 0;
+    const int place = order().positionOf(from.project);
+    const int start = within && place != shownAt ? shownAt
+                      : place >= 0               ? place
+                      : forward                  ? 0
+                                                 : size - 1;
+    for (int step = 0; step <= size; ++step) {
+        const int at = forward ? start + step : start - step;
+        const bool wrapped = at < 0 || at >= size || step == size;
+        const int position = ((at % size) + size) % size;
+        if (wrapped && !round)
+            break;
+        if (within && position != shownAt)
+            continue;
+        const bool inside = step == 0 && place == position && from.line >= 0;
+        const std::optional<int> behind = inside ? std::optional(from.line) : std::nullopt;
+        const std::optional<int> line = position == shownAt
+                                            ? shownLine(shown, kind, behind, forward)
+                                            : lineIn(order().at(position), kind, behind, forward);
+        if (line)
+            return {{ProjectId::of(m_document->mapping(order().at(position))), *line},
+                    kind,
+                    wrapped && place >= 0};
     }
-    return LineRef();
+    return {};
 }
 
-LineRef OpenLines::lineAt(int position, qint64 from, bool forward) const
+std::optional<int> OpenLines::lineIn(const ProjectId &project, Kind kind, std::optional<int> from,
+                                     bool forward) const
 {
-    const ProjectId &project = order().at(position);
     const PrjMappingC mapping = m_document->mapping(project);
+    const qint64 start = from ? qint64(*from) : forward ? BeforeAll : BehindAll;
     std::optional<int> best;
     for (int i = 0; i < mapping.countTargets(); ++i) {
         const PrjMappingTargetC &target = mapping.targetAt(i);
-        if (countIn(target.lineCounts()) == 0)
+        if (countKind(target.lineCounts(), kind) == 0)
             continue;
-        const std::optional<int> line = forward ? firstBehind(target.lines(), from, m_kinds)
-                                                : lastBefore(target.lines(), from, m_kinds);
+        const std::optional<int> line = forward ? firstBehind(target.lines(), start, kind)
+                                                : lastBefore(target.lines(), start, kind);
         if (line && (!best || (forward ? *line < *best : *line > *best)))
             best = line;
     }
-    return best ? LineRef{ProjectId::of(mapping), *best} : LineRef();
+    return best;
 }
 
-bool OpenLines::wraps(const LineRef &from, const LineRef &to, bool forward) const
+/// In the order of the rows; a line without a row stands before the first one.
+std::optional<int> OpenLines::shownLine(const Shown &shown, Kind kind, std::optional<int> from,
+                                        bool forward) const
 {
-    if (!from.isValid() || !to.isValid())
-        return false;
-    const auto place = [this](const LineRef &line) {
-        return std::pair(order().positionOf(line.project), line.line);
-    };
-    return forward ? place(to) <= place(from) : place(to) >= place(from);
-}
-
-LineRef OpenLines::lineByNumber(const ProjectId &project, int number) const
-{
-    const PrjMappingC mapping = m_document->mapping(project);
-    for (int i = 0; i < mapping.countTargets(); ++i) {
-        if (mapping.targetAt(i).containsLine(number))
-            return {ProjectId::of(mapping), number};
+    if (countKind(m_document->mapping(shown.project).lineCounts(), kind) == 0)
+        return std::nullopt;
+    const int row = from ? shown.rowOf(*from) : -1;
+    const int step = forward ? 1 : -1;
+    for (int at = forward ? row + 1 : (row < 0 ? shown.rows : row) - 1; at >= 0 && at < shown.rows;
+         at += step) {
+        const int line = shown.lineAt(at);
+        if (kindOf({shown.project, line}) == kind)
+            return line;
     }
-    return LineRef();
+    return std::nullopt;
 }
 
 QList<int> OpenLines::linesByText(const VKTab::Content &table, const QString &text)

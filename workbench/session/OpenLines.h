@@ -4,7 +4,9 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 class MappingDocument;
 class ProjectOrder;
@@ -12,21 +14,41 @@ namespace VKTab {
 class Content;
 }
 
-/// Finds the lines that still need a decision, project by project in the order of the tree, each
-/// project's lines in ascending order of their numbers, and from the end on from the beginning.
-/// An entry that several targets hold of one line counts for each.
+/// Finds the lines that still need a decision: first all that are in conflict, then those to check,
+/// then those without target line; each kind project by project in the order of the tree, and from
+/// the end on from the beginning. A project's lines come in ascending order of their numbers, those
+/// of the project that the user sees in the order and within the filter that he sees. An entry that
+/// several targets hold of one line counts for each.
 class OpenLines : public QObject
 {
     Q_OBJECT
 public:
+    /// An entry in conflict is of that kind only, whatever its state.
     enum Kind {
-        ToCheck = 1,  ///< has a target line that must be confirmed or corrected
-        NotFound = 2, ///< has no target line, and nobody confirmed that it has none
-        Proposed = 4, ///< assigned by the program, passed its check, not confirmed
+        Conflict = 1,
+        ToCheck = 2,  ///< has a target line that must be confirmed or corrected
+        NotFound = 4, ///< has no target line, and nobody confirmed that it has none
+        Proposed = 8, ///< assigned by the program, passed its check, not confirmed
     };
     Q_DECLARE_FLAGS(Kinds, Kind)
 
-    /// \a document must live as long. ToCheck and NotFound are sought at first.
+    /// The rows of the project that is on the screen.
+    struct Shown
+    {
+        ProjectId project; ///< not valid: none
+        int rows = 0;
+        bool isFiltered = false; ///< rows are left out: the search stays within
+        std::function<int(int row)> lineAt;
+        std::function<int(int line)> rowOf; ///< -1: no row
+    };
+    struct Found
+    {
+        LineRef line;         ///< not valid if there is none at all
+        Kind kind = Conflict; ///< if it is valid
+        bool wrapped = false; ///< the search had to begin anew
+    };
+
+    /// \a document must live as long. Conflict, ToCheck and NotFound are sought at first.
     explicit OpenLines(MappingDocument *document, QObject *parent = nullptr);
     ~OpenLines() override;
 
@@ -35,19 +57,28 @@ public:
     /// Of the whole release; costs nothing.
     [[nodiscard]] int count() const;
     [[nodiscard]] int count(const ProjectId &project) const;
+    /// The same of one kind, sought or not.
+    [[nodiscard]] int countOf(Kind kind) const;
+    /// Among the rows that are shown.
+    [[nodiscard]] int countIn(const Shown &shown) const;
     /// Projects that have any.
     [[nodiscard]] int projectCount() const;
+    /// The place of a line among all of a kind, from 1, in the order of the tree and of the lines'
+    /// numbers.
+    [[nodiscard]] int placeOf(const LineRef &line, Kind kind) const;
 
     /// The next one behind \a from, which need not be open nor exist; from the beginning if that is
-    /// not valid, and from the project's first line if only its line is not. Not valid if there is
-    /// none at all.
-    [[nodiscard]] LineRef next(const LineRef &from) const;
-    [[nodiscard]] LineRef previous(const LineRef &from) const;
-    /// Whether the search had to begin anew to get from one to the other.
-    [[nodiscard]] bool wraps(const LineRef &from, const LineRef &to, bool forward) const;
+    /// not valid, and from the project's first line if only its line is not. \a among is the kind
+    /// that the user is at; without it that of \a from, or the first of which there are any.
+    [[nodiscard]] Found next(const LineRef &from) const { return next(from, Shown()); }
+    [[nodiscard]] Found next(const LineRef &from, const Shown &shown,
+                             std::optional<Kind> among = {}) const;
+    [[nodiscard]] Found previous(const LineRef &from) const { return previous(from, Shown()); }
+    [[nodiscard]] Found previous(const LineRef &from, const Shown &shown,
+                                 std::optional<Kind> among = {}) const;
+    /// What needs a decision of that line, the first kind of several; nothing if nothing does.
+    [[nodiscard]] std::optional<Kind> kindOf(const LineRef &line) const;
 
-    /// The line with this number in the project's mapping; not valid if no target knows it.
-    [[nodiscard]] LineRef lineByNumber(const ProjectId &project, int number) const;
     /// Lines of a table that read so: the whole designation, else its beginning, else a part of it,
     /// without regard to case and repeated blanks. A number alone finds the line of this number
     /// first. In the table's order.
@@ -59,13 +90,18 @@ Q_SIGNALS:
 private:
     void noteCount();
     void dropOrder();
-    [[nodiscard]] int countIn(const LineCounts &counts) const;
     [[nodiscard]] const ProjectOrder &order() const;
-    [[nodiscard]] LineRef seek(const LineRef &from, bool forward) const;
-    [[nodiscard]] LineRef lineAt(int position, qint64 from, bool forward) const;
+    [[nodiscard]] Found seek(const LineRef &from, const Shown &shown, std::optional<Kind> among,
+                             bool forward) const;
+    [[nodiscard]] Found seekKind(Kind kind, const LineRef &from, const Shown &shown, bool forward,
+                                 bool round) const;
+    [[nodiscard]] std::optional<int> lineIn(const ProjectId &project, Kind kind,
+                                            std::optional<int> from, bool forward) const;
+    [[nodiscard]] std::optional<int> shownLine(const Shown &shown, Kind kind,
+                                               std::optional<int> from, bool forward) const;
 
     MappingDocument *const m_document;
-    Kinds m_kinds = Kinds(ToCheck | NotFound);
+    Kinds m_kinds = Kinds(Conflict | ToCheck | NotFound);
     int m_lastCount = 0;
     mutable std::unique_ptr<ProjectOrder> m_order; ///< null until it is needed
 };

@@ -63,6 +63,8 @@ struct ChangeNotice
         ConditionDropped, ///< a target has fewer conditions than before
         ModifierDropped,  ///< a target has fewer variable mappings than before
         IgnoredNotShrunk, ///< variable mappings changed and all ignored variables stayed ignored
+        TargetLineShared, ///< a line got a target line that another has already: `lines` lists
+                          ///< these
         RemapDue,         ///< what changed takes effect only after lines are assigned anew
     };
     Kind kind = ExpiredLost;

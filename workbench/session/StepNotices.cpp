@@ -1,16 +1,12 @@
 #include "StepNotices.h"
 
 #include <QCoreApplication>
+#include <QHash>
 
 #include <algorithm>
 #include <set>
 
 namespace {
-
-QString say(const char *text)
-{
-    return QCoreApplication::translate("StepNotices", text);
-}
 
 bool isExpired(const PrjMappingTargetLineC &line)
 {
@@ -29,11 +25,14 @@ QString numbers(const QList<int> &lines)
     return texts.join(QStringLiteral(", "));
 }
 
-class Collector
+class StepNotices
 {
+    Q_DECLARE_TR_FUNCTIONS(StepNotices)
+
 public:
-    explicit Collector(const MappingDifference &difference)
+    StepNotices(const MappingDifference &difference, const PrjMappingC &after)
         : m_difference(difference)
+        , m_after(after)
     {
     }
 
@@ -42,12 +41,14 @@ public:
         if (!m_difference.validBefore || !m_difference.validAfter)
             return {};
         noteExpired();
-        for (const MappingDifference::TargetPair &pair : m_difference.targets)
+        for (const MappingDifference::TargetPair &pair : m_difference.targets) {
             noteTarget(pair);
+            noteTaken(pair);
+        }
         if (m_remapDue)
             add(ChangeNotice::RemapDue,
-                say("Die Änderung in %1 wirkt erst, wenn die Zeilen erneut zugewiesen werden. "
-                    "Dabei bleibt nur erhalten, was bestätigt ist.")
+                tr("Die Änderung in %1 wirkt erst, wenn die Zeilen erneut zugewiesen werden. "
+                   "Dabei bleibt nur erhalten, was bestätigt ist.")
                     .arg(m_difference.project.path));
         return m_notices;
     }
@@ -77,11 +78,9 @@ private:
                             std::back_inserter(lost));
         const QString path = m_difference.project.path;
         add(ChangeNotice::ExpiredLost,
-            lost.size() == 1
-                ? say("Zeile %1 in %2 war als entfallen bestätigt und ist es nicht mehr.")
-                      .arg(numbers(lost), path)
-                : say("%1 Zeilen in %2 waren als entfallen bestätigt und sind es nicht mehr: %3")
-                      .arg(QString::number(lost.size()), path, numbers(lost)),
+            tr("%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2",
+               nullptr, int(lost.size()))
+                .arg(path, numbers(lost)),
             lost);
     }
 
@@ -96,8 +95,8 @@ private:
         const QString path = m_difference.project.path;
         if (!pair.stillIgnored.isEmpty())
             add(ChangeNotice::IgnoredNotShrunk,
-                say("In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, "
-                    "\"Formel...\" wählen oder die Zeile löschen und neu eingeben.")
+                tr("In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, "
+                   "\"Formel...\" wählen oder die Zeile löschen und neu eingeben.")
                     .arg(path, pair.stillIgnored.join(QStringLiteral(", "))));
         if (!pair.headDiffers)
             return;
@@ -105,24 +104,61 @@ private:
         const TargetHead &after = pair.headAfter;
         if (after.conditions.size() < before.conditions.size())
             add(ChangeNotice::ConditionDropped,
-                say("Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.")
+                tr("Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.")
                     .arg(after.path, path));
         if (after.modifiers.size() < before.modifiers.size())
             add(ChangeNotice::ModifierDropped,
-                say("Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.")
+                tr("Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.")
                     .arg(after.path, path));
         if (after.modifiers != before.modifiers && pair.lines.empty())
             m_remapDue = true;
     }
 
+    /// A target line that a line got in this step and that another line has already.
+    void noteTaken(const MappingDifference::TargetPair &pair)
+    {
+        if (pair.after < 0)
+            return;
+        QHash<int, int> taken; // target line, line that got it
+        for (const LineDifference &line : pair.lines) {
+            const bool decided = line.inAfter && line.after.getState() == PRJMAPPING::Verified;
+            const int target = decided ? line.after.getTargetLineId() : -1;
+            if (target != -1 && !(line.inBefore && line.before.getTargetLineId() == target))
+                taken.insert(target, line.line);
+        }
+        if (taken.isEmpty())
+            return;
+        QList<int> others;
+        for (const LineTable::Iterator &line : m_after.targetAt(pair.after).lines()) {
+            const auto at = taken.constFind(line.targetLine());
+            if (at == taken.cend() || *at == line.sourceLine())
+                continue;
+            others += line.sourceLine();
+        }
+        if (others.isEmpty())
+            return;
+        const QString path = m_difference.project.path;
+        const QString text =
+            taken.size() == 1
+                ? tr("Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4",
+                     nullptr, int(others.size()))
+                      .arg(QString::number(taken.begin().value()),
+                           QString::number(taken.begin().key()), path, numbers(others))
+                : tr("%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2",
+                     nullptr, int(others.size()))
+                      .arg(path, numbers(others));
+        add(ChangeNotice::TargetLineShared, text, others);
+    }
+
     const MappingDifference &m_difference;
+    const PrjMappingC &m_after;
     QList<ChangeNotice> m_notices;
     bool m_remapDue = false;
 };
 
 } // namespace
 
-QList<ChangeNotice> stepNotices(const MappingDifference &difference)
+QList<ChangeNotice> stepNotices(const MappingDifference &difference, const PrjMappingC &after)
 {
-    return Collector(difference).collect();
+    return StepNotices(difference, after).collect();
 }

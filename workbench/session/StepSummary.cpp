@@ -1,21 +1,9 @@
 #include "StepSummary.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <map>
 
 namespace {
-
-QString say(const char *text)
-{
-    return QCoreApplication::translate("StepSummary", text);
-}
-
-QString say(const char *one, const char *many, int count)
-{
-    return count == 1 ? say(one) : say(many).arg(count);
-}
 
 /// Joins what was noted of a line in several targets: what it was and what it is now, entries of
 /// targets with a target line first.
@@ -84,13 +72,21 @@ void StepSummary::addLines(const MappingDifference &difference)
                     join(at->second, line);
                 continue;
             }
-            ++m_byLine[kindOf(line)];
-            ++m_lines;
+            addLine(line);
         }
     }
     for (const auto &[number, line] : joined)
-        ++m_byLine[kindOf(line)];
-    m_lines += int(joined.size());
+        addLine(line);
+}
+
+void StepSummary::addLine(const LineDifference &line)
+{
+    ++m_byLine[kindOf(line)];
+    ++m_lines;
+    m_conflictsSettled +=
+        line.inBefore && line.inAfter && line.before.getConflict() && !line.after.getConflict() ? 1
+                                                                                                : 0;
+    m_last = line;
 }
 
 StepSummary::LineKind StepSummary::kindOf(const LineDifference &line)
@@ -114,47 +110,81 @@ StepSummary::LineKind StepSummary::kindOf(const LineDifference &line)
 
 QString StepSummary::linesText() const
 {
-    if (m_lines == 0)
-        return QString();
-    const auto is = [this](LineKind kind) {
-        return m_byLine[kind] == m_lines;
-    };
-    if (is(Confirmed))
-        return say("1 Zeile bestätigt", "%1 Zeilen bestätigt", m_lines);
-    if (is(Expired))
-        return say("1 Zeile als entfallen bestätigt", "%1 Zeilen als entfallen bestätigt", m_lines);
-    if (is(Assigned))
-        return say("1 Zeile zugeordnet", "%1 Zeilen zugeordnet", m_lines);
-    if (is(Removed))
-        return say("Zuordnung von 1 Zeile aufgehoben", "Zuordnung von %1 Zeilen aufgehoben",
-                   m_lines);
-    if (is(RangeText))
-        return say("Wertebereichszuordnung von 1 Zeile geändert",
-                   "Wertebereichszuordnung von %1 Zeilen geändert", m_lines);
-    if (is(ConflictSettled))
-        return say("Konflikt von 1 Zeile gelöst", "Konflikt von %1 Zeilen gelöst", m_lines);
-    return say("1 Zeile geändert", "%1 Zeilen geändert", m_lines);
+    if (m_lines == 1)
+        return oneLineText();
+    QStringList parts;
+    for (int kind = 0; kind < LineKinds; ++kind) {
+        const int lines = m_byLine[std::size_t(kind)];
+        if (lines > 0)
+            parts += linesText(LineKind(kind), lines);
+    }
+    const int more = m_conflictsSettled - m_byLine[ConflictSettled];
+    if (more > 0)
+        parts += tr("%n Konflikt(e) angenommen", nullptr, more);
+    return parts.join(QStringLiteral(", "));
+}
+
+QString StepSummary::linesText(LineKind kind, int lines)
+{
+    switch (kind) {
+    case Confirmed:
+        return tr("%n Zeile(n) bestätigt", nullptr, lines);
+    case Expired:
+        return tr("%n Zeile(n) als ausgelaufen bestätigt", nullptr, lines);
+    case Assigned:
+        return tr("%n Zeile(n) zugeordnet", nullptr, lines);
+    case Removed:
+        return tr("Zuordnung von %n Zeile(n) aufgehoben", nullptr, lines);
+    case RangeText:
+        return tr("Wertebereichszuordnung von %n Zeile(n) geändert", nullptr, lines);
+    case ConflictSettled:
+        return tr("Konflikt von %n Zeile(n) gelöst", nullptr, lines);
+    case OtherLine:
+    case LineKinds:
+        break;
+    }
+    return tr("%n Zeile(n) geändert", nullptr, lines);
+}
+
+QString StepSummary::oneLineText() const
+{
+    const QString line = QString::number(m_last.line);
+    const QString target = QString::number(m_last.after.getTargetLineId());
+    const bool hadTarget = m_last.inBefore && m_last.before.getTargetLineId() != -1;
+    const QString former = QString::number(m_last.before.getTargetLineId());
+    const LineKind kind = kindOf(m_last);
+    if (kind == Confirmed || kind == Assigned) {
+        const QString what = kind == Confirmed ? tr("Zeile %1 → %2 bestätigt").arg(line, target)
+                                               : tr("Zeile %1 → %2 zugeordnet").arg(line, target);
+        return hadTarget && former != target ? tr("%1 (vorher %2)").arg(what, former) : what;
+    }
+    if (kind == Expired)
+        return hadTarget ? tr("Zeile %1 als ausgelaufen bestätigt (vorher %2)").arg(line, former)
+                         : tr("Zeile %1 als ausgelaufen bestätigt").arg(line);
+    if (kind == Removed)
+        return tr("Zuordnung von Zeile %1 aufgehoben (vorher %2)").arg(line, former);
+    return linesText(kind, 1);
 }
 
 QString StepSummary::headText(HeadKind kind)
 {
     switch (kind) {
     case NewProject:
-        return say("Projekt hinzugefügt");
+        return tr("Projekt hinzugefügt");
     case ProjectRemoved:
-        return say("Projekt entfernt");
+        return tr("Projekt entfernt");
     case TargetAdded:
-        return say("Zielprojekt hinzugefügt");
+        return tr("Zielprojekt hinzugefügt");
     case TargetRemoved:
-        return say("Zielprojekt entfernt");
+        return tr("Zielprojekt entfernt");
     case Order:
-        return say("Reihenfolge der Zielprojekte geändert");
+        return tr("Reihenfolge der Zielprojekte geändert");
     case Conditions:
-        return say("Bedingungen geändert");
+        return tr("Bedingungen geändert");
     case Modifiers:
-        return say("Variablenzuordnung geändert");
+        return tr("Variablenzuordnung geändert");
     default:
-        return say("Versionen geändert");
+        return tr("Versionen geändert");
     }
 }
 
@@ -176,9 +206,10 @@ QString StepSummary::text() const
     const QString lines = linesText();
     QString what = head;
     if (head.isEmpty())
-        what = lines.isEmpty() ? say("Status geändert") : lines;
+        what = lines.isEmpty() ? tr("Status geändert") : lines;
     else if (!lines.isEmpty())
         what = QStringLiteral("%1 (%2)").arg(head, lines);
-    return m_projects.size() == 1 ? say("%1 in %2").arg(what, *m_projects.cbegin())
-                                  : say("%1 in %2 Projekten").arg(what).arg(m_projects.size());
+    if (m_projects.size() == 1)
+        return tr("%1 in %2").arg(what, *m_projects.cbegin());
+    return tr("%1 in %n Projekt(en)", nullptr, int(m_projects.size())).arg(what);
 }

@@ -7,14 +7,8 @@
 #include <geomcore/table/readProjectTable.h>
 
 #include <QCache>
-#include <QCoreApplication>
 
 namespace {
-
-QString say(const char *text)
-{
-    return QCoreApplication::translate("ValueRangeCheck", text);
-}
 
 class Checker
 {
@@ -60,7 +54,8 @@ private:
             PrjMappingTargetLineC(-1, PRJMAPPING::ToCheck, row).getVarsetList();
         if (parsed.isEmpty()) {
             add(ValueRangeCheck::NotParsed, line, number, row, -1,
-                say("%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form "
+                ValueRangeCheck::tr(
+                    "%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form "
                     "{NAME=WERT} -> Zeilennummer: \"%4\". Bitte berichtigen oder neu auflösen.")
                     .arg(m_project.path, QString::number(line), QString::number(number), row));
             return;
@@ -68,11 +63,10 @@ private:
         const int targetLine = parsed.first().second;
         if (m_target.isEmpty()) {
             add(ValueRangeCheck::NoTarget, line, number, row, targetLine,
-                say("%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat "
+                ValueRangeCheck::tr(
+                    "%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat "
                     "kein Zielprojekt. Bitte zuordnen oder den Text leeren.")
-                    .arg(m_project.path)
-                    .arg(line)
-                    .arg(targetLine));
+                    .arg(m_project.path, QString::number(line), QString::number(targetLine)));
             return;
         }
         const VKTab::ContentRef *content = tableOf(m_target);
@@ -80,7 +74,8 @@ private:
             tellMissing(line);
         } else if (!content->getLineInfo(VKTab::LineId(targetLine)).isValid()) {
             add(ValueRangeCheck::UnknownLine, line, number, row, targetLine,
-                say("%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht "
+                ValueRangeCheck::tr(
+                    "%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht "
                     "gibt. Bitte berichtigen oder neu auflösen.")
                     .arg(m_project.path, QString::number(line), QString::number(targetLine),
                          m_target));
@@ -93,7 +88,8 @@ private:
             return;
         m_toldMissing = true;
         add(ValueRangeCheck::TableMissing, line, 0, QString(), -1,
-            say("%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine "
+            ValueRangeCheck::tr(
+                "%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine "
                 "Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte "
                 "prüfen (%3).")
                 .arg(m_project.path, m_target, m_root));
@@ -133,7 +129,7 @@ ValueRangeCheck::Result ValueRangeCheck::run(const ReleaseMappingC &release,
     Result result;
     Checker checker(targetRoot, result);
     PProgress progress(0, release.countMappings(), 1.0, true, false);
-    progress.setText(say("Wertebereichszuordnungen werden geprüft"));
+    progress.setText(ValueRangeCheck::tr("Wertebereichszuordnungen werden geprüft"));
     for (int i = 0; i < release.countMappings(); ++i) {
         if (progress.isCanceled()) {
             result.cancelled = true;
@@ -148,10 +144,11 @@ ValueRangeCheck::Result ValueRangeCheck::run(const ReleaseMappingC &release,
 
 QString ValueRangeCheck::Result::summary() const
 {
-    const QString checked = texts == 1 ? say("1 Wertebereichszuordnung geprüft")
-                                       : say("%1 Wertebereichszuordnungen geprüft").arg(texts);
-    const QString found = findings.isEmpty()     ? say("keine Beanstandung")
-                          : findings.size() == 1 ? say("1 Beanstandung")
-                                                 : say("%1 Beanstandungen").arg(findings.size());
-    return (cancelled ? say("%1 (abgebrochen): %2.") : say("%1: %2.")).arg(checked, found);
+    const QString checked =
+        ValueRangeCheck::tr("%n Wertebereichszuordnung(en) geprüft", nullptr, texts);
+    const QString found = findings.isEmpty() ? ValueRangeCheck::tr("keine Beanstandung")
+                                             : ValueRangeCheck::tr("%n Beanstandung(en)", nullptr,
+                                                                   int(findings.size()));
+    return (cancelled ? ValueRangeCheck::tr("%1 (abgebrochen): %2.") : QStringLiteral("%1: %2."))
+        .arg(checked, found);
 }

@@ -2,6 +2,7 @@
 
 #include "SessionTypes.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 
@@ -11,6 +12,8 @@ class ReleaseMappingC;
 /// typed by hand or left over from a former table.
 class ValueRangeCheck
 {
+    Q_DECLARE_TR_FUNCTIONS(ValueRangeCheck)
+
 public:
     enum Kind {
         NotParsed,    ///< the row is not of the form `{NAME=VALUE} -> 17`

@@ -4,72 +4,106 @@
 <context>
     <name>BulkOperation</name>
     <message>
-        <source>%1 Zeilen bestätigen?</source>
-        <translation>Confirm %1 lines?</translation>
-    </message>
-    <message>
-        <source>%1 Zeilen bleiben, wie sie sind.</source>
-        <translation>%1 lines stay as they are.</translation>
-    </message>
-    <message>
-        <source>%1 Zeilen mit Konflikt werden nicht geändert.</source>
-        <translation>%1 lines in conflict are not changed.</translation>
-    </message>
-    <message>
-        <source>%1 Zeilen sind in keinem Zielprojekt eingetragen.</source>
-        <translation>%1 lines are in no target project.</translation>
-    </message>
-    <message>
-        <source>%1 davon sind schon bestätigt.</source>
-        <translation>%1 of them are confirmed already.</translation>
-    </message>
-    <message>
-        <source>%1 davon verlieren ihre Wertebereichszuordnung.</source>
-        <translation>%1 of them lose their value range assignments.</translation>
-    </message>
-    <message>
-        <source>1 Zeile bestätigen?</source>
-        <translation>Confirm 1 line?</translation>
-    </message>
-    <message>
-        <source>1 Zeile bleibt, wie sie ist.</source>
-        <translation>1 line stays as it is.</translation>
-    </message>
-    <message>
-        <source>1 Zeile ist in keinem Zielprojekt eingetragen.</source>
-        <translation>1 line is in no target project.</translation>
-    </message>
-    <message>
-        <source>1 Zeile mit Konflikt wird nicht geändert.</source>
-        <translation>1 line in conflict is not changed.</translation>
-    </message>
-    <message>
-        <source>1 davon ist schon bestätigt.</source>
-        <translation>1 of them is confirmed already.</translation>
-    </message>
-    <message>
-        <source>1 davon verliert ihre Wertebereichszuordnung.</source>
-        <translation>1 of them loses its value range assignment.</translation>
-    </message>
-    <message>
         <source>Es ist nichts zu ändern.</source>
         <translation>There is nothing to change.</translation>
     </message>
-    <message>
-        <source>Zuordnung von %1 Zeilen aufheben und bestätigen?</source>
-        <translation>Remove the assignments of %1 lines and confirm that?</translation>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigen?</source>
+        <translation>
+            <numerusform>Confirm %n line?</numerusform>
+            <numerusform>Confirm %n lines?</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>Zuordnung von %1 Zeilen aufheben?</source>
-        <translation>Remove the assignments of %1 lines?</translation>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Confirm that %n line has expired?</numerusform>
+            <numerusform>Confirm that %n lines have expired?</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>Zuordnung von 1 Zeile aufheben und bestätigen?</source>
-        <translation>Remove the assignment of 1 line and confirm that?</translation>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <translation>
+            <numerusform>Remove the assignment of %n line?</numerusform>
+            <numerusform>Remove the assignment of %n lines?</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>Zuordnung von 1 Zeile aufheben?</source>
-        <translation>Remove the assignment of 1 line?</translation>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Remove the assignment of %n line and confirm that it has expired?</numerusform>
+            <numerusform>Remove the assignment of %n lines and confirm that they have expired?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind schon bestätigt.</source>
+        <translation>
+            <numerusform>%n of them is confirmed already.</numerusform>
+            <numerusform>%n of them are confirmed already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <translation>
+            <numerusform>%n of them loses its value range assignment.</numerusform>
+            <numerusform>%n of them lose their value range assignments.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <translation>
+            <numerusform>%n line without a target stays unconfirmed.</numerusform>
+            <numerusform>%n lines without a target stay unconfirmed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <translation>
+            <numerusform>%n line stays as it is.</numerusform>
+            <numerusform>%n lines stay as they are.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <translation>
+            <numerusform>%n line in conflict is not changed.</numerusform>
+            <numerusform>%n lines in conflict are not changed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <translation>
+            <numerusform>%n line is in no target project.</numerusform>
+            <numerusform>%n lines are in no target project.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt.</source>
+        <translation>
+            <numerusform>%n line confirmed.</numerusform>
+            <numerusform>%n lines confirmed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>%n line confirmed to have expired.</numerusform>
+            <numerusform>%n lines confirmed to have expired.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <translation>
+            <numerusform>Assignment of %n line removed.</numerusform>
+            <numerusform>Assignment of %n lines removed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>Assignment of %n line removed, confirmed to have expired.</numerusform>
+            <numerusform>Assignment of %n lines removed, confirmed to have expired.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -320,7 +354,7 @@
     </message>
     <message>
         <source>Konflikt mit der Änderung eines anderen</source>
-        <translation>Conflict with somebody else's change</translation>
+        <translation>Conflict with somebody else&apos;s change</translation>
     </message>
     <message>
         <source>Legende</source>
@@ -374,24 +408,12 @@
         <translation>Go to line</translation>
     </message>
     <message>
-        <source>Gemeint sind alle gezeigten Zeilen des Projekts. Der Schritt kann zurückgenommen werden.</source>
-        <translation>This is about all lines of the project that are shown. The step can be undone.</translation>
-    </message>
-    <message>
-        <source>Gemeint sind die markierten Zeilen. Der Schritt kann zurückgenommen werden.</source>
-        <translation>This is about the selected lines. The step can be undone.</translation>
-    </message>
-    <message>
         <source>Keine Zeile braucht mehr eine Entscheidung</source>
         <translation>No line needs a decision any more</translation>
     </message>
     <message>
         <source>Keine Zeile mit „%1“ in diesem Projekt</source>
         <translation>No line with “%1” in this project</translation>
-    </message>
-    <message>
-        <source>Keine der Zeilen würde sich ändern</source>
-        <translation>None of the lines would change</translation>
     </message>
     <message>
         <source>Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen</source>
@@ -404,6 +426,37 @@
     <message>
         <source>Treffer %1 von %2</source>
         <translation>Hit %1 of %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <translation>
+            <numerusform>Done within this filter, %n more line is open outside.</numerusform>
+            <numerusform>Done within this filter, %n more lines are open outside.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Konflikt %1 von %2</source>
+        <translation>Conflict %1 of %2</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann zurückgenommen werden.</source>
+        <translation>The step can be undone.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die markierten Zeilen.</source>
+        <translation>The selected lines are meant.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind alle Zeilen des Projekts.</source>
+        <translation>All lines of the project are meant.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
+        <translation>The %1 lines shown of the project&apos;s %2 are meant.</translation>
+    </message>
+    <message>
+        <source>Filter: %1.</source>
+        <translation>Filter: %1.</translation>
     </message>
 </context>
 <context>
@@ -995,8 +1048,9 @@ Line: %2
         <translation>Everything decided</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href="next"&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <translation>Open: &lt;a href="next"&gt;%1 lines&lt;/a&gt; in %2 projects</translation>
+        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Open: &lt;a href=&quot;next&quot;&gt;%1 lines&lt;/a&gt; in %2 projects</translation>
     </message>
     <message>
         <source>Schreibgeschützt</source>
@@ -1029,10 +1083,6 @@ Line: %2
 <context>
     <name>StepNotices</name>
     <message>
-        <source>%1 Zeilen in %2 waren als entfallen bestätigt und sind es nicht mehr: %3</source>
-        <translation>%1 lines in %2 were confirmed as expired and are so no more: %3</translation>
-    </message>
-    <message>
         <source>Die Änderung in %1 wirkt erst, wenn die Zeilen erneut zugewiesen werden. Dabei bleibt nur erhalten, was bestätigt ist.</source>
         <translation>The change in %1 takes effect only when the lines are assigned again. Only what is confirmed survives that.</translation>
     </message>
@@ -1045,67 +1095,40 @@ Line: %2
         <translation>A variable mapping of the target project %1 in %2 was dropped.</translation>
     </message>
     <message>
-        <source>In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, "Formel..." wählen oder die Zeile löschen und neu eingeben.</source>
-        <translation>Variables stay ignored in %1: %2. To map one of them again, choose "Formula..." or delete the row and enter it anew.</translation>
+        <source>In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, &quot;Formel...&quot; wählen oder die Zeile löschen und neu eingeben.</source>
+        <translation>Variables stay ignored in %1: %2. To map one of them again, choose &quot;Formula...&quot; or delete the row and enter it anew.</translation>
     </message>
-    <message>
-        <source>Zeile %1 in %2 war als entfallen bestätigt und ist es nicht mehr.</source>
-        <translation>Line %1 in %2 was confirmed as expired and is so no more.</translation>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <translation>
+            <numerusform>%n line in %1 was confirmed to have expired and is not any more: %2</numerusform>
+            <numerusform>%n lines in %1 were confirmed to have expired and are not any more: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <translation>
+            <numerusform>Line %1 → %2 in %3: %n other line has this target line, too: %4</numerusform>
+            <numerusform>Line %1 → %2 in %3: %n other lines have this target line, too: %4</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <translation>
+            <numerusform>%n line in %1 shares its target line with newly assigned ones: %2</numerusform>
+            <numerusform>%n lines in %1 share their target line with newly assigned ones: %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message>
-        <source>%1 Zeilen als entfallen bestätigt</source>
-        <translation>%1 lines confirmed as expired</translation>
-    </message>
-    <message>
-        <source>%1 Zeilen bestätigt</source>
-        <translation>%1 lines confirmed</translation>
-    </message>
-    <message>
-        <source>%1 Zeilen geändert</source>
-        <translation>%1 lines changed</translation>
-    </message>
-    <message>
-        <source>%1 Zeilen zugeordnet</source>
-        <translation>%1 lines assigned</translation>
-    </message>
-    <message>
         <source>%1 in %2</source>
         <translation>%1 in %2</translation>
     </message>
     <message>
-        <source>%1 in %2 Projekten</source>
-        <translation>%1 in %2 projects</translation>
-    </message>
-    <message>
-        <source>1 Zeile als entfallen bestätigt</source>
-        <translation>1 line confirmed as expired</translation>
-    </message>
-    <message>
-        <source>1 Zeile bestätigt</source>
-        <translation>1 line confirmed</translation>
-    </message>
-    <message>
-        <source>1 Zeile geändert</source>
-        <translation>1 line changed</translation>
-    </message>
-    <message>
-        <source>1 Zeile zugeordnet</source>
-        <translation>1 line assigned</translation>
-    </message>
-    <message>
         <source>Bedingungen geändert</source>
         <translation>Conditions changed</translation>
-    </message>
-    <message>
-        <source>Konflikt von %1 Zeilen gelöst</source>
-        <translation>Conflicts of %1 lines settled</translation>
-    </message>
-    <message>
-        <source>Konflikt von 1 Zeile gelöst</source>
-        <translation>Conflict of 1 line settled</translation>
     </message>
     <message>
         <source>Projekt entfernt</source>
@@ -1132,14 +1155,6 @@ Line: %2
         <translation>Versions changed</translation>
     </message>
     <message>
-        <source>Wertebereichszuordnung von %1 Zeilen geändert</source>
-        <translation>Value range assignments of %1 lines changed</translation>
-    </message>
-    <message>
-        <source>Wertebereichszuordnung von 1 Zeile geändert</source>
-        <translation>Value range assignment of 1 line changed</translation>
-    </message>
-    <message>
         <source>Zielprojekt entfernt</source>
         <translation>Target project removed</translation>
     </message>
@@ -1147,13 +1162,92 @@ Line: %2
         <source>Zielprojekt hinzugefügt</source>
         <translation>Target project added</translation>
     </message>
-    <message>
-        <source>Zuordnung von %1 Zeilen aufgehoben</source>
-        <translation>Assignments of %1 lines removed</translation>
+    <message numerus="yes">
+        <source>%n Konflikt(e) angenommen</source>
+        <translation>
+            <numerusform>%n conflict accepted</numerusform>
+            <numerusform>%n conflicts accepted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>%n line confirmed</numerusform>
+            <numerusform>%n lines confirmed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n line confirmed to have expired</numerusform>
+            <numerusform>%n lines confirmed to have expired</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) zugeordnet</source>
+        <translation>
+            <numerusform>%n line assigned</numerusform>
+            <numerusform>%n lines assigned</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <translation>
+            <numerusform>assignment of %n line removed</numerusform>
+            <numerusform>assignment of %n lines removed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>value range assignment of %n line changed</numerusform>
+            <numerusform>value range assignment of %n lines changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <translation>
+            <numerusform>conflict of %n line settled</numerusform>
+            <numerusform>conflict of %n lines settled</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>%n line changed</numerusform>
+            <numerusform>%n lines changed</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Zuordnung von 1 Zeile aufgehoben</source>
-        <translation>Assignment of 1 line removed</translation>
+        <source>Zeile %1 → %2 bestätigt</source>
+        <translation>line %1 → %2 confirmed</translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 zugeordnet</source>
+        <translation>line %1 → %2 assigned</translation>
+    </message>
+    <message>
+        <source>%1 (vorher %2)</source>
+        <translation>%1 (was %2)</translation>
+    </message>
+    <message>
+        <source>Zeile %1 als ausgelaufen bestätigt (vorher %2)</source>
+        <translation>line %1 confirmed to have expired (was %2)</translation>
+    </message>
+    <message>
+        <source>Zeile %1 als ausgelaufen bestätigt</source>
+        <translation>line %1 confirmed to have expired</translation>
+    </message>
+    <message>
+        <source>Zuordnung von Zeile %1 aufgehoben (vorher %2)</source>
+        <translation>assignment of line %1 removed (was %2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 in %n project</numerusform>
+            <numerusform>%1 in %n projects</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1182,14 +1276,6 @@ Line: %2
         <translation>%1 (cancelled): %2.</translation>
     </message>
     <message>
-        <source>%1 Beanstandungen</source>
-        <translation>%1 findings</translation>
-    </message>
-    <message>
-        <source>%1 Wertebereichszuordnungen geprüft</source>
-        <translation>%1 value range assignments checked</translation>
-    </message>
-    <message>
         <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat kein Zielprojekt. Bitte zuordnen oder den Text leeren.</source>
         <translation>%1, line %2: the value range assignment names line %3, but the line has no target project. Please assign it or clear the text.</translation>
     </message>
@@ -1198,24 +1284,12 @@ Line: %2
         <translation>%1, line %2: the value range assignment names line %3, which %4 does not have. Please correct it or resolve it anew.</translation>
     </message>
     <message>
-        <source>%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form {NAME=WERT} -&gt; Zeilennummer: "%4". Bitte berichtigen oder neu auflösen.</source>
-        <translation>%1, line %2: row %3 of the value range assignment is not of the form {NAME=VALUE} -&gt; line number: "%4". Please correct it or resolve it anew.</translation>
-    </message>
-    <message>
-        <source>%1: %2.</source>
-        <translation>%1: %2.</translation>
+        <source>%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form {NAME=WERT} -&gt; Zeilennummer: &quot;%4&quot;. Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, line %2: row %3 of the value range assignment is not of the form {NAME=VALUE} -&gt; line number: &quot;%4&quot;. Please correct it or resolve it anew.</translation>
     </message>
     <message>
         <source>%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte prüfen (%3).</source>
         <translation>%1: the table of the target project %2 cannot be read, its value range assignments are unchecked. Please check the directory of the target projects (%3).</translation>
-    </message>
-    <message>
-        <source>1 Beanstandung</source>
-        <translation>1 finding</translation>
-    </message>
-    <message>
-        <source>1 Wertebereichszuordnung geprüft</source>
-        <translation>1 value range assignment checked</translation>
     </message>
     <message>
         <source>Wertebereichszuordnungen werden geprüft</source>
@@ -1224,6 +1298,20 @@ Line: %2
     <message>
         <source>keine Beanstandung</source>
         <translation>no finding</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <translation>
+            <numerusform>%n value range assignment checked</numerusform>
+            <numerusform>%n value range assignments checked</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Beanstandung(en)</source>
+        <translation>
+            <numerusform>%n finding</numerusform>
+            <numerusform>%n findings</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1310,10 +1398,6 @@ Line: %2
     <message>
         <source>Beendet das Programm</source>
         <translation>Ends the program</translation>
-    </message>
-    <message>
-        <source>Bestätigt die markierten oder alle gezeigten Zeilen in einem Schritt</source>
-        <translation>Confirms the selected lines, or all that are shown, in one step</translation>
     </message>
     <message>
         <source>Die markierten oder alle gezeigten Zeilen sind ausgelaufen: hebt auf und bestätigt in einem Schritt</source>
@@ -1418,6 +1502,18 @@ Line: %2
     <message>
         <source>Über &amp;dieses Programm</source>
         <translation>&amp;About this program</translation>
+    </message>
+    <message>
+        <source>Bestätigt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt</source>
+        <translation>Confirms the assignment of the selected lines, or all shown, in one step</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Ziel als aus&amp;gelaufen bestätigen...</source>
+        <translation>Confirm Lines without Target as E&amp;xpired...</translation>
+    </message>
+    <message>
+        <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>
+        <translation>Confirms that those of the selected lines, or all shown, that have no target have expired</translation>
     </message>
 </context>
 </TS>

@@ -150,6 +150,33 @@ bool EditorArea::goTo(const LineRef &ref)
     return true;
 }
 
+OpenLines::Shown EditorArea::shown() const
+{
+    OpenLines::Shown rows;
+    if (!sourceTable().isValid())
+        return rows;
+    rows.project = currentProject();
+    rows.rows = m_editor->shownLineCount();
+    rows.isFiltered = m_editor->linesAreFiltered();
+    rows.lineAt = [editor = m_editor](int row) {
+        return editor->shownLine(row);
+    };
+    rows.rowOf = [editor = m_editor](int line) {
+        return editor->rowOfLine(line);
+    };
+    return rows;
+}
+
+QList<int> EditorArea::shownLines() const
+{
+    const OpenLines::Shown rows = shown();
+    QList<int> lines;
+    lines.reserve(rows.rows);
+    for (int row = 0; row < rows.rows; ++row)
+        lines += rows.lineAt(row);
+    return lines;
+}
+
 QByteArray EditorArea::saveState() const
 {
     return m_editor ? m_editor->saveState() : m_state;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <geomcore/table/ContentRef.h>
-#include <workbench/session/SessionTypes.h>
+#include <workbench/session/OpenLines.h>
 
 #include <QPointer>
 #include <QWidget>
@@ -51,6 +51,9 @@ public:
     /// Selects project and line, and the keys go to the line's table. False if there is no such
     /// line.
     bool goTo(const LineRef &ref);
+    /// The rows of the project that is shown, as the user sees them. Good until these change.
+    [[nodiscard]] OpenLines::Shown shown() const;
+    [[nodiscard]] QList<int> shownLines() const;
     /// Not valid if no project is open or it cannot be read.
     [[nodiscard]] VKTab::ContentRef sourceTable() const;
 

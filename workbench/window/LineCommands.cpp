@@ -3,6 +3,7 @@
 #include "EditorArea.h"
 #include "Question.h"
 
+#include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <QInputDialog>
@@ -36,21 +37,57 @@ void LineCommands::goPrevious()
 
 void LineCommands::go(bool forward)
 {
-    const LineRef from = here();
-    LineRef to = forward ? m_open.next(from) : m_open.previous(from);
+    OpenLines::Found to = seek(forward, here());
     // A line that its table lacks cannot be shown; each is tried once.
-    for (int tries = m_open.count(); to.isValid() && tries > 0; --tries) {
-        if (m_editor->goTo(to)) {
-            if (m_open.wraps(from, to, forward))
-                Q_EMIT noted(forward ? tr("Am Ende angekommen, weiter von vorn")
-                                     : tr("Am Anfang angekommen, weiter von hinten"));
+    bool wrapped = to.wrapped;
+    for (int tries = m_open.count(); to.line.isValid() && tries > 0; --tries) {
+        if (m_editor->goTo(to.line)) {
+            to.wrapped = wrapped;
+            Q_EMIT noted(goneText(to, forward));
+            m_last = to;
             return;
         }
-        to = forward ? m_open.next(to) : m_open.previous(to);
+        to = forward ? m_open.next(to.line, m_editor->shown(), to.kind)
+                     : m_open.previous(to.line, m_editor->shown(), to.kind);
+        wrapped = wrapped || to.wrapped;
     }
-    Q_EMIT noted(m_open.count() == 0
-                     ? tr("Keine Zeile braucht mehr eine Entscheidung")
-                     : tr("Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen"));
+    Q_EMIT noted(nothingText());
+}
+
+/// The walk goes on in its kind as long as the user stays at its line, settled or not.
+OpenLines::Found LineCommands::seek(bool forward, const LineRef &from) const
+{
+    const std::optional<OpenLines::Kind> among =
+        from == m_last.line ? std::optional(m_last.kind) : std::nullopt;
+    return forward ? m_open.next(from, m_editor->shown(), among)
+                   : m_open.previous(from, m_editor->shown(), among);
+}
+
+QString LineCommands::goneText(const OpenLines::Found &found, bool forward) const
+{
+    QStringList parts;
+    const OpenLines::Shown shown = m_editor->shown();
+    if (found.wrapped && shown.isFiltered)
+        parts += tr("Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.",
+                    nullptr, m_open.count() - m_open.countIn(shown));
+    if (found.wrapped)
+        parts += forward ? tr("Am Ende angekommen, weiter von vorn")
+                         : tr("Am Anfang angekommen, weiter von hinten");
+    if (found.kind == OpenLines::Conflict)
+        parts += tr("Konflikt %1 von %2")
+                     .arg(m_open.placeOf(found.line, OpenLines::Conflict))
+                     .arg(m_open.countOf(OpenLines::Conflict));
+    return parts.join(QStringLiteral(" · "));
+}
+
+QString LineCommands::nothingText() const
+{
+    if (m_open.count() == 0)
+        return tr("Keine Zeile braucht mehr eine Entscheidung");
+    if (m_editor->shown().isFiltered)
+        return tr("Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.",
+                  nullptr, m_open.count() - m_open.countIn(m_editor->shown()));
+    return tr("Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen");
 }
 
 void LineCommands::jumpByDialog()
@@ -90,29 +127,49 @@ bool LineCommands::jumpTo(const QString &text)
 
 void LineCommands::runOnMany(BulkOperation::Action action)
 {
-    const VKTab::ContentRef table = m_editor->sourceTable();
-    if (!table.isValid()) {
+    if (!m_editor->sourceTable().isValid()) {
         Q_EMIT noted(tr("Es ist kein Projekt gewählt"));
         return;
     }
     QList<int> lines = m_editor->selectedLines();
     const bool selection = lines.size() > 1;
+    const bool nothingSelected = lines.isEmpty();
     if (!selection)
-        lines = BulkOperation::shownLines(table);
+        lines = m_editor->shownLines();
     const BulkOperation operation(*m_document, m_editor->currentProject(), lines);
-    const BulkOperation::Preview preview = operation.preview(action);
-    if (preview.lines == 0) {
-        Q_EMIT noted(tr("Keine der Zeilen würde sich ändern"));
+    const BulkOperation::Numbers numbers = operation.preview(action);
+    if (numbers.lines == 0) {
+        Q_EMIT noted(BulkOperation::question(action, numbers).replace(u'\n', u' '));
         return;
     }
     Question question(m_window);
-    question.setText(preview.text);
-    question.setDetails(selection ? tr("Gemeint sind die markierten Zeilen. Der Schritt kann "
-                                       "zurückgenommen werden.")
-                                  : tr("Gemeint sind alle gezeigten Zeilen des Projekts. Der "
-                                       "Schritt kann zurückgenommen werden."));
+    question.setText(BulkOperation::question(action, numbers));
+    question.setDetails(scopeText(selection));
+    // Who has chosen nothing may not know that everything is meant.
+    if (nothingSelected)
+        question.addAnswer(Question::Cancel, Question::cancelText());
     question.addAnswer(Question::Accept, tr("&Ausführen"));
-    question.addAnswer(Question::Cancel, Question::cancelText());
+    if (!nothingSelected)
+        question.addAnswer(Question::Cancel, Question::cancelText());
     if (question.ask() == Question::Accept)
-        operation.run(action);
+        Q_EMIT done(BulkOperation::result(action, operation.run(action)));
+}
+
+/// Which lines are meant, by which filter.
+QString LineCommands::scopeText(bool selection) const
+{
+    const QString undo = tr("Der Schritt kann zurückgenommen werden.");
+    if (selection)
+        return tr("Gemeint sind die markierten Zeilen.") + u' ' + undo;
+    const CatalogMappingWidget *const editor = m_editor->editor();
+    if (!editor->linesAreFiltered())
+        return tr("Gemeint sind alle Zeilen des Projekts.") + u' ' + undo;
+    const QString shown = tr("Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.")
+                              .arg(QString::number(editor->shownLineCount()),
+                                   QString::number(m_editor->sourceTable().getLineCount()));
+    const QStringList filters = editor->columnFilters();
+    return filters.isEmpty()
+               ? shown + u' ' + undo
+               : shown + u' ' + tr("Filter: %1.").arg(filters.join(QStringLiteral(", "))) + u' ' +
+                     undo;
 }

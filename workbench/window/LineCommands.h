@@ -31,21 +31,28 @@ public:
     /// Lines of the selected project that a text names: the first one is selected, or the next one
     /// behind the selected line. False if there is none.
     bool jumpTo(const QString &text);
-    /// On the selected lines if there are several, else on all that the table shows; asks with the
-    /// number of lines first.
+    /// On the selected lines if there are several, else on all that the table shows, all filters
+    /// applied; asks with the number of lines first.
     void runOnMany(BulkOperation::Action action);
 
 Q_SIGNALS:
     void noted(const QString &text);
+    /// A step was done that can be taken back.
+    void done(const QString &text);
     void openCountChanged();
 
 private:
     void go(bool forward);
+    [[nodiscard]] OpenLines::Found seek(bool forward, const LineRef &from) const;
+    [[nodiscard]] QString goneText(const OpenLines::Found &found, bool forward) const;
+    [[nodiscard]] QString nothingText() const;
+    [[nodiscard]] QString scopeText(bool selection) const;
     [[nodiscard]] LineRef here() const;
 
     MappingDocument *const m_document;
     EditorArea *const m_editor;
     QWidget *const m_window;
     OpenLines m_open;
-    QString m_lastText; ///< of the last jump
+    OpenLines::Found m_last; ///< where the last walk ended
+    QString m_lastText;      ///< of the last jump
 };

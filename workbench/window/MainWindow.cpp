@@ -93,6 +93,9 @@ void MainWindow::connectParts()
     };
     connect(m_desk, &DocumentDesk::noted, this, note);
     connect(m_lines, &LineCommands::noted, this, note);
+    connect(m_lines, &LineCommands::done, this, [this](const QString &text) {
+        m_status->showNote(text, m_desk->document()->canUndo());
+    });
     connect(m_lines, &LineCommands::openCountChanged, m_counterTimer, qOverload<>(&QTimer::start));
     connect(m_status, &StatusArea::nextOpenRequested, m_lines, &LineCommands::goNext);
     connect(m_status, &StatusArea::undoRequested, m_desk->document(), &MappingDocument::undo);

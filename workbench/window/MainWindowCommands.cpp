@@ -46,7 +46,7 @@ void MainWindow::startTour()
     if (m_editor->isOpen() && m_editor->currentPath().isEmpty()) {
         OpenLines proposals(m_desk->document());
         proposals.setKinds(OpenLines::ToCheck);
-        m_editor->goTo(proposals.next({}));
+        m_editor->goTo(proposals.next({}).line);
     }
     using Pane = CatalogMappingWidget::Pane;
     const auto pane = [this](Pane which) {

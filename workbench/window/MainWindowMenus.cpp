@@ -51,9 +51,9 @@ void MainWindow::buildMenus()
           Separator, WorkbenchActions::Quit});
     fill(addMenu("editMenu"), m_actions,
          {WorkbenchActions::Undo, WorkbenchActions::Redo, Separator, WorkbenchActions::ConfirmLines,
-          WorkbenchActions::RemoveLines, WorkbenchActions::RemoveConfirmLines, Separator,
-          WorkbenchActions::AssignAll, WorkbenchActions::CheckValueRanges, Separator,
-          WorkbenchActions::Settings});
+          WorkbenchActions::ConfirmExpiredLines, WorkbenchActions::RemoveLines,
+          WorkbenchActions::RemoveConfirmLines, Separator, WorkbenchActions::AssignAll,
+          WorkbenchActions::CheckValueRanges, Separator, WorkbenchActions::Settings});
     fill(
         addMenu("goMenu"), m_actions,
         {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine});
@@ -101,6 +101,7 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::Undo, [this] { m_desk->document()->undo(); });
     connectTo(WorkbenchActions::Redo, [this] { m_desk->document()->redo(); });
     connectTo(WorkbenchActions::ConfirmLines, onMany(BulkOperation::Confirm));
+    connectTo(WorkbenchActions::ConfirmExpiredLines, onMany(BulkOperation::ConfirmExpired));
     connectTo(WorkbenchActions::RemoveLines, onMany(BulkOperation::Remove));
     connectTo(WorkbenchActions::RemoveConfirmLines, onMany(BulkOperation::RemoveAndConfirm));
     connectTo(WorkbenchActions::AssignAll, [this] { assignAll(); });

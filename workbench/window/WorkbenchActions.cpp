@@ -56,8 +56,14 @@ constexpr std::array<Row, WorkbenchActions::CommandCount> rows{{
      "Ctrl+Shift+Z", "redo", true, true},
     {"linesConfirm", QT_TRANSLATE_NOOP("WorkbenchActions", "Zeilen &bestätigen..."),
      QT_TRANSLATE_NOOP("WorkbenchActions",
-                       "Bestätigt die markierten oder alle gezeigten Zeilen in einem Schritt"),
+                       "Bestätigt die Zuordnung der markierten oder aller gezeigten Zeilen in "
+                       "einem Schritt"),
      "Ctrl+Shift+V", "confirm", true, true},
+    {"linesConfirmExpired",
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Zeilen ohne Ziel als aus&gelaufen bestätigen..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Bestätigt von den markierten oder allen gezeigten "
+                                           "Zeilen die ohne Ziel als ausgelaufen"),
+     "", "", true, true},
     {"linesRemove", QT_TRANSLATE_NOOP("WorkbenchActions", "Zuordnungen &aufheben..."),
      QT_TRANSLATE_NOOP(
          "WorkbenchActions",

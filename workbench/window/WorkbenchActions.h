@@ -25,6 +25,7 @@ public:
         Undo,
         Redo,
         ConfirmLines,
+        ConfirmExpiredLines,
         RemoveLines,
         RemoveConfirmLines,
         AssignAll,

@@ -12,22 +12,17 @@ public:
     void add(int targetLine, int state, bool conflict, int factor = 1)
     {
         m_entries[slot(targetLine, state)] += factor;
-        m_conflicts += conflict ? factor : 0;
+        m_conflicts[slot(targetLine, state)] += conflict ? factor : 0;
     }
     void add(const LineCounts &other, int factor = 1)
     {
-        for (std::size_t i = 0; i < m_entries.size(); ++i)
+        for (std::size_t i = 0; i < m_entries.size(); ++i) {
             m_entries[i] += factor * other.m_entries[i];
-        m_conflicts += factor * other.m_conflicts;
+            m_conflicts[i] += factor * other.m_conflicts[i];
+        }
     }
 
-    [[nodiscard]] int lines() const
-    {
-        int sum = 0;
-        for (int count : m_entries)
-            sum += count;
-        return sum;
-    }
+    [[nodiscard]] int lines() const { return sum(m_entries); }
     [[nodiscard]] int notFound() const
     {
         return m_entries[0] + m_entries[1] + m_entries[2] + m_entries[3];
@@ -35,22 +30,38 @@ public:
     [[nodiscard]] int mapped() const { return m_entries[1] + m_entries[5]; }
     [[nodiscard]] int toCheck() const { return m_entries[4]; }
     [[nodiscard]] int verified() const { return m_entries[2] + m_entries[6]; }
-    [[nodiscard]] int conflicts() const { return m_conflicts; }
+    [[nodiscard]] int conflicts() const { return sum(m_conflicts); }
     /// Entries without target line that nobody confirmed.
     [[nodiscard]] int unmapped() const { return notFound() - m_entries[2]; }
     /// Entries with a target line that the program assigned and nobody confirmed.
     [[nodiscard]] int assigned() const { return m_entries[5]; }
     /// Entries with a target line in state 0 or in a state above 2.
     [[nodiscard]] int unverified() const { return m_entries[4] + m_entries[7]; }
+    /// The same three of entries in conflict.
+    [[nodiscard]] int unmappedConflicts() const
+    {
+        return m_conflicts[0] + m_conflicts[1] + m_conflicts[3];
+    }
+    [[nodiscard]] int assignedConflicts() const { return m_conflicts[5]; }
+    [[nodiscard]] int unverifiedConflicts() const { return m_conflicts[4] + m_conflicts[7]; }
 
     friend bool operator==(const LineCounts &, const LineCounts &) = default;
 
 private:
+    using Slots = std::array<int, 8>;
+
+    static int sum(const Slots &counts)
+    {
+        int result = 0;
+        for (int count : counts)
+            result += count;
+        return result;
+    }
     static std::size_t slot(int targetLine, int state)
     {
         return (targetLine == -1 ? 0U : 4U) + (state >= 0 && state <= 2 ? unsigned(state) : 3U);
     }
 
-    std::array<int, 8> m_entries{}; ///< without target line by state 0, 1, 2, other; then with one
-    int m_conflicts = 0;
+    Slots m_entries{};   ///< without target line by state 0, 1, 2, other; then with one
+    Slots m_conflicts{}; ///< those of them that are in conflict
 };

@@ -2,6 +2,7 @@
 #include "WindowFixture.h"
 
 #include <core/message/PMessage.h>
+#include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/MappingDocument.h>
@@ -53,6 +54,24 @@ QString statistics(const WindowFixture &fixture)
 }
 
 } // namespace
+
+/// Filters a column of the source table by what its first row shows. Name and rows that are left.
+std::pair<QString, int> filterByFirstValue(const WindowFixture &fixture)
+{
+    VkTableModel *const model = fixture.sourceView()->model();
+    const int all = model->rowCount();
+    for (int column = model->statusColumnCount(); column < model->columnCount(); ++column) {
+        const VKTab::Var variable = model->variable(column);
+        const QString text = model->index(0, column).data().toString();
+        if (!variable.isValid() || text.isEmpty())
+            continue;
+        model->setQuickFilter(variable.getVarId(), '=' + text);
+        if (model->rowCount() > 1 && model->rowCount() < all)
+            return {variable.getName(), model->rowCount()};
+        model->setQuickFilter(variable.getVarId(), QString());
+    }
+    return {};
+}
 
 class tst_MainWindow : public QObject
 {
@@ -196,7 +215,7 @@ private Q_SLOTS:
         fixture.open(fixture.mappingFile());
         EditorArea *const editor = fixture.window->editor();
         const OpenLines &open = fixture.window->lines()->openLines();
-        LineRef expected = open.next({});
+        LineRef expected = open.next({}).line;
         QStringList projects;
         for (int i = 0; i < 60; ++i) {
             fixture.press(Qt::Key_F8);
@@ -204,7 +223,7 @@ private Q_SLOTS:
             QCOMPARE(editor->currentLine(), expected.line);
             if (!projects.contains(expected.project.path))
                 projects << expected.project.path;
-            expected = open.next(expected);
+            expected = open.next(expected).line;
         }
         QVERIFY(projects.size() > 1);
         QCOMPARE(QApplication::focusWidget(), fixture.sourceView()->grid());
@@ -336,6 +355,58 @@ private Q_SLOTS:
         QTest::qWait(1);
         QVERIFY(document.canRedo());
         QVERIFY(!document.canUndo());
+    }
+
+    void manyLinesAreThoseThatAreShown()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        QVERIFY(fixture.window->editor()->selectProject(din933));
+        const auto [name, rows] = filterByFirstValue(fixture);
+        QVERIFY(rows > 0);
+        const int all = fixture.window->editor()->sourceTable().getLineCount();
+        QVERIFY(rows < all);
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            script.note(dialog);
+            const QString details = dialog->property("informativeText").toString();
+            QVERIFY2(details.contains(
+                         QStringLiteral("die %1 gezeigten von %2 Zeilen").arg(rows).arg(all)) &&
+                         details.contains("Filter: " + name + ": ="),
+                     qPrintable(details));
+            // Nothing is selected: nobody may have meant all of them.
+            QVERIFY(dialog->findChild<QPushButton *>("answerCancel")->isDefault());
+            QTest::mouseClick(dialog->findChild<QPushButton *>("answerAccept"), Qt::LeftButton);
+        });
+        fixture.action("linesConfirm")->trigger();
+        QVERIFY(script.isDone());
+        QVERIFY2(script.texts.value(0).startsWith(QString::number(rows) + " Zeile"),
+                 qPrintable(script.texts.value(0)));
+        QTRY_COMPARE(countState(document), rows);
+        QVERIFY(fixture.window->status()->note().startsWith(QString::number(rows) + " Zeile"));
+    }
+
+    void theNextOpenLineIsWithinTheFilter()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        EditorArea *const editor = fixture.window->editor();
+        QVERIFY(editor->selectProject(din933));
+        const int rows = filterByFirstValue(fixture).second;
+        QStringList notes;
+        QSet<int> seen;
+        for (int i = 0; i <= rows; ++i) {
+            fixture.press(Qt::Key_F8);
+            QCOMPARE(editor->currentPath(), din933);
+            QVERIFY(fixture.sourceView()->model()->rowOf(VKTab::LineId(editor->currentLine())) >=
+                    0);
+            seen.insert(editor->currentLine());
+            notes += fixture.window->status()->note();
+        }
+        QVERIFY(seen.size() <= rows);
+        QVERIFY2(notes.last().contains("Hier im Filter ist alles durch, außerhalb sind noch"),
+                 qPrintable(notes.join('\n')));
     }
 
     void confirmsTheSelectedLines()

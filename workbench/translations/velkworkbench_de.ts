@@ -1,0 +1,222 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="de_DE">
+<context>
+    <name>BulkOperation</name>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigen?</source>
+        <translation>
+            <numerusform>%n Zeile bestätigen?</numerusform>
+            <numerusform>%n Zeilen bestätigen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>%n Zeile als ausgelaufen bestätigen?</numerusform>
+            <numerusform>%n Zeilen als ausgelaufen bestätigen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <translation>
+            <numerusform>Zuordnung von %n Zeile aufheben?</numerusform>
+            <numerusform>Zuordnung von %n Zeilen aufheben?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Zuordnung von %n Zeile aufheben und als ausgelaufen bestätigen?</numerusform>
+            <numerusform>Zuordnung von %n Zeilen aufheben und als ausgelaufen bestätigen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind schon bestätigt.</source>
+        <translation>
+            <numerusform>%n davon ist schon bestätigt.</numerusform>
+            <numerusform>%n davon sind schon bestätigt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <translation>
+            <numerusform>%n davon verliert ihre Wertebereichszuordnung.</numerusform>
+            <numerusform>%n davon verlieren ihre Wertebereichszuordnung.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <translation>
+            <numerusform>%n Zeile ohne Ziel bleibt unbestätigt.</numerusform>
+            <numerusform>%n Zeilen ohne Ziel bleiben unbestätigt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <translation>
+            <numerusform>%n Zeile bleibt, wie sie ist.</numerusform>
+            <numerusform>%n Zeilen bleiben, wie sie sind.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <translation>
+            <numerusform>%n Zeile mit Konflikt wird nicht geändert.</numerusform>
+            <numerusform>%n Zeilen mit Konflikt werden nicht geändert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <translation>
+            <numerusform>%n Zeile ist in keinem Zielprojekt eingetragen.</numerusform>
+            <numerusform>%n Zeilen sind in keinem Zielprojekt eingetragen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt.</source>
+        <translation>
+            <numerusform>%n Zeile bestätigt.</numerusform>
+            <numerusform>%n Zeilen bestätigt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>%n Zeile als ausgelaufen bestätigt.</numerusform>
+            <numerusform>%n Zeilen als ausgelaufen bestätigt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <translation>
+            <numerusform>Zuordnung von %n Zeile aufgehoben.</numerusform>
+            <numerusform>Zuordnung von %n Zeilen aufgehoben.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>Zuordnung von %n Zeile aufgehoben und als ausgelaufen bestätigt.</numerusform>
+            <numerusform>Zuordnung von %n Zeilen aufgehoben und als ausgelaufen bestätigt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>LineCommands</name>
+    <message numerus="yes">
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <translation>
+            <numerusform>Hier im Filter ist alles durch, außerhalb ist noch %n Zeile offen.</numerusform>
+            <numerusform>Hier im Filter ist alles durch, außerhalb sind noch %n Zeilen offen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepNotices</name>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <translation>
+            <numerusform>%n Zeile in %1 war als ausgelaufen bestätigt und ist es nicht mehr: %2</numerusform>
+            <numerusform>%n Zeilen in %1 waren als ausgelaufen bestätigt und sind es nicht mehr: %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <translation>
+            <numerusform>Zeile %1 → %2 in %3: die Zielzeile hat auch %n andere Zeile: %4</numerusform>
+            <numerusform>Zeile %1 → %2 in %3: die Zielzeile haben auch %n andere Zeilen: %4</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <translation>
+            <numerusform>%n Zeile in %1 teilt ihre Zielzeile mit neu zugeordneten: %2</numerusform>
+            <numerusform>%n Zeilen in %1 teilen ihre Zielzeile mit neu zugeordneten: %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepSummary</name>
+    <message numerus="yes">
+        <source>%n Konflikt(e) angenommen</source>
+        <translation>
+            <numerusform>%n Konflikt angenommen</numerusform>
+            <numerusform>%n Konflikte angenommen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>%n Zeile bestätigt</numerusform>
+            <numerusform>%n Zeilen bestätigt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n Zeile als ausgelaufen bestätigt</numerusform>
+            <numerusform>%n Zeilen als ausgelaufen bestätigt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) zugeordnet</source>
+        <translation>
+            <numerusform>%n Zeile zugeordnet</numerusform>
+            <numerusform>%n Zeilen zugeordnet</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <translation>
+            <numerusform>Zuordnung von %n Zeile aufgehoben</numerusform>
+            <numerusform>Zuordnung von %n Zeilen aufgehoben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>Wertebereichszuordnung von %n Zeile geändert</numerusform>
+            <numerusform>Wertebereichszuordnung von %n Zeilen geändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <translation>
+            <numerusform>Konflikt von %n Zeile gelöst</numerusform>
+            <numerusform>Konflikt von %n Zeilen gelöst</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>%n Zeile geändert</numerusform>
+            <numerusform>%n Zeilen geändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 in %n Projekt</numerusform>
+            <numerusform>%1 in %n Projekten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ValueRangeCheck</name>
+    <message numerus="yes">
+        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <translation>
+            <numerusform>%n Wertebereichszuordnung geprüft</numerusform>
+            <numerusform>%n Wertebereichszuordnungen geprüft</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Beanstandung(en)</source>
+        <translation>
+            <numerusform>%n Beanstandung</numerusform>
+            <numerusform>%n Beanstandungen</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
