@@ -9,12 +9,15 @@
 #include <geomcore/records/MappingFile.h>
 #include <mapping/data/CatalogMappingHandlerI.h>
 
+#include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -41,6 +44,12 @@ private Q_SLOTS:
     void opensTheLastReleaseUnlessAskedForAnother();
     void refusesWhatItCannotRead_data();
     void refusesWhatItCannotRead();
+    void staysOpenIfAnotherCannotBeRead();
+    void survivesItsFolder();
+    void whatStandsInTheWay_data();
+    void whatStandsInTheWay();
+    void aHardLinkIsTold();
+    void readsAFileOnce();
     void handlerGoesTheDocumentsWay();
     void theEditorHearsOfTheHostsChanges();
     void handlerOutlivesTheDocument();
@@ -145,9 +154,9 @@ void tst_MappingDocument::refusesWhatItCannotRead_data()
     const int unreadable = int(MappingDocument::OpenResult::Unreadable);
     const int noRelease = int(MappingDocument::OpenResult::NoRelease);
     QTest::newRow("no JSON") << QByteArray("{\"2022") << QString() << unreadable
-                             << QStringLiteral("release.json.bak");
+                             << QStringLiteral("(line 1, column 7");
     QTest::newRow("no file") << QByteArray() << QString() << unreadable
-                             << QStringLiteral("Sicherungskopie");
+                             << QStringLiteral("nicht mehr da");
     QTest::newRow("no release") << QByteArray("{}") << QString() << noRelease
                                 << QStringLiteral("enthält keinen Stand.");
     QTest::newRow("other release")
@@ -155,7 +164,7 @@ void tst_MappingDocument::refusesWhatItCannotRead_data()
         << QStringLiteral("2022") << noRelease << QStringLiteral("Vorhanden sind: 2020");
     QTest::newRow("release that is none")
         << QByteArray("{\"2020\":{\"sourceDate\":7}}") << QStringLiteral("2020") << unreadable
-        << QStringLiteral("Der Stand 2020 kann nicht gelesen werden.");
+        << QStringLiteral("\"2020\": sourceDate must be a text");
 }
 
 void tst_MappingDocument::refusesWhatItCannotRead()
@@ -172,6 +181,133 @@ void tst_MappingDocument::refusesWhatItCannotRead()
     QVERIFY2(m_document->errorText().contains(part), qPrintable(m_document->errorText()));
     QVERIFY(!m_document->isOpen());
     QVERIFY(!QFile::exists(m_file + QStringLiteral(".edit")));
+    // A backup is named if there is one.
+    QVERIFY(!m_document->errorText().contains(QStringLiteral("release.json.bak")));
+    SessionFixture::setContent(m_file + QStringLiteral(".bak"), "{}");
+    QCOMPARE(int(m_document->open({m_file, date, {}, {}, {}})), result);
+    QCOMPARE(m_document->errorText().contains(QStringLiteral("release.json.bak")),
+             result == int(MappingDocument::OpenResult::Unreadable));
+}
+
+void tst_MappingDocument::staysOpenIfAnotherCannotBeRead()
+{
+    QCOMPARE(m_document->open({m_file, {}, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(id(QStringLiteral("cat/a.prj"))), {1}, 2));
+    const QString other = m_files->path(QStringLiteral("other.json"));
+    SessionFixture::setContent(other, "{\"2022");
+    QSignalSpy closing(m_document.get(), &MappingDocument::aboutToClose);
+    QCOMPARE(m_document->open({other, {}, {}, {}, {}}), MappingDocument::OpenResult::Unreadable);
+    QVERIFY(m_document->errorText().contains(other));
+    QCOMPARE(m_document->mappingFile(), m_file);
+    QVERIFY(m_document->isModified());
+    QCOMPARE(closing.size(), 0);
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    m_files->addRelease(m_files->path(QStringLiteral("third.json")),
+                        SessionFixture::sampleRelease());
+    QCOMPARE(m_document->open({m_files->path(QStringLiteral("third.json")), {}, {}, {}, {}}),
+             MappingDocument::OpenResult::Opened);
+    QCOMPARE(closing.size(), 1);
+}
+
+/// Journal and lock went with the folder; saving makes them anew.
+void tst_MappingDocument::survivesItsFolder()
+{
+    const QString folder = m_files->path(QStringLiteral("folder"));
+    QVERIFY(QDir().mkpath(folder));
+    const QString file = folder + QStringLiteral("/m.json");
+    m_files->addRelease(file, SessionFixture::sampleRelease());
+    QCOMPARE(m_document->open({file, {}, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    const auto confirm = [this](int line) {
+        m_document->updateMapping(SessionFixture::withState(
+            m_document->mapping(id(QStringLiteral("cat/a.prj"))), {line}, 2));
+        m_document->finishStep();
+    };
+    confirm(1);
+    QVERIFY(QDir(folder).removeRecursively());
+    QVERIFY(QDir().mkpath(folder));
+    SaveOptions options;
+    options.overForeignChange = true;
+    QCOMPARE(m_document->save(options).result, SaveResult::Saved);
+    confirm(2);
+    QVERIFY(SessionFixture::content(m_document->journalFile()).contains("\"step\":2"));
+    QVERIFY(QFile::exists(file + QStringLiteral(".edit")));
+    MappingDocument second;
+    QCOMPARE(second.open({file, {}, {}, {}, {}}), MappingDocument::OpenResult::OpenedReadOnly);
+}
+
+void tst_MappingDocument::whatStandsInTheWay_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QString>("thing");
+    for (const char *suffix : {".edit", ".journal", ".autosave"}) {
+        for (const char *thing : {"link", "pipe", "folder"})
+            QTest::addRow("%s at %s", thing, suffix)
+                << QString::fromLatin1(suffix) << QString::fromLatin1(thing);
+    }
+}
+
+/// Told, not followed, not waited for, and never a reason to lose the file.
+void tst_MappingDocument::whatStandsInTheWay()
+{
+    QFETCH(QString, suffix);
+    QFETCH(QString, thing);
+    const QString victim = m_files->path(QStringLiteral("victim"));
+    SessionFixture::setContent(victim, "precious");
+    const QString name = m_file + suffix;
+    if (thing == u"pipe")
+        QCOMPARE(::mkfifo(qPrintable(name), 0600), 0);
+    else if (thing == u"folder")
+        QVERIFY(QDir().mkpath(name));
+    else
+        QVERIFY(QFile::link(victim, name));
+    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
+    const bool isLock = suffix == u".edit";
+    QCOMPARE(m_document->open({m_file, {}, {}, {}, {}}),
+             isLock ? MappingDocument::OpenResult::OpenedReadOnly
+                    : MappingDocument::OpenResult::Opened);
+    if (isLock)
+        QVERIFY2(m_document->readOnlyText().contains(QStringLiteral("gewöhnliche Datei")),
+                 qPrintable(m_document->readOnlyText()));
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(id(QStringLiteral("cat/a.prj"))), {1}, 2));
+    m_document->finishStep();
+    m_document->autosave();
+    QCOMPARE(m_document->save().result, isLock ? SaveResult::ReadOnly : SaveResult::Saved);
+    QCoreApplication::processEvents();
+    QVERIFY(problems.size() >= 1);
+    m_document->close();
+    QCOMPARE(SessionFixture::content(victim), QByteArray("precious"));
+    QCOMPARE(m_document->open({m_file, {}, {}, MappingDocument::Access::ReadOnly, {}}),
+             MappingDocument::OpenResult::OpenedReadOnly);
+    QCOMPARE(m_document->counts().verified(), isLock ? 0 : 1);
+}
+
+void tst_MappingDocument::aHardLinkIsTold()
+{
+    QCOMPARE(::link(qPrintable(m_file), qPrintable(m_files->path(QStringLiteral("b.json")))), 0);
+    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
+    QCOMPARE(m_document->open({m_file, {}, {}, {}, {}}), MappingDocument::OpenResult::Opened);
+    QCOMPARE(problems.size(), 1);
+    QVERIFY(problems.first().first().toString().contains(QStringLiteral("harter Link")));
+}
+
+void tst_MappingDocument::readsAFileOnce()
+{
+    const auto content = std::make_shared<const FileContent>(FileContent::of(m_file));
+    QCOMPARE(MappingDocument::sourceDates(*content), QStringList(QStringLiteral("2022-01-01")));
+    MappingDocument::OpenRequest request;
+    request.mappingFile = m_file;
+    request.content = content;
+    QCOMPARE(m_document->open(request), MappingDocument::OpenResult::Opened);
+    QCOMPARE(m_document->counts().lines(), 30);
+    m_document->close();
+    // What was read before is not believed if the file is another one now.
+    ReleaseMappingC other = SessionFixture::sampleRelease();
+    other.addMapping(SessionFixture::plainMapping(QStringLiteral("cat/new.prj"), 4));
+    m_files->addRelease(m_file, other);
+    QCOMPARE(m_document->open(request), MappingDocument::OpenResult::Opened);
+    QCOMPARE(m_document->counts().lines(), 34);
 }
 
 void tst_MappingDocument::handlerGoesTheDocumentsWay()

@@ -89,7 +89,6 @@ bool GuardedSave::takeLock(QLockFile &lock)
 
 bool GuardedSave::examine(const SaveOptions &options)
 {
-    m_stamp = OwnFile::stamp(m_file);
     m_before = FileContent::of(m_file);
     m_members = PJsonValue(PJsonValue::Object);
     m_readable = false;
@@ -267,7 +266,7 @@ bool GuardedSave::keepFormer()
 
 bool GuardedSave::putInPlace()
 {
-    if (OwnFile::stamp(m_file) != m_stamp) {
+    if (OwnFile::stamp(m_file) != m_before.stamp) {
         m_outcome.backupFile.clear();
         return end(SaveResult::ForeignChange,
                    tr("%1 wurde während des Speicherns von jemand anderem geändert. Es wurde "

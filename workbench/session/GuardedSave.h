@@ -64,7 +64,6 @@ private:
     ReleaseMappingC m_release;
     PJsonValue m_members; ///< of the file, or of the backup if the file cannot be read
     FileContent m_before;
-    QByteArray m_stamp; ///< of the file as it was read
     bool m_readable = false;
     FileState m_saved;
     SaveOutcome m_outcome;

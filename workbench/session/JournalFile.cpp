@@ -3,8 +3,9 @@
 #include "JournalText.h"
 #include "OwnFile.h"
 
-#include <core/files/DurableFile.h>
 #include <core/json/PJsonValue.h>
+
+#include <utility>
 
 namespace {
 
@@ -17,6 +18,7 @@ constexpr int SyncAfter = 1000; // ms
 JournalFile::JournalFile(QObject *parent)
     : QObject(parent)
 {
+    m_disk.setMaxThreadCount(1);
     m_syncTimer.setSingleShot(true);
     m_syncTimer.setInterval(SyncAfter);
     connect(&m_syncTimer, &QTimer::timeout, this, &JournalFile::sync);
@@ -98,10 +100,7 @@ bool JournalFile::flush()
     // Half a row must not stay before the rows that come later.
     if (m_file.resize(m_goodSize))
         m_file.seek(m_goodSize);
-    const bool isNew = !m_failing;
-    m_failing = true;
-    if (isNew)
-        Q_EMIT failed(m_errorText);
+    tellFailure(m_errorText);
     return false;
 }
 
@@ -118,7 +117,23 @@ bool JournalFile::write()
     return true;
 }
 
-bool JournalFile::sync()
+void JournalFile::sync()
 {
-    return flush() && DurableFile::sync(m_file);
+    if (!flush())
+        return;
+    // The file may be closed before the disk has answered.
+    const int file = OwnFile::duplicate(m_file);
+    m_disk.start([this, file] {
+        QString error;
+        if (!OwnFile::syncAndClose(file, &error))
+            QMetaObject::invokeMethod(
+                this, [this, error] { tellFailure(error); }, Qt::QueuedConnection);
+    });
+}
+
+void JournalFile::tellFailure(const QString &errorText)
+{
+    m_errorText = errorText;
+    if (!std::exchange(m_failing, true))
+        Q_EMIT failed(errorText);
 }

@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QObject>
+#include <QThreadPool>
 #include <QTimer>
 
 class MappingDifference;
@@ -36,8 +37,8 @@ public:
     /// Hands everything to the system. False if it did not take it: it stays here and is tried
     /// again with the next record.
     bool flush();
-    /// flush(), and onto the disk.
-    bool sync();
+    /// flush(), and onto the disk soon: another thread does that. failed() if it cannot.
+    void sync();
 
 Q_SIGNALS:
     /// Writing failed for the first time, or for the first time again.
@@ -47,6 +48,7 @@ private:
     [[nodiscard]] bool endsWithLineFeed();
     void appendRow(const QByteArray &row);
     bool write();
+    void tellFailure(const QString &errorText);
 
     QString m_path;
     QFile m_file;
@@ -56,4 +58,5 @@ private:
     QString m_errorText;
     QElapsedTimer m_sinceFlush;
     QTimer m_syncTimer;
+    QThreadPool m_disk; ///< of one thread; waits for it in the end
 };

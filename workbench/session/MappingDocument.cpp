@@ -1,12 +1,11 @@
 #include "MappingDocument.h"
 
+#include "CatalogRootMemory.h"
 #include "JournalingHandler.h"
 #include "MappingDocumentPrivate.h"
-#include "SessionRecovery.h"
 
 #include <core/files/EditLock.h>
 #include <core/text/PPathName.h>
-#include <geomcore/records/MappingFile.h>
 
 #include <QFileInfo>
 
@@ -23,11 +22,12 @@ MappingDocument::~MappingDocument()
 
 QStringList MappingDocument::sourceDates(const QString &mappingFile, QString *error)
 {
-    MappingFile file;
-    // No release has this date, so all stay unread.
-    return file.read(PPathName(mappingFile).native(), QStringLiteral("\n"), error)
-               ? file.sourceDates()
-               : QStringList();
+    return DocumentFile::datesIn(FileContent::of(canonicalPath(mappingFile)), error);
+}
+
+QStringList MappingDocument::sourceDates(const FileContent &content, QString *error)
+{
+    return DocumentFile::datesIn(content, error);
 }
 
 MappingDocument::OpenResult MappingDocument::open(const OpenRequest &request)
@@ -64,35 +64,22 @@ bool MappingDocument::isOpen() const
 
 bool MappingDocument::isReadOnly() const
 {
-    return d->readOnly != ReadOnlyReason::None;
+    return readOnlyReason() != ReadOnlyReason::None;
 }
 
 MappingDocument::ReadOnlyReason MappingDocument::readOnlyReason() const
 {
-    return d->readOnly;
+    return d->file.readOnly();
 }
 
 QString MappingDocument::readOnlyText() const
 {
-    switch (d->readOnly) {
-    case ReadOnlyReason::None:
-        return QString();
-    case ReadOnlyReason::Wanted:
-        return tr("%1 ist nur zum Lesen geöffnet.").arg(d->file);
-    case ReadOnlyReason::HeldByOther:
-        return tr("%1 wird gerade von %2 bearbeitet und ist deshalb nur zum Lesen geöffnet.")
-            .arg(d->file, ownerText(d->otherOwner));
-    case ReadOnlyReason::NotWritable:
-        return tr("Der Ordner von %1 ist nicht beschreibbar. Die Datei ist deshalb nur zum Lesen "
-                  "geöffnet; unter einem anderen Namen gespeichert lässt sie sich bearbeiten.")
-            .arg(d->file);
-    }
-    return QString();
+    return d->file.readOnlyText();
 }
 
 SessionOwner MappingDocument::lockOwner() const
 {
-    return d->otherOwner;
+    return d->file.otherOwner();
 }
 
 bool MappingDocument::removeLock(const QString &mappingFile)
@@ -109,7 +96,7 @@ QString MappingDocument::canonicalPath(const QString &mappingFile)
 
 QString MappingDocument::mappingFile() const
 {
-    return d->file;
+    return d->file.path();
 }
 
 QString MappingDocument::rootName() const
@@ -125,7 +112,7 @@ CatalogRoots MappingDocument::catalogRoots() const
 void MappingDocument::setCatalogRoots(const CatalogRoots &roots)
 {
     d->roots = roots;
-    CatalogRootMemory(d->settings).remember(d->file, roots);
+    CatalogRootMemory(d->settings).remember(d->file.path(), roots);
 }
 
 CatalogMappingHandlerI *MappingDocument::createHandler()
@@ -190,15 +177,14 @@ void MappingDocument::replaceRelease(const ReleaseMappingC &release, const QStri
 
 void MappingDocument::beginStep(const QString &text)
 {
-    if (d->pending.depth == 0)
+    if (!d->steps.isNested())
         finishStep();
-    if (d->pending.depth++ == 0)
-        d->pending.text = text;
+    d->steps.begin(text);
 }
 
 void MappingDocument::endStep()
 {
-    if (d->pending.depth > 0 && --d->pending.depth == 0)
+    if (d->steps.end())
         finishStep();
 }
 
@@ -218,32 +204,32 @@ void MappingDocument::updateWithoutStep(const std::function<void()> &marking)
 
 bool MappingDocument::canUndo() const
 {
-    return d->history.canUndo();
+    return d->steps.history().canUndo();
 }
 
 bool MappingDocument::canRedo() const
 {
-    return d->history.canRedo();
+    return d->steps.history().canRedo();
 }
 
 QString MappingDocument::undoText() const
 {
-    return canUndo() ? d->history.undoStep().text : QString();
+    return canUndo() ? d->steps.history().undoStep().text : QString();
 }
 
 QString MappingDocument::redoText() const
 {
-    return canRedo() ? d->history.redoStep().text : QString();
+    return canRedo() ? d->steps.history().redoStep().text : QString();
 }
 
 QStringList MappingDocument::undoTexts() const
 {
-    return d->history.texts();
+    return d->steps.history().texts();
 }
 
 void MappingDocument::setUndoLimit(int steps)
 {
-    d->history.setLimit(steps);
+    d->steps.history().setLimit(steps);
     Q_EMIT undoChanged();
 }
 
@@ -280,22 +266,22 @@ QDateTime MappingDocument::lastAutosave() const
 
 QString MappingDocument::journalFile() const
 {
-    return SessionRecovery::journalFile(d->file);
+    return SessionRecovery::journalFile(d->file.path());
 }
 
 QString MappingDocument::autosaveFile() const
 {
-    return SessionRecovery::autosaveFile(d->file);
+    return SessionRecovery::autosaveFile(d->file.path());
 }
 
 void MappingDocument::undo()
 {
-    d->move(true);
+    d->move(StepRecorder::Origin::Undo);
 }
 
 void MappingDocument::redo()
 {
-    d->move(false);
+    d->move(StepRecorder::Origin::Redo);
 }
 
 void MappingDocument::autosave()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OwnFile.h"
 #include "RecoveryOffer.h"
 #include "SaveOutcome.h"
 #include "SessionTypes.h"
@@ -43,6 +44,8 @@ public:
         QString rootName;   ///< text of the tree's root; empty: both dates
         Access access = Access::ReadWrite;
         Recovery recovery = Recovery::Ask;
+        /// The file if it was read already, for that once is enough.
+        std::shared_ptr<const FileContent> content = nullptr;
     };
     enum class OpenResult {
         Opened,
@@ -67,8 +70,11 @@ public:
     /// read.
     [[nodiscard]] static QStringList sourceDates(const QString &mappingFile,
                                                  QString *error = nullptr);
+    [[nodiscard]] static QStringList sourceDates(const FileContent &content,
+                                                 QString *error = nullptr);
 
-    /// Closes what is open, unsaved changes are discarded, and opens a release.
+    /// Opens a release. What is open is closed before, its unsaved changes are discarded; it stays
+    /// open if the file cannot be read and nothing was left of it.
     OpenResult open(const OpenRequest &request);
     /// The same with a release that is not in a file yet. It is modified until it is saved.
     OpenResult openNew(const ReleaseMappingC &release, const QString &mappingFile,
@@ -163,6 +169,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void opened();
+    /// While it still holds everything.
+    void aboutToClose();
     void closed();
     void modifiedChanged(bool modified);
     /// canUndo(), canRedo() or their texts changed.

@@ -1,12 +1,9 @@
 #include "MappingDocumentPrivate.h"
 
+#include "CatalogRootMemory.h"
 #include "ReleaseChanges.h"
-#include "SessionRecovery.h"
 
-#include <core/json/PJsonValue.h>
 #include <core/message/PMessage.h>
-#include <core/text/PPathName.h>
-#include <geomcore/records/MappingFile.h>
 #include <mapping/data/ReleaseMappingHandler.h>
 
 #include <QFileInfo>
@@ -27,65 +24,71 @@ MappingDocumentPrivate::MappingDocumentPrivate(MappingDocument *document, QSetti
         finishStep();
     });
     QObject::connect(&m_autosaveTimer, &QTimer::timeout, document, [this] { autosave(); });
-    QObject::connect(&m_journal, &JournalFile::failed, document, [this](const QString &cause) {
-        Q_EMIT q->problemOccurred(
-            MappingDocument::tr("Das Journal %1 kann nicht geschrieben werden (%2). Nach einem "
-                                "Absturz wären die Änderungen verloren: bitte bald speichern.")
-                .arg(m_journal.path(), cause));
-    });
+    QObject::connect(
+        &steps.journal(), &JournalFile::failed, document, [this](const QString &cause) {
+            Q_EMIT q->problemOccurred(
+                MappingDocument::tr("Das Journal %1 kann nicht geschrieben werden (%2). Nach einem "
+                                    "Absturz wären die Änderungen verloren: bitte bald speichern.")
+                    .arg(steps.journal().path(), cause));
+        });
 }
 
 MappingDocumentPrivate::~MappingDocumentPrivate() = default;
 
-OpenResult MappingDocumentPrivate::open(const MappingDocument::OpenRequest &request)
+void MappingDocumentPrivate::clearAnswers()
 {
-    close(true);
     errorText.clear();
     offer = RecoveryOffer();
     m_lostText.clear();
     m_putAside = false;
-    file = MappingDocument::canonicalPath(request.mappingFile);
-    takeLock(request.access);
-    if (m_lock.isTaken()) {
-        const OpenResult result = recover(request);
-        if (result != OpenResult::OpenedReadOnly)
-            return result;
+}
+
+OpenResult MappingDocumentPrivate::open(const MappingDocument::OpenRequest &request)
+{
+    clearAnswers();
+    const QString path = MappingDocument::canonicalPath(request.mappingFile);
+    DocumentFile::Reading reading = DocumentFile::read(path, request.sourceDate, request.content);
+    // What is open stays so until something else can be.
+    if (!reading.release && !SessionRecovery::mayHaveLeft(path)) {
+        errorText = reading.errorText;
+        return reading.result;
     }
-    m_known = FileState::of(file);
-    ReleaseMappingC release;
-    const OpenResult result = readRelease(request.sourceDate, release);
-    if (result != OpenResult::Opened)
-        return result;
+    close(true);
+    file.moveTo(path, request.access);
+    if (DocumentFile::isOld(path, reading))
+        reading = DocumentFile::read(path, request.sourceDate, nullptr);
+    if (file.isEditable() && SessionRecovery::mayHaveLeft(path)) {
+        if (const std::optional<OpenResult> result = recover(request, reading.content))
+            return *result;
+    }
+    if (!reading.release)
+        return fail(reading.result, reading.errorText);
     // Not before the saved version proved to be readable.
     if (std::exchange(m_putAside, false))
-        (void)SessionRecovery::putAside(file);
-    m_loaded = release;
-    return begin(release, request.rootName);
+        (void)SessionRecovery::putAside(path);
+    for (const QString &note : std::as_const(reading.notes))
+        PMessage::LogToWindow(path + QStringLiteral(": ") + note);
+    file.setKnown(reading.content.state, *reading.release);
+    return begin(*reading.release, request.rootName);
 }
 
 OpenResult MappingDocumentPrivate::openNew(const ReleaseMappingC &release, const QString &path,
                                            const QString &name)
 {
+    clearAnswers();
     close(true);
-    errorText.clear();
-    offer = RecoveryOffer();
-    m_lostText.clear();
-    m_putAside = false;
-    file = MappingDocument::canonicalPath(path);
-    readOnly = ReadOnlyReason::None;
-    const EditLock::Result taken = m_lock.take(file);
-    if (taken != EditLock::Taken)
-        return fail(OpenResult::Unreadable, lockText(m_lock, taken, file));
-    if (QFileInfo::exists(SessionRecovery::journalFile(file)) ||
-        QFileInfo::exists(SessionRecovery::autosaveFile(file)))
-        (void)SessionRecovery::putAside(file);
+    const QString canonical = MappingDocument::canonicalPath(path);
+    file.moveTo(canonical, MappingDocument::Access::ReadWrite);
+    if (!file.isEditable())
+        return fail(OpenResult::Unreadable, file.cannotMakeText());
+    if (SessionRecovery::mayHaveLeft(canonical))
+        (void)SessionRecovery::putAside(canonical);
     // A release of this date that is there already counts as somebody else's.
-    m_known = MappingDocument::sourceDates(file).contains(release.getSourceDate())
-                  ? FileState()
-                  : FileState::of(file);
-    m_loaded = ReleaseMappingC();
+    const FileContent content = FileContent::of(canonical);
+    const bool isTaken = DocumentFile::datesIn(content, nullptr).contains(release.getSourceDate());
+    file.setKnown(isTaken ? FileState() : content.state, ReleaseMappingC());
     const OpenResult result = begin(release, name);
-    history.markDirty();
+    steps.history().markDirty();
     tellModified();
     autosave();
     return result;
@@ -93,68 +96,20 @@ OpenResult MappingDocumentPrivate::openNew(const ReleaseMappingC &release, const
 
 OpenResult MappingDocumentPrivate::fail(OpenResult result, const QString &text)
 {
-    m_lock.release();
+    file.leave();
     errorText = text;
-    file.clear();
-    readOnly = ReadOnlyReason::None;
     return result;
 }
 
-void MappingDocumentPrivate::takeLock(MappingDocument::Access access)
+std::optional<OpenResult>
+MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &request,
+                                const FileContent &content)
 {
-    otherOwner = SessionOwner();
-    readOnly = ReadOnlyReason::Wanted;
-    if (access == MappingDocument::Access::ReadOnly)
-        return;
-    switch (m_lock.take(file)) {
-    case EditLock::Taken:
-        readOnly = ReadOnlyReason::None;
-        return;
-    case EditLock::HeldByOther:
-        readOnly = ReadOnlyReason::HeldByOther;
-        otherOwner = m_lock.owner();
-        return;
-    case EditLock::NotWritable:
-        readOnly = ReadOnlyReason::NotWritable;
-    }
-}
-
-OpenResult MappingDocumentPrivate::readRelease(const QString &wantedDate, ReleaseMappingC &release)
-{
-    QString error;
-    const QStringList dates = MappingDocument::sourceDates(file, &error);
-    if (!error.isEmpty())
-        return fail(OpenResult::Unreadable,
-                    MappingDocument::tr("Die Zuordnungsdatei kann nicht gelesen werden. %1\nBitte "
-                                        "eine andere Datei wählen oder eine Sicherungskopie (%2) "
-                                        "zurückkopieren.")
-                        .arg(error, QFileInfo(file).fileName() + QStringLiteral(".bak")));
-    const QString date = wantedDate.isEmpty() ? dates.value(dates.size() - 1) : wantedDate;
-    if (!dates.contains(date))
-        return fail(OpenResult::NoRelease,
-                    dates.isEmpty()
-                        ? MappingDocument::tr("%1 enthält keinen Stand.").arg(file)
-                        : MappingDocument::tr("%1 enthält keinen Stand %2. Vorhanden sind: %3")
-                              .arg(file, date, dates.join(QStringLiteral(", "))));
-    MappingFile mappings;
-    if (!mappings.read(file, date, &error))
-        return fail(
-            OpenResult::Unreadable,
-            MappingDocument::tr("Der Stand %1 kann nicht gelesen werden. %2").arg(date, error));
-    for (const QString &note : mappings.notes())
-        PMessage::LogToWindow(file + QStringLiteral(": ") + note);
-    release = mappings.release(date);
-    return OpenResult::Opened;
-}
-
-/// Deals with what a session that was not closed left; OpenedReadOnly stands for going on.
-OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &request)
-{
-    const SessionRecovery recovery(file);
+    const SessionRecovery recovery = file.findRecovery(content);
     if (!recovery.offer().isValid()) {
         m_putAside = recovery.leftSomething();
         m_lostText = recovery.damage();
-        return OpenResult::OpenedReadOnly;
+        return std::nullopt;
     }
     switch (request.recovery) {
     case MappingDocument::Recovery::UseRecovered:
@@ -166,7 +121,7 @@ OpenResult MappingDocumentPrivate::recover(const MappingDocument::OpenRequest &r
                              request.rootName);
     case MappingDocument::Recovery::UseSaved:
         m_putAside = true;
-        return OpenResult::OpenedReadOnly;
+        return std::nullopt;
     case MappingDocument::Recovery::Ask:
         break;
     }
@@ -179,17 +134,19 @@ OpenResult MappingDocumentPrivate::openRecovered(const SessionRecovery &recovery
                                                  const QString &name)
 {
     // Saving over what somebody else did since must be asked for.
-    m_known = recovery.fitsSavedFile() ? FileState::of(file) : FileState();
-    m_loaded = recovery.fitsSavedFile() ? recovery.savedRelease() : ReleaseMappingC();
+    if (recovery.fitsSavedFile())
+        file.setKnown(recovery.savedState(), recovery.savedRelease());
+    else
+        file.setKnown(FileState(), ReleaseMappingC());
     // The side file gets all that is recovered before the journal goes.
     QString error;
-    if (!OwnFile::replace(SessionRecovery::autosaveFile(file), fileOf(recovered), &error))
+    if (!file.autosave(recovered, &error))
         return fail(OpenResult::Unreadable,
                     MappingDocument::tr("Der wiederhergestellte Stand kann nicht gesichert werden "
                                         "(%1). Bitte Platz schaffen und noch einmal öffnen; das "
                                         "Journal ist unverändert.")
                         .arg(error));
-    (void)SessionRecovery::putAsideJournal(file);
+    (void)SessionRecovery::putAsideJournal(file.path());
     const OpenResult result = begin(recovered, name);
     pushRecovery(recovery);
     return result;
@@ -204,12 +161,12 @@ void MappingDocumentPrivate::pushRecovery(const SessionRecovery &recovery)
     step.releaseBefore = recovery.savedRelease();
     step.releaseAfter = release();
     if (recovery.offer().saved.available) {
-        journalRelease(recovery.savedRelease(), release());
-        history.push(step);
+        steps.journalRelease(recovery.savedRelease(), release());
+        steps.history().push(step);
     } else {
-        history.markDirty();
+        steps.history().markDirty();
     }
-    journalStep(step.text, Origin::Recovery);
+    steps.journalStep(step.text, StepRecorder::Origin::Recovery);
     tellModified();
     Q_EMIT q->undoChanged();
     autosave();
@@ -220,55 +177,52 @@ OpenResult MappingDocumentPrivate::begin(const ReleaseMappingC &release, const Q
     rootName = name.isEmpty()
                    ? QStringLiteral("%1 → %2").arg(release.getSourceDate(), release.getTargetDate())
                    : name;
-    roots = CatalogRootMemory(settings).roots(file);
-    m_step = 0;
-    m_autosavedStep = 0;
+    roots = CatalogRootMemory(settings).roots(file.path());
     m_wasModified = false;
     lastAutosave = QDateTime();
-    history.clear();
-    pending = Pending();
+    steps.reset();
     isOpen = true;
     adoptRelease(release);
-    if (readOnly == ReadOnlyReason::None)
+    if (isEditable())
         beginJournal();
     startAutosave();
     Q_EMIT q->opened();
-    if (!m_lostText.isEmpty())
-        Q_EMIT q->problemOccurred(std::exchange(m_lostText, QString()));
+    for (const QString &text : {std::exchange(m_lostText, QString()), file.warning()}) {
+        if (!text.isEmpty())
+            Q_EMIT q->problemOccurred(text);
+    }
     Q_EMIT q->undoChanged();
     Q_EMIT q->countsChanged();
-    return readOnly == ReadOnlyReason::None ? OpenResult::Opened : OpenResult::OpenedReadOnly;
+    return isEditable() ? OpenResult::Opened : OpenResult::OpenedReadOnly;
 }
 
 void MappingDocumentPrivate::beginJournal()
 {
     constexpr qint64 MaxSize = 32 << 20;
-    const QString path = SessionRecovery::journalFile(file);
+    const QString path = SessionRecovery::journalFile(file.path());
     if (QFileInfo(path).size() > MaxSize)
         (void)OwnFile::rename(path, DurableFile::stampedName(path, QStringLiteral("alt")));
-    if (!m_journal.open(path)) {
-        Q_EMIT q->problemOccurred(
-            MappingDocument::tr("Das Journal %1 kann nicht angelegt werden (%2). Nach einem "
-                                "Absturz wären die Änderungen verloren: bitte oft speichern.")
-                .arg(path, m_journal.errorText()));
-        return;
-    }
-    PJsonValue opened = record("opened");
-    const SessionOwner self = EditLock::self();
-    opened[QStringLiteral("user")] = PJsonValue(self.user);
-    opened[QStringLiteral("host")] = PJsonValue(self.host);
-    opened[QStringLiteral("program")] = PJsonValue(self.program);
-    opened[QStringLiteral("process")] = PJsonValue::fromInt(self.process);
-    opened[QStringLiteral("sourceDate")] = PJsonValue(release().getSourceDate());
-    opened[QStringLiteral("targetDate")] = PJsonValue(release().getTargetDate());
-    opened[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(m_known.hash));
-    m_journal.append(opened);
-    m_journal.sync();
+    if (!steps.openJournal(path, opening()))
+        tellJournal();
+}
+
+void MappingDocumentPrivate::tellJournal()
+{
+    Q_EMIT q->problemOccurred(
+        MappingDocument::tr("Das Journal %1 kann nicht angelegt werden (%2). Nach einem "
+                            "Absturz wären die Änderungen verloren: bitte oft speichern.")
+            .arg(steps.journal().path(), steps.journal().errorText()));
+}
+
+StepRecorder::Opening MappingDocumentPrivate::opening() const
+{
+    const ReleaseMappingC now = release();
+    return {now.getSourceDate(), now.getTargetDate(), file.known().hash};
 }
 
 void MappingDocumentPrivate::adoptRelease(const ReleaseMappingC &release)
 {
-    handler = std::make_shared<ReleaseMappingHandler>(release, rootName, file);
+    handler = std::make_shared<ReleaseMappingHandler>(release, rootName, file.path());
     counts = countLines(release);
 }
 
@@ -276,40 +230,26 @@ void MappingDocumentPrivate::close(bool tell)
 {
     if (!isOpen)
         return;
-    pending.depth = 0;
+    if (tell)
+        Q_EMIT q->aboutToClose();
+    steps.cutNesting();
     finishStep();
     m_turn.stop();
     m_autosaveTimer.stop();
-    if (m_journal.isOpen()) {
-        PJsonValue closed = record("closed");
-        closed[QStringLiteral("modified")] = PJsonValue::fromBool(isModified());
-        m_journal.append(closed);
-        m_journal.close();
-        OwnFile::remove(SessionRecovery::autosaveFile(file));
-    }
+    if (steps.closeJournal(isModified()))
+        file.removeAutosave();
     isOpen = false;
     m_refused = false;
     m_refusedProjects.clear();
     handler.reset();
     counts = LineCounts();
-    history.clear();
-    file.clear();
+    steps.reset();
     rootName.clear();
     roots = CatalogRoots();
-    readOnly = ReadOnlyReason::None;
-    m_lock.release();
+    file.leave();
     if (!tell)
         return;
     Q_EMIT q->closed();
     Q_EMIT q->undoChanged();
     tellModified();
-}
-
-PJsonValue MappingDocumentPrivate::record(const char *kind) const
-{
-    PJsonValue json(PJsonValue::Object);
-    json[QStringLiteral("kind")] = PJsonValue(QString::fromLatin1(kind));
-    json[QStringLiteral("time")] =
-        PJsonValue(QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
-    return json;
 }

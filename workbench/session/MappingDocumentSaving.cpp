@@ -1,154 +1,117 @@
+#include "CatalogRootMemory.h"
 #include "MappingDocumentPrivate.h"
 
-#include "GuardedSave.h"
-#include "SessionRecovery.h"
+#include <QScopeGuard>
 
-#include <core/json/PJsonValue.h>
-#include <geomcore/records/MappingFile.h>
-#include <mapping/data/ReleaseMappingHandler.h>
-
-#include <QFile>
+/// Why there is nothing that can be saved now.
+std::optional<SaveOutcome> MappingDocumentPrivate::refuseSaving() const
+{
+    SaveOutcome outcome;
+    outcome.result = SaveResult::ReadOnly;
+    if (!isOpen) {
+        outcome.text = MappingDocument::tr("Es ist keine Zuordnungsdatei geöffnet.");
+        return outcome;
+    }
+    if (m_saving) {
+        outcome.result = SaveResult::Busy;
+        outcome.text = MappingDocument::tr("Es wird gerade gespeichert.");
+        return outcome;
+    }
+    return std::nullopt;
+}
 
 SaveOutcome MappingDocumentPrivate::save(const SaveOptions &options)
 {
-    SaveOutcome outcome;
     finishStep();
-    if (!isOpen || readOnly != MappingDocument::ReadOnlyReason::None) {
+    if (const std::optional<SaveOutcome> refused = refuseSaving())
+        return *refused;
+    if (!file.isEditable()) {
+        SaveOutcome outcome;
         outcome.result = SaveResult::ReadOnly;
-        outcome.text = isOpen ? MappingDocument::tr("Es wurde nicht gespeichert. %1 Bitte unter "
-                                                    "einem anderen Namen speichern.")
-                                    .arg(q->readOnlyText())
-                              : MappingDocument::tr("Es ist keine Zuordnungsdatei geöffnet.");
+        outcome.text = MappingDocument::tr("Es wurde nicht gespeichert. %1 Bitte unter einem "
+                                           "anderen Namen speichern.")
+                           .arg(file.readOnlyText());
         return outcome;
     }
-    FileState state;
-    outcome = runGuarded(file, m_known, m_loaded, options, state);
+    m_saving = true;
+    const auto done = qScopeGuard([this] { m_saving = false; });
+    const SaveOutcome outcome = file.save(release(), rootName, options);
     if (outcome.result == SaveResult::Saved)
-        noteSaved(state);
+        noteSaved();
     return outcome;
-}
-
-/// Why a file that is not there yet, or is not open, cannot be written.
-QString MappingDocumentPrivate::lockText(const EditLock &lock, EditLock::Result result,
-                                         const QString &path)
-{
-    return result == EditLock::HeldByOther
-               ? MappingDocument::tr("%1 wird gerade von %2 bearbeitet. Es wurde nichts "
-                                     "geschrieben. Bitte einen anderen Namen wählen.")
-                     .arg(path, ownerText(lock.owner()))
-               : MappingDocument::tr("Im Ordner von %1 kann nichts angelegt werden. Es wurde "
-                                     "nichts geschrieben. Bitte einen anderen Ordner wählen.")
-                     .arg(path);
 }
 
 SaveOutcome MappingDocumentPrivate::saveAs(const QString &path, const SaveOptions &options)
 {
     const QString target = MappingDocument::canonicalPath(path);
-    if (isOpen && target == file && readOnly == MappingDocument::ReadOnlyReason::None)
+    if (isOpen && target == file.path() && file.isEditable())
         return save(options);
-    SaveOutcome outcome;
     finishStep();
-    EditLock lock;
-    const EditLock::Result taken = isOpen ? lock.take(target) : EditLock::NotWritable;
-    if (taken != EditLock::Taken) {
-        outcome.result =
-            taken == EditLock::HeldByOther ? SaveResult::Busy : SaveResult::WriteFailed;
-        outcome.text = lockText(lock, taken, target);
-        return outcome;
-    }
-    FileState state;
-    outcome = runGuarded(target, FileState::of(target), ReleaseMappingC(), options, state);
+    if (const std::optional<SaveOutcome> refused = refuseSaving())
+        return *refused;
+    m_saving = true;
+    const auto done = qScopeGuard([this] { m_saving = false; });
+    const QString former = file.path();
+    const SaveOutcome outcome = file.saveAs(target, release(), rootName, options);
     if (outcome.result != SaveResult::Saved)
         return outcome;
-    lock.release();
-    moveTo(target);
-    noteSaved(state);
-    return outcome;
-}
-
-/// Leaves the former file as it was saved last and goes on with another one.
-void MappingDocumentPrivate::moveTo(const QString &path)
-{
-    if (m_journal.isOpen()) {
-        m_journal.append(record("closed"));
-        m_journal.close();
-        OwnFile::remove(SessionRecovery::autosaveFile(file));
-    }
-    file = path;
-    takeLock(MappingDocument::Access::ReadWrite);
-    if (SessionRecovery(file).leftSomething())
-        (void)SessionRecovery::putAside(file);
-    m_known = FileState::of(file);
+    // The former file stays as it was saved last.
+    if (steps.closeJournal(true))
+        OwnFile::remove(SessionRecovery::autosaveFile(former));
+    if (SessionRecovery::mayHaveLeft(target) && SessionRecovery(target).leftSomething())
+        (void)SessionRecovery::putAside(target);
     beginJournal();
-    CatalogRootMemory(settings).remember(file, roots);
+    CatalogRootMemory(settings).remember(target, roots);
     startAutosave();
-}
-
-SaveOutcome MappingDocumentPrivate::runGuarded(const QString &path, const FileState &state,
-                                               const ReleaseMappingC &base,
-                                               const SaveOptions &options, FileState &saved)
-{
-    const ReleaseMappingC current = release();
-    GuardedSave guard(path, state, base);
-    const auto commit = [&](const QString &copy) {
-        return ReleaseMappingHandler(current, rootName, copy).commitModifications();
-    };
-    SaveOutcome outcome = guard.run(current, commit, options);
-    saved = guard.savedState();
+    noteSaved();
     return outcome;
 }
 
-void MappingDocumentPrivate::noteSaved(const FileState &state)
+void MappingDocumentPrivate::noteSaved()
 {
-    m_known = state;
-    m_loaded = release();
-    history.markClean();
-    PJsonValue json = record("saved");
-    json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
-    json[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(state.hash));
-    m_journal.append(json);
-    m_journal.sync();
-    OwnFile::remove(SessionRecovery::autosaveFile(file));
+    renewWhatIsGone();
+    steps.noteSaved(file.known().hash);
+    file.removeAutosave();
     tellModified();
     Q_EMIT q->saved();
 }
 
-QByteArray MappingDocumentPrivate::fileOf(const ReleaseMappingC &release)
+/// If the folder was deleted meanwhile, journal and lock went with it.
+void MappingDocumentPrivate::renewWhatIsGone()
 {
-    MappingFile file;
-    file.setRelease(release);
-    return file.toByteArray();
+    if (steps.isJournaling() && !steps.renewJournal(opening()))
+        tellJournal();
+    if (!file.renewLock())
+        Q_EMIT q->problemOccurred(
+            MappingDocument::tr("Die Sperre von %1 ist verloren und kann nicht erneuert werden. "
+                                "Andere könnten die Datei gleichzeitig bearbeiten.")
+                .arg(file.path()));
 }
 
 void MappingDocumentPrivate::startAutosave()
 {
     m_autosaveTimer.stop();
-    if (isOpen && readOnly == MappingDocument::ReadOnlyReason::None && autosaveSeconds > 0)
+    if (isOpen && file.isEditable() && autosaveSeconds > 0)
         m_autosaveTimer.start(autosaveSeconds * 1000);
 }
 
 void MappingDocumentPrivate::autosave()
 {
     finishStep();
-    if (!isModified() || readOnly != MappingDocument::ReadOnlyReason::None ||
-        m_autosavedStep == m_step + 1)
+    if (m_saving || !isModified() || !file.isEditable() || steps.isAutosaved())
         return;
-    const QString path = SessionRecovery::autosaveFile(file);
-    const QByteArray side = fileOf(release());
+    m_saving = true;
+    const auto done = qScopeGuard([this] { m_saving = false; });
     QString error;
-    if (!OwnFile::replace(path, side, &error)) {
+    const std::optional<QByteArray> hash = file.autosave(release(), &error);
+    if (!hash) {
         Q_EMIT q->problemOccurred(
             MappingDocument::tr("Die automatische Sicherung ist nicht gelungen (%1). Bitte bald "
                                 "speichern.")
                 .arg(error));
         return;
     }
-    m_autosavedStep = m_step + 1;
     lastAutosave = QDateTime::currentDateTimeUtc();
-    PJsonValue json = record("autosaved");
-    json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
-    json[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(FileState::hashOf(side)));
-    m_journal.append(json);
-    m_journal.sync();
-    Q_EMIT q->autosaved(path);
+    steps.noteAutosaved(*hash);
+    Q_EMIT q->autosaved(SessionRecovery::autosaveFile(file.path()));
 }

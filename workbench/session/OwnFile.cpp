@@ -194,6 +194,39 @@ bool OwnFile::sync(QFileDevice &file, QString *error)
     return syncDescriptor(file.handle()) || reportErrno(error);
 }
 
+int OwnFile::duplicate(const QFile &file)
+{
+    return ::fcntl(file.handle(), F_DUPFD_CLOEXEC, 0);
+}
+
+bool OwnFile::syncAndClose(int descriptor, QString *error)
+{
+    const bool synced = syncDescriptor(descriptor) || reportErrno(error);
+    ::close(descriptor);
+    return synced;
+}
+
+int OwnFile::nameCount(const QString &path)
+{
+    struct stat found
+    {
+    };
+    return ::stat(nativeName(path).constData(), &found) == 0 ? int(found.st_nlink) : 0;
+}
+
+bool OwnFile::isSame(const QString &path, const QString &other)
+{
+    struct stat one
+    {
+    };
+    struct stat two
+    {
+    };
+    return ::stat(nativeName(path).constData(), &one) == 0 &&
+           ::stat(nativeName(other).constData(), &two) == 0 && one.st_dev == two.st_dev &&
+           one.st_ino == two.st_ino;
+}
+
 bool OwnFile::syncPath(const QString &path, QString *error)
 {
     QFile file;
@@ -294,6 +327,7 @@ FileContent FileContent::of(const QString &path)
     if (!content.state.exists)
         return content;
     // Before reading: what changes meanwhile is a change.
+    content.stamp = OwnFile::stamp(path);
     content.state.time = QFileInfo(path).lastModified().toUTC();
     const std::optional<QByteArray> bytes = OwnFile::read(path, &content.error);
     if (!bytes)

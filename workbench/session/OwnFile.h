@@ -41,6 +41,13 @@ enum class Place {
 [[nodiscard]] std::optional<QByteArray> read(const QString &path, QString *error = nullptr);
 /// Has the system put onto the disk what it took. False with \a error if it refuses.
 [[nodiscard]] bool sync(QFileDevice &file, QString *error = nullptr);
+/// Another descriptor of the same file, and what it is for; any thread. -1 if there is none.
+[[nodiscard]] int duplicate(const QFile &file);
+[[nodiscard]] bool syncAndClose(int descriptor, QString *error = nullptr);
+/// Names that the file has in its file system; more than one are hard links.
+[[nodiscard]] int nameCount(const QString &path);
+/// Two names of one file.
+[[nodiscard]] bool isSame(const QString &path, const QString &other);
 /// The same for a file by its name.
 [[nodiscard]] bool syncPath(const QString &path, QString *error = nullptr);
 /// For the names in the folder that holds \a path. Some file systems cannot do that; the files
@@ -68,6 +75,7 @@ bool remove(const QString &path, QString *error = nullptr);
 struct FileContent
 {
     FileState state;
+    QByteArray stamp; ///< as it began to be read
     QByteArray bytes;
     QString error; ///< German; empty if it was read or is not there
 

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] const RecoveryOffer &offer() const { return m_offer; }
     /// German: what was noted and cannot be recovered; empty if nothing is missing.
     [[nodiscard]] const QString &damage() const { return m_damage; }
+    /// Of the mapping file.
+    [[nodiscard]] const FileState &savedState() const { return m_state; }
     [[nodiscard]] const ReleaseMappingC &savedRelease() const { return m_saved; }
     [[nodiscard]] const ReleaseMappingC &recoveredRelease() const { return m_best.release; }
     /// The same with the later changes that still fit, if offer() has them.

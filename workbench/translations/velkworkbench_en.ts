@@ -239,6 +239,73 @@
         <source>Öffnen</source>
         <translation>Open</translation>
     </message>
+    <message>
+        <source>Die Mapping-Datei wird gelesen</source>
+        <translation>Reading the mapping file</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>%1 wird gelesen</source>
+        <translation>Reading %1</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
+        <translation>The mapping file %1 cannot be read (%2).
+Please choose another file or copy the backup %3 back.</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+Bitte eine andere Datei wählen.</source>
+        <translation>The mapping file %1 cannot be read (%2).
+Please choose another file.</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand.</source>
+        <translation>%1 holds no release.</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand %2. Vorhanden sind: %3</source>
+        <translation>%1 holds no release %2. There are: %3</translation>
+    </message>
+    <message>
+        <source>%1 ist nur zum Lesen geöffnet.</source>
+        <translation>%1 is open for reading only.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet und ist deshalb nur zum Lesen geöffnet.</source>
+        <translation>%1 is being edited by %2 and therefore open for reading only.</translation>
+    </message>
+    <message>
+        <source>Der Ordner von %1 ist nicht beschreibbar (%2). Die Datei ist deshalb nur zum Lesen geöffnet; unter einem anderen Namen gespeichert lässt sie sich bearbeiten.</source>
+        <translation>The folder of %1 cannot be written (%2). The file is therefore open for reading only; saved under another name it can be edited.</translation>
+    </message>
+    <message>
+        <source>Zu %1 gibt es Arbeit, die nicht gespeichert wurde. Sie wird angeboten, sobald sich die Datei zum Bearbeiten öffnen lässt (%2).</source>
+        <translation>For %1 there is work that was not saved. It is offered as soon as the file can be opened for editing (%2).</translation>
+    </message>
+    <message>
+        <source>%1 hat noch einen anderen Namen (harter Link). Beim Speichern bleibt die Datei unter dem anderen Namen, wie sie war.</source>
+        <translation>%1 has another name, too (a hard link). When it is saved, the file of the other name stays as it was.</translation>
+    </message>
+    <message>
+        <source>%1 wird gespeichert</source>
+        <translation>Saving %1</translation>
+    </message>
+    <message>
+        <source>%1 wird gesichert</source>
+        <translation>Making a safety copy of %1</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet. Es wurde nichts geschrieben. Bitte einen anderen Namen wählen.</source>
+        <translation>%1 is being edited by %2. Nothing was written. Please choose another name.</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
+        <translation>Nothing can be made in the folder of %1 (%2). Nothing was written. Please choose another folder.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -604,26 +671,6 @@
 <context>
     <name>MappingDocument</name>
     <message>
-        <source>%1 enthält keinen Stand %2. Vorhanden sind: %3</source>
-        <translation>%1 holds no release %2. There are: %3</translation>
-    </message>
-    <message>
-        <source>%1 enthält keinen Stand.</source>
-        <translation>%1 holds no release.</translation>
-    </message>
-    <message>
-        <source>%1 ist nur zum Lesen geöffnet.</source>
-        <translation>%1 is open for reading only.</translation>
-    </message>
-    <message>
-        <source>%1 wird gerade von %2 bearbeitet und ist deshalb nur zum Lesen geöffnet.</source>
-        <translation>%1 is being edited by %2 and is therefore open for reading only.</translation>
-    </message>
-    <message>
-        <source>%1 wird gerade von %2 bearbeitet. Es wurde nichts geschrieben. Bitte einen anderen Namen wählen.</source>
-        <translation>%1 is being edited by %2. Nothing was written. Please choose another name.</translation>
-    </message>
-    <message>
         <source>Das Journal %1 kann nicht angelegt werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte oft speichern.</source>
         <translation>The journal %1 cannot be made (%2). After a crash the changes would be lost: please save often.</translation>
     </message>
@@ -632,22 +679,8 @@
         <translation>The journal %1 cannot be written (%2). After a crash the changes would be lost: please save soon.</translation>
     </message>
     <message>
-        <source>Der Ordner von %1 ist nicht beschreibbar. Die Datei ist deshalb nur zum Lesen geöffnet; unter einem anderen Namen gespeichert lässt sie sich bearbeiten.</source>
-        <translation>The folder of %1 cannot be written to. The file is therefore open for reading only; it can be edited once it is saved under another name.</translation>
-    </message>
-    <message>
-        <source>Der Stand %1 kann nicht gelesen werden. %2</source>
-        <translation>The release %1 cannot be read. %2</translation>
-    </message>
-    <message>
         <source>Der wiederhergestellte Stand kann nicht gesichert werden (%1). Bitte Platz schaffen und noch einmal öffnen; das Journal ist unverändert.</source>
         <translation>The recovered version cannot be stored (%1). Please make room and open the file again; the journal is unchanged.</translation>
-    </message>
-    <message>
-        <source>Die Zuordnungsdatei kann nicht gelesen werden. %1
-Bitte eine andere Datei wählen oder eine Sicherungskopie (%2) zurückkopieren.</source>
-        <translation>The mapping file cannot be read. %1
-Please choose another file or copy a backup (%2) back.</translation>
     </message>
     <message>
         <source>Die automatische Sicherung ist nicht gelungen (%1). Bitte bald speichern.</source>
@@ -666,10 +699,6 @@ Please choose another file or copy a backup (%2) back.</translation>
         <translation>Nothing was saved. %1 Please save under another name.</translation>
     </message>
     <message>
-        <source>Im Ordner von %1 kann nichts angelegt werden. Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
-        <translation>Nothing can be made in the folder of %1. Nothing was written. Please choose another folder.</translation>
-    </message>
-    <message>
         <source>Konflikte markiert</source>
         <translation>Marked conflicts</translation>
     </message>
@@ -684,6 +713,14 @@ Please choose another file or copy a backup (%2) back.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Redone: %1</translation>
+    </message>
+    <message>
+        <source>Es wird gerade gespeichert.</source>
+        <translation>Saving is going on.</translation>
+    </message>
+    <message>
+        <source>Die Sperre von %1 ist verloren und kann nicht erneuert werden. Andere könnten die Datei gleichzeitig bearbeiten.</source>
+        <translation>The lock of %1 is lost and cannot be renewed. Others might edit the file at the same time.</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,8 @@
 #include "WorkbenchSettings.h"
 
 #include <core/message/PMessage.h>
+#include <gui/progress/DefaultObserverDelegate.h>
+#include <workbench/session/BackgroundWork.h>
 
 #include <QFileInfo>
 #include <QInputDialog>
@@ -18,16 +20,15 @@ DocumentDesk::DocumentDesk(WorkbenchSettings *settings, QWidget *window)
     , m_window(window)
     , m_document(new MappingDocument(settings->store(), this))
 {
+    connect(m_document, &MappingDocument::aboutToClose, this, &DocumentDesk::aboutToClose);
+    connect(m_document, &MappingDocument::closed, this, [this] { m_root.reset(); });
 }
 
 DocumentDesk::~DocumentDesk() = default;
 
 bool DocumentDesk::open(const Wish &wish)
 {
-    if (!mayClose())
-        return false;
-    leave();
-    if (!openDocument(wish))
+    if (!mayClose() || !openDocument(wish))
         return false;
     if (!findRoots(wish)) {
         leave();
@@ -43,9 +44,9 @@ bool DocumentDesk::openByDialog()
     return !file.isEmpty() && open({.file = file});
 }
 
-QString DocumentDesk::chooseRelease(const QString &file) const
+std::optional<QString> DocumentDesk::chooseRelease(const FileContent &content) const
 {
-    const QStringList dates = MappingDocument::sourceDates(file);
+    const QStringList dates = MappingDocument::sourceDates(content);
     if (dates.size() < 2)
         return dates.value(0);
     QInputDialog dialog(m_window);
@@ -57,7 +58,9 @@ QString DocumentDesk::chooseRelease(const QString &file) const
     dialog.setTextValue(dates.last());
     dialog.setOkButtonText(tr("Öffnen"));
     dialog.setCancelButtonText(Question::cancelText());
-    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.textValue();
 }
 
 bool DocumentDesk::openDocument(const Wish &wish)
@@ -70,12 +73,22 @@ bool DocumentDesk::openDocument(const Wish &wish)
     if (!wish.mayAsk)
         request.recovery = MappingDocument::Recovery::UseSaved;
     if (wish.mayAsk && wish.release.isEmpty()) {
-        request.sourceDate = chooseRelease(request.mappingFile);
-        if (request.sourceDate.isEmpty() &&
-            MappingDocument::sourceDates(request.mappingFile).size() > 1)
+        const auto content = std::make_shared<FileContent>();
+        BackgroundWork::run(tr("Die Mapping-Datei wird gelesen"), [&] {
+            *content = FileContent::of(MappingDocument::canonicalPath(request.mappingFile));
+        });
+        request.content = content;
+        const std::optional<QString> date = chooseRelease(*request.content);
+        if (!date)
             return false;
+        request.sourceDate = *date;
     }
-    switch (m_document->open(request)) {
+    DefaultObserverDelegate display;
+    display.activate(PProgressObserverBase::Thread);
+    const MappingDocument::OpenResult result = m_document->open(request);
+    display.deactivate();
+    request.content.reset();
+    switch (result) {
     case MappingDocument::OpenResult::Opened:
         return true;
     case MappingDocument::OpenResult::OpenedReadOnly:
@@ -191,11 +204,7 @@ void DocumentDesk::setUp()
 
 void DocumentDesk::leave()
 {
-    if (!m_document->isOpen())
-        return;
-    Q_EMIT aboutToClose();
     m_document->close();
-    m_root.reset();
 }
 
 bool DocumentDesk::close()
@@ -266,7 +275,12 @@ bool DocumentDesk::maySave() const
 
 SaveOutcome DocumentDesk::write(const QString &file, const SaveOptions &options)
 {
-    return file.isEmpty() ? m_document->save(options) : m_document->saveAs(file, options);
+    DefaultObserverDelegate display;
+    display.activate(PProgressObserverBase::Thread);
+    const SaveOutcome outcome =
+        file.isEmpty() ? m_document->save(options) : m_document->saveAs(file, options);
+    display.deactivate();
+    return outcome;
 }
 
 bool DocumentDesk::finish(const SaveOutcome &outcome, const SaveOptions &options,

@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 class TargetRoot;
 class WorkbenchSettings;
@@ -69,7 +70,8 @@ private:
     /// False if the document could not be opened once more without the lock.
     [[nodiscard]] bool tellReadOnly(const MappingDocument::OpenRequest &request);
     [[nodiscard]] bool recover(MappingDocument::OpenRequest request);
-    [[nodiscard]] QString chooseRelease(const QString &file) const;
+    /// Nothing if the user called it off.
+    [[nodiscard]] std::optional<QString> chooseRelease(const FileContent &content) const;
     [[nodiscard]] bool findRoots(const Wish &wish);
     [[nodiscard]] bool showsProject(const CatalogRoots &roots) const;
     [[nodiscard]] bool finish(const SaveOutcome &outcome, const SaveOptions &options,

@@ -143,7 +143,7 @@ void MainWindow::onDocumentReady()
 void MainWindow::rememberPlace()
 {
     const MappingDocument *const document = m_desk->document();
-    if (!document->isOpen())
+    if (!document->isOpen() || !m_editor->isOpen())
         return;
     m_settings->setPlace(
         document->mappingFile(),

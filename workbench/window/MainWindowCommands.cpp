@@ -17,6 +17,7 @@
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/OpenLines.h>
+#include <workbench/session/SessionRecovery.h>
 #include <workbench/session/ValueRangeCheck.h>
 
 #include <QAction>
@@ -27,7 +28,8 @@
 void MainWindow::restoreSession()
 {
     const QString last = m_settings->sessionFile();
-    if (!last.isEmpty() && QFileInfo::exists(last)) {
+    // A new mapping that was never saved is there by what the crash left only.
+    if (!last.isEmpty() && (QFileInfo::exists(last) || SessionRecovery(last).leftSomething())) {
         m_desk->open({.file = last, .release = m_settings->place(last).sourceDate});
         return;
     }

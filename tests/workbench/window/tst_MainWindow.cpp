@@ -173,8 +173,8 @@ private Q_SLOTS:
         QTRY_COMPARE(countState(document), 1);
         QTRY_VERIFY(fixture.window->isWindowModified());
         QTRY_COMPARE(fixture.action("editUndo")->text(),
-                     "&Rückgängig: 1 Zeile bestätigt in " + path);
-        QTRY_COMPARE(fixture.window->status()->note(), "1 Zeile bestätigt in " + path);
+                     "&Rückgängig: Zeile 3 → 2 bestätigt in " + path);
+        QTRY_COMPARE(fixture.window->status()->note(), "Zeile 3 → 2 bestätigt in " + path);
         QVERIFY(fixture.window->status()
                     ->findChild<QLabel *>("statusNote")
                     ->text()
@@ -189,7 +189,7 @@ private Q_SLOTS:
         QTRY_COMPARE(fixture.action("editUndo")->text(), QStringLiteral("&Rückgängig"));
         QVERIFY(!fixture.action("editUndo")->isEnabled());
         QCOMPARE(fixture.action("editRedo")->text(),
-                 "&Wiederherstellen: 1 Zeile bestätigt in " + path);
+                 "&Wiederherstellen: Zeile 3 → 2 bestätigt in " + path);
         QCOMPARE(fixture.window->editor()->currentPath(), path);
         QCOMPARE(fixture.window->editor()->currentLine(), line);
         fixture.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
@@ -217,7 +217,7 @@ private Q_SLOTS:
         const OpenLines &open = fixture.window->lines()->openLines();
         LineRef expected = open.next({}).line;
         QStringList projects;
-        for (int i = 0; i < 60; ++i) {
+        for (int i = 0; i < 60 || (projects.size() < 2 && i < 900); ++i) {
             fixture.press(Qt::Key_F8);
             QCOMPARE(editor->currentPath(), expected.project.path);
             QCOMPARE(editor->currentLine(), expected.line);
@@ -363,7 +363,9 @@ private Q_SLOTS:
         fixture.open(fixture.mappingFile());
         MappingDocument &document = *fixture.window->desk()->document();
         QVERIFY(fixture.window->editor()->selectProject(din933));
-        const auto [name, rows] = filterByFirstValue(fixture);
+        const std::pair<QString, int> filter = filterByFirstValue(fixture);
+        const QString name = filter.first;
+        const int rows = filter.second;
         QVERIFY(rows > 0);
         const int all = fixture.window->editor()->sourceTable().getLineCount();
         QVERIFY(rows < all);
@@ -381,10 +383,13 @@ private Q_SLOTS:
         });
         fixture.action("linesConfirm")->trigger();
         QVERIFY(script.isDone());
-        QVERIFY2(script.texts.value(0).startsWith(QString::number(rows) + " Zeile"),
-                 qPrintable(script.texts.value(0)));
-        QTRY_COMPARE(countState(document), rows);
-        QVERIFY(fixture.window->status()->note().startsWith(QString::number(rows) + " Zeile"));
+        // Those without a target are left out.
+        const int confirmed = countState(document);
+        QVERIFY(confirmed > 0 && confirmed <= rows);
+        const QString begin = QString::number(confirmed) + " Zeilen bestätig";
+        QVERIFY2(script.texts.value(0).startsWith(begin), qPrintable(script.texts.value(0)));
+        QVERIFY2(fixture.window->status()->note().startsWith(begin),
+                 qPrintable(fixture.window->status()->note()));
     }
 
     void theNextOpenLineIsWithinTheFilter()

@@ -52,7 +52,7 @@ private Q_SLOTS:
                 source = xml.readElementText();
             if (xml.name() != QLatin1String("translation"))
                 continue;
-            const QString translation = xml.readElementText();
+            const QString translation = xml.readElementText(QXmlStreamReader::IncludeChildElements);
             ++texts;
             for (int i = 1; i < 10; ++i) {
                 const QString place = "%" + QString::number(i);
@@ -71,8 +71,9 @@ private Q_SLOTS:
         QTest::newRow("class") << QByteArray("MainWindow") << QByteArray("&Datei") << "&File";
         QTest::newRow("table") << QByteArray("WorkbenchActions") << QByteArray("&Aktualisieren")
                                << "&Refresh";
-        QTest::newRow("session") << QByteArray("StepSummary") << QByteArray("1 Zeile bestätigt")
-                                 << "1 line confirmed";
+        QTest::newRow("session") << QByteArray("StepSummary")
+                                 << QByteArray("Zeile %1 → %2 bestätigt")
+                                 << QString::fromUtf8("line %1 → %2 confirmed");
     }
     void textsAreFoundAtRunTime()
     {

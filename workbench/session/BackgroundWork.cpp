@@ -1,0 +1,52 @@
+#include "BackgroundWork.h"
+
+#include <core/progress/PProgress.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <chrono>
+#include <future>
+
+namespace {
+
+constexpr std::chrono::milliseconds Moment{50};
+
+/// Ends the loop when it goes, however the work ended.
+class LoopEnd
+{
+public:
+    explicit LoopEnd(QEventLoop &loop)
+        : m_loop(loop)
+    {
+    }
+    ~LoopEnd() { QMetaObject::invokeMethod(&m_loop, &QEventLoop::quit, Qt::QueuedConnection); }
+    LoopEnd(const LoopEnd &) = delete;
+    LoopEnd &operator=(const LoopEnd &) = delete;
+
+private:
+    QEventLoop &m_loop;
+};
+
+} // namespace
+
+void BackgroundWork::run(const QString &text, const std::function<void()> &work)
+{
+    if (!QCoreApplication::instance())
+        return work();
+    QEventLoop loop;
+    std::future<void> done = std::async(std::launch::async, [&] {
+        const LoopEnd end(loop);
+        work();
+    });
+    if (done.wait_for(Moment) != std::future_status::ready) {
+        PProgress progress(0, 0, 1, false, true);
+        progress.setText(text);
+        QTimer tick;
+        QObject::connect(&tick, &QTimer::timeout, &loop, [&progress] { progress.nextStep(); });
+        tick.start(Moment);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+    done.get();
+}

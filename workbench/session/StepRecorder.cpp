@@ -1,0 +1,255 @@
+#include "StepRecorder.h"
+
+#include "ReleaseChanges.h"
+#include "StepNotices.h"
+#include "StepSummary.h"
+
+#include <core/files/EditLock.h>
+#include <core/json/PJsonValue.h>
+
+#include <utility>
+
+namespace {
+
+QString nameOf(StepRecorder::Origin origin)
+{
+    switch (origin) {
+    case StepRecorder::Origin::Edit:
+        return QStringLiteral("edit");
+    case StepRecorder::Origin::Undo:
+        return QStringLiteral("undo");
+    case StepRecorder::Origin::Redo:
+        return QStringLiteral("redo");
+    case StepRecorder::Origin::Recovery:
+        break;
+    }
+    return QStringLiteral("recover");
+}
+
+} // namespace
+
+bool StepRecorder::openJournal(const QString &path, const Opening &opening)
+{
+    if (!m_journal.open(path))
+        return false;
+    writeOpening(opening);
+    return true;
+}
+
+bool StepRecorder::renewJournal(const Opening &opening)
+{
+    return m_journal.isInPlace() || openJournal(QString(m_journal.path()), opening);
+}
+
+void StepRecorder::writeOpening(const Opening &opening)
+{
+    PJsonValue opened = record("opened");
+    const SessionOwner self = EditLock::self();
+    opened[QStringLiteral("user")] = PJsonValue(self.user);
+    opened[QStringLiteral("host")] = PJsonValue(self.host);
+    opened[QStringLiteral("program")] = PJsonValue(self.program);
+    opened[QStringLiteral("process")] = PJsonValue::fromInt(self.process);
+    opened[QStringLiteral("sourceDate")] = PJsonValue(opening.sourceDate);
+    opened[QStringLiteral("targetDate")] = PJsonValue(opening.targetDate);
+    opened[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(opening.fileHash));
+    m_journal.append(opened);
+    m_journal.sync();
+}
+
+bool StepRecorder::closeJournal(bool modified)
+{
+    if (!m_journal.isOpen())
+        return false;
+    PJsonValue closed = record("closed");
+    closed[QStringLiteral("modified")] = PJsonValue::fromBool(modified);
+    m_journal.append(closed);
+    m_journal.close();
+    return true;
+}
+
+void StepRecorder::reset()
+{
+    m_history.clear();
+    m_pending = Pending();
+    m_step = 0;
+    m_autosaved.reset();
+}
+
+void StepRecorder::begin(const QString &text)
+{
+    if (m_pending.depth++ == 0)
+        m_pending.text = text;
+}
+
+bool StepRecorder::end()
+{
+    return m_pending.depth > 0 && --m_pending.depth == 0;
+}
+
+void StepRecorder::noteFirst()
+{
+    if (!std::exchange(m_pending.changed, true))
+        ++m_step;
+}
+
+void StepRecorder::note(const PrjMappingC &before, const PrjMappingC &after, bool byEditor)
+{
+    noteFirst();
+    journalDifference(before, after);
+    gather(before, after);
+    if (!byEditor)
+        m_pending.behindEditor.insert(ProjectId::of(after));
+}
+
+void StepRecorder::gather(const PrjMappingC &before, const PrjMappingC &after)
+{
+    const auto isOf = [&after](const MappingChangePair &change) {
+        return ProjectId::of(change.after) == ProjectId::of(after);
+    };
+    const QPair<QString, QString> key(after.getSourcePath(), after.getSourceVersion());
+    qsizetype at = m_pending.changes.size() - 1;
+    // Mostly one project is changed many times in a row.
+    if (at < 0 || !isOf(m_pending.changes[at]))
+        at = m_pending.index.value(key, -1);
+    if (at >= 0 && isOf(m_pending.changes[at])) {
+        m_pending.changes[at].after = after;
+        return;
+    }
+    m_pending.index.insert(key, m_pending.changes.size());
+    m_pending.changes.append({before, after});
+}
+
+void StepRecorder::noteRelease(const ReleaseMappingC &before, const ReleaseMappingC &after)
+{
+    noteFirst();
+    if (!m_pending.releaseBefore) {
+        // Single changes of the same step go into the replacement.
+        ReleaseMappingC first = before;
+        for (auto change = m_pending.changes.crbegin(); change != m_pending.changes.crend();
+             ++change) {
+            if (change->before.isValid())
+                first.addMapping(change->before);
+            else
+                first = withoutMapping(first, ProjectId::of(change->after));
+        }
+        m_pending.releaseBefore = first;
+    }
+    journalRelease(before, after);
+}
+
+StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now, bool onlyMarks)
+{
+    Finished result;
+    const Pending done = std::exchange(m_pending, Pending());
+    if (!done.changed)
+        return result;
+    for (const MappingChangePair &change : done.changes) {
+        const ProjectId project = ProjectId::of(change.after);
+        result.changed += project;
+        if (done.behindEditor.contains(project))
+            result.behindEditor += project;
+    }
+    if (summarise(done, now, result) || onlyMarks) {
+        result.kind = Finished::Kind::ConflictsMarked;
+        m_history.markDirty();
+        for (const MappingChangePair &change : done.changes)
+            m_history.markConflicts(change.after);
+    } else if (!result.step.changes.isEmpty() || result.step.releaseBefore) {
+        result.kind = Finished::Kind::Step;
+        journalStep(result.step.text, Origin::Edit);
+        m_history.push(result.step);
+    }
+    return result;
+}
+
+/// True if all that the changes do is to mark conflicts.
+bool StepRecorder::summarise(const Pending &done, const ReleaseMappingC &now,
+                             Finished &result) const
+{
+    UndoStep &step = result.step;
+    StepSummary summary;
+    bool onlyMarks = !done.releaseBefore && !done.changes.isEmpty();
+    const auto add = [&](const MappingDifference &difference) {
+        onlyMarks = onlyMarks && difference.onlyMarksConflicts();
+        if (!difference.isEmpty())
+            summary.add(difference);
+    };
+    if (done.releaseBefore) {
+        step.releaseBefore = done.releaseBefore;
+        step.releaseAfter = now;
+        for (const MappingDifference &difference : releaseDifferences(*done.releaseBefore, now))
+            add(difference);
+    }
+    for (const MappingChangePair &change : done.changes) {
+        if (done.releaseBefore)
+            break;
+        const MappingDifference difference =
+            MappingDifference::between(change.before, change.after);
+        result.notices += stepNotices(difference, change.after);
+        add(difference);
+        if (!difference.isEmpty())
+            step.changes.append(change);
+    }
+    step.lines = summary.lines();
+    step.text = done.text.isEmpty() ? summary.text() : done.text;
+    return onlyMarks;
+}
+
+void StepRecorder::journalDifference(const PrjMappingC &before, const PrjMappingC &after)
+{
+    const MappingDifference difference = MappingDifference::between(before, after);
+    if (!difference.isEmpty())
+        m_journal.append(difference, m_step);
+}
+
+void StepRecorder::journalRelease(const ReleaseMappingC &before, const ReleaseMappingC &after)
+{
+    for (const MappingDifference &difference : releaseDifferences(before, after))
+        m_journal.append(difference, m_step);
+    if (before.getTargetDate() == after.getTargetDate())
+        return;
+    PJsonValue json = record("targetDate");
+    json[QStringLiteral("before")] = PJsonValue(before.getTargetDate());
+    json[QStringLiteral("after")] = PJsonValue(after.getTargetDate());
+    m_journal.append(json);
+}
+
+void StepRecorder::journalStep(const QString &text, Origin origin)
+{
+    PJsonValue json = record("step");
+    json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
+    json[QStringLiteral("origin")] = PJsonValue(nameOf(origin));
+    json[QStringLiteral("text")] = PJsonValue(text);
+    m_journal.append(json);
+    m_journal.flush();
+}
+
+void StepRecorder::noteSaved(const QByteArray &fileHash)
+{
+    m_history.markClean();
+    noteFile("saved", fileHash);
+}
+
+void StepRecorder::noteAutosaved(const QByteArray &fileHash)
+{
+    m_autosaved = m_step;
+    noteFile("autosaved", fileHash);
+}
+
+void StepRecorder::noteFile(const char *kind, const QByteArray &fileHash)
+{
+    PJsonValue json = record(kind);
+    json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
+    json[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(fileHash));
+    m_journal.append(json);
+    m_journal.sync();
+}
+
+PJsonValue StepRecorder::record(const char *kind)
+{
+    PJsonValue json(PJsonValue::Object);
+    json[QStringLiteral("kind")] = PJsonValue(QString::fromLatin1(kind));
+    json[QStringLiteral("time")] =
+        PJsonValue(QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
+    return json;
+}
