@@ -7,7 +7,6 @@
 #include "TablePane.h"
 #include "TargetTableView.h"
 
-
 #include <core/config/PConfigService.h>
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>

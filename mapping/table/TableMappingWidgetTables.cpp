@@ -5,8 +5,8 @@
 #include "TablePane.h"
 #include "TargetTableView.h"
 
-#include <mapping/project/ProjectMappingWidget.h>
 #include <mapping/data/targetPath.h>
+#include <mapping/project/ProjectMappingWidget.h>
 
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>

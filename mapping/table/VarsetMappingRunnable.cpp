@@ -96,8 +96,7 @@ VKTab::ContentRef VarsetMappingRunnable::targetTable(const QString &storedPath)
 {
     if (const auto known = m_tables.constFind(storedPath); known != m_tables.cend())
         return *known;
-    const QString path =
-        targetPath(!m_task.targetFromRepository, storedPath);
+    const QString path = targetPath(!m_task.targetFromRepository, storedPath);
     VKTab::ContentRef table = VKTab::Content();
     (void)VKTab::readProjectTable(PPathName(path).native(), table);
     showHiddenColumns();

@@ -144,8 +144,7 @@ void tst_VelkmapProgram::unwritableOutput()
 {
     QFETCH(QString, arguments);
     for (const char *release : {"2025 --into old/bolts", "2026 --into new/bolts"})
-        QCOMPARE(velkmap(QString("import --from tables/%1").arg(release).split(' ')).status,
-                 0);
+        QCOMPARE(velkmap(QString("import --from tables/%1").arg(release).split(' ')).status, 0);
     QCOMPARE(velkmap({"create", "--source", "old", "--target", "new", "--catalog", "bolts",
                       "--mapping", "m.json"})
                  .status,
@@ -159,8 +158,7 @@ void tst_VelkmapProgram::unwritableOutput()
 void tst_VelkmapProgram::twoWriters()
 {
     for (const char *release : {"2025 --into old/bolts", "2026 --into new/bolts"})
-        QCOMPARE(velkmap(QString("import --from tables/%1").arg(release).split(' ')).status,
-                 0);
+        QCOMPARE(velkmap(QString("import --from tables/%1").arg(release).split(' ')).status, 0);
     for (int i = 0; i < 5; ++i) {
         const QString mapping = QString("m%1.json").arg(i);
         const QStringList dates{"2020-01-01", "2021-01-01"};
