@@ -6,6 +6,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QTest>
 
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void ownChoiceOfLines_data();
     void ownChoiceOfLines();
     void referenceFromTheRoot();
+    void rootFollowsFromTheCatalogPath();
     void takesOptions();
     void tellsOnce();
     void targetsDoNotLeadOutOfTheRoot();
@@ -123,6 +125,25 @@ void tst_readProjectTable::referenceFromTheRoot()
         catalog.file("cat/projects/a.prj"), table,
         {.catalogPath = QStringLiteral("cat/projects/a.prj"), .tells = false}));
     QCOMPARE(table.getLineIdList().size(), 1);
+}
+
+void tst_readProjectTable::rootFollowsFromTheCatalogPath()
+{
+    // Of a root that nobody made known, and with the catalog's name left out.
+    const QTemporaryDir dir;
+    QVERIFY(QDir(dir.path()).mkpath("base/dir") && QDir(dir.path()).mkpath("base/tables"));
+    const auto write = [&dir](const char *name, const QByteArray &bytes) {
+        QFile file(dir.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    };
+    QVERIFY(write("base/dir/a.prj", "[PROJECT]\nSACHM=../tables/a.json\n"));
+    QVERIFY(write("base/tables/a.json", "{\"fields\": []}"));
+    QVERIFY(write("base/tables/a.csv", "A\n1\n"));
+    const QString project = dir.filePath("base/dir/a.prj");
+    VKTab::Content table;
+    QVERIFY(!VKTab::readProjectTable(project, table, {.tells = false}));
+    QVERIFY(VKTab::readProjectTable(
+        project, table, {.catalogPath = QStringLiteral("cat/dir/a.prj"), .tells = false}));
 }
 
 void tst_readProjectTable::takesOptions()

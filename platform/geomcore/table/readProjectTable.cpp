@@ -5,14 +5,35 @@
 #include "makeSachmRelativeToCatalog.h"
 #include "Reader.h"
 #include "tellTableErrors.h"
+#include <geomcore/index/CatalogPlaces.h>
+
+#include <QDir>
 
 namespace VKTab {
+
+namespace {
+
+/// The root is what is left of the file's path before the part that it shares with the catalog
+/// path; hosts may leave out the first components of that.
+void addRootOf(const QString &file, const QString &catalogPath)
+{
+    QStringList root = QDir::fromNativeSeparators(file).split(u'/');
+    QStringList shared = QString(catalogPath).replace(u'\\', u'/').split(u'/', Qt::SkipEmptyParts);
+    while (root.size() > 2 && !shared.isEmpty() && root.last() == shared.takeLast())
+        root.removeLast();
+    if (root.first().isEmpty() && QDir::fromNativeSeparators(file) != root.join(u'/'))
+        CatalogPlaces::instance().addRoot(PPathName(root.join(u'/')));
+}
+
+} // namespace
 
 ProjectTable readProjectTable(const QString &nativeProjectPath, Content &content,
                               const ProjectTableOptions &options)
 {
     const bool keepsReference = !options.catalogPath.isEmpty();
     const refHandle<PrjClass> project(new PrjClass(keepsReference, false, false));
+    if (keepsReference)
+        addRootOf(nativeProjectPath, options.catalogPath);
     project->read(nativeProjectPath, PrjClass::ReadAll);
     if (keepsReference)
         makeSachmRelativeToCatalog(project, options.catalogPath);
