@@ -2,10 +2,12 @@
 #include "RecordSamples.h"
 
 #include <core/json/PJsonValue.h>
+#include <core/parallel/WorkerPool.h>
 #include <geomcore/records/MappingFile.h>
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -83,6 +85,36 @@ private Q_SLOTS:
         QVERIFY(!file.contains("2022"));
         QCOMPARE(file.release("2022").countMappings(), 0);
         QCOMPARE(file.toByteArray(), QByteArray("{}\n"));
+    }
+
+    // Large tables of lines are written in parts on several threads.
+    void sameBytesForAnyNumberOfThreads()
+    {
+        PrjMappingC mapping;
+        mapping.setSourcePath("cat/a.prj");
+        PrjMappingTargetC target;
+        target.setTargetPath("cat/b.prj");
+        for (int line = -5; line < 70000; line += line % 1000 == 3 ? 500 : 1)
+            target.addLineId(line, line % 7 == 0 ? -1 : 2 * line, PRJMAPPING::Mapped,
+                             line % 900 == 0 ? QStringLiteral("{A=1} -> 2\n") : QString());
+        target.setLineConflicted(17, true);
+        target.setLineConflicted(65000, true);
+        mapping.addTarget(target);
+        ReleaseMappingC release;
+        release.setSourceDate("2022");
+        release.addMapping(mapping);
+        MappingFile file;
+        file.setRelease(release);
+        const auto restore = qScopeGuard([] { WorkerPool::instance().setThreads(0); });
+        WorkerPool::instance().setThreads(1);
+        const QByteArray whole = file.toByteArray();
+        for (const int threads : {2, 3, 8}) {
+            WorkerPool::instance().setThreads(threads);
+            QVERIFY(file.toByteArray() == whole);
+        }
+        MappingFile read;
+        QVERIFY(read.parse(whole));
+        QCOMPARE(read.release("2022").mappingAt(0).targetAt(0).countLines(), target.countLines());
     }
 
     void readsEverything()

@@ -54,6 +54,7 @@ public:
 
     void lineFeed() { *reserve(1) = '\n', ++m_at; }
     [[nodiscard]] int level() const { return m_level; }
+    [[nodiscard]] Layout layout() const { return m_layout; }
     /// Bytes that came together up to now.
     [[nodiscard]] qsizetype size() const { return m_handedOn + pending(); }
     /// The text that was collected; the writer is empty afterwards.

@@ -4,10 +4,18 @@
 
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
+#include <core/parallel/WorkerPool.h>
 #include <geomcore/binding/VarsetConditionI.h>
 #include <geomcore/binding/VarsetModifierI.h>
 
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
 namespace {
+
+/// As many rows as a thread writes in one go.
+constexpr int LinesAPart = 16384;
 
 void writeText(JsonWriter &writer, std::string_view name, const QString &text)
 {
@@ -36,11 +44,9 @@ void writeModifiers(JsonWriter &writer, const PrjMappingTargetC &target)
     writer.endArray();
 }
 
-void writeLines(JsonWriter &writer, const LineTable &lines)
+void writeRows(JsonWriter &writer, LineTable::Iterator line, const LineTable::Iterator &end)
 {
-    writer.key("lines");
-    writer.beginArray();
-    for (const LineTable::Iterator &line : lines) {
+    for (; line != end; ++line) {
         const ExtendedText *extended = line.extended();
         if (!extended && !line.conflict()) {
             writer.row({line.sourceLine(), line.targetLine(), int(line.state())});
@@ -55,6 +61,46 @@ void writeLines(JsonWriter &writer, const LineTable &lines)
             writer.value(true);
         writer.endArray();
     }
+}
+
+/// Where the \a part-th of \a count parts begins; parts are alike in ids.
+LineTable::Iterator beginOfPart(const LineTable &lines, int part, int count)
+{
+    if (part == count)
+        return lines.end();
+    const qint64 first = lines.begin().sourceLine();
+    const qint64 last = std::prev(lines.end()).sourceLine();
+    return lines.lowerBound(int(first + (last - first + 1) * part / count));
+}
+
+/// Some parts at once, in memory; the result is the same as row by row.
+void writeInParts(JsonWriter &writer, const LineTable &lines)
+{
+    const int parts = lines.counts().lines() / LinesAPart;
+    const int atOnce = WorkerPool::instance().threads() * 2;
+    for (int from = 0; from < parts; from += atOnce) {
+        std::vector<QByteArray> texts(std::size_t(std::min(atOnce, parts - from)));
+        WorkerPool::instance().run(int(texts.size()), [&](int i) {
+            JsonWriter part(writer.layout(), writer.level());
+            writeRows(part, beginOfPart(lines, from + i, parts),
+                      beginOfPart(lines, from + i + 1, parts));
+            texts[std::size_t(i)] = part.take();
+        });
+        for (const QByteArray &text : texts) {
+            if (!text.isEmpty())
+                writer.written(text);
+        }
+    }
+}
+
+void writeLines(JsonWriter &writer, const LineTable &lines)
+{
+    writer.key("lines");
+    writer.beginArray();
+    if (lines.counts().lines() < 2 * LinesAPart || WorkerPool::instance().threads() < 2)
+        writeRows(writer, lines.begin(), lines.end());
+    else
+        writeInParts(writer, lines);
     writer.endArray();
 }
 
