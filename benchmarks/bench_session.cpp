@@ -69,8 +69,9 @@ void bulkConfirm(benchmark::State &state)
     std::iota(lines.begin(), lines.end(), 1);
     int changed = 0;
     for (auto _ : state) {
-        changed =
-            BulkOperation(session.document, session.project, lines).run(BulkOperation::Confirm);
+        changed = BulkOperation(session.document, session.project, lines)
+                      .run(BulkOperation::Confirm)
+                      .lines;
         state.PauseTiming();
         session.document.undo();
         state.ResumeTiming();

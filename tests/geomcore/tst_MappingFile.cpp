@@ -94,7 +94,7 @@ private Q_SLOTS:
         mapping.setSourcePath("cat/a.prj");
         PrjMappingTargetC target;
         target.setTargetPath("cat/b.prj");
-        for (int line = -5; line < 70000; line += line % 1000 == 3 ? 500 : 1)
+        for (int line = 0; line < 70000; line += line % 1000 == 3 ? 500 : 1)
             target.addLineId(line, line % 7 == 0 ? -1 : 2 * line, PRJMAPPING::Mapped,
                              line % 900 == 0 ? QStringLiteral("{A=1} -> 2\n") : QString());
         target.setLineConflicted(17, true);
