@@ -121,7 +121,7 @@ private:
     void writeLongTable() const
     {
         QByteArray lines = "D,L:r\n";
-        for (int i = 0; i < 3000; ++i)
+        for (int i = 0; i < 15000; ++i)
             lines += "M8,10;20\n";
         f->catalog.write("old/a.prj", lines);
     }
