@@ -22,6 +22,19 @@ using Origin = VKTab::BoundModifiers::Origin;
 
 namespace {
 
+/// The first cells of a row; kept from row to row for its room.
+struct SplitRow
+{
+    void split(const VKTab::TableData &table, int row, size_t width)
+    {
+        cells.resize(width);
+        table.firstCells(row, cells, scratch);
+    }
+
+    std::vector<std::string_view> cells;
+    std::string scratch;
+};
+
 /// Equal rows that are looked through for one with the same ranges.
 constexpr int MaxEqual = 64;
 
@@ -147,11 +160,19 @@ bool BoundTarget::hasSameTexts(int sourceRow, int row) const
     const VKTab::TableData &target = m_table->data();
     if (m_sameColumns && source.rawRow(sourceRow) == target.rawRow(row))
         return true;
-    std::string sourceScratch;
-    std::string targetScratch;
+    thread_local SplitRow ours;
+    thread_local SplitRow theirs;
+    size_t width = 0;
+    size_t otherWidth = 0;
+    for (const TextPair &pair : m_textPairs) {
+        width = std::max(width, size_t(pair.sourceColumn) + 1);
+        otherWidth = std::max(otherWidth, size_t(pair.targetColumn) + 1);
+    }
+    ours.split(source, sourceRow, width);
+    theirs.split(target, row, otherWidth);
     return std::all_of(m_textPairs.begin(), m_textPairs.end(), [&](const TextPair &pair) {
-        const auto text = source.cell(sourceRow, pair.sourceColumn, sourceScratch);
-        const auto other = target.cell(row, pair.targetColumn, targetScratch);
+        const auto text = ours.cells[size_t(pair.sourceColumn)];
+        const auto other = theirs.cells[size_t(pair.targetColumn)];
         return VKTab::trimmedCell(text) == VKTab::trimmedCell(other) ||
                (source.isMissing(text) && target.isMissing(other));
     });
