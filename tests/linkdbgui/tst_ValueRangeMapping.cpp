@@ -49,15 +49,17 @@ void whenOpen(const std::function<void(Dialog &)> &work)
 void whenRunning(const std::function<void()> &work)
 {
     auto *const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, work, seen = false]() mutable {
-        if (QApplication::activeModalWidget()) {
-            seen = true;
-        } else if (seen) {
-            timer->deleteLater();
-            timer->stop();
-            work();
-        }
-    });
+    // A closed dialog may let the timer run out once more before the run begins.
+    QObject::connect(timer, &QTimer::timeout, timer,
+                     [timer, work, seen = false, times = 0]() mutable {
+                         if (QApplication::activeModalWidget()) {
+                             seen = true;
+                         } else if (seen && ++times == 2) {
+                             timer->deleteLater();
+                             timer->stop();
+                             work();
+                         }
+                     });
     timer->start(1);
 }
 
