@@ -149,7 +149,8 @@ void TableMappingWidgetPrivate::onCreateConditionClicked()
 
 bool TableMappingWidgetPrivate::confirmsValueRangeRun() const
 {
-    return PMessage::Show(valueRangeWarning, PMsgDlgMode::OkCancel) != PMsgReply::Cancel;
+    const QString warning = valueRangeWarning; // the widget may go while the question is open
+    return PMessage::Show(warning, PMsgDlgMode::OkCancel) != PMsgReply::Cancel;
 }
 
 QStringList TableMappingWidgetPrivate::chooseRangeVariables()
