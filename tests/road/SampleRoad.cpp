@@ -6,7 +6,6 @@
 #include <tools/velkmap/Commands.h>
 
 #include <QDir>
-#include <QFileInfo>
 #include <QTextStream>
 
 namespace {
@@ -34,8 +33,7 @@ QString import(const QString &tables, const QString &root, const QString &date)
 
 QString SampleRoad::workTemplate()
 {
-    const QFileInfo memory("/dev/shm");
-    return (memory.isWritable() ? memory.filePath() : QDir::tempPath()) + "/velkroad-XXXXXX";
+    return QDir::tempPath() + "/velkroad-XXXXXX";
 }
 
 SampleRoad SampleRoad::run(const QString &oldTables, const QString &newTables, Columns columns,

@@ -16,8 +16,7 @@ struct SampleRoad
     /// releases are named "catalog".
     [[nodiscard]] static SampleRoad run(const QString &oldTables, const QString &newTables,
                                         Columns columns, const QString &workDirectory);
-    /// Template for a QTemporaryDir, in memory where the system offers that: an import makes a
-    /// thousand small files and waits for the disk after each.
+    /// Template for a QTemporaryDir in the folder for temporary files.
     [[nodiscard]] static QString workTemplate();
 
     /// create and assign for catalogs at hand.
