@@ -1,4 +1,3 @@
 #pragma once
 
-#include <QtCore/QtCore>
 #include <QtTest/QtTest>

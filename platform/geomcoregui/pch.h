@@ -1,4 +1,0 @@
-#pragma once
-
-#include <QtCore/QtCore>
-#include <QtWidgets/QtWidgets>
