@@ -16,6 +16,7 @@ struct IndexTreeC::Private
     bool isProcessTree = false;
     mutable std::mutex lock;
     PPathName root;
+    std::shared_ptr<IndexTreeErpSourceI> erpSource;
     IndexTreeIconTableC icons;
 };
 
@@ -70,6 +71,38 @@ PPathName IndexTreeC::compatiblePathToResolvedPath(const PPathName &path) const
     // A stored path may begin with a separator; only what is there is taken as absolute.
     const bool absolute = path.isAbsolute() && path.exists(false) && !joined.exists(false);
     return absolute ? path : joined;
+}
+
+PRefPtr<IndexTreeNodeC> IndexTreeC::getRoot() const
+{
+    return new IndexTreeNodeC(catalogRoot(), {}, IndexTreeNodeC::Root);
+}
+
+PRefPtr<IndexTreeNodeC> IndexTreeC::findNodeByTreePath(const PString &treePath,
+                                                       const PString &pathBelow) const
+{
+    QStringList names = treePath.split(u'/', Qt::SkipEmptyParts);
+    if (names.isEmpty() || names.takeFirst() != u"cat")
+        return nullptr;
+    PRefPtr<IndexTreeNodeC> node = getRoot();
+    for (const QString &name : names + pathBelow.split(u'/', Qt::SkipEmptyParts)) {
+        node = node->child(name);
+        if (!node)
+            return nullptr;
+    }
+    return node;
+}
+
+void IndexTreeC::setErpSource(const std::shared_ptr<IndexTreeErpSourceI> &source)
+{
+    const std::scoped_lock guard(d->lock);
+    d->erpSource = source;
+}
+
+std::shared_ptr<IndexTreeErpSourceI> IndexTreeC::erpSource() const
+{
+    const std::scoped_lock guard(d->lock);
+    return d->erpSource;
 }
 
 const IndexTreeIconTableC &IndexTreeC::getIconTable() const

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "IndexTreeIconTableC.h"
+#include "IndexTreeNodeC.h"
 
 #include <core/text/PPathName.h>
 #include <core/text/PRefPtr.h>
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <memory>
+
+class IndexTreeErpSourceI;
 
 /// The catalogs below one root directory. Every operation may be called on any thread unless
 /// it says otherwise.
@@ -32,6 +35,17 @@ public:
     /// paths that begin with a reference and addresses come back as they are; an empty path stays
     /// empty. Whether the file exists is the caller's to ask.
     [[nodiscard]] PPathName compatiblePathToResolvedPath(const PPathName &path) const;
+
+    /// The node above all catalogs; it is there whether the catalog root is or not.
+    [[nodiscard]] PRefPtr<IndexTreeNodeC> getRoot() const;
+    /// The node of a tree path, "cat/catalog/folder/name.prj", or of \a pathBelow as seen from it;
+    /// null if there is none. "cat" is the root. Components "." and ".." are no names.
+    [[nodiscard]] PRefPtr<IndexTreeNodeC> findNodeByTreePath(const PString &treePath,
+                                                             const PString &pathBelow) const;
+
+    /// Who knows the projects with an ERP mark; null, as at first, if nobody does. GUI thread.
+    void setErpSource(const std::shared_ptr<IndexTreeErpSourceI> &source);
+    [[nodiscard]] std::shared_ptr<IndexTreeErpSourceI> erpSource() const;
 
     /// Icons of the tree's nodes; GUI thread only. Lives as long as the tree.
     [[nodiscard]] const IndexTreeIconTableC &getIconTable() const;

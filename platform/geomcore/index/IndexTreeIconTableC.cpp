@@ -6,7 +6,8 @@
 
 IndexTreeIconTableC::IndexTreeIconTableC()
     : m_items{{"DIRECTORY/", QIcon(new NodeIconEngine(NodeIconEngine::Directory))},
-              {"VIEW3D/", QIcon(new NodeIconEngine(NodeIconEngine::Project))}}
+              {"VIEW3D/", QIcon(new NodeIconEngine(NodeIconEngine::Project))},
+              {"VIEW3D/ERP/", QIcon(new NodeIconEngine(NodeIconEngine::ErpProject))}}
 {
 }
 

@@ -6,7 +6,8 @@
 
 #include <vector>
 
-/// The icons of the index tree's nodes: "DIRECTORY/" for directories and "VIEW3D/" for projects.
+/// The icons of the index tree's nodes: "DIRECTORY/" for directories, "VIEW3D/" for projects and
+/// "VIEW3D/ERP/" for projects that the ERP knows.
 /// Making one needs no application, drawing its icons does; GUI thread only.
 class VELKGEOMCORE_EXPORT IndexTreeIconTableC
 {

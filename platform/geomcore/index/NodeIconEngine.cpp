@@ -15,6 +15,8 @@ constexpr QColor PartLine(0x2f, 0x73, 0xb5);
 constexpr QColor PartTop(0xb9, 0xdc, 0xf8);
 constexpr QColor PartLeft(0x7f, 0xb8, 0xea);
 constexpr QColor PartRight(0x55, 0x98, 0xd6);
+constexpr QColor MarkLine(0x1d, 0x6b, 0x2a);
+constexpr QColor MarkFill(0x4c, 0xb8, 0x5c);
 
 void drawShape(QPainter &painter, const QColor &fill, const QPolygonF &shape)
 {
@@ -43,6 +45,14 @@ void drawPart(QPainter &painter)
     drawShape(painter, PartRight, {middle, {14, 4.5}, {14, 11.5}, {8, 14.5}});
 }
 
+/// In the lower right corner.
+void drawErpMark(QPainter &painter)
+{
+    painter.setPen(QPen(MarkLine, 1));
+    painter.setBrush(MarkFill);
+    painter.drawEllipse(QPointF(12, 12), 3.2, 3.2);
+}
+
 } // namespace
 
 NodeIconEngine::NodeIconEngine(Kind kind)
@@ -66,6 +76,8 @@ void NodeIconEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode mod
         drawFolder(*painter, state == QIcon::On);
     else
         drawPart(*painter);
+    if (m_kind == ErpProject)
+        drawErpMark(*painter);
     painter->restore();
 }
 

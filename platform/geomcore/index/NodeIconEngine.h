@@ -6,7 +6,7 @@
 class NodeIconEngine : public QIconEngine
 {
 public:
-    enum Kind { Directory, Project };
+    enum Kind { Directory, Project, ErpProject };
 
     explicit NodeIconEngine(Kind kind);
     ~NodeIconEngine() override;

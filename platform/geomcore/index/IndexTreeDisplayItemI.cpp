@@ -1,0 +1,3 @@
+#include "IndexTreeDisplayItemI.h"
+
+IndexTreeDisplayItemI::~IndexTreeDisplayItemI() = default;

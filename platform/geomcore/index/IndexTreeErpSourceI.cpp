@@ -1,0 +1,3 @@
+#include "IndexTreeErpSourceI.h"
+
+IndexTreeErpSourceI::~IndexTreeErpSourceI() = default;

@@ -1,0 +1,8 @@
+#include "IndexTreeBaseSearchC.h"
+
+IndexTreeBaseSearchC::IndexTreeBaseSearchC(const PRefPtr<IndexTreeC> &tree)
+    : m_tree(tree)
+{
+}
+
+IndexTreeBaseSearchC::~IndexTreeBaseSearchC() = default;
