@@ -20,6 +20,10 @@
         <translation>Filtr</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funkce</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Hledat v tabulce</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopírovat</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logika</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Nenalezeno</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Další výskyt (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operátory</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Zobrazí řádky, jejichž hodnota obsahuje text. S =, &lt;, &lt;=, &gt; nebo &gt;= na začátku se porovnává.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Přiřazení proměnné cílové tabulky</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>platí obě porovnání</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>porovnání neplatí</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>platí jedno z porovnání</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>děleno</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>rovno</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>větší než</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>větší nebo rovno</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>na</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>menší než</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>menší nebo rovno</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>krát</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>nerovno</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funktioner</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Søg i tabellen</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopiér</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logik</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Ikke fundet</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Næste forekomst (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operatorer</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Viser linjer, hvis værdi indeholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes der.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Tildeling til en variabel i måltabellen</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>begge sammenligninger gælder</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>sammenligningen gælder ikke</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>en af sammenligningerne gælder</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>divideret med</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>lig med</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>større end</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>større end eller lig med</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>opløftet i</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>mindre end</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>mindre end eller lig med</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>gange</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>forskellig fra</translation>
     </message>
 </context>
 </TS>

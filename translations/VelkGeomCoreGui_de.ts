@@ -20,6 +20,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funktionen</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>In der Tabelle suchen</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopieren</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logik</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Nicht gefunden</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Nächste Fundstelle (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operatoren</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Zuweisung an eine Variable der Zieltabelle</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>beide Vergleiche gelten</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>der Vergleich gilt nicht</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>einer der Vergleiche gilt</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>geteilt durch</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>größer</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>größer oder gleich</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>hoch</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>kleiner</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>kleiner oder gleich</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>mal</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>ungleich</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Functions</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Find in table</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Copy</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logic</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Not found</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Next match (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operators</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Shows lines whose value contains the text. With =, &lt;, &lt;=, &gt; or &gt;= in front it is compared.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Assignment to a variable of the target table</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>both comparisons hold</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>the comparison does not hold</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>one of the comparisons holds</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>divided by</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>equal to</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>greater than</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>greater than or equal to</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>to the power of</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>less than</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>less than or equal to</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>times</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>not equal to</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Filtro</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funciones</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Buscar en la tabla</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Copiar</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Lógica</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>No encontrado</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Resultado siguiente (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operadores</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Muestra las líneas cuyo valor contiene el texto. Con =, &lt;, &lt;=, &gt; o &gt;= delante se compara.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Asignación a una variable de la tabla de destino</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>se cumplen ambas comparaciones</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>la comparación no se cumple</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>se cumple una de las comparaciones</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>dividido por</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>igual a</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>mayor que</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>mayor o igual que</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>elevado a</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>menor que</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>menor o igual que</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>por</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>menos</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>más</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>distinto de</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Suodatin</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funktiot</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Etsi taulukosta</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopioi</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logiikka</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Ei löytynyt</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Seuraava osuma (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operaattorit</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Näyttää rivit, joiden arvo sisältää tekstin. Kun edessä on =, &lt;, &lt;=, &gt; tai &gt;=, arvoa verrataan.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Sijoitus kohdetaulukon muuttujaan</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>molemmat vertailut pätevät</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>vertailu ei päde</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>jokin vertailuista pätee</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>jaettuna</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>yhtä suuri kuin</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>suurempi kuin</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>suurempi tai yhtä suuri</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>potenssiin</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>pienempi kuin</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>pienempi tai yhtä suuri</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>kertaa</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>miinus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>eri suuri kuin</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Saringan</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Fungsi</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Cari di tabel</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Salin</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logika</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Tidak ditemukan</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Temuan berikutnya (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operator</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Menampilkan baris yang nilainya memuat teks. Dengan =, &lt;, &lt;=, &gt; atau &gt;= di depan, nilai dibandingkan.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Penetapan ke variabel tabel target</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>kedua perbandingan berlaku</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>perbandingan tidak berlaku</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>salah satu perbandingan berlaku</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>dibagi</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>sama dengan</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>lebih besar dari</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>lebih besar atau sama dengan</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>pangkat</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>lebih kecil dari</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>lebih kecil atau sama dengan</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>kali</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>kurang</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>tambah</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>tidak sama dengan</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Filtro</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funzioni</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Cercare nella tabella</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Copia</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logica</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Non trovato</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Risultato successivo (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operatori</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Mostra le righe il cui valore contiene il testo. Con =, &lt;, &lt;=, &gt; o &gt;= davanti viene confrontato.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Assegnazione a una variabile della tabella di destinazione</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>valgono entrambi i confronti</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>il confronto non vale</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>vale uno dei confronti</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>diviso</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>uguale a</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>maggiore di</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>maggiore o uguale a</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>elevato a</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>minore di</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>minore o uguale a</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>per</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>meno</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>più</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>diverso da</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>フィルター</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>関数</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>テーブル内を検索</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>コピー</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>論理</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>見つかりません</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>次の一致 (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>演算子</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>値にテキストを含む行を表示します。先頭に =、&lt;、&lt;=、&gt;、&gt;= を付けると比較します。</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>対象テーブルの変数への代入</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>両方の比較が成り立つ</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>比較が成り立たない</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>比較のどちらかが成り立つ</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>割る</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>等しい</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>より大きい</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>以上</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>べき乗</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>より小さい</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>以下</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>掛ける</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>引く</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>足す</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>等しくない</translation>
     </message>
 </context>
 </TS>

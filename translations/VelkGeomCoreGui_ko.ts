@@ -20,6 +20,10 @@
         <translation>필터</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>함수</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>테이블에서 찾기</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>복사</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>논리</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>찾을 수 없음</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>다음 찾기 (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>연산자</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>값에 텍스트가 들어 있는 행을 표시합니다. 앞에 =, &lt;, &lt;=, &gt; 또는 &gt;=를 쓰면 비교합니다.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>대상 테이블 변수에 할당</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>두 비교가 모두 성립</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>비교가 성립하지 않음</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>비교 중 하나가 성립</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>나누기</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>같음</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>보다 큼</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>크거나 같음</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>거듭제곱</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>보다 작음</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>작거나 같음</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>곱하기</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>빼기</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>더하기</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>같지 않음</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funksjoner</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Søk i tabellen</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopier</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logikk</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Ikke funnet</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Neste treff (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operatorer</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Viser linjer der verdien inneholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes det.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Tildeling til en variabel i måltabellen</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>begge sammenligninger gjelder</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>sammenligningen gjelder ikke</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>en av sammenligningene gjelder</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>delt på</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>lik</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>større enn</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>større enn eller lik</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>opphøyd i</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>mindre enn</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>mindre enn eller lik</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>ganger</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>pluss</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>ulik</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Filtr</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funkcje</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Szukaj w tabeli</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopiuj</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logika</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Nie znaleziono</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Następne wystąpienie (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operatory</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Pokazuje wiersze, których wartość zawiera tekst. Z =, &lt;, &lt;=, &gt; lub &gt;= na początku następuje porównanie.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Przypisanie do zmiennej tabeli docelowej</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>oba porównania są spełnione</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>porównanie nie jest spełnione</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>jedno z porównań jest spełnione</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>podzielone przez</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>równe</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>większe niż</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>większe lub równe</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>do potęgi</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>mniejsze niż</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>mniejsze lub równe</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>razy</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>różne</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Filtro</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funções</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Procurar na tabela</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Copiar</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Lógica</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Não encontrado</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Ocorrência seguinte (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operadores</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Mostra linhas cujo valor contém o texto. Com =, &lt;, &lt;=, &gt; ou &gt;= antes, é comparado.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Atribuição a uma variável da tabela de destino</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>ambas as comparações são válidas</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>a comparação não é válida</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>uma das comparações é válida</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>dividido por</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>igual a</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>maior que</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>maior ou igual a</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>elevado a</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>menor que</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>menor ou igual a</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>vezes</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>menos</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>mais</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>diferente de</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Фильтр</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Функции</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Найти в таблице</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Копировать</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Логика</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Не найдено</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Следующее совпадение (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Операторы</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Показывает строки, значение которых содержит текст. С =, &lt;, &lt;=, &gt; или &gt;= впереди выполняется сравнение.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Присваивание переменной целевой таблицы</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>верны оба сравнения</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>сравнение неверно</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>верно одно из сравнений</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>разделить на</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>равно</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>больше</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>больше или равно</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>в степени</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>меньше</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>меньше или равно</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>умножить на</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>минус</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>плюс</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>не равно</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funkcije</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Išči v tabeli</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopiraj</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logika</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Ni najdeno</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Naslednji zadetek (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operatorji</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Prikaže vrstice, katerih vrednost vsebuje besedilo. Z =, &lt;, &lt;=, &gt; ali &gt;= na začetku se primerja.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Prireditev spremenljivki ciljne tabele</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>veljata obe primerjavi</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>primerjava ne velja</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>velja ena od primerjav</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>deljeno z</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>enako</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>večje kot</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>večje ali enako</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>na potenco</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>manjše kot</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>manjše ali enako</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>krat</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>ni enako</translation>
     </message>
 </context>
 </TS>

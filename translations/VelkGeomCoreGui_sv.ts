@@ -20,6 +20,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>Funktioner</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Sök i tabellen</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopiera</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Logik</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Hittades inte</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Nästa träff (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>Operatorer</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Visar rader vars värde innehåller texten. Med =, &lt;, &lt;=, &gt; eller &gt;= framför jämförs det.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Tilldelning till en variabel i måltabellen</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>båda jämförelserna gäller</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>jämförelsen gäller inte</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>en av jämförelserna gäller</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>delat med</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>lika med</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>större än</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>större än eller lika med</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>upphöjt till</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>mindre än</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>mindre än eller lika med</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>gånger</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>skild från</translation>
     </message>
 </context>
 </TS>

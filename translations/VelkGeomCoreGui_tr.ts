@@ -20,6 +20,10 @@
         <translation>Süzgeç</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>İşlevler</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Tabloda ara</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>Kopyala</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>Mantık</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Bulunamadı</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>Sonraki eşleşme (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>İşleçler</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>Değeri metni içeren satırları gösterir. Başında =, &lt;, &lt;=, &gt; veya &gt;= varsa karşılaştırılır.</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>Hedef tablonun bir değişkenine atama</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>iki karşılaştırma da geçerli</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>karşılaştırma geçerli değil</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>karşılaştırmalardan biri geçerli</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>bölü</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>eşit</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>büyük</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>büyük veya eşit</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>üssü</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>küçük</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>küçük veya eşit</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>çarpı</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>eksi</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>artı</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>eşit değil</translation>
     </message>
 </context>
 </TS>

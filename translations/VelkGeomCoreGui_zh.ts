@@ -20,6 +20,10 @@
         <translation>筛选</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>函数</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>在表中查找</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>复制</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>逻辑</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>未找到</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>下一个匹配 (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>运算符</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>显示值包含该文本的行。以 =、&lt;、&lt;=、&gt; 或 &gt;= 开头则进行比较。</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>给目标表的变量赋值</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>两个比较都成立</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>比较不成立</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>其中一个比较成立</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>除以</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>等于</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>大于</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>大于或等于</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>的幂</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>小于</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>小于或等于</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>乘以</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>减</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>加</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>不等于</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,10 @@
         <translation>篩選</translation>
     </message>
     <message>
+        <source>Funktionen</source>
+        <translation>函數</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>在表格中尋找</translation>
     </message>
@@ -28,12 +32,20 @@
         <translation>複製</translation>
     </message>
     <message>
+        <source>Logik</source>
+        <translation>邏輯</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>找不到</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
         <translation>下一個符合項目 (F3)</translation>
+    </message>
+    <message>
+        <source>Operatoren</source>
+        <translation>運算子</translation>
     </message>
     <message>
         <source>Sortierung aufheben</source>
@@ -86,6 +98,66 @@
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
         <translation>顯示值包含該文字的列。以 =、&lt;、&lt;=、&gt; 或 &gt;= 開頭則進行比較。</translation>
+    </message>
+    <message>
+        <source>Zuweisung an eine Variable der Zieltabelle</source>
+        <translation>指派給目標表的變數</translation>
+    </message>
+    <message>
+        <source>beide Vergleiche gelten</source>
+        <translation>兩個比較都成立</translation>
+    </message>
+    <message>
+        <source>der Vergleich gilt nicht</source>
+        <translation>比較不成立</translation>
+    </message>
+    <message>
+        <source>einer der Vergleiche gilt</source>
+        <translation>其中一個比較成立</translation>
+    </message>
+    <message>
+        <source>geteilt durch</source>
+        <translation>除以</translation>
+    </message>
+    <message>
+        <source>gleich</source>
+        <translation>等於</translation>
+    </message>
+    <message>
+        <source>größer</source>
+        <translation>大於</translation>
+    </message>
+    <message>
+        <source>größer oder gleich</source>
+        <translation>大於或等於</translation>
+    </message>
+    <message>
+        <source>hoch</source>
+        <translation>的冪</translation>
+    </message>
+    <message>
+        <source>kleiner</source>
+        <translation>小於</translation>
+    </message>
+    <message>
+        <source>kleiner oder gleich</source>
+        <translation>小於或等於</translation>
+    </message>
+    <message>
+        <source>mal</source>
+        <translation>乘以</translation>
+    </message>
+    <message>
+        <source>minus</source>
+        <translation>減</translation>
+    </message>
+    <message>
+        <source>plus</source>
+        <translation>加</translation>
+    </message>
+    <message>
+        <source>ungleich</source>
+        <translation>不等於</translation>
     </message>
 </context>
 </TS>

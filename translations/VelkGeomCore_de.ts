@@ -8,6 +8,10 @@
         <translation>  Zeile %1</translation>
     </message>
     <message>
+        <source>Alle Werte hintereinander als ein Text.</source>
+        <translation>Alle Werte hintereinander als ein Text.</translation>
+    </message>
+    <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</translation>
     </message>
@@ -36,8 +40,84 @@
         <translation>Der Ausdruck ist zu tief verschachtelt</translation>
     </message>
     <message>
+        <source>Der Betrag: die Zahl ohne Vorzeichen.</source>
+        <translation>Der Betrag: die Zahl ohne Vorzeichen.</translation>
+    </message>
+    <message>
+        <source>Der Kosinus eines Winkels in Grad.</source>
+        <translation>Der Kosinus eines Winkels in Grad.</translation>
+    </message>
+    <message>
+        <source>Der Logarithmus zur Basis 10.</source>
+        <translation>Der Logarithmus zur Basis 10.</translation>
+    </message>
+    <message>
+        <source>Der Rest der Teilung, mit dem Vorzeichen der ersten Zahl.</source>
+        <translation>Der Rest der Teilung, mit dem Vorzeichen der ersten Zahl.</translation>
+    </message>
+    <message>
+        <source>Der Sinus eines Winkels in Grad.</source>
+        <translation>Der Sinus eines Winkels in Grad.</translation>
+    </message>
+    <message>
+        <source>Der Tangens eines Winkels in Grad.</source>
+        <translation>Der Tangens eines Winkels in Grad.</translation>
+    </message>
+    <message>
+        <source>Der Teil des Textes vom Anfang an, von 1 gezählt, mit so vielen Zeichen; ohne Anzahl alles bis zum Ende.</source>
+        <translation>Der Teil des Textes vom Anfang an, von 1 gezählt, mit so vielen Zeichen; ohne Anzahl alles bis zum Ende.</translation>
+    </message>
+    <message>
+        <source>Der Text in großen Buchstaben.</source>
+        <translation>Der Text in großen Buchstaben.</translation>
+    </message>
+    <message>
+        <source>Der Text in kleinen Buchstaben.</source>
+        <translation>Der Text in kleinen Buchstaben.</translation>
+    </message>
+    <message>
         <source>Der Text ist leer</source>
         <translation>Der Text ist leer</translation>
+    </message>
+    <message>
+        <source>Der Text ohne Leerzeichen am Anfang und am Ende.</source>
+        <translation>Der Text ohne Leerzeichen am Anfang und am Ende.</translation>
+    </message>
+    <message>
+        <source>Der Text, in dem der Ersatz überall steht, wo der gesuchte Text stand.</source>
+        <translation>Der Text, in dem der Ersatz überall steht, wo der gesuchte Text stand.</translation>
+    </message>
+    <message>
+        <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
+        <translation>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Der Winkel in Grad zwischen der x-Achse und der Strecke vom Nullpunkt zum Punkt (x, y).</source>
+        <translation>Der Winkel in Grad zwischen der x-Achse und der Strecke vom Nullpunkt zum Punkt (x, y).</translation>
+    </message>
+    <message>
+        <source>Der Winkel in Grad, der diesen Kosinus hat.</source>
+        <translation>Der Winkel in Grad, der diesen Kosinus hat.</translation>
+    </message>
+    <message>
+        <source>Der Winkel in Grad, der diesen Sinus hat.</source>
+        <translation>Der Winkel in Grad, der diesen Sinus hat.</translation>
+    </message>
+    <message>
+        <source>Der Winkel in Grad, der diesen Tangens hat.</source>
+        <translation>Der Winkel in Grad, der diesen Tangens hat.</translation>
+    </message>
+    <message>
+        <source>Der natürliche Logarithmus.</source>
+        <translation>Der natürliche Logarithmus.</translation>
+    </message>
+    <message>
+        <source>Der zweite Wert, wenn der Vergleich gilt, sonst der dritte.</source>
+        <translation>Der zweite Wert, wenn der Vergleich gilt, sonst der dritte.</translation>
+    </message>
+    <message>
+        <source>Die Anzahl der Zeichen des Textes.</source>
+        <translation>Die Anzahl der Zeichen des Textes.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -50,6 +130,14 @@
         <translation>Die Normbezeichnungen sind verschieden.
   Alte Normbezeichnung: %1
   Neue Normbezeichnung: %2</translation>
+    </message>
+    <message>
+        <source>Die Quadratwurzel; kein Wert für negative Zahlen.</source>
+        <translation>Die Quadratwurzel; kein Wert für negative Zahlen.</translation>
+    </message>
+    <message>
+        <source>Die Stelle, von 1 an, an der der gesuchte Text im Text zum ersten Mal steht; 0, wenn er nicht darin steht.</source>
+        <translation>Die Stelle, von 1 an, an der der gesuchte Text im Text zum ersten Mal steht; 0, wenn er nicht darin steht.</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
@@ -74,8 +162,32 @@
   Neuer Wert: %3</translation>
     </message>
     <message>
+        <source>Die Zahl e, hoch der Zahl.</source>
+        <translation>Die Zahl e, hoch der Zahl.</translation>
+    </message>
+    <message>
+        <source>Die Zahl ohne ihre Nachkommastellen.</source>
+        <translation>Die Zahl ohne ihre Nachkommastellen.</translation>
+    </message>
+    <message>
+        <source>Die Zahl, als die sich der Text liest; kein Wert, wenn er keine ist.</source>
+        <translation>Die Zahl, als die sich der Text liest; kein Wert, wenn er keine ist.</translation>
+    </message>
+    <message>
+        <source>Die Zahl, gerundet auf Nachkommastellen; ohne Stellen auf eine ganze Zahl, mit negativen vor dem Komma.</source>
+        <translation>Die Zahl, gerundet auf Nachkommastellen; ohne Stellen auf eine ganze Zahl, mit negativen vor dem Komma.</translation>
+    </message>
+    <message>
         <source>Die Zielzeile ist schon für eine andere Zeile bestätigt.</source>
         <translation>Die Zielzeile ist schon für eine andere Zeile bestätigt.</translation>
+    </message>
+    <message>
+        <source>Die größte der Zahlen.</source>
+        <translation>Die größte der Zahlen.</translation>
+    </message>
+    <message>
+        <source>Die kleinste der Zahlen.</source>
+        <translation>Die kleinste der Zahlen.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
@@ -136,8 +248,32 @@
         <translation>Hier wird ein Wert erwartet, kein Vergleich</translation>
     </message>
     <message>
+        <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
+        <translation>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</translation>
+    </message>
+    <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
         <translation>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text, Anfang, Anzahl</source>
+        <translation>Text, Anfang, Anzahl</translation>
+    </message>
+    <message>
+        <source>Text, Gesuchtes</source>
+        <translation>Text, Gesuchtes</translation>
+    </message>
+    <message>
+        <source>Text, Gesuchtes, Ersatz</source>
+        <translation>Text, Gesuchtes, Ersatz</translation>
+    </message>
+    <message>
+        <source>Vergleich, dann, sonst</source>
+        <translation>Vergleich, dann, sonst</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
@@ -148,8 +284,44 @@
         <translation>Weitere Zeilen der Zieltabelle haben diese Werte.</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Wert, Stellen</source>
+        <translation>Wert, Stellen</translation>
+    </message>
+    <message>
+        <source>Wert, Wert, ...</source>
+        <translation>Wert, Wert, ...</translation>
+    </message>
+    <message>
+        <source>Winkel</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Zahl</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Zahl, Stellen</source>
+        <translation>Zahl, Stellen</translation>
+    </message>
+    <message>
+        <source>Zahl, Teiler</source>
+        <translation>Zahl, Teiler</translation>
+    </message>
+    <message>
+        <source>Zahl, Zahl, ...</source>
+        <translation>Zahl, Zahl, ...</translation>
+    </message>
+    <message>
         <source>Zeichen %1: %2</source>
         <translation>Zeichen %1: %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Zeichen %2: %3</source>
+        <translation>Zeile %1, Zeichen %2: %3</translation>
     </message>
     <message>
         <source>Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle zu vergleichen.</source>
@@ -188,6 +360,10 @@
     <message>
         <source>kein Wert</source>
         <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>y, x</source>
+        <translation>y, x</translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>  Ligne %1</translation>
     </message>
     <message>
+        <source>Alle Werte hintereinander als ein Text.</source>
+        <translation>All values one after the other as one text.</translation>
+    </message>
+    <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>D'autres valeurs des plages appartiennent à une autre cible.</translation>
     </message>
@@ -36,8 +40,84 @@
         <translation>L'expression est imbriquée trop profondément</translation>
     </message>
     <message>
+        <source>Der Betrag: die Zahl ohne Vorzeichen.</source>
+        <translation>The absolute value: the number without its sign.</translation>
+    </message>
+    <message>
+        <source>Der Kosinus eines Winkels in Grad.</source>
+        <translation>The cosine of an angle in degrees.</translation>
+    </message>
+    <message>
+        <source>Der Logarithmus zur Basis 10.</source>
+        <translation>The logarithm to base 10.</translation>
+    </message>
+    <message>
+        <source>Der Rest der Teilung, mit dem Vorzeichen der ersten Zahl.</source>
+        <translation>The remainder of the division, with the sign of the first number.</translation>
+    </message>
+    <message>
+        <source>Der Sinus eines Winkels in Grad.</source>
+        <translation>The sine of an angle in degrees.</translation>
+    </message>
+    <message>
+        <source>Der Tangens eines Winkels in Grad.</source>
+        <translation>The tangent of an angle in degrees.</translation>
+    </message>
+    <message>
+        <source>Der Teil des Textes vom Anfang an, von 1 gezählt, mit so vielen Zeichen; ohne Anzahl alles bis zum Ende.</source>
+        <translation>The part of the text from the start, counted from 1, with so many characters; without a count all up to the end.</translation>
+    </message>
+    <message>
+        <source>Der Text in großen Buchstaben.</source>
+        <translation>The text in capital letters.</translation>
+    </message>
+    <message>
+        <source>Der Text in kleinen Buchstaben.</source>
+        <translation>The text in small letters.</translation>
+    </message>
+    <message>
         <source>Der Text ist leer</source>
         <translation>Le texte est vide</translation>
+    </message>
+    <message>
+        <source>Der Text ohne Leerzeichen am Anfang und am Ende.</source>
+        <translation>The text without blanks at its start and end.</translation>
+    </message>
+    <message>
+        <source>Der Text, in dem der Ersatz überall steht, wo der gesuchte Text stand.</source>
+        <translation>The text with the replacement wherever the text looked for was.</translation>
+    </message>
+    <message>
+        <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
+        <translation>The value as a text, a number with so many decimals; without decimals as it is.</translation>
+    </message>
+    <message>
+        <source>Der Winkel in Grad zwischen der x-Achse und der Strecke vom Nullpunkt zum Punkt (x, y).</source>
+        <translation>The angle in degrees between the x axis and the line from the origin to the point (x, y).</translation>
+    </message>
+    <message>
+        <source>Der Winkel in Grad, der diesen Kosinus hat.</source>
+        <translation>The angle in degrees that has this cosine.</translation>
+    </message>
+    <message>
+        <source>Der Winkel in Grad, der diesen Sinus hat.</source>
+        <translation>The angle in degrees that has this sine.</translation>
+    </message>
+    <message>
+        <source>Der Winkel in Grad, der diesen Tangens hat.</source>
+        <translation>The angle in degrees that has this tangent.</translation>
+    </message>
+    <message>
+        <source>Der natürliche Logarithmus.</source>
+        <translation>The natural logarithm.</translation>
+    </message>
+    <message>
+        <source>Der zweite Wert, wenn der Vergleich gilt, sonst der dritte.</source>
+        <translation>The second value if the comparison holds, else the third.</translation>
+    </message>
+    <message>
+        <source>Die Anzahl der Zeichen des Textes.</source>
+        <translation>The number of characters of the text.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -50,6 +130,14 @@
         <translation>Les désignations de norme diffèrent.
   Ancienne désignation : %1
   Nouvelle désignation : %2</translation>
+    </message>
+    <message>
+        <source>Die Quadratwurzel; kein Wert für negative Zahlen.</source>
+        <translation>The square root; no value for negative numbers.</translation>
+    </message>
+    <message>
+        <source>Die Stelle, von 1 an, an der der gesuchte Text im Text zum ersten Mal steht; 0, wenn er nicht darin steht.</source>
+        <translation>The place, counted from 1, at which the text looked for first stands in the text; 0 if it does not.</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
@@ -74,8 +162,32 @@
   Nouvelle valeur : %3</translation>
     </message>
     <message>
+        <source>Die Zahl e, hoch der Zahl.</source>
+        <translation>The number e to the power of the number.</translation>
+    </message>
+    <message>
+        <source>Die Zahl ohne ihre Nachkommastellen.</source>
+        <translation>The number without its decimals.</translation>
+    </message>
+    <message>
+        <source>Die Zahl, als die sich der Text liest; kein Wert, wenn er keine ist.</source>
+        <translation>The number that the text reads as; no value if it is none.</translation>
+    </message>
+    <message>
+        <source>Die Zahl, gerundet auf Nachkommastellen; ohne Stellen auf eine ganze Zahl, mit negativen vor dem Komma.</source>
+        <translation>The number, rounded to that many decimals; without decimals to a whole number, with negative ones before the decimal point.</translation>
+    </message>
+    <message>
         <source>Die Zielzeile ist schon für eine andere Zeile bestätigt.</source>
         <translation>La ligne cible est déjà confirmée pour une autre ligne.</translation>
+    </message>
+    <message>
+        <source>Die größte der Zahlen.</source>
+        <translation>The largest of the numbers.</translation>
+    </message>
+    <message>
+        <source>Die kleinste der Zahlen.</source>
+        <translation>The smallest of the numbers.</translation>
     </message>
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
@@ -136,8 +248,32 @@
         <translation>Une valeur est attendue ici, pas une comparaison</translation>
     </message>
     <message>
+        <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
+        <translation>Whether there is a value: an empty cell has none. Stands where a comparison can stand.</translation>
+    </message>
+    <message>
         <source>Quelle und Ziel haben keine gemeinsame Variable mit einem Wert.</source>
         <translation>La source et la cible n'ont aucune variable commune ayant une valeur.</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>Text, Anfang, Anzahl</source>
+        <translation>texte, début, longueur</translation>
+    </message>
+    <message>
+        <source>Text, Gesuchtes</source>
+        <translation>texte, recherché</translation>
+    </message>
+    <message>
+        <source>Text, Gesuchtes, Ersatz</source>
+        <translation>texte, recherché, remplacement</translation>
+    </message>
+    <message>
+        <source>Vergleich, dann, sonst</source>
+        <translation>comparaison, alors, sinon</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
@@ -148,8 +284,44 @@
         <translation>D'autres lignes de la table cible ont ces valeurs.</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>valeur</translation>
+    </message>
+    <message>
+        <source>Wert, Stellen</source>
+        <translation>valeur, décimales</translation>
+    </message>
+    <message>
+        <source>Wert, Wert, ...</source>
+        <translation>valeur, valeur, ...</translation>
+    </message>
+    <message>
+        <source>Winkel</source>
+        <translation>angle</translation>
+    </message>
+    <message>
+        <source>Zahl</source>
+        <translation>nombre</translation>
+    </message>
+    <message>
+        <source>Zahl, Stellen</source>
+        <translation>nombre, décimales</translation>
+    </message>
+    <message>
+        <source>Zahl, Teiler</source>
+        <translation>nombre, diviseur</translation>
+    </message>
+    <message>
+        <source>Zahl, Zahl, ...</source>
+        <translation>nombre, nombre, ...</translation>
+    </message>
+    <message>
         <source>Zeichen %1: %2</source>
         <translation>Caractère %1 : %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Zeichen %2: %3</source>
+        <translation>Ligne %1, caractère %2 : %3</translation>
     </message>
     <message>
         <source>Zu viele Wertebereiche der Zieltabelle überschneiden sich, um alle zu vergleichen.</source>
@@ -188,6 +360,10 @@
     <message>
         <source>kein Wert</source>
         <translation>aucune valeur</translation>
+    </message>
+    <message>
+        <source>y, x</source>
+        <translation>y, x</translation>
     </message>
 </context>
 </TS>

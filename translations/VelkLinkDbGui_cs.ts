@@ -134,6 +134,12 @@ Opravdu pokračovat?</translation>
         <translation>Přidat záznam do databáze odkazů</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algoritmus obsahuje chyby:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Podmínky projektu %1 byly změněny.</translation>
     </message>
@@ -232,6 +238,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Mapování projektu %1 bylo přidáno.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Upravit vzorec</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>U tohoto řádku je konflikt. Přiřazení je třeba potvrdit nebo opravit</translation>
     </message>
@@ -246,6 +256,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Nebyly nalezeny žádné chyby</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Projektpfad:</source>
         <translation>Cesta k projektu:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Zkontrolovat syntaxi</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Vil du virkelig fortsætte?</translation>
         <translation>Tilføj en post til linkdatabasen</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algoritmen indeholder fejl:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Betingelserne for projektet %1 blev ændret.</translation>
     </message>
@@ -232,6 +238,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Et mapping for projektet %1 blev tilføjet.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Rediger formel</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Der er en konflikt for denne linje. Tildelingen skal bekræftes eller rettes</translation>
     </message>
@@ -246,6 +256,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Ingen fejl fundet</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Projektsti:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Kontrollér syntaks</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Wirklich fortfahren?</translation>
         <translation>Datensatz zur Linkdatenbank hinzufügen</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Der Algorithmus enthält Fehler:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Die Bedingungen für das Projekt %1 wurden geändert.</translation>
     </message>
@@ -232,6 +238,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Formel bearbeiten</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</translation>
     </message>
@@ -246,6 +256,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Keine Fehler gefunden</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Projektpfad:</source>
         <translation>Projektpfad:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Syntax prüfen</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

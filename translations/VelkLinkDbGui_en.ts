@@ -134,6 +134,12 @@ Really go on?</translation>
         <translation>Add a record to the link database</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>The algorithm contains errors:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>The conditions of the project %1 were changed.</translation>
     </message>
@@ -232,6 +238,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>A mapping of the project %1 was added.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Edit formula</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>There is a conflict for this line. The assignment must be confirmed or corrected</translation>
     </message>
@@ -246,6 +256,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Katalog</source>
         <translation>Catalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>No errors found</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Project path:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Check syntax</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Wirklich fortfahren?</source>
         <translation>Añadir un registro a la base de datos de enlaces</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>El algoritmo contiene errores:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Se cambiaron las condiciones del proyecto %1.</translation>
     </message>
@@ -232,6 +238,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Se añadió un mapeo del proyecto %1.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Editar fórmula</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Hay un conflicto en esta línea. La asignación debe confirmarse o corregirse</translation>
     </message>
@@ -246,6 +256,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Katalog</source>
         <translation>Catálogo</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>No se han encontrado errores</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Projektpfad:</source>
         <translation>Ruta del proyecto:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Comprobar sintaxis</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

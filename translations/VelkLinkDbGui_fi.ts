@@ -134,6 +134,12 @@ Jatketaanko varmasti?</translation>
         <translation>Lisää tietue linkkitietokantaan</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algoritmissa on virheitä:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Projektin %1 ehtoja muutettiin.</translation>
     </message>
@@ -232,6 +238,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Projektin %1 kohdistus lisättiin.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Muokkaa kaavaa</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Rivillä on ristiriita. Kohdistus on vahvistettava tai korjattava</translation>
     </message>
@@ -246,6 +256,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Katalog</source>
         <translation>Luettelo</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Virheitä ei löytynyt</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Projektpfad:</source>
         <translation>Projektin polku:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Tarkista syntaksi</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Vraiment continuer ?</translation>
         <translation>Ajouter un enregistrement à la base de liens</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>L'algorithme contient des erreurs :
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Les conditions du projet %1 ont été modifiées.</translation>
     </message>
@@ -232,6 +238,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Un mapping du projet %1 a été ajouté.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Modifier la formule</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Il y a un conflit pour cette ligne. L'affectation doit être confirmée ou corrigée</translation>
     </message>
@@ -246,6 +256,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Katalog</source>
         <translation>Catalogue</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Aucune erreur trouvée</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Projektpfad:</source>
         <translation>Chemin du projet :</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Vérifier la syntaxe</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Valóban folytatja?</translation>
         <translation>Rekord hozzáadása a hivatkozási adatbázishoz</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Az algoritmus hibákat tartalmaz:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>A(z) %1 projekt feltételei megváltoztak.</translation>
     </message>
@@ -232,6 +238,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>A(z) %1 projekt egy leképezése hozzáadva.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Képlet szerkesztése</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Ennél a sornál ütközés van. A hozzárendelést meg kell erősíteni vagy javítani kell</translation>
     </message>
@@ -246,6 +256,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Katalog</source>
         <translation>Katalógus</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Nincs hiba</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Projektpfad:</source>
         <translation>Projekt útvonala:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Szintaxis ellenőrzése</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

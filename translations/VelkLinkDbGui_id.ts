@@ -134,6 +134,12 @@ Sungguh lanjutkan?</translation>
         <translation>Tambah rekaman ke basis data tautan</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algoritma berisi kesalahan:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Syarat proyek %1 telah diubah.</translation>
     </message>
@@ -232,6 +238,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Satu pemetaan proyek %1 telah ditambahkan.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Sunting rumus</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Ada konflik pada baris ini. Penetapan harus dikonfirmasi atau diperbaiki</translation>
     </message>
@@ -246,6 +256,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Tidak ada kesalahan</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Jalur proyek:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Periksa sintaks</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

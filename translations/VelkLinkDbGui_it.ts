@@ -134,6 +134,12 @@ Continuare davvero?</translation>
         <translation>Aggiungere un record alla banca dati dei collegamenti</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>L'algoritmo contiene errori:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Le condizioni del progetto %1 sono state modificate.</translation>
     </message>
@@ -232,6 +238,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>È stato aggiunto un mapping del progetto %1.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Modifica formula</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Esiste un conflitto per questa riga. L'assegnazione va confermata o corretta</translation>
     </message>
@@ -246,6 +256,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Katalog</source>
         <translation>Catalogo</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Nessun errore trovato</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Projektpfad:</source>
         <translation>Percorso del progetto:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Controlla sintassi</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

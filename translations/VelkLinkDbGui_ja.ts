@@ -134,6 +134,12 @@ Wirklich fortfahren?</source>
         <translation>リンクデータベースにレコードを追加</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>アルゴリズムにエラーがあります:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>プロジェクト %1 の条件が変更されました。</translation>
     </message>
@@ -232,6 +238,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>プロジェクト %1 のマッピングが追加されました。</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>数式を編集</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>この行に競合があります。割り当てを確認または修正してください</translation>
     </message>
@@ -246,6 +256,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Katalog</source>
         <translation>カタログ</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>エラーはありません</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>プロジェクトのパス:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>構文を確認</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Wirklich fortfahren?</source>
         <translation>링크 데이터베이스에 레코드 추가</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>알고리즘에 오류가 있습니다:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>프로젝트 %1의 조건이 변경되었습니다.</translation>
     </message>
@@ -232,6 +238,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>프로젝트 %1의 매핑이 추가되었습니다.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>수식 편집</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>이 행에 충돌이 있습니다. 할당을 확인하거나 수정해야 합니다</translation>
     </message>
@@ -246,6 +256,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Katalog</source>
         <translation>카탈로그</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>오류가 없습니다</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>프로젝트 경로:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>구문 검사</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Vil du virkelig fortsette?</translation>
         <translation>Legg til en post i lenkedatabasen</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algoritmen inneholder feil:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Betingelsene for prosjektet %1 ble endret.</translation>
     </message>
@@ -232,6 +238,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>En mapping for prosjektet %1 ble lagt til.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Rediger formel</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Det er en konflikt for denne linjen. Tilordningen må bekreftes eller rettes</translation>
     </message>
@@ -246,6 +256,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Ingen feil funnet</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Prosjektsti:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Kontroller syntaks</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

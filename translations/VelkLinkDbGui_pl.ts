@@ -134,6 +134,12 @@ Naprawdę kontynuować?</translation>
         <translation>Dodaj rekord do bazy łączy</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algorytm zawiera błędy:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Zmieniono warunki projektu %1.</translation>
     </message>
@@ -232,6 +238,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Dodano mapowanie projektu %1.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Edytuj formułę</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Dla tego wiersza istnieje konflikt. Przypisanie trzeba potwierdzić lub poprawić</translation>
     </message>
@@ -246,6 +256,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Nie znaleziono błędów</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Projektpfad:</source>
         <translation>Ścieżka projektu:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Sprawdź składnię</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

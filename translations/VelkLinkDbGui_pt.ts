@@ -134,6 +134,12 @@ Continuar mesmo?</translation>
         <translation>Adicionar um registo à base de dados de ligações</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>O algoritmo contém erros:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>As condições do projeto %1 foram alteradas.</translation>
     </message>
@@ -232,6 +238,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Foi adicionado um mapeamento do projeto %1.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Editar fórmula</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Existe um conflito nesta linha. A atribuição tem de ser confirmada ou corrigida</translation>
     </message>
@@ -246,6 +256,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Katalog</source>
         <translation>Catálogo</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Nenhum erro encontrado</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Projektpfad:</source>
         <translation>Caminho do projeto:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Verificar sintaxe</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

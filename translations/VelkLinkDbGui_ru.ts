@@ -134,6 +134,12 @@ Wirklich fortfahren?</source>
         <translation>Добавить запись в базу связей</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Алгоритм содержит ошибки:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Условия проекта %1 изменены.</translation>
     </message>
@@ -232,6 +238,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Сопоставление проекта %1 добавлено.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Изменить формулу</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Для этой строки есть конфликт. Назначение нужно подтвердить или исправить</translation>
     </message>
@@ -246,6 +256,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Katalog</source>
         <translation>Каталог</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Ошибок не найдено</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>Путь проекта:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Проверить синтаксис</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Res nadaljujem?</translation>
         <translation>Dodaj zapis v zbirko povezav</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algoritem vsebuje napake:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Pogoji projekta %1 so bili spremenjeni.</translation>
     </message>
@@ -232,6 +238,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Preslikava projekta %1 je bila dodana.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Uredi formulo</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Za to vrstico obstaja spor. Dodelitev je treba potrditi ali popraviti</translation>
     </message>
@@ -246,6 +256,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Ni napak</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Projektpfad:</source>
         <translation>Pot projekta:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Preveri skladnjo</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

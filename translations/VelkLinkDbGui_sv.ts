@@ -134,6 +134,12 @@ Vill du verkligen fortsätta?</translation>
         <translation>Lägg till en post i länkdatabasen</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algoritmen innehåller fel:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>Villkoren för projektet %1 ändrades.</translation>
     </message>
@@ -232,6 +238,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>En mappning för projektet %1 lades till.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Redigera formel</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Det finns en konflikt för den här raden. Tilldelningen måste bekräftas eller rättas</translation>
     </message>
@@ -246,6 +256,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Inga fel hittades</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Projektpfad:</source>
         <translation>Projektets sökväg:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Kontrollera syntax</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

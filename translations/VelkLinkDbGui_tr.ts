@@ -134,6 +134,12 @@ Gerçekten devam edilsin mi?</translation>
         <translation>Bağlantı veritabanına kayıt ekle</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>Algoritma hatalar içeriyor:
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>%1 projesinin koşulları değiştirildi.</translation>
     </message>
@@ -232,6 +238,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>%1 projesinin bir eşlemesi eklendi.</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>Formülü düzenle</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>Bu satırda çakışma var. Atama onaylanmalı veya düzeltilmeli</translation>
     </message>
@@ -246,6 +256,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Katalog</source>
         <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>Hata bulunamadı</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Projektpfad:</source>
         <translation>Proje yolu:</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>Sözdizimini denetle</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

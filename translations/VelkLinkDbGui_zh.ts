@@ -134,6 +134,12 @@ Wirklich fortfahren?</source>
         <translation>向链接数据库添加记录</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>算法包含错误：
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>项目 %1 的条件已更改。</translation>
     </message>
@@ -232,6 +238,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>项目 %1 的一个映射已添加。</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>编辑公式</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>此行存在冲突。必须确认或更正该分配</translation>
     </message>
@@ -246,6 +256,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Katalog</source>
         <translation>目录</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>未发现错误</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>项目路径：</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>检查语法</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -134,6 +134,12 @@ Wirklich fortfahren?</source>
         <translation>將記錄新增至連結資料庫</translation>
     </message>
     <message>
+        <source>Der Algorithmus enthält Fehler:
+</source>
+        <translation>演算法包含錯誤：
+</translation>
+    </message>
+    <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
         <translation>專案 %1 的條件已變更。</translation>
     </message>
@@ -232,6 +238,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>專案 %1 的一個對應已新增。</translation>
     </message>
     <message>
+        <source>Formel bearbeiten</source>
+        <translation>編輯公式</translation>
+    </message>
+    <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
         <translation>此列有衝突。必須確認或更正該指派</translation>
     </message>
@@ -246,6 +256,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Katalog</source>
         <translation>目錄</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>未發現錯誤</translation>
     </message>
     <message>
         <source>Klassifizieren</source>
@@ -322,6 +336,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>專案路徑：</translation>
+    </message>
+    <message>
+        <source>Syntax prüfen</source>
+        <translation>檢查語法</translation>
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>

@@ -120,6 +120,11 @@ private Q_SLOTS:
             "Zeichen 1: Die Variable C existiert nicht in der Zieltabelle");
         row("assignment to a source variable", "A = 1",
             "Zeichen 1: Die Variable A existiert nicht in der Zieltabelle");
+        row("second line", "A +\n  C", "Zeile 2, Zeichen 3: Die Variable C ist nicht bekannt");
+        row("first of several lines", "C +\nA",
+            "Zeile 1, Zeichen 1: Die Variable C ist nicht bekannt");
+        row("end of several lines", "A\n+ ",
+            "Zeile 2, Zeichen 3: Erwartet wird ein Wert, gefunden wurde das Ende");
         row("unknown function", "A + FOO(1)", "Zeichen 5: Die Funktion FOO ist nicht bekannt");
         row("too few arguments", "MOD(1)",
             "Zeichen 1: Falsche Anzahl von Argumenten für die Funktion MOD");
@@ -304,25 +309,27 @@ private Q_SLOTS:
         QTest::newRow("nothing to resolve") << " A  +  1 "
                                             << " A  +  1 ";
         QTest::newRow("number") << "A + SOURCE@N*2"
-                                << "A + 12.5*2";
+                                << "A + 12.5    *2";
         QTest::newRow("negative number") << "SOURCE@M**2"
-                                         << "(-5)**2";
+                                         << "(-5)    **2";
         QTest::newRow("text") << "SOURCE@T .EQ. A"
-                              << "'a b' .EQ. A";
+                              << "'a b'    .EQ. A";
         QTest::newRow("quote") << "SOURCE@Q"
                                << "'O''Brien'";
         QTest::newRow("no value") << "SOURCE@E"
-                                  << "''";
+                                  << "''      ";
         QTest::newRow("unknown stays") << "SOURCE@U + SOURCE@N"
-                                       << "SOURCE@U + 12.5";
+                                       << "SOURCE@U + 12.5    ";
         QTest::newRow("in quotes") << "'SOURCE@N'"
                                    << "'SOURCE@N'";
         QTest::newRow("small letters") << "source@N"
-                                       << "12.5";
+                                       << "12.5    ";
         QTest::newRow("blank between") << "SOURCE@ N"
                                        << "SOURCE@ N";
         QTest::newRow("place marks") << "SOURCE@P + SOURCE@N"
-                                     << "'%1 %2' + 12.5";
+                                     << "'%1 %2'  + 12.5    ";
+        QTest::newRow("value longer than its name") << "SOURCE@L+A"
+                                                    << "'a long text'+A";
         QTest::newRow("prefix alone") << "SOURCE@"
                                       << "SOURCE@";
         QTest::newRow("empty") << ""
@@ -336,7 +343,8 @@ private Q_SLOTS:
                                       {"T", "a b"},
                                       {"Q", "O'Brien"},
                                       {"E", ""},
-                                      {"P", "%1 %2"}});
+                                      {"P", "%1 %2"},
+                                      {"L", "a long text"}});
         QTEST(VarsetParserC::resolveSourceVars(text, values, nullptr), "expected");
     }
 
@@ -353,7 +361,7 @@ private Q_SLOTS:
         const Varset values = varset({{"N", "12"}, {"M", "7"}});
         QCOMPARE(VarsetParserC::resolveSourceVars("SOURCE@N + SOURCE@M + SOURCE@T + SOURCE@U",
                                                   values, &line),
-                 "2.5 + 7 + 'x' + SOURCE@U");
+                 "2.5      + 7        + 'x'      + SOURCE@U");
     }
 
     void depthIsLimited_data()

@@ -57,14 +57,29 @@ VarsetParserC::~VarsetParserC() = default;
 VKTab::NodeBase *VarsetParserC::parseStatement(const QString &text, const QString &variableName,
                                                bool anyStatement)
 {
-    VKTab::ParsedStatement parsed =
-        VKTab::StatementParser(text, *m_names)
-            .parse(anyStatement ? std::nullopt : std::optional(variableName));
+    VKTab::ParsedStatement parsed = parse(text, variableName, anyStatement);
     if (parsed.node)
         return parsed.node.release();
     PMessage::Show(QLatin1String("error: ") + parsed.error, PMsgDlgMode::Error);
     const bool empty = QStringView(text).trimmed().isEmpty();
     return empty ? nullptr : new VKTab::NodeInvalid(parsed.errorPosition);
+}
+
+VKTab::ParsedStatement VarsetParserC::parse(const QString &text, const QString &variableName,
+                                            bool anyStatement)
+{
+    return VKTab::StatementParser(text, *m_names)
+        .parse(anyStatement ? std::nullopt : std::optional(variableName));
+}
+
+bool VarsetParserC::isReadable(const QString &name, bool prefixed) const
+{
+    return m_names->isReadable(name, prefixed);
+}
+
+bool VarsetParserC::isAssignable(const QString &name) const
+{
+    return m_names->isAssignable(name);
 }
 
 QString VarsetParserC::getVarName(const VKTab::VarId &id) const
@@ -88,7 +103,7 @@ QString VarsetParserC::resolveSourceVars(const QString &text, const Varset &vars
         if (!value)
             continue;
         result += QStringView(text).mid(done, prefix.start - done);
-        result += literal(*value);
+        result += literal(*value).leftJustified(name.end() - prefix.start);
         done = name.end();
     }
     result += QStringView(text).mid(done);

@@ -13,6 +13,7 @@
 class VarsetNames;
 namespace VKTab {
 class Line;
+struct ParsedStatement;
 } // namespace VKTab
 
 /// Parser of the formula language against sample values of two tables, of which only the names
@@ -35,12 +36,22 @@ public:
     [[nodiscard]] VKTab::NodeBase *parseStatement(const QString &text, const QString &variableName,
                                                   bool anyStatement);
 
+    /// The same without a message and with the error in the result, for use while a text is typed.
+    [[nodiscard]] VKTab::ParsedStatement parse(const QString &text, const QString &variableName,
+                                               bool anyStatement);
+
+    /// Whether a statement may read the variable, with "SOURCE@" before its name or without.
+    [[nodiscard]] bool isReadable(const QString &name, bool prefixed) const;
+    [[nodiscard]] bool isAssignable(const QString &name) const;
+
     /// Name of a variable that a statement of this parser assigns; empty for other ids.
     [[nodiscard]] QString getVarName(const VKTab::VarId &id) const;
 
     /// The text with the value in the place of each "SOURCE@NAME" outside of quotes: of the line's
     /// variable, or without such a one that of the varset. Numbers go in as they are, with a sign
-    /// in brackets, all else as a text in quotes. A name that neither knows stays as it is.
+    /// in brackets, all else as a text in quotes. A name that neither knows stays as it is. Blanks
+    /// fill up to the former length, so that places in the text stay where they were unless a value
+    /// is longer than its name.
     [[nodiscard]] static QString resolveSourceVars(const QString &text,
                                                    const QHash<QString, MapVarValueC> &varset,
                                                    const VKTab::Line *line);

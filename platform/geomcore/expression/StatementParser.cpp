@@ -106,7 +106,8 @@ VarId StatementNames::idOf(const QString &)
 }
 
 StatementParser::StatementParser(const QString &text, StatementNames &names)
-    : m_tokens(Tokenizer()(text))
+    : m_text(text)
+    , m_tokens(Tokenizer()(text))
     , m_names(names)
 {
     m_end.start = text.size();
@@ -324,10 +325,20 @@ bool StatementParser::takeClosingBracket()
 StatementParser::Node StatementParser::fail(qsizetype position, const QString &message)
 {
     if (m_error.isEmpty()) {
-        m_error = translated("Zeichen %1: %2").arg(QString::number(position + 1), message);
+        m_error = placed(position, message);
         m_errorPosition = position;
     }
     return nullptr;
+}
+
+QString StatementParser::placed(qsizetype position, const QString &message) const
+{
+    const QStringView before = QStringView(m_text).left(position);
+    const QString column = QString::number(position - before.lastIndexOf(u'\n'));
+    if (!QStringView(m_text).trimmed().contains(u'\n'))
+        return translated("Zeichen %1: %2").arg(column, message);
+    return translated("Zeile %1, Zeichen %2: %3")
+        .arg(QString::number(before.count(u'\n') + 1), column, message);
 }
 
 StatementParser::Node StatementParser::failExpected(const char *expected)

@@ -24,7 +24,8 @@ public:
     [[nodiscard]] virtual VarId idOf(const QString &name);
 };
 
-/// Result of a parse: a tree, or what is wrong (without the prefix "error: ").
+/// Result of a parse: a tree, or what is wrong (without the prefix "error: "). The text names the
+/// place, counted from 1: the character, and in a text of several lines the line before it.
 struct ParsedStatement
 {
     std::unique_ptr<NodeBase> node;
@@ -70,7 +71,10 @@ private:
     Node fail(qsizetype position, const QString &message);
     Node failExpected(const char *expected);
     [[nodiscard]] QString found() const;
+    /// "Zeichen 5: MESSAGE", in a text of several lines "Zeile 2, Zeichen 5: MESSAGE".
+    [[nodiscard]] QString placed(qsizetype position, const QString &message) const;
 
+    const QString m_text;
     QList<Token> m_tokens;
     Token m_end;
     qsizetype m_next = 0;

@@ -7,7 +7,12 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include <algorithm>
+
 namespace {
+
+/// States of a block.
+enum { Closed, OpenText };
 
 /// A colour for light and one for dark ground, each with a contrast of at least 4.5 to it.
 QColor ink(QRgb onLight, QRgb onDark)
@@ -50,15 +55,21 @@ QTextCharFormat formatOf(VKTab::TokenKind kind)
     case VKTab::TokenKind::OpenText:
     case VKTab::TokenKind::Unknown:
         return wrong();
-    case VKTab::TokenKind::Name:
     case VKTab::TokenKind::Arithmetic:
+    case VKTab::TokenKind::Assignment:
+        return format(ink(0xff0033b3, 0xff9ecbff));
+    case VKTab::TokenKind::Name:
     case VKTab::TokenKind::OpenBracket:
     case VKTab::TokenKind::CloseBracket:
     case VKTab::TokenKind::Comma:
-    case VKTab::TokenKind::Assignment:
         break;
     }
     return {};
+}
+
+QTextCharFormat known()
+{
+    return format(ink(0xff00627a, 0xff7fd5ea));
 }
 
 QString htmlOf(QStringView text, const QTextCharFormat &format)
@@ -112,14 +123,51 @@ QString VkTableHighlighter::toHtml() const
     return html + QStringLiteral("</pre>");
 }
 
+void VkTableHighlighter::setNameCheck(const NameCheck &check)
+{
+    m_isKnown = check;
+    rehighlight();
+}
+
+QTextCharFormat VkTableHighlighter::formatOf(const QList<VKTab::Token> &tokens, qsizetype index,
+                                             bool isFirstBlock) const
+{
+    const VKTab::Token &token = tokens.at(index);
+    const bool isFunction = token.kind == VKTab::TokenKind::Function;
+    if (!m_isKnown || (!isFunction && token.kind != VKTab::TokenKind::Name))
+        return ::formatOf(token.kind);
+    NamePlace place = isFunction ? NamePlace::Function : NamePlace::Read;
+    if (index > 0 && tokens.at(index - 1).kind == VKTab::TokenKind::SourcePrefix)
+        place = NamePlace::Prefixed;
+    else if (isFirstBlock && index == 0 && tokens.size() > 1 &&
+             tokens.at(1).kind == VKTab::TokenKind::Assignment)
+        place = NamePlace::Assigned;
+    if (!m_isKnown(token.text, place))
+        return wrong();
+    return isFunction ? ::formatOf(token.kind) : known();
+}
+
 void VkTableHighlighter::highlightBlock(const QString &text)
 {
     if (!m_tokenizer)
         return;
-    const QList<VKTab::Token> tokens = m_tokenizer(text);
-    for (const VKTab::Token &token : tokens) {
-        const QTextCharFormat tokenFormat = formatOf(token.kind);
+    // A text that the line before left open is split with a quote in front.
+    const bool isOpen = previousBlockState() == OpenText;
+    const QList<VKTab::Token> tokens = m_tokenizer(isOpen ? u'\'' + text : text);
+    const bool isFirst = currentBlock() == document()->begin();
+    const bool isLast = !currentBlock().next().isValid();
+    setCurrentBlockState(Closed);
+    for (qsizetype i = 0; i < tokens.size(); ++i) {
+        const VKTab::Token &token = tokens.at(i);
+        QTextCharFormat tokenFormat = formatOf(tokens, i, isFirst);
+        if (token.kind == VKTab::TokenKind::OpenText) {
+            setCurrentBlockState(OpenText);
+            if (!isLast)
+                tokenFormat = ::formatOf(VKTab::TokenKind::Text);
+        }
+        const int start = int(token.start) - (isOpen ? 1 : 0);
         if (!tokenFormat.isEmpty())
-            setFormat(int(token.start), int(token.length), tokenFormat);
+            setFormat(std::max(start, 0), int(token.end()) - (isOpen ? 1 : 0) - std::max(start, 0),
+                      tokenFormat);
     }
 }
