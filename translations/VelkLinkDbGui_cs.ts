@@ -84,6 +84,10 @@
         <translation>Vytvořit podmínku pro označený řádek a zkopírovat ji do schránky</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Přidat podmínku</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Smazat podmínku</translation>
     </message>
@@ -164,6 +168,10 @@ Opravdu pokračovat?</translation>
   Staré datum tabulky: %2, nové datum tabulky: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Proměnná %1 v cílové tabulce neexistuje</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Mapování proměnných projektu %1 bylo změněno.</translation>
     </message>
@@ -174,6 +182,10 @@ Opravdu pokračovat?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Řádky nebyly znovu přiřazeny a zůstávají beze změny. Tyto cílové projekty nelze přečíst: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Proměnná %1 ve zdrojové tabulce neexistuje</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Opravdu pokračovat?</translation>
         <translation>Požádat o číslo ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Vložit</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Pro tento řádek existuje přiřazení rozsahu hodnot.
@@ -238,8 +254,24 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Mapování projektu %1 bylo přidáno.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Chyba při kopírování podmínky:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Chyba při kopírování přiřazení proměnné.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Upravit vzorec</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Vzorec...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Konflikte</source>
         <translation>Konflikty</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopírovat</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Variablenzuordnung</source>
         <translation>Mapování proměnných</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Přidat přiřazení proměnné</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

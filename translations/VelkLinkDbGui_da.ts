@@ -84,6 +84,10 @@
         <translation>Opret en betingelse for den markerede linje, og kopiér den til udklipsholderen</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Tilføj betingelse</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Slet betingelse</translation>
     </message>
@@ -164,6 +168,10 @@ Vil du virkelig fortsætte?</translation>
   Gammel tabeldato: %2, ny tabeldato: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Variablen %1 findes ikke i måltabellen</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Variabeltilknytningen for projektet %1 blev ændret.</translation>
     </message>
@@ -174,6 +182,10 @@ Vil du virkelig fortsætte?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Linjerne blev ikke tildelt igen og forbliver, som de er. Disse målprojekter kan ikke læses: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Variablen %1 findes ikke i kildetabellen</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Vil du virkelig fortsætte?</translation>
         <translation>Anmod om ERP-nummer</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Indsæt</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Der findes en værdiområdetildeling for denne linje.
@@ -238,8 +254,24 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Et mapping for projektet %1 blev tilføjet.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Fejl ved kopiering af betingelsen:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Fejl ved kopiering af variabeltilordningen.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Rediger formel</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formel...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Konflikte</source>
         <translation>Konflikter</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopiér</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Variablenzuordnung</source>
         <translation>Variabeltilknytning</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Tilføj variabeltilordning</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

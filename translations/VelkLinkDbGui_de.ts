@@ -84,6 +84,10 @@
         <translation>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Bedingung hinzufügen</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Bedingung löschen</translation>
     </message>
@@ -164,6 +168,10 @@ Wirklich fortfahren?</translation>
   Altes Tabellendatum: %2, Neues Tabellendatum: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Die Variable %1 existiert nicht in der Zieltabelle</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Die Variablenzuordnung für das Projekt %1 wurde geändert.</translation>
     </message>
@@ -174,6 +182,10 @@ Wirklich fortfahren?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>DieVariable %1 existiert nicht in der Quelltabelle</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Wirklich fortfahren?</translation>
         <translation>ERP-Nummer beantragen</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Es existiert eine Wertebereichszuordnung für diese Zeile.
@@ -238,8 +254,24 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Es wurde ein Mapping für das Projekt %1 hinzugefügt.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Fehler beim Kopieren der Bedingung:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Fehler beim Kopieren der Variablenzuordnung.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Formel bearbeiten</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formel...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Konflikte</source>
         <translation>Konflikte</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Variablenzuordnung</source>
         <translation>Variablenzuordnung</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Variablenzuordnung hinzufügen</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>Generate a condition for the selected line and copy it to the clipboard</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Add condition</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Delete condition</translation>
     </message>
@@ -164,6 +168,10 @@ Really go on?</translation>
   Old table date: %2, new table date: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>The variable %1 does not exist in the target table</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>The variable mapping of the project %1 was changed.</translation>
     </message>
@@ -174,6 +182,10 @@ Really go on?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>The lines were not assigned anew and stay as they are. These target projects cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>The variable %1 does not exist in the source table</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Really go on?</translation>
         <translation>Request ERP number</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>There is a value range assignment for this line.
@@ -238,8 +254,24 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>A mapping of the project %1 was added.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Error while copying the condition:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Error while copying the variable mapping.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Edit formula</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formula...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Konflikte</source>
         <translation>Conflicts</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copy</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Variablenzuordnung</source>
         <translation>Variable mapping</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Add variable mapping</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

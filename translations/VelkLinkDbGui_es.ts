@@ -84,6 +84,10 @@
         <translation>Generar una condición para la línea seleccionada y copiarla al portapapeles</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Añadir condición</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Eliminar condición</translation>
     </message>
@@ -164,6 +168,10 @@ Wirklich fortfahren?</source>
   Fecha anterior de la tabla: %2, fecha nueva de la tabla: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>La variable %1 no existe en la tabla de destino</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Se cambió la correspondencia de variables del proyecto %1.</translation>
     </message>
@@ -174,6 +182,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Las líneas no se han vuelto a asignar y quedan como están. No se pueden leer estos proyectos de destino: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>La variable %1 no existe en la tabla de origen</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Wirklich fortfahren?</source>
         <translation>Solicitar número ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Hay una asignación de rango de valores para esta línea.
@@ -238,8 +254,24 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Se añadió un mapeo del proyecto %1.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Error al copiar la condición:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Error al copiar la asignación de variables.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Editar fórmula</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Fórmula...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Konflikte</source>
         <translation>Conflictos</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Variablenzuordnung</source>
         <translation>Correspondencia de variables</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Añadir asignación de variable</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>Luo ehto valitulle riville ja kopioi se leikepöydälle</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Lisää ehto</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Poista ehto</translation>
     </message>
@@ -164,6 +168,10 @@ Jatketaanko varmasti?</translation>
   Vanha taulukon päiväys: %2, uusi taulukon päiväys: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Muuttujaa %1 ei ole kohdetaulukossa</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Projektin %1 muuttujien kohdistusta muutettiin.</translation>
     </message>
@@ -174,6 +182,10 @@ Jatketaanko varmasti?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Rivejä ei kohdistettu uudelleen, ja ne pysyvät ennallaan. Näitä kohdeprojekteja ei voi lukea: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Muuttujaa %1 ei ole lähdetaulukossa</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Jatketaanko varmasti?</translation>
         <translation>Pyydä ERP-numero</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Liitä</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Tällä rivillä on arvoalueen kohdistus.
@@ -238,8 +254,24 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Projektin %1 kohdistus lisättiin.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Virhe ehdon kopioinnissa:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Virhe muuttujamäärityksen kopioinnissa.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Muokkaa kaavaa</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Kaava...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Konflikte</source>
         <translation>Ristiriidat</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopioi</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Variablenzuordnung</source>
         <translation>Muuttujien kohdistus</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Lisää muuttujamääritys</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

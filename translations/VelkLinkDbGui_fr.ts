@@ -84,6 +84,10 @@
         <translation>Générer une condition pour la ligne sélectionnée et la copier dans le presse-papiers</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Ajouter une condition</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Supprimer la condition</translation>
     </message>
@@ -164,6 +168,10 @@ Vraiment continuer ?</translation>
   Ancienne date de la table : %2, nouvelle date de la table : %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>La variable %1 n'existe pas dans la table cible</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>La correspondance des variables du projet %1 a été modifiée.</translation>
     </message>
@@ -174,6 +182,10 @@ Vraiment continuer ?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Les lignes n'ont pas été réaffectées et restent telles quelles. Ces projets cibles ne peuvent pas être lus : %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>La variable %1 n’existe pas dans la table source</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Vraiment continuer ?</translation>
         <translation>Demander un numéro ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Il existe une affectation de plage de valeurs pour cette ligne.
@@ -238,8 +254,24 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Un mapping du projet %1 a été ajouté.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Erreur lors de la copie de la condition :
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Erreur lors de la copie de l’affectation de variable.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Modifier la formule</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formule...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Konflikte</source>
         <translation>Conflits</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Variablenzuordnung</source>
         <translation>Correspondance des variables</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Ajouter une affectation de variable</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>Feltétel előállítása a kijelölt sorhoz és másolása a vágólapra</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Feltétel hozzáadása</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Feltétel törlése</translation>
     </message>
@@ -164,6 +168,10 @@ Valóban folytatja?</translation>
   Régi táblázatdátum: %2, új táblázatdátum: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>A(z) %1 változó nem létezik a céltáblázatban</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>A(z) %1 projekt változóleképezése megváltozott.</translation>
     </message>
@@ -174,6 +182,10 @@ Valóban folytatja?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>A sorok nem lettek újra hozzárendelve, és változatlanok maradnak. Ezek a célprojektek nem olvashatók: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>A(z) %1 változó nem létezik a forrástáblában</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Valóban folytatja?</translation>
         <translation>ERP-szám igénylése</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Beillesztés</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Ehhez a sorhoz értéktartomány-hozzárendelés létezik.
@@ -238,8 +254,24 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>A(z) %1 projekt egy leképezése hozzáadva.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Hiba a feltétel másolásakor:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Hiba a változó-hozzárendelés másolásakor.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Képlet szerkesztése</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Képlet...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Konflikte</source>
         <translation>Ütközések</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Másolás</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Variablenzuordnung</source>
         <translation>Változók leképezése</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Változó-hozzárendelés hozzáadása</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

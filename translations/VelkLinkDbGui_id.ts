@@ -84,6 +84,10 @@
         <translation>Buat syarat untuk baris yang dipilih dan salin ke papan klip</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Tambah kondisi</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Hapus syarat</translation>
     </message>
@@ -164,6 +168,10 @@ Sungguh lanjutkan?</translation>
   Tanggal tabel lama: %2, tanggal tabel baru: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Variabel %1 tidak ada di tabel tujuan</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Pemetaan variabel proyek %1 telah diubah.</translation>
     </message>
@@ -174,6 +182,10 @@ Sungguh lanjutkan?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Baris tidak ditetapkan ulang dan tetap seperti semula. Proyek target ini tidak dapat dibaca: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Variabel %1 tidak ada di tabel sumber</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Sungguh lanjutkan?</translation>
         <translation>Minta nomor ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Tempel</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Ada penetapan rentang nilai untuk baris ini.
@@ -238,8 +254,24 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Satu pemetaan proyek %1 telah ditambahkan.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Kesalahan saat menyalin kondisi:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Kesalahan saat menyalin pemetaan variabel.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Sunting rumus</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Rumus...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Konflikte</source>
         <translation>Konflik</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Salin</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Variablenzuordnung</source>
         <translation>Pemetaan variabel</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Tambah pemetaan variabel</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

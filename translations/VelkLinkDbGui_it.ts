@@ -84,6 +84,10 @@
         <translation>Generare una condizione per la riga selezionata e copiarla negli appunti</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Aggiungi condizione</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Eliminare la condizione</translation>
     </message>
@@ -164,6 +168,10 @@ Continuare davvero?</translation>
   Data precedente della tabella: %2, data nuova della tabella: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>La variabile %1 non esiste nella tabella di destinazione</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>La corrispondenza delle variabili del progetto %1 è stata modificata.</translation>
     </message>
@@ -174,6 +182,10 @@ Continuare davvero?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Le righe non sono state riassegnate e restano come sono. Questi progetti di destinazione non possono essere letti: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>La variabile %1 non esiste nella tabella di origine</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Continuare davvero?</translation>
         <translation>Richiedere numero ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Incolla</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Esiste un'assegnazione di intervallo di valori per questa riga.
@@ -238,8 +254,24 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>È stato aggiunto un mapping del progetto %1.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Errore durante la copia della condizione:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Errore durante la copia dell’assegnazione di variabile.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Modifica formula</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formula...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Konflikte</source>
         <translation>Conflitti</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Variablenzuordnung</source>
         <translation>Corrispondenza delle variabili</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Aggiungi assegnazione di variabile</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>選択した行の条件を生成してクリップボードにコピー</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>条件を追加</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>条件を削除</translation>
     </message>
@@ -164,6 +168,10 @@ Wirklich fortfahren?</source>
   旧テーブル日付: %2、新テーブル日付: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>変数 %1 は対象テーブルに存在しません</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>プロジェクト %1 の変数の対応付けが変更されました。</translation>
     </message>
@@ -174,6 +182,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>行は再割り当てされず、そのまま残ります。次のターゲットプロジェクトを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>変数 %1 は元の表にありません</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Wirklich fortfahren?</source>
         <translation>ERP番号を申請</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>貼り付け</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>この行には値範囲の割り当てがあります。
@@ -238,8 +254,24 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>プロジェクト %1 のマッピングが追加されました。</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>条件のコピー中にエラーが発生しました:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>変数の割り当てのコピー中にエラーが発生しました。
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>数式を編集</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>式...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>競合</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Variablenzuordnung</source>
         <translation>変数の対応付け</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>変数の割り当てを追加</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>선택한 행의 조건을 생성하여 클립보드에 복사</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>조건 추가</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>조건 삭제</translation>
     </message>
@@ -164,6 +168,10 @@ Wirklich fortfahren?</source>
   이전 테이블 날짜: %2, 새 테이블 날짜: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>변수 %1이(가) 대상 테이블에 없습니다</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>프로젝트 %1의 변수 매핑이 변경되었습니다.</translation>
     </message>
@@ -174,6 +182,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>행이 다시 할당되지 않았으며 그대로 유지됩니다. 다음 대상 프로젝트를 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>변수 %1이(가) 원본 표에 없습니다</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Wirklich fortfahren?</source>
         <translation>ERP 번호 신청</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>붙여넣기</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>이 행에는 값 범위 할당이 있습니다.
@@ -238,8 +254,24 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>프로젝트 %1의 매핑이 추가되었습니다.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>조건을 복사하는 중 오류가 발생했습니다:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>변수 할당을 복사하는 중 오류가 발생했습니다.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>수식 편집</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>수식...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>충돌</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Variablenzuordnung</source>
         <translation>변수 매핑</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>변수 할당 추가</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>Lag en betingelse for den valgte linjen og kopier den til utklippstavlen</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Legg til betingelse</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Slett betingelse</translation>
     </message>
@@ -164,6 +168,10 @@ Vil du virkelig fortsette?</translation>
   Gammel tabelldato: %2, ny tabelldato: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Variabelen %1 finnes ikke i måltabellen</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Variabeltilordningen for prosjektet %1 ble endret.</translation>
     </message>
@@ -174,6 +182,10 @@ Vil du virkelig fortsette?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Linjene ble ikke tilordnet på nytt og forblir som de er. Disse målprosjektene kan ikke leses: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Variabelen %1 finnes ikke i kildetabellen</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Vil du virkelig fortsette?</translation>
         <translation>Be om ERP-nummer</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Lim inn</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Det finnes en verdiområdetilordning for denne linjen.
@@ -238,8 +254,24 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>En mapping for prosjektet %1 ble lagt til.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Feil ved kopiering av betingelsen:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Feil ved kopiering av variabeltilordningen.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Rediger formel</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formel...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Konflikte</source>
         <translation>Konflikter</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopier</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Variablenzuordnung</source>
         <translation>Variabeltilordning</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Legg til variabeltilordning</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

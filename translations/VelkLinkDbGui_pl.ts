@@ -84,6 +84,10 @@
         <translation>Utwórz warunek dla zaznaczonego wiersza i skopiuj go do schowka</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Dodaj warunek</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Usuń warunek</translation>
     </message>
@@ -164,6 +168,10 @@ Naprawdę kontynuować?</translation>
   Stara data tabeli: %2, nowa data tabeli: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Zmienna %1 nie istnieje w tabeli docelowej</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Zmieniono mapowanie zmiennych projektu %1.</translation>
     </message>
@@ -174,6 +182,10 @@ Naprawdę kontynuować?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Wiersze nie zostały ponownie przypisane i pozostają bez zmian. Nie można odczytać tych projektów docelowych: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Zmienna %1 nie istnieje w tabeli źródłowej</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Naprawdę kontynuować?</translation>
         <translation>Zamów numer ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Wklej</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Dla tego wiersza istnieje przypisanie zakresu wartości.
@@ -238,8 +254,24 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Dodano mapowanie projektu %1.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Błąd podczas kopiowania warunku:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Błąd podczas kopiowania przypisania zmiennej.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Edytuj formułę</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formuła...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Konflikte</source>
         <translation>Konflikty</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopiuj</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Variablenzuordnung</source>
         <translation>Mapowanie zmiennych</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Dodaj przypisanie zmiennej</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>Gerar uma condição para a linha selecionada e copiá-la para a área de transferência</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Adicionar condição</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Eliminar condição</translation>
     </message>
@@ -164,6 +168,10 @@ Continuar mesmo?</translation>
   Data anterior da tabela: %2, data nova da tabela: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>A variável %1 não existe na tabela de destino</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>A correspondência de variáveis do projeto %1 foi alterada.</translation>
     </message>
@@ -174,6 +182,10 @@ Continuar mesmo?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>As linhas não foram atribuídas novamente e permanecem como estão. Não é possível ler estes projetos de destino: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>A variável %1 não existe na tabela de origem</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Continuar mesmo?</translation>
         <translation>Pedir número ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Existe uma atribuição de intervalo de valores para esta linha.
@@ -238,8 +254,24 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Foi adicionado um mapeamento do projeto %1.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Erro ao copiar a condição:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Erro ao copiar a atribuição de variável.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Editar fórmula</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Fórmula...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Konflikte</source>
         <translation>Conflitos</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Variablenzuordnung</source>
         <translation>Correspondência de variáveis</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Adicionar atribuição de variável</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>Создать условие для выделенной строки и скопировать его в буфер обмена</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Добавить условие</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Удалить условие</translation>
     </message>
@@ -164,6 +168,10 @@ Wirklich fortfahren?</source>
   Старая дата таблицы: %2, новая дата таблицы: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Переменной %1 нет в целевой таблице</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Сопоставление переменных проекта %1 изменено.</translation>
     </message>
@@ -174,6 +182,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Строки не были назначены заново и остаются без изменений. Не удаётся прочитать эти целевые проекты: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Переменной %1 нет в исходной таблице</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Wirklich fortfahren?</source>
         <translation>Запросить номер ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Для этой строки есть назначение диапазона значений.
@@ -238,8 +254,24 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Сопоставление проекта %1 добавлено.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Ошибка при копировании условия:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Ошибка при копировании назначения переменной.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Изменить формулу</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Формула...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>Конфликты</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Копировать</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Variablenzuordnung</source>
         <translation>Сопоставление переменных</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Добавить назначение переменной</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>Ustvari pogoj za označeno vrstico in ga kopiraj v odložišče</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Dodaj pogoj</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Izbriši pogoj</translation>
     </message>
@@ -164,6 +168,10 @@ Res nadaljujem?</translation>
   Stari datum tabele: %2, novi datum tabele: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Spremenljivka %1 v ciljni tabeli ne obstaja</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Preslikava spremenljivk projekta %1 je bila spremenjena.</translation>
     </message>
@@ -174,6 +182,10 @@ Res nadaljujem?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Vrstice niso bile znova dodeljene in ostanejo, kot so. Teh ciljnih projektov ni mogoče prebrati: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Spremenljivka %1 ne obstaja v izvorni tabeli</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Res nadaljujem?</translation>
         <translation>Zahtevaj številko ERP</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Prilepi</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Za to vrstico obstaja dodelitev območja vrednosti.
@@ -238,8 +254,24 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Preslikava projekta %1 je bila dodana.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Napaka pri kopiranju pogoja:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Napaka pri kopiranju dodelitve spremenljivke.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Uredi formulo</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formula...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Konflikte</source>
         <translation>Spori</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopiraj</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Variablenzuordnung</source>
         <translation>Preslikava spremenljivk</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Dodaj dodelitev spremenljivke</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

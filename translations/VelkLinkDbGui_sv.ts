@@ -84,6 +84,10 @@
         <translation>Skapa ett villkor för den markerade raden och kopiera det till urklipp</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Lägg till villkor</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Ta bort villkor</translation>
     </message>
@@ -164,6 +168,10 @@ Vill du verkligen fortsätta?</translation>
   Gammalt tabelldatum: %2, nytt tabelldatum: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>Variabeln %1 finns inte i måltabellen</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>Variabelmappningen för projektet %1 ändrades.</translation>
     </message>
@@ -174,6 +182,10 @@ Vill du verkligen fortsätta?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Raderna tilldelades inte på nytt och förblir som de är. Dessa målprojekt kan inte läsas: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>Variabeln %1 finns inte i källtabellen</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Vill du verkligen fortsätta?</translation>
         <translation>Begär ERP-nummer</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Klistra in</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Det finns en värdeområdestilldelning för den här raden.
@@ -238,8 +254,24 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>En mappning för projektet %1 lades till.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Fel när villkoret kopierades:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Fel när variabeltilldelningen kopierades.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Redigera formel</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formel...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Konflikte</source>
         <translation>Konflikter</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopiera</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Variablenzuordnung</source>
         <translation>Variabelmappning</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Lägg till variabeltilldelning</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>Seçili satır için koşul oluştur ve panoya kopyala</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Koşul ekle</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>Koşulu sil</translation>
     </message>
@@ -164,6 +168,10 @@ Gerçekten devam edilsin mi?</translation>
   Eski tablo tarihi: %2, yeni tablo tarihi: %3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>%1 değişkeni hedef tabloda yok</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>%1 projesinin değişken eşlemesi değiştirildi.</translation>
     </message>
@@ -174,6 +182,10 @@ Gerçekten devam edilsin mi?</translation>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>Satırlar yeniden atanmadı ve olduğu gibi kaldı. Bu hedef projeler okunamıyor: %1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>%1 değişkeni kaynak tabloda yok</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Gerçekten devam edilsin mi?</translation>
         <translation>ERP numarası iste</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>Yapıştır</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>Bu satır için bir değer aralığı ataması var.
@@ -238,8 +254,24 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>%1 projesinin bir eşlemesi eklendi.</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>Koşul kopyalanırken hata oluştu:
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>Değişken ataması kopyalanırken hata oluştu.
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>Formülü düzenle</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>Formül...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Konflikte</source>
         <translation>Çakışmalar</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Kopyala</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Variablenzuordnung</source>
         <translation>Değişken eşlemesi</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>Değişken ataması ekle</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

@@ -84,6 +84,10 @@
         <translation>为所选行生成条件并复制到剪贴板</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>添加条件</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>删除条件</translation>
     </message>
@@ -164,6 +168,10 @@ Wirklich fortfahren?</source>
   旧表日期：%2，新表日期：%3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>变量 %1 在目标表中不存在</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>项目 %1 的变量映射已更改。</translation>
     </message>
@@ -174,6 +182,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>这些行未重新分配，保持原样。无法读取以下目标项目：%1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>变量 %1 在源表中不存在</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Wirklich fortfahren?</source>
         <translation>申请 ERP 编号</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>此行存在值范围分配。
@@ -238,8 +254,24 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>项目 %1 的一个映射已添加。</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>复制条件时出错：
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>复制变量分配时出错。
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>编辑公式</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>公式...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>冲突</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Variablenzuordnung</source>
         <translation>变量映射</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>添加变量分配</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

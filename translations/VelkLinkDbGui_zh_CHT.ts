@@ -84,6 +84,10 @@
         <translation>為所選列產生條件並複製到剪貼簿</translation>
     </message>
     <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>新增條件</translation>
+    </message>
+    <message>
         <source>Bedingung löschen</source>
         <translation>刪除條件</translation>
     </message>
@@ -164,6 +168,10 @@ Wirklich fortfahren?</source>
   舊表格日期：%2，新表格日期：%3</translation>
     </message>
     <message>
+        <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
+        <translation>變數 %1 在目標表格中不存在</translation>
+    </message>
+    <message>
         <source>Die Variablenzuordnung für das Projekt %1 wurde geändert.</source>
         <translation>專案 %1 的變數對應已變更。</translation>
     </message>
@@ -174,6 +182,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
         <translation>這些行未重新指派，保持原樣。無法讀取以下目標專案：%1</translation>
+    </message>
+    <message>
+        <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
+        <translation>變數 %1 在來源表中不存在</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
@@ -208,6 +220,10 @@ Wirklich fortfahren?</source>
         <translation>申請 ERP 編號</translation>
     </message>
     <message>
+        <source>Einfügen</source>
+        <translation>貼上</translation>
+    </message>
+    <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
         <translation>此列有值範圍指派。
@@ -238,8 +254,24 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>專案 %1 的一個對應已新增。</translation>
     </message>
     <message>
+        <source>Fehler beim Kopieren der Bedingung:
+%1</source>
+        <translation>複製條件時發生錯誤：
+%1</translation>
+    </message>
+    <message>
+        <source>Fehler beim Kopieren der Variablenzuordnung.
+%1</source>
+        <translation>複製變數指派時發生錯誤。
+%1</translation>
+    </message>
+    <message>
         <source>Formel bearbeiten</source>
         <translation>編輯公式</translation>
+    </message>
+    <message>
+        <source>Formel...</source>
+        <translation>公式...</translation>
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
@@ -268,6 +300,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Konflikte</source>
         <translation>衝突</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>複製</translation>
     </message>
     <message>
         <source>Legende anzeigen</source>
@@ -352,6 +388,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Variablenzuordnung</source>
         <translation>變數對應</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung hinzufügen</source>
+        <translation>新增變數指派</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

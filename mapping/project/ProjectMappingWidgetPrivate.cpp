@@ -63,8 +63,9 @@ void ProjectMappingWidgetPrivate::buildLayout()
 
 void ProjectMappingWidgetPrivate::clearTargets()
 {
-    qDeleteAll(targetWidgets);
-    targetWidgets.clear();
+    const QList<TargetMappingWidget *> panels = std::exchange(targetWidgets, {});
+    for (TargetMappingWidget *const panel : panels)
+        panel->discard();
 }
 
 void ProjectMappingWidgetPrivate::showTargets()

@@ -1,5 +1,6 @@
 // The part of TargetMappingWidget that builds the panel.
 #include "TargetMappingWidget.h"
+#include "VariableListDelegate.h"
 
 #include <core/text/PString.h>
 #include <gui/views/ButtonBarDelegate.h>
@@ -20,6 +21,26 @@ QIcon deleteIcon()
 {
     return QIcon(QStringLiteral("bitmaps:indextree/state_deleted.png"));
 }
+
+/// As high as its rows, and without any as high as its header.
+class TargetList : public QTableView
+{
+public:
+    using QTableView::QTableView;
+
+    QSize sizeHint() const override { return {QTableView::sizeHint().width(), contentHeight()}; }
+    QSize minimumSizeHint() const override
+    {
+        return {QTableView::minimumSizeHint().width(), contentHeight()};
+    }
+
+private:
+    [[nodiscard]] int contentHeight() const
+    {
+        return horizontalHeader()->sizeHint().height() + verticalHeader()->length() +
+               2 * frameWidth();
+    }
+};
 
 } // namespace
 
@@ -51,6 +72,8 @@ void TargetMappingWidget::buildHeader()
     headerLayout->addWidget(new QLabel(PString::translate("Projektpfad:", "VelkLinkDbGui"), this));
     pathLabel = new QLabel(this);
     pathLabel->setObjectName(QStringLiteral("pathLabel"));
+    // A long path is cut and stands in the tool tip; it must not widen the column.
+    pathLabel->setMinimumWidth(1);
     headerLayout->addWidget(pathLabel);
     headerLayout->addSpacerItem(
         new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum));
@@ -74,32 +97,36 @@ void TargetMappingWidget::buildHeader()
     connect(downButton, SIGNAL(clicked()), this, SLOT(onMoveTargetDown()));
 }
 
-QTableView *TargetMappingWidget::addList(const char *name, QStandardItemModel *&model, int column,
-                                         const QStringList &headers, const QString &deleteToolTip,
-                                         const char *deleteSlot)
+QTableView *TargetMappingWidget::addList(const char *name, QStandardItemModel *&model,
+                                         const QStringList &headers, const ListButtons &buttons)
 {
-    auto *const view = new QTableView(this);
+    auto *const view = new TargetList(this);
     view->setObjectName(QLatin1String(name));
+    view->setAccessibleName(headers.last());
     view->setContextMenuPolicy(Qt::CustomContextMenu);
     view->verticalHeader()->setVisible(false);
     view->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setTabKeyNavigation(false); // Tab goes on to the next list
     model = new QStandardItemModel(0, int(headers.size()), view);
     model->setHorizontalHeaderLabels(headers);
     view->setModel(model);
     auto *const header = new PButtonHeaderView(QSize(24, 24), Qt::Horizontal, view);
     view->setHorizontalHeader(header);
     header->viewport()->setMouseTracking(true);
+    header->setButtonForSection(0, QString(), QIcon(QStringLiteral(":/bitmaps/add.png")),
+                                buttons.addToolTip);
     header->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     header->setStretchLastSection(true);
-    auto *const buttons = new ButtonBarDelegate(view);
-    buttons->addButton(deleteToolTip, deleteToolTip, deleteIcon());
-    view->setItemDelegateForColumn(0, buttons);
+    auto *const bar = new ButtonBarDelegate(view);
+    bar->addButton(buttons.deleteToolTip, buttons.deleteToolTip, deleteIcon());
+    view->setItemDelegateForColumn(0, bar);
     view->viewport()->setMouseTracking(true);
-    connect(buttons, SIGNAL(indexNeedsUpdate(const QModelIndex &)), view,
+    connect(header, SIGNAL(buttonClicked(int)), this, buttons.addSlot);
+    connect(bar, SIGNAL(indexNeedsUpdate(const QModelIndex &)), view,
             SLOT(update(const QModelIndex &)));
-    connect(buttons, SIGNAL(buttonClicked(const QModelIndex &, int)), this, deleteSlot);
-    gridLayout->addWidget(view, 1, column);
+    connect(bar, SIGNAL(buttonClicked(const QModelIndex &, int)), this, buttons.deleteSlot);
+    connect(view, SIGNAL(customContextMenuRequested(const QPoint &)), this, buttons.menuSlot);
+    gridLayout->addWidget(view, 1, gridLayout->count());
     return view;
 }
 
@@ -108,13 +135,51 @@ void TargetMappingWidget::buildLists()
     gridLayout = new QGridLayout;
     gridLayout->setContentsMargins(0, 0, 0, 0);
     mainLayout->addLayout(gridLayout);
-    conditionView = addList("conditionView", conditionModel, 0,
+    conditionView = addList("conditionView", conditionModel,
                             {QString(), PString::translate("Bedingungen", "VelkLinkDbGui")},
-                            PString::translate("Bedingung löschen", "VelkLinkDbGui"),
-                            SLOT(onDeleteConditionClicked(const QModelIndex &, int)));
-    variableView = addList("variableView", variableModel, 1,
+                            {PString::translate("Bedingung hinzufügen", "VelkLinkDbGui"),
+                             PString::translate("Bedingung löschen", "VelkLinkDbGui"),
+                             SLOT(onAddConditionClicked()),
+                             SLOT(onDeleteConditionClicked(const QModelIndex &, int)),
+                             SLOT(onConditionContextMenu(const QPoint &))});
+    variableView = addList("variableView", variableModel,
                            {QString(), PString::translate("Zielvariable", "VelkLinkDbGui"),
                             PString::translate("Variablenzuordnung", "VelkLinkDbGui")},
-                           PString::translate("Zuordnung löschen", "VelkLinkDbGui"),
-                           SLOT(onDeleteVarMapping(const QModelIndex &, int)));
+                           {PString::translate("Variablenzuordnung hinzufügen", "VelkLinkDbGui"),
+                            PString::translate("Zuordnung löschen", "VelkLinkDbGui"),
+                            SLOT(onAddVariableMappingClicked()),
+                            SLOT(onDeleteVarMapping(const QModelIndex &, int)),
+                            SLOT(onVarMappingContextMenu(const QPoint &))});
+    variableView->setEditTriggers(variableView->editTriggers() |
+                                  QAbstractItemView::SelectedClicked);
+}
+
+VariableListDelegate *TargetMappingWidget::addDelegate(QTableView *view, int column,
+                                                       const VKTab::ContentRef &table,
+                                                       bool showFormula)
+{
+    auto *const delegate = new VariableListDelegate(table, showFormula, view);
+    delegate->setVariables(sourceVariables, targetVariables);
+    delegate->dialogs = dialogs;
+    view->setItemDelegateForColumn(column, delegate);
+    return delegate;
+}
+
+void TargetMappingWidget::addDelegates()
+{
+    VariableListDelegate *const conditions = addDelegate(conditionView, 1, sourceContent, false);
+    conditions->formulaOnly = true;
+    conditions->onChanged = [this] {
+        storeConditions();
+    };
+    VariableListDelegate *const targets = addDelegate(variableView, 1, targetContent, false);
+    targets->onChanged = [this] {
+        storeVariableMappings();
+    };
+    VariableListDelegate *const values = addDelegate(variableView, 2, sourceContent, true);
+    values->showIgnoreItem = true;
+    values->model = variableModel;
+    values->valueColumn = 2;
+    values->targetColumn = 1;
+    values->onChanged = targets->onChanged;
 }

@@ -1,6 +1,7 @@
 // The part of TargetMappingWidget that brings conditions and variable mappings into the lists and
 // back.
 #include "AssignmentCollector.h"
+#include "editFormula.h"
 #include "ignoreMarker.h"
 #include "TargetItemRole.h"
 #include "TargetMappingParamSet.h"
@@ -15,6 +16,7 @@
 #include <geomcore/expression/VarCollector.h>
 
 #include <QStandardItemModel>
+#include <QTableView>
 
 #include <memory>
 
@@ -34,6 +36,14 @@ std::unique_ptr<VKTab::NodeBase> parsed(VarsetParserC &parser, const QString &te
     if (node && node->getType() == VKTab::InvalidType)
         node.reset();
     return node;
+}
+
+/// In the column of the delete button, where nothing is to be typed.
+QStandardItem *buttonItem()
+{
+    auto *const item = new QStandardItem;
+    item->setEditable(false);
+    return item;
 }
 
 QStandardItem *formulaItem(const QString &text)
@@ -69,7 +79,7 @@ void TargetMappingWidget::loadConditions(const PrjMappingTargetC &target)
     conditionVariables.clear();
     const QList<const VarsetConditionI *> conditions = target.getConditions();
     for (const VarsetConditionI *const condition : conditions) {
-        conditionModel->appendRow({new QStandardItem, formulaItem(condition->getCondition())});
+        appendCondition(condition->getCondition());
         collectVariables(condition->getCondition());
     }
 }
@@ -91,9 +101,7 @@ void TargetMappingWidget::loadVariableMappings(const PrjMappingTargetC &target)
     const QList<const VarsetModifierI *> modifiers = target.getVarsetModifier();
     for (const VarsetModifierI *const modifier : modifiers) {
         if (const auto *const plain = dynamic_cast<const VarsetVarMappingC *>(modifier)) {
-            variableModel->appendRow({new QStandardItem,
-                                      new QStandardItem(plain->getTargetVarName()),
-                                      sourceItem(*plain)});
+            appendVariableMapping(plain->getTargetVarName(), sourceItem(*plain));
         } else if (const auto *const value = dynamic_cast<const VarsetValueMappingC *>(modifier)) {
             const QString formula = value->getFormula();
             const QString name = assignedVariable(formula);
@@ -101,14 +109,15 @@ void TargetMappingWidget::loadVariableMappings(const PrjMappingTargetC &target)
                 PMessage::LogToWindow(formula + QStringLiteral(" ") +
                                       PString::translate("enthält Fehler!", "VelkLinkDbGui"));
             else
-                variableModel->appendRow(
-                    {new QStandardItem, new QStandardItem(name), formulaItem(formula)});
+                appendVariableMapping(name, formulaItem(formula));
         }
     }
 }
 
 void TargetMappingWidget::storeConditions()
 {
+    if (!params)
+        return;
     conditionVariables.clear();
     PrjMappingTargetC target = params->projectMapping.findTarget(index);
     target.clearConditions();
@@ -136,6 +145,8 @@ VarsetModifierI *TargetMappingWidget::makeModifier(int row) const
 
 void TargetMappingWidget::storeVariableMappings()
 {
+    if (!params)
+        return;
     PrjMappingTargetC target = params->projectMapping.findTarget(index);
     target.clearModifier();
     for (int row = 0; row < variableModel->rowCount(); ++row)
@@ -144,25 +155,41 @@ void TargetMappingWidget::storeVariableMappings()
         notify(target, index, TargetModified);
 }
 
-void TargetMappingWidget::collapseEmptyLists()
+void TargetMappingWidget::appendCondition(const QString &text)
 {
-    const bool filled = conditionModel->rowCount() > 0 || variableModel->rowCount() > 0;
-    conditionView->setVisible(filled);
-    variableView->setVisible(filled);
+    conditionModel->appendRow({buttonItem(), formulaItem(text)});
+}
+
+void TargetMappingWidget::appendVariableMapping(const QString &targetName, QStandardItem *value)
+{
+    variableModel->appendRow({buttonItem(), new QStandardItem(targetName), value});
+}
+
+void TargetMappingWidget::onAddVariableMappingClicked()
+{
+    appendVariableMapping(QString(), new QStandardItem(QString()));
+    const QModelIndex cell = variableModel->index(variableModel->rowCount() - 1, 1);
+    variableView->setCurrentIndex(cell);
+    variableView->edit(cell);
 }
 
 void TargetMappingWidget::onDeleteVarMapping(const QModelIndex &cell, int /*buttonIndex*/)
 {
-    if (!variableModel->removeRows(cell.row(), 1))
-        return;
-    collapseEmptyLists();
-    storeVariableMappings();
+    if (variableModel->removeRows(cell.row(), 1))
+        storeVariableMappings();
+}
+
+void TargetMappingWidget::onAddConditionClicked()
+{
+    editFormula({sourceVariables, targetVariables, QString()}, QString(), parentWidget(),
+                *std::shared_ptr(dialogs), [this](const QString &text) {
+                    appendCondition(text);
+                    storeConditions();
+                });
 }
 
 void TargetMappingWidget::onDeleteConditionClicked(const QModelIndex &cell, int /*buttonIndex*/)
 {
-    if (!conditionModel->removeRows(cell.row(), 1))
-        return;
-    collapseEmptyLists();
-    storeConditions();
+    if (conditionModel->removeRows(cell.row(), 1))
+        storeConditions();
 }

@@ -1,5 +1,6 @@
 #include "TargetMappingWidget.h"
 
+#include "OpenDialogs.h"
 #include "TargetMappingParamSet.h"
 
 #include <mapping/data/ApplicationHandlerI.h>
@@ -21,6 +22,7 @@ TargetMappingWidget::TargetMappingWidget(int targetIndex, const VKTab::ContentRe
     , notify(callback)
     , params(paramSet)
     , sourceContent(source)
+    , dialogs(std::make_shared<OpenDialogs>())
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     buildHeader();
@@ -30,19 +32,19 @@ TargetMappingWidget::TargetMappingWidget(int targetIndex, const VKTab::ContentRe
     const QString builtPath = targetPath(!remoteViewerMode, path);
     showPath(path, builtPath);
     readTable(builtPath);
+    addDelegates();
     loadConditions(target);
     loadVariableMappings(target);
-    collapseEmptyLists();
 }
 
 void TargetMappingWidget::showPath(const QString &path, const QString &builtPath)
 {
-    if (PPathName(builtPath).exists(false))
-        pathLabel->setText(path);
-    else
-        pathLabel->setText(
-            PString::translate("%1 <b>(Konnte nicht gefunden werden)</b>", "VelkLinkDbGui")
-                .arg(path));
+    const bool found = PPathName(builtPath).exists(false);
+    const QString missing =
+        PString::translate("%1 <b>(Konnte nicht gefunden werden)</b>", "VelkLinkDbGui");
+    pathLabel->setTextFormat(found ? Qt::PlainText : Qt::RichText);
+    pathLabel->setText(found ? path : missing.arg(path.toHtmlEscaped()));
+    pathLabel->setToolTip(path.toHtmlEscaped());
 }
 
 void TargetMappingWidget::readTable(const QString &builtPath)
@@ -55,6 +57,19 @@ void TargetMappingWidget::readTable(const QString &builtPath)
 }
 
 TargetMappingWidget::~TargetMappingWidget() = default;
+
+void TargetMappingWidget::discard()
+{
+    if (dialogs->isEmpty()) {
+        delete this;
+        return;
+    }
+    hide();
+    setParent(nullptr);
+    notify = {};
+    params = nullptr;
+    dialogs->close([this] { deleteLater(); });
+}
 
 void TargetMappingWidget::updateMoveButtons()
 {

@@ -7,29 +7,36 @@
 #include <geomcore/table/ContentRef.h>
 
 #include <QHash>
+#include <QPersistentModelIndex>
 #include <QStringList>
 #include <QWidget>
 
 #include <functional>
+#include <memory>
+#include <optional>
 
 QT_BEGIN_NAMESPACE
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
-class QModelIndex;
+class QMenu;
+class QPoint;
 class QPushButton;
+class QStandardItem;
 class QStandardItemModel;
 class QTableView;
 class QVBoxLayout;
 QT_END_NAMESPACE
 
+class OpenDialogs;
+class VariableListDelegate;
 class VarsetModifierI;
 struct TargetMappingParamSet;
 
 /// The panel of one target project: where it stands in the order, where the project is, which lines
 /// it is for and how its variables get their values, and the buttons that move, remove and open it.
-/// Conditions and variable mappings can be deleted. Every change goes to the callback, which may
-/// delete the panel later, but not at once.
+/// Each edit of the lists replaces all conditions or all variable mappings of the target. Every
+/// change goes to the callback, which may delete the panel later, but not at once.
 class TargetMappingWidget : public QWidget
 {
     Q_OBJECT
@@ -45,6 +52,9 @@ public:
 
     /// Enables the move buttons as the target's place among the targets with a path allows.
     void updateMoveButtons();
+    /// Instead of delete, for whoever ends the panel while one of its formula editors may be open:
+    /// that is closed, nothing is told any more, and the panel goes as soon as it can.
+    void discard();
 
     int index;                      ///< of the target in the mapping; rewritten when targets move
     QStringList conditionVariables; ///< that the target's conditions read, each name once
@@ -53,11 +63,19 @@ public:
     QPushButton *downButton = nullptr;
 
 private Q_SLOTS:
+    void onAddVariableMappingClicked();
     void onDeleteVarMapping(const QModelIndex &index, int buttonIndex);
+    void onAddConditionClicked();
     void onDeleteConditionClicked(const QModelIndex &index, int buttonIndex);
     void onRemoveTargetClicked();
     void onSelectProjectClicked();
     void onAssignTarget();
+    void onVarMappingContextMenu(const QPoint &pos);
+    void onCopyVarMapping();
+    void onPasteVarMapping();
+    void onConditionContextMenu(const QPoint &pos);
+    void onCopyCondition();
+    void onPasteCondition();
     void onMoveTargetUp();
     void onMoveTargetDown();
 
@@ -66,17 +84,28 @@ private:
     void buildLists();
     [[nodiscard]] QPushButton *addHeaderButton(const char *name, const QIcon &icon,
                                                const QString &toolTip);
-    [[nodiscard]] QTableView *addList(const char *name, QStandardItemModel *&model, int column,
-                                      const QStringList &headers, const QString &deleteToolTip,
-                                      const char *deleteSlot);
+    struct ListButtons
+    {
+        QString addToolTip;
+        QString deleteToolTip;
+        const char *addSlot;
+        const char *deleteSlot;
+        const char *menuSlot;
+    };
+    /// Right of the lists that are there.
+    [[nodiscard]] QTableView *addList(const char *name, QStandardItemModel *&model,
+                                      const QStringList &headers, const ListButtons &buttons);
+    void addDelegates();
+    VariableListDelegate *addDelegate(QTableView *view, int column, const VKTab::ContentRef &table,
+                                      bool showFormula);
     void showPath(const QString &path, const QString &builtPath);
     void readTable(const QString &builtPath);
     void loadConditions(const PrjMappingTargetC &target);
     void loadVariableMappings(const PrjMappingTargetC &target);
     void collectVariables(const QString &condition);
     [[nodiscard]] QString assignedVariable(const QString &formula) const;
-    /// As long as nothing can be entered, empty lists would only take room.
-    void collapseEmptyLists();
+    void appendCondition(const QString &text);
+    void appendVariableMapping(const QString &targetName, QStandardItem *value);
     void storeConditions();
     void storeVariableMappings();
     [[nodiscard]] bool passesCheck(const PrjMappingTargetC &target, const VKTab::LineId &sourceLine,
@@ -84,6 +113,12 @@ private:
     void assignLine(const VKTab::LineId &sourceLine, const VKTab::LineId &targetLine);
     /// Null for a formula that does not parse; the caller owns it.
     [[nodiscard]] VarsetModifierI *makeModifier(int row) const;
+    /// A menu with "Kopieren" if a cell is under it and "Einfügen" if there is something to paste.
+    void showCopyMenu(QTableView *view, const QPoint &pos, const char *copySlot,
+                      const char *pasteSlot, bool canPaste);
+    /// None if the copied mapping fits the tables of this target.
+    [[nodiscard]] std::optional<QString> pasteError() const;
+    [[nodiscard]] std::optional<QString> formulaError(const QString &formula) const;
 
     Notify notify;
     TargetMappingParamSet *params;
@@ -100,4 +135,8 @@ private:
     QVBoxLayout *mainLayout = nullptr;
     QGridLayout *gridLayout = nullptr;
     QHBoxLayout *headerLayout = nullptr;
+    /// The cell under the last context menu.
+    QPersistentModelIndex variableMenuIndex;
+    QPersistentModelIndex conditionMenuIndex;
+    std::shared_ptr<OpenDialogs> dialogs;
 };

@@ -13,11 +13,15 @@ namespace {
 
 bool enters(const Var &var, const QSet<int> &excluded)
 {
-    return var.getVarSource() == fileLayerType() && var.getVarType() <= VarTypeComputed &&
-           !excluded.contains(var.getVarId().value());
+    return entersVarset(var) && !excluded.contains(var.getVarId().value());
 }
 
 } // namespace
+
+bool entersVarset(const Var &var)
+{
+    return var.getVarSource() == fileLayerType() && var.getVarType() <= VarTypeComputed;
+}
 
 QHash<QString, MapVarValueC> createVarsetFromVKTable(const Content &content, const LineId &line,
                                                      const QSet<int> &excluded)

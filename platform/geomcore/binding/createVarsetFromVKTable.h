@@ -13,7 +13,12 @@ class MapVarValueC;
 namespace VKTab {
 class Content;
 class Line;
+class Var;
 } // namespace VKTab
+
+/// Whether a variable of a table is one of those that varsets have: plain, range or computed, and
+/// of the file itself.
+[[nodiscard]] VELKGEOMCORE_EXPORT bool entersVarset(const VKTab::Var &var);
 
 /// The plain, range and computed variables of the file with their values on a line, untranslated
 /// and in plain notation, hidden ones and empty values included; columns of added layers are left
