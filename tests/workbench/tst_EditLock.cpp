@@ -17,6 +17,7 @@ class tst_EditLock : public QObject
 private Q_SLOTS:
     void takenOnce();
     void goesWithItsOwner();
+    void leavesTheLockOfAnotherAlone();
     void ofAnotherComputer();
     void ofADeadProcess();
     void withoutWriteRights();
@@ -58,6 +59,28 @@ void tst_EditLock::goesWithItsOwner()
         QVERIFY(QFile::exists(EditLock::lockFile(file)));
     }
     QVERIFY(!QFile::exists(EditLock::lockFile(file)));
+}
+
+/// Whoever finds no lock file may edit, though ours was only deleted.
+void tst_EditLock::leavesTheLockOfAnotherAlone()
+{
+    const SessionFixture files;
+    const QString file = files.write();
+    {
+        EditLock lock;
+        QCOMPARE(lock.take(file), EditLock::Taken);
+        QVERIFY(QFile::remove(EditLock::lockFile(file)));
+        EditLock other;
+        QCOMPARE(other.take(file), EditLock::Taken);
+        QCOMPARE(lock.take(file), EditLock::HeldByOther);
+        QVERIFY(!lock.isTaken());
+        QVERIFY(QFile::exists(EditLock::lockFile(file)));
+    }
+    EditLock lock;
+    QCOMPARE(lock.take(file), EditLock::Taken);
+    QVERIFY(QFile::remove(EditLock::lockFile(file)));
+    QCOMPARE(lock.take(file), EditLock::Taken);
+    QVERIFY(QFile::exists(EditLock::lockFile(file)));
 }
 
 void tst_EditLock::ofAnotherComputer()

@@ -8,8 +8,11 @@
 
 #ifdef Q_OS_UNIX
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
+
+#include <vector>
 
 namespace {
 
@@ -25,6 +28,31 @@ QString userName()
         return QString::fromLocal8Bit(entry->pw_name);
 #endif
     return QString();
+}
+
+/// Tells the file under a name from any other that may come to stand there; empty if there is none.
+QByteArray markOf(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    struct stat found
+    {
+    };
+    if (stat(QFile::encodeName(path).constData(), &found) != 0)
+        return {};
+    return QByteArray::number(quint64(found.st_dev)) + ' ' +
+           QByteArray::number(quint64(found.st_ino)) + ' ' +
+           QByteArray::number(qint64(found.st_mtim.tv_sec)) + '.' +
+           QByteArray::number(qint64(found.st_mtim.tv_nsec));
+#else
+    return QFileInfo(path).lastModified().toString(Qt::ISODateWithMs).toLatin1();
+#endif
+}
+
+/// Locks whose files are gone. Giving one up would remove what stands under its name now.
+std::vector<std::unique_ptr<QLockFile>> &lostLocks()
+{
+    static auto *const locks = new std::vector<std::unique_ptr<QLockFile>>; // never given up
+    return *locks;
 }
 
 } // namespace
@@ -45,6 +73,7 @@ EditLock::Result EditLock::take(const QString &mappingFile)
     if (lock->tryLock(0)) {
         m_lock = std::move(lock);
         noteSelf();
+        m_mark = markOf(m_lock->fileName());
         return Taken;
     }
     if (lock->error() != QLockFile::LockFailedError)
@@ -56,6 +85,8 @@ EditLock::Result EditLock::take(const QString &mappingFile)
 
 void EditLock::release()
 {
+    if (m_lock && markOf(m_lock->fileName()) != m_mark)
+        lostLocks().push_back(std::move(m_lock));
     m_lock.reset();
 }
 

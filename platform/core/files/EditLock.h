@@ -29,6 +29,7 @@ public:
 
     /// Gives up a former lock first.
     Result take(const QString &mappingFile);
+    /// Leaves a lock file alone that somebody else put in the place of ours.
     void release();
     [[nodiscard]] bool isTaken() const;
     /// Of the lock that was found in the way.
@@ -46,5 +47,6 @@ private:
     void readOwner(const QString &lockFile);
 
     std::unique_ptr<QLockFile> m_lock;
+    QByteArray m_mark; ///< of its file as it was taken
     SessionOwner m_owner;
 };
