@@ -23,6 +23,18 @@
 #include <QPushButton>
 #include <QScopeGuard>
 
+namespace {
+
+/// A button takes its shortcut from its text, so that would go with each change of it.
+void showText(QPushButton *button, const QString &text)
+{
+    const QKeySequence keys = button->shortcut();
+    button->setText(text);
+    button->setShortcut(keys);
+}
+
+} // namespace
+
 void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
                                                 const PrjMappingC &newMapping,
                                                 const CatalogMappingC &catalog)
@@ -125,6 +137,7 @@ void TableMappingWidgetPrivate::clearTargetTable()
 {
     m_target->clear();
     m_filters.forgetTarget();
+    showText(btnMapLine, QString());
 }
 
 void TableMappingWidgetPrivate::showSourceLine(const VKTab::LineId &id)
@@ -265,6 +278,13 @@ void TableMappingWidgetPrivate::showMapButton(const PrjMapperLineC &line,
             "Es existiert eine Wertebereichszuordnung für diese Zeile.\nZuordnung muss über "
             "'Wertebereichszuordnung bearbeiten' verändert werden",
             "VelkLinkDbGui");
+    // What the key would do must be seen before it is pressed.
+    showText(btnMapLine,
+             isCurrent || !isFree
+                 ? QString()
+                 : QStringLiteral("%1 → %2").arg(
+                       QString::number(sourceLine.value(0)),
+                       QString::number(targetView->getTable().getSelection().value(0))));
     btnMapLine->setIcon(QIcon(isCurrent ? confirm : assign));
     btnMapLine->setToolTip(toolTip);
     btnMapLine->setAccessibleName(toolTip);

@@ -549,7 +549,10 @@ void tst_TableMappingSelection::mapButton()
     QCOMPARE(button->toolTip(), QString("Zuordnung bestätigen (v)"));
     QCOMPARE(image(button->icon()), confirm);
     QVERIFY(button->isEnabled());
+    QCOMPARE(button->text(), QString());
     f->click(f->target, 1);
+    QCOMPARE(button->text(), QString("1 → 1"));
+    QCOMPARE(button->shortcut(), QKeySequence(Qt::Key_V));
     QCOMPARE(button->toolTip(), QString("Aktuell markierte Zeile zuordnen (v)"));
     QCOMPARE(button->accessibleName(), button->toolTip());
     QCOMPARE(image(button->icon()), assign);
@@ -557,6 +560,12 @@ void tst_TableMappingSelection::mapButton()
     f->click(f->target, 3);
     QCOMPARE(button->toolTip(), QString("Zuordnung bestätigen (v)"));
     QCOMPARE(image(button->icon()), confirm);
+    QCOMPARE(button->text(), QString());
+    QCOMPARE(button->shortcut(), QKeySequence(Qt::Key_V));
+    // With the target table goes what was selected in it.
+    f->click(f->target, 1);
+    f->click(f->source, 2, Qt::ControlModifier);
+    QCOMPARE(button->text(), QString());
     QCOMPARE(button->shortcut(), QKeySequence(Qt::Key_V));
 }
 
@@ -569,6 +578,7 @@ void tst_TableMappingSelection::mapButtonWithRangeText()
     QVERIFY(button->isEnabled());
     f->click(f->target, 1);
     QVERIFY(!button->isEnabled());
+    QCOMPARE(button->text(), QString());
     QCOMPARE(button->toolTip(),
              QString("Es existiert eine Wertebereichszuordnung für diese Zeile.\nZuordnung muss "
                      "über 'Wertebereichszuordnung bearbeiten' verändert werden"));
