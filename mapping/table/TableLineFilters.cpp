@@ -45,6 +45,11 @@ void TableLineFilters::showAll(VKTab::ContentRef table)
     setFilter(table, filterOf({}));
 }
 
+void TableLineFilters::showOnly(VKTab::ContentRef table, const std::vector<int> &lines)
+{
+    setFilter(table, filterOf(orNoLine(lines)));
+}
+
 void TableLineFilters::showUnassigned(VKTab::ContentRef source)
 {
     setFilter(source,

@@ -16,6 +16,8 @@ class TableLineFilters
 {
 public:
     static void showAll(VKTab::ContentRef table);
+    /// These lines, ascending; no line if there is none.
+    static void showOnly(VKTab::ContentRef table, const std::vector<int> &lines);
     /// Source lines that are to be checked or that have no target; no line if there is none.
     static void showUnassigned(VKTab::ContentRef source);
     /// Target lines that no mapped line leads to; no line if there is none. Does nothing if that is

@@ -57,6 +57,18 @@ void TableMappingWidget::showAllLines()
     d->onChkFilterNotMappedLines(Qt::Unchecked);
 }
 
+void TableMappingWidget::showOnlyLines(const std::vector<int> &lines)
+{
+    d->chkFilterSource->setChecked(false);
+    TableLineFilters::showOnly(d->sourceTable, lines);
+}
+
+void TableMappingWidget::setConditionListener(
+    const std::function<void(const QString &condition)> &listener)
+{
+    d->conditionListener = listener;
+}
+
 void TableMappingWidget::onProjectMappingUpdated(const PrjMappingC &mapping)
 {
     d->mapping = mapping;

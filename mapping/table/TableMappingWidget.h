@@ -5,6 +5,9 @@
 #include <geomcore/records/CatalogMappingC.h>
 #include <geomcore/table/ContentRef.h>
 
+#include <functional>
+#include <vector>
+
 class ProjectMappingWidget;
 class TableMappingWidgetPrivate;
 class VkTableView;
@@ -44,6 +47,10 @@ public:
     [[nodiscard]] VkTableView *targetView() const;
     /// Takes the filter by state away, and the one set from the menu.
     void showAllLines();
+    /// In place of such filters: only these source lines, ascending by number.
+    void showOnlyLines(const std::vector<int> &lines);
+    /// Called with each condition that was put on the clipboard.
+    void setConditionListener(const std::function<void(const QString &condition)> &listener);
 
     /// Takes the mapping and brings the states of the lines, the target table and the buttons up to
     /// date. Touches only the lines whose entries changed.

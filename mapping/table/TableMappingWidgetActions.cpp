@@ -143,8 +143,12 @@ void TableMappingWidgetPrivate::onCreateConditionClicked()
     if (!id.isValid())
         return;
     const Varset varset = createVarsetFromVKTable(sourceTable, id, {});
-    if (!varset.isEmpty())
-        QGuiApplication::clipboard()->setText(conditionText(varset), QClipboard::Clipboard);
+    if (varset.isEmpty())
+        return;
+    const QString condition = conditionText(varset);
+    QGuiApplication::clipboard()->setText(condition, QClipboard::Clipboard);
+    if (conditionListener)
+        conditionListener(condition);
 }
 
 bool TableMappingWidgetPrivate::confirmsValueRangeRun() const

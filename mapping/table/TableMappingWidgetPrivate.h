@@ -101,6 +101,7 @@ public:
     boost::signals2::scoped_connection targetModifiedConnection;
     const QString valueRangeWarning;
     bool remoteViewerMode = false; ///< set from outside, read by nobody
+    std::function<void(const QString &condition)> conditionListener;
 
 public Q_SLOTS:
     void onMapLineClicked();

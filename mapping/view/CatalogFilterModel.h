@@ -2,8 +2,12 @@
 
 #include <QSortFilterProxyModel>
 
+#include <functional>
+
+class PrjMappingC;
+
 /// Leaves only projects that are incomplete, and the directories above them. After a change of the
-/// three settings call invalidate().
+/// settings call invalidate().
 class CatalogFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -15,11 +19,15 @@ public:
     bool filterToCheck = false;  ///< whether anything is filtered at all
     bool filterTarget = false;   ///< only projects whose open lines all have a target
     bool filterNoTarget = false; ///< only projects with a line without target; beats filterTarget
+    /// A host's filter besides: only projects that it accepts, and the directories above them.
+    /// Empty: none.
+    std::function<bool(const PrjMappingC &mapping)> hostFilter;
 
 protected:
     [[nodiscard]] bool filterAcceptsRow(int sourceRow,
                                         const QModelIndex &sourceParent) const override;
 
 private:
+    [[nodiscard]] bool passesHostFilter(const QModelIndex &source) const;
     [[nodiscard]] bool acceptsState(int state) const;
 };

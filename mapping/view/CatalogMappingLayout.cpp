@@ -144,6 +144,8 @@ void CatalogMappingWidgetPrivate::makeConnections()
     connectConflicts();
     connect(projectWidget, SIGNAL(remapLinesClicked()), notifier, SIGNAL(linesReassigned()));
     connect(checkToCheck, SIGNAL(toggled(bool)), notifier, SIGNAL(onlyOpenProjectsChanged(bool)));
+    tableWidget->setConditionListener(
+        [this](const QString &condition) { Q_EMIT notifier->conditionCopied(condition); });
     connect(tableWidget->sourceView()->grid()->selectionModel(),
             SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), notifier,
             SIGNAL(selectedLinesChanged()));

@@ -19,4 +19,6 @@ Q_SIGNALS:
     void onlyOpenProjectsChanged(bool on);
     /// The lines of the project were assigned anew at the user's wish, with or without a change.
     void linesReassigned();
+    /// A condition was made of a line and put on the clipboard.
+    void conditionCopied(const QString &text);
 };

@@ -1,4 +1,5 @@
 // The part of CatalogMappingWidget that hosts use beside showing it.
+#include "CatalogFilterModel.h"
 #include "CatalogMappingNotifier.h"
 #include "CatalogMappingWidget.h"
 #include "CatalogMappingWidgetPrivate.h"
@@ -106,6 +107,25 @@ void CatalogMappingWidget::setOnlyOpenProjects(bool on)
 bool CatalogMappingWidget::onlyOpenProjects() const
 {
     return d->checkToCheck->isChecked();
+}
+
+void CatalogMappingWidget::setProjectFilter(
+    const std::function<bool(const PrjMappingC &mapping)> &accepts)
+{
+    d->filterModel->hostFilter = accepts;
+    d->filterModel->invalidate();
+}
+
+void CatalogMappingWidget::showOnlyLines(const std::vector<int> &lines)
+{
+    if (sourceTable().isValid())
+        d->tableWidget->showOnlyLines(lines);
+}
+
+void CatalogMappingWidget::showAllLines()
+{
+    if (sourceTable().isValid())
+        d->tableWidget->showAllLines();
 }
 
 void CatalogMappingWidget::setOnlyPreferredRanges(bool on)

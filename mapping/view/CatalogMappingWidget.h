@@ -8,6 +8,9 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
+#include <vector>
+
 QT_BEGIN_NAMESPACE
 class QAbstractItemModel;
 QT_END_NAMESPACE
@@ -56,8 +59,8 @@ public:
     // What a host needs to know of the editor and to do to it, without its inner widgets.
 
     /// Sends the signals of CatalogMappingNotifier: currentProjectChanged(),
-    /// selectedLinesChanged(), onlyOpenProjectsChanged(bool), linesReassigned(). Connected by name;
-    /// lives as long as the widget.
+    /// selectedLinesChanged(), onlyOpenProjectsChanged(bool), linesReassigned(),
+    /// conditionCopied(QString). Connected by name; lives as long as the widget.
     [[nodiscard]] QObject *notifier() const;
 
     /// Mapping of the project that was opened last, as the handler has it; not valid if none is or
@@ -97,6 +100,14 @@ public:
     /// The tree's filter for projects with work left.
     void setOnlyOpenProjects(bool on);
     [[nodiscard]] bool onlyOpenProjects() const;
+    /// Another filter of the tree, beside its own: only projects that it accepts. An empty one
+    /// takes it away. Asked at each change of a filter, not at changes of mappings.
+    void setProjectFilter(const std::function<bool(const PrjMappingC &mapping)> &accepts);
+    /// The source table shows only these lines, ascending by number, until another project is shown
+    /// or the user chooses another filter of lines; none at all if there are none.
+    void showOnlyLines(const std::vector<int> &lines);
+    /// The source table shows all lines again that the filters of columns leave.
+    void showAllLines();
     /// For the tables that are shown now.
     void setOnlyPreferredRanges(bool on);
 

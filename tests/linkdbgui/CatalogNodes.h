@@ -41,7 +41,7 @@ public:
     {
         return PRJMAPPING::MappingState::fromInt(state);
     }
-    PrjMappingC getMapping() const override { return PrjMappingC(); }
+    PrjMappingC getMapping() const override { return mapping; }
     bool hasConflicts() const override { return conflicts; }
     QList<boost::shared_ptr<CatalogStructureNodeI>> getChildren() const override
     {
@@ -54,6 +54,7 @@ public:
     QString name;
     int state = 0;
     bool conflicts = false;
+    PrjMappingC mapping;
     QList<Ptr> children;
     mutable int asked = 0; ///< how often for its children
 

@@ -127,6 +127,30 @@ private Q_SLOTS:
         QCOMPARE(filtered.filter.rowCount() == 1, withoutTarget);
     }
 
+    void hostFilterComesOnTop()
+    {
+        const TestNode::Ptr root = sampleTree();
+        const TestNode::Ptr inside = root->children[0]->children[0]->children[0];
+        inside->mapping.setSourcePath("a/b/open.prj");
+        root->children[3]->mapping.setSourcePath("open.prj");
+        Filtered filtered(root);
+        const QString all = filtered.rows();
+        QStringList asked;
+        filtered.filter.hostFilter = [&asked](const PrjMappingC &mapping) {
+            asked += mapping.getSourcePath();
+            return mapping.getSourcePath() == "a/b/open.prj";
+        };
+        filtered.set(false, false, false);
+        QCOMPARE(filtered.rows(), QString("a(b(open.prj))"));
+        QVERIFY(asked.contains("open.prj"));
+        inside->state = 0x200;
+        filtered.set(Open);
+        QCOMPARE(filtered.rows(), QString());
+        filtered.filter.hostFilter = {};
+        filtered.set(false, false, false);
+        QCOMPARE(filtered.rows(), all);
+    }
+
     void withoutTheFirstTheOthersDoNothing()
     {
         Filtered filtered(sampleTree());

@@ -6,6 +6,7 @@
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QAbstractItemModel>
+#include <QClipboard>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -69,7 +70,10 @@ private Q_SLOTS:
     void showsAMappingOfAnotherProject();
     void opensTheProjectAnewForOtherTargets();
     void tellsReassignment();
+    void tellsCopiedConditions();
     void filtersOpenProjects();
+    void filtersProjectsForAHost();
+    void showsOnlyLinesForAHost();
     void preferredRangesOfBothTables();
     void opensDirectories();
     void keepsPaneSizes();
@@ -82,7 +86,8 @@ void tst_CatalogMappingSeam::signalsStandBesideTheWidget()
     const Editor editor;
     QCOMPARE(signalsOf(*editor.widget->notifier()->metaObject()),
              QStringList({"currentProjectChanged()", "selectedLinesChanged()",
-                          "onlyOpenProjectsChanged(bool)", "linesReassigned()"}));
+                          "onlyOpenProjectsChanged(bool)", "linesReassigned()",
+                          "conditionCopied(QString)"}));
     QCOMPARE(signalsOf(CatalogMappingWidget::staticMetaObject), QStringList());
 }
 
@@ -263,6 +268,64 @@ void tst_CatalogMappingSeam::tellsReassignment()
     QTest::mouseClick(editor.project->findChild<QPushButton *>("remapLinesButton"), Qt::LeftButton);
     QCOMPARE(reassigned.size(), 1);
     QCOMPARE(order, QStringList{"published"});
+}
+
+void tst_CatalogMappingSeam::tellsCopiedConditions()
+{
+    const Editor editor;
+    editor.show();
+    QSignalSpy copied(editor.widget->notifier(), SIGNAL(conditionCopied(QString)));
+    editor.click(a);
+    auto *const button = editor.widget->findChild<QPushButton *>("btnCondition");
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(copied.size(), 0); // no line is selected
+    QVERIFY(editor.widget->selectLine(2));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(copied.size(), 1);
+    const QString text = copied.first().first().toString();
+    QVERIFY2(text.contains("k .EQ. 6") && text.contains("D .EQ. 'M9'"), qPrintable(text));
+    QCOMPARE(QGuiApplication::clipboard()->text(), text);
+}
+
+void tst_CatalogMappingSeam::filtersProjectsForAHost()
+{
+    const Editor editor;
+    editor.show();
+    const QString all = editor.shownProjects();
+    editor.widget->setProjectFilter(
+        [](const PrjMappingC &mapping) { return mapping.getSourcePath() == b; });
+    QCOMPARE(editor.shownProjects(), QStringLiteral("b.prj"));
+    QVERIFY(!editor.widget->selectProject(a)); // the host's filter is the host's
+    QVERIFY(editor.widget->selectProject(b));
+    editor.widget->setOnlyOpenProjects(true);
+    QCOMPARE(editor.shownProjects(), QStringLiteral("b.prj"));
+    editor.widget->setOnlyOpenProjects(false);
+    editor.widget->setProjectFilter({});
+    QCOMPARE(editor.shownProjects(), all);
+}
+
+void tst_CatalogMappingSeam::showsOnlyLinesForAHost()
+{
+    const Editor editor;
+    editor.show();
+    editor.widget->showOnlyLines({1}); // without a project
+    editor.widget->showAllLines();
+    editor.click(a);
+    editor.check("chkFilterSource");
+    editor.widget->showOnlyLines({1, 3});
+    QVERIFY(!editor.box("chkFilterSource")->isChecked());
+    QCOMPARE(editor.widget->shownLineCount(), 2);
+    QCOMPARE(editor.widget->shownLine(0), 1);
+    QCOMPARE(editor.widget->shownLine(1), 3);
+    QVERIFY(editor.widget->linesAreFiltered());
+    editor.widget->showOnlyLines({});
+    QCOMPARE(editor.widget->shownLineCount(), 0);
+    editor.widget->showAllLines();
+    QCOMPARE(editor.widget->shownLineCount(), 3);
+    QVERIFY(!editor.widget->linesAreFiltered());
+    editor.widget->showOnlyLines({2});
+    editor.click(b);
+    QCOMPARE(editor.widget->shownLineCount(), 3);
 }
 
 void tst_CatalogMappingSeam::filtersOpenProjects()

@@ -42,6 +42,9 @@ private Q_SLOTS:
     void nothingOpen();
     void kinds_data();
     void kinds();
+    void everyLineIsOfOneKind_data();
+    void everyLineIsOfOneKind();
+    void aLineOfSeveralTargetsIsOfItsFirstKind();
     void countsFollowChanges();
     void followsANewTree();
     void linesOfSeveralTargets();
@@ -167,7 +170,9 @@ void tst_OpenLines::kinds_data()
     QTest::newRow("as it begins") << int(OpenLines::Conflict | OpenLines::ToCheck |
                                          OpenLines::NotFound)
                                   << QList<int>{1, 4, 5, 6, 8};
-    QTest::newRow("all") << 15 << QList<int>{1, 4, 5, 6, 8, 2};
+    QTest::newRow("confirmed") << int(OpenLines::Confirmed) << QList<int>{3};
+    QTest::newRow("expired") << int(OpenLines::Expired) << QList<int>{7};
+    QTest::newRow("all") << int(OpenLines::AllKinds) << QList<int>{1, 4, 5, 6, 8, 2, 3, 7};
     QTest::newRow("none") << 0 << QList<int>{};
 }
 
@@ -194,6 +199,58 @@ void tst_OpenLines::kinds()
         at = open.previous(at).line;
         QCOMPARE(at, ref(A, *line));
     }
+}
+
+void tst_OpenLines::everyLineIsOfOneKind_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QList<int>>("lines");
+    // Lines 1 to 8: with a target line in states 0 to 3, then without one in states 0 to 3. Lines
+    // 11 to 18 are the same in conflict.
+    QTest::newRow("conflict") << int(OpenLines::Conflict)
+                              << QList<int>{11, 12, 13, 14, 15, 16, 17, 18};
+    QTest::newRow("to check") << int(OpenLines::ToCheck) << QList<int>{1, 4};
+    QTest::newRow("not found") << int(OpenLines::NotFound) << QList<int>{5, 6, 8};
+    QTest::newRow("proposed") << int(OpenLines::Proposed) << QList<int>{2};
+    QTest::newRow("confirmed") << int(OpenLines::Confirmed) << QList<int>{3};
+    QTest::newRow("expired") << int(OpenLines::Expired) << QList<int>{7};
+}
+
+void tst_OpenLines::everyLineIsOfOneKind()
+{
+    QFETCH(int, kind);
+    QFETCH(QList<int>, lines);
+    QList<SampleLine> all;
+    for (int i = 0; i < 8; ++i) {
+        all.append({i + 1, i < 4 ? 5 : -1, i % 4, QString(), false});
+        all.append({i + 11, i < 4 ? 5 : -1, i % 4, QString(), true});
+    }
+    const PrjMappingC mapping = SessionFixture::mapping(QString::fromLatin1(A), all);
+    use({mapping});
+    const OpenLines open(m_document.get());
+    QCOMPARE(open.countOf(OpenLines::Kind(kind)), int(lines.size()));
+    QCOMPARE(OpenLines::countOf(mapping, OpenLines::Kinds(kind)), int(lines.size()));
+    QCOMPARE(OpenLines::linesOf(mapping, OpenLines::Kinds(kind)),
+             std::vector<int>(lines.begin(), lines.end()));
+    QCOMPARE(OpenLines::linesOf(mapping, OpenLines::Kinds(kind) | OpenLines::ToCheck).size(),
+             size_t(lines.size() + (kind == OpenLines::ToCheck ? 0 : 2)));
+    for (const int line : lines)
+        QCOMPARE(int(open.kindOf(ref(A, line)).value()), kind);
+    QVERIFY(!open.kindOf(ref(A, 99)));
+}
+
+void tst_OpenLines::aLineOfSeveralTargetsIsOfItsFirstKind()
+{
+    PrjMappingC mapping = SessionFixture::mapping(
+        QString::fromLatin1(A), {{1, 5, 2, QString(), false}, {2, 5, 2, QString(), false}});
+    PrjMappingTargetC second;
+    second.setTargetPath("new/u.prj");
+    second.addLineId(1, 4, PRJMAPPING::ToCheck, QString());
+    mapping.addTarget(second);
+    QCOMPARE(OpenLines::linesOf(mapping, OpenLines::ToCheck), std::vector<int>{1});
+    QCOMPARE(OpenLines::linesOf(mapping, OpenLines::Confirmed), std::vector<int>{2});
+    QCOMPARE(OpenLines::linesOf(mapping, OpenLines::Kinds(OpenLines::AllKinds)),
+             (std::vector<int>{1, 2}));
 }
 
 void tst_OpenLines::countsFollowChanges()
@@ -282,7 +339,7 @@ void tst_OpenLines::conflictsComeFirst()
     QCOMPARE(open.placeOf(ref(A, 7), OpenLines::ToCheck), 3);
     QCOMPARE(open.kindOf(ref(D, 2)), std::optional(OpenLines::Conflict));
     QCOMPARE(open.kindOf(ref(D, 3)), std::optional(OpenLines::ToCheck));
-    QVERIFY(!open.kindOf(ref(D, 1)));
+    QVERIFY(open.kindOf(ref(D, 1)) == OpenLines::Confirmed);
 }
 
 /// One that is settled is behind: not back to the conflicts before.

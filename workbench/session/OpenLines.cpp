@@ -6,6 +6,7 @@
 #include <geomcore/table/Content.h>
 #include <mapping/data/CatalogMappingHandlerI.h>
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <optional>
@@ -16,24 +17,28 @@ namespace {
 constexpr qint64 BeforeAll = std::numeric_limits<qint64>::min();
 constexpr qint64 BehindAll = std::numeric_limits<qint64>::max();
 
-constexpr std::array SearchOrder{OpenLines::Conflict, OpenLines::ToCheck, OpenLines::NotFound,
-                                 OpenLines::Proposed};
+constexpr std::array SearchOrder{OpenLines::Conflict, OpenLines::ToCheck,   OpenLines::NotFound,
+                                 OpenLines::Proposed, OpenLines::Confirmed, OpenLines::Expired};
 
-std::optional<OpenLines::Kind> kindOfEntry(int targetLine, PRJMAPPING::CheckState state,
-                                           bool conflict)
+OpenLines::Kind kindOfEntry(int targetLine, PRJMAPPING::CheckState state, bool conflict)
 {
     if (conflict)
         return OpenLines::Conflict;
     if (state == PRJMAPPING::Verified)
-        return std::nullopt;
+        return targetLine == -1 ? OpenLines::Expired : OpenLines::Confirmed;
     if (targetLine == -1)
         return OpenLines::NotFound;
     return state == PRJMAPPING::Mapped ? OpenLines::Proposed : OpenLines::ToCheck;
 }
 
+OpenLines::Kind kindOfEntry(const LineTable::Iterator &entry)
+{
+    return kindOfEntry(entry.targetLine(), entry.state(), entry.conflict());
+}
+
 bool isOpen(const LineTable::Iterator &entry, OpenLines::Kind kind)
 {
-    return kindOfEntry(entry.targetLine(), entry.state(), entry.conflict()) == kind;
+    return kindOfEntry(entry) == kind;
 }
 
 int countKind(const LineCounts &counts, OpenLines::Kind kind)
@@ -46,9 +51,14 @@ int countKind(const LineCounts &counts, OpenLines::Kind kind)
     case OpenLines::NotFound:
         return counts.unmapped() - counts.unmappedConflicts();
     case OpenLines::Proposed:
+        return counts.assigned() - counts.assignedConflicts();
+    case OpenLines::Expired:
+        return counts.expired() - counts.expiredConflicts();
+    case OpenLines::Confirmed:
         break;
     }
-    return counts.assigned() - counts.assignedConflicts();
+    return counts.verified() - counts.verifiedConflicts() -
+           (counts.expired() - counts.expiredConflicts());
 }
 
 int countKinds(const LineCounts &counts, OpenLines::Kinds kinds)
@@ -127,7 +137,7 @@ int OpenLines::count() const
 
 int OpenLines::count(const ProjectId &project) const
 {
-    return countKinds(m_document->mapping(project).lineCounts(), m_kinds);
+    return countOf(m_document->mapping(project), m_kinds);
 }
 
 int OpenLines::countOf(Kind kind) const
@@ -175,12 +185,35 @@ std::optional<OpenLines::Kind> OpenLines::kindOf(const LineRef &line) const
         if (!target.containsLine(line.line))
             continue;
         const PrjMappingTargetLineC entry = target.getMappedLine(line.line);
-        const std::optional<Kind> kind =
+        const Kind kind =
             kindOfEntry(entry.getTargetLineId(), entry.getState(), entry.getConflict());
-        if (kind && (!first || *kind < *first))
+        if (!first || kind < *first)
             first = kind;
     }
     return first;
+}
+
+std::vector<int> OpenLines::linesOf(const PrjMappingC &mapping, Kinds kinds)
+{
+    std::vector<std::pair<int, Kind>> entries;
+    for (int i = 0; i < mapping.countTargets(); ++i) {
+        for (const LineTable::Iterator &entry : mapping.targetAt(i).lines())
+            entries.emplace_back(entry.sourceLine(), kindOfEntry(entry));
+    }
+    // The first kind of several is a line's own.
+    std::sort(entries.begin(), entries.end());
+    std::vector<int> lines;
+    std::optional<int> before;
+    for (const auto &[line, kind] : entries) {
+        if (std::exchange(before, line) != line && kinds.testFlag(kind))
+            lines.push_back(line);
+    }
+    return lines;
+}
+
+int OpenLines::countOf(const PrjMappingC &mapping, Kinds kinds)
+{
+    return countKinds(mapping.lineCounts(), kinds);
 }
 
 const ProjectOrder &OpenLines::order() const

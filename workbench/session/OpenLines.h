@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class MappingDocument;
 class ProjectOrder;
@@ -29,7 +30,11 @@ public:
         ToCheck = 2,  ///< has a target line that must be confirmed or corrected
         NotFound = 4, ///< has no target line, and nobody confirmed that it has none
         Proposed = 8, ///< assigned by the program, passed its check, not confirmed
+        // These two need no decision, but can be sought too.
+        Confirmed = 16, ///< the user confirmed its target line
+        Expired = 32,   ///< the user confirmed that it has none
     };
+    static constexpr int AllKinds = 63;
     Q_DECLARE_FLAGS(Kinds, Kind)
 
     /// The rows of the project that is on the screen.
@@ -63,6 +68,10 @@ public:
     [[nodiscard]] int countIn(const Shown &shown) const;
     /// Projects that have any.
     [[nodiscard]] int projectCount() const;
+    /// Source lines of a mapping that are of one of these kinds, ascending.
+    [[nodiscard]] static std::vector<int> linesOf(const PrjMappingC &mapping, Kinds kinds);
+    /// Entries of these kinds in a mapping.
+    [[nodiscard]] static int countOf(const PrjMappingC &mapping, Kinds kinds);
     /// The place of a line among all of a kind, from 1, in the order of the tree and of the lines'
     /// numbers.
     [[nodiscard]] int placeOf(const LineRef &line, Kind kind) const;
@@ -76,7 +85,7 @@ public:
     [[nodiscard]] Found previous(const LineRef &from) const { return previous(from, Shown()); }
     [[nodiscard]] Found previous(const LineRef &from, const Shown &shown,
                                  std::optional<Kind> among = {}) const;
-    /// What needs a decision of that line, the first kind of several; nothing if nothing does.
+    /// The kind of a line, the first one of several; nothing if no target has the line.
     [[nodiscard]] std::optional<Kind> kindOf(const LineRef &line) const;
 
     /// Lines of a table that read so: the whole designation, else its beginning, else a part of it,

@@ -525,6 +525,69 @@ Please choose another file.</translation>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
     </message>
+    <message>
+        <source>Bedingung in die Zwischenablage kopiert</source>
+        <translation>Condition copied to the clipboard</translation>
+    </message>
+    <message>
+        <source>Die kopierte Bedingung ist so noch nicht zu gebrauchen, ein Wert fehlt, ist ein Bereich oder enthält ein Anführungszeichen: %1</source>
+        <translation>The copied condition cannot be used as it is, a value is missing, is a range or has a quote in it: %1</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist in einem der gewählten Zustände</source>
+        <translation>No line is in one of the chosen states</translation>
+    </message>
+</context>
+<context>
+    <name>LineStateFilter</name>
+    <message>
+        <source>Konflikt</source>
+        <translation>Conflict</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen im Konflikt mit der Änderung eines anderen zeigen, und ihre Projekte</source>
+        <translation>Show only lines in conflict with somebody else&apos;s change, and their projects</translation>
+    </message>
+    <message>
+        <source>Zu prüfen</source>
+        <translation>To check</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen mit einem Vorschlag zeigen, der bestätigt oder korrigiert werden muss, und ihre Projekte</source>
+        <translation>Show only lines with a proposal that must be confirmed or corrected, and their projects</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel</source>
+        <translation>No target</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, für die nichts gefunden ist, und ihre Projekte</source>
+        <translation>Show only lines for which nothing was found, and their projects</translation>
+    </message>
+    <message>
+        <source>Automatisch</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, die eindeutig gleich sind und vom Programm zugeordnet wurden, und ihre Projekte</source>
+        <translation>Show only lines that are equal beyond doubt and were assigned by the program, and their projects</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Confirmed</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen mit bestätigter Zuordnung zeigen, und ihre Projekte</source>
+        <translation>Show only lines whose assignment is confirmed, and their projects</translation>
+    </message>
+    <message>
+        <source>Ausgelaufen</source>
+        <translation>Expired</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre Projekte</source>
+        <translation>Show only lines that are confirmed as expired, and their projects</translation>
+    </message>
 </context>
 <context>
     <name>LogWindow</name>
@@ -666,6 +729,18 @@ Please choose another file.</translation>
     <message>
         <source>schreibgeschützt</source>
         <translation>read-only</translation>
+    </message>
+    <message>
+        <source>Hier ist keine solche Zeile. %1 geht zur nächsten.</source>
+        <translation>There is no such line here. %1 goes to the next one.</translation>
+    </message>
+    <message>
+        <source>Nur &amp;Zeilen</source>
+        <translation>Only &amp;lines</translation>
+    </message>
+    <message>
+        <source>Zustände der Zeilen</source>
+        <translation>States of the lines</translation>
     </message>
 </context>
 <context>

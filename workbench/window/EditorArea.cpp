@@ -56,7 +56,7 @@ void EditorArea::rebuild()
     make();
     m_editor->expandDirectories(open);
     m_editor->setOnlyOpenProjects(onlyOpen);
-    if (m_editor->selectProject(project.path, project.version) && line >= 0)
+    if (goToProject(project.path, project.version) && line >= 0)
         selectLine(line);
 }
 
@@ -70,11 +70,13 @@ void EditorArea::make()
     m_editor->restoreState(m_state);
     m_editor->expandDirectories({});
     const QObject *const notifier = m_editor->notifier();
-    connect(notifier, SIGNAL(currentProjectChanged()), this, SIGNAL(projectSelected()));
+    connect(notifier, SIGNAL(currentProjectChanged()), this, SLOT(onProjectShown()));
     connect(notifier, SIGNAL(selectedLinesChanged()), this, SIGNAL(linesSelected()));
     connect(notifier, SIGNAL(onlyOpenProjectsChanged(bool)), this,
             SIGNAL(onlyOpenProjectsChanged(bool)));
     connect(notifier, SIGNAL(linesReassigned()), this, SIGNAL(linesReassigned()));
+    connect(notifier, SIGNAL(conditionCopied(QString)), this, SIGNAL(conditionCopied(QString)));
+    filterProjects();
     m_editor->show();
     Q_EMIT editorMade();
 }
@@ -97,7 +99,62 @@ ProjectId EditorArea::currentProject() const
 
 bool EditorArea::selectProject(const QString &sourcePath)
 {
-    return m_editor && m_editor->selectProject(sourcePath);
+    return m_editor && goToProject(sourcePath, QString());
+}
+
+/// The choice of kinds gives way to a project that it hides.
+bool EditorArea::goToProject(const QString &path, const QString &version)
+{
+    if (m_editor->selectProject(path, version))
+        return true;
+    if (!m_kinds)
+        return false;
+    const OpenLines::Kinds kinds = m_kinds;
+    setLineKinds({});
+    if (!m_editor->selectProject(path, version)) {
+        setLineKinds(kinds);
+        return false;
+    }
+    Q_EMIT lineKindsDropped();
+    return true;
+}
+
+void EditorArea::setLineKinds(OpenLines::Kinds kinds)
+{
+    if (m_kinds == kinds)
+        return;
+    m_kinds = kinds;
+    filterProjects();
+    filterLines();
+}
+
+void EditorArea::filterProjects()
+{
+    if (!m_editor)
+        return;
+    if (m_kinds)
+        m_editor->setProjectFilter([kinds = m_kinds](const PrjMappingC &mapping) {
+            return OpenLines::countOf(mapping, kinds) > 0;
+        });
+    else
+        m_editor->setProjectFilter({});
+}
+
+void EditorArea::filterLines()
+{
+    if (!m_editor)
+        return;
+    if (m_kinds)
+        m_editor->showOnlyLines(OpenLines::linesOf(m_editor->currentProject(), m_kinds));
+    else
+        m_editor->showAllLines();
+}
+
+void EditorArea::onProjectShown()
+{
+    if (m_kinds)
+        filterLines();
+    Q_EMIT projectSelected();
 }
 
 void EditorArea::showChange(const ProjectId &project)
@@ -116,7 +173,7 @@ void EditorArea::showChanges()
     const ProjectId current = currentProject();
     const bool showsCurrent = changed.contains(current);
     if (!showsCurrent && changed.size() == 1 &&
-        !m_editor->selectProject(changed.first().path, changed.first().version))
+        !goToProject(changed.first().path, changed.first().version))
         return rebuild();
     // Of all others only sums are to be seen, and they come along with any.
     m_editor->showMapping(m_document->mapping(showsCurrent ? current : changed.first()));
@@ -141,8 +198,7 @@ bool EditorArea::goTo(const LineRef &ref)
 {
     if (!m_editor || !ref.isValid())
         return false;
-    if (ref.project != currentProject() &&
-        !m_editor->selectProject(ref.project.path, ref.project.version))
+    if (ref.project != currentProject() && !goToProject(ref.project.path, ref.project.version))
         return false;
     if (!selectLine(ref.line))
         return false;
@@ -157,7 +213,7 @@ OpenLines::Shown EditorArea::shown() const
         return rows;
     rows.project = currentProject();
     rows.rows = m_editor->shownLineCount();
-    rows.isFiltered = m_editor->linesAreFiltered();
+    rows.isFiltered = m_kinds ? !m_editor->columnFilters().isEmpty() : m_editor->linesAreFiltered();
     rows.lineAt = [editor = m_editor](int row) {
         return editor->shownLine(row);
     };

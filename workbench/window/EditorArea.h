@@ -42,6 +42,10 @@ public:
     /// selected.
     void showChange(const ProjectId &project);
 
+    /// Shows only lines of these kinds and only projects that have any; none stands for all.
+    void setLineKinds(OpenLines::Kinds kinds);
+    [[nodiscard]] OpenLines::Kinds lineKinds() const { return m_kinds; }
+
     /// Source line ids in display order.
     [[nodiscard]] QList<int> selectedLines() const;
     /// -1 if none or several are selected.
@@ -51,7 +55,8 @@ public:
     /// Selects project and line, and the keys go to the line's table. False if there is no such
     /// line.
     bool goTo(const LineRef &ref);
-    /// The rows of the project that is shown, as the user sees them. Good until these change.
+    /// The rows of the project that is shown, as the user sees them. Good until these change. The
+    /// choice of kinds is no filter here, for it holds in all projects.
     [[nodiscard]] OpenLines::Shown shown() const;
     [[nodiscard]] QList<int> shownLines() const;
     /// Not valid if no project is open or it cannot be read.
@@ -75,17 +80,28 @@ Q_SIGNALS:
     void onlyOpenProjectsChanged(bool on);
     /// The lines of the project were assigned anew at the user's wish, with or without a change.
     void linesReassigned();
+    /// A project was to be shown that has no line of the chosen kinds: all are shown from now on.
+    void lineKindsDropped();
+    /// A condition was made of a line and put on the clipboard.
+    void conditionCopied(const QString &text);
     /// The host's part view should show a target project.
     void targetProjectWanted(const QString &targetPath);
+
+private Q_SLOTS:
+    void onProjectShown();
 
 private:
     void make();
     void showChanges();
+    void filterProjects();
+    void filterLines();
+    [[nodiscard]] bool goToProject(const QString &path, const QString &version);
 
     QVBoxLayout *const m_layout;
     QPointer<MappingDocument> m_document;
     QString m_sourceRoot;
     CatalogMappingWidget *m_editor = nullptr;
     QByteArray m_state;
+    OpenLines::Kinds m_kinds;   ///< none: lines of all kinds are shown
     QList<ProjectId> m_changed; ///< that showChanges() has still to show
 };

@@ -1,12 +1,16 @@
 #include "LineCommands.h"
 
 #include "EditorArea.h"
+#include "LineStateFilter.h"
 #include "Question.h"
 
+#include <geomcore/binding/VarsetConditionC.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <QInputDialog>
+
+#include <memory>
 
 LineCommands::LineCommands(MappingDocument *document, EditorArea *editor, QWidget *window)
     : QObject(window)
@@ -14,6 +18,7 @@ LineCommands::LineCommands(MappingDocument *document, EditorArea *editor, QWidge
     , m_editor(editor)
     , m_window(window)
     , m_open(document)
+    , m_chosen(document)
 {
     connect(&m_open, &OpenLines::countChanged, this, &LineCommands::openCountChanged);
 }
@@ -23,6 +28,22 @@ LineCommands::~LineCommands() = default;
 LineRef LineCommands::here() const
 {
     return {m_editor->currentProject(), m_editor->currentLine()};
+}
+
+void LineCommands::setKinds(OpenLines::Kinds kinds)
+{
+    m_kinds = kinds;
+    m_chosen.setKinds(kinds);
+}
+
+void LineCommands::tellCondition(const QString &condition)
+{
+    const std::unique_ptr<VarsetConditionC> parsed(VarsetConditionC::fromText(condition));
+    Q_EMIT noted(parsed->error().isEmpty()
+                     ? tr("Bedingung in die Zwischenablage kopiert")
+                     : tr("Die kopierte Bedingung ist so noch nicht zu gebrauchen, ein Wert fehlt, "
+                          "ist ein Bereich oder enthält ein Anführungszeichen: %1")
+                           .arg(parsed->error()));
 }
 
 void LineCommands::goNext()
@@ -40,15 +61,15 @@ void LineCommands::go(bool forward)
     OpenLines::Found to = seek(forward, here());
     // A line that its table lacks cannot be shown; each is tried once.
     bool wrapped = to.wrapped;
-    for (int tries = m_open.count(); to.line.isValid() && tries > 0; --tries) {
+    for (int tries = walk().count(); to.line.isValid() && tries > 0; --tries) {
         if (m_editor->goTo(to.line)) {
             to.wrapped = wrapped;
             Q_EMIT noted(goneText(to, forward));
             m_last = to;
             return;
         }
-        to = forward ? m_open.next(to.line, m_editor->shown(), to.kind)
-                     : m_open.previous(to.line, m_editor->shown(), to.kind);
+        to = forward ? walk().next(to.line, m_editor->shown(), to.kind)
+                     : walk().previous(to.line, m_editor->shown(), to.kind);
         wrapped = wrapped || to.wrapped;
     }
     Q_EMIT noted(nothingText());
@@ -59,8 +80,8 @@ OpenLines::Found LineCommands::seek(bool forward, const LineRef &from) const
 {
     const std::optional<OpenLines::Kind> among =
         from == m_last.line ? std::optional(m_last.kind) : std::nullopt;
-    return forward ? m_open.next(from, m_editor->shown(), among)
-                   : m_open.previous(from, m_editor->shown(), among);
+    return forward ? walk().next(from, m_editor->shown(), among)
+                   : walk().previous(from, m_editor->shown(), among);
 }
 
 QString LineCommands::goneText(const OpenLines::Found &found, bool forward) const
@@ -69,24 +90,25 @@ QString LineCommands::goneText(const OpenLines::Found &found, bool forward) cons
     const OpenLines::Shown shown = m_editor->shown();
     if (found.wrapped && shown.isFiltered)
         parts += tr("Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.",
-                    nullptr, m_open.count() - m_open.countIn(shown));
+                    nullptr, walk().count() - walk().countIn(shown));
     if (found.wrapped)
         parts += forward ? tr("Am Ende angekommen, weiter von vorn")
                          : tr("Am Anfang angekommen, weiter von hinten");
     if (found.kind == OpenLines::Conflict)
         parts += tr("Konflikt %1 von %2")
-                     .arg(m_open.placeOf(found.line, OpenLines::Conflict))
-                     .arg(m_open.countOf(OpenLines::Conflict));
+                     .arg(walk().placeOf(found.line, OpenLines::Conflict))
+                     .arg(walk().countOf(OpenLines::Conflict));
     return parts.join(QStringLiteral(" · "));
 }
 
 QString LineCommands::nothingText() const
 {
-    if (m_open.count() == 0)
-        return tr("Keine Zeile braucht mehr eine Entscheidung");
+    if (walk().count() == 0)
+        return m_kinds ? tr("Keine Zeile ist in einem der gewählten Zustände")
+                       : tr("Keine Zeile braucht mehr eine Entscheidung");
     if (m_editor->shown().isFiltered)
         return tr("Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.",
-                  nullptr, m_open.count() - m_open.countIn(m_editor->shown()));
+                  nullptr, walk().count() - walk().countIn(m_editor->shown()));
     return tr("Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen");
 }
 
@@ -167,7 +189,9 @@ QString LineCommands::scopeText(bool selection) const
     const QString shown = tr("Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.")
                               .arg(QString::number(editor->shownLineCount()),
                                    QString::number(m_editor->sourceTable().getLineCount()));
-    const QStringList filters = editor->columnFilters();
+    QStringList filters = editor->columnFilters();
+    if (m_kinds)
+        filters.prepend(LineStateFilter::names(m_kinds));
     return filters.isEmpty()
                ? shown + u' ' + undo
                : shown + u' ' + tr("Filter: %1.").arg(filters.join(QStringLiteral(", "))) + u' ' +

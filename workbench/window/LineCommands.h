@@ -31,6 +31,10 @@ public:
     /// Lines of the selected project that a text names: the first one is selected, or the next one
     /// behind the selected line. False if there is none.
     bool jumpTo(const QString &text);
+    /// goNext() and goPrevious() go through lines of these kinds; none: through what is open.
+    void setKinds(OpenLines::Kinds kinds);
+    /// Says of a condition that was put on the clipboard whether it can be used as it is.
+    void tellCondition(const QString &condition);
     /// On the selected lines if there are several, else on all that the table shows, all filters
     /// applied; asks with the number of lines first.
     void runOnMany(BulkOperation::Action action);
@@ -43,6 +47,7 @@ Q_SIGNALS:
 
 private:
     void go(bool forward);
+    [[nodiscard]] const OpenLines &walk() const { return m_kinds ? m_chosen : m_open; }
     [[nodiscard]] OpenLines::Found seek(bool forward, const LineRef &from) const;
     [[nodiscard]] QString goneText(const OpenLines::Found &found, bool forward) const;
     [[nodiscard]] QString nothingText() const;
@@ -53,6 +58,8 @@ private:
     EditorArea *const m_editor;
     QWidget *const m_window;
     OpenLines m_open;
+    OpenLines m_chosen; ///< the kinds that the user wants to see
+    OpenLines::Kinds m_kinds;
     OpenLines::Found m_last; ///< where the last walk ended
     QString m_lastText;      ///< of the last jump
 };

@@ -4,6 +4,7 @@
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "LineCommands.h"
+#include "LineStateFilter.h"
 #include "LogWindow.h"
 #include "PluginActions.h"
 #include "QtTexts.h"
@@ -34,6 +35,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_editor(new EditorArea(this))
     , m_desk(new DocumentDesk(settings, this))
     , m_lines(new LineCommands(m_desk->document(), m_editor, this))
+    , m_states(new LineStateFilter(this))
     , m_pages(new QStackedWidget(this))
     , m_counterTimer(new QTimer(this))
     , m_language(settings->values().language)
@@ -100,6 +102,9 @@ void MainWindow::connectParts()
     connect(m_status, &StatusArea::nextOpenRequested, m_lines, &LineCommands::goNext);
     connect(m_status, &StatusArea::undoRequested, m_desk->document(), &MappingDocument::undo);
     connect(m_editor, &EditorArea::targetProjectWanted, this, &MainWindow::showTargetProject);
+    connect(m_editor, &EditorArea::conditionCopied, m_lines, &LineCommands::tellCondition);
+    connect(m_states, &LineStateFilter::kindsChanged, this, &MainWindow::onLineKindsChanged);
+    connect(m_editor, &EditorArea::lineKindsDropped, m_states, &LineStateFilter::clear);
     // What changed, if anything did, is told at the end of the step, over this.
     connect(m_editor, &EditorArea::linesReassigned, this,
             [this] { m_status->showNote(tr("Zeilen neu zugewiesen: keine Änderung")); });
@@ -170,10 +175,32 @@ void MainWindow::onStepDone(const QString &text, int)
     m_status->showNote(text, m_desk->document()->canUndo());
 }
 
+void MainWindow::onLineKindsChanged()
+{
+    const OpenLines::Kinds kinds = m_states->kinds();
+    m_lines->setKinds(kinds);
+    m_editor->setLineKinds(kinds);
+    if (!kinds || m_editor->shownLines().size() > 0)
+        return;
+    const QString next = m_settings->values().nextLine.toString(QKeySequence::NativeText);
+    m_status->showNote(tr("Hier ist keine solche Zeile. %1 geht zur nächsten.").arg(next));
+}
+
+void MainWindow::showOnScreen()
+{
+    // Title and frame need room too.
+    const QSize room = screen()->availableSize() - QSize(10, 40);
+    if (width() > room.width() || height() > room.height())
+        showMaximized();
+    else
+        show();
+}
+
 void MainWindow::updateState()
 {
     const MappingDocument *const document = m_desk->document();
     m_actions->setDocumentOpen(document->isOpen(), document->isReadOnly());
+    m_states->setDocumentOpen(document->isOpen());
     m_status->setReadOnly(document->isOpen() ? document->readOnlyText() : QString());
     m_pluginActions->update();
     updateTitle();
@@ -199,10 +226,10 @@ void MainWindow::updateTitle()
 void MainWindow::updateCounter()
 {
     const OpenLines &open = m_lines->openLines();
-    if (m_desk->document()->isOpen())
-        m_status->setOpenLines(open.count(), open.projectCount());
-    else
-        m_status->setOpenLines(-1, 0);
+    if (!m_desk->document()->isOpen())
+        return m_status->setOpenLines(-1, 0);
+    m_status->setOpenLines(open.count(), open.projectCount());
+    m_states->setCounts([&open](OpenLines::Kind kind) { return open.countOf(kind); });
 }
 
 void MainWindow::updateUndo()

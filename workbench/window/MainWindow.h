@@ -9,6 +9,7 @@
 class DocumentDesk;
 class EditorArea;
 class LineCommands;
+class LineStateFilter;
 class LogWindow;
 class PLinkDbGuiI;
 class PluginActions;
@@ -42,6 +43,9 @@ public:
     [[nodiscard]] StatusArea *status() const { return m_status; }
     [[nodiscard]] WorkbenchActions *commands() const { return m_actions; }
 
+    /// Shows it, as large as the screen if it is larger than that.
+    void showOnScreen();
+
     /// Opens what was open last, or the example with the tour at the very first start.
     void restoreSession();
     void startTour();
@@ -62,6 +66,7 @@ private:
     void onDocumentClosing();
     void onDocumentClosed();
     void onStepDone(const QString &text, int lines);
+    void onLineKindsChanged();
     void updateState();
     void updateTitle();
     void updateCounter();
@@ -82,6 +87,7 @@ private:
     EditorArea *const m_editor;
     DocumentDesk *const m_desk;
     LineCommands *const m_lines;
+    LineStateFilter *const m_states;
     QStackedWidget *const m_pages;
     WelcomePage *m_welcome = nullptr;
     PluginActions *m_pluginActions = nullptr;

@@ -3,6 +3,7 @@
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "LineCommands.h"
+#include "LineStateFilter.h"
 #include "LogWindow.h"
 #include "PluginActions.h"
 #include "WelcomePage.h"
@@ -59,6 +60,11 @@ void MainWindow::buildMenus()
         {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine});
     QMenu *const view = addMenu("viewMenu");
     fill(view, m_actions, {WorkbenchActions::Refresh, Separator});
+    QMenu *const states = view->addMenu(QString());
+    states->setObjectName("statesMenu");
+    states->setToolTipsVisible(true);
+    states->addActions(m_states->actions());
+    view->addSeparator();
     view->addAction(m_log->toggleViewAction());
     fill(addMenu("helpMenu"), m_actions, {WorkbenchActions::ShowTour, WorkbenchActions::About});
 }
@@ -78,6 +84,9 @@ void MainWindow::buildToolBars()
         else
             bar->addAction(m_actions->action(command));
     }
+    QToolBar *const states = addToolBar(QString());
+    states->setObjectName("statesToolBar");
+    m_states->fill(states);
 }
 
 void MainWindow::connectCommands()
@@ -138,6 +147,7 @@ void MainWindow::retranslate()
 {
     m_actions->retranslate();
     m_pluginActions->retranslate();
+    m_states->retranslate();
     const auto setTitle = [this](const char *name, const QString &title) {
         findChild<QMenu *>(QLatin1String(name))->setTitle(title);
     };
@@ -146,11 +156,13 @@ void MainWindow::retranslate()
     setTitle("editMenu", tr("&Bearbeiten"));
     setTitle("goMenu", tr("&Gehe zu"));
     setTitle("viewMenu", tr("&Ansicht"));
+    setTitle("statesMenu", tr("Nur &Zeilen"));
     setTitle("helpMenu", tr("&Hilfe"));
     const auto bars = findChildren<QToolBar *>(Qt::FindDirectChildrenOnly);
     for (QToolBar *bar : bars) {
-        bar->setWindowTitle(bar->objectName() == "pluginToolBar" ? tr("Linkdatenbank")
-                                                                 : tr("Werkzeuge"));
+        bar->setWindowTitle(bar->objectName() == "pluginToolBar"   ? tr("Linkdatenbank")
+                            : bar->objectName() == "statesToolBar" ? tr("Zustände der Zeilen")
+                                                                   : tr("Werkzeuge"));
     }
     updateRecentFiles();
     updateTitle();

@@ -5,19 +5,6 @@
 #include <QEvent>
 #include <QLabel>
 
-namespace {
-
-/// Digits in groups, parted by blanks that do not break.
-QString grouped(int number)
-{
-    QString text = QString::number(number);
-    for (qsizetype i = text.size() - 3; i > 0; i -= 3)
-        text.insert(i, QChar(0x202f));
-    return text;
-}
-
-} // namespace
-
 StatusArea::StatusArea(QWidget *parent)
     : QStatusBar(parent)
     , m_note(new QLabel(this))
@@ -44,6 +31,14 @@ StatusArea::StatusArea(QWidget *parent)
     connect(m_note, &QLabel::linkActivated, this, &StatusArea::undoRequested);
     connect(m_open, &QLabel::linkActivated, this, &StatusArea::nextOpenRequested);
     retranslate();
+}
+
+QString StatusArea::grouped(int number)
+{
+    QString text = QString::number(number);
+    for (qsizetype i = text.size() - 3; i > 0; i -= 3)
+        text.insert(i, QChar(0x202f));
+    return text;
 }
 
 void StatusArea::showNote(const QString &text, bool undoable)

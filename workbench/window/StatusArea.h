@@ -24,6 +24,8 @@ public:
     /// Empty: the file can be changed.
     void setReadOnly(const QString &reason);
     [[nodiscard]] StatusProgress *progress() const { return m_progress; }
+    /// A number with its digits in groups, parted by blanks that do not break.
+    [[nodiscard]] static QString grouped(int number);
 
 Q_SIGNALS:
     void undoRequested();

@@ -59,7 +59,10 @@ int runWorkbench(PLinkDbGuiI *plugin, const StartOptions &options)
     MainWindow window(&settings, plugin);
     if (options.size.isValid())
         window.resize(options.size);
-    window.show();
+    if (options.screenshot.isEmpty())
+        window.showOnScreen();
+    else
+        window.show();
     VelkApp()->setInitialized();
     if (!options.screenshot.isEmpty())
         return Screenshot(window, options).take(wishOf(options), settings.store());

@@ -37,13 +37,17 @@ public:
     [[nodiscard]] int assigned() const { return m_entries[5]; }
     /// Entries with a target line in state 0 or in a state above 2.
     [[nodiscard]] int unverified() const { return m_entries[4] + m_entries[7]; }
-    /// The same three of entries in conflict.
+    /// Entries that are confirmed to have no target line.
+    [[nodiscard]] int expired() const { return m_entries[2]; }
+    /// The same four of entries in conflict.
     [[nodiscard]] int unmappedConflicts() const
     {
         return m_conflicts[0] + m_conflicts[1] + m_conflicts[3];
     }
     [[nodiscard]] int assignedConflicts() const { return m_conflicts[5]; }
     [[nodiscard]] int unverifiedConflicts() const { return m_conflicts[4] + m_conflicts[7]; }
+    [[nodiscard]] int expiredConflicts() const { return m_conflicts[2]; }
+    [[nodiscard]] int verifiedConflicts() const { return m_conflicts[2] + m_conflicts[6]; }
 
     friend bool operator==(const LineCounts &, const LineCounts &) = default;
 
