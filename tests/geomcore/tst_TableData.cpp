@@ -86,6 +86,8 @@ private Q_SLOTS:
     void readsFiles();
     void missingFile();
     void emptyFile();
+    void sameBytes_data();
+    void sameBytes();
 };
 
 void tst_TableData::reads_data()
@@ -666,6 +668,43 @@ void tst_TableData::emptyFile()
     QVERIFY(!result);
     QCOMPARE(result.errors.first().text,
              QStringLiteral("the file is empty; its first row must name the columns"));
+}
+
+void tst_TableData::sameBytes_data()
+{
+    QTest::addColumn<QByteArray>("row");
+    QTest::addColumn<QByteArray>("otherRow");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+    QTest::addColumn<bool>("same");
+    const auto row = [](const char *name, const char *a, const char *b, int first, int last,
+                        bool same) {
+        QTest::newRow(name) << QByteArray(a) << QByteArray(b) << first << last << same;
+    };
+    row("whole rows", "1,x,y,2", "1,x,y,2", 0, 3, true);
+    row("whole rows that differ", "1,x,y,2", "1,x,y,3", 0, 3, false);
+    row("whole rows with quotes", "1,\"x,\",y,2", "1,\"x,\",y,2", 0, 3, true);
+    row("all but the last", "1,x,y,2", "1,x,y,33", 0, 2, true);
+    row("all but the first", "1,x,y,2", "44,x,y,2", 1, 3, true);
+    row("all but both ends", "1,x,y,2", "44,x,y,33", 1, 2, true);
+    row("one in the middle", "1,x,y,2", "44,x,z,33", 1, 1, true);
+    row("the last of them differs", "1,x,y,2", "1,x,z,2", 0, 2, false);
+    row("the first of them differs", "1,x,y,2", "1,z,y,2", 1, 2, false);
+    row("the same bytes in other cells", "1,xy,,2", "1,x,y,2", 1, 2, false);
+    row("nothing in them", ",,,", ",,,7", 1, 2, true);
+    row("quotes beside others are not looked into", "1,x,y,\"2\"", "1,x,y,2", 0, 2, false);
+    row("quotes in the other row alike", "1,x,y,2", "1,x,y,\"2\"", 0, 2, false);
+}
+
+void tst_TableData::sameBytes()
+{
+    QFETCH(QByteArray, row);
+    QFETCH(QByteArray, otherRow);
+    QFETCH(int, first);
+    QFETCH(int, last);
+    const auto table = TableData::fromMemory({}, "a,b,c,d\nq,q,q,q\n" + row + "\r\n").data;
+    const auto other = TableData::fromMemory({}, "e,f,g,h\n" + otherRow).data;
+    QTEST(table->hasSameBytes(1, *other, 0, first, last), "same");
 }
 
 QTEST_GUILESS_MAIN(tst_TableData)

@@ -142,6 +142,13 @@ void BoundTarget::bindTexts()
                     std::all_of(m_textPairs.begin(), m_textPairs.end(), [](const TextPair &pair) {
                         return pair.sourceColumn == pair.targetColumn;
                     });
+    const auto columns = std::minmax_element(
+        m_textPairs.begin(), m_textPairs.end(),
+        [](const TextPair &a, const TextPair &b) { return a.sourceColumn < b.sourceColumn; });
+    if (m_textPairs.empty())
+        return;
+    m_firstText = columns.first->sourceColumn;
+    m_lastText = columns.second->sourceColumn;
 }
 
 bool BoundTarget::isText(int variable) const
@@ -158,7 +165,7 @@ bool BoundTarget::hasSameTexts(int sourceRow, int row) const
         return true;
     const VKTab::TableData &source = *m_source.data();
     const VKTab::TableData &target = m_table->data();
-    if (m_sameColumns && source.rawRow(sourceRow) == target.rawRow(row))
+    if (m_sameColumns && source.hasSameBytes(sourceRow, target, row, m_firstText, m_lastText))
         return true;
     thread_local SplitRow ours;
     thread_local SplitRow theirs;

@@ -149,6 +149,8 @@ private:
     std::vector<TextPair> m_textPairs; ///< Columns that are to be equal as texts.
     bool m_textsAreStored = true;      ///< m_textPairs has all of them.
     bool m_sameColumns = false;        ///< Both files have the same columns in the same order.
+    int m_firstText = 0;               ///< The first column that is to be equal as a text.
+    int m_lastText = 0;
     mutable std::shared_ptr<const ExactSearch> m_search;
     mutable std::shared_ptr<const PairJoin> m_join;
     mutable std::unique_ptr<IdentityKey> m_identity;

@@ -115,8 +115,9 @@ bool LineCheck::checkEqual(int row)
     if (usesJoins() && !m_assignment->targetVarset && m_target->textsAreStored()) {
         const PairJoin *join = m_target->join();
         const int sourceRow = m_assignment->line.row;
-        if (join->hit(sourceRow) == row && !join->isSeveral(sourceRow) &&
-            m_target->hasSameTexts(sourceRow, row))
+        if (join->hit(sourceRow) == row &&
+            (join->isUndisputed(sourceRow) ||
+             (!join->isSeveral(sourceRow) && m_target->hasSameTexts(sourceRow, row))))
             return true;
     }
     takeValues();
@@ -240,7 +241,10 @@ bool LineCheck::checkClaims(int row)
     bool known = true;
     forEachOfProject([&](const BoundTarget &target) {
         const PairJoin *join = target.join();
-        const int own = &target == m_target || join->hit(sourceRow) == row ? 1 : 0;
+        const bool proposed = join->hit(sourceRow) == row;
+        if (proposed && join->isUndisputed(sourceRow))
+            return;
+        const int own = proposed || &target == m_target ? 1 : 0;
         others += std::max(0, join->claims(row) - own);
         known = known && join->knowsClaims(row);
     });

@@ -2,7 +2,16 @@
 
 #include "SimilarCandidates.h"
 
+#include <algorithm>
+
 namespace Mapper {
+
+namespace {
+
+/// Rows around a row that are looked at before all are.
+constexpr int AtHand = 64;
+
+} // namespace
 
 PairJoin::PairJoin(int sourceRows, int targetRows)
     : m_hits(size_t(sourceRows), -1)
@@ -31,6 +40,15 @@ std::shared_ptr<const SimilarCandidates> PairJoin::freeCandidates(const TargetTa
 
 PairJoin::Neighbours PairJoin::neighbours(int sourceRow) const
 {
+    const int from = std::max(0, sourceRow - AtHand);
+    const int to = std::min(sourceRows(), sourceRow + AtHand + 1);
+    Neighbours near{sourceRow - 1, sourceRow + 1};
+    while (near.above >= from && hit(near.above) < 0)
+        --near.above;
+    while (near.below < to && hit(near.below) < 0)
+        ++near.below;
+    if ((near.above >= from || from == 0) && (near.below < to || to == sourceRows()))
+        return near;
     std::call_once(m_once, [this] { findNeighbours(); });
     return {m_above[size_t(sourceRow)], m_below[size_t(sourceRow)]};
 }

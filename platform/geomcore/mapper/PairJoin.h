@@ -26,6 +26,9 @@ public:
     [[nodiscard]] int hit(int sourceRow) const { return m_hits[size_t(sourceRow)]; }
     /// Whether several target rows are equal.
     [[nodiscard]] bool isSeveral(int sourceRow) const { return m_several.contains(sourceRow); }
+    /// Whether it is known that the proposed row alone is equal to the source row, as a text too,
+    /// and is so to no other source row. What is not known has to be looked at.
+    [[nodiscard]] bool isUndisputed(int sourceRow) const { return has(m_undisputed, sourceRow); }
     /// How many source lines have this row as an equal one: 0, 1 or 2 for more. Of several equal
     /// rows the first counts.
     [[nodiscard]] int claims(int targetRow) const { return m_claims[size_t(targetRow)]; }
@@ -66,6 +69,7 @@ private:
 
     std::vector<int> m_hits;
     VKTab::LineSet m_several;
+    VKTab::LineSet m_undisputed; ///< Empty if lines are looked at one by one.
     std::vector<quint8> m_claims;
     int m_claimsKnownTo = 0;
     // Empty unless ranges are walked.

@@ -15,6 +15,7 @@
 #include <geomcore/value/ResolveRangeOptionsC.h>
 
 #include <algorithm>
+#include <atomic>
 
 namespace Mapper {
 
@@ -27,8 +28,10 @@ namespace {
 constexpr int MaxClaimed = 16;
 /// A line with so many combinations is not certain: there may be more than are walked.
 constexpr int MaxCombinations = 100'000;
-/// Rows that a thread looks up in one go.
+/// Rows that a thread looks up in one go: a multiple of what a word of a set holds.
 constexpr int RowsAStep = 16384;
+/// Of these, as many as are looked at again while their bytes are at hand.
+constexpr int RowsAtHand = 256;
 /// Equal rows that are stepped over in search of the next one to pair off.
 constexpr int MaxSteps = 1000;
 
@@ -70,35 +73,55 @@ std::shared_ptr<const PairJoin> PairJoinBuilder::build()
 
 void PairJoinBuilder::joinInPlace(const LineIndex &index)
 {
-    const VKTab::TableData &source = *m_source.data();
+    const int rows = m_source.data()->rowCount();
     const std::vector<VKTab::CellKey> noValues(index.keys().size());
     const int blank = index.find(noValues); // a line without any value equals nothing
-    const bool conditional = !m_target.conditions().isEmpty();
-    const int rows = source.rowCount();
-    std::vector<char> holds(conditional ? size_t(rows) : 0);
+    m_join->m_undisputed = VKTab::LineSet(rows, false);
+    std::atomic<int> lines = 0;
+    std::atomic<int> hits = 0;
     WorkerPool::instance().run((rows + RowsAStep - 1) / RowsAStep, [&](int step) {
-        const int from = step * RowsAStep;
-        const int count = std::min(RowsAStep, rows - from);
-        LineIndex::Probe probe(index, source, m_target.plainColumns());
-        probe.find(from, std::span(m_join->m_hits).subspan(size_t(from), size_t(count)));
-        for (int row = from; conditional && row < from + count; ++row)
-            holds[size_t(row)] = char(m_target.conditions().holds(LineView(source, row)));
+        LineIndex::Probe probe(index, *m_source.data(), m_target.plainColumns());
+        PartOfJoin part{probe, index, blank};
+        const int end = std::min(rows, (step + 1) * RowsAStep);
+        for (int row = step * RowsAStep; row < end; row += RowsAtHand)
+            joinRows(row, std::min(RowsAtHand, end - row), part);
+        lines += part.lines;
+        hits += part.hits;
     });
-    for (int row = 0; row < rows; ++row) {
+    m_lines = lines;
+    m_hits = hits;
+    WorkerPool::instance().run((rows + RowsAStep - 1) / RowsAStep, [&](int step) {
+        for (int row = step * RowsAStep; row < std::min(rows, (step + 1) * RowsAStep); ++row) {
+            if (m_join->isUndisputed(row) && m_join->claims(m_join->hit(row)) > 1)
+                m_join->m_undisputed.remove(row);
+        }
+    });
+}
+
+/// Touches nothing but what belongs to these rows, and claims.
+void PairJoinBuilder::joinRows(int first, int count, PartOfJoin &part)
+{
+    const bool conditional = !m_target.conditions().isEmpty();
+    const bool alone = WorkerPool::instance().threads() < 2;
+    part.probe.find(first, std::span(m_join->m_hits).subspan(size_t(first), size_t(count)));
+    for (int row = first; row < first + count; ++row) {
         int &hit = m_join->m_hits[size_t(row)];
-        if (conditional && !holds[size_t(row)]) {
+        const bool holds =
+            !conditional || m_target.conditions().holds(LineView(*m_source.data(), row));
+        part.lines += holds ? 1 : 0;
+        if (!holds || hit < 0 || hit == part.blank) {
             hit = -1;
             continue;
         }
-        ++m_lines;
-        if (hit < 0 || hit == blank) {
-            hit = -1;
-            continue;
-        }
-        ++m_hits;
-        if (!index.isUnique(hit))
+        ++part.hits;
+        if (!part.index.isUnique(hit))
             m_join->m_several.insert(row);
-        claim(hit);
+        else if (m_target.textsAreStored() && m_target.hasSameTexts(row, hit))
+            m_join->m_undisputed.insert(row);
+        if (alone)
+            claim(hit);
+        else
+            claimBesideOthers(hit);
     }
 }
 
@@ -185,9 +208,18 @@ void PairJoinBuilder::claim(int targetRow)
     claims = quint8(std::min(claims + 1, 2));
 }
 
+void PairJoinBuilder::claimBesideOthers(int targetRow)
+{
+    const std::atomic_ref claims(m_join->m_claims[size_t(targetRow)]);
+    quint8 known = claims.load(std::memory_order_relaxed);
+    while (known < 2 && !claims.compare_exchange_weak(known, quint8(known + 1))) {
+    }
+}
+
 void PairJoinBuilder::pairOff()
 {
-    if (!m_target.table()->exactSearch(m_target.variables())->onlyIndex())
+    if (m_join->m_several.count() == 0 ||
+        !m_target.table()->exactSearch(m_target.variables())->onlyIndex())
         return;
     int last = -1;
     for (int row = 0; row < int(m_join->m_hits.size()); ++row) {

@@ -3,13 +3,14 @@
 #include "PairJoin.h"
 #include "TargetValues.h"
 
+#include <geomcore/table/LineIndex.h>
+
 #include <QStringList>
 
 #include <memory>
 #include <unordered_map>
 
 namespace VKTab {
-class LineIndex;
 class LineView;
 } // namespace VKTab
 
@@ -30,7 +31,18 @@ public:
     [[nodiscard]] std::shared_ptr<const PairJoin> build();
 
 private:
+    /// What one thread is at.
+    struct PartOfJoin
+    {
+        VKTab::LineIndex::Probe &probe;
+        const VKTab::LineIndex &index;
+        const int blank; ///< The row without values; -1 if there is none.
+        int lines = 0;
+        int hits = 0;
+    };
+
     void joinInPlace(const VKTab::LineIndex &index);
+    void joinRows(int first, int count, PartOfJoin &part);
     void joinLineByLine();
     void joinLine(int row);
     /// How many there are; 0 if the line has no range to walk.
@@ -39,6 +51,7 @@ private:
     int joinView(int row, const VKTab::LineView &view, bool &taken);
     void claimRows(int row, const std::vector<int> &rows);
     void claim(int targetRow);
+    void claimBesideOthers(int targetRow);
     void pairOff();
     [[nodiscard]] int nextEqual(int first, int after);
     void computeAgreement();

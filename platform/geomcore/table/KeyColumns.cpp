@@ -16,6 +16,7 @@ KeyColumns::KeyColumns(const TableData &table, const std::vector<int> &columns,
             column < 0 ? '.' : table.descriptor().fields.at(column).decimalChar;
         m_columns.push_back({column, keys[i].compare, decimalChar});
         m_width = std::max(m_width, size_t(column + 1));
+        m_first = i == 0 ? column : std::min(m_first, column);
     }
 }
 
@@ -55,7 +56,7 @@ bool KeyColumns::sameRowsSuffice(const KeyColumns &other) const
         if (m_columns[i].column != other.m_columns[i].column || !sameBytesSuffice(i, other))
             return false;
     }
-    return m_table.columnCount() == other.m_table.columnCount();
+    return m_first >= 0 && m_width > 0 && m_table.columnCount() == other.m_table.columnCount();
 }
 
 quint64 hashOf(std::span<const CellKey> keys)

@@ -37,8 +37,14 @@ public:
 
     /// Whether cells of equal bytes are equal for that key in both.
     [[nodiscard]] bool sameBytesSuffice(size_t key, const KeyColumns &other) const;
-    /// Whether rows of equal bytes are equal in both.
+    /// Whether rows are equal if hasSameBytes() says so.
     [[nodiscard]] bool sameRowsSuffice(const KeyColumns &other) const;
+    /// Whether a row has the same bytes as a row of the other table from the first key column to
+    /// the last.
+    [[nodiscard]] bool hasSameBytes(int row, const KeyColumns &other, int otherRow) const
+    {
+        return m_table.hasSameBytes(row, other.m_table, otherRow, m_first, int(m_width) - 1);
+    }
 
 private:
     struct Column
@@ -50,6 +56,7 @@ private:
 
     const TableData &m_table;
     std::vector<Column> m_columns;
+    int m_first = 0; ///< Of the columns.
     size_t m_width = 0;
 };
 

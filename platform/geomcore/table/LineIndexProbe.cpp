@@ -61,7 +61,7 @@ struct LineIndex::Probe::Private
     {
         if (expected >= index.m_table->rowCount() || (vain >= Patience && row % Patience != 0))
             return -1;
-        if (sameRowsSuffice && columns.table().rawRow(row) == index.m_table->rawRow(expected))
+        if (sameRowsSuffice && columns.hasSameBytes(row, *index.m_columns, expected))
             return hit(expected);
         columns.split(row, rows[0]);
         if (equalCells(expected, rows[0]))

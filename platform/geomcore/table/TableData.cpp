@@ -11,6 +11,20 @@
 
 namespace VKTab {
 
+namespace {
+
+/// A row without quotes from behind its first \a before cells up to its last \a behind cells.
+std::string_view withoutCells(std::string_view row, int before, int behind)
+{
+    for (; before > 0; --before)
+        row.remove_prefix(row.find(',') + 1);
+    for (; behind > 0; --behind)
+        row = row.substr(0, row.rfind(','));
+    return row;
+}
+
+} // namespace
+
 TableData::TableData(TableContents contents)
     : m(std::move(contents))
     , m_interned(std::make_unique<Interned[]>(size_t(m.columnCount)))
@@ -57,6 +71,21 @@ std::string_view TableData::cell(int row, int column, std::string &scratch) cons
     std::vector<std::string_view> cells(size_t(column) + 1);
     firstCells(row, cells, scratch);
     return cells.back();
+}
+
+bool TableData::hasSameBytes(int row, const TableData &other, int otherRow, int first,
+                             int last) const
+{
+    std::string_view bytes = rawRow(row);
+    std::string_view otherBytes = other.rawRow(otherRow);
+    const int behind = columnCount() - 1 - last;
+    if (first > 0 || behind > 0) {
+        if (hasQuotes(row) || other.hasQuotes(otherRow))
+            return false;
+        bytes = withoutCells(bytes, first, behind);
+        otherBytes = withoutCells(otherBytes, first, behind);
+    }
+    return bytes == otherBytes;
 }
 
 QString TableData::text(int row, int column) const

@@ -94,6 +94,11 @@ public:
     [[nodiscard]] std::string_view cell(int row, int column, std::string &scratch) const;
     [[nodiscard]] QString text(int row, int column) const;
     [[nodiscard]] bool isMissing(std::string_view cell) const { return m.isMissing(cell); }
+    /// Whether the cells of the columns \a first to \a last of a row have the same bytes as those
+    /// of a row of another table, which has as many columns. False also where that is not known
+    /// without splitting the rows.
+    [[nodiscard]] bool hasSameBytes(int row, const TableData &other, int otherRow, int first,
+                                    int last) const;
 
     /// Ask the memory for a row's offset, later for its bytes, ahead of their use.
     void prefetchOffset(int row) const { __builtin_prefetch(&m.rows[size_t(row)]); }

@@ -29,6 +29,15 @@ public:
     [[nodiscard]] static std::optional<CanonicalNumber> parse(std::string_view text,
                                                               char decimalChar = '.');
 
+    /// Whether a text without blanks before it begins like a number; no other text is one.
+    [[nodiscard]] static bool mayBegin(std::string_view text, char decimalChar)
+    {
+        if (text.empty())
+            return false;
+        const char c = text.front();
+        return (c >= '0' && c <= '9') || c == '-' || c == '+' || c == '.' || c == decimalChar;
+    }
+
     /// Sign, exponent and digits in one integer; equal if and only if the numbers are.
     [[nodiscard]] quint64 packed() const { return m_packed; }
     [[nodiscard]] bool isZero() const { return m_packed == 0; }

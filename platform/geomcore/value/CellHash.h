@@ -14,6 +14,22 @@ namespace VKTab {
     return uint64_t(product) ^ uint64_t(product >> 64);
 }
 
+/// Fewer than 8 bytes as one number, which tells them apart from as many others.
+[[nodiscard]] inline uint64_t fewBytes(const char *at, size_t count)
+{
+    if (count >= 4) {
+        uint32_t first = 0;
+        uint32_t last = 0;
+        std::memcpy(&first, at, 4);
+        std::memcpy(&last, at + count - 4, 4);
+        return uint64_t(first) << 32 | last;
+    }
+    if (count == 0)
+        return 0;
+    return uint64_t(uint8_t(at[0])) << 16 | uint64_t(uint8_t(at[count / 2])) << 8 |
+           uint8_t(at[count - 1]);
+}
+
 /// Hash of bytes; the same in every process. Not meant to withstand chosen input.
 [[nodiscard]] inline uint64_t hashBytes(std::string_view bytes)
 {
@@ -27,9 +43,7 @@ namespace VKTab {
         std::memcpy(&word, at, 8);
         hash = mixHash(hash ^ word, second);
     }
-    uint64_t word = 0;
-    std::memcpy(&word, at, left);
-    return mixHash(hash ^ word, first);
+    return mixHash(hash ^ fewBytes(at, left), first);
 }
 
 } // namespace VKTab

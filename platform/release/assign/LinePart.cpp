@@ -123,8 +123,11 @@ std::optional<PrjMappingC> assignInParts(LinePart &first,
         assignAll(first, lines, cancelled);
         return ended() ? std::nullopt : std::optional(first.mapping());
     }
-    std::stable_sort(lines.begin(), lines.end(),
-                     [](const auto &a, const auto &b) { return numberOf(a) < numberOf(b); });
+    const auto byNumber = [](const auto &a, const auto &b) {
+        return numberOf(a) < numberOf(b);
+    };
+    if (!std::is_sorted(lines.begin(), lines.end(), byNumber))
+        std::stable_sort(lines.begin(), lines.end(), byNumber);
     const std::vector<std::size_t> ends = endsOfParts(lines, count);
     assignAll(first, std::span(lines).first(FirstLines), cancelled);
     std::vector<std::unique_ptr<LinePart>> others(count);

@@ -56,8 +56,10 @@ bool assignOneByOne(LinePart &part, const std::vector<VKTab::LineId> &lines,
 
 std::vector<VKTab::LineId> shownLines(const VKTab::Content &table)
 {
+    const QList<VKTab::LineInfo> shown = table.getLineInfoList();
     std::vector<VKTab::LineId> lines;
-    for (const VKTab::LineInfo &line : table.getLineInfoList())
+    lines.reserve(std::size_t(shown.size()));
+    for (const VKTab::LineInfo &line : shown)
         lines.push_back(line.getLineId());
     return lines;
 }
