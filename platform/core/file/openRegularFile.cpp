@@ -1,5 +1,7 @@
 #include "openRegularFile.h"
 
+#include "AddressedFiles.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -19,6 +21,9 @@ QString refusal(const QString &name)
 
 bool openRegularFile(QFile &file, QString &problem)
 {
+    const std::shared_ptr<AddressedFiles> addressed = AddressedFiles::installed();
+    if (addressed && !addressed->provide(file.fileName(), problem))
+        return false;
     problem = refusal(file.fileName());
     if (!problem.isEmpty())
         return false;

@@ -1,6 +1,7 @@
 #include "PPathName.h"
 
 #include "PathAlias.h"
+#include <core/file/AddressedFiles.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -106,17 +107,25 @@ PPathName::PPathName(const char *utf8)
 
 bool PPathName::exists(bool dirOnly) const
 {
-    if (isEmpty() || isAddress())
+    if (isEmpty())
         return false;
-    const QFileInfo info(native());
+    const PString file = native();
+    const std::shared_ptr<AddressedFiles> addressed = AddressedFiles::installed();
+    QString problem;
+    if (schemeLength(file) || (addressed && !addressed->provide(file, problem)))
+        return false;
+    const QFileInfo info(file);
     return dirOnly ? info.isDir() : info.exists();
 }
 
 PString PPathName::native() const
 {
     const PString path = resolved(m_text);
-    if (schemeLength(path))
-        return path;
+    if (schemeLength(path)) {
+        const std::shared_ptr<AddressedFiles> addressed = AddressedFiles::installed();
+        const QString file = addressed ? addressed->fileOf(path) : QString();
+        return file.isEmpty() ? path : PString(file);
+    }
     return QDir::toNativeSeparators(withSlashes(path));
 }
 

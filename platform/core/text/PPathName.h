@@ -5,7 +5,8 @@
 /// A path as users and files write it: with references such as `$TORMEVA_DATA`, with "/" or "\",
 /// or an address with a scheme such as "svn://host/trunk". The text is kept as it was given;
 /// references are resolved where the file system is asked and where two paths are compared.
-/// Addresses are carried unharmed and exist on no disk.
+/// Addresses are carried unharmed; they stand for a file only where AddressedFiles has one for
+/// them.
 class VELKCORE_EXPORT PPathName
 {
 public:
@@ -17,11 +18,12 @@ public:
     [[nodiscard]] const PString &text() const { return m_text; }
     [[nodiscard]] bool isEmpty() const { return m_text.isEmpty(); }
 
-    /// True if there is a directory, or, with dirOnly false, a file or directory. False for
-    /// addresses and for the empty path.
+    /// True if there is a directory, or, with dirOnly false, a file or directory. False for the
+    /// empty path and for addresses whose file is not there and cannot be brought.
     [[nodiscard]] bool exists(bool dirOnly) const;
     /// What the file system is given: references resolved, one separator between components and
-    /// that of this system. Addresses come back unchanged, apart from references in front of them.
+    /// that of this system. Addresses for which nobody has a file come back unchanged, apart from
+    /// references in front of them.
     [[nodiscard]] PString native() const;
 
     /// True for addresses such as "svn://host/path". One letter before ":" is a drive, no scheme.

@@ -1,0 +1,136 @@
+#include "RepositoryClient.h"
+
+#include <core/progress/PProgress.h>
+#include <core/text/PString.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRegularExpression>
+
+namespace {
+
+constexpr int sliceMs = 50; ///< until the next look at output and cancel
+
+/// The client's errors as "svn: E170013: text", by their numbers; the texts are for people.
+RepositoryAnswer::Kind kindOf(const QString &errors)
+{
+    static const QRegularExpression number(QStringLiteral("\\bE(\\d{6})\\b"));
+    auto matches = number.globalMatch(errors);
+    RepositoryAnswer::Kind kind = RepositoryAnswer::Failed;
+    while (matches.hasNext()) {
+        switch (matches.next().captured(1).toInt()) {
+        case 160006: // no such revision
+        case 160013: // no such path
+        case 170000: // URL does not exist
+        case 200009: // some targets do not exist
+            return RepositoryAnswer::NotThere;
+        case 170001: // not authorized
+        case 215004: // no more credentials
+            return RepositoryAnswer::LoginNeeded;
+        case 104:    // connection reset
+        case 110:    // timed out
+        case 111:    // refused
+        case 113:    // no way to the host
+        case 170013: // cannot connect
+        case 210002: // connection closed
+        case 670002: // name or service not known
+        case 670003: // name resolution failed for now
+            kind = RepositoryAnswer::NoServer;
+            break;
+        default:
+            break;
+        }
+    }
+    return kind;
+}
+
+/// The password goes through the pipe: arguments can be seen by others.
+QStringList loginArguments(const RepositoryLogin &login)
+{
+    if (login.user.isEmpty())
+        return {};
+    return {QStringLiteral("--username"), login.user, QStringLiteral("--password-from-stdin")};
+}
+
+} // namespace
+
+RepositoryClient::RepositoryClient(QString program, QString configDirectory,
+                                   std::chrono::milliseconds silence)
+    : m_program(std::move(program))
+    , m_configDirectory(std::move(configDirectory))
+    , m_silence(silence)
+{
+}
+
+RepositoryAnswer RepositoryClient::lastRevision(const QString &url) const
+{
+    return run({QStringLiteral("info"), QStringLiteral("--show-item"),
+                QStringLiteral("last-changed-revision"), QStringLiteral("--no-newline"),
+                url + QStringLiteral("@HEAD")},
+               url);
+}
+
+RepositoryAnswer RepositoryClient::exportFiles(const QString &url, qint64 revision,
+                                               const QString &directory) const
+{
+    const QString number = QString::number(revision);
+    return run({QStringLiteral("export"), QStringLiteral("--ignore-externals"),
+                QStringLiteral("--depth"), QStringLiteral("files"), QStringLiteral("-r"), number,
+                url + u'@' + number, directory},
+               url);
+}
+
+RepositoryAnswer RepositoryClient::run(const QStringList &arguments, const QString &text) const
+{
+    QDir().mkpath(m_configDirectory);
+    PProgress progress(0, 0, 1, true, true);
+    progress.setText(text);
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    process.setProcessEnvironment(environment);
+    process.start(m_program, arguments +
+                                 QStringList{QStringLiteral("--non-interactive"),
+                                             QStringLiteral("--no-auth-cache"),
+                                             QStringLiteral("--config-dir"), m_configDirectory} +
+                                 loginArguments(m_login));
+    if (!process.waitForStarted())
+        return {RepositoryAnswer::Failed,
+                PString::translate("Das Programm %1 für das Katalog-Repository kann nicht "
+                                   "gestartet werden: %2",
+                                   "VelkGeomCore")
+                    .arg(m_program, process.errorString())};
+    if (!m_login.user.isEmpty())
+        process.write(m_login.password.toUtf8() + '\n');
+    process.closeWriteChannel();
+    QByteArray output;
+    QByteArray errors;
+    QElapsedTimer silence;
+    silence.start();
+    while (!process.waitForFinished(sliceMs) && process.state() != QProcess::NotRunning) {
+        const qsizetype heard = output.size() + errors.size();
+        output += process.readAllStandardOutput();
+        errors += process.readAllStandardError();
+        if (output.size() + errors.size() > heard)
+            silence.restart();
+        progress.nextStep();
+        const bool silent = std::chrono::milliseconds(silence.elapsed()) > m_silence;
+        if (!silent && !progress.isCanceled())
+            continue;
+        process.kill();
+        process.waitForFinished();
+        if (!silent)
+            return {RepositoryAnswer::Cancelled,
+                    PString::translate("Abgebrochen: %1", "VelkGeomCore").arg(text)};
+        return {RepositoryAnswer::NoServer,
+                PString::translate("Keine Antwort von %1 in %2 s", "VelkGeomCore")
+                    .arg(text, QString::number(double(m_silence.count()) / 1000))};
+    }
+    output += process.readAllStandardOutput();
+    errors += process.readAllStandardError();
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+        return {RepositoryAnswer::Done, QString::fromUtf8(output).trimmed()};
+    const QString problem = QString::fromUtf8(errors).trimmed();
+    return {kindOf(problem), problem.isEmpty() ? process.errorString() : problem};
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <geomcore/VelkGeomCoreGlobal.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+
+/// Who reads a repository. Kept in memory alone.
+struct RepositoryLogin
+{
+    QString user;
+    QString password;
+};
+
+/// What a server answered.
+struct RepositoryAnswer
+{
+    enum Kind {
+        Done,
+        NotThere,    ///< the server has no such path in that revision
+        NoServer,    ///< no connection, or nothing heard for too long
+        LoginNeeded, ///< none or a wrong one
+        Cancelled,
+        Failed ///< anything else; the text is the client's
+    };
+    Kind kind = Done;
+    QString text; ///< of Done: what the client wrote, else what is wrong
+
+    [[nodiscard]] bool isDone() const { return kind == Done; }
+};
+
+/// The Subversion client as a program of its own: started without a shell, never asks, keeps no
+/// login. An operation returns when the client has ended; while it runs a progress is told, by
+/// which it can be cancelled. Any thread, each with an object of its own.
+class VELKGEOMCORE_EXPORT RepositoryClient
+{
+public:
+    /// \a program a name on the PATH or a path; \a configDirectory is made, the user's own
+    /// Subversion settings are not read. A client of which nothing was heard for \a silence is
+    /// ended.
+    RepositoryClient(QString program, QString configDirectory, std::chrono::milliseconds silence);
+
+    void setLogin(const RepositoryLogin &login) { m_login = login; }
+
+    /// The last revision in which anything at or below the URL changed.
+    [[nodiscard]] RepositoryAnswer lastRevision(const QString &url) const;
+    /// Writes the files of a directory, without its subdirectories, into \a directory, which is not
+    /// yet there. Externals are left out.
+    [[nodiscard]] RepositoryAnswer exportFiles(const QString &url, qint64 revision,
+                                               const QString &directory) const;
+
+private:
+    [[nodiscard]] RepositoryAnswer run(const QStringList &arguments, const QString &text) const;
+
+    QString m_program;
+    QString m_configDirectory;
+    std::chrono::milliseconds m_silence;
+    RepositoryLogin m_login;
+};
