@@ -119,10 +119,11 @@ bool RepositoryCache::take(const QString &key, qint64 revision, const QString &p
     QDirIterator files(fetched, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     while (files.hasNext()) {
         const QFileInfo file(files.next());
+        const qint64 size = file.size(); // before it is another place's
         const QString to = directory + u'/' + file.fileName();
         if (!DurableFile::rename(file.filePath(), to, &problem))
             return false;
-        bytes += file.size();
+        bytes += size;
     }
     QDir(fetched).removeRecursively();
     if (!DurableFile::write(done, QByteArray::number(bytes) + ' ' + path.toUtf8(), &problem))
