@@ -8,6 +8,18 @@
         <translation>  Řádek %1</translation>
     </message>
     <message>
+        <source>%1 gibt es in Revision %2 nicht</source>
+        <translation>%1 v revizi %2 neexistuje</translation>
+    </message>
+    <message>
+        <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
+        <translation>%1. Čte se revize %2, pokud je na tomto počítači.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Zrušeno: %1</translation>
+    </message>
+    <message>
         <source>Alle Werte hintereinander als ein Text.</source>
         <translation>All values one after the other as one text.</translation>
     </message>
@@ -22,6 +34,18 @@
         <translation>Řádek s těmito hodnotami má i jiný cílový projekt.
   Projekt: %1
   Řádek: %2</translation>
+    </message>
+    <message>
+        <source>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</source>
+        <translation>Program %1 pro repozitář katalogu nelze spustit: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 antwortet nicht: %2</source>
+        <translation>Repozitář %1 neodpovídá: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
+        <translation>Repozitář %1 vyžaduje přihlášení: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -240,12 +264,20 @@
         <translation>Chybný počet argumentů funkce %1</translation>
     </message>
     <message>
+        <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
+        <translation>Pro katalog "%1" není nastaven žádný repozitář; z jeho názvu nelze vytvořit adresu</translation>
+    </message>
+    <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
         <translation>Zde se očekává porovnání, ne hodnota</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Zde se očekává hodnota, ne porovnání</translation>
+    </message>
+    <message>
+        <source>Keine Antwort von %1 in %2 s</source>
+        <translation>Žádná odpověď od %1 během %2 s</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>

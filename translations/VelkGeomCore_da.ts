@@ -8,6 +8,18 @@
         <translation>  Linje %1</translation>
     </message>
     <message>
+        <source>%1 gibt es in Revision %2 nicht</source>
+        <translation>%1 findes ikke i revision %2</translation>
+    </message>
+    <message>
+        <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
+        <translation>%1. Revision %2 læses, så vidt den findes på denne maskine.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Afbrudt: %1</translation>
+    </message>
+    <message>
         <source>Alle Werte hintereinander als ein Text.</source>
         <translation>All values one after the other as one text.</translation>
     </message>
@@ -22,6 +34,18 @@
         <translation>Også et andet målprojekt har en linje med disse værdier.
   Projekt: %1
   Linje: %2</translation>
+    </message>
+    <message>
+        <source>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</source>
+        <translation>Programmet %1 til katalogets repository kan ikke startes: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 antwortet nicht: %2</source>
+        <translation>Repositoriet %1 svarer ikke: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
+        <translation>Repositoriet %1 kræver login: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -240,12 +264,20 @@
         <translation>Forkert antal argumenter til funktionen %1</translation>
     </message>
     <message>
+        <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
+        <translation>Der er ikke angivet et repository for kataloget "%1"; dets navn giver ingen adresse</translation>
+    </message>
+    <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
         <translation>Her forventes en sammenligning, ikke en værdi</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Her forventes en værdi, ikke en sammenligning</translation>
+    </message>
+    <message>
+        <source>Keine Antwort von %1 in %2 s</source>
+        <translation>Intet svar fra %1 i %2 s</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>

@@ -8,6 +8,18 @@
         <translation>  Zeile %1</translation>
     </message>
     <message>
+        <source>%1 gibt es in Revision %2 nicht</source>
+        <translation>%1 gibt es in Revision %2 nicht</translation>
+    </message>
+    <message>
+        <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
+        <translation>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Abgebrochen: %1</translation>
+    </message>
+    <message>
         <source>Alle Werte hintereinander als ein Text.</source>
         <translation>Alle Werte hintereinander als ein Text.</translation>
     </message>
@@ -22,6 +34,18 @@
         <translation>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</translation>
+    </message>
+    <message>
+        <source>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</source>
+        <translation>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 antwortet nicht: %2</source>
+        <translation>Das Repository %1 antwortet nicht: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
+        <translation>Das Repository %1 verlangt eine Anmeldung: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -240,12 +264,20 @@
         <translation>Falsche Anzahl von Argumenten für die Funktion %1</translation>
     </message>
     <message>
+        <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
+        <translation>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</translation>
+    </message>
+    <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
         <translation>Hier wird ein Vergleich erwartet, kein Wert</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Hier wird ein Wert erwartet, kein Vergleich</translation>
+    </message>
+    <message>
+        <source>Keine Antwort von %1 in %2 s</source>
+        <translation>Keine Antwort von %1 in %2 s</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>

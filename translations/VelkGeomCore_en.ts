@@ -8,6 +8,18 @@
         <translation>  Line %1</translation>
     </message>
     <message>
+        <source>%1 gibt es in Revision %2 nicht</source>
+        <translation>%1 does not exist in revision %2</translation>
+    </message>
+    <message>
+        <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
+        <translation>%1. Revision %2 is read as far as it is on this machine.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Cancelled: %1</translation>
+    </message>
+    <message>
         <source>Alle Werte hintereinander als ein Text.</source>
         <translation>All values one after the other as one text.</translation>
     </message>
@@ -22,6 +34,18 @@
         <translation>Another target project has a line with these values, too.
   Project: %1
   Line: %2</translation>
+    </message>
+    <message>
+        <source>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</source>
+        <translation>The program %1 for the catalog repository cannot be started: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 antwortet nicht: %2</source>
+        <translation>The repository %1 does not answer: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
+        <translation>The repository %1 asks for a login: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -240,12 +264,20 @@
         <translation>Wrong number of arguments for the function %1</translation>
     </message>
     <message>
+        <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
+        <translation>No repository is set for the catalog "%1"; its name makes no address</translation>
+    </message>
+    <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
         <translation>A comparison is expected here, not a value</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>A value is expected here, not a comparison</translation>
+    </message>
+    <message>
+        <source>Keine Antwort von %1 in %2 s</source>
+        <translation>No answer from %1 in %2 s</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>

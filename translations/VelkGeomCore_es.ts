@@ -8,6 +8,18 @@
         <translation>  Línea %1</translation>
     </message>
     <message>
+        <source>%1 gibt es in Revision %2 nicht</source>
+        <translation>%1 no existe en la revisión %2</translation>
+    </message>
+    <message>
+        <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
+        <translation>%1. Se lee la revisión %2 en la medida en que está en esta máquina.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Cancelado: %1</translation>
+    </message>
+    <message>
         <source>Alle Werte hintereinander als ein Text.</source>
         <translation>All values one after the other as one text.</translation>
     </message>
@@ -22,6 +34,18 @@
         <translation>Otro proyecto de destino también tiene una línea con estos valores.
   Proyecto: %1
   Línea: %2</translation>
+    </message>
+    <message>
+        <source>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</source>
+        <translation>No se puede iniciar el programa %1 para el repositorio del catálogo: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 antwortet nicht: %2</source>
+        <translation>El repositorio %1 no responde: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
+        <translation>El repositorio %1 exige iniciar sesión: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -240,12 +264,20 @@
         <translation>Número de argumentos incorrecto para la función %1</translation>
     </message>
     <message>
+        <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
+        <translation>No hay ningún repositorio definido para el catálogo "%1"; su nombre no da una dirección</translation>
+    </message>
+    <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
         <translation>Aquí se espera una comparación, no un valor</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Aquí se espera un valor, no una comparación</translation>
+    </message>
+    <message>
+        <source>Keine Antwort von %1 in %2 s</source>
+        <translation>Sin respuesta de %1 en %2 s</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>

@@ -8,6 +8,18 @@
         <translation>  Rivi %1</translation>
     </message>
     <message>
+        <source>%1 gibt es in Revision %2 nicht</source>
+        <translation>Kohdetta %1 ei ole versiossa %2</translation>
+    </message>
+    <message>
+        <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
+        <translation>%1. Luetaan versio %2 siltä osin kuin se on tällä koneella.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Keskeytetty: %1</translation>
+    </message>
+    <message>
         <source>Alle Werte hintereinander als ein Text.</source>
         <translation>All values one after the other as one text.</translation>
     </message>
@@ -22,6 +34,18 @@
         <translation>Myös toisessa kohdeprojektissa on rivi näillä arvoilla.
   Projekti: %1
   Rivi: %2</translation>
+    </message>
+    <message>
+        <source>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</source>
+        <translation>Luettelon tietovaraston ohjelmaa %1 ei voi käynnistää: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 antwortet nicht: %2</source>
+        <translation>Tietovarasto %1 ei vastaa: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
+        <translation>Tietovarasto %1 vaatii kirjautumisen: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -240,12 +264,20 @@
         <translation>Funktiolla %1 on väärä määrä argumentteja</translation>
     </message>
     <message>
+        <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
+        <translation>Luettelolle "%1" ei ole määritetty tietovarastoa; sen nimestä ei saada osoitetta</translation>
+    </message>
+    <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
         <translation>Tässä odotetaan vertailua, ei arvoa</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Tässä odotetaan arvoa, ei vertailua</translation>
+    </message>
+    <message>
+        <source>Keine Antwort von %1 in %2 s</source>
+        <translation>Ei vastausta kohteesta %1 ajassa %2 s</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>

@@ -8,6 +8,18 @@
         <translation>  행 %1</translation>
     </message>
     <message>
+        <source>%1 gibt es in Revision %2 nicht</source>
+        <translation>%1은(는) 리비전 %2에 없습니다</translation>
+    </message>
+    <message>
+        <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
+        <translation>%1. 이 컴퓨터에 있는 범위에서 리비전 %2을(를) 읽습니다.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>취소됨: %1</translation>
+    </message>
+    <message>
         <source>Alle Werte hintereinander als ein Text.</source>
         <translation>All values one after the other as one text.</translation>
     </message>
@@ -22,6 +34,18 @@
         <translation>다른 대상 프로젝트에도 같은 값의 행이 있습니다.
   프로젝트: %1
   행: %2</translation>
+    </message>
+    <message>
+        <source>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</source>
+        <translation>카탈로그 저장소용 프로그램 %1을(를) 시작할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 antwortet nicht: %2</source>
+        <translation>저장소 %1이(가) 응답하지 않습니다: %2</translation>
+    </message>
+    <message>
+        <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
+        <translation>저장소 %1에 로그인이 필요합니다: %2</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -240,12 +264,20 @@
         <translation>함수 %1의 인수 개수가 잘못되었습니다</translation>
     </message>
     <message>
+        <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
+        <translation>카탈로그 "%1"의 저장소가 설정되지 않았습니다. 이름으로 주소를 만들 수 없습니다</translation>
+    </message>
+    <message>
         <source>Hier wird ein Vergleich erwartet, kein Wert</source>
         <translation>여기에는 값이 아니라 비교가 필요합니다</translation>
     </message>
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>여기에는 비교가 아니라 값이 필요합니다</translation>
+    </message>
+    <message>
+        <source>Keine Antwort von %1 in %2 s</source>
+        <translation>%2초 동안 %1의 응답이 없습니다</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
