@@ -1061,6 +1061,76 @@ Line: %2
     </message>
 </context>
 <context>
+    <name>RepositoryBox</name>
+    <message>
+        <source>Katalog = svn://Server:Port/Pfad</source>
+        <translation>Catalog = svn://server:port/path</translation>
+    </message>
+    <message>
+        <source>Je Zeile ein Katalog. Ohne Zeile ist der Name des Katalogs zugleich der seines Servers.</source>
+        <translation>One catalog a line. Without a line a catalog&apos;s name is also that of its server.</translation>
+    </message>
+    <message>
+        <source>die neueste</source>
+        <translation>the latest</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>&amp;Platz auf dieser Maschine:</source>
+        <translation>S&amp;pace on this machine:</translation>
+    </message>
+    <message>
+        <source>&amp;Warten auf den Server:</source>
+        <translation>&amp;Wait for the server:</translation>
+    </message>
+    <message>
+        <source>Server, Zeile %1: &quot;%2&quot; ist nicht von der Form &quot;Katalog = svn://Server:Port/Pfad&quot;.</source>
+        <translation>Server, line %1: &quot;%2&quot; is not of the form &quot;Catalog = svn://server:port/path&quot;.</translation>
+    </message>
+    <message>
+        <source>Zielprojekte aus dem Reposi&amp;tory lesen</source>
+        <translation>Read target projects from the reposi&amp;tory</translation>
+    </message>
+    <message>
+        <source>Serv&amp;er:</source>
+        <translation>S&amp;erver:</translation>
+    </message>
+    <message>
+        <source>Revisi&amp;on:</source>
+        <translation>Revisi&amp;on:</translation>
+    </message>
+</context>
+<context>
+    <name>RepositoryLoginDialog</name>
+    <message>
+        <source>Anmeldung am Repository</source>
+        <translation>Login to the repository</translation>
+    </message>
+    <message>
+        <source>%1 verlangt eine Anmeldung.</source>
+        <translation>%1 asks for a login.</translation>
+    </message>
+    <message>
+        <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
+        <translation>Name and password hold until the program ends and are not stored.</translation>
+    </message>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;User:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Password:</translation>
+    </message>
+</context>
+<context>
     <name>SessionOwner</name>
     <message>
         <source>(Prozess %1)</source>

@@ -60,12 +60,21 @@ void EditorArea::rebuild()
         selectLine(line);
 }
 
+void EditorArea::setRemoteTargets(bool remote)
+{
+    if (m_remoteTargets == remote)
+        return;
+    m_remoteTargets = remote;
+    rebuild();
+}
+
 void EditorArea::make()
 {
     auto *opener =
         new TargetProjectOpener([this](const QString &path) { Q_EMIT targetProjectWanted(path); });
     m_editor = new CatalogMappingWidget(m_sourceRoot, m_document->createHandler(), opener, nullptr);
     m_editor->setObjectName("CatalogMappingWidget");
+    m_editor->setRemoteViewerMode(m_remoteTargets);
     m_layout->addWidget(m_editor);
     m_editor->restoreState(m_state);
     m_editor->expandDirectories({});

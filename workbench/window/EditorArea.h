@@ -29,6 +29,9 @@ public:
     void close();
     /// Makes it anew with everything read anew, and goes to where the user was.
     void rebuild();
+    /// Target projects are read from repositories instead of the directory of the new release. An
+    /// editor that is open is made anew.
+    void setRemoteTargets(bool remote);
     [[nodiscard]] bool isOpen() const { return m_editor != nullptr; }
 
     /// Source path of the selected project; empty if there is none.
@@ -100,6 +103,7 @@ private:
     QVBoxLayout *const m_layout;
     QPointer<MappingDocument> m_document;
     QString m_sourceRoot;
+    bool m_remoteTargets = false;
     CatalogMappingWidget *m_editor = nullptr;
     QByteArray m_state;
     OpenLines::Kinds m_kinds;   ///< none: lines of all kinds are shown

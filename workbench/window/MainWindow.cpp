@@ -9,6 +9,7 @@
 #include "PluginActions.h"
 #include "QtTexts.h"
 #include "Question.h"
+#include "RemoteCatalogs.h"
 #include "StatusArea.h"
 #include "StatusProgress.h"
 #include "WelcomePage.h"
@@ -36,6 +37,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_desk(new DocumentDesk(settings, this))
     , m_lines(new LineCommands(m_desk->document(), m_editor, this))
     , m_states(new LineStateFilter(this))
+    , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
     , m_pages(new QStackedWidget(this))
     , m_counterTimer(new QTimer(this))
     , m_language(settings->values().language)
@@ -105,6 +107,8 @@ void MainWindow::connectParts()
     connect(m_editor, &EditorArea::conditionCopied, m_lines, &LineCommands::tellCondition);
     connect(m_states, &LineStateFilter::kindsChanged, this, &MainWindow::onLineKindsChanged);
     connect(m_editor, &EditorArea::lineKindsDropped, m_states, &LineStateFilter::clear);
+    connect(m_remote, &RemoteCatalogs::told, this,
+            [this](const QString &text) { m_log->addMessage(LogWindow::Severity::Warning, text); });
     // What changed, if anything did, is told at the end of the step, over this.
     connect(m_editor, &EditorArea::linesReassigned, this,
             [this] { m_status->showNote(tr("Zeilen neu zugewiesen: keine Änderung")); });
@@ -248,6 +252,8 @@ void MainWindow::applySettings()
     ApplicationTheme::setColours(values.theme);
     ApplicationTheme::setFontPercent(values.fontPercent);
     m_desk->document()->setAutosaveInterval(values.autosaveMinutes * 60);
+    m_remote->apply(values.repository);
+    m_editor->setRemoteTargets(values.repository.isUsed);
     if (values.language == m_language)
         return;
     m_language = values.language;

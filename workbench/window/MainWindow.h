@@ -14,6 +14,7 @@ class LogWindow;
 class PLinkDbGuiI;
 class PluginActions;
 class PMessageSinkScope;
+class RemoteCatalogs;
 class StatusArea;
 class WelcomePage;
 class WorkbenchActions;
@@ -88,6 +89,7 @@ private:
     DocumentDesk *const m_desk;
     LineCommands *const m_lines;
     LineStateFilter *const m_states;
+    RemoteCatalogs *const m_remote;
     QStackedWidget *const m_pages;
     WelcomePage *m_welcome = nullptr;
     PluginActions *m_pluginActions = nullptr;

@@ -6,6 +6,7 @@
 #include "LineStateFilter.h"
 #include "LogWindow.h"
 #include "PluginActions.h"
+#include "RemoteCatalogs.h"
 #include "WelcomePage.h"
 #include "WorkbenchActions.h"
 #include "WorkbenchSettings.h"
@@ -119,7 +120,10 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::NextOpen, [this] { m_lines->goNext(); });
     connectTo(WorkbenchActions::PreviousOpen, [this] { m_lines->goPrevious(); });
     connectTo(WorkbenchActions::JumpToLine, [this] { m_lines->jumpByDialog(); });
-    connectTo(WorkbenchActions::Refresh, [this] { m_editor->rebuild(); });
+    connectTo(WorkbenchActions::Refresh, [this] {
+        m_remote->refresh();
+        m_editor->rebuild();
+    });
     connectTo(WorkbenchActions::ShowTour, [this] { startTour(); });
     connectTo(WorkbenchActions::About, [this] { showAbout(); });
 }

@@ -1,6 +1,7 @@
 #include "SettingsDialog.h"
 
 #include "Question.h"
+#include "RepositoryBox.h"
 
 #include <gui/application/PApplication.h>
 
@@ -23,6 +24,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     , m_autosave(new QSpinBox(this))
     , m_next(new QKeySequenceEdit(values.nextLine, this))
     , m_previous(new QKeySequenceEdit(values.previousLine, this))
+    , m_repository(new RepositoryBox(values.repository, this))
     , m_problem(new QLabel(this))
 {
     setObjectName("SettingsDialog");
@@ -52,6 +54,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     m_previous->setObjectName("previousLine");
     m_problem->setObjectName("problem");
     m_problem->setWordWrap(true);
+    m_problem->setTextFormat(Qt::PlainText);
 
     auto *layout = new QVBoxLayout(this);
     auto *form = new QFormLayout;
@@ -62,6 +65,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     form->addRow(tr("Taste für die &nächste offene Zeile:"), m_next);
     form->addRow(tr("Taste für die &vorige offene Zeile:"), m_previous);
     layout->addLayout(form);
+    layout->addWidget(m_repository);
     layout->addWidget(m_problem);
     auto *buttons = new QDialogButtonBox(this);
     m_ok = buttons->addButton(Question::okText(), QDialogButtonBox::AcceptRole);
@@ -72,6 +76,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_next, &QKeySequenceEdit::keySequenceChanged, this, &SettingsDialog::check);
     connect(m_previous, &QKeySequenceEdit::keySequenceChanged, this, &SettingsDialog::check);
+    connect(m_repository, &RepositoryBox::changed, this, &SettingsDialog::check);
     check();
     PApplication::setupWindow(this);
 }
@@ -90,6 +95,7 @@ WorkbenchSettings::Values SettingsDialog::values() const
     values.autosaveMinutes = m_autosave->value();
     values.nextLine = m_next->keySequence();
     values.previousLine = m_previous->keySequence();
+    values.repository = m_repository->settings();
     return values;
 }
 
@@ -103,7 +109,7 @@ QString SettingsDialog::problem() const
             return tr("Die Taste %1 ist schon vergeben.")
                 .arg(key.toString(QKeySequence::NativeText));
     }
-    return {};
+    return m_repository->problem();
 }
 
 void SettingsDialog::check()

@@ -12,6 +12,8 @@ class QPushButton;
 class QSpinBox;
 QT_END_NAMESPACE
 
+class RepositoryBox;
+
 /// Changes the values of the settings; nothing applies before it is accepted.
 class SettingsDialog : public QDialog
 {
@@ -36,6 +38,7 @@ private:
     QSpinBox *const m_autosave;
     QKeySequenceEdit *const m_next;
     QKeySequenceEdit *const m_previous;
+    RepositoryBox *const m_repository;
     QLabel *const m_problem;
     QPushButton *m_ok = nullptr;
 };

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -48,6 +49,25 @@ void WorkbenchSettings::read()
                    MaxAutosaveMinutes);
     m_values.nextLine = keyOf(m_store.value("Settings/keyNextLine"), standard.nextLine);
     m_values.previousLine = keyOf(m_store.value("Settings/keyPreviousLine"), standard.previousLine);
+    m_values.repository = readRepository();
+}
+
+RepositorySettings WorkbenchSettings::readRepository() const
+{
+    const RepositorySettings standard;
+    const auto number = [this](const char *name, int standardValue, int min, int max) {
+        return std::clamp(m_store.value(name, standardValue).toInt(), min, max);
+    };
+    RepositorySettings repository;
+    repository.isUsed = m_store.value("Repository/use").toBool();
+    repository.servers = m_store.value("Repository/servers").toStringList();
+    repository.revision =
+        number("Repository/revision", standard.revision, -1, std::numeric_limits<int>::max());
+    repository.cacheMegabytes = number("Repository/cacheMegabytes", standard.cacheMegabytes, 1,
+                                       RepositorySettings::MaxCacheMegabytes);
+    repository.silenceSeconds = number("Repository/silenceSeconds", standard.silenceSeconds, 1,
+                                       RepositorySettings::MaxSilenceSeconds);
+    return repository;
 }
 
 void WorkbenchSettings::setValues(const Values &values)
@@ -78,6 +98,12 @@ void WorkbenchSettings::writeValues()
     m_store.setValue("Settings/autosaveMinutes", m_values.autosaveMinutes);
     m_store.setValue("Settings/keyNextLine", m_values.nextLine.toString());
     m_store.setValue("Settings/keyPreviousLine", m_values.previousLine.toString());
+    const RepositorySettings &repository = m_values.repository;
+    m_store.setValue("Repository/use", repository.isUsed);
+    m_store.setValue("Repository/servers", repository.servers);
+    m_store.setValue("Repository/revision", repository.revision);
+    m_store.setValue("Repository/cacheMegabytes", repository.cacheMegabytes);
+    m_store.setValue("Repository/silenceSeconds", repository.silenceSeconds);
 }
 
 QStringList WorkbenchSettings::recentFiles() const
@@ -143,6 +169,11 @@ bool WorkbenchSettings::flag(const QString &name) const
 void WorkbenchSettings::setFlag(const QString &name, bool value)
 {
     m_store.setValue("Flags/" + name, value);
+}
+
+QString WorkbenchSettings::repositoryCache() const
+{
+    return QFileInfo(m_store.fileName()).absolutePath() + QStringLiteral("/repository");
 }
 
 QByteArray WorkbenchSettings::state(const QString &name) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RepositorySettings.h"
+
 #include <workbench/start/EditorLanguages.h>
 
 #include <QKeySequence>
@@ -22,6 +24,7 @@ public:
         int autosaveMinutes = 3; ///< 0: never
         QKeySequence nextLine = QKeySequence(QStringLiteral("F8"));
         QKeySequence previousLine = QKeySequence(QStringLiteral("Shift+F8"));
+        RepositorySettings repository;
 
         friend bool operator==(const Values &, const Values &) = default;
     };
@@ -64,6 +67,8 @@ public:
     [[nodiscard]] QByteArray state(const QString &name) const;
     void setState(const QString &name, const QByteArray &state);
 
+    /// For copies of what was read from repositories; beside the file.
+    [[nodiscard]] QString repositoryCache() const;
     /// The same store, for documents.
     [[nodiscard]] QSettings *store() { return &m_store; }
 
@@ -73,6 +78,7 @@ Q_SIGNALS:
 
 private:
     void read();
+    [[nodiscard]] RepositorySettings readRepository() const;
     void writeValues();
 
     QSettings m_store;

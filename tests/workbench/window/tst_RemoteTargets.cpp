@@ -1,0 +1,245 @@
+#include "ModalScript.h"
+#include "WindowFixture.h"
+
+#include "../../geomcore/SubversionServer.h"
+
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/LogWindow.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/RepositoryBox.h>
+#include <workbench/window/RepositoryLoginDialog.h>
+#include <workbench/window/SettingsDialog.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <core/file/AddressedFiles.h>
+#include <mapping/view/CatalogMappingWidget.h>
+
+#include <QAction>
+#include <QDirIterator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+
+/// The workbench with the example's new release in a repository.
+class tst_RemoteTargets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void targetsComeFromTheRepository();
+    void isSwitchedByTheSettings();
+    void refreshAsksForWhatIsNew();
+    void aServerThatIsGoneIsTold();
+    void asksForALogin();
+    void aLoginMayBeRefused();
+    void serversAreChecked_data();
+    void serversAreChecked();
+    void settingsAreKept();
+
+private:
+    [[nodiscard]] WorkbenchSettings::Values remote(bool isUsed = true) const;
+    [[nodiscard]] QStringList fetched() const;
+    void open();
+
+    static constexpr const char *project = "standardparts/screws/iso4762.prj";
+    std::unique_ptr<SubversionServer> m_server;
+    std::unique_ptr<WindowFixture> m_fixture;
+};
+
+void tst_RemoteTargets::initTestCase()
+{
+    m_server = std::make_unique<SubversionServer>();
+    QVERIFY2(m_server->problem().isEmpty(), qPrintable(m_server->problem()));
+    QVERIFY2(m_server->commit(WindowFixture::roots().target + "/standardparts"),
+             qPrintable(m_server->problem()));
+}
+
+void tst_RemoteTargets::init()
+{
+    QVERIFY2(m_server->start(), qPrintable(m_server->problem()));
+    m_fixture = std::make_unique<WindowFixture>();
+}
+
+void tst_RemoteTargets::cleanup()
+{
+    m_fixture.reset();
+    m_server->stop();
+}
+
+WorkbenchSettings::Values tst_RemoteTargets::remote(bool isUsed) const
+{
+    WorkbenchSettings::Values values = m_fixture->settings->values();
+    values.repository.isUsed = isUsed;
+    values.repository.servers = {"standardparts = " + m_server->url()};
+    return values;
+}
+
+/// Names of the projects that lie in the cache.
+QStringList tst_RemoteTargets::fetched() const
+{
+    QStringList names;
+    QDirIterator files(m_fixture->settings->repositoryCache(), {"*.prj"}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext())
+        names.append(QFileInfo(files.next()).fileName());
+    return names;
+}
+
+void tst_RemoteTargets::open()
+{
+    m_fixture->open(m_fixture->mappingFile());
+    QVERIFY(m_fixture->window->editor()->selectProject(project));
+    QApplication::processEvents();
+}
+
+void tst_RemoteTargets::targetsComeFromTheRepository()
+{
+    m_fixture->settings->setValues(remote());
+    open();
+    QVERIFY(fetched().contains("iso4762.prj"));
+    const QString log = m_fixture->window->log()->text();
+    QVERIFY2(!log.contains("svn://") && !log.contains("iso4762"), qPrintable(log));
+}
+
+void tst_RemoteTargets::isSwitchedByTheSettings()
+{
+    m_fixture->settings->setValues(remote(false));
+    open();
+    QVERIFY(fetched().isEmpty());
+    const QWidget *const before = m_fixture->window->editor()->editor();
+    m_fixture->settings->setValues(remote(true));
+    QVERIFY(m_fixture->window->editor()->editor() != before);
+    QCOMPARE(m_fixture->window->editor()->currentPath(), project);
+    QVERIFY(fetched().contains("iso4762.prj"));
+    QVERIFY(AddressedFiles::installed());
+    m_fixture->settings->setValues(remote(false));
+    QVERIFY(!AddressedFiles::installed());
+}
+
+void tst_RemoteTargets::refreshAsksForWhatIsNew()
+{
+    m_fixture->settings->setValues(remote());
+    open();
+    const qsizetype before = fetched().size();
+    QTemporaryDir files;
+    QVERIFY(QDir(files.path()).mkpath("screws"));
+    QFile file(files.filePath("screws/iso4762.json"));
+    QVERIFY(QFile::copy(WindowFixture::roots().target + "/standardparts/screws/iso4762.json",
+                        file.fileName()));
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(file.open(QIODevice::Append));
+    file.write("\n");
+    file.close();
+    QVERIFY2(m_server->commit(files.path()), qPrintable(m_server->problem()));
+    m_fixture->press(Qt::Key_F5);
+    QVERIFY(fetched().size() > before); // the new revision lies beside the former one
+}
+
+void tst_RemoteTargets::aServerThatIsGoneIsTold()
+{
+    m_server->stop();
+    m_fixture->settings->setValues(remote());
+    open();
+    const QString log = m_fixture->window->log()->text();
+    QVERIFY2(log.contains("Das Repository " + m_server->url() + "/trunk/catalog antwortet nicht"),
+             qPrintable(log));
+}
+
+void tst_RemoteTargets::asksForALogin()
+{
+    QVERIFY(m_server->demandLogin("eva", "geheim"));
+    m_fixture->settings->setValues(remote());
+    ModalScript script;
+    QString url;
+    script.then([&](QWidget *dialog) {
+        url = dialog->findChild<QLabel *>("url")->text();
+        QVERIFY(!dialog->findChild<QPushButton *>("ok")->isEnabled());
+        QTest::keyClicks(dialog->findChild<QLineEdit *>("user"), "eva");
+        QTest::keyClicks(dialog->findChild<QLineEdit *>("password"), "falsch");
+        QTest::mouseClick(dialog->findChild<QPushButton *>("ok"), Qt::LeftButton);
+    });
+    script.then([&](QWidget *dialog) {
+        QCOMPARE(dialog->findChild<QLineEdit *>("user")->text(), "eva");
+        auto *password = dialog->findChild<QLineEdit *>("password");
+        QCOMPARE(password->text(), QString());
+        QCOMPARE(password->echoMode(), QLineEdit::Password);
+        QTest::keyClicks(password, "geheim");
+        QTest::keyClick(password, Qt::Key_Return);
+    });
+    open();
+    QVERIFY(script.isDone());
+    QCOMPARE(url, m_server->url() + "/trunk/catalog verlangt eine Anmeldung.");
+    QVERIFY(fetched().contains("iso4762.prj"));
+    QFile settings(m_fixture->settings->store()->fileName());
+    QVERIFY(settings.open(QIODevice::ReadOnly));
+    QVERIFY(!settings.readAll().contains("geheim"));
+}
+
+void tst_RemoteTargets::aLoginMayBeRefused()
+{
+    QVERIFY(m_server->demandLogin("eva", "geheim"));
+    m_fixture->settings->setValues(remote());
+    ModalScript script;
+    script.thenClick("cancel");
+    open();
+    QCOMPARE(script.seen, QStringList("RepositoryLoginDialog"));
+    QVERIFY(m_fixture->window->log()->text().contains(m_server->url()));
+}
+
+void tst_RemoteTargets::serversAreChecked_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isUsed");
+    QTest::addColumn<QString>("problem");
+    const QString problem = "Server, Zeile %1: \"%2\" ist nicht von der Form "
+                            "\"Katalog = svn://Server:Port/Pfad\".";
+    QTest::newRow("none") << "" << true << "";
+    QTest::newRow("good") << "a = svn://h:1/r\n\nb=svn://h" << true << "";
+    QTest::newRow("no server") << "a = svn://h\nb" << true << problem.arg("2", "b");
+    QTest::newRow("no catalog") << "= svn://h" << true << problem.arg("1", "= svn://h");
+    QTest::newRow("tunnel") << "a = svn+ssh://h" << true << problem.arg("1", "a = svn+ssh://h");
+    QTest::newRow("markup") << "<b>%1" << true << problem.arg("1", "<b>%1");
+    QTest::newRow("not used") << "nonsense" << false << "";
+}
+
+void tst_RemoteTargets::serversAreChecked()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isUsed);
+    SettingsDialog dialog(m_fixture->settings->values(), {}, nullptr);
+    dialog.show();
+    auto *box = dialog.findChild<RepositoryBox *>("repository");
+    auto *servers = dialog.findChild<QPlainTextEdit *>("repositoryServers");
+    QVERIFY(!box->isChecked());
+    QVERIFY(!servers->isEnabled());
+    box->setChecked(true);
+    servers->setPlainText(text);
+    box->setChecked(isUsed);
+    QFETCH(QString, problem);
+    QCOMPARE(dialog.findChild<QLabel *>("problem")->text(), problem);
+    QCOMPARE(dialog.findChild<QPushButton *>("ok")->isEnabled(), problem.isEmpty());
+}
+
+void tst_RemoteTargets::settingsAreKept()
+{
+    const QString file = m_fixture->directory.filePath("kept.ini");
+    WorkbenchSettings::Values values;
+    values.repository = {true, {"a = svn://h", "b = svn://i"}, 17, 5, 7};
+    WorkbenchSettings(file).setValues(values);
+    const WorkbenchSettings kept(file);
+    QCOMPARE(kept.values(), values);
+    QCOMPARE(kept.repositoryCache(), m_fixture->directory.filePath("repository"));
+    SettingsDialog dialog(values, {}, nullptr);
+    QCOMPARE(dialog.values().repository, values.repository);
+    const QHash<QString, QString> expected{{"a", "svn://h"}, {"b", "svn://i"}};
+    QCOMPARE(values.repository.serversByCatalog(), expected);
+}
+
+QTEST_MAIN(tst_RemoteTargets)
+#include "tst_RemoteTargets.moc"
