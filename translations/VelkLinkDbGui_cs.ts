@@ -64,6 +64,10 @@
         <translation>Odeslat výběr do správce odkazů</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Vybrat</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Automaticky přiřazené řádky</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Ověřit/změnit uživatele</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Přepsat již přiřazené cílové projekty</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Potvrzená přiřazení</translation>
     </message>
@@ -124,6 +132,10 @@ Opravdu pokračovat?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Cílový projekt s cestou %1 byl přidán.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Zobrazit názvy souborů místo popisů</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Smazat</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Název</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Nový...</translation>
     </message>
@@ -360,6 +376,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Pfad:</source>
         <translation>Cesta:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Vybrat projekt</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

@@ -64,6 +64,10 @@
         <translation>Send markeringen til linkmanageren</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Vælg</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Automatisk tildelte linjer</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Godkend/skift bruger</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Overskriv målprojekter, der allerede er tildelt</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bekræftede tildelinger</translation>
     </message>
@@ -124,6 +132,10 @@ Vil du virkelig fortsætte?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Målprojektet med stien %1 blev tilføjet.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Vis filnavne i stedet for beskrivelser</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Slet</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Ny...</translation>
     </message>
@@ -360,6 +376,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Pfad:</source>
         <translation>Sti:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Vælg projekt</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

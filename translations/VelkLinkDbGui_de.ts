@@ -64,6 +64,10 @@
         <translation>Auswahl an Linkmanager senden</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Automatisch zugeordnete Zeilen</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Benutzer authentifizieren/wechseln</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Bereits zugewiesene Zielprojekte überschreiben</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bestätigte Zuordnungen</translation>
     </message>
@@ -124,6 +132,10 @@ Wirklich fortfahren?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Dateinamen statt Beschreibungen anzeigen</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Löschen</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Neu...</translation>
     </message>
@@ -360,6 +376,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Pfad:</source>
         <translation>Pfad:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Projekt auswählen</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

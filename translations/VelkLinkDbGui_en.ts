@@ -64,6 +64,10 @@
         <translation>Send the selection to the link manager</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Select</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Lines assigned automatically</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Authenticate/change user</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Overwrite target projects that are assigned already</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Confirmed assignments</translation>
     </message>
@@ -124,6 +132,10 @@ Really go on?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>The target project with the path %1 was added.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Show file names instead of descriptions</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Delete</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>New...</translation>
     </message>
@@ -360,6 +376,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Pfad:</source>
         <translation>Path:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Select project</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

@@ -64,6 +64,10 @@
         <translation>Enviar la selección al gestor de enlaces</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Líneas asignadas automáticamente</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Autenticar/cambiar de usuario</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Sobrescribir los proyectos de destino ya asignados</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Asignaciones confirmadas</translation>
     </message>
@@ -124,6 +132,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Se añadió el proyecto de destino con la ruta %1.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Mostrar nombres de archivo en lugar de descripciones</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Eliminar</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Nuevo...</translation>
     </message>
@@ -360,6 +376,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Pfad:</source>
         <translation>Ruta:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Seleccionar proyecto</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

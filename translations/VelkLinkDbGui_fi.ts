@@ -64,6 +64,10 @@
         <translation>Lähetä valinta linkkienhallintaan</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Valitse</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Automaattisesti kohdistetut rivit</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Tunnista/vaihda käyttäjä</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Korvaa jo liitetyt kohdeprojektit</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Vahvistetut kohdistukset</translation>
     </message>
@@ -124,6 +132,10 @@ Jatketaanko varmasti?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Kohdeprojekti, jonka polku on %1, lisättiin.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Näytä tiedostonimet kuvausten sijaan</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Poista</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Nimi</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Uusi...</translation>
     </message>
@@ -360,6 +376,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Pfad:</source>
         <translation>Polku:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Valitse projekti</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

@@ -64,6 +64,10 @@
         <translation>Envoyer la sélection au gestionnaire de liens</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Sélectionner</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Lignes affectées automatiquement</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Authentifier l'utilisateur/changer d'utilisateur</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Remplacer les projets cibles déjà affectés</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Affectations confirmées</translation>
     </message>
@@ -124,6 +132,10 @@ Vraiment continuer ?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Le projet cible avec le chemin %1 a été ajouté.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Afficher les noms de fichiers au lieu des descriptions</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Supprimer</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Nouveau...</translation>
     </message>
@@ -360,6 +376,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Pfad:</source>
         <translation>Chemin :</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Sélectionner un projet</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

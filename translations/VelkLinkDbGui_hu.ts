@@ -64,6 +64,10 @@
         <translation>Kijelölés küldése a hivatkozáskezelőnek</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Kiválasztás</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Automatikusan hozzárendelt sorok</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Felhasználó hitelesítése/váltása</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Már hozzárendelt célprojektek felülírása</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Megerősített hozzárendelések</translation>
     </message>
@@ -124,6 +132,10 @@ Valóban folytatja?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>A(z) %1 útvonalú célprojekt hozzáadva.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Fájlnevek megjelenítése leírások helyett</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Törlés</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Név</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Új...</translation>
     </message>
@@ -360,6 +376,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Pfad:</source>
         <translation>Útvonal:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Projekt kiválasztása</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

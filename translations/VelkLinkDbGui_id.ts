@@ -64,6 +64,10 @@
         <translation>Kirim pilihan ke pengelola tautan</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Pilih</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Baris yang ditetapkan otomatis</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Autentikasi/ganti pengguna</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Timpa proyek target yang sudah ditetapkan</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Penetapan yang dikonfirmasi</translation>
     </message>
@@ -124,6 +132,10 @@ Sungguh lanjutkan?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Proyek tujuan dengan jalur %1 telah ditambahkan.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Tampilkan nama berkas alih-alih deskripsi</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Hapus</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Nama</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Baru...</translation>
     </message>
@@ -360,6 +376,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Pfad:</source>
         <translation>Jalur:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Pilih proyek</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

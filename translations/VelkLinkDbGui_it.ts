@@ -64,6 +64,10 @@
         <translation>Inviare la selezione al gestore collegamenti</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Seleziona</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Righe assegnate automaticamente</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Autenticare/cambiare utente</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Sovrascrivi i progetti di destinazione già assegnati</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Assegnazioni confermate</translation>
     </message>
@@ -124,6 +132,10 @@ Continuare davvero?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Il progetto di destinazione con il percorso %1 è stato aggiunto.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Mostra i nomi dei file invece delle descrizioni</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Elimina</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Nuovo...</translation>
     </message>
@@ -360,6 +376,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Pfad:</source>
         <translation>Percorso:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Seleziona progetto</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

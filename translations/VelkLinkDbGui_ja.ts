@@ -64,6 +64,10 @@
         <translation>選択をリンクマネージャーに送る</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>選択</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>自動で割り当てられた行</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>ユーザーの認証／切り替え</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>割り当て済みの対象プロジェクトを上書き</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>確認済みの割り当て</translation>
     </message>
@@ -124,6 +132,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>パス %1 の対象プロジェクトが追加されました。</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>説明の代わりにファイル名を表示</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>削除</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>新規...</translation>
     </message>
@@ -360,6 +376,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Pfad:</source>
         <translation>パス:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>プロジェクトを選択</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

@@ -64,6 +64,10 @@
         <translation>선택을 링크 관리자로 보내기</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>선택</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>자동 할당된 행</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>사용자 인증/전환</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>이미 할당된 대상 프로젝트 덮어쓰기</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>확인된 할당</translation>
     </message>
@@ -124,6 +132,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>경로가 %1인 대상 프로젝트가 추가되었습니다.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>설명 대신 파일 이름 표시</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>삭제</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>새로 만들기...</translation>
     </message>
@@ -360,6 +376,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Pfad:</source>
         <translation>경로:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>프로젝트 선택</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

@@ -64,6 +64,10 @@
         <translation>Send utvalget til lenkebehandlingen</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Velg</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Automatisk tilordnede linjer</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Autentiser/bytt bruker</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Overskriv målprosjekter som allerede er tilordnet</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bekreftede tilordninger</translation>
     </message>
@@ -124,6 +132,10 @@ Vil du virkelig fortsette?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Målprosjektet med stien %1 ble lagt til.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Vis filnavn i stedet for beskrivelser</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Slett</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Ny...</translation>
     </message>
@@ -360,6 +376,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Pfad:</source>
         <translation>Sti:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Velg prosjekt</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

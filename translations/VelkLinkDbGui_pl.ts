@@ -64,6 +64,10 @@
         <translation>Wyślij wybór do menedżera łączy</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Wybierz</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Wiersze przypisane automatycznie</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Uwierzytelnij/zmień użytkownika</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Zastąp już przypisane projekty docelowe</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Potwierdzone przypisania</translation>
     </message>
@@ -124,6 +132,10 @@ Naprawdę kontynuować?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Dodano projekt docelowy o ścieżce %1.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Pokaż nazwy plików zamiast opisów</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Usuń</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Nowy...</translation>
     </message>
@@ -360,6 +376,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Pfad:</source>
         <translation>Ścieżka:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Wybierz projekt</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

@@ -64,6 +64,10 @@
         <translation>Enviar a seleção para o gestor de ligações</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Selecionar</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Linhas atribuídas automaticamente</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Autenticar/mudar de utilizador</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Substituir projetos de destino já atribuídos</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Atribuições confirmadas</translation>
     </message>
@@ -124,6 +132,10 @@ Continuar mesmo?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>O projeto de destino com o caminho %1 foi adicionado.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Mostrar nomes de arquivos em vez de descrições</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Eliminar</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Novo...</translation>
     </message>
@@ -360,6 +376,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Pfad:</source>
         <translation>Caminho:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Selecionar projeto</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

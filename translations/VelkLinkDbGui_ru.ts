@@ -64,6 +64,10 @@
         <translation>Отправить выбор в менеджер связей</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Выбрать</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Строки, назначенные автоматически</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Авторизация/смена пользователя</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Перезаписать уже назначенные целевые проекты</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Подтверждённые назначения</translation>
     </message>
@@ -124,6 +132,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Целевой проект с путём %1 добавлен.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Показывать имена файлов вместо описаний</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Удалить</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Создать...</translation>
     </message>
@@ -360,6 +376,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Pfad:</source>
         <translation>Путь:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Выбрать проект</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

@@ -64,6 +64,10 @@
         <translation>Pošlji izbor upravitelju povezav</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Izberi</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Samodejno dodeljene vrstice</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Overi/zamenjaj uporabnika</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Prepiši že dodeljene ciljne projekte</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Potrjene dodelitve</translation>
     </message>
@@ -124,6 +132,10 @@ Res nadaljujem?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Ciljni projekt s potjo %1 je bil dodan.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Prikaži imena datotek namesto opisov</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Izbriši</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Ime</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Novo...</translation>
     </message>
@@ -360,6 +376,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Pfad:</source>
         <translation>Pot:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Izberi projekt</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

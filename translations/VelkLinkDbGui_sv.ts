@@ -64,6 +64,10 @@
         <translation>Skicka markeringen till länkhanteraren</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Välj</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Automatiskt tilldelade rader</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Autentisera/byt användare</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Skriv över målprojekt som redan är tilldelade</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bekräftade tilldelningar</translation>
     </message>
@@ -124,6 +132,10 @@ Vill du verkligen fortsätta?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Målprojektet med sökvägen %1 lades till.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Visa filnamn i stället för beskrivningar</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Ta bort</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Namn</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Ny...</translation>
     </message>
@@ -360,6 +376,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Pfad:</source>
         <translation>Sökväg:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Välj projekt</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

@@ -64,6 +64,10 @@
         <translation>Seçimi bağlantı yöneticisine gönder</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>Seç</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>Otomatik atanan satırlar</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>Kullanıcıyı doğrula/değiştir</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>Zaten atanmış hedef projelerin üzerine yaz</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Onaylanan atamalar</translation>
     </message>
@@ -124,6 +132,10 @@ Gerçekten devam edilsin mi?</translation>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>Yolu %1 olan hedef proje eklendi.</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>Açıklamalar yerine dosya adlarını göster</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Sil</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>Yeni...</translation>
     </message>
@@ -360,6 +376,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Pfad:</source>
         <translation>Yol:</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>Proje seç</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

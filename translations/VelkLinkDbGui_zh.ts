@@ -64,6 +64,10 @@
         <translation>将所选内容发送到链接管理器</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>选择</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>自动分配的行</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>验证/切换用户</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>覆盖已分配的目标项目</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>已确认的分配</translation>
     </message>
@@ -124,6 +132,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>路径为 %1 的目标项目已添加。</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>显示文件名而非描述</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>删除</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>新建...</translation>
     </message>
@@ -360,6 +376,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Pfad:</source>
         <translation>路径：</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>选择项目</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>

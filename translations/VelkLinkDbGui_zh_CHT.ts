@@ -64,6 +64,10 @@
         <translation>將所選內容傳送到連結管理員</translation>
     </message>
     <message>
+        <source>Auswählen</source>
+        <translation>選擇</translation>
+    </message>
+    <message>
         <source>Automatisch zugeordnete Zeilen</source>
         <translation>自動指派的列</translation>
     </message>
@@ -100,6 +104,10 @@
         <translation>驗證/切換使用者</translation>
     </message>
     <message>
+        <source>Bereits zugewiesene Zielprojekte überschreiben</source>
+        <translation>覆寫已指派的目標專案</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>已確認的指派</translation>
     </message>
@@ -124,6 +132,10 @@ Wirklich fortfahren?</source>
     <message>
         <source>Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.</source>
         <translation>路徑為 %1 的目標專案已新增。</translation>
+    </message>
+    <message>
+        <source>Dateinamen statt Beschreibungen anzeigen</source>
+        <translation>顯示檔名而非描述</translation>
     </message>
     <message>
         <source>Datensatz hinzufügen</source>
@@ -326,6 +338,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>刪除</translation>
     </message>
     <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
         <source>Neu...</source>
         <translation>新增...</translation>
     </message>
@@ -360,6 +376,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Pfad:</source>
         <translation>路徑：</translation>
+    </message>
+    <message>
+        <source>Projekt auswählen</source>
+        <translation>選擇專案</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>
