@@ -1,4 +1,4 @@
-#include "../workbench/SizeLimit.h"
+#include "../support/SizeLimit.h"
 
 #include <core/config/PIniFile.h>
 #include <core/files/DurableFile.h>

@@ -1,4 +1,4 @@
-#include "../ForeignLocale.h"
+#include "../support/ForeignLocale.h"
 
 #include <core/config/PConfigInst.h>
 #include <core/config/PConfigService.h>

@@ -1,4 +1,4 @@
-#include "../ForeignLocale.h"
+#include "../support/ForeignLocale.h"
 
 #include <core/config/PConfigService.h>
 #include <core/logging/StaticLogger.h>

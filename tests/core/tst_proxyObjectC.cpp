@@ -1,4 +1,4 @@
-#include "../geomcore/SlotOrder.h"
+#include "../support/SlotOrder.h"
 #include "SampleProxies.h"
 
 #include <core/component/mzComCreateObject.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>

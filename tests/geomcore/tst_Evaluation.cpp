@@ -1,5 +1,5 @@
+#include "../support/TestTables.h"
 #include "ExpressionTesting.h"
-#include "TestTables.h"
 
 #include <core/message/PScriptedMessageSink.h>
 

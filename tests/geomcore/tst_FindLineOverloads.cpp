@@ -1,5 +1,5 @@
+#include "../support/TestTables.h"
 #include "RecordSamples.h"
-#include "TestTables.h"
 
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>

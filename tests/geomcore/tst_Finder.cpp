@@ -1,4 +1,4 @@
-#include "TestTables.h"
+#include "../support/TestTables.h"
 
 #include <geomcore/table/BaseLayer.h>
 #include <geomcore/table/FilterByLineId.h>

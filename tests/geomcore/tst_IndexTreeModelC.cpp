@@ -1,5 +1,5 @@
+#include "../support/SlotOrder.h"
 #include "IndexTreeFolder.h"
-#include "SlotOrder.h"
 
 #include <geomcore/index/IndexTreeDisplayItemC.h>
 #include <geomcore/index/IndexTreeErpSourceI.h>

@@ -1,4 +1,4 @@
-#include "TestTables.h"
+#include "../support/TestTables.h"
 
 #include <geomcore/table/ErpLayer.h>
 #include <geomcore/table/LayerType.h>

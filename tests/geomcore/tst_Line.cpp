@@ -1,5 +1,5 @@
-#include "SlotOrder.h"
-#include "TestTables.h"
+#include "../support/SlotOrder.h"
+#include "../support/TestTables.h"
 
 #include <geomcore/table/BaseLayer.h>
 #include <geomcore/table/LayerType.h>

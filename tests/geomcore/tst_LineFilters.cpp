@@ -1,4 +1,4 @@
-#include "TestTables.h"
+#include "../support/TestTables.h"
 
 #include <core/message/PMessage.h>
 #include <geomcore/table/BaseLayer.h>

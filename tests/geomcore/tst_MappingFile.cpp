@@ -1,4 +1,4 @@
-#include "../workbench/SizeLimit.h"
+#include "../support/SizeLimit.h"
 #include "RecordSamples.h"
 
 #include <core/json/PJsonValue.h>

@@ -1,4 +1,4 @@
-#include "SlotOrder.h"
+#include "../support/SlotOrder.h"
 
 #include <core/config/PConfigInst.h>
 #include <geomcore/table/Line.h>

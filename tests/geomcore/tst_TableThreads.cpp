@@ -1,4 +1,4 @@
-#include "TestTables.h"
+#include "../support/TestTables.h"
 
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>

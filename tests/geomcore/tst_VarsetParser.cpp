@@ -1,5 +1,5 @@
+#include "../support/TestTables.h"
 #include "ExpressionTesting.h"
-#include "TestTables.h"
 
 #include <geomcore/binding/VarsetParserC.h>
 #include <geomcore/expression/StatementParser.h>

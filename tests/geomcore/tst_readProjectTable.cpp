@@ -1,4 +1,4 @@
-#include "TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <core/message/PMessage.h>
 #include <geomcore/table/readProjectTable.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../geomcore/TestTables.h"
+#include "../support/TestTables.h"
 
 #include <boost/make_shared.hpp>
 #include <geomcore/table/BaseLayer.h>

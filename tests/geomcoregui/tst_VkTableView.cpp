@@ -1,4 +1,4 @@
-#include "../geomcore/SlotOrder.h"
+#include "../support/SlotOrder.h"
 #include "ViewTables.h"
 
 #include <core/config/PConfigInst.h>

@@ -1,4 +1,4 @@
-#include "../ForeignLocale.h"
+#include "../support/ForeignLocale.h"
 
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <gui/progress/ProgressDisplay.h>

@@ -50,6 +50,19 @@ inline ReleaseMappingC sampleRelease()
     return release;
 }
 
+/// Counts paint events of a widget.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *watched) { watched->installEventFilter(this); }
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
 /// The editor in its window, on sampleRelease unless another one is given.
 struct Editor
 {

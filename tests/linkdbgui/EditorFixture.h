@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../geomcore/TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <mapping/data/ApplicationHandlerI.h>
 #include <mapping/data/ReleaseMappingHandler.h>

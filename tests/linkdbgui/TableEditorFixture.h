@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../geomcore/TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <mapping/table/TableMappingWidget.h>
 

@@ -1,5 +1,6 @@
 // What the tree's menu reaches, and what the editor hands on to its parts.
 #include "CatalogEditor.h"
+#include "SingleNode.h"
 
 #include <mapping/project/TableLineSelectionDialog.h>
 
@@ -17,55 +18,6 @@ namespace {
 const QString a = QStringLiteral("old/dir/a.prj");
 const QString b = QStringLiteral("old/dir/b.prj");
 const QString verifyAll = QStringLiteral("Alle Zuordnungen bestätigen");
-
-/// A node that counts how often its state is dropped.
-class CountingNode : public CatalogStructureNodeI
-{
-public:
-    CountingNode(int type, const PrjMappingC &mapping)
-        : m_type(type)
-        , m_mapping(mapping)
-    {
-    }
-    int getNodeType() const override { return m_type; }
-    QString getName() const override { return QStringLiteral("node.prj"); }
-    QString getPath() const override { return {}; }
-    PRJMAPPING::MappingState getMappingState() const override { return {}; }
-    PrjMappingC getMapping() const override { return m_mapping; }
-    bool hasConflicts() const override { return false; }
-    QList<boost::shared_ptr<CatalogStructureNodeI>> getChildren() const override
-    {
-        return children;
-    }
-    void invalidateState() override { ++invalidated; }
-
-    QList<boost::shared_ptr<CatalogStructureNodeI>> children;
-    int invalidated = 0;
-
-private:
-    int m_type;
-    PrjMappingC m_mapping;
-};
-
-/// A handler with as little as is allowed.
-class SmallHandler : public CatalogMappingHandlerI
-{
-public:
-    explicit SmallHandler(const boost::shared_ptr<CatalogStructureNodeI> &root)
-        : m_root(root)
-    {
-    }
-    boost::shared_ptr<CatalogStructureNodeI> getRootStructureNode() const override
-    {
-        return m_root;
-    }
-    CatalogMappingC getCatalogMapping() const override { return {}; }
-    void updateMapping(const PrjMappingC & /*mapping*/) override {}
-    bool commitModifications() override { return true; }
-
-private:
-    boost::shared_ptr<CatalogStructureNodeI> m_root;
-};
 
 /// Calls a function while a message is open.
 class CallingSink : public PMessageSink
@@ -99,6 +51,7 @@ class tst_CatalogTreeMenu : public QObject
 private Q_SLOTS:
     void anotherProjectStaysOutOfTheColumns();
     void statesOfAllNodesAreDropped();
+    void statesAreRepainted();
     void widgetGoesWhileTheMenuIsOpen();
     void directoriesWithoutTheKey();
     void handlerWithoutRoot();
@@ -123,12 +76,13 @@ void tst_CatalogTreeMenu::anotherProjectStaysOutOfTheColumns()
 
 void tst_CatalogTreeMenu::statesOfAllNodesAreDropped()
 {
-    const auto root = boost::make_shared<CountingNode>(0, PrjMappingC());
-    const auto folder = boost::make_shared<CountingNode>(3, PrjMappingC());
-    const auto project = boost::make_shared<CountingNode>(2, mappingOf("p.prj", {"t.prj"}));
+    const auto root = boost::make_shared<SingleNode>(0, QString(), PrjMappingC());
+    const auto folder = boost::make_shared<SingleNode>(3, QString(), PrjMappingC());
+    const auto project =
+        boost::make_shared<SingleNode>(2, QString(), mappingOf("p.prj", {"t.prj"}));
     folder->children.append(project);
     root->children.append(folder);
-    CatalogMappingWidget widget(QString(), new SmallHandler(root), nullptr, nullptr);
+    CatalogMappingWidget widget(QString(), new SingleHandler(root), nullptr, nullptr);
     auto *const tree = widget.findChild<QTreeView *>("treeView");
     widget.show();
     QVERIFY(QTest::qWaitForWindowExposed(&widget));
@@ -138,6 +92,20 @@ void tst_CatalogTreeMenu::statesOfAllNodesAreDropped()
         Q_ARG(QPoint, tree->visualRect(tree->model()->index(0, 0)).center())));
     QCOMPARE(project->invalidated, 1);
     QCOMPARE(folder->invalidated, 2); // with all below it, and on the way up
+}
+
+void tst_CatalogTreeMenu::statesAreRepainted()
+{
+    const Editor editor;
+    editor.show();
+    PaintCounter tree(editor.tree->viewport());
+    // The menu that goes has the tree painted too.
+    editor.handler->onUpdate = [&tree] {
+        QTest::qWait(20);
+        tree.count = 0;
+    };
+    QCOMPARE(editor.contextMenu(b, true), verifyAll);
+    QTRY_VERIFY(tree.count > 0);
 }
 
 void tst_CatalogTreeMenu::widgetGoesWhileTheMenuIsOpen()
@@ -173,7 +141,7 @@ void tst_CatalogTreeMenu::directoriesWithoutTheKey()
 
 void tst_CatalogTreeMenu::handlerWithoutRoot()
 {
-    CatalogMappingWidget widget(QString(), new SmallHandler(nullptr), nullptr, nullptr);
+    CatalogMappingWidget widget(QString(), new SingleHandler(nullptr), nullptr, nullptr);
     widget.show();
     QVERIFY(QTest::qWaitForWindowExposed(&widget));
     widget.hideTree();

@@ -1,5 +1,5 @@
 #include "../geomcore/ExpressionTesting.h"
-#include "../geomcore/TestTables.h"
+#include "../support/TestTables.h"
 
 #include <formula/DlgFormulaEditor.h>
 #include <formula/DlgFormulaEditorPrivate.h>

@@ -1,4 +1,4 @@
-#include "../geomcore/SlotOrder.h"
+#include "../support/SlotOrder.h"
 
 #include <mapping/data/ApplicationHandlerI.h>
 #include <mapping/data/CatalogMappingHandlerI.h>

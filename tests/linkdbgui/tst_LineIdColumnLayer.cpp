@@ -1,6 +1,6 @@
 #include <mapping/table/LineIdColumnLayer.h>
 
-#include "../geomcore/TestTables.h"
+#include "../support/TestTables.h"
 
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>

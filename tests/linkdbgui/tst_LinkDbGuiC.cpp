@@ -18,6 +18,7 @@
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTranslator>
 
 #include <algorithm>
 
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void disabledActions();
     void checkableActions();
     void statusTipsAreToolTips();
+    void tipsAreTranslatedBeforeTexts();
     void translatedActions();
     void keepsIconOfThePool();
     void icons();
@@ -80,6 +82,26 @@ QStringList namesOf(const PApplicationPool &pool, const Holds &holds)
     }
     return names;
 }
+
+/// Notes what is to be translated for the plug-in.
+class NotingTranslator : public QTranslator
+{
+public:
+    NotingTranslator() { QCoreApplication::installTranslator(this); }
+    ~NotingTranslator() override { QCoreApplication::removeTranslator(this); }
+    Q_DISABLE_COPY_MOVE(NotingTranslator)
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char *context, const char *text, const char *,
+                                    int) const override
+    {
+        if (qstrcmp(context, "VelkLinkDbGui") == 0)
+            texts += QString::fromUtf8(text);
+        return {};
+    }
+
+    mutable QStringList texts;
+};
 
 } // namespace
 
@@ -316,6 +338,21 @@ void tst_LinkDbGuiC::statusTipsAreToolTips()
                                 !action.statusTip().isEmpty();
                      }),
              actionNames);
+}
+
+void tst_LinkDbGuiC::tipsAreTranslatedBeforeTexts()
+{
+    PApplicationPool pool;
+    QStringList asked;
+    {
+        const NotingTranslator translator;
+        LinkDbGuiC().registerActions(pool);
+        asked = translator.texts;
+    }
+    QStringList expected;
+    for (const QAction *action : pool.actions())
+        expected << action->toolTip() << action->text();
+    QCOMPARE(asked, expected);
 }
 
 void tst_LinkDbGuiC::translatedActions()

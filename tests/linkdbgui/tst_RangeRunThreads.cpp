@@ -1,4 +1,4 @@
-#include "../geomcore/TestCatalog.h"
+#include "../support/TestCatalog.h"
 #include "EditorFixture.h"
 
 #include <mapping/table/VarsetMappingRunnable.h>

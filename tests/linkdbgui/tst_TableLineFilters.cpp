@@ -1,4 +1,4 @@
-#include "../geomcore/TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <mapping/table/TableLineFilters.h>
 

@@ -1,4 +1,4 @@
-#include "../geomcore/TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <mapping/project/ignoreMarker.h>
 #include <mapping/project/TargetItemRole.h>

@@ -1,6 +1,6 @@
 #include <mapping/project/readProjectVersions.h>
 
-#include "../geomcore/TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
 #include <mapping/project/remapProjectLines.h>
 
-#include "../geomcore/TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <core/progress/PProgressObserverBase.h>
 #include <geomcore/table/FileLayer.h>

@@ -2,6 +2,8 @@
 
 #include <geomcore/table/TableData.h>
 
+#include <QTest>
+
 std::shared_ptr<const VKTab::TableData> tableOf(const QByteArray &text, const QStringList &key)
 {
     VKTab::TableDescriptor descriptor;
@@ -9,7 +11,7 @@ std::shared_ptr<const VKTab::TableData> tableOf(const QByteArray &text, const QS
     const QByteArray csv = QByteArray(text).replace(';', '\n') + '\n';
     const auto result = VKTab::TableData::fromMemory(descriptor, csv);
     if (!result)
-        qFatal("%s", qPrintable(result.errors.first().toString()));
+        QTest::qFail(qPrintable(result.errors.first().toString()), __FILE__, __LINE__);
     return result.data;
 }
 

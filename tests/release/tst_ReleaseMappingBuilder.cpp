@@ -1,4 +1,4 @@
-#include "TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <core/progress/PProgress.h>
 #include <core/progress/PProgressObserverBase.h>

@@ -1,4 +1,4 @@
-#include "../release/TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <core/files/EditLock.h>
 #include <geomcore/index/IndexTreeC.h>

@@ -1,4 +1,4 @@
-#include "../release/TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <geomcore/records/MappingFile.h>
 #include <tools/velkmap/CreateCommand.h>

@@ -1,4 +1,4 @@
-#include "../workbench/SizeLimit.h"
+#include "../support/SizeLimit.h"
 
 #include <geomcore/records/MappingFile.h>
 #include <tools/velkmap/Commands.h>

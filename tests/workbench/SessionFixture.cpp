@@ -5,6 +5,7 @@
 #include <geomcore/records/MappingFile.h>
 
 #include <QFile>
+#include <QTest>
 
 SessionFixture::SessionFixture()
 {
@@ -24,11 +25,9 @@ QString SessionFixture::write(const ReleaseMappingC &release) const
 void SessionFixture::addRelease(const QString &file, const ReleaseMappingC &release) const
 {
     MappingFile mappings;
-    if (QFile::exists(file) && !mappings.read(file))
-        qFatal("unreadable mapping file");
+    QVERIFY(!QFile::exists(file) || mappings.read(file));
     mappings.setRelease(release);
-    if (!mappings.write(file))
-        qFatal("mapping file not written");
+    QVERIFY(mappings.write(file));
 }
 
 QByteArray SessionFixture::content(const QString &file)
@@ -40,8 +39,7 @@ QByteArray SessionFixture::content(const QString &file)
 void SessionFixture::setContent(const QString &file, const QByteArray &bytes)
 {
     QFile out(file);
-    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
-        qFatal("file not written");
+    QVERIFY(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
 }
 
 ReleaseMappingC SessionFixture::sampleRelease(const QString &sourceDate)

@@ -7,13 +7,13 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTest>
 
 void TableFixture::write(const QString &folder, const QString &path,
                          const QList<QPair<int, QString>> &lines)
 {
     const QFileInfo project(folder + u'/' + path);
-    if (!QDir().mkpath(project.absolutePath()))
-        qFatal("no folder");
+    QVERIFY(QDir().mkpath(project.absolutePath()));
     const QString base = project.absolutePath() + u'/' + project.completeBaseName();
     const QByteArray name = project.completeBaseName().toUtf8();
     SessionFixture::setContent(project.absoluteFilePath(), "[PROJECT]\nNAME = " + name +
@@ -35,6 +35,6 @@ VKTab::ContentRef TableFixture::read(const QString &folder, const QString &path)
     VKTab::ContentRef table{VKTab::Content()};
     if (project->read(folder + u'/' + path, PrjClass::ReadAll) != 1 ||
         VKTab::Reader().readByProject(project, table, true) != 1)
-        qFatal("table not read");
+        QTest::qFail("table not read", __FILE__, __LINE__);
     return table;
 }

@@ -1,6 +1,6 @@
+#include "../support/SizeLimit.h"
 #include "AsNobody.h"
 #include "SessionFixture.h"
-#include "SizeLimit.h"
 
 #include <workbench/session/GuardedSave.h>
 #include <workbench/session/MappingDocument.h>

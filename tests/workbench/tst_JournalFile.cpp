@@ -1,5 +1,5 @@
+#include "../support/SizeLimit.h"
 #include "SessionFixture.h"
-#include "SizeLimit.h"
 
 #include <workbench/session/JournalFile.h>
 #include <workbench/session/JournalReader.h>

@@ -1,11 +1,8 @@
+#include "RecoveryVictim.h"
 #include "SessionFixture.h"
 
-#include <workbench/session/JournalReader.h>
-#include <workbench/session/JournalText.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/session/SessionRecovery.h>
 
-#include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/records/MappingFile.h>
 
 #include <QDir>
@@ -14,10 +11,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <algorithm>
-#include <cstdio>
 #include <memory>
-#include <unistd.h>
 
 namespace {
 
@@ -26,102 +20,6 @@ const QString Date = QStringLiteral("2022-01-01");
 ProjectId id(const char *path)
 {
     return {QString::fromLatin1(path), SessionFixture::Version, QStringLiteral("t1")};
-}
-
-/// What the program does that is killed then.
-class Victim
-{
-public:
-    explicit Victim(const QString &file)
-        : m_file(file)
-    {
-        m_document.open({file, {}, {}, {}, {}});
-    }
-
-    bool run(const QString &deed)
-    {
-        if (deed == u"confirm")
-            confirm({1, 2, 3});
-        else if (deed == u"more")
-            confirm({5});
-        else if (deed == u"undo")
-            m_document.undo();
-        else if (deed == u"redo")
-            m_document.redo();
-        else if (deed == u"autosave")
-            m_document.autosave();
-        else if (deed == u"save")
-            return m_document.save().result == SaveResult::Saved;
-        else if (deed == u"close")
-            m_document.close();
-        else if (deed == u"targets")
-            changeTargets();
-        else if (deed == u"replace")
-            replace();
-        else if (deed == u"new")
-            m_document.openNew(SessionFixture::sampleRelease(QStringLiteral("2024-01-01")), m_file);
-        else if (deed == u"turn")
-            changeWithoutEnd();
-        else
-            return false;
-        return true;
-    }
-
-private:
-    void confirm(const QList<int> &lines)
-    {
-        m_document.updateMapping(
-            SessionFixture::withState(m_document.mapping(id("cat/a.prj")), lines, 2));
-        QCoreApplication::processEvents();
-    }
-
-    void changeTargets()
-    {
-        PrjMappingC mapping = m_document.mapping(id("cat/screws/b.prj"));
-        PrjMappingTargetC target;
-        target.setTargetPath(QStringLiteral("new/ü.prj"));
-        target.setValid(true);
-        target.addCondition(VarsetConditionC::fromText(QStringLiteral("A.EQ.'x'")));
-        target.addLineId(4, 7, PRJMAPPING::Verified, QStringLiteral("{L=1} -> 2"));
-        mapping.insertTarget(0, target);
-        m_document.updateMapping(mapping);
-        QCoreApplication::processEvents();
-    }
-
-    void replace()
-    {
-        ReleaseMappingC release = m_document.release();
-        release.clearMappings();
-        release.setTargetDate(QStringLiteral("2027-01-01"));
-        release.addMapping(SessionFixture::plainMapping(QStringLiteral("cat/x.prj"), 7, 1));
-        m_document.replaceRelease(release, QStringLiteral("Neu"));
-    }
-
-    /// A long action in one turn of the event loop, which does not come round.
-    void changeWithoutEnd()
-    {
-        for (int round = 0; round < 60; ++round) {
-            for (int line = 1; line <= 10; ++line)
-                m_document.updateMapping(SessionFixture::withState(
-                    m_document.mapping(id("cat/a.prj")), {line}, round % 2 == 0 ? 2 : 1));
-        }
-    }
-
-    const QString m_file;
-    MappingDocument m_document;
-};
-
-int runVictim(const QStringList &arguments)
-{
-    Victim victim(arguments.value(2));
-    for (const QString &deed : arguments.mid(3)) {
-        if (!victim.run(deed))
-            return 1;
-    }
-    std::puts("ready");
-    std::fflush(stdout);
-    while (true)
-        ::pause();
 }
 
 } // namespace
@@ -144,12 +42,6 @@ private Q_SLOTS:
     void noOfferWhileTheOtherLives();
     void aTurnThatDidNotEnd();
     void recoveringTwice();
-    void damagedJournals_data();
-    void damagedJournals();
-    void damageAnywhere_data();
-    void damageAnywhere();
-    void autosaveBehindTheDamage();
-    void autosaveWithoutJournal();
     void anOldAutosaveIsNoOffer();
     void killedWhileSaving_data();
     void killedWhileSaving();
@@ -159,11 +51,6 @@ private Q_SLOTS:
     void newReleaseInAKnownFile_data();
     void newReleaseInAKnownFile();
     void readOnlyDoesNotAsk();
-    void aDamagedOpeningHidesNothing_data();
-    void aDamagedOpeningHidesNothing();
-    void damageBehindTheLastSession();
-    void laterChangesAreOfferedApart();
-    void anUnreadableJournalIsTold();
     void theSavedVersionMayBeNewer();
     void otherReleasesComeFromTheBackup();
 
@@ -402,120 +289,6 @@ void tst_SessionRecovery::recoveringTwice()
     }
 }
 
-void tst_SessionRecovery::damagedJournals_data()
-{
-    QTest::addColumn<QByteArray>("pattern"); ///< of the rows from which on damage is done
-    QTest::addColumn<bool>("cut");
-    QTest::addColumn<int>("verified");
-    QTest::addColumn<QString>("damage");
-    QTest::newRow("last row cut") << QByteArray("\"step\":2,\"origin\"") << true << 4
-                                  << QStringLiteral("Die letzte Änderung kann fehlen.");
-    QTest::newRow("second change cut") << QByteArray("\"change\",\"step\":2") << true << 3
-                                       << QStringLiteral("Die letzte Änderung kann fehlen.");
-    QTest::newRow("second change wrong") << QByteArray("\"change\",\"step\":2") << false << 3
-                                         << QStringLiteral("Die letzte Änderung kann fehlen.");
-    QTest::newRow("first change wrong") << QByteArray("\"change\",\"step\":1") << false << 1
-                                        << QStringLiteral("passen noch 1 Änderungen");
-}
-
-void tst_SessionRecovery::damagedJournals()
-{
-    QFETCH(QByteArray, pattern);
-    QFETCH(bool, cut);
-    QFETCH(int, verified);
-    QFETCH(QString, damage);
-    kill({QStringLiteral("confirm"), QStringLiteral("more")});
-    const QString journal = m_file + QStringLiteral(".journal");
-    QByteArray bytes = SessionFixture::content(journal);
-    const qsizetype at = bytes.indexOf(pattern);
-    QVERIFY(at > 0);
-    if (cut)
-        bytes.truncate(at + 5);
-    else
-        bytes[at + 1] = char(bytes[at + 1] ^ 1);
-    SessionFixture::setContent(journal, bytes);
-    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
-    QCOMPARE(m_document->recoveryOffer().recovered.counts.verified(), verified);
-    QVERIFY2(m_document->recoveryOffer().damage.contains(damage),
-             qPrintable(m_document->recoveryOffer().damage));
-    QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
-    QCOMPARE(m_document->counts().verified(), verified);
-    QCOMPARE(names(QStringLiteral("release.json.journal.alt-*")).size(), 1);
-}
-
-void tst_SessionRecovery::damageAnywhere_data()
-{
-    QTest::addColumn<bool>("cut");
-    QTest::newRow("cut off") << true;
-    QTest::newRow("one bit") << false;
-}
-
-/// Wherever a journal is damaged, what is recovered is a state that once was: the last one before
-/// the damage.
-void tst_SessionRecovery::damageAnywhere()
-{
-    QFETCH(bool, cut);
-    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
-    const QString journal = m_document->journalFile();
-    QList<QByteArray> states{SessionFixture::bytes(m_document->release())};
-    QList<qsizetype> ends{SessionFixture::content(journal).size()};
-    for (int line = 1; line <= 6; ++line) {
-        PrjMappingC mapping = SessionFixture::withState(
-            m_document->mapping(id(line % 2 == 0 ? "cat/a.prj" : "cat/screws/b.prj")), {line}, 2);
-        if (line == 4)
-            mapping.addTarget(QStringLiteral("new/u.prj"), QString());
-        m_document->updateMapping(mapping);
-        m_document->finishStep();
-        states += SessionFixture::bytes(m_document->release());
-        ends += SessionFixture::content(journal).size();
-    }
-    const QByteArray whole = SessionFixture::content(journal);
-    const SessionFixture elsewhere;
-    const QString file = elsewhere.write();
-    for (qsizetype at = ends.first(); at < whole.size(); at += 7) {
-        QByteArray damaged = cut ? whole.left(at) : whole;
-        if (!cut)
-            damaged[at] = char(damaged[at] ^ 4);
-        SessionFixture::setContent(file + QStringLiteral(".journal"), damaged);
-        const SessionRecovery recovery(file);
-        // The change stands before the row that ends its step, so it may be one further.
-        const auto step = std::upper_bound(ends.begin(), ends.end(), at) - ends.begin() - 1;
-        const QByteArray found = recovery.offer().isValid()
-                                     ? SessionFixture::bytes(recovery.recoveredRelease())
-                                     : states.first();
-        // With nothing before it, what is behind it and fits.
-        const bool later = recovery.offer().laterChanges > 0 && !recovery.offer().further.available;
-        QVERIFY2(found == states[step] || found == states[step + 1] ||
-                     (later && step == 0 && recovery.offer().recovered.counts.verified() > 0),
-                 qPrintable(QStringLiteral("damaged at %1").arg(at)));
-        if (recovery.offer().isValid() && !cut)
-            QVERIFY(!recovery.offer().damage.isEmpty());
-    }
-}
-
-void tst_SessionRecovery::autosaveBehindTheDamage()
-{
-    kill({QStringLiteral("confirm"), QStringLiteral("autosave"), QStringLiteral("more")});
-    const QString journal = m_file + QStringLiteral(".journal");
-    QByteArray bytes = SessionFixture::content(journal);
-    bytes.replace("\"change\",\"step\":1", "\"chance\",\"step\":1");
-    SessionFixture::setContent(journal, bytes);
-    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
-    QCOMPARE(m_document->recoveryOffer().recovered.counts.verified(), 4);
-    QCOMPARE(m_document->recoveryOffer().damage, QString());
-}
-
-void tst_SessionRecovery::autosaveWithoutJournal()
-{
-    kill({QStringLiteral("confirm"), QStringLiteral("autosave"), QStringLiteral("more")});
-    SessionFixture::setContent(m_file + QStringLiteral(".journal"), QByteArray(3000, '\xf0'));
-    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
-    QCOMPARE(m_document->recoveryOffer().recovered.counts.verified(), 3);
-    QVERIFY(m_document->recoveryOffer().recovered.time.isValid());
-    QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
-    QCOMPARE(m_document->counts().verified(), 3);
-}
-
 void tst_SessionRecovery::anOldAutosaveIsNoOffer()
 {
     // Left by a session of which nothing else is there, and saved over since.
@@ -661,111 +434,6 @@ void tst_SessionRecovery::readOnlyDoesNotAsk()
     QCOMPARE(m_document->open({m_file, {}, {}, MappingDocument::Access::ReadOnly, {}}),
              MappingDocument::OpenResult::OpenedReadOnly);
     QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
-}
-
-void tst_SessionRecovery::aDamagedOpeningHidesNothing_data()
-{
-    QTest::addColumn<QString>("how");
-    for (const char *how : {"one bit", "cut", "merged", "gone", "zeros"})
-        QTest::newRow(how) << QString::fromLatin1(how);
-}
-
-/// The row that opens the last session cannot be read; the one before was closed.
-void tst_SessionRecovery::aDamagedOpeningHidesNothing()
-{
-    QFETCH(QString, how);
-    m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2020-01-01")));
-    QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
-    m_document->close();
-    const QString journal = m_file + QStringLiteral(".journal");
-    const QByteArray before = SessionFixture::content(journal);
-    QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
-    m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(id("cat/a.prj")), {1, 2}, 2));
-    m_document->finishStep();
-    QByteArray now = SessionFixture::content(journal);
-    m_document->close();
-    const qsizetype end = now.indexOf('\n', before.size()) + 1;
-    if (how == u"one bit")
-        now[before.size() + 30] = char(now[before.size() + 30] ^ 1);
-    else if (how == u"cut")
-        now.remove(before.size() + 20, 40);
-    else if (how == u"merged")
-        now.insert(before.size(), now.mid(before.size(), 20));
-    else if (how == u"gone")
-        now.remove(before.size(), end - before.size());
-    else
-        now.replace(before.size(), 16, QByteArray(16, '\0'));
-    SessionFixture::setContent(journal, now);
-
-    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
-    const RecoveryOffer &offer = m_document->recoveryOffer();
-    QCOMPARE(offer.sourceDate, Date);
-    QCOMPARE(offer.recovered.counts.verified(), 2);
-    QCOMPARE(offer.damage.isEmpty(), how == u"gone");
-    QCOMPARE(open(MappingDocument::Recovery::UseRecovered), MappingDocument::OpenResult::Opened);
-    QCOMPARE(m_document->counts().verified(), 2);
-    QCOMPARE(m_document->release().getSourceDate(), Date);
-}
-
-void tst_SessionRecovery::damageBehindTheLastSession()
-{
-    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
-    const QString journal = m_document->journalFile();
-    m_document->close();
-    SessionFixture::setContent(journal, SessionFixture::content(journal) + "half a row");
-    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
-    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
-    QCOMPARE(problems.size(), 1);
-    QVERIFY2(problems.first().first().toString().contains(
-                 QStringLiteral("Hinter der letzten abgeschlossenen Sitzung")),
-             qPrintable(problems.first().first().toString()));
-    QCOMPARE(names(QStringLiteral("release.json.journal.alt-*")).size(), 1);
-}
-
-void tst_SessionRecovery::laterChangesAreOfferedApart()
-{
-    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
-    for (int line = 1; line <= 10; ++line) {
-        for (const char *path : {"cat/a.prj", "cat/screws/b.prj"}) {
-            m_document->updateMapping(
-                SessionFixture::withState(m_document->mapping(id(path)), {line}, 2));
-            m_document->finishStep();
-        }
-    }
-    const QString journal = m_document->journalFile();
-    QByteArray bytes = SessionFixture::content(journal);
-    m_document->close();
-    const qsizetype second = bytes.indexOf("\"change\",\"step\":2");
-    bytes[second + 2] = char(bytes[second + 2] ^ 1);
-    SessionFixture::setContent(journal, bytes);
-
-    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
-    const RecoveryOffer &offer = m_document->recoveryOffer();
-    QCOMPARE(offer.recovered.counts.verified(), 1);
-    QVERIFY(offer.further.available);
-    QCOMPARE(offer.further.counts.verified(), 19);
-    QCOMPARE(offer.laterChanges, 18);
-    QCOMPARE(offer.lostChanges, 0);
-    QVERIFY2(offer.damage.contains(QStringLiteral("passen noch 18 Änderungen")),
-             qPrintable(offer.damage));
-    QCOMPARE(open(MappingDocument::Recovery::UseFurther), MappingDocument::OpenResult::Opened);
-    QCOMPARE(m_document->counts().verified(), 19);
-    m_document->undo();
-    QCOMPARE(m_document->counts().verified(), 0);
-}
-
-void tst_SessionRecovery::anUnreadableJournalIsTold()
-{
-    QVERIFY(QDir().mkpath(m_file + QStringLiteral(".journal")));
-    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
-    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
-    QVERIFY(problems.size() >= 1);
-    QStringList texts;
-    for (const QList<QVariant> &problem : problems)
-        texts += problem.first().toString();
-    QVERIFY2(texts.join(u' ').contains(QStringLiteral("gewöhnliche Datei")),
-             qPrintable(texts.join(u' ')));
 }
 
 /// The journal could not be written any more, saving went well, then the program was killed.

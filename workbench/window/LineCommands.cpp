@@ -4,13 +4,13 @@
 #include "LineStateFilter.h"
 #include "Question.h"
 
-#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/createVarsetFromVKTable.h>
+#include <geomcore/binding/VarsetParserC.h>
+#include <geomcore/expression/StatementParser.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <QInputDialog>
-
-#include <memory>
 
 LineCommands::LineCommands(MappingDocument *document, EditorArea *editor, QWidget *window)
     : QObject(window)
@@ -38,12 +38,15 @@ void LineCommands::setKinds(OpenLines::Kinds kinds)
 
 void LineCommands::tellCondition(const QString &condition)
 {
-    const std::unique_ptr<VarsetConditionC> parsed(VarsetConditionC::fromText(condition));
-    Q_EMIT noted(parsed->error().isEmpty()
+    const VKTab::LineId line(m_editor->currentLine());
+    VarsetParserC parser(createVarsetFromVKTable(m_editor->sourceTable(), line, {}), {});
+    const VKTab::ParsedStatement parsed = parser.parse(condition, QString(), true);
+    const QString error = parsed.node ? QString() : parsed.error;
+    Q_EMIT noted(error.isEmpty()
                      ? tr("Bedingung in die Zwischenablage kopiert")
                      : tr("Die kopierte Bedingung ist so noch nicht zu gebrauchen, ein Wert fehlt, "
                           "ist ein Bereich oder enthält ein Anführungszeichen: %1")
-                           .arg(parsed->error()));
+                           .arg(error));
 }
 
 void LineCommands::goNext()

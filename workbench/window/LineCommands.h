@@ -33,7 +33,8 @@ public:
     bool jumpTo(const QString &text);
     /// goNext() and goPrevious() go through lines of these kinds; none: through what is open.
     void setKinds(OpenLines::Kinds kinds);
-    /// Says of a condition that was put on the clipboard whether it can be used as it is.
+    /// Says of a condition on the selected line that was put on the clipboard whether it can be
+    /// used as it is.
     void tellCondition(const QString &condition);
     /// On the selected lines if there are several, else on all that the table shows, all filters
     /// applied; asks with the number of lines first.

@@ -37,6 +37,11 @@ const QByteArray &exampleMapping()
     return bytes;
 }
 
+void fail(const QString &what)
+{
+    QTest::qFail(qPrintable(what), __FILE__, __LINE__);
+}
+
 } // namespace
 
 WindowFixture::WindowFixture()
@@ -54,7 +59,7 @@ WindowFixture::WindowFixture()
     PTranslateManager::registerLibraries();
     PTranslateManager::instance().setLanguage("de");
     if (!plugin->load(QStringLiteral(VELK_BINARY_DIR "/lib/libVelkLinkDbGui.so")))
-        qFatal("%s", qUtf8Printable(plugin->error()));
+        fail(plugin->error());
     makeWindow();
 }
 
@@ -70,7 +75,7 @@ QString WindowFixture::mappingFile(const QString &name) const
 {
     QFile file(directory.filePath(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(exampleMapping()) < 0)
-        qFatal("cannot write %s", qUtf8Printable(file.fileName()));
+        fail("cannot write " + file.fileName());
     return file.fileName();
 }
 
@@ -78,9 +83,14 @@ void WindowFixture::makeWindow()
 {
     window = std::make_unique<MainWindow>(settings.get(), plugin->plugin());
     window->show();
+    activate();
+}
+
+void WindowFixture::activate() const
+{
     window->activateWindow();
     if (!QTest::qWaitForWindowActive(window.get()))
-        qFatal("the window does not become active");
+        fail("the window does not become active");
 }
 
 void WindowFixture::closeWindow()
@@ -97,11 +107,8 @@ void WindowFixture::open(const QString &file)
 void WindowFixture::press(int key, Qt::KeyboardModifiers modifiers)
 {
     // Without a window manager nobody activates it after a dialog.
-    if (!window->isActiveWindow()) {
-        window->activateWindow();
-        if (!QTest::qWaitForWindowActive(window.get()))
-            qFatal("the window does not become active");
-    }
+    if (!window->isActiveWindow())
+        activate();
     QWidget *const focus = QApplication::focusWidget();
     QTest::keyClick(focus ? focus : window.get(), Qt::Key(key), modifiers);
     QApplication::processEvents();
@@ -109,13 +116,48 @@ void WindowFixture::press(int key, Qt::KeyboardModifiers modifiers)
 
 QAction *WindowFixture::action(const char *name) const
 {
-    auto *found = window->findChild<QAction *>(QLatin1String(name));
-    if (!found)
-        qFatal("there is no action %s", name);
-    return found;
+    if (auto *const found = window->findChild<QAction *>(QLatin1String(name)))
+        return found;
+    fail(QStringLiteral("there is no action ") + QLatin1String(name));
+    return window->findChild<QAction *>();
 }
 
 VkTableView *WindowFixture::sourceView() const
 {
     return window->editor()->findChild<VkTableView *>("sourceView");
+}
+
+int WindowFixture::confirmedLines() const
+{
+    return window->desk()->document()->counts().verified();
+}
+
+namespace {
+
+QtMessageHandler formerHandler = nullptr;
+
+void noteWarning(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (type == QtWarningMsg && text.contains(QStringLiteral("connect")))
+        ConnectionWarnings::list() += text;
+    formerHandler(type, context, text);
+}
+
+} // namespace
+
+ConnectionWarnings::ConnectionWarnings()
+{
+    list().clear();
+    formerHandler = qInstallMessageHandler(noteWarning);
+}
+
+ConnectionWarnings::~ConnectionWarnings()
+{
+    qInstallMessageHandler(formerHandler);
+}
+
+QStringList &ConnectionWarnings::list()
+{
+    static QStringList texts;
+    return texts;
 }

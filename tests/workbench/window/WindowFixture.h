@@ -3,6 +3,7 @@
 #include <workbench/session/SessionTypes.h>
 
 #include <QPointer>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -33,10 +34,26 @@ public:
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     [[nodiscard]] QAction *action(const char *name) const;
     [[nodiscard]] VkTableView *sourceView() const;
+    /// Of the release.
+    [[nodiscard]] int confirmedLines() const;
 
     QTemporaryDir directory;
     std::unique_ptr<PApplication> application;
     std::unique_ptr<PluginLibrary> plugin;
     std::unique_ptr<WorkbenchSettings> settings;
     std::unique_ptr<MainWindow> window;
+
+private:
+    void activate() const;
+};
+
+/// Collects what Qt says of connections that cannot be made, as long as it lives.
+class ConnectionWarnings
+{
+public:
+    ConnectionWarnings();
+    ~ConnectionWarnings();
+    Q_DISABLE_COPY_MOVE(ConnectionWarnings)
+
+    [[nodiscard]] static QStringList &list();
 };

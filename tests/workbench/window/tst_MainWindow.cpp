@@ -2,13 +2,10 @@
 #include "WindowFixture.h"
 
 #include <core/message/PMessage.h>
-#include <geomcoregui/table/VkTableModel.h>
-#include <geomcoregui/table/VkTableView.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
-#include <workbench/window/LineCommands.h>
 #include <workbench/window/LogWindow.h>
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/StatusArea.h>
@@ -18,9 +15,9 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDesktopServices>
-#include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QScreen>
 #include <QSpinBox>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -28,61 +25,24 @@
 #include <QTreeView>
 #include <QUrl>
 
+#include <optional>
+
 namespace {
 
 const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
 
-QStringList warnings;
-QtMessageHandler formerHandler = nullptr;
-
-void noteWarnings(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    if (type == QtWarningMsg && text.contains("connect"))
-        warnings << text;
-    formerHandler(type, context, text);
-}
-
-int countState(const MappingDocument &document)
-{
-    return document.counts().verified();
-}
-
-/// The numbers under the tree.
-QString statistics(const WindowFixture &fixture)
-{
-    return fixture.window->editor()->findChild<QLabel *>("statisticsLabel")->text();
-}
-
 } // namespace
-
-/// Filters a column of the source table by what its first row shows. Name and rows that are left.
-std::pair<QString, int> filterByFirstValue(const WindowFixture &fixture)
-{
-    VkTableModel *const model = fixture.sourceView()->model();
-    const int all = model->rowCount();
-    for (int column = model->statusColumnCount(); column < model->columnCount(); ++column) {
-        const VKTab::Var variable = model->variable(column);
-        const QString text = model->index(0, column).data().toString();
-        if (!variable.isValid() || text.isEmpty())
-            continue;
-        model->setQuickFilter(variable.getVarId(), '=' + text);
-        if (model->rowCount() > 1 && model->rowCount() < all)
-            return {variable.getName(), model->rowCount()};
-        model->setQuickFilter(variable.getVarId(), QString());
-    }
-    return {};
-}
 
 class tst_MainWindow : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { formerHandler = qInstallMessageHandler(noteWarnings); }
+    void initTestCase() { m_warnings.emplace(); }
     void cleanupTestCase()
     {
-        qInstallMessageHandler(formerHandler);
-        QCOMPARE(warnings, QStringList());
+        m_warnings.reset();
+        QCOMPARE(ConnectionWarnings::list(), QStringList());
     }
 
     void startsWithNothingOpen()
@@ -100,6 +60,27 @@ private Q_SLOTS:
                                  "helpTour", "helpAbout"})
             QVERIFY2(fixture.action(name)->isEnabled(), name);
         QVERIFY(!fixture.window->status()->findChild<QLabel *>("statusOpen")->isVisible());
+    }
+
+    void isNoLargerThanTheScreen_data()
+    {
+        QTest::addColumn<QSize>("less");
+        QTest::addColumn<bool>("maximized");
+        QTest::newRow("fits with its frame") << QSize(10, 40) << false;
+        QTest::newRow("too wide") << QSize(9, 40) << true;
+        QTest::newRow("too high") << QSize(10, 39) << true;
+    }
+    void isNoLargerThanTheScreen()
+    {
+        QFETCH(QSize, less);
+        QFETCH(bool, maximized);
+        WindowFixture fixture;
+        fixture.window->hide();
+        fixture.window->setMinimumSize(1, 1); // the screen of tests is small
+        fixture.window->resize(fixture.window->screen()->availableSize() - less);
+        fixture.window->showOnScreen();
+        QVERIFY(fixture.window->isVisible());
+        QCOMPARE(fixture.window->isMaximized(), maximized);
     }
 
     void opensAFile()
@@ -161,283 +142,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.settings->recentFiles(), QStringList());
     }
 
-    void confirmsByKeyboardAndUndoes()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        const QString path = din933;
-        const int line = 3;
-        QVERIFY(fixture.window->editor()->goTo({{path, {}, {}}, line}));
-        fixture.press(Qt::Key_V);
-        QTRY_COMPARE(countState(document), 1);
-        QTRY_VERIFY(fixture.window->isWindowModified());
-        QTRY_COMPARE(fixture.action("editUndo")->text(),
-                     "&Rückgängig: Zeile 3 → 2 bestätigt in " + path);
-        QTRY_COMPARE(fixture.window->status()->note(), "Zeile 3 → 2 bestätigt in " + path);
-        QVERIFY(fixture.window->status()
-                    ->findChild<QLabel *>("statusNote")
-                    ->text()
-                    .endsWith("<a href=\"undo\">rückgängig</a>"));
-        QTRY_VERIFY(fixture.window->status()
-                        ->findChild<QLabel *>("statusOpen")
-                        ->text()
-                        .contains("783 Zeilen"));
-
-        fixture.press(Qt::Key_Z, Qt::ControlModifier);
-        QTRY_COMPARE(countState(document), 0);
-        QTRY_COMPARE(fixture.action("editUndo")->text(), QStringLiteral("&Rückgängig"));
-        QVERIFY(!fixture.action("editUndo")->isEnabled());
-        QCOMPARE(fixture.action("editRedo")->text(),
-                 "&Wiederherstellen: Zeile 3 → 2 bestätigt in " + path);
-        QCOMPARE(fixture.window->editor()->currentPath(), path);
-        QCOMPARE(fixture.window->editor()->currentLine(), line);
-        fixture.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-        QTRY_COMPARE(countState(document), 1);
-    }
-
-    void undoesByTheLinkInTheStatusBar()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        fixture.press(Qt::Key_F8);
-        fixture.press(Qt::Key_V);
-        QTRY_COMPARE(countState(document), 1);
-        QTRY_VERIFY(document.canUndo());
-        Q_EMIT fixture.window->status()->findChild<QLabel *>("statusNote")->linkActivated("undo");
-        QTRY_COMPARE(countState(document), 0);
-    }
-
-    void goesThroughOpenLinesAcrossProjects()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        EditorArea *const editor = fixture.window->editor();
-        const OpenLines &open = fixture.window->lines()->openLines();
-        LineRef expected = open.next({}).line;
-        QStringList projects;
-        for (int i = 0; i < 60 || (projects.size() < 2 && i < 900); ++i) {
-            fixture.press(Qt::Key_F8);
-            QCOMPARE(editor->currentPath(), expected.project.path);
-            QCOMPARE(editor->currentLine(), expected.line);
-            if (!projects.contains(expected.project.path))
-                projects << expected.project.path;
-            expected = open.next(expected).line;
-        }
-        QVERIFY(projects.size() > 1);
-        QCOMPARE(QApplication::focusWidget(), fixture.sourceView()->grid());
-        const QString path = editor->currentPath();
-        const int line = editor->currentLine();
-        fixture.press(Qt::Key_F8);
-        fixture.press(Qt::Key_F8, Qt::ShiftModifier);
-        QCOMPARE(editor->currentPath(), path);
-        QCOMPARE(editor->currentLine(), line);
-    }
-
-    void takesFiltersAwayToShowALine()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        EditorArea *const editor = fixture.window->editor();
-        auto *box = editor->findChild<QCheckBox *>("checkToCheck");
-        const QString equal = "standardparts/screws/iso10642.prj";
-        QVERIFY(editor->selectProject(equal));
-        ModalScript script;
-        script.thenClick("answerAccept");
-        fixture.action("linesConfirm")->trigger();
-        QTRY_VERIFY(fixture.action("editUndo")->isEnabled());
-        QApplication::processEvents();
-        QVERIFY(editor->selectProject(din933));
-        box->setChecked(true);
-        QVERIFY(editor->selectProject(equal));
-        QVERIFY(!box->isChecked());
-        QVERIFY(editor->selectProject(din933));
-        auto *lines = editor->findChild<QCheckBox *>("chkFilterSource");
-        QVERIFY(lines);
-        QVERIFY(editor->selectLine(2));
-        const int verified = countState(*fixture.window->desk()->document());
-        fixture.press(Qt::Key_V);
-        QTRY_COMPARE(countState(*fixture.window->desk()->document()), verified + 1);
-        lines->setChecked(true);
-        QVERIFY(!editor->sourceTable().isLineVisible(VKTab::LineId(2)));
-        QVERIFY(editor->selectLine(2));
-        QVERIFY(!lines->isChecked());
-        QCOMPARE(editor->currentLine(), 2);
-    }
-
-    void jumpsToALine_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("line");
-        QTest::newRow("number") << "7" << 7;
-        QTest::newRow("designation") << "DIN 933 - M3 x 10 - 8.8" << 3;
-        QTest::newRow("part of it, other case") << "m3 X 10" << 3;
-    }
-    void jumpsToALine()
-    {
-        QFETCH(QString, text);
-        QFETCH(int, line);
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        QVERIFY(fixture.window->editor()->selectProject(din933));
-        ModalScript script;
-        script.then([&](QWidget *dialog) {
-            auto *input = qobject_cast<QInputDialog *>(dialog);
-            QVERIFY(input);
-            QCOMPARE(input->labelText(), QStringLiteral("Nummer oder Normbezeichnung:"));
-            input->setTextValue(text);
-            input->accept();
-        });
-        fixture.press(Qt::Key_G, Qt::ControlModifier);
-        QVERIFY(script.isDone());
-        QCOMPARE(fixture.window->editor()->currentLine(), line);
-    }
-
-    void jumpsOnFromHitToHit()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        EditorArea *const editor = fixture.window->editor();
-        QVERIFY(editor->selectProject(din933));
-        QList<int> hits;
-        for (int i = 0; i < 3; ++i) {
-            QVERIFY(fixture.window->lines()->jumpTo("DIN 933 - M4"));
-            hits << editor->currentLine();
-            QVERIFY(fixture.window->status()->note().startsWith("Treffer " +
-                                                                QString::number(i + 1) + " von "));
-        }
-        QCOMPARE(hits, (QList<int>{9, 10, 11}));
-    }
-
-    void saysThatThereIsNoSuchLine()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        QVERIFY(!fixture.window->lines()->jumpTo("1"));
-        QCOMPARE(fixture.window->status()->note(), QStringLiteral("Es ist kein Projekt gewählt"));
-        QVERIFY(fixture.window->editor()->selectProject(din933));
-        QVERIFY(!fixture.window->lines()->jumpTo("no such thing"));
-        QCOMPARE(fixture.window->status()->note(),
-                 QStringLiteral("Keine Zeile mit „no such thing“ in diesem Projekt"));
-    }
-
-    void confirmsManyLinesInOneStep()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        QVERIFY(fixture.window->editor()->selectProject(din933));
-        ModalScript script;
-        script.thenClick("answerAccept");
-        fixture.action("linesConfirm")->trigger();
-        QVERIFY(script.isDone());
-        const int lines = countState(document);
-        QVERIFY(lines > 50);
-        QVERIFY2(script.texts.first().contains(QString::number(lines) + " Zeilen bestätigen?"),
-                 qPrintable(script.texts.first()));
-        QTRY_COMPARE(document.undoTexts().size(), 1);
-        const QString confirmed = "M";
-        const auto status = [&](int line) {
-            return fixture.window->editor()
-                ->sourceTable()
-                .getLine(VKTab::LineId(line), false)
-                .getLineKeyValue("CatalogMapper")
-                .toString();
-        };
-        QTRY_COMPARE(status(3), confirmed);
-        QTRY_VERIFY(statistics(fixture).endsWith(" / " + QString::number(lines)));
-        fixture.action("editUndo")->trigger();
-        QTRY_COMPARE(countState(document), 0);
-        QTRY_COMPARE(status(3), QStringLiteral("C"));
-        QTRY_VERIFY(statistics(fixture).endsWith(" / 0"));
-        // Showing it is no change.
-        QTest::qWait(1);
-        QVERIFY(document.canRedo());
-        QVERIFY(!document.canUndo());
-    }
-
-    void manyLinesAreThoseThatAreShown()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        QVERIFY(fixture.window->editor()->selectProject(din933));
-        const std::pair<QString, int> filter = filterByFirstValue(fixture);
-        const QString name = filter.first;
-        const int rows = filter.second;
-        QVERIFY(rows > 0);
-        const int all = fixture.window->editor()->sourceTable().getLineCount();
-        QVERIFY(rows < all);
-        ModalScript script;
-        script.then([&](QWidget *dialog) {
-            script.note(dialog);
-            const QString details = dialog->property("informativeText").toString();
-            QVERIFY2(details.contains(
-                         QStringLiteral("die %1 gezeigten von %2 Zeilen").arg(rows).arg(all)) &&
-                         details.contains("Filter: " + name + ": ="),
-                     qPrintable(details));
-            // Nothing is selected: nobody may have meant all of them.
-            QVERIFY(dialog->findChild<QPushButton *>("answerCancel")->isDefault());
-            QTest::mouseClick(dialog->findChild<QPushButton *>("answerAccept"), Qt::LeftButton);
-        });
-        fixture.action("linesConfirm")->trigger();
-        QVERIFY(script.isDone());
-        // Those without a target are left out.
-        const int confirmed = countState(document);
-        QVERIFY(confirmed > 0 && confirmed <= rows);
-        const QString begin = QString::number(confirmed) + " Zeilen bestätig";
-        QVERIFY2(script.texts.value(0).startsWith(begin), qPrintable(script.texts.value(0)));
-        QVERIFY2(fixture.window->status()->note().startsWith(begin),
-                 qPrintable(fixture.window->status()->note()));
-    }
-
-    void theNextOpenLineIsWithinTheFilter()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        EditorArea *const editor = fixture.window->editor();
-        QVERIFY(editor->selectProject(din933));
-        const int rows = filterByFirstValue(fixture).second;
-        QStringList notes;
-        QSet<int> seen;
-        for (int i = 0; i <= rows; ++i) {
-            fixture.press(Qt::Key_F8);
-            QCOMPARE(editor->currentPath(), din933);
-            QVERIFY(fixture.sourceView()->model()->rowOf(VKTab::LineId(editor->currentLine())) >=
-                    0);
-            seen.insert(editor->currentLine());
-            notes += fixture.window->status()->note();
-        }
-        QVERIFY(seen.size() <= rows);
-        QVERIFY2(notes.last().contains("Hier im Filter ist alles durch, außerhalb sind noch"),
-                 qPrintable(notes.join('\n')));
-    }
-
-    void confirmsTheSelectedLines()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
-        fixture.press(Qt::Key_Down, Qt::ShiftModifier);
-        fixture.press(Qt::Key_Down, Qt::ShiftModifier);
-        QCOMPARE(fixture.window->editor()->selectedLines(), (QList<int>{3, 4, 5}));
-        QCOMPARE(fixture.window->editor()->currentLine(), -1);
-        ModalScript script;
-        script.then([&](QWidget *dialog) {
-            script.note(dialog);
-            QVERIFY(dialog->property("informativeText")
-                        .toString()
-                        .startsWith("Gemeint sind die markierten Zeilen."));
-            QTest::mouseClick(dialog->findChild<QPushButton *>("answerAccept"), Qt::LeftButton);
-        });
-        fixture.press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-        QVERIFY2(script.texts.value(0).startsWith("3 Zeilen bestätigen?"),
-                 qPrintable(script.texts.join('\n')));
-        QCOMPARE(countState(document), 3);
-    }
-
     void changesSettingsByTheirDialog()
     {
         WindowFixture fixture;
@@ -489,122 +193,6 @@ private Q_SLOTS:
                  QStringLiteral("0 Wertebereichszuordnungen geprüft: keine Beanstandung."));
     }
 
-    void undoOfALineReadsNothingAnew()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        EditorArea *const editor = fixture.window->editor();
-        QVERIFY(editor->goTo({{din933, {}, {}}, 30}));
-        fixture.press(Qt::Key_V);
-        QTRY_VERIFY(document.canUndo());
-        QVERIFY(editor->selectLine(40));
-        const VKTab::ContentRef before = editor->sourceTable();
-        const int scroll = fixture.sourceView()->getVerticalScrollPos();
-        fixture.press(Qt::Key_Z, Qt::ControlModifier);
-        QTRY_VERIFY(statistics(fixture).endsWith(" / 0"));
-        QVERIFY(editor->sourceTable() == before);
-        QCOMPARE(editor->currentLine(), 40);
-        QCOMPARE(fixture.sourceView()->getVerticalScrollPos(), scroll);
-        QCOMPARE(
-            before.getLine(VKTab::LineId(30), false).getLineKeyValue("CatalogMapper").toString(),
-            QStringLiteral("C"));
-    }
-
-    void undoIsNoChangeOfItsOwn()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 30}));
-        fixture.press(Qt::Key_V);
-        QTRY_VERIFY(document.canUndo());
-        // Comes after the editor has shown it, and before a step of that turn would end.
-        QList<bool> modified;
-        connect(&document, &MappingDocument::reselectRequested, this,
-                [&] { QTimer::singleShot(0, this, [&] { modified += document.isModified(); }); });
-        fixture.press(Qt::Key_Z, Qt::ControlModifier);
-        QTRY_COMPARE(modified, QList<bool>{false});
-        QVERIFY(statistics(fixture).endsWith(" / 0"));
-    }
-
-    void undoOfATargetShowsItAgain()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        EditorArea *const editor = fixture.window->editor();
-        QVERIFY(editor->selectProject("standardparts/washers/din125.prj"));
-        QVERIFY(editor->selectLine(3));
-        const auto panels = [&] {
-            return editor->findChildren<QPushButton *>("assignButton").size();
-        };
-        const auto all = panels();
-        QVERIFY(all > 1);
-        PrjMappingC mapping = document.mapping(editor->currentProject());
-        mapping.removeTarget(0);
-        document.updateMapping(mapping);
-        QTRY_COMPARE(panels(), all - 1);
-        QTRY_VERIFY(document.canUndo());
-        fixture.press(Qt::Key_Z, Qt::ControlModifier);
-        QTRY_COMPARE(panels(), all);
-        QCOMPARE(editor->currentLine(), 3);
-    }
-
-    void undoShowsWhatItUndid()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        EditorArea *const editor = fixture.window->editor();
-        QVERIFY(editor->goTo({{din933, {}, {}}, 3}));
-        fixture.press(Qt::Key_V);
-        QTRY_VERIFY(document.canUndo());
-        QVERIFY(editor->selectProject("standardparts/washers/din125.prj"));
-        fixture.press(Qt::Key_Z, Qt::ControlModifier);
-        QTRY_COMPARE(editor->currentPath(), din933);
-        QTRY_VERIFY(statistics(fixture).endsWith(" / 0"));
-        QVERIFY(document.canRedo());
-    }
-
-    void severalProjectsAreUndoneTogether()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        MappingDocument &document = *fixture.window->desk()->document();
-        EditorArea *const editor = fixture.window->editor();
-        QVERIFY(editor->selectProject(din933));
-        document.beginStep();
-        const ReleaseMappingC release = document.release();
-        for (int i = 0; i < release.countMappings(); ++i) {
-            PrjMappingC mapping = release.mappingAt(i);
-            if (mapping.getSourcePath() != din933 &&
-                mapping.getSourcePath() != "standardparts/washers/din125.prj")
-                continue;
-            mapping.verifyAll();
-            document.updateMapping(mapping);
-        }
-        document.endStep();
-        const int lines = countState(document);
-        QVERIFY(lines > 100);
-        QTRY_VERIFY(statistics(fixture).endsWith(" / " + QString::number(lines)));
-        fixture.action("editUndo")->trigger();
-        QTRY_VERIFY(statistics(fixture).endsWith(" / 0"));
-        QCOMPARE(editor->currentPath(), din933);
-    }
-
-    void leavesManyLinesAloneWhenCalledOff()
-    {
-        WindowFixture fixture;
-        fixture.open(fixture.mappingFile());
-        QVERIFY(fixture.window->editor()->selectProject(din933));
-        ModalScript script;
-        script.thenClick("answerCancel");
-        fixture.action("linesRemove")->trigger();
-        QVERIFY(script.isDone());
-        QVERIFY(!fixture.window->desk()->document()->isModified());
-    }
-
     void asksBeforeClosing_data()
     {
         QTest::addColumn<QString>("answer");
@@ -614,6 +202,7 @@ private Q_SLOTS:
         QTest::newRow("discard") << "answerRefuse" << true << false;
         QTest::newRow("cancel") << "answerCancel" << false << false;
     }
+
     void asksBeforeClosing()
     {
         QFETCH(QString, answer);
@@ -759,6 +348,7 @@ private Q_SLOTS:
         QTest::newRow("no") << 3 << "answerRefuse" << 7;
         QTest::newRow("neither") << 3 << "answerCancel" << 2;
     }
+
     void asksQuestions()
     {
         QFETCH(int, mode);
@@ -797,16 +387,16 @@ private Q_SLOTS:
         QVERIFY(fixture.window->editor()->selectProject(din933));
         QVERIFY(fixture.window->editor()->selectLine(3));
         fixture.press(Qt::Key_V);
-        QTRY_COMPARE(countState(document), 1);
+        QTRY_COMPARE(fixture.confirmedLines(), 1);
         ModalScript script;
         script.thenClick("answerRefuse");
         fixture.action("assignAll")->trigger();
         QVERIFY(script.isDone());
-        QCOMPARE(countState(document), 1);
+        QCOMPARE(fixture.confirmedLines(), 1);
         QTRY_COMPARE(document.undoTexts().size(), 2);
         fixture.action("editUndo")->trigger();
         QTRY_COMPARE(document.undoTexts().size(), 1);
-        QCOMPARE(countState(document), 1);
+        QCOMPARE(fixture.confirmedLines(), 1);
     }
 
 public Q_SLOTS:
@@ -814,6 +404,7 @@ public Q_SLOTS:
 
 private:
     QUrl m_url;
+    std::optional<ConnectionWarnings> m_warnings;
 };
 
 QTEST_MAIN(tst_MainWindow)

@@ -8,16 +8,20 @@
 #include <QTemporaryDir>
 
 #include <functional>
+#include <optional>
 
-/// A catalog root in a temporary directory, with the projects and tables that a test writes.
+/// A catalog root, with the projects and tables that a test writes.
 class TestCatalog
 {
 public:
     using Edit = std::function<void(VKTab::TableDescriptor &)>;
 
+    /// In a temporary directory of its own.
     TestCatalog();
+    /// In a directory that is made and stays.
+    explicit TestCatalog(const QString &directory);
 
-    [[nodiscard]] QString root() const { return m_dir.path(); }
+    [[nodiscard]] QString root() const { return m_root; }
     /// A tree over the root; the process's own is left alone.
     [[nodiscard]] const PRefPtr<IndexTreeC> &tree() const { return m_tree; }
     /// Native path of a project such as "cat/a.prj".
@@ -28,11 +32,22 @@ public:
     /// the descriptor before it is written.
     void write(const QString &project, const QByteArray &table, const Edit &edit = {}) const;
     void writeFile(const QString &path, const QByteArray &bytes) const;
+
+    /// The same in short, as imports make it: \a path without ending; the rows of \a table are
+    /// parted by semicolons, and all columns are texts; \a key names the identifying columns. Empty
+    /// dates are left out.
+    void add(const QString &path, const QByteArray &table, const QStringList &key = {},
+             const QByteArray &date = "2022-05-01T10:00:00Z",
+             const QByteArray &tableDate = {}) const;
+    /// A project file that names no table.
+    void addWithoutTable(const QString &path) const;
+
     /// The project's table; not valid if it cannot be read.
     [[nodiscard]] VKTab::Content read(const QString &project) const;
 
 private:
-    QTemporaryDir m_dir;
+    std::optional<QTemporaryDir> m_own;
+    QString m_root;
     PRefPtr<IndexTreeC> m_tree;
 };
 

@@ -9,6 +9,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTest>
 
 using VKTab::FieldKind;
@@ -43,8 +46,17 @@ void changeTarget(PrjMappingC &mapping, int index, Change change)
 } // namespace
 
 TestCatalog::TestCatalog()
-    : m_tree(new IndexTreeC(PPathName(m_dir.path())))
+    : m_own(std::in_place)
+    , m_root(m_own->path())
+    , m_tree(new IndexTreeC(PPathName(m_root)))
 {
+}
+
+TestCatalog::TestCatalog(const QString &directory)
+    : m_root(directory)
+    , m_tree(new IndexTreeC(PPathName(m_root)))
+{
+    QVERIFY(QDir().mkpath(directory));
 }
 
 QString TestCatalog::file(const QString &project) const
@@ -74,6 +86,24 @@ void TestCatalog::write(const QString &project, const QByteArray &table, const E
     writeFile(base + ".csv", names.join(',') + table.mid(headEnd));
     writeFile(base + ".json", descriptor.toJson());
     writeFile(project, "[PROJECT]\nSACHM=" + QFileInfo(base).fileName().toUtf8() + ".json\n");
+}
+
+void TestCatalog::add(const QString &path, const QByteArray &table, const QStringList &key,
+                      const QByteArray &date, const QByteArray &tableDate) const
+{
+    const QByteArray name = QFileInfo(path).fileName().toUtf8();
+    const QByteArray dateLine = date.isEmpty() ? QByteArray() : "DATE = " + date + '\n';
+    QJsonObject descriptor{{"primaryKey", QJsonArray::fromStringList(key)}};
+    if (!tableDate.isEmpty())
+        descriptor.insert("finalDate", QString::fromUtf8(tableDate));
+    writeFile(path + ".prj", "[PROJECT]\n" + dateLine + "SACHM = " + name + ".json\n");
+    writeFile(path + ".json", QJsonDocument(descriptor).toJson());
+    writeFile(path + ".csv", QByteArray(table).replace(';', '\n') + '\n');
+}
+
+void TestCatalog::addWithoutTable(const QString &path) const
+{
+    writeFile(path + ".prj", "[PROJECT]\nDATE = 2022-05-01T10:00:00Z\n");
 }
 
 VKTab::Content TestCatalog::read(const QString &project) const

@@ -1,0 +1,341 @@
+#include "../support/SizeLimit.h"
+#include "SessionFixture.h"
+
+#include <workbench/session/MappingDocument.h>
+#include <workbench/session/ReleaseChanges.h>
+
+#include <mapping/data/CatalogMappingHandlerI.h>
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using Handler = std::unique_ptr<CatalogMappingHandlerI>;
+
+const QString Path = QStringLiteral("cat/a.prj");
+
+ProjectId id(const QString &path)
+{
+    return {path, SessionFixture::Version, QStringLiteral("t1")};
+}
+
+} // namespace
+
+class tst_MappingDocumentSteps : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void oneTurnIsOneStep();
+    void eachTurnIsAStep();
+    void explicitStepsKeepTogether();
+    void undoAndRedo();
+    void undoForgetsWhatWasUndoneAtTheNextChange();
+    void undoLimit();
+    void undoReachesTheSavedState();
+    void nothingChangedIsNoStep();
+    void changesThatCancelOutAreNoStep();
+    void addedProjectCanBeUndone();
+    void tableVersionCanBeUndone();
+    void directoriesShowUndoneStates();
+    void markingConflictsIsNoStep();
+    void replacesTheRelease();
+    void countsFollowEveryChange();
+
+private:
+    MappingDocument &open(MappingDocument::Access access = MappingDocument::Access::ReadWrite);
+    void change(const PrjMappingC &mapping);
+
+    std::unique_ptr<SessionFixture> m_files;
+    std::unique_ptr<MappingDocument> m_document;
+    QString m_file;
+};
+
+void tst_MappingDocumentSteps::init()
+{
+    m_files = std::make_unique<SessionFixture>();
+    m_document = std::make_unique<MappingDocument>();
+    m_file = m_files->write();
+}
+
+void tst_MappingDocumentSteps::cleanup()
+{
+    m_document.reset();
+    m_files.reset();
+}
+
+MappingDocument &tst_MappingDocumentSteps::open(MappingDocument::Access access)
+{
+    m_document->open({m_file, {}, {}, access, MappingDocument::Recovery::Ask});
+    return *m_document;
+}
+
+/// One user action.
+void tst_MappingDocumentSteps::change(const PrjMappingC &mapping)
+{
+    m_document->updateMapping(mapping);
+    QCoreApplication::processEvents();
+}
+
+void tst_MappingDocumentSteps::oneTurnIsOneStep()
+{
+    open();
+    QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
+    PrjMappingC mapping = m_document->mapping(id(Path));
+    for (int line = 1; line <= 3; ++line) {
+        mapping = SessionFixture::withState(mapping, {line}, 2);
+        m_document->updateMapping(mapping);
+    }
+    QVERIFY(!m_document->canUndo());
+    QVERIFY(m_document->isModified());
+    QCoreApplication::processEvents();
+    QCOMPARE(m_document->undoTexts(),
+             QStringList(QStringLiteral("3 Zeilen bestätigt in cat/a.prj")));
+    QCOMPARE(done.size(), 1);
+    QCOMPARE(done.first().at(0).toString(), QStringLiteral("3 Zeilen bestätigt in cat/a.prj"));
+    QCOMPARE(done.first().at(1).toInt(), 3);
+}
+
+void tst_MappingDocumentSteps::eachTurnIsAStep()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    QCOMPARE(m_document->undoTexts().size(), 2);
+}
+
+void tst_MappingDocumentSteps::explicitStepsKeepTogether()
+{
+    open();
+    m_document->beginStep(QStringLiteral("Alles"));
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    m_document->beginStep(QStringLiteral("innen"));
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    m_document->endStep();
+    QVERIFY(!m_document->canUndo());
+    m_document->undo();
+    QCOMPARE(m_document->counts().verified(), 2);
+    m_document->endStep();
+    QCOMPARE(m_document->undoTexts(), QStringList(QStringLiteral("Alles")));
+    m_document->undo();
+    QCOMPARE(m_document->counts().verified(), 0);
+}
+
+void tst_MappingDocumentSteps::undoAndRedo()
+{
+    open();
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1, 2, 3}, 2));
+    const QByteArray after = SessionFixture::bytes(m_document->release());
+    QSignalSpy reselect(m_document.get(), &MappingDocument::reselectRequested);
+    QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
+    QSignalSpy modified(m_document.get(), &MappingDocument::modifiedChanged);
+
+    m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), before);
+    QCOMPARE(reselect.size(), 1);
+    QCOMPARE(reselect.first().first().value<ProjectId>(), id(Path));
+    QCOMPARE(done.first().at(0).toString(),
+             QStringLiteral("Rückgängig: 3 Zeilen bestätigt in cat/a.prj"));
+    QCOMPARE(modified.size(), 1);
+    QVERIFY(!m_document->isModified());
+    QVERIFY(!m_document->canUndo());
+    QVERIFY(m_document->canRedo());
+
+    m_document->redo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), after);
+    QCOMPARE(done.last().at(0).toString(),
+             QStringLiteral("Wiederholt: 3 Zeilen bestätigt in cat/a.prj"));
+    QVERIFY(m_document->isModified());
+    QVERIFY(m_document->canUndo());
+    QVERIFY(!m_document->canRedo());
+    m_document->redo();
+    QCOMPARE(done.size(), 2);
+}
+
+void tst_MappingDocumentSteps::undoForgetsWhatWasUndoneAtTheNextChange()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    m_document->undo();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    QVERIFY(!m_document->canRedo());
+    QCOMPARE(m_document->undoTexts().size(), 1);
+}
+
+void tst_MappingDocumentSteps::undoLimit()
+{
+    open();
+    m_document->setUndoLimit(2);
+    for (int line = 1; line <= 4; ++line)
+        change(SessionFixture::withState(m_document->mapping(id(Path)), {line}, 2));
+    QCOMPARE(m_document->undoTexts().size(), 2);
+    m_document->undo();
+    m_document->undo();
+    QCOMPARE(m_document->counts().verified(), 2);
+    QVERIFY(m_document->isModified()); // what was opened cannot be reached any more
+}
+
+void tst_MappingDocumentSteps::undoReachesTheSavedState()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    QVERIFY(!m_document->isModified());
+    m_document->undo();
+    QVERIFY(m_document->isModified());
+    m_document->redo();
+    QVERIFY(!m_document->isModified());
+    m_document->undo();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {5}, 2));
+    QVERIFY(m_document->isModified());
+    m_document->undo();
+    QVERIFY(m_document->isModified()); // the saved state was undone and forgotten
+}
+
+void tst_MappingDocumentSteps::nothingChangedIsNoStep()
+{
+    open();
+    const qint64 size = QFile(m_document->journalFile()).size();
+    QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
+    change(m_document->mapping(id(Path)));
+    QVERIFY(!m_document->canUndo());
+    QVERIFY(!m_document->isModified());
+    QCOMPARE(done.size(), 0);
+    QCOMPARE(QFile(m_document->journalFile()).size(), size);
+}
+
+void tst_MappingDocumentSteps::changesThatCancelOutAreNoStep()
+{
+    open();
+    const PrjMappingC mapping = m_document->mapping(id(Path));
+    m_document->updateMapping(SessionFixture::withState(mapping, {1}, 2));
+    change(mapping);
+    QVERIFY(!m_document->canUndo());
+    QVERIFY(!m_document->isModified());
+}
+
+void tst_MappingDocumentSteps::addedProjectCanBeUndone()
+{
+    open();
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    QSignalSpy replaced(m_document.get(), &MappingDocument::releaseReplaced);
+    change(SessionFixture::plainMapping(QStringLiteral("cat/new.prj"), 5));
+    QCOMPARE(m_document->undoText(), QStringLiteral("Projekt hinzugefügt (5 Zeilen zugeordnet) in "
+                                                    "cat/new.prj"));
+    QCOMPARE(m_document->counts().lines(), 35);
+    const QByteArray after = SessionFixture::bytes(m_document->release());
+    m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), before);
+    QCOMPARE(m_document->counts().lines(), 30);
+    QCOMPARE(replaced.size(), 1);
+    m_document->redo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), after);
+    QCOMPARE(m_document->counts().lines(), 35);
+}
+
+void tst_MappingDocumentSteps::tableVersionCanBeUndone()
+{
+    open();
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    PrjMappingC mapping = m_document->mapping(id(Path));
+    mapping.setTabVersion(QString()); // matches any, so the stored one is replaced
+    change(mapping);
+    QCOMPARE(m_document->release().countMappings(), 3);
+    m_document->undo();
+    QCOMPARE(m_document->release().countMappings(), 3);
+    QCOMPARE(m_document->mapping(id(Path)).getTabVersion(), QStringLiteral("t1"));
+    QCOMPARE(countLines(m_document->release()), m_document->counts());
+    Q_UNUSED(before)
+}
+
+void tst_MappingDocumentSteps::directoriesShowUndoneStates()
+{
+    open();
+    const auto root = m_document->handler()->getRootStructureNode();
+    const auto screws = root->getChildren().first()->getChildren().first();
+    QCOMPARE(screws->getName(), QStringLiteral("screws"));
+    QVERIFY(!screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
+    const QString path = QStringLiteral("cat/screws/b.prj");
+    change(SessionFixture::withState(m_document->mapping(id(path)), {1}, 2));
+    screws->invalidateState(); // as the editor does after its own change
+    QVERIFY(screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
+    m_document->undo();
+    QVERIFY(!screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
+    m_document->redo();
+    QVERIFY(screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
+}
+
+void tst_MappingDocumentSteps::markingConflictsIsNoStep()
+{
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    const auto marked = [this](int line) {
+        PrjMappingC mapping = m_document->mapping(id(Path));
+        PrjMappingTargetC target = mapping.findTarget(0);
+        target.setLineConflicted(line, true);
+        mapping.updateTarget(0, target);
+        return mapping;
+    };
+    change(marked(3)); // found by what it does
+    m_document->updateWithoutStep([&] { m_document->updateMapping(marked(4)); });
+    QCOMPARE(m_document->undoTexts(),
+             QStringList(QStringLiteral("Zeile 1 → 1 bestätigt in cat/a.prj")));
+    m_document->undo();
+    const PrjMappingTargetC target = m_document->mapping(id(Path)).findTarget(0);
+    QCOMPARE(m_document->conflictedProjects(), QList<ProjectId>{id(Path)});
+    QVERIFY(target.getLineConflicted(3));
+    QVERIFY(target.getLineConflicted(4));
+    QCOMPARE(target.getMappedLine(1).getState(), PRJMAPPING::ToCheck);
+    QVERIFY(m_document->isModified());
+}
+
+void tst_MappingDocumentSteps::replacesTheRelease()
+{
+    open();
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    ReleaseMappingC other = SessionFixture::sampleRelease();
+    other.clearMappings();
+    other.setTargetDate(QStringLiteral("2027-01-01"));
+    other.addMapping(SessionFixture::plainMapping(QStringLiteral("cat/x.prj"), 4, 1));
+    QSignalSpy replaced(m_document.get(), &MappingDocument::releaseReplaced);
+    const Handler old(m_document->createHandler());
+    m_document->replaceRelease(other, QStringLiteral("Zuordnung neu erstellt"));
+    QCOMPARE(replaced.size(), 1);
+    QCOMPARE(m_document->undoText(), QStringLiteral("Zuordnung neu erstellt"));
+    QCOMPARE(SessionFixture::bytes(m_document->release()), SessionFixture::bytes(other));
+    QCOMPARE(m_document->counts().mapped(), 4);
+    // What the editor of the former tree still sends goes nowhere.
+    old->updateMapping(SessionFixture::plainMapping(Path, 2));
+    QCOMPARE(m_document->counts().lines(), 4);
+    m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), before);
+    QCOMPARE(m_document->counts().lines(), 30);
+}
+
+void tst_MappingDocumentSteps::countsFollowEveryChange()
+{
+    open();
+    QSignalSpy counts(m_document.get(), &MappingDocument::countsChanged);
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {1, 2}, 2));
+    QCOMPARE(counts.size(), 1);
+    QCOMPARE(m_document->counts(), countLines(m_document->release()));
+    change(SessionFixture::plainMapping(Path, 3, 1));
+    QCOMPARE(m_document->counts(), countLines(m_document->release()));
+    m_document->undo();
+    QCOMPARE(m_document->counts(), countLines(m_document->release()));
+    QCOMPARE(m_document->counts().verified(), 2);
+}
+
+QTEST_GUILESS_MAIN(tst_MappingDocumentSteps)
+
+#include "tst_MappingDocumentSteps.moc"
