@@ -41,6 +41,21 @@ public:
     QStringList texts;
 };
 
+/// Counts what it hears of.
+class Listener : public PProgressObserverBase
+{
+public:
+    Listener() { activate(Thread); }
+    ~Listener() override { deactivate(); }
+    void progressStarted(const PProgressInfo &info) override { allowed = info.cancellable; }
+    void progressChanged(const PProgressInfo &) override { ++changes; }
+    void progressDone(const PProgressInfo &) override { ++ends; }
+
+    bool allowed = false;
+    int changes = 0;
+    int ends = 0;
+};
+
 /// A port that takes connections and says nothing.
 class SilentServer
 {
@@ -90,6 +105,7 @@ private Q_SLOTS:
     void nothingIsReadTwice();
     void aRestartWithoutServer();
     void withoutServerAndCache();
+    void aServerThatCameBack();
     void aServerThatIsSilent();
     void cancelled();
     void login();
@@ -101,6 +117,7 @@ private Q_SLOTS:
     void whoWasUsedStays();
     void severalThreads();
     void withoutClient();
+    void whatTheClientIsTold();
 
 private:
     void write(const QString &name, const QByteArray &content) const;
@@ -301,6 +318,20 @@ void tst_CatalogRepository::withoutServerAndCache()
     QCOMPARE(readLine("svn://cat/trunk/catalog/a b/p.prj"), "2");
 }
 
+void tst_CatalogRepository::aServerThatCameBack()
+{
+    CatalogRepository::Options fixed = options();
+    fixed.revision = 2;
+    const auto repository = install(fixed);
+    m_server->stop();
+    QVERIFY(!PPathName("svn://cat/trunk/catalog/a b/p.prj").exists(false));
+    QVERIFY2(m_server->start(), qPrintable(m_server->problem()));
+    // It is left alone for a while, unless the user wants to see what is new.
+    QVERIFY(!PPathName("svn://cat/trunk/catalog/a b/p.prj").exists(false));
+    repository->refresh();
+    QVERIFY(PPathName("svn://cat/trunk/catalog/a b/p.prj").exists(false));
+}
+
 void tst_CatalogRepository::aServerThatIsSilent()
 {
     const SilentServer silent;
@@ -309,7 +340,11 @@ void tst_CatalogRepository::aServerThatIsSilent()
     quick.silence = std::chrono::milliseconds(300);
     install(quick);
     QString error;
+    Listener listener;
     QCOMPARE(readLine("svn://cat/trunk/catalog/a b/p.prj", &error), QString());
+    QVERIFY(listener.allowed);
+    QVERIFY(listener.changes > 1);
+    QCOMPARE(listener.ends, 1);
     QVERIFY2(error.contains("Keine Antwort von " + silent.url() + "/trunk/catalog in 0.3 s"),
              qPrintable(error));
 }
@@ -401,6 +436,7 @@ void tst_CatalogRepository::otherFilesAreNotItsOwn()
     // A path that leaves the catalog asks for nothing.
     const QString file = repository->fileOf("svn://cat/trunk/catalog/a b/p.prj");
     QVERIFY(repository->provide(QFileInfo(file).path() + "/../../dog/p.prj", problem));
+    QVERIFY(!QFileInfo::exists(QDir::cleanPath(QFileInfo(file).path() + "/../../dog")));
     QVERIFY(repository->provide(QFileInfo(file).path() + "/../../../../p.prj", problem));
     QVERIFY(problem.isEmpty());
 }
@@ -494,6 +530,39 @@ void tst_CatalogRepository::withoutClient()
     QString error;
     QCOMPARE(readLine("svn://cat/trunk/catalog/a b/p.prj", &error), QString());
     QVERIFY2(error.contains("no-such-client"), qPrintable(error));
+}
+
+/// Neither asks nor keeps anything, and a password is no argument, which others could see.
+void tst_CatalogRepository::whatTheClientIsTold()
+{
+    const QString client = m_dir->filePath("client.sh");
+    QFile script(client);
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\n[ \"$1\" = info ] || cat > \"$0.in\"\nprintf '%s\\n' \"$@\" >> "
+                 "\"$0.arguments\"\necho 7\n");
+    script.close();
+    QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    RepositoryClient told(client, m_dir->filePath("settings"), std::chrono::seconds(30));
+    QCOMPARE(told.lastRevision("svn://h/c").text, "7");
+    told.setLogin({"eva", "geheim"});
+    QVERIFY(told.exportFiles("svn://h/c/a%20b", 7, m_dir->filePath("out")).isDone());
+    const QByteArrayList always{"--non-interactive", "--no-auth-cache", "--config-dir",
+                                m_dir->filePath("settings").toUtf8()};
+    const QByteArrayList expected =
+        QByteArrayList{"info", "--show-item", "last-changed-revision", "--no-newline",
+                       "svn://h/c@HEAD"} +
+        always +
+        QByteArrayList{"export",
+                       "--ignore-externals",
+                       "--depth",
+                       "files",
+                       "-r",
+                       "7",
+                       "svn://h/c/a%20b@7",
+                       m_dir->filePath("out").toUtf8()} +
+        always + QByteArrayList{"--username", "eva", "--password-from-stdin", ""};
+    QCOMPARE(contentOf(client + ".arguments").split('\n'), expected);
+    QCOMPARE(contentOf(client + ".in"), "geheim\n");
 }
 
 QTEST_GUILESS_MAIN(tst_CatalogRepository)
