@@ -41,6 +41,7 @@ private:
 
     const QString m_program = QStringLiteral(VELK_BINARY_DIR "/bin/velkmap");
     std::unique_ptr<QTemporaryDir> m_dir;
+    const QTemporaryDir m_cache; ///< Of the program's user.
 };
 
 void tst_VelkmapProgram::init()
@@ -56,6 +57,9 @@ tst_VelkmapProgram::Result tst_VelkmapProgram::run(const QString &program,
                                                    const QStringList &arguments) const
 {
     QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_cache.path());
+    process.setProcessEnvironment(environment);
     process.setWorkingDirectory(m_dir->path());
     process.start(program, arguments);
     Result result;

@@ -30,6 +30,12 @@ void CommandLine::addFlag(const QString &option, const QString &description)
     m_parser.addOption({option, description});
 }
 
+void CommandLine::addWords(const QString &name, const QString &description)
+{
+    m_words = " [" + name + "...]";
+    m_parser.addPositionalArgument(name, description);
+}
+
 std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, QTextStream &out,
                                              QTextStream &err)
 {
@@ -38,13 +44,13 @@ std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, QText
         QString help = m_parser.helpText();
         const qsizetype begin = help.indexOf(' ');
         const qsizetype end = help.indexOf('\n');
-        help.replace(begin, end - begin, " velkmap " + m_name + " [options]");
+        help.replace(begin, end - begin, " velkmap " + m_name + " [options]" + m_words);
         out << help;
         return ExitStatus::Done;
     }
     if (!understood)
         return wrongUsage(m_parser.errorText(), err);
-    if (!m_parser.positionalArguments().isEmpty())
+    if (m_words.isEmpty() && !m_parser.positionalArguments().isEmpty())
         return wrongUsage("unexpected argument: " + m_parser.positionalArguments().first(), err);
     for (const QString &option : m_required) {
         if (m_parser.value(option).isEmpty())

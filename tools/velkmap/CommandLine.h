@@ -24,6 +24,9 @@ public:
     void addOptional(const QString &option, const QString &value, const QString &description,
                      const QString &defaultValue = {});
     void addFlag(const QString &option, const QString &description);
+    /// Words that stand without an option; without this there may be none. Behind "--" come words
+    /// only.
+    void addWords(const QString &name, const QString &description);
 
     /// Reads the arguments. A result means that the command is over: Done after the help text was
     /// printed, WrongUsage after a message that says what is wrong.
@@ -35,6 +38,7 @@ public:
     {
         return m_parser.values(option);
     }
+    [[nodiscard]] QStringList words() const { return m_parser.positionalArguments(); }
     [[nodiscard]] bool isSet(const QString &option) const { return m_parser.isSet(option); }
 
     /// Says what is wrong with the arguments and how to get help.
@@ -43,6 +47,7 @@ public:
 private:
     QString m_name;
     QStringList m_required;
+    QString m_words;
     QCommandLineParser m_parser;
 };
 

@@ -4,6 +4,7 @@
 #include "CreateCommand.h"
 #include "ExportCommand.h"
 #include "ImportCommand.h"
+#include "SearchCommand.h"
 #include "StatsCommand.h"
 
 #include <core/Version.h>
@@ -40,6 +41,7 @@ const QList<Command> &commands()
         {"assign", "assigns the lines of a release mapping", runAssign},
         {"stats", "counts the lines by their state", runStats},
         {"export", "writes a release mapping as a CSV file", runExport},
+        {"search", "finds projects by words and by values of their tables", runSearch},
     };
     return list;
 }

@@ -10,6 +10,8 @@ enum class ExitStatus {
     WrongUsage = 1,
     InputUnreadable = 2,
     ResultUnwritable = 3,
+    NothingFound = 4,
+    IndexBuilding = 5,
     Interrupted = 130, ///< by Ctrl+C; what was done is kept
 };
 
@@ -20,11 +22,14 @@ struct ExitStatusText
 };
 
 /// All of them, in ascending order.
-inline constexpr std::array<ExitStatusText, 5> exitStatusTexts{{
+inline constexpr std::array<ExitStatusText, 7> exitStatusTexts{{
     {ExitStatus::Done, "done"},
     {ExitStatus::WrongUsage, "wrong usage"},
     {ExitStatus::InputUnreadable, "input could not be read; all other work is done"},
     {ExitStatus::ResultUnwritable, "the result could not be written, or somebody else works on it"},
+    {ExitStatus::NothingFound, "search: nothing was found"},
+    {ExitStatus::IndexBuilding,
+     "search: the index is not complete yet; what it has so far was searched"},
     {ExitStatus::Interrupted, "ended by Ctrl+C; what was done is written"},
 }};
 

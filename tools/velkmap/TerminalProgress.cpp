@@ -17,27 +17,57 @@ TerminalProgress::~TerminalProgress()
         std::fputs("\n", stderr);
 }
 
-void TerminalProgress::show(int done, int total, qint64 lines)
+bool TerminalProgress::isDue(int done, int total)
 {
     const qint64 now = m_clock.elapsed();
     if (!m_terminal || (done < total && now - m_lastShown < 100))
-        return;
+        return false;
     m_lastShown = now;
     m_shown = true;
-    std::fprintf(stderr, "\r\033[K%s", qPrintable(text(done, total, lines, now)));
+    return true;
+}
+
+void TerminalProgress::print(const QString &text)
+{
+    std::fprintf(stderr, "\r\033[K%s", qPrintable(text));
     std::fflush(stderr);
 }
+
+void TerminalProgress::show(int done, int total, qint64 lines)
+{
+    if (isDue(done, total))
+        print(text(done, total, lines, m_lastShown));
+}
+
+void TerminalProgress::showProjects(int done, int total)
+{
+    if (isDue(done, total))
+        print(text(done, total, m_lastShown));
+}
+
+namespace {
+
+QString rest(int done, int total, qint64 elapsed)
+{
+    if (done <= 0 || done >= total)
+        return {};
+    const qint64 seconds = elapsed * (total - done) / done / 1000;
+    return QString(", %1:%2 left").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
 
 QString TerminalProgress::text(int done, int total, qint64 lines, qint64 elapsed)
 {
     QString result = QString("%1 of %2 projects, %3 lines").arg(done).arg(total).arg(lines);
     if (elapsed > 0)
         result += QString(", %1 lines/s").arg(lines * 1000 / elapsed);
-    if (done > 0 && done < total) {
-        const qint64 rest = elapsed * (total - done) / done / 1000;
-        result += QString(", %1:%2 left").arg(rest / 60).arg(rest % 60, 2, 10, QLatin1Char('0'));
-    }
-    return result;
+    return result + rest(done, total, elapsed);
+}
+
+QString TerminalProgress::text(int done, int total, qint64 elapsed)
+{
+    return QString("%1 of %2 projects").arg(done).arg(total) + rest(done, total, elapsed);
 }
 
 } // namespace velkmap

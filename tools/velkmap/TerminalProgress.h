@@ -18,11 +18,17 @@ public:
     TerminalProgress &operator=(const TerminalProgress &) = delete;
 
     void show(int done, int total, qint64 lines);
+    /// The same for work that counts no lines.
+    void showProjects(int done, int total);
 
     /// The text of the line; times in milliseconds.
     [[nodiscard]] static QString text(int done, int total, qint64 lines, qint64 elapsed);
+    [[nodiscard]] static QString text(int done, int total, qint64 elapsed);
 
 private:
+    [[nodiscard]] bool isDue(int done, int total);
+    void print(const QString &text);
+
     bool m_terminal;
     bool m_shown = false;
     qint64 m_lastShown = -1000;

@@ -1,43 +1,16 @@
 #include "IndexTreeNodeC.h"
 
+#include "CatalogEntries.h"
 #include "CatalogPlaces.h"
 #include <geomcore/project/PrjFile.h>
 
 #include <QDir>
-#include <QDirIterator>
-#include <QFileInfo>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
-/// A directory's entry that the tree shows.
-struct Entry
-{
-    QString name;
-    bool isProject = false;
-};
-
-bool isName(const QString &name)
-{
-    return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') &&
-           !name.contains(QChar(u'\0'));
-}
-
-/// Nothing for an entry that the tree does not show.
-std::optional<Entry> entryOf(const QFileInfo &info, bool directoriesOnly)
-{
-    const bool isProject = !info.isDir();
-    if (isProject &&
-        (directoriesOnly || !info.isFile() || !IndexTreeNodeC::isProjectName(info.fileName())))
-        return std::nullopt;
-    if (info.isSymLink() && !CatalogPlaces::instance().refusal(info.filePath()).isEmpty())
-        return std::nullopt;
-    return Entry{info.fileName(), isProject};
-}
-
-bool comesBefore(const Entry &a, const Entry &b)
+bool comesBefore(const CatalogEntry &a, const CatalogEntry &b)
 {
     if (a.isProject != b.isProject)
         return !a.isProject;
@@ -55,11 +28,6 @@ IndexTreeNodeC::IndexTreeNodeC(const PPathName &catalogRoot, const QString &cata
 }
 
 IndexTreeNodeC::~IndexTreeNodeC() = default;
-
-bool IndexTreeNodeC::isProjectName(QStringView name)
-{
-    return name.size() > 4 && name.endsWith(u".prj");
-}
 
 PString IndexTreeNodeC::getType() const
 {
@@ -114,32 +82,18 @@ PRefPtr<IndexTreeNodeC> IndexTreeNodeC::parent() const
 
 bool IndexTreeNodeC::hasChildren() const
 {
-    if (isProject())
-        return false;
-    QDirIterator entries(file(), QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot);
-    while (entries.hasNext()) {
-        entries.next();
-        if (entryOf(entries.fileInfo(), m_kind == Root))
-            return true;
-    }
-    return false;
+    return !isProject() && hasCatalogEntries(file(), m_kind == Root);
 }
 
 QList<PRefPtr<IndexTreeNodeC>> IndexTreeNodeC::children() const
 {
-    QList<PRefPtr<IndexTreeNodeC>> nodes;
     if (isProject())
-        return nodes;
-    std::vector<Entry> found;
-    QDirIterator entries(file(), QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot);
-    while (entries.hasNext()) {
-        entries.next();
-        if (auto entry = entryOf(entries.fileInfo(), m_kind == Root))
-            found.push_back(*std::move(entry));
-    }
-    std::sort(found.begin(), found.end(), comesBefore);
-    nodes.reserve(qsizetype(found.size()));
-    for (const Entry &entry : found)
+        return {};
+    std::vector<CatalogEntry> entries = catalogEntries(file(), m_kind == Root);
+    std::sort(entries.begin(), entries.end(), comesBefore);
+    QList<PRefPtr<IndexTreeNodeC>> nodes;
+    nodes.reserve(qsizetype(entries.size()));
+    for (const CatalogEntry &entry : entries)
         nodes.append(
             new IndexTreeNodeC(m_root, pathOf(entry.name), entry.isProject ? Project : Directory));
     return nodes;
@@ -147,11 +101,8 @@ QList<PRefPtr<IndexTreeNodeC>> IndexTreeNodeC::children() const
 
 PRefPtr<IndexTreeNodeC> IndexTreeNodeC::child(const QString &name) const
 {
-    if (isProject() || !isName(name))
+    CatalogEntry entry;
+    if (isProject() || !findCatalogEntry(file(), name, m_kind == Root, entry))
         return nullptr;
-    const QFileInfo info(file() + QDir::separator() + name);
-    const auto entry = info.exists() ? entryOf(info, m_kind == Root) : std::nullopt;
-    if (!entry)
-        return nullptr;
-    return new IndexTreeNodeC(m_root, pathOf(name), entry->isProject ? Project : Directory);
+    return new IndexTreeNodeC(m_root, pathOf(name), entry.isProject ? Project : Directory);
 }

@@ -49,9 +49,6 @@ public:
     /// The node of that name below; null if there is none. Reads no other entry.
     [[nodiscard]] PRefPtr<IndexTreeNodeC> child(const QString &name) const;
 
-    /// Whether a file of that name is a project.
-    [[nodiscard]] static bool isProjectName(QStringView name);
-
 private:
     [[nodiscard]] QString pathOf(const QString &name) const;
 

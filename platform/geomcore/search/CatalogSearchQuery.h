@@ -22,6 +22,8 @@ struct VELKGEOMCORE_EXPORT CatalogSearchQuery
     int limit = 200;
     /// Of each hit so many lines that match are told; -1: none, and not their number either.
     int linesPerHit = 3;
+    /// Lines are looked for so long; later hits come without. 0: for all hits.
+    int lineMilliseconds = 0;
 
     /// Neither words nor conditions: nothing is looked for.
     [[nodiscard]] bool isEmpty() const;

@@ -9,7 +9,7 @@ enum class CatalogSearchState {
     Found,
     NothingFound,
     IndexBuilding, ///< The index is made for the first time; the hits are those found so far.
-    IndexMissing,  ///< Nobody has made an index yet, or it is broken and will be made anew.
+    IndexMissing,  ///< Nobody has made an index yet, or it is broken and is to be made anew.
     Failed,        ///< CatalogSearchResult::errorText tells why.
     Cancelled,
 };
@@ -40,7 +40,8 @@ struct CatalogSearchResult
 {
     CatalogSearchState state = CatalogSearchState::NothingFound;
     QList<CatalogSearchHit> hits;
-    bool hasMore = false; ///< There are more than the query's limit.
+    bool hasMore = false;   ///< There are more than the query's limit.
+    bool isDamaged = false; ///< See CatalogIndexUpdate::setMakesAnew().
     QString errorText;
 };
 

@@ -1,0 +1,203 @@
+#include "CatalogIndexUpdate.h"
+
+#include "CatalogIndexFile.h"
+#include "CatalogIndexWriter.h"
+#include "CatalogScan.h"
+#include <core/parallel/WorkerPool.h>
+#include <core/text/PPathName.h>
+#include <geomcore/index/CatalogPlaces.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// So many projects are read and then written in one transaction.
+constexpr int BatchSize = 256;
+
+QString lockFileOf(const QString &indexFile)
+{
+    return indexFile + QStringLiteral(".lock");
+}
+
+} // namespace
+
+struct CatalogIndexUpdate::Private
+{
+    Private(const QString &index, const QString &catalogRoot)
+        : indexFile(index)
+        , root(catalogRoot)
+        , file(index, catalogRoot)
+    {
+    }
+
+    const QString indexFile;
+    const QString root;
+    CatalogIndexFile file;
+    Tell tell;
+    bool makesAnew = false;
+    CatalogIndexOutcome outcome;
+
+    [[nodiscard]] bool goOn(int done, int total) const { return !tell || tell(done, total); }
+    CatalogIndexOutcome fail(CatalogIndexOutcome::State state, const QString &text);
+    CatalogIndexOutcome failAtFile();
+    CatalogIndexOutcome work(bool checkFiles);
+    [[nodiscard]] bool removeGone(const CatalogScan &scan);
+    [[nodiscard]] bool readAll(const CatalogScan &scan);
+    [[nodiscard]] bool writeBatch(const CatalogScan &scan, size_t begin,
+                                  const std::vector<IndexedProject> &projects);
+    [[nodiscard]] bool finish(CatalogScan &scan);
+};
+
+CatalogIndexUpdate::CatalogIndexUpdate(const QString &indexFile, const QString &catalogRoot)
+    : d(std::make_unique<Private>(QFileInfo(indexFile).absoluteFilePath(),
+                                  resolvedRoot(catalogRoot)))
+{
+    CatalogPlaces::instance().addRoot(PPathName(d->root));
+}
+
+CatalogIndexUpdate::~CatalogIndexUpdate() = default;
+
+QString CatalogIndexUpdate::resolvedRoot(const QString &catalogRoot)
+{
+    const QString path = PPathName(catalogRoot).normalized();
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return real.isEmpty() ? QDir().absoluteFilePath(path) : real;
+}
+
+bool CatalogIndexUpdate::isRunning(const QString &indexFile)
+{
+    QLockFile lock(lockFileOf(QFileInfo(indexFile).absoluteFilePath()));
+    lock.setStaleLockTime(0);
+    return QFileInfo::exists(lock.fileName()) && !lock.tryLock(0) &&
+           lock.error() == QLockFile::LockFailedError;
+}
+
+void CatalogIndexUpdate::setMakesAnew()
+{
+    d->makesAnew = true;
+}
+
+CatalogIndexOutcome CatalogIndexUpdate::run(Check check, const Tell &tell)
+{
+    d->tell = tell;
+    d->outcome = {};
+    const QFileInfo root(d->root);
+    if (!root.isDir() || !root.isReadable())
+        return d->fail(CatalogIndexOutcome::RootUnreadable,
+                       QStringLiteral("\"%1\" is no readable directory")
+                           .arg(QDir::toNativeSeparators(d->root)));
+    const QString place = QFileInfo(d->indexFile).absolutePath();
+    QLockFile lock(lockFileOf(d->indexFile));
+    lock.setStaleLockTime(0);
+    if (!QDir().mkpath(place) || !lock.tryLock(0))
+        return lock.error() == QLockFile::LockFailedError
+                   ? d->fail(CatalogIndexOutcome::Busy, {})
+                   : d->fail(CatalogIndexOutcome::Failed,
+                             QStringLiteral("\"%1\" cannot be written")
+                                 .arg(QDir::toNativeSeparators(place)));
+    if (std::exchange(d->makesAnew, false))
+        (void)d->file.discard();
+    CatalogIndexOutcome outcome = d->work(check == Files);
+    if (outcome.state == CatalogIndexOutcome::Failed && d->file.isDamaged()) {
+        // Found out while it was read or written: once more, from the begin.
+        (void)d->file.discard();
+        outcome = d->work(check == Files);
+    }
+    d->file.close();
+    return outcome;
+}
+
+CatalogIndexOutcome CatalogIndexUpdate::Private::fail(CatalogIndexOutcome::State state,
+                                                      const QString &text)
+{
+    outcome.state = state;
+    outcome.errorText = text;
+    return outcome;
+}
+
+CatalogIndexOutcome CatalogIndexUpdate::Private::failAtFile()
+{
+    return fail(CatalogIndexOutcome::Failed, file.errorText());
+}
+
+CatalogIndexOutcome CatalogIndexUpdate::Private::work(bool checkFiles)
+{
+    outcome = {};
+    if (file.openToWrite() != CatalogIndexFile::Opened)
+        return failAtFile();
+    CatalogScan scan(file, root, [this] { return goOn(0, 0); });
+    const bool scanned = file.run(QStringLiteral("BEGIN IMMEDIATE")) && scan.run(checkFiles) &&
+                         removeGone(scan) && file.run(QStringLiteral("COMMIT"));
+    outcome.unreadable = scan.unreadable();
+    if (!scanned) {
+        const QString error = file.errorText();
+        (void)file.run(QStringLiteral("ROLLBACK"));
+        return scan.isBrokenOff() ? fail(CatalogIndexOutcome::Cancelled, {})
+                                  : fail(CatalogIndexOutcome::Failed, error);
+    }
+    if (!readAll(scan))
+        return outcome.state == CatalogIndexOutcome::Cancelled ? outcome : failAtFile();
+    return finish(scan) ? outcome : failAtFile();
+}
+
+bool CatalogIndexUpdate::Private::removeGone(const CatalogScan &scan)
+{
+    CatalogIndexWriter writer(file);
+    for (const qint64 project : scan.gone()) {
+        if (!writer.remove(project))
+            return false;
+    }
+    outcome.removed = int(scan.gone().size());
+    return true;
+}
+
+bool CatalogIndexUpdate::Private::readAll(const CatalogScan &scan)
+{
+    const std::vector<CatalogScan::Work> &all = scan.work();
+    for (size_t begin = 0; begin < all.size(); begin += BatchSize) {
+        if (!goOn(int(begin), int(all.size()))) {
+            outcome.state = CatalogIndexOutcome::Cancelled;
+            return false;
+        }
+        std::vector<IndexedProject> projects(std::min<size_t>(BatchSize, all.size() - begin));
+        WorkerPool::instance().run(int(projects.size()), [&](int i) {
+            projects[size_t(i)] = IndexedProject::read(root, all[begin + size_t(i)].path);
+        });
+        if (!writeBatch(scan, begin, projects))
+            return false;
+    }
+    (void)goOn(int(all.size()), int(all.size()));
+    return true;
+}
+
+bool CatalogIndexUpdate::Private::writeBatch(const CatalogScan &scan, size_t begin,
+                                             const std::vector<IndexedProject> &projects)
+{
+    if (!file.run(QStringLiteral("BEGIN IMMEDIATE")))
+        return false;
+    CatalogIndexWriter writer(file);
+    for (size_t i = 0; i < projects.size(); ++i) {
+        const CatalogScan::Work &work = scan.work()[begin + i];
+        if (!writer.enter(projects[i], work.known, scan.chainOf(work.directory)))
+            return false;
+        ++(work.known == 0 ? outcome.added : outcome.changed);
+    }
+    return file.run(QStringLiteral("COMMIT"));
+}
+
+bool CatalogIndexUpdate::Private::finish(CatalogScan &scan)
+{
+    if (!file.run(QStringLiteral("BEGIN IMMEDIATE")) || !scan.keepTimes() || !file.setComplete())
+        return false;
+    QSqlQuery count = file.prepared(QStringLiteral("SELECT count(*) FROM projects"));
+    if (!file.run(count) || !count.next())
+        return false;
+    outcome.projects = count.value(0).toInt();
+    count.finish();
+    return file.run(QStringLiteral("COMMIT"));
+}
