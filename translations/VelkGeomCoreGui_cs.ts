@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>Nalezeno projektů: %1</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>Řádků: %1</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 z %2 projektů</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>Nalezen 1 projekt</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 řádek</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Zrušit všechny filtry sloupců</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Pokračuje se od konce tabulky</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Vytváření vyhledávacího rejstříku</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Odebrat podmínku</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Přidat podmínku</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Adresář katalogů nelze přečíst.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Vyhledávací rejstřík nelze vytvořit: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Vyhledávací rejstřík se ještě vytváří.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Vyhledávací rejstřík se ještě vytváří; zatím: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Hledání selhalo: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Hledání není k dispozici.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Prvních %1 projektů; je jich víc. Hledejte přesněji.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Zkusit znovu</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filtr</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funkce</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Nalezené projekty</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logika</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Název, norma, označení nebo hodnota</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Nenalezeno</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Nic nenalezeno. Hledejte jinými slovy nebo s méně podmínkami.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Hledat jen v %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Hledat...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Hledejte slova nebo přidejte podmínky.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Hledaná slova</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabulka %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Neznámá chyba</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Proměnná</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Porovnání</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Předchozí výskyt (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>hodnota</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Rozsah hodnot (%1 hodnot): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Hledá se ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Přiřazení proměnné cílové tabulky</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>začíná na</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>platí obě porovnání</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>do</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>platí jedno z porovnání</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>obsahuje</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>a další: %1</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>nerovno</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>od–do</translation>
     </message>
 </context>
 </TS>

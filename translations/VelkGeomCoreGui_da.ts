@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 projekter fundet</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 linjer</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 af %2 projekter</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 projekt fundet</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 linje</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Ophæv alle kolonnefiltre</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Fortsat fra tabellens slutning</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Opbygning af søgeindeks</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Fjern betingelse</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Tilføj betingelse</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Katalogernes mappe kan ikke læses.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Søgeindekset kunne ikke opbygges: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Søgeindekset bliver stadig opbygget.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Søgeindekset bliver stadig opbygget; indtil nu: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Søgningen mislykkedes: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Søgningen er ikke tilgængelig.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>De første %1 projekter; der er flere. Søg mere præcist.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Prøv igen</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funktioner</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Fundne projekter</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logik</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Navn, norm, betegnelse eller værdi</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Ikke fundet</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Intet fundet. Søg med andre ord eller færre betingelser.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Søg kun i %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Søg...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Søg efter ord, eller tilføj betingelser.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Søgeord</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabel %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Ukendt fejl</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Sammenligning</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Forrige forekomst (Skift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>værdi</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Værdiområde (%1 værdier): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Der søges ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Tildeling til en variabel i måltabellen</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>begynder med</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>begge sammenligninger gælder</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>til</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>en af sammenligningerne gælder</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>indeholder</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>og %1 mere</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>forskellig fra</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>fra–til</translation>
     </message>
 </context>
 </TS>

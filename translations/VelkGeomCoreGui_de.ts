@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 Projekte gefunden</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 von %2 Projekten</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 Projekt gefunden</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 Zeile</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Alle Spaltenfilter aufheben</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Am Ende der Tabelle fortgesetzt</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Aufbau des Suchindex</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Bedingung entfernen</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Bedingung hinzufügen</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Das Verzeichnis der Kataloge kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Der Suchindex konnte nicht aufgebaut werden: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Der Suchindex wird noch aufgebaut.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Der Suchindex wird noch aufgebaut; bisher: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Die Suche ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Die Suche steht nicht zur Verfügung.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funktionen</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Gefundene Projekte</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logik</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Name, Norm, Bezeichnung oder Wert</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Nur in %1 suchen</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Suchen ...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Suchwörter</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabelle %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Unbekannter Fehler</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Vergleich</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Vorherige Fundstelle (Umschalt+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Wertebereich (%1 Werte): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Wird gesucht ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Zuweisung an eine Variable der Zieltabelle</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>beginnt mit</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>beide Vergleiche gelten</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>bis</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>einer der Vergleiche gilt</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>enthält</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>ungleich</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>von–bis</translation>
     </message>
 </context>
 </TS>

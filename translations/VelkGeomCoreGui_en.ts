@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 projects found</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 lines</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 of %2 projects</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 project found</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 line</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Clear all column filters</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Continued at the end of the table</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Building the search index</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Remove condition</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Add condition</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>The directory of the catalogs cannot be read.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>The search index could not be built: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>The search index is still being built.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>The search index is still being built; so far: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>The search failed: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>The search is not available.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>The first %1 projects; there are more. Search more precisely.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Functions</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Projects found</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logic</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Name, standard, designation or value</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Not found</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Nothing found. Search with other words or fewer conditions.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Search in %1 only</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Find ...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Search for words, or add conditions.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Search words</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Table %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Unknown error</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Comparison</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Previous match (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>value</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Value range (%1 values): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Searching ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Assignment to a variable of the target table</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>begins with</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>both comparisons hold</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>to</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>one of the comparisons holds</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>contains</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>not equal to</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>from–to</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 proyectos encontrados</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 líneas</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 de %2 proyectos</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 proyecto encontrado</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 línea</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Quitar todos los filtros de columna</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Se continuó desde el final de la tabla</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Creación del índice de búsqueda</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Quitar condición</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Añadir condición</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>No se puede leer el directorio de los catálogos.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>No se ha podido crear el índice de búsqueda: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>El índice de búsqueda aún se está creando.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>El índice de búsqueda aún se está creando; hasta ahora: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>La búsqueda ha fallado: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>La búsqueda no está disponible.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Los primeros %1 proyectos; hay más. Busque con más precisión.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Intentar de nuevo</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filtro</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funciones</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Proyectos encontrados</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Lógica</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Nombre, norma, denominación o valor</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>No encontrado</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>No se ha encontrado nada. Busque con otras palabras o menos condiciones.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Buscar solo en %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Buscar...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Busque palabras o añada condiciones.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Palabras de búsqueda</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabla %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Error desconocido</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Comparación</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Resultado anterior (Mayús+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>valor</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Rango de valores (%1 valores): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Buscando ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Asignación a una variable de la tabla de destino</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>empieza por</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>se cumplen ambas comparaciones</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>a</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>se cumple una de las comparaciones</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>contiene</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>más</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>distinto de</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>de–a</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 projektia löytyi</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 riviä</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 / %2 projektia</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 projekti löytyi</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 rivi</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Poista kaikki sarakesuodattimet</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Jatkettiin taulukon lopusta</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Hakuindeksin luonti</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Poista ehto</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Lisää ehto</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Luetteloiden hakemistoa ei voi lukea.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Hakuindeksiä ei voitu luoda: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Hakuindeksiä luodaan vielä.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Hakuindeksiä luodaan vielä; tähän mennessä: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Haku epäonnistui: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Haku ei ole käytettävissä.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Ensimmäiset %1 projektia; lisää on. Tarkenna hakua.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Yritä uudelleen</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Suodatin</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funktiot</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Löydetyt projektit</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logiikka</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Nimi, standardi, merkintä tai arvo</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Ei löytynyt</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Mitään ei löytynyt. Hae muilla sanoilla tai vähemmillä ehdoilla.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Etsi vain kohteesta %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Etsi...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Etsi sanoja tai lisää ehtoja.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Hakusanat</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Taulukko %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Tuntematon virhe</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Muuttuja</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Vertailu</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Edellinen osuma (Vaihto+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>arvo</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Arvoalue (%1 arvoa): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Etsitään ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Sijoitus kohdetaulukon muuttujaan</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>alkaa</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>molemmat vertailut pätevät</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>–</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>jokin vertailuista pätee</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>sisältää</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>ja %1 muuta</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>eri suuri kuin</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>välillä</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 projets trouvés</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 lignes</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 projets sur %2</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 projet trouvé</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 ligne</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Supprimer tous les filtres de colonne</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Poursuivi à la fin de la table</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Création de l'index de recherche</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Supprimer la condition</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Ajouter une condition</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Le répertoire des catalogues ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>L'index de recherche n'a pas pu être créé : %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>L'index de recherche est encore en cours de création.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>L'index de recherche est encore en cours de création ; pour l'instant : %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>La recherche a échoué : %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>La recherche n'est pas disponible.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Les %1 premiers projets ; il y en a d'autres. Précisez la recherche.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filtre</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Fonctions</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Projets trouvés</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logique</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Nom, norme, désignation ou valeur</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Rien trouvé. Recherchez avec d'autres mots ou moins de conditions.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Rechercher uniquement dans %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Rechercher...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Recherchez des mots ou ajoutez des conditions.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Mots recherchés</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Table %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Erreur inconnue</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Comparaison</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Occurrence précédente (Maj+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>valeur</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Plage de valeurs (%1 valeurs) : %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Recherche ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Affectation à une variable de la table cible</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>commence par</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>les deux comparaisons sont vraies</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>à</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>l'une des comparaisons est vraie</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>contient</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>et %1 autres</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>différent de</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>de–à</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 projekt található</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 sor</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 / %2 projekt</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 projekt található</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 sor</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Minden oszlopszűrő megszüntetése</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Folytatás a táblázat végétől</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Keresőindex felépítése</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Feltétel eltávolítása</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Feltétel hozzáadása</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>A katalógusok könyvtára nem olvasható.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>A keresőindex nem építhető fel: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>A keresőindex még épül.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>A keresőindex még épül; eddig: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>A keresés sikertelen: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>A keresés nem érhető el.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Az első %1 projekt; több is van. Keressen pontosabban.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Újra</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Szűrő</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Függvények</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Talált projektek</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logika</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Név, szabvány, megnevezés vagy érték</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Nem található</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Nincs találat. Keressen más szavakkal vagy kevesebb feltétellel.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Keresés csak itt: %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Keresés...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Keressen szavakra, vagy adjon hozzá feltételeket.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Keresőszavak</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Táblázat: %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Ismeretlen hiba</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Változó</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Összehasonlítás</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Előző találat (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>érték</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Értéktartomány (%1 érték): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Keresés ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Értékadás a céltábla egy változójának</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>ezzel kezdődik</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>mindkét összehasonlítás igaz</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>–</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>az egyik összehasonlítás igaz</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>tartalmazza</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plusz</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>és még %1</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>nem egyenlő</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>-tól–-ig</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 proyek ditemukan</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 baris</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 dari %2 proyek</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 proyek ditemukan</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 baris</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Hapus semua saringan kolom</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Dilanjutkan dari akhir tabel</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Pembuatan indeks pencarian</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Hapus syarat</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Tambah kondisi</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Direktori katalog tidak dapat dibaca.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Indeks pencarian tidak dapat dibuat: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Indeks pencarian masih dibuat.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Indeks pencarian masih dibuat; sejauh ini: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Pencarian gagal: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Pencarian tidak tersedia.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>%1 proyek pertama; masih ada lagi. Cari lebih tepat.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Coba lagi</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Saringan</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Fungsi</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Proyek yang ditemukan</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logika</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Nama, standar, sebutan, atau nilai</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Tidak ditemukan</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Tidak ditemukan. Cari dengan kata lain atau syarat lebih sedikit.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Cari hanya di %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Cari...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Cari kata atau tambah syarat.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Kata pencarian</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabel %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Kesalahan tidak dikenal</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Perbandingan</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Temuan sebelumnya (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>nilai</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Rentang nilai (%1 nilai): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Mencari ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Penetapan ke variabel tabel target</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>diawali dengan</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>kedua perbandingan berlaku</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>sampai</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>salah satu perbandingan berlaku</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>berisi</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>tambah</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>dan %1 lainnya</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>tidak sama dengan</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>dari–sampai</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 progetti trovati</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 righe</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 di %2 progetti</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 progetto trovato</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 riga</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Rimuovere tutti i filtri colonna</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Continuato dalla fine della tabella</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Creazione dell'indice di ricerca</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Rimuovi condizione</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Aggiungi condizione</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Impossibile leggere la directory dei cataloghi.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Impossibile creare l'indice di ricerca: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>L'indice di ricerca è ancora in creazione.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>L'indice di ricerca è ancora in creazione; finora: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>La ricerca è fallita: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>La ricerca non è disponibile.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>I primi %1 progetti; ce ne sono altri. Cerca con più precisione.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filtro</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funzioni</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Progetti trovati</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logica</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Nome, norma, denominazione o valore</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Non trovato</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Nessun risultato. Cerca con altre parole o meno condizioni.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Cerca solo in %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Cerca...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Cerca parole o aggiungi condizioni.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Parole da cercare</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabella %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Errore sconosciuto</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabile</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Confronto</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Risultato precedente (Maiusc+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>valore</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Intervallo di valori (%1 valori): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Ricerca in corso ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Assegnazione a una variabile della tabella di destinazione</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>inizia con</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>valgono entrambi i confronti</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>a</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>vale uno dei confronti</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>contiene</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>più</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>e altre %1</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>diverso da</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>da–a</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 件のプロジェクトが見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 / %2 プロジェクト</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 件のプロジェクトが見つかりました</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 行</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>すべての列フィルターを解除</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>テーブルの末尾から続行しました</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>検索インデックスの作成</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>条件を削除</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>条件を追加</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>カタログのディレクトリを読み取れません。</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>検索インデックスを作成できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>検索インデックスを作成しています。</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>検索インデックスを作成しています。現在: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>検索に失敗しました: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>検索は利用できません。</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>最初の %1 件です。ほかにもあります。検索を絞り込んでください。</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>フィルター</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>関数</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>見つかったプロジェクト</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>論理</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>名前、規格、呼称、値</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>見つかりませんでした。別の語や少ない条件で検索してください。</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>%1 のみを検索</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>検索...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>語を検索するか、条件を追加してください。</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>検索語</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>テーブル %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>不明なエラー</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>変数</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>比較</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>前の一致 (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>値</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>値範囲（%1個の値）: %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>検索中 ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>対象テーブルの変数への代入</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>で始まる</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>両方の比較が成り立つ</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>～</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>比較のどちらかが成り立つ</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>含む</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>足す</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>他 %1 件</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>等しくない</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>範囲</translation>
     </message>
 </context>
 </TS>

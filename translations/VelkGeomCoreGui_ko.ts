@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>프로젝트 %1개 찾음</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1행</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 / %2 프로젝트</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>프로젝트 1개 찾음</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1행</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>모든 열 필터 해제</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>테이블의 끝에서 계속했습니다</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>검색 색인 작성</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>조건 제거</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>조건 추가</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>카탈로그 디렉터리를 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>검색 색인을 만들 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>검색 색인을 아직 만들고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>검색 색인을 아직 만들고 있습니다. 현재: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>검색하지 못했습니다: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>검색을 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>처음 %1개 프로젝트입니다. 더 있습니다. 더 정확히 검색하세요.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>필터</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>함수</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>찾은 프로젝트</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>논리</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>이름, 표준, 명칭 또는 값</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>찾을 수 없음</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>찾은 것이 없습니다. 다른 단어나 더 적은 조건으로 검색하세요.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>%1에서만 검색</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>찾기...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>단어를 검색하거나 조건을 추가하세요.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>검색어</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>테이블 %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>알 수 없는 오류</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>변수</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>비교</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>이전 찾기 (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>값</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>값 범위(값 %1개): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>검색 중 ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>대상 테이블 변수에 할당</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>시작 문자</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>두 비교가 모두 성립</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>~</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>비교 중 하나가 성립</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>포함</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>더하기</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>외 %1개</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>같지 않음</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>범위</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 prosjekter funnet</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 linjer</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 av %2 prosjekter</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 prosjekt funnet</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 linje</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Opphev alle kolonnefiltre</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Fortsatt fra slutten av tabellen</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Oppbygging av søkeindeks</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Fjern betingelse</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Legg til betingelse</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Katalogenes mappe kan ikke leses.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Søkeindeksen kunne ikke bygges: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Søkeindeksen bygges fortsatt.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Søkeindeksen bygges fortsatt; så langt: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Søket mislyktes: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Søket er ikke tilgjengelig.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>De første %1 prosjektene; det finnes flere. Søk mer presist.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Prøv igjen</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funksjoner</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Prosjekter funnet</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logikk</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Navn, norm, betegnelse eller verdi</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Ikke funnet</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Ingenting funnet. Søk med andre ord eller færre betingelser.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Søk bare i %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Søk...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Søk etter ord, eller legg til betingelser.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Søkeord</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabell %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Ukjent feil</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Sammenligning</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Forrige treff (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>verdi</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Verdiområde (%1 verdier): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Søker ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Tildeling til en variabel i måltabellen</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>begynner med</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>begge sammenligninger gjelder</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>til</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>en av sammenligningene gjelder</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>inneholder</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>pluss</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>og %1 til</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>ulik</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>fra–til</translation>
     </message>
 </context>
 </TS>

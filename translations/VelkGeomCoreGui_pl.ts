@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>Znaleziono projektów: %1</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>Wierszy: %1</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 z %2 projektów</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>Znaleziono 1 projekt</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 wiersz</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Usuń wszystkie filtry kolumn</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Kontynuacja od końca tabeli</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Tworzenie indeksu wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Usuń warunek</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Dodaj warunek</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Nie można odczytać katalogu z katalogami.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Nie można utworzyć indeksu wyszukiwania: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Indeks wyszukiwania jest jeszcze tworzony.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Indeks wyszukiwania jest jeszcze tworzony; dotąd: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Wyszukiwanie nie powiodło się: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Wyszukiwanie jest niedostępne.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Pierwsze %1 projektów; jest ich więcej. Szukaj dokładniej.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Spróbuj ponownie</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filtr</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funkcje</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Znalezione projekty</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logika</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Nazwa, norma, oznaczenie lub wartość</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Nie znaleziono</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Nic nie znaleziono. Szukaj innymi słowami lub z mniejszą liczbą warunków.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Szukaj tylko w %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Szukaj...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Szukaj słów lub dodaj warunki.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Szukane słowa</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabela %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Nieznany błąd</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Zmienna</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Porównanie</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Poprzednie wystąpienie (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>wartość</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Zakres wartości (%1 wartości): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Wyszukiwanie ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Przypisanie do zmiennej tabeli docelowej</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>zaczyna się od</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>oba porównania są spełnione</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>do</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>jedno z porównań jest spełnione</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>zawiera</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>i jeszcze: %1</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>różne</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>od–do</translation>
     </message>
 </context>
 </TS>

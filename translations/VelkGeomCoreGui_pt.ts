@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 projetos encontrados</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 linhas</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 de %2 projetos</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 projeto encontrado</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 linha</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Remover todos os filtros de coluna</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Continuado no fim da tabela</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Criação do índice de pesquisa</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Remover condição</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Adicionar condição</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Não é possível ler o diretório dos catálogos.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Não foi possível criar o índice de pesquisa: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>O índice de pesquisa ainda está sendo criado.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>O índice de pesquisa ainda está sendo criado; até agora: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>A pesquisa falhou: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>A pesquisa não está disponível.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Os primeiros %1 projetos; há mais. Pesquise com mais precisão.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filtro</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funções</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Projetos encontrados</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Lógica</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Nome, norma, designação ou valor</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Não encontrado</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Nada encontrado. Pesquise com outras palavras ou menos condições.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Pesquisar apenas em %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Procurar...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Pesquise palavras ou adicione condições.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Palavras de pesquisa</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabela %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Erro desconhecido</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variável</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Comparação</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Ocorrência anterior (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>valor</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Intervalo de valores (%1 valores): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Pesquisando ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Atribuição a uma variável da tabela de destino</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>começa com</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>ambas as comparações são válidas</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>até</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>uma das comparações é válida</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>contém</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>mais</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>e mais %1</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>diferente de</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>de–até</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>Найдено проектов: %1</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>Строк: %1</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 из %2 проектов</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>Найден 1 проект</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 строка</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Снять все фильтры столбцов</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Продолжено с конца таблицы</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Построение поискового индекса</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Удалить условие</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Добавить условие</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Не удаётся прочитать каталог с каталогами.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Не удалось построить поисковый индекс: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Поисковый индекс ещё строится.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Поисковый индекс ещё строится; пока: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Ошибка поиска: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Поиск недоступен.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Первые %1 проектов; есть и другие. Уточните поиск.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Фильтр</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Функции</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Найденные проекты</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Логика</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Имя, стандарт, обозначение или значение</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Не найдено</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Ничего не найдено. Попробуйте другие слова или меньше условий.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Искать только в %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Найти...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Ищите слова или добавьте условия.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Слова для поиска</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Таблица %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Неизвестная ошибка</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Переменная</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Сравнение</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Предыдущее совпадение (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>значение</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Диапазон значений (значений: %1): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Идёт поиск ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Присваивание переменной целевой таблицы</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>начинается с</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>верны оба сравнения</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>до</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>верно одно из сравнений</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>содержит</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>плюс</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>и ещё %1</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>не равно</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>от–до</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>Najdenih projektov: %1</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>Vrstic: %1</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 od %2 projektov</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>Najden 1 projekt</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 vrstica</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Odstrani vse filtre stolpcev</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Nadaljevano na koncu tabele</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Gradnja iskalnega kazala</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Odstrani pogoj</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Dodaj pogoj</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Imenika katalogov ni mogoče prebrati.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Iskalnega kazala ni bilo mogoče zgraditi: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Iskalno kazalo se še gradi.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Iskalno kazalo se še gradi; doslej: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Iskanje ni uspelo: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Iskanje ni na voljo.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>Prvih %1 projektov; obstajajo še drugi. Iščite natančneje.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Poskusi znova</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funkcije</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Najdeni projekti</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logika</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Ime, standard, oznaka ali vrednost</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Ni najdeno</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Ni zadetkov. Iščite z drugimi besedami ali manj pogoji.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Išči samo v %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Išči...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Iščite besede ali dodajte pogoje.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Iskane besede</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabela %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Neznana napaka</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Spremenljivka</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Primerjava</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Prejšnji zadetek (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>vrednost</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Območje vrednosti (vrednosti: %1): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Iskanje ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Prireditev spremenljivki ciljne tabele</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>se začne z</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>veljata obe primerjavi</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>do</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>velja ena od primerjav</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>vsebuje</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>in še %1</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>ni enako</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>od–do</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 projekt hittades</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 rader</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 av %2 projekt</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 projekt hittades</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 rad</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Ta bort alla kolumnfilter</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Fortsatte från tabellens slut</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Sökindex skapas</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Ta bort villkor</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Lägg till villkor</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Katalogernas mapp kan inte läsas.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Sökindexet kunde inte skapas: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Sökindexet skapas fortfarande.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Sökindexet skapas fortfarande; hittills: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Sökningen misslyckades: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Sökningen är inte tillgänglig.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>De första %1 projekten; det finns fler. Sök mer exakt.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Försök igen</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>Funktioner</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Hittade projekt</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Logik</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Namn, standard, beteckning eller värde</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Hittades inte</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Inget hittades. Sök med andra ord eller färre villkor.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Sök endast i %1</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Sök...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Sök efter ord eller lägg till villkor.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Sökord</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tabell %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Okänt fel</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Jämförelse</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Föregående träff (Skift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>värde</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Värdeområde (%1 värden): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Söker ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Tilldelning till en variabel i måltabellen</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>börjar med</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>båda jämförelserna gäller</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>till</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>en av jämförelserna gäller</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>innehåller</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>plus</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>och %1 till</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>skild från</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>från–till</translation>
     </message>
 </context>
 </TS>

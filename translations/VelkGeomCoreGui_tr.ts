@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>%1 proje bulundu</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 satır</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 / %2 proje</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>1 proje bulundu</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 satır</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Tüm sütun süzgeçlerini kaldır</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>Tablonun sonundan devam edildi</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>Arama dizini oluşturma</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>Koşulu kaldır</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>Koşul ekle</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>Katalogların dizini okunamıyor.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>Arama dizini oluşturulamadı: %1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>Arama dizini hâlâ oluşturuluyor.</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>Arama dizini hâlâ oluşturuluyor; şimdiye dek: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>Arama başarısız: %1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>Arama kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>İlk %1 proje; daha fazlası var. Daha ayrıntılı arayın.</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>Yeniden dene</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>Süzgeç</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>İşlevler</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>Bulunan projeler</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>Mantık</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>Ad, standart, gösterim veya değer</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>Bulunamadı</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>Bir şey bulunamadı. Başka sözcüklerle veya daha az koşulla arayın.</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>Yalnızca %1 içinde ara</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>Ara...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>Sözcük arayın veya koşul ekleyin.</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>Arama sözcükleri</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>Tablo %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>Bilinmeyen hata</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Değişken</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>Karşılaştırma</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>Önceki eşleşme (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>değer</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Değer aralığı (%1 değer): %2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>Aranıyor ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>Hedef tablonun bir değişkenine atama</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>ile başlar</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>iki karşılaştırma da geçerli</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>–</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>karşılaştırmalardan biri geçerli</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>içerir</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>artı</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>ve %1 tane daha</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>eşit değil</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>arasında</translation>
     </message>
 </context>
 </TS>

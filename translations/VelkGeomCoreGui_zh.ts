@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>找到 %1 个项目</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 / %2 个项目</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>找到 1 个项目</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 行</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>清除所有列筛选</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>已从表尾继续</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>构建搜索索引</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>删除条件</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>添加条件</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>无法读取目录所在的文件夹。</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>无法构建搜索索引：%1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>搜索索引仍在构建。</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>搜索索引仍在构建；目前：%1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>搜索失败：%1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>搜索不可用。</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>前 %1 个项目；还有更多。请更精确地搜索。</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>重试</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>筛选</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>函数</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>找到的项目</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>逻辑</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>名称、标准、标记或值</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>未找到任何内容。请使用其他词语或更少的条件搜索。</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>仅在 %1 中搜索</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>查找...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>搜索词语或添加条件。</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>搜索词</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>表 %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>未知错误</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>比较</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>上一个匹配 (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>值</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>值范围（%1 个值）：%2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>正在搜索 ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>给目标表的变量赋值</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>开头为</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>两个比较都成立</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>至</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>其中一个比较成立</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>包含</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>加</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>还有 %1 个</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>不等于</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>范围</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,26 @@
 <context>
     <name>VelkGeomCoreGui</name>
     <message>
+        <source>%1 Projekte gefunden</source>
+        <translation>找到 %1 個專案</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten</source>
+        <translation>%1 / %2 個專案</translation>
+    </message>
+    <message>
+        <source>1 Projekt gefunden</source>
+        <translation>找到 1 個專案</translation>
+    </message>
+    <message>
+        <source>1 Zeile</source>
+        <translation>1 行</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>清除所有欄篩選</translation>
     </message>
@@ -16,12 +36,60 @@
         <translation>已從表格結尾繼續</translation>
     </message>
     <message>
+        <source>Aufbau des Suchindex</source>
+        <translation>建立搜尋索引</translation>
+    </message>
+    <message>
+        <source>Bedingung entfernen</source>
+        <translation>移除條件</translation>
+    </message>
+    <message>
+        <source>Bedingung hinzufügen</source>
+        <translation>新增條件</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Kataloge kann nicht gelesen werden.</source>
+        <translation>無法讀取目錄所在的資料夾。</translation>
+    </message>
+    <message>
+        <source>Der Suchindex konnte nicht aufgebaut werden: %1</source>
+        <translation>無法建立搜尋索引：%1</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut.</source>
+        <translation>搜尋索引仍在建立。</translation>
+    </message>
+    <message>
+        <source>Der Suchindex wird noch aufgebaut; bisher: %1</source>
+        <translation>搜尋索引仍在建立；目前：%1</translation>
+    </message>
+    <message>
+        <source>Die Suche ist fehlgeschlagen: %1</source>
+        <translation>搜尋失敗：%1</translation>
+    </message>
+    <message>
+        <source>Die Suche steht nicht zur Verfügung.</source>
+        <translation>搜尋無法使用。</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
+        <translation>前 %1 個專案；還有更多。請更精確地搜尋。</translation>
+    </message>
+    <message>
+        <source>Erneut versuchen</source>
+        <translation>重試</translation>
+    </message>
+    <message>
         <source>Filter</source>
         <translation>篩選</translation>
     </message>
     <message>
         <source>Funktionen</source>
         <translation>函數</translation>
+    </message>
+    <message>
+        <source>Gefundene Projekte</source>
+        <translation>找到的專案</translation>
     </message>
     <message>
         <source>In der Tabelle suchen</source>
@@ -36,8 +104,20 @@
         <translation>邏輯</translation>
     </message>
     <message>
+        <source>Name, Norm, Bezeichnung oder Wert</source>
+        <translation>名稱、標準、標記或值</translation>
+    </message>
+    <message>
         <source>Nicht gefunden</source>
         <translation>找不到</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden. Suchen Sie mit anderen Wörtern oder weniger Bedingungen.</source>
+        <translation>找不到任何內容。請用其他字詞或較少條件搜尋。</translation>
+    </message>
+    <message>
+        <source>Nur in %1 suchen</source>
+        <translation>僅在 %1 中搜尋</translation>
     </message>
     <message>
         <source>Nächste Fundstelle (F3)</source>
@@ -84,16 +164,44 @@
         <translation>尋找...</translation>
     </message>
     <message>
+        <source>Suchen Sie nach Wörtern, oder fügen Sie Bedingungen hinzu.</source>
+        <translation>搜尋字詞或新增條件。</translation>
+    </message>
+    <message>
+        <source>Suchwörter</source>
+        <translation>搜尋字詞</translation>
+    </message>
+    <message>
         <source>Tabelle %1</source>
         <translation>表格 %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Fehler</source>
+        <translation>未知錯誤</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>變數</translation>
+    </message>
+    <message>
+        <source>Vergleich</source>
+        <translation>比較</translation>
     </message>
     <message>
         <source>Vorherige Fundstelle (Umschalt+F3)</source>
         <translation>上一個符合項目 (Shift+F3)</translation>
     </message>
     <message>
+        <source>Wert</source>
+        <translation>值</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>值範圍（%1 個值）：%2</translation>
+    </message>
+    <message>
+        <source>Wird gesucht ...</source>
+        <translation>正在搜尋 ...</translation>
     </message>
     <message>
         <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
@@ -104,8 +212,16 @@
         <translation>指派給目標表的變數</translation>
     </message>
     <message>
+        <source>beginnt mit</source>
+        <translation>開頭為</translation>
+    </message>
+    <message>
         <source>beide Vergleiche gelten</source>
         <translation>兩個比較都成立</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>至</translation>
     </message>
     <message>
         <source>der Vergleich gilt nicht</source>
@@ -114,6 +230,10 @@
     <message>
         <source>einer der Vergleiche gilt</source>
         <translation>其中一個比較成立</translation>
+    </message>
+    <message>
+        <source>enthält</source>
+        <translation>包含</translation>
     </message>
     <message>
         <source>geteilt durch</source>
@@ -156,8 +276,16 @@
         <translation>加</translation>
     </message>
     <message>
+        <source>und %1 weitere</source>
+        <translation>還有 %1 個</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>不等於</translation>
+    </message>
+    <message>
+        <source>von–bis</source>
+        <translation>範圍</translation>
     </message>
 </context>
 </TS>

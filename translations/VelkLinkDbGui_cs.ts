@@ -382,6 +382,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Vybrat projekt</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Hledat nebo vybrat projekt</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Otevřít projekt</translation>
     </message>
@@ -392,6 +396,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Projektpfad:</source>
         <translation>Cesta k projektu:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Hledat</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Vælg projekt</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Søg eller vælg projekt</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Åbn projekt</translation>
     </message>
@@ -392,6 +396,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Projektsti:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Søg</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Projekt auswählen</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Projekt suchen oder auswählen</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Projekt öffnen</translation>
     </message>
@@ -392,6 +396,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Projektpfad:</source>
         <translation>Projektpfad:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Select project</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Search or select project</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Open project</translation>
     </message>
@@ -392,6 +396,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Project path:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Search</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

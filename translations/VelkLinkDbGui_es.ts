@@ -382,6 +382,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Seleccionar proyecto</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Buscar o seleccionar proyecto</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Abrir proyecto</translation>
     </message>
@@ -392,6 +396,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Projektpfad:</source>
         <translation>Ruta del proyecto:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Valitse projekti</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Etsi tai valitse projekti</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Avaa projekti</translation>
     </message>
@@ -392,6 +396,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Projektpfad:</source>
         <translation>Projektin polku:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Etsi</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Sélectionner un projet</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Rechercher ou sélectionner un projet</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Ouvrir le projet</translation>
     </message>
@@ -392,6 +396,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Projektpfad:</source>
         <translation>Chemin du projet :</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Projekt kiválasztása</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Projekt keresése vagy kiválasztása</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Projekt megnyitása</translation>
     </message>
@@ -392,6 +396,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Projektpfad:</source>
         <translation>Projekt útvonala:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Keresés</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

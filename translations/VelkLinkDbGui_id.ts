@@ -382,6 +382,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Pilih proyek</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Cari atau pilih proyek</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Buka proyek</translation>
     </message>
@@ -392,6 +396,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Jalur proyek:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Cari</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

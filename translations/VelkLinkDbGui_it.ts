@@ -382,6 +382,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Seleziona progetto</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Cerca o seleziona progetto</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Aprire il progetto</translation>
     </message>
@@ -392,6 +396,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Projektpfad:</source>
         <translation>Percorso del progetto:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Cerca</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

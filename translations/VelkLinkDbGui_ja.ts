@@ -382,6 +382,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>プロジェクトを選択</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>プロジェクトを検索または選択</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>プロジェクトを開く</translation>
     </message>
@@ -392,6 +396,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>プロジェクトのパス:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>検索</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>프로젝트 선택</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>프로젝트 검색 또는 선택</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>프로젝트 열기</translation>
     </message>
@@ -392,6 +396,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>프로젝트 경로:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>검색</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Velg prosjekt</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Søk etter eller velg prosjekt</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Åpne prosjekt</translation>
     </message>
@@ -392,6 +396,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Projektpfad:</source>
         <translation>Prosjektsti:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Søk</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

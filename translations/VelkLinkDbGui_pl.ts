@@ -382,6 +382,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Wybierz projekt</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Wyszukaj lub wybierz projekt</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Otwórz projekt</translation>
     </message>
@@ -392,6 +396,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Projektpfad:</source>
         <translation>Ścieżka projektu:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Szukaj</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Selecionar projeto</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Pesquisar ou selecionar projeto</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Abrir projeto</translation>
     </message>
@@ -392,6 +396,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Projektpfad:</source>
         <translation>Caminho do projeto:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Pesquisar</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Выбрать проект</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Найти или выбрать проект</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Открыть проект</translation>
     </message>
@@ -392,6 +396,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>Путь проекта:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Поиск</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

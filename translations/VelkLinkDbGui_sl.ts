@@ -382,6 +382,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Izberi projekt</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Poišči ali izberi projekt</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Odpri projekt</translation>
     </message>
@@ -392,6 +396,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Projektpfad:</source>
         <translation>Pot projekta:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Išči</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

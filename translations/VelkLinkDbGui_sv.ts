@@ -382,6 +382,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Välj projekt</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Sök eller välj projekt</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Öppna projekt</translation>
     </message>
@@ -392,6 +396,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Projektpfad:</source>
         <translation>Projektets sökväg:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Sök</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

@@ -382,6 +382,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Proje seç</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>Proje ara veya seç</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>Projeyi aç</translation>
     </message>
@@ -392,6 +396,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Projektpfad:</source>
         <translation>Proje yolu:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Ara</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

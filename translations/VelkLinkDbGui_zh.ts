@@ -382,6 +382,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>选择项目</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>搜索或选择项目</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>打开项目</translation>
     </message>
@@ -392,6 +396,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>项目路径：</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>搜索</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

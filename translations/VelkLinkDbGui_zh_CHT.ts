@@ -382,6 +382,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>選擇專案</translation>
     </message>
     <message>
+        <source>Projekt suchen oder auswählen</source>
+        <translation>搜尋或選擇專案</translation>
+    </message>
+    <message>
         <source>Projekt öffnen</source>
         <translation>開啟專案</translation>
     </message>
@@ -392,6 +396,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Projektpfad:</source>
         <translation>專案路徑：</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>搜尋</translation>
     </message>
     <message>
         <source>Syntax prüfen</source>

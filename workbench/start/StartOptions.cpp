@@ -27,6 +27,8 @@ void addOptions(QCommandLineParser &parser)
         {"select", "Selects a project by its source path.", "PATH"},
         {"line", "Selects a line of that project by its number.", "N"},
         {"screenshot", "Renders the editor into a PNG file, without a display, and ends.", "FILE"},
+        {"dialog", "Renders a dialog instead: formula or search.", "DIALOG"},
+        {"text", "Text in that dialog.", "TEXT"},
         {"size", "Size of the window, such as 1400x900.", "WxH"},
         {"scale", "Pixels for a length of 1 in a screenshot: 1 or 2.", "N", "1"},
         {"theme", "light or dark.", "THEME"},
@@ -54,6 +56,8 @@ QString wrongValue(const QCommandLineParser &parser, const StartOptions &options
         return wrong("size", "of the form WxH");
     if (options.scale != 1 && options.scale != 2)
         return wrong("scale", "1 or 2");
+    if (parser.isSet("dialog") && options.dialog != "formula" && options.dialog != "search")
+        return wrong("dialog", "formula or search");
     if (!options.theme.isEmpty() && options.theme != "light" && options.theme != "dark")
         return wrong("theme", "light or dark");
     if (!options.language.isEmpty() && !EditorLanguages::all().contains(options.language))
@@ -86,6 +90,8 @@ StartOptions StartOptions::parse(const QStringList &arguments)
     options.release = parser.value("release");
     options.selectedPath = parser.value("select");
     options.screenshot = parser.value("screenshot");
+    options.dialog = parser.value("dialog");
+    options.dialogText = parser.value("text");
     options.theme = parser.value("theme");
     options.language = parser.value("language");
     options.settingsDirectory = parser.value("settings");

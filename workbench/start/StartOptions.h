@@ -22,6 +22,8 @@ struct StartOptions
     QString release;      ///< source date; empty: the last release of the file
     QString selectedPath; ///< source path of a project
     int selectedLine = -1;
+    QString dialog;     ///< of the screenshot: "formula", "search"; empty: the window
+    QString dialogText; ///< in that dialog
     QString screenshot; ///< file; the program renders the editor into it and ends
     QSize size;         ///< of the window, in device independent pixels
     QString theme;      ///< "light", "dark"; empty: as set

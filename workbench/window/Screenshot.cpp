@@ -3,6 +3,7 @@
 #include "EditorArea.h"
 #include "LogWindow.h"
 #include "MainWindow.h"
+#include "ScreenshotDialog.h"
 
 #include <workbench/session/CatalogRootMemory.h>
 #include <workbench/start/StartOptions.h>
@@ -79,7 +80,11 @@ int Screenshot::take(DocumentDesk::Wish wish, QSettings *store)
         return fail(Unreadable, "there is no such project or line: " + m_options.selectedPath +
                                     ' ' + QString::number(m_options.selectedLine));
     settle();
-    const bool saved = m_window.grab().save(m_options.screenshot, "PNG");
+    const QPixmap picture =
+        m_options.dialog.isEmpty()
+            ? m_window.grab()
+            : ScreenshotDialog::take(m_options.dialog, m_options.dialogText, *m_window.editor());
+    const bool saved = picture.save(m_options.screenshot, "PNG");
     // The copy goes with this function, and what is open with it.
     m_window.editor()->close();
     m_window.desk()->document()->close();

@@ -150,6 +150,27 @@ private Q_SLOTS:
         QCOMPARE(QDir(fixture.directory.path()).entryList(QDir::Files), before);
     }
 
+    void rendersDialogs_data()
+    {
+        QTest::addColumn<QStringList>("extra");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("formula") << QStringList{"--dialog", "formula", "--text", "Dia .EQ. 12"}
+                                 << QSize(560, 260);
+        QTest::newRow("search") << QStringList{"--dialog", "search", "--text", "din"}
+                                << QSize(640, 520);
+    }
+    void rendersDialogs()
+    {
+        QFETCH(QStringList, extra);
+        const WindowFixture fixture;
+        const QString picture = fixture.directory.filePath("p.png");
+        qputenv("XDG_CACHE_HOME", fixture.directory.filePath("cache").toUtf8());
+        const Run run = program(pictureOf(fixture.mappingFile(), picture) + extra);
+        qunsetenv("XDG_CACHE_HOME");
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QTEST(QImage(picture).size(), "size");
+    }
+
     void picturesAreTheSameTwice()
     {
         const WindowFixture fixture;

@@ -53,6 +53,16 @@ private Q_SLOTS:
         QCOMPARE(options.theme, QStringLiteral("dark"));
         QCOMPARE(options.language, QStringLiteral("en"));
         QCOMPARE(options.settingsDirectory, QStringLiteral("s"));
+        QCOMPARE(options.dialog, QString());
+    }
+
+    void readsADialog()
+    {
+        const StartOptions options =
+            StartOptions::parse({"--screenshot", "p", "--dialog", "search", "--text", "din 9"});
+        QCOMPARE(options.outcome, StartOptions::Outcome::Run);
+        QCOMPARE(options.dialog, QStringLiteral("search"));
+        QCOMPARE(options.dialogText, QStringLiteral("din 9"));
     }
 
     void needsNone()
@@ -77,6 +87,8 @@ private Q_SLOTS:
             << QStringList{"--line=-3"} << "--line is not the number of a line: -3";
         QTest::newRow("size") << QStringList{"--size", "800"}
                               << "--size is not of the form WxH: 800";
+        QTest::newRow("dialog") << QStringList{"--dialog", "x"}
+                                << "--dialog is not formula or search: x";
         QTest::newRow("scale") << QStringList{"--scale", "3"} << "--scale is not 1 or 2: 3";
         QTest::newRow("theme") << QStringList{"--theme", "red"}
                                << "--theme is not light or dark: red";

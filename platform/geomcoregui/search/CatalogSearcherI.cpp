@@ -1,0 +1,8 @@
+#include "CatalogSearcherI.h"
+
+CatalogSearcherI::CatalogSearcherI(QObject *parent)
+    : QObject(parent)
+{
+}
+
+CatalogSearcherI::~CatalogSearcherI() = default;

@@ -1,0 +1,8 @@
+#include "ItemViewBase.h"
+
+ItemViewBase::ItemViewBase(QWidget *parent)
+    : QListView(parent)
+{
+}
+
+ItemViewBase::~ItemViewBase() = default;

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// Text of the search widgets in the language of the moment.
+[[nodiscard]] QString searchText(const char *text);
