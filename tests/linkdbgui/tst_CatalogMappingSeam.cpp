@@ -62,6 +62,7 @@ private Q_SLOTS:
     void tellsTheProject();
     void tellsTheLines();
     void selectsAProjectPastTheFilter();
+    void bringsASelectedProjectIntoView();
     void selectsAProjectByVersion();
     void selectsALinePastTheFilter_data();
     void selectsALinePastTheFilter();
@@ -69,6 +70,7 @@ private Q_SLOTS:
     void showsAMappingSilently();
     void showsAMappingOfAnotherProject();
     void opensTheProjectAnewForOtherTargets();
+    void openingAnewKeepsThePlaceInTheTable();
     void tellsReassignment();
     void tellsCopiedConditions();
     void filtersOpenProjects();
@@ -144,6 +146,28 @@ void tst_CatalogMappingSeam::selectsAProjectPastTheFilter()
     QVERIFY(editor.tree->isExpanded(editor.row("old/done")));
     QVERIFY(!editor.widget->selectProject("old/dir/none.prj"));
     QVERIFY(!editor.widget->selectProject(QString()));
+}
+
+void tst_CatalogMappingSeam::bringsASelectedProjectIntoView()
+{
+    ReleaseMappingC release;
+    release.setSourceDate("2024");
+    const auto path = [](int number) {
+        return QStringLiteral("old/dir/p%1.prj").arg(number, 3, 10, QLatin1Char('0'));
+    };
+    for (int number = 0; number < 200; ++number)
+        release.addMapping(verifiedMapping(path(number)));
+    const Editor editor(release);
+    editor.show();
+    const auto isInView = [&](int number) {
+        return editor.tree->viewport()->rect().contains(
+            editor.tree->visualRect(editor.row(path(number))).center());
+    };
+    QVERIFY(!isInView(199));
+    QVERIFY(editor.widget->selectProject(path(199)));
+    QVERIFY(isInView(199));
+    QVERIFY(editor.widget->selectProject(path(0)));
+    QVERIFY(isInView(0));
 }
 
 void tst_CatalogMappingSeam::selectsAProjectByVersion()
@@ -254,6 +278,29 @@ void tst_CatalogMappingSeam::opensTheProjectAnewForOtherTargets()
     QCOMPARE(editor.widget->currentLine(), 2);
     QCOMPARE(announced.count(), 0);
     QVERIFY(!editor.calls.contains("updateMapping"));
+}
+
+void tst_CatalogMappingSeam::openingAnewKeepsThePlaceInTheTable()
+{
+    const Editor editor;
+    QByteArray table = "D,k:n\n";
+    for (int line = 1; line <= 300; ++line)
+        table += 'M' + QByteArray::number(line) + ",1\n";
+    editor.catalog.write(a, table);
+    editor.show();
+    editor.click(a);
+    auto *const source = editor.table->findChild<VkTableView *>("sourceView");
+    source->setVerticalScrollPos(120);
+    const int place = source->getVerticalScrollPos();
+    QVERIFY(place > 0);
+    PrjMappingC changed = editor.stored(a);
+    PrjMappingTargetC added;
+    added.setTargetPath("new/a.prj");
+    added.setValid(true);
+    changed.insertTarget(1, added);
+    changeBehind(editor, changed);
+    QCOMPARE(editor.widget->currentLine(), -1);
+    QCOMPARE(source->getVerticalScrollPos(), place);
 }
 
 void tst_CatalogMappingSeam::tellsReassignment()
@@ -378,6 +425,12 @@ void tst_CatalogMappingSeam::keepsPaneSizes()
     auto *const splitter = editor.widget->findChild<QSplitter *>("catalogSplitter");
     QVERIFY(!editor.widget->restoreState(QByteArray()));
     const QList<int> standard = splitter->sizes();
+    QVERIFY(standard.first() > 100 && standard.first() < standard.last() / 2); // a narrow tree
+    const auto shares = [&](const char *name) {
+        return editor.widget->findChild<QSplitter *>(QLatin1String(name))->sizes();
+    };
+    QVERIFY(shares("conflictSplitter").first() < shares("conflictSplitter").last() / 4);
+    QVERIFY(shares("editorSplitter").first() < shares("editorSplitter").last());
     splitter->setSizes({700, 700});
     const QList<int> wide = splitter->sizes();
     QVERIFY(wide != standard);

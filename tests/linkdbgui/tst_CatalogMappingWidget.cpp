@@ -10,6 +10,7 @@
 
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void connections();
     void noConnectionWarns();
     void orderOfTheReceivers();
+    void conflictsHearLast();
     void parentIsNotUsed();
     void destruction();
 
@@ -528,6 +530,37 @@ void tst_CatalogMappingWidget::conflictsAreMarkedOnce()
     editor.widget->setConflictedOnlineChanges(changeOf("old/dir/a.prj", 2));
     QCOMPARE(editor.handler->updates.size(), 1);
     QVERIFY(!editor.stored("old/dir/a.prj").getContainsConflicts());
+}
+
+/// The strip of the conflicts hears of a change when the handler and both columns have it.
+void tst_CatalogMappingWidget::conflictsHearLast()
+{
+    const QString path = QStringLiteral("old/dir/a.prj");
+    Editor editor;
+    editor.widget->setConflictedLocalChanges(changeOf(path, 1));
+    QSignalSpy changed(editor.conflicts, SIGNAL(conflictsChanged(PrjMappingC)));
+    // Only a strip that knows the project has a change to accept in it.
+    const auto accept = [&editor] {
+        QMetaObject::invokeMethod(editor.conflicts, "onTargetLineConflictAccepted", Q_ARG(int, 1));
+    };
+    bool asked = false;
+    editor.handler->onUpdate = [&] {
+        if (!std::exchange(asked, true))
+            accept();
+    };
+    for (QObject *const column :
+         {static_cast<QObject *>(editor.project), static_cast<QObject *>(editor.table)}) {
+        asked = false;
+        QMetaObject::invokeMethod(editor.conflicts, "onMappingUpdated",
+                                  Q_ARG(PrjMappingC, PrjMappingC()));
+        changed.clear();
+        QMetaObject::invokeMethod(column, "projectMappingUpdated",
+                                  Q_ARG(PrjMappingC, editor.stored(path)));
+        QVERIFY(asked);
+        QCOMPARE(changed.size(), 0);
+        accept();
+        QCOMPARE(changed.size(), 1);
+    }
 }
 
 void tst_CatalogMappingWidget::acceptedConflict()

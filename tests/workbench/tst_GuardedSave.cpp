@@ -52,6 +52,7 @@ private Q_SLOTS:
     void cleanup();
 
     void savesAndKeepsTheFormerFile();
+    void savingTellsThatNothingIsChangedAnyMore();
     void savesANewFile();
     void keepsOtherReleasesByteForByte();
     void foreignChanges_data();
@@ -152,6 +153,19 @@ void tst_GuardedSave::savesAndKeepsTheFormerFile()
     QCOMPARE(names(),
              QStringList({QStringLiteral("release.json"), QStringLiteral("release.json.bak"),
                           QStringLiteral("release.json.journal")}));
+}
+
+void tst_GuardedSave::savingTellsThatNothingIsChangedAnyMore()
+{
+    openAndChange();
+    QSignalSpy modified(m_document.get(), &MappingDocument::modifiedChanged);
+    QSignalSpy saved(m_document.get(), &MappingDocument::saved);
+    QVERIFY(m_document->isModified());
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    QCOMPARE(modified.size(), 1);
+    QVERIFY(!modified.first().first().toBool());
+    QVERIFY(!m_document->isModified());
+    QCOMPARE(saved.size(), 1);
 }
 
 void tst_GuardedSave::savesANewFile()

@@ -135,6 +135,7 @@ private Q_SLOTS:
     void comingAndGoing();
     void refusesAnotherState_data();
     void refusesAnotherState();
+    void keepsWhatMakesATargetValid();
     void tellsMarks();
     void smallChangesHaveSmallTexts();
     void framesAreChecked_data();
@@ -249,6 +250,24 @@ void tst_MappingDifference::refusesAnotherState()
     const QByteArray bytes = SessionFixture::bytes(release);
     QVERIFY(!applyChange(release, difference));
     QCOMPARE(SessionFixture::bytes(release), bytes);
+}
+
+void tst_MappingDifference::keepsWhatMakesATargetValid()
+{
+    const PrjMappingC before = SessionFixture::plainMapping(QStringLiteral("a.prj"), 2);
+    PrjMappingC after = before;
+    PrjMappingTargetC target = after.findTarget(0);
+    target.setTargetVersion(QStringLiteral("v9"));
+    target.setTabVersion(QStringLiteral("t9"));
+    target.setValid(false);
+    after.updateTarget(0, target);
+    const MappingDifference there = MappingDifference::between(before, after);
+    const PrjMappingC applied = there.applied(before).value();
+    QVERIFY(!applied.targetAt(0).isValid());
+    QCOMPARE(applied.targetAt(0).getTargetVersion(), QStringLiteral("v9"));
+    QCOMPARE(applied.targetAt(0).getTabVersion(), QStringLiteral("t9"));
+    const MappingDifference back = MappingDifference::between(after, before);
+    QVERIFY(back.applied(after).value().targetAt(0).isValid());
 }
 
 void tst_MappingDifference::tellsMarks()

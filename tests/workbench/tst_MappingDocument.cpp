@@ -511,6 +511,12 @@ void tst_MappingDocument::autosaves()
     QCOMPARE(SessionFixture::bytes(side.releases().first()),
              SessionFixture::bytes(m_document->release()));
     QVERIFY(m_document->lastAutosave().isValid());
+    // Another opening goes on with the interval.
+    m_document->close();
+    open();
+    change(SessionFixture::withState(m_document->mapping(id(Path)), {5}, 2));
+    QTRY_COMPARE_WITH_TIMEOUT(done.size(), 2, 30000);
+    done.removeLast();
     m_document->setAutosaveInterval(0);
     m_document->autosave(); // nothing new
     QCOMPARE(done.size(), 1);

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void oneTurnIsOneStep();
     void eachTurnIsAStep();
     void explicitStepsKeepTogether();
+    void explicitStepsBeginAnew();
     void undoAndRedo();
     void undoForgetsWhatWasUndoneAtTheNextChange();
     void undoLimit();
@@ -128,6 +129,20 @@ void tst_MappingDocumentSteps::explicitStepsKeepTogether()
     QCOMPARE(m_document->undoTexts(), QStringList(QStringLiteral("Alles")));
     m_document->undo();
     QCOMPARE(m_document->counts().verified(), 0);
+}
+
+/// What was done by hand in the same turn stays a step of its own.
+void tst_MappingDocumentSteps::explicitStepsBeginAnew()
+{
+    open();
+    m_document->updateMapping(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    m_document->beginStep(QStringLiteral("Alles"));
+    m_document->updateMapping(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    m_document->endStep();
+    QCOMPARE(m_document->undoTexts().size(), 2);
+    QCOMPARE(m_document->undoTexts().last(), QStringLiteral("Alles"));
+    m_document->undo();
+    QCOMPARE(m_document->counts().verified(), 1);
 }
 
 void tst_MappingDocumentSteps::undoAndRedo()

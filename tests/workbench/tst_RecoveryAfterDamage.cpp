@@ -40,6 +40,8 @@ private Q_SLOTS:
     void aDamagedOpeningHidesNothing();
     void damageBehindTheLastSession();
     void laterChangesAreOfferedApart();
+    void laterChangesThatDoNotFitAreCounted();
+    void onlyLaterChangesAreOfferedToo();
     void anUnreadableJournalIsTold();
 
 private:
@@ -301,6 +303,62 @@ void tst_RecoveryAfterDamage::laterChangesAreOfferedApart()
     QCOMPARE(m_document->counts().verified(), 19);
     m_document->undo();
     QCOMPARE(m_document->counts().verified(), 0);
+}
+
+/// Two changes of one line, of which the first cannot be read: the second has nothing to go on.
+void tst_RecoveryAfterDamage::laterChangesThatDoNotFitAreCounted()
+{
+    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
+    const auto confirm = [this](const char *path, int line, int state) {
+        m_document->updateMapping(
+            SessionFixture::withState(m_document->mapping(id(path)), {line}, state));
+        m_document->finishStep();
+    };
+    confirm("cat/a.prj", 1, 2);
+    confirm("cat/a.prj", 2, 1);
+    confirm("cat/a.prj", 2, 2);
+    confirm("cat/screws/b.prj", 3, 2);
+    const QString journal = m_document->journalFile();
+    QByteArray bytes = SessionFixture::content(journal);
+    m_document->close();
+    const qsizetype second = bytes.indexOf("\"change\",\"step\":2");
+    bytes[second + 2] = char(bytes[second + 2] ^ 1);
+    SessionFixture::setContent(journal, bytes);
+
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    const RecoveryOffer &offer = m_document->recoveryOffer();
+    QCOMPARE(offer.laterChanges, 1);
+    QCOMPARE(offer.lostChanges, 1);
+    QCOMPARE(offer.further.counts.verified(), 2);
+}
+
+/// What could be read takes itself back, so it is what was saved; what is behind the damage is not.
+void tst_RecoveryAfterDamage::onlyLaterChangesAreOfferedToo()
+{
+    QCOMPARE(open(), MappingDocument::OpenResult::Opened);
+    const auto confirm = [this](const char *path, int line, int state) {
+        m_document->updateMapping(
+            SessionFixture::withState(m_document->mapping(id(path)), {line}, state));
+        m_document->finishStep();
+    };
+    confirm("cat/a.prj", 1, 2);
+    confirm("cat/a.prj", 1, 0);
+    confirm("cat/a.prj", 5, 2);
+    confirm("cat/screws/b.prj", 3, 2);
+    const QString journal = m_document->journalFile();
+    QByteArray bytes = SessionFixture::content(journal);
+    m_document->close();
+    const qsizetype third = bytes.indexOf("\"change\",\"step\":3");
+    bytes[third + 2] = char(bytes[third + 2] ^ 1);
+    SessionFixture::setContent(journal, bytes);
+
+    QCOMPARE(open(), MappingDocument::OpenResult::RecoveryPending);
+    const RecoveryOffer &offer = m_document->recoveryOffer();
+    QCOMPARE(offer.recovered.counts.verified(), 0);
+    QVERIFY(offer.further.available);
+    QCOMPARE(offer.further.counts.verified(), 1);
+    QCOMPARE(open(MappingDocument::Recovery::UseFurther), MappingDocument::OpenResult::Opened);
+    QCOMPARE(m_document->counts().verified(), 1);
 }
 
 void tst_RecoveryAfterDamage::anUnreadableJournalIsTold()

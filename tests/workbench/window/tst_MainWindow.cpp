@@ -15,6 +15,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QScreen>
@@ -97,6 +98,26 @@ private Q_SLOTS:
         QCOMPARE(recent.first()->text(), "&1  " + file);
         QCOMPARE(fixture.window->status()->findChild<QLabel *>("statusOpen")->text(),
                  QStringLiteral("Offen: <a href=\"next\">784 Zeilen</a> in 35 Projekten"));
+    }
+
+    void theOpenFileIsTheSessionsFile()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        fixture.open(file);
+        // At once, for a program that crashes never closes its window.
+        QCOMPARE(fixture.settings->sessionFile(), file);
+        const QString other = fixture.directory.filePath("other.json");
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            auto *const files = qobject_cast<QFileDialog *>(dialog);
+            QVERIFY(files);
+            files->selectFile(other);
+            QMetaObject::invokeMethod(files, "accept");
+        });
+        QVERIFY(fixture.window->desk()->saveAs());
+        QCOMPARE(fixture.window->desk()->document()->mappingFile(), other);
+        QCOMPARE(fixture.settings->recentFiles(), QStringList({other, file}));
     }
 
     void remembersTheCatalogs()

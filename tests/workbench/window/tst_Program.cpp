@@ -214,6 +214,13 @@ private Q_SLOTS:
         QVERIFY2(line.err.contains("there is no such project or line: "
                                    "standardparts/screws/din933.prj 9999"),
                  qPrintable(line.err));
+        QStringList elsewhere = pictureOf(mapping, picture);
+        elsewhere[elsewhere.indexOf("--select") + 1] = "standardparts/no/such.prj";
+        const Run project = program(elsewhere);
+        QCOMPARE(project.status, 2);
+        QVERIFY2(project.err.contains("there is no such project or line: standardparts/no/such"),
+                 qPrintable(project.err));
+        QVERIFY(!QFile::exists(picture));
         const Run roots = program({"--screenshot", picture, mapping});
         QCOMPARE(roots.status, 2);
         QVERIFY2(roots.err.contains("--source"), qPrintable(roots.err));

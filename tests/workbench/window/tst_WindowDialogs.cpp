@@ -113,6 +113,28 @@ private Q_SLOTS:
         QCOMPARE(releaseOf(file).countMappings(), 49);
     }
 
+    void proposesFilesAsLongAsNobodyEntersOne()
+    {
+        const WindowFixture fixture;
+        NewMappingDialog dialog(fixture.settings->store(), nullptr);
+        auto *const file = dialog.findChild<QLineEdit *>("mappingFile");
+        auto *const catalogs = dialog.findChild<QComboBox *>("sourceCatalog");
+        enter(&dialog, "sourceRoot", WindowFixture::roots().source);
+        QVERIFY(file->text().endsWith("/standardparts.mapping.json"));
+        QCOMPARE(catalogs->count(), 1);
+        const QString other = fixture.directory.filePath("roots");
+        QVERIFY(QDir().mkpath(other + "/bolts") && QDir().mkpath(other + "/nuts"));
+        enter(&dialog, "sourceRoot", other);
+        QCOMPARE(catalogs->count(), 2); // not those of before
+        QVERIFY2(file->text().endsWith("/bolts.mapping.json"), qPrintable(file->text()));
+        enter(&dialog, "mappingFile", QString());
+        catalogs->setCurrentText("nuts");
+        QVERIFY2(file->text().endsWith("/nuts.mapping.json"), qPrintable(file->text()));
+        enter(&dialog, "mappingFile", "/mine.json");
+        catalogs->setCurrentText("bolts");
+        QCOMPARE(file->text(), QString("/mine.json"));
+    }
+
     void asksBeforeAFileIsUsedAgain()
     {
         const WindowFixture fixture;
@@ -295,6 +317,59 @@ private Q_SLOTS:
         QCOMPARE(fixture.window->desk()->save(), saved);
         QCOMPARE(script.texts, QStringList{"In diesen Projekten gibt es ungelöste Konflikte:"});
         fixture.window->desk()->document()->close();
+    }
+
+    void namesTenProjectsInConflict_data()
+    {
+        QTest::addColumn<int>("projects");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QString>("last");
+        QTest::newRow("ten") << 10 << 10 << "";
+        QTest::newRow("eleven") << 11 << 11 << "und 1 weitere";
+    }
+    void namesTenProjectsInConflict()
+    {
+        QFETCH(int, projects);
+        QFETCH(int, rows);
+        QFETCH(QString, last);
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        MappingDocument &document = *fixture.window->desk()->document();
+        const ReleaseMappingC release = document.release();
+        int marked = 0;
+        for (int i = 0; i < release.countMappings() && marked < projects; ++i) {
+            PrjMappingC mapping = release.mappingAt(i);
+            PrjMappingTargetC target = mapping.findTarget(0);
+            if (target.lines().begin() == target.lines().end())
+                continue;
+            target.setLineConflicted((*target.lines().begin()).sourceLine(), true);
+            mapping.updateTarget(0, target);
+            document.updateMapping(mapping);
+            ++marked;
+        }
+        QCOMPARE(marked, projects);
+        QString details;
+        ModalScript script;
+        script.then([&](QWidget *dialog) {
+            details = dialog->property("informativeText").toString();
+            QTest::mouseClick(dialog->findChild<QPushButton *>("answerCancel"), Qt::LeftButton);
+        });
+        QVERIFY(!fixture.window->desk()->save());
+        QCOMPARE(details.split('\n').size(), rows);
+        QCOMPARE(details.contains("weitere"), !last.isEmpty());
+        QVERIFY(details.endsWith(last));
+        document.close();
+    }
+
+    void readingOnlyAtWillIsNotTold()
+    {
+        WindowFixture fixture;
+        ModalScript script;
+        script.thenClick("answerCancel");
+        QVERIFY(fixture.window->desk()->open(
+            {.file = fixture.mappingFile(), .roots = WindowFixture::roots(), .readOnly = true}));
+        QCOMPARE(script.seen, QStringList());
+        QVERIFY(fixture.window->desk()->document()->isReadOnly());
     }
 
     void saysThatSomebodyElseEditsTheFile()

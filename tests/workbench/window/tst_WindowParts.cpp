@@ -1,6 +1,7 @@
 #include <core/message/PMessage.h>
 #include <core/progress/PProgress.h>
 #include <gui/progress/DefaultObserverDelegate.h>
+#include <workbench/window/ApplicationTheme.h>
 #include <workbench/window/LegendDialog.h>
 #include <workbench/window/LogWindow.h>
 #include <workbench/window/StatusArea.h>
@@ -99,6 +100,26 @@ private Q_SLOTS:
         QCOMPARE(undo.size(), 1);
         status.dropUndo();
         QCOMPARE(note->text(), QStringLiteral("1 &lt; 2"));
+        status.showNote(QString());
+        QCOMPARE(note->text(), QString());
+        status.showNote("plain");
+        QCOMPARE(note->text(), QStringLiteral("plain"));
+        status.setOpenLines(3, 1);
+        QCOMPARE(status.findChild<QLabel *>("statusOpen")->toolTip(),
+                 QStringLiteral("Zeilen, die noch eine Entscheidung brauchen"));
+    }
+
+    void themesAreLightOrDark()
+    {
+        const QPalette before = QApplication::palette();
+        ApplicationTheme::setColours("dark");
+        const QPalette dark = QApplication::palette();
+        QVERIFY(dark.color(QPalette::Window).lightness() < 128);
+        ApplicationTheme::setColours("system"); // as the desktop has it: nothing of ours
+        QCOMPARE(QApplication::palette(), dark);
+        ApplicationTheme::setColours("light");
+        QVERIFY(QApplication::palette().color(QPalette::Window).lightness() > 128);
+        QApplication::setPalette(before);
     }
 
     void longNotesDoNotWidenTheWindow()
@@ -227,6 +248,9 @@ private Q_SLOTS:
         QPointer<TourOverlay> tour = new TourOverlay(steps, &window);
         const QSignalSpy ended(tour, &TourOverlay::ended);
         QCOMPARE(tour->geometry(), window.rect());
+        // The keys are the overlay's, whatever was clicked.
+        for (const QPushButton *const button : tour->findChildren<QPushButton *>())
+            QCOMPARE(button->focusPolicy(), Qt::NoFocus);
         auto *title = tour->findChild<QLabel *>("tourTitle");
         QCOMPARE(title->text(), QStringLiteral("one"));
         QVERIFY(!tour->findChild<QPushButton *>("tourBack")->isEnabled());
