@@ -1,4 +1,4 @@
-#include "TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <geomcore/search/CatalogIndex.h>
 #include <geomcore/search/CatalogSearch.h>

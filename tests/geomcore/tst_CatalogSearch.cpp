@@ -1,4 +1,4 @@
-#include "TestCatalog.h"
+#include "../support/TestCatalog.h"
 
 #include <geomcore/search/CatalogIndexUpdate.h>
 #include <geomcore/search/CatalogSearch.h>
@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTest>
+
+#include <thread>
 
 using State = CatalogSearchState;
 using Outcome = CatalogIndexOutcome;
@@ -508,7 +510,13 @@ private Q_SLOTS:
         }
         catalog.writeFile("cat/a.prj",
                           "[PROJECT]\nSACHM=" + elsewhere.filePath("t.json").toUtf8() + "\n");
-        QCOMPARE(catalog.update().added, 1);
+        // By a link beside the project, and by a link beside the descriptor.
+        QVERIFY(QFile::link(elsewhere.filePath("t.json"), catalog.file("cat/b.json")));
+        catalog.writeFile("cat/b.prj", "[PROJECT]\nSACHM=b.json\n");
+        catalog.writeFile("cat/c.prj", "[PROJECT]\nSACHM=c.json\n");
+        catalog.writeFile("cat/c.json", "{}");
+        QVERIFY(QFile::link(elsewhere.filePath("t.csv"), catalog.file("cat/c.csv")));
+        QCOMPARE(catalog.update().added, 3);
         QCOMPARE(catalog.found("secret"), QString("nothing"));
     }
 
@@ -643,6 +651,36 @@ private Q_SLOTS:
         QVERIFY(outcome.errorText.contains(catalog.root()));
         QVERIFY(QDir().rename(elsewhere, catalog.root()));
         QCOMPARE(catalog.found("x"), QString("a.prj"));
+    }
+
+    void searchesWhileItIsWritten()
+    {
+        IndexedCatalog catalog;
+        for (int i = 0; i < 300; ++i)
+            catalog.write(QString("cat/p%1.prj").arg(i), "Name\nneedle\n");
+        QCOMPARE(catalog.update().state, Outcome::Done);
+        std::atomic<bool> ends = false;
+        std::atomic<int> updates = 0;
+        std::thread writer([&] {
+            for (int round = 0; !ends; ++round) {
+                for (int i = 0; i < 300; i += 3)
+                    catalog.setTitle(QString("cat/p%1.prj").arg(i),
+                                     "Round" + QByteArray::number(round));
+                updates += catalog.update().state == Outcome::Done ? 1 : -1000;
+            }
+        });
+        int wrong = 0;
+        CatalogSearchQuery query;
+        query.text = "needle";
+        query.limit = 0;
+        for (int i = 0; i < 20 || updates < 3; ++i) {
+            const CatalogSearchResult result = catalog.search(query);
+            wrong += result.state != State::Found || result.hits.size() != 300 ? 1 : 0;
+        }
+        ends = true;
+        writer.join();
+        QCOMPARE(wrong, 0);
+        QVERIFY(updates >= 3);
     }
 
     void oneWritesAtATime()

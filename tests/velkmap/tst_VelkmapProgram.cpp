@@ -25,6 +25,7 @@ private Q_SLOTS:
     void unwritableOutput_data();
     void unwritableOutput();
     void twoWriters();
+    void manySearches();
 
 private:
     struct Result
@@ -189,6 +190,32 @@ void tst_VelkmapProgram::twoWriters()
         there.sort();
         QCOMPARE(there, written);
     }
+}
+
+// On one index that is not there yet.
+void tst_VelkmapProgram::manySearches()
+{
+    QCOMPARE(velkmap({"import", "--from", "tables/2026", "--into", "new/bolts"}).status, 0);
+    const QStringList search{"search", "--root", "new", "--index", "index", "k1"};
+    QProcess programs[4];
+    for (QProcess &program : programs) {
+        program.setWorkingDirectory(m_dir->path());
+        program.start(m_program, search);
+    }
+    int complete = 0;
+    for (QProcess &program : programs) {
+        QVERIFY(program.waitForFinished(60000));
+        const int status = program.exitCode();
+        QVERIFY2(status == int(::velkmap::ExitStatus::Done) ||
+                     status == int(::velkmap::ExitStatus::IndexBuilding),
+                 program.readAllStandardError().constData());
+        complete += status == 0 ? 1 : 0;
+    }
+    QVERIFY(complete >= 1);
+    const Result after = velkmap(search);
+    QCOMPARE(after.status, 0);
+    QCOMPARE(after.err, QString());
+    QCOMPARE(after.out.count("  ("), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_VelkmapProgram)

@@ -30,12 +30,16 @@ CatalogSearchResult CatalogSearch::run(const CatalogSearchQuery &query,
                                        const std::atomic<bool> *cancelled) const
 {
     CatalogIndexFile file(m_indexFile, m_root);
-    const CatalogIndexFile::State opened = file.openToRead();
+    CatalogIndexFile::State opened = file.openToRead();
+    if (opened == CatalogIndexFile::Missing || opened == CatalogIndexFile::Broken) {
+        if (CatalogIndexUpdate::isRunning(m_indexFile))
+            return ended(CatalogSearchState::IndexBuilding);
+        opened = file.openToRead(); // it may have been made between both questions
+    }
     if (opened == CatalogIndexFile::Failed)
         return ended(CatalogSearchState::Failed, file.errorText());
     if (opened != CatalogIndexFile::Opened)
-        return ended(CatalogIndexUpdate::isRunning(m_indexFile) ? CatalogSearchState::IndexBuilding
-                                                                : CatalogSearchState::IndexMissing);
+        return ended(CatalogSearchState::IndexMissing);
     // One state of the index for the whole search, whoever writes meanwhile.
     CatalogSearchResult result;
     const bool done =

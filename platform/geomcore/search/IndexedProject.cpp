@@ -13,6 +13,7 @@
 #include <geomcore/value/RangeCell.h>
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <limits>
@@ -202,12 +203,20 @@ void addTable(IndexedProject &project, const TableData &table)
     addDesignations(project, table);
 }
 
+bool mayBeRead(const QString &file, const QString &namedBy)
+{
+    // What is no link and lies beside the file that names it lies where that does: the usual case,
+    // told without asking for the real path of every directory.
+    const QFileInfo info(file);
+    return (info.path() == QFileInfo(namedBy).path() && !info.isSymLink()) ||
+           CatalogPlaces::instance().refusal(file, namedBy).isEmpty();
+}
+
 void readTable(IndexedProject &project, const QString &projectFile)
 {
     IndexedFiles &files = project.files;
     files.descriptorStamp = FileStamp::of(files.descriptor);
-    const auto &places = CatalogPlaces::instance();
-    if (!places.refusal(files.descriptor, projectFile).isEmpty())
+    if (!mayBeRead(files.descriptor, projectFile))
         return;
     VKTab::TableErrorList errors;
     // The lines' place is wanted also of a table that cannot be read: they may be mended.
@@ -216,7 +225,7 @@ void readTable(IndexedProject &project, const QString &projectFile)
         return;
     files.lines = QDir::toNativeSeparators(head->csvFile(files.descriptor));
     files.linesStamp = FileStamp::of(files.lines);
-    if (!places.refusal(files.lines, files.descriptor).isEmpty()) {
+    if (!mayBeRead(files.lines, files.descriptor)) {
         addDescriptor(project, *head);
         return;
     }

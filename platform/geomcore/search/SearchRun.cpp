@@ -171,10 +171,14 @@ bool SearchRun::isBelow(const QString &path) const
 
 bool SearchRun::findByConditions(Ids &ids)
 {
+    // With nothing else to ask, the first so many are enough.
+    const bool isAlone =
+        m_query.conditions.size() == 1 && m_terms.isEmpty() && m_query.below.isEmpty();
+    const qint64 most = isAlone && m_query.limit > 0 ? m_query.limit + 1 : -1;
     bool first = true;
     for (const CatalogSearchCondition &condition : m_query.conditions) {
         Ids found;
-        if (!findByCondition(condition, found))
+        if (!findByCondition(condition, most, found))
             return false;
         ids = first ? found : common(ids, found);
         first = false;
@@ -182,7 +186,7 @@ bool SearchRun::findByConditions(Ids &ids)
     return true;
 }
 
-bool SearchRun::findByCondition(const CatalogSearchCondition &condition, Ids &ids)
+bool SearchRun::findByCondition(const CatalogSearchCondition &condition, qint64 most, Ids &ids)
 {
     QVariantList values{SearchText::folded(condition.variable)};
     QString sql = QStringLiteral("SELECT project, is_range, decimal, vals FROM columns"
@@ -214,6 +218,8 @@ bool SearchRun::findByCondition(const CatalogSearchCondition &condition, Ids &id
         m_verifies = m_verifies || kept.isNull();
         if (kept.isNull() || anyHolds(ready->second, kept.toByteArray()))
             ids.push_back(project);
+        if (qint64(ids.size()) == most && !m_verifies)
+            break;
     }
     return true;
 }
@@ -283,9 +289,10 @@ bool SearchRun::readRow(qint64 id, Row &row, bool &found)
 
 bool SearchRun::addLines(Row &row) const
 {
-    const bool inTime =
-        m_query.lineMilliseconds <= 0 || m_clock.elapsed() < m_query.lineMilliseconds;
-    if (!m_verifies && (m_query.linesPerHit < 0 || !inTime))
+    const auto inTime = [this] {
+        return m_query.lineMilliseconds <= 0 || m_clock.elapsed() < m_query.lineMilliseconds;
+    };
+    if (!m_verifies && (m_query.linesPerHit < 0 || !inTime()))
         return true;
     // Words of the head do not have to stand in the line as well; if all do, the lines that have
     // them are told.
@@ -301,9 +308,9 @@ bool SearchRun::addLines(Row &row) const
         wanted = m_terms;
     }
     const LineMatcher matcher(wanted, m_query.conditions);
-    const LineMatcher::Matches lines =
-        matcher.find(row.descriptor, QDir::toNativeSeparators(m_root + u'/' + row.hit.path),
-                     std::max(m_query.linesPerHit, 0), [this] { return goOn(); });
+    const LineMatcher::Matches lines = matcher.find(
+        row.descriptor, QDir::toNativeSeparators(m_root + u'/' + row.hit.path),
+        std::max(m_query.linesPerHit, 0), [&] { return goOn() && (m_verifies || inTime()); });
     if (m_query.linesPerHit >= 0) {
         row.hit.matchingLines = lines.count;
         row.hit.lines = lines.lines;

@@ -36,7 +36,9 @@ private:
     [[nodiscard]] bool goOn() const { return !m_cancelled || !*m_cancelled; }
     [[nodiscard]] bool readBelow();
     [[nodiscard]] bool findByConditions(Ids &ids);
-    [[nodiscard]] bool findByCondition(const CatalogSearchCondition &condition, Ids &ids);
+    /// Not more than \a most if the index alone can decide; -1 for all.
+    [[nodiscard]] bool findByCondition(const CatalogSearchCondition &condition, qint64 most,
+                                       Ids &ids);
     /// Rows of the full text index that have the words, in the head alone or anywhere, ascending;
     /// all of them if \a count is -1.
     [[nodiscard]] bool findByText(bool inHead, qint64 count, Ids &ids);
