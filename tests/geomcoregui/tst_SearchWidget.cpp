@@ -90,7 +90,10 @@ private:
         QTest::keyClicks(child<QLineEdit>("searchWords"), text);
         QTest::keyClick(child<QLineEdit>("searchWords"), Qt::Key_Return);
     }
-    [[nodiscard]] CatalogSearchQuery query() const { return searcher->queries.last(); }
+    [[nodiscard]] CatalogSearchQuery query() const
+    {
+        return searcher->queries.value(searcher->queries.size() - 1);
+    }
 
     std::unique_ptr<IndexTreeFolder> folder;
     std::unique_ptr<FileTreeGroup> group;
@@ -241,6 +244,16 @@ void tst_SearchWidget::indexMissingStartsTheUpdate()
     type("ab");
     searcher->answer(missing);
     QCOMPARE(searcher->updates, 2); // it is under way
+    // One that failed while the search was under way is tried once more, and then told.
+    searcher->updating = false;
+    type("abc");
+    Q_EMIT searcher->updateFinished("no space left");
+    CatalogSearchResult building;
+    building.state = CatalogSearchState::IndexBuilding;
+    searcher->answer(building);
+    QCOMPARE(searcher->updates, 3);
+    Q_EMIT searcher->updateFinished("no space left");
+    QCOMPARE(status(), QString("Der Suchindex konnte nicht aufgebaut werden: no space left"));
 }
 
 void tst_SearchWidget::resultsFollowTheIndex()

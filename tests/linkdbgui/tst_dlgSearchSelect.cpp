@@ -16,6 +16,7 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMetaMethod>
 #include <QPushButton>
@@ -52,6 +53,7 @@ private Q_SLOTS:
     void showFileNames();
     void placeIsKept();
     void searchesInTheCatalogs();
+    void unreadableCatalogs();
     void closeRejects();
 
 private:
@@ -449,6 +451,21 @@ void tst_dlgSearchSelect::searchesInTheCatalogs()
     });
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QCOMPARE(pathOf(dialog.getSelectedItem()), QString("cat9/screws.prj"));
+}
+
+void tst_dlgSearchSelect::unreadableCatalogs()
+{
+    const SelectionFixture fixture(paths);
+    IndexTreeC::instance()->setCatalogRoot(PPathName(fixture.folder.root() + "/none"));
+    dlgSearchSelect dialog(nullptr, false, true);
+    dialog.show();
+    auto *const words = dialog.findChild<QLineEdit *>("searchWords");
+    QTest::keyClicks(words, "screw");
+    QTest::keyClick(words, Qt::Key_Return);
+    const auto *const status = dialog.findChild<QLabel *>("searchStatus");
+    QTRY_COMPARE(status->text(), QString("Der Suchindex konnte nicht aufgebaut werden: Das "
+                                         "Verzeichnis der Kataloge kann nicht gelesen werden."));
+    QVERIFY(dialog.findChild<QPushButton *>("searchAgain")->isVisible());
 }
 
 void tst_dlgSearchSelect::closeRejects()

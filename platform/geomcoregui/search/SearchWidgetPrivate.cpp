@@ -161,8 +161,8 @@ void SearchWidgetPrivate::showState(const CatalogSearchResult &result)
     case CatalogSearchState::IndexBuilding:
     case CatalogSearchState::IndexMissing:
         m_waitsForIndex = true;
-        if (result.state == CatalogSearchState::IndexMissing && m_searcher &&
-            !m_searcher->isUpdating())
+        // It may have failed while the search was under way.
+        if (m_searcher && !m_searcher->isUpdating())
             m_searcher->update();
         showProgress(true);
         return showText(
