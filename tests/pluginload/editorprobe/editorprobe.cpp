@@ -1,13 +1,18 @@
 // What a host does with the mapping editor, in a library that comes and goes with the plug-in.
 
+#include <formula/DlgFormulaEditor.h>
 #include <geomcore/records/PrjMappingC.h>
 #include <geomcore/records/PrjMappingTargetC.h>
 #include <geomcore/records/ReleaseMappingC.h>
 #include <mapping/data/ReleaseMappingHandler.h>
 #include <mapping/view/CatalogMappingWidget.h>
+#include <selection/dlgSearchSelect.h>
+#include <selection/dlgSelect.h>
 
 #include <QApplication>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
 
@@ -38,10 +43,32 @@ QPushButton *verifyAllButton(const QWidget &editor)
     return nullptr;
 }
 
+/// False if a dialog does not open.
+bool useDialogs()
+{
+    const QTemporaryDir cache; // of the search
+    qputenv("XDG_CACHE_HOME", cache.path().toUtf8());
+    DlgFormulaEditor formula({}, {}, QString(), nullptr);
+    formula.setShowContextMenu(true, true, true, true);
+    formula.setFormula(QStringLiteral("ROUND(1.5) .EQ. 2"));
+    dlgSelect select(nullptr);
+    const QSignalSpy selected(&select, &dlgSelect::itemSelected);
+    dlgSearchSelect search(nullptr, false, true);
+    const QSignalSpy found(&search, &dlgSearchSelect::itemSelected);
+    for (QDialog *const dialog : std::initializer_list<QDialog *>{&formula, &select, &search}) {
+        dialog->show();
+        if (!QTest::qWaitForWindowExposed(dialog))
+            return false;
+    }
+    QApplication::processEvents();
+    return formula.checkSyntax(false);
+}
+
 } // namespace
 
 /// Opens a project of the example catalog in the editor and confirms all its lines, with keyboard
-/// and mouse. Gives the number of confirmed lines, -1 if the editor is not as expected.
+/// and mouse, and opens the dialogs. Gives the number of confirmed lines, -1 if the editor is not
+/// as expected.
 extern "C" Q_DECL_EXPORT int useEditor(const QString &sourceRoot)
 {
     auto *const handler =
@@ -62,5 +89,5 @@ extern "C" Q_DECL_EXPORT int useEditor(const QString &sourceRoot)
     QApplication::processEvents();
     QTest::mouseClick(verifyAll, Qt::LeftButton);
     QApplication::processEvents();
-    return handler->countVerified();
+    return useDialogs() ? handler->countVerified() : -1;
 }
