@@ -928,6 +928,57 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>PartView</name>
+    <message>
+        <source>Die Tabelle des Projektes kann nicht gelesen werden.</source>
+        <translation>The project&apos;s table cannot be read.</translation>
+    </message>
+    <message>
+        <source>Pfad:</source>
+        <translation>Path:</translation>
+    </message>
+    <message>
+        <source>Norm:</source>
+        <translation>Standard:</translation>
+    </message>
+    <message>
+        <source>Bezeichnung:</source>
+        <translation>Designation:</translation>
+    </message>
+    <message>
+        <source>Projektversion:</source>
+        <translation>Project version:</translation>
+    </message>
+    <message>
+        <source>Tabellenversion:</source>
+        <translation>Table version:</translation>
+    </message>
+    <message>
+        <source>Zeilen:</source>
+        <translation>Lines:</translation>
+    </message>
+    <message>
+        <source>Datei:</source>
+        <translation>File:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>Filtern</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Ordner öffnen</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>PluginActions</name>
     <message>
         <source>Auf diesem Rechner ist kein Mailprogramm eingerichtet. Die Anfrage lautet:

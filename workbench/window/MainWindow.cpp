@@ -6,6 +6,7 @@
 #include "LineCommands.h"
 #include "LineStateFilter.h"
 #include "LogWindow.h"
+#include "PartView.h"
 #include "PluginActions.h"
 #include "QtTexts.h"
 #include "Question.h"
@@ -169,6 +170,8 @@ void MainWindow::onDocumentClosing()
 void MainWindow::onDocumentClosed()
 {
     m_editor->close();
+    for (PartView *const view : findChildren<PartView *>(Qt::FindDirectChildrenOnly))
+        view->close();
     m_pages->setCurrentWidget(m_welcome);
     m_status->showNote(QString());
     updateState();

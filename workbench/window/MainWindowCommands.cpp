@@ -4,6 +4,7 @@
 #include "EditorArea.h"
 #include "LogWindow.h"
 #include "MappingMaker.h"
+#include "PartView.h"
 #include "Question.h"
 #include "SettingsDialog.h"
 #include "StatusArea.h"
@@ -21,9 +22,9 @@
 #include <workbench/session/ValueRangeCheck.h>
 
 #include <QAction>
-#include <QDesktopServices>
 #include <QFileInfo>
-#include <QUrl>
+
+#include <algorithm>
 
 void MainWindow::restoreSession()
 {
@@ -140,8 +141,15 @@ void MainWindow::showTargetProject(const QString &targetPath)
                        PMsgDlgMode::Warning);
         return;
     }
-    // The folder holds the project with its table.
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path.native()).path()));
+    const QList<PartView *> open = findChildren<PartView *>(Qt::FindDirectChildrenOnly);
+    const auto shown = std::find_if(open.begin(), open.end(), [&](const PartView *view) {
+        return view->catalogPath() == targetPath;
+    });
+    PartView *const view =
+        shown == open.end() ? new PartView(targetPath, path.native(), this) : *shown;
+    view->show();
+    view->raise();
+    view->activateWindow();
     m_status->showNote(tr("Zielprojekt: %1").arg(QString(path.native())));
 }
 
