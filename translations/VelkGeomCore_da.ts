@@ -280,6 +280,10 @@
         <translation>Intet svar fra %1 i %2 s</translation>
     </message>
     <message>
+        <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Kun ens på grund af foreslåede betingelser eller variabeltilordninger. De gælder, så snart en linje i målet er bekræftet.</translation>
+    </message>
+    <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
         <translation>Whether there is a value: an empty cell has none. Stands where a comparison can stand.</translation>
     </message>

@@ -280,6 +280,10 @@
         <translation>No answer from %1 in %2 s</translation>
     </message>
     <message>
+        <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Equal only by proposed conditions or variable mappings. They count as soon as a line of the target is confirmed.</translation>
+    </message>
+    <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
         <translation>Whether there is a value: an empty cell has none. Stands where a comparison can stand.</translation>
     </message>

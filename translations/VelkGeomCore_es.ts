@@ -280,6 +280,10 @@
         <translation>Sin respuesta de %1 en %2 s</translation>
     </message>
     <message>
+        <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Igual solo por condiciones o asignaciones de variables propuestas. Valen en cuanto se confirme una línea del destino.</translation>
+    </message>
+    <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
         <translation>Whether there is a value: an empty cell has none. Stands where a comparison can stand.</translation>
     </message>

@@ -280,6 +280,10 @@
         <translation>Nincs válasz innen: %1, %2 s alatt</translation>
     </message>
     <message>
+        <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Csak a javasolt feltételek vagy változó-hozzárendelések miatt egyezik. Akkor érvényesek, ha a cél egyik sorát megerősítették.</translation>
+    </message>
+    <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
         <translation>Whether there is a value: an empty cell has none. Stands where a comparison can stand.</translation>
     </message>

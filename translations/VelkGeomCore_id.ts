@@ -280,6 +280,10 @@
         <translation>Tidak ada jawaban dari %1 dalam %2 dtk</translation>
     </message>
     <message>
+        <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Sama hanya karena kondisi atau pemetaan variabel yang diusulkan. Keduanya berlaku begitu satu baris target dikonfirmasi.</translation>
+    </message>
+    <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
         <translation>Whether there is a value: an empty cell has none. Stands where a comparison can stand.</translation>
     </message>

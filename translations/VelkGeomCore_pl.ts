@@ -280,6 +280,10 @@
         <translation>Brak odpowiedzi od %1 w ciągu %2 s</translation>
     </message>
     <message>
+        <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Równe tylko dzięki zaproponowanym warunkom lub przypisaniom zmiennych. Obowiązują, gdy jeden wiersz celu zostanie potwierdzony.</translation>
+    </message>
+    <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
         <translation>Whether there is a value: an empty cell has none. Stands where a comparison can stand.</translation>
     </message>

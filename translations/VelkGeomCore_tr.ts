@@ -280,6 +280,10 @@
         <translation>%1 adresinden %2 sn içinde yanıt yok</translation>
     </message>
     <message>
+        <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Yalnızca önerilen koşullar veya değişken atamaları nedeniyle eşit. Hedefin bir satırı onaylanınca geçerli olurlar.</translation>
+    </message>
+    <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
         <translation>Whether there is a value: an empty cell has none. Stands where a comparison can stand.</translation>
     </message>

@@ -52,6 +52,10 @@
         <translation>Přiřadit rozložené rozsahy hodnot</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Z výběru (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Zrušit výběr</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Podmínky</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Podmínky a přiřazení proměnných jsou navržené. Platí, jakmile je potvrzen některý řádek cíle.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Řádky se znovu přiřazují</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Řádky: %1 z %2 · otevřené, které by byly přiřazeny: %3 · potvrzené, které by už neodpovídaly: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

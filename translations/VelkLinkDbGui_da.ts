@@ -52,6 +52,10 @@
         <translation>Tildel opløste værdiområder</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Fra valget (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Annuller markering</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Betingelser</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Betingelser og variabeltilordninger er foreslåede. De gælder, så snart en linje i målet er bekræftet.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Linjer tildeles på ny</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Linjer: %1 af %2 · åbne, der ville blive tildelt: %3 · bekræftede, der ikke længere ville passe: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

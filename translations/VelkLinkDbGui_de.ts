@@ -52,6 +52,10 @@
         <translation>Aufgelöste Wertebereiche zuordnen</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Aus der Auswahl (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Auswahl abbrechen</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Bedingungen</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Zeilen werden neu zugewiesen</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>Assign resolved value ranges</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>From the selection (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Cancel selection</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Conditions and variable mappings are proposed. They count as soon as a line of the target is confirmed.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Lines are being assigned anew</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Lines: %1 of %2 · open ones that would be assigned: %3 · confirmed ones that would no longer fit: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

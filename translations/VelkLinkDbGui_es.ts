@@ -52,6 +52,10 @@
         <translation>Asignar los rangos de valores resueltos</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>De la selección (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Cancelar la selección</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Condiciones</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Las condiciones y asignaciones de variables son propuestas. Valen en cuanto se confirme una línea del destino.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Reasignando las líneas</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Líneas: %1 de %2 · abiertas que se asignarían: %3 · confirmadas que ya no encajarían: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>Kohdista puretut arvoalueet</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Valinnasta (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Peruuta valinta</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Ehdot</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Ehdot ja muuttujamääritykset ovat ehdotuksia. Ne ovat voimassa heti, kun yksi kohteen rivi on vahvistettu.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Rivejä kohdistetaan uudelleen</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Rivejä: %1 / %2 · avoimia, jotka kohdistettaisiin: %3 · vahvistettuja, jotka eivät enää sopisi: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>Affecter les plages de valeurs résolues</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>De la sélection (%1) : %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Annuler la sélection</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Les conditions et les affectations de variables sont proposées. Elles valent dès qu’une ligne de la cible est confirmée.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Réaffectation des lignes</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Lignes : %1 sur %2 · ouvertes qui seraient affectées : %3 · confirmées qui ne conviendraient plus : %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>Feloldott értéktartományok hozzárendelése</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>A kijelölésből (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Kijelölés megszakítása</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Feltételek</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>A feltételek és a változó-hozzárendelések javaslatok. Akkor érvényesek, ha a cél egyik sorát megerősítették.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Sorok újbóli hozzárendelése folyik</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Sorok: %1 / %2 · nyitott, amely hozzárendelődne: %3 · megerősített, amely már nem illene: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>Tetapkan rentang nilai yang diuraikan</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Dari pilihan (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Batalkan pilihan</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Syarat</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Kondisi dan pemetaan variabel merupakan usulan. Keduanya berlaku begitu satu baris target dikonfirmasi.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Baris sedang ditetapkan ulang</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Baris: %1 dari %2 · terbuka yang akan ditetapkan: %3 · terkonfirmasi yang tidak lagi cocok: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

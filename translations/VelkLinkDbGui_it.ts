@@ -52,6 +52,10 @@
         <translation>Assegnare gli intervalli di valori risolti</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Dalla selezione (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Annullare la selezione</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Condizioni</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Condizioni e assegnazioni di variabili sono proposte. Valgono appena una riga della destinazione è confermata.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Riassegnazione delle righe</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Righe: %1 di %2 · aperte che verrebbero assegnate: %3 · confermate che non andrebbero più: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

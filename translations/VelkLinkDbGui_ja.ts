@@ -52,6 +52,10 @@
         <translation>展開した値範囲を割り当て</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>選択から (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>選択を中止</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>条件</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>条件と変数の割り当ては提案です。対象の行が一つ確認されると有効になります。</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>行を割り当て直しています</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>行: %1 / %2 · 割り当てられる未決の行: %3 · 合わなくなる確認済みの行: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

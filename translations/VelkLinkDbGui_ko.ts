@@ -52,6 +52,10 @@
         <translation>해석된 값 범위 할당</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>선택에서 (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>선택 취소</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>조건</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>조건과 변수 할당은 제안입니다. 대상의 줄 하나가 확인되면 유효합니다.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>행을 다시 할당하는 중</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>줄: %1 / %2 · 할당될 미결 줄: %3 · 더 이상 맞지 않을 확인된 줄: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

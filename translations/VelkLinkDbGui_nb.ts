@@ -52,6 +52,10 @@
         <translation>Tilordne oppløste verdiområder</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Fra utvalget (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Avbryt utvalg</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Betingelser</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Betingelser og variabeltilordninger er foreslått. De gjelder så snart en linje i målet er bekreftet.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Linjer tilordnes på nytt</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Linjer: %1 av %2 · åpne som ville bli tildelt: %3 · bekreftede som ikke lenger ville passe: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

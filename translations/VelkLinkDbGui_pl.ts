@@ -52,6 +52,10 @@
         <translation>Przypisz rozwinięte zakresy wartości</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Z zaznaczenia (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Anuluj wybór</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Warunki</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Warunki i przypisania zmiennych są propozycją. Obowiązują, gdy jeden wiersz celu zostanie potwierdzony.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Wiersze są przypisywane ponownie</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Wiersze: %1 z %2 · otwarte, które zostałyby przypisane: %3 · potwierdzone, które już by nie pasowały: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

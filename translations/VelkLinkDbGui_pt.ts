@@ -52,6 +52,10 @@
         <translation>Atribuir os intervalos de valores resolvidos</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Da seleção (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Cancelar a seleção</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Condições</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Condições e atribuições de variáveis são propostas. Valem assim que uma linha do destino for confirmada.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>A atribuir as linhas de novo</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Linhas: %1 de %2 · abertas que seriam atribuídas: %3 · confirmadas que deixariam de servir: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

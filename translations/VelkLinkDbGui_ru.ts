@@ -52,6 +52,10 @@
         <translation>Назначить раскрытые диапазоны значений</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Из выбора (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Отменить выбор</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Условия</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Условия и назначения переменных предложены. Они действуют, как только подтверждена одна строка цели.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Строки назначаются заново</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Строки: %1 из %2 · открытые, которые были бы назначены: %3 · подтверждённые, которые больше не подошли бы: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>Dodeli razrešena območja vrednosti</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Iz izbora (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Prekliči izbor</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Pogoji</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Pogoji in dodelitve spremenljivk so predlagani. Veljajo, ko je potrjena ena vrstica cilja.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Vrstice se znova dodeljujejo</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Vrstice: %1 od %2 · odprte, ki bi bile dodeljene: %3 · potrjene, ki ne bi več ustrezale: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>Tilldela upplösta värdeområden</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Från urvalet (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Avbryt markering</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Villkor</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Villkor och variabeltilldelningar är föreslagna. De gäller så snart en rad i målet är bekräftad.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Rader tilldelas på nytt</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Rader: %1 av %2 · öppna som skulle tilldelas: %3 · bekräftade som inte längre skulle passa: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>Çözülen değer aralıklarını ata</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>Seçimden (%1): %2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>Seçimi iptal et</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>Koşullar</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>Koşullar ve değişken atamaları öneridir. Hedefin bir satırı onaylanınca geçerli olurlar.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>Satırlar yeniden atanıyor</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>Satırlar: %1 / %2 · atanacak açık olanlar: %3 · artık uymayacak onaylılar: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

@@ -52,6 +52,10 @@
         <translation>分配已展开的值范围</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>来自所选 (%1)：%2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>取消选择</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>条件</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>条件和变量分配为建议。一旦目标的一行被确认，它们即生效。</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>正在重新分配行</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>行：%1 / %2 · 将被分配的未决行：%3 · 不再适合的已确认行：%4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

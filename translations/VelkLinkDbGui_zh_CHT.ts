@@ -52,6 +52,10 @@
         <translation>指派已展開的值範圍</translation>
     </message>
     <message>
+        <source>Aus der Auswahl (%1): %2</source>
+        <translation>來自所選 (%1)：%2</translation>
+    </message>
+    <message>
         <source>Auswahl abbrechen</source>
         <translation>取消選取</translation>
     </message>
@@ -98,6 +102,10 @@
     <message>
         <source>Bedingungen</source>
         <translation>條件</translation>
+    </message>
+    <message>
+        <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
+        <translation>條件和變數指派為建議。目標的一行確認後即生效。</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -484,6 +492,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zeilen werden neu zugewiesen</source>
         <translation>正在重新指派列</translation>
+    </message>
+    <message>
+        <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
+        <translation>行：%1 / %2 · 將被指派的未決行：%3 · 不再適合的已確認行：%4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>

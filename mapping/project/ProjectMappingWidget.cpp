@@ -58,10 +58,12 @@ void ProjectMappingWidget::setApplicationHandler(ApplicationHandlerI *applicatio
 }
 
 void ProjectMappingWidget::setTableColumn(TableMappingWidget *widget,
-                                          const std::function<VKTab::LineId()> &selectedLine)
+                                          const std::function<VKTab::LineId()> &selectedLine,
+                                          const std::function<QList<int>()> &selectedLines)
 {
     d->params.tableMappingWidget = widget;
     d->params.selectedSourceLine = selectedLine;
+    d->params.selectedSourceLines = selectedLines;
 }
 
 void ProjectMappingWidget::setRemoteViewerMode(bool remote)

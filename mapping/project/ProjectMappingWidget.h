@@ -43,7 +43,9 @@ public:
     template<class Table>
     void setTableMappingWidget(Table *widget)
     {
-        setTableColumn(widget, [widget] { return widget->selectedSourceLine(); });
+        setTableColumn(
+            widget, [widget] { return widget->selectedSourceLine(); },
+            [widget] { return widget->selectedSourceLines(); });
     }
     /// True: targets get addresses in the catalog repository, from the next project on. The library
     /// reads no repository, so they count as missing.
@@ -54,7 +56,8 @@ public:
 
 private:
     void setTableColumn(TableMappingWidget *widget,
-                        const std::function<VKTab::LineId()> &selectedLine);
+                        const std::function<VKTab::LineId()> &selectedLine,
+                        const std::function<QList<int>()> &selectedLines);
 
     friend class ProjectMappingWidgetPrivate;
     ProjectMappingWidgetPrivate *const d;

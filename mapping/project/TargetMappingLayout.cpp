@@ -172,6 +172,9 @@ void TargetMappingWidget::addDelegates()
     conditions->onChanged = [this] {
         storeConditions();
     };
+    conditions->onFormulaOpened = [this](DlgFormulaEditor *dialog, int row) {
+        watchCondition(dialog, row);
+    };
     VariableListDelegate *const targets = addDelegate(variableView, 1, targetContent, false);
     targets->onChanged = [this] {
         storeVariableMappings();
@@ -182,4 +185,7 @@ void TargetMappingWidget::addDelegates()
     values->valueColumn = 2;
     values->targetColumn = 1;
     values->onChanged = targets->onChanged;
+    values->onFormulaOpened = [this](DlgFormulaEditor *dialog, int row) {
+        watchFormula(dialog, row);
+    };
 }

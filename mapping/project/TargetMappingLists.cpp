@@ -15,9 +15,11 @@
 #include <geomcore/binding/VarsetVarMappingC.h>
 #include <geomcore/expression/VarCollector.h>
 
+#include <QLabel>
 #include <QStandardItemModel>
 #include <QTableView>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -60,6 +62,16 @@ QStandardItem *sourceItem(const VarsetVarMappingC &mapping)
     if (ignored)
         item->setData(true, IgnoredRole);
     return item;
+}
+
+bool hasConfirmedLine(const PrjMappingTargetC &target)
+{
+    if (target.lineCounts().verified() == 0)
+        return false;
+    const LineTable &lines = target.lines();
+    return std::any_of(lines.begin(), lines.end(), [](const LineTable::Iterator &line) {
+        return line.state() == PRJMAPPING::Verified && line.targetLine() != -1;
+    });
 }
 
 } // namespace
@@ -129,6 +141,7 @@ void TargetMappingWidget::storeConditions()
         target.addCondition(VarsetConditionC::create(text, sourceVariables, usedVariables));
         addNames(conditionVariables, usedVariables);
     }
+    showProposed(target);
     if (notify)
         notify(target, index, TargetLinesChanged);
 }
@@ -151,8 +164,34 @@ void TargetMappingWidget::storeVariableMappings()
     target.clearModifier();
     for (int row = 0; row < variableModel->rowCount(); ++row)
         target.addModifier(makeModifier(row));
+    showProposed(target);
     if (notify)
         notify(target, index, TargetModified);
+}
+
+void TargetMappingWidget::showProposed(const PrjMappingTargetC &target)
+{
+    const bool proposed = target.hasProposedRules() && !hasConfirmedLine(target);
+    for (QStandardItemModel *const model : {conditionModel, variableModel}) {
+        for (int row = 0; row < model->rowCount(); ++row) {
+            for (int column = 1; column < model->columnCount(); ++column) {
+                QStandardItem *const item = model->item(row, column);
+                QFont font = item->font();
+                if (font.italic() == proposed)
+                    continue;
+                font.setItalic(proposed);
+                item->setFont(font);
+            }
+        }
+    }
+    QString toolTip = target.getTargetPath().toHtmlEscaped();
+    if (proposed)
+        toolTip +=
+            QStringLiteral("<br />") +
+            PString::translate("Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie "
+                               "gelten, sobald eine Zeile des Ziels bestätigt ist.",
+                               "VelkLinkDbGui");
+    pathLabel->setToolTip(toolTip);
 }
 
 void TargetMappingWidget::appendCondition(const QString &text)
@@ -181,11 +220,15 @@ void TargetMappingWidget::onDeleteVarMapping(const QModelIndex &cell, int /*butt
 
 void TargetMappingWidget::onAddConditionClicked()
 {
+    const auto store = [this](const QString &text) {
+        appendCondition(text);
+        storeConditions();
+    };
+    const auto watch = [this](DlgFormulaEditor *dialog) {
+        watchCondition(dialog, conditionModel->rowCount());
+    };
     editFormula({sourceVariables, targetVariables, QString()}, QString(), parentWidget(),
-                *std::shared_ptr(dialogs), [this](const QString &text) {
-                    appendCondition(text);
-                    storeConditions();
-                });
+                *std::shared_ptr(dialogs), {store, watch});
 }
 
 void TargetMappingWidget::onDeleteConditionClicked(const QModelIndex &cell, int /*buttonIndex*/)

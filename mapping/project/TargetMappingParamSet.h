@@ -3,6 +3,7 @@
 #include <geomcore/records/CatalogMappingC.h>
 #include <geomcore/value/LineId.h>
 
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -26,4 +27,5 @@ struct TargetMappingParamSet
     QString copiedCondition;
     /// Of tableMappingWidget, whose class stands above this one.
     std::function<VKTab::LineId()> selectedSourceLine;
+    std::function<QList<int>()> selectedSourceLines; ///< may be empty
 };

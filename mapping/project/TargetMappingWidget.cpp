@@ -35,6 +35,7 @@ TargetMappingWidget::TargetMappingWidget(int targetIndex, const VKTab::ContentRe
     addDelegates();
     loadConditions(target);
     loadVariableMappings(target);
+    showProposed(target);
 }
 
 void TargetMappingWidget::showPath(const QString &path, const QString &builtPath)
@@ -44,7 +45,6 @@ void TargetMappingWidget::showPath(const QString &path, const QString &builtPath
         PString::translate("%1 <b>(Konnte nicht gefunden werden)</b>", "VelkLinkDbGui");
     pathLabel->setTextFormat(found ? Qt::PlainText : Qt::RichText);
     pathLabel->setText(found ? path : missing.arg(path.toHtmlEscaped()));
-    pathLabel->setToolTip(path.toHtmlEscaped());
 }
 
 void TargetMappingWidget::readTable(const QString &builtPath)

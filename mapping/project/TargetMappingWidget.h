@@ -28,6 +28,7 @@ class QTableView;
 class QVBoxLayout;
 QT_END_NAMESPACE
 
+class DlgFormulaEditor;
 class OpenDialogs;
 class VariableListDelegate;
 class VarsetModifierI;
@@ -104,6 +105,9 @@ private:
     void loadVariableMappings(const PrjMappingTargetC &target);
     void collectVariables(const QString &condition);
     [[nodiscard]] QString assignedVariable(const QString &formula) const;
+    /// Rules that the program proposed stand in italics until they are stored or a line of the
+    /// target is confirmed; the path's tool tip says so.
+    void showProposed(const PrjMappingTargetC &target);
     void appendCondition(const QString &text);
     void appendVariableMapping(const QString &targetName, QStandardItem *value);
     void storeConditions();
@@ -113,6 +117,17 @@ private:
     void assignLine(const VKTab::LineId &sourceLine, const VKTab::LineId &targetLine);
     /// Null for a formula that does not parse; the caller owns it.
     [[nodiscard]] VarsetModifierI *makeModifier(int row) const;
+    /// Lets a formula editor tell what its text would mean, and offers a condition for the selected
+    /// lines. The row is that of the condition or mapping; the next one for a new condition.
+    void watchCondition(DlgFormulaEditor *dialog, int row);
+    void watchFormula(DlgFormulaEditor *dialog, int row);
+    using ChangedTarget = std::function<std::optional<PrjMappingTargetC>(const QString &)>;
+    void watch(DlgFormulaEditor *dialog, const ChangedTarget &changedTarget);
+    void offerCondition(DlgFormulaEditor *dialog);
+    /// The target with the text in that row; none if the text does not parse.
+    [[nodiscard]] std::optional<PrjMappingTargetC> withCondition(int row,
+                                                                 const QString &text) const;
+    [[nodiscard]] std::optional<PrjMappingTargetC> withFormula(int row, const QString &text) const;
     /// A menu with "Kopieren" if a cell is under it and "Einfügen" if there is something to paste.
     void showCopyMenu(QTableView *view, const QPoint &pos, const char *copySlot,
                       const char *pasteSlot, bool canPaste);

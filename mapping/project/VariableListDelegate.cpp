@@ -134,6 +134,15 @@ void VariableListDelegate::callChanged() const
         changed();
 }
 
+std::function<void(DlgFormulaEditor *)> VariableListDelegate::openedFor(int row) const
+{
+    if (!onFormulaOpened)
+        return {};
+    return [opened = onFormulaOpened, row](DlgFormulaEditor *dialog) {
+        opened(dialog, row);
+    };
+}
+
 void VariableListDelegate::onItemActivated(int index)
 {
     const auto *const box = qobject_cast<const QComboBox *>(sender());
@@ -159,15 +168,16 @@ void VariableListDelegate::writeFormula(int row)
     }
     // The editor takes the focus, and the box is gone.
     const QPointer<VariableListDelegate> alive(this);
+    const auto store = [&](const QString &formula) {
+        if (!alive || !model || valueColumn == -1 || !value.isValid())
+            return;
+        model->setData(value, formula);
+        model->setData(value, true, FormulaRole);
+        model->setData(value, false, IgnoredRole);
+        callChanged();
+    };
     editFormula(subject, text, qobject_cast<QWidget *>(parent()), *std::shared_ptr(dialogs),
-                [&](const QString &formula) {
-                    if (!alive || !model || valueColumn == -1 || !value.isValid())
-                        return;
-                    model->setData(value, formula);
-                    model->setData(value, true, FormulaRole);
-                    model->setData(value, false, IgnoredRole);
-                    callChanged();
-                });
+                {store, openedFor(row)});
 }
 
 /// Not told: the box tells it when it is left.
@@ -188,14 +198,15 @@ bool VariableListDelegate::editorEvent(QEvent *event, QAbstractItemModel *itemMo
         return QStyledItemDelegate::editorEvent(event, itemModel, option, index);
     const QPersistentModelIndex cell(index);
     const QPointer<VariableListDelegate> alive(this);
+    const auto store = [&](const QString &formula) {
+        if (!alive || !cell.isValid())
+            return;
+        itemModel->setData(cell, formula);
+        callChanged();
+    };
     editFormula({sourceVariables, targetVariables, QString()}, index.data().toString(),
                 qobject_cast<QWidget *>(parent()), *std::shared_ptr(dialogs),
-                [&](const QString &formula) {
-                    if (!alive || !cell.isValid())
-                        return;
-                    itemModel->setData(cell, formula);
-                    callChanged();
-                });
+                {store, openedFor(index.row())});
     return true;
 }
 

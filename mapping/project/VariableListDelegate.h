@@ -14,6 +14,7 @@ class QStandardItemModel;
 class QTextDocument;
 QT_END_NAMESPACE
 
+class DlgFormulaEditor;
 class OpenDialogs;
 
 /// Edits the cells of a target's lists. A cell with a variable offers the variables of a table in a
@@ -41,7 +42,9 @@ public:
                       const QModelIndex &index) const override;
 
     std::function<void()> onChanged; ///< called after an edit; may be empty
-    VKTab::ContentRef content;       ///< whose variables are offered
+    /// Called with each formula editor and the row that it is for, before it is shown; may be empty
+    std::function<void(DlgFormulaEditor *, int)> onFormulaOpened;
+    VKTab::ContentRef content; ///< whose variables are offered
     bool showFormulaItem;
     bool showIgnoreItem = false;
     bool formulaOnly = false;            ///< no box; the formula editor instead
@@ -66,4 +69,5 @@ private:
     void writeFormula(int row);
     void ignoreVariable(int row);
     void callChanged() const;
+    [[nodiscard]] std::function<void(DlgFormulaEditor *)> openedFor(int row) const;
 };

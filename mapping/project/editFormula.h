@@ -11,6 +11,7 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
+class DlgFormulaEditor;
 class OpenDialogs;
 
 /// What a formula is written over: sample values of both tables, of which only the names matter,
@@ -22,7 +23,15 @@ struct FormulaSubject
     QString variableName;
 };
 
-/// Opens the formula editor with a text, and hands over what the user made of it. A text with
-/// errors is handed over too.
+/// What becomes of a formula editor.
+struct FormulaAnswers
+{
+    /// What the user made of the text, one with errors too.
+    std::function<void(const QString &)> onAccepted;
+    /// Before the editor is shown and has its text; may be empty.
+    std::function<void(DlgFormulaEditor *)> onOpened;
+};
+
+/// Opens the formula editor with a text.
 void editFormula(const FormulaSubject &subject, const QString &text, QWidget *parent,
-                 OpenDialogs &dialogs, const std::function<void(const QString &)> &onAccepted);
+                 OpenDialogs &dialogs, const FormulaAnswers &answers);

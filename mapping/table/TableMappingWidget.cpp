@@ -2,6 +2,8 @@
 
 #include "TableMappingWidgetPrivate.h"
 
+#include <geomcoregui/table/VkTableView.h>
+
 #include <QCheckBox>
 
 TableMappingWidget::TableMappingWidget(QWidget *parent)
@@ -34,6 +36,17 @@ void TableMappingWidget::loadSourceTable(const VKTab::ContentRef &table, const P
 VKTab::LineId TableMappingWidget::selectedSourceLine() const
 {
     return d->sourceTable.isValid() ? d->sourceTable.getSelection() : VKTab::LineId();
+}
+
+QList<int> TableMappingWidget::selectedSourceLines() const
+{
+    QList<int> lines;
+    if (!d->sourceTable.isValid())
+        return lines;
+    const auto ids = d->sourceView->getSelectedLines();
+    for (const VKTab::LineId &id : ids)
+        lines << id.value(0);
+    return lines;
 }
 
 QString TableMappingWidget::sourcePath() const

@@ -40,6 +40,8 @@ public:
                          const CatalogMappingC &catalog);
     /// The selected line of the source table; not valid if there is none.
     [[nodiscard]] VKTab::LineId selectedSourceLine() const;
+    /// Numbers of the selected lines of the source table, in display order.
+    [[nodiscard]] QList<int> selectedSourceLines() const;
     /// Source path of the mapping; empty before the first one.
     [[nodiscard]] QString sourcePath() const;
 

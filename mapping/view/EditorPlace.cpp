@@ -45,13 +45,7 @@ VKTab::ContentRef EditorPlace::sourceTable() const
 
 QList<int> EditorPlace::selectedLines() const
 {
-    QList<int> lines;
-    if (!sourceTable().isValid())
-        return lines;
-    const auto ids = m_tables->sourceView()->getSelectedLines();
-    for (const VKTab::LineId &id : ids)
-        lines << id.value(0);
-    return lines;
+    return m_tables->selectedSourceLines();
 }
 
 int EditorPlace::currentLine() const

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void hiddenFormulaIsGone();
     void emptyListsTakeNoRoom();
     void removeButtonHasAnIcon();
+    void proposedRulesAreMarked();
 };
 
 void tst_TargetMappingLists::roles()
@@ -121,6 +122,37 @@ void tst_TargetMappingLists::removeButtonHasAnIcon()
     Editor editor;
     editor.load(mappingOf("old/a.prj", {"new/a.prj"}));
     QVERIFY(!editor.button(0, "removeButton")->icon().pixmap(16, 16).isNull());
+}
+
+void tst_TargetMappingLists::proposedRulesAreMarked()
+{
+    Editor editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addCondition(mapping, 0, "k .LT. 9");
+    addCondition(mapping, 0, "k .LT. 8");
+    addRename(mapping, 0, "k", "k");
+    mapping.changeTarget(0, [](PrjMappingTargetC &target) { target.setProposedRules(true); });
+    editor.load(mapping, CatalogMappingC());
+    const auto isItalic = [&](const char *list, int column) {
+        const QModelIndex cell = listOf(editor, list)->model()->index(0, column);
+        return cell.data(Qt::FontRole).value<QFont>().italic();
+    };
+    const auto toolTip = [&] {
+        return editor.panel(0)->findChild<QLabel *>("pathLabel")->toolTip();
+    };
+    const QString text = "Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, "
+                         "sobald eine Zeile des Ziels bestätigt ist.";
+    QVERIFY(isItalic("conditionView", 1) && isItalic("variableView", 1) &&
+            isItalic("variableView", 2));
+    QCOMPARE(toolTip(), "new/a.prj<br />" + text);
+    // Whoever changes them stands for them.
+    clickDelete(listOf(editor, "conditionView"), 0);
+    QVERIFY(!isItalic("conditionView", 1) && !isItalic("variableView", 2));
+    QCOMPARE(toolTip(), QStringLiteral("new/a.prj"));
+    QVERIFY(!editor.announced().findTarget(0).hasProposedRules());
+    enter(mapping, 0, 1, 1, PRJMAPPING::Verified);
+    editor.load(mapping, CatalogMappingC());
+    QVERIFY(!isItalic("conditionView", 1));
 }
 
 QTEST_MAIN(tst_TargetMappingLists)

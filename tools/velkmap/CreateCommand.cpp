@@ -69,6 +69,8 @@ void printSummary(const Builder &builder, QTextStream &out)
         << release.countMappings() << " projects, " << counts.same << " with the same path, "
         << counts.moved << " elsewhere, " << counts.several << " in several places, " << counts.gone
         << " without target, " << counts.unreadable << " unreadable\n";
+    if (counts.proposed > 0)
+        out << counts.proposed << " with proposed conditions or variable mappings\n";
 }
 
 /// A wrong catalog gives no error, but hardly any project has a target.

@@ -44,6 +44,7 @@ TargetHead TargetHead::of(const PrjMappingTargetC &target)
     head.version = target.getTargetVersion();
     head.tabVersion = target.getTabVersion();
     head.valid = target.isValid();
+    head.proposed = target.hasProposedRules();
     for (const VarsetConditionI *condition : target.getConditions())
         head.conditions += textOf(condition);
     for (const VarsetModifierI *modifier : target.getVarsetModifier())
@@ -68,6 +69,7 @@ void TargetHead::applyTo(PrjMappingTargetC &target) const
     target.clearModifier();
     for (const QByteArray &modifier : modifiers)
         target.addModifier(makeModifier(modifier));
+    target.setProposedRules(proposed);
 }
 
 QStringList TargetHead::ignored() const
@@ -90,6 +92,8 @@ PJsonValue TargetHead::toJson() const
     json[QStringLiteral("version")] = PJsonValue(version);
     json[QStringLiteral("tabVersion")] = PJsonValue(tabVersion);
     json[QStringLiteral("valid")] = PJsonValue::fromBool(valid);
+    if (proposed)
+        json[QStringLiteral("proposed")] = PJsonValue::fromBool(true);
     PJsonValue texts(PJsonValue::Array);
     for (const QString &condition : conditions)
         texts.append(PJsonValue(condition));
@@ -111,6 +115,7 @@ TargetHead TargetHead::fromJson(const PJsonValue &json)
     head.version = json.value(QStringLiteral("version")).toText();
     head.tabVersion = json.value(QStringLiteral("tabVersion")).toText();
     head.valid = json.value(QStringLiteral("valid")).toBool();
+    head.proposed = json.value(QStringLiteral("proposed")).toBool();
     const PJsonValue texts = json.value(QStringLiteral("conditions"));
     for (int i = 0; i < texts.size(); ++i)
         head.conditions += texts.at(i).toText();

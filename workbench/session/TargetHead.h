@@ -15,6 +15,7 @@ struct TargetHead
     QString version;
     QString tabVersion;
     bool valid = false;
+    bool proposed = false; ///< the rules, by the program
     QStringList conditions;
     QList<QByteArray> modifiers; ///< each as in the mapping file, compact
 

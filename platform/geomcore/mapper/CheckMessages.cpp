@@ -86,6 +86,13 @@ QString reworkedTable(const QString &project)
         .arg(project);
 }
 
+QString proposedRules()
+{
+    return PString::translate("Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen "
+                              "gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.",
+                              "VelkGeomCore");
+}
+
 QString otherDesignation(std::string_view oldText, std::string_view newText)
 {
     return PString::translate("Die Normbezeichnungen sind verschieden.\n  Alte Normbezeichnung: "

@@ -19,6 +19,7 @@ namespace Mapper::CheckMessages {
 [[nodiscard]] QString tooLittleCompared(const QStringList &variables);
 [[nodiscard]] QString otherProject(const QString &source, const QString &target);
 [[nodiscard]] QString reworkedTable(const QString &project);
+[[nodiscard]] QString proposedRules();
 [[nodiscard]] QString otherDesignation(std::string_view oldText, std::string_view newText);
 [[nodiscard]] QString failedCondition(const QString &condition);
 [[nodiscard]] QString faultyCondition(const QString &condition);

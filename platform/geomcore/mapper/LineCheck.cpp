@@ -34,6 +34,23 @@ bool LineCheck::passes(const Assignment &assignment, CheckModeFlags mode)
     return run(mode);
 }
 
+bool LineCheck::hasEqualValues(const Assignment &assignment)
+{
+    m_assignment = &assignment;
+    m_quiet = true;
+    m_hasValues = false;
+    m_target = m_targets.at(assignment.targetIndex, m_mapping);
+    const int row = m_target && m_target->isOpen()
+                        ? m_target->table()->data().rowOf(assignment.targetLine)
+                        : -1;
+    if (row < 0)
+        return false;
+    if (isJoined(row))
+        return true;
+    takeValues();
+    return m_values.texts.countValues() > 0 && checkDifferences(row);
+}
+
 QStringList LineCheck::messages(const Assignment &assignment, CheckModeFlags mode)
 {
     m_assignment = &assignment;
@@ -54,7 +71,18 @@ bool LineCheck::run(CheckModeFlags mode)
         ok = checkLine(mode);
     if (mode & CheckConditions && (ok || !m_quiet))
         ok = checkConditions() && ok;
-    return ok;
+    return ok && m_assignment->automatic ? checkProposedRules(mode) : ok;
+}
+
+bool LineCheck::checkProposedRules(CheckModeFlags mode)
+{
+    TargetSet::Plain *const plain = m_targets.withoutProposals(m_mapping);
+    if (!plain)
+        return true;
+    Assignment assignment = *m_assignment;
+    assignment.targetVarset = nullptr;
+    return LineCheck(plain->targets, plain->mapping).passes(assignment, mode) ||
+           complain(CheckMessages::proposedRules());
 }
 
 bool LineCheck::complain(const QString &message)
@@ -110,16 +138,20 @@ bool LineCheck::checkValues(int row)
     return ok;
 }
 
+bool LineCheck::isJoined(int row) const
+{
+    if (!usesJoins() || m_assignment->targetVarset || !m_target->textsAreStored())
+        return false;
+    const PairJoin *join = m_target->join();
+    const int sourceRow = m_assignment->line.row;
+    return join->hit(sourceRow) == row &&
+           (join->isUndisputed(sourceRow) || m_target->hasSameTexts(sourceRow, row));
+}
+
 bool LineCheck::checkEqual(int row)
 {
-    if (usesJoins() && !m_assignment->targetVarset && m_target->textsAreStored()) {
-        const PairJoin *join = m_target->join();
-        const int sourceRow = m_assignment->line.row;
-        if (join->hit(sourceRow) == row &&
-            (join->isUndisputed(sourceRow) ||
-             (!join->isSeveral(sourceRow) && m_target->hasSameTexts(sourceRow, row))))
-            return true;
-    }
+    if (isJoined(row) && !m_target->join()->isSeveral(m_assignment->line.row))
+        return true;
     takeValues();
     if (m_values.texts.countValues() == 0)
         return complain(CheckMessages::nothingInCommon());

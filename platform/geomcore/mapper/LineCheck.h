@@ -16,8 +16,9 @@ namespace Mapper {
 /// project, or is confirmed for it; if all combinations of the line's ranges belong to it; if
 /// enough of the line's values are compared, each counted once; and, where the program chose the
 /// project, if name or a confirmed line connect it with the source and most lines of both tables
-/// agree: in a table that was reworked a single equal line is chance. What cannot be read or
-/// parsed, or is too much to be compared, leaves no certainty.
+/// agree: in a table that was reworked a single equal line is chance. Where the program proposed
+/// conditions or variable mappings, all of this has to hold without them too. What cannot be read
+/// or parsed, or is too much to be compared, leaves no certainty.
 class LineCheck
 {
 public:
@@ -38,6 +39,8 @@ public:
 
     /// Whether there is nothing to be said against it.
     [[nodiscard]] bool passes(const Assignment &assignment, CheckModeFlags mode);
+    /// Whether the target line has equal values, whatever else is to be said.
+    [[nodiscard]] bool hasEqualValues(const Assignment &assignment);
     /// What is to be said against it, one message for each difference.
     [[nodiscard]] QStringList messages(const Assignment &assignment, CheckModeFlags mode);
 
@@ -58,9 +61,12 @@ private:
     bool checkProject(int row);
     bool checkDesignations(int row);
     bool checkConditions();
+    bool checkProposedRules(CheckModeFlags mode);
 
     bool complain(const QString &message);
     [[nodiscard]] bool usesJoins() const;
+    /// The join pairs the line with this row, so nothing need be compared.
+    [[nodiscard]] bool isJoined(int row) const;
     void takeValues();
     [[nodiscard]] bool mayTakeLine(const BoundTarget &target) const;
     [[nodiscard]] int equalRowOf(const BoundTarget &target);

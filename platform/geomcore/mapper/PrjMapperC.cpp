@@ -75,6 +75,19 @@ PrjMapperLineC PrjMapperC::createLine(int lineId, const VKTab::LineView &line, b
     return d->createLine(d->input(lineId, line, converted), firstTargetOnly);
 }
 
+bool PrjMapperC::hasEqualLine(int lineId)
+{
+    d->adoptNode();
+    return d->hasEqualLine(d->source().rowOf(lineId));
+}
+
+bool PrjMapperC::hasEqualValues(const PrjMapperLineC &line, const VKTab::LineView &view)
+{
+    d->adoptNode();
+    Varset converted;
+    return d->hasEqualValues(line, d->input(line.getSourceLineId(), view, converted));
+}
+
 PrjMapperC::Varset PrjMapperC::updateVarset(const PrjMapperLineC &line, const Varset &varset,
                                             QFlags<VarsetModeFlag> mode)
 {

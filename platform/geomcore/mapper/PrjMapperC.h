@@ -67,6 +67,11 @@ public:
     [[nodiscard]] PrjMapperLineC createLine(int lineId, const VKTab::LineView &line,
                                             bool firstTargetOnly);
 
+    /// Whether some target has, for some combination of the source line's ranges, a line with equal
+    /// values, as far as its conditions hold: createLine proposes such a one for that combination.
+    /// Looks all lines up at once at the first call, and takes nothing out of the working mapping.
+    [[nodiscard]] bool hasEqualLine(int lineId);
+
     /// The line's values as its target sees them. Without a target the values stay as they are.
     [[nodiscard]] Varset updateVarset(const PrjMapperLineC &line, const Varset &varset,
                                       QFlags<VarsetModeFlag> mode);
@@ -86,6 +91,9 @@ public:
     /// Whether checkMapping would be OK, without making messages.
     [[nodiscard]] bool passesCheck(const PrjMapperLineC &line, const VKTab::LineView &view,
                                    QFlags<CheckModeFlag> mode);
+    /// Whether the target line has equal values for those of the view, in text columns as texts,
+    /// whatever else speaks against the assignment.
+    [[nodiscard]] bool hasEqualValues(const PrjMapperLineC &line, const VKTab::LineView &view);
     /// Checks values and conditions for the source line as stored and then for each combination of
     /// the ranges that conditions read; the result is that of the first that fails.
     [[nodiscard]] PrjMapperCheckResultC checkMapping(const PrjMapperLineC &line,

@@ -1,7 +1,6 @@
 #include "PrjMapperPrivate.h"
 
 #include "ExactSearch.h"
-#include "LineCheck.h"
 #include "PairJoin.h"
 #include "Proposals.h"
 #include "TargetTable.h"
@@ -198,18 +197,21 @@ Proposal PrjMapperPrivate::findEqual(const LineInput &line)
     return {};
 }
 
-bool PrjMapperPrivate::hasEqualCombination(const LineInput &line)
+bool PrjMapperPrivate::hasEqualLine(int row)
 {
     TargetSet &all = targets();
-    if (line.row < 0 || all.ranges().isEmpty())
-        return false;
-    for (int i = 0; i < all.count(); ++i) {
+    for (int i = 0; i < all.count() && row >= 0; ++i) {
         const BoundTarget *target = all.at(i, working.mapping());
         const PairJoin *join = target ? target->join() : nullptr;
-        if (join && join->hit(line.row) >= 0)
+        if (join && join->hit(row) >= 0)
             return true;
     }
     return false;
+}
+
+bool PrjMapperPrivate::hasEqualCombination(const LineInput &line)
+{
+    return !targets().ranges().isEmpty() && hasEqualLine(line.row);
 }
 
 PrjMapperPrivate::Bound PrjMapperPrivate::boundFor(const PrjMapperLineC &line)
@@ -255,18 +257,34 @@ PrjMapperPrivate::Varset PrjMapperPrivate::updateVarset(const PrjMapperLineC &li
     return values;
 }
 
+Mapper::LineCheck::Assignment PrjMapperPrivate::assignmentOf(const PrjMapperLineC &line,
+                                                             const LineInput &input)
+{
+    Mapper::LineCheck::Assignment assignment;
+    assignment.line = input;
+    assignment.targetIndex = line.getTargetIndex();
+    assignment.targetLine = line.getTargetLineId();
+    assignment.automatic = line.m_pairs.isEmpty();
+    return assignment;
+}
+
 bool PrjMapperPrivate::passes(const PrjMapperLineC &line, const LineInput &input,
                               CheckModeFlags mode)
 {
     if (!line.isValid() || !line.isFound())
         return false;
     const Bound bound = boundFor(line);
-    Mapper::LineCheck::Assignment assignment;
-    assignment.line = input;
-    assignment.targetIndex = line.getTargetIndex();
-    assignment.targetLine = line.getTargetLineId();
-    assignment.automatic = line.m_pairs.isEmpty();
-    return Mapper::LineCheck(*bound.targets, *bound.mapping).passes(assignment, mode);
+    return Mapper::LineCheck(*bound.targets, *bound.mapping)
+        .passes(assignmentOf(line, input), mode);
+}
+
+bool PrjMapperPrivate::hasEqualValues(const PrjMapperLineC &line, const LineInput &input)
+{
+    if (!line.isValid() || !line.isFound())
+        return false;
+    const Bound bound = boundFor(line);
+    return Mapper::LineCheck(*bound.targets, *bound.mapping)
+        .hasEqualValues(assignmentOf(line, input));
 }
 
 PrjMapperCheckResultC PrjMapperPrivate::check(const PrjMapperLineC &line, const LineInput &input,
@@ -276,12 +294,8 @@ PrjMapperCheckResultC PrjMapperPrivate::check(const PrjMapperLineC &line, const 
     if (!line.isValid() || !line.isFound())
         return {false, QString(), QString(), {}, {}, {}};
     const Bound bound = boundFor(line);
-    Mapper::LineCheck::Assignment assignment;
-    assignment.line = input;
-    assignment.targetIndex = line.getTargetIndex();
-    assignment.targetLine = line.getTargetLineId();
+    Mapper::LineCheck::Assignment assignment = assignmentOf(line, input);
     assignment.targetVarset = targetVarset;
-    assignment.automatic = line.m_pairs.isEmpty();
     QStringList messages =
         Mapper::LineCheck(*bound.targets, *bound.mapping).messages(assignment, mode);
     if (messages.isEmpty())

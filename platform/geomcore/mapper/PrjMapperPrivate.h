@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LineCheck.h"
 #include "PrjMapperC.h"
 #include "Proposals.h"
 #include "SourceTable.h"
@@ -39,6 +40,7 @@ public:
 
     [[nodiscard]] PrjMapperLineC toMapperLine(const PrjMappingLineC &line) const;
     [[nodiscard]] PrjMapperLineC createLine(const Mapper::LineInput &line, bool firstTargetOnly);
+    [[nodiscard]] bool hasEqualLine(int row);
     /// Enters a line that is found in the working mapping.
     void enter(const PrjMapperLineC &line);
     [[nodiscard]] Varset updateVarset(const PrjMapperLineC &line, const Mapper::LineInput &input,
@@ -49,6 +51,7 @@ public:
                                               const QString &text);
     [[nodiscard]] bool passes(const PrjMapperLineC &line, const Mapper::LineInput &input,
                               CheckModeFlags mode);
+    [[nodiscard]] bool hasEqualValues(const PrjMapperLineC &line, const Mapper::LineInput &input);
 
     /// Ranges of the source table that conditions of the line's mapping read.
     [[nodiscard]] QStringList rangesFor(const PrjMapperLineC &line)
@@ -71,6 +74,8 @@ private:
         const PrjMappingC *mapping = nullptr;
         std::unique_ptr<Mapper::TargetSet> owned;
     };
+    [[nodiscard]] static Mapper::LineCheck::Assignment assignmentOf(const PrjMapperLineC &line,
+                                                                    const Mapper::LineInput &input);
     /// The targets of the mapping that the line's last pair holds.
     [[nodiscard]] Bound boundFor(const PrjMapperLineC &line);
     void collectOpenTargets(const Mapper::LineInput &line, bool firstOnly);

@@ -34,6 +34,8 @@ TargetSet::TargetSet(const PrjMappingC &mapping, const QString &sourcePath,
 {
 }
 
+TargetSet::~TargetSet() = default;
+
 const BoundTarget *TargetSet::at(int index, const PrjMappingC &mapping)
 {
     if (index < 0 || index >= count())
@@ -82,6 +84,36 @@ std::vector<int> TargetSet::confirmedLines(const BoundTarget &target, const PrjM
         }
     }
     return lines;
+}
+
+void TargetSet::forgetConfirmed()
+{
+    m_confirmed.clear();
+    m_plain.reset();
+}
+
+TargetSet::Plain *TargetSet::withoutProposals(const PrjMappingC &mapping)
+{
+    if (m_plain)
+        return m_plain->get();
+    m_plain.emplace();
+    PrjMappingC plain = mapping;
+    bool changed = false;
+    for (int i = 0; i < count(); ++i) {
+        const BoundTarget *target =
+            mapping.targetAt(i).hasProposedRules() ? at(i, mapping) : nullptr;
+        if (!target || target->hasVerified())
+            continue;
+        plain.changeTarget(i, [](PrjMappingTargetC &without) {
+            without.clearConditions();
+            without.clearModifier();
+        });
+        changed = true;
+    }
+    if (changed)
+        *m_plain = std::unique_ptr<Plain>(
+            new Plain{plain, TargetSet(plain, m_sourcePath, m_source, m_open, m_shownOnly)});
+    return m_plain->get();
 }
 
 } // namespace Mapper

@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Mapper {
@@ -23,6 +24,7 @@ public:
     /// The source outlives this. \a shownOnly: lines that a target project hides do not count.
     TargetSet(const PrjMappingC &mapping, const QString &sourcePath, const SourceTable &source,
               Open open, bool shownOnly);
+    ~TargetSet();
 
     [[nodiscard]] int count() const { return int(m_targets.size()); }
     /// Null for the not-found target and for an unknown index. \a mapping is the one given at
@@ -44,7 +46,11 @@ public:
     /// Looks through the confirmed lines of the mapping at the first call.
     [[nodiscard]] int confirmedFor(const BoundTarget &target, int row, const PrjMappingC &mapping);
     /// To be called when a confirmed line has been entered or taken out.
-    void forgetConfirmed() { m_confirmed.clear(); }
+    void forgetConfirmed();
+    struct Plain;
+    /// The targets without the rules that the program has proposed and that no confirmed line
+    /// stands for yet; null if there are none.
+    [[nodiscard]] Plain *withoutProposals(const PrjMappingC &mapping);
     /// Ranges of the source table that conditions of any target read.
     [[nodiscard]] const QStringList &ranges() const { return m_ranges; }
     [[nodiscard]] const QString &sourcePath() const { return m_sourcePath; }
@@ -70,6 +76,13 @@ private:
     std::vector<Slot> m_targets;
     /// By index of the target: source lines by row; empty if none is confirmed.
     std::map<int, std::vector<int>> m_confirmed;
+    std::optional<std::unique_ptr<Plain>> m_plain; ///< none: not looked at yet
+};
+
+struct TargetSet::Plain
+{
+    PrjMappingC mapping;
+    TargetSet targets;
 };
 
 } // namespace Mapper

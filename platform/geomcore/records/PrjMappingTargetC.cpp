@@ -14,6 +14,7 @@ public:
     QString version;
     QString tabVersion;
     bool valid = false;
+    bool proposedRules = false;
     LineTable lines;
     std::vector<std::shared_ptr<const VarsetConditionI>> conditions;
     std::vector<std::shared_ptr<const VarsetModifierI>> modifiers;
@@ -192,6 +193,7 @@ void PrjMappingTargetC::addCondition(const VarsetConditionI *condition)
 void PrjMappingTargetC::clearConditions()
 {
     d->conditions.clear();
+    d->proposedRules = false;
 }
 
 bool PrjMappingTargetC::conditionsHold(const QHash<QString, MapVarValueC> &varset) const
@@ -218,6 +220,17 @@ void PrjMappingTargetC::addModifier(const VarsetModifierI *modifier)
 void PrjMappingTargetC::clearModifier()
 {
     d->modifiers.clear();
+    d->proposedRules = false;
+}
+
+bool PrjMappingTargetC::hasProposedRules() const
+{
+    return d->proposedRules;
+}
+
+void PrjMappingTargetC::setProposedRules(bool proposed)
+{
+    d->proposedRules = proposed;
 }
 
 QHash<QString, MapVarValueC>

@@ -85,6 +85,11 @@ public:
     /// Takes ownership; null is ignored.
     void addModifier(const VarsetModifierI *modifier);
     void clearModifier();
+    /// Conditions and modifiers are the program's proposal, and nobody has changed them since. As
+    /// long as no line of the target is confirmed, nothing is certain because of them.
+    [[nodiscard]] bool hasProposedRules() const;
+    /// Ends by clearConditions() and clearModifier().
+    void setProposedRules(bool proposed);
     /// The values as the target sees them: every modifier applied in order.
     [[nodiscard]] QHash<QString, MapVarValueC>
     updateVarset(const QHash<QString, MapVarValueC> &varset) const;

@@ -23,6 +23,7 @@ enum ReleaseBuilder::Key : int {
     Version,
     TabVersion,
     Valid,
+    ProposedRules,
     ConditionsKey,
     ModifiersKey,
     LinesKey,
@@ -45,6 +46,7 @@ constexpr ReleaseBuilder::Member ReleaseBuilder::Members[] = {
     {Target, "version", TextKind, true, Outside},
     {Target, "tabVersion", TextKind, true, Outside},
     {Target, "valid", BooleanKind, true, Outside},
+    {Target, "proposed", BooleanKind, false, Outside},
     {Target, "conditions", ArrayKind, true, Conditions},
     {Target, "modifiers", ArrayKind, true, Modifiers},
     {Target, "lines", ArrayKind, true, Lines},
@@ -116,6 +118,7 @@ bool ReleaseBuilder::startObject()
         begin(Mapping);
     } else if (m_key == NoKey && m_place == Targets) {
         m_target = PrjMappingTargetC();
+        m_proposedRules = false;
         begin(Target);
     } else if (m_key == NoKey && m_place == Modifiers) {
         ++m_element;
@@ -138,6 +141,7 @@ bool ReleaseBuilder::endObject()
         return false;
     if (m_place == Target) {
         m_place = Targets;
+        m_target.setProposedRules(m_proposedRules);
         m_targets.append(m_target);
     } else if (m_place == Mapping) {
         return endMapping();
@@ -249,7 +253,10 @@ bool ReleaseBuilder::boolean(bool flag)
     }
     if (!expect(BooleanKind))
         return false;
-    m_target.setValid(flag);
+    if (m_key == Valid)
+        m_target.setValid(flag);
+    else
+        m_proposedRules = flag;
     m_key = NoKey;
     return true;
 }

@@ -105,6 +105,7 @@ private:
     PRJMAPPING::MappingState m_state;
     QList<PrjMappingTargetC> m_targets;
     PrjMappingTargetC m_target;
+    bool m_proposedRules = false;
     QString m_modifierKind;
     QString m_modifierSource;
     QString m_modifierTarget;
@@ -123,7 +124,7 @@ private:
     QString m_extended;
     bool m_conflict = false;
 
-    static constexpr std::size_t MemberCount = 19;
+    static constexpr std::size_t MemberCount = 20;
     std::array<LastText, MemberCount> m_last; ///< of each of Members
     QString m_message;
     QStringList m_notes;

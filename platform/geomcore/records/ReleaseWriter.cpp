@@ -112,6 +112,10 @@ void writeTarget(JsonWriter &writer, const PrjMappingTargetC &target)
     writeText(writer, "tabVersion", target.getTabVersion());
     writer.key("valid");
     writer.value(target.isValid());
+    if (target.hasProposedRules()) {
+        writer.key("proposed");
+        writer.value(true);
+    }
     writeConditions(writer, target);
     writeModifiers(writer, target);
     writeLines(writer, target.lines());

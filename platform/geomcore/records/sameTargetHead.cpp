@@ -40,6 +40,7 @@ bool sameTargetHead(const PrjMappingTargetC &a, const PrjMappingTargetC &b)
 {
     return a.getTargetPath() == b.getTargetPath() && a.getTargetVersion() == b.getTargetVersion() &&
            a.getTabVersion() == b.getTabVersion() && a.isValid() == b.isValid() &&
+           a.hasProposedRules() == b.hasProposedRules() &&
            sameTexts(a.getConditions(), b.getConditions()) &&
            sameTexts(a.getVarsetModifier(), b.getVarsetModifier());
 }

@@ -5,7 +5,6 @@
 #include <core/parallel/WorkerPool.h>
 #include <core/text/PPathName.h>
 #include <geomcore/index/IndexTreeC.h>
-#include <geomcore/records/CatalogMappingC.h>
 #include <geomcore/records/LineTable.h>
 
 #include <algorithm>
@@ -94,6 +93,17 @@ std::vector<int> lastsOf(const std::vector<VKTab::LineId> &lines,
 }
 
 } // namespace
+
+CatalogMappingC LinePart::catalogOf(const PrjMappingC &mapping, const ReleaseMappingC &dates)
+{
+    ReleaseMappingC release;
+    release.setSourceDate(dates.getSourceDate());
+    release.setTargetDate(dates.getTargetDate());
+    release.addMapping(mapping);
+    CatalogMappingC catalog;
+    catalog.addRelease(release);
+    return catalog;
+}
 
 LinePart::LinePart(const QString &sourcePath, const QString &sourceVersion,
                    const CatalogMappingC &catalog, const VKTab::Content &table,

@@ -2,13 +2,13 @@
 
 #include "LineRun.h"
 
+#include <geomcore/records/CatalogMappingC.h>
+
 #include <atomic>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
-
-class CatalogMappingC;
 
 namespace VelkRelease {
 
@@ -17,6 +17,9 @@ namespace VelkRelease {
 class LinePart
 {
 public:
+    /// A catalog with this mapping alone, in a release with the dates of \a dates.
+    [[nodiscard]] static CatalogMappingC catalogOf(const PrjMappingC &mapping,
+                                                   const ReleaseMappingC &dates);
     /// To be made on the thread that owns \a table, which outlives it.
     LinePart(const QString &sourcePath, const QString &sourceVersion,
              const CatalogMappingC &catalog, const VKTab::Content &table,
@@ -25,6 +28,7 @@ public:
     /// Whether the catalog has the project's mapping.
     [[nodiscard]] bool isUsable() const { return m_usable; }
     void assign(const VKTab::LineId &line) { m_run.assign(line); }
+    [[nodiscard]] PrjMapperC &mapper() { return m_mapper; }
     /// The project's mapping; what other parts assigned is not in it.
     [[nodiscard]] PrjMappingC mapping() { return m_mapper.getMappingNode().getMapping(); }
 

@@ -1,6 +1,7 @@
 #include "ReleaseAssigner.h"
 
 #include "assignProjectLines.h"
+#include "conditionVariables.h"
 #include "SharedTargetLines.h"
 
 #include <core/message/PStringMessageImpl.h>
@@ -22,18 +23,6 @@
 namespace VelkRelease {
 
 namespace {
-
-// Names that any condition of any target reads: their value ranges are walked value by value.
-QStringList conditionVariables(const PrjMappingC &mapping)
-{
-    QStringList names;
-    for (const PrjMappingTargetC &target : mapping.getTargets()) {
-        for (const VarsetConditionI *condition : target.getConditions())
-            names += condition->usedVariables();
-    }
-    names.removeDuplicates();
-    return names;
-}
 
 constexpr std::chrono::milliseconds TellEvery(100);
 

@@ -7,13 +7,19 @@
 #include "ProjectName.h"
 #include "ReleaseDate.h"
 #include "ReleaseIndex.h"
+#include "RuleProposals.h"
 #include "VariableNames.h"
 
 #include <core/parallel/WorkerPool.h>
 #include <core/progress/PProgress.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
+#include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
+#include <release/decide/CommonValues.h>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -54,6 +60,11 @@ private:
     void takeMessages();
     [[nodiscard]] PrjMappingC mappingOf(const ReadProject &source) const;
     void addTargets(PrjMappingC &mapping, const std::vector<int> &tables) const;
+    void proposeRules(const ReadProject &source, PrjMappingC &mapping,
+                      const std::vector<int> &tables) const;
+    /// For each target; empty without a split.
+    [[nodiscard]] QStringList conditionsOf(const ReadProject &source,
+                                           const RuleProposals::Split &split) const;
     void count(const PrjMappingC &mapping);
 
     ReleaseMappingBuilder &m_builder;
@@ -136,7 +147,9 @@ PrjMappingC ReleaseMappingBuilder::Work::mappingOf(const ReadProject &source) co
     mapping.setSourcePath(source.project.path);
     mapping.setSourceVersion(source.project.version);
     mapping.setTabVersion(source.project.tableVersion);
-    addTargets(mapping, ProjectFinder(m_index).find(source.project.path, source.cells));
+    const std::vector<int> tables = ProjectFinder(m_index).find(source.project.path, source.cells);
+    addTargets(mapping, tables);
+    proposeRules(source, mapping, tables);
     mapping.updateMappingState();
     if (!source.project.errors.isEmpty())
         mapping.setMappingState(mapping.getMappingState() | PRJMAPPING::StateTableError);
@@ -157,11 +170,71 @@ void ReleaseMappingBuilder::Work::addTargets(PrjMappingC &mapping,
     }
 }
 
+void ReleaseMappingBuilder::Work::proposeRules(const ReadProject &source, PrjMappingC &mapping,
+                                               const std::vector<int> &tables) const
+{
+    std::vector<const LineCells *> cells;
+    for (const int table : tables)
+        cells.push_back(&m_index.table(table));
+    const RuleProposals proposals(source.cells, cells);
+    const RuleProposals::Split split = proposals.split();
+    const QStringList conditions = conditionsOf(source, split);
+    for (int target = 0; target < int(tables.size()); ++target) {
+        const std::vector<RuleProposals::Rename> &renames = proposals.renames(target);
+        const QString condition = conditions.value(target);
+        if (renames.empty() && condition.isEmpty())
+            continue;
+        mapping.changeTarget(target, [&](PrjMappingTargetC &changed) {
+            for (const RuleProposals::Rename &rename : renames)
+                changed.addModifier(
+                    std::make_unique<VarsetVarMappingC>(m_names.nameOf(rename.source),
+                                                        m_names.nameOf(rename.target))
+                        .release());
+            if (!condition.isEmpty())
+                changed.addCondition(VarsetConditionC::fromText(condition));
+            changed.setProposedRules(true);
+        });
+    }
+}
+
+QStringList ReleaseMappingBuilder::Work::conditionsOf(const ReadProject &source,
+                                                      const RuleProposals::Split &split) const
+{
+    QStringList conditions;
+    if (split.variable < 0)
+        return conditions;
+    const auto table = m_source.read(source.project.path).table;
+    const QString name = m_names.nameOf(split.variable);
+    const int column = table ? table->columnOf(name) : -1;
+    if (column < 0)
+        return conditions;
+    const bool numeric = table->descriptor().fields[column].isNumeric();
+    for (const std::vector<int> &rows : split.rows) {
+        QStringList clauses;
+        for (const int row : rows) {
+            const QString value = VKTab::LineView(*table, row).value(column).toString();
+            clauses += equalsClause(name, value, numeric);
+        }
+        conditions += clauses.join(QStringLiteral(" .OR. "));
+        const std::unique_ptr<VarsetConditionC> condition(
+            VarsetConditionC::fromText(conditions.last()));
+        if (!condition->error().isEmpty()) // a name that the formula language does not have
+            return {};
+    }
+    return conditions;
+}
+
 void ReleaseMappingBuilder::Work::count(const PrjMappingC &mapping)
 {
     Counts &counts = m_builder.m_counts;
     const int targets = mapping.countTargets();
     const QString path = pathInCatalog(mapping.getSourcePath());
+    for (int i = 0; i < targets; ++i) {
+        if (mapping.targetAt(i).hasProposedRules()) {
+            ++counts.proposed;
+            break;
+        }
+    }
     if (mapping.getMappingState().testFlag(PRJMAPPING::StateTableError))
         ++counts.unreadable;
     else if (targets == 0)

@@ -10,7 +10,9 @@
 namespace VelkRelease {
 
 /// Makes the release mapping of a catalog between two releases: for each old project the new
-/// projects that can take over its lines, in order, and no lines yet. Shows a progress that can be
+/// projects that can take over its lines, in order, and no lines yet. Variables with another name
+/// get a variable mapping, projects that were split by the values of a variable a condition for
+/// each target, both marked as proposed. Shows a progress that can be
 /// cancelled; what goes wrong goes nowhere but into messages().
 class VELKRELEASE_EXPORT ReleaseMappingBuilder
 {
@@ -43,6 +45,7 @@ public:
         int several = 0; ///< Several of other paths.
         int gone = 0;    ///< None.
         int unreadable = 0;
+        int proposed = 0; ///< Of these the ones with a proposed condition or variable mapping.
     };
 
     explicit ReleaseMappingBuilder(const Input &input)

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QMutex>
 #include <QString>
+#include <QStringList>
 
 namespace VelkRelease {
 
@@ -16,12 +17,21 @@ public:
     {
         const QMutexLocker lock(&m_mutex);
         const auto found = m_ids.constFind(name);
-        return found != m_ids.cend() ? *found : *m_ids.insert(name, int(m_ids.size()));
+        if (found != m_ids.cend())
+            return *found;
+        m_names.append(name);
+        return *m_ids.insert(name, int(m_names.size()) - 1);
+    }
+    [[nodiscard]] QString nameOf(int id) const
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_names.value(id);
     }
 
 private:
-    QMutex m_mutex;
+    mutable QMutex m_mutex;
     QHash<QString, int> m_ids;
+    QStringList m_names;
 };
 
 } // namespace VelkRelease

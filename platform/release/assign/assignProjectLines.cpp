@@ -5,6 +5,7 @@
 
 #include <geomcore/records/CatalogMappingC.h>
 #include <geomcore/table/Content.h>
+#include <release/decide/notFoundLines.h>
 
 #include <optional>
 
@@ -12,32 +13,11 @@ namespace VelkRelease {
 
 namespace {
 
-void emptyNotFoundTarget(PrjMappingC &mapping)
-{
-    const int index = mapping.getNotFoundTarget();
-    if (index == -1)
-        return;
-    PrjMappingTargetC target = mapping.findTarget(index);
-    target.clearLines(true);
-    mapping.updateTarget(index, target);
-}
-
 void removeEmptyNotFoundTarget(PrjMappingC &mapping)
 {
     const int index = mapping.getNotFoundTarget();
     if (index != -1 && mapping.findTarget(index).countLines() == 0)
         mapping.removeTarget(index);
-}
-
-CatalogMappingC catalogOf(const PrjMappingC &mapping, const ReleaseMappingC &dates)
-{
-    ReleaseMappingC release;
-    release.setSourceDate(dates.getSourceDate());
-    release.setTargetDate(dates.getTargetDate());
-    release.addMapping(mapping);
-    CatalogMappingC catalog;
-    catalog.addRelease(release);
-    return catalog;
 }
 
 /// False if the work was to end.
@@ -84,9 +64,9 @@ AssignmentOutcome assignProjectLines(const QString &sourcePath, PrjMappingC &map
         return outcome;
     }
     const PrjMappingC before = mapping;
-    emptyNotFoundTarget(mapping);
+    forgetNotFound(mapping);
     mapping.setMappingState(PRJMAPPING::StateUsable);
-    const CatalogMappingC catalog = catalogOf(mapping, release);
+    const CatalogMappingC catalog = LinePart::catalogOf(mapping, release);
     const auto makePart = [&] {
         return std::make_unique<LinePart>(sourcePath, mapping.getSourceVersion(), catalog, table,
                                           conditionVariables, force);

@@ -20,4 +20,14 @@ void leaveNotFound(PrjMappingC &mapping, int line)
     mapping.updateTarget(index, target);
 }
 
+void forgetNotFound(PrjMappingC &mapping)
+{
+    const int index = mapping.getNotFoundTarget();
+    if (index == -1)
+        return;
+    PrjMappingTargetC target = mapping.findTarget(index);
+    target.clearLines(true);
+    mapping.updateTarget(index, target);
+}
+
 } // namespace VelkRelease

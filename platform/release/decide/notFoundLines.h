@@ -12,4 +12,7 @@ VELKRELEASE_EXPORT void enterNotFound(PrjMappingC &mapping, int line, PRJMAPPING
 /// Takes a line out of that target, if it is there. The mapping's state is not updated.
 VELKRELEASE_EXPORT void leaveNotFound(PrjMappingC &mapping, int line);
 
+/// Takes all lines out of that target that are not confirmed, so that they are looked for again.
+VELKRELEASE_EXPORT void forgetNotFound(PrjMappingC &mapping);
+
 } // namespace VelkRelease

@@ -15,9 +15,11 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDesktopServices>
+#include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
 #include <QSplitter>
@@ -200,6 +202,9 @@ private Q_SLOTS:
         fixture.open(fixture.mappingFile());
         QDesktopServices::setUrlHandler("file", this, "takeUrl");
         Q_EMIT fixture.window->editor()->targetProjectWanted("standardparts/screws/iso4017.prj");
+        const auto *const view = fixture.window->findChild<QDialog *>("PartView");
+        QVERIFY(view);
+        QTest::mouseClick(view->findChild<QPushButton *>("folder"), Qt::LeftButton);
         QDesktopServices::unsetUrlHandler("file");
         QVERIFY2(m_url.toLocalFile().endsWith("/standardparts/screws"),
                  qPrintable(m_url.toString()));

@@ -1,0 +1,372 @@
+#include "RuleProposals.h"
+
+#include "LineCells.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <unordered_map>
+#include <utility>
+
+namespace VelkRelease {
+
+namespace {
+
+/// Lines that are equal in everything else before their values tell of a name.
+constexpr int EnoughPairs = 3;
+/// Share of them, and of values and lines in general, that has to agree.
+constexpr double Agreeing = 0.9;
+constexpr double MostLines = 0.8;
+/// A variable by which a project was split has few values.
+constexpr int MostValues = 12;
+/// Ways to part the values among the targets that are tried.
+constexpr double MostPartings = 20'000;
+constexpr double MostWork = 5e7;
+/// How much better, in lines, the best way has to be than the next one.
+constexpr double ClearShare = 0.02;
+
+using ColumnPair = std::pair<int, int>;
+
+int columnOf(const LineCells &cells, int variable)
+{
+    const auto &variables = cells.variables();
+    const auto found = std::lower_bound(variables.begin(), variables.end(), variable);
+    return found != variables.end() && *found == variable ? int(found - variables.begin()) : -1;
+}
+
+std::vector<ColumnPair> commonColumns(const LineCells &source, const LineCells &target)
+{
+    std::vector<ColumnPair> pairs;
+    for (size_t column = 0; column < source.variables().size(); ++column) {
+        const int other = columnOf(target, source.variables()[column]);
+        if (other >= 0)
+            pairs.emplace_back(int(column), other);
+    }
+    return pairs;
+}
+
+std::vector<int> ownColumns(const LineCells &cells, const LineCells &other)
+{
+    std::vector<int> columns;
+    for (size_t column = 0; column < cells.variables().size(); ++column) {
+        if (columnOf(other, cells.variables()[column]) < 0)
+            columns.push_back(int(column));
+    }
+    return columns;
+}
+
+/// Hash of a line over some columns, each under the number given for it; 0 without any value.
+quint64 keyOf(const LineCells &cells, int row, const std::vector<int> &columns)
+{
+    quint64 key = 0;
+    quint64 place = 0;
+    for (const int column : columns) {
+        ++place;
+        const quint64 value = cells.cell(row, column);
+        if (value == 0)
+            continue;
+        quint64 mixed = (value + place * 0x9e3779b97f4a7c15U) * 0xbf58476d1ce4e5b9U;
+        mixed ^= mixed >> 29U;
+        key += mixed * 0x94d049bb133111ebU;
+    }
+    return key;
+}
+
+std::vector<int> firsts(const std::vector<ColumnPair> &pairs)
+{
+    std::vector<int> columns;
+    for (const ColumnPair &pair : pairs)
+        columns.push_back(pair.first);
+    return columns;
+}
+
+std::vector<int> seconds(const std::vector<ColumnPair> &pairs)
+{
+    std::vector<int> columns;
+    for (const ColumnPair &pair : pairs)
+        columns.push_back(pair.second);
+    return columns;
+}
+
+/// Rows by key; -1 for a key that several rows have. Rows without value are left out.
+std::unordered_map<quint64, int> uniqueRows(const LineCells &cells, const std::vector<int> &columns)
+{
+    std::unordered_map<quint64, int> rows;
+    for (int row = 0; row < cells.rowCount(); ++row) {
+        const quint64 key = keyOf(cells, row, columns);
+        if (key == 0)
+            continue;
+        const auto [found, isNew] = rows.try_emplace(key, row);
+        if (!isNew)
+            found->second = -1;
+    }
+    return rows;
+}
+
+/// Rows of the source with the row that is equal in these columns, if it is the only one.
+std::vector<std::pair<int, int>> equalRows(const LineCells &source, const LineCells &target,
+                                           const std::vector<ColumnPair> &columns)
+{
+    std::vector<std::pair<int, int>> pairs;
+    const auto targets = uniqueRows(target, seconds(columns));
+    const std::vector<int> own = firsts(columns);
+    for (int row = 0; row < source.rowCount(); ++row) {
+        const auto found = targets.find(keyOf(source, row, own));
+        if (found != targets.end() && found->second >= 0)
+            pairs.emplace_back(row, found->second);
+    }
+    return pairs;
+}
+
+/// Share of the pairs in which both columns have the same value, 0 if there is but one value.
+double agreement(const LineCells &source, const LineCells &target,
+                 const std::vector<std::pair<int, int>> &pairs, const ColumnPair &columns)
+{
+    int agreeing = 0;
+    quint32 first = 0;
+    bool several = false;
+    for (const auto &[row, other] : pairs) {
+        const quint32 value = source.cell(row, columns.first);
+        if (value == 0 || value != target.cell(other, columns.second))
+            continue;
+        ++agreeing;
+        several = several || (first != 0 && first != value);
+        first = value;
+    }
+    return several && !pairs.empty() ? double(agreeing) / double(pairs.size()) : 0;
+}
+
+std::vector<quint32> sortedValues(const LineCells &cells, int column)
+{
+    std::vector<quint32> values;
+    for (int row = 0; row < cells.rowCount(); ++row) {
+        if (cells.cell(row, column) != 0)
+            values.push_back(cells.cell(row, column));
+    }
+    std::sort(values.begin(), values.end());
+    return values;
+}
+
+/// Share of the values that both columns have, each as often as it stands there; 0 with less than
+/// three different ones.
+double likeness(const LineCells &source, const LineCells &target, const ColumnPair &columns)
+{
+    const std::vector<quint32> a = sortedValues(source, columns.first);
+    const std::vector<quint32> b = sortedValues(target, columns.second);
+    std::vector<quint32> both;
+    std::set_intersection(a.begin(), a.end(), b.begin(), b.end(), std::back_inserter(both));
+    const size_t all = std::max(a.size(), b.size());
+    const double share = all == 0 ? 0 : double(both.size()) / double(all);
+    both.erase(std::unique(both.begin(), both.end()), both.end());
+    return both.size() < 3 ? 0 : share;
+}
+
+struct Candidate
+{
+    ColumnPair columns;
+    double score;
+};
+
+/// Candidates of which neither column has another one nearly as good.
+std::vector<ColumnPair> clearOnes(const std::vector<Candidate> &candidates)
+{
+    std::vector<ColumnPair> clear;
+    for (const Candidate &candidate : candidates) {
+        const bool rival =
+            std::any_of(candidates.begin(), candidates.end(), [&](const Candidate &other) {
+                const bool shares = (other.columns.first == candidate.columns.first) !=
+                                    (other.columns.second == candidate.columns.second);
+                return shares && other.score > candidate.score - (1 - Agreeing);
+            });
+        if (!rival)
+            clear.push_back(candidate.columns);
+    }
+    return clear;
+}
+
+int countHeld(const LineCells &source, const LineCells &target,
+              const std::vector<ColumnPair> &columns)
+{
+    const auto targets = uniqueRows(target, seconds(columns));
+    const std::vector<int> own = firsts(columns);
+    int held = 0;
+    for (int row = 0; row < source.rowCount(); ++row)
+        held += targets.contains(keyOf(source, row, own)) ? 1 : 0;
+    return held;
+}
+
+} // namespace
+
+RuleProposals::RuleProposals(const LineCells &source, const std::vector<const LineCells *> &targets)
+    : m_source(source)
+    , m_targets(targets)
+{
+    for (const LineCells *target : m_targets)
+        m_renames.push_back(findRenames(*target));
+}
+
+std::vector<RuleProposals::Rename> RuleProposals::findRenames(const LineCells &target) const
+{
+    const std::vector<int> old = ownColumns(m_source, target);
+    const std::vector<int> now = ownColumns(target, m_source);
+    if (old.empty() || now.empty())
+        return {};
+    const std::vector<ColumnPair> common = commonColumns(m_source, target);
+    const auto pairs = equalRows(m_source, target, common);
+    const bool aligned = int(pairs.size()) >= EnoughPairs;
+    std::vector<Candidate> candidates;
+    for (const int from : old) {
+        for (const int to : now) {
+            const ColumnPair columns(from, to);
+            const double score = aligned ? agreement(m_source, target, pairs, columns)
+                                         : likeness(m_source, target, columns);
+            if (score >= Agreeing)
+                candidates.push_back({columns, score});
+        }
+    }
+    std::vector<ColumnPair> all = common;
+    std::vector<Rename> renames;
+    for (const ColumnPair &columns : clearOnes(candidates)) {
+        all.push_back(columns);
+        renames.push_back({m_source.variables()[size_t(columns.first)],
+                           target.variables()[size_t(columns.second)]});
+    }
+    const int fewer = std::min(m_source.rowCount(), target.rowCount());
+    if (renames.empty() || countHeld(m_source, target, all) < MostLines * fewer)
+        return {};
+    return renames;
+}
+
+/// How well the lines are parted among the targets by the values of a column.
+struct RuleProposals::Parting
+{
+    double score = 0; ///< lines that are where they should be, of both sides
+    bool isClear = false;
+    std::vector<int> targets; ///< by value
+    std::vector<int> rows;    ///< the first row with each value
+};
+
+RuleProposals::Parting RuleProposals::part(int column) const
+{
+    Parting parting;
+    std::map<quint32, int> values;
+    std::vector<int> valueOf(size_t(m_source.rowCount()), -1);
+    for (int row = 0; row < m_source.rowCount(); ++row) {
+        const quint32 value = m_source.cell(row, column);
+        const auto [found, isNew] = values.try_emplace(value, int(values.size()));
+        if (isNew)
+            parting.rows.push_back(row);
+        valueOf[size_t(row)] = found->second;
+        if (value == 0 || int(values.size()) > MostValues)
+            return {};
+    }
+    const size_t count = values.size();
+    const size_t targets = m_targets.size();
+    const double partings = std::pow(double(targets), double(count));
+    if (count < targets || partings > MostPartings || partings * m_source.rowCount() > MostWork)
+        return {};
+    // For each value and target: lines that the target holds, and rows that hold them.
+    std::vector<std::vector<int>> held(count, std::vector<int>(targets));
+    std::vector<std::vector<std::vector<bool>>> holders(count,
+                                                        std::vector<std::vector<bool>>(targets));
+    for (size_t t = 0; t < targets; ++t) {
+        std::vector<ColumnPair> columns = commonColumns(m_source, *m_targets[t]);
+        for (const Rename &rename : m_renames[t])
+            columns.emplace_back(columnOf(m_source, rename.source),
+                                 columnOf(*m_targets[t], rename.target));
+        std::unordered_map<quint64, std::vector<int>> rows;
+        for (int row = 0; row < m_targets[t]->rowCount(); ++row)
+            rows[keyOf(*m_targets[t], row, seconds(columns))].push_back(row);
+        for (auto &value : holders)
+            value[t].resize(size_t(m_targets[t]->rowCount()));
+        const std::vector<int> own = firsts(columns);
+        for (int row = 0; row < m_source.rowCount(); ++row) {
+            const quint64 key = keyOf(m_source, row, own);
+            const auto found = key == 0 ? rows.end() : rows.find(key);
+            if (found == rows.end())
+                continue;
+            const auto value = size_t(valueOf[size_t(row)]);
+            ++held[value][t];
+            for (const int holder : found->second)
+                holders[value][t][size_t(holder)] = true;
+        }
+    }
+    const auto scoreOf = [&](const std::vector<int> &chosen) {
+        double score = 0;
+        for (size_t t = 0; t < targets; ++t) {
+            std::vector<bool> covered(size_t(m_targets[t]->rowCount()));
+            bool used = false;
+            for (size_t value = 0; value < count; ++value) {
+                if (chosen[value] != int(t))
+                    continue;
+                used = true;
+                score += held[value][t];
+                for (size_t row = 0; row < covered.size(); ++row)
+                    covered[row] = covered[row] || holders[value][t][row];
+            }
+            if (!used)
+                return -1.0;
+            score += double(std::count(covered.begin(), covered.end(), true));
+        }
+        return score;
+    };
+    double second = -1;
+    std::vector<int> chosen(count, 0);
+    parting.score = -1;
+    while (true) {
+        const double score = scoreOf(chosen);
+        if (score > parting.score) {
+            second = parting.score;
+            parting.score = score;
+            parting.targets = chosen;
+        } else {
+            second = std::max(second, score);
+        }
+        size_t digit = 0;
+        while (digit < count && ++chosen[digit] == int(targets))
+            chosen[digit++] = 0;
+        if (digit == count)
+            break;
+    }
+    double all = m_source.rowCount();
+    for (const LineCells *target : m_targets)
+        all += target->rowCount();
+    parting.isClear = parting.score >= MostLines * all &&
+                      parting.score - second >= std::max(1.0, ClearShare * all);
+    return parting;
+}
+
+RuleProposals::Split RuleProposals::split() const
+{
+    Split split;
+    if (m_targets.size() < 2)
+        return split;
+    std::optional<Parting> best;
+    for (size_t column = 0; column < m_source.variables().size(); ++column) {
+        const int variable = m_source.variables()[column];
+        const bool stays =
+            std::any_of(m_targets.begin(), m_targets.end(),
+                        [&](const LineCells *target) { return columnOf(*target, variable) >= 0; });
+        const bool renamed =
+            std::any_of(m_renames.begin(), m_renames.end(), [&](const std::vector<Rename> &all) {
+                return std::any_of(all.begin(), all.end(),
+                                   [&](const Rename &rename) { return rename.source == variable; });
+            });
+        if (stays || renamed)
+            continue;
+        const Parting parting = part(int(column));
+        if (!parting.isClear || (best && best->rows.size() <= parting.rows.size()))
+            continue;
+        best = parting;
+        split.variable = variable;
+    }
+    if (!best)
+        return split;
+    split.rows.resize(m_targets.size());
+    for (size_t value = 0; value < best->rows.size(); ++value)
+        split.rows[size_t(best->targets[value])].push_back(best->rows[value]);
+    return split;
+}
+
+} // namespace VelkRelease
