@@ -110,14 +110,16 @@ void FormulaCompletionPopup::choose(const QModelIndex &index)
         Q_EMIT chosen(item);
 }
 
-/// Says beside the list what the item is.
+/// Says beside the list what the item is, below it if there is little room.
 void FormulaCompletionPopup::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTreeView::currentChanged(current, previous);
     if (!current.isValid() || !isVisible())
         return;
-    QToolTip::showText(mapToGlobal(QPoint(width(), 0)), current.data(Qt::ToolTipRole).toString(),
-                       this);
+    const int room = screen()->availableGeometry().right() - geometry().right();
+    const bool isBeside = room > fontMetrics().averageCharWidth() * mostDetail;
+    QToolTip::showText(mapToGlobal(isBeside ? QPoint(width(), 0) : QPoint(0, height())),
+                       current.data(Qt::ToolTipRole).toString(), this);
 }
 
 void FormulaCompletionPopup::hideEvent(QHideEvent *event)
