@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Opravdu pokračovat?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Projekt neleží pod složkou katalogu %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Cílový projekt %1 již neexistuje</translation>
     </message>
@@ -398,10 +394,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Otevřít projekt</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projekty (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Cesta k projektu:</translation>
     </message>
@@ -504,10 +496,6 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Zielprojekt</source>
         <translation>Cílový projekt</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Vybrat cílový projekt</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Vil du virkelig fortsætte?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Projektet ligger ikke under katalogmappen %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Målprojektet %1 findes ikke længere</translation>
     </message>
@@ -398,10 +394,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Åbn projekt</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projekter (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Projektsti:</translation>
     </message>
@@ -504,10 +496,6 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Zielprojekt</source>
         <translation>Målprojekt</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Vælg målprojekt</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

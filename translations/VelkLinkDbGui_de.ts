@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Wirklich fortfahren?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Das Zielprojekt %1 existiert nicht mehr</translation>
     </message>
@@ -398,10 +394,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Projekt öffnen</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projekte (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Projektpfad:</translation>
     </message>
@@ -504,10 +496,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Zielprojekt</source>
         <translation>Zielprojekt</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Zielprojekt auswählen</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

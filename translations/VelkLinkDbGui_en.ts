@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Really go on?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>The project does not lie below the catalog folder %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>The target project %1 no longer exists</translation>
     </message>
@@ -398,10 +394,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Open project</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projects (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Project path:</translation>
     </message>
@@ -504,10 +496,6 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Zielprojekt</source>
         <translation>Target project</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Select target project</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

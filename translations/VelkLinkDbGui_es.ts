@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 ¿Continuar realmente?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>El proyecto no está bajo el directorio de catálogo %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>El proyecto de destino %1 ya no existe</translation>
     </message>
@@ -398,10 +394,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Abrir proyecto</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Proyectos (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Ruta del proyecto:</translation>
     </message>
@@ -504,10 +496,6 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Zielprojekt</source>
         <translation>Proyecto de destino</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Seleccionar proyecto de destino</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Jatketaanko varmasti?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Projekti ei ole luettelokansion %1 alla</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Kohdeprojektia %1 ei enää ole</translation>
     </message>
@@ -398,10 +394,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Avaa projekti</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projektit (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Projektin polku:</translation>
     </message>
@@ -504,10 +496,6 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Zielprojekt</source>
         <translation>Kohdeprojekti</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Valitse kohdeprojekti</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Vraiment continuer ?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Le projet ne se trouve pas sous le répertoire de catalogue %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Le projet cible %1 n'existe plus</translation>
     </message>
@@ -398,10 +394,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Ouvrir le projet</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projets (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Chemin du projet :</translation>
     </message>
@@ -504,10 +496,6 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Zielprojekt</source>
         <translation>Projet cible</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Choisir un projet cible</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

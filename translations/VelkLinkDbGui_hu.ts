@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Valóban folytatja?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>A projekt nem a(z) %1 katalóguskönyvtár alatt van</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>A(z) %1 célprojekt már nem létezik</translation>
     </message>
@@ -398,10 +394,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Projekt megnyitása</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projektek (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Projekt útvonala:</translation>
     </message>
@@ -504,10 +496,6 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Zielprojekt</source>
         <translation>Célprojekt</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Célprojekt kiválasztása</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

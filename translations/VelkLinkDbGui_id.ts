@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Sungguh lanjutkan?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Proyek tidak berada di bawah folder katalog %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Proyek tujuan %1 sudah tidak ada</translation>
     </message>
@@ -398,10 +394,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Buka proyek</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Proyek (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Jalur proyek:</translation>
     </message>
@@ -504,10 +496,6 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Zielprojekt</source>
         <translation>Proyek tujuan</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Pilih proyek tujuan</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

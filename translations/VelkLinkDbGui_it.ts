@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Continuare davvero?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Il progetto non si trova sotto la cartella del catalogo %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Il progetto di destinazione %1 non esiste più</translation>
     </message>
@@ -398,10 +394,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Aprire il progetto</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Progetti (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Percorso del progetto:</translation>
     </message>
@@ -504,10 +496,6 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Zielprojekt</source>
         <translation>Progetto di destinazione</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Selezionare progetto di destinazione</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

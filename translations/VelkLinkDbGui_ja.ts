@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 本当に続けますか？</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>プロジェクトはカタログフォルダー %1 の下にありません</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>対象プロジェクト %1 はもう存在しません</translation>
     </message>
@@ -398,10 +394,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>プロジェクトを開く</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>プロジェクト (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>プロジェクトのパス:</translation>
     </message>
@@ -504,10 +496,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zielprojekt</source>
         <translation>対象プロジェクト</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>対象プロジェクトを選択</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 계속하시겠습니까?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>프로젝트가 카탈로그 폴더 %1 아래에 없습니다</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>대상 프로젝트 %1이(가) 더 이상 없습니다</translation>
     </message>
@@ -398,10 +394,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>프로젝트 열기</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>프로젝트 (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>프로젝트 경로:</translation>
     </message>
@@ -504,10 +496,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zielprojekt</source>
         <translation>대상 프로젝트</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>대상 프로젝트 선택</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Vil du virkelig fortsette?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Prosjektet ligger ikke under katalogmappen %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Målprosjektet %1 finnes ikke lenger</translation>
     </message>
@@ -398,10 +394,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Åpne prosjekt</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Prosjekter (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Prosjektsti:</translation>
     </message>
@@ -504,10 +496,6 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Zielprojekt</source>
         <translation>Målprosjekt</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Velg målprosjekt</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

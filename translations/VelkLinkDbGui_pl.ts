@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Naprawdę kontynuować?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Projekt nie leży w katalogu %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Projekt docelowy %1 już nie istnieje</translation>
     </message>
@@ -398,10 +394,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Otwórz projekt</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projekty (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Ścieżka projektu:</translation>
     </message>
@@ -504,10 +496,6 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Zielprojekt</source>
         <translation>Projekt docelowy</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Wybierz projekt docelowy</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

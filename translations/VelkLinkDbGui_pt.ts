@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Continuar mesmo?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>O projeto não se encontra no diretório de catálogo %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>O projeto de destino %1 já não existe</translation>
     </message>
@@ -398,10 +394,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Abrir projeto</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projetos (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Caminho do projeto:</translation>
     </message>
@@ -504,10 +496,6 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Zielprojekt</source>
         <translation>Projeto de destino</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Selecionar projeto de destino</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

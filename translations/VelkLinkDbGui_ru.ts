@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Действительно продолжить?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Проект не находится в каталоге %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Целевого проекта %1 больше нет</translation>
     </message>
@@ -398,10 +394,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Открыть проект</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Проекты (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Путь проекта:</translation>
     </message>
@@ -504,10 +496,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zielprojekt</source>
         <translation>Целевой проект</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Выбрать целевой проект</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

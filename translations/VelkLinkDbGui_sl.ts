@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Res nadaljujem?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Projekt ne leži v mapi kataloga %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Ciljni projekt %1 ne obstaja več</translation>
     </message>
@@ -398,10 +394,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Odpri projekt</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projekti (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Pot projekta:</translation>
     </message>
@@ -504,10 +496,6 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Zielprojekt</source>
         <translation>Ciljni projekt</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Izberi ciljni projekt</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

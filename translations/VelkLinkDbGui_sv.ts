@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Vill du verkligen fortsätta?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Projektet ligger inte under katalogmappen %1</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>Målprojektet %1 finns inte längre</translation>
     </message>
@@ -398,10 +394,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Öppna projekt</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projekt (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Projektets sökväg:</translation>
     </message>
@@ -504,10 +496,6 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Zielprojekt</source>
         <translation>Målprojekt</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Välj målprojekt</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

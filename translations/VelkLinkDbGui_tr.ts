@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 Gerçekten devam edilsin mi?</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>Proje %1 katalog klasörünün altında değil</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>%1 hedef projesi artık yok</translation>
     </message>
@@ -398,10 +394,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Projeyi aç</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>Projeler (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>Proje yolu:</translation>
     </message>
@@ -504,10 +496,6 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Zielprojekt</source>
         <translation>Hedef proje</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>Hedef proje seç</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 确实要继续吗？</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>项目不在目录文件夹 %1 下</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>目标项目 %1 已不存在</translation>
     </message>
@@ -398,10 +394,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>打开项目</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>项目 (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>项目路径：</translation>
     </message>
@@ -504,10 +496,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zielprojekt</source>
         <translation>目标项目</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>选择目标项目</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

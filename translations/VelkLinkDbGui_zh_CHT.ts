@@ -126,10 +126,6 @@ Wirklich fortfahren?</source>
 確定要繼續嗎？</translation>
     </message>
     <message>
-        <source>Das Projekt liegt nicht unter dem Katalogverzeichnis %1</source>
-        <translation>專案不在目錄資料夾 %1 下</translation>
-    </message>
-    <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
         <translation>目標專案 %1 已不存在</translation>
     </message>
@@ -398,10 +394,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>開啟專案</translation>
     </message>
     <message>
-        <source>Projekte (*.prj)</source>
-        <translation>專案 (*.prj)</translation>
-    </message>
-    <message>
         <source>Projektpfad:</source>
         <translation>專案路徑：</translation>
     </message>
@@ -504,10 +496,6 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Zielprojekt</source>
         <translation>目標專案</translation>
-    </message>
-    <message>
-        <source>Zielprojekt auswählen</source>
-        <translation>選擇目標專案</translation>
     </message>
     <message>
         <source>Zielprojekt entfernen</source>

@@ -1,14 +1,18 @@
 #pragma once
 
 #include "EditorFixture.h"
+#include "SelectionFixture.h"
 
 #include <mapping/project/ProjectMappingWidget.h>
+#include <selection/dlgSearchSelect.h>
 
 #include <QApplication>
-#include <QFileDialog>
+#include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QTabWidget>
 #include <QTimer>
 
 inline const QByteArray lines = "D,k:n\nM8,5\nM9,6\nM10,7\n";
@@ -69,20 +73,28 @@ struct Editor : Catalog
                          (target->downButton->isEnabled() ? QStringLiteral("v") : QString()));
         return texts.join(u' ');
     }
-    /// Answers the file dialog of the next event loop with a file, or cancels it.
-    static void answerFileDialog(const QString &file, QString *directory = nullptr)
+    /// Chooses a project in the tree of the project dialog of the next event loop, or closes the
+    /// dialog. \a preselected gets what the tree has selected by itself.
+    static void answerProjectDialog(const QString &path, QString *preselected = nullptr)
     {
-        QTimer::singleShot(0, [file, directory] {
-            auto *const dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        QTimer::singleShot(0, [path, preselected] {
+            auto *const dialog = qobject_cast<dlgSearchSelect *>(QApplication::activeModalWidget());
             QVERIFY(dialog);
-            if (directory)
-                *directory = dialog->directory().path();
-            if (file.isEmpty()) {
-                dialog->reject();
+            const auto close = qScopeGuard([dialog = QPointer<QDialog>(dialog)] {
+                if (dialog && dialog->isVisible())
+                    dialog->reject();
+            });
+            if (path.isEmpty())
                 return;
-            }
-            dialog->selectFile(file);
-            QMetaObject::invokeMethod(dialog, "accept");
+            dialog->findChild<QTabWidget *>()->setCurrentIndex(1);
+            QTreeView *const tree = treeOf(*dialog);
+            const QModelIndexList selected = tree->selectionModel()->selectedIndexes();
+            if (preselected && !selected.isEmpty())
+                *preselected = selected.first().data().toString();
+            const QModelIndex row = rowAt(tree, path);
+            QVERIFY(row.isValid());
+            tree->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect);
+            QTest::mouseClick(dialog->findChild<QPushButton *>("selectButton"), Qt::LeftButton);
         });
     }
 

@@ -51,7 +51,6 @@ private Q_SLOTS:
     void anotherProjectWhileTheDialogIsOpen();
     void widgetGoesWhileAMessageIsOpen();
     void anotherProjectWhileAMessageIsOpen();
-    void catalogFolderIsALink();
 
     void acceptsBeforeItRemoves();
     void removesThePanelOfTheIndex();
@@ -81,7 +80,7 @@ void tst_ProjectMappingTargets::addBehindAnEmptiedNotFoundTarget()
     PrjMappingC mapping = mappingOf("old/a.prj", {"", "new/a.prj"});
     enter(mapping, 0, 3, -1, ToCheck);
     editor.load(mapping);
-    editor.answerFileDialog(editor.catalog.file("new/b.prj"));
+    editor.answerProjectDialog("new/b.prj");
     QTest::mouseClick(editor.widget.findChild<QPushButton *>("addTargetButton"), Qt::LeftButton);
     QCOMPARE(targetPaths(editor.announced()), QStringLiteral("new/a.prj new/b.prj"));
     QCOMPARE(panelPaths(&editor.widget), QStringLiteral("new/a.prj new/b.prj"));
@@ -139,7 +138,7 @@ void tst_ProjectMappingTargets::anotherProjectWhileTheDialogIsOpen()
     QTimer::singleShot(0, &editor.widget, [&] {
         editor.widget.loadSourceProject(other, editor.catalog.read("old/a.prj"), catalogOf(other));
     });
-    editor.answerFileDialog(editor.catalog.file("new/b.prj"));
+    editor.answerProjectDialog("new/b.prj");
     editor.widget.findChild<QPushButton *>("addTargetButton")->click();
     QCOMPARE(editor.updates.count(), 0);
     QCOMPARE(panelPaths(&editor.widget), QStringLiteral("new/c.prj"));
@@ -172,21 +171,6 @@ void tst_ProjectMappingTargets::anotherProjectWhileAMessageIsOpen()
     editor.load(mappingOf("old/a.prj", {"new/gone.prj", "new/a.prj"}));
     QCOMPARE(panelPaths(&editor.widget), QStringLiteral("new/c.prj"));
     QCOMPARE(editor.widget.sourcePath(), QStringLiteral("old/b.prj"));
-}
-
-void tst_ProjectMappingTargets::catalogFolderIsALink()
-{
-    Editor editor;
-    const TestCatalog elsewhere;
-    elsewhere.write("real/x.prj", lines);
-    QVERIFY(QFile::link(elsewhere.root() + "/real", editor.catalog.root() + "/linked"));
-    editor.load(mappingOf("linked/a.prj", {"new/a.prj"}), CatalogMappingC());
-    // Under the name of the root that the dialog was given.
-    const QString root = PPathName("$TORMEVA_DATA/23d-libs").native();
-    editor.answerFileDialog(root + "/linked/x.prj");
-    QTest::mouseClick(editor.widget.findChild<QPushButton *>("addTargetButton"), Qt::LeftButton);
-    QCOMPARE(editor.messages->texts(), QStringList());
-    QCOMPARE(targetPaths(editor.announced()), QStringLiteral("new/a.prj linked/x.prj"));
 }
 
 void tst_ProjectMappingTargets::acceptsBeforeItRemoves()
@@ -267,7 +251,7 @@ void tst_ProjectMappingTargets::addedTargetWalksAllVariables()
     PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj"});
     addCondition(mapping, 1, "L .EQ. 3");
     editor.load(mapping);
-    editor.answerFileDialog(editor.catalog.file("new/c.prj"));
+    editor.answerProjectDialog("new/c.prj");
     QTest::mouseClick(editor.widget.findChild<QPushButton *>("addTargetButton"), Qt::LeftButton);
     QCOMPARE(editor.announced().findTarget(2).countLines(), 1);
 }
@@ -282,7 +266,7 @@ void tst_ProjectMappingTargets::addedTargetHasVersions()
     editor.catalog.writeFile("new/d.prj",
                              "[PROJECT]\nSACHM=d.json\nDATE=" + projectDate.toLatin1() + "\n");
     editor.load(mappingOf("old/a.prj", {"new/a.prj"}), CatalogMappingC());
-    editor.answerFileDialog(editor.catalog.file("new/d.prj"));
+    editor.answerProjectDialog("new/d.prj");
     QTest::mouseClick(editor.widget.findChild<QPushButton *>("addTargetButton"), Qt::LeftButton);
     const PrjMappingTargetC target = editor.announced().findTarget(1);
     QCOMPARE(target.getTargetVersion(),
