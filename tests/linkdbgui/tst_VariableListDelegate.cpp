@@ -90,6 +90,7 @@ private Q_SLOTS:
     void editorData_data();
     void editorData();
     void modelData();
+    void modelDataOfTheFirstVariable();
     void modelDataOfASpecialEntry();
     void ignoreIsNotTold();
     void activatedWithoutSender();
@@ -214,6 +215,18 @@ void tst_VariableListDelegate::modelData()
     QCOMPARE(list.cell().data(FormulaRole), QVariant(false));
     QCOMPARE(list.cell().data(IgnoredRole), QVariant(true)); // stays
     QCOMPARE(list.changes, 1);
+}
+
+void tst_VariableListDelegate::modelDataOfTheFirstVariable()
+{
+    List list;
+    list.delegate.showFormulaItem = false;
+    list.delegate.showIgnoreItem = false;
+    list.model.setData(list.cell(), "k");
+    const auto box = list.box();
+    box->setCurrentIndex(0);
+    list.delegate.setModelData(box.get(), &list.model, list.cell());
+    QCOMPARE(list.cell().data().toString(), QStringLiteral("D"));
 }
 
 void tst_VariableListDelegate::modelDataOfASpecialEntry()
