@@ -22,6 +22,7 @@ private Q_SLOTS:
     void unassignedFollowsTheStates();
     void unused();
     void unusedIsMadeAnewOnlyAfterChanges();
+    void freedLinesAreUnused();
     void unusedComesBack();
     void usedTwice();
     void sourcesOf();
@@ -117,6 +118,19 @@ void tst_TableLineFilters::unusedIsMadeAnewOnlyAfterChanges()
     filters.forgetTarget();
     filters.showUnused(m_table, m_mapping, {0, 2});
     QCOMPARE(visible(), QString("1 5"));
+}
+
+void tst_TableLineFilters::freedLinesAreUnused()
+{
+    TableLineFilters filters;
+    enter(m_mapping, 0, 1, 4, Mapped);
+    filters.showUnused(m_table, m_mapping, {0, 2});
+    QCOMPARE(visible(), QString("1"));
+    PrjMappingTargetC target = m_mapping.findTarget(0);
+    target.removeLineId(1);
+    m_mapping.updateTarget(0, target);
+    filters.showUnused(m_table, m_mapping, {0, 2});
+    QCOMPARE(visible(), QString("1 4"));
 }
 
 void tst_TableLineFilters::unusedComesBack()

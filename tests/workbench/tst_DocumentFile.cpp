@@ -68,6 +68,7 @@ private Q_SLOTS:
     void keepsWhatIsKnownIfSavingFails();
     void savesUnderAnotherName();
     void doesNotSaveIntoAFileThatIsBeingEdited();
+    void staysAtItsFileIfAnotherIsNotWritten();
     void doesNotSaveWithoutRights();
     void sideFile();
     void sideFileThatCannotBeWritten();
@@ -402,6 +403,22 @@ void tst_DocumentFile::doesNotSaveIntoAFileThatIsBeingEdited()
     QVERIFY(!QFile::exists(other));
     QCOMPARE(file.path(), m_file);
     QVERIFY(file.isEditable());
+}
+
+void tst_DocumentFile::staysAtItsFileIfAnotherIsNotWritten()
+{
+    const QString other = m_files->path(QStringLiteral("other.json"));
+    SessionFixture::setContent(other, "{ no");
+    DocumentFile file;
+    file.moveTo(m_file, Access::ReadWrite);
+    const QByteArray known = file.known().hash;
+    QCOMPARE(file.saveAs(other, confirmed({3}), QString(), {}).result, SaveResult::Unreadable);
+    QCOMPARE(file.path(), m_file);
+    QVERIFY(file.isEditable());
+    QCOMPARE(file.known().hash, known);
+    QCOMPARE(SessionFixture::content(other), QByteArray("{ no"));
+    EditLock lock;
+    QCOMPARE(lock.take(other), EditLock::Taken);
 }
 
 void tst_DocumentFile::doesNotSaveWithoutRights()

@@ -420,6 +420,10 @@ private Q_SLOTS:
         QVERIFY(script.isDone());
         QCOMPARE(fixture.confirmedLines(), 1);
         QTRY_COMPARE(document.undoTexts().size(), 2);
+        QVERIFY(fixture.window->status()
+                    ->findChild<QLabel *>("statusNote")
+                    ->text()
+                    .endsWith("<a href=\"undo\">rückgängig</a>"));
         fixture.action("editUndo")->trigger();
         QTRY_COMPARE(document.undoTexts().size(), 1);
         QCOMPARE(fixture.confirmedLines(), 1);
