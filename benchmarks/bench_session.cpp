@@ -39,6 +39,8 @@ public:
         project = ProjectId::of(document.release().mappingAt(0));
     }
 
+    [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("release.json")); }
+
 private:
     QTemporaryDir m_folder;
 
@@ -116,6 +118,66 @@ void confirmOne(benchmark::State &state)
     state.counters["us_confirm"] = comparison.product().cpu / ConfirmationsPerRound * 1e6;
 }
 
+/// Opening a mapping file, with lock, search for unsaved work and journal, beside reading it.
+void openFile(benchmark::State &state)
+{
+    Session session(int(state.range(0)));
+    Comparison comparison;
+    comparison.addReference("read", [&] {
+        MappingFile file;
+        if (!file.read(session.path()))
+            qFatal("not read");
+    });
+    comparison.run(
+        state,
+        [&] {
+            if (session.document.open({session.path(), {}, {}, {}, {}}) !=
+                MappingDocument::OpenResult::Opened)
+                qFatal("not opened");
+        },
+        [&] { session.document.close(); });
+}
+
+/// Saving one change, with lock, check of what was written and backup, beside writing the file.
+void saveFile(benchmark::State &state)
+{
+    Session session(int(state.range(0)));
+    const std::unique_ptr<CatalogMappingHandlerI> handler(session.document.createHandler());
+    const QTemporaryDir folder;
+    const ReleaseMappingC release = session.document.release();
+    Comparison comparison;
+    comparison.addReference("write", [&] {
+        MappingFile file;
+        file.setRelease(release);
+        if (!file.write(folder.filePath(QStringLiteral("m.json"))))
+            qFatal("not written");
+    });
+    comparison.run(
+        state,
+        [&] {
+            if (session.document.save({}).result != SaveResult::Saved)
+                qFatal("not saved");
+        },
+        [&] {
+            handler->updateMapping(confirmed(session.document.mapping(session.project), 1));
+            QCoreApplication::processEvents();
+        });
+}
+
+BENCHMARK(openFile)
+    ->ArgName("lines")
+    ->Arg(100000)
+    ->Arg(1000000)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(10)
+    ->UseManualTime();
+BENCHMARK(saveFile)
+    ->ArgName("lines")
+    ->Arg(100000)
+    ->Arg(1000000)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(10)
+    ->UseManualTime();
 BENCHMARK(bulkConfirm)
     ->ArgName("lines")
     ->Arg(10000)

@@ -31,7 +31,8 @@ QPair<QString, QString> readProjectVersions(const QString &targetPath)
     QPair<QString, QString> versions;
     const PPathName path = IndexTreeC::instance()->compatiblePathToResolvedPath(targetPath);
     PrjFile project;
-    if (!path.exists(false) || !CatalogPlaces::instance().refusal(path.native()).isEmpty() ||
+    if (!path.exists(false) ||
+        !CatalogPlaces::instance().refusalOfTarget(path.native()).isEmpty() ||
         project.Load(path.native(), false) != 1)
         return versions;
     const QString date = project.GetLexemValue("DATE");

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void theInnermostRootCounts();
     void joinedPaths_data();
     void joinedPaths();
+    void targets_data();
+    void targets();
     void rootsOfIndexTrees();
     void tableFiles_data();
     void tableFiles();
@@ -145,6 +147,31 @@ void tst_CatalogPlaces::joinedPaths()
     QFETCH(QString, file);
     QFETCH(bool, read);
     QCOMPARE(m_places.refusal(m_dir->path() + u'/' + file).isEmpty(), read);
+}
+
+void tst_CatalogPlaces::targets_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("read");
+    QTest::newRow("in the root") << "%1/root/cat/sub/p.prj" << true;
+    QTest::newRow("in the root, not there") << "%1/root/cat/none.prj" << true;
+    QTest::newRow("in another root") << "%1/rootlike/p.prj" << true;
+    QTest::newRow("of no root") << "%1/outside/p.prj" << false;
+    QTest::newRow("allowed") << "%1/allowed/p.prj" << true;
+    QTest::newRow("begins like an allowed place") << "%1/allowed2/p.prj" << false;
+    QTest::newRow("out by a link") << "%1/root/cat/linked/t.json" << false;
+    QTest::newRow("out by ..") << "%1/root/../outside/t.json" << false;
+    QTest::newRow("variable that is not there") << "$NO_SUCH_VARIABLE/p.prj" << false;
+    QTest::newRow("address") << "svn://host/p.prj" << false;
+}
+
+void tst_CatalogPlaces::targets()
+{
+    QFETCH(QString, file);
+    m_places.addRoot(PPathName(path("rootlike")));
+    m_places.setAllowed({path("allowed")});
+    file.replace("%1", m_dir->path());
+    QTEST(m_places.refusalOfTarget(file).isEmpty(), "read");
 }
 
 void tst_CatalogPlaces::rootsOfIndexTrees()

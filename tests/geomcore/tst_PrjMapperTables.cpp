@@ -59,6 +59,8 @@ private Q_SLOTS:
     void otherSourceTable();
     void manyTables();
     void severalThreads();
+    void endedJoinIsNotKept_data();
+    void endedJoinIsNotKept();
 };
 
 void tst_PrjMapperTables::writtenTableIsReadAnew()
@@ -218,6 +220,49 @@ void tst_PrjMapperTables::severalThreads()
     QVERIFY(results.front().contains("2:8"));
     for (const QStringList &result : results)
         QCOMPARE(result, results.front());
+}
+
+void tst_PrjMapperTables::endedJoinIsNotKept_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    QTest::addColumn<QString>("condition");
+    QByteArray plain = "D,k:n\nM8,5\n";
+    for (int i = 0; i < 40000; ++i)
+        plain += 'X' + QByteArray::number(i) + ',' + QByteArray::number(i) + '\n';
+    QTest::newRow("rows at once") << plain << QString();
+    QTest::newRow("a condition") << plain << "k .GE. 0";
+    QTest::newRow("combinations") << QByteArray("D,k:r\nM8,1..5000/1\n") << "k .GE. 0";
+    QTest::newRow("row by row") << QByteArray("D,k:r\n" + QByteArray("M8,1;2\n").repeated(300))
+                                << "k .GE. 0";
+}
+
+void tst_PrjMapperTables::endedJoinIsNotKept()
+{
+    QFETCH(QByteArray, lines);
+    QFETCH(QString, condition);
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", lines);
+    catalog.write("new/a.prj", lines);
+    MapperFixture first(catalog, {"new/a.prj"});
+    if (!condition.isEmpty())
+        addCondition(first.mapping, 0, condition);
+    int asked = 0;
+    std::mutex mutex;
+    first.mapper.setCancellation([&] {
+        const std::lock_guard lock(mutex);
+        return ++asked > 2;
+    });
+    first.start();
+    const VKTab::LineView view(first.source, VKTab::LineId(1));
+    (void)first.mapper.createLine(1, view, false); // of no use
+    QVERIFY(asked > 2);
+    QVERIFY2(asked < 20, qPrintable(QString::number(asked)));
+    MapperFixture second(catalog, {"new/a.prj"});
+    if (!condition.isEmpty())
+        addCondition(second.mapping, 0, condition);
+    second.start();
+    const VKTab::LineView same(second.source, VKTab::LineId(1));
+    QCOMPARE(second.mapper.createLine(1, same, false).getTargetLineId(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_PrjMapperTables)

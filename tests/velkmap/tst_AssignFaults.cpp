@@ -1,6 +1,8 @@
 #include "../support/TestCatalog.h"
 
 #include <core/files/EditLock.h>
+#include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/records/MappingFile.h>
 #include <geomcore/table/ContentRef.h>
@@ -11,6 +13,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
@@ -29,6 +34,11 @@ private Q_SLOTS:
     void init();
     void unreadableTargets_data();
     void unreadableTargets();
+    void faultyCondition_data();
+    void faultyCondition();
+    void targetElsewhere_data();
+    void targetElsewhere();
+    void tableElsewhere();
     void missingCatalog_data();
     void missingCatalog();
     void catalogsOfOtherProjects();
@@ -54,6 +64,7 @@ private:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     [[nodiscard]] PrjMappingC mapping(const QString &project) const;
+    void change(const PrjMappingC &mapping) const;
     [[nodiscard]] QStringList linesOf(const QString &project) const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -101,6 +112,16 @@ PrjMappingC tst_AssignFaults::mapping(const QString &project) const
     return {};
 }
 
+void tst_AssignFaults::change(const PrjMappingC &mapping) const
+{
+    MappingFile file;
+    QVERIFY(file.read(path("m.json")));
+    ReleaseMappingC release = file.releases().value(0);
+    release.addMapping(mapping);
+    file.setRelease(release);
+    QVERIFY(file.write(path("m.json")));
+}
+
 QStringList tst_AssignFaults::linesOf(const QString &project) const
 {
     QStringList lines;
@@ -138,10 +159,95 @@ void tst_AssignFaults::unreadableTargets()
         QVERIFY(QFile::remove(path("r2/cat/" + fault)));
     QCOMPARE(assign(force ? QStringList{"--force"} : QStringList()), ExitStatus::InputUnreadable);
     QVERIFY2(m_err.contains("cat/second.prj"), qPrintable(m_err));
+    if (fault.isEmpty()) // the cause is told too
+        QVERIFY2(m_err.contains("the bytes are no UTF-8"), qPrintable(m_err));
     QCOMPARE(linesOf("cat/both.prj"), before);
     QVERIFY(mapping("cat/both.prj").getMappingState().testFlag(PRJMAPPING::StateTableError));
     QCOMPARE(linesOf("cat/other.prj").size(), 2);
     QVERIFY(!mapping("cat/other.prj").getMappingState().testFlag(PRJMAPPING::StateTableError));
+}
+
+void tst_AssignFaults::faultyCondition_data()
+{
+    QTest::addColumn<QString>("condition");
+    QTest::addColumn<ExitStatus>("status");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("parses") << "a .EQ. 5" << ExitStatus::Done << "";
+    QTest::newRow("does not parse")
+        << "a .EQ." << ExitStatus::InputUnreadable
+        << "velkmap assign: cat/both.prj: the condition \"a .EQ.\" of cat/second.prj does not "
+           "parse; nothing that was assigned is sure\n";
+    QTest::newRow("long") << QString(300, 'x') + " .EQ." << ExitStatus::InputUnreadable
+                          << "velkmap assign: cat/both.prj: the condition \"" + QString(200, 'x') +
+                                 "...\" of cat/second.prj does not parse; nothing that was "
+                                 "assigned is sure\n";
+}
+
+void tst_AssignFaults::faultyCondition()
+{
+    QFETCH(QString, condition);
+    PrjMappingC changed = mapping("cat/both.prj");
+    PrjMappingTargetC target = changed.findTarget(1);
+    QCOMPARE(target.getTargetPath(), "cat/second.prj");
+    target.addCondition(VarsetConditionC::fromText(condition));
+    changed.updateTarget(1, target);
+    change(changed);
+    QTEST(assign(), "status");
+    QTEST(m_err, "told");
+    QVERIFY(!mapping("cat/both.prj").getMappingState().testFlag(PRJMAPPING::StateTableError));
+    QCOMPARE(mapping("cat/both.prj").lineCounts().lines(), 4);
+}
+
+void tst_AssignFaults::targetElsewhere_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("absolute") << "%1/second.prj";
+    QTest::newRow("by a variable") << "$VELK_TEST_PLACE/second.prj";
+}
+
+// A mapping names no file of the machine beside the catalogs, unless that is allowed.
+void tst_AssignFaults::targetElsewhere()
+{
+    QFETCH(QString, target);
+    const QString directory = path("out/x");
+    target.replace("%1", directory);
+    qputenv("VELK_TEST_PLACE", directory.toUtf8());
+    const auto unset = qScopeGuard([] { qunsetenv("VELK_TEST_PLACE"); });
+    TestCatalog(directory).add("second", "key,a,b;k3,5,6;k4,7,8", {"key"});
+    PrjMappingC changed = mapping("cat/both.prj");
+    changed.addTarget(target, "v1");
+    change(changed);
+    QCOMPARE(assign(), ExitStatus::InputUnreadable);
+    QVERIFY2(m_err.contains(directory + "/second.prj\" lies outside of the catalogs; move it "
+                                        "there, or allow its directory"),
+             qPrintable(m_err));
+    QCOMPARE(assign({"--allow", directory}), ExitStatus::Done);
+    QCOMPARE(m_err, QString());
+    // The last call decides.
+    QCOMPARE(assign({"--allow", path("r1")}), ExitStatus::InputUnreadable);
+}
+
+void tst_AssignFaults::tableElsewhere()
+{
+    QVERIFY(QDir().mkpath(path("out")));
+    QVERIFY(QFile::rename(path("r1/cat/other.csv"), path("out/other.csv")));
+    QFile descriptor(path("r1/cat/other.json"));
+    QVERIFY(descriptor.open(QIODevice::ReadWrite));
+    QJsonObject json = QJsonDocument::fromJson(descriptor.readAll()).object();
+    json.insert("path", "../../out/other.csv");
+    descriptor.resize(0);
+    descriptor.write(QJsonDocument(json).toJson());
+    descriptor.close();
+    QCOMPARE(assign(), ExitStatus::InputUnreadable);
+    QVERIFY2(m_err.contains("lies outside of"), qPrintable(m_err));
+    const QString current = QDir::currentPath();
+    const auto back = qScopeGuard([&current] { QDir::setCurrent(current); });
+    QVERIFY(QDir::setCurrent(path("r1")));
+    QCOMPARE(assign({"--allow", path("nothing"), "--allow", "../out"}), ExitStatus::Done);
+    const QStringList create{"create",    "--source", path("r1"),  "--target",      path("r2"),
+                             "--catalog", "cat",      "--mapping", path("new.json")};
+    QCOMPARE(run(create), ExitStatus::InputUnreadable);
+    QCOMPARE(run(create + QStringList{"--replace", "--allow", "../out"}), ExitStatus::Done);
 }
 
 void tst_AssignFaults::missingCatalog_data()

@@ -1,5 +1,6 @@
 #include "AsNobody.h"
 #include "SessionFixture.h"
+#include "SizeLimit.h"
 
 #include <core/files/EditLock.h>
 #include <workbench/session/CatalogRootMemory.h>
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void leavesTheLockOfAnotherAlone();
     void ofAnotherComputer();
     void ofADeadProcess();
+    void ofADeadProcessOnAFullDisk();
     void withoutWriteRights();
     void ownersText_data();
     void ownersText();
@@ -116,6 +118,24 @@ void tst_EditLock::ofADeadProcess()
                                                              '\n');
     EditLock lock;
     QCOMPARE(lock.take(file), EditLock::Taken);
+}
+
+/// Nobody edits the file, and nobody can: that is no lock of another.
+void tst_EditLock::ofADeadProcessOnAFullDisk()
+{
+    const SessionFixture files;
+    const QString file = files.write();
+    const QByteArray host = QSysInfo::machineHostName().toUtf8();
+    for (const auto &[owner, expected] :
+         {std::pair(QByteArray("2000000000\nvelkworkbench\n") + host, EditLock::NotWritable),
+          std::pair(QByteArray("2000000000\nvelkworkbench\nws12"), EditLock::HeldByOther),
+          std::pair(QByteArray("1\nvelkworkbench\n") + host, EditLock::HeldByOther)}) {
+        SessionFixture::setContent(EditLock::lockFile(file), owner + '\n');
+        const SizeLimit full(0);
+        EditLock lock;
+        QCOMPARE(lock.take(file), expected);
+        QVERIFY(!lock.isTaken());
+    }
 }
 
 void tst_EditLock::withoutWriteRights()

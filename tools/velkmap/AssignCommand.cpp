@@ -31,6 +31,7 @@ void addOptions(CommandLine &line)
     line.addRequired("target", "ROOT", "Directory that holds the new release's catalog.");
     line.addOptional("project", "PATH", "Source path of a project to assign; may be repeated.");
     line.addFlag("force", "Works out anew what nobody has confirmed.");
+    line.addAllowed();
     line.addOptional("jobs", "N", "Threads that work at once; by default one per processor.", "0");
 }
 
@@ -162,6 +163,7 @@ ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream
     if (const auto failed = file.read(line, err))
         return *failed;
 
+    line.takeAllowed();
     IndexTreeC::instance()->setCatalogRoot(line.value("target"));
     WorkerPool::instance().setThreads(jobs);
     AssignRun run(line, out, err);

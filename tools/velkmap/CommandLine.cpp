@@ -1,5 +1,8 @@
 #include "CommandLine.h"
 
+#include <geomcore/index/CatalogPlaces.h>
+
+#include <QFileInfo>
 #include <QTextStream>
 
 namespace velkmap {
@@ -57,6 +60,22 @@ std::optional<ExitStatus> CommandLine::parse(const QStringList &arguments, QText
             return wrongUsage("--" + option + " is missing", err);
     }
     return std::nullopt;
+}
+
+void CommandLine::addAllowed()
+{
+    addOptional("allow", "DIR",
+                "Directory outside of the catalogs that projects and tables may be read from, "
+                "where files of a catalog name them; may be repeated.");
+}
+
+void CommandLine::takeAllowed() const
+{
+    QStringList directories;
+    for (const QString &directory : values("allow"))
+        directories << (directory.startsWith('$') ? directory
+                                                  : QFileInfo(directory).absoluteFilePath());
+    CatalogPlaces::instance().setAllowed(directories);
 }
 
 ExitStatus CommandLine::wrongUsage(const QString &what, QTextStream &err) const

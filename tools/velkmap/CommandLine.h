@@ -41,6 +41,11 @@ public:
     [[nodiscard]] QStringList words() const { return m_parser.positionalArguments(); }
     [[nodiscard]] bool isSet(const QString &option) const { return m_parser.isSet(option); }
 
+    /// The option for directories that tables may be read from beside the catalogs, and what it
+    /// does once the arguments are read.
+    void addAllowed();
+    void takeAllowed() const;
+
     /// Says what is wrong with the arguments and how to get help.
     ExitStatus wrongUsage(const QString &what, QTextStream &err) const;
 

@@ -34,6 +34,7 @@ void addOptions(CommandLine &line)
                      "Date of the old release; else the newest date of its projects.");
     line.addOptional("target-date", "ISO8601",
                      "Date of the new release; else the newest date of its projects.");
+    line.addAllowed();
     line.addFlag("replace", "Replaces a release of the same date in the file, with all that was "
                             "assigned and confirmed in it.");
 }
@@ -121,6 +122,7 @@ ExitStatus runCreate(const QStringList &arguments, QTextStream &out, QTextStream
         err << "velkmap create: " << error << '\n';
         return ExitStatus::InputUnreadable;
     }
+    line.takeAllowed();
     Builder builder(input);
     const Builder::Outcome outcome = builder.build();
     for (const QString &message : builder.messages())

@@ -3,24 +3,11 @@
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
 
-#include <array>
 #include <charconv>
+#include <zlib.h>
 
 namespace {
 
-constexpr std::array<quint32, 256> makeChecksumTable()
-{
-    std::array<quint32, 256> table{};
-    for (quint32 i = 0; i < 256; ++i) {
-        quint32 value = i;
-        for (int bit = 0; bit < 8; ++bit)
-            value = (value & 1U) ? 0xEDB88320U ^ (value >> 1U) : value >> 1U;
-        table[i] = value;
-    }
-    return table;
-}
-
-constexpr std::array<quint32, 256> ChecksumTable = makeChecksumTable();
 constexpr qsizetype Digits = 8;
 /// More than any mapping has.
 constexpr qint64 MaxTargets = 1 << 20;
@@ -140,10 +127,7 @@ std::optional<MappingDifference::TargetPair> readTarget(const PJsonValue &json)
 
 quint32 JournalText::checksum(QByteArrayView bytes)
 {
-    quint32 value = 0xFFFFFFFFU;
-    for (const char byte : bytes)
-        value = ChecksumTable[(value ^ quint8(byte)) & 0xFFU] ^ (value >> 8U);
-    return ~value;
+    return quint32(crc32_z(0, reinterpret_cast<const Bytef *>(bytes.data()), size_t(bytes.size())));
 }
 
 QByteArray JournalText::frame(QByteArrayView record)

@@ -14,8 +14,6 @@ public:
     [[nodiscard]] PString applicationConfig() const { return m_directory + "/windows.cfg"; }
     /// Of the workbench itself.
     [[nodiscard]] QString workbenchSettings() const { return m_directory + "/workbench.ini"; }
-    /// For the mapping of the example catalog.
-    [[nodiscard]] QString exampleDirectory() const { return m_directory + "/example"; }
 
 private:
     QString m_directory;

@@ -7,6 +7,8 @@
 #include <QSysInfo>
 
 #ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -55,6 +57,16 @@ std::vector<std::unique_ptr<QLockFile>> &lostLocks()
     return *locks;
 }
 
+/// The lock of such a process stays where the folder takes no file by which to take it over.
+bool hasEnded(const SessionOwner &owner)
+{
+#ifdef Q_OS_UNIX
+    if (owner.host == QSysInfo::machineHostName() && owner.process > 0)
+        return kill(pid_t(owner.process), 0) != 0 && errno == ESRCH;
+#endif
+    return false;
+}
+
 } // namespace
 
 EditLock::EditLock() = default;
@@ -80,7 +92,7 @@ EditLock::Result EditLock::take(const QString &mappingFile)
         return NotWritable;
     lock->getLockInfo(&m_owner.process, &m_owner.host, &m_owner.program);
     readOwner(lock->fileName());
-    return HeldByOther;
+    return hasEnded(m_owner) ? NotWritable : HeldByOther;
 }
 
 void EditLock::release()

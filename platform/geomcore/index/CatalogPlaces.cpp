@@ -42,6 +42,11 @@ QString resolved(const PPathName &path)
     return path.isAddress() ? QString() : QString(path.normalized());
 }
 
+QString isAnAddress(const QString &file)
+{
+    return QStringLiteral("\"%1\" is an address; only files are read").arg(file);
+}
+
 QString leavesRoot(const QString &file, const QString &root)
 {
     return QStringLiteral("\"%1\" lies outside of \"%2\"; move it there, or allow its directory")
@@ -121,10 +126,26 @@ bool CatalogPlaces::isAllowed(const QString &file) const
     });
 }
 
+QString CatalogPlaces::refusalOfTarget(const QString &file) const
+{
+    if (PPathName(file).isAddress())
+        return isAnAddress(file);
+    const QString real = realPath(file);
+    const QStringList known = roots();
+    const bool inRoot = std::any_of(known.begin(), known.end(), [&real](const QString &root) {
+        return isBelow(real, realPath(root));
+    });
+    if (inRoot || isAllowed(real))
+        return {};
+    return QStringLiteral(
+               "\"%1\" lies outside of the catalogs; move it there, or allow its directory")
+        .arg(QDir::toNativeSeparators(file));
+}
+
 QString CatalogPlaces::refusal(const QString &file, const QString &namedBy) const
 {
     if (PPathName(file).isAddress())
-        return QStringLiteral("\"%1\" is an address; only files are read").arg(file);
+        return isAnAddress(file);
     if (file.contains(QChar(u'\0')))
         return QStringLiteral("the name of the file has a NUL in it");
     const QString real = realPath(file);

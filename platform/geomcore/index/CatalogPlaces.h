@@ -33,6 +33,9 @@ public:
     /// Why a file may not be read whose path was made by joining a root and a path that a file
     /// names: it begins with a root and yet leads out of it. Empty for all others.
     [[nodiscard]] QString refusal(const QString &joinedPath) const;
+    /// Why a mapping's target project may not be read: it lies in no catalog root and in no place
+    /// that is allowed. Empty if it may.
+    [[nodiscard]] QString refusalOfTarget(const QString &file) const;
 
 private:
     [[nodiscard]] QStringList roots() const;

@@ -355,6 +355,9 @@ const PairJoin *BoundTarget::join() const
         m_join = m_source.content().isPlain()
                      ? m_table->joins().get(m_source.data(), signature(), build)
                      : build();
+        if (!m_join) // cancelled
+            m_join =
+                std::make_shared<PairJoin>(m_source.data()->rowCount(), m_table->data().rowCount());
     }
     return m_join.get();
 }

@@ -10,9 +10,23 @@ std::shared_ptr<const PairJoin>
 JoinCache::get(const std::shared_ptr<const VKTab::TableData> &source, const std::string &signature,
                const Build &build)
 {
-    const std::shared_ptr<Entry> entry = entryFor(source, signature);
-    std::call_once(entry->once, [&] { entry->join = build(); });
-    return entry->join;
+    for (bool built = false; !built;) {
+        const std::shared_ptr<Entry> entry = entryFor(source, signature);
+        std::call_once(entry->once, [&] {
+            built = true;
+            entry->join = build();
+        });
+        if (entry->join)
+            return entry->join;
+        forget(entry); // whoever built it gave up
+    }
+    return nullptr;
+}
+
+void JoinCache::forget(const std::shared_ptr<Entry> &entry)
+{
+    const std::lock_guard lock(m_mutex);
+    m_entries.remove(entry);
 }
 
 std::shared_ptr<JoinCache::Entry>

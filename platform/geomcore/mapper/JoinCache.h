@@ -21,7 +21,8 @@ class JoinCache
 public:
     using Build = std::function<std::shared_ptr<const PairJoin>()>;
 
-    /// \a signature tells apart the joins with one source table.
+    /// \a signature tells apart the joins with one source table. Null, and nothing is kept, if that
+    /// is what \a build gives.
     [[nodiscard]] std::shared_ptr<const PairJoin>
     get(const std::shared_ptr<const VKTab::TableData> &source, const std::string &signature,
         const Build &build);
@@ -38,6 +39,8 @@ private:
     };
     [[nodiscard]] std::shared_ptr<Entry>
     entryFor(const std::shared_ptr<const VKTab::TableData> &source, const std::string &signature);
+
+    void forget(const std::shared_ptr<Entry> &entry);
 
     std::mutex m_mutex;
     std::list<std::shared_ptr<Entry>> m_entries; ///< Last used first.

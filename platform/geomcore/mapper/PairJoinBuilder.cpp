@@ -62,16 +62,17 @@ std::shared_ptr<const PairJoin> PairJoinBuilder::build()
         return m_join;
     const bool simple =
         m_ranges.isEmpty() && m_source.content().isPlain() && !m_target.plainColumns().empty();
-    if (simple)
-        joinInPlace(*m_target.table()->exactSearch(m_target.variables())->onlyIndex());
-    else
-        joinLineByLine();
+    const bool done =
+        simple ? joinInPlace(*m_target.table()->exactSearch(m_target.variables())->onlyIndex())
+               : joinLineByLine();
+    if (!done)
+        return nullptr;
     pairOff();
     computeAgreement();
     return m_join;
 }
 
-void PairJoinBuilder::joinInPlace(const LineIndex &index)
+bool PairJoinBuilder::joinInPlace(const LineIndex &index)
 {
     const int rows = m_source.data()->rowCount();
     const std::vector<VKTab::CellKey> noValues(index.keys().size());
@@ -79,7 +80,8 @@ void PairJoinBuilder::joinInPlace(const LineIndex &index)
     m_join->m_undisputed = VKTab::LineSet(rows, false);
     std::atomic<int> lines = 0;
     std::atomic<int> hits = 0;
-    WorkerPool::instance().run((rows + RowsAStep - 1) / RowsAStep, [&](int step) {
+    const int steps = (rows + RowsAStep - 1) / RowsAStep;
+    const auto join = [&](int step) {
         LineIndex::Probe probe(index, *m_source.data(), m_target.plainColumns());
         PartOfJoin part{probe, index, blank};
         const int end = std::min(rows, (step + 1) * RowsAStep);
@@ -87,15 +89,18 @@ void PairJoinBuilder::joinInPlace(const LineIndex &index)
             joinRows(row, std::min(RowsAtHand, end - row), part);
         lines += part.lines;
         hits += part.hits;
-    });
+    };
+    if (!WorkerPool::instance().run(steps, join, [&](int) { return !m_source.isCanceled(); }))
+        return false;
     m_lines = lines;
     m_hits = hits;
-    WorkerPool::instance().run((rows + RowsAStep - 1) / RowsAStep, [&](int step) {
+    WorkerPool::instance().run(steps, [&](int step) {
         for (int row = step * RowsAStep; row < std::min(rows, (step + 1) * RowsAStep); ++row) {
             if (m_join->isUndisputed(row) && m_join->claims(m_join->hit(row)) > 1)
                 m_join->m_undisputed.remove(row);
         }
     });
+    return true;
 }
 
 /// Touches nothing but what belongs to these rows, and claims.
@@ -125,14 +130,18 @@ void PairJoinBuilder::joinRows(int first, int count, PartOfJoin &part)
     }
 }
 
-void PairJoinBuilder::joinLineByLine()
+bool PairJoinBuilder::joinLineByLine()
 {
     const int count = m_ranges.isEmpty() ? 0 : m_source.data()->rowCount();
     for (VKTab::LineSet *rows : {&m_join->m_divided, &m_join->m_taken, &m_join->m_refused})
         *rows = VKTab::LineSet(count, false);
     m_claimedBy.resize(size_t(m_target.table()->data().rowCount()));
-    for (int row = 0; row < m_source.data()->rowCount(); ++row)
+    for (int row = 0; row < m_source.data()->rowCount(); ++row) {
         joinLine(row);
+        if (m_source.isCanceled())
+            return false;
+    }
+    return true;
 }
 
 void PairJoinBuilder::joinLine(int row)
@@ -158,6 +167,8 @@ int PairJoinBuilder::joinCombinations(int row)
             m_join->m_divided.insert(row);
             break;
         }
+        if (m_source.isCanceled())
+            break;
         bool taken = false;
         const int hit = joinView(row, LineView(line), taken);
         (taken ? m_join->m_taken : m_join->m_refused).insert(row);

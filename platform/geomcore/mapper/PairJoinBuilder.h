@@ -28,6 +28,7 @@ public:
     PairJoinBuilder(const SourceTable &source, const BoundTarget &target,
                     const QStringList &ranges);
 
+    /// Null if that was cancelled, see SourceTable::setCancellation().
     [[nodiscard]] std::shared_ptr<const PairJoin> build();
 
 private:
@@ -41,9 +42,10 @@ private:
         int hits = 0;
     };
 
-    void joinInPlace(const VKTab::LineIndex &index);
+    /// False if cancelled.
+    [[nodiscard]] bool joinInPlace(const VKTab::LineIndex &index);
     void joinRows(int first, int count, PartOfJoin &part);
-    void joinLineByLine();
+    [[nodiscard]] bool joinLineByLine();
     void joinLine(int row);
     /// How many there are; 0 if the line has no range to walk.
     int joinCombinations(int row);

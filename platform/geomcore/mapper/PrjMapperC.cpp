@@ -26,6 +26,12 @@ void PrjMapperC::setCreatorMode(bool creator)
     d->setCreatorMode(creator);
 }
 
+void PrjMapperC::setCancellation(std::function<bool()> isCanceled)
+{
+    d->adoptNode();
+    d->setCancellation(std::move(isCanceled));
+}
+
 void PrjMapperC::setSourceProject(const PPathName &sourcePath)
 {
     d->sourceProject = sourcePath;

@@ -8,6 +8,7 @@
 
 #include <core/text/PRefPtr.h>
 
+#include <functional>
 #include <memory>
 
 class CatalogMappingC;
@@ -41,6 +42,10 @@ public:
     /// False: lines that the target project's own filter conditions hide are not proposed. Call it
     /// before the first look-up.
     void setCreatorMode(bool creator);
+    /// \a isCanceled is asked while whole tables are compared, on any thread, also of combinations
+    /// of ranges. Once it answered true, what the mapper says is of no use, and nothing of it is
+    /// kept for other mappers.
+    void setCancellation(std::function<bool()> isCanceled);
     void setSourceProject(const PPathName &sourcePath);
     /// The table is shared, and must not be changed while the mapper lives.
     void setSourceTable(const VKTab::Content &table);

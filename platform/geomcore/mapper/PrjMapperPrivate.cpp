@@ -49,6 +49,13 @@ void PrjMapperPrivate::setSourceTable(const VKTab::Content &table)
 {
     m_targets.reset();
     m_source = Mapper::SourceTable(table);
+    m_source.setCancellation(m_isCanceled);
+}
+
+void PrjMapperPrivate::setCancellation(std::function<bool()> isCanceled)
+{
+    m_isCanceled = std::move(isCanceled);
+    m_source.setCancellation(m_isCanceled);
 }
 
 void PrjMapperPrivate::setCreatorMode(bool creator)

@@ -24,6 +24,7 @@ public:
 
     void setSourceTable(const VKTab::Content &table);
     void setCreatorMode(bool creator);
+    void setCancellation(std::function<bool()> isCanceled);
     void setWorking(const PrjMappingC &mapping);
     /// Takes over what was assigned to the node since it was handed out.
     void adoptNode();
@@ -84,6 +85,7 @@ private:
     [[nodiscard]] PrjMapperLineC proposedLine(int lineId, const Mapper::Proposal &proposal) const;
 
     bool m_creatorMode = false;
+    std::function<bool()> m_isCanceled;
     Mapper::SourceTable m_source;
     std::unique_ptr<Mapper::TargetSet> m_targets;
     std::vector<const Mapper::BoundTarget *> m_open;

@@ -7,9 +7,11 @@
 #include <QHash>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class MapVarValueC;
@@ -27,6 +29,11 @@ public:
     /// No table.
     SourceTable() = default;
     explicit SourceTable(const VKTab::Content &content);
+
+    /// Asked while whole tables are compared, on any thread: true ends that, and what comes out is
+    /// of no use.
+    void setCancellation(std::function<bool()> isCanceled) { m_isCanceled = std::move(isCanceled); }
+    [[nodiscard]] bool isCanceled() const { return m_isCanceled && m_isCanceled(); }
 
     [[nodiscard]] bool isValid() const { return m_data != nullptr; }
     [[nodiscard]] const VKTab::Content &content() const { return m_content; }
@@ -59,6 +66,7 @@ public:
     [[nodiscard]] const std::vector<int> &keyColumns() const;
 
 private:
+    std::function<bool()> m_isCanceled;
     VKTab::Content m_content;
     std::shared_ptr<const VKTab::TableData> m_data;
     std::vector<int> m_columns;

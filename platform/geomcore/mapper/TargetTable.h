@@ -36,10 +36,6 @@ public:
 
     [[nodiscard]] const VKTab::Content &content() const { return m_content; }
     [[nodiscard]] const VKTab::TableData &data() const { return *m_data; }
-    [[nodiscard]] const std::shared_ptr<const VKTab::TableData> &sharedData() const
-    {
-        return m_data;
-    }
     [[nodiscard]] const std::vector<TargetVariable> &variables() const { return m_variables; }
     /// Index in variables(); -1 if there is none of that exact name.
     [[nodiscard]] int variableOf(const QString &name) const;

@@ -2,9 +2,11 @@
 
 #include "TargetTable.h"
 
+#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/table/Content.h>
 #include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/table/tellTableErrors.h>
 
 #include <QDateTime>
 
@@ -33,29 +35,39 @@ TargetTables &TargetTables::instance()
     return tables;
 }
 
-std::shared_ptr<const TargetTable> TargetTables::open(const QString &nativeProjectPath)
+std::shared_ptr<const TargetTable> TargetTables::open(const QString &nativeProjectPath,
+                                                      VKTab::TableErrorList *errors)
 {
     const std::shared_ptr<Entry> entry = entryFor(nativeProjectPath);
     std::shared_ptr<const TargetTable> table;
     {
         const std::lock_guard lock(entry->mutex);
         table = entry->table.lock();
-        if (!table || FileStamps(entry->stamps.paths()) != entry->stamps)
-            table = read(*entry);
+        const QString refusal = CatalogPlaces::instance().refusalOfTarget(nativeProjectPath);
+        if (!table || !refusal.isEmpty() || FileStamps(entry->stamps.paths()) != entry->stamps)
+            table = read(*entry, refusal, errors);
     }
     keep(entry, table);
     return table;
 }
 
-std::shared_ptr<const TargetTable> TargetTables::read(Entry &entry)
+std::shared_ptr<const TargetTable> TargetTables::read(Entry &entry, const QString &refusal,
+                                                      VKTab::TableErrorList *errors)
 {
     const bool told = entry.failed && FileStamps(entry.stamps.paths()) == entry.stamps;
     // Stamped before they are read, as far as it is known which files these are.
     const FileStamps before(entry.stamps.paths());
     const qint64 begin = QDateTime::currentMSecsSinceEpoch();
     VKTab::Content content;
-    const VKTab::ProjectTable project =
-        VKTab::readProjectTable(entry.path, content, {.tells = !told});
+    VKTab::ProjectTable project;
+    if (refusal.isEmpty())
+        project = VKTab::readProjectTable(entry.path, content, {.tells = !told});
+    else
+        project.errors = {{entry.path, 0, 0, refusal}};
+    if (!refusal.isEmpty() && !told)
+        VKTab::tellTableErrors(entry.path, project.errors);
+    if (errors && !project)
+        *errors = project.errors;
     entry.failed = !project;
     const QStringList files = filesOf(entry.path, project, content);
     entry.stamps = files == before.paths() ? before : FileStamps(files);

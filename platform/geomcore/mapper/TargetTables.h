@@ -2,6 +2,8 @@
 
 #include "FileStamps.h"
 
+#include <geomcore/csv/TableError.h>
+
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <QString>
@@ -24,8 +26,9 @@ public:
     [[nodiscard]] static TargetTables &instance();
 
     /// The table of a project. Null if it cannot be read; what is wrong goes to the log window,
-    /// once for each state of the files.
-    [[nodiscard]] std::shared_ptr<const TargetTable> open(const QString &nativeProjectPath);
+    /// once for each state of the files, and into \a errors each time.
+    [[nodiscard]] std::shared_ptr<const TargetTable> open(const QString &nativeProjectPath,
+                                                          VKTab::TableErrorList *errors = nullptr);
 
 private:
     static constexpr size_t MaxKept = 8;
@@ -41,7 +44,9 @@ private:
         std::shared_ptr<const TargetTable> kept;
     };
     [[nodiscard]] std::shared_ptr<Entry> entryFor(const QString &path);
-    [[nodiscard]] static std::shared_ptr<const TargetTable> read(Entry &entry);
+    /// \a refusal: why it may not be read; empty if it may.
+    [[nodiscard]] static std::shared_ptr<const TargetTable>
+    read(Entry &entry, const QString &refusal, VKTab::TableErrorList *errors);
     void keep(const std::shared_ptr<Entry> &entry, const std::shared_ptr<const TargetTable> &table);
 
     std::mutex m_mutex;

@@ -107,11 +107,18 @@ CatalogMappingC LinePart::catalogOf(const PrjMappingC &mapping, const ReleaseMap
 
 LinePart::LinePart(const QString &sourcePath, const QString &sourceVersion,
                    const CatalogMappingC &catalog, const VKTab::Content &table,
-                   const QStringList &conditionVariables, bool force)
+                   const QStringList &conditionVariables, bool force,
+                   const std::atomic<bool> *cancelled)
     : m_mapper(IndexTreeC::instance())
     , m_usable(false)
-    , m_run(m_mapper, table, {.conditionVariables = conditionVariables, .force = force})
+    , m_run(m_mapper, table,
+            {.conditionVariables = conditionVariables,
+             .force = force,
+             .isCanceled = cancelled ? [cancelled] { return cancelled->load(); }
+                                     : std::function<bool()>()})
 {
+    if (cancelled)
+        m_mapper.setCancellation([cancelled] { return cancelled->load(); });
     m_mapper.setCreatorMode(true);
     m_mapper.setSourceProject(PPathName(sourcePath));
     m_mapper.setSourceTable(table);

@@ -20,10 +20,11 @@ public:
     /// A catalog with this mapping alone, in a release with the dates of \a dates.
     [[nodiscard]] static CatalogMappingC catalogOf(const PrjMappingC &mapping,
                                                    const ReleaseMappingC &dates);
-    /// To be made on the thread that owns \a table, which outlives it.
+    /// To be made on the thread that owns \a table, which outlives it, as does \a cancelled: null
+    /// or what ends the work on a line too, whose result is of no use then.
     LinePart(const QString &sourcePath, const QString &sourceVersion,
              const CatalogMappingC &catalog, const VKTab::Content &table,
-             const QStringList &conditionVariables, bool force);
+             const QStringList &conditionVariables, bool force, const std::atomic<bool> *cancelled);
 
     /// Whether the catalog has the project's mapping.
     [[nodiscard]] bool isUsable() const { return m_usable; }

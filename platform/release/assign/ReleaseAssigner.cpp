@@ -53,6 +53,28 @@ QString targetsText(const QString &sourcePath, const AssignmentOutcome &outcome)
                            : "; nothing that was assigned without it is sure");
 }
 
+/// So much of a condition stands in a message.
+constexpr qsizetype MaxShown = 200;
+
+/// One message for each condition that does not parse.
+QStringList faultyConditions(const PrjMappingC &mapping)
+{
+    QStringList texts;
+    for (const PrjMappingTargetC &target : mapping.getTargets()) {
+        for (const VarsetConditionI *condition : target.getConditions()) {
+            if (condition->program())
+                continue;
+            QString text = condition->getCondition();
+            if (text.size() > MaxShown)
+                text = text.left(MaxShown) + "...";
+            texts << mapping.getSourcePath() + ": the condition \"" + text + "\" of " +
+                         target.getTargetPath() +
+                         " does not parse; nothing that was assigned is sure";
+        }
+    }
+    return texts;
+}
+
 } // namespace
 
 ReleaseAssigner::ReleaseAssigner(const QString &sourceRoot)
@@ -136,7 +158,10 @@ ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
                                conditionVariables(mapping), m_force, &cancelled);
         outcome.isDone = !assigned.isLeft || !assigned.unreadableTargets.isEmpty();
         if (!assigned.unreadableTargets.isEmpty())
-            outcome.errors << targetsText(sourcePath, assigned);
+            outcome.errors << targetsText(sourcePath, assigned) << assigned.targetErrors;
+        const QStringList faulty = faultyConditions(mapping);
+        outcome.hasFaultyCondition = !faulty.isEmpty();
+        outcome.errors << faulty;
     }
     messages.deactivate();
     if (!messages.buffer().isEmpty())
@@ -208,7 +233,7 @@ bool ReleaseAssigner::take(const std::vector<Outcome> &outcomes, ReleaseMappingC
     for (const Outcome &outcome : outcomes) {
         if (!outcome.isDone)
             continue;
-        allRead = allRead && !hasTableError(outcome.mapping);
+        allRead = allRead && !hasTableError(outcome.mapping) && !outcome.hasFaultyCondition;
         m_errors += outcome.errors;
         release.addMapping(outcome.mapping);
     }

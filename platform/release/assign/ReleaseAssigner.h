@@ -39,10 +39,11 @@ public:
     /// Works on \a release in place, with the threads of WorkerPool. When \a cancelled becomes
     /// true, projects that are not done stay as they are. False if a project's table, or that of
     /// one of its targets, could not be read: such a project is marked with StateTableError. It
-    /// keeps its lines if the table is its own, and with force in any case.
+    /// keeps its lines if the table is its own, and with force in any case. False also if a
+    /// target's condition does not parse.
     bool run(ReleaseMappingC &release, const std::atomic<bool> &cancelled);
 
-    /// What could not be read, one message a project, in the release's order.
+    /// What could not be read, tables and conditions, in the release's order.
     [[nodiscard]] const QStringList &errors() const { return m_errors; }
     /// Chosen source paths that the release does not have.
     [[nodiscard]] QStringList unknownProjects(const ReleaseMappingC &release) const;
@@ -57,6 +58,7 @@ private:
         PrjMappingC mapping;
         QStringList errors;
         bool isDone = false;
+        bool hasFaultyCondition = false;
     };
     [[nodiscard]] Outcome assign(const PrjMappingC &mapping, const ReleaseMappingC &dates,
                                  const std::atomic<bool> &cancelled) const;

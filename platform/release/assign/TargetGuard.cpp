@@ -14,10 +14,14 @@ TargetGuard::TargetGuard(const PrjMappingC &mapping)
             continue;
         const PPathName file =
             IndexTreeC::instance()->compatiblePathToResolvedPath(PPathName(path));
-        if (auto table = Mapper::TargetTables::instance().open(file.native()))
+        VKTab::TableErrorList errors;
+        if (auto table = Mapper::TargetTables::instance().open(file.native(), &errors)) {
             m_tables.push_back(std::move(table));
-        else
-            m_unreadable.append(path);
+            continue;
+        }
+        m_unreadable.append(path);
+        if (!errors.isEmpty())
+            m_errors.append(errors.first().toString());
     }
 }
 

@@ -23,10 +23,13 @@ public:
 
     /// Target paths of those that cannot be read, each once, in the mapping's order.
     [[nodiscard]] const QStringList &unreadable() const { return m_unreadable; }
+    /// What is wrong with these: the first error of each that has one.
+    [[nodiscard]] const QStringList &errors() const { return m_errors; }
 
 private:
     std::vector<std::shared_ptr<const Mapper::TargetTable>> m_tables;
     QStringList m_unreadable;
+    QStringList m_errors;
 };
 
 } // namespace VelkRelease

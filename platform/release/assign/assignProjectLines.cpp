@@ -31,7 +31,7 @@ bool assignOneByOne(LinePart &part, const std::vector<VKTab::LineId> &lines,
         steps.beforeLine();
         part.assign(line);
     }
-    return true;
+    return !cancelled || !cancelled->load();
 }
 
 std::vector<VKTab::LineId> shownLines(const VKTab::Content &table)
@@ -57,7 +57,7 @@ AssignmentOutcome assignProjectLines(const QString &sourcePath, PrjMappingC &map
                                      const std::atomic<bool> *cancelled, const LineSteps *steps)
 {
     const TargetGuard targets(mapping);
-    AssignmentOutcome outcome{targets.unreadable(), false};
+    AssignmentOutcome outcome{targets.unreadable(), targets.errors(), false};
     if (force && !outcome.unreadableTargets.isEmpty()) {
         markTableError(mapping);
         outcome.isLeft = true;
@@ -69,7 +69,7 @@ AssignmentOutcome assignProjectLines(const QString &sourcePath, PrjMappingC &map
     const CatalogMappingC catalog = LinePart::catalogOf(mapping, release);
     const auto makePart = [&] {
         return std::make_unique<LinePart>(sourcePath, mapping.getSourceVersion(), catalog, table,
-                                          conditionVariables, force);
+                                          conditionVariables, force, cancelled);
     };
     const std::unique_ptr<LinePart> first = makePart();
     if (!first->isUsable())

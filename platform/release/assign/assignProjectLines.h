@@ -20,6 +20,8 @@ struct AssignmentOutcome
 {
     /// Paths of targets that cannot be read; the mapping is marked with StateTableError then.
     QStringList unreadableTargets;
+    /// What is wrong with them.
+    QStringList targetErrors;
     /// The mapping is as it was, but for that mark: work was to end, or with \a force decisions
     /// would have been lost to a target that cannot be read.
     bool isLeft = false;

@@ -2,8 +2,11 @@
 #include "WindowFixture.h"
 
 #include <core/message/PMessage.h>
+#include <geomcore/records/MappingFile.h>
 #include <mapping/view/CatalogMappingWidget.h>
+#include <workbench/session/CatalogRootMemory.h>
 #include <workbench/session/MappingDocument.h>
+#include <workbench/session/SessionRecovery.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/LogWindow.h>
@@ -131,6 +134,48 @@ private Q_SLOTS:
         // No question for the directories this time.
         QVERIFY(fixture.window->desk()->open({.file = file, .mayAsk = false}));
         QCOMPARE(fixture.window->desk()->document()->catalogRoots(), WindowFixture::roots());
+    }
+
+    void offersWhatWasNeverSaved()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.directory.filePath("never.json");
+        fixture.settings->setFlag("started", true);
+        fixture.settings->setSessionFile(file);
+        fixture.window->restoreSession(); // neither a file nor anything left of it
+        QVERIFY(!fixture.window->desk()->document()->isOpen());
+        QString other;
+        {
+            // What a crash leaves of a new mapping.
+            MappingFile made;
+            QVERIFY(made.read(fixture.mappingFile()));
+            MappingDocument document(fixture.settings->store());
+            other = fixture.directory.filePath("other.json");
+            QCOMPARE(document.openNew(made.releases().first(), other),
+                     MappingDocument::OpenResult::Opened);
+            QVERIFY(!QFile::exists(other));
+            for (const auto name : {&SessionRecovery::autosaveFile, &SessionRecovery::journalFile})
+                QVERIFY(QFile::copy(name(other), name(file)));
+        }
+        CatalogRootMemory(fixture.settings->store()).remember(file, WindowFixture::roots());
+        ModalScript script;
+        script.thenClick("recover");
+        fixture.window->restoreSession();
+        QVERIFY(script.isDone());
+        QVERIFY(fixture.window->desk()->document()->isOpen());
+        QCOMPARE(fixture.window->desk()->document()->mappingFile(), file);
+        QCOMPARE(fixture.window->desk()->document()->counts().lines(), 1918);
+        QVERIFY(!QFile::exists(file));
+    }
+
+    void closedEditorLetsGoOfItsRelease()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        const QPointer<QAbstractItemModel> tree = fixture.window->editor()->editor()->treeModel();
+        QVERIFY(tree);
+        QVERIFY(fixture.window->desk()->close());
+        QVERIFY(!tree);
     }
 
     void asksForUnknownCatalogs()
