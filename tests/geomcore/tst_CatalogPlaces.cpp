@@ -124,6 +124,7 @@ void tst_CatalogPlaces::withoutARoot()
 void tst_CatalogPlaces::theInnermostRootCounts()
 {
     m_places.addRoot(PPathName(path("root/cat")));
+    m_places.addRoot(PPathName(m_dir->path())); // whatever was added last
     const QString project = path("root/cat/sub/p.prj");
     QCOMPARE(m_places.rootOf(project), path("root/cat"));
     QCOMPARE(m_places.catalogPathOf(project), "sub/p.prj");

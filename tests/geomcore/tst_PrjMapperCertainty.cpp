@@ -36,6 +36,7 @@ private Q_SLOTS:
     void combinationOfAnotherTarget_data();
     void combinationOfAnotherTarget();
     void overlappingRanges();
+    void sameRangesBehindOthers();
     void messages_data();
     void messages();
 };
@@ -300,6 +301,7 @@ void tst_PrjMapperCertainty::texts_data()
     row("quoted", "D,k:n\n\"007\",5\n", "D,k:n\n007,5\n", "0:1 ok");
     row("blanks around", "D,k:n\n 007 ,5\n", "D,k:n\n007,5\n", "0:1 ok");
     row("other order of columns", "D,k:n\n1E2,5\n", "k:n,D\n5,100\n", "0:1");
+    row("exchanged columns of the same bytes", "D,E\n7,007\n", "E,D\n7,007\n", "0:1");
     row("number in both", "D:n,k:n\n007,5\n", "D:n,k:n\n7,5\n", "0:1 ok");
     row("text in the source only", "D,k:n\n007,5\n", "D:n,k:n\n7,5\n", "0:1");
     row("text in the target only", "D:n,k:n\n7,5\n", "D,k:n\n007,5\n", "0:1");
@@ -409,6 +411,15 @@ void tst_PrjMapperCertainty::overlappingRanges()
         target += "M8,1;" + QByteArray::number(100 + i) + '\n';
     Case test("D,L:r\nM8,1\nM8,119\n", {{"new/a.prj", target + "M9,7\n"}});
     QCOMPARE(test.proposals().last(), "0:20");
+}
+
+void tst_PrjMapperCertainty::sameRangesBehindOthers()
+{
+    QByteArray target = "D,L:r\n";
+    for (int i = 30; i < 60; ++i)
+        target += "M8,10;20;" + QByteArray::number(i) + '\n';
+    Case test("D,L:r\nM8,10;20\n", {{"new/a.prj", target + "M8,10;20\n"}});
+    QCOMPARE(test.proposals(), QStringList{"0:31"});
 }
 
 void tst_PrjMapperCertainty::messages_data()

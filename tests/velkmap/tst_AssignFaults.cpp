@@ -39,6 +39,9 @@ private Q_SLOTS:
     void targetElsewhere_data();
     void targetElsewhere();
     void tableElsewhere();
+    void linesThatTwoProjectsClaim();
+    void entriesOfLinesThatAreGone_data();
+    void entriesOfLinesThatAreGone();
     void missingCatalog_data();
     void missingCatalog();
     void catalogsOfOtherProjects();
@@ -213,7 +216,10 @@ void tst_AssignFaults::targetElsewhere()
     target.replace("%1", directory);
     qputenv("VELK_TEST_PLACE", directory.toUtf8());
     const auto unset = qScopeGuard([] { qunsetenv("VELK_TEST_PLACE"); });
-    TestCatalog(directory).add("second", "key,a,b;k3,5,6;k4,7,8", {"key"});
+    // Where a catalog is made, it may be read.
+    TestCatalog(path("made")).add("second", "key,a,b;k3,5,6;k4,7,8", {"key"});
+    QVERIFY(QDir().mkpath(path("out")));
+    QVERIFY(QDir().rename(path("made"), directory));
     PrjMappingC changed = mapping("cat/both.prj");
     changed.addTarget(target, "v1");
     change(changed);
@@ -248,6 +254,61 @@ void tst_AssignFaults::tableElsewhere()
                              "--catalog", "cat",      "--mapping", path("new.json")};
     QCOMPARE(run(create), ExitStatus::InputUnreadable);
     QCOMPARE(run(create + QStringList{"--replace", "--allow", "../out"}), ExitStatus::Done);
+}
+
+void tst_AssignFaults::linesThatTwoProjectsClaim()
+{
+    const auto mapped = [this] {
+        return mapping("cat/other.prj").lineCounts().mapped();
+    };
+    QCOMPARE(mapped(), 2);
+    TestCatalog(path("r1/cat")).add("twin", "key,a,b;o1,11,12;o2,13,14", {"key"});
+    PrjMappingC twin;
+    twin.setSourcePath("cat/twin.prj");
+    twin.setSourceVersion("v1");
+    twin.addTarget("cat/other.prj", "v1");
+    PrjMappingTargetC target = twin.findTarget(0);
+    target.addLineId(1, 1, PRJMAPPING::Verified, {});
+    twin.updateTarget(0, target);
+    change(twin);
+    QCOMPARE(assign(), ExitStatus::Done);
+    QCOMPARE(mapped(), 0);
+    QCOMPARE(mapping("cat/other.prj").lineCounts().toCheck(), 2);
+}
+
+void tst_AssignFaults::entriesOfLinesThatAreGone_data()
+{
+    QTest::addColumn<QString>("jobs");
+    QTest::newRow("one thread") << "1";
+    QTest::newRow("in parts") << "3";
+}
+
+// A confirmed entry stays, though the table has no such line any more.
+void tst_AssignFaults::entriesOfLinesThatAreGone()
+{
+    QFETCH(QString, jobs);
+    QByteArray table = "key,a,b";
+    for (int i = 0; i < 9000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        table += ";n" + number + ',' + number + ",x" + number;
+    }
+    TestCatalog(path("r1/cat")).add("big", table, {"key"});
+    TestCatalog(path("r2/cat")).add("big", table, {"key"});
+    PrjMappingC big;
+    big.setSourcePath("cat/big.prj");
+    big.setSourceVersion("v1");
+    big.addTarget("cat/big.prj", "v1");
+    PrjMappingTargetC target = big.findTarget(0);
+    target.addLineId(20000, 7, PRJMAPPING::Verified, {});
+    target.addLineId(0, 8, PRJMAPPING::Verified, {});
+    big.updateTarget(0, target);
+    change(big);
+    QCOMPARE(assign({"--project", "cat/big.prj", "--jobs", jobs}), ExitStatus::Done);
+    const PrjMappingTargetC now = mapping("cat/big.prj").findTarget(0);
+    QCOMPARE(now.countLines(), 9002);
+    QCOMPARE(now.getMappedLine(20000).getTargetLineId(), 7);
+    QCOMPARE(now.getMappedLine(0).getTargetLineId(), 8);
+    QCOMPARE(now.getMappedLine(9000).getTargetLineId(), 9000);
 }
 
 void tst_AssignFaults::missingCatalog_data()

@@ -169,6 +169,8 @@ void tst_Import::recognises_data()
     QTest::newRow("one text") << QByteArray("1\nM8\n") << "string";
     QTest::newRow("sizes") << QByteArray("1 1/4in\n#10\n(M14)\nST4.2\n6 mm\nG1/4\n") << "string";
     QTest::newRow("leading zeros are codes") << QByteArray("007\n12\n") << "string";
+    QTest::newRow("two digits of which one is a leading zero")
+        << QByteArray("07\n12\n") << "string";
     QTest::newRow("zero alone") << QByteArray("0\n0.5\n") << "number";
     QTest::newRow("list") << QByteArray("10;12;16\n10\n") << "range of integers";
     QTest::newRow("list with fractions") << QByteArray("5\n5;5.5\n7\n") << "range of numbers";
@@ -181,6 +183,10 @@ void tst_Import::recognises_data()
     QTest::newRow("one wrong range in ten")
         << QByteArray("1;2\n2;3\n3;4\n4;5\n5;6\n6;7\n7;8\n8;9\n9;10\n10..50\n")
         << "range of integers";
+    QByteArray ranges = "10..50\n20..50\n";
+    for (int i = 0; i < 15; ++i)
+        ranges += QByteArray::number(i) + ';' + QByteArray::number(i + 1) + '\n';
+    QTest::newRow("two wrong ranges in seventeen") << ranges << "string";
     QTest::newRow("too many wrong ranges") << QByteArray("1;2\n2;3\n10..50\n") << "string";
 }
 

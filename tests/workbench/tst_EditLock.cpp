@@ -1,6 +1,6 @@
+#include "../support/SizeLimit.h"
 #include "AsNobody.h"
 #include "SessionFixture.h"
-#include "SizeLimit.h"
 
 #include <core/files/EditLock.h>
 #include <workbench/session/CatalogRootMemory.h>
