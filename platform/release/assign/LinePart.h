@@ -24,7 +24,8 @@ public:
     /// or what ends the work on a line too, whose result is of no use then.
     LinePart(const QString &sourcePath, const QString &sourceVersion,
              const CatalogMappingC &catalog, const VKTab::Content &table,
-             const QStringList &conditionVariables, bool force, const std::atomic<bool> *cancelled);
+             const QStringList &conditionVariables, bool force,
+             const std::atomic<bool> *cancelled = nullptr);
 
     /// Whether the catalog has the project's mapping.
     [[nodiscard]] bool isUsable() const { return m_usable; }
