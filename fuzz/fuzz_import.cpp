@@ -9,9 +9,12 @@ using VelkRelease::TableImport;
 
 namespace {
 
-bool import(const QString &source, const QString &target, TableImport::State *state)
+bool import(const FuzzFolder &folder, const QString &source, TableImport::State *state)
 {
-    TableImport table(source, target, {QStringLiteral("2024-01-01T00:00:00Z"), false, {}});
+    ImportOptions options;
+    options.date = QStringLiteral("2024-01-01T00:00:00Z");
+    options.root = folder.path("");
+    TableImport table(source, folder.path("table"), options);
     const bool prepared = table.prepare();
     if (prepared != table.errors().isEmpty())
         __builtin_trap();
@@ -29,11 +32,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const FuzzFolder folder;
     const QString source =
         folder.write("source.csv", {reinterpret_cast<const char *>(data), qsizetype(size)});
-    const QString target = folder.path("table");
     TableImport::State state;
-    if (!import(source, target, &state))
+    if (!import(folder, source, &state))
         return 0;
-    if (!import(source, target, &state) || state != TableImport::State::Unchanged)
+    if (!import(folder, source, &state) || state != TableImport::State::Unchanged)
         __builtin_trap();
     return 0;
 }

@@ -1,3 +1,5 @@
+#include "../support/LeakOnPurpose.h"
+
 #include <core/component/mzComServerC.h>
 #include <core/component/mzComServerStateEventC.h>
 #include <core/component/proxyFactoryC.h>
@@ -176,7 +178,10 @@ void tst_LinkDbGuiC::isCreatedWithoutAPlaceForIt()
 {
     const PApplication host({});
     void *arguments[] = {nullptr};
-    LinkDbGuiC::staticMetaObject.static_metacall(QMetaObject::CreateInstance, 0, arguments);
+    {
+        const LeakOnPurpose nobodyGetsIt;
+        LinkDbGuiC::staticMetaObject.static_metacall(QMetaObject::CreateInstance, 0, arguments);
+    }
     QObject *made = nullptr;
     void *place[] = {&made};
     LinkDbGuiC::staticMetaObject.static_metacall(QMetaObject::CreateInstance, 0, place);
