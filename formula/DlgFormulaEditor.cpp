@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 #include <functional>
 #include <memory>
 
@@ -119,13 +121,13 @@ void DlgFormulaEditor::setShowContextMenu(bool functions, bool operators, bool l
 
 void DlgFormulaEditor::setSourceTabContent(VKTab::ContentRef table)
 {
-    d->sourceTable = table;
+    d->sourceTable = std::move(table);
     d->editHandler.setContent(d->sourceTable, QStringLiteral("VAR"), false);
 }
 
 void DlgFormulaEditor::setTargetTabContent(VKTab::ContentRef table)
 {
-    d->targetTable = table;
+    d->targetTable = std::move(table);
     d->editHandler.setAdditionalContent(d->targetTable, QStringLiteral("SOURCE@"));
 }
 

@@ -164,7 +164,7 @@ QStringList TableMappingWidgetPrivate::chooseRangeVariables()
         return {};
     const QPointer<dlgSelectValueRangeVars> dialog = new dlgSelectValueRangeVars(names, q);
     const bool accepted = dialog->exec() == QDialog::Accepted;
-    const QStringList chosen = accepted && dialog ? dialog->selectedNames() : QStringList();
+    QStringList chosen = accepted && dialog ? dialog->selectedNames() : QStringList();
     delete dialog;
     return chosen;
 }
