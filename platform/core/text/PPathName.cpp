@@ -186,7 +186,7 @@ PString PPathName::normalized() const
 {
     if (isEmpty())
         return {};
-    const QString path = cleaned(resolved(m_text));
+    QString path = cleaned(resolved(m_text));
 #ifdef Q_OS_WIN
     return path.toLower();
 #else
