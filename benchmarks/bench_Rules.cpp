@@ -15,7 +15,7 @@
 #include <geomcore/table/Content.h>
 #include <geomcore/table/readProjectTable.h>
 #include <release/assign/assignProjectLines.h>
-#include <release/decide/RuleEffect.h>
+#include <release/effect/RuleEffect.h>
 
 #include <QCoreApplication>
 

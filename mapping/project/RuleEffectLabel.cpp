@@ -1,7 +1,7 @@
 #include "RuleEffectLabel.h"
 
 #include <core/text/PString.h>
-#include <release/decide/RuleEffect.h>
+#include <release/effect/RuleEffect.h>
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "readProjectVersions.h"
 
 #include <core/text/PPathName.h>
-#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/index/IndexTreeC.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/project/CipVersionMgmtC.h>
 #include <geomcore/project/PrjFile.h>
 #include <geomcore/project/tableFileOf.h>

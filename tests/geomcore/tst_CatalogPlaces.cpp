@@ -1,5 +1,5 @@
-#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/index/IndexTreeC.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/project/tableFileOf.h>
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/project/PrjClass.h>
 #include <geomcore/project/PrjFile.h>
 #include <geomcore/table/makeSachmRelativeToCatalog.h>

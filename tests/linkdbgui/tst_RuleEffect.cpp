@@ -5,7 +5,7 @@
 
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
-#include <release/decide/RuleEffect.h>
+#include <release/effect/RuleEffect.h>
 
 using PRJMAPPING::Mapped;
 using PRJMAPPING::ToCheck;

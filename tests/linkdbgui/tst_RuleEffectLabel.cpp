@@ -6,7 +6,7 @@
 
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcoregui/table/VkTableView.h>
-#include <release/decide/RuleEffect.h>
+#include <release/effect/RuleEffect.h>
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <core/files/EditLock.h>
 #include <geomcore/binding/VarsetConditionC.h>
-#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/index/IndexTreeC.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/records/MappingFile.h>
 #include <geomcore/table/ContentRef.h>
 #include <geomcore/table/readProjectTable.h>

@@ -1,6 +1,6 @@
 #include "CommandLine.h"
 
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 
 #include <QFileInfo>
 #include <QTextStream>

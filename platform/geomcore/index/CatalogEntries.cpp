@@ -1,6 +1,6 @@
 #include "CatalogEntries.h"
 
-#include "CatalogPlaces.h"
+#include <geomcore/project/CatalogPlaces.h>
 
 #include <QDir>
 #include <QDirIterator>

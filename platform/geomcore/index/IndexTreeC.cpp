@@ -1,7 +1,7 @@
 #include "IndexTreeC.h"
 
-#include "CatalogPlaces.h"
 #include <core/text/PathAlias.h>
+#include <geomcore/project/CatalogPlaces.h>
 
 #include <mutex>
 

@@ -1,7 +1,7 @@
 #include "IndexTreeNodeC.h"
 
 #include "CatalogEntries.h"
-#include "CatalogPlaces.h"
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/project/PrjFile.h>
 
 #include <QDir>

@@ -2,7 +2,7 @@
 
 #include "TargetTable.h"
 
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/table/Content.h>
 #include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TableData.h>

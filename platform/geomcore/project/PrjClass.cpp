@@ -1,8 +1,8 @@
 #include "PrjClass.h"
 
+#include "CatalogPlaces.h"
 #include "PrjFile.h"
 #include "tableFileOf.h"
-#include <geomcore/index/CatalogPlaces.h>
 
 #include <QDir>
 #include <QLockFile>

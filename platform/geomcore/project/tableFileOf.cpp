@@ -1,6 +1,6 @@
 #include "tableFileOf.h"
 
-#include <geomcore/index/CatalogPlaces.h>
+#include "CatalogPlaces.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
 #include "CatalogRepository.h"
 
 #include <core/text/PString.h>
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 
 #include <QDir>
 

@@ -5,7 +5,7 @@
 #include "CatalogScan.h"
 #include <core/parallel/WorkerPool.h>
 #include <core/text/PPathName.h>
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 
 #include <QDir>
 #include <QFileInfo>

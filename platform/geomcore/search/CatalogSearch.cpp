@@ -3,7 +3,7 @@
 #include "CatalogIndexFile.h"
 #include "CatalogIndexUpdate.h"
 #include "SearchRun.h"
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 
 #include <QFileInfo>
 

@@ -2,8 +2,8 @@
 
 #include "CellCondition.h"
 #include "SearchText.h"
-#include <geomcore/index/CatalogPlaces.h>
 #include <geomcore/mapper/DesignationPattern.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/project/PrjFile.h>
 #include <geomcore/project/tableFileOf.h>
 #include <geomcore/table/LineView.h>

@@ -6,7 +6,7 @@
 #include "TabReader.h"
 
 #include <geomcore/csv/TableErrors.h>
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 
 namespace VKTab {
 

@@ -2,7 +2,7 @@
 
 #include "TableDataPrivate.h"
 #include "TableDataReader.h"
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/value/LineId.h>
 
 #include <QDir>

@@ -5,7 +5,7 @@
 #include "makeSachmRelativeToCatalog.h"
 #include "Reader.h"
 #include "tellTableErrors.h"
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 
 #include <QDir>
 

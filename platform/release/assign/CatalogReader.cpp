@@ -1,6 +1,6 @@
 #include "CatalogReader.h"
 
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/project/CipVersionMgmtC.h>
 #include <geomcore/project/PrjClass.h>
 #include <geomcore/table/makeSachmRelativeToCatalog.h>

@@ -7,7 +7,7 @@
 #include <core/config/PIniFile.h>
 #include <geomcore/csv/CsvCells.h>
 #include <geomcore/csv/HeaderNames.h>
-#include <geomcore/index/CatalogPlaces.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/value/CanonicalNumber.h>
 
 #include <QDir>

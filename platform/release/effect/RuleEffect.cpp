@@ -1,6 +1,6 @@
 #include "RuleEffect.h"
 
-#include "notFoundLines.h"
+#include <release/decide/notFoundLines.h>
 
 #include <geomcore/binding/BoundConditions.h>
 #include <geomcore/records/LineTable.h>
