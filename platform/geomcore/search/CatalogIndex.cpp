@@ -145,7 +145,7 @@ CatalogIndexOutcome CatalogIndex::Private::runUpdate(bool anew,
     CatalogIndexUpdate update(indexFile, root);
     if (anew)
         update.setMakesAnew();
-    const CatalogIndexOutcome quick = runOnce(update, CatalogIndexUpdate::Directories, tell);
+    CatalogIndexOutcome quick = runOnce(update, CatalogIndexUpdate::Directories, tell);
     if (quick.state != CatalogIndexOutcome::Done)
         return quick;
     return sum(quick, runOnce(update, CatalogIndexUpdate::Files, tell));

@@ -118,7 +118,7 @@ void TopSearchWidget::focusWords()
 
 PRefPtr<RemoteSearchRequestDataC> TopSearchWidget::getRequestData() const
 {
-    const PRefPtr<RemoteSearchRequestDataC> request = m_request->clone();
+    PRefPtr<RemoteSearchRequestDataC> request = m_request->clone();
     writeWords(*request);
     writeConditions(*request);
     if (!m_scope->isChecked() && !request->isNodeListFixed())

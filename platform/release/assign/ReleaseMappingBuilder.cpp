@@ -174,6 +174,7 @@ void ReleaseMappingBuilder::Work::proposeRules(const ReadProject &source, PrjMap
                                                const std::vector<int> &tables) const
 {
     std::vector<const LineCells *> cells;
+    cells.reserve(tables.size());
     for (const int table : tables)
         cells.push_back(&m_index.table(table));
     const RuleProposals proposals(source.cells, cells);

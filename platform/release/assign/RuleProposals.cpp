@@ -76,6 +76,7 @@ quint64 keyOf(const LineCells &cells, int row, const std::vector<int> &columns)
 std::vector<int> firsts(const std::vector<ColumnPair> &pairs)
 {
     std::vector<int> columns;
+    columns.reserve(pairs.size());
     for (const ColumnPair &pair : pairs)
         columns.push_back(pair.first);
     return columns;
@@ -84,6 +85,7 @@ std::vector<int> firsts(const std::vector<ColumnPair> &pairs)
 std::vector<int> seconds(const std::vector<ColumnPair> &pairs)
 {
     std::vector<int> columns;
+    columns.reserve(pairs.size());
     for (const ColumnPair &pair : pairs)
         columns.push_back(pair.second);
     return columns;

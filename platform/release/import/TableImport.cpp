@@ -293,7 +293,8 @@ void TableImport::makeCsv()
         header += i == 0 ? "" : ",";
         appendCell(header, names.at(i).toStdString());
     }
-    m_csv.reserve(qsizetype(source.size() + header.size() + m_lineNumbers.size() * 12));
+    m_csv.reserve(qsizetype(source.size()) + qsizetype(header.size()) +
+                  qsizetype(m_lineNumbers.size()) * 12);
     m_csv.append(header.data(), qsizetype(header.size())).append(lineEnd);
     for (int row = 0; row < m_source->rowCount(); ++row) {
         const std::string_view cells = m_source->rawRow(row);
