@@ -37,7 +37,7 @@ QString translated(const char *text)
 PRefPtr<IndexTreeVarSearchConditionC> makeFullTextCondition(const QString &keyWord)
 {
     using Condition = IndexTreeVarSearchConditionC;
-    const PRefPtr<Condition> condition(new Condition(
+    PRefPtr<Condition> condition(new Condition(
         QStringLiteral(" "), Condition::CompareOp(fullTextOp), keyWord, QString(), QString()));
     condition->setSearchType(fullTextType);
     return condition;

@@ -100,6 +100,8 @@ void tst_VelkmapProgram::commandsOfTheDocuments()
 {
     QFETCH(QString, name);
     QFETCH(int, least);
+    // What the documents search for.
+    TestCatalog(path("tables/2026")).writeFile("m/iso4014.csv", "key,a,b\nM8,1,2\nM10,3,4\n");
     QCOMPARE(velkmap({"import", "--from", "tables/2025", "--into", "old/bolts"}).status, 0);
     int count = 0;
     for (const QString &row : document(name).split('\n')) {

@@ -92,7 +92,7 @@ void CatalogRepository::refresh()
 
 CatalogRepository::CatalogPtr CatalogRepository::seen(const QString &name)
 {
-    if (const CatalogPtr known = m_catalogs.value(name))
+    if (CatalogPtr known = m_catalogs.value(name))
         return known;
     auto catalog = std::make_shared<Catalog>();
     m_catalogs.insert(name, catalog);
