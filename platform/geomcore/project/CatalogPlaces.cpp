@@ -10,7 +10,7 @@ namespace {
 /// Absolute, without "." and "..", links followed as far as the path exists.
 QString realPath(const QString &path)
 {
-    const QString clean = QDir::cleanPath(QDir().absoluteFilePath(path));
+    QString clean = QDir::cleanPath(QDir().absoluteFilePath(path));
     QString missing;
     QString there = clean;
     for (;;) {

@@ -86,6 +86,7 @@ std::vector<int> lastsOf(const std::vector<VKTab::LineId> &lines,
                          const std::vector<std::size_t> &ends)
 {
     std::vector<int> lasts;
+    lasts.reserve(ends.size());
     for (const std::size_t end : ends)
         lasts.push_back(numberOf(lines[end - 1]));
     lasts.back() = INT_MAX;
