@@ -21,6 +21,17 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VELK_CATALOG_LEAK_CHECK
+#endif
+#elif defined(__SANITIZE_ADDRESS__)
+#define VELK_CATALOG_LEAK_CHECK
+#endif
+#ifdef VELK_CATALOG_LEAK_CHECK
+#include <sanitizer/lsan_interface.h>
+#endif
+
 void CatalogMappingWidgetPrivate::buildLayout()
 {
     auto *const layout = new QVBoxLayout(q);
@@ -88,8 +99,10 @@ QCheckBox *CatalogMappingWidgetPrivate::addFilterRow(QBoxLayout *rows, const cha
 
 void CatalogMappingWidgetPrivate::makeTreeModels()
 {
-    // It stays when the widget goes.
     model = new CatalogStructureModel(handler->getRootStructureNode());
+#ifdef VELK_CATALOG_LEAK_CHECK
+    __lsan_ignore_object(model); // it stays when the widget goes
+#endif
     filterModel = new CatalogFilterModel(q);
     filterModel->setDynamicSortFilter(false);
     filterModel->setSourceModel(model);
