@@ -1,5 +1,8 @@
 #include "../support/TestTables.h"
 
+#include <core/component/mzComExceptionC.h>
+#include <core/component/mzIDispatchC.h>
+#include <core/component/proxyAutoTypeCastC.h>
 #include <geomcore/table/ErpLayer.h>
 #include <geomcore/table/LayerType.h>
 #include <geomcore/table/ModifyLayer.h>
@@ -37,6 +40,9 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(mzComVariantC)
+Q_DECLARE_METATYPE(mzComVariantArrayC)
+
 class tst_Layers : public QObject
 {
     Q_OBJECT
@@ -56,6 +62,10 @@ private Q_SLOTS:
     void erpFailuresKeepOldValues();
     void erpUpdatesAreNoModifications();
     void aProxyGivesItsTable();
+    void aProxyTellsOfItsTable_data();
+    void aProxyTellsOfItsTable();
+    void aProxyRefusesUnknownColumns();
+    void aProxyOfNothing();
 
 private:
     ContentRef m_table;
@@ -248,8 +258,98 @@ void tst_Layers::erpUpdatesAreNoModifications()
 
 void tst_Layers::aProxyGivesItsTable()
 {
-    const proxyTableC proxy(m_table);
-    QVERIFY(proxy.getContent() == m_table);
+    const ProxyPtrT<proxyTableC> proxy(new proxyTableC(m_table));
+    QVERIFY(proxy->getContent() == m_table);
+    const proxyAutoTypeCastC argument{mzComVariantC(proxy.get())};
+    QVERIFY(argument.get<ProxyPtrT<proxyTableC>>() == proxy);
+    QVERIFY_THROWS_EXCEPTION(
+        mzComExceptionC,
+        static_cast<void>(proxyAutoTypeCastC(mzComVariantC("text")).get<ProxyPtrT<proxyTableC>>()));
+}
+
+/// By name, as scripts ask.
+void tst_Layers::aProxyTellsOfItsTable_data()
+{
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<mzComVariantArrayC>("arguments");
+    QTest::addColumn<mzComVariantC>("expected");
+    const auto row = [](const char *member, const mzComVariantArrayC &arguments,
+                        const mzComVariantC &expected) {
+        QTest::addRow("%s %d %s", member, arguments[0].getInt(),
+                      qPrintable(arguments.toQStringList().join(u' ')))
+            << member << arguments << expected;
+    };
+    row("isValid", {}, true);
+    row("normNumber", {}, "DIN 931");
+    row("lineCount", {}, 4);
+    row("lineAt", {0}, 1);
+    row("lineAt", {3}, 4);
+    row("lineAt", {4}, -1);
+    row("lineAt", {-1}, -1);
+    row("hasLine", {4}, true);
+    row("hasLine", {5}, false);
+    row("isVisible", {1}, true);
+    row("isVisible", {5}, false);
+    row("normNumberOf", {2}, "DIN 931");
+    row("designationOf", {2}, "DIN 931 - 10 x 20");
+    row("designationOf", {9}, "");
+    row("columnCount", {}, 5);
+    row("columnAt", {3}, "Weight");
+    row("columnAt", {5}, "");
+    row("hasColumn", {"L"}, true);
+    row("hasColumn", {"l"}, false);
+    row("titleOf", {"Dia"}, "Durchmesser");
+    row("value", {1, "L"}, "10;12;16");
+    row("value", {2, "Weight"}, "1.25");
+    row("value", {4, "Note"}, "a \"b\"");
+    row("value", {4, "L"}, "");
+    row("value", {9, "L"}, "");
+    row("number", {2, "Weight"}, 1.25);
+    row("number", {3, "Volume"}, 24.0);
+    row("number", {1, "L"}, {});
+    row("number", {1, "Note"}, {});
+    row("findLine", {"Dia", "12.0"}, 3);
+    row("findLine", {"Note", "galvanised"}, 2);
+    row("findLine", {"Note", "none"}, -1);
+}
+
+void tst_Layers::aProxyTellsOfItsTable()
+{
+    QFETCH(QString, member);
+    QFETCH(mzComVariantArrayC, arguments);
+    const ProxyPtrT<proxyTableC> proxy(new proxyTableC(m_table));
+    const mzIDispatchC object(proxy->getIUnknown());
+    const int kind =
+        arguments.size() > 0 ? proxyMemberDescS::Method : proxyMemberDescS::PropertyRead;
+    mzComVariantC result;
+    std::optional<PScriptException> exception;
+    QCOMPARE(object.invoke(member, kind, arguments, result, exception), int(mzComSuccess));
+    QFETCH(mzComVariantC, expected);
+    QVERIFY(result == expected);
+}
+
+void tst_Layers::aProxyRefusesUnknownColumns()
+{
+    const ProxyPtrT<proxyTableC> proxy(new proxyTableC(m_table));
+    mzComVariantC result;
+    std::optional<PScriptException> exception;
+    for (const char *member : {"value", "number"}) {
+        QCOMPARE(
+            proxy->invokeByName(member, proxyMemberDescS::Method, {1, "%1"}, result, exception),
+            int(mzComFailed));
+        QCOMPARE(exception->message, QStringLiteral("The table \"\" has no column \"%1\""));
+    }
+}
+
+void tst_Layers::aProxyOfNothing()
+{
+    const ProxyPtrT<proxyTableC> proxy(new proxyTableC(ContentRef()));
+    QVERIFY(!proxy->isValid());
+    QCOMPARE(proxy->lineCount(), 0);
+    QCOMPARE(proxy->lineAt(0), -1);
+    QCOMPARE(proxy->columnCount(), 0);
+    QVERIFY(proxy->designationOf(1).isEmpty());
+    QVERIFY(!proxy->hasLine(0));
 }
 
 QTEST_GUILESS_MAIN(tst_Layers)

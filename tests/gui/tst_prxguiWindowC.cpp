@@ -1,4 +1,5 @@
 #include <core/component/mzComVariantC.h>
+#include <core/component/mzIDispatchC.h>
 #include <core/component/proxyAutoTypeCastC.h>
 #include <gui/script/prxguiWindowC.h>
 
@@ -23,9 +24,20 @@ private Q_SLOTS:
 void tst_prxguiWindowC::window()
 {
     QWidget widget;
+    widget.setWindowTitle(QStringLiteral("Schrauben %1"));
     const ProxyPtrT<prxguiWindowC> proxy(new prxguiWindowC(&widget));
     QCOMPARE(proxy->getWidget(), &widget);
     QCOMPARE(proxy->refCount(), 1);
+    const mzIDispatchC object(proxy->getIUnknown());
+    mzComVariantC result;
+    std::optional<PScriptException> exception;
+    const int kind = proxyMemberDescS::PropertyRead;
+    QCOMPARE(object.invoke("title", kind, {}, result, exception), 0);
+    QVERIFY(result == "Schrauben %1");
+    QCOMPARE(object.invoke("isVisible", kind, {}, result, exception), 0);
+    QVERIFY(result == mzComVariantC(false));
+    widget.show();
+    QVERIFY(proxy->isVisible());
 }
 
 void tst_prxguiWindowC::noWindow()
@@ -40,6 +52,8 @@ void tst_prxguiWindowC::windowGoesFirst()
     const ProxyPtrT<prxguiWindowC> proxy(new prxguiWindowC(widget.get()));
     widget.reset();
     QCOMPARE(proxy->getWidget(), nullptr);
+    QVERIFY(proxy->title().isEmpty());
+    QVERIFY(!proxy->isVisible());
 }
 
 void tst_prxguiWindowC::proxyGoesFirst()

@@ -6,7 +6,8 @@
 #include <QPointer>
 #include <QWidget>
 
-/// A window as scripts have it, to be given to others. Does not own the window, which may go first.
+/// A window as scripts have it, to be given to others. Does not own the window, which may go first:
+/// then it has no title and is not visible.
 class VELKGUI_EXPORT prxguiWindowC : public proxyObjectC
 {
 public:
@@ -14,6 +15,9 @@ public:
 
     /// Null if the window is gone.
     [[nodiscard]] QWidget *getWidget() const { return m_window; }
+    /// For scripts.
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] bool isVisible() const;
 
     [[nodiscard]] const proxyMemberDescListS *getProxyTypeInfo() const override;
     [[nodiscard]] static const proxyMemberDescListS *getStaticProxyTypeInfo();
