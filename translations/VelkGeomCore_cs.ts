@@ -12,6 +12,10 @@
         <translation>%1 v revizi %2 neexistuje</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>dalších: %1</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Čte se revize %2, pokud je na tomto počítači.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Žádná odpověď od %1 během %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Žádný řádek cílů se k tomuto nehodí.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Shodné jen díky navrženým podmínkám nebo přiřazením proměnných. Platí, jakmile je potvrzen některý řádek cíle.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>obsahuje chyby!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>nahrazeno: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>stejné: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>žádná hodnota</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>bez protějšku: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>takto v dalších řádcích: %1</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>různé: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>podobné: %1</translation>
     </message>
 </context>
 </TS>

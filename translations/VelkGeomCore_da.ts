@@ -12,6 +12,10 @@
         <translation>%1 findes ikke i revision %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 flere</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Revision %2 læses, så vidt den findes på denne maskine.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Intet svar fra %1 i %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Ingen linje i målene passer til denne.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Kun ens på grund af foreslåede betingelser eller variabeltilordninger. De gælder, så snart en linje i målet er bekræftet.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>indeholder fejl!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>erstattet: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>ens: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>ingen værdi</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>uden modstykke: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>således i %1 andre linjer</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>forskellig: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>lignende: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>%1 gibt es in Revision %2 nicht</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Keine Antwort von %1 in %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Keine Zeile der Ziele passt zu dieser.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>enthält Fehler!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>ersetzt: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>gleich: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>kein Wert</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>ohne Gegenstück: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>so in %1 weiteren Zeilen</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>verschieden: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>ähnlich: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>%1 does not exist in revision %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 more</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Revision %2 is read as far as it is on this machine.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>No answer from %1 in %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>No line of the targets fits this one.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Equal only by proposed conditions or variable mappings. They count as soon as a line of the target is confirmed.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>contains errors!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>replaced: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>equal: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>no value</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>without counterpart: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>likewise in %1 other lines</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>different: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>similar: %1</translation>
     </message>
 </context>
 </TS>

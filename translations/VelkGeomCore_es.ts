@@ -12,6 +12,10 @@
         <translation>%1 no existe en la revisión %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 más</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Se lee la revisión %2 en la medida en que está en esta máquina.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Sin respuesta de %1 en %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Ninguna línea de los destinos corresponde a esta.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Igual solo por condiciones o asignaciones de variables propuestas. Valen en cuanto se confirme una línea del destino.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>¡contiene errores!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>sustituido: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>igual: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>ningún valor</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>sin correspondencia: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>así en otras %1 líneas</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>distinto: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>parecido: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>Kohdetta %1 ei ole versiossa %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 muuta</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Luetaan versio %2 siltä osin kuin se on tällä koneella.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Ei vastausta kohteesta %1 ajassa %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Mikään kohteiden rivi ei sovi tähän.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Sama vain ehdotettujen ehtojen tai muuttujamääritysten ansiosta. Ne ovat voimassa heti, kun yksi kohteen rivi on vahvistettu.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>sisältää virheitä!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>korvattu: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>sama: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>ei arvoa</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>ilman vastinetta: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>samoin %1 muulla rivillä</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>eri: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>samankaltainen: %1</translation>
     </message>
 </context>
 </TS>

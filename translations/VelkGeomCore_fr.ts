@@ -12,6 +12,10 @@
         <translation>%1 n'existe pas dans la révision %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 autres</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. La révision %2 est lue dans la mesure où elle se trouve sur cette machine.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Aucune réponse de %1 en %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Aucune ligne des cibles ne correspond à celle-ci.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Identique seulement grâce à des conditions ou des affectations de variables proposées. Elles valent dès qu’une ligne de la cible est confirmée.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>contient des erreurs !</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>remplacé : %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>identique : %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>aucune valeur</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>sans équivalent : %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>de même dans %1 autres lignes</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>différent : %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>semblable : %1</translation>
     </message>
 </context>
 </TS>

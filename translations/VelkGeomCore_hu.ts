@@ -12,6 +12,10 @@
         <translation>%1 nem létezik a(z) %2. revízióban</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>további %1</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. A(z) %2. revíziót olvassuk, amennyiben ezen a gépen megvan.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Nincs válasz innen: %1, %2 s alatt</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>A célok egyetlen sora sem illik ehhez.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Csak a javasolt feltételek vagy változó-hozzárendelések miatt egyezik. Akkor érvényesek, ha a cél egyik sorát megerősítették.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>hibát tartalmaz!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>lecserélve: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>azonos: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>nincs érték</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>pár nélkül: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>további %1 sorban is így</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>eltérő: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>hasonló: %1</translation>
     </message>
 </context>
 </TS>

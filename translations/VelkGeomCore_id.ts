@@ -12,6 +12,10 @@
         <translation>%1 tidak ada di revisi %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 lainnya</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Revisi %2 dibaca sejauh ada di mesin ini.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Tidak ada jawaban dari %1 dalam %2 dtk</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Tidak ada baris target yang cocok dengan ini.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Sama hanya karena kondisi atau pemetaan variabel yang diusulkan. Keduanya berlaku begitu satu baris target dikonfirmasi.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>mengandung kesalahan!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>diganti: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>sama: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>tanpa nilai</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>tanpa padanan: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>demikian pula di %1 baris lain</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>berbeda: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>mirip: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>%1 non esiste nella revisione %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>altri %1</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Viene letta la revisione %2, per quanto si trova su questa macchina.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Nessuna risposta da %1 in %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Nessuna riga delle destinazioni corrisponde a questa.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Uguale solo per condizioni o assegnazioni di variabili proposte. Valgono appena una riga della destinazione è confermata.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>contiene errori!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>sostituito: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>uguale: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>nessun valore</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>senza corrispondente: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>così in altre %1 righe</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>diverso: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>simile: %1</translation>
     </message>
 </context>
 </TS>

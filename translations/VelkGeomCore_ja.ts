@@ -12,6 +12,10 @@
         <translation>%1 はリビジョン %2 にありません</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>ほか %1 件</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1。このマシンにある範囲でリビジョン %2 を読み込みます。</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>%1 から %2 秒以内に応答がありません</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>この行に合うターゲットの行はありません。</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>提案された条件または変数の割り当てによってのみ一致します。対象の行が一つ確認されると有効になります。</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>エラーがあります！</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>置換: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>同じ: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>値なし</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>対応なし: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>ほか %1 行でも同様</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>相違: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>類似: %1</translation>
     </message>
 </context>
 </TS>

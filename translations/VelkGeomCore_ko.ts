@@ -12,6 +12,10 @@
         <translation>%1은(는) 리비전 %2에 없습니다</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>외 %1개</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. 이 컴퓨터에 있는 범위에서 리비전 %2을(를) 읽습니다.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>%2초 동안 %1의 응답이 없습니다</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>이 행에 맞는 대상 행이 없습니다.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>제안된 조건이나 변수 할당 때문에만 같습니다. 대상의 줄 하나가 확인되면 유효합니다.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>오류가 있습니다!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>대체됨: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>같음: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>값 없음</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>대응 없음: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>다른 %1개 행에서도 동일</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>다름: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>비슷함: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>%1 nie istnieje w rewizji %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>jeszcze %1</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Czytana jest rewizja %2, o ile jest na tej maszynie.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Brak odpowiedzi od %1 w ciągu %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Żaden wiersz celów nie pasuje do tego.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Równe tylko dzięki zaproponowanym warunkom lub przypisaniom zmiennych. Obowiązują, gdy jeden wiersz celu zostanie potwierdzony.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>zawiera błędy!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>zastąpione: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>równe: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>brak wartości</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>bez odpowiednika: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>tak samo w innych wierszach: %1</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>różne: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>podobne: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>%1 não existe na revisão %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>mais %1</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. É lida a revisão %2, na medida em que está nesta máquina.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Sem resposta de %1 em %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Nenhuma linha dos destinos corresponde a esta.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Igual apenas por causa de condições ou atribuições de variáveis propostas. Valem assim que uma linha do destino for confirmada.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>contém erros!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>substituído: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>igual: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>nenhum valor</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>sem correspondente: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>assim em outras %1 linhas</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>diferente: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>semelhante: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>%1 нет в ревизии %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>ещё %1</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Читается ревизия %2, насколько она есть на этой машине.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Нет ответа от %1 за %2 с</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Ни одна строка целей не подходит к этой.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Совпадает только благодаря предложенным условиям или назначениям переменных. Они действуют, как только подтверждена одна строка цели.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>содержит ошибки!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>заменено: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>равно: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>нет значения</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>без соответствия: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>так же в других строках: %1</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>различно: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>похоже: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>%1 v reviziji %2 ne obstaja</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>še %1</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Bere se revizija %2, kolikor je na tem računalniku.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Ni odgovora od %1 v %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Nobena vrstica ciljev ne ustreza tej.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Enako samo zaradi predlaganih pogojev ali dodelitev spremenljivk. Veljajo, ko je potrjena ena vrstica cilja.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>vsebuje napake!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>zamenjano: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>enako: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>brez vrednosti</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>brez ustreznika: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>tako še v %1 vrsticah</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>različno: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>podobno: %1</translation>
     </message>
 </context>
 </TS>

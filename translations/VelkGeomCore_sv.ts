@@ -12,6 +12,10 @@
         <translation>%1 finns inte i revision %2</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 till</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Revision %2 läses så långt den finns på denna dator.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>Inget svar från %1 på %2 s</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Ingen rad i målen passar till denna.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Lika bara på grund av föreslagna villkor eller variabeltilldelningar. De gäller så snart en rad i målet är bekräftad.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>innehåller fel!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>ersatt: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>lika: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>inget värde</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>utan motsvarighet: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>likaså i %1 andra rader</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>olika: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>liknande: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>%1, %2 sürümünde yok</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>%1 tane daha</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Bu makinede bulunduğu ölçüde %2 sürümü okunuyor.</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>%1 adresinden %2 sn içinde yanıt yok</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>Hedeflerin hiçbir satırı buna uymuyor.</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>Yalnızca önerilen koşullar veya değişken atamaları nedeniyle eşit. Hedefin bir satırı onaylanınca geçerli olurlar.</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>hata içeriyor!</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>değiştirilmiş: %1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>eşit: %1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>değer yok</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>karşılıksız: %1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>diğer %1 satırda da böyle</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>farklı: %1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>benzer: %1</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>修订版 %2 中没有 %1</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>另外 %1 个</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1。将读取本机上已有的修订版 %2。</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>%1 在 %2 秒内没有响应</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>目标中没有与此行相符的行。</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>仅因建议的条件或变量分配而相同。一旦目标的一行被确认，它们即生效。</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>包含错误！</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>已替换：%1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>相同：%1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>无值</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>无对应值：%1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>另有 %1 行同样如此</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>不同：%1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>相近：%1</translation>
     </message>
 </context>
 </TS>

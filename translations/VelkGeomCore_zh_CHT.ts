@@ -12,6 +12,10 @@
         <translation>修訂版 %2 中沒有 %1</translation>
     </message>
     <message>
+        <source>%1 weitere</source>
+        <translation>另外 %1 個</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1。將讀取本機上已有的修訂版 %2。</translation>
     </message>
@@ -280,6 +284,10 @@
         <translation>%1 在 %2 秒內沒有回應</translation>
     </message>
     <message>
+        <source>Keine Zeile der Ziele passt zu dieser.</source>
+        <translation>目標中沒有與此列相符的列。</translation>
+    </message>
+    <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
         <translation>僅因建議的條件或變數指派而相同。目標的一行確認後即生效。</translation>
     </message>
@@ -394,12 +402,36 @@
         <translation>包含錯誤！</translation>
     </message>
     <message>
+        <source>ersetzt: %1</source>
+        <translation>已取代：%1</translation>
+    </message>
+    <message>
+        <source>gleich: %1</source>
+        <translation>相同：%1</translation>
+    </message>
+    <message>
         <source>kein Wert</source>
         <translation>無值</translation>
     </message>
     <message>
+        <source>ohne Gegenstück: %1</source>
+        <translation>無對應值：%1</translation>
+    </message>
+    <message>
+        <source>so in %1 weiteren Zeilen</source>
+        <translation>另有 %1 列同樣如此</translation>
+    </message>
+    <message>
+        <source>verschieden: %1</source>
+        <translation>不同：%1</translation>
+    </message>
+    <message>
         <source>y, x</source>
         <translation>y, x</translation>
+    </message>
+    <message>
+        <source>ähnlich: %1</source>
+        <translation>相近：%1</translation>
     </message>
 </context>
 </TS>

@@ -81,6 +81,19 @@ PrjMapperLineC PrjMapperC::createLine(int lineId, const VKTab::LineView &line, b
     return d->createLine(d->input(lineId, line, converted), firstTargetOnly);
 }
 
+LineCandidatesC PrjMapperC::candidates(int lineId, const Varset &varset)
+{
+    d->adoptNode();
+    return d->candidates(d->input(lineId, varset));
+}
+
+LineCandidatesC PrjMapperC::candidates(int lineId, const VKTab::LineView &line)
+{
+    d->adoptNode();
+    Varset converted;
+    return d->candidates(d->input(lineId, line, converted));
+}
+
 bool PrjMapperC::hasEqualLine(int lineId)
 {
     d->adoptNode();

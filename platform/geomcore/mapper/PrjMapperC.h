@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LineCandidatesC.h"
 #include "MapperFlags.h"
 #include "PrjMapperCheckResultC.h"
 #include "PrjMapperLineC.h"
@@ -71,6 +72,12 @@ public:
     [[nodiscard]] PrjMapperLineC createLine(int lineId, const Varset &varset, bool firstTargetOnly);
     [[nodiscard]] PrjMapperLineC createLine(int lineId, const VKTab::LineView &line,
                                             bool firstTargetOnly);
+
+    /// The lines that the source line may have become, with what createLine proposes as the first
+    /// one if anything is proposed, and how probable it is that it has no successor. Takes nothing
+    /// out of the working mapping, and does not ask what is assigned now.
+    [[nodiscard]] LineCandidatesC candidates(int lineId, const Varset &varset);
+    [[nodiscard]] LineCandidatesC candidates(int lineId, const VKTab::LineView &line);
 
     /// Whether some target has, for some combination of the source line's ranges, a line with equal
     /// values, as far as its conditions hold: createLine proposes such a one for that combination.

@@ -1,6 +1,7 @@
 #include "PrjMapperPrivate.h"
 
 #include "ExactSearch.h"
+#include "LineComparison.h"
 #include "PairJoin.h"
 #include "Proposals.h"
 #include "TargetTable.h"
@@ -19,6 +20,10 @@ using Mapper::Proposal;
 using Mapper::TargetSet;
 
 namespace {
+
+/// Shares of right ones among equal lines and among proposals, see docs/line-assignment.md.
+constexpr double EqualProbability = 0.99;
+constexpr double ProposalProbability = 0.9;
 
 /// The same but for their lines. Conditions and modifiers are shared immutable objects.
 bool haveSameTargets(const PrjMappingC &a, const PrjMappingC &b)
@@ -161,10 +166,38 @@ PrjMapperLineC PrjMapperPrivate::createLine(const LineInput &line, bool firstTar
 {
     working.note(line.lineId);
     collectOpenTargets(line, firstTargetOnly);
-    Proposal proposal = findEqual(line);
-    if (!proposal.target && !hasEqualCombination(line))
-        proposal = Mapper::Proposals(targets(), m_open).find(line);
-    return proposedLine(line.lineId, proposal);
+    return proposedLine(line.lineId, propose(line));
+}
+
+Proposal PrjMapperPrivate::propose(const LineInput &line)
+{
+    const Proposal equal = findEqual(line);
+    if (equal.target || hasEqualCombination(line))
+        return equal;
+    return Mapper::Proposals(targets(), m_open).find(line);
+}
+
+LineCandidatesC PrjMapperPrivate::candidates(const LineInput &line)
+{
+    collectOpenTargets(line, false);
+    const Proposal equal = findEqual(line);
+    const Proposal proposal = equal.target ? equal : propose(line);
+    LineCandidatesC result;
+    result.explanation = Mapper::nothingFits();
+    if (!proposal.target)
+        return result;
+    proposal.target->takeValues(line, m_values);
+    LineCandidateC candidate;
+    candidate.targetIndex = proposal.target->index();
+    candidate.targetPath = proposal.target->path();
+    candidate.lineId = proposal.target->table()->data().lineId(proposal.row);
+    candidate.probability = equal.target ? EqualProbability : ProposalProbability;
+    candidate.variables = Mapper::compareLines(*proposal.target, m_values, proposal.row);
+    candidate.explanation = Mapper::explanationOf(candidate.variables);
+    result.explanation = candidate.explanation;
+    result.noSuccessor = 1 - candidate.probability;
+    result.candidates.append(candidate);
+    return result;
 }
 
 void PrjMapperPrivate::collectOpenTargets(const LineInput &line, bool firstOnly)

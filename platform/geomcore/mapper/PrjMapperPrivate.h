@@ -41,6 +41,7 @@ public:
 
     [[nodiscard]] PrjMapperLineC toMapperLine(const PrjMappingLineC &line) const;
     [[nodiscard]] PrjMapperLineC createLine(const Mapper::LineInput &line, bool firstTargetOnly);
+    [[nodiscard]] LineCandidatesC candidates(const Mapper::LineInput &line);
     [[nodiscard]] bool hasEqualLine(int row);
     /// Enters a line that is found in the working mapping.
     void enter(const PrjMapperLineC &line);
@@ -80,6 +81,7 @@ private:
     /// The targets of the mapping that the line's last pair holds.
     [[nodiscard]] Bound boundFor(const PrjMapperLineC &line);
     void collectOpenTargets(const Mapper::LineInput &line, bool firstOnly);
+    [[nodiscard]] Mapper::Proposal propose(const Mapper::LineInput &line);
     [[nodiscard]] Mapper::Proposal findEqual(const Mapper::LineInput &line);
     [[nodiscard]] bool hasEqualCombination(const Mapper::LineInput &line);
     [[nodiscard]] PrjMapperLineC proposedLine(int lineId, const Mapper::Proposal &proposal) const;

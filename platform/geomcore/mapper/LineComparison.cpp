@@ -1,0 +1,141 @@
+#include "LineComparison.h"
+
+#include "BoundTarget.h"
+#include "CellSimilarity.h"
+#include "ExactSearch.h"
+#include "TargetTable.h"
+
+#include <core/text/PString.h>
+
+namespace Mapper {
+
+namespace {
+
+/// Names and values that a sentence shows of one kind; the rest is a number.
+constexpr qsizetype MaxNamed = 4;
+/// Characters that a sentence shows of a value.
+constexpr qsizetype MaxShown = 40;
+/// Values with at least this similarity are near each other.
+constexpr double NearSimilarity = 0.3;
+
+QString tr(const char *text)
+{
+    return PString::translate(text, "VelkGeomCore");
+}
+
+QString shown(const QString &value)
+{
+    return value.size() > MaxShown ? value.left(MaxShown) + QChar(0x2026) : value;
+}
+
+QString change(const ComparedVariableC &variable)
+{
+    QString text = variable.name + u' ' + shown(variable.oldValue) + QChar(u' ') + QChar(0x2192) +
+                   QChar(u' ') + shown(variable.newValue);
+    if (variable.supports > 0)
+        text += QStringLiteral(" (") + tr("so in %1 weiteren Zeilen").arg(variable.supports) + u')';
+    return text;
+}
+
+QString missing(const ComparedVariableC &variable)
+{
+    return variable.oldValue.isEmpty()
+               ? variable.name + QStringLiteral(" + ") + shown(variable.newValue)
+               : variable.name + QStringLiteral(" - ") + shown(variable.oldValue);
+}
+
+QString joined(const QString &kind, const QStringList &parts)
+{
+    QString text = parts.mid(0, MaxNamed).join(QStringLiteral(", "));
+    if (parts.size() > MaxNamed)
+        text += QStringLiteral(", ") + tr("%1 weitere").arg(parts.size() - MaxNamed);
+    return kind.arg(text);
+}
+
+ComparedVariableC::Outcome outcomeOf(const BoundTarget &target, const TargetValues &values,
+                                     size_t place, int row, std::string_view cell)
+{
+    const LineTexts::Value &value = values.texts.values[place];
+    if (value.text.empty() && cell.empty())
+        return ComparedVariableC::Equal;
+    if (value.text.empty() || cell.empty())
+        return ComparedVariableC::Missing;
+    if (values.search->equals(value, row, place))
+        return ComparedVariableC::Equal;
+    const auto variable = size_t(values.search->variables()[place]);
+    const char decimalChar = target.table()->variables()[variable].decimalChar;
+    const double similarity =
+        ComparableCell(value.text).similarity(cell, decimalChar, NearSimilarity);
+    return similarity >= NearSimilarity ? ComparedVariableC::Near : ComparedVariableC::Different;
+}
+
+} // namespace
+
+QList<ComparedVariableC> compareLines(const BoundTarget &target, const TargetValues &values,
+                                      int row)
+{
+    QList<ComparedVariableC> compared;
+    std::string scratch;
+    const TargetTable &table = *target.table();
+    const std::vector<int> &variables = values.search->variables();
+    compared.reserve(qsizetype(variables.size()));
+    for (size_t place = 0; place < variables.size(); ++place) {
+        const std::string_view cell = table.text(row, variables[place], scratch);
+        const std::string_view value = values.texts.values[place].text;
+        ComparedVariableC variable;
+        variable.name = table.variables()[size_t(variables[place])].name;
+        variable.oldValue = QString::fromUtf8(value.data(), qsizetype(value.size()));
+        variable.newValue = QString::fromUtf8(cell.data(), qsizetype(cell.size()));
+        variable.outcome = outcomeOf(target, values, place, row, cell);
+        compared.append(variable);
+    }
+    return compared;
+}
+
+QString explanationOf(const QList<ComparedVariableC> &variables)
+{
+    QStringList equal;
+    QStringList replaced;
+    QStringList near;
+    QStringList different;
+    QStringList without;
+    for (const ComparedVariableC &variable : variables) {
+        switch (variable.outcome) {
+        case ComparedVariableC::Equal:
+            if (!variable.newValue.isEmpty())
+                equal.append(variable.name);
+            break;
+        case ComparedVariableC::Replaced:
+            replaced.append(change(variable));
+            break;
+        case ComparedVariableC::Near:
+            near.append(change(variable));
+            break;
+        case ComparedVariableC::Different:
+            different.append(change(variable));
+            break;
+        case ComparedVariableC::Missing:
+            without.append(missing(variable));
+            break;
+        }
+    }
+    QStringList parts;
+    if (!equal.isEmpty())
+        parts.append(joined(tr("gleich: %1"), equal));
+    if (!replaced.isEmpty())
+        parts.append(joined(tr("ersetzt: %1"), replaced));
+    if (!near.isEmpty())
+        parts.append(joined(tr("ähnlich: %1"), near));
+    if (!different.isEmpty())
+        parts.append(joined(tr("verschieden: %1"), different));
+    if (!without.isEmpty())
+        parts.append(joined(tr("ohne Gegenstück: %1"), without));
+    return parts.join(QStringLiteral("; "));
+}
+
+QString nothingFits()
+{
+    return tr("Keine Zeile der Ziele passt zu dieser.");
+}
+
+} // namespace Mapper
