@@ -31,9 +31,7 @@ CatalogMappingC LineLookUp::release() const
     const QList<ReleaseMappingC> releases = m_catalog.getReleases();
     if (releases.isEmpty())
         return catalog;
-    ReleaseMappingC release;
-    release.setSourceDate(releases.first().getSourceDate());
-    release.setTargetDate(releases.first().getTargetDate());
+    ReleaseMappingC release = releases.first().head();
     release.addMapping(m_mapping);
     catalog.addRelease(release);
     return catalog;

@@ -260,6 +260,74 @@ private Q_SLOTS:
         QCOMPARE(file.toByteArray(), Sound);
     }
 
+    void agreedReplacementsStayInTheirRelease()
+    {
+        const QByteArray text = R"("targetDate": "2026",
+  "replacements": [
+   {
+    "folder": "cat/screws",
+    "variable": "Werkstoff",
+    "before": "St37-2",
+    "after": "S235JR"
+   },
+   {
+    "folder": "",
+    "variable": "L",
+    "factor": "0.1",
+    "offset": "-2"
+   }
+  ],)";
+        QByteArray bytes = Sound;
+        bytes.replace("\"targetDate\": \"2026\",", text);
+        MappingFile file;
+        QString error;
+        QVERIFY2(file.parse(bytes, QString(), &error), qPrintable(error));
+        ReleaseMappingC release = file.release("2022");
+        const QList<AgreedReplacement> agreed = release.getReplacements();
+        QCOMPARE(agreed.size(), 2);
+        QCOMPARE(agreed[0],
+                 (AgreedReplacement{"cat/screws", "Werkstoff", "St37-2", "S235JR", {}, {}}));
+        QCOMPARE(agreed[1], (AgreedReplacement{{}, "L", {}, {}, "0.1", "-2"}));
+        QVERIFY(agreed[1].isNumeric() && !agreed[0].isNumeric());
+        QCOMPARE(release.head().getReplacements(), agreed);
+        QCOMPARE(release.head().countMappings(), 0);
+        file.setRelease(release);
+        QCOMPARE(file.toByteArray(), bytes);
+        release.setReplacements({});
+        file.setRelease(release);
+        QCOMPARE(file.toByteArray(), Sound);
+    }
+    void replacementHoldsInItsFolder_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("holds");
+        QTest::newRow("whole release") << QString() << true;
+        QTest::newRow("folder") << "cat/screws" << true;
+        QTest::newRow("folder with its separator") << "cat/screws/" << true;
+        QTest::newRow("project") << "cat/screws/a.prj" << true;
+        QTest::newRow("beginning of a name") << "cat/scr" << false;
+        QTest::newRow("other folder") << "cat/nuts" << false;
+        QTest::newRow("longer path") << "cat/screws/a.prj/b" << false;
+    }
+    void replacementHoldsInItsFolder()
+    {
+        QFETCH(QString, folder);
+        QFETCH(bool, holds);
+        AgreedReplacement replacement;
+        replacement.folder = folder;
+        QCOMPARE(replacement.holdsIn("cat/screws/a.prj"), holds);
+        QCOMPARE(replacement.holdsIn("cat\\screws\\a.prj"), holds);
+    }
+    void badReplacementIsNamed()
+    {
+        QByteArray bytes = Sound;
+        bytes.replace("\"mappings\"",
+                      R"("replacements":[{"folder":"","variable":"A"}],"mappings")");
+        QString error;
+        QVERIFY(!MappingFile().parse(bytes, QString(), &error));
+        QVERIFY2(error.contains("replacements[0] must name a variable"), qPrintable(error));
+    }
+
     void notFoundTargetIsMovedToTheEnd()
     {
         const QByteArray found = Sound.mid(Sound.indexOf("     {\n      \"path\""));

@@ -112,6 +112,30 @@ private Q_SLOTS:
         modifier("variable without target", R"({"kind":"var","source":"A"})", false);
         modifier("unknown kind", R"({"kind":"x","source":"A","target":"B"})", false);
         modifier("without kind", R"({"source":"A","target":"B"})", false);
+        const auto replacement = [](const char *name, const char *text, bool good) {
+            QTest::newRow(name) << QByteArray(R"({"2022":{"sourceDate":"2022","targetDate":"",)"
+                                              R"("replacements":[)") +
+                                       text + "]}}"
+                                << good;
+        };
+        replacement("token", R"({"folder":"","variable":"A","before":"7","after":""})", true);
+        replacement("numbers", R"({"folder":"a/b","variable":"A","factor":"0.5","offset":"-1"})",
+                    true);
+        replacement("replacement of nothing", R"({"folder":"","variable":"A"})", false);
+        replacement("replacement without variable",
+                    R"({"folder":"","variable":"","before":"7","after":"8"})", false);
+        replacement("half a text", R"({"folder":"","variable":"A","before":"7"})", false);
+        replacement("text and numbers",
+                    R"({"folder":"","variable":"A","before":"","after":"","factor":"1",)"
+                    R"("offset":"0"})",
+                    false);
+        replacement("factor is no number",
+                    R"({"folder":"","variable":"A","factor":"x","offset":"0"})", false);
+        replacement("factor is infinite",
+                    R"({"folder":"","variable":"A","factor":"inf","offset":"0"})", false);
+        replacement("replacement without folder", R"({"variable":"A","before":"7","after":"8"})",
+                    false);
+        replacement("text as a replacement", R"("x")", false);
         QTest::newRow("no release") << QByteArray("{}") << true;
         QTest::newRow("array") << QByteArray("[]") << false;
         QTest::newRow("heads only")

@@ -82,6 +82,19 @@ void warnIfNothingFits(const Builder &builder, QTextStream &err)
                "target fit?\n";
 }
 
+/// What was agreed to about values goes on to the next release: from the release that is replaced,
+/// else from the last one of the file.
+QList<AgreedReplacement> formerReplacements(const QString &path, const MappingFile &file,
+                                            const QString &date)
+{
+    if (file.sourceDates().isEmpty())
+        return {};
+    const QString former = file.contains(date) ? date : file.sourceDates().last();
+    MappingFile read;
+    return read.read(path, former) ? read.release(former).getReplacements()
+                                   : QList<AgreedReplacement>();
+}
+
 QString alreadyThere(const QString &path, const QString &date)
 {
     return path + " has a release of " + date +
@@ -90,7 +103,9 @@ QString alreadyThere(const QString &path, const QString &date)
 
 ExitStatus store(const Builder &builder, const QString &path, MappingFile &file, QTextStream &err)
 {
-    file.setRelease(builder.release());
+    ReleaseMappingC release = builder.release();
+    release.setReplacements(formerReplacements(path, file, release.getSourceDate()));
+    file.setRelease(release);
     QString error;
     if (file.write(path, &error))
         return ExitStatus::Done;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <iterator>
 
 /// Indexes into Members.
@@ -13,6 +14,13 @@ enum ReleaseBuilder::Key : int {
     NoKey = -1,
     SourceDate,
     TargetDate,
+    ReplacementsKey,
+    ReplacementFolder,
+    ReplacementVariable,
+    ReplacementBefore,
+    ReplacementAfter,
+    ReplacementFactor,
+    ReplacementOffset,
     MappingsKey,
     SourcePath,
     SourceVersion,
@@ -36,6 +44,13 @@ enum ReleaseBuilder::Key : int {
 constexpr ReleaseBuilder::Member ReleaseBuilder::Members[] = {
     {Release, "sourceDate", TextKind, true, Outside},
     {Release, "targetDate", TextKind, true, Outside},
+    {Release, "replacements", ArrayKind, false, Replacements},
+    {Replacement, "folder", TextKind, true, Outside},
+    {Replacement, "variable", TextKind, true, Outside},
+    {Replacement, "before", TextKind, false, Outside},
+    {Replacement, "after", TextKind, false, Outside},
+    {Replacement, "factor", TextKind, false, Outside},
+    {Replacement, "offset", TextKind, false, Outside},
     {Release, "mappings", ArrayKind, false, Mappings},
     {Mapping, "sourcePath", TextKind, true, Outside},
     {Mapping, "sourceVersion", TextKind, true, Outside},
@@ -86,6 +101,8 @@ QString ReleaseBuilder::error() const
 {
     static_assert(std::size(Members) == MemberCount && MemberCount <= 32, "a bit for each");
     QStringList path;
+    if (m_place == Replacements || m_place == Replacement)
+        path += QStringLiteral("replacements[%1]").arg(m_replacements.size());
     if (m_place >= Mappings)
         path += m_place == Mappings ? QStringLiteral("mappings")
                                     : QStringLiteral("mappings[%1]").arg(m_release.countMappings());
@@ -112,6 +129,9 @@ bool ReleaseBuilder::startObject()
     if (m_key == NoKey && m_place == Outside) {
         *this = ReleaseBuilder();
         begin(Release);
+    } else if (m_key == NoKey && m_place == Replacements) {
+        m_replacement = AgreedReplacement();
+        begin(Replacement);
     } else if (m_key == NoKey && m_place == Mappings) {
         m_mapping = PrjMappingC();
         m_targets.clear();
@@ -137,6 +157,8 @@ bool ReleaseBuilder::endObject()
     }
     if (m_place == Modifier)
         return endModifier();
+    if (m_place == Replacement)
+        return endReplacement();
     if (!checkComplete(m_place))
         return false;
     if (m_place == Target) {
@@ -212,6 +234,10 @@ bool ReleaseBuilder::endArray()
     switch (m_place) {
     case Row:
         return endRow();
+    case Replacements:
+        m_release.setReplacements(m_replacements);
+        m_place = Release;
+        break;
     case Mappings:
         m_place = Release;
         break;
@@ -371,6 +397,9 @@ void ReleaseBuilder::enterArray()
     m_place = Members[m_key].inside;
     m_element = -1;
     switch (m_key) {
+    case ReplacementsKey:
+        m_replacements.clear();
+        break;
     case MappingsKey:
         m_release.clearMappings();
         break;
@@ -397,6 +426,24 @@ void ReleaseBuilder::setText(const QString &text)
         return m_release.setSourceDate(text);
     case TargetDate:
         return m_release.setTargetDate(text);
+    case ReplacementFolder:
+        m_replacement.folder = text;
+        return;
+    case ReplacementVariable:
+        m_replacement.variable = text;
+        return;
+    case ReplacementBefore:
+        m_replacement.before = text;
+        return;
+    case ReplacementAfter:
+        m_replacement.after = text;
+        return;
+    case ReplacementFactor:
+        m_replacement.factor = text;
+        return;
+    case ReplacementOffset:
+        m_replacement.offset = text;
+        return;
     case SourcePath:
         return m_mapping.setSourcePath(text);
     case SourceVersion:
@@ -451,6 +498,27 @@ bool ReleaseBuilder::endModifier()
         return fail(QStringLiteral("must be of kind \"var\" with \"source\" and \"target\", or of "
                                    "kind \"value\" with \"formula\""));
     m_place = Modifiers;
+    return true;
+}
+
+bool ReleaseBuilder::endReplacement()
+{
+    constexpr quint32 Texts = 1U << ReplacementBefore | 1U << ReplacementAfter;
+    constexpr quint32 Numbers = 1U << ReplacementFactor | 1U << ReplacementOffset;
+    if (!checkComplete(Replacement))
+        return false;
+    const quint32 given = m_seen & (Texts | Numbers);
+    const auto isNumber = [](const QString &text) {
+        bool ok = false;
+        return std::isfinite(text.toDouble(&ok)) && ok;
+    };
+    const bool numbers =
+        given == Numbers && isNumber(m_replacement.factor) && isNumber(m_replacement.offset);
+    if (m_replacement.variable.isEmpty() || (given != Texts && !numbers))
+        return fail(QStringLiteral("must name a variable, and texts as \"before\" and \"after\" or "
+                                   "decimal numbers as \"factor\" and \"offset\""));
+    m_replacements.append(m_replacement);
+    m_place = Replacements;
     return true;
 }
 

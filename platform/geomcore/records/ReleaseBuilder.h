@@ -53,6 +53,8 @@ private:
     enum Place {
         Outside,
         Release,
+        Replacements,
+        Replacement,
         Mappings,
         Mapping,
         Targets,
@@ -97,6 +99,7 @@ private:
     bool endMapping();
     void moveNotFoundTarget();
     bool endModifier();
+    bool endReplacement();
     bool endRow();
     bool addRow(const ExtendedTextPtr &extended, bool conflict);
 
@@ -106,6 +109,8 @@ private:
     QList<PrjMappingTargetC> m_targets;
     PrjMappingTargetC m_target;
     bool m_proposedRules = false;
+    QList<AgreedReplacement> m_replacements;
+    AgreedReplacement m_replacement;
     QString m_modifierKind;
     QString m_modifierSource;
     QString m_modifierTarget;
@@ -124,7 +129,7 @@ private:
     QString m_extended;
     bool m_conflict = false;
 
-    static constexpr std::size_t MemberCount = 20;
+    static constexpr std::size_t MemberCount = 27;
     std::array<LastText, MemberCount> m_last; ///< of each of Members
     QString m_message;
     QStringList m_notes;

@@ -12,6 +12,7 @@ class ReleaseMappingData : public QSharedData
 public:
     QString sourceDate;
     QString targetDate;
+    QList<AgreedReplacement> replacements;
     MappingList mappings;
 };
 
@@ -48,6 +49,23 @@ QString ReleaseMappingC::getTargetDate() const
 void ReleaseMappingC::setTargetDate(const QString &date)
 {
     d->targetDate = date;
+}
+
+QList<AgreedReplacement> ReleaseMappingC::getReplacements() const
+{
+    return d->replacements;
+}
+
+void ReleaseMappingC::setReplacements(const QList<AgreedReplacement> &replacements)
+{
+    d->replacements = replacements;
+}
+
+ReleaseMappingC ReleaseMappingC::head() const
+{
+    ReleaseMappingC result = *this;
+    result.clearMappings();
+    return result;
 }
 
 QList<PrjMappingC> ReleaseMappingC::getMappingList() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AgreedReplacement.h"
 #include "PrjMappingC.h"
 
 #include <geomcore/VelkGeomCoreGlobal.h>
@@ -29,6 +30,13 @@ public:
     void setSourceDate(const QString &date);
     [[nodiscard]] QString getTargetDate() const;
     void setTargetDate(const QString &date);
+
+    /// What was agreed to about values of this release's lines, in the order in which it was.
+    [[nodiscard]] QList<AgreedReplacement> getReplacements() const;
+    void setReplacements(const QList<AgreedReplacement> &replacements);
+
+    /// This release without its mappings: both dates, and what was agreed to.
+    [[nodiscard]] ReleaseMappingC head() const;
 
     /// In stored order. Costs a list of handles: to look only, use the two below.
     [[nodiscard]] QList<PrjMappingC> getMappingList() const;

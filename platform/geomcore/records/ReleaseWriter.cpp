@@ -138,6 +138,29 @@ void writeMapping(JsonWriter &writer, const PrjMappingC &mapping)
     writer.endObject();
 }
 
+/// Nothing at all without any, as files without them always looked.
+void writeReplacements(JsonWriter &writer, const QList<AgreedReplacement> &replacements)
+{
+    if (replacements.isEmpty())
+        return;
+    writer.key("replacements");
+    writer.beginArray();
+    for (const AgreedReplacement &replacement : replacements) {
+        writer.beginObject();
+        writeText(writer, "folder", replacement.folder);
+        writeText(writer, "variable", replacement.variable);
+        if (replacement.isNumeric()) {
+            writeText(writer, "factor", replacement.factor);
+            writeText(writer, "offset", replacement.offset);
+        } else {
+            writeText(writer, "before", replacement.before);
+            writeText(writer, "after", replacement.after);
+        }
+        writer.endObject();
+    }
+    writer.endArray();
+}
+
 } // namespace
 
 void writeRelease(JsonWriter &writer, const ReleaseMappingC &release, bool headsOnly)
@@ -145,6 +168,7 @@ void writeRelease(JsonWriter &writer, const ReleaseMappingC &release, bool heads
     writer.beginObject();
     writeText(writer, "sourceDate", release.getSourceDate());
     writeText(writer, "targetDate", release.getTargetDate());
+    writeReplacements(writer, release.getReplacements());
     if (!headsOnly) {
         writer.key("mappings");
         writer.beginArray();

@@ -95,11 +95,9 @@ std::vector<int> lastsOf(const std::vector<VKTab::LineId> &lines,
 
 } // namespace
 
-CatalogMappingC LinePart::catalogOf(const PrjMappingC &mapping, const ReleaseMappingC &dates)
+CatalogMappingC LinePart::catalogOf(const PrjMappingC &mapping, const ReleaseMappingC &like)
 {
-    ReleaseMappingC release;
-    release.setSourceDate(dates.getSourceDate());
-    release.setTargetDate(dates.getTargetDate());
+    ReleaseMappingC release = like.head();
     release.addMapping(mapping);
     CatalogMappingC catalog;
     catalog.addRelease(release);

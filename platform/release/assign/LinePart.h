@@ -17,9 +17,9 @@ namespace VelkRelease {
 class LinePart
 {
 public:
-    /// A catalog with this mapping alone, in a release with the dates of \a dates.
+    /// A catalog with this mapping alone, in a release that is else like \a like.
     [[nodiscard]] static CatalogMappingC catalogOf(const PrjMappingC &mapping,
-                                                   const ReleaseMappingC &dates);
+                                                   const ReleaseMappingC &like);
     /// To be made on the thread that owns \a table, which outlives it, as does \a cancelled: null
     /// or what ends the work on a line too, whose result is of no use then.
     LinePart(const QString &sourcePath, const QString &sourceVersion,

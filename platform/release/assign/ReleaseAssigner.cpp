@@ -140,7 +140,7 @@ QStringList ReleaseAssigner::missingCatalogs(const ReleaseMappingC &release,
 }
 
 ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
-                                                 const ReleaseMappingC &dates,
+                                                 const ReleaseMappingC &head,
                                                  const std::atomic<bool> &cancelled) const
 {
     Outcome outcome{mapping, {}, true};
@@ -154,7 +154,7 @@ ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
     setTableError(outcome.mapping, !read);
     if (read) {
         const AssignmentOutcome assigned =
-            assignProjectLines(sourcePath, outcome.mapping, table, dates,
+            assignProjectLines(sourcePath, outcome.mapping, table, head,
                                conditionVariables(mapping), m_force, &cancelled);
         outcome.isDone = !assigned.isLeft || !assigned.unreadableTargets.isEmpty();
         if (!assigned.unreadableTargets.isEmpty())
@@ -174,9 +174,7 @@ ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
 bool ReleaseAssigner::run(ReleaseMappingC &release, const std::atomic<bool> &cancelled)
 {
     const QList<int> positions = chosenPositions(release);
-    ReleaseMappingC dates;
-    dates.setSourceDate(release.getSourceDate());
-    dates.setTargetDate(release.getTargetDate());
+    const ReleaseMappingC head = release.head();
     std::vector<Outcome> outcomes;
     for (const int position : positions)
         outcomes.push_back({release.mappingAt(position), {}, false});
@@ -190,7 +188,7 @@ bool ReleaseAssigner::run(ReleaseMappingC &release, const std::atomic<bool> &can
         Outcome &outcome = outcomes[std::size_t(i)];
         if (cancelled.load())
             return;
-        outcome = assign(outcome.mapping, dates, cancelled);
+        outcome = assign(outcome.mapping, head, cancelled);
         if (!outcome.isDone)
             return;
         const std::lock_guard lock(mutex);

@@ -60,7 +60,7 @@ private:
         bool isDone = false;
         bool hasFaultyCondition = false;
     };
-    [[nodiscard]] Outcome assign(const PrjMappingC &mapping, const ReleaseMappingC &dates,
+    [[nodiscard]] Outcome assign(const PrjMappingC &mapping, const ReleaseMappingC &head,
                                  const std::atomic<bool> &cancelled) const;
     [[nodiscard]] bool take(const std::vector<Outcome> &outcomes, ReleaseMappingC &release);
     [[nodiscard]] QList<int> chosenPositions(const ReleaseMappingC &release) const;

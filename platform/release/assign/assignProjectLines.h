@@ -36,7 +36,7 @@ struct LineSteps
 };
 
 /// Assigns the lines of a project's table anew and replaces \a mapping by the result. Of
-/// \a release only the two dates are used. Of the value-range variables only those named in
+/// \a release only what head() has is used. Of the value-range variables only those named in
 /// \a conditionVariables are walked value by value; the first combination that finds a target
 /// settles a line. With \a force only confirmed assignments are kept, else all. Any thread; ends
 /// early when \a cancelled becomes true.
