@@ -21,6 +21,7 @@ private Q_SLOTS:
     void wrongUsage_data();
     void wrongUsage();
     void otherReleasesStay();
+    void agreedReplacementsGoOn();
     void sameDateNeedsReplace();
     void brokenMappingFile();
     void unreadableProjectIsNamed();
@@ -127,6 +128,30 @@ void tst_CreateCommand::otherReleasesStay()
     QCOMPARE(run(places() + QStringList{"--catalog", "old=new"}), ExitStatus::Done);
     QVERIFY(content("mapping.json").contains(other));
     QVERIFY(content("mapping.json").contains("\"2021-03-01T08:00:00Z\""));
+}
+
+void tst_CreateCommand::agreedReplacementsGoOn()
+{
+    MappingFile file;
+    ReleaseMappingC release;
+    release.setSourceDate("2019-01-01T00:00:00Z");
+    const QList<AgreedReplacement> agreed{{"", "size", "M3", "M3,5", "", ""}};
+    release.setReplacements(agreed);
+    file.setRelease(release);
+    QVERIFY(file.write(m_directory->filePath("mapping.json")));
+    QCOMPARE(run(places() + QStringList{"--catalog", "old=new"}), ExitStatus::Done);
+    QVERIFY(file.read(m_directory->filePath("mapping.json")));
+    QCOMPARE(file.releases().size(), 2);
+    QCOMPARE(file.releases().last().getReplacements(), agreed);
+    // Made anew it keeps its own.
+    release = file.releases().last();
+    const QList<AgreedReplacement> own{{"", "s", "", "", "2", "0"}};
+    release.setReplacements(own);
+    file.setRelease(release);
+    QVERIFY(file.write(m_directory->filePath("mapping.json")));
+    QCOMPARE(run(places() + QStringList{"--catalog", "old=new", "--replace"}), ExitStatus::Done);
+    QVERIFY(file.read(m_directory->filePath("mapping.json")));
+    QCOMPARE(file.releases().last().getReplacements(), own);
 }
 
 void tst_CreateCommand::sameDateNeedsReplace()
