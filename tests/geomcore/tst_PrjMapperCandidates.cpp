@@ -43,6 +43,7 @@ private Q_SLOTS:
     void outcomeOfEachVariable();
     void nothingToPropose();
     void workingMappingStays();
+    void comparedWithTheAssignedLine();
 };
 
 void tst_PrjMapperCandidates::equalLine()
@@ -117,6 +118,27 @@ void tst_PrjMapperCandidates::workingMappingStays()
     const PrjMapperLineC stored = fixture.mapper.findLine(1, fixture.varset(1));
     QVERIFY(stored.isFound());
     QCOMPARE(stored.getTargetLineId(), 1);
+}
+
+void tst_PrjMapperCandidates::comparedWithTheAssignedLine()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\n");
+    catalog.write("new/a.prj", "D,k:n\nM9,6\nM8,5.0\n");
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    enter(fixture.mapping, 0, 1, 1, PRJMAPPING::Verified);
+    enter(fixture.mapping, 0, 2, 77, PRJMAPPING::Verified);
+    fixture.start();
+    const VKTab::LineView view(fixture.source, VKTab::LineId(1));
+    const PrjMapperLineC line = fixture.mapper.findLine(1, view);
+    const QList<ComparedVariableC> compared = fixture.mapper.compareLine(line, view);
+    QCOMPARE(compared.size(), 2);
+    QCOMPARE(compared[0], (ComparedVariableC{"D", "M8", "M9", Outcome::Near, 0}));
+    QCOMPARE(compared[1], (ComparedVariableC{"k", "5", "6", Outcome::Near, 0}));
+    // A line that the table does not have, and one that nobody assigned.
+    const VKTab::LineView second(fixture.source, VKTab::LineId(2));
+    QVERIFY(fixture.mapper.compareLine(fixture.mapper.findLine(2, second), second).isEmpty());
+    QVERIFY(fixture.mapper.compareLine(PrjMapperLineC(), view).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_PrjMapperCandidates)

@@ -107,6 +107,14 @@ bool PrjMapperC::hasEqualValues(const PrjMapperLineC &line, const VKTab::LineVie
     return d->hasEqualValues(line, d->input(line.getSourceLineId(), view, converted));
 }
 
+QList<ComparedVariableC> PrjMapperC::compareLine(const PrjMapperLineC &line,
+                                                 const VKTab::LineView &view)
+{
+    d->adoptNode();
+    Varset converted;
+    return d->compareLine(line, d->input(line.getSourceLineId(), view, converted));
+}
+
 PrjMapperC::Varset PrjMapperC::updateVarset(const PrjMapperLineC &line, const Varset &varset,
                                             QFlags<VarsetModeFlag> mode)
 {

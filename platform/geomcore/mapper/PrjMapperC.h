@@ -79,6 +79,12 @@ public:
     [[nodiscard]] LineCandidatesC candidates(int lineId, const Varset &varset);
     [[nodiscard]] LineCandidatesC candidates(int lineId, const VKTab::LineView &line);
 
+    /// How the values of the source line, as its target sees them, stand to those of the target
+    /// line that it is assigned to, whether that is a candidate or not. Empty if it is not found,
+    /// or the target's table cannot be read or does not have the line.
+    [[nodiscard]] QList<ComparedVariableC> compareLine(const PrjMapperLineC &line,
+                                                       const VKTab::LineView &view);
+
     /// Whether some target has, for some combination of the source line's ranges, a line with equal
     /// values, as far as its conditions hold: createLine proposes such a one for that combination.
     /// Looks all lines up at once at the first call, and takes nothing out of the working mapping.

@@ -327,6 +327,21 @@ bool PrjMapperPrivate::hasEqualValues(const PrjMapperLineC &line, const LineInpu
         .hasEqualValues(assignmentOf(line, input));
 }
 
+QList<ComparedVariableC> PrjMapperPrivate::compareLine(const PrjMapperLineC &line,
+                                                       const LineInput &input)
+{
+    if (!line.isValid() || !line.isFound())
+        return {};
+    const Bound bound = boundFor(line);
+    const BoundTarget *target = bound.targets->at(line.getTargetIndex(), *bound.mapping);
+    const int row =
+        target && target->isOpen() ? target->table()->data().rowOf(line.getTargetLineId()) : -1;
+    if (row < 0)
+        return {};
+    target->takeValues(input, m_values);
+    return Mapper::compareLines(*target, m_values, row);
+}
+
 PrjMapperCheckResultC PrjMapperPrivate::check(const PrjMapperLineC &line, const LineInput &input,
                                               const Varset *targetVarset, CheckModeFlags mode,
                                               const QString &text)

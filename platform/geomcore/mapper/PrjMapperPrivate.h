@@ -55,6 +55,9 @@ public:
                               CheckModeFlags mode);
     [[nodiscard]] bool hasEqualValues(const PrjMapperLineC &line, const Mapper::LineInput &input);
 
+    [[nodiscard]] QList<ComparedVariableC> compareLine(const PrjMapperLineC &line,
+                                                       const Mapper::LineInput &input);
+
     /// Ranges of the source table that conditions of the line's mapping read.
     [[nodiscard]] QStringList rangesFor(const PrjMapperLineC &line)
     {

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <release/VelkReleaseGlobal.h>
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace VelkRelease {
+
+/// Where two values differ: the texts between what both have in common.
+struct CellPart
+{
+    QString before;
+    QString after;
+    qsizetype beforeAt = 0; ///< where it stands in the old value
+    qsizetype afterAt = 0;  ///< and in the new one
+
+    friend bool operator==(const CellPart &, const CellPart &) = default;
+};
+
+/// The places where two values differ, in order, token by token if both have the same number of
+/// tokens, else all between the tokens that both begin and end with. A token is a run of letters, a
+/// number, or any other single character; blanks only part tokens. Nothing for equal values, and
+/// the whole values if either is longer than some thousand characters.
+[[nodiscard]] VELKRELEASE_EXPORT std::vector<CellPart> differingParts(QStringView before,
+                                                                      QStringView after);
+
+/// A decimal number with point or comma; nothing for anything else.
+[[nodiscard]] VELKRELEASE_EXPORT std::optional<double> numberOf(QStringView text);
+
+/// Factor and offset that make the one number the other, where a short decimal number does it.
+[[nodiscard]] VELKRELEASE_EXPORT std::optional<double> factorOf(double before, double after);
+[[nodiscard]] VELKRELEASE_EXPORT std::optional<double> offsetOf(double before, double after);
+
+} // namespace VelkRelease

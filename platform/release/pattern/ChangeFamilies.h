@@ -1,0 +1,42 @@
+#pragma once
+
+#include "OpenPairs.h"
+#include "ValueChange.h"
+
+#include <QHash>
+#include <QList>
+
+#include <vector>
+
+namespace VelkRelease {
+
+/// Which changes of values occur again and again among the open lines of a release, so that a
+/// difference of one line can be named as one of a family: a token that is replaced, a number that
+/// is multiplied or moved. What a modeller has agreed to is a family from one line on.
+class VELKRELEASE_EXPORT ChangeFamilies
+{
+public:
+    explicit ChangeFamilies(const QList<AgreedReplacement> &agreed = {});
+
+    /// Counts what the pairs of a project support.
+    void count(const std::vector<OpenPair> &pairs);
+
+    /// The changes between the lines of a pair: by the families that most lines support, else by
+    /// what kind of difference it is. In the order of the variables, each change once.
+    [[nodiscard]] QList<ValueChange> changesOf(const OpenPair &pair,
+                                               const QString &sourcePath) const;
+
+private:
+    struct Part;
+
+    [[nodiscard]] static std::vector<Part> partsOf(const OpenPair::Value &value);
+    void addChanges(const OpenPair::Value &value, const QString &sourcePath,
+                    QList<ValueChange> &changes) const;
+    [[nodiscard]] const AgreedReplacement *agreedTo(const OpenPair::Value &value, const Part &part,
+                                                    const QString &sourcePath) const;
+
+    QList<AgreedReplacement> m_agreed;
+    QHash<QString, int> m_supports; ///< by a name of variable and change
+};
+
+} // namespace VelkRelease

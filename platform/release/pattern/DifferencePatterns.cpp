@@ -1,0 +1,350 @@
+#include "DifferencePatterns.h"
+
+#include <core/parallel/WorkerPool.h>
+#include <geomcore/records/LineTable.h>
+
+#include <algorithm>
+
+namespace VelkRelease {
+
+namespace {
+
+/// Names a change exactly, for look-ups only.
+QString nameOf(const ValueChange &change)
+{
+    constexpr QChar Between(0x1f);
+    return change.variable + Between + QString::number(int(change.kind)) + Between + change.before +
+           Between + change.after + Between + QString::number(change.factor, 'g', 17) + Between +
+           QString::number(change.offset, 'g', 17) + (change.agreed ? u'+' : u'-');
+}
+
+/// The number of a name; \a next if the name is new.
+int numberFor(QHash<QString, int> &numbers, const QString &name, int next)
+{
+    const auto known = numbers.constFind(name);
+    return known != numbers.cend() ? *known : *numbers.insert(name, next);
+}
+
+bool contains(const std::vector<int> &all, const std::vector<int> &some)
+{
+    return std::includes(all.begin(), all.end(), some.begin(), some.end());
+}
+
+/// Lines whose entry in any target may differ between two mappings; all if targets came or went.
+std::vector<int> changedLines(const PrjMappingC &before, const PrjMappingC &after)
+{
+    std::vector<int> lines;
+    const LineTable none;
+    const int targets = std::max(before.countTargets(), after.countTargets());
+    for (int i = 0; i < targets; ++i) {
+        const LineTable &from = i < before.countTargets() ? before.targetAt(i).lines() : none;
+        const LineTable &to = i < after.countTargets() ? after.targetAt(i).lines() : none;
+        const std::vector<int> changed = LineTable::changedLines(from, to);
+        lines.insert(lines.end(), changed.begin(), changed.end());
+    }
+    std::sort(lines.begin(), lines.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
+    return lines;
+}
+
+/// The targets are the same, whatever their lines.
+bool haveSameTargets(const PrjMappingC &a, const PrjMappingC &b)
+{
+    if (a.countTargets() != b.countTargets())
+        return false;
+    for (int i = 0; i < a.countTargets(); ++i) {
+        if (a.targetAt(i).getTargetPath() != b.targetAt(i).getTargetPath())
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+DifferencePatterns::DifferencePatterns(const ReleaseMappingC &release,
+                                       const std::vector<Read> &pairs)
+    : m_families(release.getReplacements())
+{
+    m_projects.resize(pairs.size());
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        m_projects[i].mapping = release.mappingAt(int(i));
+        m_families.count(pairs[i].pairs);
+    }
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        for (const OpenPair &pair : pairs[i].pairs)
+            enter(m_projects[i], int(i), pair);
+        m_errors += pairs[i].errors;
+    }
+}
+
+std::optional<DifferencePatterns> DifferencePatterns::compute(
+    const QString &sourceRoot, const ReleaseMappingC &release, const std::atomic<bool> &cancelled,
+    const std::function<bool(int)> &wanted, const std::function<void(int)> &tell)
+{
+    std::vector<Read> pairs(size_t(release.countMappings()));
+    const bool done = WorkerPool::instance().run(
+        release.countMappings(),
+        [&](int i) {
+            if (cancelled.load(std::memory_order_relaxed) || (wanted && !wanted(i)))
+                return;
+            const PrjMappingC mapping = release.mappingAt(i);
+            Read &read = pairs[size_t(i)];
+            read.pairs = readOpenPairs(sourceRoot, mapping, release, openProposals(mapping),
+                                       read.errors, &cancelled);
+        },
+        [&](int steps) {
+            if (tell)
+                tell(steps);
+            return !cancelled.load(std::memory_order_relaxed);
+        });
+    if (!done || cancelled.load())
+        return std::nullopt;
+    return DifferencePatterns(release, pairs);
+}
+
+int DifferencePatterns::patternFor(const OpenPair &pair, const QString &sourcePath)
+{
+    const QList<ValueChange> changes = m_families.changesOf(pair, sourcePath);
+    std::vector<int> ids;
+    ids.reserve(size_t(changes.size()));
+    for (const ValueChange &change : changes) {
+        const int id = numberFor(m_changeOf, nameOf(change), int(m_having.size()));
+        if (size_t(id) == m_having.size())
+            m_having.emplace_back();
+        ids.push_back(id);
+    }
+    std::sort(ids.begin(), ids.end());
+    QString name = pair.comparable ? QString() : QStringLiteral("-");
+    for (const int id : ids)
+        name += QString::number(id) + u' ';
+    const int next = count();
+    const int pattern = numberFor(m_patternOf, name, next);
+    if (pattern < next)
+        return pattern;
+    m_patterns.push_back({changes, pair.comparable, {}, 0, {}});
+    m_changesOf.push_back(ids);
+    noteLarger(next);
+    for (const int id : ids)
+        m_having[size_t(id)].push_back(next);
+    return next;
+}
+
+/// Finds the patterns that have all changes of a new one, and those all of whose changes it has.
+void DifferencePatterns::noteLarger(int pattern)
+{
+    const std::vector<int> &own = m_changesOf[size_t(pattern)];
+    std::vector<int> others;
+    for (const int id : own)
+        others.insert(others.end(), m_having[size_t(id)].begin(), m_having[size_t(id)].end());
+    std::sort(others.begin(), others.end());
+    others.erase(std::unique(others.begin(), others.end()), others.end());
+    for (const int other : others) {
+        const std::vector<int> &its = m_changesOf[size_t(other)];
+        if (contains(its, own))
+            m_patterns[size_t(pattern)].larger.push_back(other);
+        else if (contains(own, its))
+            m_patterns[size_t(other)].larger.push_back(pattern);
+    }
+}
+
+void DifferencePatterns::enter(Project &project, int position, const OpenPair &pair)
+{
+    Known &known = project.lines[pair.line];
+    known.target = pair.target;
+    known.targetLine = pair.targetLine;
+    known.pattern = patternFor(pair, project.mapping.getSourcePath());
+    known.probability = pair.probability;
+    known.open = false;
+    setOpen(project, position, pair.line, known, true);
+}
+
+/// Of a line that is no longer, or again, as it was.
+void DifferencePatterns::setOpen(Project &project, int position, int line, Known &known, bool open)
+{
+    if (known.open == open)
+        return;
+    known.open = open;
+    const int step = open ? 1 : -1;
+    if (known.pattern < 0) {
+        project.pending += step;
+        m_pendingLines += step;
+        return;
+    }
+    m_openLines += step;
+    Pattern &pattern = m_patterns[size_t(known.pattern)];
+    pattern.lines += step;
+    if (open) {
+        pattern.open[position][line] = known.probability;
+        return;
+    }
+    const auto lines = pattern.open.find(position);
+    lines->second.erase(line);
+    if (lines->second.empty())
+        pattern.open.erase(lines);
+}
+
+void DifferencePatterns::setMapping(int position, const PrjMappingC &mapping)
+{
+    if (position < 0)
+        return;
+    if (size_t(position) >= m_projects.size())
+        m_projects.resize(size_t(position) + 1);
+    Project &project = m_projects[size_t(position)];
+    const PrjMappingC before = project.mapping;
+    project.mapping = mapping;
+    const bool kept = haveSameTargets(before, mapping);
+    for (const int line : changedLines(before, mapping)) {
+        const OpenProposal proposal = openProposal(mapping, line);
+        const auto found = project.lines.find(line);
+        const bool isKnown = found != project.lines.end();
+        if (proposal.line < 0) {
+            if (isKnown)
+                setOpen(project, position, line, found->second, false);
+            continue;
+        }
+        if (isKnown && kept && found->second.target == proposal.target &&
+            found->second.targetLine == proposal.targetLine) {
+            setOpen(project, position, line, found->second, true);
+            continue;
+        }
+        if (isKnown)
+            setOpen(project, position, line, found->second, false);
+        Known &fresh = project.lines[line];
+        fresh = {proposal.target, proposal.targetLine, -1, false, 0};
+        setOpen(project, position, line, fresh, true);
+    }
+}
+
+std::vector<std::pair<int, std::vector<OpenProposal>>> DifferencePatterns::pending() const
+{
+    std::vector<std::pair<int, std::vector<OpenProposal>>> result;
+    for (std::size_t i = 0; i < m_projects.size(); ++i) {
+        if (m_projects[i].pending == 0)
+            continue;
+        std::vector<OpenProposal> lines;
+        for (const auto &[line, known] : m_projects[i].lines) {
+            if (known.open && known.pattern < 0)
+                lines.push_back({line, known.target, known.targetLine});
+        }
+        result.emplace_back(int(i), std::move(lines));
+    }
+    return result;
+}
+
+void DifferencePatterns::add(int position, const std::vector<OpenPair> &pairs)
+{
+    if (position < 0 || size_t(position) >= m_projects.size())
+        return;
+    Project &project = m_projects[size_t(position)];
+    for (const OpenPair &pair : pairs) {
+        const auto found = project.lines.find(pair.line);
+        if (found == project.lines.end() || !found->second.open ||
+            found->second.target != pair.target || found->second.targetLine != pair.targetLine)
+            continue;
+        setOpen(project, position, pair.line, found->second, false);
+        enter(project, position, pair);
+    }
+}
+
+DifferencePatterns::Numbers DifferencePatterns::numbers(int index) const
+{
+    const Pattern &pattern = m_patterns[size_t(index)];
+    Numbers numbers{pattern.lines, int(pattern.open.size()), 0, 0};
+    double sum = 0;
+    for (const auto &[project, lines] : pattern.open) {
+        for (const auto &[line, probability] : lines)
+            sum += probability;
+    }
+    numbers.probability = pattern.lines > 0 ? sum / pattern.lines : 0;
+    for (const int other : pattern.larger)
+        numbers.exceptions += m_patterns[size_t(other)].lines;
+    return numbers;
+}
+
+std::vector<int> DifferencePatterns::ranked() const
+{
+    std::vector<int> ranked;
+    for (int i = 0; i < count(); ++i) {
+        if (m_patterns[size_t(i)].lines > 0)
+            ranked.push_back(i);
+    }
+    std::stable_sort(ranked.begin(), ranked.end(), [this](int a, int b) {
+        return m_patterns[size_t(a)].lines > m_patterns[size_t(b)].lines;
+    });
+    return ranked;
+}
+
+std::vector<DifferencePatterns::Place> DifferencePatterns::places(int pattern, int most) const
+{
+    std::vector<Place> places;
+    for (const auto &[project, lines] : m_patterns[size_t(pattern)].open) {
+        for (const auto &[line, probability] : lines) {
+            if (most >= 0 && int(places.size()) == most)
+                return places;
+            places.push_back({project, line});
+        }
+    }
+    return places;
+}
+
+std::vector<int> DifferencePatterns::lines(int pattern, int project) const
+{
+    std::vector<int> lines;
+    const auto &open = m_patterns[size_t(pattern)].open;
+    const auto found = open.find(project);
+    if (found == open.end())
+        return lines;
+    lines.reserve(found->second.size());
+    for (const auto &[line, probability] : found->second)
+        lines.push_back(line);
+    return lines;
+}
+
+std::vector<DifferencePatterns::Place> DifferencePatterns::exceptions(int pattern, int most) const
+{
+    std::vector<Place> found;
+    for (const int other : m_patterns[size_t(pattern)].larger) {
+        const std::vector<Place> some = places(other, most);
+        found.insert(found.end(), some.begin(), some.end());
+    }
+    std::sort(found.begin(), found.end());
+    if (most >= 0 && int(found.size()) > most)
+        found.resize(size_t(most));
+    return found;
+}
+
+int DifferencePatterns::patternOf(const Place &place) const
+{
+    if (place.project < 0 || size_t(place.project) >= m_projects.size())
+        return -1;
+    const auto &lines = m_projects[size_t(place.project)].lines;
+    const auto found = lines.find(place.line);
+    return found == lines.end() || !found->second.open ? -1 : found->second.pattern;
+}
+
+std::optional<double> DifferencePatterns::probability(const Place &place) const
+{
+    if (patternOf(place) < 0)
+        return std::nullopt;
+    return m_projects[size_t(place.project)].lines.at(place.line).probability;
+}
+
+std::vector<DifferencePatterns::Place> DifferencePatterns::leastSure() const
+{
+    std::vector<std::pair<double, Place>> sorted;
+    sorted.reserve(size_t(m_openLines));
+    for (const Pattern &pattern : m_patterns) {
+        for (const auto &[project, lines] : pattern.open) {
+            for (const auto &[line, probability] : lines)
+                sorted.push_back({probability, {project, line}});
+        }
+    }
+    std::sort(sorted.begin(), sorted.end());
+    std::vector<Place> places;
+    places.reserve(sorted.size());
+    for (const auto &[probability, place] : sorted)
+        places.push_back(place);
+    return places;
+}
+
+} // namespace VelkRelease

@@ -1,0 +1,145 @@
+#pragma once
+
+#include "ChangeFamilies.h"
+
+#include <geomcore/records/ReleaseMappingC.h>
+
+#include <QHash>
+#include <QStringList>
+
+#include <atomic>
+#include <functional>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace VelkRelease {
+
+/// The open lines of a release by how they differ from the lines that are proposed for them: lines
+/// with the same changes of the same variables are one pattern, whatever their projects. Every open
+/// line with a proposal is in exactly one pattern, or still to be compared.
+///
+/// What the changes are called is settled when the patterns are made, by all lines that were open
+/// then. Decisions take lines out of their pattern, and undo brings them back; another proposal of
+/// a line has to be read first. One thread at a time.
+class VELKRELEASE_EXPORT DifferencePatterns
+{
+public:
+    struct Place
+    {
+        int project = -1; ///< position of the mapping in the release
+        int line = -1;
+
+        friend bool operator==(const Place &, const Place &) = default;
+        friend auto operator<=>(const Place &, const Place &) = default;
+    };
+    struct Numbers
+    {
+        int lines = 0;
+        int projects = 0;
+        double probability = 0; ///< mean of the lines
+        int exceptions = 0;     ///< lines of other patterns with these changes and more besides
+
+        friend bool operator==(const Numbers &, const Numbers &) = default;
+    };
+    /// The pairs of one project, as they were read.
+    struct Read
+    {
+        std::vector<OpenPair> pairs;
+        QStringList errors;
+    };
+
+    /// Without any line.
+    DifferencePatterns() = default;
+    /// \a pairs has an element for each mapping of the release.
+    DifferencePatterns(const ReleaseMappingC &release, const std::vector<Read> &pairs);
+
+    /// Reads the open lines of all projects with the threads of WorkerPool, or only of those
+    /// positions that \a wanted accepts, and makes the patterns; the result does not depend on the
+    /// number of threads. \a tell is called on the calling thread with the projects that are done.
+    /// Nothing if \a cancelled became true.
+    [[nodiscard]] static std::optional<DifferencePatterns>
+    compute(const QString &sourceRoot, const ReleaseMappingC &release,
+            const std::atomic<bool> &cancelled, const std::function<bool(int)> &wanted = {},
+            const std::function<void(int)> &tell = {});
+
+    /// A project's mapping is another one now. Costs what differs between both.
+    void setMapping(int project, const PrjMappingC &mapping);
+    /// Lines whose proposal has not been compared yet, in the order of the projects.
+    [[nodiscard]] std::vector<std::pair<int, std::vector<OpenProposal>>> pending() const;
+    [[nodiscard]] int pendingLines() const { return m_pendingLines; }
+    /// Enters what was read of pending lines. What is no longer proposed is passed over.
+    void add(int project, const std::vector<OpenPair> &pairs);
+
+    [[nodiscard]] int count() const { return int(m_patterns.size()); }
+    /// In the order of the variables; empty for lines that differ in nothing, and for those that
+    /// cannot be compared.
+    [[nodiscard]] const QList<ValueChange> &changes(int pattern) const
+    {
+        return m_patterns[size_t(pattern)].changes;
+    }
+    [[nodiscard]] bool isComparable(int pattern) const
+    {
+        return m_patterns[size_t(pattern)].comparable;
+    }
+    [[nodiscard]] Numbers numbers(int pattern) const;
+    /// Patterns that have lines, those of most lines first.
+    [[nodiscard]] std::vector<int> ranked() const;
+    /// At most \a most open lines of a pattern, in the order of release and lines.
+    [[nodiscard]] std::vector<Place> places(int pattern, int most = -1) const;
+    /// Those of one project.
+    [[nodiscard]] std::vector<int> lines(int pattern, int project) const;
+    [[nodiscard]] std::vector<Place> exceptions(int pattern, int most = -1) const;
+    /// The pattern of an open line, -1 if it has none.
+    [[nodiscard]] int patternOf(const Place &place) const;
+    /// Of an open line that was compared; nothing for others.
+    [[nodiscard]] std::optional<double> probability(const Place &place) const;
+    /// Open lines in all patterns and pending ones.
+    [[nodiscard]] int openLines() const { return m_openLines + m_pendingLines; }
+    /// All open lines that were compared, the least probable first.
+    [[nodiscard]] std::vector<Place> leastSure() const;
+    /// What could not be read, in the order of the release.
+    [[nodiscard]] const QStringList &errors() const { return m_errors; }
+
+private:
+    struct Known
+    {
+        int target = -1;
+        int targetLine = -1;
+        int pattern = -1; ///< -1: not compared yet
+        bool open = true;
+        double probability = 0;
+    };
+    struct Project
+    {
+        PrjMappingC mapping;
+        std::map<int, Known> lines;
+        int pending = 0;
+    };
+    struct Pattern
+    {
+        QList<ValueChange> changes;
+        bool comparable = true;
+        std::map<int, std::map<int, double>> open; ///< probability of lines, by project
+        int lines = 0;
+        std::vector<int> larger; ///< patterns with all these changes and others
+    };
+
+    [[nodiscard]] int patternFor(const OpenPair &pair, const QString &sourcePath);
+    void noteLarger(int pattern);
+    void enter(Project &project, int position, const OpenPair &pair);
+    void setOpen(Project &project, int position, int line, Known &known, bool open);
+
+    ChangeFamilies m_families;
+    std::vector<Project> m_projects;
+    std::vector<Pattern> m_patterns;
+    QHash<QString, int> m_patternOf;           ///< by a name of all changes
+    QHash<QString, int> m_changeOf;            ///< by a name of one change
+    std::vector<std::vector<int>> m_changesOf; ///< of each pattern, ascending
+    std::vector<std::vector<int>> m_having;    ///< patterns that have a change
+    int m_openLines = 0;
+    int m_pendingLines = 0;
+    QStringList m_errors;
+};
+
+} // namespace VelkRelease

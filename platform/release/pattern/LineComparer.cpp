@@ -1,0 +1,107 @@
+#include "LineComparer.h"
+
+#include <core/message/PStringMessageImpl.h>
+#include <core/text/PPathName.h>
+#include <geomcore/table/ContentRef.h>
+#include <geomcore/table/LineView.h>
+#include <geomcore/table/readProjectTable.h>
+#include <release/assign/conditionVariables.h>
+#include <release/assign/LinePart.h>
+#include <release/assign/TargetGuard.h>
+
+namespace VelkRelease {
+
+struct LineComparer::Private
+{
+    VKTab::ContentRef table;
+    QStringList errors;
+    std::unique_ptr<TargetGuard> targets;
+    std::unique_ptr<LinePart> part;
+
+    [[nodiscard]] VKTab::LineView view(int line) const
+    {
+        return VKTab::LineView(table, VKTab::LineId(line));
+    }
+};
+
+LineComparer::LineComparer(const QString &sourceRoot, const PrjMappingC &mapping,
+                           const ReleaseMappingC &release, const std::atomic<bool> *cancelled)
+    : d(std::make_unique<Private>())
+{
+    PStringMessageImpl messages(PMsgReply::Cancel, false);
+    const QString path = mapping.getSourcePath();
+    const QString file = (PPathName(sourceRoot) + PPathName(path)).native();
+    const VKTab::ProjectTable read = VKTab::readProjectTable(
+        file, d->table, {.catalogPath = path, .allLines = true, .tells = false});
+    for (const VKTab::TableError &error : read.errors)
+        d->errors << error.toString();
+    if (read) {
+        d->targets = std::make_unique<TargetGuard>(mapping);
+        d->errors << d->targets->errors();
+        d->part = std::make_unique<LinePart>(path, mapping.getSourceVersion(),
+                                             LinePart::catalogOf(mapping, release), d->table,
+                                             conditionVariables(mapping), false, cancelled);
+        if (!d->part->isUsable())
+            d->part.reset();
+    } else if (d->errors.isEmpty()) {
+        d->errors << path + ": the project's table could not be read";
+    }
+    messages.deactivate();
+}
+
+LineComparer::~LineComparer() = default;
+
+bool LineComparer::isValid() const
+{
+    return d->part != nullptr;
+}
+
+const QStringList &LineComparer::errors() const
+{
+    return d->errors;
+}
+
+bool LineComparer::hasLine(int line) const
+{
+    return isValid() && d->view(line).isValid();
+}
+
+QString LineComparer::designation(int line) const
+{
+    if (!hasLine(line))
+        return {};
+    return d->table.getLine(VKTab::LineId(line), false)
+        .getValue(VKTab::LineI::NormDesignation, {})
+        .toString();
+}
+
+std::optional<LineComparer::Pair> LineComparer::assigned(int line)
+{
+    if (!hasLine(line))
+        return std::nullopt;
+    const VKTab::LineView view = d->view(line);
+    const PrjMapperLineC assigned = d->part->mapper().findLine(line, view);
+    if (!assigned.isFound())
+        return std::nullopt;
+    Pair pair{assigned.getTargetIndex(), assigned.getTargetLineId(), 0, {}, {}};
+    const LineCandidatesC candidates = d->part->mapper().candidates(line, view);
+    for (const LineCandidateC &candidate : candidates.candidates) {
+        if (candidate.targetIndex != pair.target || candidate.lineId.value(0) != pair.targetLine)
+            continue;
+        pair.probability = candidate.probability;
+        pair.reason = candidate.explanation;
+        pair.variables = candidate.variables;
+        return pair;
+    }
+    pair.variables = d->part->mapper().compareLine(assigned, view);
+    if (pair.variables.isEmpty())
+        return std::nullopt;
+    return pair;
+}
+
+LineCandidatesC LineComparer::candidates(int line)
+{
+    return hasLine(line) ? d->part->mapper().candidates(line, d->view(line)) : LineCandidatesC();
+}
+
+} // namespace VelkRelease

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <release/VelkReleaseGlobal.h>
+
+#include <geomcore/mapper/LineCandidatesC.h>
+#include <geomcore/records/ReleaseMappingC.h>
+
+#include <QStringList>
+
+#include <atomic>
+#include <memory>
+#include <optional>
+
+namespace VelkRelease {
+
+/// A project's lines beside the lines that they are assigned to, and beside those that they may
+/// belong to. Reads the project's table, and those of its targets at the first need. One thread at
+/// a time.
+class VELKRELEASE_EXPORT LineComparer
+{
+public:
+    /// An assigned line.
+    struct Pair
+    {
+        int target = -1;
+        int targetLine = -1;
+        double probability = 0; ///< 0 if the line is not among the candidates
+        QString reason;         ///< one sentence; empty if the line is not among them
+        QList<ComparedVariableC> variables;
+    };
+
+    /// \a sourceRoot holds the old release's catalog; of \a release what head() has is used.
+    LineComparer(const QString &sourceRoot, const PrjMappingC &mapping,
+                 const ReleaseMappingC &release, const std::atomic<bool> *cancelled = nullptr);
+    ~LineComparer();
+    LineComparer(const LineComparer &) = delete;
+    LineComparer &operator=(const LineComparer &) = delete;
+
+    /// The project's table could be read.
+    [[nodiscard]] bool isValid() const;
+    /// What is wrong with it and with the tables of the targets, a text each.
+    [[nodiscard]] const QStringList &errors() const;
+    /// The table has the line.
+    [[nodiscard]] bool hasLine(int line) const;
+    /// The line's designation.
+    [[nodiscard]] QString designation(int line) const;
+
+    /// Nothing if the line is not assigned, or one of the tables does not have it.
+    [[nodiscard]] std::optional<Pair> assigned(int line);
+    [[nodiscard]] LineCandidatesC candidates(int line);
+
+private:
+    struct Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace VelkRelease

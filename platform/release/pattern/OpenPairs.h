@@ -1,0 +1,56 @@
+#pragma once
+
+#include <release/VelkReleaseGlobal.h>
+
+#include <geomcore/records/ReleaseMappingC.h>
+
+#include <QStringList>
+
+#include <atomic>
+#include <vector>
+
+namespace VelkRelease {
+
+/// An open line beside the line that is proposed for it.
+struct OpenPair
+{
+    struct Value
+    {
+        QString variable;
+        QString before;
+        QString after;
+    };
+
+    int line = -1;
+    int target = -1;
+    int targetLine = -1;
+    double probability = 0;
+    bool comparable = false;   ///< both lines could be read and have variables in common
+    std::vector<Value> values; ///< of the variables that differ, in the order of the new table
+};
+
+/// Where a line of a mapping is proposed to go. Open with a proposal is a line that has a target
+/// line which neither the program is sure of nor anybody has confirmed, and no conflict.
+struct OpenProposal
+{
+    int line = -1;
+    int target = -1;
+    int targetLine = -1;
+
+    friend bool operator==(const OpenProposal &, const OpenProposal &) = default;
+};
+
+/// Of all lines, ascending, each once; the first target counts.
+[[nodiscard]] VELKRELEASE_EXPORT std::vector<OpenProposal>
+openProposals(const PrjMappingC &mapping);
+/// Of one line; not valid (line -1) if it is not open.
+[[nodiscard]] VELKRELEASE_EXPORT OpenProposal openProposal(const PrjMappingC &mapping, int line);
+
+/// Compares open lines of one project, read anew. What cannot be read is in \a errors, and the
+/// lines are not comparable. Any thread; ends early when \a cancelled becomes true.
+[[nodiscard]] VELKRELEASE_EXPORT std::vector<OpenPair>
+readOpenPairs(const QString &sourceRoot, const PrjMappingC &mapping, const ReleaseMappingC &release,
+              const std::vector<OpenProposal> &lines, QStringList &errors,
+              const std::atomic<bool> *cancelled = nullptr);
+
+} // namespace VelkRelease

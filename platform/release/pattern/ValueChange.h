@@ -1,0 +1,45 @@
+#pragma once
+
+#include <release/VelkReleaseGlobal.h>
+
+#include <QString>
+
+namespace VelkRelease {
+
+/// How one variable of a line differs from the line that is proposed for it.
+struct VELKRELEASE_EXPORT ValueChange
+{
+    enum Kind : quint8 {
+        Replacement, ///< `before` became `after` in several lines, as a whole or as a part
+        NumberMap,   ///< new number = old number * factor + offset, in several lines
+        NearNumber,  ///< another number close by
+        OtherNumber,
+        Wording, ///< another text
+        Added,   ///< only the new line has a value
+        Missing, ///< only the old line has one
+    };
+    /// Words for what has no notation of its own.
+    struct Words
+    {
+        QString nearNumber;
+        QString otherNumber;
+        QString wording;
+        QString added;
+        QString missing;
+    };
+
+    QString variable; ///< by its name in the new table
+    Kind kind = Wording;
+    QString before; ///< Replacement
+    QString after;
+    double factor = 1; ///< NumberMap
+    double offset = 0;
+    bool agreed = false; ///< a modeller has agreed to it
+
+    /// "MATERIAL: St37-2 → S235JR", "L: × 0.5 + 1", "NOTE: " and a word.
+    [[nodiscard]] QString text(const Words &words) const;
+
+    friend bool operator==(const ValueChange &, const ValueChange &) = default;
+};
+
+} // namespace VelkRelease

@@ -1,0 +1,391 @@
+#include "../support/TestCatalog.h"
+
+#include <core/parallel/WorkerPool.h>
+#include <release/pattern/CellParts.h>
+#include <release/pattern/DifferencePatterns.h>
+#include <release/pattern/LineComparer.h>
+
+#include <QScopeGuard>
+#include <QTest>
+
+using namespace VelkRelease;
+using PRJMAPPING::Mapped;
+using PRJMAPPING::ToCheck;
+using PRJMAPPING::Verified;
+using Place = DifferencePatterns::Place;
+
+namespace {
+
+const ValueChange::Words words{"near", "other", "wording", "added", "missing"};
+
+QString textOf(const DifferencePatterns &patterns, int pattern)
+{
+    QStringList texts;
+    for (const ValueChange &change : patterns.changes(pattern))
+        texts << change.text(words);
+    const DifferencePatterns::Numbers numbers = patterns.numbers(pattern);
+    return QString("%1|%2 lines, %3 projects, %4 exceptions")
+        .arg(patterns.isComparable(pattern) ? texts.join("; ") : "?")
+        .arg(numbers.lines)
+        .arg(numbers.projects)
+        .arg(numbers.exceptions);
+}
+
+QStringList textsOf(const DifferencePatterns &patterns)
+{
+    QStringList texts;
+    for (const int pattern : patterns.ranked())
+        texts << textOf(patterns, pattern);
+    return texts;
+}
+
+/// A pair whose values are written "NAME=old>new".
+OpenPair pairOf(int line, const QStringList &values, double probability = 0.9)
+{
+    OpenPair pair{line, 0, line, probability, true, {}};
+    for (const QString &value : values) {
+        const qsizetype equals = value.indexOf('=');
+        const qsizetype arrow = value.indexOf('>');
+        pair.values.push_back(
+            {value.left(equals), value.mid(equals + 1, arrow - equals - 1), value.mid(arrow + 1)});
+    }
+    return pair;
+}
+
+/// A mapping whose lines 1 to \a lines are proposals for the line of the same number.
+PrjMappingC proposed(const QString &path, int lines)
+{
+    PrjMappingC mapping = mappingOf(path, {"new/a.prj", ""});
+    for (int line = 1; line <= lines; ++line)
+        enter(mapping, 0, line, line, ToCheck);
+    return mapping;
+}
+
+ReleaseMappingC releaseOf(const QList<PrjMappingC> &mappings)
+{
+    ReleaseMappingC release;
+    for (const PrjMappingC &mapping : mappings)
+        release.addMapping(mapping);
+    return release;
+}
+
+} // namespace
+
+class tst_DifferencePatterns : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void parts_data();
+    void parts();
+    void openLines();
+    void families_data();
+    void families();
+    void agreedReplacementIsAFamily();
+    void linesAndExceptionsAddUp();
+    void decisionsTakeLinesOut();
+    void otherProposalIsPending();
+    void leastSureFirst();
+    void readFromTables();
+    void sameForAnyNumberOfJobs();
+};
+
+void tst_DifferencePatterns::parts_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QStringList>("parts");
+    const auto row = [](const char *name, const char *before, const char *after,
+                        const QStringList &parts) {
+        QTest::newRow(name) << QString::fromUtf8(before) << QString::fromUtf8(after) << parts;
+    };
+    row("equal", "M8", "M8", {});
+    row("token", "M8 x 20", "M8 x 25", {"20>25"});
+    row("zero in a code", "S07B", "S7B", {"07>7"});
+    row("grade of steel", "St37-2", "S235JR", {"St37-2>S235JR"});
+    row("two places", "M8 x 20 A2", "M10 x 20 A4", {"8>10", "2>4"});
+    row("neighbours are one place", "DIN 933 - M8", "ISO 4017 - M8", {"DIN 933>ISO 4017"});
+    row("inserted", "M8 x 20", "M8 x 20 A2", {">A2"});
+    row("removed in between", "bolt, hex, M8", "bolt, M8", {"hex,>"});
+    row("decimal number", "1.5 mm", "2,5 mm", {"1.5>2,5"});
+    row("blanks only", "M8 x 20", "M8x20", {"M8 x 20>M8x20"});
+    row("all different", "a.b.c.d.e", "v.w.x.y.z", {"a.b.c.d.e>v.w.x.y.z"});
+}
+
+void tst_DifferencePatterns::parts()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(QStringList, parts);
+    QStringList found;
+    for (const CellPart &part : differingParts(before, after)) {
+        found << part.before + '>' + part.after;
+        QCOMPARE(before.mid(part.beforeAt, part.before.size()), part.before);
+        QCOMPARE(after.mid(part.afterAt, part.after.size()), part.after);
+    }
+    QCOMPARE(found, parts);
+}
+
+void tst_DifferencePatterns::openLines()
+{
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj", ""});
+    enter(mapping, 0, 1, 11, ToCheck);
+    enter(mapping, 0, 2, 12, Mapped);
+    enter(mapping, 0, 3, 13, Verified);
+    enter(mapping, 2, 4, -1, ToCheck);
+    enter(mapping, 1, 5, 15, ToCheck);
+    // In two targets: the first counts, and a conflict wants a decision of its own.
+    enter(mapping, 1, 1, 21, ToCheck);
+    enter(mapping, 0, 6, 16, ToCheck);
+    mapping.changeTarget(0, [](PrjMappingTargetC &target) { target.setLineConflicted(6, true); });
+    enter(mapping, 1, 6, 26, ToCheck);
+    const std::vector<OpenProposal> expected{{1, 0, 11}, {5, 1, 15}};
+    QCOMPARE(openProposals(mapping), expected);
+    QCOMPARE(openProposal(mapping, 5), expected[1]);
+    QCOMPARE(openProposal(mapping, 1), expected[0]);
+    QCOMPARE(openProposal(mapping, 6).line, -1);
+    QCOMPARE(openProposal(mapping, 4).line, -1);
+    QCOMPARE(openProposal(mapping, 99).line, -1);
+}
+
+void tst_DifferencePatterns::families_data()
+{
+    QTest::addColumn<QStringList>("values"); // one for each line
+    QTest::addColumn<QStringList>("patterns");
+    QTest::newRow("replaced token") << QStringList{"W=St37-2 A>S235JR A", "W=St37-2 B>S235JR B"}
+                                    << QStringList{"W: St37-2 → S235JR|2 lines"};
+    QTest::newRow("once is no family")
+        << QStringList{"W=St37-2>S235JR"} << QStringList{"W: wording|1 lines"};
+    QTest::newRow("factor") << QStringList{"L=10>5", "L=20>10", "L=30>15"}
+                            << QStringList{"L: × 0.5|3 lines"};
+    QTest::newRow("factor within designations")
+        << QStringList{"N=M8 x 10>M8 x 5", "N=M8 x 20>M8 x 10"} << QStringList{"N: × 0.5|2 lines"};
+    QTest::newRow("added number") << QStringList{"L=10>12.5", "L=20>22.5", "L=7>9.5"}
+                                  << QStringList{"L: + 2.5|3 lines"};
+    QTest::newRow("subtracted number")
+        << QStringList{"L=10>8", "L=20>18", "L=7>5"} << QStringList{"L: − 2|3 lines"};
+    QTest::newRow("one value replaced is no number map")
+        << QStringList{"L=10>5", "L=10>5"} << QStringList{"L: 10 → 5|2 lines"};
+    QTest::newRow("near and other number")
+        << QStringList{"L=10>11", "L=10>100"} << QStringList{"L: near|1 lines", "L: other|1 lines"};
+    QTest::newRow("value added, value missing")
+        << QStringList{"L=>7", "L=8>"} << QStringList{"L: added|1 lines", "L: missing|1 lines"};
+    QTest::newRow("remark reworded alike")
+        << QStringList{"R=as before>new wording here", "R=as before>new wording here"}
+        << QStringList{"R: as before → new wording here|2 lines"};
+    QTest::newRow("remarks reworded each its way")
+        << QStringList{"R=one thing>it became x", "R=another matter>that is y now"}
+        << QStringList{"R: wording|2 lines"};
+    QTest::newRow("another variable is another family")
+        << QStringList{"A=x>y", "B=x>y"} << QStringList{"A: wording|1 lines", "B: wording|1 lines"};
+}
+
+void tst_DifferencePatterns::families()
+{
+    QFETCH(QStringList, values);
+    QFETCH(QStringList, patterns);
+    DifferencePatterns::Read read;
+    for (int line = 1; line <= values.size(); ++line)
+        read.pairs.push_back(pairOf(line, {values[line - 1]}));
+    const DifferencePatterns found(releaseOf({proposed("a.prj", int(values.size()))}), {read});
+    QStringList texts;
+    for (const QString &text : textsOf(found))
+        texts << text.left(text.indexOf(','));
+    QCOMPARE(texts, patterns);
+}
+
+void tst_DifferencePatterns::agreedReplacementIsAFamily()
+{
+    ReleaseMappingC release = releaseOf({proposed("cat/x/a.prj", 3), proposed("cat/y/b.prj", 1)});
+    release.setReplacements(
+        {{{}, "W", "St37-2", "S235JR", {}, {}}, {"cat/x", "L", {}, {}, "2", "1"}});
+    const DifferencePatterns found(
+        release,
+        {{{pairOf(1, {"W=St37-2>S235JR"}), pairOf(2, {"L=10>21"}), pairOf(3, {"L=10>22"})}, {}},
+         {{pairOf(1, {"L=20>41"})}, {}}});
+    // With one supporter each: without the agreement none would be a family. The second one is
+    // outside of its folder.
+    QStringList texts;
+    for (int i = 0; i < found.count(); ++i) {
+        for (const DifferencePatterns::Place &place : found.places(i))
+            texts << QString("%1:%2 %3%4")
+                         .arg(place.project)
+                         .arg(place.line)
+                         .arg(found.changes(i).first().text(words))
+                         .arg(found.changes(i).first().agreed ? ", agreed" : "");
+    }
+    QCOMPARE(texts, (QStringList{"0:1 W: St37-2 → S235JR, agreed", "0:2 L: × 2 + 1, agreed",
+                                 "0:3 L: other", "1:1 L: other"}));
+}
+
+void tst_DifferencePatterns::linesAndExceptionsAddUp()
+{
+    const QString steel = "W=St37>S235";
+    const DifferencePatterns found(
+        releaseOf({proposed("a.prj", 4), proposed("b.prj", 4)}),
+        {{{pairOf(1, {steel}, 0.5), pairOf(2, {steel}, 0.7), pairOf(3, {steel, "L=1>900"}),
+           pairOf(4, {})},
+          {}},
+         {{pairOf(1, {steel}, 0.9), pairOf(2, {"R=x>", steel}), pairOf(3, {"L=1>900", steel}),
+           OpenPair{4, 0, 4, 0, false, {}}},
+          {"b.prj: no table"}}});
+    QCOMPARE(textsOf(found), (QStringList{"W: St37 → S235|3 lines, 2 projects, 3 exceptions",
+                                          "W: St37 → S235; L: 1 → 900|2 lines, 2 projects, 0 "
+                                          "exceptions",
+                                          "|1 lines, 1 projects, 0 exceptions",
+                                          "R: missing; W: St37 → S235|1 lines, 1 projects, 0 "
+                                          "exceptions",
+                                          "?|1 lines, 1 projects, 0 exceptions"}));
+    QCOMPARE(found.openLines(), 8);
+    QCOMPARE(found.errors(), QStringList{"b.prj: no table"});
+    const int first = found.ranked().front();
+    QVERIFY(qAbs(found.numbers(first).probability - 0.7) < 1e-12);
+    QCOMPARE(found.places(first), (std::vector<Place>{{0, 1}, {0, 2}, {1, 1}}));
+    QCOMPARE(found.places(first, 2), (std::vector<Place>{{0, 1}, {0, 2}}));
+    QCOMPARE(found.exceptions(first), (std::vector<Place>{{0, 3}, {1, 2}, {1, 3}}));
+    QCOMPARE(found.exceptions(first, 1), (std::vector<Place>{{0, 3}}));
+    QCOMPARE(found.lines(first, 0), (std::vector<int>{1, 2}));
+    QCOMPARE(found.lines(first, 7), std::vector<int>());
+    QCOMPARE(found.patternOf({0, 2}), first);
+    QCOMPARE(found.patternOf({0, 9}), -1);
+    QCOMPARE(found.patternOf({-1, 1}), -1);
+}
+
+void tst_DifferencePatterns::decisionsTakeLinesOut()
+{
+    PrjMappingC mapping = proposed("a.prj", 3);
+    const PrjMappingC before = mapping;
+    const QString steel = "W=St37>S235";
+    DifferencePatterns found(releaseOf({mapping}),
+                             {{{pairOf(1, {steel}), pairOf(2, {steel}), pairOf(3, {steel})}, {}}});
+    enter(mapping, 0, 2, 2, Verified);
+    found.setMapping(0, mapping);
+    QCOMPARE(found.places(0), (std::vector<Place>{{0, 1}, {0, 3}}));
+    // The name of the family stays, though one line alone would not make it.
+    enter(mapping, 0, 1, 1, Verified);
+    found.setMapping(0, mapping);
+    QCOMPARE(textsOf(found), QStringList{"W: St37 → S235|1 lines, 1 projects, 0 exceptions"});
+    mapping.changeTarget(0, [](PrjMappingTargetC &target) { target.removeLineId(3); });
+    found.setMapping(0, mapping);
+    QCOMPARE(textsOf(found), QStringList());
+    QCOMPARE(found.openLines(), 0);
+    // Undone.
+    found.setMapping(0, before);
+    QCOMPARE(textsOf(found), QStringList{"W: St37 → S235|3 lines, 1 projects, 0 exceptions"});
+    QCOMPARE(found.pendingLines(), 0);
+}
+
+void tst_DifferencePatterns::otherProposalIsPending()
+{
+    PrjMappingC mapping = proposed("a.prj", 2);
+    DifferencePatterns found(releaseOf({mapping}),
+                             {{{pairOf(1, {"W=a>b"}), pairOf(2, {"W=a>b"})}, {}}});
+    enter(mapping, 0, 2, 7, ToCheck);
+    found.setMapping(0, mapping);
+    QCOMPARE(found.pendingLines(), 1);
+    QCOMPARE(found.openLines(), 2);
+    QCOMPARE(found.patternOf({0, 2}), -1);
+    const auto pending = found.pending();
+    QCOMPARE(pending.size(), 1U);
+    QCOMPARE(pending[0].second, (std::vector<OpenProposal>{{2, 0, 7}}));
+    // What was read of a proposal that is gone again does not count.
+    found.add(0, {pairOf(2, {"W=a>b"})});
+    QCOMPARE(found.pendingLines(), 1);
+    OpenPair read = pairOf(2, {"W=a>c"});
+    read.targetLine = 7;
+    found.add(0, {read});
+    QCOMPARE(found.pendingLines(), 0);
+    QCOMPARE(textsOf(found), (QStringList{"W: a → b|1 lines, 1 projects, 0 exceptions",
+                                          "W: wording|1 lines, 1 projects, 0 exceptions"}));
+    // A project that came later.
+    found.setMapping(2, proposed("c.prj", 1));
+    QCOMPARE(found.pendingLines(), 1);
+    QCOMPARE(found.pending()[0].first, 2);
+}
+
+void tst_DifferencePatterns::leastSureFirst()
+{
+    const DifferencePatterns found(releaseOf({proposed("a.prj", 2), proposed("b.prj", 2)}),
+                                   {{{pairOf(1, {"W=a>b"}, 0.9), pairOf(2, {"L=1>"}, 0.5)}, {}},
+                                    {{pairOf(1, {"W=a>b"}, 0.6), pairOf(2, {"W=a>b"}, 0.5)}, {}}});
+    QCOMPARE(found.leastSure(), (std::vector<Place>{{0, 2}, {1, 2}, {1, 1}, {0, 1}}));
+    QCOMPARE(found.probability({1, 1}), std::optional(0.6));
+    QCOMPARE(found.probability({1, 9}), std::nullopt);
+}
+
+namespace {
+
+/// Two projects whose material and lengths changed, below the process's catalog root.
+struct Example
+{
+    Example()
+    {
+        IndexTreeC::instance()->setCatalogRoot(catalog.root());
+        QByteArray old = "Name,W,L:n\n";
+        QByteArray now = old;
+        PrjMappingC first = mappingOf("old/a.prj", {"new/a.prj"});
+        for (int line = 1; line <= 20; ++line) {
+            const QByteArray name = "N" + QByteArray::number(line);
+            old += name + ",St37-2," + QByteArray::number(line * 10) + '\n';
+            now +=
+                name + ",S235JR," + QByteArray::number(line % 4 == 0 ? line * 5 : line * 10) + '\n';
+            enter(first, 0, line, line, ToCheck);
+        }
+        catalog.write("old/a.prj", old);
+        catalog.write("new/a.prj", now);
+        PrjMappingC lost = mappingOf("old/lost.prj", {"new/a.prj"});
+        enter(lost, 0, 1, 1, ToCheck);
+        release = releaseOf({first, lost});
+    }
+
+    const TestCatalog catalog;
+    ReleaseMappingC release;
+};
+
+} // namespace
+
+void tst_DifferencePatterns::readFromTables()
+{
+    const Example example;
+    const std::atomic<bool> cancelled = false;
+    int told = 0;
+    const auto found =
+        DifferencePatterns::compute(example.catalog.root(), example.release, cancelled, {},
+                                    [&](int projects) { told = projects; });
+    QVERIFY(found);
+    QCOMPARE(told, 2);
+    QCOMPARE(textsOf(*found), (QStringList{"W: St37-2 → S235JR|15 lines, 1 projects, 5 exceptions",
+                                           "W: St37-2 → S235JR; L: × 0.5|5 lines, 1 projects, 0 "
+                                           "exceptions",
+                                           "?|1 lines, 1 projects, 0 exceptions"}));
+    QVERIFY(!found->errors().isEmpty());
+    LineComparer comparer(example.catalog.root(), example.release.mappingAt(0), example.release);
+    QVERIFY(comparer.isValid());
+    QVERIFY(comparer.hasLine(20) && !comparer.hasLine(21));
+    QVERIFY(!comparer.assigned(21));
+    QCOMPARE(comparer.assigned(4)->variables.size(), 3);
+    const std::atomic<bool> ended = true;
+    QVERIFY(!DifferencePatterns::compute(example.catalog.root(), example.release, ended));
+    const auto some = DifferencePatterns::compute(example.catalog.root(), example.release,
+                                                  cancelled, [](int i) { return i == 1; });
+    QCOMPARE(some->openLines(), 1);
+}
+
+void tst_DifferencePatterns::sameForAnyNumberOfJobs()
+{
+    const Example example;
+    const std::atomic<bool> cancelled = false;
+    const auto guard = qScopeGuard([] { WorkerPool::instance().setThreads(0); });
+    QStringList first;
+    for (const int jobs : {1, 2, 5}) {
+        WorkerPool::instance().setThreads(jobs);
+        const auto found =
+            DifferencePatterns::compute(example.catalog.root(), example.release, cancelled);
+        if (first.isEmpty())
+            first = textsOf(*found);
+        QCOMPARE(textsOf(*found), first);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_DifferencePatterns)
+#include "tst_DifferencePatterns.moc"
