@@ -1,4 +1,5 @@
 #include <core/message/PMessage.h>
+#include <geomcore/linkdb/PLinkDbC.h>
 #include <geomcore/project/CipVersionMgmtC.h>
 #include <geomcore/table/Content.h>
 #include <geomcore/table/ContentRef.h>
@@ -16,11 +17,6 @@
 #include <QTest>
 
 #include <thread>
-
-// The readers take a link database by pointer only.
-class PLinkDbC : public PRefObject
-{
-};
 
 using namespace VKTab;
 

@@ -1,0 +1,490 @@
+#include "LinkDbConnection.h"
+
+#include "LinkDbSchema.h"
+
+#include <core/text/PString.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QSqlField>
+#include <QSqlRecord>
+#include <QThread>
+
+#include <chrono>
+#include <optional>
+
+namespace {
+
+constexpr int busyMs = 50;                   ///< the driver's own wait for a lock
+constexpr std::chrono::seconds patience{10}; ///< all waits for a lock of a file
+constexpr int commitLooks = 50;              ///< at a commit whose answer was lost
+constexpr int commitLookMs = 100;
+
+QString nextConnection()
+{
+    static std::atomic<quint64> count = 0;
+    return QStringLiteral("velk-linkdb-%1").arg(++count);
+}
+
+QString accountName()
+{
+    const QString user = qEnvironmentVariable("USER");
+    return user.isEmpty() ? qEnvironmentVariable("USERNAME") : user;
+}
+
+/// The names in a table's own spelling: the driver of SQLite drops quotes from those of a result.
+std::optional<QString> tableOfStar(const QString &sql)
+{
+    static const QRegularExpression star(QStringLiteral("^\\s*SELECT\\s+\\*\\s+FROM\\s+(\\w+)"
+                                                        "(\\s+WHERE\\b.*)?\\s*$"),
+                                         QRegularExpression::CaseInsensitiveOption |
+                                             QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = star.match(sql);
+    return match.hasMatch() ? std::optional(match.captured(1)) : std::nullopt;
+}
+
+} // namespace
+
+LinkDbConnection::LinkDbConnection()
+    : m_connection(nextConnection())
+{
+}
+
+LinkDbConnection::~LinkDbConnection()
+{
+    close();
+    if (m_canceller.joinable())
+        m_canceller.join();
+}
+
+QSqlDatabase LinkDbConnection::database() const
+{
+    return QSqlDatabase::database(m_connection, false);
+}
+
+bool LinkDbConnection::fail(const QString &text, const QString &statement, bool lost)
+{
+    m_error = {text, statement, {}, lost, false};
+    return false;
+}
+
+bool LinkDbConnection::open(const LinkDbSettings &settings, const QString &password)
+{
+    close();
+    m_settings = settings;
+    m_password = password;
+    m_lostChanges = 0;
+    m_error = {};
+    if (!connectNow())
+        return false;
+    if (LinkDbSchema::bringUpToDate(*this)) {
+        m_wanted = true;
+        return true;
+    }
+    disconnectNow();
+    return false;
+}
+
+bool LinkDbConnection::connectNow()
+{
+    if (m_settings.kind == LinkDbSettings::Kind::None)
+        return fail(PString::translate("Es ist keine Linkdatenbank eingestellt", "VelkGeomCore"));
+    const QString driver = isPostgreSQL() ? QStringLiteral("QPSQL") : QStringLiteral("QSQLITE");
+    QSqlDatabase connection = QSqlDatabase::addDatabase(driver, m_connection);
+    if (!connection.isValid())
+        return fail(PString::translate("Der Treiber %1 für die Linkdatenbank fehlt", "VelkGeomCore")
+                        .arg(driver));
+    if (isPostgreSQL()) {
+        connection.setDatabaseName(m_settings.database);
+        connection.setHostName(m_settings.host);
+        if (m_settings.port > 0)
+            connection.setPort(m_settings.port);
+        connection.setUserName(m_settings.user);
+        connection.setPassword(m_password);
+        connection.setConnectOptions(
+            QStringLiteral("connect_timeout=%1;keepalives_idle=30;keepalives_interval=10;"
+                           "tcp_user_timeout=30000;application_name=velklinkdb;sslmode=%2")
+                .arg(QString::number(m_settings.connectSeconds),
+                     m_settings.sslMode.isEmpty() ? QStringLiteral("prefer") : m_settings.sslMode));
+    } else {
+        const QFileInfo info(PString::ResolveEnvirons(m_settings.file));
+        if ((info.exists() || info.isSymLink()) && !info.isFile())
+            return fail(PString::translate("Die Linkdatenbank %1 ist keine Datei", "VelkGeomCore")
+                            .arg(info.filePath()));
+        if (!QDir().mkpath(info.absolutePath()))
+            return fail(PString::translate("Das Verzeichnis der Linkdatenbank %1 kann nicht "
+                                           "angelegt werden",
+                                           "VelkGeomCore")
+                            .arg(info.filePath()));
+        connection.setDatabaseName(info.absoluteFilePath());
+        connection.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyMs));
+    }
+    m_open = connection.open();
+    if (!m_open) {
+        const QSqlError error = connection.lastError();
+        const QString why = error.databaseText().trimmed();
+        return fail(PString::translate("Die Linkdatenbank %1 kann nicht geöffnet werden: %2",
+                                       "VelkGeomCore")
+                        .arg(m_settings.displayName(), why.isEmpty() ? error.driverText() : why));
+    }
+    m_userName = m_settings.user.isEmpty() ? accountName() : m_settings.user;
+    if (!isPostgreSQL())
+        return true;
+    Result who;
+    if (run(QStringLiteral("SELECT current_user, pg_backend_pid()"), &who) && !who.rows.isEmpty()) {
+        m_userName = who.rows.first().value(0).toString();
+        m_backend = who.rows.first().value(1).toLongLong();
+        return true;
+    }
+    disconnectNow();
+    return false;
+}
+
+void LinkDbConnection::disconnectNow()
+{
+    m_backend = 0;
+    m_open = false;
+    m_pending = false;
+    m_pendingStatements = 0;
+    if (!QSqlDatabase::contains(m_connection))
+        return;
+    database().close();
+    QSqlDatabase::removeDatabase(m_connection);
+}
+
+void LinkDbConnection::close()
+{
+    if (m_pending)
+        static_cast<void>(rollback());
+    m_wanted = false;
+    disconnectNow();
+}
+
+bool LinkDbConnection::ready()
+{
+    if (m_open)
+        return true;
+    if (!m_wanted)
+        return fail(PString::translate("Es besteht keine Verbindung zu einer Linkdatenbank. Sie "
+                                       "wird in den Einstellungen gewählt.",
+                                       "VelkGeomCore"));
+    if (!connectNow()) {
+        m_error.lost = true;
+        return false;
+    }
+    m_notices.append(
+        PString::translate("Die Verbindung zur Linkdatenbank %1 besteht wieder", "VelkGeomCore")
+            .arg(m_settings.displayName()));
+    return true;
+}
+
+bool LinkDbConnection::isLost(const QSqlError &error)
+{
+    if (!isPostgreSQL())
+        return false;
+    const QString state = error.nativeErrorCode();
+    if (state.startsWith(QLatin1String("08")) || state.startsWith(QLatin1String("57P")))
+        return true;
+    if (!state.isEmpty())
+        return false;
+    QSqlQuery ping(database());
+    return !ping.exec(QStringLiteral("SELECT 1"));
+}
+
+bool LinkDbConnection::note(const QSqlQuery &query, const QString &statement)
+{
+    const QSqlError error = query.lastError();
+    const QString text = error.databaseText().trimmed();
+    m_error = {text.isEmpty() ? error.driverText() : text, statement, error.nativeErrorCode(),
+               false, false};
+    m_error.cancelled =
+        m_cancelled && (error.nativeErrorCode() == QLatin1String("57014") || !isPostgreSQL());
+    if (m_error.text.isEmpty())
+        m_error.text = PString::translate("Die Datenbank nennt keinen Grund", "VelkGeomCore");
+    if (!isLost(error))
+        return false;
+    m_error.lost = true;
+    m_lostChanges += m_pendingStatements;
+    disconnectNow();
+    m_notices.append(
+        m_lostChanges == 0
+            ? PString::translate("Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2",
+                                 "VelkGeomCore")
+                  .arg(m_settings.displayName(), m_error.text)
+            : PString::translate("Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. "
+                                 "Änderungen, die noch nicht festgeschrieben waren, sind verloren "
+                                 "(Anweisungen: %3).",
+                                 "VelkGeomCore")
+                  .arg(m_settings.displayName(), m_error.text, QString::number(m_lostChanges)));
+    return false;
+}
+
+bool LinkDbConnection::execute(QSqlQuery &query, const QString &sql)
+{
+    // The database would see the statement up to there only.
+    if (sql.contains(QChar(0)))
+        return fail(PString::translate("Die Anweisung enthält ein Nullzeichen", "VelkGeomCore"),
+                    sql);
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (!query.exec(sql)) {
+        const int code = query.lastError().nativeErrorCode().toInt() & 0xff;
+        const bool busy = !isPostgreSQL() && (code == 5 || code == 6);
+        if (!busy || m_cancelled || std::chrono::steady_clock::now() > end)
+            return note(query, sql);
+        QThread::msleep(busyMs / 2);
+    }
+    return true;
+}
+
+bool LinkDbConnection::run(const QString &sql, Result *result)
+{
+    QSqlQuery query(database());
+    query.setForwardOnly(true);
+    if (!execute(query, sql))
+        return false;
+    if (!result)
+        return true;
+    result->changed = query.numRowsAffected();
+    if (!query.isSelect())
+        return true;
+    const QSqlRecord record = query.record();
+    QStringList names;
+    for (int i = 0; i < record.count(); ++i)
+        names.append(record.fieldName(i));
+    while (query.next()) {
+        if (m_cancelled) {
+            result->rows.clear();
+            fail(PString::translate("Abgebrochen", "VelkGeomCore"), sql);
+            m_error.cancelled = true;
+            return false;
+        }
+        QVariantList row;
+        row.reserve(names.size());
+        for (int i = 0; i < names.size(); ++i)
+            row.append(query.value(i));
+        result->rows.append(std::move(row));
+    }
+    if (query.lastError().isValid())
+        return note(query, sql);
+    result->columns = std::make_shared<LinkDbColumns>(names);
+    return true;
+}
+
+bool LinkDbConnection::begin()
+{
+    if (m_pending)
+        return true;
+    if (!run(isPostgreSQL() ? QStringLiteral("BEGIN") : QStringLiteral("BEGIN IMMEDIATE")))
+        return false;
+    Result id;
+    if (isPostgreSQL() && (!run(QStringLiteral("SELECT txid_current()"), &id) || id.rows.isEmpty()))
+        return false;
+    m_transactionId = id.rows.isEmpty() ? QString() : id.rows.first().value(0).toString();
+    m_pending = true;
+    m_pendingStatements = 0;
+    m_lostChanges = 0;
+    return true;
+}
+
+bool LinkDbConnection::inSavepoint(const std::function<bool()> &statements)
+{
+    if (!run(QStringLiteral("SAVEPOINT linkdb_statement")))
+        return false;
+    const bool done = statements();
+    if (!done && !m_open)
+        return false; // the transaction went with the connection
+    const LinkDbError error = m_error;
+    const bool undone = done || run(QStringLiteral("ROLLBACK TO SAVEPOINT linkdb_statement"));
+    const bool released = undone && run(QStringLiteral("RELEASE SAVEPOINT linkdb_statement"));
+    if (!done && released)
+        m_error = error;
+    return done && released;
+}
+
+bool LinkDbConnection::changeAll(const std::function<bool()> &statements)
+{
+    m_error = {};
+    if (!ready())
+        return false;
+    const bool opened = !m_pending;
+    if (!begin())
+        return false;
+    if (inSavepoint(statements)) {
+        ++m_pendingStatements;
+        return true;
+    }
+    // A transaction in which nothing was done would only hold locks.
+    if (opened && m_pending) {
+        const LinkDbError error = m_error;
+        static_cast<void>(rollback());
+        m_error = error;
+    }
+    return false;
+}
+
+bool LinkDbConnection::change(const QString &sql, qint64 *changed)
+{
+    return changeAll([&] {
+        Result result;
+        const bool done = run(sql, &result);
+        if (changed)
+            *changed = result.changed;
+        return done;
+    });
+}
+
+bool LinkDbConnection::select(const QString &sql, Result &result)
+{
+    m_error = {};
+    if (!ready())
+        return false;
+    // An error inside of a transaction would make PostgreSQL refuse all that follows.
+    const bool done = m_pending && isPostgreSQL() ? inSavepoint([&] { return run(sql, &result); })
+                                                  : run(sql, &result);
+    if (!done || isPostgreSQL())
+        return done;
+    if (const auto table = tableOfStar(sql)) {
+        const QStringList names = columnsOf(*table);
+        if (names.size() == result.columns->count())
+            result.columns = std::make_shared<LinkDbColumns>(names);
+    }
+    return true;
+}
+
+bool LinkDbConnection::commit()
+{
+    m_error = {};
+    if (m_lostChanges > 0) {
+        m_lostChanges = 0;
+        return fail(PString::translate("Die Änderungen sind mit der Verbindung zur Linkdatenbank "
+                                       "verloren gegangen; sie sind zu wiederholen",
+                                       "VelkGeomCore"),
+                    QStringLiteral("COMMIT"), true);
+    }
+    if (!m_pending)
+        return true;
+    if (run(QStringLiteral("COMMIT"))) {
+        m_pending = false;
+        m_pendingStatements = 0;
+        return true;
+    }
+    if (m_error.lost)
+        return outcomeOfCommit();
+    // Not committed, and a statement after a failed commit must not be taken for part of it.
+    const LinkDbError error = m_error;
+    static_cast<void>(rollback());
+    m_error = error;
+    return false;
+}
+
+/// Of a commit whose answer did not come; the server still knows what became of it.
+bool LinkDbConnection::outcomeOfCommit()
+{
+    const LinkDbError error = m_error;
+    const QString sql = QStringLiteral("SELECT txid_status(%1)").arg(m_transactionId);
+    for (int look = 0; look < commitLooks && !m_cancelled; ++look) {
+        if (look > 0)
+            QThread::msleep(commitLookMs);
+        Result result;
+        if (!ready() || !run(sql, &result) || result.rows.isEmpty())
+            continue;
+        const QString state = result.rows.first().value(0).toString();
+        if (state == QLatin1String("in progress"))
+            continue;
+        m_lostChanges = 0;
+        if (state == QLatin1String("committed")) {
+            m_notices.append(
+                PString::translate("Die Änderungen waren schon festgeschrieben", "VelkGeomCore"));
+            m_error = {};
+            return true;
+        }
+        break;
+    }
+    m_lostChanges = 0;
+    m_error = error;
+    return false;
+}
+
+bool LinkDbConnection::rollback()
+{
+    m_error = {};
+    m_lostChanges = 0;
+    if (!m_pending)
+        return true;
+    m_pending = false;
+    m_pendingStatements = 0;
+    return run(QStringLiteral("ROLLBACK"));
+}
+
+QString LinkDbConnection::literal(const QVariant &value) const
+{
+    QVariant clean = value;
+    if (value.typeId() == QMetaType::QString)
+        clean = value.toString().remove(QChar(0));
+    QSqlField field(QString(), clean.metaType());
+    field.setValue(clean);
+    if (const QSqlDriver *driver = database().driver())
+        return driver->formatValue(field);
+    return clean.isNull() ? QStringLiteral("NULL")
+                          : u'\'' + clean.toString().replace(u'\'', QLatin1String("''")) + u'\'';
+}
+
+QString LinkDbConnection::identifier(const QString &name)
+{
+    // The driver's own quoting takes a name with quotes round it as quoted, and parts it at dots.
+    return u'"' + QString(name).replace(u'"', QLatin1String("\"\"")) + u'"';
+}
+
+QStringList LinkDbConnection::columnsOf(const QString &table)
+{
+    const QString sql =
+        isPostgreSQL()
+            ? QStringLiteral("SELECT attname FROM pg_attribute WHERE attrelid = to_regclass(%1) "
+                             "AND attnum > 0 AND NOT attisdropped ORDER BY attnum")
+            : QStringLiteral("SELECT name FROM pragma_table_info(%1) ORDER BY cid");
+    Result result;
+    const QString statement = sql.arg(literal(table));
+    const bool done = m_pending && isPostgreSQL()
+                          ? inSavepoint([&] { return run(statement, &result); })
+                          : run(statement, &result);
+    QStringList names;
+    for (const QVariantList &row : std::as_const(result.rows)) {
+        if (done)
+            names.append(row.first().toString());
+    }
+    return names;
+}
+
+bool LinkDbConnection::tableColumns(const QString &table, QStringList &columns)
+{
+    m_error = {};
+    if (!ready())
+        return false;
+    columns = columnsOf(table);
+    if (columns.isEmpty() && !m_error.isSet())
+        fail(PString::translate("Die Tabelle %1 gibt es in der Linkdatenbank nicht", "VelkGeomCore")
+                 .arg(table));
+    return !columns.isEmpty();
+}
+
+void LinkDbConnection::cancel()
+{
+    const qint64 backend = m_backend;
+    if (m_cancelled.exchange(true) || backend == 0)
+        return;
+    // PostgreSQL takes the request over another connection, which may have to wait, too.
+    if (m_canceller.joinable())
+        m_canceller.join();
+    m_canceller = std::thread([settings = m_settings, password = m_password, backend] {
+        LinkDbConnection other;
+        other.m_settings = settings;
+        other.m_password = password;
+        if (other.connectNow())
+            static_cast<void>(
+                other.run(QStringLiteral("SELECT pg_cancel_backend(%1)").arg(backend)));
+        other.disconnectNow();
+    });
+}

@@ -1,0 +1,450 @@
+#include "PLinkDbC.h"
+
+#include "LinkDbDeletedRows.h"
+#include "LinkDbSchema.h"
+#include "PLinkDbCPrivate.h"
+
+#include <core/message/PMessage.h>
+#include <core/text/PPathName.h>
+#include <geomcore/index/IndexTreeC.h>
+
+#include <QDir>
+#include <QUuid>
+
+#include <utility>
+
+namespace {
+
+class LinkDbQuery : public PLinkDbQueryI
+{
+public:
+    LinkDbQuery(bool valid, LinkDbConnection::Result result)
+        : m_valid(valid)
+        , m_result(std::move(result))
+    {
+        if (!m_result.columns)
+            m_result.columns = std::make_shared<LinkDbColumns>();
+        if (!m_valid)
+            m_result.rows.clear();
+    }
+
+    [[nodiscard]] bool isValid() const override { return m_valid; }
+    [[nodiscard]] std::shared_ptr<const LinkDbColumns> columns() const override
+    {
+        return m_result.columns;
+    }
+    [[nodiscard]] qsizetype rowCount() const override { return m_result.rows.size(); }
+    [[nodiscard]] const QVariantList &row(qsizetype index) const override
+    {
+        return m_result.rows.at(index);
+    }
+
+private:
+    bool m_valid;
+    LinkDbConnection::Result m_result;
+};
+
+struct Instance
+{
+    std::mutex mutex;
+    PRefPtr<PLinkDbC> linkDb{new PLinkDbC};
+};
+
+/// Never destroyed, as libraries may go late; the host closes its database by itself.
+Instance &theInstance()
+{
+    static auto *const instance = new Instance;
+    return *instance;
+}
+
+QString describe(const LinkDbError &error)
+{
+    QString text =
+        PString::translate("Fehler der Linkdatenbank: %1", "VelkGeomCore").arg(error.text);
+    if (!error.statement.isEmpty())
+        text += QStringLiteral("\n\n") + error.statement;
+    return text;
+}
+
+} // namespace
+
+bool PLinkDbC::Private::work(const Work &work)
+{
+    bool done = false;
+    QStringList notices;
+    LinkDbError failure;
+    if (thread) {
+        connection.clearCancel();
+        thread->run(
+            PString::translate("Die Linkdatenbank arbeitet", "VelkGeomCore"),
+            [&] {
+                done = work(connection);
+                failure = done ? LinkDbError() : connection.error();
+                notices = connection.takeNotices();
+                open = connection.isOpen();
+                pending = connection.isPending();
+            },
+            [this] { connection.cancel(); });
+    } else {
+        failure.text = PString::translate("Es besteht keine Verbindung zu einer Linkdatenbank. Sie "
+                                          "wird in den Einstellungen gewählt.",
+                                          "VelkGeomCore");
+    }
+    for (const QString &notice : std::as_const(notices))
+        PMessage::LogToWindow(notice);
+    if (done)
+        return true;
+    {
+        const std::lock_guard lock(mutex);
+        error = failure;
+    }
+    if (failure.isSet() && !failure.cancelled)
+        PMessage::LogToWindow(describe(failure));
+    return false;
+}
+
+bool PLinkDbC::Private::change(const Work &statements)
+{
+    return work([&](LinkDbConnection &on) { return on.changeAll([&] { return statements(on); }); });
+}
+
+QStringList PLinkDbC::Private::groupsOf(LinkDbConnection &on) const
+{
+    LinkDbConnection::Result found;
+    QStringList names;
+    if (on.select(QStringLiteral(
+                      "SELECT g.group_name FROM linkdb_group g WHERE NOT EXISTS (SELECT 1 FROM "
+                      "linkdb_group_member m WHERE m.group_name = g.group_name) OR EXISTS "
+                      "(SELECT 1 FROM linkdb_group_member m WHERE m.group_name = g.group_name "
+                      "AND m.user_name = %1)")
+                      .arg(on.literal(user)),
+                  found)) {
+        for (const QVariantList &row : std::as_const(found.rows))
+            names.append(row.first().toString());
+    }
+    names.sort();
+    return names;
+}
+
+bool PLinkDbC::Private::readGroup(LinkDbConnection &on, const QString &name)
+{
+    if (!groupsOf(on).contains(name)) {
+        return on.error().isSet()
+                   ? false
+                   : on.fail(
+                         PString::translate("Die Gruppe \"%1\" gibt es in der Linkdatenbank nicht, "
+                                            "oder %2 gehört nicht zu ihr",
+                                            "VelkGeomCore")
+                             .arg(name, user));
+    }
+    LinkDbConnection::Result found;
+    if (!on.select(
+            QStringLiteral("SELECT key_name, key_value FROM linkdb_group_key WHERE group_name = ") +
+                on.literal(name),
+            found))
+        return false;
+    const std::lock_guard lock(mutex);
+    group = name;
+    groupKeys.clear();
+    for (const QVariantList &row : std::as_const(found.rows))
+        groupKeys.insert(row.at(0).toString(), row.at(1).toString());
+    return true;
+}
+
+PLinkDbC::PLinkDbC()
+    : d(std::make_unique<Private>())
+{
+}
+
+PLinkDbC::~PLinkDbC()
+{
+    if (d->thread)
+        close();
+}
+
+PRefPtr<PLinkDbC> PLinkDbC::instance()
+{
+    const std::lock_guard lock(theInstance().mutex);
+    return theInstance().linkDb;
+}
+
+void PLinkDbC::setInstance(const PRefPtr<PLinkDbC> &linkDb)
+{
+    PRefPtr<PLinkDbC> former = linkDb ? linkDb : PRefPtr<PLinkDbC>(new PLinkDbC);
+    const std::lock_guard lock(theInstance().mutex);
+    std::swap(former, theInstance().linkDb);
+}
+
+bool PLinkDbC::open(const LinkDbSettings &settings, const QString &password)
+{
+    if (d->thread && !close())
+        return false;
+    if (!d->thread)
+        d->thread.emplace();
+    {
+        const std::lock_guard lock(d->mutex);
+        d->settings = settings;
+        d->password = password;
+    }
+    return d->work([&](LinkDbConnection &connection) {
+        if (!connection.open(settings, password))
+            return false;
+        {
+            const std::lock_guard lock(d->mutex);
+            d->user = connection.userName();
+        }
+        const QStringList names = d->groupsOf(connection);
+        const QString former = currentGroup();
+        if (names.isEmpty() ||
+            d->readGroup(connection, names.contains(former) ? former : names.first()))
+            return true;
+        const LinkDbError error = connection.error();
+        connection.close();
+        return connection.fail(error.text, error.statement, error.lost);
+    });
+}
+
+bool PLinkDbC::close()
+{
+    if (!d->thread)
+        return true;
+    const bool done = d->work([](LinkDbConnection &connection) {
+        const bool committed = connection.commit();
+        const LinkDbError error = connection.error();
+        connection.close();
+        return committed || connection.fail(error.text, error.statement, error.lost);
+    });
+    d->thread.reset();
+    return done;
+}
+
+bool PLinkDbC::isOpen() const
+{
+    return d->open;
+}
+
+LinkDbSettings PLinkDbC::settings() const
+{
+    const std::lock_guard lock(d->mutex);
+    return d->settings;
+}
+
+QString PLinkDbC::userName() const
+{
+    const std::lock_guard lock(d->mutex);
+    return d->user;
+}
+
+bool PLinkDbC::login(const QString &user, const QString &password)
+{
+    const LinkDbSettings former = settings();
+    const QString formerPassword = d->password;
+    if (former.kind == LinkDbSettings::Kind::SQLite && isOpen()) {
+        return d->work([&](LinkDbConnection &connection) {
+            if (!connection.commit())
+                return false;
+            connection.setUserName(user);
+            const std::lock_guard lock(d->mutex);
+            d->user = user;
+            return true;
+        });
+    }
+    if (!commit())
+        return false;
+    LinkDbSettings other = former;
+    other.user = user;
+    if (open(other, password))
+        return true;
+    const LinkDbError error = lastError();
+    open(former, formerPassword);
+    const std::lock_guard lock(d->mutex);
+    d->error = error;
+    return false;
+}
+
+QStringList PLinkDbC::groups()
+{
+    QStringList names;
+    d->work([&](LinkDbConnection &connection) {
+        names = d->groupsOf(connection);
+        return !connection.error().isSet();
+    });
+    return names;
+}
+
+QString PLinkDbC::currentGroup() const
+{
+    const std::lock_guard lock(d->mutex);
+    return d->group;
+}
+
+bool PLinkDbC::changeGroup(const QString &group)
+{
+    return d->work([&](LinkDbConnection &connection) { return d->readGroup(connection, group); });
+}
+
+QString PLinkDbC::groupInformation(const QString &key) const
+{
+    const std::lock_guard lock(d->mutex);
+    return d->groupKeys.value(key);
+}
+
+bool PLinkDbC::setGroupInformation(const QString &group, const QString &key, const QString &value)
+{
+    const bool done = d->change([&](LinkDbConnection &connection) {
+        const QString name = connection.literal(group);
+        return connection.run(QStringLiteral("DELETE FROM linkdb_group_key WHERE group_name = ") +
+                              name + QStringLiteral(" AND key_name = ") +
+                              connection.literal(key)) &&
+               connection.run(QStringLiteral("INSERT INTO linkdb_group SELECT %1 WHERE NOT EXISTS "
+                                             "(SELECT 1 FROM linkdb_group WHERE group_name = %1)")
+                                  .arg(name)) &&
+               connection.run(QStringLiteral("INSERT INTO linkdb_group_key VALUES(") + name +
+                              QStringLiteral(", ") + connection.literal(key) +
+                              QStringLiteral(", ") + connection.literal(value) + u')');
+    });
+    const std::lock_guard lock(d->mutex);
+    if (done && group == d->group)
+        d->groupKeys.insert(key, value);
+    return done;
+}
+
+PString PLinkDbC::getTableName(const PString &logicalName) const
+{
+    if (logicalName == QLatin1String("PLMTABLE2"))
+        return LinkDbSchema::Documents;
+    if (logicalName == QLatin1String("PLM_HIERARCHY"))
+        return LinkDbSchema::Hierarchy;
+    return logicalName;
+}
+
+PString PLinkDbC::makeRelativePath(const PString &path) const
+{
+    if (path.isEmpty())
+        return {};
+    const PRefPtr<IndexTreeC> tree = getIndexTree();
+    const QString root = tree->catalogRoot().normalized() + u'/';
+    QString file = PPathName(path).normalized();
+    if (!file.startsWith(root))
+        file = tree->compatiblePathToResolvedPath(PPathName(path)).normalized();
+    return file.startsWith(root) ? file.mid(root.size()) : file;
+}
+
+PRefPtr<PLinkDbQueryI> PLinkDbC::executeSelectStatement(const QString &sql)
+{
+    LinkDbConnection::Result result;
+    const bool done =
+        d->work([&](LinkDbConnection &connection) { return connection.select(sql, result); });
+    return new LinkDbQuery(done, std::move(result));
+}
+
+int PLinkDbC::executeCountStatement(const QString &sql) const
+{
+    LinkDbConnection::Result result;
+    if (!d->work([&](LinkDbConnection &connection) { return connection.select(sql, result); }))
+        return -1;
+    bool isNumber = false;
+    const int count = result.rows.value(0).value(0).toInt(&isNumber);
+    return isNumber ? count : -1;
+}
+
+bool PLinkDbC::executeInsertStatement(const QString &sql) const
+{
+    return d->change([&](LinkDbConnection &connection) {
+        return LinkDbDeletedRows::note(connection, sql) && connection.run(sql);
+    });
+}
+
+bool PLinkDbC::commit()
+{
+    return d->work([](LinkDbConnection &connection) { return connection.commit(); });
+}
+
+bool PLinkDbC::rollback()
+{
+    return d->work([](LinkDbConnection &connection) { return connection.rollback(); });
+}
+
+bool PLinkDbC::isPending() const
+{
+    return d->pending;
+}
+
+PLinkDbRecordC PLinkDbC::createRecord(const PString &table)
+{
+    QStringList columns;
+    d->work([&](LinkDbConnection &connection) { return connection.tableColumns(table, columns); });
+    return PLinkDbRecordC(std::make_shared<LinkDbColumns>(columns));
+}
+
+QString PLinkDbC::createSqlStatement(const PString &table, const PLinkDbRecordC &record,
+                                     bool update)
+{
+    QStringList names;
+    QStringList values;
+    d->work([&](LinkDbConnection &connection) {
+        QStringList columns;
+        if (!connection.tableColumns(table, columns))
+            return false;
+        for (const QString &column : std::as_const(columns)) {
+            const QVariant value = record.value(record.indexOf(column));
+            if (!value.isValid() ||
+                column.compare(QLatin1String("GEO_ID"), Qt::CaseInsensitive) == 0)
+                continue;
+            names.append(LinkDbConnection::identifier(column));
+            values.append(connection.literal(value));
+        }
+        const int key = LinkDbColumns(columns).indexOf(QStringLiteral("GEO_ID"));
+        if (!update && key >= 0 && !names.isEmpty()) {
+            names.prepend(LinkDbConnection::identifier(columns.at(key)));
+            values.prepend(connection.literal(QUuid::createUuid().toString(QUuid::WithoutBraces)));
+        }
+        return true;
+    });
+    if (names.isEmpty())
+        return {};
+    if (!update)
+        return QStringLiteral("INSERT INTO ") + table + QStringLiteral(" (") +
+               names.join(QLatin1String(", ")) + QStringLiteral(") VALUES (") +
+               values.join(QLatin1String(", ")) + u')';
+    QStringList assignments;
+    assignments.reserve(names.size());
+    for (qsizetype i = 0; i < names.size(); ++i)
+        assignments.append(names.at(i) + QStringLiteral(" = ") + values.at(i));
+    return QStringLiteral("UPDATE ") + table + QStringLiteral(" SET ") +
+           assignments.join(QLatin1String(", "));
+}
+
+QString PLinkDbC::literal(const QVariant &value) const
+{
+    QString text;
+    if (d->thread)
+        d->thread->run(
+            {}, [&] { text = d->connection.literal(value); }, [] {});
+    else
+        text = d->connection.literal(value);
+    return text;
+}
+
+QString PLinkDbC::identifier(const QString &name) const
+{
+    return LinkDbConnection::identifier(name);
+}
+
+void PLinkDbC::showLastError()
+{
+    const LinkDbError error = lastError();
+    if (error.isSet())
+        PMessage::Show(describe(error), PMsgDlgMode::Error);
+}
+
+LinkDbError PLinkDbC::lastError() const
+{
+    const std::lock_guard lock(d->mutex);
+    return d->error;
+}
+
+PRefPtr<IndexTreeC> PLinkDbC::getIndexTree() const
+{
+    return IndexTreeC::instance();
+}
