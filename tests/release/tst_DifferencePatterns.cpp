@@ -4,6 +4,7 @@
 #include <release/pattern/CellParts.h>
 #include <release/pattern/DifferencePatterns.h>
 #include <release/pattern/LineComparer.h>
+#include <release/pattern/ReplacementEvidence.h>
 
 #include <QScopeGuard>
 #include <QTest>
@@ -42,7 +43,7 @@ QStringList textsOf(const DifferencePatterns &patterns)
 /// A pair whose values are written "NAME=old>new".
 OpenPair pairOf(int line, const QStringList &values, double probability = 0.9)
 {
-    OpenPair pair{line, 0, line, probability, true, {}};
+    OpenPair pair{line, 0, line, probability, {}, true, {}};
     for (const QString &value : values) {
         const qsizetype equals = value.indexOf('=');
         const qsizetype arrow = value.indexOf('>');
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void otherProposalIsPending();
     void leastSureFirst();
     void readFromTables();
+    void evidenceOfAReplacement();
     void sameForAnyNumberOfJobs();
 };
 
@@ -164,6 +166,9 @@ void tst_DifferencePatterns::families_data()
                                   << QStringList{"L: + 2.5|3 lines"};
     QTest::newRow("subtracted number")
         << QStringList{"L=10>8", "L=20>18", "L=7>5"} << QStringList{"L: − 2|3 lines"};
+    QTest::newRow("measured anew, with chance differences alike")
+        << QStringList{"R=10>10.1", "R=20>20.1", "R=30>30.2", "R=40>40.2", "R=50>50.3"}
+        << QStringList{"R: near|5 lines"};
     QTest::newRow("one value replaced is no number map")
         << QStringList{"L=10>5", "L=10>5"} << QStringList{"L: 10 → 5|2 lines"};
     QTest::newRow("near and other number")
@@ -227,7 +232,7 @@ void tst_DifferencePatterns::linesAndExceptionsAddUp()
            pairOf(4, {})},
           {}},
          {{pairOf(1, {steel}, 0.9), pairOf(2, {"R=x>", steel}), pairOf(3, {"L=1>900", steel}),
-           OpenPair{4, 0, 4, 0, false, {}}},
+           OpenPair{4, 0, 4, 0, {}, false, {}}},
           {"b.prj: no table"}}});
     QCOMPARE(textsOf(found), (QStringList{"W: St37 → S235|3 lines, 2 projects, 3 exceptions",
                                           "W: St37 → S235; L: 1 → 900|2 lines, 2 projects, 0 "
@@ -369,6 +374,28 @@ void tst_DifferencePatterns::readFromTables()
     const auto some = DifferencePatterns::compute(example.catalog.root(), example.release,
                                                   cancelled, [](int i) { return i == 1; });
     QCOMPARE(some->openLines(), 1);
+}
+
+void tst_DifferencePatterns::evidenceOfAReplacement()
+{
+    Example example;
+    const std::atomic<bool> cancelled = false;
+    const auto evidence = [&](const AgreedReplacement &replacement) {
+        const auto found =
+            replacementEvidence(example.catalog.root(), example.release, replacement, cancelled);
+        return std::pair(found->supports, found->counterExamples);
+    };
+    QCOMPARE(evidence({{}, "W", "St37-2", "S235JR", {}, {}}), std::pair(20, 0));
+    QCOMPARE(evidence({{}, "W", "St37", "S235", {}, {}}), std::pair(0, 20));
+    QCOMPARE(evidence({{}, "W", "St", "S", {}, {}}), std::pair(0, 20));
+    QCOMPARE(evidence({{}, "W", "t37-2", "S235JR", {}, {}}), std::pair(0, 0));
+    QCOMPARE(evidence({"old/b", "W", "St37-2", "S235JR", {}, {}}), std::pair(0, 0));
+    QCOMPARE(evidence({{}, "L", {}, {}, "0.5", "0"}), std::pair(5, 15));
+    const auto found = replacementEvidence(example.catalog.root(), example.release,
+                                           {{}, "L", {}, {}, "0.5", "0"}, cancelled);
+    QCOMPARE(found->examples.front(), (ReplacementEvidence::Example{"old/a.prj", 1, "10", "10"}));
+    const std::atomic<bool> ended = true;
+    QVERIFY(!replacementEvidence(example.catalog.root(), example.release, {}, ended));
 }
 
 void tst_DifferencePatterns::sameForAnyNumberOfJobs()

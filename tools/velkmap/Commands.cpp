@@ -2,8 +2,10 @@
 
 #include "AssignCommand.h"
 #include "CreateCommand.h"
+#include "ExplainCommand.h"
 #include "ExportCommand.h"
 #include "ImportCommand.h"
+#include "ReviewCommand.h"
 #include "SearchCommand.h"
 #include "StatsCommand.h"
 
@@ -41,6 +43,8 @@ const QList<Command> &commands()
         {"assign", "assigns the lines of a release mapping", runAssign},
         {"stats", "counts the lines by their state", runStats},
         {"export", "writes a release mapping as a CSV file", runExport},
+        {"review", "groups the open lines by how they differ from their proposals", runReview},
+        {"explain", "tells why a line is assigned so, and its other candidates", runExplain},
         {"search", "finds projects by words and by values of their tables", runSearch},
     };
     return list;

@@ -2,7 +2,10 @@
 
 #include "ExitStatus.h"
 
+#include <QHash>
 #include <QStringList>
+
+#include <vector>
 
 class ReleaseMappingC;
 
@@ -15,9 +18,20 @@ namespace velkmap {
 /// velkmap export: the release as a CSV file, one row a source line.
 ExitStatus runExport(const QStringList &arguments, QTextStream &out, QTextStream &err);
 
+/// Further columns of a line that is to be checked.
+struct LineReason
+{
+    double probability = 0;
+    QString reason;
+};
+/// For each mapping of a release, by the line's number.
+using LineReasons = std::vector<QHash<int, LineReason>>;
+
 /// The rows as RFC 4180 text with line feeds, after a row of names: projects in stored order, the
 /// lines of each by source line, then by target. Target path and line are empty and -1 for a line
 /// without target; a line of which several targets hold a part has a row for each.
-[[nodiscard]] QByteArray exportedRows(const ReleaseMappingC &release);
+/// With \a reasons two columns more, probability and reason, empty for other lines.
+[[nodiscard]] QByteArray exportedRows(const ReleaseMappingC &release,
+                                      const LineReasons *reasons = nullptr);
 
 } // namespace velkmap

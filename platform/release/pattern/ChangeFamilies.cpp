@@ -11,6 +11,9 @@ namespace {
 
 /// So many lines make a family.
 constexpr int FamilyLines = 2;
+/// A number map makes a family if it explains this share of what became of the variable's numbers;
+/// figures that were all measured anew have some differences in common by chance.
+constexpr double MapShare = 0.5;
 /// Longer texts are not named as replacements.
 constexpr qsizetype MaxReplaced = 200;
 /// Numbers that differ by less than this part of the larger one are near each other.
@@ -88,17 +91,24 @@ void ChangeFamilies::count(const std::vector<OpenPair> &pairs)
 {
     for (const OpenPair &pair : pairs) {
         QStringList names; // a line counts once, however often it has a change
+        QStringList numbers;
         for (const OpenPair::Value &value : pair.values) {
             if (value.before.isEmpty() || value.after.isEmpty())
                 continue;
             for (const Part &part : partsOf(value)) {
-                for (const ValueChange &option : part.options)
+                for (const ValueChange &option : part.options) {
                     names.append(nameOf(option));
+                    if (option.kind == ValueChange::NumberMap)
+                        numbers.append(value.variable);
+                }
             }
         }
         names.removeDuplicates();
         for (const QString &name : std::as_const(names))
             ++m_supports[name];
+        numbers.removeDuplicates();
+        for (const QString &name : std::as_const(numbers))
+            ++m_numbers[name];
     }
 }
 
@@ -150,6 +160,9 @@ void ChangeFamilies::addChanges(const OpenPair::Value &value, const QString &sou
         int supports = FamilyLines - 1;
         for (const ValueChange &option : part.options) {
             const int count = m_supports.value(nameOf(option));
+            if (option.kind == ValueChange::NumberMap &&
+                count < MapShare * m_numbers.value(value.variable))
+                continue;
             if (count > supports) {
                 supports = count;
                 best = &option;

@@ -37,6 +37,7 @@ private:
 
     QList<AgreedReplacement> m_agreed;
     QHash<QString, int> m_supports; ///< by a name of variable and change
+    QHash<QString, int> m_numbers;  ///< lines in which a number of a variable changed
 };
 
 } // namespace VelkRelease

@@ -99,6 +99,14 @@ std::optional<LineComparer::Pair> LineComparer::assigned(int line)
     return pair;
 }
 
+QList<ComparedVariableC> LineComparer::compared(int line)
+{
+    if (!hasLine(line))
+        return {};
+    const VKTab::LineView view = d->view(line);
+    return d->part->mapper().compareLine(d->part->mapper().findLine(line, view), view);
+}
+
 LineCandidatesC LineComparer::candidates(int line)
 {
     return hasLine(line) ? d->part->mapper().candidates(line, d->view(line)) : LineCandidatesC();

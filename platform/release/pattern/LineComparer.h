@@ -47,6 +47,9 @@ public:
 
     /// Nothing if the line is not assigned, or one of the tables does not have it.
     [[nodiscard]] std::optional<Pair> assigned(int line);
+    /// The variables of the line and of the one that it is assigned to, whatever the candidates;
+    /// empty where assigned() gives nothing.
+    [[nodiscard]] QList<ComparedVariableC> compared(int line);
     [[nodiscard]] LineCandidatesC candidates(int line);
 
 private:

@@ -91,11 +91,12 @@ std::vector<OpenPair> readOpenPairs(const QString &sourceRoot, const PrjMappingC
     for (const OpenProposal &line : lines) {
         if (cancelled && cancelled->load(std::memory_order_relaxed))
             break;
-        OpenPair pair{line.line, line.target, line.targetLine, 0, false, {}};
+        OpenPair pair{line.line, line.target, line.targetLine, 0, {}, false, {}};
         const auto read = comparer.assigned(line.line);
         if (read && read->target == line.target && read->targetLine == line.targetLine) {
             pair.comparable = true;
             pair.probability = read->probability;
+            pair.reason = read->reason;
             for (const ComparedVariableC &variable : read->variables) {
                 if (variable.outcome != ComparedVariableC::Equal)
                     pair.values.push_back({variable.name, variable.oldValue, variable.newValue});

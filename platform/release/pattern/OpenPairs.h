@@ -25,6 +25,7 @@ struct OpenPair
     int target = -1;
     int targetLine = -1;
     double probability = 0;
+    QString reason;            ///< one sentence; empty if there is nothing to say
     bool comparable = false;   ///< both lines could be read and have variables in common
     std::vector<Value> values; ///< of the variables that differ, in the order of the new table
 };

@@ -1,0 +1,248 @@
+#include "ReviewCommand.h"
+
+#include "CatalogRoots.h"
+#include "CommandLine.h"
+#include "InterruptGuard.h"
+#include "ReleaseFile.h"
+
+#include <core/json/JsonWriter.h>
+#include <release/pattern/DifferencePatterns.h>
+#include <release/pattern/ReplacementEvidence.h>
+
+#include <QTextStream>
+
+#include <cmath>
+
+namespace velkmap {
+
+namespace {
+
+using VelkRelease::DifferencePatterns;
+using VelkRelease::ReplacementEvidence;
+using VelkRelease::ValueChange;
+
+constexpr int Examples = 3;
+
+constexpr const char *Description =
+    "Groups the open lines of a release mapping by how they differ from the lines that are\n"
+    "proposed for them: lines, projects, mean probability, exceptions (lines with the same\n"
+    "differences and others besides), three examples. Changes nothing. Then what was agreed\n"
+    "to about values, with the lines that support it and those that do not.";
+
+/// What the command tells.
+struct Report
+{
+    const ReleaseMappingC &release;
+    const DifferencePatterns &patterns;
+    QList<ReplacementEvidence> evidence; ///< of the release's replacements
+};
+
+QString patternText(const DifferencePatterns &patterns, int pattern)
+{
+    if (!patterns.isComparable(pattern))
+        return QStringLiteral("cannot be compared");
+    QStringList texts;
+    for (const ValueChange &change : patterns.changes(pattern))
+        texts << change.text(changeWords());
+    return texts.isEmpty() ? QStringLiteral("no difference") : texts.join("; ");
+}
+
+QString placeText(const ReleaseMappingC &release, const DifferencePatterns::Place &place)
+{
+    return release.mappingAt(place.project).getSourcePath() + u':' + QString::number(place.line);
+}
+
+QString replacementText(const AgreedReplacement &replacement)
+{
+    ValueChange change;
+    change.variable = replacement.variable;
+    change.kind = replacement.isNumeric() ? ValueChange::NumberMap : ValueChange::Replacement;
+    change.before = replacement.before;
+    change.after = replacement.after;
+    change.factor = replacement.isNumeric() ? replacement.factor.toDouble() : 1;
+    change.offset = replacement.offset.toDouble();
+    return change.text(changeWords());
+}
+
+void writeTable(const Report &report, QTextStream &out)
+{
+    const DifferencePatterns &patterns = report.patterns;
+    const std::vector<int> ranked = patterns.ranked();
+    if (!ranked.empty())
+        out << "     lines  projects  probability  exceptions  differences\n";
+    for (const int pattern : ranked) {
+        const DifferencePatterns::Numbers numbers = patterns.numbers(pattern);
+        out << QString::number(numbers.lines).rightJustified(10)
+            << QString::number(numbers.projects).rightJustified(10)
+            << QString::number(numbers.probability, 'f', 2).rightJustified(13)
+            << QString::number(numbers.exceptions).rightJustified(12) << "  "
+            << patternText(patterns, pattern) << '\n';
+        QStringList examples;
+        for (const DifferencePatterns::Place &place : patterns.places(pattern, Examples))
+            examples << placeText(report.release, place);
+        out << QString(47, u' ') << examples.join(", ") << '\n';
+    }
+    for (qsizetype i = 0; i < report.evidence.size(); ++i) {
+        const AgreedReplacement replacement = report.release.getReplacements().at(i);
+        out << "agreed" << (replacement.folder.isEmpty() ? QString() : " in " + replacement.folder)
+            << ": " << replacementText(replacement) << ", " << report.evidence[i].supports
+            << " lines support it, " << report.evidence[i].counterExamples << " do not\n";
+    }
+    out << patterns.openLines() << " open lines with a proposal differ in " << ranked.size()
+        << " ways\n";
+}
+
+double rounded(double probability)
+{
+    return std::round(probability * 1e4) / 1e4;
+}
+
+void writeText(JsonWriter &json, std::string_view name, const QString &text)
+{
+    json.key(name);
+    json.value(QStringView(text));
+}
+
+void writeChange(JsonWriter &json, const ValueChange &change)
+{
+    static constexpr const char *kinds[] = {"replacement", "numberMap", "nearNumber", "otherNumber",
+                                            "wording",     "added",     "missing"};
+    json.beginObject();
+    writeText(json, "variable", change.variable);
+    json.key("kind");
+    json.value(kinds[change.kind]);
+    if (change.kind == ValueChange::Replacement) {
+        writeText(json, "before", change.before);
+        writeText(json, "after", change.after);
+    } else if (change.kind == ValueChange::NumberMap) {
+        writeText(json, "factor", QString::number(change.factor, 'g', 6));
+        writeText(json, "offset", QString::number(change.offset, 'g', 6));
+    }
+    json.key("agreed");
+    json.value(change.agreed);
+    json.endObject();
+}
+
+void writePlaces(JsonWriter &json, const ReleaseMappingC &release,
+                 const std::vector<DifferencePatterns::Place> &places)
+{
+    json.beginArray(true);
+    for (const DifferencePatterns::Place &place : places)
+        json.value(QStringView(placeText(release, place)));
+    json.endArray();
+}
+
+void writePattern(JsonWriter &json, const Report &report, int pattern)
+{
+    const DifferencePatterns::Numbers numbers = report.patterns.numbers(pattern);
+    json.beginObject();
+    writeText(json, "text", patternText(report.patterns, pattern));
+    json.key("comparable");
+    json.value(report.patterns.isComparable(pattern));
+    json.key("changes");
+    json.beginArray();
+    for (const ValueChange &change : report.patterns.changes(pattern))
+        writeChange(json, change);
+    json.endArray();
+    json.key("lines");
+    json.value(numbers.lines);
+    json.key("projects");
+    json.value(numbers.projects);
+    json.key("probability");
+    json.value(rounded(numbers.probability));
+    json.key("exceptions");
+    json.value(numbers.exceptions);
+    json.key("examples");
+    writePlaces(json, report.release, report.patterns.places(pattern, Examples));
+    json.endObject();
+}
+
+void writeJson(const Report &report, QTextStream &out)
+{
+    JsonWriter json(JsonWriter::Indented);
+    json.beginObject();
+    writeText(json, "sourceDate", report.release.getSourceDate());
+    writeText(json, "targetDate", report.release.getTargetDate());
+    json.key("openLines");
+    json.value(report.patterns.openLines());
+    json.key("patterns");
+    json.beginArray();
+    for (const int pattern : report.patterns.ranked())
+        writePattern(json, report, pattern);
+    json.endArray();
+    json.key("agreed");
+    json.beginArray();
+    for (qsizetype i = 0; i < report.evidence.size(); ++i) {
+        const AgreedReplacement replacement = report.release.getReplacements().at(i);
+        json.beginObject();
+        writeText(json, "text", replacementText(replacement));
+        writeText(json, "folder", replacement.folder);
+        json.key("supports");
+        json.value(report.evidence[i].supports);
+        json.key("counterExamples");
+        json.value(report.evidence[i].counterExamples);
+        json.endObject();
+    }
+    json.endArray();
+    json.endObject();
+    out << QString::fromUtf8(json.take());
+}
+
+} // namespace
+
+const ValueChange::Words &changeWords()
+{
+    static const ValueChange::Words words{"near number", "other number", "other wording",
+                                          "value added", "value missing"};
+    return words;
+}
+
+ExitStatus runReview(const QStringList &arguments, QTextStream &out, QTextStream &err)
+{
+    CommandLine line("review", Description);
+    ReleaseFile::addOptions(line);
+    CatalogRoots::addOptions(line);
+    line.addOptional("project", "PATH", "Source path of a project to look at; may be repeated.");
+    line.addFlag("json", "Prints the patterns as JSON.");
+    if (const auto over = line.parse(arguments, out, err))
+        return *over;
+    ReleaseFile file;
+    if (const auto failed = file.read(line, err))
+        return *failed;
+    CatalogRoots roots;
+    if (const auto failed = roots.take(line, "review", err))
+        return *failed;
+    const ReleaseMappingC &release = file.release();
+    const QStringList projects = line.values("project");
+    for (const QString &project : projects) {
+        bool known = false;
+        for (int i = 0; i < release.countMappings() && !known; ++i)
+            known = release.mappingAt(i).getSourcePath() == project;
+        if (!known)
+            return line.wrongUsage("the mapping has no project " + project, err);
+    }
+    const InterruptGuard guard;
+    const auto patterns = DifferencePatterns::compute(
+        roots.source(), release, InterruptGuard::isRequested(), [&](int i) {
+            return projects.isEmpty() || projects.contains(release.mappingAt(i).getSourcePath());
+        });
+    if (!patterns)
+        return ExitStatus::Interrupted;
+    Report report{release, *patterns, {}};
+    for (const AgreedReplacement &replacement : release.getReplacements()) {
+        const auto evidence = VelkRelease::replacementEvidence(roots.source(), release, replacement,
+                                                               InterruptGuard::isRequested());
+        if (!evidence)
+            return ExitStatus::Interrupted;
+        report.evidence.append(*evidence);
+    }
+    for (const QString &error : patterns->errors())
+        err << "velkmap review: " << error << '\n';
+    if (line.isSet("json"))
+        writeJson(report, out);
+    else
+        writeTable(report, out);
+    return patterns->errors().isEmpty() ? ExitStatus::Done : ExitStatus::InputUnreadable;
+}
+
+} // namespace velkmap
