@@ -4,6 +4,7 @@
 option(VELK_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(VELK_CCACHE "Compile through ccache where it is installed" OFF)
 option(VELK_MOLD "Link with mold where it is installed" OFF)
+option(VELK_UNITY "Compile the sources of each folder of a library or program as one" OFF)
 set(VELK_SANITIZE "" CACHE STRING "Comma separated list of sanitizers")
 
 set(CMAKE_CXX_STANDARD 20)
@@ -62,11 +63,29 @@ endfunction()
 
 set(VELK_DEFINITIONS QT_NO_KEYWORDS QT_NO_FOREACH BOOST_BIND_GLOBAL_PLACEHOLDERS)
 set(VELK_WARNINGS
-    -Wall -Wextra -Wshadow -Wnon-virtual-dtor $<$<BOOL:${VELK_WARNINGS_AS_ERRORS}>:-Werror>
+    -Wall -Wextra -Wnon-virtual-dtor $<$<NOT:$<BOOL:${VELK_UNITY}>>:-Wshadow>
+    $<$<BOOL:${VELK_WARNINGS_AS_ERRORS}>:-Werror>
     # g++ 12 reports these wrongly in optimised builds: for "text" + std::string (GCC bug 105651),
     # variants and designated initialisers; clang checks the same in the dev build.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-stringop-overflow -Wno-array-bounds
-    -Wno-maybe-uninitialized -Wno-missing-field-initializers>)
+    -Wno-maybe-uninitialized -Wno-missing-field-initializers>
+    # Sources taken together are no main file in its eyes, and classes of one file then seem shared.
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${VELK_UNITY}>>:-Wno-subobject-linkage>)
+
+# With VELK_UNITY: names of one file's own may not be the same in two files of a folder.
+function(velk_unity target)
+  if(NOT VELK_UNITY)
+    return()
+  endif()
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+  foreach(file IN LISTS ARGN)
+    get_filename_component(folder "${file}" ABSOLUTE)
+    get_filename_component(folder "${folder}" DIRECTORY)
+    file(RELATIVE_PATH group "${CMAKE_SOURCE_DIR}" "${folder}")
+    string(MAKE_C_IDENTIFIER "${group}" group)
+    set_source_files_properties("${file}" PROPERTIES UNITY_GROUP ${group})
+  endforeach()
+endfunction()
 
 # velk_sources(VAR FOLDER... [EXCEPT FILE...]): all sources below the folders but those files.
 function(velk_sources var)
@@ -108,6 +127,7 @@ function(velk_library name)
   set_property(TARGET ${name} PROPERTY AUTOGEN_TARGET_DEPENDS ${headers})
   target_include_directories(${name} PUBLIC "${ARG_INCLUDE}")
   target_link_libraries(${name} PUBLIC ${ARG_DEPENDS})
+  velk_unity(${name} ${files})
   velk_defaults(${name})
 endfunction()
 
@@ -120,5 +140,6 @@ function(velk_program name)
   endif()
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_DEPENDS})
+  velk_unity(${name} ${ARG_SOURCES})
   velk_defaults(${name})
 endfunction()

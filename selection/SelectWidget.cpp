@@ -17,7 +17,7 @@ namespace {
 
 constexpr int selectableRole = 33;
 
-QString translated(const char *text)
+QString widgetText(const char *text)
 {
     return PString::translate(text, "VelkLinkDbGui");
 }
@@ -31,7 +31,7 @@ PRefPtr<IndexTreeDisplayItemI> rootItem()
 
 SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     : QWidget(parent)
-    , fileNameBox(new QCheckBox(translated("Dateinamen statt Beschreibungen anzeigen"), this))
+    , fileNameBox(new QCheckBox(widgetText("Dateinamen statt Beschreibungen anzeigen"), this))
     , treeView(new QTreeView(this))
     , treeModel(new IndexTreeModelC(rootItem(), treeView))
     , proxyModel(new IndexTreeFilterProxyModelC(treeView))
@@ -44,7 +44,7 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     layout->addWidget(treeView);
     connect(fileNameBox, SIGNAL(toggled(bool)), this, SLOT(onSwitchFilenameView()));
 
-    nameColumn = new IndexTreeModelColumnC(PString(), translated("Name"), DisplayIndexC(2));
+    nameColumn = new IndexTreeModelColumnC(PString(), widgetText("Name"), DisplayIndexC(2));
     nameColumn->addRole(Qt::DecorationRole,
                         erpIcons ? DisplayIndexC(QVariant(23), QVariant(1)) : DisplayIndexC(23));
     if (erpIcons)

@@ -29,7 +29,7 @@ constexpr const char *configSection = "CatalogMapping";
 constexpr int fullTextOp = 1;
 constexpr int fullTextType = 3;
 
-QString translated(const char *text)
+QString searchDialogText(const char *text)
 {
     return PString::translate(text, "VelkLinkDbGui");
 }
@@ -50,7 +50,7 @@ dlgSearchSelect::dlgSearchSelect(QWidget *parent, bool erpIcons, bool unfiltered
     , d(new dlgSearchSelectPrivate)
 {
     setObjectName(QStringLiteral("dlgSearchSelect"));
-    setWindowTitle(translated("Projekt suchen oder auswählen"));
+    setWindowTitle(searchDialogText("Projekt suchen oder auswählen"));
     d->fileTreeGroup = new FileTreeGroup(0);
     d->fileTreeGroup->SetAppConfig(PApplication::getAppConfig());
     d->fileTreeGroup->Init();
@@ -59,7 +59,7 @@ dlgSearchSelect::dlgSearchSelect(QWidget *parent, bool erpIcons, bool unfiltered
     layout->addWidget(d->tabWidget);
     const QStringList searchNames{QStringLiteral("KeySearch"), IndexTreeVarSearchC::searchName()};
     d->searchWidget = new SearchWidget(searchNames, d->fileTreeGroup, this);
-    d->tabWidget->addTab(d->searchWidget, translated("Suchen"));
+    d->tabWidget->addTab(d->searchWidget, searchDialogText("Suchen"));
     connect(d->searchWidget->getItemView(), SIGNAL(doubleClicked(const QModelIndex &)), this,
             SLOT(onDoubleClick()));
     connect(d->searchWidget->getItemView()->selectionModel(),
@@ -71,13 +71,14 @@ dlgSearchSelect::dlgSearchSelect(QWidget *parent, bool erpIcons, bool unfiltered
     connect(d->selectWidget,
             SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), this,
             SLOT(onSelectionChanged()));
-    d->tabWidget->addTab(d->selectWidget, translated("Auswählen"));
+    d->tabWidget->addTab(d->selectWidget, searchDialogText("Auswählen"));
     const PConfigVal showFileNames =
         PApplication::getAppConfig()->getItemValue(configKey, configSection, QStringLiteral("1"));
     if (!showFileNames.GetBool(true))
         d->selectWidget->getFileNameBox()->setChecked(false);
     auto *const buttons = new QDialogButtonBox(Qt::Horizontal, this);
-    d->selectButton = buttons->addButton(translated("Auswählen"), QDialogButtonBox::AcceptRole);
+    d->selectButton =
+        buttons->addButton(searchDialogText("Auswählen"), QDialogButtonBox::AcceptRole);
     d->selectButton->setObjectName(QStringLiteral("selectButton"));
     d->selectButton->setEnabled(false);
     buttons->addButton(QDialogButtonBox::Close);

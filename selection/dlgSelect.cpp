@@ -15,7 +15,7 @@ namespace {
 
 constexpr QSize startSize(450, 600);
 
-QString translated(const char *text)
+QString dialogText(const char *text)
 {
     return PString::translate(text, "VelkLinkDbGui");
 }
@@ -26,19 +26,19 @@ dlgSelect::dlgSelect(QWidget *parent)
     : QDialog(parent)
     , d(new dlgSelectPrivate)
 {
-    setWindowTitle(translated("Projekt auswählen"));
+    setWindowTitle(dialogText("Projekt auswählen"));
     auto *const layout = new QVBoxLayout(this);
     auto *const row = new QHBoxLayout;
     row->addSpacerItem(new QSpacerItem(9, 0, QSizePolicy::Minimum, QSizePolicy::Minimum));
     d->overrideBox =
-        new QCheckBox(translated("Bereits zugewiesene Zielprojekte überschreiben"), this);
+        new QCheckBox(dialogText("Bereits zugewiesene Zielprojekte überschreiben"), this);
     d->overrideBox->setObjectName(QStringLiteral("overrideBox"));
     row->addWidget(d->overrideBox);
     layout->addLayout(row);
     d->selectWidget = new SelectWidget(false, true, this);
     layout->addWidget(d->selectWidget);
     auto *const buttons = new QDialogButtonBox(Qt::Horizontal, this);
-    d->selectButton = buttons->addButton(translated("Auswählen"), QDialogButtonBox::AcceptRole);
+    d->selectButton = buttons->addButton(dialogText("Auswählen"), QDialogButtonBox::AcceptRole);
     d->selectButton->setObjectName(QStringLiteral("selectButton"));
     d->selectButton->setEnabled(false);
     buttons->addButton(QDialogButtonBox::Close);

@@ -24,7 +24,7 @@ constexpr const char *description =
     "tables, or whose targets' tables with --force, cannot be read keep their lines.\n"
     "Ctrl+C ends the work and writes the projects that are done (exit status 130).";
 
-void addOptions(CommandLine &line)
+void addAssignOptions(CommandLine &line)
 {
     ReleaseFile::addOptions(line);
     line.addRequired("source", "ROOT", "Directory that holds the old release's catalog.");
@@ -148,7 +148,7 @@ ExitStatus AssignRun::run(ReleaseFile &file)
 ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
     CommandLine line("assign", description);
-    addOptions(line);
+    addAssignOptions(line);
     if (const auto over = line.parse(arguments, out, err))
         return *over;
     bool isNumber = false;

@@ -17,11 +17,11 @@ namespace {
 
 using Builder = VelkRelease::ReleaseMappingBuilder;
 
-const char Description[] =
+const char CreateDescription[] =
     "Writes a release mapping: for each project of the old release the projects of the new release "
     "that can take over its lines. Lines are assigned by 'velkmap assign'.";
 
-void addOptions(CommandLine &line)
+void addCreateOptions(CommandLine &line)
 {
     line.addRequired("source", "ROOT", "Directory of the old release.");
     line.addRequired("target", "ROOT", "Directory of the new release.");
@@ -117,8 +117,8 @@ ExitStatus store(const Builder &builder, const QString &path, MappingFile &file,
 
 ExitStatus runCreate(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
-    CommandLine line("create", Description);
-    addOptions(line);
+    CommandLine line("create", CreateDescription);
+    addCreateOptions(line);
     if (const auto over = line.parse(arguments, out, err))
         return *over;
     const Builder::Input input = inputOf(line);

@@ -19,7 +19,7 @@ namespace velkmap {
 
 namespace {
 
-const QString Description = QStringLiteral(
+const QString ImportDescription = QStringLiteral(
     "Makes a catalog of projects and tables from a folder tree of CSV tables. "
     "Each NAME.csv becomes NAME.prj, NAME.json (the descriptor) and NAME.csv below CATALOG, at the "
     "same relative path. Column types, value ranges, decimal commas and key columns are recognised "
@@ -195,7 +195,7 @@ char separatorNamed(const QString &name)
 
 ExitStatus runImport(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
-    CommandLine line(QStringLiteral("import"), Description);
+    CommandLine line(QStringLiteral("import"), ImportDescription);
     line.addRequired(QStringLiteral("from"), QStringLiteral("CSV_DIR"),
                      QStringLiteral("Folder tree of CSV files."));
     line.addRequired(QStringLiteral("into"), QStringLiteral("ROOT/CATALOG"),

@@ -11,12 +11,12 @@
 
 namespace {
 
-struct Row
+struct LegendRow
 {
     const char *icon;
     const char *text;
 };
-constexpr Row rows[] = {
+constexpr LegendRow legendRows[] = {
     {":/bitmaps/state_confirmed.png",
      QT_TRANSLATE_NOOP("LegendDialog", "Bestätigt: die Zuordnung ist entschieden")},
     {":/bitmaps/state_check.png",
@@ -47,7 +47,7 @@ LegendDialog::LegendDialog(QWidget *parent)
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     int line = 0;
-    for (const Row &row : rows) {
+    for (const LegendRow &row : legendRows) {
         auto *picture = new QLabel(this);
         if (*row.icon)
             picture->setPixmap(QIcon(row.icon).pixmap(16, 16));

@@ -11,7 +11,7 @@
 
 namespace {
 
-struct Row
+struct StateRow
 {
     OpenLines::Kind kind;
     const char *name;
@@ -20,41 +20,46 @@ struct Row
     const char *icon;
 };
 
-constexpr std::array rows{
-    Row{OpenLines::Conflict, "stateConflict", QT_TRANSLATE_NOOP("LineStateFilter", "Konflikt"),
-        QT_TRANSLATE_NOOP("LineStateFilter", "Nur Zeilen im Konflikt mit der Änderung eines "
-                                             "anderen zeigen, und ihre Projekte"),
-        ":/bitmaps/state_conflict.png"},
-    Row{OpenLines::ToCheck, "stateToCheck", QT_TRANSLATE_NOOP("LineStateFilter", "Zu prüfen"),
-        QT_TRANSLATE_NOOP("LineStateFilter", "Nur Zeilen mit einem Vorschlag zeigen, der bestätigt "
-                                             "oder korrigiert werden muss, und ihre Projekte"),
-        ":/bitmaps/state_check.png"},
-    Row{OpenLines::NotFound, "stateNotFound", QT_TRANSLATE_NOOP("LineStateFilter", "Ohne Ziel"),
-        QT_TRANSLATE_NOOP("LineStateFilter",
-                          "Nur Zeilen zeigen, für die nichts gefunden ist, und ihre Projekte"),
-        ":/bitmaps/state_deleted.png"},
-    Row{OpenLines::Proposed, "stateProposed", QT_TRANSLATE_NOOP("LineStateFilter", "Automatisch"),
+constexpr std::array stateRows{
+    StateRow{OpenLines::Conflict, "stateConflict", QT_TRANSLATE_NOOP("LineStateFilter", "Konflikt"),
+             QT_TRANSLATE_NOOP("LineStateFilter", "Nur Zeilen im Konflikt mit der Änderung eines "
+                                                  "anderen zeigen, und ihre Projekte"),
+             ":/bitmaps/state_conflict.png"},
+    StateRow{OpenLines::ToCheck, "stateToCheck", QT_TRANSLATE_NOOP("LineStateFilter", "Zu prüfen"),
+             QT_TRANSLATE_NOOP("LineStateFilter",
+                               "Nur Zeilen mit einem Vorschlag zeigen, der bestätigt "
+                               "oder korrigiert werden muss, und ihre Projekte"),
+             ":/bitmaps/state_check.png"},
+    StateRow{OpenLines::NotFound, "stateNotFound",
+             QT_TRANSLATE_NOOP("LineStateFilter", "Ohne Ziel"),
+             QT_TRANSLATE_NOOP("LineStateFilter",
+                               "Nur Zeilen zeigen, für die nichts gefunden ist, und ihre Projekte"),
+             ":/bitmaps/state_deleted.png"},
+    StateRow{
+        OpenLines::Proposed, "stateProposed", QT_TRANSLATE_NOOP("LineStateFilter", "Automatisch"),
         QT_TRANSLATE_NOOP("LineStateFilter", "Nur Zeilen zeigen, die eindeutig gleich sind und vom "
                                              "Programm zugeordnet wurden, und ihre Projekte"),
         ":/bitmaps/line.png"},
-    Row{OpenLines::Confirmed, "stateConfirmed", QT_TRANSLATE_NOOP("LineStateFilter", "Bestätigt"),
-        QT_TRANSLATE_NOOP("LineStateFilter",
-                          "Nur Zeilen mit bestätigter Zuordnung zeigen, und ihre Projekte"),
-        ":/bitmaps/state_confirmed.png"},
-    Row{OpenLines::Expired, "stateExpired", QT_TRANSLATE_NOOP("LineStateFilter", "Ausgelaufen"),
-        QT_TRANSLATE_NOOP("LineStateFilter",
-                          "Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre "
-                          "Projekte"),
-        ":/bitmaps/state_deleted_confirmed.png"},
+    StateRow{OpenLines::Confirmed, "stateConfirmed",
+             QT_TRANSLATE_NOOP("LineStateFilter", "Bestätigt"),
+             QT_TRANSLATE_NOOP("LineStateFilter",
+                               "Nur Zeilen mit bestätigter Zuordnung zeigen, und ihre Projekte"),
+             ":/bitmaps/state_confirmed.png"},
+    StateRow{OpenLines::Expired, "stateExpired",
+             QT_TRANSLATE_NOOP("LineStateFilter", "Ausgelaufen"),
+             QT_TRANSLATE_NOOP("LineStateFilter",
+                               "Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre "
+                               "Projekte"),
+             ":/bitmaps/state_deleted_confirmed.png"},
 };
 
 } // namespace
 
 LineStateFilter::LineStateFilter(QObject *parent)
     : QObject(parent)
-    , m_counts(qsizetype(rows.size()), 0)
+    , m_counts(qsizetype(stateRows.size()), 0)
 {
-    for (const Row &row : rows) {
+    for (const StateRow &row : stateRows) {
         auto *const action = new QAction(QIcon(row.icon), QString(), this);
         action->setObjectName(row.name);
         action->setCheckable(true);
@@ -75,7 +80,7 @@ OpenLines::Kinds LineStateFilter::kinds() const
 {
     OpenLines::Kinds kinds;
     for (qsizetype i = 0; i < m_actions.size(); ++i)
-        kinds.setFlag(rows[size_t(i)].kind, m_actions[i]->isChecked());
+        kinds.setFlag(stateRows[size_t(i)].kind, m_actions[i]->isChecked());
     return kinds;
 }
 
@@ -93,7 +98,7 @@ void LineStateFilter::clear()
 void LineStateFilter::setCounts(const std::function<int(OpenLines::Kind)> &countOf)
 {
     for (qsizetype i = 0; i < m_counts.size(); ++i)
-        m_counts[i] = countOf(rows[size_t(i)].kind);
+        m_counts[i] = countOf(stateRows[size_t(i)].kind);
     writeTexts();
 }
 
@@ -115,10 +120,10 @@ void LineStateFilter::retranslate()
 void LineStateFilter::writeTexts()
 {
     for (qsizetype i = 0; i < m_actions.size(); ++i) {
-        const QString name = tr(rows[size_t(i)].text);
+        const QString name = tr(stateRows[size_t(i)].text);
         m_actions[i]->setText(
             m_isOpen ? QStringLiteral("%1: %2").arg(name, StatusArea::grouped(m_counts[i])) : name);
-        m_actions[i]->setToolTip(tr(rows[size_t(i)].tip));
+        m_actions[i]->setToolTip(tr(stateRows[size_t(i)].tip));
         m_actions[i]->setStatusTip(m_actions[i]->toolTip());
     }
 }
@@ -126,7 +131,7 @@ void LineStateFilter::writeTexts()
 QString LineStateFilter::names(OpenLines::Kinds kinds)
 {
     QStringList names;
-    for (const Row &row : rows) {
+    for (const StateRow &row : stateRows) {
         if (kinds.testFlag(row.kind))
             names += tr(row.text);
     }

@@ -9,7 +9,7 @@
 
 namespace {
 
-struct Row
+struct CommandRow
 {
     const char *name;
     const char *text;
@@ -21,7 +21,7 @@ struct Row
 };
 
 // In the order of WorkbenchActions::Command.
-constexpr std::array<Row, WorkbenchActions::CommandCount> rows{{
+constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
     {"fileNew", QT_TRANSLATE_NOOP("WorkbenchActions", "&Neues Mapping..."),
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Legt aus zwei Katalogständen eine neue Mapping-Datei an"),
@@ -115,7 +115,7 @@ QString translated(const char *text)
     return QCoreApplication::translate("WorkbenchActions", text);
 }
 
-QIcon iconOf(const Row &row)
+QIcon iconOf(const CommandRow &row)
 {
     return *row.icon ? QIcon(QStringLiteral(":/workbench/%1_24.png").arg(row.icon)) : QIcon();
 }
@@ -125,7 +125,7 @@ QIcon iconOf(const Row &row)
 WorkbenchActions::WorkbenchActions(QObject *parent)
     : QObject(parent)
 {
-    for (const Row &row : rows) {
+    for (const CommandRow &row : commandRows) {
         auto *action = new QAction(iconOf(row), QString(), this);
         action->setObjectName(row.name);
         action->setShortcut(QKeySequence::fromString(row.shortcut, QKeySequence::PortableText));
@@ -142,7 +142,7 @@ WorkbenchActions::WorkbenchActions(QObject *parent)
 void WorkbenchActions::setDocumentOpen(bool open, bool readOnly)
 {
     for (int i = 0; i < CommandCount; ++i) {
-        const Row &row = rows[size_t(i)];
+        const CommandRow &row = commandRows[size_t(i)];
         if (i == Undo || i == Redo)
             continue;
         m_actions[i]->setEnabled((open || !row.needsDocument) && !(readOnly && row.needsWriting));
@@ -168,7 +168,7 @@ void WorkbenchActions::setUndoTexts(const QString &undo, const QString &redo)
 void WorkbenchActions::writeUndoTexts()
 {
     const auto write = [this](Command command, const QString &what) {
-        const QString name = translated(rows[command].text);
+        const QString name = translated(commandRows[command].text);
         // A single ampersand would mark a key.
         QString quoted = what;
         quoted.replace('&', QLatin1String("&&"));
@@ -185,7 +185,7 @@ void WorkbenchActions::retranslate()
 {
     for (int i = 0; i < CommandCount; ++i) {
         QAction *const action = m_actions[i];
-        const Row &row = rows[size_t(i)];
+        const CommandRow &row = commandRows[size_t(i)];
         const QString tip = translated(row.tip);
         action->setText(translated(row.text));
         action->setStatusTip(tip);

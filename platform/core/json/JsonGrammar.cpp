@@ -15,11 +15,6 @@ bool isHexadecimal(char c)
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\n' || c == '\r' || c == '\t';
-}
-
 /// Bytes that stand for themselves in a text.
 constexpr std::array<bool, 256> plainBytes()
 {

@@ -15,6 +15,12 @@ public:
     /// Whether the text is one value with nothing but blanks around.
     [[nodiscard]] bool check();
 
+    /// Whether it may stand between values.
+    [[nodiscard]] static bool isBlank(char c)
+    {
+        return c == ' ' || c == '\n' || c == '\r' || c == '\t';
+    }
+
     /// Where the first fault stands, and what it is.
     [[nodiscard]] qsizetype faultAt() const { return m_at - m_begin; }
     [[nodiscard]] const char *fault() const { return m_fault; }

@@ -9,11 +9,6 @@ namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\n' || c == '\r' || c == '\t';
-}
-
 qsizetype markSize(QByteArrayView json)
 {
     return json.startsWith(QByteArrayView(ByteOrderMark.data(), ByteOrderMark.size()))
@@ -66,9 +61,9 @@ QString JsonText::place(QByteArrayView json, qsizetype offset)
 QByteArrayView JsonText::trimmed(QByteArrayView json)
 {
     json = json.sliced(markSize(json));
-    while (!json.isEmpty() && isBlank(json.front()))
+    while (!json.isEmpty() && JsonGrammar::isBlank(json.front()))
         json = json.sliced(1);
-    while (!json.isEmpty() && isBlank(json.back()))
+    while (!json.isEmpty() && JsonGrammar::isBlank(json.back()))
         json.chop(1);
     return json;
 }
@@ -95,7 +90,7 @@ QByteArray JsonText::compacted(QByteArrayView json)
     bool inText = false;
     for (qsizetype i = 0; i < json.size(); ++i) {
         const char c = json[i];
-        if (inText || !isBlank(c))
+        if (inText || !JsonGrammar::isBlank(c))
             result += c;
         if (inText && c == '\\')
             result += json[++i];
@@ -137,7 +132,7 @@ bool JsonText::Walker::next()
 
 void JsonText::Walker::skipBlanks()
 {
-    while (m_at != m_end && isBlank(*m_at))
+    while (m_at != m_end && JsonGrammar::isBlank(*m_at))
         ++m_at;
 }
 
@@ -157,7 +152,8 @@ void JsonText::Walker::skipValue()
         return;
     }
     if (*m_at != '{' && *m_at != '[') {
-        while (m_at != m_end && !isBlank(*m_at) && *m_at != ',' && *m_at != '}' && *m_at != ']')
+        while (m_at != m_end && !JsonGrammar::isBlank(*m_at) && *m_at != ',' && *m_at != '}' &&
+               *m_at != ']')
             ++m_at;
         return;
     }

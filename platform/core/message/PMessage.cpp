@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int ButtonBits = 0x0f;
 constexpr int SeverityBits = 0x30;
 
 struct Sink
@@ -72,7 +71,7 @@ std::shared_ptr<PMessageSink> PMessage::setSink(std::shared_ptr<PMessageSink> si
 
 bool PMessage::isQuestion(PMsgDlgModes mode)
 {
-    return (int(mode) & ButtonBits) != 0;
+    return (int(mode) & PMsgDlgButtonBits) != 0;
 }
 
 QString PMessage::severityName(PMsgDlgModes mode)

@@ -10,6 +10,8 @@ enum class PMsgDlgMode {
     Error = 0x10,    ///< Ok
     Warning = 0x30   ///< Ok
 };
+/// The bits of a mode that ask something.
+inline constexpr int PMsgDlgButtonBits = 0x0f;
 Q_DECLARE_FLAGS(PMsgDlgModes, PMsgDlgMode)
 Q_DECLARE_OPERATORS_FOR_FLAGS(PMsgDlgModes)
 

@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr int ButtonBits = 0x0f;
-
 thread_local PStringMessageImpl *t_innermost = nullptr;
 
 } // namespace
@@ -55,6 +53,6 @@ PMsgReply PStringMessageImpl::take(const QString &text, PMsgDlgModes mode)
     if (m_log)
         PMessage::LogToWindow(text);
     if (m_forward)
-        PMessage::showOutside(m_outer, text, PMsgDlgModes::fromInt(int(mode) & ~ButtonBits));
+        PMessage::showOutside(m_outer, text, PMsgDlgModes::fromInt(int(mode) & ~PMsgDlgButtonBits));
     return question ? m_reply : PMsgReply::Ok;
 }

@@ -54,6 +54,12 @@ struct VELKGEOMCORE_EXPORT TableField
         return type == FieldType::Number || type == FieldType::Integer;
     }
     friend bool operator==(const TableField &, const TableField &) = default;
+
+    /// Whether its cells hold values of a line that can be compared with those of another.
+    [[nodiscard]] bool isCompared() const
+    {
+        return kind == FieldKind::Plain || kind == FieldKind::Range || kind == FieldKind::Computed;
+    }
 };
 
 } // namespace VKTab

@@ -8,7 +8,7 @@ namespace VKTab {
 
 namespace {
 
-constexpr const char *context = "VelkGeomCore";
+constexpr const char *helpContext = "VelkGeomCore";
 constexpr const char *angle = QT_TRANSLATE_NOOP("VelkGeomCore", "Winkel");
 constexpr const char *anyText = QT_TRANSLATE_NOOP("VelkGeomCore", "Text");
 constexpr const char *anyNumber = QT_TRANSLATE_NOOP("VelkGeomCore", "Zahl");
@@ -159,12 +159,12 @@ constexpr std::array helps = {
 
 QString FunctionHelp::signature() const
 {
-    return QLatin1String(name) + u'(' + PString::translate(arguments, context) + u')';
+    return QLatin1String(name) + u'(' + PString::translate(arguments, helpContext) + u')';
 }
 
 QString FunctionHelp::text() const
 {
-    return PString::translate(description, context);
+    return PString::translate(description, helpContext);
 }
 
 std::span<const FunctionHelp> functionHelps()

@@ -10,7 +10,7 @@ namespace VKTab {
 
 namespace {
 
-constexpr const char *context = "VelkGeomCore";
+constexpr const char *messageContext = "VelkGeomCore";
 
 enum Precedence {
     OrPrecedence = 1,
@@ -78,7 +78,7 @@ bool isSign(const Token &token)
 
 QString translated(const char *text)
 {
-    return PString::translate(text, context);
+    return PString::translate(text, messageContext);
 }
 
 bool isChain(const NodeBase &node, NodeArt art)

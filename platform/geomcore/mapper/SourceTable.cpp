@@ -18,12 +18,6 @@ using VKTab::TableField;
 
 namespace {
 
-bool isCompared(const TableField &field)
-{
-    return field.kind == FieldKind::Plain || field.kind == FieldKind::Range ||
-           field.kind == FieldKind::Computed;
-}
-
 std::string valueText(const QHash<QString, MapVarValueC> &varset, const QString &name)
 {
     return varset.value(name).getValue().toString().trimmed().toStdString();
@@ -39,7 +33,7 @@ SourceTable::SourceTable(const VKTab::Content &content)
         return;
     const QList<TableField> &fields = m_data->descriptor().fields;
     for (int column = 0; column < int(fields.size()); ++column) {
-        if (!isCompared(fields[column]))
+        if (!fields[column].isCompared())
             continue;
         m_columns.push_back(column);
         if (!m_columnOf.contains(fields[column].name))
@@ -168,7 +162,7 @@ QHash<QString, MapVarValueC> varsetOf(const LineView &line)
         return varset;
     const QList<TableField> &fields = line.table()->descriptor().fields;
     for (int column = 0; column < int(fields.size()); ++column) {
-        if (!isCompared(fields[column]))
+        if (!fields[column].isCompared())
             continue;
         MapVarValueC value;
         value.setName(fields[column].name);

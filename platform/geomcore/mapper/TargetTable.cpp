@@ -22,16 +22,6 @@ using VKTab::LineSet;
 using VKTab::LineView;
 using VKTab::TableField;
 
-namespace {
-
-bool isCompared(const TableField &field)
-{
-    return field.kind == FieldKind::Plain || field.kind == FieldKind::Range ||
-           field.kind == FieldKind::Computed;
-}
-
-} // namespace
-
 TargetTable::TargetTable(const VKTab::Content &content)
     : m_content(content)
     , m_data(content.getTableData())
@@ -39,7 +29,7 @@ TargetTable::TargetTable(const VKTab::Content &content)
     const QList<TableField> &fields = m_data->descriptor().fields;
     for (int column = 0; column < int(fields.size()); ++column) {
         const TableField &field = fields[column];
-        if (isCompared(field)) {
+        if (field.isCompared()) {
             if (!m_variableOf.contains(field.name))
                 m_variableOf.insert(field.name, int(m_variables.size()));
             m_variables.push_back({field.name, column, field.isRange(),

@@ -28,11 +28,11 @@ using VKTab::TableField;
 namespace {
 
 /// So many bytes of a column's values are kept.
-constexpr qsizetype MaxValues = 64 * 1024;
+constexpr qsizetype MaxColumnValues = 64 * 1024;
 /// So many values of a range are looked at for the least and the greatest.
 constexpr qint64 MaxLooked = 1000;
 
-QString textOf(std::string_view text)
+QString textOfBytes(std::string_view text)
 {
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
@@ -56,7 +56,7 @@ public:
         const std::string_view value = VKTab::trimmedCell(cell);
         addNumbers(value);
         keep(value);
-        SearchText::addTokens(SearchText::folded(textOf(value)), m_tokens);
+        SearchText::addTokens(SearchText::folded(textOfBytes(value)), m_tokens);
     }
     [[nodiscard]] const IndexedColumn &column() const { return m_column; }
 
@@ -64,7 +64,8 @@ private:
     void addNumbers(std::string_view value)
     {
         if (m_column.isRange) {
-            if (const auto range = VKTab::parseRangeCell(textOf(value), m_column.decimalChar)) {
+            if (const auto range =
+                    VKTab::parseRangeCell(textOfBytes(value), m_column.decimalChar)) {
                 addRange(*range);
                 return;
             }
@@ -99,7 +100,7 @@ private:
         if (!m_column.values.isEmpty())
             m_column.values.append('\0');
         m_column.values.append(value.data(), qsizetype(value.size()));
-        if (m_column.values.size() > MaxValues)
+        if (m_column.values.size() > MaxColumnValues)
             m_column.values = QByteArray();
     }
 
@@ -183,7 +184,7 @@ void addDesignations(IndexedProject &project, const TableData &table)
             const int column = table.fields().indexOf(name);
             return column < 0 ? std::string() : std::string(line.text(column, scratch));
         });
-        SearchText::addTokens(SearchText::folded(textOf(text)), project.lineTokens);
+        SearchText::addTokens(SearchText::folded(textOfBytes(text)), project.lineTokens);
     }
 }
 

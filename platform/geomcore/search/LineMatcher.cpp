@@ -20,9 +20,9 @@ namespace {
 /// After so many lines somebody is asked whether to go on.
 constexpr int RowsBetweenQuestions = 4096;
 /// A line without a designation is told by so many values.
-constexpr qsizetype MaxValues = 6;
+constexpr qsizetype MaxShownValues = 6;
 
-QString textOf(std::string_view text)
+QString textOfCell(std::string_view text)
 {
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
@@ -46,14 +46,14 @@ public:
     {
         if (!isStored()) {
             const std::string_view text = LineView(m_table, row).text(m_column, m_scratch);
-            return !text.empty() && m_ask(textOf(text));
+            return !text.empty() && m_ask(textOfCell(text));
         }
         const VKTab::InternedColumn &interned = m_table.interned(m_column);
         const quint32 id = interned.ids[size_t(row)];
         char &answer = m_answers[id];
         if (answer == Unknown) {
             const std::string_view text = interned.values[id];
-            answer = !m_table.isMissing(text) && m_ask(textOf(text)) ? Yes : No;
+            answer = !m_table.isMissing(text) && m_ask(textOfCell(text)) ? Yes : No;
         }
         return answer == Yes;
     }
@@ -166,8 +166,8 @@ private:
         for (int column = 0; column < m_table.descriptor().fields.size(); ++column) {
             const TableField &field = m_table.descriptor().fields.at(column);
             const std::string_view text = line.text(column, scratch);
-            if (isShown(column) && !field.hidden && !text.empty() && values.size() < MaxValues)
-                values.append(field.name + QStringLiteral(" = ") + textOf(text));
+            if (isShown(column) && !field.hidden && !text.empty() && values.size() < MaxShownValues)
+                values.append(field.name + QStringLiteral(" = ") + textOfCell(text));
         }
         return values.join(QStringLiteral(", "));
     }

@@ -8,12 +8,12 @@
 
 namespace {
 
-constexpr qsizetype mostCharacters = 300; // of what a file says of itself
+constexpr qsizetype mostTextCharacters = 300; // of what a file says of itself
 
 /// One line of text: what comes from files may hold line feeds, control characters and much more.
 QString plain(const QString &text)
 {
-    QString result = text.left(mostCharacters).simplified();
+    QString result = text.left(mostTextCharacters).simplified();
     for (QChar &c : result) {
         if (!c.isPrint())
             c = QChar::ReplacementCharacter;

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int mostCharacters = 60; // of a place
+constexpr int mostPlaceCharacters = 60; // of a place
 
 template<class Search>
 PRefPtr<Search> searchOf(RemoteSearchRequestDataC &request)
@@ -220,7 +220,7 @@ void TopSearchWidget::showScope()
     QStringList places;
     for (const auto &node : m_request->getNodeList()) {
         if (node && !node->catalogPath().isEmpty())
-            places.append(node->catalogPath().simplified().left(mostCharacters));
+            places.append(node->catalogPath().simplified().left(mostPlaceCharacters));
     }
     m_scope->setVisible(!places.isEmpty());
     m_scope->setEnabled(!m_request->isNodeListFixed());

@@ -6,7 +6,7 @@
 
 namespace {
 
-char folded(char c)
+char lowerAscii(char c)
 {
     return c >= 'A' && c <= 'Z' ? char(c + ('a' - 'A')) : c;
 }
@@ -61,7 +61,7 @@ TextSearch::TextSearch(const QString &text)
     if (!isAscii(text))
         return;
     m_folded = text.toLatin1().toStdString();
-    std::transform(m_folded.begin(), m_folded.end(), m_folded.begin(), folded);
+    std::transform(m_folded.begin(), m_folded.end(), m_folded.begin(), lowerAscii);
 }
 
 bool TextSearch::isIn(std::string_view utf8) const
@@ -73,9 +73,9 @@ bool TextSearch::isIn(std::string_view utf8) const
     const char first = m_folded.front();
     const size_t last = utf8.size() - m_folded.size();
     for (size_t i = 0; i <= last; ++i) {
-        if (folded(utf8[i]) == first &&
+        if (lowerAscii(utf8[i]) == first &&
             std::equal(m_folded.begin() + 1, m_folded.end(), utf8.begin() + qsizetype(i) + 1,
-                       [](char a, char b) { return a == folded(b); }))
+                       [](char a, char b) { return a == lowerAscii(b); }))
             return true;
     }
     return false;

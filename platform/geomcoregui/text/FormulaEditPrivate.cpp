@@ -19,7 +19,7 @@ constexpr int widthInCharacters = 60;
 constexpr int heightInLines = 8;
 constexpr qsizetype lettersToComplete = 2;
 
-QString translated(const char *text)
+QString menuText(const char *text)
 {
     return PString::translate(text, "VelkGeomCoreGui");
 }
@@ -100,11 +100,11 @@ void FormulaEditPrivate::showMenu(const QContextMenuEvent &event)
     menu->setObjectName(QStringLiteral("formulaMenu"));
     menu->addSeparator();
     if (showFunctions)
-        addItems(menu, translated("Funktionen"), formulaFunctions());
+        addItems(menu, menuText("Funktionen"), formulaFunctions());
     if (showOperators)
-        addItems(menu, translated("Operatoren"), formulaOperators());
+        addItems(menu, menuText("Operatoren"), formulaOperators());
     if (showLogic)
-        addItems(menu, translated("Logik"), formulaLogic());
+        addItems(menu, menuText("Logik"), formulaLogic());
     addItems(menu, variables.label, variables.items);
     addItems(menu, additional.label, additional.items);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -217,7 +217,7 @@ void FormulaEditPrivate::showCompletions()
     if (!m_variableName.isEmpty() && word.isFirst)
         items.prepend({FormulaItem::Variable,
                        m_variableName + QStringLiteral(" = "),
-                       translated("Zuweisung an eine Variable der Zieltabelle"),
+                       menuText("Zuweisung an eine Variable der Zieltabelle"),
                        {}});
     popup->showFor(word.text, items);
 }

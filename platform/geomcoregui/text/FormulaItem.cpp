@@ -5,7 +5,7 @@
 
 namespace {
 
-QString translated(const char *text)
+QString itemText(const char *text)
 {
     return PString::translate(text, "VelkGeomCoreGui");
 }
@@ -47,18 +47,18 @@ QList<FormulaItem> formulaOperators()
     const auto item = [](const char *text, const QString &meaning) {
         return sign(FormulaItem::Operator, text, meaning);
     };
-    return {item(".EQ.", translated("gleich")),
-            item(".NE.", translated("ungleich")),
-            item(".LT.", translated("kleiner")),
-            item(".LE.", translated("kleiner oder gleich")),
-            item(".GT.", translated("größer")),
-            item(".GE.", translated("größer oder gleich")),
-            item("+", translated("plus")),
-            item("-", translated("minus")),
-            item("*", translated("mal")),
-            item("/", translated("geteilt durch")),
-            item("**", translated("hoch")),
-            item("=", translated("Zuweisung an eine Variable der Zieltabelle"))};
+    return {item(".EQ.", itemText("gleich")),
+            item(".NE.", itemText("ungleich")),
+            item(".LT.", itemText("kleiner")),
+            item(".LE.", itemText("kleiner oder gleich")),
+            item(".GT.", itemText("größer")),
+            item(".GE.", itemText("größer oder gleich")),
+            item("+", itemText("plus")),
+            item("-", itemText("minus")),
+            item("*", itemText("mal")),
+            item("/", itemText("geteilt durch")),
+            item("**", itemText("hoch")),
+            item("=", itemText("Zuweisung an eine Variable der Zieltabelle"))};
 }
 
 QList<FormulaItem> formulaLogic()
@@ -66,9 +66,9 @@ QList<FormulaItem> formulaLogic()
     const auto item = [](const char *text, const QString &meaning) {
         return sign(FormulaItem::Logic, text, meaning);
     };
-    return {item(".AND.", translated("beide Vergleiche gelten")),
-            item(".OR.", translated("einer der Vergleiche gilt")),
-            item(".NOT.", translated("der Vergleich gilt nicht"))};
+    return {item(".AND.", itemText("beide Vergleiche gelten")),
+            item(".OR.", itemText("einer der Vergleiche gilt")),
+            item(".NOT.", itemText("der Vergleich gilt nicht"))};
 }
 
 QString formulaFunctionHelp(QStringView name)

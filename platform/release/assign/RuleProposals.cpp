@@ -164,19 +164,19 @@ double likeness(const LineCells &source, const LineCells &target, const ColumnPa
     return both.size() < 3 ? 0 : share;
 }
 
-struct Candidate
+struct PairCandidate
 {
     ColumnPair columns;
     double score;
 };
 
 /// Candidates of which neither column has another one nearly as good.
-std::vector<ColumnPair> clearOnes(const std::vector<Candidate> &candidates)
+std::vector<ColumnPair> clearOnes(const std::vector<PairCandidate> &candidates)
 {
     std::vector<ColumnPair> clear;
-    for (const Candidate &candidate : candidates) {
+    for (const PairCandidate &candidate : candidates) {
         const bool rival =
-            std::any_of(candidates.begin(), candidates.end(), [&](const Candidate &other) {
+            std::any_of(candidates.begin(), candidates.end(), [&](const PairCandidate &other) {
                 const bool shares = (other.columns.first == candidate.columns.first) !=
                                     (other.columns.second == candidate.columns.second);
                 return shares && other.score > candidate.score - (1 - Agreeing);
@@ -217,7 +217,7 @@ std::vector<RuleProposals::Rename> RuleProposals::findRenames(const LineCells &t
     const std::vector<ColumnPair> common = commonColumns(m_source, target);
     const auto pairs = equalRows(m_source, target, common);
     const bool aligned = int(pairs.size()) >= EnoughPairs;
-    std::vector<Candidate> candidates;
+    std::vector<PairCandidate> candidates;
     for (const int from : old) {
         for (const int to : now) {
             const ColumnPair columns(from, to);
