@@ -24,7 +24,7 @@ public:
     PString title() const { return QStringLiteral("Schraube"); }
     QString join(const QString &text, int number, bool flag)
     {
-        return QStringLiteral("%1/%2/%3").arg(text).arg(number).arg(flag);
+        return text + QStringLiteral("/%1/%2").arg(number).arg(flag);
     }
     double half(double value) const { return value / 2; }
     void dropPeer() { m_peer = nullptr; }

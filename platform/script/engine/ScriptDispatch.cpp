@@ -30,9 +30,9 @@ int ScriptDispatch::invokeByName(const mzComStringC &name, int kind,
         if (kind == proxyMemberDescS::Method)
             return call(name, arguments, result, exception);
         if (kind == proxyMemberDescS::PropertyWrite)
-            m_value.setProperty(name.text(), m_engine->toScript(arguments[0]));
+            m_engine->write(m_value, name.text(), arguments[0]);
         else
-            result = m_engine->fromScript(m_value.property(name.text()));
+            result = m_engine->fromScript(m_engine->read(m_value, name.text()));
         return mzComSuccess;
     } catch (const mzComExceptionC &error) {
         exception = error.script();

@@ -1,11 +1,11 @@
-#include "../../core/SampleProxies.h"
+#include "../core/SampleProxies.h"
 
 #include <core/component/mzComPropertyC.h>
 #include <core/component/mzComVariableC.h>
 #include <core/component/mzIDispatchC.h>
 #include <core/component/proxyFactoryC.h>
 #include <core/component/prxDictionaryObjC.h>
-#include <workbench/script/ScriptEngine.h>
+#include <script/engine/ScriptEngine.h>
 
 #include <QTest>
 

@@ -95,7 +95,12 @@ QJSValue ScriptObject::invoke(const QString &name, int kind, const mzComVariantA
     std::optional<PScriptException> exception;
     try {
         const mzIDispatchC object(m_object.iface());
-        if (object.invoke(name, kind, arguments, result, exception) == mzComSuccess)
+        engine->beginCall();
+        const int outcome = object.invoke(name, kind, arguments, result, exception);
+        if (!engine)
+            return {};
+        engine->endCall(name);
+        if (outcome == mzComSuccess)
             return engine->toScript(result);
     } catch (const mzComExceptionC &error) {
         exception = error.script();
