@@ -6,6 +6,7 @@
 #include "ExportCommand.h"
 #include "ImportCommand.h"
 #include "ReviewCommand.h"
+#include "RunCommand.h"
 #include "SearchCommand.h"
 #include "StatsCommand.h"
 
@@ -46,6 +47,7 @@ const QList<Command> &commands()
         {"review", "groups the open lines by how they differ from their proposals", runReview},
         {"explain", "tells why a line is assigned so, and its other candidates", runExplain},
         {"search", "finds projects by words and by values of their tables", runSearch},
+        {"run", "runs a script over mappings and tables", runScript},
     };
     return list;
 }

@@ -12,6 +12,7 @@ enum class ExitStatus {
     ResultUnwritable = 3,
     NothingFound = 4,
     IndexBuilding = 5,
+    ScriptFailed = 6,
     Interrupted = 130, ///< by Ctrl+C; what was done is kept
 };
 
@@ -22,7 +23,7 @@ struct ExitStatusText
 };
 
 /// All of them, in ascending order.
-inline constexpr std::array<ExitStatusText, 7> exitStatusTexts{{
+inline constexpr std::array<ExitStatusText, 8> exitStatusTexts{{
     {ExitStatus::Done, "done"},
     {ExitStatus::WrongUsage, "wrong usage"},
     {ExitStatus::InputUnreadable, "input could not be read; all other work is done"},
@@ -30,6 +31,7 @@ inline constexpr std::array<ExitStatusText, 7> exitStatusTexts{{
     {ExitStatus::NothingFound, "search: nothing was found"},
     {ExitStatus::IndexBuilding,
      "search: the index is not complete yet; what it has so far was searched"},
+    {ExitStatus::ScriptFailed, "run: the script failed, or ran into a limit"},
     {ExitStatus::Interrupted, "ended by Ctrl+C; what was done is written"},
 }};
 

@@ -6,46 +6,17 @@
 
 #include <core/files/DurableFile.h>
 #include <core/parallel/WorkerPool.h>
+#include <geomcore/csv/csvCell.h>
+#include <geomcore/records/MappingRows.h>
 #include <release/pattern/OpenPairs.h>
 
 #include <QTextStream>
-
-#include <algorithm>
-#include <vector>
 
 namespace velkmap {
 
 namespace {
 
-QByteArray cell(const QString &text)
-{
-    QByteArray bytes = text.toUtf8();
-    if (std::ranges::none_of(bytes,
-                             [](char c) { return c == ',' || c == '"' || c == '\n' || c == '\r'; }))
-        return bytes;
-    bytes.replace("\"", "\"\"");
-    return '"' + bytes + '"';
-}
-
-struct Row
-{
-    int sourceLine;
-    int target;
-    PrjMappingTargetLineC entry;
-};
-
-std::vector<Row> rowsOf(const QList<PrjMappingTargetC> &targets)
-{
-    std::vector<Row> rows;
-    for (int i = 0; i < targets.size(); ++i) {
-        for (const LineTable::Iterator &line : targets.at(i).lines())
-            rows.push_back({line.sourceLine(), i, line.line()});
-    }
-    std::ranges::stable_sort(rows, {}, &Row::sourceLine);
-    return rows;
-}
-
-QByteArray reasonCells(const Row &row, const QHash<int, LineReason> &reasons)
+QByteArray reasonCells(const MappingRow &row, const QHash<int, LineReason> &reasons)
 {
     const auto reason = row.entry.getState() == PRJMAPPING::ToCheck && !row.entry.getConflict() &&
                                 row.entry.getTargetLineId() != -1
@@ -53,7 +24,7 @@ QByteArray reasonCells(const Row &row, const QHash<int, LineReason> &reasons)
                             : reasons.cend();
     if (reason == reasons.cend())
         return ",,";
-    return ',' + QByteArray::number(reason->probability, 'f', 4) + ',' + cell(reason->reason);
+    return ',' + QByteArray::number(reason->probability, 'f', 4) + ',' + csvCell(reason->reason);
 }
 
 void appendMapping(QByteArray &out, const PrjMappingC &mapping,
@@ -62,16 +33,16 @@ void appendMapping(QByteArray &out, const PrjMappingC &mapping,
     const QList<PrjMappingTargetC> targets = mapping.getTargets();
     QList<QByteArray> paths;
     for (const PrjMappingTargetC &target : targets)
-        paths << cell(target.getTargetPath());
+        paths << csvCell(target.getTargetPath());
     const QByteArray source =
-        cell(mapping.getSourcePath()) + ',' + cell(mapping.getSourceVersion());
-    for (const Row &row : rowsOf(targets)) {
+        csvCell(mapping.getSourcePath()) + ',' + csvCell(mapping.getSourceVersion());
+    for (const MappingRow &row : mappingRows(mapping)) {
         const int targetLine = row.entry.getTargetLineId();
         out += source + ',' + QByteArray::number(row.sourceLine) + ',' +
                (targetLine == -1 ? QByteArray() : paths.at(row.target)) + ',' +
                QByteArray::number(targetLine) + ',' +
                QByteArray::number(int(row.entry.getState())) + ',' +
-               (row.entry.getConflict() ? '1' : '0') + ',' + cell(row.entry.getExtended()) +
+               (row.entry.getConflict() ? '1' : '0') + ',' + csvCell(row.entry.getExtended()) +
                (reasons ? reasonCells(row, *reasons) : QByteArray()) + '\n';
     }
 }
