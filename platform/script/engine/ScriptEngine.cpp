@@ -22,38 +22,50 @@ namespace {
 /// by a hidden name.
 constexpr auto helpers = R"js((function() {
     const hidden = Symbol();
-    return {
-        wrap(object, title, methods, readable) {
-            const calls = Object.create(null);
-            const target = {};
-            for (const name of methods) {
-                calls[name] = (...values) => object.call(name, values);
-                target[name] = undefined;
-            }
+    // What the objects of a class have in common: the names alone, for those who look for them.
+    class Type {
+        constructor(title, methods, readable) {
+            this.text = () => title;
+            this.methods = new Set(methods);
+            this.target = {};
+            for (const name of methods)
+                this.target[name] = undefined;
             for (const name of readable) {
-                delete calls[name];
-                target[name] = undefined;
+                this.methods.delete(name);
+                this.target[name] = undefined;
             }
-            const text = () => title;
-            return new Proxy(target, {
-                get(_, name) {
-                    if (name === hidden)
-                        return object;
-                    if (name in calls)
-                        return calls[name];
-                    if (name === "toString" || name === "toJSON")
-                        return text;
-                    if (typeof name !== "string" || name === "valueOf" || name === "then")
-                        return undefined;
-                    return object.read(name);
-                },
-                set(_, name, value) {
-                    object.write(String(name), value);
-                    return true;
-                },
-                has(_, name) { return Object.prototype.hasOwnProperty.call(target, name); }
-            });
-        },
+        }
+    }
+    class Handler {
+        constructor(object, type) {
+            this.object = object;
+            this.type = type;
+            this.calls = Object.create(null);
+        }
+        get(_, name) {
+            if (name === hidden)
+                return this.object;
+            if (this.type.methods.has(name)) {
+                const object = this.object;
+                if (!(name in this.calls))
+                    this.calls[name] = (...values) => object.call(name, values);
+                return this.calls[name];
+            }
+            if (name === "toString" || name === "toJSON")
+                return this.type.text;
+            if (typeof name !== "string" || name === "valueOf" || name === "then")
+                return undefined;
+            return this.object.read(name);
+        }
+        set(_, name, value) {
+            this.object.write(String(name), value);
+            return true;
+        }
+        has(target, name) { return Object.prototype.hasOwnProperty.call(target, name); }
+    }
+    return {
+        type(title, methods, readable) { return new Type(title, methods, readable); },
+        wrap(object, type) { return new Proxy(type.target, new Handler(object, type)); },
         find(value) { return value[hidden]; },
         globals(host, global) {
             const text = value => typeof value === "string" ? value : String(value);
@@ -396,10 +408,21 @@ QJSValue ScriptEngine::wrap(mzIUnknown *object)
         delete script;
         return {};
     }
+    return m_helpers.property(QStringLiteral("wrap")).call({known, typeOf(*script)});
+}
+
+QJSValue ScriptEngine::typeOf(const ScriptObject &object)
+{
+    const auto found = m_types.constFind(object.type());
+    if (found != m_types.constEnd())
+        return *found;
     const auto list = [this](const QStringList &names) {
         return m_engine.toScriptValue(names);
     };
-    return m_helpers.property(QStringLiteral("wrap"))
-        .call(
-            {known, script->title(), list(script->methods()), list(script->readableProperties())});
+    const QJSValue type =
+        m_helpers.property(QStringLiteral("type"))
+            .call({object.title(), list(object.methods()), list(object.readableProperties())});
+    if (!type.isError())
+        m_types.insert(object.type(), type);
+    return type;
 }

@@ -5,6 +5,7 @@
 #include <core/component/mzComVariantC.h>
 #include <core/message/PScriptException.h>
 
+#include <QHash>
 #include <QJSEngine>
 #include <QObject>
 #include <QStringList>
@@ -13,7 +14,9 @@
 #include <memory>
 #include <optional>
 
+class ScriptObject;
 class ScriptWatch;
+struct proxyMemberDescListS;
 
 /// Runs scripts that use the objects of the component model by their members' names, and hands the
 /// scripts' own objects to the model. Scripts have the language itself and the functions
@@ -100,11 +103,13 @@ private:
     class Run;
 
     [[nodiscard]] QJSValue wrap(mzIUnknown *object);
+    [[nodiscard]] QJSValue typeOf(const ScriptObject &object);
     static void dropCollected();
     [[nodiscard]] std::optional<PScriptException> stopException(const QString &file) const;
 
     QJSEngine m_engine;
     QJSValue m_helpers;
+    QHash<const proxyMemberDescListS *, QJSValue> m_types; ///< names, made once a class
     ScriptLimits m_limits;
     std::function<void(const QString &)> m_printer;
     std::function<void()> m_breath;

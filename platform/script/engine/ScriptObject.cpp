@@ -33,10 +33,14 @@ ScriptObject::~ScriptObject()
         m_proxy->releaseRemoteConnection();
 }
 
+const proxyMemberDescListS *ScriptObject::type() const
+{
+    return m_proxy ? m_proxy->getProxyTypeInfo() : nullptr;
+}
+
 QString ScriptObject::title() const
 {
-    const QString name = m_proxy ? QString::fromUtf8(m_proxy->getProxyTypeInfo()->className)
-                                 : QStringLiteral("object");
+    const QString name = m_proxy ? QString::fromUtf8(type()->className) : QStringLiteral("object");
     return QStringLiteral("[%1]").arg(name);
 }
 
@@ -53,9 +57,8 @@ QStringList ScriptObject::readableProperties() const
 QStringList ScriptObject::names(int kind) const
 {
     QStringList result;
-    for (const auto *type = m_proxy ? m_proxy->getProxyTypeInfo() : nullptr; type;
-         type = type->base) {
-        for (const proxyMemberDescS &member : type->members) {
+    for (const auto *each = type(); each; each = each->base) {
+        for (const proxyMemberDescS &member : each->members) {
             if (member.kind == kind)
                 result.append(QString::fromUtf8(member.name));
         }

@@ -21,6 +21,8 @@ public:
     ~ScriptObject() override;
 
     [[nodiscard]] mzIUnknown *object() const { return m_object.iface(); }
+    /// Null of an object that is no proxy.
+    [[nodiscard]] const proxyMemberDescListS *type() const;
     /// As the script shows it.
     [[nodiscard]] QString title() const;
     /// Names that are known beforehand; none of an object that is no proxy.
