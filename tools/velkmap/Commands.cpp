@@ -5,6 +5,7 @@
 #include "ExplainCommand.h"
 #include "ExportCommand.h"
 #include "ImportCommand.h"
+#include "MergeCommand.h"
 #include "ReviewCommand.h"
 #include "RunCommand.h"
 #include "SearchCommand.h"
@@ -42,6 +43,7 @@ const QList<Command> &commands()
         {"import", "makes a catalog of a folder tree of CSV tables", runImport},
         {"create", "writes a release mapping with the targets of each old project", runCreate},
         {"assign", "assigns the lines of a release mapping", runAssign},
+        {"merge", "merges two changed copies of a mapping file", runMerge},
         {"stats", "counts the lines by their state", runStats},
         {"export", "writes a release mapping as a CSV file", runExport},
         {"review", "groups the open lines by how they differ from their proposals", runReview},

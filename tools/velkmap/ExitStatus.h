@@ -11,6 +11,7 @@ enum class ExitStatus {
     InputUnreadable = 2,
     ResultUnwritable = 3,
     NothingFound = 4,
+    Clashes = 4,
     IndexBuilding = 5,
     ScriptFailed = 6,
     Interrupted = 130, ///< by Ctrl+C; what was done is kept
@@ -28,7 +29,7 @@ inline constexpr std::array<ExitStatusText, 8> exitStatusTexts{{
     {ExitStatus::WrongUsage, "wrong usage"},
     {ExitStatus::InputUnreadable, "input could not be read; all other work is done"},
     {ExitStatus::ResultUnwritable, "the result could not be written, or somebody else works on it"},
-    {ExitStatus::NothingFound, "search: nothing was found"},
+    {ExitStatus::NothingFound, "search: nothing was found; merge: both sides decided differently"},
     {ExitStatus::IndexBuilding,
      "search: the index is not complete yet; what it has so far was searched"},
     {ExitStatus::ScriptFailed, "run: the script failed, or ran into a limit"},

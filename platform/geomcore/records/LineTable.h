@@ -251,6 +251,8 @@ public:
     /// nothing for the pages that both share, as a table and its changed copy do.
     [[nodiscard]] static std::vector<LineDifference> differences(const LineTable &before,
                                                                  const LineTable &after);
+    /// Whether there are none; ends at the first one.
+    [[nodiscard]] static bool isSame(const LineTable &a, const LineTable &b);
     /// Their ids only.
     [[nodiscard]] static std::vector<int> changedLines(const LineTable &before,
                                                        const LineTable &after);

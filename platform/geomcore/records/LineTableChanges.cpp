@@ -103,3 +103,20 @@ std::vector<int> LineTable::changedLines(const LineTable &before, const LineTabl
     });
     return changed;
 }
+
+bool LineTable::isSame(const LineTable &a, const LineTable &b)
+{
+    if (!(a.counts() == b.counts()))
+        return false;
+    Iterator x = a.begin();
+    Iterator y = b.begin();
+    while (x && y) {
+        if (Iterator::skipShared(x, y))
+            continue;
+        if (x.sourceLine() != y.sourceLine() || !areSame(x, y))
+            return false;
+        ++x;
+        ++y;
+    }
+    return !x && !y;
+}

@@ -196,6 +196,11 @@ void PrjMappingTargetC::clearConditions()
     d->proposedRules = false;
 }
 
+void PrjMappingTargetC::takeConditions(const PrjMappingTargetC &from)
+{
+    d->conditions = from.d->conditions;
+}
+
 bool PrjMappingTargetC::conditionsHold(const QHash<QString, MapVarValueC> &varset) const
 {
     return allHold(d->conditions, varset);
@@ -221,6 +226,11 @@ void PrjMappingTargetC::clearModifier()
 {
     d->modifiers.clear();
     d->proposedRules = false;
+}
+
+void PrjMappingTargetC::takeModifiers(const PrjMappingTargetC &from)
+{
+    d->modifiers = from.d->modifiers;
 }
 
 bool PrjMappingTargetC::hasProposedRules() const

@@ -76,6 +76,8 @@ public:
     /// Takes ownership; null is ignored.
     void addCondition(const VarsetConditionI *condition);
     void clearConditions();
+    /// Replaces them by those of another target, which are shared.
+    void takeConditions(const PrjMappingTargetC &from);
     /// Whether all conditions hold for the values; without conditions they do.
     [[nodiscard]] bool conditionsHold(const QHash<QString, MapVarValueC> &varset) const;
     [[nodiscard]] bool conditionsHold(const VKTab::LineView &line) const;
@@ -85,6 +87,8 @@ public:
     /// Takes ownership; null is ignored.
     void addModifier(const VarsetModifierI *modifier);
     void clearModifier();
+    /// Replaces them by those of another target, which are shared.
+    void takeModifiers(const PrjMappingTargetC &from);
     /// Conditions and modifiers are the program's proposal, and nobody has changed them since. As
     /// long as no line of the target is confirmed, nothing is certain because of them.
     [[nodiscard]] bool hasProposedRules() const;

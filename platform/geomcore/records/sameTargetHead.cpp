@@ -40,9 +40,32 @@ bool sameTargetHead(const PrjMappingTargetC &a, const PrjMappingTargetC &b)
 {
     return a.getTargetPath() == b.getTargetPath() && a.getTargetVersion() == b.getTargetVersion() &&
            a.getTabVersion() == b.getTabVersion() && a.isValid() == b.isValid() &&
-           a.hasProposedRules() == b.hasProposedRules() &&
-           sameTexts(a.getConditions(), b.getConditions()) &&
-           sameTexts(a.getVarsetModifier(), b.getVarsetModifier());
+           a.hasProposedRules() == b.hasProposedRules() && sameConditions(a, b) &&
+           sameModifiers(a, b);
+}
+
+bool sameConditions(const PrjMappingTargetC &a, const PrjMappingTargetC &b)
+{
+    return sameTexts(a.getConditions(), b.getConditions());
+}
+
+bool sameModifiers(const PrjMappingTargetC &a, const PrjMappingTargetC &b)
+{
+    return sameTexts(a.getVarsetModifier(), b.getVarsetModifier());
+}
+
+bool sameMapping(const PrjMappingC &a, const PrjMappingC &b)
+{
+    if (a.getSourcePath() != b.getSourcePath() || a.getSourceVersion() != b.getSourceVersion() ||
+        a.getTabVersion() != b.getTabVersion() || a.getMappingState() != b.getMappingState() ||
+        a.countTargets() != b.countTargets())
+        return false;
+    for (int i = 0; i < a.countTargets(); ++i) {
+        if (!sameTargetHead(a.targetAt(i), b.targetAt(i)) ||
+            !LineTable::isSame(a.targetAt(i).lines(), b.targetAt(i).lines()))
+            return false;
+    }
+    return true;
 }
 
 bool sameTargetHeads(const PrjMappingC &a, const PrjMappingC &b)
