@@ -8,8 +8,16 @@
         <translation>  Zeile %1</translation>
     </message>
     <message>
+        <source>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</source>
+        <translation>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 gibt es in Revision %2 nicht</translation>
+    </message>
+    <message>
+        <source>%1 ist die Datenbank eines anderen Programms</source>
+        <translation>%1 ist die Datenbank eines anderen Programms</translation>
     </message>
     <message>
         <source>%1 weitere</source>
@@ -18,6 +26,10 @@
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>Abgebrochen</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -50,6 +62,10 @@
     <message>
         <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
         <translation>Das Repository %1 verlangt eine Anmeldung: %2</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</source>
+        <translation>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -116,6 +132,10 @@
         <translation>Der Text, in dem der Ersatz überall steht, wo der gesuchte Text stand.</translation>
     </message>
     <message>
+        <source>Der Treiber %1 für die Linkdatenbank fehlt</source>
+        <translation>Der Treiber %1 für die Linkdatenbank fehlt</translation>
+    </message>
+    <message>
         <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
         <translation>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</translation>
     </message>
@@ -144,12 +164,40 @@
         <translation>Der zweite Wert, wenn der Vergleich gilt, sonst der dritte.</translation>
     </message>
     <message>
+        <source>Die Anweisung enthält ein Nullzeichen</source>
+        <translation>Die Anweisung enthält ein Nullzeichen</translation>
+    </message>
+    <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>Die Anzahl der Zeichen des Textes.</translation>
     </message>
     <message>
+        <source>Die Datenbank nennt keinen Grund</source>
+        <translation>Die Datenbank nennt keinen Grund</translation>
+    </message>
+    <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
         <translation>Die Funktion %1 ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</source>
+        <translation>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
+        <translation>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 ist keine Datei</source>
+        <translation>Die Linkdatenbank %1 ist keine Datei</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</source>
+        <translation>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank arbeitet</source>
+        <translation>Die Linkdatenbank arbeitet</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
@@ -168,10 +216,18 @@
         <translation>Die Stelle, von 1 an, an der der gesuchte Text im Text zum ersten Mal steht; 0, wenn er nicht darin steht.</translation>
     </message>
     <message>
+        <source>Die Tabelle %1 gibt es in der Linkdatenbank nicht</source>
+        <translation>Die Tabelle %1 gibt es in der Linkdatenbank nicht</translation>
+    </message>
+    <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
         <translation>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</translation>
+    </message>
+    <message>
+        <source>Die Tabellen der Linkdatenbank %1 können nicht angelegt oder auf den neuesten Stand gebracht werden: %2</source>
+        <translation>Die Tabellen der Linkdatenbank %1 können nicht angelegt oder auf den neuesten Stand gebracht werden: %2</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
@@ -180,6 +236,18 @@
     <message>
         <source>Die Variable %1 ist nicht bekannt</source>
         <translation>Die Variable %1 ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Linkdatenbank %1 besteht wieder</source>
+        <translation>Die Verbindung zur Linkdatenbank %1 besteht wieder</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</source>
+        <translation>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</source>
+        <translation>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -210,6 +278,10 @@
         <translation>Die Zielzeile ist schon für eine andere Zeile bestätigt.</translation>
     </message>
     <message>
+        <source>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</source>
+        <translation>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</translation>
+    </message>
+    <message>
         <source>Die größte der Zahlen.</source>
         <translation>Die größte der Zahlen.</translation>
     </message>
@@ -230,6 +302,18 @@
         <translation>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</translation>
+    </message>
+    <message>
+        <source>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</source>
+        <translation>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</translation>
+    </message>
+    <message>
+        <source>Die Änderungen waren schon festgeschrieben</source>
+        <translation>Die Änderungen waren schon festgeschrieben</translation>
+    </message>
+    <message>
+        <source>ERP-Nummer</source>
+        <translation>ERP-Nummer</translation>
     </message>
     <message>
         <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
@@ -264,8 +348,24 @@
         <translation>Erwartet wird eine Zuweisung an die Variable %1</translation>
     </message>
     <message>
+        <source>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</source>
+        <translation>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</translation>
+    </message>
+    <message>
+        <source>Es ist keine Linkdatenbank eingestellt</source>
+        <translation>Es ist keine Linkdatenbank eingestellt</translation>
+    </message>
+    <message>
+        <source>Es ist keine Linkdatenbank verbunden.</source>
+        <translation>Es ist keine Linkdatenbank verbunden.</translation>
+    </message>
+    <message>
         <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
         <translation>Falsche Anzahl von Argumenten für die Funktion %1</translation>
+    </message>
+    <message>
+        <source>Fehler der Linkdatenbank: %1</source>
+        <translation>Fehler der Linkdatenbank: %1</translation>
     </message>
     <message>
         <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
@@ -278,6 +378,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Hier wird ein Wert erwartet, kein Vergleich</translation>
+    </message>
+    <message>
+        <source>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</source>
+        <translation>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</translation>
     </message>
     <message>
         <source>Keine Antwort von %1 in %2 s</source>
@@ -420,6 +524,10 @@
     <message>
         <source>so in %1 weiteren Zeilen</source>
         <translation>so in %1 weiteren Zeilen</translation>
+    </message>
+    <message>
+        <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
+        <translation>sslmode "%1" gibt es nicht; möglich sind: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>

@@ -8,8 +8,16 @@
         <translation>  Satır %1</translation>
     </message>
     <message>
+        <source>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1, %2 sürümünde yok</translation>
+    </message>
+    <message>
+        <source>%1 ist die Datenbank eines anderen Programms</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 weitere</source>
@@ -18,6 +26,10 @@
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Bu makinede bulunduğu ölçüde %2 sürümü okunuyor.</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -50,6 +62,10 @@
     <message>
         <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
         <translation>%1 deposu oturum açılmasını istiyor: %2</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -116,6 +132,10 @@
         <translation>The text with the replacement wherever the text looked for was.</translation>
     </message>
     <message>
+        <source>Der Treiber %1 für die Linkdatenbank fehlt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
         <translation>The value as a text, a number with so many decimals; without decimals as it is.</translation>
     </message>
@@ -144,12 +164,40 @@
         <translation>The second value if the comparison holds, else the third.</translation>
     </message>
     <message>
+        <source>Die Anweisung enthält ein Nullzeichen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
     </message>
     <message>
+        <source>Die Datenbank nennt keinen Grund</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
         <translation>%1 işlevi bilinmiyor</translation>
+    </message>
+    <message>
+        <source>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 ist keine Datei</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank arbeitet</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
@@ -168,10 +216,18 @@
         <translation>The place, counted from 1, at which the text looked for first stands in the text; 0 if it does not.</translation>
     </message>
     <message>
+        <source>Die Tabelle %1 gibt es in der Linkdatenbank nicht</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
   Projekt: %1</source>
         <translation>Hedef projenin tablosu okunamadı.
   Proje: %1</translation>
+    </message>
+    <message>
+        <source>Die Tabellen der Linkdatenbank %1 können nicht angelegt oder auf den neuesten Stand gebracht werden: %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
@@ -180,6 +236,18 @@
     <message>
         <source>Die Variable %1 ist nicht bekannt</source>
         <translation>%1 değişkeni bilinmiyor</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Linkdatenbank %1 besteht wieder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -210,6 +278,10 @@
         <translation>Hedef satır zaten başka bir satır için onaylandı.</translation>
     </message>
     <message>
+        <source>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Die größte der Zahlen.</source>
         <translation>The largest of the numbers.</translation>
     </message>
@@ -230,6 +302,18 @@
         <translation>Atanan satır hedef tabloda yok.
   Proje: %1
   Satır: %2</translation>
+    </message>
+    <message>
+        <source>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Änderungen waren schon festgeschrieben</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ERP-Nummer</source>
+        <translation>ERP numarası</translation>
     </message>
     <message>
         <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
@@ -264,8 +348,24 @@
         <translation>%1 değişkenine atama bekleniyor</translation>
     </message>
     <message>
+        <source>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es ist keine Linkdatenbank eingestellt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es ist keine Linkdatenbank verbunden.</source>
+        <translation>Bağlı bir bağlantı veritabanı yok.</translation>
+    </message>
+    <message>
         <source>Falsche Anzahl von Argumenten für die Funktion %1</source>
         <translation>%1 işlevi için bağımsız değişken sayısı yanlış</translation>
+    </message>
+    <message>
+        <source>Fehler der Linkdatenbank: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
@@ -278,6 +378,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Burada karşılaştırma değil, değer bekleniyor</translation>
+    </message>
+    <message>
+        <source>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Keine Antwort von %1 in %2 s</source>
@@ -420,6 +524,10 @@
     <message>
         <source>so in %1 weiteren Zeilen</source>
         <translation>diğer %1 satırda da böyle</translation>
+    </message>
+    <message>
+        <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>verschieden: %1</source>

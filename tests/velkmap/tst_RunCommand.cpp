@@ -1,5 +1,6 @@
 #include "../support/TestCatalog.h"
 
+#include <geomcore/linkdb/PLinkDbC.h>
 #include <geomcore/records/MappingFile.h>
 #include <TestPaths.h>
 #include <tools/velkmap/Commands.h>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void usage_data();
     void usage();
     void outputs();
+    void linkDatabase();
     void interrupted();
 
 private:
@@ -142,6 +144,45 @@ void tst_RunCommand::outputs()
     QCOMPARE(run({path("test.js"), "--output", path("o.csv")}), ExitStatus::ScriptFailed);
     file.seek(0);
     QCOMPARE(file.readAll(), QByteArray("1,\"a,b\"\n"));
+}
+
+void tst_RunCommand::linkDatabase()
+{
+    {
+        PLinkDbC linkDb;
+        QVERIFY(linkDb.open(LinkDbSettings::fromText(path("links.db"))));
+        PLinkDbRecordC record = linkDb.createRecord("plm_document");
+        record.setValue("PRJ_PATH", "cat/a.prj");
+        record.setValue("LINE_ID", 1);
+        record.setValue("PDMID1", "47,11");
+        QVERIFY(linkDb.executeInsertStatement(
+            linkDb.createSqlStatement("plm_document", record, false)));
+    }
+    m_catalog.writeFile(
+        "test.js", "print(velk.hasLinkDb);\n"
+                   "const n = velk.erpNumbers('cat/a.prj');\n"
+                   "print(n.lineCount, n.lineAt(0), n.lineAt(1), n.numbersOf(1), n.numbersOf(2));\n"
+                   "const db = createObject('tmvtools.linkdb'); print(db.codeV(\"it's\", true))");
+    QCOMPARE(run({path("test.js"), "--linkdb", path("links.db")}), ExitStatus::Done);
+    QCOMPARE(m_out, QString("true\n1 1 -1 47,11 \n'it''s'\n"));
+    QCOMPARE(run({path("test.js")}), ExitStatus::ScriptFailed);
+    QCOMPARE(m_out, QString("false\n"));
+    QCOMPARE(m_err, QString("velkmap run: " + path("test.js") +
+                            ":2: Error: Es ist keine Linkdatenbank verbunden.\n"));
+    QCOMPARE(run({path("test.js"), "--linkdb", "postgresql://"}), ExitStatus::WrongUsage);
+    QCOMPARE(run({path("test.js"), "--linkdb", "/none/x.db"}), ExitStatus::InputUnreadable);
+    // In the export.
+    QString text;
+    QTextStream stream(&text);
+    QCOMPARE(velkmap::run({"export", "--mapping", path("m.json"), "--csv", path("e.csv"),
+                           "--linkdb", path("links.db")},
+                          stream, stream),
+             ExitStatus::Done);
+    QFile file(path("e.csv"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("source_path,source_version,source_line,target_path,"
+                                        "target_line,state,conflict,extended,erp_number\n"
+                                        "cat/a.prj,v1,1,cat/a.prj,2,1,0,,\"47,11\"\n"));
 }
 
 void tst_RunCommand::interrupted()

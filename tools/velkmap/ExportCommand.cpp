@@ -2,11 +2,13 @@
 
 #include "CatalogRoots.h"
 #include "CommandLine.h"
+#include "LinkDbOption.h"
 #include "ReleaseFile.h"
 
 #include <core/files/DurableFile.h>
 #include <core/parallel/WorkerPool.h>
 #include <geomcore/csv/csvCell.h>
+#include <geomcore/erp/LinkDbErpNumbers.h>
 #include <geomcore/records/MappingRows.h>
 #include <release/pattern/OpenPairs.h>
 
@@ -28,7 +30,7 @@ QByteArray reasonCells(const MappingRow &row, const QHash<int, LineReason> &reas
 }
 
 void appendMapping(QByteArray &out, const PrjMappingC &mapping,
-                   const QHash<int, LineReason> *reasons)
+                   const QHash<int, LineReason> *reasons, const QHash<int, QString> *numbers)
 {
     const QList<PrjMappingTargetC> targets = mapping.getTargets();
     QList<QByteArray> paths;
@@ -43,7 +45,8 @@ void appendMapping(QByteArray &out, const PrjMappingC &mapping,
                QByteArray::number(targetLine) + ',' +
                QByteArray::number(int(row.entry.getState())) + ',' +
                (row.entry.getConflict() ? '1' : '0') + ',' + csvCell(row.entry.getExtended()) +
-               (reasons ? reasonCells(row, *reasons) : QByteArray()) + '\n';
+               (reasons ? reasonCells(row, *reasons) : QByteArray()) +
+               (numbers ? ',' + csvCell(numbers->value(row.sourceLine)) : QByteArray()) + '\n';
     }
 }
 
@@ -66,6 +69,24 @@ LineReasons reasonsOf(const ReleaseMappingC &release, const QString &sourceRoot,
     return reasons;
 }
 
+/// Nothing if the link database cannot be read; then the message says why.
+std::optional<LineNumbers> numbersOf(const ReleaseMappingC &release, QTextStream &err)
+{
+    LinkDbErpNumbers source;
+    LineNumbers numbers(size_t(release.countMappings()));
+    for (int i = 0; i < release.countMappings(); ++i) {
+        QString error;
+        const auto read = source.numbersOf(release.mappingAt(i).getSourcePath(), {}, &error);
+        if (!read) {
+            err << "velkmap export: " << error << '\n';
+            return std::nullopt;
+        }
+        for (auto each = read->cbegin(); each != read->cend(); ++each)
+            numbers[size_t(i)].insert(each.key().value(0), erpNumberText(each.value()));
+    }
+    return numbers;
+}
+
 ExitStatus save(const QString &path, const QByteArray &rows, QTextStream &err)
 {
     QString cause;
@@ -77,13 +98,16 @@ ExitStatus save(const QString &path, const QByteArray &rows, QTextStream &err)
 
 } // namespace
 
-QByteArray exportedRows(const ReleaseMappingC &release, const LineReasons *reasons)
+QByteArray exportedRows(const ReleaseMappingC &release, const LineReasons *reasons,
+                        const LineNumbers *numbers)
 {
     QByteArray out = "source_path,source_version,source_line,target_path,target_line,state,"
                      "conflict,extended";
-    out += reasons ? ",probability,reason\n" : "\n";
+    out += reasons ? ",probability,reason" : "";
+    out += numbers ? ",erp_number\n" : "\n";
     for (int i = 0; i < release.countMappings(); ++i)
-        appendMapping(out, release.mappingAt(i), reasons ? &(*reasons)[size_t(i)] : nullptr);
+        appendMapping(out, release.mappingAt(i), reasons ? &(*reasons)[size_t(i)] : nullptr,
+                      numbers ? &(*numbers)[size_t(i)] : nullptr);
     return out;
 }
 
@@ -98,13 +122,24 @@ ExitStatus runExport(const QStringList &arguments, QTextStream &out, QTextStream
     line.addFlag("reasons", "Adds the columns probability and reason for lines to be checked; "
                             "the catalogs are read for it.");
     CatalogRoots::addOptions(line);
+    LinkDbOption::add(line, " Given, the column\nerp_number has the numbers of the source lines.");
     if (const auto over = line.parse(arguments, out, err))
         return *over;
     ReleaseFile file;
     if (const auto failed = file.read(line, err))
         return *failed;
+    LinkDbOption linkDb;
+    if (const auto failed = linkDb.open(line, err))
+        return *failed;
+    std::optional<LineNumbers> numbers;
+    if (line.isSet("linkdb")) {
+        numbers = numbersOf(file.release(), err);
+        if (!numbers)
+            return ExitStatus::InputUnreadable;
+    }
+    const LineNumbers *const withNumbers = numbers ? &*numbers : nullptr;
     if (!line.isSet("reasons"))
-        return save(line.value("csv"), exportedRows(file.release()), err);
+        return save(line.value("csv"), exportedRows(file.release(), nullptr, withNumbers), err);
     CatalogRoots roots;
     if (const auto failed = roots.take(line, "export", err))
         return *failed;
@@ -112,7 +147,8 @@ ExitStatus runExport(const QStringList &arguments, QTextStream &out, QTextStream
     const LineReasons reasons = reasonsOf(file.release(), roots.source(), errors);
     for (const QString &error : std::as_const(errors))
         err << "velkmap export: " << error << '\n';
-    const ExitStatus saved = save(line.value("csv"), exportedRows(file.release(), &reasons), err);
+    const ExitStatus saved =
+        save(line.value("csv"), exportedRows(file.release(), &reasons, withNumbers), err);
     return saved == ExitStatus::Done && !errors.isEmpty() ? ExitStatus::InputUnreadable : saved;
 }
 

@@ -2,6 +2,7 @@
 
 #include "CommandLine.h"
 #include "InterruptGuard.h"
+#include "LinkDbOption.h"
 #include "ReleaseFile.h"
 
 #include <script/run/ScriptSession.h>
@@ -98,6 +99,7 @@ ExitStatus runScript(const QStringList &arguments, QTextStream &out, QTextStream
     line.addOptional("time-limit", "SECONDS",
                      "Ends a script that takes longer; reading of files does not count.");
     line.addOptional("memory-limit", "MB", "Ends a script that takes more.", "4000");
+    LinkDbOption::add(line);
     line.addAllowed();
     if (const auto over = line.parse(arguments, out, err))
         return *over;
@@ -108,6 +110,9 @@ ExitStatus runScript(const QStringList &arguments, QTextStream &out, QTextStream
     if (const auto over = readLimits(line, limits, err))
         return *over;
     line.takeAllowed();
+    LinkDbOption linkDb;
+    if (const auto over = linkDb.open(line, err))
+        return *over;
     ScriptSession session;
     if (const auto over = prepare(line, session, err))
         return *over;

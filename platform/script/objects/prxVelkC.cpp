@@ -5,6 +5,7 @@
 #include <core/component/mzComExceptionC.h>
 #include <core/component/proxyMember.h>
 #include <core/Version.h>
+#include <geomcore/erp/LinkDbErpNumbers.h>
 #include <geomcore/records/MappingFile.h>
 
 namespace {
@@ -61,6 +62,20 @@ ProxyPtrT<VKTab::proxyTableC> prxVelkC::openTable(const QString &projectFile) co
     return readScriptTable({}, projectFile);
 }
 
+bool prxVelkC::hasLinkDb() const
+{
+    return PLinkDbC::instance()->isOpen();
+}
+
+ProxyPtrT<prxErpNumbersC> prxVelkC::erpNumbers(const QString &projectPath) const
+{
+    QString error;
+    const auto numbers = LinkDbErpNumbers().numbersOf(projectPath, {}, &error);
+    if (!numbers)
+        fail(error);
+    return ProxyPtrT<prxErpNumbersC>(new prxErpNumbersC(*numbers));
+}
+
 const proxyMemberDescListS *prxVelkC::getProxyTypeInfo() const
 {
     return getStaticProxyTypeInfo();
@@ -73,6 +88,8 @@ const proxyMemberDescListS *prxVelkC::getStaticProxyTypeInfo()
         proxyMethod<&prxVelkC::openMapping>("openMapping"),
         proxyMethod<&prxVelkC::openRelease>("openRelease"),
         proxyMethod<&prxVelkC::openTable>("openTable"),
+        proxyPropertyRead<&prxVelkC::hasLinkDb>("hasLinkDb"),
+        proxyMethod<&prxVelkC::erpNumbers>("erpNumbers"),
     };
     static const proxyMemberDescListS description{.className = "prxVelkC",
                                                   .base = proxyObjectC::getStaticProxyTypeInfo(),

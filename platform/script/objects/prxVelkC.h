@@ -1,5 +1,6 @@
 #pragma once
 
+#include "prxErpNumbersC.h"
 #include "prxReleaseMappingC.h"
 
 /// What scripts begin with: the version, and files to read.
@@ -20,6 +21,10 @@ public:
                                                             const QString &targetRoot) const;
     /// The table of a project file.
     [[nodiscard]] ProxyPtrT<VKTab::proxyTableC> openTable(const QString &projectFile) const;
+    /// A link database is connected.
+    [[nodiscard]] bool hasLinkDb() const;
+    /// The ERP numbers of a project by its catalog path, from the link database of the process.
+    [[nodiscard]] ProxyPtrT<prxErpNumbersC> erpNumbers(const QString &projectPath) const;
 
 private:
     ~prxVelkC() override;

@@ -1,0 +1,8 @@
+#include "ErpNumberSourceI.h"
+
+ErpNumberSourceI::~ErpNumberSourceI() = default;
+
+QString erpNumberText(const QStringList &numbers)
+{
+    return numbers.join(QLatin1StringView("; "));
+}
