@@ -20,7 +20,7 @@ namespace {
 
 constexpr int busyMs = 50;                   ///< the driver's own wait for a lock
 constexpr std::chrono::seconds patience{10}; ///< all waits for a lock of a file
-constexpr int commitLooks = 50;              ///< at a commit whose answer was lost
+constexpr int commitLooks = 20;              ///< at a commit whose answer was lost
 constexpr int commitLookMs = 100;
 
 QString nextConnection()
@@ -125,6 +125,8 @@ bool LinkDbConnection::connectNow()
     m_open = connection.open();
     if (!m_open) {
         const QSqlError error = connection.lastError();
+        connection = QSqlDatabase();
+        disconnectNow();
         const QString why = error.databaseText().trimmed();
         return fail(PString::translate("Die Linkdatenbank %1 kann nicht geöffnet werden: %2",
                                        "VelkGeomCore")
@@ -134,7 +136,8 @@ bool LinkDbConnection::connectNow()
     if (!isPostgreSQL())
         return true;
     Result who;
-    if (run(QStringLiteral("SELECT current_user, pg_backend_pid()"), &who) && !who.rows.isEmpty()) {
+    if (run(QStringLiteral("SET client_min_messages = warning")) &&
+        run(QStringLiteral("SELECT current_user, pg_backend_pid()"), &who) && !who.rows.isEmpty()) {
         m_userName = who.rows.first().value(0).toString();
         m_backend = who.rows.first().value(1).toLongLong();
         return true;
@@ -310,7 +313,8 @@ bool LinkDbConnection::changeAll(const std::function<bool()> &statements)
     if (!ready())
         return false;
     const bool opened = !m_pending;
-    if (!begin())
+    // A server that was restarted since: nothing is begun yet, so nothing can be written twice.
+    if (!begin() && !(m_error.lost && ready() && begin()))
         return false;
     if (inSavepoint(statements)) {
         ++m_pendingStatements;
@@ -336,6 +340,17 @@ bool LinkDbConnection::change(const QString &sql, qint64 *changed)
     });
 }
 
+/// Reading may be done twice if the connection was lost and no changes went with it.
+bool LinkDbConnection::readAgain(const QString &sql, Result &result)
+{
+    if (run(sql, &result))
+        return true;
+    if (!m_error.lost || m_lostChanges > 0 || !ready())
+        return false;
+    result = {};
+    return run(sql, &result);
+}
+
 bool LinkDbConnection::select(const QString &sql, Result &result)
 {
     m_error = {};
@@ -343,7 +358,7 @@ bool LinkDbConnection::select(const QString &sql, Result &result)
         return false;
     // An error inside of a transaction would make PostgreSQL refuse all that follows.
     const bool done = m_pending && isPostgreSQL() ? inSavepoint([&] { return run(sql, &result); })
-                                                  : run(sql, &result);
+                                                  : readAgain(sql, result);
     if (!done || isPostgreSQL())
         return done;
     if (const auto table = tableOfStar(sql)) {
@@ -401,10 +416,15 @@ bool LinkDbConnection::outcomeOfCommit()
             m_error = {};
             return true;
         }
-        break;
+        m_error = error;
+        return false;
     }
     m_lostChanges = 0;
     m_error = error;
+    m_error.text = PString::translate("%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: "
+                                      "vor einer Wiederholung nachsehen.",
+                                      "VelkGeomCore")
+                       .arg(error.text);
     return false;
 }
 

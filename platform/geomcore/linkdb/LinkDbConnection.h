@@ -88,6 +88,7 @@ private:
     [[nodiscard]] bool isLost(const QSqlError &error);
     [[nodiscard]] bool execute(QSqlQuery &query, const QString &sql);
     [[nodiscard]] bool inSavepoint(const std::function<bool()> &statements);
+    [[nodiscard]] bool readAgain(const QString &sql, Result &result);
     [[nodiscard]] bool outcomeOfCommit();
 
     LinkDbSettings m_settings;

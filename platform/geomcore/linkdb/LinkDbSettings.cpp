@@ -105,7 +105,10 @@ QString LinkDbSettings::toText() const
         query.addQueryItem(QStringLiteral("sslmode"), sslMode);
     if (!query.isEmpty())
         url.setQuery(query);
-    return url.toString(QUrl::FullyEncoded);
+    const QString text = url.toString(QUrl::FullyEncoded);
+    // Without a host QUrl writes no "//".
+    const QString scheme = QStringLiteral("postgresql:/");
+    return url.host().isEmpty() ? scheme + QStringLiteral("//") + text.mid(scheme.size()) : text;
 }
 
 QString LinkDbSettings::displayName() const
