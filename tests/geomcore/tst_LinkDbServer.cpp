@@ -61,9 +61,10 @@ QStringList tablesOfVersion2(bool onServer)
 
 const QStringList &everyTable()
 {
-    static const QStringList names{"linkdb_meta",    "plm_document",     "plm_hierarchy",
-                                   "linkdb_group",   "linkdb_group_key", "linkdb_group_member",
-                                   "linkdb_deleted", "linkdb_line_link", "linkdb_link_project"};
+    static const QStringList names{
+        "linkdb_meta",      "plm_document",        "plm_hierarchy",  "linkdb_group",
+        "linkdb_group_key", "linkdb_group_member", "linkdb_deleted", "linkdb_link_target",
+        "linkdb_line_link", "linkdb_link_project"};
     return names;
 }
 
@@ -247,6 +248,7 @@ void tst_LinkDbServer::bringsUpToDate()
     const QString address = newAddress(onServer);
     {
         const PRefPtr<PLinkDbC> linkDb = opened(address);
+        QVERIFY(linkDb->executeInsertStatement("DROP VIEW linkdb_links"));
         for (const QString &table : everyTable())
             QVERIFY(linkDb->executeInsertStatement("DROP TABLE " + table));
         QStringList statements = version == 1 ? tablesOfVersion1() : tablesOfVersion2(onServer);
@@ -296,6 +298,7 @@ void tst_LinkDbServer::refusesForeignFile()
     const QString name = m_folder->filePath("link.db");
     {
         const PRefPtr<PLinkDbC> linkDb = opened(name);
+        QVERIFY(linkDb->executeInsertStatement("DROP VIEW linkdb_links"));
         for (const QString &table : everyTable())
             QVERIFY(linkDb->executeInsertStatement("DROP TABLE " + table));
         QVERIFY(linkDb->executeInsertStatement("CREATE TABLE something(x TEXT)"));

@@ -23,14 +23,25 @@ void LinkDbOption::add(CommandLine &line, const QString &more)
             more);
 }
 
+std::optional<ExitStatus> LinkDbOption::read(const CommandLine &line, LinkDbSettings &settings,
+                                             QTextStream &err)
+{
+    if (!line.isSet("linkdb"))
+        return line.wrongUsage("--linkdb is missing", err);
+    QString problem;
+    settings = LinkDbSettings::fromText(line.value("linkdb"), &problem);
+    if (settings.kind == LinkDbSettings::Kind::None)
+        return line.wrongUsage("--linkdb: " + problem, err);
+    return std::nullopt;
+}
+
 std::optional<ExitStatus> LinkDbOption::open(const CommandLine &line, QTextStream &err)
 {
     if (!line.isSet("linkdb"))
         return std::nullopt;
-    QString problem;
-    const LinkDbSettings settings = LinkDbSettings::fromText(line.value("linkdb"), &problem);
-    if (settings.kind == LinkDbSettings::Kind::None)
-        return line.wrongUsage("--linkdb: " + problem, err);
+    LinkDbSettings settings;
+    if (const auto failed = read(line, settings, err))
+        return failed;
     const PRefPtr<PLinkDbC> linkDb(new PLinkDbC);
     if (!linkDb->open(settings)) {
         err << "velkmap: " << linkDb->lastError().text << '\n';

@@ -114,13 +114,19 @@ bool LinkDbConnection::connectNow()
         if ((info.exists() || info.isSymLink()) && !info.isFile())
             return fail(PString::translate("Die Linkdatenbank %1 ist keine Datei", "VelkGeomCore")
                             .arg(info.filePath()));
-        if (!QDir().mkpath(info.absolutePath()))
+        if (m_settings.readOnly && !info.exists())
+            return fail(PString::translate("Die Linkdatenbank %1 gibt es nicht", "VelkGeomCore")
+                            .arg(info.filePath()));
+        if (!m_settings.readOnly && !QDir().mkpath(info.absolutePath()))
             return fail(PString::translate("Das Verzeichnis der Linkdatenbank %1 kann nicht "
                                            "angelegt werden",
                                            "VelkGeomCore")
                             .arg(info.filePath()));
         connection.setDatabaseName(info.absoluteFilePath());
-        connection.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyMs));
+        connection.setConnectOptions(
+            QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1%2")
+                .arg(QString::number(busyMs),
+                     m_settings.readOnly ? QStringLiteral(";QSQLITE_OPEN_READONLY") : QString()));
     }
     m_open = connection.open();
     if (!m_open) {
@@ -136,7 +142,9 @@ bool LinkDbConnection::connectNow()
     if (!isPostgreSQL())
         return true;
     Result who;
+    const QString mode = m_settings.readOnly ? QStringLiteral("on") : QStringLiteral("off");
     if (run(QStringLiteral("SET client_min_messages = warning")) &&
+        run(QStringLiteral("SET default_transaction_read_only = ") + mode) &&
         run(QStringLiteral("SELECT current_user, pg_backend_pid()"), &who) && !who.rows.isEmpty()) {
         m_userName = who.rows.first().value(0).toString();
         m_backend = who.rows.first().value(1).toLongLong();
@@ -193,6 +201,8 @@ bool LinkDbConnection::isLost(const QSqlError &error)
         return true;
     if (!state.isEmpty())
         return false;
+    if (!database().isOpen()) // the driver has seen it
+        return true;
     QSqlQuery ping(database());
     return !ping.exec(QStringLiteral("SELECT 1"));
 }

@@ -45,14 +45,18 @@ constexpr Step Steps[] = {
     {2, "CREATE TABLE linkdb_deleted(id %I, deleted_at TEXT, user_name TEXT, batch TEXT, "
         "table_name TEXT, row_values TEXT)"},
     {2, "CREATE INDEX linkdb_deleted_batch ON linkdb_deleted(batch)"},
-    {3, "CREATE TABLE linkdb_line_link(release_date TEXT, source_path TEXT, source_version TEXT, "
-        "source_line INTEGER, target_path TEXT, target_version TEXT, target_line INTEGER, "
-        "target_date TEXT, extended_text TEXT)"},
-    {3, "CREATE INDEX linkdb_line_link_source ON linkdb_line_link %H(source_path)"},
-    {3, "CREATE INDEX linkdb_line_link_target ON linkdb_line_link %H(target_path)"},
-    {3, "CREATE TABLE linkdb_link_project(release_date TEXT, source_path TEXT, "
-        "source_version TEXT, fingerprint TEXT, links INTEGER, written_at TEXT, user_name TEXT)"},
-    {3, "CREATE INDEX linkdb_link_project_source ON linkdb_link_project %H(source_path)"},
+    {3, "CREATE TABLE linkdb_link_project(id BIGINT PRIMARY KEY, release_date TEXT, "
+        "source_path TEXT, source_version TEXT, source_table_version TEXT, fingerprint TEXT, "
+        "links INTEGER, written_at TEXT, user_name TEXT)"},
+    {3, "CREATE TABLE linkdb_link_target(id BIGINT PRIMARY KEY, target_path TEXT, "
+        "target_version TEXT, target_table_version TEXT, target_date TEXT)"},
+    {3, "CREATE TABLE linkdb_line_link(project_id BIGINT, source_line INTEGER, target_id BIGINT, "
+        "target_line INTEGER, extended_text TEXT, PRIMARY KEY(project_id, source_line))"},
+    {3, "CREATE VIEW linkdb_links AS SELECT p.release_date, p.source_path, p.source_version, "
+        "p.source_table_version, l.source_line, t.target_date, t.target_path, t.target_version, "
+        "t.target_table_version, l.target_line, l.extended_text FROM linkdb_line_link l "
+        "JOIN linkdb_link_project p ON p.id = l.project_id "
+        "LEFT JOIN linkdb_link_target t ON t.id = l.target_id"},
 };
 
 constexpr Step Grants[] = {
@@ -60,7 +64,8 @@ constexpr Step Grants[] = {
         "TO PUBLIC"},
     {1, "GRANT SELECT, INSERT, UPDATE, DELETE ON plm_document, plm_hierarchy TO PUBLIC"},
     {2, "GRANT SELECT, INSERT, DELETE ON linkdb_deleted TO PUBLIC"},
-    {3, "GRANT SELECT, INSERT, UPDATE, DELETE ON linkdb_line_link, linkdb_link_project TO PUBLIC"},
+    {3, "GRANT SELECT, INSERT, UPDATE, DELETE ON linkdb_line_link, linkdb_link_project, "
+        "linkdb_link_target, linkdb_links TO PUBLIC"},
 };
 
 QString forDatabase(const LinkDbConnection &connection, const char *statement)
@@ -144,6 +149,13 @@ bool LinkDbSchema::bringUpToDate(LinkDbConnection &connection, int version)
                      QString::number(version)));
     if (present == version)
         return true;
+    if (connection.settings().readOnly)
+        return connection.fail(
+            PString::translate("In %1 ist noch keine Linkdatenbank, oder eine älterer Form. Sie "
+                               "wird beim ersten Schreiben angelegt oder auf den neuesten Stand "
+                               "gebracht.",
+                               "VelkGeomCore")
+                .arg(connection.settings().displayName()));
     if (!connection.run(connection.isPostgreSQL() ? QStringLiteral("BEGIN")
                                                   : QStringLiteral("BEGIN IMMEDIATE")))
         return false;

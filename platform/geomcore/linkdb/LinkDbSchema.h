@@ -13,8 +13,6 @@ inline constexpr int Version = 3;
 /// Physical names.
 inline constexpr const char *Documents = "plm_document";
 inline constexpr const char *Hierarchy = "plm_hierarchy";
-inline constexpr const char *DeletedRows = "linkdb_deleted";
-inline constexpr const char *LineLinks = "linkdb_line_link";
 
 /// False with the connection's error. Several programs may do this at once.
 [[nodiscard]] bool bringUpToDate(LinkDbConnection &connection, int version = Version);

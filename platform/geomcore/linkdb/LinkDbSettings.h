@@ -16,12 +16,13 @@ struct VELKGEOMCORE_EXPORT LinkDbSettings
     enum class Kind { None, SQLite, PostgreSQL };
 
     Kind kind = Kind::None;
-    QString file;     ///< SQLite; references to the environment are resolved when it is opened
-    QString host;     ///< empty: what PostgreSQL takes by itself
-    int port = 0;     ///< 0: the usual one
-    QString database; ///< PostgreSQL
-    QString user;     ///< empty: the name of the account
-    QString sslMode;  ///< empty: "prefer"
+    QString file;          ///< SQLite; references to the environment are resolved when it is opened
+    QString host;          ///< empty: what PostgreSQL takes by itself
+    int port = 0;          ///< 0: the usual one
+    QString database;      ///< PostgreSQL
+    QString user;          ///< empty: the name of the account
+    QString sslMode;       ///< empty: "prefer"
+    bool readOnly = false; ///< nothing is written, no tables are made; not part of the text
     int connectSeconds = 10; ///< until a server that does not answer is given up
 
     /// Of another kind than None if the text names a database; otherwise \a problem says why not.

@@ -57,13 +57,20 @@ Instance &theInstance()
     return *instance;
 }
 
+/// In messages; its middle goes then.
+constexpr qsizetype longestStatement = 4000;
+
 QString describe(const LinkDbError &error)
 {
     QString text =
         PString::translate("Fehler der Linkdatenbank: %1", "VelkGeomCore").arg(error.text);
-    if (!error.statement.isEmpty())
-        text += QStringLiteral("\n\n") + error.statement;
-    return text;
+    if (error.statement.isEmpty())
+        return text;
+    text += QStringLiteral("\n\n");
+    if (error.statement.size() <= longestStatement)
+        return text + error.statement;
+    return text + error.statement.left(longestStatement / 2) + QStringLiteral(" ... ") +
+           error.statement.right(longestStatement / 2);
 }
 
 } // namespace
