@@ -7,6 +7,7 @@
 #include "ImportCommand.h"
 #include "MergeCommand.h"
 #include "LinkCommand.h"
+#include "ProofCommand.h"
 #include "ReviewCommand.h"
 #include "RunCommand.h"
 #include "SearchCommand.h"
@@ -47,9 +48,10 @@ const QList<Command> &commands()
         {"merge", "merges two changed copies of a mapping file", runMerge},
         {"stats", "counts the lines by their state", runStats},
         {"export", "writes a release mapping as a CSV file", runExport},
+        {"review", "groups the open lines by how they differ from their proposals", runReview},
         {"explain", "tells why a line is assigned so, and its other candidates", runExplain},
         {"link", "writes the confirmed assignments into a link database", runLink},
-        {"review", "groups the open lines by how they differ from their proposals", runReview},
+        {"proof", "tells which numbers of a link database are in a bad place", runProof},
         {"search", "finds projects by words and by values of their tables", runSearch},
         {"run", "runs a script over mappings and tables", runScript},
     };
