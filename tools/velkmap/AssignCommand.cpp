@@ -7,6 +7,7 @@
 
 #include <core/parallel/WorkerPool.h>
 #include <geomcore/index/IndexTreeC.h>
+#include <release/assign/AssignmentPart.h>
 #include <release/assign/ReleaseAssigner.h>
 
 #include <QFileInfo>
@@ -30,6 +31,10 @@ void addAssignOptions(CommandLine &line)
     line.addRequired("source", "ROOT", "Directory that holds the old release's catalog.");
     line.addRequired("target", "ROOT", "Directory that holds the new release's catalog.");
     line.addOptional("project", "PATH", "Source path of a project to assign; may be repeated.");
+    line.addOptional("shard", "I/N",
+                     "Only the I-th of N shares of the projects, for several machines. The shares\n"
+                     "are of about the same size; the mapping stays as it is.");
+    line.addOptional("out", "PART", "Where the share goes, for velkmap join.");
     line.addFlag("force", "Works out anew what nobody has confirmed.");
     line.addAllowed();
     line.addOptional("jobs", "N", "Threads that work at once; by default one per processor.", "0");
@@ -78,6 +83,9 @@ public:
     /// Says what cannot work at all.
     std::optional<ExitStatus> check(const CommandLine &line, const ReleaseMappingC &release);
     ExitStatus run(ReleaseFile &file);
+    /// Works on one share and writes it as a part.
+    ExitStatus runShare(const CommandLine &line, const VelkRelease::ShareNumber &number,
+                        const ReleaseMappingC &before);
 
 private:
     [[nodiscard]] bool assign(ReleaseMappingC &release);
@@ -143,6 +151,55 @@ ExitStatus AssignRun::run(ReleaseFile &file)
     return allRead ? ExitStatus::Done : ExitStatus::InputUnreadable;
 }
 
+ExitStatus AssignRun::runShare(const CommandLine &line, const VelkRelease::ShareNumber &number,
+                               const ReleaseMappingC &before)
+{
+    const InterruptGuard guard;
+    VelkRelease::AssignmentPart part;
+    part.number = number;
+    part.origin = part.originOf(before);
+    part.options = part.optionsOf(line.isSet("force"), line.values("project"));
+    const QList<int> all = m_assigner.chosenPositions(before);
+    part.projects = int(all.size());
+    part.positions = VelkRelease::ReleaseShares(before, all, line.value("source"), number.shares)
+                         .positions(number.share);
+    m_assigner.setShare(part.positions);
+    ReleaseMappingC release = before;
+    part.allRead = assign(release);
+    part.errors = m_assigner.errors();
+    for (const QString &error : m_assigner.errors())
+        m_err << "velkmap assign: " << error << '\n';
+    if (m_assigner.donePositions() != part.positions) {
+        m_err << "velkmap assign: interrupted; part " << number.text() << " was not written\n";
+        return ExitStatus::Interrupted;
+    }
+    part.release = before.head();
+    for (const int position : part.positions)
+        part.release.appendMapping(release.mappingAt(position));
+    QString error;
+    if (!part.write(line.value("out"), &error)) {
+        m_err << "velkmap assign: " << error << '\n';
+        return ExitStatus::ResultUnwritable;
+    }
+    m_out << "part " << number.text() << ": " << m_reached.projects << " of " << part.projects
+          << " projects with " << sumText(m_reached.counts) << '\n';
+    return part.allRead ? ExitStatus::Done : ExitStatus::InputUnreadable;
+}
+
+/// A share without a file for its part, or the other way round, is wrong usage.
+std::optional<ExitStatus> shareOf(const CommandLine &line, VelkRelease::ShareNumber &number,
+                                  QTextStream &err)
+{
+    if (line.isSet("shard") != line.isSet("out"))
+        return line.wrongUsage("--shard and --out belong together", err);
+    if (!line.isSet("shard"))
+        return std::nullopt;
+    number = VelkRelease::ShareNumber::fromText(line.value("shard"));
+    if (number.isValid())
+        return std::nullopt;
+    return line.wrongUsage("--shard is no share such as 2/8: " + line.value("shard"), err);
+}
+
 } // namespace
 
 ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream &err)
@@ -157,9 +214,14 @@ ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream
         return line.wrongUsage("--jobs is no number: " + line.value("jobs"), err);
     if (!isDirectory(line.value("source"), err) || !isDirectory(line.value("target"), err))
         return ExitStatus::InputUnreadable;
+    VelkRelease::ShareNumber share;
+    if (const auto wrong = shareOf(line, share, err))
+        return *wrong;
     ReleaseFile file;
-    if (const auto failed = file.lock(line, err))
-        return *failed;
+    if (!share.isValid()) {
+        if (const auto failed = file.lock(line, err))
+            return *failed;
+    }
     if (const auto failed = file.read(line, err))
         return *failed;
 
@@ -169,7 +231,7 @@ ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream
     AssignRun run(line, out, err);
     if (const auto failed = run.check(line, file.release()))
         return *failed;
-    return run.run(file);
+    return share.isValid() ? run.runShare(line, share, file.release()) : run.run(file);
 }
 
 } // namespace velkmap

@@ -5,6 +5,7 @@
 #include "ExplainCommand.h"
 #include "ExportCommand.h"
 #include "ImportCommand.h"
+#include "JoinCommand.h"
 #include "LinkCommand.h"
 #include "MergeCommand.h"
 #include "ProofCommand.h"
@@ -45,6 +46,7 @@ const QList<Command> &commands()
         {"import", "makes a catalog of a folder tree of CSV tables", runImport},
         {"create", "writes a release mapping with the targets of each old project", runCreate},
         {"assign", "assigns the lines of a release mapping", runAssign},
+        {"join", "puts the parts of several machines together", runJoin},
         {"merge", "merges two changed copies of a mapping file", runMerge},
         {"stats", "counts the lines by their state", runStats},
         {"export", "writes a release mapping as a CSV file", runExport},

@@ -87,6 +87,11 @@ void ReleaseAssigner::setProjects(const QStringList &sourcePaths)
     m_projects = sourcePaths;
 }
 
+void ReleaseAssigner::setShare(const QList<int> &positions)
+{
+    m_share = positions;
+}
+
 void ReleaseAssigner::setForce(bool force)
 {
     m_force = force;
@@ -109,6 +114,8 @@ QStringList ReleaseAssigner::unknownProjects(const ReleaseMappingC &release) con
 
 QList<int> ReleaseAssigner::chosenPositions(const ReleaseMappingC &release) const
 {
+    if (m_share)
+        return *m_share;
     const QSet<QString> chosen(m_projects.begin(), m_projects.end());
     QList<int> positions;
     for (int i = 0; i < release.countMappings(); ++i) {
@@ -215,12 +222,13 @@ bool ReleaseAssigner::run(ReleaseMappingC &release, const std::atomic<bool> &can
     lock.unlock();
     worker.join();
     const bool allRead = take(outcomes, release);
-    QList<int> done;
+    m_done.clear();
     for (qsizetype i = 0; i < positions.size(); ++i) {
         if (outcomes[std::size_t(i)].isDone)
-            done.append(positions[i]);
+            m_done.append(positions[i]);
     }
-    doubtSharedTargetLines(release, done);
+    if (!m_share)
+        doubtSharedTargetLines(release, m_done);
     return allRead;
 }
 

@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace VelkRelease {
@@ -32,6 +33,9 @@ public:
 
     /// Only the projects with these source paths; all if empty.
     void setProjects(const QStringList &sourcePaths);
+    /// Only one of several shares of the projects, by their positions in the release. What depends
+    /// on several projects at once, doubtSharedTargetLines(), is left for when all are together.
+    void setShare(const QList<int> &positions);
     /// Works out anew what nobody has confirmed.
     void setForce(bool force);
     void setObserver(std::function<void(const Progress &)> observer);
@@ -43,6 +47,10 @@ public:
     /// target's condition does not parse.
     bool run(ReleaseMappingC &release, const std::atomic<bool> &cancelled);
 
+    /// Positions of the projects that are done, ascending.
+    [[nodiscard]] const QList<int> &donePositions() const { return m_done; }
+    /// Positions of the projects to assign, ascending.
+    [[nodiscard]] QList<int> chosenPositions(const ReleaseMappingC &release) const;
     /// What could not be read, tables and conditions, in the release's order.
     [[nodiscard]] const QStringList &errors() const { return m_errors; }
     /// Chosen source paths that the release does not have.
@@ -63,10 +71,11 @@ private:
     [[nodiscard]] Outcome assign(const PrjMappingC &mapping, const ReleaseMappingC &head,
                                  const std::atomic<bool> &cancelled) const;
     [[nodiscard]] bool take(const std::vector<Outcome> &outcomes, ReleaseMappingC &release);
-    [[nodiscard]] QList<int> chosenPositions(const ReleaseMappingC &release) const;
 
     QString m_sourceRoot;
     QStringList m_projects;
+    std::optional<QList<int>> m_share;
+    QList<int> m_done;
     bool m_force = false;
     std::function<void(const Progress &)> m_observer;
     QStringList m_errors;
