@@ -4,7 +4,8 @@
 #include "LibraryMetaTypes.h"
 #include "LinkDbGuiC.h"
 #include "Loggers.h"
-#include "ScriptClasses.h"
+#include "prxDocumentListDialogC.h"
+#include "prxLinkDbGuiC.h"
 
 #include <core/component/proxyAutoRegisterT.h>
 #include <core/plugin/PPluginRegistry.h>

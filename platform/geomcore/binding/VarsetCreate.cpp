@@ -24,29 +24,6 @@ bool takesPart(const Var &var)
            types.contains(var.getZTypeAsString());
 }
 
-Var varOf(const QList<Var> &vars, const QString &name)
-{
-    for (const Var &var : vars) {
-        if (var.getName() == name)
-            return var;
-    }
-    return {};
-}
-
-using Values = QMap<QString, QString>;
-
-Values valuesOf(const QList<TabVarValue> &list, const QList<Var> &vars,
-                const QList<VarId> &excluded)
-{
-    Values values;
-    for (const TabVarValue &value : list) {
-        const Var var = varOf(vars, value.getName());
-        if (var.isValid() && !excluded.contains(var.getVarId()))
-            values.insert(value.getName(), value.getValue());
-    }
-    return values;
-}
-
 QList<TabVarValue> entries(const MidentClass &text)
 {
     QList<TabVarValue> list;
@@ -80,14 +57,51 @@ QString VarsetCreate::createXVarset(const Content &content, const LineId &line)
 bool VarsetCreate::compareXVarset(const Line &line, const QString &text,
                                   const QList<VarId> &excluded)
 {
+    return VarsetOfLine(line, excluded).equals(text);
+}
+
+VarsetOfLine::VarsetOfLine(const Line &line, const QList<VarId> &excluded)
+    : m_isValid(line.isValid())
+{
+    if (!m_isValid)
+        return;
+    for (const Var &var : line.getVarList()) {
+        // The first of a name stands for it.
+        if (!m_names.contains(var.getName()))
+            m_names.insert(var.getName(), !excluded.contains(var.getVarId()));
+    }
+    m_own = valuesOf(VarsetCreate::xVarset(line));
+}
+
+VarsetOfLine::~VarsetOfLine() = default;
+
+bool VarsetOfLine::equals(const QString &text) const
+{
+    if (m_lastText != text) {
+        m_lastEquals = compare(text);
+        m_lastText = text;
+    }
+    return m_lastEquals;
+}
+
+VarsetOfLine::Values VarsetOfLine::valuesOf(const QList<TabVarValue> &list) const
+{
+    Values values;
+    for (const TabVarValue &value : list) {
+        if (m_names.value(value.getName(), false))
+            values.insert(value.getName(), value.getValue());
+    }
+    return values;
+}
+
+bool VarsetOfLine::compare(const QString &text) const
+{
     MidentClass stored;
-    if (!line.isValid() || !stored.SplitVarValue(text))
+    if (!m_isValid || !stored.SplitVarValue(text))
         return false;
-    const QList<Var> vars = line.getVarList();
-    const Values own = valuesOf(xVarset(line), vars, excluded);
-    const Values other = valuesOf(entries(stored), vars, excluded);
-    return own.size() == other.size() &&
-           std::equal(own.keyValueBegin(), own.keyValueEnd(), other.keyValueBegin(),
+    const Values other = valuesOf(entries(stored));
+    return m_own.size() == other.size() &&
+           std::equal(m_own.keyValueBegin(), m_own.keyValueEnd(), other.keyValueBegin(),
                       [](const auto &a, const auto &b) {
                           return a.first == b.first && equalCells(a.second, b.second, '.');
                       });

@@ -7,7 +7,10 @@
 #include <geomcore/value/VarId.h>
 
 #include <QList>
+#include <QMap>
 #include <QString>
+
+#include <optional>
 
 namespace VKTab {
 
@@ -27,6 +30,32 @@ public:
     /// table does not have, and the `excluded` variables, do not count.
     [[nodiscard]] static bool compareXVarset(const Line &line, const QString &text,
                                              const QList<VarId> &excluded);
+};
+
+/// What VarsetCreate::compareXVarset needs of a line, for a comparison with many texts.
+class VELKGEOMCORE_EXPORT VarsetOfLine
+{
+public:
+    VarsetOfLine(const Line &line, const QList<VarId> &excluded);
+    ~VarsetOfLine();
+    VarsetOfLine(const VarsetOfLine &) = delete;
+    VarsetOfLine &operator=(const VarsetOfLine &) = delete;
+
+    /// As VarsetCreate::compareXVarset().
+    [[nodiscard]] bool equals(const QString &text) const;
+
+private:
+    using Values = QMap<QString, QString>;
+
+    [[nodiscard]] Values valuesOf(const QList<TabVarValue> &list) const;
+    [[nodiscard]] bool compare(const QString &text) const;
+
+    bool m_isValid;
+    QMap<QString, bool> m_names; ///< of the table; true: they count
+    Values m_own;
+    // Many records of a line bear the same text.
+    mutable std::optional<QString> m_lastText;
+    mutable bool m_lastEquals = false;
 };
 
 } // namespace VKTab

@@ -60,6 +60,8 @@ PRefPtr<PConfig> PApplication::getAppConfig()
 
 QWidget *PApplication::createWidget(const QString &form, QWidget *parent, bool show)
 {
+    // It knows the places of forms, also where no host made it.
+    static_cast<void>(VelkApp());
     QFile file(form);
     if (!file.open(QIODevice::ReadOnly)) {
         logForm(form, file.errorString());
