@@ -24,9 +24,8 @@ DocumentListDialogC::DocumentListDialogC(QWidget *parent, QFlags<Qt::WindowType>
     , d(new DocumentListDialogCPrivate(this))
 {
     setObjectName(QStringLiteral("DocumentListDialog"));
-    QWidget *const form =
-        PApplication::createWidget(QStringLiteral("forms:linkdbgui/DocumentListDialog.ui"), this,
-                                   false);
+    QWidget *const form = PApplication::createWidget(
+        QStringLiteral("forms:linkdbgui/DocumentListDialog.ui"), this, false);
     if (form) {
         const QSize size = form->size();
         setWindowTitle(form->windowTitle());

@@ -4,8 +4,8 @@
 
 #include <core/component/mzComStringC.h>
 #include <core/component/mzIDispatchC.h>
-#include <core/text/ProxyPtrT.h>
 #include <core/text/PRefPtr.h>
+#include <core/text/ProxyPtrT.h>
 #include <core/text/PString.h>
 
 #include <QDialog>

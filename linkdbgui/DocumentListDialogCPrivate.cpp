@@ -93,8 +93,8 @@ void DocumentListDialogCPrivate::setHeader()
 {
     const PStringList columns = displayColumns();
     // An empty caption is dropped, which moves those behind it one column forward.
-    const QStringList captions = linkDbIface->getGroupInformation("PDM_COLUMN_DESCRIPTIONS")
-                                     .split(u',', Qt::SkipEmptyParts);
+    const QStringList captions =
+        linkDbIface->getGroupInformation("PDM_COLUMN_DESCRIPTIONS").split(u',', Qt::SkipEmptyParts);
     tvDocuments->setHeaderLabels(columns);
     QTreeWidgetItem *const header = tvDocuments->headerItem();
     for (int i = 0; i < columns.size(); ++i) {

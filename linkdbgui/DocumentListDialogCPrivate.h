@@ -4,8 +4,8 @@
 #include "ValueMap.h"
 
 #include <core/text/PPrivateData.h>
-#include <core/text/ProxyPtrT.h>
 #include <core/text/PRefPtr.h>
+#include <core/text/ProxyPtrT.h>
 #include <core/text/PString.h>
 #include <geomcore/linkdb/PLinkDbRecordC.h>
 #include <geomcore/linkdb/prxLinkDbIfaceC.h>

@@ -40,9 +40,8 @@ void DocumentListDialogCPrivate::showRecord(NewRecordDialogC &form, const QStrin
         form.setValues(values);
 }
 
-mzComVariantC
-DocumentListDialogCPrivate::invokeCallback(const ScriptCallback &callback,
-                                           const mzComVariantArrayC &arguments) const
+mzComVariantC DocumentListDialogCPrivate::invokeCallback(const ScriptCallback &callback,
+                                                         const mzComVariantArrayC &arguments) const
 {
     mzComVariantC result;
     if (!callback.isValid())
@@ -126,8 +125,8 @@ void DocumentListDialogC::OnNewRecord()
     PLinkDbRecordC record = d->recordOf(values);
     record.setValue(QStringLiteral("LINE_ID"), d->lineId);
     record.setValue(QStringLiteral("LINE_SUBID"), d->lineSubId);
-    const QString statement = d->linkDbIface->getMainModule()->createSqlStatement(
-        d->documentTable, record, false);
+    const QString statement =
+        d->linkDbIface->getMainModule()->createSqlStatement(d->documentTable, record, false);
     if (statement.isEmpty())
         return;
     LOG_PLM_DOCUMENTS(QStringLiteral("Creating new PLM document record: ") + statement);
@@ -154,8 +153,7 @@ void DocumentListDialogC::OnEditRecord()
     QString statement = d->linkDbIface->getMainModule()->createSqlStatement(
         d->documentTable, d->recordOf(values), true);
     if (!statement.isEmpty()) {
-        statement +=
-            QStringLiteral(" WHERE GEO_ID = ") + d->linkDbIface->codeV(*geoId, true);
+        statement += QStringLiteral(" WHERE GEO_ID = ") + d->linkDbIface->codeV(*geoId, true);
         LOG_PLM_DOCUMENTS(QStringLiteral("Updating PLM Document record: ") + statement);
         d->write(statement, QT_TRANSLATE_NOOP("VelkLinkDbGui", "Aktualisierung des Datensatzes "
                                                                "fehlgeschlagen!"));

@@ -23,14 +23,14 @@ NewRecordDialogC::NewRecordDialogC()
     : d(new NewRecordDialogCPrivate(this))
 {
     setObjectName(QStringLiteral("NewRecordDialog"));
-    QWidget *const form =
-        PApplication::createWidget(QStringLiteral("forms:linkdbgui/NewRecordDialog.ui"), this,
-                                   false);
+    QWidget *const form = PApplication::createWidget(
+        QStringLiteral("forms:linkdbgui/NewRecordDialog.ui"), this, false);
     if (form) {
         const QSize size = form->size();
         setWindowTitle(form->windowTitle());
         (new QVBoxLayout(this))->addWidget(form);
         d->grid = form->findChild<QGridLayout *>(QStringLiteral("gridLayout"));
+        d->makeScrollable(*form);
         if (auto *const buttons =
                 form->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"))) {
             connect(buttons, SIGNAL(accepted()), this, SLOT(accept()));

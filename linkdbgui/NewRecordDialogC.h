@@ -8,8 +8,9 @@
 
 class NewRecordDialogCPrivate;
 
-/// Form for the values of one document record, made of the columns that it is given: a row for each,
-/// those of the two systems last, with boxes that offer what the table already has. GUI thread.
+/// Form for the values of one document record, made of the columns that it is given: a row for
+/// each, those of the two systems last, with boxes that offer what the table already has. GUI
+/// thread.
 class NewRecordDialogC : public QDialog
 {
     Q_OBJECT

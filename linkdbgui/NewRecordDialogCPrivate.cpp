@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
+#include <QVBoxLayout>
 
 #include <limits>
 
@@ -21,6 +22,30 @@ void takeAnyLength(QLineEdit *edit)
 }
 
 } // namespace
+
+void NewRecordDialogCPrivate::makeScrollable(QWidget &form)
+{
+    auto *const layout = qobject_cast<QBoxLayout *>(form.layout());
+    const int index = layout && grid ? layout->indexOf(grid) : -1;
+    if (index < 0)
+        return;
+    auto *const area = new QScrollArea(&form);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    auto *const fields = new QWidget;
+    auto *const fieldsLayout = new QVBoxLayout(fields);
+    fieldsLayout->setContentsMargins(0, 0, 0, 0);
+    layout->removeItem(grid);
+    grid->setParent(nullptr);
+    fieldsLayout->addLayout(grid);
+    if (QLayoutItem *const below = layout->itemAt(index); below && below->spacerItem()) {
+        layout->removeItem(below);
+        fieldsLayout->addItem(below);
+    }
+    area->setWidget(fields);
+    layout->insertWidget(index, area);
+}
 
 void NewRecordDialogCPrivate::addRow(const QString &name, QWidget *field)
 {

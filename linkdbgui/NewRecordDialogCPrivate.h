@@ -18,6 +18,9 @@ class NewRecordDialogCPrivate : public PPrivateData<NewRecordDialogC>
 public:
     using PPrivateData::PPrivateData;
 
+    /// Takes the fields out of the form into an area of their own, so that many columns find room
+    /// on any screen.
+    void makeScrollable(QWidget &form);
     void addRow(const QString &name, QWidget *field);
     [[nodiscard]] QLineEdit *addLineEdit(const QString &name);
     [[nodiscard]] QComboBox *addSystemBox(const QString &name, const PStringList &systems);

@@ -37,8 +37,8 @@ int prxDocumentListDialogC::ShowDialog(const PString &path, int lineId, int line
 void prxDocumentListDialogC::makeDialog()
 {
     QWidget *const parent = m_parentWindow.isNull() ? nullptr : m_parentWindow->getWidget();
-    m_dialog = new DocumentListDialogC(parent, Qt::WindowMinimizeButtonHint |
-                                                   Qt::WindowMaximizeButtonHint);
+    m_dialog = new DocumentListDialogC(parent,
+                                       Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
     m_dialog->setIndexTree(m_indexTree);
     m_dialog->setVelkTab(m_table);
     m_dialog->setLinkDbIface(m_linkDbIface);
