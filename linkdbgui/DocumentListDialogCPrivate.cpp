@@ -3,7 +3,6 @@
 #include "DocumentListDialogC.h"
 
 #include <core/config/PConfigInst.h>
-#include <geomcore/index/IndexTreeC.h>
 
 #include <QDataStream>
 #include <QDialogButtonBox>

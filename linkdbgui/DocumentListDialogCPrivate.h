@@ -7,6 +7,7 @@
 #include <core/text/PRefPtr.h>
 #include <core/text/ProxyPtrT.h>
 #include <core/text/PString.h>
+#include <geomcore/index/IndexTreeC.h>
 #include <geomcore/linkdb/PLinkDbRecordC.h>
 #include <geomcore/linkdb/prxLinkDbIfaceC.h>
 #include <geomcore/table/proxyTableC.h>
@@ -24,7 +25,6 @@ class QTreeWidget;
 QT_END_NAMESPACE
 
 class DocumentListDialogC;
-class IndexTreeC;
 class NewRecordDialogC;
 
 /// State of DocumentListDialogC, and the statements that it sends. The widgets are null if the form

@@ -2,6 +2,7 @@
 
 #include "LinkDbDeletedRows.h"
 #include "LinkDbSchema.h"
+#include "logStatement.h"
 #include "PLinkDbCPrivate.h"
 
 #include <core/message/PMessage.h>
@@ -339,6 +340,7 @@ PString PLinkDbC::makeRelativePath(const PString &path) const
 
 PRefPtr<PLinkDbQueryI> PLinkDbC::executeSelectStatement(const QString &sql)
 {
+    logStatement(sql);
     LinkDbConnection::Result result;
     const bool done =
         d->work([&](LinkDbConnection &connection) { return connection.select(sql, result); });
@@ -347,6 +349,7 @@ PRefPtr<PLinkDbQueryI> PLinkDbC::executeSelectStatement(const QString &sql)
 
 int PLinkDbC::executeCountStatement(const QString &sql) const
 {
+    logStatement(sql);
     LinkDbConnection::Result result;
     if (!d->work([&](LinkDbConnection &connection) { return connection.select(sql, result); }))
         return -1;
@@ -357,6 +360,7 @@ int PLinkDbC::executeCountStatement(const QString &sql) const
 
 bool PLinkDbC::executeInsertStatement(const QString &sql) const
 {
+    logStatement(sql);
     return d->change([&](LinkDbConnection &connection) {
         return LinkDbDeletedRows::note(connection, sql) && connection.run(sql);
     });
@@ -364,11 +368,13 @@ bool PLinkDbC::executeInsertStatement(const QString &sql) const
 
 bool PLinkDbC::commit()
 {
+    logStatement(QStringLiteral("COMMIT"));
     return d->work([](LinkDbConnection &connection) { return connection.commit(); });
 }
 
 bool PLinkDbC::rollback()
 {
+    logStatement(QStringLiteral("ROLLBACK"));
     return d->work([](LinkDbConnection &connection) { return connection.rollback(); });
 }
 

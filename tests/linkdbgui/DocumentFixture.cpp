@@ -1,0 +1,364 @@
+#include "DocumentFixture.h"
+
+#include <geomcore/index/IndexTreeC.h>
+#include <geomcore/linkdb/LinkDbSettings.h>
+#include <geomcore/linkdb/PLinkDbQueryCacheC.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+const QString prefix = QStringLiteral("5000 ");
+
+struct Collected
+{
+    QStringList statements;
+    QStringList lines;
+    QStringList places;
+    QStringList warnings;
+};
+
+Collected &collected()
+{
+    static Collected all;
+    return all;
+}
+
+void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    const QString file = QString::fromUtf8(context.file);
+    if (qstrcmp(context.category, "velk") != 0) {
+        if (type != QtDebugMsg && type != QtInfoMsg)
+            collected().warnings.append(text);
+    } else if (file == QLatin1String("linkdbgui\\DocumentListDialog")) {
+        collected().lines.append(text.mid(prefix.size()));
+        collected().places.append(
+            QStringList{file, QString::fromUtf8(context.function), QString::number(context.line)}
+                .join(u'|'));
+    } else if (text.startsWith(prefix)) {
+        collected().statements.append(text.mid(prefix.size()));
+    }
+}
+
+/// The server of the test program; ends with it.
+PostgresServer &server()
+{
+    static PostgresServer instance;
+    return instance;
+}
+
+} // namespace
+
+void addDatabases()
+{
+    QTest::addColumn<QString>("database");
+    QTest::newRow("SQLite") << "SQLite";
+    QTest::newRow("PostgreSQL") << "PostgreSQL";
+}
+
+StatementLog::StatementLog()
+{
+    collected() = {};
+    StaticLogger::setLevels(QStringLiteral(
+        "tormeva.libs.VelkGeomCore.linkdb=5000;tormeva.libs.VelkGeomCoreGui.plmdocuments=5000"));
+    m_before = qInstallMessageHandler(collect);
+}
+
+StatementLog::~StatementLog()
+{
+    qInstallMessageHandler(m_before);
+    StaticLogger::setLevels(QString());
+}
+
+QStringList StatementLog::takeStatements()
+{
+    return std::exchange(collected().statements, {});
+}
+
+QStringList StatementLog::takeLines()
+{
+    return std::exchange(collected().lines, {});
+}
+
+QStringList StatementLog::places()
+{
+    return collected().places;
+}
+
+QStringList StatementLog::warnings()
+{
+    return collected().warnings;
+}
+
+const proxyMemberDescListS *ScriptObject::getProxyTypeInfo() const
+{
+    static const proxyMemberDescS members[] = {proxyMethod<&ScriptObject::run>("run")};
+    static const proxyMemberDescListS description{.className = "ScriptObject",
+                                                  .base = proxyObjectC::getStaticProxyTypeInfo(),
+                                                  .members = members,
+                                                  .file = __FILE__,
+                                                  .line = __LINE__};
+    return &description;
+}
+
+mzIDispatchC dispatchOf(proxyObjectC *object)
+{
+    return mzIDispatchC(object);
+}
+
+mzIDispatchC scriptOf(ScriptObject::Run run)
+{
+    return dispatchOf(new ScriptObject(std::move(run)));
+}
+
+QStringList entriesOf(const prxDictionaryObjC &dictionary)
+{
+    const QStringList keys = dictionary.getKeyArray().toQStringList();
+    const QStringList items = dictionary.getItemArray().toQStringList();
+    QStringList entries;
+    for (int i = 0; i < keys.size(); ++i)
+        entries.append(keys[i] + u'=' + items.value(i));
+    return entries;
+}
+
+void inNextDialog(const std::function<void(QDialog &)> &act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        act(*dialog);
+    });
+}
+
+void inNextForm(const std::function<void(NewRecordDialogC &)> &fill, bool accept)
+{
+    inNextDialog([=](QDialog &dialog) {
+        auto *const form = qobject_cast<NewRecordDialogC *>(&dialog);
+        if (!form)
+            dialog.reject();
+        QVERIFY(form);
+        if (fill)
+            fill(*form);
+        const auto *const buttons = widgetOf<QDialogButtonBox>(*form, "buttonBox");
+        QTest::mouseClick(buttons->button(accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel),
+                          Qt::LeftButton);
+    });
+}
+
+QWidget *fieldOf(const QWidget &form, const QString &label)
+{
+    const auto *const grid = form.findChild<QGridLayout *>(QStringLiteral("gridLayout"));
+    for (int row = 0; row < grid->rowCount(); ++row) {
+        const QLayoutItem *const item = grid->itemAtPosition(row, 0);
+        if (item && qobject_cast<QLabel *>(item->widget())->text() == label)
+            return grid->itemAtPosition(row, 1)->widget();
+    }
+    return nullptr;
+}
+
+void typeInto(const QWidget &form, const QString &label, const QString &text)
+{
+    QWidget *const field = fieldOf(form, label);
+    QVERIFY2(field, qPrintable(label));
+    field->setFocus();
+    auto *edit = qobject_cast<QLineEdit *>(field);
+    if (!edit)
+        edit = qobject_cast<QComboBox *>(field)->lineEdit();
+    edit->selectAll();
+    if (text.isEmpty())
+        QTest::keyClick(edit, Qt::Key_Delete);
+    else
+        QTest::keyClicks(edit, text);
+}
+
+QStringList labelsOf(const QWidget &form)
+{
+    const auto *const grid = form.findChild<QGridLayout *>(QStringLiteral("gridLayout"));
+    QStringList labels;
+    for (int row = 0; row < grid->rowCount(); ++row) {
+        if (const QLayoutItem *const item = grid->itemAtPosition(row, 0))
+            labels.append(qobject_cast<QLabel *>(item->widget())->text());
+    }
+    return labels;
+}
+
+DocumentFixture::DocumentFixture(const QString &database)
+    : path(catalog.file(project))
+    , linkDb(new PLinkDbC)
+    , iface(new prxLinkDbIfaceC(linkDb))
+    , m_formerRoot(IndexTreeC::instance()->catalogRoot())
+{
+    IndexTreeC::instance()->setCatalogRoot(PPathName(catalog.root()));
+    writeTable({});
+    const QString address = database == QLatin1String("PostgreSQL")
+                                ? server().newDatabase()
+                                : m_folder.filePath(QStringLiteral("link.db"));
+    QVERIFY2(linkDb->open(LinkDbSettings::fromText(address)),
+             qPrintable(linkDb->lastError().text + server().problem()));
+    (void)log.takeStatements();
+}
+
+DocumentFixture::~DocumentFixture()
+{
+    IndexTreeC::instance()->setCatalogRoot(m_formerRoot);
+}
+
+void DocumentFixture::writeTable(const QString &pool)
+{
+    catalog.write(project, "TMVMAT,L:r,M:r,N:r,D:n\nSt,10,1,5,8\nCu,20,2,5,9\n",
+                  [&](VKTab::TableDescriptor &descriptor) {
+                      if (!pool.isEmpty())
+                          descriptor.attributes.insert(QStringLiteral("POOLID"), pool);
+                      descriptor.fields[1].zType = QStringLiteral("SM");
+                      descriptor.fields[1].description = QStringLiteral("Länge");
+                      descriptor.fields[2].zType = QStringLiteral("DM");
+                      descriptor.fields[3].zType = QStringLiteral("sm"); // another type
+                      descriptor.translations[QStringLiteral("en")].insert(
+                          QStringLiteral("Länge"), QStringLiteral("Length"));
+                  });
+    table = new VKTab::proxyTableC(catalog.read(project));
+}
+
+void DocumentFixture::usePool(const QString &pool)
+{
+    writeTable(pool);
+}
+
+void DocumentFixture::insert(const QString &geoId, const Values &values) const
+{
+    Values all = {{QStringLiteral("GEO_ID"), geoId},
+                  {QStringLiteral("PRJ_PATH"), project},
+                  {QStringLiteral("VERSION"), QStringLiteral("v1")},
+                  {QStringLiteral("LINE_ID"), 1},
+                  {QStringLiteral("LINE_SUBID"), 0}};
+    for (const auto &value : values) {
+        all.removeIf([&](const auto &each) { return each.first == value.first; });
+        all.append(value);
+    }
+    QStringList names;
+    QStringList literals;
+    for (const auto &[name, value] : std::as_const(all)) {
+        names.append(name);
+        literals.append(linkDb->literal(value));
+    }
+    execute(QStringLiteral("INSERT INTO plm_document(") + names.join(u',') +
+            QStringLiteral(") VALUES(") + literals.join(u',') + u')');
+}
+
+void DocumentFixture::join(const QString &parent, const QString &child) const
+{
+    execute(QStringLiteral("INSERT INTO plm_hierarchy VALUES(") + linkDb->literal(parent) + u',' +
+            linkDb->literal(child) + u')');
+}
+
+void DocumentFixture::execute(const QString &sql) const
+{
+    QVERIFY2(linkDb->executeInsertStatement(sql) && linkDb->commit(),
+             qPrintable(linkDb->lastError().text + u'\n' + sql));
+    (void)log.takeStatements();
+}
+
+void DocumentFixture::setKey(const QString &key, const QString &value) const
+{
+    QVERIFY(linkDb->setGroupInformation(linkDb->currentGroup(), key, value));
+    QVERIFY(linkDb->commit());
+    (void)log.takeStatements();
+}
+
+QStringList DocumentFixture::column(const QString &sql) const
+{
+    PLinkDbQueryCacheC query(linkDb->executeSelectStatement(sql));
+    QStringList values;
+    while (query.next())
+        values.append(query.value(0).toString());
+    (void)log.takeStatements();
+    return values;
+}
+
+QStringList DocumentFixture::documents() const
+{
+    return column(QStringLiteral("SELECT GEO_ID FROM plm_document ORDER BY GEO_ID"));
+}
+
+QStringList DocumentFixture::hierarchy() const
+{
+    return column(QStringLiteral("SELECT Parent || '>' || Child FROM plm_hierarchy ORDER BY 1"));
+}
+
+std::unique_ptr<DocumentListDialogC> DocumentFixture::makeDialog(bool withTable) const
+{
+    auto dialog = std::make_unique<DocumentListDialogC>(nullptr, Qt::WindowFlags());
+    dialog->setIndexTree(linkDb->getIndexTree());
+    if (withTable)
+        dialog->setVelkTab(table);
+    dialog->setLinkDbIface(iface);
+    return dialog;
+}
+
+std::unique_ptr<DocumentListDialogC> DocumentFixture::showDialog(bool withTable) const
+{
+    auto dialog = makeDialog(withTable);
+    dialog->initDialog(path, 1, 0);
+    dialog->show();
+    (void)log.takeStatements();
+    (void)log.takeLines();
+    return dialog;
+}
+
+QTreeWidget *documentsOf(const DocumentListDialogC &dialog)
+{
+    return widgetOf<QTreeWidget>(dialog, "tvDocuments");
+}
+
+QStringList rowsOf(const QTreeWidget *list)
+{
+    QStringList rows;
+    for (int row = 0; row < list->topLevelItemCount(); ++row) {
+        QStringList texts;
+        for (int column = 0; column < list->columnCount(); ++column)
+            texts.append(list->topLevelItem(row)->text(column));
+        rows.append(texts.join(u'|'));
+    }
+    return rows;
+}
+
+QStringList idsOf(const DocumentListDialogC &dialog)
+{
+    const QTreeWidget *const list = documentsOf(dialog);
+    QStringList ids;
+    for (int row = 0; row < list->topLevelItemCount(); ++row)
+        ids.append(list->topLevelItem(row)->data(0, Qt::UserRole).toString());
+    return ids;
+}
+
+QStringList selectedIds(const DocumentListDialogC &dialog)
+{
+    QStringList ids;
+    const auto items = documentsOf(dialog)->selectedItems();
+    for (const QTreeWidgetItem *item : items)
+        ids.append(item->data(0, Qt::UserRole).toString());
+    return ids;
+}
+
+void clickDocument(const DocumentListDialogC &dialog, int row)
+{
+    QTreeWidget *const list = documentsOf(dialog);
+    QTreeWidgetItem *const item = list->topLevelItem(row);
+    QVERIFY(item);
+    list->scrollToItem(item);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(item).center());
+}
+
+void clickButton(const QWidget &dialog, const char *name)
+{
+    auto *const button = widgetOf<QPushButton>(dialog, name);
+    QVERIFY(button && button->isVisible() && button->isEnabled());
+    QTest::mouseClick(button, Qt::LeftButton);
+}
