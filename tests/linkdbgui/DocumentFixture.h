@@ -38,7 +38,7 @@ public:
     [[nodiscard]] QStringList takeLines();
     /// Places of those lines, "file|function|line"; never emptied.
     [[nodiscard]] static QStringList places();
-    /// What else came through Qt's messages: warnings of connections, say.
+    /// Of connections by name that find nothing.
     [[nodiscard]] static QStringList warnings();
 
 private:

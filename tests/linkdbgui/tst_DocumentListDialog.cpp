@@ -418,10 +418,14 @@ void tst_DocumentListDialog::loads()
     fixture.insert("other path", {{"PRJ_PATH", "cat/b.prj"}});
     const auto dialog = fixture.makeDialog();
     dialog->initDialog(fixture.path, 1, 0);
-    QCOMPARE(idsOf(*dialog), (QStringList{"g1", "g2"}));
-    QCOMPARE(rowsOf(documentsOf(*dialog)),
-             (QStringList{"P-1|||||" + lineOne + "|cad|||", "%1|||||||||a\nb"}));
-    const QTreeWidgetItem *const item = documentsOf(*dialog)->topLevelItem(0);
+    // In the order of the database.
+    QCOMPARE(idsOf(*dialog), fixture.column(QStringLiteral(
+                                 "SELECT GEO_ID FROM plm_document WHERE GEO_ID LIKE 'g_' AND "
+                                 "PRJ_PATH = 'cat/a.prj' AND LINE_ID = 1")));
+    const int first = int(idsOf(*dialog).indexOf("g1"));
+    QCOMPARE(rowsOf(documentsOf(*dialog)).value(first), "P-1|||||" + lineOne + "|cad|||");
+    QCOMPARE(rowsOf(documentsOf(*dialog)).value(1 - first), QString("%1|||||||||a\nb"));
+    const QTreeWidgetItem *const item = documentsOf(*dialog)->topLevelItem(first);
     QCOMPARE(item->toolTip(0), QString("P-1"));
     QCOMPARE(item->data(5, Qt::ToolTipRole).toString(), lineOne);
     QVERIFY(!item->data(1, Qt::UserRole).isValid());
@@ -700,6 +704,7 @@ void tst_DocumentListDialog::accepts()
         documentsOf(*dialog)->clearSelection();
     else
         clickDocument(*dialog, row);
+    dialog->hide();
     inNextDialog([](QDialog &shown) {
         QTest::mouseClick(
             widgetOf<QDialogButtonBox>(shown, "buttonBox")->button(QDialogButtonBox::Ok),
