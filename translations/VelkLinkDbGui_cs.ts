@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Nové přiřazení: &lt;br /&gt;%3 projektu %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Aktualizace záznamu se nezdařila!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Přiřadit označený řádek</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Potvrdit všechna přiřazení</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Vytvoření záznamu se nezdařilo!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Přepsat již přiřazené cílové projekty</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Popis</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Potvrzená přiřazení</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Rozložení rozsahů hodnot může podle zvolených proměnných a velikosti tabulky trvat velmi dlouho.
 Opravdu pokračovat?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Díl nelze smazat, protože na něj odkazuje více sestav!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Opravdu pokračovat?</translation>
         <translation>Zobrazit názvy souborů místo popisů</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Upravit záznam</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Přidat záznam</translation>
     </message>
@@ -158,6 +178,14 @@ Opravdu pokračovat?</translation>
 </source>
         <translation>Algoritmus obsahuje chyby:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Volání %1 se nezdařilo!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Záznam nelze smazat!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Existuje alespoň jedna nepotvrzená změna.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Nebylo možné smazat všechny podřízené prvky, protože na některé odkazují i jiné sestavy!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Cesta k projektu:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Chystáte se smazat sestavu, která obsahuje podřízené prvky. Mají se smazat i všechny podřízené prvky?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Hledat</translation>
     </message>
@@ -408,6 +444,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Vybrat řádek tabulky</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Proměnná</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Přednostní řady zap/vyp</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>hodnota</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Ny tildeling: &lt;br /&gt;%3 i projektet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Opdatering af posten mislykkedes!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Tildel den markerede linje</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Bekræft alle tildelinger</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Oprettelse af posten mislykkedes!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Overskriv målprojekter, der allerede er tildelt</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Beskrivelse</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bekræftede tildelinger</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Opløsningen af værdiområderne kan tage meget lang tid, afhængigt af de valgte variabler og tabellens størrelse.
 Vil du virkelig fortsætte?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Delen kunne ikke slettes, da flere samlinger henviser til den!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Vil du virkelig fortsætte?</translation>
         <translation>Vis filnavne i stedet for beskrivelser</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Rediger post</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Tilføj post</translation>
     </message>
@@ -158,6 +178,14 @@ Vil du virkelig fortsætte?</translation>
 </source>
         <translation>Algoritmen indeholder fejl:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Kaldet af %1 mislykkedes!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Posten kunne ikke slettes!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Der findes mindst én ubekræftet ændring.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Ikke alle underelementer kunne slettes, da andre samlinger også henviser til nogle af dem!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Projektsti:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Du er ved at slette en samling, som indeholder underelementer. Skal alle underelementer også slettes?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Søg</translation>
     </message>
@@ -408,6 +444,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Vælg tabellinje</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Foretrukne rækker til/fra</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>værdi</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Aktualisierung des Datensatzes fehlgeschlagen!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Aktuell markierte Zeile zuordnen</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Alle Zuordnungen bestätigen</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Anlegen des Datensatzes fehlgeschlagen!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Bereits zugewiesene Zielprojekte überschreiben</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bestätigte Zuordnungen</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Das Auflösen der Wertebereiche kann, abhängig von den gewählten Variablen und der Tabellengröße, sehr lange dauern.
 Wirklich fortfahren?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Wirklich fortfahren?</translation>
         <translation>Dateinamen statt Beschreibungen anzeigen</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Datensatz bearbeiten</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Datensatz hinzufügen</translation>
     </message>
@@ -158,6 +178,14 @@ Wirklich fortfahren?</translation>
 </source>
         <translation>Der Algorithmus enthält Fehler:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Der Aufruf von %1 ist fehlgeschlagen!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Der Datensatz konnte nicht gelöscht werden!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Es existiert mindestens eine unbestätigte Änderung.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Projektpfad:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Suchen</translation>
     </message>
@@ -408,6 +444,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Tabellenzeile auswählen</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Vorzugsreihen An/Aus</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;New assignment: &lt;br /&gt;%3 of the project %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Updating the record failed!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Assign the line currently selected</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirm all assignments</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Creating the record failed!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Overwrite target projects that are assigned already</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Description</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Confirmed assignments</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Resolving the value ranges can take very long, depending on the variables chosen and the size of the table.
 Really go on?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>The part could not be deleted because several assemblies refer to it!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Really go on?</translation>
         <translation>Show file names instead of descriptions</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Edit record</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Add record</translation>
     </message>
@@ -158,6 +178,14 @@ Really go on?</translation>
 </source>
         <translation>The algorithm contains errors:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Calling %1 failed!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>The record could not be deleted!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>There is at least one unconfirmed change.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Not all subelements could be deleted because other assemblies refer to some of them, too!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Project path:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>You are about to delete an assembly that contains subelements. Are all subelements to be deleted, too?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Search</translation>
     </message>
@@ -408,6 +444,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Select table line</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Preferred ranges on/off</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>value</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

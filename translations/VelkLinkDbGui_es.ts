@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Nueva asignación: &lt;br /&gt;%3 del proyecto %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>¡No se pudo actualizar el registro!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Asignar la línea seleccionada</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirmar todas las asignaciones</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>¡No se pudo crear el registro!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Sobrescribir los proyectos de destino ya asignados</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Asignaciones confirmadas</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Resolver los rangos de valores puede tardar mucho según las variables elegidas y el tamaño de la tabla.
 ¿Continuar realmente?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>¡No se pudo eliminar la pieza porque varios ensamblajes hacen referencia a ella!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Wirklich fortfahren?</source>
         <translation>Mostrar nombres de archivo en lugar de descripciones</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Editar registro</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Añadir registro</translation>
     </message>
@@ -158,6 +178,14 @@ Wirklich fortfahren?</source>
 </source>
         <translation>El algoritmo contiene errores:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>¡La llamada a %1 ha fallado!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>¡No se pudo eliminar el registro!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Hay al menos un cambio sin confirmar.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>¡No se pudieron eliminar todos los subelementos porque otros ensamblajes también hacen referencia a algunos de ellos!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Ruta del proyecto:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Está a punto de eliminar un ensamblaje que contiene subelementos. ¿Desea eliminar también todos los subelementos?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Buscar</translation>
     </message>
@@ -408,6 +444,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Seleccionar línea de la tabla</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Series preferentes sí/no</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>valor</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Uusi kohdistus: &lt;br /&gt;%3 projektissa %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Tietueen päivitys epäonnistui!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Kohdista valittu rivi</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Vahvista kaikki kohdistukset</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Tietueen luonti epäonnistui!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Korvaa jo liitetyt kohdeprojektit</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Kuvaus</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Vahvistetut kohdistukset</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Arvoalueiden purkaminen voi kestää hyvin kauan valittujen muuttujien ja taulukon koon mukaan.
 Jatketaanko varmasti?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Osaa ei voitu poistaa, koska useat kokoonpanot viittaavat siihen!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Jatketaanko varmasti?</translation>
         <translation>Näytä tiedostonimet kuvausten sijaan</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Muokkaa tietuetta</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Lisää tietue</translation>
     </message>
@@ -158,6 +178,14 @@ Jatketaanko varmasti?</translation>
 </source>
         <translation>Algoritmissa on virheitä:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Kutsu %1 epäonnistui!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Tietuetta ei voitu poistaa!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Vähintään yksi vahvistamaton muutos on olemassa.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Kaikkia alielementtejä ei voitu poistaa, koska myös muut kokoonpanot viittaavat joihinkin niistä!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Projektin polku:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Olet poistamassa kokoonpanoa, joka sisältää alielementtejä. Poistetaanko myös kaikki alielementit?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Etsi</translation>
     </message>
@@ -408,6 +444,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Valitse taulukon rivi</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Muuttuja</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Ensisijaiset sarjat päälle/pois</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>arvo</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

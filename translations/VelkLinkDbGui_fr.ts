@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Nouvelle affectation : &lt;br /&gt;%3 du projet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>La mise à jour de l'enregistrement a échoué !</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Affecter la ligne sélectionnée</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirmer toutes les affectations</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>La création de l'enregistrement a échoué !</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Remplacer les projets cibles déjà affectés</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Description</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Affectations confirmées</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>La résolution des plages de valeurs peut durer très longtemps selon les variables choisies et la taille de la table.
 Vraiment continuer ?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>La pièce n'a pas pu être supprimée, car plusieurs assemblages y font référence !</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Vraiment continuer ?</translation>
         <translation>Afficher les noms de fichiers au lieu des descriptions</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Modifier l'enregistrement</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Ajouter un enregistrement</translation>
     </message>
@@ -158,6 +178,14 @@ Vraiment continuer ?</translation>
 </source>
         <translation>L'algorithme contient des erreurs :
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>L'appel de %1 a échoué !</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>L'enregistrement n'a pas pu être supprimé !</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Il existe au moins une modification non confirmée.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Tous les sous-éléments n'ont pas pu être supprimés, car d'autres assemblages font aussi référence à certains d'entre eux !</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Chemin du projet :</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Vous êtes sur le point de supprimer un assemblage qui contient des sous-éléments. Faut-il supprimer aussi tous les sous-éléments ?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Rechercher</translation>
     </message>
@@ -408,6 +444,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Choisir une ligne de la table</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Séries préférentielles oui/non</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>valeur</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Új hozzárendelés: &lt;br /&gt;%3, projekt: %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>A rekord frissítése nem sikerült!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>A kijelölt sor hozzárendelése</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Minden hozzárendelés megerősítése</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>A rekord létrehozása nem sikerült!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Már hozzárendelt célprojektek felülírása</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Leírás</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Megerősített hozzárendelések</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Az értéktartományok feloldása a kiválasztott változóktól és a táblázat méretétől függően nagyon sokáig tarthat.
 Valóban folytatja?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Az alkatrész nem törölhető, mert több összeállítás hivatkozik rá!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Valóban folytatja?</translation>
         <translation>Fájlnevek megjelenítése leírások helyett</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Rekord szerkesztése</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Rekord hozzáadása</translation>
     </message>
@@ -158,6 +178,14 @@ Valóban folytatja?</translation>
 </source>
         <translation>Az algoritmus hibákat tartalmaz:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>A(z) %1 hívása nem sikerült!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>A rekord nem törölhető!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Legalább egy meg nem erősített módosítás van.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Nem törölhető minden alelem, mert néhányra más összeállítások is hivatkoznak!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Projekt útvonala:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Egy alelemeket tartalmazó összeállítást készül törölni. Az összes alelemet is törli?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Keresés</translation>
     </message>
@@ -408,6 +444,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Táblázatsor kiválasztása</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Változó</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Előnyben részesített sorok be/ki</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>érték</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

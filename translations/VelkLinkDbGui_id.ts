@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Penetapan baru: &lt;br /&gt;%3 proyek %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Pembaruan rekaman gagal!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Tetapkan baris yang dipilih</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Konfirmasi semua penetapan</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Pembuatan rekaman gagal!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Timpa proyek target yang sudah ditetapkan</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Deskripsi</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Penetapan yang dikonfirmasi</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Penguraian rentang nilai dapat memakan waktu sangat lama, bergantung pada variabel yang dipilih dan ukuran tabel.
 Sungguh lanjutkan?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Komponen tidak dapat dihapus karena dirujuk oleh beberapa rakitan!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Sungguh lanjutkan?</translation>
         <translation>Tampilkan nama berkas alih-alih deskripsi</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Edit rekaman</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Tambah rekaman</translation>
     </message>
@@ -158,6 +178,14 @@ Sungguh lanjutkan?</translation>
 </source>
         <translation>Algoritma berisi kesalahan:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Pemanggilan %1 gagal!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Rekaman tidak dapat dihapus!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Ada setidaknya satu perubahan yang belum dikonfirmasi.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Tidak semua subelemen dapat dihapus karena beberapa di antaranya juga dirujuk oleh rakitan lain!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Jalur proyek:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Anda akan menghapus rakitan yang berisi subelemen. Hapus juga semua subelemen?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Cari</translation>
     </message>
@@ -408,6 +444,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Pilih baris tabel</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Deret pilihan ya/tidak</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>nilai</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Nuova assegnazione: &lt;br /&gt;%3 del progetto %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Aggiornamento del record non riuscito!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Assegnare la riga selezionata</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confermare tutte le assegnazioni</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Creazione del record non riuscita!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Sovrascrivi i progetti di destinazione già assegnati</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Descrizione</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Assegnazioni confermate</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Risolvere gli intervalli di valori può durare molto, secondo le variabili scelte e la dimensione della tabella.
 Continuare davvero?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Impossibile eliminare la parte perché più assiemi vi fanno riferimento!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Continuare davvero?</translation>
         <translation>Mostra i nomi dei file invece delle descrizioni</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Modifica record</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Aggiungere record</translation>
     </message>
@@ -158,6 +178,14 @@ Continuare davvero?</translation>
 </source>
         <translation>L'algoritmo contiene errori:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>La chiamata di %1 non è riuscita!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Impossibile eliminare il record!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Esiste almeno una modifica non confermata.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Impossibile eliminare tutti i sottoelementi, perché anche altri assiemi fanno riferimento ad alcuni di essi!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Percorso del progetto:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Si sta per eliminare un assieme che contiene sottoelementi. Eliminare anche tutti i sottoelementi?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Cerca</translation>
     </message>
@@ -408,6 +444,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Selezionare una riga della tabella</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabile</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Serie preferenziali sì/no</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>valore</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

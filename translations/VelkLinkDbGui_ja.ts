@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;新しい割り当て: &lt;br /&gt;プロジェクト %4 の %3 &lt;br /&gt;。</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>レコードの更新に失敗しました。</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>選択中の行を割り当て</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>すべての割り当てを確認</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>レコードの作成に失敗しました。</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>割り当て済みの対象プロジェクトを上書き</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>説明</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>確認済みの割り当て</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>値範囲の展開は、選択した変数とテーブルの大きさによって非常に長い時間がかかることがあります。
 本当に続けますか？</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>複数のアセンブリから参照されているため、部品を削除できませんでした。</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Wirklich fortfahren?</source>
         <translation>説明の代わりにファイル名を表示</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>レコードの編集</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>レコードを追加</translation>
     </message>
@@ -158,6 +178,14 @@ Wirklich fortfahren?</source>
 </source>
         <translation>アルゴリズムにエラーがあります:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>%1 の呼び出しに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>レコードを削除できませんでした。</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>未確認の変更が1件以上あります。</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>一部の下位要素は他のアセンブリからも参照されているため、すべての下位要素を削除することはできませんでした。</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>プロジェクトのパス:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>下位要素を含むアセンブリを削除しようとしています。すべての下位要素も削除しますか。</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>検索</translation>
     </message>
@@ -408,6 +444,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>テーブルの行を選択</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>変数</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>優先系列オン／オフ</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>値</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

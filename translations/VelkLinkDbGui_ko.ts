@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;새 할당: &lt;br /&gt;프로젝트 %4의 %3 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>레코드를 업데이트하지 못했습니다!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>선택한 행 할당</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>모든 할당 확인</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>레코드를 만들지 못했습니다!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>이미 할당된 대상 프로젝트 덮어쓰기</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>설명</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>확인된 할당</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>값 범위를 해석하는 데 선택한 변수와 테이블 크기에 따라 매우 오래 걸릴 수 있습니다.
 계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>여러 어셈블리에서 참조하므로 부품을 삭제할 수 없습니다!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Wirklich fortfahren?</source>
         <translation>설명 대신 파일 이름 표시</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>레코드 편집</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>레코드 추가</translation>
     </message>
@@ -158,6 +178,14 @@ Wirklich fortfahren?</source>
 </source>
         <translation>알고리즘에 오류가 있습니다:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>%1 호출에 실패했습니다!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>레코드를 삭제할 수 없습니다!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>확인되지 않은 변경이 하나 이상 있습니다.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>일부 하위 요소를 다른 어셈블리에서도 참조하므로 모든 하위 요소를 삭제할 수는 없었습니다!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>프로젝트 경로:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>하위 요소가 있는 어셈블리를 삭제하려고 합니다. 모든 하위 요소도 삭제할까요?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>검색</translation>
     </message>
@@ -408,6 +444,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>테이블 행 선택</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>변수</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>우선 계열 켬/끔</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>값</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Ny tilordning: &lt;br /&gt;%3 i prosjektet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Oppdatering av posten mislyktes!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Tilordne den valgte linjen</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Bekreft alle tilordninger</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Oppretting av posten mislyktes!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Overskriv målprosjekter som allerede er tilordnet</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Beskrivelse</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bekreftede tilordninger</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Oppløsningen av verdiområdene kan ta svært lang tid, avhengig av de valgte variablene og tabellens størrelse.
 Vil du virkelig fortsette?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Delen kunne ikke slettes fordi flere sammenstillinger viser til den!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Vil du virkelig fortsette?</translation>
         <translation>Vis filnavn i stedet for beskrivelser</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Rediger post</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Legg til post</translation>
     </message>
@@ -158,6 +178,14 @@ Vil du virkelig fortsette?</translation>
 </source>
         <translation>Algoritmen inneholder feil:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Kallet på %1 mislyktes!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Posten kunne ikke slettes!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Det finnes minst én ubekreftet endring.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Ikke alle underelementer kunne slettes fordi andre sammenstillinger også viser til noen av dem!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Prosjektsti:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Du er i ferd med å slette en sammenstilling som inneholder underelementer. Skal alle underelementer også slettes?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Søk</translation>
     </message>
@@ -408,6 +444,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Velg tabellinje</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Foretrukne serier på/av</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>verdi</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

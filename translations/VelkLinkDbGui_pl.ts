@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Nowe przypisanie: &lt;br /&gt;%3 projektu %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Aktualizacja rekordu nie powiodła się!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Przypisz zaznaczony wiersz</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Potwierdź wszystkie przypisania</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Utworzenie rekordu nie powiodło się!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Zastąp już przypisane projekty docelowe</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Opis</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Potwierdzone przypisania</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Rozwijanie zakresów wartości może trwać bardzo długo, zależnie od wybranych zmiennych i wielkości tabeli.
 Naprawdę kontynuować?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Nie można usunąć części, ponieważ odwołuje się do niej kilka złożeń!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Naprawdę kontynuować?</translation>
         <translation>Pokaż nazwy plików zamiast opisów</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Edytuj rekord</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Dodaj rekord</translation>
     </message>
@@ -158,6 +178,14 @@ Naprawdę kontynuować?</translation>
 </source>
         <translation>Algorytm zawiera błędy:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Wywołanie %1 nie powiodło się!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Nie można usunąć rekordu!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Istnieje co najmniej jedna niepotwierdzona zmiana.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Nie można było usunąć wszystkich elementów podrzędnych, ponieważ do niektórych odwołują się także inne złożenia!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Ścieżka projektu:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Zamierzasz usunąć złożenie, które zawiera elementy podrzędne. Czy usunąć także wszystkie elementy podrzędne?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Szukaj</translation>
     </message>
@@ -408,6 +444,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Wybierz wiersz tabeli</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Zmienna</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Szeregi preferowane wł./wył.</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>wartość</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

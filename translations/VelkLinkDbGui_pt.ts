@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Nova atribuição: &lt;br /&gt;%3 do projeto %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>A atualização do registo falhou!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Atribuir a linha selecionada</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Confirmar todas as atribuições</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>A criação do registo falhou!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Substituir projetos de destino já atribuídos</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Descrição</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Atribuições confirmadas</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>A resolução dos intervalos de valores pode demorar muito, conforme as variáveis escolhidas e o tamanho da tabela.
 Continuar mesmo?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Não foi possível eliminar a peça, pois várias montagens fazem referência a ela!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Continuar mesmo?</translation>
         <translation>Mostrar nomes de arquivos em vez de descrições</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Editar registo</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Adicionar registo</translation>
     </message>
@@ -158,6 +178,14 @@ Continuar mesmo?</translation>
 </source>
         <translation>O algoritmo contém erros:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>A chamada de %1 falhou!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Não foi possível eliminar o registo!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Existe pelo menos uma alteração não confirmada.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Não foi possível eliminar todos os subelementos, pois outras montagens também fazem referência a alguns deles!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Caminho do projeto:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Está prestes a eliminar uma montagem que contém subelementos. Eliminar também todos os subelementos?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Pesquisar</translation>
     </message>
@@ -408,6 +444,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Selecionar linha da tabela</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variável</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Séries preferenciais sim/não</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>valor</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

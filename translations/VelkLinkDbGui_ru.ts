@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Новое назначение: &lt;br /&gt;%3 проекта %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Не удалось обновить запись!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Назначить выделенную строку</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Подтвердить все назначения</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Не удалось создать запись!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Перезаписать уже назначенные целевые проекты</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Подтверждённые назначения</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Раскрытие диапазонов значений может занять очень много времени в зависимости от выбранных переменных и размера таблицы.
 Действительно продолжить?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Деталь нельзя удалить, так как на неё ссылаются несколько сборок!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Wirklich fortfahren?</source>
         <translation>Показывать имена файлов вместо описаний</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Изменить запись</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Добавить запись</translation>
     </message>
@@ -158,6 +178,14 @@ Wirklich fortfahren?</source>
 </source>
         <translation>Алгоритм содержит ошибки:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Вызов %1 завершился ошибкой!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Не удалось удалить запись!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Есть хотя бы одно неподтверждённое изменение.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Удалены не все подчинённые элементы, так как на некоторые ссылаются и другие сборки!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Путь проекта:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Вы собираетесь удалить сборку с подчинёнными элементами. Удалить и все подчинённые элементы?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Поиск</translation>
     </message>
@@ -408,6 +444,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Выбрать строку таблицы</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Переменная</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Предпочтительные ряды вкл./выкл.</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>значение</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

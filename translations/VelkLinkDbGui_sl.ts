@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Nova dodelitev: &lt;br /&gt;%3 projekta %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Posodobitev zapisa ni uspela!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Dodeli označeno vrstico</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Potrdi vse dodelitve</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Ustvarjanje zapisa ni uspelo!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Prepiši že dodeljene ciljne projekte</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Opis</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Potrjene dodelitve</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Razreševanje območij vrednosti lahko traja zelo dolgo, odvisno od izbranih spremenljivk in velikosti tabele.
 Res nadaljujem?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Dela ni mogoče izbrisati, ker se nanj sklicuje več sestavov!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Res nadaljujem?</translation>
         <translation>Prikaži imena datotek namesto opisov</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Uredi zapis</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Dodaj zapis</translation>
     </message>
@@ -158,6 +178,14 @@ Res nadaljujem?</translation>
 </source>
         <translation>Algoritem vsebuje napake:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Klic %1 ni uspel!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Zapisa ni mogoče izbrisati!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Obstaja vsaj ena nepotrjena sprememba.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Vseh podrejenih elementov ni bilo mogoče izbrisati, ker se na nekatere sklicujejo tudi drugi sestavi!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Pot projekta:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Izbrisati nameravate sestav, ki vsebuje podrejene elemente. Naj se izbrišejo tudi vsi podrejeni elementi?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Išči</translation>
     </message>
@@ -408,6 +444,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Izberi vrstico tabele</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Spremenljivka</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Prednostne vrste vklop/izklop</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>vrednost</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

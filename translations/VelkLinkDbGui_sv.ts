@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Ny tilldelning: &lt;br /&gt;%3 i projektet %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Posten kunde inte uppdateras!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Tilldela den markerade raden</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Bekräfta alla tilldelningar</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Posten kunde inte skapas!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Skriv över målprojekt som redan är tilldelade</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Beskrivning</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Bekräftade tilldelningar</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Upplösningen av värdeområdena kan ta mycket lång tid beroende på valda variabler och tabellens storlek.
 Vill du verkligen fortsätta?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Delen kunde inte tas bort eftersom flera sammanställningar hänvisar till den!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Vill du verkligen fortsätta?</translation>
         <translation>Visa filnamn i stället för beskrivningar</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Redigera post</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Lägg till post</translation>
     </message>
@@ -158,6 +178,14 @@ Vill du verkligen fortsätta?</translation>
 </source>
         <translation>Algoritmen innehåller fel:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>Anropet av %1 misslyckades!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Posten kunde inte tas bort!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>Det finns minst en obekräftad ändring.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Alla underelement kunde inte tas bort eftersom andra sammanställningar också hänvisar till några av dem!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Projektets sökväg:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Du håller på att ta bort en sammanställning som innehåller underelement. Ska även alla underelement tas bort?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Sök</translation>
     </message>
@@ -408,6 +444,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Välj tabellrad</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Prioriterade serier på/av</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>värde</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;Yeni atama: &lt;br /&gt;%3, proje %4 &lt;br /&gt;.</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>Kayıt güncellenemedi!</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>Seçili satırı ata</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>Tüm atamaları onayla</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>Kayıt oluşturulamadı!</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>Zaten atanmış hedef projelerin üzerine yaz</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>Açıklama</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>Onaylanan atamalar</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>Değer aralıklarının çözülmesi, seçilen değişkenlere ve tablonun boyutuna göre çok uzun sürebilir.
 Gerçekten devam edilsin mi?</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>Parça silinemedi, çünkü birden fazla montaj ona başvuruyor!</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Gerçekten devam edilsin mi?</translation>
         <translation>Açıklamalar yerine dosya adlarını göster</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>Kaydı düzenle</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>Kayıt ekle</translation>
     </message>
@@ -158,6 +178,14 @@ Gerçekten devam edilsin mi?</translation>
 </source>
         <translation>Algoritma hatalar içeriyor:
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>%1 çağrısı başarısız oldu!</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>Kayıt silinemedi!</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>En az bir onaylanmamış değişiklik var.</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>Bazı alt öğelere başka montajlar da başvurduğundan tüm alt öğeler silinemedi!</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Proje yolu:</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>Alt öğeler içeren bir montajı silmek üzeresiniz. Tüm alt öğeler de silinsin mi?</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>Ara</translation>
     </message>
@@ -408,6 +444,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>Tablo satırı seç</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Değişken</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>Tercihli seriler açık/kapalı</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>değer</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

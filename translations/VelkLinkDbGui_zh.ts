@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;新分配：&lt;br /&gt;项目 %4 的 %3 &lt;br /&gt;。</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>更新记录失败！</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>分配所选行</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>确认所有分配</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>创建记录失败！</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>覆盖已分配的目标项目</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>描述</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>已确认的分配</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>展开值范围可能需要很长时间，取决于所选变量和表的大小。
 确实要继续吗？</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>无法删除该零件，因为有多个装配引用它！</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Wirklich fortfahren?</source>
         <translation>显示文件名而非描述</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>编辑记录</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>添加记录</translation>
     </message>
@@ -158,6 +178,14 @@ Wirklich fortfahren?</source>
 </source>
         <translation>算法包含错误：
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>调用 %1 失败！</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>无法删除该记录！</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>至少存在一个未确认的更改。</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>无法删除所有子元素，因为其中一些还被其他装配引用！</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>项目路径：</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>您即将删除包含子元素的装配。是否同时删除所有子元素？</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>搜索</translation>
     </message>
@@ -408,6 +444,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>选择表行</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>变量</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>优先系列 开/关</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>值</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -32,6 +32,10 @@
         <translation>&lt;br /&gt;新指派：&lt;br /&gt;專案 %4 的 %3 &lt;br /&gt;。</translation>
     </message>
     <message>
+        <source>Aktualisierung des Datensatzes fehlgeschlagen!</source>
+        <translation>更新記錄失敗！</translation>
+    </message>
+    <message>
         <source>Aktuell markierte Zeile zuordnen</source>
         <translation>指派所選列</translation>
     </message>
@@ -42,6 +46,10 @@
     <message>
         <source>Alle Zuordnungen bestätigen</source>
         <translation>確認所有指派</translation>
+    </message>
+    <message>
+        <source>Anlegen des Datensatzes fehlgeschlagen!</source>
+        <translation>建立記錄失敗！</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
@@ -116,6 +124,10 @@
         <translation>覆寫已指派的目標專案</translation>
     </message>
     <message>
+        <source>Beschreibung</source>
+        <translation>描述</translation>
+    </message>
+    <message>
         <source>Bestätigte Zuordnungen</source>
         <translation>已確認的指派</translation>
     </message>
@@ -124,6 +136,10 @@
 Wirklich fortfahren?</source>
         <translation>展開值範圍可能需要很長時間，取決於所選變數和表格的大小。
 確定要繼續嗎？</translation>
+    </message>
+    <message>
+        <source>Das Teil konnte nicht gelöscht werden, da es von mehreren Assemblies referenziert wird!</source>
+        <translation>無法刪除該零件，因為有多個組件參照它！</translation>
     </message>
     <message>
         <source>Das Zielprojekt %1 existiert nicht mehr</source>
@@ -142,6 +158,10 @@ Wirklich fortfahren?</source>
         <translation>顯示檔名而非描述</translation>
     </message>
     <message>
+        <source>Datensatz bearbeiten</source>
+        <translation>編輯記錄</translation>
+    </message>
+    <message>
         <source>Datensatz hinzufügen</source>
         <translation>新增記錄</translation>
     </message>
@@ -158,6 +178,14 @@ Wirklich fortfahren?</source>
 </source>
         <translation>演算法包含錯誤：
 </translation>
+    </message>
+    <message>
+        <source>Der Aufruf von %1 ist fehlgeschlagen!</source>
+        <translation>呼叫 %1 失敗！</translation>
+    </message>
+    <message>
+        <source>Der Datensatz konnte nicht gelöscht werden!</source>
+        <translation>無法刪除該記錄！</translation>
     </message>
     <message>
         <source>Die Bedingungen für das Projekt %1 wurden geändert.</source>
@@ -260,6 +288,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
         <translation>至少有一個未確認的變更。</translation>
+    </message>
+    <message>
+        <source>Es konnten nicht alle Unterelemente gelöscht werden, da einige Unterelemente auch von anderen Assemblies referenziert werden!</source>
+        <translation>無法刪除所有子元素，因為其中一些也被其他組件參照！</translation>
     </message>
     <message>
         <source>Es wurde ein Mapping für das Projekt %1 entfernt.</source>
@@ -398,6 +430,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>專案路徑：</translation>
     </message>
     <message>
+        <source>Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen alle Unterelemente ebenfalls gelöscht werden?</source>
+        <translation>您即將刪除含有子元素的組件。是否同時刪除所有子元素？</translation>
+    </message>
+    <message>
         <source>Suchen</source>
         <translation>搜尋</translation>
     </message>
@@ -408,6 +444,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Tabellenzeile auswählen</source>
         <translation>選擇表格列</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>變數</translation>
     </message>
     <message>
         <source>Variable ignorieren</source>
@@ -440,6 +480,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     <message>
         <source>Vorzugsreihen An/Aus</source>
         <translation>優先系列 開/關</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>值</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
