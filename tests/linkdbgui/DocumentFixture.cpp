@@ -267,6 +267,21 @@ void DocumentFixture::execute(const QString &sql) const
     (void)log.takeStatements();
 }
 
+void DocumentFixture::refuseDeletion(const QString &geoId) const
+{
+    if (linkDb->settings().kind == LinkDbSettings::Kind::SQLite) {
+        execute(QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON plm_document WHEN "
+                               "OLD.GEO_ID = '%1' BEGIN SELECT RAISE(ABORT, 'refused'); END")
+                    .arg(geoId));
+        return;
+    }
+    execute(QStringLiteral("CREATE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
+                           "RAISE 'refused'; END $$"));
+    execute(QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON plm_document FOR EACH ROW WHEN "
+                           "(OLD.GEO_ID = '%1') EXECUTE FUNCTION refuse()")
+                .arg(geoId));
+}
+
 void DocumentFixture::setKey(const QString &key, const QString &value) const
 {
     QVERIFY(linkDb->setGroupInformation(linkDb->currentGroup(), key, value));

@@ -112,6 +112,8 @@ public:
     void insert(const QString &geoId, const Values &values = {}) const;
     void join(const QString &parent, const QString &child) const;
     void execute(const QString &sql) const;
+    /// The database refuses to delete that document.
+    void refuseDeletion(const QString &geoId) const;
     void setKey(const QString &key, const QString &value) const;
     /// First column of a SELECT; forgets the log.
     [[nodiscard]] QStringList column(const QString &sql) const;

@@ -55,8 +55,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("symbol");
         for (const char *name :
              {"CatalogMappingWidget", "ReleaseMappingHandler", "CatalogMappingHandlerI",
-              "CatalogStructureNodeI", "ApplicationHandlerI", "DlgFormulaEditor", "dlgSearchSelect",
-              "dlgSelect"})
+              "CatalogStructureNodeI", "ApplicationHandlerI", "DocumentListDialogC",
+              "DlgFormulaEditor", "dlgSearchSelect", "dlgSelect"})
             QTest::newRow(name) << QStringLiteral("D vtable for ") + name;
         QTest::newRow("meta object") << "D CatalogMappingWidget::staticMetaObject";
         QTest::newRow("path of a target")
