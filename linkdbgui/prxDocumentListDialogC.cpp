@@ -12,8 +12,10 @@ prxDocumentListDialogC::~prxDocumentListDialogC()
 void prxDocumentListDialogC::setParentWindow(const ProxyPtrT<prxguiWindowC> &window)
 {
     m_parentWindow = window;
-    if (m_dialog && !window.isNull())
-        m_dialog->QWidget::setParent(window->getWidget());
+    if (m_dialog && !window.isNull()) {
+        // With its flags, or it would be no window any more and wait inside of its parent.
+        m_dialog->setParent(window->getWidget(), m_dialog->windowFlags());
+    }
 }
 
 bool prxDocumentListDialogC::isModified() const

@@ -7,9 +7,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QElapsedTimer>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -130,13 +132,25 @@ QStringList entriesOf(const prxDictionaryObjC &dictionary)
 
 void inNextDialog(const std::function<void(QDialog &)> &act)
 {
-    QTimer::singleShot(0, qApp, [act] {
+    constexpr int lookMs = 5;
+    constexpr int patienceMs = 10'000;
+    const QPointer<QWidget> current = QApplication::activeModalWidget();
+    auto *const timer = new QTimer(qApp);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QObject::connect(timer, &QTimer::timeout, qApp, [=] {
         auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog)
+        const bool found = dialog && dialog != current;
+        if (!found && elapsed.elapsed() < patienceMs)
+            return;
+        timer->stop();
+        timer->deleteLater();
+        if (!found)
             QApplication::closeAllWindows(); // or the test would wait for ever
-        QVERIFY(dialog);
+        QVERIFY(found);
         act(*dialog);
     });
+    timer->start(lookMs);
 }
 
 void inNextForm(const std::function<void(NewRecordDialogC &)> &fill, bool accept)
@@ -201,7 +215,7 @@ DocumentFixture::DocumentFixture(const QString &database)
     writeTable({});
     const QString address = database == QLatin1String("PostgreSQL")
                                 ? server().newDatabase()
-                                : m_folder.filePath(QStringLiteral("link.db"));
+                                : folder.filePath(QStringLiteral("link.db"));
     QVERIFY2(linkDb->open(LinkDbSettings::fromText(address)),
              qPrintable(linkDb->lastError().text + server().problem()));
     (void)log.takeStatements();

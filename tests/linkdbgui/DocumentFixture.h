@@ -128,6 +128,7 @@ public:
     const QString project = QStringLiteral("cat/a.prj");
     TestCatalog catalog;
     QString path; ///< of the project
+    const QTemporaryDir folder;
     PRefPtr<PLinkDbC> linkDb;
     ProxyPtrT<prxLinkDbIfaceC> iface;
     ProxyPtrT<VKTab::proxyTableC> table;
@@ -139,7 +140,6 @@ private:
     void writeTable(const QString &pool);
 
     const PMessageSinkScope m_scope{messages};
-    QTemporaryDir m_folder;
     PPathName m_formerRoot;
 };
 
