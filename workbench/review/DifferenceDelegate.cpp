@@ -1,0 +1,69 @@
+#include "DifferenceDelegate.h"
+
+#include "DifferenceModel.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QTextLayout>
+
+namespace {
+
+using Marks = QList<QPair<int, int>>;
+
+QList<QTextLayout::FormatRange> formatsOf(const Marks &marks, const QPalette &palette)
+{
+    // On dark surfaces a light mark would hide light characters.
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    QTextCharFormat marked;
+    marked.setBackground(dark ? QColor(128, 92, 0) : QColor(255, 224, 130));
+    marked.setForeground(dark ? QColor(Qt::white) : QColor(Qt::black));
+    QList<QTextLayout::FormatRange> formats;
+    for (const auto &[begin, length] : marks)
+        formats.append({begin, length, marked});
+    return formats;
+}
+
+void drawMarked(QPainter *painter, const QStyleOptionViewItem &option, const QRect &place,
+                const Marks &marks)
+{
+    QTextLayout layout(option.text, option.font);
+    QTextOption text(Qt::AlignLeft | Qt::AlignVCenter);
+    text.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(text);
+    layout.setFormats(formatsOf(marks, option.palette));
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(place.width());
+    layout.endLayout();
+    painter->save();
+    painter->setClipRect(place);
+    painter->setPen(option.palette.color(
+        option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text));
+    layout.draw(painter, QPointF(place.x(), place.y() + (place.height() - line.height()) / 2));
+    painter->restore();
+}
+
+} // namespace
+
+void DifferenceDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                               const QModelIndex &index) const
+{
+    QStyleOptionViewItem shown = option;
+    initStyleOption(&shown, index);
+    const bool differs =
+        index.data(DifferenceModel::OutcomeRole).toInt() != ComparedVariableC::Equal;
+    if (differs && index.column() == DifferenceModel::Variable)
+        shown.font.setBold(true);
+    const auto marks = index.data(DifferenceModel::MarksRole).value<Marks>();
+    const QStyle *const style = shown.widget ? shown.widget->style() : QApplication::style();
+    if (marks.isEmpty()) {
+        style->drawControl(QStyle::CE_ItemViewItem, &shown, painter, shown.widget);
+        return;
+    }
+    QStyleOptionViewItem frame = shown;
+    frame.text.clear();
+    style->drawControl(QStyle::CE_ItemViewItem, &frame, painter, frame.widget);
+    const QRect place = style->subElementRect(QStyle::SE_ItemViewItemText, &shown, shown.widget);
+    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, shown.widget) + 1;
+    drawMarked(painter, shown, place.adjusted(margin, 0, -margin, 0), marks);
+}

@@ -1,0 +1,120 @@
+#include "DifferencePanel.h"
+
+#include "CandidateModel.h"
+#include "DifferenceDelegate.h"
+#include "DifferenceModel.h"
+#include "PatternText.h"
+
+#include <workbench/session/ReviewWork.h>
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QSplitter>
+#include <QTableView>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+DifferencePanel::DifferencePanel(QWidget *parent)
+    : QDockWidget(parent)
+    , m_differences(new DifferenceModel(this))
+    , m_candidates(new CandidateModel(this))
+{
+    setObjectName("DifferencePanel");
+    auto *const content = new QWidget(this);
+    auto *const layout = new QVBoxLayout(content);
+    layout->setContentsMargins(4, 4, 4, 4);
+    m_head = new QLabel(content);
+    m_head->setObjectName("DifferenceHead");
+    m_head->setTextFormat(Qt::PlainText);
+    m_head->setWordWrap(true);
+    auto *const panes = new QSplitter(Qt::Horizontal, content);
+    m_values = new QTableView(panes);
+    m_values->setObjectName("DifferenceTable");
+    m_values->setModel(m_differences);
+    m_values->setItemDelegate(new DifferenceDelegate(m_values));
+    m_values->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_values->verticalHeader()->hide();
+    m_values->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_values->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    m_values->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_values->horizontalHeader()->setSectionResizeMode(DifferenceModel::Variable,
+                                                       QHeaderView::ResizeToContents);
+    m_list = new QTreeView(panes);
+    m_list->setObjectName("CandidateList");
+    m_list->setModel(m_candidates);
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setAllColumnsShowFocus(true);
+    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    panes->setStretchFactor(0, 1);
+    panes->setStretchFactor(1, 1);
+    layout->addWidget(m_head);
+    layout->addWidget(panes, 1);
+    setWidget(content);
+    connect(m_list, &QTreeView::activated, this,
+            [this](const QModelIndex &index) { Q_EMIT candidateChosen(index.row() + 1); });
+    retranslate();
+}
+
+DifferencePanel::~DifferencePanel() = default;
+
+void DifferencePanel::show(const LineExplanation &explanation)
+{
+    QString head = explanation.line.project.path + u':' + QString::number(explanation.line.line);
+    if (!explanation.designation.isEmpty())
+        head += QStringLiteral("  ") + explanation.designation;
+    if (!explanation.isRead) {
+        clear();
+        m_head->setText(head + u'\n' +
+                        (explanation.errors.isEmpty() ? tr("Die Tabelle hat die Zeile nicht.")
+                                                      : explanation.errors.join(u'\n')));
+        return;
+    }
+    const auto &assigned = explanation.assigned;
+    head += u'\n';
+    if (!assigned)
+        head += tr("Ohne Ziel. %1").arg(explanation.candidates.explanation);
+    else if (assigned->probability > 0)
+        head +=
+            PatternText::percent(assigned->probability) + QStringLiteral(": ") + assigned->reason;
+    else
+        head += tr("Die zugeordnete Zeile ist keiner der Kandidaten.");
+    m_head->setText(head);
+    const QList<LineCandidateC> &candidates = explanation.candidates.candidates;
+    m_differences->setVariables(assigned               ? assigned->variables
+                                : candidates.isEmpty() ? QList<ComparedVariableC>()
+                                                       : candidates.first().variables);
+    m_candidates->setCandidates(explanation.candidates, assigned ? assigned->target : -1,
+                                assigned ? assigned->targetLine : -1);
+    m_values->scrollToTop();
+}
+
+void DifferencePanel::clear()
+{
+    m_head->clear();
+    m_differences->setVariables({});
+    m_candidates->clear();
+}
+
+const LineCandidateC *DifferencePanel::candidate(int key) const
+{
+    const QList<LineCandidateC> &candidates = m_candidates->candidates().candidates;
+    return key >= 1 && key <= candidates.size() ? &candidates[key - 1] : nullptr;
+}
+
+void DifferencePanel::changeEvent(QEvent *event)
+{
+    QDockWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void DifferencePanel::retranslate()
+{
+    setWindowTitle(tr("Alt und neu"));
+    m_values->setAccessibleName(windowTitle());
+    m_list->setAccessibleName(tr("Kandidaten"));
+    m_differences->retranslate();
+    m_candidates->retranslate();
+}

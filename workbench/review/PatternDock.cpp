@@ -1,0 +1,156 @@
+#include "PatternDock.h"
+
+#include "PatternModel.h"
+#include "PatternText.h"
+
+#include <workbench/session/ReviewWork.h>
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+PatternDock::PatternDock(ReviewWork *work, QWidget *parent)
+    : QDockWidget(parent)
+    , m_work(work)
+    , m_model(new PatternModel(this))
+{
+    setObjectName("PatternDock");
+    auto *const content = new QWidget(this);
+    auto *const layout = new QVBoxLayout(content);
+    layout->setContentsMargins(4, 4, 4, 4);
+    m_sum = new QLabel(content);
+    m_sum->setObjectName("PatternSum");
+    m_sum->setWordWrap(true);
+    m_list = new QTreeView(content);
+    m_list->setObjectName("PatternList");
+    m_list->setModel(m_model);
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setAllColumnsShowFocus(true);
+    m_list->header()->setStretchLastSection(false);
+    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(PatternModel::Changes, QHeaderView::Stretch);
+    m_list->header()->setMinimumSectionSize(40);
+    m_list->installEventFilter(this);
+    layout->addWidget(m_sum);
+    layout->addWidget(m_list);
+    setWidget(content);
+    connect(m_list, &QTreeView::doubleClicked, this,
+            [this](const QModelIndex &index) { choose(m_model->patternAt(index.row())); });
+    connect(work, &ReviewWork::patternsMade, this, &PatternDock::takePatterns);
+    connect(work, &ReviewWork::patternsChanged, this, &PatternDock::takeChanges);
+    connect(work, &ReviewWork::readingChanged, this, &PatternDock::writeSum);
+    retranslate();
+}
+
+PatternDock::~PatternDock() = default;
+
+void PatternDock::takePatterns()
+{
+    m_model->setPatterns(m_work->hasPatterns() ? &m_work->patterns() : nullptr);
+    if (m_model->rowCount() > 0)
+        m_list->setCurrentIndex(m_model->index(0, 0));
+    choose(-1);
+    writeSum();
+}
+
+void PatternDock::takeChanges()
+{
+    m_model->update();
+    if (m_chosen >= 0 && m_model->rowOf(m_chosen) < 0)
+        choose(-1);
+    writeSum();
+}
+
+void PatternDock::choose(int pattern)
+{
+    const int row = m_model->rowOf(pattern);
+    const int wanted = row < 0 ? -1 : pattern;
+    if (row >= 0)
+        m_list->setCurrentIndex(m_model->index(row, 0));
+    if (wanted == m_chosen)
+        return;
+    m_chosen = wanted;
+    m_takenOut = 0;
+    writeSum();
+    Q_EMIT chosenChanged(m_chosen);
+}
+
+void PatternDock::chooseNext()
+{
+    if (m_model->rowCount() == 0)
+        return choose(-1);
+    const int row = m_model->rowOf(m_chosen);
+    choose(m_model->patternAt((row + 1) % m_model->rowCount()));
+}
+
+void PatternDock::setTakenOut(int lines)
+{
+    m_takenOut = lines;
+    writeSum();
+}
+
+void PatternDock::focusList()
+{
+    m_list->setFocus();
+}
+
+/// All open lines, and what the chosen pattern has of them.
+void PatternDock::writeSum()
+{
+    QStringList texts;
+    if (m_work->isReading())
+        texts +=
+            tr("Die Tabellen werden verglichen: %1 Projekte gelesen").arg(m_work->projectsRead());
+    if (m_work->hasPatterns()) {
+        const int pending = m_work->patterns().pendingLines();
+        texts += tr("%n offene Zeile(n) mit Vorschlag", nullptr, m_work->patterns().openLines()) +
+                 u' ' + tr("in %n Muster(n)", nullptr, m_model->rowCount());
+        if (pending > 0)
+            texts += tr("%n davon wird/werden noch verglichen", nullptr, pending);
+    }
+    if (m_chosen >= 0) {
+        const int lines = m_work->patterns().numbers(m_chosen).lines;
+        texts += tr("Gewählt: %n Zeile(n)", nullptr, lines) +
+                 (m_takenOut > 0
+                      ? QStringLiteral(", ") + tr("%n davon herausgenommen", nullptr, m_takenOut)
+                      : QString());
+    }
+    m_sum->setText(texts.join(u'\n'));
+}
+
+bool PatternDock::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_list || event->type() != QEvent::KeyPress)
+        return QDockWidget::eventFilter(watched, event);
+    const auto *const key = static_cast<QKeyEvent *>(event);
+    if (key->modifiers() & ~Qt::KeypadModifier)
+        return false;
+    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+        choose(m_model->patternAt(m_list->currentIndex().row()));
+    else if (key->key() == Qt::Key_Escape)
+        choose(-1);
+    else
+        return false;
+    return true;
+}
+
+void PatternDock::changeEvent(QEvent *event)
+{
+    QDockWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void PatternDock::retranslate()
+{
+    setWindowTitle(tr("Unterschiede der offenen Zeilen"));
+    m_list->setAccessibleName(windowTitle());
+    m_model->retranslate();
+    writeSum();
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <release/pattern/DifferencePatterns.h>
+
+#include <QString>
+
+/// Difference patterns in words, in the language of the moment.
+namespace PatternText {
+
+/// "Werkstoff: St37-2 → S235JR; L: × 0.5".
+[[nodiscard]] QString of(const VelkRelease::DifferencePatterns &patterns, int pattern);
+[[nodiscard]] QString of(const QList<VelkRelease::ValueChange> &changes);
+[[nodiscard]] QString of(const AgreedReplacement &replacement);
+/// "93 %"; never 100 % for less.
+[[nodiscard]] QString percent(double share);
+
+} // namespace PatternText

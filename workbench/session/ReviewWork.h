@@ -1,0 +1,107 @@
+#pragma once
+
+#include "SessionTypes.h"
+
+#include <release/pattern/DifferencePatterns.h>
+#include <release/pattern/LineComparer.h>
+
+#include <QObject>
+
+#include <functional>
+#include <list>
+#include <memory>
+#include <thread>
+
+class MappingDocument;
+
+/// What is known of one line of the open document.
+struct LineExplanation
+{
+    LineRef line;
+    bool isRead = false; ///< the tables could be read and have the line
+    QString designation;
+    std::optional<VelkRelease::LineComparer::Pair> assigned; ///< nothing if it is not assigned
+    LineCandidatesC candidates;
+    QStringList errors;
+};
+
+/// Keeps the difference patterns of the open document up to date, and explains single lines. Tables
+/// are read on other threads; what is known at the moment can be asked for at any time. Decisions
+/// are taken in at once, at the cost of what they change. GUI thread.
+class ReviewWork : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Place = VelkRelease::DifferencePatterns::Place;
+
+    /// \a document must live as long.
+    explicit ReviewWork(MappingDocument *document, QObject *parent = nullptr);
+    ~ReviewWork() override;
+
+    /// Works only while it is wanted, and reads everything when it begins to be.
+    void setWanted(bool wanted);
+    [[nodiscard]] bool isWanted() const { return m_wanted; }
+    /// Reads everything anew, as after the tables or the agreed replacements changed.
+    void readAnew();
+
+    /// The patterns of all lines are being read; those of an earlier state may be there still.
+    [[nodiscard]] bool isReading() const { return m_isReading; }
+    /// Projects that are read, of all; while isReading().
+    [[nodiscard]] int projectsRead() const { return m_projectsRead; }
+    [[nodiscard]] bool hasPatterns() const { return m_hasPatterns; }
+    [[nodiscard]] const VelkRelease::DifferencePatterns &patterns() const { return m_patterns; }
+
+    [[nodiscard]] ProjectId projectAt(int position) const;
+    /// -1 if the release does not have it.
+    [[nodiscard]] int positionOf(const ProjectId &project) const;
+    [[nodiscard]] LineRef lineAt(const Place &place) const;
+    [[nodiscard]] Place placeOf(const LineRef &line) const;
+
+    /// explained() follows, unless another line is asked for before.
+    void explain(const LineRef &line);
+
+Q_SIGNALS:
+    /// There are others, with other numbers.
+    void patternsMade();
+    /// The same with other lines, or more of them behind the others.
+    void patternsChanged();
+    void readingChanged();
+    void explained(const LineExplanation &explanation);
+
+private:
+    struct Job
+    {
+        std::atomic<bool> cancelled = false;
+        std::atomic<bool> done = false;
+        quint64 number = 0; ///< tells jobs apart that are gone
+        std::jthread thread;
+    };
+    struct Comparer;
+
+    void start();
+    void stop();
+    void onMappingChanged(const ProjectId &project);
+    void readPending();
+    void tellChange();
+    void takePatterns(VelkRelease::DifferencePatterns &&patterns);
+    /// Runs \a work on a thread of its own; it hands its result over by post().
+    std::shared_ptr<Job> run(const std::function<void(Job &)> &work);
+    /// Calls \a take on this object's thread, if \a job is not cancelled until then.
+    void post(Job &job, const std::function<void()> &take);
+    void reap();
+
+    MappingDocument *const m_document;
+    bool m_wanted = false;
+    bool m_isReading = false;
+    bool m_hasPatterns = false;
+    bool m_changeTold = false;
+    int m_projectsRead = 0;
+    VelkRelease::DifferencePatterns m_patterns;
+    std::shared_ptr<Job> m_reading;
+    std::shared_ptr<Job> m_pending;
+    std::shared_ptr<Job> m_explaining;
+    std::shared_ptr<Comparer> m_comparer; ///< of the project that was explained last
+    quint64 m_lastJob = 0;
+    std::list<std::shared_ptr<Job>> m_jobs; ///< those that have not ended
+};
