@@ -175,6 +175,20 @@ void MappingDocument::replaceRelease(const ReleaseMappingC &release, const QStri
     endStep();
 }
 
+void MappingDocument::setReplacements(const QList<AgreedReplacement> &replacements,
+                                      const QString &text)
+{
+    ReleaseMappingC changed = release();
+    changed.setReplacements(replacements);
+    replaceRelease(changed, text);
+}
+
+void MappingDocument::writeNote(const char *kind, const PJsonValue &note)
+{
+    if (d->isEditable())
+        d->steps.journalNote(kind, note);
+}
+
 void MappingDocument::beginStep(const QString &text)
 {
     if (!d->steps.isNested())

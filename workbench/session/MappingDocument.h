@@ -14,6 +14,7 @@
 #include <memory>
 
 class CatalogMappingHandlerI;
+class PJsonValue;
 class MappingDocumentPrivate;
 class QSettings;
 
@@ -126,6 +127,11 @@ public:
     /// Replaces everything in one step, as after creating or assigning a whole release. The tree is
     /// made anew: releaseReplaced() follows.
     void replaceRelease(const ReleaseMappingC &release, const QString &text);
+    /// What is agreed to about values of the release's lines, in one step: as replaceRelease().
+    void setReplacements(const QList<AgreedReplacement> &replacements, const QString &text);
+    /// Writes into the journal what is no change, such as a sample that was judged. \a kind names
+    /// it; \a note is any value.
+    void writeNote(const char *kind, const PJsonValue &note);
     /// All changes until the matching endStep() make one step. \a text: what undo says; empty: it
     /// is made from the changes. May be nested, the outermost text counts.
     void beginStep(const QString &text = QString());

@@ -26,6 +26,20 @@ QString nameOf(StepRecorder::Origin origin)
     return QStringLiteral("recover");
 }
 
+/// A text row for each field of a replacement, in their order.
+PJsonValue toJson(const QList<AgreedReplacement> &replacements)
+{
+    PJsonValue list(PJsonValue::Array);
+    for (const AgreedReplacement &agreed : replacements) {
+        PJsonValue row(PJsonValue::Array);
+        for (const QString &text : {agreed.folder, agreed.variable, agreed.before, agreed.after,
+                                    agreed.factor, agreed.offset})
+            row.append(PJsonValue(text));
+        list.append(row);
+    }
+    return list;
+}
+
 } // namespace
 
 bool StepRecorder::openJournal(const QString &path, const Opening &opening)
@@ -206,6 +220,12 @@ void StepRecorder::journalRelease(const ReleaseMappingC &before, const ReleaseMa
 {
     for (const MappingDifference &difference : releaseDifferences(before, after))
         m_journal.append(difference, m_step);
+    if (before.getReplacements() != after.getReplacements()) {
+        PJsonValue json = record("replacements");
+        json[QStringLiteral("before")] = toJson(before.getReplacements());
+        json[QStringLiteral("after")] = toJson(after.getReplacements());
+        m_journal.append(json);
+    }
     if (before.getTargetDate() == after.getTargetDate())
         return;
     PJsonValue json = record("targetDate");
@@ -220,6 +240,14 @@ void StepRecorder::journalStep(const QString &text, Origin origin)
     json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
     json[QStringLiteral("origin")] = PJsonValue(nameOf(origin));
     json[QStringLiteral("text")] = PJsonValue(text);
+    m_journal.append(json);
+    m_journal.flush();
+}
+
+void StepRecorder::journalNote(const char *kind, const PJsonValue &note)
+{
+    PJsonValue json = record(kind);
+    json[QStringLiteral("note")] = note;
     m_journal.append(json);
     m_journal.flush();
 }

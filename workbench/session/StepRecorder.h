@@ -10,6 +10,8 @@
 
 #include <optional>
 
+class PJsonValue;
+
 /// Gathers changes until a step is complete, writes them into the journal as they come, and keeps
 /// the steps for undo and redo. Knows nothing of handler, file or signals.
 class StepRecorder
@@ -79,6 +81,8 @@ public:
     void journalDifference(const PrjMappingC &before, const PrjMappingC &after);
     void journalRelease(const ReleaseMappingC &before, const ReleaseMappingC &after);
     void journalStep(const QString &text, Origin origin);
+    /// Writes down what is no change of the release. \a record is an object; it gets kind and time.
+    void journalNote(const char *kind, const PJsonValue &note);
 
     void noteSaved(const QByteArray &fileHash);
     void noteAutosaved(const QByteArray &fileHash);

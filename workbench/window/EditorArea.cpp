@@ -111,11 +111,21 @@ bool EditorArea::selectProject(const QString &sourcePath)
     return m_editor && goToProject(sourcePath, QString());
 }
 
-/// The choice of kinds gives way to a project that it hides.
+/// The choices of lines and kinds give way to a project that they hide.
 bool EditorArea::goToProject(const QString &path, const QString &version)
 {
     if (m_editor->selectProject(path, version))
         return true;
+    if (!m_choice.isEmpty()) {
+        const LineChoice choice = m_choice;
+        setLineChoice({});
+        if (goToProject(path, version)) {
+            Q_EMIT lineChoiceDropped();
+            return true;
+        }
+        setLineChoice(choice);
+        return false;
+    }
     if (!m_kinds)
         return false;
     const OpenLines::Kinds kinds = m_kinds;
@@ -137,11 +147,24 @@ void EditorArea::setLineKinds(OpenLines::Kinds kinds)
     filterLines();
 }
 
+void EditorArea::setLineChoice(const LineChoice &choice)
+{
+    if (m_choice.isEmpty() && choice.isEmpty())
+        return;
+    m_choice = choice;
+    filterProjects();
+    filterLines();
+}
+
 void EditorArea::filterProjects()
 {
     if (!m_editor)
         return;
-    if (m_kinds)
+    if (!m_choice.isEmpty())
+        m_editor->setProjectFilter([choice = m_choice](const PrjMappingC &mapping) {
+            return choice.contains(ProjectId::of(mapping));
+        });
+    else if (m_kinds)
         m_editor->setProjectFilter([kinds = m_kinds](const PrjMappingC &mapping) {
             return OpenLines::countOf(mapping, kinds) > 0;
         });
@@ -153,7 +176,9 @@ void EditorArea::filterLines()
 {
     if (!m_editor)
         return;
-    if (m_kinds)
+    if (!m_choice.isEmpty())
+        m_editor->showOnlyLines(m_choice.value(currentProject()));
+    else if (m_kinds)
         m_editor->showOnlyLines(OpenLines::linesOf(m_editor->currentProject(), m_kinds));
     else
         m_editor->showAllLines();
@@ -161,7 +186,7 @@ void EditorArea::filterLines()
 
 void EditorArea::onProjectShown()
 {
-    if (m_kinds)
+    if (m_kinds || !m_choice.isEmpty())
         filterLines();
     Q_EMIT projectSelected();
 }
@@ -222,7 +247,8 @@ OpenLines::Shown EditorArea::shown() const
         return rows;
     rows.project = currentProject();
     rows.rows = m_editor->shownLineCount();
-    rows.isFiltered = m_kinds ? !m_editor->columnFilters().isEmpty() : m_editor->linesAreFiltered();
+    rows.isFiltered = m_kinds || !m_choice.isEmpty() ? !m_editor->columnFilters().isEmpty()
+                                                     : m_editor->linesAreFiltered();
     rows.lineAt = [editor = m_editor](int row) {
         return editor->shownLine(row);
     };

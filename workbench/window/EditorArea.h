@@ -3,6 +3,7 @@
 #include <geomcore/table/ContentRef.h>
 #include <workbench/session/OpenLines.h>
 
+#include <QHash>
 #include <QPointer>
 #include <QWidget>
 
@@ -49,6 +50,11 @@ public:
     void setLineKinds(OpenLines::Kinds kinds);
     [[nodiscard]] OpenLines::Kinds lineKinds() const { return m_kinds; }
 
+    /// Projects with those of their lines that are meant.
+    using LineChoice = QHash<ProjectId, std::vector<int>>;
+    /// Shows only these lines and projects, whatever their kinds; an empty one takes that away.
+    void setLineChoice(const LineChoice &choice);
+
     /// Source line ids in display order.
     [[nodiscard]] QList<int> selectedLines() const;
     /// -1 if none or several are selected.
@@ -85,6 +91,8 @@ Q_SIGNALS:
     void linesReassigned();
     /// A project was to be shown that has no line of the chosen kinds: all are shown from now on.
     void lineKindsDropped();
+    /// The same of chosen lines.
+    void lineChoiceDropped();
     /// A condition was made of a line and put on the clipboard.
     void conditionCopied(const QString &text);
     /// The host's part view should show a target project.
@@ -107,5 +115,6 @@ private:
     CatalogMappingWidget *m_editor = nullptr;
     QByteArray m_state;
     OpenLines::Kinds m_kinds;   ///< none: lines of all kinds are shown
+    LineChoice m_choice;        ///< empty: no choice
     QList<ProjectId> m_changed; ///< that showChanges() has still to show
 };

@@ -61,6 +61,8 @@ void LineCommands::goPrevious()
 
 void LineCommands::go(bool forward)
 {
+    if (m_order)
+        return m_order(forward);
     OpenLines::Found to = seek(forward, here());
     // A line that its table lacks cannot be shown; each is tried once.
     bool wrapped = to.wrapped;

@@ -33,6 +33,9 @@ public:
     bool jumpTo(const QString &text);
     /// goNext() and goPrevious() go through lines of these kinds; none: through what is open.
     void setKinds(OpenLines::Kinds kinds);
+    using Order = std::function<void(bool forward)>;
+    /// Another order of open lines: goNext() and goPrevious() call it. Empty: their own.
+    void setOrder(const Order &order) { m_order = order; }
     /// Says of a condition on the selected line that was put on the clipboard whether it can be
     /// used as it is.
     void tellCondition(const QString &condition);
@@ -61,6 +64,7 @@ private:
     OpenLines m_open;
     OpenLines m_chosen; ///< the kinds that the user wants to see
     OpenLines::Kinds m_kinds;
+    Order m_order;
     OpenLines::Found m_last; ///< where the last walk ended
     QString m_lastText;      ///< of the last jump
 };

@@ -11,6 +11,7 @@
 #include "QtTexts.h"
 #include "Question.h"
 #include "RemoteCatalogs.h"
+#include "ReviewCommands.h"
 #include "StatusArea.h"
 #include "StatusProgress.h"
 #include "WelcomePage.h"
@@ -37,6 +38,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_editor(new EditorArea(this))
     , m_desk(new DocumentDesk(settings, this))
     , m_lines(new LineCommands(m_desk->document(), m_editor, this))
+    , m_review(new ReviewCommands(m_desk->document(), m_editor, m_lines, this))
     , m_states(new LineStateFilter(this))
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
     , m_pages(new QStackedWidget(this))
@@ -50,6 +52,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
         std::make_shared<StatusProgressDisplay>(m_status->progress()));
     addDockWidget(Qt::BottomDockWidgetArea, m_log);
     m_log->hide();
+    addReview();
     setStatusBar(m_status);
     m_welcome = new WelcomePage({m_actions->action(WorkbenchActions::OpenFile),
                                  m_actions->action(WorkbenchActions::NewMapping),
@@ -65,6 +68,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     m_pluginActions = new PluginActions(plugin, m_editor, pluginBar, this);
     connectCommands();
     connectParts();
+    connectReview();
     connectDocument();
     applySettings();
     retranslate();
@@ -80,6 +84,7 @@ MainWindow::~MainWindow()
     DefaultObserverDelegate::setDisplay(nullptr);
     // The editor's handler speaks to the document, and both to the log window.
     delete m_editor;
+    delete m_review;
     delete m_lines;
     delete m_desk;
 }

@@ -15,6 +15,7 @@ class PLinkDbGuiI;
 class PluginActions;
 class PMessageSinkScope;
 class RemoteCatalogs;
+class ReviewCommands;
 class StatusArea;
 class WelcomePage;
 class WorkbenchActions;
@@ -40,6 +41,7 @@ public:
     [[nodiscard]] DocumentDesk *desk() const { return m_desk; }
     [[nodiscard]] EditorArea *editor() const { return m_editor; }
     [[nodiscard]] LineCommands *lines() const { return m_lines; }
+    [[nodiscard]] ReviewCommands *review() const { return m_review; }
     [[nodiscard]] LogWindow *log() const { return m_log; }
     [[nodiscard]] StatusArea *status() const { return m_status; }
     [[nodiscard]] WorkbenchActions *commands() const { return m_actions; }
@@ -60,6 +62,8 @@ private:
     void buildToolBars();
     void connectCommands();
     void connectParts();
+    void addReview();
+    void connectReview();
     void connectDocument();
     void retranslate();
 
@@ -88,6 +92,7 @@ private:
     EditorArea *const m_editor;
     DocumentDesk *const m_desk;
     LineCommands *const m_lines;
+    ReviewCommands *const m_review;
     LineStateFilter *const m_states;
     RemoteCatalogs *const m_remote;
     QStackedWidget *const m_pages;

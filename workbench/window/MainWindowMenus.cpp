@@ -59,6 +59,28 @@ void MainWindow::buildMenus()
     fill(
         addMenu("goMenu"), m_actions,
         {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine});
+    fill(addMenu("reviewMenu"), m_actions,
+         {WorkbenchActions::ReviewPatterns,
+          WorkbenchActions::ReviewDifferences,
+          Separator,
+          WorkbenchActions::ConfirmPattern,
+          WorkbenchActions::TakeOutLine,
+          WorkbenchActions::NextInPattern,
+          WorkbenchActions::PreviousInPattern,
+          WorkbenchActions::NextPattern,
+          WorkbenchActions::LeastSureFirst,
+          Separator,
+          WorkbenchActions::TakeCandidate1,
+          WorkbenchActions::TakeCandidate2,
+          WorkbenchActions::TakeCandidate3,
+          WorkbenchActions::TakeCandidate4,
+          WorkbenchActions::TakeCandidate5,
+          Separator,
+          WorkbenchActions::StartSample,
+          WorkbenchActions::SampleRight,
+          WorkbenchActions::SampleWrong,
+          Separator,
+          WorkbenchActions::Replacements});
     QMenu *const view = addMenu("viewMenu");
     fill(view, m_actions, {WorkbenchActions::Refresh, Separator});
     QMenu *const states = view->addMenu(QString());
@@ -159,6 +181,7 @@ void MainWindow::retranslate()
     setTitle("recentMenu", tr("&Zuletzt geöffnet"));
     setTitle("editMenu", tr("&Bearbeiten"));
     setTitle("goMenu", tr("&Gehe zu"));
+    setTitle("reviewMenu", tr("&Prüfen"));
     setTitle("viewMenu", tr("&Ansicht"));
     setTitle("statesMenu", tr("Nur &Zeilen"));
     setTitle("helpMenu", tr("&Hilfe"));

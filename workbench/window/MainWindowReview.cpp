@@ -1,0 +1,47 @@
+#include "DocumentDesk.h"
+#include "MainWindow.h"
+#include "ReviewCommands.h"
+#include "StatusArea.h"
+#include "WorkbenchActions.h"
+
+#include <workbench/review/DifferencePanel.h>
+#include <workbench/review/PatternDock.h>
+#include <workbench/session/MappingDocument.h>
+
+#include <QAction>
+
+void MainWindow::addReview()
+{
+    addDockWidget(Qt::RightDockWidgetArea, m_review->dock());
+    addDockWidget(Qt::BottomDockWidgetArea, m_review->panel());
+    m_review->dock()->hide();
+    m_review->panel()->hide();
+}
+
+void MainWindow::connectReview()
+{
+    const auto connectTo = [this](WorkbenchActions::Command command, auto slot) {
+        connect(m_actions->action(command), &QAction::triggered, this, slot);
+    };
+    connectTo(WorkbenchActions::ReviewPatterns, [this] { m_review->showPatterns(); });
+    connectTo(WorkbenchActions::ReviewDifferences, [this] { m_review->showDifferences(); });
+    connectTo(WorkbenchActions::ConfirmPattern, [this] { m_review->confirmAll(); });
+    connectTo(WorkbenchActions::TakeOutLine, [this] { m_review->takeOut(); });
+    connectTo(WorkbenchActions::NextInPattern, [this] { m_review->goNext(); });
+    connectTo(WorkbenchActions::PreviousInPattern, [this] { m_review->goPrevious(); });
+    connectTo(WorkbenchActions::NextPattern, [this] { m_review->chooseNext(); });
+    connectTo(WorkbenchActions::LeastSureFirst,
+              [this](bool on) { m_review->setLeastSureFirst(on); });
+    connectTo(WorkbenchActions::Replacements, [this] { m_review->editReplacements(); });
+    connectTo(WorkbenchActions::StartSample, [this] { m_review->startSample(); });
+    connectTo(WorkbenchActions::SampleRight, [this] { m_review->judge(true); });
+    connectTo(WorkbenchActions::SampleWrong, [this] { m_review->judge(false); });
+    for (int key = 1; key <= 5; ++key)
+        connectTo(WorkbenchActions::Command(WorkbenchActions::TakeCandidate1 + key - 1),
+                  [this, key] { m_review->takeCandidate(key); });
+    connect(m_review, &ReviewCommands::noted, this,
+            [this](const QString &text) { m_status->showNote(text); });
+    connect(m_review, &ReviewCommands::done, this, [this](const QString &text) {
+        m_status->showNote(text, m_desk->document()->canUndo());
+    });
+}

@@ -1,0 +1,279 @@
+#include "ReviewCommands.h"
+
+#include "EditorArea.h"
+#include "LineCommands.h"
+#include "Question.h"
+#include "ReplacementsDialog.h"
+
+#include <mapping/view/CatalogMappingWidget.h>
+#include <release/decide/LineEdits.h>
+#include <workbench/review/DifferencePanel.h>
+#include <workbench/review/PatternDock.h>
+#include <workbench/review/PatternText.h>
+#include <workbench/session/BulkOperation.h>
+#include <workbench/session/MappingDocument.h>
+
+#include <algorithm>
+#include <map>
+
+ReviewCommands::ReviewCommands(MappingDocument *document, EditorArea *editor, LineCommands *lines,
+                               QWidget *window)
+    : m_document(document)
+    , m_editor(editor)
+    , m_lines(lines)
+    , m_window(window)
+    , m_work(new ReviewWork(document, this))
+    , m_dock(new PatternDock(m_work, window))
+    , m_panel(new DifferencePanel(window))
+{
+    connect(m_dock, &PatternDock::chosenChanged, this, &ReviewCommands::choosePattern);
+    connect(m_dock, &QDockWidget::visibilityChanged, m_work, &ReviewWork::setWanted);
+    connect(m_panel, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        m_explained = LineRef();
+        if (visible)
+            explainCurrent();
+    });
+    connect(m_panel, &DifferencePanel::candidateChosen, this, &ReviewCommands::takeCandidate);
+    connect(m_work, &ReviewWork::explained, this, &ReviewCommands::showExplanation);
+    connect(editor, &EditorArea::linesSelected, this, &ReviewCommands::explainCurrent);
+    connect(editor, &EditorArea::projectSelected, this, &ReviewCommands::explainCurrent);
+    connect(editor, &EditorArea::lineChoiceDropped, this, [this] { m_dock->choose(-1); });
+    connect(document, &MappingDocument::stepDone, this, [this] {
+        m_explained = LineRef();
+        explainCurrent();
+    });
+    connect(document, &MappingDocument::opened, this, [this] {
+        if (m_work->isWanted())
+            m_work->readAnew();
+    });
+    connect(document, &MappingDocument::aboutToClose, this, [this] {
+        m_sample.reset();
+        m_dock->choose(-1);
+        m_panel->clear();
+    });
+}
+
+ReviewCommands::~ReviewCommands() = default;
+
+void ReviewCommands::showPatterns()
+{
+    m_dock->show();
+    m_dock->raise();
+    m_dock->focusList();
+}
+
+void ReviewCommands::showDifferences()
+{
+    m_panel->setVisible(m_panel->isHidden());
+}
+
+void ReviewCommands::choosePattern(int pattern)
+{
+    chooseSet(pattern < 0 ? std::vector<Place>() : m_work->patterns().places(pattern));
+}
+
+void ReviewCommands::chooseSet(const std::vector<Place> &places)
+{
+    m_sample.reset();
+    m_set = places;
+    m_takenOut.clear();
+    showSet();
+    if (!m_set.empty())
+        goTo(m_set.front());
+}
+
+void ReviewCommands::showSet()
+{
+    EditorArea::LineChoice choice;
+    ProjectId project;
+    int position = -1;
+    for (const Place &place : m_set) {
+        if (place.project != std::exchange(position, place.project))
+            project = m_work->projectAt(place.project);
+        if (!m_takenOut.contains(place))
+            choice[project].push_back(place.line);
+    }
+    m_editor->setLineChoice(choice);
+}
+
+std::vector<ReviewCommands::Place> ReviewCommands::lines() const
+{
+    std::vector<Place> open;
+    std::copy_if(m_set.begin(), m_set.end(), std::back_inserter(open), [this](const Place &place) {
+        return !m_takenOut.contains(place) && m_work->patterns().patternOf(place) >= 0;
+    });
+    return open;
+}
+
+LineRef ReviewCommands::here() const
+{
+    return {m_editor->currentProject(), m_editor->currentLine()};
+}
+
+void ReviewCommands::goTo(const Place &place)
+{
+    if (!m_editor->goTo(m_work->lineAt(place)))
+        Q_EMIT noted(tr("Die Zeile %1 kann nicht gezeigt werden").arg(place.line));
+}
+
+void ReviewCommands::go(bool forward)
+{
+    std::vector<Place> open = m_set.empty() ? m_work->patterns().leastSure() : lines();
+    if (!m_leastSureFirst)
+        std::sort(open.begin(), open.end());
+    if (open.empty())
+        return Q_EMIT noted(m_work->hasPatterns() ? tr("Keine Zeile mehr offen")
+                                                  : tr("Die Tabellen sind noch nicht verglichen"));
+    const VelkRelease::DifferencePatterns &patterns = m_work->patterns();
+    const auto order = [&](const Place &place) {
+        return std::pair(m_leastSureFirst ? patterns.probability(place).value_or(0) : 0.0, place);
+    };
+    if (m_leastSureFirst)
+        std::stable_sort(open.begin(), open.end(),
+                         [&](const Place &a, const Place &b) { return order(a) < order(b); });
+    const LineRef from = here();
+    const Place at = from.isValid() ? m_work->placeOf(from) : Place();
+    const auto known = std::find(open.begin(), open.end(), at);
+    auto next = open.begin();
+    if (known != open.end()) {
+        const auto index = known - open.begin();
+        const auto size = std::ptrdiff_t(open.size());
+        next += (index + (forward ? 1 : size - 1)) % size;
+        if ((next <= known) == forward)
+            Q_EMIT noted(tr("Von vorn: %n Zeile(n) offen", nullptr, int(open.size())));
+    } else if (from.isValid() && !m_leastSureFirst) {
+        // A line that was just decided: the one behind it.
+        const auto behind = std::upper_bound(open.begin(), open.end(), at);
+        next = forward ? (behind == open.end() ? open.begin() : behind)
+                       : (behind == open.begin() ? std::prev(open.end()) : std::prev(behind));
+    }
+    goTo(*next);
+}
+
+void ReviewCommands::chooseNext()
+{
+    showPatterns();
+    m_dock->chooseNext();
+}
+
+void ReviewCommands::setLeastSureFirst(bool on)
+{
+    m_leastSureFirst = on;
+    if (on && !m_work->isWanted())
+        showPatterns();
+    m_lines->setOrder(on ? [this](bool forward) { go(forward); } : LineCommands::Order());
+    Q_EMIT noted(on ? tr("Offene Zeilen kommen nach ihrer Unsicherheit")
+                    : tr("Offene Zeilen kommen nach ihrem Ort"));
+}
+
+void ReviewCommands::takeOut()
+{
+    const Place at = m_work->placeOf(here());
+    if (std::find(m_set.begin(), m_set.end(), at) == m_set.end())
+        return Q_EMIT noted(tr("Die Zeile gehört nicht zum gewählten Muster"));
+    m_takenOut.insert(at);
+    m_dock->setTakenOut(int(m_takenOut.size()));
+    Q_EMIT noted(tr("Zeile %1 herausgenommen").arg(at.line));
+    const std::vector<Place> rest = lines();
+    const auto next = std::upper_bound(rest.begin(), rest.end(), at);
+    showSet();
+    if (!rest.empty())
+        goTo(next == rest.end() ? rest.front() : *next);
+}
+
+void ReviewCommands::confirmAll()
+{
+    const std::vector<Place> places = lines();
+    if (places.empty())
+        return Q_EMIT noted(tr("Es ist kein Muster gewählt, oder alle Zeilen sind entschieden"));
+    const QString pattern =
+        m_dock->chosen() < 0 ? QString() : PatternText::of(m_work->patterns(), m_dock->chosen());
+    (void)confirm(places, pattern, QString());
+}
+
+/// \a stepText: empty for the number of lines.
+bool ReviewCommands::confirm(const std::vector<Place> &places, const QString &details,
+                             const QString &stepText)
+{
+    std::map<int, QList<int>> byProject;
+    for (const Place &place : places)
+        byProject[place.project].append(place.line);
+    std::vector<BulkOperation> operations;
+    int count = 0;
+    for (const auto &[position, lines] : byProject) {
+        operations.emplace_back(*m_document, m_work->projectAt(position), lines);
+        count += operations.back().preview(BulkOperation::Confirm).lines;
+    }
+    Question question(m_window);
+    question.setText(tr("%n Zeile(n)", nullptr, count) + u' ' +
+                     tr("in %n Projekt(en) bestätigen?", nullptr, int(byProject.size())));
+    const QString undo = tr("Der Schritt kann zurückgenommen werden.");
+    question.setDetails(details.isEmpty() ? undo : details + u'\n' + undo);
+    question.addAnswer(Question::Accept, tr("&Bestätigen"));
+    question.addAnswer(Question::Cancel, Question::cancelText());
+    if (question.ask() != Question::Accept)
+        return false;
+    const QString text = stepText.isEmpty() ? tr("%n Zeile(n) bestätigt", nullptr, count) +
+                                                  QStringLiteral(": ") + details
+                                            : stepText;
+    m_document->beginStep(text);
+    for (const BulkOperation &operation : operations)
+        (void)operation.run(BulkOperation::Confirm);
+    m_document->endStep();
+    Q_EMIT done(text);
+    return true;
+}
+
+void ReviewCommands::takeCandidate(int key)
+{
+    const LineCandidateC *const candidate = m_panel->candidate(key);
+    if (!candidate || m_explained != here() || !m_explained.isValid())
+        return Q_EMIT noted(tr("Einen Kandidaten %1 gibt es nicht").arg(key));
+    const LineRef line = m_explained;
+    const int targetLine = candidate->lineId.value(0);
+    VelkRelease::LineEdits edits(m_document->mapping(line.project));
+    const QString text = tr("Zeile %1 → %2 bestätigt").arg(line.line).arg(targetLine);
+    m_document->beginStep();
+    edits.remove(line.line);
+    edits.assign(line.line, candidate->targetIndex, targetLine, PRJMAPPING::Verified);
+    m_document->updateMapping(edits.mapping());
+    m_document->endStep();
+    Q_EMIT done(text);
+}
+
+void ReviewCommands::explainCurrent()
+{
+    if (m_panel->isHidden())
+        return;
+    const LineRef line = here();
+    if (line == m_explained && line.isValid())
+        return;
+    if (!line.isValid()) {
+        m_explained = LineRef();
+        m_panel->clear();
+    }
+    m_work->explain(line);
+}
+
+void ReviewCommands::showExplanation(const LineExplanation &explanation)
+{
+    if (explanation.line != here())
+        return;
+    m_explained = explanation.line;
+    m_panel->show(explanation);
+}
+
+void ReviewCommands::editReplacements()
+{
+    QList<VelkRelease::ValueChange> changes;
+    if (m_dock->chosen() >= 0)
+        changes = m_work->patterns().changes(m_dock->chosen());
+    ReplacementsDialog dialog(m_document->release(), m_document->catalogRoots().source, changes,
+                              m_editor->currentPath(), m_window);
+    if (dialog.exec() != QDialog::Accepted ||
+        dialog.replacements() == m_document->release().getReplacements())
+        return;
+    const QString text = tr("Ersetzungen vereinbart: %1").arg(dialog.replacements().size());
+    m_document->setReplacements(dialog.replacements(), text);
+    Q_EMIT done(text);
+}
