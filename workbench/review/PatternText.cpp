@@ -9,18 +9,13 @@ namespace PatternText {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PatternText", text);
-}
-
 VelkRelease::ValueChange::Words words()
 {
-    return {tr(QT_TRANSLATE_NOOP("PatternText", "Zahl in der Nähe")),
-            tr(QT_TRANSLATE_NOOP("PatternText", "andere Zahl")),
-            tr(QT_TRANSLATE_NOOP("PatternText", "anderer Wortlaut")),
-            tr(QT_TRANSLATE_NOOP("PatternText", "Wert hinzugekommen")),
-            tr(QT_TRANSLATE_NOOP("PatternText", "Wert fehlt"))};
+    return {QCoreApplication::translate("PatternText", "Zahl in der Nähe"),
+            QCoreApplication::translate("PatternText", "andere Zahl"),
+            QCoreApplication::translate("PatternText", "anderer Wortlaut"),
+            QCoreApplication::translate("PatternText", "Wert hinzugekommen"),
+            QCoreApplication::translate("PatternText", "Wert fehlt")};
 }
 
 } // namespace
@@ -36,9 +31,9 @@ QString of(const QList<VelkRelease::ValueChange> &changes)
 QString of(const VelkRelease::DifferencePatterns &patterns, int pattern)
 {
     if (!patterns.isComparable(pattern))
-        return tr(QT_TRANSLATE_NOOP("PatternText", "nicht zu vergleichen"));
+        return QCoreApplication::translate("PatternText", "nicht zu vergleichen");
     const QString text = of(patterns.changes(pattern));
-    return text.isEmpty() ? tr(QT_TRANSLATE_NOOP("PatternText", "kein Unterschied")) : text;
+    return text.isEmpty() ? QCoreApplication::translate("PatternText", "kein Unterschied") : text;
 }
 
 QString of(const AgreedReplacement &replacement)

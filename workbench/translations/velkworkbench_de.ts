@@ -103,12 +103,132 @@
     </message>
 </context>
 <context>
+    <name>DifferenceModel</name>
+    <message numerus="yes">
+        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>ersetzt wie in %n weiteren Zeile</numerusform>
+            <numerusform>ersetzt wie in %n weiteren Zeilen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>LineCommands</name>
     <message numerus="yes">
         <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
         <translation>
             <numerusform>Hier im Filter ist alles durch, außerhalb ist noch %n Zeile offen.</numerusform>
             <numerusform>Hier im Filter ist alles durch, außerhalb sind noch %n Zeilen offen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PatternDock</name>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <translation>
+            <numerusform>%n offene Zeile mit Vorschlag</numerusform>
+            <numerusform>%n offene Zeilen mit Vorschlag</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Muster(n)</source>
+        <translation>
+            <numerusform>in %n Muster</numerusform>
+            <numerusform>in %n Mustern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon wird/werden noch verglichen</source>
+        <translation>
+            <numerusform>%n davon wird noch verglichen</numerusform>
+            <numerusform>%n davon werden noch verglichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Gewählt: %n Zeile(n)</source>
+        <translation>
+            <numerusform>Gewählt: %n Zeile</numerusform>
+            <numerusform>Gewählt: %n Zeilen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon herausgenommen</source>
+        <translation>
+            <numerusform>%n davon herausgenommen</numerusform>
+            <numerusform>%n davon herausgenommen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PatternModel</name>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Projekt(e)</source>
+        <translation>
+            <numerusform>%n Projekt</numerusform>
+            <numerusform>%n Projekte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <translation>
+            <numerusform>%n weitere Zeile hat diese und andere Unterschiede</numerusform>
+            <numerusform>%n weitere Zeilen haben diese und andere Unterschiede</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ReplacementsDialog</name>
+    <message numerus="yes">
+        <source>%n Zeile(n) dafür</source>
+        <translation>
+            <numerusform>%n Zeile dafür</numerusform>
+            <numerusform>%n Zeilen dafür</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dagegen</source>
+        <translation>
+            <numerusform>%n Zeile dagegen</numerusform>
+            <numerusform>%n Zeilen dagegen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ReviewCommands</name>
+    <message numerus="yes">
+        <source>Von vorn: %n Zeile(n) offen</source>
+        <translation>
+            <numerusform>Von vorn: %n Zeile offen</numerusform>
+            <numerusform>Von vorn: %n Zeilen offen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en) bestätigen?</source>
+        <translation>
+            <numerusform>in %n Projekt bestätigen?</numerusform>
+            <numerusform>in %n Projekten bestätigen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>%n Zeile bestätigt</numerusform>
+            <numerusform>%n Zeilen bestätigt</numerusform>
         </translation>
     </message>
 </context>

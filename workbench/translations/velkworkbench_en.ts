@@ -107,6 +107,29 @@
     </message>
 </context>
 <context>
+    <name>CandidateModel</name>
+    <message>
+        <source>kein Nachfolger</source>
+        <translation>no successor</translation>
+    </message>
+    <message>
+        <source>Taste</source>
+        <translation>Key</translation>
+    </message>
+    <message>
+        <source>Sicherheit</source>
+        <translation>Certainty</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>New line</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Reason</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>%1 ist kein Verzeichnis.</source>
@@ -147,6 +170,71 @@
     <message>
         <source>Wo liegen die beiden Katalogstände dieser Mapping-Datei? Die Verzeichnisse werden zusammen mit der Datei gemerkt.</source>
         <translation>Where are the two catalog releases of this mapping file? The directories are remembered together with the file.</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceModel</name>
+    <message>
+        <source>gleich</source>
+        <translation>equal</translation>
+    </message>
+    <message numerus="yes">
+        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>replaced as in %n other line</numerusform>
+            <numerusform>replaced as in %n other lines</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ähnlich</source>
+        <translation>similar</translation>
+    </message>
+    <message>
+        <source>verschieden</source>
+        <translation>different</translation>
+    </message>
+    <message>
+        <source>nur in der neuen Zeile</source>
+        <translation>in the new line only</translation>
+    </message>
+    <message>
+        <source>nur in der alten Zeile</source>
+        <translation>in the old line only</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Old</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>New</translation>
+    </message>
+</context>
+<context>
+    <name>DifferencePanel</name>
+    <message>
+        <source>Die Tabelle hat die Zeile nicht.</source>
+        <translation>The table does not have the line.</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel. %1</source>
+        <translation>Without target. %1</translation>
+    </message>
+    <message>
+        <source>Die zugeordnete Zeile ist keiner der Kandidaten.</source>
+        <translation>The assigned line is none of the candidates.</translation>
+    </message>
+    <message>
+        <source>Alt und neu</source>
+        <translation>Old and New</translation>
+    </message>
+    <message>
+        <source>Kandidaten</source>
+        <translation>Candidates</translation>
     </message>
 </context>
 <context>
@@ -742,6 +830,10 @@ Please choose another file.</translation>
         <source>Zustände der Zeilen</source>
         <translation>States of the lines</translation>
     </message>
+    <message>
+        <source>&amp;Prüfen</source>
+        <translation>&amp;Review</translation>
+    </message>
 </context>
 <context>
     <name>MappingDocument</name>
@@ -979,6 +1071,127 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>PatternDock</name>
+    <message>
+        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
+        <translation>The tables are being compared: %1 projects read</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <translation>
+            <numerusform>%n open line with a proposal</numerusform>
+            <numerusform>%n open lines with a proposal</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Muster(n)</source>
+        <translation>
+            <numerusform>in %n pattern</numerusform>
+            <numerusform>in %n patterns</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon wird/werden noch verglichen</source>
+        <translation>
+            <numerusform>%n of them is still being compared</numerusform>
+            <numerusform>%n of them are still being compared</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Gewählt: %n Zeile(n)</source>
+        <translation>
+            <numerusform>Chosen: %n line</numerusform>
+            <numerusform>Chosen: %n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon herausgenommen</source>
+        <translation>
+            <numerusform>%n of them taken out</numerusform>
+            <numerusform>%n of them taken out</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unterschiede der offenen Zeilen</source>
+        <translation>Differences of the Open Lines</translation>
+    </message>
+</context>
+<context>
+    <name>PatternModel</name>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Projekt(e)</source>
+        <translation>
+            <numerusform>%n project</numerusform>
+            <numerusform>%n projects</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <translation>
+            <numerusform>%n more line has these and other differences</numerusform>
+            <numerusform>%n more lines have these and other differences</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unterschied</source>
+        <translation>Difference</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projects</translation>
+    </message>
+    <message>
+        <source>Sicherheit</source>
+        <translation>Certainty</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Exceptions</translation>
+    </message>
+</context>
+<context>
+    <name>PatternText</name>
+    <message>
+        <source>Zahl in der Nähe</source>
+        <translation>near number</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>other number</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>other wording</translation>
+    </message>
+    <message>
+        <source>Wert hinzugekommen</source>
+        <translation>value added</translation>
+    </message>
+    <message>
+        <source>Wert fehlt</source>
+        <translation>value missing</translation>
+    </message>
+    <message>
+        <source>nicht zu vergleichen</source>
+        <translation>not to be compared</translation>
+    </message>
+    <message>
+        <source>kein Unterschied</source>
+        <translation>no difference</translation>
+    </message>
+</context>
+<context>
     <name>PluginActions</name>
     <message>
         <source>Auf diesem Rechner ist kein Mailprogramm eingerichtet. Die Anfrage lautet:
@@ -1112,6 +1325,63 @@ Line: %2
     </message>
 </context>
 <context>
+    <name>ReplacementsDialog</name>
+    <message>
+        <source>Vereinbarte Ersetzungen</source>
+        <translation>Agreed Replacements</translation>
+    </message>
+    <message>
+        <source>im ganzen Katalogstand</source>
+        <translation>in the whole release</translation>
+    </message>
+    <message>
+        <source>&amp;Vereinbaren</source>
+        <translation>&amp;Agree</translation>
+    </message>
+    <message>
+        <source>&amp;Zurückziehen</source>
+        <translation>&amp;Withdraw</translation>
+    </message>
+    <message>
+        <source>&amp;Belege</source>
+        <translation>&amp;Evidence</translation>
+    </message>
+    <message>
+        <source>&amp;Übernehmen</source>
+        <translation>&amp;Take Over</translation>
+    </message>
+    <message>
+        <source>Eine Ersetzung sagt, dass ein alter Wert für einen neuen steht. Sie macht Vorschläge, bestätigt aber nichts.</source>
+        <translation>A replacement says that an old value stands for a new one. It makes proposals, but confirms nothing.</translation>
+    </message>
+    <message>
+        <source>vereinbart</source>
+        <translation>agreed</translation>
+    </message>
+    <message>
+        <source>vereinbart in %1</source>
+        <translation>agreed in %1</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen</source>
+        <translation>The tables are being read</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dafür</source>
+        <translation>
+            <numerusform>%n line supports it</numerusform>
+            <numerusform>%n lines support it</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dagegen</source>
+        <translation>
+            <numerusform>%n does not</numerusform>
+            <numerusform>%n do not</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RepositoryBox</name>
     <message>
         <source>Katalog = svn://Server:Port/Pfad</source>
@@ -1179,6 +1449,161 @@ Line: %2
     <message>
         <source>&amp;Kennwort:</source>
         <translation>&amp;Password:</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewCommands</name>
+    <message>
+        <source>Die Zeile %1 kann nicht gezeigt werden</source>
+        <translation>Line %1 cannot be shown</translation>
+    </message>
+    <message>
+        <source>Keine Zeile mehr offen</source>
+        <translation>No line is open any more</translation>
+    </message>
+    <message>
+        <source>Die Tabellen sind noch nicht verglichen</source>
+        <translation>The tables are not compared yet</translation>
+    </message>
+    <message numerus="yes">
+        <source>Von vorn: %n Zeile(n) offen</source>
+        <translation>
+            <numerusform>From the beginning: %n line open</numerusform>
+            <numerusform>From the beginning: %n lines open</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach ihrer Unsicherheit</source>
+        <translation>Open lines come by their uncertainty</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach ihrem Ort</source>
+        <translation>Open lines come by their place</translation>
+    </message>
+    <message>
+        <source>Die Zeile gehört nicht zum gewählten Muster</source>
+        <translation>The line does not belong to the chosen pattern</translation>
+    </message>
+    <message>
+        <source>Zeile %1 herausgenommen</source>
+        <translation>Line %1 taken out</translation>
+    </message>
+    <message>
+        <source>Es ist kein Muster gewählt, oder alle Zeilen sind entschieden</source>
+        <translation>No pattern is chosen, or all its lines are decided</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en) bestätigen?</source>
+        <translation>
+            <numerusform>in %n project to be confirmed?</numerusform>
+            <numerusform>in %n projects to be confirmed?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Der Schritt kann zurückgenommen werden.</source>
+        <translation>The step can be taken back.</translation>
+    </message>
+    <message>
+        <source>&amp;Bestätigen</source>
+        <translation>&amp;Confirm</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>%n line confirmed</numerusform>
+            <numerusform>%n lines confirmed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Einen Kandidaten %1 gibt es nicht</source>
+        <translation>There is no candidate %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 bestätigt</source>
+        <translation>Line %1 → %2 confirmed</translation>
+    </message>
+    <message>
+        <source>Ersetzungen vereinbart: %1</source>
+        <translation>Replacements agreed to: %1</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Muster, oder markieren Sie offene Zeilen</source>
+        <translation>Choose a pattern, or select open lines</translation>
+    </message>
+    <message>
+        <source>Stichprobe</source>
+        <translation>Sample</translation>
+    </message>
+    <message>
+        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
+        <translation>So many of %1 lines are drawn and judged one by one. %2 right ones say with 95 % certainty that fewer than 5 % are wrong, %3 right ones fewer than 1 %.</translation>
+    </message>
+    <message>
+        <source>&amp;Ziehen</source>
+        <translation>&amp;Draw</translation>
+    </message>
+    <message>
+        <source>Stichprobe, Zeile %1 von %2: + richtig, − falsch</source>
+        <translation>Sample, line %1 of %2: + right, − wrong</translation>
+    </message>
+    <message>
+        <source>Es läuft keine Stichprobe</source>
+        <translation>There is no sample under way</translation>
+    </message>
+    <message>
+        <source>Die Zeilen der Stichprobe sind alle schon entschieden</source>
+        <translation>All lines of the sample are decided already</translation>
+    </message>
+    <message>
+        <source>%1 von %2 richtig</source>
+        <translation>%1 right of %2</translation>
+    </message>
+    <message>
+        <source>Stichprobe abgelehnt, %1; beurteilt von %2</source>
+        <translation>Sample refused, %1; judged by %2</translation>
+    </message>
+    <message>
+        <source>alle Zeilen beurteilt</source>
+        <translation>all lines judged</translation>
+    </message>
+    <message>
+        <source>mit 95 % Sicherheit weniger als %1 % falsch</source>
+        <translation>with 95 % certainty fewer than %1 % wrong</translation>
+    </message>
+    <message>
+        <source>Stichprobe: %1, %2</source>
+        <translation>Sample: %1, %2</translation>
+    </message>
+    <message>
+        <source>beurteilt von %1</source>
+        <translation>judged by %1</translation>
+    </message>
+    <message>
+        <source>dort war die falsche</source>
+        <translation>the wrong one was there</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist falsch: die Stichprobe ist zu Ende</source>
+        <translation>Line %1 is wrong: the sample is over</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Line %1 in %2 is wrong. The set is split by its differences; with which part do you want to go on?</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>&amp;Go On</translation>
+    </message>
+    <message>
+        <source>&amp;Falsche Zeile ansehen</source>
+        <translation>&amp;Look at the Wrong Line</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +2172,126 @@ Line: %2
     <message>
         <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>
         <translation>Confirms that those of the selected lines, or all shown, that have no target have expired</translation>
+    </message>
+    <message>
+        <source>&amp;Muster der Unterschiede</source>
+        <translation>&amp;Difference Patterns</translation>
+    </message>
+    <message>
+        <source>Zeigt, worin sich die offenen Zeilen von ihren Vorschlägen unterscheiden</source>
+        <translation>Shows how the open lines differ from their proposals</translation>
+    </message>
+    <message>
+        <source>&amp;Alt und neu</source>
+        <translation>&amp;Old and New</translation>
+    </message>
+    <message>
+        <source>Zeigt alte und neue Werte der Zeile nebeneinander, und ihre Kandidaten</source>
+        <translation>Shows old and new values of the line side by side, and its candidates</translation>
+    </message>
+    <message>
+        <source>Muster &amp;bestätigen...</source>
+        <translation>&amp;Confirm Pattern...</translation>
+    </message>
+    <message>
+        <source>Bestätigt alle Zeilen des gewählten Musters in einem Schritt</source>
+        <translation>Confirms all lines of the chosen pattern in one step</translation>
+    </message>
+    <message>
+        <source>Zeile &amp;herausnehmen</source>
+        <translation>&amp;Take Line Out</translation>
+    </message>
+    <message>
+        <source>Die Zeile wird nicht mit den anderen des Musters bestätigt</source>
+        <translation>The line is not confirmed with the others of the pattern</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste Zeile des Musters</source>
+        <translation>&amp;Next Line of the Pattern</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten offenen Zeile des gewählten Musters</source>
+        <translation>Goes to the next open line of the chosen pattern</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige Zeile des Musters</source>
+        <translation>&amp;Previous Line of the Pattern</translation>
+    </message>
+    <message>
+        <source>Geht zur vorigen offenen Zeile des gewählten Musters</source>
+        <translation>Goes to the previous open line of the chosen pattern</translation>
+    </message>
+    <message>
+        <source>Nächstes M&amp;uster</source>
+        <translation>Next Pa&amp;ttern</translation>
+    </message>
+    <message>
+        <source>Wählt das nächste Muster der Liste</source>
+        <translation>Chooses the next pattern of the list</translation>
+    </message>
+    <message>
+        <source>&amp;Unsicherste zuerst</source>
+        <translation>Least S&amp;ure First</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach der Gefahr eines Irrtums statt nach ihrem Ort</source>
+        <translation>Open lines come by the chance of error instead of their place</translation>
+    </message>
+    <message>
+        <source>&amp;Ersetzungen...</source>
+        <translation>&amp;Replacements...</translation>
+    </message>
+    <message>
+        <source>Vereinbart Ersetzungen von Werten für den Katalogstand oder zieht sie zurück</source>
+        <translation>Agrees to replacements of values for the release, or withdraws them</translation>
+    </message>
+    <message>
+        <source>&amp;Stichprobe...</source>
+        <translation>&amp;Sample...</translation>
+    </message>
+    <message>
+        <source>Zieht Zeilen des gewählten Musters oder der markierten Zeilen, die einzeln beurteilt werden</source>
+        <translation>Draws lines of the chosen pattern or of the selected lines, to be judged one by one</translation>
+    </message>
+    <message>
+        <source>Stichprobe: &amp;richtig</source>
+        <translation>Sample: R&amp;ight</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Zeile der Stichprobe ist richtig zugeordnet</source>
+        <translation>The line of the sample that is shown is assigned rightly</translation>
+    </message>
+    <message>
+        <source>Stichprobe: &amp;falsch</source>
+        <translation>Sample: &amp;Wrong</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Zeile der Stichprobe ist falsch zugeordnet; die Stichprobe endet</source>
+        <translation>The line of the sample that is shown is assigned wrongly; the sample ends</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;1</source>
+        <translation>Candidate &amp;1</translation>
+    </message>
+    <message>
+        <source>Ordnet der Zeile diesen Kandidaten zu und bestätigt ihn</source>
+        <translation>Assigns this candidate to the line and confirms it</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;2</source>
+        <translation>Candidate &amp;2</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;3</source>
+        <translation>Candidate &amp;3</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;4</source>
+        <translation>Candidate &amp;4</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;5</source>
+        <translation>Candidate &amp;5</translation>
     </message>
 </context>
 </TS>

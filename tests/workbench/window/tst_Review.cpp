@@ -1,0 +1,476 @@
+#include "ModalScript.h"
+#include "WindowFixture.h"
+
+#include <geomcoregui/table/VkTableView.h>
+#include <mapping/view/CatalogMappingWidget.h>
+#include <workbench/review/CandidateModel.h>
+#include <workbench/review/DifferencePanel.h>
+#include <workbench/review/PatternDock.h>
+#include <workbench/review/PatternModel.h>
+#include <workbench/session/JournalReader.h>
+#include <workbench/session/JournalReplay.h>
+#include <workbench/session/MappingDocument.h>
+#include <workbench/window/DocumentDesk.h>
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/LineCommands.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/ReviewCommands.h>
+#include <workbench/window/StatusArea.h>
+
+#include <core/json/PJsonValue.h>
+#include <geomcore/records/MappingFile.h>
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTreeView>
+
+namespace {
+
+const QString seals = QStringLiteral("standardparts/seals/din3760.prj");
+const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
+
+/// A workbench with the list of patterns open and read.
+class ReviewFixture : public WindowFixture
+{
+public:
+    ReviewFixture()
+    {
+        open(mappingFile());
+        press(Qt::Key_F7);
+        waitForPatterns();
+    }
+
+    void waitForPatterns() const
+    {
+        QVERIFY(QTest::qWaitFor([this] { return review()->work()->hasPatterns(); }, 20000));
+        QCoreApplication::processEvents();
+    }
+    [[nodiscard]] ReviewCommands *review() const { return window->review(); }
+    [[nodiscard]] MappingDocument *document() const { return window->desk()->document(); }
+    [[nodiscard]] QTreeView *list() const { return window->findChild<QTreeView *>("PatternList"); }
+    [[nodiscard]] const PatternModel *model() const
+    {
+        return static_cast<const PatternModel *>(list()->model());
+    }
+    /// The row whose text begins so.
+    [[nodiscard]] int rowOf(const QString &text) const
+    {
+        for (int row = 0; row < model()->rowCount(); ++row) {
+            if (model()->index(row, 0).data().toString().startsWith(text))
+                return row;
+        }
+        return -1;
+    }
+    void choose(const QString &text)
+    {
+        const int row = rowOf(text);
+        QVERIFY2(row >= 0, qPrintable(text));
+        list()->setFocus();
+        list()->setCurrentIndex(model()->index(row, 0));
+        press(Qt::Key_Return);
+    }
+    [[nodiscard]] int linesIn(int row) const
+    {
+        return model()->index(row, PatternModel::Lines).data(PatternModel::ValueRole).toInt();
+    }
+    [[nodiscard]] QString sum() const { return window->findChild<QLabel *>("PatternSum")->text(); }
+    [[nodiscard]] LineRef here() const
+    {
+        return {window->editor()->currentProject(), window->editor()->currentLine()};
+    }
+    void explain() const
+    {
+        QVERIFY(QTest::qWaitFor(
+            [this] {
+                return window->findChild<QTreeView *>("CandidateList")->model()->rowCount() > 0;
+            },
+            10000));
+    }
+};
+
+} // namespace
+
+class tst_Review : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void numbersAddUp();
+    void choosingFiltersTreeAndTable();
+    void confirmsAllInOneStep();
+    void takesTheShownLineOut();
+    void walksThePattern();
+    void leastSureFirst();
+    void differencesOfTheLineInSight();
+    void candidateByKey();
+    void acceptedBySample();
+    void firstWrongOneSplits();
+    void selectedLinesBySample();
+    void agreedReplacement();
+    void followsTheDocument();
+};
+
+void tst_Review::numbersAddUp()
+{
+    ReviewFixture fixture;
+    const QAbstractItemModelTester tester(fixture.list()->model(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const int open = fixture.window->lines()->openLines().countOf(OpenLines::ToCheck);
+    QVERIFY(open > 0);
+    QCOMPARE(fixture.model()->lineCount(), open);
+    QVERIFY2(fixture.sum().contains(QString("%1 offene Zeilen mit Vorschlag in %2 Mustern")
+                                        .arg(open)
+                                        .arg(fixture.model()->rowCount())),
+             qPrintable(fixture.sum()));
+    // The keys are with the list.
+    QCOMPARE(QApplication::focusWidget(), fixture.list());
+    fixture.press(Qt::Key_Down);
+    QCOMPARE(fixture.list()->currentIndex().row(), 1);
+}
+
+void tst_Review::choosingFiltersTreeAndTable()
+{
+    ReviewFixture fixture;
+    fixture.choose("Werkstoff: FP → FKM");
+    QCOMPARE(fixture.here().project.path, seals);
+    const int lines = fixture.linesIn(fixture.rowOf("Werkstoff: FP"));
+    QCOMPARE(fixture.window->editor()->shownLines().size(), lines);
+    QVERIFY(fixture.sum().contains(QString("Gewählt: %1 Zeilen").arg(lines)));
+    // Another project gives way, and everything is shown again.
+    QVERIFY(fixture.window->editor()->selectProject(din933));
+    QCoreApplication::processEvents();
+    QCOMPARE(fixture.review()->dock()->chosen(), -1);
+    QVERIFY(!fixture.window->editor()->editor()->linesAreFiltered());
+    // Escape does the same.
+    fixture.choose("Werkstoff: FP → FKM");
+    fixture.list()->setFocus();
+    fixture.press(Qt::Key_Escape);
+    QCOMPARE(fixture.review()->dock()->chosen(), -1);
+    QVERIFY(!fixture.window->editor()->editor()->linesAreFiltered());
+}
+
+void tst_Review::confirmsAllInOneStep()
+{
+    ReviewFixture fixture;
+    fixture.choose("Kz: ");
+    const int pattern = fixture.review()->dock()->chosen();
+    const int lines = fixture.linesIn(fixture.model()->rowOf(pattern));
+    const int open = fixture.model()->lineCount();
+    const int confirmed = fixture.confirmedLines();
+    ModalScript script;
+    script.thenClick("answerCancel");
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(script.isDone());
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+    script.thenClick("answerAccept");
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(script.isDone());
+    QVERIFY2(script.texts.last().startsWith(QString("%1 Zeilen in ").arg(lines)),
+             qPrintable(script.texts.last()));
+    QCOMPARE(fixture.confirmedLines(), confirmed + lines);
+    QCoreApplication::processEvents();
+    QCOMPARE(fixture.model()->rowOf(pattern), -1);
+    QCOMPARE(fixture.model()->lineCount(), open - lines);
+    QCOMPARE(fixture.review()->dock()->chosen(), -1);
+    // One step takes all of them back.
+    QCOMPARE(fixture.document()->undoTexts().size(), 1);
+    fixture.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+    QCOMPARE(fixture.model()->lineCount(), open);
+    QVERIFY(fixture.model()->rowOf(pattern) >= 0);
+}
+
+void tst_Review::takesTheShownLineOut()
+{
+    ReviewFixture fixture;
+    fixture.choose("Werkstoff: FP → FKM");
+    const int lines = int(fixture.review()->lines().size());
+    const LineRef out = fixture.here();
+    const int confirmed = fixture.confirmedLines();
+    fixture.press(Qt::Key_D, Qt::ControlModifier);
+    QVERIFY(fixture.here() != out);
+    QCOMPARE(fixture.review()->lines().size(), size_t(lines - 1));
+    QVERIFY2(fixture.sum().contains("1 davon herausgenommen"), qPrintable(fixture.sum()));
+    QVERIFY(!fixture.window->editor()->shownLines().contains(out.line));
+    ModalScript script;
+    script.thenClick("answerAccept");
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(fixture.confirmedLines(), confirmed + lines - 1);
+    // It is still open and in its pattern.
+    QCOMPARE(fixture.linesIn(fixture.rowOf("Werkstoff: FP")), 1);
+}
+
+void tst_Review::walksThePattern()
+{
+    ReviewFixture fixture;
+    fixture.choose("Werkstoff: FP → FKM");
+    const std::vector<ReviewCommands::Place> lines = fixture.review()->lines();
+    QVERIFY(lines.size() > 2);
+    QCOMPARE(fixture.here().line, lines[0].line);
+    fixture.press(Qt::Key_F9);
+    QCOMPARE(fixture.here().line, lines[1].line);
+    fixture.press(Qt::Key_F9, Qt::ShiftModifier);
+    fixture.press(Qt::Key_F9, Qt::ShiftModifier);
+    QCOMPARE(fixture.here().line, lines.back().line);
+    // A decided line is left behind.
+    fixture.press(Qt::Key_F9);
+    fixture.press(Qt::Key_V);
+    fixture.press(Qt::Key_F9);
+    QCOMPARE(fixture.here().line, lines[1].line);
+    const int chosen = fixture.review()->dock()->chosen();
+    fixture.press(Qt::Key_F9, Qt::ControlModifier);
+    QVERIFY(fixture.review()->dock()->chosen() != chosen);
+}
+
+void tst_Review::leastSureFirst()
+{
+    ReviewFixture fixture;
+    fixture.press(Qt::Key_U, Qt::ControlModifier);
+    QVERIFY(fixture.action("reviewLeastSure")->isChecked());
+    const ReviewWork *const work = fixture.review()->work();
+    const auto order = work->patterns().leastSure();
+    fixture.press(Qt::Key_F8);
+    QCOMPARE(work->placeOf(fixture.here()), order[0]);
+    fixture.press(Qt::Key_F8);
+    QCOMPARE(work->placeOf(fixture.here()), order[1]);
+    fixture.press(Qt::Key_F8, Qt::ShiftModifier);
+    QCOMPARE(work->placeOf(fixture.here()), order[0]);
+    fixture.press(Qt::Key_U, Qt::ControlModifier);
+    QVERIFY(!fixture.action("reviewLeastSure")->isChecked());
+}
+
+void tst_Review::differencesOfTheLineInSight()
+{
+    ReviewFixture fixture;
+    fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+    fixture.choose("Werkstoff: FP → FKM");
+    fixture.explain();
+    const QAbstractItemModel *const table =
+        fixture.window->findChild<QTableView *>("DifferenceTable")->model();
+    QCOMPARE(table->index(0, 0).data().toString(), "Werkstoff");
+    QVERIFY(table->index(0, 1).data().toString().contains("FP"));
+    QVERIFY(table->index(0, 2).data().toString().contains("FKM"));
+    QVERIFY(table->rowCount() > 3);
+    const QString head = fixture.window->findChild<QLabel *>("DifferenceHead")->text();
+    QVERIFY2(head.startsWith(seals + ':' + QString::number(fixture.here().line)), qPrintable(head));
+    // Another line is explained as soon as it is in sight.
+    fixture.press(Qt::Key_F9);
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            return fixture.window->findChild<QLabel *>("DifferenceHead")
+                ->text()
+                .startsWith(seals + ':' + QString::number(fixture.here().line));
+        },
+        10000));
+}
+
+void tst_Review::candidateByKey()
+{
+    ReviewFixture fixture;
+    fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+    fixture.choose("Werkstoff: FP → FKM");
+    fixture.explain();
+    const LineRef line = fixture.here();
+    const LineCandidateC candidate = *fixture.review()->panel()->candidate(1);
+    const int confirmed = fixture.confirmedLines();
+    fixture.press(Qt::Key_1);
+    QCOMPARE(fixture.confirmedLines(), confirmed + 1);
+    const PrjMappingTargetLineC entry = fixture.document()
+                                            ->mapping(line.project)
+                                            .findTarget(candidate.targetIndex)
+                                            .getMappedLine(line.line);
+    QCOMPARE(entry.getTargetLineId(), candidate.lineId.value(0));
+    QCOMPARE(entry.getState(), PRJMAPPING::Verified);
+    fixture.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+    // A key without candidate changes nothing.
+    fixture.explain();
+    fixture.press(Qt::Key_5);
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+}
+
+namespace {
+
+/// Draws that many lines.
+void draw(ModalScript &script, int count)
+{
+    script.then([count](QWidget *dialog) {
+        auto *const box = dialog->findChild<QSpinBox *>();
+        box->selectAll();
+        QTest::keyClicks(box, QString::number(count));
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+}
+
+/// The records of a kind in the journal.
+QList<PJsonValue> recordsOf(const MappingDocument &document, const char *kind)
+{
+    JournalReader reader;
+    QString error;
+    QList<PJsonValue> records;
+    if (!reader.read(document.journalFile(), &error))
+        return records;
+    for (const QByteArray &row : reader.sessions().last().records) {
+        if (JournalReader::isKind(row, kind))
+            records += JournalReader::parse(row);
+    }
+    return records;
+}
+
+} // namespace
+
+void tst_Review::acceptedBySample()
+{
+    ReviewFixture fixture;
+    fixture.choose("Werkstoff: FP → FKM");
+    const int lines = int(fixture.review()->lines().size());
+    const int confirmed = fixture.confirmedLines();
+    ModalScript script;
+    draw(script, 59);
+    fixture.press(Qt::Key_T, Qt::ControlModifier);
+    QVERIFY(script.isDone());
+    QVERIFY(fixture.review()->sample());
+    QCOMPARE(fixture.review()->sample()->drawn().size(), 59U);
+    script.thenClick("answerAccept");
+    for (int i = 0; i < 59; ++i)
+        fixture.press(Qt::Key_Plus);
+    QVERIFY(script.isDone());
+    QCOMPARE(fixture.confirmedLines(), confirmed + lines);
+    QVERIFY2(fixture.document()->undoText().contains(
+                 "59 von 59 richtig, mit 95 % Sicherheit weniger als 5.0 % falsch"),
+             qPrintable(fixture.document()->undoText()));
+    const QList<PJsonValue> records = recordsOf(*fixture.document(), "sample");
+    QCOMPARE(records.size(), 1);
+    const PJsonValue note = records.first().value("note");
+    QCOMPARE(note.value("drawn").size(), 59);
+    QVERIFY(note.value("drawn").at(0).toText().startsWith(seals + ':'));
+    QCOMPARE(note.value("right").toInt(), 59);
+    QCOMPARE(note.value("lines").toInt(), lines);
+    QVERIFY(!note.value("judge").toText().isEmpty());
+    QVERIFY(note.value("bound").toText().startsWith("0.049"));
+    QVERIFY(!records.first().value("time").toText().isEmpty());
+    fixture.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+}
+
+void tst_Review::firstWrongOneSplits()
+{
+    ReviewFixture fixture;
+    fixture.choose("kein Unterschied");
+    const int confirmed = fixture.confirmedLines();
+    ModalScript script;
+    draw(script, 20);
+    fixture.press(Qt::Key_T, Qt::ControlModifier);
+    fixture.press(Qt::Key_Plus);
+    const LineRef wrong = fixture.here();
+    QStringList parts;
+    script.then([&parts](QWidget *dialog) {
+        auto *const list = dialog->findChild<QListView *>();
+        for (int row = 0; row < list->model()->rowCount(); ++row)
+            parts << list->model()->index(row, 0).data().toString();
+        list->setFocus();
+        list->setCurrentIndex(list->model()->index(1, 0));
+        QTest::keyClick(list, Qt::Key_Return);
+    });
+    fixture.press(Qt::Key_Minus);
+    QVERIFY(script.isDone());
+    QVERIFY(!fixture.review()->sample());
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+    // One pattern falls apart by projects.
+    QVERIFY2(parts.size() > 2, qPrintable(parts.join('\n')));
+    QCOMPARE(parts.filter("dort war die falsche").size(), 1);
+    const std::vector<ReviewCommands::Place> rest = fixture.review()->lines();
+    QVERIFY(!rest.empty());
+    for (const ReviewCommands::Place &place : rest)
+        QVERIFY(fixture.review()->work()->lineAt(place) != wrong);
+    QVERIFY2(parts[1].startsWith(fixture.here().project.path), qPrintable(parts[1]));
+    const PJsonValue note = recordsOf(*fixture.document(), "sample").first().value("note");
+    QCOMPARE(note.value("judged").toInt(), 2);
+    QCOMPARE(note.value("right").toInt(), 1);
+    QVERIFY(!note.contains("bound"));
+}
+
+void tst_Review::selectedLinesBySample()
+{
+    ReviewFixture fixture;
+    QVERIFY(fixture.window->editor()->selectProject(din933));
+    fixture.sourceView()->setFocus();
+    fixture.press(Qt::Key_A, Qt::ControlModifier);
+    ModalScript script;
+    draw(script, 2);
+    fixture.press(Qt::Key_T, Qt::ControlModifier);
+    QVERIFY(fixture.review()->sample());
+    QCOMPARE(fixture.review()->sample()->drawn().size(), 2U);
+    QVERIFY(fixture.review()->sample()->lines().size() > 40);
+    // Who looks elsewhere judges nothing.
+    fixture.window->editor()->selectLine(1);
+    const int judged = fixture.review()->sample()->judged();
+    if (fixture.review()->work()->placeOf(fixture.here()) !=
+        fixture.review()->sample()->current()) {
+        fixture.press(Qt::Key_Plus);
+        QCOMPARE(fixture.review()->sample()->judged(), judged);
+    }
+}
+
+void tst_Review::agreedReplacement()
+{
+    ReviewFixture fixture;
+    fixture.choose("Werkstoff: FP → FKM");
+    ModalScript script;
+    QString evidence;
+    script.then([&evidence](QWidget *dialog) {
+        auto *const list = dialog->findChild<QListWidget *>("ReplacementList");
+        QCOMPARE(list->count(), 1);
+        QTest::mouseClick(dialog->findChild<QPushButton *>("evidenceButton"), Qt::LeftButton);
+        evidence = dialog->findChild<QLabel *>("ReplacementEvidence")->text();
+        QTest::mouseClick(dialog->findChild<QPushButton *>("agreeButton"), Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QPushButton *>("acceptButton"), Qt::LeftButton);
+    });
+    fixture.press(Qt::Key_E, Qt::ControlModifier);
+    QVERIFY(script.isDone());
+    QVERIFY2(evidence.startsWith("69 Zeilen dafür, "), qPrintable(evidence));
+    const QList<AgreedReplacement> agreed = fixture.document()->release().getReplacements();
+    QCOMPARE(agreed, (QList<AgreedReplacement>{{{}, "Werkstoff", "FP", "FKM", {}, {}}}));
+    fixture.waitForPatterns();
+    QVERIFY(QTest::qWaitFor([&] { return !fixture.review()->work()->isReading(); }, 20000));
+    const int pattern = fixture.model()->patternAt(fixture.rowOf("Werkstoff: FP → FKM"));
+    QVERIFY(fixture.review()->work()->patterns().changes(pattern).first().agreed);
+    // Kept in the file, in the journal, and one step of undo.
+    QVERIFY(fixture.document()->save().result == SaveResult::Saved);
+    MappingFile file;
+    QVERIFY(file.read(fixture.document()->mappingFile()));
+    QCOMPARE(file.releases().last().getReplacements(), agreed);
+    JournalReader reader;
+    QVERIFY(reader.read(fixture.document()->journalFile(), nullptr));
+    const JournalReplay replay = JournalReplay::run(reader.sessions().last(), ReleaseMappingC(), 0,
+                                                    JournalReplay::Extent::Unbroken);
+    QCOMPARE(replay.release.getReplacements(), agreed);
+    fixture.document()->undo();
+    QVERIFY(fixture.document()->release().getReplacements().isEmpty());
+    fixture.document()->redo();
+    QCOMPARE(fixture.document()->release().getReplacements(), agreed);
+}
+
+void tst_Review::followsTheDocument()
+{
+    ReviewFixture fixture;
+    QVERIFY(fixture.model()->rowCount() > 0);
+    fixture.document()->close();
+    QCoreApplication::processEvents();
+    QCOMPARE(fixture.model()->rowCount(), 0);
+    fixture.open(fixture.mappingFile("n.json"));
+    fixture.waitForPatterns();
+    QVERIFY(fixture.model()->rowCount() > 0);
+    // Closed while it reads.
+    fixture.review()->work()->readAnew();
+    fixture.closeWindow();
+}
+
+QTEST_MAIN(tst_Review)
+#include "tst_Review.moc"
