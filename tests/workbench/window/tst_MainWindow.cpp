@@ -394,6 +394,11 @@ private Q_SLOTS:
         QVERIFY(fixture.action("goNext")->toolTip().endsWith("(F7)"));
         fixture.press(Qt::Key_F7);
         QVERIFY(fixture.window->editor()->currentLine() >= 0);
+        // The command that had the key before gets it back.
+        QVERIFY(fixture.action("reviewPatterns")->shortcut().isEmpty());
+        values.nextLine = QKeySequence("F8");
+        fixture.settings->setValues(values);
+        QCOMPARE(fixture.action("reviewPatterns")->shortcut(), QKeySequence("F7"));
     }
 
     void bringsErrorsToTheFront()
