@@ -17,13 +17,13 @@ namespace {
 
 using VelkRelease::LineComparer;
 
-constexpr const char *Description =
+constexpr const char *ExplainDescription =
     "Tells of one source line where it is assigned to, the old and the new value of each\n"
     "variable, and the lines that it may have become, with their probability and what speaks\n"
     "for and against each. Changes nothing.";
 
 /// What is known of the line.
-struct Report
+struct ExplainReport
 {
     QString path;
     int line = -1;
@@ -38,7 +38,7 @@ struct Report
 constexpr const char *stateNames[] = {"to check", "assigned by the program", "confirmed"};
 constexpr const char *outcomeNames[] = {"equal", "replaced", "near", "different", "missing"};
 
-void setStanding(Report &report, const PrjMappingC &mapping)
+void setStanding(ExplainReport &report, const PrjMappingC &mapping)
 {
     const int index = report.assigned ? report.assigned->target : -1;
     for (int i = 0; i < mapping.countTargets(); ++i) {
@@ -71,7 +71,7 @@ void writeVariables(const QList<ComparedVariableC> &variables, const QString &in
     }
 }
 
-void writeText(const Report &report, QTextStream &out)
+void writeText(const ExplainReport &report, QTextStream &out)
 {
     out << report.path << ':' << report.line;
     if (!report.designation.isEmpty())
@@ -97,7 +97,7 @@ void writeText(const Report &report, QTextStream &out)
     out << report.candidates.explanation << '\n';
 }
 
-double rounded(double probability)
+double roundedShare(double probability)
 {
     return std::round(probability * 1e4) / 1e4;
 }
@@ -126,7 +126,7 @@ void writeVariables(JsonWriter &json, const QList<ComparedVariableC> &variables)
     json.endArray();
 }
 
-void writeJson(const Report &report, QTextStream &out)
+void writeJson(const ExplainReport &report, QTextStream &out)
 {
     JsonWriter json(JsonWriter::Indented);
     json.beginObject();
@@ -141,7 +141,7 @@ void writeJson(const Report &report, QTextStream &out)
     json.value(report.state);
     if (report.assigned) {
         json.key("probability");
-        json.value(rounded(report.assigned->probability));
+        json.value(roundedShare(report.assigned->probability));
         write(json, "reason", report.assigned->reason);
         writeVariables(json, report.assigned->variables);
     }
@@ -153,14 +153,14 @@ void writeJson(const Report &report, QTextStream &out)
         json.key("targetLine");
         json.value(candidate.lineId.value(0));
         json.key("probability");
-        json.value(rounded(candidate.probability));
+        json.value(roundedShare(candidate.probability));
         write(json, "reason", candidate.explanation);
         writeVariables(json, candidate.variables);
         json.endObject();
     }
     json.endArray();
     json.key("noSuccessor");
-    json.value(rounded(report.candidates.noSuccessor));
+    json.value(roundedShare(report.candidates.noSuccessor));
     write(json, "explanation", report.candidates.explanation);
     json.endObject();
     out << QString::fromUtf8(json.take());
@@ -180,7 +180,7 @@ PrjMappingC mappingOf(const ReleaseMappingC &release, const QString &path)
 
 ExitStatus runExplain(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
-    CommandLine line("explain", Description);
+    CommandLine line("explain", ExplainDescription);
     ReleaseFile::addOptions(line);
     line.addRequired("line", "PATH:LINE", "Source path of the project, and number of the line.");
     CatalogRoots::addOptions(line);
@@ -190,7 +190,7 @@ ExitStatus runExplain(const QStringList &arguments, QTextStream &out, QTextStrea
     const QString place = line.value("line");
     const qsizetype colon = place.lastIndexOf(u':');
     bool isNumber = false;
-    Report report;
+    ExplainReport report;
     report.path = place.left(qMax(qsizetype(0), colon));
     report.line = place.mid(colon + 1).toInt(&isNumber);
     if (colon < 1 || !isNumber)

@@ -23,14 +23,14 @@ using VelkRelease::ValueChange;
 
 constexpr int Examples = 3;
 
-constexpr const char *Description =
+constexpr const char *ReviewDescription =
     "Groups the open lines of a release mapping by how they differ from the lines that are\n"
     "proposed for them: lines, projects, mean probability, exceptions (lines with the same\n"
     "differences and others besides), three examples. Changes nothing. Then what was agreed\n"
     "to about values, with the lines that support it and those that do not.";
 
 /// What the command tells.
-struct Report
+struct ReviewReport
 {
     const ReleaseMappingC &release;
     const DifferencePatterns &patterns;
@@ -64,7 +64,7 @@ QString replacementText(const AgreedReplacement &replacement)
     return change.text(changeWords());
 }
 
-void writeTable(const Report &report, QTextStream &out)
+void writeTable(const ReviewReport &report, QTextStream &out)
 {
     const DifferencePatterns &patterns = report.patterns;
     const std::vector<int> ranked = patterns.ranked();
@@ -132,7 +132,7 @@ void writePlaces(JsonWriter &json, const ReleaseMappingC &release,
     json.endArray();
 }
 
-void writePattern(JsonWriter &json, const Report &report, int pattern)
+void writePattern(JsonWriter &json, const ReviewReport &report, int pattern)
 {
     const DifferencePatterns::Numbers numbers = report.patterns.numbers(pattern);
     json.beginObject();
@@ -157,7 +157,7 @@ void writePattern(JsonWriter &json, const Report &report, int pattern)
     json.endObject();
 }
 
-void writeJson(const Report &report, QTextStream &out)
+void writeJson(const ReviewReport &report, QTextStream &out)
 {
     JsonWriter json(JsonWriter::Indented);
     json.beginObject();
@@ -199,7 +199,7 @@ const ValueChange::Words &changeWords()
 
 ExitStatus runReview(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
-    CommandLine line("review", Description);
+    CommandLine line("review", ReviewDescription);
     ReleaseFile::addOptions(line);
     CatalogRoots::addOptions(line);
     line.addOptional("project", "PATH", "Source path of a project to look at; may be repeated.");
@@ -228,7 +228,7 @@ ExitStatus runReview(const QStringList &arguments, QTextStream &out, QTextStream
         });
     if (!patterns)
         return ExitStatus::Interrupted;
-    Report report{release, *patterns, {}};
+    ReviewReport report{release, *patterns, {}};
     for (const AgreedReplacement &replacement : release.getReplacements()) {
         const auto evidence = VelkRelease::replacementEvidence(roots.source(), release, replacement,
                                                                InterruptGuard::isRequested());

@@ -222,7 +222,7 @@ void WorkbenchActions::setKeys(const QKeySequence &next, const QKeySequence &pre
     // A command gives way to the user's own choice, or the key would do neither.
     for (int i = 0; i < CommandCount; ++i) {
         const QKeySequence own =
-            QKeySequence::fromString(rows[size_t(i)].shortcut, QKeySequence::PortableText);
+            QKeySequence::fromString(commandRows[size_t(i)].shortcut, QKeySequence::PortableText);
         m_actions[i]->setShortcut(own == next || own == previous ? QKeySequence() : own);
     }
     action(NextOpen)->setShortcut(next);

@@ -10,7 +10,7 @@ namespace VelkRelease {
 namespace {
 
 /// Names a change exactly, for look-ups only.
-QString nameOf(const ValueChange &change)
+QString lookUpName(const ValueChange &change)
 {
     constexpr QChar Between(0x1f);
     return change.variable + Between + QString::number(int(change.kind)) + Between + change.before +
@@ -108,7 +108,7 @@ int DifferencePatterns::patternFor(const OpenPair &pair, const QString &sourcePa
     std::vector<int> ids;
     ids.reserve(size_t(changes.size()));
     for (const ValueChange &change : changes) {
-        const int id = numberFor(m_changeOf, nameOf(change), int(m_having.size()));
+        const int id = numberFor(m_changeOf, lookUpName(change), int(m_having.size()));
         if (size_t(id) == m_having.size())
             m_having.emplace_back();
         ids.push_back(id);
