@@ -13,6 +13,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
@@ -42,6 +43,8 @@ endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   add_compile_options(-fno-gnu-unique)
 endif()
+# What is given away names no folder of the machine that made it, and is the same wherever it is made.
+add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
 if(VELK_SANITIZE)
   add_compile_options(-fsanitize=${VELK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
                       -O1)
@@ -101,12 +104,12 @@ function(velk_sources var)
 endfunction()
 
 # velk_library(NAME [TYPE TYPE] [MACRO DEFINE] DEPENDS TARGET... [INCLUDE FOLDER] [SOURCES FOLDER...]
-#              [EXCEPT FILE...]): a library of all sources below the folders SOURCES (default: the
+#              [EXCEPT FILE...] [APART]): a library of all sources below the folders SOURCES (default: the
 # current folder). MACRO is the define under which its own headers export; with one it is shared,
 # without static, if there is no TYPE. INCLUDE is the folder that its headers are named from
-# (default: the top).
+# (default: the top). APART keeps its sources from being compiled together.
 function(velk_library name)
-  cmake_parse_arguments(ARG "" "TYPE;MACRO;INCLUDE" "SOURCES;EXCEPT;DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "APART" "TYPE;MACRO;INCLUDE" "SOURCES;EXCEPT;DEPENDS" ${ARGN})
   if(NOT ARG_SOURCES)
     set(ARG_SOURCES "${CMAKE_CURRENT_SOURCE_DIR}")
   endif()
@@ -125,9 +128,11 @@ function(velk_library name)
   set(headers ${files})
   list(FILTER headers INCLUDE REGEX "\\.h$")
   set_property(TARGET ${name} PROPERTY AUTOGEN_TARGET_DEPENDS ${headers})
-  target_include_directories(${name} PUBLIC "${ARG_INCLUDE}")
+  target_include_directories(${name} PUBLIC "$<BUILD_INTERFACE:${ARG_INCLUDE}>")
   target_link_libraries(${name} PUBLIC ${ARG_DEPENDS})
-  velk_unity(${name} ${files})
+  if(NOT ARG_APART)
+    velk_unity(${name} ${files})
+  endif()
   velk_defaults(${name})
 endfunction()
 

@@ -2,5 +2,5 @@
 
 QString velkVersion()
 {
-    return QStringLiteral("0.1.0");
+    return QStringLiteral(VELK_VERSION);
 }

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QMetaClassInfo>
 
 namespace {
@@ -44,5 +45,10 @@ bool PluginLibrary::load(const QString &path)
 
 QString PluginLibrary::pathOf(const QString &name)
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../lib/" + name);
+    const QDir programs(QCoreApplication::applicationDirPath());
+    const QString built = QDir::cleanPath(programs.filePath("../lib/" + name));
+    // Where they are installed they have a folder of their own.
+    return QFile::exists(QFileInfo(built).path() + "/lib" + name + ".so")
+               ? built
+               : QDir::cleanPath(programs.filePath(VELK_MODULE_FOLDER "/" + name));
 }

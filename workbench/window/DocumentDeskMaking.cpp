@@ -36,9 +36,8 @@ bool DocumentDesk::makeByDialog()
 
 QString DocumentDesk::exampleSource()
 {
-    const QString installed = QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                                              "/../share/velkworkbench/examples");
-    return QFileInfo(installed + "/release-1").isDir() ? installed : QStringLiteral(VELK_EXAMPLES);
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           "/../share/velkworkbench/examples");
 }
 
 bool DocumentDesk::openExample()

@@ -12,7 +12,7 @@ namespace Mapper {
 namespace {
 
 /// Names and values that a sentence shows of one kind; the rest is a number.
-constexpr qsizetype MaxNamed = 4;
+constexpr qsizetype MaxNamedVariables = 4;
 /// Characters that a sentence shows of a value.
 constexpr qsizetype MaxShown = 40;
 /// Values with at least this similarity are near each other.
@@ -46,9 +46,9 @@ QString missing(const ComparedVariableC &variable)
 
 QString joined(const QString &kind, const QStringList &parts)
 {
-    QString text = parts.mid(0, MaxNamed).join(QStringLiteral(", "));
-    if (parts.size() > MaxNamed)
-        text += QStringLiteral(", ") + tr("%1 weitere").arg(parts.size() - MaxNamed);
+    QString text = parts.mid(0, MaxNamedVariables).join(QStringLiteral(", "));
+    if (parts.size() > MaxNamedVariables)
+        text += QStringLiteral(", ") + tr("%1 weitere").arg(parts.size() - MaxNamedVariables);
     return kind.arg(text);
 }
 

@@ -1,5 +1,7 @@
 #include "prxTextWriterC.h"
 
+#include "scriptFailure.h"
+
 #include <core/component/mzComExceptionC.h>
 #include <core/component/proxyMember.h>
 #include <core/files/DurableFile.h>
@@ -8,11 +10,6 @@
 namespace {
 
 constexpr int mostCells = 10'000;
-
-[[noreturn]] void fail(const QString &text)
-{
-    throw mzComExceptionC(mzComFailed, {text, {}, 0});
-}
 
 mzComVariantC read(const mzIDispatchC &object, const QString &name)
 {
@@ -37,7 +34,7 @@ QString textOf(const mzComVariantC &cell)
     if (plain.getExt(truth) == mzComSuccess)
         return truth ? QStringLiteral("true") : QStringLiteral("false");
     if (!plain.isEmpty())
-        fail(QStringLiteral("An object cannot be written into a cell"));
+        scriptFailure(QStringLiteral("An object cannot be written into a cell"));
     return {};
 }
 
@@ -72,7 +69,7 @@ void prxTextWriterC::writeRow(const mzIDispatchC &cells)
     if (read(cells, QStringLiteral("length")).getExt(count) != mzComSuccess || count < 0)
         proxyObjectC::throwAutoTypeCastException();
     if (count > mostCells)
-        fail(QStringLiteral("A row has at most %1 cells").arg(mostCells));
+        scriptFailure(QStringLiteral("A row has at most %1 cells").arg(mostCells));
     QByteArray row;
     for (int i = 0; i < count; ++i) {
         row += i > 0 ? "," : "";
@@ -85,9 +82,9 @@ void prxTextWriterC::writeRow(const mzIDispatchC &cells)
 void prxTextWriterC::put(const QByteArray &bytes)
 {
     if (!m_file.isOpen())
-        fail(QStringLiteral("The output is closed"));
+        scriptFailure(QStringLiteral("The output is closed"));
     if (m_file.write(bytes) != bytes.size())
-        fail(QStringLiteral("%1 cannot be written: ").arg(path()) + m_file.errorString());
+        scriptFailure(QStringLiteral("%1 cannot be written: ").arg(path()) + m_file.errorString());
 }
 
 const proxyMemberDescListS *prxTextWriterC::getProxyTypeInfo() const

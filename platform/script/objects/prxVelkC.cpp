@@ -1,8 +1,9 @@
 #include "prxVelkC.h"
 
+#include "scriptFailure.h"
+
 #include "readScriptTable.h"
 
-#include <core/component/mzComExceptionC.h>
 #include <core/component/proxyMember.h>
 #include <core/Version.h>
 #include <geomcore/erp/LinkDbErpNumbers.h>
@@ -13,17 +14,12 @@ namespace {
 /// No source date reads so; used to learn a file's dates without making records.
 const QString noDate = QStringLiteral("\x01");
 
-[[noreturn]] void fail(const QString &text)
-{
-    throw mzComExceptionC(mzComFailed, {text, {}, 0});
-}
-
 MappingFile readFile(const QString &path, const QString &sourceDate)
 {
     MappingFile file;
     QString error;
     if (!file.read(path, sourceDate, &error))
-        fail(error);
+        scriptFailure(error);
     return file;
 }
 
@@ -40,7 +36,7 @@ ProxyPtrT<prxReleaseMappingC> prxVelkC::openMapping(const QString &file) const
 {
     const QStringList dates = readFile(file, noDate).sourceDates();
     if (dates.isEmpty())
-        fail(file + QStringLiteral(": the file holds no release"));
+        scriptFailure(file + QStringLiteral(": the file holds no release"));
     return openRelease(file, dates.last(), {}, {});
 }
 
@@ -50,7 +46,7 @@ ProxyPtrT<prxReleaseMappingC> prxVelkC::openRelease(const QString &file, const Q
 {
     const MappingFile read = readFile(file, sourceDate.isEmpty() ? noDate : sourceDate);
     if (!read.contains(sourceDate)) {
-        fail(QStringLiteral("%1: there is no release %2; the file holds %3")
+        scriptFailure(QStringLiteral("%1: there is no release %2; the file holds %3")
                  .arg(file, sourceDate, read.sourceDates().join(QStringLiteral(", "))));
     }
     return ProxyPtrT<prxReleaseMappingC>(
