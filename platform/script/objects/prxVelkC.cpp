@@ -68,7 +68,7 @@ ProxyPtrT<prxErpNumbersC> prxVelkC::erpNumbers(const QString &projectPath) const
     QString error;
     const auto numbers = LinkDbErpNumbers().numbersOf(projectPath, {}, &error);
     if (!numbers)
-        fail(error);
+        scriptFailure(error);
     return ProxyPtrT<prxErpNumbersC>(new prxErpNumbersC(*numbers));
 }
 
