@@ -13,14 +13,14 @@
 
 namespace {
 
-QString translated(const char *text)
+QString deletionText(const char *text)
 {
     return PString::translate(text, "VelkLinkDbGui");
 }
 
 void showNotDeleted()
 {
-    PMessage::Show(translated("Der Datensatz konnte nicht gelöscht werden!"), PMsgDlgMode::Error);
+    PMessage::Show(deletionText("Der Datensatz konnte nicht gelöscht werden!"), PMsgDlgMode::Error);
 }
 
 } // namespace
@@ -47,7 +47,7 @@ void DocumentListDialogCPrivate::deleteLeaf(const QString &id)
     const int parents = count(QStringLiteral("SELECT COUNT(*) FROM ") + hierarchyTable +
                               QStringLiteral(" WHERE Child = ") + id);
     if (parents > 1) {
-        PMessage::Show(translated("Das Teil konnte nicht gelöscht werden, da es von mehreren "
+        PMessage::Show(deletionText("Das Teil konnte nicht gelöscht werden, da es von mehreren "
                                   "Assemblies referenziert wird!"),
                        PMsgDlgMode::Warning);
         return;
@@ -70,7 +70,7 @@ void DocumentListDialogCPrivate::deleteAssembly(const QString &id)
 {
     const QPointer<DocumentListDialogC> self(q);
     const PMsgReply reply = PMessage::Show(
-        translated("Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen "
+        deletionText("Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen "
                    "alle Unterelemente ebenfalls gelöscht werden?"),
         PMsgDlgMode::YesNoCancel);
     if (reply == PMsgReply::Cancel || !self)
@@ -109,7 +109,7 @@ void DocumentListDialogCPrivate::deleteChildren(const QString &id)
         linkDbIface->commit();
     }
     if (kept > 0)
-        PMessage::Show(translated("Es konnten nicht alle Unterelemente gelöscht werden, da einige "
+        PMessage::Show(deletionText("Es konnten nicht alle Unterelemente gelöscht werden, da einige "
                                   "Unterelemente auch von anderen Assemblies referenziert "
                                   "werden!"),
                        PMsgDlgMode::Warning);

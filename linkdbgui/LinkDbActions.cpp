@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr const char *context = "VelkLinkDbGui";
+constexpr const char *actionContext = "VelkLinkDbGui";
 
 /// Texts are source texts, the icon is a resource of the host.
 struct ActionDescription
@@ -65,8 +65,8 @@ QIcon iconOf(const QString &file)
 
 void registerAction(PApplicationPool &pool, const ActionDescription &description)
 {
-    const PString tip = PString::translate(description.tip, context);
-    const PString text = PString::translate(description.text, context);
+    const PString tip = PString::translate(description.tip, actionContext);
+    const PString text = PString::translate(description.text, actionContext);
     QAction *action = pool.registerAction(QString::fromUtf8(description.objectName), text, {});
     action->setStatusTip(tip);
     action->setToolTip(tip);
