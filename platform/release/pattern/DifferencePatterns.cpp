@@ -10,11 +10,7 @@ namespace VelkRelease {
 namespace {
 
 /// Names a change exactly, for look-ups only.
-<<<<<<< HEAD
 QString lookUpName(const ValueChange &change)
-=======
-QString exactNameOf(const ValueChange &change)
->>>>>>> d7fbc58 (Install programs, libraries and a CMake package; make Debian packages and try them in a bare system)
 {
     constexpr QChar Between(0x1f);
     return change.variable + Between + QString::number(int(change.kind)) + Between + change.before +
@@ -112,11 +108,7 @@ int DifferencePatterns::patternFor(const OpenPair &pair, const QString &sourcePa
     std::vector<int> ids;
     ids.reserve(size_t(changes.size()));
     for (const ValueChange &change : changes) {
-<<<<<<< HEAD
         const int id = numberFor(m_changeOf, lookUpName(change), int(m_having.size()));
-=======
-        const int id = numberFor(m_changeOf, exactNameOf(change), int(m_having.size()));
->>>>>>> d7fbc58 (Install programs, libraries and a CMake package; make Debian packages and try them in a bare system)
         if (size_t(id) == m_having.size())
             m_having.emplace_back();
         ids.push_back(id);
