@@ -56,6 +56,21 @@ PostgresServer &server()
     return instance;
 }
 
+/// The database of the program on that server, empty; a new one for each test would take its time.
+QString emptyDatabase()
+{
+    static const QString address = server().newDatabase();
+    static bool isUsed = false;
+    if (std::exchange(isUsed, true)) {
+        PLinkDbC linkDb;
+        (void)linkDb.open(LinkDbSettings::fromText(address));
+        (void)(linkDb.executeInsertStatement(QStringLiteral("DROP SCHEMA public CASCADE")) &&
+               linkDb.executeInsertStatement(QStringLiteral("CREATE SCHEMA public")) &&
+               linkDb.commit());
+    }
+    return address;
+}
+
 } // namespace
 
 void addDatabases()
@@ -99,10 +114,10 @@ QStringList StatementLog::warnings()
     return collected().warnings;
 }
 
-const proxyMemberDescListS *ScriptObject::getProxyTypeInfo() const
+const proxyMemberDescListS *CallbackObject::getProxyTypeInfo() const
 {
-    static const proxyMemberDescS members[] = {proxyMethod<&ScriptObject::run>("run")};
-    static const proxyMemberDescListS description{.className = "ScriptObject",
+    static const proxyMemberDescS members[] = {proxyMethod<&CallbackObject::run>("run")};
+    static const proxyMemberDescListS description{.className = "CallbackObject",
                                                   .base = proxyObjectC::getStaticProxyTypeInfo(),
                                                   .members = members,
                                                   .file = __FILE__,
@@ -115,9 +130,9 @@ mzIDispatchC dispatchOf(proxyObjectC *object)
     return mzIDispatchC(object);
 }
 
-mzIDispatchC scriptOf(ScriptObject::Run run)
+mzIDispatchC scriptOf(CallbackObject::Run run)
 {
-    return dispatchOf(new ScriptObject(std::move(run)));
+    return dispatchOf(new CallbackObject(std::move(run)));
 }
 
 QStringList entriesOf(const prxDictionaryObjC &dictionary)
@@ -214,7 +229,7 @@ DocumentFixture::DocumentFixture(const QString &database)
     IndexTreeC::instance()->setCatalogRoot(PPathName(catalog.root()));
     writeTable({});
     const QString address = database == QLatin1String("PostgreSQL")
-                                ? server().newDatabase()
+                                ? emptyDatabase()
                                 : folder.filePath(QStringLiteral("link.db"));
     QVERIFY2(linkDb->open(LinkDbSettings::fromText(address)),
              qPrintable(linkDb->lastError().text + server().problem()));

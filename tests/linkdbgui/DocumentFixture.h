@@ -46,12 +46,12 @@ private:
 };
 
 /// Script object with one method for the callbacks of the document dialog, "run".
-class ScriptObject : public proxyObjectC
+class CallbackObject : public proxyObjectC
 {
 public:
     using Run = std::function<mzComVariantC(prxDictionaryObjC &values, const mzComVariantC &table)>;
 
-    explicit ScriptObject(Run run)
+    explicit CallbackObject(Run run)
         : m_run(std::move(run))
     {
     }
@@ -79,7 +79,7 @@ public:
 
 [[nodiscard]] mzIDispatchC dispatchOf(proxyObjectC *object);
 /// Object whose method "run" does that.
-[[nodiscard]] mzIDispatchC scriptOf(ScriptObject::Run run);
+[[nodiscard]] mzIDispatchC scriptOf(CallbackObject::Run run);
 /// "KEY=value" of the dictionary, in its order.
 [[nodiscard]] QStringList entriesOf(const prxDictionaryObjC &dictionary);
 

@@ -398,7 +398,7 @@ void tst_DocumentRecords::callbackFails_data()
     QTest::addColumn<QStringList>("texts");
     QTest::newRow("exception") << true << "run" << QStringList{"a.js:7: no such part"};
     QTest::newRow("no such method")
-        << true << "walk" << QStringList{"ScriptObject has no method \"walk\""};
+        << true << "walk" << QStringList{"CallbackObject has no method \"walk\""};
     QTest::newRow("nothing comes back")
         << false << "r%1n" << QStringList{"Der Aufruf von r%1n ist fehlgeschlagen!"};
 }

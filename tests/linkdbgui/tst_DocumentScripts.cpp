@@ -371,13 +371,13 @@ void tst_DocumentScripts::callbacks()
         });
     }
     QStringList calls;
-    const ProxyPtrT<ScriptObject> create(
-        new ScriptObject([&](prxDictionaryObjC &, const mzComVariantC &) {
+    const ProxyPtrT<CallbackObject> create(
+        new CallbackObject([&](prxDictionaryObjC &, const mzComVariantC &) {
             calls.append("create");
             return mzComVariantC(1);
         }));
-    const ProxyPtrT<ScriptObject> update(
-        new ScriptObject([&](prxDictionaryObjC &, const mzComVariantC &) {
+    const ProxyPtrT<CallbackObject> update(
+        new CallbackObject([&](prxDictionaryObjC &, const mzComVariantC &) {
             calls.append("update");
             return mzComVariantC(1);
         }));
