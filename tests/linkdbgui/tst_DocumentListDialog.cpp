@@ -838,16 +838,22 @@ void tst_DocumentListDialog::placeIsKept()
     const PRefPtr<PConfig> config(new PConfigInst(folder.filePath("app.cfg"), false));
     const PApplication application(config);
     {
-        const auto dialog = fixture.makeDialog();
+        const auto dialog = fixture.showDialog();
         dialog->resize(801, 433);
+        documentsOf(*dialog)->header()->resizeSection(2, 99);
     }
-    QCOMPARE(fixture.makeDialog()->size(), QSize(801, 433));
+    {
+        const auto dialog = fixture.showDialog();
+        QCOMPARE(dialog->size(), QSize(801, 433));
+        QCOMPARE(documentsOf(*dialog)->header()->sectionSize(2), 99);
+    }
     {
         NewRecordDialogC form;
         form.resize(555, 333);
     }
     QCOMPARE(NewRecordDialogC().size(), QSize(555, 333));
     QCOMPARE(config->keys("Windows"), (QStringList{"DocumentListDialog", "NewRecordDialog"}));
+    QCOMPARE(config->keys("WindowStates"), (QStringList{"DocumentListDialog"}));
 }
 
 void tst_DocumentListDialog::logged()

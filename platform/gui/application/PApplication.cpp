@@ -12,6 +12,7 @@
 namespace {
 
 const QString windowSection = QStringLiteral("Windows");
+const QString stateSection = QStringLiteral("WindowStates");
 
 PApplication *hostApplication = nullptr;
 
@@ -86,6 +87,12 @@ void PApplication::setupWindow(QWidget *window)
     // Qt restores what was cut off too, to a window without extent.
     if (geometry.size() >= window->saveGeometry().size())
         window->restoreGeometry(geometry);
+    if (window->metaObject()->indexOfMethod("restoreState(QByteArray)") < 0)
+        return;
+    const QString state =
+        getAppConfig()->getItemValue(window->objectName(), stateSection, QString()).GetString();
+    QMetaObject::invokeMethod(window, "restoreState",
+                              Q_ARG(QByteArray, QByteArray::fromBase64(state.toLatin1())));
 }
 
 void PApplication::saveWindow(const QWidget *window)
@@ -94,6 +101,13 @@ void PApplication::saveWindow(const QWidget *window)
         return;
     getAppConfig()->SetValue(window->objectName(), windowSection,
                              QString::fromLatin1(window->saveGeometry().toBase64()));
+    if (window->metaObject()->indexOfMethod("saveState()") < 0)
+        return;
+    QByteArray state;
+    QMetaObject::invokeMethod(const_cast<QWidget *>(window), "saveState",
+                              Q_RETURN_ARG(QByteArray, state));
+    getAppConfig()->SetValue(window->objectName(), stateSection,
+                             QString::fromLatin1(state.toBase64()));
 }
 
 void PApplication::setInitialized()

@@ -36,7 +36,8 @@ public:
     [[nodiscard]] static QWidget *createWidget(const QString &form, QWidget *parent, bool show);
 
     /// Puts a window where it was when saveWindow() was last called for its object name. Without an
-    /// object name, and for what was never kept, nothing happens.
+    /// object name, and for what was never kept, nothing happens. A window whose meta object has
+    /// saveState() and restoreState(QByteArray) gets its state back, too.
     static void setupWindow(QWidget *window);
     static void saveWindow(const QWidget *window);
 
