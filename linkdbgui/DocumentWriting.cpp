@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr const char *context = "VelkLinkDbGui";
+constexpr const char *writingContext = "VelkLinkDbGui";
 
 } // namespace
 
@@ -52,7 +52,7 @@ mzComVariantC DocumentListDialogCPrivate::invokeCallback(const ScriptCallback &c
     if (exception)
         PMessage::DisplayException(*exception);
     else
-        PMessage::Show(PString::translate("Der Aufruf von %1 ist fehlgeschlagen!", context)
+        PMessage::Show(PString::translate("Der Aufruf von %1 ist fehlgeschlagen!", writingContext)
                            .arg(callback.method.text()));
     return result;
 }
@@ -100,7 +100,7 @@ void DocumentListDialogCPrivate::write(const QString &statement, const char *fai
         return;
     }
     linkDbIface->getMainModule()->showLastError();
-    PMessage::Show(PString::translate(failure, context));
+    PMessage::Show(PString::translate(failure, writingContext));
 }
 
 void DocumentListDialogC::OnNewRecord()
@@ -109,7 +109,7 @@ void DocumentListDialogC::OnNewRecord()
         return;
     NewRecordDialogC form;
     d->prepareForm(form);
-    form.setWindowTitle(PString::translate("Neuen Datensatz anlegen", context));
+    form.setWindowTitle(PString::translate("Neuen Datensatz anlegen", writingContext));
     form.setXVarset(d->lineXVarset());
     if (const auto geoId = d->selectedRecord())
         d->showRecord(form, *geoId);
@@ -143,7 +143,7 @@ void DocumentListDialogC::OnEditRecord()
     NewRecordDialogC form;
     d->prepareForm(form);
     d->showRecord(form, *geoId);
-    form.setWindowTitle(PString::translate("Datensatz bearbeiten", context));
+    form.setWindowTitle(PString::translate("Datensatz bearbeiten", writingContext));
     const QPointer<DocumentListDialogC> self(this);
     if (form.exec() != Accepted || !self)
         return;

@@ -4,28 +4,28 @@
 
 namespace {
 
-constexpr int level = 5000;
-constexpr int notInitialised = -2;
+constexpr int statementLevel = 5000;
+constexpr int levelNotRead = -2;
 
 /// A logger record that is released with the library.
-struct OwnedRecord
+struct StatementRecord
 {
-    OwnedRecord() = default;
-    ~OwnedRecord() { StaticLogger::release(record); }
-    Q_DISABLE_COPY_MOVE(OwnedRecord)
+    StatementRecord() = default;
+    ~StatementRecord() { StaticLogger::release(record); }
+    Q_DISABLE_COPY_MOVE(StatementRecord)
 
     StaticLoggerRecord record{"tormeva.libs.VelkGeomCore.linkdb"};
 };
 
-OwnedRecord statements;
+StatementRecord statementRecord;
 
 } // namespace
 
 void logStatement(const QString &sql)
 {
-    StaticLoggerRecord &record = statements.record;
-    if (record.level == notInitialised)
+    StaticLoggerRecord &record = statementRecord.record;
+    if (record.level == levelNotRead)
         StaticLogger::init(record);
-    if (record.level <= level)
-        StaticLogger::log(level, __FILE__, Q_FUNC_INFO, __LINE__, sql);
+    if (record.level <= statementLevel)
+        StaticLogger::log(statementLevel, __FILE__, Q_FUNC_INFO, __LINE__, sql);
 }
