@@ -43,17 +43,28 @@ void drawMarked(QPainter *painter, const QStyleOptionViewItem &option, const QRe
     painter->restore();
 }
 
+bool isBold(const QModelIndex &index)
+{
+    return index.column() == DifferenceModel::Variable &&
+           index.data(DifferenceModel::OutcomeRole).toInt() != ComparedVariableC::Equal;
+}
+
 } // namespace
+
+QSize DifferenceDelegate::sizeHint(const QStyleOptionViewItem &option,
+                                   const QModelIndex &index) const
+{
+    QStyleOptionViewItem shown = option;
+    shown.font.setBold(isBold(index));
+    return QStyledItemDelegate::sizeHint(shown, index);
+}
 
 void DifferenceDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                const QModelIndex &index) const
 {
     QStyleOptionViewItem shown = option;
     initStyleOption(&shown, index);
-    const bool differs =
-        index.data(DifferenceModel::OutcomeRole).toInt() != ComparedVariableC::Equal;
-    if (differs && index.column() == DifferenceModel::Variable)
-        shown.font.setBold(true);
+    shown.font.setBold(isBold(index));
     const auto marks = index.data(DifferenceModel::MarksRole).value<Marks>();
     const QStyle *const style = shown.widget ? shown.widget->style() : QApplication::style();
     if (marks.isEmpty()) {

@@ -36,6 +36,9 @@ PatternDock::PatternDock(ReviewWork *work, QWidget *parent)
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_list->header()->setSectionResizeMode(PatternModel::Changes, QHeaderView::Stretch);
     m_list->header()->setMinimumSectionSize(40);
+    m_list->setTextElideMode(Qt::ElideRight);
+    // Else nothing of the differences is seen.
+    content->setMinimumWidth(30 * fontMetrics().averageCharWidth());
     m_list->installEventFilter(this);
     layout->addWidget(m_sum);
     layout->addWidget(m_list);

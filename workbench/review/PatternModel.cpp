@@ -40,8 +40,13 @@ void PatternModel::update()
         }
     }
     // What undo brought back, or what another proposal made.
+    std::vector<int> known;
+    known.reserve(m_rows.size());
+    for (const Row &row : m_rows)
+        known.push_back(row.pattern);
+    std::sort(known.begin(), known.end());
     for (const int pattern : m_patterns->ranked()) {
-        if (rowOf(pattern) >= 0)
+        if (std::binary_search(known.begin(), known.end(), pattern))
             continue;
         const int at = int(m_rows.size());
         beginInsertRows({}, at, at);

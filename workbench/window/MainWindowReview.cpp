@@ -12,10 +12,13 @@
 
 void MainWindow::addReview()
 {
-    addDockWidget(Qt::RightDockWidgetArea, m_review->dock());
+    addDockWidget(Qt::LeftDockWidgetArea, m_review->dock());
     addDockWidget(Qt::BottomDockWidgetArea, m_review->panel());
     m_review->dock()->hide();
     m_review->panel()->hide();
+    // Until the user wants other sizes.
+    resizeDocks({m_review->dock()}, {460}, Qt::Horizontal);
+    resizeDocks({m_review->panel()}, {240}, Qt::Vertical);
 }
 
 void MainWindow::connectReview()

@@ -4,10 +4,13 @@
 #include <geomcore/records/LineTable.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace VelkRelease {
 
 namespace {
+
+constexpr double ProbabilitySteps = 1e9;
 
 /// Names a change exactly, for look-ups only.
 QString lookUpName(const ValueChange &change)
@@ -121,7 +124,7 @@ int DifferencePatterns::patternFor(const OpenPair &pair, const QString &sourcePa
     const int pattern = numberFor(m_patternOf, name, next);
     if (pattern < next)
         return pattern;
-    m_patterns.push_back({changes, pair.comparable, {}, 0, {}});
+    m_patterns.push_back({changes, pair.comparable, {}, 0, 0, {}});
     m_changesOf.push_back(ids);
     noteLarger(next);
     for (const int id : ids)
@@ -173,6 +176,7 @@ void DifferencePatterns::setOpen(Project &project, int position, int line, Known
     m_openLines += step;
     Pattern &pattern = m_patterns[size_t(known.pattern)];
     pattern.lines += step;
+    pattern.sum += step * qint64(std::llround(known.probability * ProbabilitySteps));
     if (open) {
         pattern.open[position][line] = known.probability;
         return;
@@ -250,12 +254,8 @@ DifferencePatterns::Numbers DifferencePatterns::numbers(int index) const
 {
     const Pattern &pattern = m_patterns[size_t(index)];
     Numbers numbers{pattern.lines, int(pattern.open.size()), 0, 0};
-    double sum = 0;
-    for (const auto &[project, lines] : pattern.open) {
-        for (const auto &[line, probability] : lines)
-            sum += probability;
-    }
-    numbers.probability = pattern.lines > 0 ? sum / pattern.lines : 0;
+    if (pattern.lines > 0)
+        numbers.probability = double(pattern.sum) / (ProbabilitySteps * pattern.lines);
     for (const int other : pattern.larger)
         numbers.exceptions += m_patterns[size_t(other)].lines;
     return numbers;

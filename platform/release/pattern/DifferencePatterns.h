@@ -122,6 +122,9 @@ private:
         bool comparable = true;
         std::map<int, std::map<int, double>> open; ///< probability of lines, by project
         int lines = 0;
+        /// Of the probabilities, in whole steps, so that it does not depend on the order in which
+        /// lines came and went.
+        qint64 sum = 0;
         std::vector<int> larger; ///< patterns with all these changes and others
     };
 
