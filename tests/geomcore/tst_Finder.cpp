@@ -65,6 +65,7 @@ private Q_SLOTS:
     void findsLines();
     void fewAndManyLinesAgree_data();
     void fewAndManyLinesAgree();
+    void unselectiveColumns();
     void keepsTheOrderOfTheIds();
     void findsVisibleLinesOnDemand();
     void seesChangedCells();
@@ -268,6 +269,43 @@ void tst_Finder::fewAndManyLinesAgree()
         numbers(m_finder.findLines(table, table.getLineMapping().getOrdered(), wanted, options)),
         oneByOne);
     QCOMPARE(numbers(m_finder.findLines(table, copied, wanted, options)), oneByOne);
+}
+
+/// Columns that each have few values and tell the lines apart only together: after some searches
+/// they are looked up together. All searches agree with looking at the lines one by one.
+void tst_Finder::unselectiveColumns()
+{
+    TableDescriptor descriptor;
+    descriptor.fields = {TestTables::field("A", FieldType::Number),
+                         TestTables::field("B", FieldType::Number),
+                         TestTables::field("R", FieldType::Number, FieldKind::Range)};
+    QString csv("A,B,R\n");
+    for (int i = 0; i < 1600; ++i) {
+        csv += QString("%1,%2,%3\n")
+                   .arg(i / 40)
+                   .arg(i % 3 ? QString::number(i % 40) : QString("%1.0").arg(i % 40))
+                   .arg(i % 2 ? QString("0;1;5..9/2") : QString::number(i % 8));
+    }
+    const ContentRef table = TestTables::table(descriptor, csv);
+    const QVector<LineId> all = table.getLineIdList();
+    const Finder finder;
+    int found = 0;
+    for (int i = 0; i < 1600; i += 7) {
+        const QString range = QString::number(i % 9);
+        const QList<FindValue> values =
+            finder.toValueList(table,
+                               {value("A", QString::number(i / 40)),
+                                value("B", QString::number(i % 40)), value("R", range)},
+                               FilterAll);
+        const QList<int> together =
+            numbers(finder.findLines(table, all, values, Finder::FindRangeContains));
+        const QVector<LineId> near = all.mid(qMax(0, i - 15), 31);
+        QCOMPARE(together,
+                 numbers(finder.findLines(table, near, values, Finder::FindRangeContains)));
+        found += int(together.size());
+        QCOMPARE(numbers(finder.findLines(table, all, values.mid(0, 2), {})), QList<int>({i + 1}));
+    }
+    QVERIFY(found > 50 && found < 229);
 }
 
 void tst_Finder::keepsTheOrderOfTheIds()

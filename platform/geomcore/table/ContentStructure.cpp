@@ -5,6 +5,7 @@
 #include "LayerType.h"
 #include "LineView.h"
 #include "TableData.h"
+#include "TupleSearch.h"
 #include <geomcore/value/RangeText.h>
 
 #include <boost/make_shared.hpp>
@@ -18,6 +19,22 @@ struct ContentStructure::SearchSlot
     std::once_flag made;
     std::unique_ptr<const ColumnSearch> search;
 };
+
+struct ContentStructure::TupleSlot
+{
+    std::vector<int> columns;
+    size_t rowsSeen = 0;
+    std::unique_ptr<const TupleSearch> search;
+};
+
+namespace {
+
+/// So many sets of columns get an index; more are asked for by no work on one table.
+constexpr size_t MaxTupleIndexes = 8;
+/// An index of several columns is made when so many times the table was looked at without it.
+constexpr size_t TupleIndexAfter = 4;
+
+} // namespace
 
 ContentStructure::ContentStructure()
     : ContentStructure(nullptr, boost::make_shared<ModifyLayer>(), {})
@@ -197,6 +214,29 @@ const ColumnSearch &ContentStructure::search(int column) const
     std::call_once(slot.made,
                    [&] { slot.search = std::make_unique<const ColumnSearch>(*m_table, column); });
     return *slot.search;
+}
+
+const TupleSearch *ContentStructure::tuples(const std::vector<int> &columns, size_t rows) const
+{
+    const std::lock_guard lock(m_tupleLock);
+    auto found =
+        std::ranges::find(m_tuples, columns, [](const auto &slot) { return slot->columns; });
+    if (found == m_tuples.end()) {
+        if (m_tuples.size() == MaxTupleIndexes)
+            return nullptr;
+        found = m_tuples.insert(m_tuples.end(), std::make_unique<TupleSlot>());
+        (*found)->columns = columns;
+    }
+    TupleSlot &slot = **found;
+    slot.rowsSeen += rows;
+    if (!slot.search && slot.rowsSeen > TupleIndexAfter * size_t(m_table->rowCount())) {
+        std::vector<const ColumnSearch *> searches;
+        searches.reserve(columns.size());
+        for (const int column : columns)
+            searches.push_back(&search(column));
+        slot.search = std::make_unique<const TupleSearch>(std::move(searches));
+    }
+    return slot.search.get();
 }
 
 } // namespace VKTab

@@ -20,6 +20,7 @@ namespace VKTab {
 class ColumnSearch;
 class LineI;
 class TableData;
+class TupleSearch;
 
 /// The layers of a table and what follows from them: variables, look-ups, column order. Immutable,
 /// made anew when a layer or its variables change; lines hold the one they were made with.
@@ -71,9 +72,14 @@ public:
     [[nodiscard]] QString projectName() const;
     /// Index of a column of the file; made at the first call.
     [[nodiscard]] const ColumnSearch &search(int column) const;
+    /// Index of several columns together, ascending, for searches that would look at \a rows rows
+    /// without it. Null until all of them would have looked at a few times the table: then it is
+    /// made.
+    [[nodiscard]] const TupleSearch *tuples(const std::vector<int> &columns, size_t rows) const;
 
 private:
     struct SearchSlot;
+    struct TupleSlot;
 
     void collectVars();
     void collectColumnOrder();
@@ -93,6 +99,8 @@ private:
     LineText m_normNumber;
     LineText m_normDesignation;
     std::unique_ptr<SearchSlot[]> m_searches; // by column of the file
+    mutable std::mutex m_tupleLock;           // guards the next
+    mutable std::vector<std::unique_ptr<TupleSlot>> m_tuples;
 };
 
 } // namespace VKTab

@@ -5,6 +5,7 @@
 #include "ContentStructure.h"
 #include "LineView.h"
 #include "TableData.h"
+#include "TupleSearch.h"
 
 #include <algorithm>
 #include <numeric>
@@ -15,6 +16,9 @@ namespace {
 
 /// Up to so many lines an index is not worth its making.
 constexpr int MaxLinesWithoutIndex = 32;
+
+/// Up to so many rows of one column are compared one by one.
+constexpr size_t MaxRowsOfColumn = 16;
 
 } // namespace
 
@@ -98,7 +102,8 @@ std::vector<LineSearch::Wanted> LineSearch::wantedTexts(QList<FindValue> &others
             continue;
         }
         const ColumnSearch &search = m_structure->search(column);
-        Wanted entry{&search, search.match(value.getValue().toString(), m_rangeContains), 0};
+        Wanted entry{&search, column, search.match(value.getValue().toString(), m_rangeContains),
+                     0};
         for (const quint32 text : entry.texts)
             entry.rowCount += search.rows(text).size();
         wanted.push_back(std::move(entry));
@@ -108,8 +113,63 @@ std::vector<LineSearch::Wanted> LineSearch::wantedTexts(QList<FindValue> &others
     return wanted;
 }
 
+const TupleSearch *LineSearch::tuples(const std::vector<Wanted> &wanted) const
+{
+    const size_t rowCount = wanted.front().rowCount;
+    if (wanted.size() < 2 || rowCount <= MaxRowsOfColumn)
+        return nullptr;
+    size_t combinations = 1;
+    std::vector<int> columns;
+    columns.reserve(wanted.size());
+    for (const Wanted &entry : wanted) {
+        combinations *= entry.texts.size();
+        if (combinations > rowCount / 2)
+            return nullptr;
+        columns.push_back(entry.number);
+    }
+    std::ranges::sort(columns);
+    return m_structure->tuples(columns, rowCount);
+}
+
+namespace {
+
+/// Calls add with one text of each list, for all combinations.
+template<class Lists, class Add>
+void forEachCombination(const Lists &lists, Add add)
+{
+    std::vector<size_t> at(lists.size(), 0);
+    std::vector<quint32> texts(lists.size());
+    while (true) {
+        for (size_t i = 0; i < lists.size(); ++i)
+            texts[i] = (*lists[i])[at[i]];
+        add(texts);
+        size_t place = 0;
+        while (place < at.size() && ++at[place] == lists[place]->size())
+            at[place++] = 0;
+        if (place == at.size())
+            return;
+    }
+}
+
+} // namespace
+
 std::vector<int> LineSearch::indexedRows(const std::vector<Wanted> &wanted) const
 {
+    if (const TupleSearch *index = tuples(wanted)) {
+        std::vector<const Wanted *> byColumn;
+        byColumn.reserve(wanted.size());
+        for (const Wanted &entry : wanted)
+            byColumn.push_back(&entry);
+        std::ranges::sort(byColumn, {}, &Wanted::number);
+        std::vector<const std::vector<quint32> *> lists;
+        lists.reserve(wanted.size());
+        for (const Wanted *entry : byColumn)
+            lists.push_back(&entry->texts);
+        std::vector<int> found;
+        forEachCombination(lists, [&](const auto &texts) { index->addRows(texts, found); });
+        std::ranges::sort(found);
+        return found;
+    }
     const auto fits = [&](int row) {
         return std::all_of(wanted.begin() + 1, wanted.end(), [&](const Wanted &other) {
             return std::binary_search(other.texts.begin(), other.texts.end(),

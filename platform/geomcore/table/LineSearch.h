@@ -16,6 +16,7 @@ namespace VKTab {
 
 class ColumnSearch;
 class ContentStructure;
+class TupleSearch;
 
 /// One search for the lines that have all of some values. Few lines are looked at one by one; for
 /// many the columns' indexes give the rows, and lines with changed cells are looked at beside.
@@ -31,6 +32,7 @@ private:
     struct Wanted
     {
         const ColumnSearch *column;
+        int number;                 // of the column
         std::vector<quint32> texts; // ascending
         size_t rowCount;
     };
@@ -39,6 +41,7 @@ private:
     /// The matching rows of the table, ascending.
     [[nodiscard]] std::vector<int> matchingRows() const;
     [[nodiscard]] std::vector<Wanted> wantedTexts(QList<FindValue> &others) const;
+    [[nodiscard]] const TupleSearch *tuples(const std::vector<Wanted> &wanted) const;
     [[nodiscard]] std::vector<int> indexedRows(const std::vector<Wanted> &wanted) const;
     void replaceChangedLines(std::vector<int> &rows) const;
     [[nodiscard]] bool matches(const LineId &id, const QList<FindValue> &values) const;
