@@ -91,9 +91,15 @@ QString MappingConflictWidgetPrivate::targetLineText(const PrjMappingTargetC &ta
 {
     if (line.getTargetLineId() == -1 || target.getTargetPath().isEmpty())
         return QString();
-    const PPathName path = PPathName("$TORMEVA_DATA/23d-libs") + PPathName(target.getTargetPath());
-    VKTab::ContentRef table;
-    (void)VKTab::readProjectTable(path.native(), table);
+    auto found = m_targetTables.constFind(target.getTargetPath());
+    if (found == m_targetTables.cend()) {
+        const PPathName path =
+            PPathName("$TORMEVA_DATA/23d-libs") + PPathName(target.getTargetPath());
+        VKTab::ContentRef read;
+        (void)VKTab::readProjectTable(path.native(), read);
+        found = m_targetTables.insert(target.getTargetPath(), read);
+    }
+    const VKTab::ContentRef table = *found;
     const VKTab::LineId id(line.getTargetLineId());
     if (!table.getLineIdList().contains(id))
         return QString();
@@ -117,7 +123,7 @@ QString MappingConflictWidgetPrivate::changedLineText(const MappingChange &chang
         .arg(lineDesignation(content, VKTab::LineId(change.lineId)));
 }
 
-QString MappingConflictWidgetPrivate::conflictMessage(const MappingChange &change) const
+QString MappingConflictWidgetPrivate::conflictMessage(const MappingChange &change)
 {
     const int index = targetOfLine(change.lineId);
     const PrjMappingTargetC current = index == -1 ? PrjMappingTargetC() : mapping.findTarget(index);
@@ -164,6 +170,7 @@ void MappingConflictWidgetPrivate::updateConflictText(const PrjMappingC &project
                                "konnten:",
                                "VelkLinkDbGui");
     text += changeList(local, true);
+    m_targetTables.clear();
     messageLabel->setText(text);
     giveTextRoom();
 }

@@ -5,6 +5,8 @@
 #include <geomcore/records/MappingChange.h>
 #include <geomcore/table/ContentRef.h>
 
+#include <QHash>
+
 QT_BEGIN_NAMESPACE
 class QLabel;
 class QScrollArea;
@@ -26,9 +28,10 @@ public:
     void markLocalConflicts();
     void setChangeConflicted(const MappingChange &change, bool conflicted);
     [[nodiscard]] bool isChangeConflicted(const MappingChange &change) const;
-    /// Value of a target line in its target's table, read anew; empty if there is none.
-    [[nodiscard]] static QString targetLineText(const PrjMappingTargetC &target,
-                                                const PrjMappingTargetLineC &line);
+    /// Value of a target line in its target's table; empty if there is none. One text reads each
+    /// table once.
+    [[nodiscard]] QString targetLineText(const PrjMappingTargetC &target,
+                                         const PrjMappingTargetLineC &line);
     /// One line of text for a change, may be empty. For a local change in conflict it also emits
     /// targetLineConflict.
     [[nodiscard]] QString describeChange(const MappingChange &change, bool local);
@@ -57,5 +60,7 @@ private:
     [[nodiscard]] int targetOfLine(int lineId) const;
     [[nodiscard]] QString changeList(const QList<MappingChange> &changes, bool local);
     [[nodiscard]] QString changedLineText(const MappingChange &change) const;
-    [[nodiscard]] QString conflictMessage(const MappingChange &change) const;
+    [[nodiscard]] QString conflictMessage(const MappingChange &change);
+
+    QHash<QString, VKTab::ContentRef> m_targetTables; ///< by target path; while a text is made
 };

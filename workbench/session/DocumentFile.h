@@ -59,6 +59,7 @@ public:
     [[nodiscard]] SessionRecovery findRecovery(const FileContent &content) const;
 
     [[nodiscard]] const FileState &known() const { return m_known; }
+    [[nodiscard]] const ReleaseMappingC &loaded() const { return m_loaded; }
     /// The file as it is, with the release in it as it was read or saved.
     void setKnown(const FileState &state, const ReleaseMappingC &release);
 

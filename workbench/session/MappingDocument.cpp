@@ -252,6 +252,21 @@ bool MappingDocument::isModified() const
     return d->isModified();
 }
 
+MergeOutcome MappingDocument::mergeFile()
+{
+    return d->mergeFile();
+}
+
+const MergeState &MappingDocument::mergeState() const
+{
+    return d->mergeState;
+}
+
+void MappingDocument::settle(const QList<VelkRelease::MergeClash> &clashes, MergeState::Side side)
+{
+    d->settle(clashes, side);
+}
+
 SaveOutcome MappingDocument::save(const SaveOptions &options)
 {
     return d->save(options);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MergeState.h"
 #include "OwnFile.h"
 #include "RecoveryOffer.h"
 #include "SaveOutcome.h"
@@ -158,6 +159,16 @@ public:
     /// release of the same date there is replaced; other releases of the former file are not taken
     /// along.
     [[nodiscard]] SaveOutcome saveAs(const QString &mappingFile, const SaveOptions &options = {});
+
+    /// Merges what others wrote into the file since it was read with the changes made here. What
+    /// clashes stands as in the file and is marked. Afterwards saving replaces nothing unseen;
+    /// steps made before cannot be undone one by one any more, but all together. The tree is made
+    /// anew: releaseReplaced() follows.
+    [[nodiscard]] MergeOutcome mergeFile();
+    /// What the last merge left; empty before.
+    [[nodiscard]] const MergeState &mergeState() const;
+    /// Decides clashing lines for one side, in one step.
+    void settle(const QList<VelkRelease::MergeClash> &clashes, MergeState::Side side);
 
     /// 180 seconds at first; 0: never.
     void setAutosaveInterval(int seconds);

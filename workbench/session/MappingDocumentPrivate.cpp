@@ -242,6 +242,7 @@ void MappingDocumentPrivate::close(bool tell)
     m_refused = false;
     m_refusedProjects.clear();
     handler.reset();
+    mergeState = MergeState();
     counts = LineCounts();
     steps.reset();
     rootName.clear();

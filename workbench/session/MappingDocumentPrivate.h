@@ -40,6 +40,8 @@ public:
     [[nodiscard]] SaveOutcome save(const SaveOptions &options);
     [[nodiscard]] SaveOutcome saveAs(const QString &path, const SaveOptions &options);
     void autosave();
+    [[nodiscard]] MergeOutcome mergeFile();
+    void settle(const QList<VelkRelease::MergeClash> &clashes, MergeState::Side side);
     void startAutosave();
 
     QSettings *const settings;
@@ -52,6 +54,7 @@ public:
     RecoveryOffer offer;
     std::shared_ptr<CatalogMappingHandlerI> handler;
     LineCounts counts;
+    MergeState mergeState;
     bool marking = false; ///< changes are no step
     int autosaveSeconds = 180;
     QDateTime lastAutosave;

@@ -123,6 +123,54 @@
     </message>
 </context>
 <context>
+    <name>MappingDocument</name>
+    <message numerus="yes">
+        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <translation>
+            <numerusform>%n Konflikt: eigene Entscheidung</numerusform>
+            <numerusform>%n Konflikte: eigene Entscheidung</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <translation>
+            <numerusform>%n Konflikt: Entscheidung der anderen Seite</numerusform>
+            <numerusform>%n Konflikte: Entscheidung der anderen Seite</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MergeState</name>
+    <message numerus="yes">
+        <source>%n Änderung(en) übernommen.</source>
+        <translation>
+            <numerusform>%n Änderung übernommen.</numerusform>
+            <numerusform>%n Änderungen übernommen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <translation>
+            <numerusform>%n Zeile haben beide gleich entschieden.</numerusform>
+            <numerusform>%n Zeilen haben beide gleich entschieden.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <translation>
+            <numerusform>%n Zeile ist verschieden entschieden und als Konflikt markiert.</numerusform>
+            <numerusform>%n Zeilen sind verschieden entschieden und als Konflikt markiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <translation>
+            <numerusform>%n anderer Widerspruch: Der Stand der Datei gilt.</numerusform>
+            <numerusform>%n andere Widersprüche: Der Stand der Datei gilt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PatternDock</name>
     <message numerus="yes">
         <source>%n offene Zeile(n) mit Vorschlag</source>

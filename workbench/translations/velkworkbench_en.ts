@@ -331,6 +331,18 @@
         <source>Die Mapping-Datei wird gelesen</source>
         <translation>Reading the mapping file</translation>
     </message>
+    <message>
+        <source>Änderungen &amp;zusammenführen</source>
+        <translation>&amp;Merge the changes</translation>
+    </message>
+    <message>
+        <source>Die Änderungen der anderen sind übernommen. Bitte prüfen und dann noch einmal speichern.</source>
+        <translation>The changes of the others were taken over. Please check, then save once more.</translation>
+    </message>
+    <message>
+        <source>Die Änderungen der anderen konnten nicht übernommen werden.</source>
+        <translation>The changes of the others could not be taken over.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -889,6 +901,28 @@ Please choose another file.</translation>
         <source>Die Sperre von %1 ist verloren und kann nicht erneuert werden. Andere könnten die Datei gleichzeitig bearbeiten.</source>
         <translation>The lock of %1 is lost and cannot be renewed. Others might edit the file at the same time.</translation>
     </message>
+    <message>
+        <source>Es ist keine Datei zum Bearbeiten geöffnet.</source>
+        <translation>No file is open for editing.</translation>
+    </message>
+    <message>
+        <source>Eigene Änderungen auf dem Stand der Datei</source>
+        <translation>Own changes on top of the file</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <translation>
+            <numerusform>%n conflict: own decision</numerusform>
+            <numerusform>%n conflicts: own decision</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <translation>
+            <numerusform>%n conflict: the other side&apos;s decision</numerusform>
+            <numerusform>%n conflicts: the other side&apos;s decision</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MappingMaker</name>
@@ -915,6 +949,37 @@ Please choose another file.</translation>
     <message>
         <source>Zielprojekte werden gesucht</source>
         <translation>Looking for target projects</translation>
+    </message>
+</context>
+<context>
+    <name>MergeState</name>
+    <message numerus="yes">
+        <source>%n Änderung(en) übernommen.</source>
+        <translation>
+            <numerusform>%n change was taken over.</numerusform>
+            <numerusform>%n changes were taken over.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <translation>
+            <numerusform>%n line was decided alike by both.</numerusform>
+            <numerusform>%n lines were decided alike by both.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <translation>
+            <numerusform>%n line was decided differently and is marked as a conflict.</numerusform>
+            <numerusform>%n lines were decided differently and are marked as conflicts.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <translation>
+            <numerusform>%n other contradiction: the file counts.</numerusform>
+            <numerusform>%n other contradictions: the file counts.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -307,12 +307,32 @@ bool DocumentDesk::askOver(const SaveOutcome &outcome, SaveOptions options, cons
     question.setWarning();
     question.setText(outcome.text);
     question.addAnswer(Question::Cancel, Question::cancelText());
+    const bool mayMerge = outcome.result == SaveResult::ForeignChange && file.isEmpty();
+    if (mayMerge)
+        question.addAnswer(Question::Refuse, tr("Änderungen &zusammenführen"));
     question.addAnswer(Question::Accept, outcome.result == SaveResult::Unreadable
                                              ? tr("Kopie behalten und &neu schreiben")
                                              : tr("&Eigenen Stand schreiben"));
-    if (question.ask() != Question::Accept)
+    const Question::Answer answer = question.ask();
+    if (answer == Question::Refuse && mayMerge)
+        merge();
+    if (answer != Question::Accept)
         return false;
     (outcome.result == SaveResult::Unreadable ? options.overUnreadable
                                               : options.overForeignChange) = true;
     return finish(write(file, options), options, file);
+}
+
+void DocumentDesk::merge()
+{
+    DefaultObserverDelegate display;
+    display.activate(PProgressObserverBase::Thread);
+    const MergeOutcome outcome = m_document->mergeFile();
+    display.deactivate();
+    Question::tell(m_window,
+                   outcome.merged
+                       ? tr("Die Änderungen der anderen sind übernommen. Bitte prüfen und dann "
+                            "noch einmal speichern.")
+                       : tr("Die Änderungen der anderen konnten nicht übernommen werden."),
+                   outcome.text);
 }

@@ -80,6 +80,8 @@ private:
                                const QString &file);
     [[nodiscard]] SaveOutcome write(const QString &file, const SaveOptions &options);
     [[nodiscard]] bool mayClose();
+    /// Takes over what others wrote into the file, and tells what came and what clashes.
+    void merge();
     /// Lines in conflict are listed, and the user says whether to save all the same.
     [[nodiscard]] bool maySave() const;
     void setUp();

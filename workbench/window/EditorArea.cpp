@@ -74,6 +74,10 @@ void EditorArea::make()
         new TargetProjectOpener([this](const QString &path) { Q_EMIT targetProjectWanted(path); });
     m_editor = new CatalogMappingWidget(m_sourceRoot, m_document->createHandler(), opener, nullptr);
     m_editor->setObjectName("CatalogMappingWidget");
+    // before anything is selected, and the local ones first: marking runs once for each widget
+    m_editor->setConflictedLocalChanges(
+        m_document->mergeState().localChanges(m_document->release()));
+    m_editor->setConflictedOnlineChanges(m_document->mergeState().onlineChanges());
     m_editor->setRemoteViewerMode(m_remoteTargets);
     m_layout->addWidget(m_editor);
     m_editor->restoreState(m_state);
