@@ -154,6 +154,7 @@ private Q_SLOTS:
 
     void conflictMessages();
     void conflictMessageAtEachLoad();
+    void eachTableIsReadOnceForAText();
     void onlineChangesTellNoConflict();
     void plannedExpiry();
     void plannedTextAndIdFromDifferentLines();
@@ -535,6 +536,22 @@ void tst_MappingConflictWidget::conflictMessageAtEachLoad()
     QCOMPARE(conflicts.told.at(1).at(1).toInt(), 1);
     conflicts.load();
     QCOMPARE(conflicts.told.count(), 4);
+}
+
+void tst_MappingConflictWidget::eachTableIsReadOnceForAText()
+{
+    Conflicts conflicts;
+    MappingChange second = plannedChange();
+    second.lineId = 2;
+    // The first message takes the project away that the second one tells about.
+    connect(&conflicts.widget, &MappingConflictWidget::targetLineConflict, &conflicts.widget,
+            [&] { QFile::remove(conflicts.catalog.file("new/a.prj")); });
+    conflicts.loadMarked({plannedChange(), second}, {changeOf(0, 1)});
+    QCOMPARE(conflicts.told.count(), 2);
+    QVERIFY(!QFile::exists(conflicts.catalog.file("new/a.prj")));
+    QVERIFY(conflicts.told.at(1).first().toString().contains("N T2 des Projektes new/a.prj"));
+    conflicts.load(); // and the next text reads anew
+    QVERIFY(!conflicts.told.at(2).first().toString().contains("N T2"));
 }
 
 void tst_MappingConflictWidget::onlineChangesTellNoConflict()

@@ -117,7 +117,7 @@ void tst_MappingMerge::takesWhatIsNew()
     const QSignalSpy replaced(m_document.get(), &MappingDocument::releaseReplaced);
     const MergeOutcome outcome = m_document->mergeFile();
     QVERIFY(outcome.merged);
-    QCOMPARE(outcome.text, "2 Änderung(en) übernommen.");
+    QCOMPARE(outcome.text, "2 Änderungen übernommen.");
     QCOMPARE(replaced.count(), 1);
     QCOMPARE(line(Path, 1), "7/2");
     QCOMPARE(line(Path, 2), "8/2");
@@ -136,8 +136,8 @@ void tst_MappingMerge::clashes()
     othersDecide(Path, 1, 8);
     othersDecide(Path, 4, 4);
     const MergeOutcome outcome = m_document->mergeFile();
-    QCOMPARE(outcome.text, "2 Änderung(en) übernommen. 1 Zeile(n) haben beide gleich entschieden. "
-                           "1 Zeile(n) sind verschieden entschieden und als Konflikt markiert.");
+    QCOMPARE(outcome.text, "2 Änderungen übernommen. 1 Zeile haben beide gleich entschieden. "
+                           "1 Zeile ist verschieden entschieden und als Konflikt markiert.");
     QCOMPARE(line(Path, 1), "8/2!");
     QCOMPARE(line(Path, 4), "4/2");
     QCOMPARE(m_document->conflictedProjects().size(), 1);
@@ -168,7 +168,7 @@ void tst_MappingMerge::settles()
     QCOMPARE(line(Path, 2), "7/2");
     QCOMPARE(line(Path, 3), "8/2!");
     QCOMPARE(m_document->undoTexts().size(), steps + 1);
-    QCOMPARE(m_document->undoText(), "2 Konflikt(e): eigene Entscheidung");
+    QCOMPARE(m_document->undoText(), "2 Konflikte: eigene Entscheidung");
     m_document->settle(open(), MergeState::Side::Theirs);
     QCOMPARE(line(Path, 3), "8/2");
     QVERIFY(open().isEmpty());
