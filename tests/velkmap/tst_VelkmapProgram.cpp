@@ -19,8 +19,6 @@ class tst_VelkmapProgram : public QObject
 private Q_SLOTS:
     void init();
     void linksNoWindowLibrary();
-    void commandsOfTheDocuments_data();
-    void commandsOfTheDocuments();
     void exitStatusesOfTheManual();
     void unwritableOutput_data();
     void unwritableOutput();
@@ -86,44 +84,6 @@ void tst_VelkmapProgram::linksNoWindowLibrary()
     for (const char *name :
          {"libVelkGui", "libVelkGeomCoreGui", "libVelkLinkDbGui", "libQt6Widgets", "libQt6UiTools"})
         QVERIFY2(!libraries.out.contains(name), name);
-}
-
-void tst_VelkmapProgram::commandsOfTheDocuments_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("least");
-    QTest::newRow("README") << "README.md" << 6;
-    QTest::newRow("manual") << "docs/manual.md" << 3;
-}
-
-void tst_VelkmapProgram::commandsOfTheDocuments()
-{
-    QFETCH(QString, name);
-    QFETCH(int, least);
-    // What the documents search for.
-    TestCatalog(path("tables/2026")).writeFile("m/iso4014.csv", "key,a,b\nM8,1,2\nM10,3,4\n");
-    QCOMPARE(velkmap({"import", "--from", "tables/2025", "--into", "old/bolts"}).status, 0);
-    int count = 0;
-    for (const QString &row : document(name).split('\n')) {
-        if (!row.startsWith("    velkmap "))
-            continue;
-        ++count;
-        const Result result = velkmap(row.split(' ', Qt::SkipEmptyParts).mid(1));
-        QVERIFY2(result.status == 0, qPrintable(row + '\n' + result.out + result.err));
-        QCOMPARE(result.err, QString());
-        QVERIFY2(!result.out.contains("has no CSV file any more"), qPrintable(result.out));
-    }
-    QVERIFY(count >= least);
-    MappingFile file;
-    QVERIFY(file.read(path("bolts.json")));
-    const ReleaseMappingC release = file.releases().value(0);
-    QCOMPARE(release.countMappings(), 2);
-    QCOMPARE(release.mappingAt(0).lineCounts().lines() + release.mappingAt(1).lineCounts().lines(),
-             3);
-    QStringList expected{"bolts.json", "new", "old", "tables"};
-    if (QFile::exists(path("bolts.csv")))
-        expected.prepend("bolts.csv");
-    QCOMPARE(QDir(m_dir->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), expected);
 }
 
 void tst_VelkmapProgram::exitStatusesOfTheManual()
