@@ -28,8 +28,8 @@
         <translation>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</translation>
     </message>
     <message>
-        <source>Abgebrochen</source>
-        <translation>Abgebrochen</translation>
+        <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
+        <translation>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -62,10 +62,6 @@
     <message>
         <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
         <translation>Das Repository %1 verlangt eine Anmeldung: %2</translation>
-    </message>
-    <message>
-        <source>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</source>
-        <translation>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -172,10 +168,6 @@
         <translation>Die Anzahl der Zeichen des Textes.</translation>
     </message>
     <message>
-        <source>Die Datenbank nennt keinen Grund</source>
-        <translation>Die Datenbank nennt keinen Grund</translation>
-    </message>
-    <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
         <translation>Die Funktion %1 ist nicht bekannt</translation>
     </message>
@@ -184,12 +176,12 @@
         <translation>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</translation>
     </message>
     <message>
-        <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
-        <translation>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</translation>
+        <source>Die Linkdatenbank %1 gibt es nicht</source>
+        <translation>Die Linkdatenbank %1 gibt es nicht</translation>
     </message>
     <message>
-        <source>Die Linkdatenbank %1 ist keine Datei</source>
-        <translation>Die Linkdatenbank %1 ist keine Datei</translation>
+        <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
+        <translation>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</source>
@@ -244,10 +236,6 @@
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</source>
         <translation>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</translation>
-    </message>
-    <message>
-        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</source>
-        <translation>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -308,10 +296,6 @@
         <translation>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</translation>
     </message>
     <message>
-        <source>Die Änderungen waren schon festgeschrieben</source>
-        <translation>Die Änderungen waren schon festgeschrieben</translation>
-    </message>
-    <message>
         <source>ERP-Nummer</source>
         <translation>ERP-Nummer</translation>
     </message>
@@ -352,10 +336,6 @@
         <translation>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</translation>
     </message>
     <message>
-        <source>Es ist keine Linkdatenbank eingestellt</source>
-        <translation>Es ist keine Linkdatenbank eingestellt</translation>
-    </message>
-    <message>
         <source>Es ist keine Linkdatenbank verbunden.</source>
         <translation>Es ist keine Linkdatenbank verbunden.</translation>
     </message>
@@ -380,6 +360,10 @@
         <translation>Hier wird ein Wert erwartet, kein Vergleich</translation>
     </message>
     <message>
+        <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
+        <translation>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</translation>
+    </message>
+    <message>
         <source>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</source>
         <translation>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</translation>
     </message>
@@ -390,6 +374,10 @@
     <message>
         <source>Keine Zeile der Ziele passt zu dieser.</source>
         <translation>Keine Zeile der Ziele passt zu dieser.</translation>
+    </message>
+    <message>
+        <source>Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).</source>
+        <translation>Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).</translation>
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>

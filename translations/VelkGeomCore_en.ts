@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</source>
-        <translation type="unfinished"></translation>
+        <translation>"%1" is no address of a link database. Possible are sqlite:FILE and postgresql://USER@HOST:PORT/DATABASE.</translation>
     </message>
     <message>
         <source>%1 gibt es in Revision %2 nicht</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 is the database of another program</translation>
     </message>
     <message>
         <source>%1 weitere</source>
@@ -28,8 +28,8 @@
         <translation>%1. Revision %2 is read as far as it is on this machine.</translation>
     </message>
     <message>
-        <source>Abgebrochen</source>
-        <translation type="unfinished"></translation>
+        <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
+        <translation>%1. Whether the changes were committed is not certain: look before you repeat them.</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -62,10 +62,6 @@
     <message>
         <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
         <translation>The repository %1 asks for a login: %2</translation>
-    </message>
-    <message>
-        <source>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -133,7 +129,7 @@
     </message>
     <message>
         <source>Der Treiber %1 für die Linkdatenbank fehlt</source>
-        <translation type="unfinished"></translation>
+        <translation>The driver %1 for the link database is missing</translation>
     </message>
     <message>
         <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
@@ -165,15 +161,11 @@
     </message>
     <message>
         <source>Die Anweisung enthält ein Nullzeichen</source>
-        <translation type="unfinished"></translation>
+        <translation>The statement contains a null character</translation>
     </message>
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
-    </message>
-    <message>
-        <source>Die Datenbank nennt keinen Grund</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -181,23 +173,23 @@
     </message>
     <message>
         <source>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no group "%1" in the link database, or %2 does not belong to it</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 gibt es nicht</source>
+        <translation>There is no link database %1</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Linkdatenbank %1 ist keine Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>The link database %1 has form %2, this program knows form %3 only; a newer version is needed</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The link database %1 cannot be opened: %2</translation>
     </message>
     <message>
         <source>Die Linkdatenbank arbeitet</source>
-        <translation type="unfinished"></translation>
+        <translation>The link database is working</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
@@ -217,7 +209,7 @@
     </message>
     <message>
         <source>Die Tabelle %1 gibt es in der Linkdatenbank nicht</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no table %1 in the link database</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
@@ -227,7 +219,7 @@
     </message>
     <message>
         <source>Die Tabellen der Linkdatenbank %1 können nicht angelegt oder auf den neuesten Stand gebracht werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The tables of the link database %1 cannot be made or brought up to date: %2</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
@@ -239,15 +231,11 @@
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 besteht wieder</source>
-        <translation type="unfinished"></translation>
+        <translation>The connection to the link database %1 is there again</translation>
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</source>
-        <translation type="unfinished"></translation>
+        <translation>The connection to the link database %1 was lost: %2</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -279,7 +267,7 @@
     </message>
     <message>
         <source>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>The deleted row %1 is no longer in the journal of the link database; it has probably been restored</translation>
     </message>
     <message>
         <source>Die größte der Zahlen.</source>
@@ -305,11 +293,7 @@
     </message>
     <message>
         <source>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Änderungen waren schon festgeschrieben</source>
-        <translation type="unfinished"></translation>
+        <translation>The changes were lost with the connection to the link database; they have to be repeated</translation>
     </message>
     <message>
         <source>ERP-Nummer</source>
@@ -349,11 +333,7 @@
     </message>
     <message>
         <source>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Es ist keine Linkdatenbank eingestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no connection to a link database. It is chosen in the settings.</translation>
     </message>
     <message>
         <source>Es ist keine Linkdatenbank verbunden.</source>
@@ -365,7 +345,7 @@
     </message>
     <message>
         <source>Fehler der Linkdatenbank: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error of the link database: %1</translation>
     </message>
     <message>
         <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
@@ -380,8 +360,12 @@
         <translation>A value is expected here, not a comparison</translation>
     </message>
     <message>
+        <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
+        <translation>In %1 there is no link database, or one of an older form. It is made or renewed at the first writing.</translation>
+    </message>
+    <message>
         <source>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</source>
-        <translation type="unfinished"></translation>
+        <translation>The address of the link database holds a password. That belongs in the password file or in PGPASSWORD.</translation>
     </message>
     <message>
         <source>Keine Antwort von %1 in %2 s</source>
@@ -390,6 +374,10 @@
     <message>
         <source>Keine Zeile der Ziele passt zu dieser.</source>
         <translation>No line of the targets fits this one.</translation>
+    </message>
+    <message>
+        <source>Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).</source>
+        <translation>Changes that were not committed are lost (statements: %1).</translation>
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
@@ -527,7 +515,7 @@
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no sslmode "%1"; possible are: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</source>
-        <translation type="unfinished"></translation>
+        <translation>"%1" nem egy hivatkozási adatbázis címe. Lehetséges: sqlite:FÁJL és postgresql://FELHASZNÁLÓ@GÉP:PORT/ADATBÁZIS.</translation>
     </message>
     <message>
         <source>%1 gibt es in Revision %2 nicht</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 egy másik program adatbázisa</translation>
     </message>
     <message>
         <source>%1 weitere</source>
@@ -28,8 +28,8 @@
         <translation>%1. A(z) %2. revíziót olvassuk, amennyiben ezen a gépen megvan.</translation>
     </message>
     <message>
-        <source>Abgebrochen</source>
-        <translation type="unfinished"></translation>
+        <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
+        <translation>%1. Bizonytalan, hogy a módosítások véglegesítve vannak-e: ismétlés előtt ellenőrizze.</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -62,10 +62,6 @@
     <message>
         <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
         <translation>A(z) %1 tároló bejelentkezést kér: %2</translation>
-    </message>
-    <message>
-        <source>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -133,7 +129,7 @@
     </message>
     <message>
         <source>Der Treiber %1 für die Linkdatenbank fehlt</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiányzik a(z) %1 illesztőprogram a hivatkozási adatbázishoz</translation>
     </message>
     <message>
         <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
@@ -165,15 +161,11 @@
     </message>
     <message>
         <source>Die Anweisung enthält ein Nullzeichen</source>
-        <translation type="unfinished"></translation>
+        <translation>Az utasítás nulla karaktert tartalmaz</translation>
     </message>
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
-    </message>
-    <message>
-        <source>Die Datenbank nennt keinen Grund</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -181,23 +173,23 @@
     </message>
     <message>
         <source>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) "%1" csoport nincs a hivatkozási adatbázisban, vagy %2 nem tartozik hozzá</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 gibt es nicht</source>
+        <translation>A(z) %1 hivatkozási adatbázis nem létezik</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Linkdatenbank %1 ist keine Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 hivatkozási adatbázis formája %2, ez a program csak a(z) %3 formát ismeri; újabb változat kell</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 hivatkozási adatbázis nem nyitható meg: %2</translation>
     </message>
     <message>
         <source>Die Linkdatenbank arbeitet</source>
-        <translation type="unfinished"></translation>
+        <translation>A hivatkozási adatbázis dolgozik</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
@@ -217,7 +209,7 @@
     </message>
     <message>
         <source>Die Tabelle %1 gibt es in der Linkdatenbank nicht</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 tábla nincs a hivatkozási adatbázisban</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
@@ -227,7 +219,7 @@
     </message>
     <message>
         <source>Die Tabellen der Linkdatenbank %1 können nicht angelegt oder auf den neuesten Stand gebracht werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 hivatkozási adatbázis táblái nem hozhatók létre vagy nem frissíthetők: %2</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
@@ -239,15 +231,11 @@
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 besteht wieder</source>
-        <translation type="unfinished"></translation>
+        <translation>A kapcsolat a(z) %1 hivatkozási adatbázissal helyreállt</translation>
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</source>
-        <translation type="unfinished"></translation>
+        <translation>A kapcsolat a(z) %1 hivatkozási adatbázissal megszakadt: %2</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -279,7 +267,7 @@
     </message>
     <message>
         <source>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>A törölt %1. sor már nincs a hivatkozási adatbázis naplójában; valószínűleg már helyreállították</translation>
     </message>
     <message>
         <source>Die größte der Zahlen.</source>
@@ -305,11 +293,7 @@
     </message>
     <message>
         <source>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Änderungen waren schon festgeschrieben</source>
-        <translation type="unfinished"></translation>
+        <translation>A módosítások a hivatkozási adatbázis kapcsolatával együtt elvesztek; meg kell ismételni őket</translation>
     </message>
     <message>
         <source>ERP-Nummer</source>
@@ -349,11 +333,7 @@
     </message>
     <message>
         <source>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Es ist keine Linkdatenbank eingestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs kapcsolat hivatkozási adatbázissal. A beállításokban választható ki.</translation>
     </message>
     <message>
         <source>Es ist keine Linkdatenbank verbunden.</source>
@@ -365,7 +345,7 @@
     </message>
     <message>
         <source>Fehler der Linkdatenbank: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A hivatkozási adatbázis hibája: %1</translation>
     </message>
     <message>
         <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
@@ -380,8 +360,12 @@
         <translation>Itt érték várt, nem összehasonlítás</translation>
     </message>
     <message>
+        <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
+        <translation>%1 helyen nincs hivatkozási adatbázis, vagy régebbi formájú. Az első íráskor jön létre vagy újul meg.</translation>
+    </message>
+    <message>
         <source>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</source>
-        <translation type="unfinished"></translation>
+        <translation>A hivatkozási adatbázis címében jelszó van. Annak a jelszófájlban vagy a PGPASSWORD változóban a helye.</translation>
     </message>
     <message>
         <source>Keine Antwort von %1 in %2 s</source>
@@ -390,6 +374,10 @@
     <message>
         <source>Keine Zeile der Ziele passt zu dieser.</source>
         <translation>A célok egyetlen sora sem illik ehhez.</translation>
+    </message>
+    <message>
+        <source>Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).</source>
+        <translation>A nem véglegesített módosítások elvesztek (utasítások: %1).</translation>
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
@@ -527,7 +515,7 @@
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs "%1" sslmode; lehetséges: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</source>
-        <translation type="unfinished"></translation>
+        <translation>"%1"은(는) 링크 데이터베이스의 주소가 아닙니다. sqlite:파일 또는 postgresql://사용자@호스트:포트/데이터베이스를 쓸 수 있습니다.</translation>
     </message>
     <message>
         <source>%1 gibt es in Revision %2 nicht</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 다른 프로그램의 데이터베이스입니다</translation>
     </message>
     <message>
         <source>%1 weitere</source>
@@ -28,8 +28,8 @@
         <translation>%1. 이 컴퓨터에 있는 범위에서 리비전 %2을(를) 읽습니다.</translation>
     </message>
     <message>
-        <source>Abgebrochen</source>
-        <translation type="unfinished"></translation>
+        <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
+        <translation>%1. 변경이 확정되었는지 확실하지 않습니다. 반복하기 전에 확인하십시오.</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -62,10 +62,6 @@
     <message>
         <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
         <translation>저장소 %1에 로그인이 필요합니다: %2</translation>
-    </message>
-    <message>
-        <source>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -133,7 +129,7 @@
     </message>
     <message>
         <source>Der Treiber %1 für die Linkdatenbank fehlt</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스 드라이버 %1이(가) 없습니다</translation>
     </message>
     <message>
         <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
@@ -165,15 +161,11 @@
     </message>
     <message>
         <source>Die Anweisung enthält ein Nullzeichen</source>
-        <translation type="unfinished"></translation>
+        <translation>명령문에 널 문자가 있습니다</translation>
     </message>
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
-    </message>
-    <message>
-        <source>Die Datenbank nennt keinen Grund</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -181,23 +173,23 @@
     </message>
     <message>
         <source>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</source>
-        <translation type="unfinished"></translation>
+        <translation>그룹 "%1"이(가) 링크 데이터베이스에 없거나 %2이(가) 속하지 않습니다</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 gibt es nicht</source>
+        <translation>링크 데이터베이스 %1이(가) 없습니다</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Linkdatenbank %1 ist keine Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스 %1의 형식은 %2이며 이 프로그램은 형식 %3만 압니다. 더 새 버전이 필요합니다</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스 %1을(를) 열 수 없습니다: %2</translation>
     </message>
     <message>
         <source>Die Linkdatenbank arbeitet</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스가 작업 중입니다</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
@@ -217,7 +209,7 @@
     </message>
     <message>
         <source>Die Tabelle %1 gibt es in der Linkdatenbank nicht</source>
-        <translation type="unfinished"></translation>
+        <translation>테이블 %1이(가) 링크 데이터베이스에 없습니다</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
@@ -227,7 +219,7 @@
     </message>
     <message>
         <source>Die Tabellen der Linkdatenbank %1 können nicht angelegt oder auf den neuesten Stand gebracht werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스 %1의 테이블을 만들거나 갱신할 수 없습니다: %2</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
@@ -239,15 +231,11 @@
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 besteht wieder</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스 %1에 다시 연결되었습니다</translation>
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스 %1과(와)의 연결이 끊어졌습니다: %2</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -279,7 +267,7 @@
     </message>
     <message>
         <source>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제된 행 %1이(가) 링크 데이터베이스 기록에 더 이상 없습니다. 이미 복원된 것 같습니다</translation>
     </message>
     <message>
         <source>Die größte der Zahlen.</source>
@@ -305,11 +293,7 @@
     </message>
     <message>
         <source>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Änderungen waren schon festgeschrieben</source>
-        <translation type="unfinished"></translation>
+        <translation>변경이 링크 데이터베이스 연결과 함께 사라졌습니다. 다시 해야 합니다</translation>
     </message>
     <message>
         <source>ERP-Nummer</source>
@@ -349,11 +333,7 @@
     </message>
     <message>
         <source>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Es ist keine Linkdatenbank eingestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스에 연결되어 있지 않습니다. 설정에서 선택합니다.</translation>
     </message>
     <message>
         <source>Es ist keine Linkdatenbank verbunden.</source>
@@ -365,7 +345,7 @@
     </message>
     <message>
         <source>Fehler der Linkdatenbank: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스 오류: %1</translation>
     </message>
     <message>
         <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
@@ -380,8 +360,12 @@
         <translation>여기에는 비교가 아니라 값이 필요합니다</translation>
     </message>
     <message>
+        <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
+        <translation>%1에 링크 데이터베이스가 없거나 이전 형식입니다. 처음 쓸 때 만들어지거나 갱신됩니다.</translation>
+    </message>
+    <message>
         <source>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 데이터베이스 주소에 암호가 있습니다. 암호 파일이나 PGPASSWORD에 두어야 합니다.</translation>
     </message>
     <message>
         <source>Keine Antwort von %1 in %2 s</source>
@@ -390,6 +374,10 @@
     <message>
         <source>Keine Zeile der Ziele passt zu dieser.</source>
         <translation>이 행에 맞는 대상 행이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).</source>
+        <translation>확정되지 않은 변경은 사라졌습니다(명령문: %1).</translation>
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
@@ -527,7 +515,7 @@
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>sslmode "%1"은(는) 없습니다. 가능한 값: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</source>
-        <translation type="unfinished"></translation>
+        <translation>"%1" ni naslov zbirke povezav. Možna sta sqlite:DATOTEKA in postgresql://UPORABNIK@GOSTITELJ:VRATA/ZBIRKA.</translation>
     </message>
     <message>
         <source>%1 gibt es in Revision %2 nicht</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je zbirka drugega programa</translation>
     </message>
     <message>
         <source>%1 weitere</source>
@@ -28,8 +28,8 @@
         <translation>%1. Bere se revizija %2, kolikor je na tem računalniku.</translation>
     </message>
     <message>
-        <source>Abgebrochen</source>
-        <translation type="unfinished"></translation>
+        <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
+        <translation>%1. Ni gotovo, ali so spremembe potrjene: pred ponovitvijo preverite.</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -62,10 +62,6 @@
     <message>
         <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
         <translation>Repozitorij %1 zahteva prijavo: %2</translation>
-    </message>
-    <message>
-        <source>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -133,7 +129,7 @@
     </message>
     <message>
         <source>Der Treiber %1 für die Linkdatenbank fehlt</source>
-        <translation type="unfinished"></translation>
+        <translation>Manjka gonilnik %1 za zbirko povezav</translation>
     </message>
     <message>
         <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
@@ -165,15 +161,11 @@
     </message>
     <message>
         <source>Die Anweisung enthält ein Nullzeichen</source>
-        <translation type="unfinished"></translation>
+        <translation>Stavek vsebuje ničelni znak</translation>
     </message>
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
-    </message>
-    <message>
-        <source>Die Datenbank nennt keinen Grund</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -181,23 +173,23 @@
     </message>
     <message>
         <source>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</source>
-        <translation type="unfinished"></translation>
+        <translation>Skupine "%1" ni v zbirki povezav ali pa ji %2 ne pripada</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 gibt es nicht</source>
+        <translation>Zbirke povezav %1 ni</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Linkdatenbank %1 ist keine Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>Zbirka povezav %1 ima obliko %2, ta program pozna le obliko %3; potrebna je novejša različica</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zbirke povezav %1 ni mogoče odpreti: %2</translation>
     </message>
     <message>
         <source>Die Linkdatenbank arbeitet</source>
-        <translation type="unfinished"></translation>
+        <translation>Zbirka povezav dela</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
@@ -217,7 +209,7 @@
     </message>
     <message>
         <source>Die Tabelle %1 gibt es in der Linkdatenbank nicht</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabele %1 ni v zbirki povezav</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
@@ -227,7 +219,7 @@
     </message>
     <message>
         <source>Die Tabellen der Linkdatenbank %1 können nicht angelegt oder auf den neuesten Stand gebracht werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabel zbirke povezav %1 ni mogoče ustvariti ali posodobiti: %2</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
@@ -239,15 +231,11 @@
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 besteht wieder</source>
-        <translation type="unfinished"></translation>
+        <translation>Povezava z zbirko povezav %1 je znova vzpostavljena</translation>
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</source>
-        <translation type="unfinished"></translation>
+        <translation>Povezava z zbirko povezav %1 je prekinjena: %2</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -279,7 +267,7 @@
     </message>
     <message>
         <source>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>Izbrisane vrstice %1 ni več v dnevniku zbirke povezav; verjetno je že obnovljena</translation>
     </message>
     <message>
         <source>Die größte der Zahlen.</source>
@@ -305,11 +293,7 @@
     </message>
     <message>
         <source>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Änderungen waren schon festgeschrieben</source>
-        <translation type="unfinished"></translation>
+        <translation>Spremembe so se izgubile s povezavo z zbirko povezav; treba jih je ponoviti</translation>
     </message>
     <message>
         <source>ERP-Nummer</source>
@@ -349,11 +333,7 @@
     </message>
     <message>
         <source>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Es ist keine Linkdatenbank eingestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>Ni povezave z zbirko povezav. Izbere se v nastavitvah.</translation>
     </message>
     <message>
         <source>Es ist keine Linkdatenbank verbunden.</source>
@@ -365,7 +345,7 @@
     </message>
     <message>
         <source>Fehler der Linkdatenbank: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Napaka zbirke povezav: %1</translation>
     </message>
     <message>
         <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
@@ -380,8 +360,12 @@
         <translation>Tu je pričakovana vrednost, ne primerjava</translation>
     </message>
     <message>
+        <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
+        <translation>V %1 ni zbirke povezav ali pa je starejše oblike. Ob prvem pisanju se ustvari ali obnovi.</translation>
+    </message>
+    <message>
         <source>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</source>
-        <translation type="unfinished"></translation>
+        <translation>V naslovu zbirke povezav je geslo. Sodi v datoteko gesel ali v PGPASSWORD.</translation>
     </message>
     <message>
         <source>Keine Antwort von %1 in %2 s</source>
@@ -390,6 +374,10 @@
     <message>
         <source>Keine Zeile der Ziele passt zu dieser.</source>
         <translation>Nobena vrstica ciljev ne ustreza tej.</translation>
+    </message>
+    <message>
+        <source>Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).</source>
+        <translation>Nepotrjene spremembe so izgubljene (stavkov: %1).</translation>
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
@@ -527,7 +515,7 @@
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>sslmode "%1" ne obstaja; možni so: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>

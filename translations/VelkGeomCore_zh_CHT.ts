@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</source>
-        <translation type="unfinished"></translation>
+        <translation>"%1" 不是連結資料庫的位址。可以使用 sqlite:檔案 和 postgresql://使用者@主機:連接埠/資料庫。</translation>
     </message>
     <message>
         <source>%1 gibt es in Revision %2 nicht</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 是其他程式的資料庫</translation>
     </message>
     <message>
         <source>%1 weitere</source>
@@ -28,8 +28,8 @@
         <translation>%1。將讀取本機上已有的修訂版 %2。</translation>
     </message>
     <message>
-        <source>Abgebrochen</source>
-        <translation type="unfinished"></translation>
+        <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
+        <translation>%1。不確定變更是否已提交：重複之前請先查看。</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -62,10 +62,6 @@
     <message>
         <source>Das Repository %1 verlangt eine Anmeldung: %2</source>
         <translation>版本庫 %1 要求登入：%2</translation>
-    </message>
-    <message>
-        <source>Das Verzeichnis der Linkdatenbank %1 kann nicht angelegt werden</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
@@ -133,7 +129,7 @@
     </message>
     <message>
         <source>Der Treiber %1 für die Linkdatenbank fehlt</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少連結資料庫的驅動程式 %1</translation>
     </message>
     <message>
         <source>Der Wert als Text, eine Zahl mit so vielen Nachkommastellen; ohne Stellen so, wie sie ist.</source>
@@ -165,15 +161,11 @@
     </message>
     <message>
         <source>Die Anweisung enthält ein Nullzeichen</source>
-        <translation type="unfinished"></translation>
+        <translation>敘述包含空字元</translation>
     </message>
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
-    </message>
-    <message>
-        <source>Die Datenbank nennt keinen Grund</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -181,23 +173,23 @@
     </message>
     <message>
         <source>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</source>
-        <translation type="unfinished"></translation>
+        <translation>連結資料庫中沒有群組"%1"，或者 %2 不屬於該群組</translation>
+    </message>
+    <message>
+        <source>Die Linkdatenbank %1 gibt es nicht</source>
+        <translation>沒有連結資料庫 %1</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 hat die Form %2, dieses Programm kennt nur die Form %3; es braucht eine neuere Fassung</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Linkdatenbank %1 ist keine Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>連結資料庫 %1 的格式為 %2，本程式只支援格式 %3；需要更新的版本</translation>
     </message>
     <message>
         <source>Die Linkdatenbank %1 kann nicht geöffnet werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>無法開啟連結資料庫 %1：%2</translation>
     </message>
     <message>
         <source>Die Linkdatenbank arbeitet</source>
-        <translation type="unfinished"></translation>
+        <translation>連結資料庫正在工作</translation>
     </message>
     <message>
         <source>Die Normbezeichnungen sind verschieden.
@@ -217,7 +209,7 @@
     </message>
     <message>
         <source>Die Tabelle %1 gibt es in der Linkdatenbank nicht</source>
-        <translation type="unfinished"></translation>
+        <translation>連結資料庫中沒有資料表 %1</translation>
     </message>
     <message>
         <source>Die Tabelle des Zielprojekts konnte nicht gelesen werden.
@@ -227,7 +219,7 @@
     </message>
     <message>
         <source>Die Tabellen der Linkdatenbank %1 können nicht angelegt oder auf den neuesten Stand gebracht werden: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>無法建立或更新連結資料庫 %1 的資料表：%2</translation>
     </message>
     <message>
         <source>Die Variable %1 existiert nicht in der Zieltabelle</source>
@@ -239,15 +231,11 @@
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 besteht wieder</source>
-        <translation type="unfinished"></translation>
+        <translation>與連結資料庫 %1 的連線已恢復</translation>
     </message>
     <message>
         <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. Änderungen, die noch nicht festgeschrieben waren, sind verloren (Anweisungen: %3).</source>
-        <translation type="unfinished"></translation>
+        <translation>與連結資料庫 %1 的連線已中斷：%2</translation>
     </message>
     <message>
         <source>Die Werte der Variable %1 sind verschieden.
@@ -279,7 +267,7 @@
     </message>
     <message>
         <source>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>已刪除的列 %1 不再位於連結資料庫的記錄中；可能已還原</translation>
     </message>
     <message>
         <source>Die größte der Zahlen.</source>
@@ -305,11 +293,7 @@
     </message>
     <message>
         <source>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Die Änderungen waren schon festgeschrieben</source>
-        <translation type="unfinished"></translation>
+        <translation>變更隨連結資料庫的連線一起遺失；需要重複</translation>
     </message>
     <message>
         <source>ERP-Nummer</source>
@@ -349,11 +333,7 @@
     </message>
     <message>
         <source>Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den Einstellungen gewählt.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Es ist keine Linkdatenbank eingestellt</source>
-        <translation type="unfinished"></translation>
+        <translation>沒有與連結資料庫的連線。可在設定中選擇。</translation>
     </message>
     <message>
         <source>Es ist keine Linkdatenbank verbunden.</source>
@@ -365,7 +345,7 @@
     </message>
     <message>
         <source>Fehler der Linkdatenbank: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>連結資料庫錯誤：%1</translation>
     </message>
     <message>
         <source>Für den Katalog "%1" ist kein Repository eingestellt; aus seinem Namen wird keine Adresse</source>
@@ -380,8 +360,12 @@
         <translation>此處應為值，而不是比較</translation>
     </message>
     <message>
+        <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
+        <translation>%1 中沒有連結資料庫，或其格式較舊。首次寫入時會建立或更新。</translation>
+    </message>
+    <message>
         <source>In der Adresse der Linkdatenbank steht ein Kennwort. Es gehört in die Kennwortdatei oder in PGPASSWORD.</source>
-        <translation type="unfinished"></translation>
+        <translation>連結資料庫的位址中有密碼。密碼應放在密碼檔案或 PGPASSWORD 中。</translation>
     </message>
     <message>
         <source>Keine Antwort von %1 in %2 s</source>
@@ -390,6 +374,10 @@
     <message>
         <source>Keine Zeile der Ziele passt zu dieser.</source>
         <translation>目標中沒有與此列相符的列。</translation>
+    </message>
+    <message>
+        <source>Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).</source>
+        <translation>未提交的變更已遺失（敘述：%1）。</translation>
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
@@ -527,7 +515,7 @@
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>沒有 sslmode "%1"；可用的有：%2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>

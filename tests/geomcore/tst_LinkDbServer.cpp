@@ -179,6 +179,9 @@ void tst_LinkDbServer::addresses_data()
     QTest::newRow("drive") << "C:\\x.db" << file("C:\\x.db") << "sqlite:C:\\x.db";
     QTest::newRow("database") << "postgresql:///links" << server("", 0, "links", "")
                               << "postgresql:///links";
+    QTest::newRow("nothing but empty texts")
+        << "postgresql:///links" << server(QString(""), 0, "links", QString(""), QString(""))
+        << "postgresql:///links";
     QTest::newRow("all") << "postgresql://anna@db.example:5433/links?sslmode=verify-full"
                          << server("db.example", 5433, "links", "anna", "verify-full")
                          << "postgresql://anna@db.example:5433/links?sslmode=verify-full";
@@ -199,6 +202,7 @@ void tst_LinkDbServer::addresses()
     const LinkDbSettings read = LinkDbSettings::fromText(text);
     QVERIFY(read == settings);
     QTEST(read.toText(), "written");
+    QTEST(settings.toText(), "written");
     QVERIFY(LinkDbSettings::fromText(read.toText()) == settings);
 }
 

@@ -509,6 +509,9 @@ void tst_PLinkDbC::relativePaths()
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(linkDb.makeRelativePath(elsewhere.filePath("./a.prj")), PString(file.fileName()));
     QCOMPARE(linkDb.makeRelativePath(""), PString());
+    linkDb.setMoreCatalogRoots({QString(), elsewhere.path()});
+    QCOMPARE(linkDb.makeRelativePath(file.fileName()), PString("a.prj"));
+    QCOMPARE(linkDb.makeRelativePath(m_folder->filePath("cat/a.prj")), PString("cat/a.prj"));
 }
 
 QTEST_GUILESS_MAIN(tst_PLinkDbC)

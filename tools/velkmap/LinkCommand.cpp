@@ -17,7 +17,7 @@ namespace {
 using VelkRelease::ReleaseLinker;
 using Outcome = VelkRelease::LinkWriter::Outcome;
 
-constexpr const char *description =
+constexpr const char *linkDescription =
     "Writes the confirmed assignments of a release mapping into a link database: for each\n"
     "confirmed line the line of the new release, or that it has no successor. Each project\n"
     "is written in one transaction; projects whose links are there already are left alone,\n"
@@ -49,7 +49,7 @@ void tellSum(const ReleaseLinker &linker, bool dryRun, QTextStream &out)
 
 ExitStatus runLink(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
-    CommandLine line("link", description);
+    CommandLine line("link", linkDescription);
     ReleaseFile::addOptions(line);
     LinkDbOption::add(line);
     line.addOptional("writers", "N", "Connections that write to a server at once.", "2");

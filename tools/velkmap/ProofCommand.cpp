@@ -20,7 +20,7 @@ namespace {
 using VelkRelease::LinkProof;
 using VelkRelease::ValueChange;
 
-constexpr const char *description =
+constexpr const char *proofDescription =
     "Tells which numbers of the link database a release mapping leaves in a bad place:\n"
     "whose line is gone, that two lines claim, whose part differs from before by more than\n"
     "what was agreed to, and which open lines numbers hang on, those with most numbers\n"
@@ -168,7 +168,7 @@ std::optional<ExitStatus> takeRoots(const CommandLine &line, LinkProof &proof, Q
 
 ExitStatus runProof(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
-    CommandLine line("proof", description);
+    CommandLine line("proof", proofDescription);
     ReleaseFile::addOptions(line);
     LinkDbOption::add(line);
     CatalogRoots::addOptions(line);

@@ -48,6 +48,19 @@ std::optional<QString> tableOfStar(const QString &sql)
 
 } // namespace
 
+QString LinkDbConnection::notConnected()
+{
+    return PString::translate("Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den "
+                              "Einstellungen gewählt.",
+                              "VelkGeomCore");
+}
+
+QString LinkDbConnection::cannotBeOpened(const QString &why) const
+{
+    return PString::translate("Die Linkdatenbank %1 kann nicht geöffnet werden: %2", "VelkGeomCore")
+        .arg(m_settings.displayName(), why);
+}
+
 LinkDbConnection::LinkDbConnection()
     : m_connection(nextConnection())
 {
@@ -91,7 +104,7 @@ bool LinkDbConnection::open(const LinkDbSettings &settings, const QString &passw
 bool LinkDbConnection::connectNow()
 {
     if (m_settings.kind == LinkDbSettings::Kind::None)
-        return fail(PString::translate("Es ist keine Linkdatenbank eingestellt", "VelkGeomCore"));
+        return fail(notConnected());
     const QString driver = isPostgreSQL() ? QStringLiteral("QPSQL") : QStringLiteral("QSQLITE");
     QSqlDatabase connection = QSqlDatabase::addDatabase(driver, m_connection);
     if (!connection.isValid())
@@ -112,16 +125,12 @@ bool LinkDbConnection::connectNow()
     } else {
         const QFileInfo info(PString::ResolveEnvirons(m_settings.file));
         if ((info.exists() || info.isSymLink()) && !info.isFile())
-            return fail(PString::translate("Die Linkdatenbank %1 ist keine Datei", "VelkGeomCore")
-                            .arg(info.filePath()));
+            return fail(cannotBeOpened(QStringLiteral("not a regular file")));
         if (m_settings.readOnly && !info.exists())
             return fail(PString::translate("Die Linkdatenbank %1 gibt es nicht", "VelkGeomCore")
                             .arg(info.filePath()));
-        if (!m_settings.readOnly && !QDir().mkpath(info.absolutePath()))
-            return fail(PString::translate("Das Verzeichnis der Linkdatenbank %1 kann nicht "
-                                           "angelegt werden",
-                                           "VelkGeomCore")
-                            .arg(info.filePath()));
+        if (!m_settings.readOnly)
+            QDir().mkpath(info.absolutePath()); // opening fails if that does
         connection.setDatabaseName(info.absoluteFilePath());
         connection.setConnectOptions(
             QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1%2")
@@ -134,9 +143,7 @@ bool LinkDbConnection::connectNow()
         connection = QSqlDatabase();
         disconnectNow();
         const QString why = error.databaseText().trimmed();
-        return fail(PString::translate("Die Linkdatenbank %1 kann nicht geöffnet werden: %2",
-                                       "VelkGeomCore")
-                        .arg(m_settings.displayName(), why.isEmpty() ? error.driverText() : why));
+        return fail(cannotBeOpened(why.isEmpty() ? error.driverText() : why));
     }
     m_userName = m_settings.user.isEmpty() ? accountName() : m_settings.user;
     if (!isPostgreSQL())
@@ -179,9 +186,7 @@ bool LinkDbConnection::ready()
     if (m_open)
         return true;
     if (!m_wanted)
-        return fail(PString::translate("Es besteht keine Verbindung zu einer Linkdatenbank. Sie "
-                                       "wird in den Einstellungen gewählt.",
-                                       "VelkGeomCore"));
+        return fail(notConnected());
     if (!connectNow()) {
         m_error.lost = true;
         return false;
@@ -215,23 +220,20 @@ bool LinkDbConnection::note(const QSqlQuery &query, const QString &statement)
                false, false};
     m_error.cancelled =
         m_cancelled && (error.nativeErrorCode() == QLatin1String("57014") || !isPostgreSQL());
-    if (m_error.text.isEmpty())
-        m_error.text = PString::translate("Die Datenbank nennt keinen Grund", "VelkGeomCore");
     if (!isLost(error))
         return false;
     m_error.lost = true;
     m_lostChanges += m_pendingStatements;
     disconnectNow();
-    m_notices.append(
-        m_lostChanges == 0
-            ? PString::translate("Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2",
-                                 "VelkGeomCore")
-                  .arg(m_settings.displayName(), m_error.text)
-            : PString::translate("Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2. "
-                                 "Änderungen, die noch nicht festgeschrieben waren, sind verloren "
-                                 "(Anweisungen: %3).",
-                                 "VelkGeomCore")
-                  .arg(m_settings.displayName(), m_error.text, QString::number(m_lostChanges)));
+    QString notice = PString::translate("Die Verbindung zur Linkdatenbank %1 ist abgebrochen: %2",
+                                        "VelkGeomCore")
+                         .arg(m_settings.displayName(), m_error.text);
+    if (m_lostChanges > 0)
+        notice += u' ' + PString::translate("Nicht festgeschriebene Änderungen sind verloren "
+                                            "(Anweisungen: %1).",
+                                            "VelkGeomCore")
+                             .arg(m_lostChanges);
+    m_notices.append(notice);
     return false;
 }
 
@@ -270,7 +272,9 @@ bool LinkDbConnection::run(const QString &sql, Result *result)
     while (query.next()) {
         if (m_cancelled) {
             result->rows.clear();
-            fail(PString::translate("Abgebrochen", "VelkGeomCore"), sql);
+            fail(
+                PString::translate("Abgebrochen: %1", "VelkGeomCore").arg(m_settings.displayName()),
+                sql);
             m_error.cancelled = true;
             return false;
         }
@@ -421,8 +425,6 @@ bool LinkDbConnection::outcomeOfCommit()
             continue;
         m_lostChanges = 0;
         if (state == QLatin1String("committed")) {
-            m_notices.append(
-                PString::translate("Die Änderungen waren schon festgeschrieben", "VelkGeomCore"));
             m_error = {};
             return true;
         }

@@ -70,6 +70,9 @@ public:
     /// Sets the error and is false.
     bool fail(const QString &text, const QString &statement = {}, bool lost = false);
 
+    /// What is told if there never was a connection.
+    [[nodiscard]] static QString notConnected();
+
     /// Any thread: the statement that runs gives up soon.
     void cancel();
     void clearCancel() { m_cancelled = false; }
@@ -81,6 +84,7 @@ public:
 private:
     [[nodiscard]] QSqlDatabase database() const;
     [[nodiscard]] bool connectNow();
+    [[nodiscard]] QString cannotBeOpened(const QString &why) const;
     void disconnectNow();
     [[nodiscard]] bool ready();
     [[nodiscard]] bool begin();

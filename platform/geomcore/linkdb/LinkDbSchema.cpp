@@ -151,9 +151,8 @@ bool LinkDbSchema::bringUpToDate(LinkDbConnection &connection, int version)
         return true;
     if (connection.settings().readOnly)
         return connection.fail(
-            PString::translate("In %1 ist noch keine Linkdatenbank, oder eine älterer Form. Sie "
-                               "wird beim ersten Schreiben angelegt oder auf den neuesten Stand "
-                               "gebracht.",
+            PString::translate("In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird "
+                               "beim ersten Schreiben angelegt oder erneuert.",
                                "VelkGeomCore")
                 .arg(connection.settings().displayName()));
     if (!connection.run(connection.isPostgreSQL() ? QStringLiteral("BEGIN")

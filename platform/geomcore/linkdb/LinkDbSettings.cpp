@@ -98,7 +98,7 @@ QString LinkDbSettings::toText() const
         query.addQueryItem(QStringLiteral("port"), QString::number(port));
     if (url.host().isEmpty() && !user.isEmpty())
         query.addQueryItem(QStringLiteral("user"), user);
-    else
+    else if (!user.isEmpty()) // an empty one would be written, too
         url.setUserName(user, QUrl::DecodedMode);
     url.setPath(u'/' + database, QUrl::DecodedMode);
     if (!sslMode.isEmpty())

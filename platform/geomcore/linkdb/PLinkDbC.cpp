@@ -94,9 +94,7 @@ bool PLinkDbC::Private::work(const Work &work)
             },
             [this] { connection.cancel(); });
     } else {
-        failure.text = PString::translate("Es besteht keine Verbindung zu einer Linkdatenbank. Sie "
-                                          "wird in den Einstellungen gewählt.",
-                                          "VelkGeomCore");
+        failure.text = LinkDbConnection::notConnected();
     }
     for (const QString &notice : std::as_const(notices))
         PMessage::LogToWindow(notice);
@@ -333,9 +331,26 @@ PString PLinkDbC::makeRelativePath(const PString &path) const
     const PRefPtr<IndexTreeC> tree = getIndexTree();
     const QString root = tree->catalogRoot().normalized() + u'/';
     QString file = PPathName(path).normalized();
+    {
+        const std::lock_guard lock(d->mutex);
+        for (const QString &each : std::as_const(d->catalogRoots)) {
+            if (file.startsWith(each))
+                return file.mid(each.size());
+        }
+    }
     if (!file.startsWith(root))
         file = tree->compatiblePathToResolvedPath(PPathName(path)).normalized();
     return file.startsWith(root) ? file.mid(root.size()) : file;
+}
+
+void PLinkDbC::setMoreCatalogRoots(const QStringList &directories)
+{
+    const std::lock_guard lock(d->mutex);
+    d->catalogRoots.clear();
+    for (const QString &each : directories) {
+        if (!each.isEmpty())
+            d->catalogRoots.append(PPathName(each).normalized() + u'/');
+    }
 }
 
 PRefPtr<PLinkDbQueryI> PLinkDbC::executeSelectStatement(const QString &sql)

@@ -69,6 +69,8 @@ public:
     /// The form in which PRJ_PATH holds a project's path: below the catalog root and with "/".
     /// Paths elsewhere come back in their normalised form, an empty one stays empty.
     [[nodiscard]] PString makeRelativePath(const PString &path) const;
+    /// Other directories with catalogs, such as an older release's, besides that of the index tree.
+    void setMoreCatalogRoots(const QStringList &directories);
 
     /// A failed one gives a query without rows; never null.
     PRefPtr<PLinkDbQueryI> executeSelectStatement(const QString &sql);

@@ -29,6 +29,7 @@ public:
     LinkDbSettings settings;
     QString user;
     QString password;
+    QStringList catalogRoots;
     QString group;
     QHash<QString, QString> groupKeys;
     std::atomic<bool> open = false;

@@ -16,7 +16,7 @@ QByteArray joined(const QStringList &texts)
 }
 
 /// 63 bits of a hash: that two of a million projects have the same is less likely than 1 in 10^6.
-qint64 numberOf(const QStringList &key)
+qint64 idOf(const QStringList &key)
 {
     const QByteArray hash = QCryptographicHash::hash(joined(key), QCryptographicHash::Sha256);
     quint64 number = 0;
@@ -69,7 +69,7 @@ LineLinks LineLinks::of(const ReleaseMappingC &release, const PrjMappingC &mappi
     result.path = mapping.getSourcePath();
     result.version = mapping.getSourceVersion();
     result.tableVersion = mapping.getTabVersion();
-    result.id = numberOf({result.releaseDate, result.path, result.version, result.tableVersion});
+    result.id = idOf({result.releaseDate, result.path, result.version, result.tableVersion});
     QHash<int, size_t> placeOf;
     for (int i = 0; i < mapping.countTargets(); ++i) {
         const PrjMappingTargetC &target = mapping.targetAt(i);
@@ -83,10 +83,10 @@ LineLinks LineLinks::of(const ReleaseMappingC &release, const PrjMappingC &mappi
                 continue;
             if (goesOn && position < 0) {
                 position = int(result.targets.size());
-                result.targets.push_back(
-                    {numberOf({release.getTargetDate(), target.getTargetPath(),
-                               target.getTargetVersion(), target.getTabVersion()}),
-                     target.getTargetPath(), target.getTargetVersion(), target.getTabVersion()});
+                result.targets.push_back({idOf({release.getTargetDate(), target.getTargetPath(),
+                                                target.getTargetVersion(), target.getTabVersion()}),
+                                          target.getTargetPath(), target.getTargetVersion(),
+                                          target.getTabVersion()});
             }
             const Link link{entry.sourceLine(), goesOn ? position : -1,
                             goesOn ? entry.targetLine() : -1,

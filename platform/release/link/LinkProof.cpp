@@ -53,6 +53,7 @@ private:
     std::map<QString, NumbersOfLines> m_projects;
     std::mutex m_mutex; ///< over the proof's lists and the places
     std::map<QString, std::set<Place>> m_places;
+    QHash<QString, QList<Place>> m_origins;
 };
 
 bool LinkProof::Run::read(PLinkDbC &linkDb)
@@ -83,6 +84,7 @@ bool LinkProof::Run::read(PLinkDbC &linkDb)
         const QString number = row.at(0).toString();
         const Place place{row.at(1).toString(), row.at(2).toInt()};
         m_places[number].insert(place);
+        m_origins[number].append(place);
         if (m_positions.contains(place.path)) {
             m_projects[place.path][place.line].append(number);
             here.insert(number);
@@ -176,7 +178,8 @@ void LinkProof::Run::collectClaims()
 {
     for (const auto &[number, places] : m_places) {
         if (places.size() > 1)
-            m_proof.m_claimed.append({number, QList<Place>(places.begin(), places.end())});
+            m_proof.m_claimed.append(
+                {number, QList<Place>(places.begin(), places.end()), m_origins.value(number)});
     }
 }
 

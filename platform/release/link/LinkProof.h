@@ -40,7 +40,8 @@ public:
     struct Claimed
     {
         QString number;
-        QList<Place> places; ///< lines of the new release where there are, at least two
+        QList<Place> places;  ///< lines of the new release where there are, at least two
+        QList<Place> origins; ///< lines that the records name
     };
     struct Differing
     {
