@@ -5,6 +5,8 @@
 #include "EditorArea.h"
 #include "LineCommands.h"
 #include "LineStateFilter.h"
+#include "LinkDbCommands.h"
+#include "LinkDbHost.h"
 #include "LogWindow.h"
 #include "PartView.h"
 #include "PluginActions.h"
@@ -41,6 +43,8 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_review(new ReviewCommands(m_desk->document(), m_editor, m_lines, this))
     , m_states(new LineStateFilter(this))
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
+    , m_linkDb(new LinkDbHost(plugin, this))
+    , m_linkDbCommands(new LinkDbCommands(m_linkDb, m_editor, m_desk, this))
     , m_pages(new QStackedWidget(this))
     , m_counterTimer(new QTimer(this))
     , m_language(settings->values().language)
@@ -65,7 +69,8 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     buildToolBars();
     auto *pluginBar = addToolBar(QString());
     pluginBar->setObjectName("pluginToolBar");
-    m_pluginActions = new PluginActions(plugin, m_editor, pluginBar, this);
+    m_pluginActions =
+        new PluginActions(plugin, {m_editor, m_linkDb, m_linkDbCommands}, pluginBar, this);
     connectCommands();
     connectParts();
     connectReview();
@@ -87,6 +92,8 @@ MainWindow::~MainWindow()
     delete m_review;
     delete m_lines;
     delete m_desk;
+    delete m_linkDbCommands;
+    delete m_linkDb;
 }
 
 void MainWindow::connectParts()
@@ -115,6 +122,10 @@ void MainWindow::connectParts()
     connect(m_editor, &EditorArea::lineKindsDropped, m_states, &LineStateFilter::clear);
     connect(m_remote, &RemoteCatalogs::told, this,
             [this](const QString &text) { m_log->addMessage(LogWindow::Severity::Warning, text); });
+    connect(m_linkDb, &LinkDbHost::groupChanged, m_settings, &WorkbenchSettings::setLinkDbGroup);
+    connect(m_linkDb, &LinkDbHost::failed, this, [this](const QString &text) {
+        m_status->showNote(tr("Keine Verbindung zur Linkdatenbank: %1").arg(text));
+    });
     // What changed, if anything did, is told at the end of the step, over this.
     connect(m_editor, &EditorArea::linesReassigned, this,
             [this] { m_status->showNote(tr("Zeilen neu zugewiesen: keine Änderung")); });
@@ -261,6 +272,7 @@ void MainWindow::applySettings()
     ApplicationTheme::setFontPercent(values.fontPercent);
     m_desk->document()->setAutosaveInterval(values.autosaveMinutes * 60);
     m_remote->apply(values.repository);
+    m_linkDb->apply(values.linkDb, m_settings->linkDbGroup());
     m_editor->setRemoteTargets(values.repository.isUsed);
     if (values.language == m_language)
         return;

@@ -10,6 +10,8 @@ class DocumentDesk;
 class EditorArea;
 class LineCommands;
 class LineStateFilter;
+class LinkDbCommands;
+class LinkDbHost;
 class LogWindow;
 class PLinkDbGuiI;
 class PluginActions;
@@ -45,6 +47,7 @@ public:
     [[nodiscard]] LogWindow *log() const { return m_log; }
     [[nodiscard]] StatusArea *status() const { return m_status; }
     [[nodiscard]] WorkbenchActions *commands() const { return m_actions; }
+    [[nodiscard]] LinkDbHost *linkDb() const { return m_linkDb; }
 
     /// Shows it, as large as the screen if it is larger than that.
     void showOnScreen();
@@ -95,6 +98,8 @@ private:
     ReviewCommands *const m_review;
     LineStateFilter *const m_states;
     RemoteCatalogs *const m_remote;
+    LinkDbHost *const m_linkDb;
+    LinkDbCommands *const m_linkDbCommands;
     QStackedWidget *const m_pages;
     WelcomePage *m_welcome = nullptr;
     PluginActions *m_pluginActions = nullptr;

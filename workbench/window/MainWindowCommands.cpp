@@ -95,7 +95,7 @@ void MainWindow::editSettings()
     for (const char *key : {"V", "X", "Ctrl+X", "F3", "Shift+F3", "Ctrl+C", "Ctrl+F",
                             "Ctrl+Shift+F", "Ctrl++", "Ctrl+-", "Ctrl+0"})
         taken << QKeySequence(QLatin1String(key));
-    SettingsDialog dialog(m_settings->values(), taken, this);
+    SettingsDialog dialog(m_settings->values(), taken, m_settings->linkDbFile(), this);
     if (dialog.exec() == QDialog::Accepted)
         m_settings->setValues(dialog.values());
 }

@@ -4,6 +4,7 @@
 #include "EditorArea.h"
 #include "LineCommands.h"
 #include "LineStateFilter.h"
+#include "LinkDbCommands.h"
 #include "LogWindow.h"
 #include "PluginActions.h"
 #include "RemoteCatalogs.h"
@@ -51,11 +52,14 @@ void MainWindow::buildMenus()
          {WorkbenchActions::OpenExample, Separator, WorkbenchActions::Save,
           WorkbenchActions::SaveAs, WorkbenchActions::CatalogRoots, WorkbenchActions::CloseFile,
           Separator, WorkbenchActions::Quit});
-    fill(addMenu("editMenu"), m_actions,
+    QMenu *const edit = addMenu("editMenu");
+    fill(edit, m_actions,
          {WorkbenchActions::Undo, WorkbenchActions::Redo, Separator, WorkbenchActions::ConfirmLines,
           WorkbenchActions::ConfirmExpiredLines, WorkbenchActions::RemoveLines,
           WorkbenchActions::RemoveConfirmLines, Separator, WorkbenchActions::AssignAll,
-          WorkbenchActions::CheckValueRanges, Separator, WorkbenchActions::Settings});
+          WorkbenchActions::CheckValueRanges});
+    edit->addAction(m_linkDbCommands->proofAction());
+    fill(edit, m_actions, {Separator, WorkbenchActions::Settings});
     fill(
         addMenu("goMenu"), m_actions,
         {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine});

@@ -2,6 +2,8 @@
 
 #include "EditorArea.h"
 #include "LegendDialog.h"
+#include "LinkDbCommands.h"
+#include "LinkDbHost.h"
 #include "Question.h"
 
 #include <core/plugin/PLinkDbGuiI.h>
@@ -34,25 +36,29 @@ QAction *actionOf(const char *name)
 
 } // namespace
 
-PluginActions::PluginActions(PLinkDbGuiI *plugin, EditorArea *editor, QToolBar *toolBar,
+PluginActions::PluginActions(PLinkDbGuiI *plugin, const Parts &parts, QToolBar *toolBar,
                              QObject *parent)
     : QObject(parent)
-    , m_editor(editor)
+    , m_editor(parts.editor)
+    , m_linkDb(parts.linkDb)
+    , m_commands(parts.commands)
 {
     if (plugin)
         registerActions(plugin);
     for (const Source &source : std::as_const(m_sources))
         toolBar->addAction(source.action);
     connectActions();
-    connect(editor, &EditorArea::editorMade, this, [this] {
+    connect(m_editor, &EditorArea::editorMade, this, [this] {
         takeTreeFilter();
         update();
     });
-    connect(editor, &EditorArea::linesSelected, this, &PluginActions::update);
-    connect(editor, &EditorArea::projectSelected, this, [this] {
+    connect(m_editor, &EditorArea::linesSelected, this, &PluginActions::update);
+    connect(m_editor, &EditorArea::projectSelected, this, [this] {
         applyPreferredRanges();
         update();
     });
+    connect(m_linkDb, &LinkDbHost::changed, this, &PluginActions::update);
+    connect(m_commands, &LinkDbCommands::awaitingChanged, this, &PluginActions::update);
     retranslate();
 }
 
@@ -83,6 +89,12 @@ void PluginActions::connectActions()
     });
     connectTo("PreferredRanges", [this] { applyPreferredRanges(); });
     connectTo("LinkDbSendMail", [this] { sendMail(); });
+    connectTo("LinkDbLogin", [this] { m_commands->login(); });
+    connectTo("LinkDbChangeGroup", [this] { m_commands->chooseGroup(); });
+    connectTo("CallLinkMgr", [this] { m_commands->showLinks(); });
+    connectTo("LinkDbBackToMgr", [this] { m_commands->sendSelection(); });
+    connectTo("LinkDbCancelBackToMgr", [this] { m_commands->cancelSelection(); });
+    connectTo("LinkDbAddToDb", [this] { m_commands->showDocuments(); });
     // The tree's own box and the action show the same.
     if (QAction *const action = actionOf("LinkDbFilteronoff"))
         connect(m_editor, &EditorArea::onlyOpenProjectsChanged, action, &QAction::setChecked);
@@ -112,8 +124,33 @@ QString PluginActions::reasonAgainst(const QAction *action) const
         return {};
     if (name == "LinkDbFilteronoff" || name == "PreferredRanges")
         return m_editor->isOpen() ? QString() : tr("nicht verfügbar: es ist keine Datei geöffnet");
-    if (needsDatabase(action))
+    if (needsDatabase(action)) {
+        const QString reason = reasonAgainstDatabase(name);
+        const bool needsLine = name == "LinkDbBackToMgr" || name == "LinkDbAddToDb";
+        return reason.isEmpty() && needsLine ? reasonAgainstLine() : reason;
+    }
+    return reasonAgainstLine();
+}
+
+QString PluginActions::reasonAgainstDatabase(const QString &name) const
+{
+    if (m_linkDb->state() == LinkDbHost::Connecting)
+        return tr("nicht verfügbar: die Linkdatenbank wird verbunden");
+    const bool isSet = m_linkDb->state() != LinkDbHost::NotSet;
+    if (name == "LinkDbLogin" && isSet)
+        return {};
+    if (m_linkDb->state() == LinkDbHost::Failed)
+        return tr("nicht verfügbar: %1").arg(m_linkDb->problem());
+    if (!isSet)
         return tr("nicht verfügbar: es ist keine Linkdatenbank verbunden");
+    const bool isReturn = name == "LinkDbBackToMgr" || name == "LinkDbCancelBackToMgr";
+    return isReturn && !m_commands->isAwaiting()
+               ? tr("nicht verfügbar: der Linkmanager wartet auf keine Auswahl")
+               : QString();
+}
+
+QString PluginActions::reasonAgainstLine() const
+{
     if (m_editor->currentPath().isEmpty())
         return tr("nicht verfügbar: es ist kein Projekt gewählt");
     return m_editor->currentLine() < 0 ? tr("nicht verfügbar: es ist keine Zeile gewählt")
@@ -132,8 +169,10 @@ void PluginActions::update()
     for (const Source &source : std::as_const(m_sources)) {
         setReason(source, reasonAgainst(source.action));
         // They would only fill the bar as long as no database is set up.
-        source.action->setVisible(!needsDatabase(source.action));
+        source.action->setVisible(!needsDatabase(source.action) ||
+                                  m_linkDb->state() != LinkDbHost::NotSet);
     }
+    m_commands->update();
 }
 
 void PluginActions::takeTreeFilter()

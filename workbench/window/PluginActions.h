@@ -4,6 +4,8 @@
 #include <QObject>
 
 class EditorArea;
+class LinkDbCommands;
+class LinkDbHost;
 class PLinkDbGuiI;
 
 QT_BEGIN_NAMESPACE
@@ -18,8 +20,16 @@ class PluginActions : public QObject
     Q_OBJECT
 
 public:
+    /// What the actions work on; nothing is owned.
+    struct Parts
+    {
+        EditorArea *editor;
+        LinkDbHost *linkDb;
+        LinkDbCommands *commands;
+    };
+
     /// Has the plug-in describe its actions to the pool and puts them into the tool bar.
-    PluginActions(PLinkDbGuiI *plugin, EditorArea *editor, QToolBar *toolBar, QObject *parent);
+    PluginActions(PLinkDbGuiI *plugin, const Parts &parts, QToolBar *toolBar, QObject *parent);
 
     /// After the language changed.
     void retranslate();
@@ -43,8 +53,12 @@ private:
     /// A reason disables the action and stands behind its tip.
     static void setReason(const Source &source, const QString &reason);
     [[nodiscard]] QString reasonAgainst(const QAction *action) const;
+    [[nodiscard]] QString reasonAgainstDatabase(const QString &name) const;
+    [[nodiscard]] QString reasonAgainstLine() const;
     [[nodiscard]] static bool needsDatabase(const QAction *action);
 
     EditorArea *const m_editor;
+    LinkDbHost *const m_linkDb;
+    LinkDbCommands *const m_commands;
     QList<Source> m_sources;
 };

@@ -1,5 +1,6 @@
 #include "SettingsDialog.h"
 
+#include "LinkDbBox.h"
 #include "Question.h"
 #include "RepositoryBox.h"
 
@@ -15,7 +16,8 @@
 #include <QVBoxLayout>
 
 SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
-                               const QList<QKeySequence> &takenKeys, QWidget *parent)
+                               const QList<QKeySequence> &takenKeys, const QString &linkDbFile,
+                               QWidget *parent)
     : QDialog(parent)
     , m_takenKeys(takenKeys)
     , m_language(new QComboBox(this))
@@ -25,6 +27,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     , m_next(new QKeySequenceEdit(values.nextLine, this))
     , m_previous(new QKeySequenceEdit(values.previousLine, this))
     , m_repository(new RepositoryBox(values.repository, this))
+    , m_linkDb(new LinkDbBox(values.linkDb, linkDbFile, this))
     , m_problem(new QLabel(this))
 {
     setObjectName("SettingsDialog");
@@ -66,6 +69,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     form->addRow(tr("Taste für die &vorige offene Zeile:"), m_previous);
     layout->addLayout(form);
     layout->addWidget(m_repository);
+    layout->addWidget(m_linkDb);
     layout->addWidget(m_problem);
     auto *buttons = new QDialogButtonBox(this);
     m_ok = buttons->addButton(Question::okText(), QDialogButtonBox::AcceptRole);
@@ -77,6 +81,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     connect(m_next, &QKeySequenceEdit::keySequenceChanged, this, &SettingsDialog::check);
     connect(m_previous, &QKeySequenceEdit::keySequenceChanged, this, &SettingsDialog::check);
     connect(m_repository, &RepositoryBox::changed, this, &SettingsDialog::check);
+    connect(m_linkDb, &LinkDbBox::changed, this, &SettingsDialog::check);
     check();
     PApplication::setupWindow(this);
 }
@@ -96,6 +101,7 @@ WorkbenchSettings::Values SettingsDialog::values() const
     values.nextLine = m_next->keySequence();
     values.previousLine = m_previous->keySequence();
     values.repository = m_repository->settings();
+    values.linkDb = m_linkDb->address();
     return values;
 }
 
@@ -109,7 +115,8 @@ QString SettingsDialog::problem() const
             return tr("Die Taste %1 ist schon vergeben.")
                 .arg(key.toString(QKeySequence::NativeText));
     }
-    return m_repository->problem();
+    const QString ofRepository = m_repository->problem();
+    return ofRepository.isEmpty() ? m_linkDb->problem() : ofRepository;
 }
 
 void SettingsDialog::check()

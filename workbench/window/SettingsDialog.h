@@ -12,6 +12,7 @@ class QPushButton;
 class QSpinBox;
 QT_END_NAMESPACE
 
+class LinkDbBox;
 class RepositoryBox;
 
 /// Changes the values of the settings; nothing applies before it is accepted.
@@ -20,9 +21,10 @@ class SettingsDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// Keys in \a takenKeys belong to other commands and are refused.
+    /// Keys in \a takenKeys belong to other commands and are refused. \a linkDbFile is suggested
+    /// for a link database.
     SettingsDialog(const WorkbenchSettings::Values &values, const QList<QKeySequence> &takenKeys,
-                   QWidget *parent);
+                   const QString &linkDbFile, QWidget *parent);
     ~SettingsDialog() override;
 
     [[nodiscard]] WorkbenchSettings::Values values() const;
@@ -39,6 +41,7 @@ private:
     QKeySequenceEdit *const m_next;
     QKeySequenceEdit *const m_previous;
     RepositoryBox *const m_repository;
+    LinkDbBox *const m_linkDb;
     QLabel *const m_problem;
     QPushButton *m_ok = nullptr;
 };

@@ -50,6 +50,7 @@ void WorkbenchSettings::read()
     m_values.nextLine = keyOf(m_store.value("Settings/keyNextLine"), standard.nextLine);
     m_values.previousLine = keyOf(m_store.value("Settings/keyPreviousLine"), standard.previousLine);
     m_values.repository = readRepository();
+    m_values.linkDb = m_store.value("LinkDb/address").toString();
 }
 
 RepositorySettings WorkbenchSettings::readRepository() const
@@ -99,6 +100,7 @@ void WorkbenchSettings::writeValues()
     m_store.setValue("Settings/keyNextLine", m_values.nextLine.toString());
     m_store.setValue("Settings/keyPreviousLine", m_values.previousLine.toString());
     const RepositorySettings &repository = m_values.repository;
+    m_store.setValue("LinkDb/address", m_values.linkDb);
     m_store.setValue("Repository/use", repository.isUsed);
     m_store.setValue("Repository/servers", repository.servers);
     m_store.setValue("Repository/revision", repository.revision);
@@ -174,6 +176,21 @@ void WorkbenchSettings::setFlag(const QString &name, bool value)
 QString WorkbenchSettings::repositoryCache() const
 {
     return QFileInfo(m_store.fileName()).absolutePath() + QStringLiteral("/repository");
+}
+
+QString WorkbenchSettings::linkDbFile() const
+{
+    return QFileInfo(m_store.fileName()).absolutePath() + QStringLiteral("/linkdb.db");
+}
+
+QString WorkbenchSettings::linkDbGroup() const
+{
+    return m_store.value("LinkDb/group").toString();
+}
+
+void WorkbenchSettings::setLinkDbGroup(const QString &group)
+{
+    m_store.setValue("LinkDb/group", group);
 }
 
 QByteArray WorkbenchSettings::state(const QString &name) const

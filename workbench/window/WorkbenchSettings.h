@@ -25,6 +25,7 @@ public:
         QKeySequence nextLine = QKeySequence(QStringLiteral("F8"));
         QKeySequence previousLine = QKeySequence(QStringLiteral("Shift+F8"));
         RepositorySettings repository;
+        QString linkDb; ///< address as LinkDbSettings has it; empty: none is used
 
         friend bool operator==(const Values &, const Values &) = default;
     };
@@ -69,6 +70,11 @@ public:
 
     /// For copies of what was read from repositories; beside the file.
     [[nodiscard]] QString repositoryCache() const;
+    /// Where a link database of one's own may lie; beside the file.
+    [[nodiscard]] QString linkDbFile() const;
+    /// The group of the link database that was chosen last.
+    [[nodiscard]] QString linkDbGroup() const;
+    void setLinkDbGroup(const QString &group);
     /// The same store, for documents.
     [[nodiscard]] QSettings *store() { return &m_store; }
 

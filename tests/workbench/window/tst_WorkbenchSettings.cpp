@@ -103,7 +103,7 @@ private Q_SLOTS:
     void dialogGivesWhatWasEntered()
     {
         WorkbenchSettings::Values values;
-        SettingsDialog dialog(values, {}, nullptr);
+        SettingsDialog dialog(values, {}, QString(), nullptr);
         QCOMPARE(dialog.values(), values);
         dialog.findChild<QComboBox *>("language")->setCurrentText("English");
         dialog.findChild<QComboBox *>("theme")->setCurrentText("Dunkel");
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QFETCH(QString, next);
         QFETCH(QString, previous);
         QFETCH(QString, problem);
-        SettingsDialog dialog({}, {QKeySequence("Ctrl+S"), QKeySequence("V")}, nullptr);
+        SettingsDialog dialog({}, {QKeySequence("Ctrl+S"), QKeySequence("V")}, QString(), nullptr);
         dialog.findChild<QKeySequenceEdit *>("nextLine")->setKeySequence(QKeySequence(next));
         dialog.findChild<QKeySequenceEdit *>("previousLine")
             ->setKeySequence(QKeySequence(previous));

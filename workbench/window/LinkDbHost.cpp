@@ -1,0 +1,126 @@
+#include "LinkDbHost.h"
+
+#include <core/plugin/PLinkDbGuiI.h>
+
+#include <QPointer>
+
+LinkDbHost::LinkDbHost(PLinkDbGuiI *plugin, QObject *parent)
+    : QObject(parent)
+    , m_plugin(plugin)
+{
+}
+
+LinkDbHost::~LinkDbHost()
+{
+    if (m_thread.joinable())
+        m_thread.join();
+    close();
+}
+
+PRefPtr<PLinkDbC> LinkDbHost::linkDb() const
+{
+    return m_linkDb ? m_linkDb : PLinkDbC::instance();
+}
+
+void LinkDbHost::setState(State state, const QString &problem)
+{
+    m_state = state;
+    m_problem = problem;
+    Q_EMIT changed();
+}
+
+void LinkDbHost::close()
+{
+    if (!m_linkDb)
+        return;
+    PLinkDbC::setInstance(nullptr);
+    m_linkDb->close();
+    m_linkDb = nullptr;
+}
+
+void LinkDbHost::apply(const QString &address, const QString &group)
+{
+    if (address == m_address)
+        return;
+    m_address = address;
+    m_group = group;
+    ++m_attempt; // an attempt that is under way is of no use any more
+    close();
+    if (address.isEmpty())
+        return setState(NotSet);
+    QString cause;
+    m_settings = LinkDbSettings::fromText(address, &cause);
+    if (m_settings.kind == LinkDbSettings::Kind::None) {
+        setState(Failed, cause);
+        Q_EMIT failed(cause);
+        return;
+    }
+    connectTo(m_settings, QString());
+}
+
+void LinkDbHost::login(const QString &user, const QString &password)
+{
+    if (m_settings.kind == LinkDbSettings::Kind::SQLite && m_state == Connected) {
+        m_linkDb->login(user, password);
+        Q_EMIT changed();
+        return;
+    }
+    if (m_linkDb)
+        m_linkDb->commit();
+    LinkDbSettings settings = m_settings;
+    settings.user = user;
+    connectTo(settings, password);
+}
+
+/// The former connection stays until the new one is there.
+void LinkDbHost::connectTo(const LinkDbSettings &settings, const QString &password)
+{
+    if (m_thread.joinable())
+        m_thread.join();
+    const int attempt = ++m_attempt;
+    setState(Connecting);
+    m_thread = std::jthread([this, attempt, settings, password] {
+        const PRefPtr<PLinkDbC> linkDb(new PLinkDbC);
+        const bool good = linkDb->open(settings, password);
+        QMetaObject::invokeMethod(
+            this, [this, attempt, linkDb, good] { onConnected(attempt, linkDb, good); },
+            Qt::QueuedConnection);
+    });
+}
+
+void LinkDbHost::onConnected(int attempt, const PRefPtr<PLinkDbC> &linkDb, bool good)
+{
+    if (attempt != m_attempt)
+        return;
+    if (!good) {
+        const QString cause = linkDb->lastError().text;
+        setState(m_linkDb ? Connected : Failed, cause);
+        Q_EMIT failed(cause);
+        return;
+    }
+    close();
+    m_linkDb = linkDb;
+    m_settings = linkDb->settings();
+    if (!m_group.isEmpty() && m_group != linkDb->currentGroup() &&
+        linkDb->groups().contains(m_group))
+        linkDb->changeGroup(m_group);
+    PLinkDbC::setInstance(linkDb);
+    if (m_plugin && !m_plugin->initLinkDb(linkDb)) {
+        close();
+        const QString cause = tr("Für die Linkdatenbank fehlt die Lizenz.");
+        setState(Failed, cause);
+        Q_EMIT failed(cause);
+        return;
+    }
+    setState(Connected);
+}
+
+bool LinkDbHost::changeGroup(const QString &group)
+{
+    if (!linkDb()->changeGroup(group))
+        return false;
+    m_group = group;
+    Q_EMIT groupChanged(group);
+    Q_EMIT changed();
+    return true;
+}
