@@ -690,6 +690,292 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>LinkDbBox</name>
+    <message>
+        <source>&amp;Linkdatenbank verwenden</source>
+        <translation>Use a &amp;link database</translation>
+    </message>
+    <message>
+        <source>Datei auf diesem Rechner</source>
+        <translation>File on this computer</translation>
+    </message>
+    <message>
+        <source>PostgreSQL-Server</source>
+        <translation>PostgreSQL server</translation>
+    </message>
+    <message>
+        <source>der übliche</source>
+        <translation>the usual one</translation>
+    </message>
+    <message>
+        <source>Das Kennwort steht in der Kennwortdatei oder in PGPASSWORD, oder es wird bei der Anmeldung eingegeben. Gespeichert wird es nicht.</source>
+        <translation>The password is in the password file or in PGPASSWORD, or it is entered at log-in. It is not stored.</translation>
+    </message>
+    <message>
+        <source>wenn möglich</source>
+        <translation>if possible</translation>
+    </message>
+    <message>
+        <source>immer</source>
+        <translation>always</translation>
+    </message>
+    <message>
+        <source>immer, Server geprüft</source>
+        <translation>always, server verified</translation>
+    </message>
+    <message>
+        <source>nie</source>
+        <translation>never</translation>
+    </message>
+    <message>
+        <source>A&amp;rt:</source>
+        <translation>&amp;Kind:</translation>
+    </message>
+    <message>
+        <source>&amp;Datei:</source>
+        <translation>&amp;File:</translation>
+    </message>
+    <message>
+        <source>Rechne&amp;r:</source>
+        <translation>&amp;Host:</translation>
+    </message>
+    <message>
+        <source>&amp;Anschluss:</source>
+        <translation>&amp;Port:</translation>
+    </message>
+    <message>
+        <source>Daten&amp;bank:</source>
+        <translation>Data&amp;base:</translation>
+    </message>
+    <message>
+        <source>Ben&amp;utzer:</source>
+        <translation>&amp;User:</translation>
+    </message>
+    <message>
+        <source>&amp;Verschlüsselung:</source>
+        <translation>&amp;Encryption:</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank: Der Name der Datei fehlt.</source>
+        <translation>Link database: The name of the file is missing.</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank: Der Name der Datenbank fehlt oder ist keiner.</source>
+        <translation>Link database: The name of the database is missing or is none.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbCommands</name>
+    <message>
+        <source>&amp;Nummern der Linkdatenbank prüfen</source>
+        <translation>Prove &amp;numbers of the link database</translation>
+    </message>
+    <message>
+        <source>In der Linkdatenbank gibt es keine Gruppe, zu der Sie gehören.</source>
+        <translation>The link database has no group that you belong to.</translation>
+    </message>
+    <message>
+        <source>Gruppe auswählen</source>
+        <translation>Choose a group</translation>
+    </message>
+    <message>
+        <source>Gruppe der Linkdatenbank:</source>
+        <translation>Group of the link database:</translation>
+    </message>
+    <message>
+        <source>Zeile %1 von %2 steht nicht in diesem Mapping.</source>
+        <translation>Line %1 of %2 is not in this mapping.</translation>
+    </message>
+    <message>
+        <source>Nummern der Linkdatenbank werden geprüft</source>
+        <translation>Proving numbers of the link database</translation>
+    </message>
+    <message>
+        <source>Die Nummern konnten nicht geprüft werden.</source>
+        <translation>The numbers could not be proved.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbHost</name>
+    <message>
+        <source>Für die Linkdatenbank fehlt die Lizenz.</source>
+        <translation>The license for the link database is missing.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbLoginDialog</name>
+    <message>
+        <source>Anmeldung an der Linkdatenbank</source>
+        <translation>Log-in to the link database</translation>
+    </message>
+    <message>
+        <source>Das Kennwort gilt bis zum Ende des Programms und wird nicht gespeichert. Bleibt es leer, kommt es aus der Kennwortdatei.</source>
+        <translation>The password holds until the program ends and is not stored. If it stays empty, it comes from the password file.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
+        <translation>Under this name the journal says who deleted something.</translation>
+    </message>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;User:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Password:</translation>
+    </message>
+</context>
+<context>
+    <name>LinkListDialog</name>
+    <message>
+        <source>Linkmanager</source>
+        <translation>Link manager</translation>
+    </message>
+    <message>
+        <source>Nummer, Projekt oder Bezeichnung suchen</source>
+        <translation>Search number, project or description</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Zeile &amp;zeigen</source>
+        <translation>&amp;Show line</translation>
+    </message>
+    <message>
+        <source>Mit anderer Zeile &amp;verknüpfen...</source>
+        <translation>&amp;Link to another line...</translation>
+    </message>
+    <message>
+        <source>Wählen Sie danach Projekt und Zeile und senden Sie die Auswahl mit &quot;Auswahl an Linkmanager&quot;.</source>
+        <translation>Then choose project and line and send the selection with &quot;Selection to link manager&quot;.</translation>
+    </message>
+    <message>
+        <source>Zuletzt &amp;Gelöschtes...</source>
+        <translation>&amp;Last deleted...</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
+        <translation>The first %1 links; search for others.</translation>
+    </message>
+    <message>
+        <source>Links: %1</source>
+        <translation>Links: %1</translation>
+    </message>
+    <message>
+        <source>Es ist nichts gelöscht, was wiederhergestellt werden könnte.</source>
+        <translation>Nothing is deleted that could be restored.</translation>
+    </message>
+    <message>
+        <source>Zuletzt Gelöschtes wiederherstellen? Zeilen: %1</source>
+        <translation>Restore what was deleted last? Rows: %1</translation>
+    </message>
+    <message>
+        <source>%1 hat sie am %2 aus %3 gelöscht.</source>
+        <translation>%1 deleted them on %2 from %3.</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Restore</translation>
+    </message>
+</context>
+<context>
+    <name>LinkProofDialog</name>
+    <message>
+        <source>Prüfung der Nummern</source>
+        <translation>Proof of the numbers</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Befund</source>
+        <translation>Finding</translation>
+    </message>
+    <message>
+        <source>Nummern an Projekten dieses Mappings: %1, an anderen Projekten: %2</source>
+        <translation>Numbers of projects of this mapping: %1, of other projects: %2</translation>
+    </message>
+    <message>
+        <source>Nicht verglichen, da nicht lesbar: %1</source>
+        <translation>Not compared, for unreadable: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Zeile ausgelaufen oder nicht da</source>
+        <translation>Line expired or not there</translation>
+    </message>
+    <message>
+        <source>als ausgelaufen bestätigt</source>
+        <translation>confirmed as expired</translation>
+    </message>
+    <message>
+        <source>das Projekt hat sie nicht</source>
+        <translation>the project does not have it</translation>
+    </message>
+    <message>
+        <source>Von mehreren Zeilen beansprucht</source>
+        <translation>Claimed by several lines</translation>
+    </message>
+    <message>
+        <source>nahe Zahl</source>
+        <translation>close number</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>other number</translation>
+    </message>
+    <message>
+        <source>anderer Text</source>
+        <translation>other text</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>fehlt</source>
+        <translation>missing</translation>
+    </message>
+    <message>
+        <source>Teil weicht ab</source>
+        <translation>Part differs</translation>
+    </message>
+    <message>
+        <source>Teil weicht ab (nicht verglichen)</source>
+        <translation>Part differs (not compared)</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen mit Nummern</source>
+        <translation>Open lines with numbers</translation>
+    </message>
+</context>
+<context>
     <name>LogWindow</name>
     <message>
         <source>Alle Meldungen kopieren</source>
@@ -845,6 +1131,10 @@ Please choose another file.</translation>
     <message>
         <source>&amp;Prüfen</source>
         <translation>&amp;Review</translation>
+    </message>
+    <message>
+        <source>Keine Verbindung zur Linkdatenbank: %1</source>
+        <translation>No connection to the link database: %1</translation>
     </message>
 </context>
 <context>
@@ -1301,6 +1591,18 @@ Line: %2
     <message>
         <source>nicht verfügbar: es ist keine Zeile gewählt</source>
         <translation>not available: no line is selected</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: die Linkdatenbank wird verbunden</source>
+        <translation>not available: the link database is being connected</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: %1</source>
+        <translation>not available: %1</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: der Linkmanager wartet auf keine Auswahl</source>
+        <translation>not available: the link manager waits for no selection</translation>
     </message>
 </context>
 <context>

@@ -88,10 +88,11 @@ QString LinkDbSettings::toText() const
     QUrl url;
     QUrlQuery query;
     url.setScheme(QStringLiteral("postgresql"));
-    if (host.contains(u'/'))
+    const bool isSocket = host.contains(u'/');
+    if (isSocket)
         query.addQueryItem(QStringLiteral("host"), host);
-    else
-        url.setHost(host);
+    // A null one would leave out "//".
+    url.setHost(isSocket || host.isEmpty() ? QStringLiteral("") : host);
     if (port > 0 && !url.host().isEmpty())
         url.setPort(port);
     else if (port > 0)
@@ -105,10 +106,7 @@ QString LinkDbSettings::toText() const
         query.addQueryItem(QStringLiteral("sslmode"), sslMode);
     if (!query.isEmpty())
         url.setQuery(query);
-    const QString text = url.toString(QUrl::FullyEncoded);
-    // Without a host QUrl writes no "//".
-    const QString scheme = QStringLiteral("postgresql:/");
-    return url.host().isEmpty() ? scheme + QStringLiteral("//") + text.mid(scheme.size()) : text;
+    return url.toString(QUrl::FullyEncoded);
 }
 
 QString LinkDbSettings::displayName() const
