@@ -80,7 +80,8 @@ private:
 };
 
 /// Key columns as in SourceTable, for any table.
-[[nodiscard]] std::vector<int> keyColumnsOf(const std::shared_ptr<const VKTab::TableData> &data);
+[[nodiscard]] VELKGEOMCORE_EXPORT std::vector<int>
+keyColumnsOf(const std::shared_ptr<const VKTab::TableData> &data);
 
 /// The line's values by name, as createVarsetFromVKTable gives them for what the line shows.
 [[nodiscard]] QHash<QString, MapVarValueC> varsetOf(const VKTab::LineView &line);
