@@ -1,114 +1,188 @@
 // How well the program finds the new lines of old lines, on releases of real tables with a file
-// that tells where each line went: scorereport FOLDER, with FOLDER/release-2021, release-2022,
-// release-2026, truth-2021-to-2026.csv and truth-2022-to-2026.csv, and the same with value ranges
-// in FOLDER-ranges (2022 only). Exit status 2 if anything cannot be read or a line is assigned
-// wrongly.
+// that tells where each line went, as they are and disturbed as catalogs are.
+//
+//     scorereport [--misses] [--only NAME] FOLDER...
+//
+// A folder has old, new and truth.csv, or release-2021, release-2022, release-2026 and
+// truth-YEAR-to-2026.csv. Every set is measured with and without its first columns, which are
+// mostly keys. --only takes the disturbances whose name contains NAME. Exit status 2 if anything
+// cannot be read or a line is assigned wrongly.
 
-#include "SimilarityTrial.h"
+#include "Disturbance.h"
+#include "RuleScore.h"
 
-#include <tests/road/RoadScore.h>
 #include <tests/road/SampleRoad.h>
-#include <tests/road/TruthFile.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 
 namespace {
 
-struct Run
+struct Options
 {
-    QString name;
-    QString folder;
-    QString year;
-    SampleRoad::Columns columns = SampleRoad::Columns::All;
-
-    [[nodiscard]] QString oldTables() const { return folder + "/release-" + year; }
-    [[nodiscard]] QString newTables() const { return folder + "/release-2026"; }
-    [[nodiscard]] QString truth() const { return folder + "/truth-" + year + "-to-2026.csv"; }
+    bool misses = false;
+    QString only;
+    QStringList folders;
 };
 
-QList<Run> runsOf(const QString &folder)
+/// Most memory that the process has taken so far, in MB.
+QString memory()
 {
-    QList<Run> runs;
-    for (const auto columns : {SampleRoad::Columns::All, SampleRoad::Columns::WithoutFirst}) {
-        const QString suffix =
-            columns == SampleRoad::Columns::All ? QString() : " without first column";
-        runs << Run{"2021" + suffix, folder, "2021", columns}
-             << Run{"2022" + suffix, folder, "2022", columns}
-             << Run{"2022 with ranges" + suffix, folder + "-ranges", "2022", columns};
+    QFile status("/proc/self/status");
+    if (!status.open(QIODevice::ReadOnly))
+        return "?";
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return QString::number(line.mid(6).trimmed().split(' ').first().toInt() / 1024);
     }
-    return runs;
+    return "?";
 }
 
-/// False if the road or the truth cannot be had; the reason is printed.
-bool printScore(const Run &run, QTextStream &out, QStringList &wrong)
+bool readSets(const QString &folder, std::vector<SampleSet> &sets)
+{
+    const QString name = QDir(folder).dirName();
+    if (QFile::exists(folder + "/truth.csv")) {
+        sets.push_back({name, {}, {}, {}});
+        return sets.back().read(folder + "/old", folder + "/new", folder + "/truth.csv");
+    }
+    bool any = false;
+    for (const QString &year : {"2021", "2022"}) {
+        const QString truth = folder + "/truth-" + year + "-to-2026.csv";
+        if (!QFile::exists(truth))
+            continue;
+        sets.push_back({name + ' ' + year, {}, {}, {}});
+        any = true;
+        if (!sets.back().read(folder + "/release-" + year, folder + "/release-2026", truth))
+            return false;
+    }
+    return any;
+}
+
+QString percent(int part, int all)
+{
+    return all > 0 ? QString::number(100.0 * part / all, 'f', 2) : QStringLiteral("-");
+}
+
+RuleScore measure(const SampleSet &set)
 {
     const QTemporaryDir work(SampleRoad::workTemplate());
-    const SampleRoad road =
-        SampleRoad::run(run.oldTables(), run.newTables(), run.columns, work.path());
-    TruthFile truth;
-    if (!road.error.isEmpty() || !truth.read(run.truth())) {
-        out << run.name << ": "
-            << (road.error.isEmpty() ? "cannot read " + run.truth() : road.error) << '\n';
-        return false;
+    const QDir folder(work.path());
+    RuleScore score;
+    if (!set.write(folder.filePath("oldcsv"), folder.filePath("newcsv"))) {
+        score.error = "cannot write to " + work.path();
+        return score;
     }
-    const RoadScore score = scoreRoad(road.release, truth);
-    out << "| " << run.name << " | " << score.known << " | "
-        << QString::number(score.found(), 'f', 2) << " % | " << score.mappedRight << " | "
-        << score.mappedWrong << " | " << score.proposedRight << " | " << score.proposedWrong
-        << " | " << score.notFound << " | " << score.goneProposed << " of " << score.gone << " | "
-        << score.unknown << " |\n";
-    for (const QString &line : score.wrong)
-        wrong << run.name + ": " + line;
-    return true;
+    const SampleRoad road = SampleRoad::run(folder.filePath("oldcsv"), folder.filePath("newcsv"),
+                                            SampleRoad::Columns::All, work.path());
+    if (road.error.isEmpty())
+        return RuleScore::of(set, road.release, folder.filePath("old"), folder.filePath("new"));
+    score.error = road.error;
+    return score;
 }
 
-bool printScores(const QString &folder, QTextStream &out)
+class Report
 {
-    out << "| run | lines | found | Mapped right | Mapped wrong | proposed right "
-           "| proposed wrong | not found | gone, proposed | unknown fate |\n"
-           "| --- | ---: | ---: | ---: | ---: | ---: | ---: | ---: | ---: | ---: |\n";
-    QStringList wrong;
-    bool good = true;
-    for (const Run &run : runsOf(folder)) {
-        if (run.folder == folder || QDir(run.folder).exists())
-            good = printScore(run, out, wrong) && good;
-        out.flush();
+public:
+    explicit Report(const Options &options)
+        : m_options(options)
+        , m_out(stdout)
+    {
+        m_out << "| set | lines | Mapped wrong | best % | reference % | proposed % | five % "
+                 "| wrong proposals | gone | of them proposed % | reference % | decisions of 1000 "
+                 "| by pattern | s | MB |\n|" +
+                     QString(" --- |").repeated(15) + '\n';
     }
-    for (const QString &line : wrong)
-        out << "\nMapped wrongly: " << line;
-    return good && wrong.isEmpty();
-}
 
-void printTrial(const QString &folder, int skippedColumns, QTextStream &out)
-{
-    TruthFile truth;
-    if (!truth.read(folder + "/truth-2022-to-2026.csv"))
-        return;
-    const SimilarityTrial trial(folder + "/release-2022", folder + "/release-2026", truth,
-                                skippedColumns);
-    out << "\nProposals by similarity alone, 2022"
-        << (skippedColumns ? " without first column" : "") << ", " << trial.lineCount()
-        << " lines: right/wrong as they are, right/wrong with one "
-        << "value changed, wrong with the right line taken out\n\n| threshold |";
-    const double margins[] = {0.0, 0.05, 0.10, 0.15, 0.20};
-    for (const double margin : margins)
-        out << " margin " << QString::number(margin, 'f', 2) << " |";
-    out << "\n| --- |" << QString(" ---: |").repeated(std::ssize(margins)) << '\n';
-    using Case = SimilarityTrial::Case;
-    for (const double threshold : {0.75, 0.80, 0.85, 0.90, 0.95}) {
-        out << "| " << QString::number(threshold, 'f', 2) << " |";
-        for (const double margin : margins) {
-            const auto asIs = trial.proposals(Case::AsIs, threshold, margin);
-            const auto changed = trial.proposals(Case::Changed, threshold, margin);
-            const auto takenOut = trial.proposals(Case::TakenOut, threshold, margin);
-            out << ' ' << asIs.right << '/' << asIs.wrong << ", " << changed.right << '/'
-                << changed.wrong << ", " << takenOut.wrong << " |";
+    void add(const SampleSet &original)
+    {
+        for (const Disturbance &disturbance : Disturbance::all()) {
+            if (!disturbance.name.contains(m_options.only))
+                continue;
+            SampleSet set = original;
+            disturbance.run(set);
+            QElapsedTimer timer;
+            timer.start();
+            const RuleScore score = measure(set);
+            print(set.name + ", " + disturbance.name, score, timer.elapsed());
         }
-        out << '\n';
     }
+    /// Whether all was read, and nothing is assigned wrongly.
+    bool end()
+    {
+        m_out << "\n| probability | candidates | said | true |\n| --- | --- | --- | --- |\n";
+        for (size_t i = 0; i < m_calibration.classes.size(); ++i) {
+            const Calibration::Class &at = m_calibration.classes[i];
+            if (at.count > 0)
+                m_out << "| 0." << i << " | " << at.count << " | "
+                      << QString::number(at.said / at.count, 'f', 3) << " | "
+                      << QString::number(double(at.right) / at.count, 'f', 3) << " |\n";
+        }
+        m_out << "\nCalibration error: " << QString::number(m_calibration.error(), 'f', 4)
+              << "\nRight ones best: " << m_best << ", by the reference: " << m_reference << ", of "
+              << m_known << '\n';
+        return m_good;
+    }
+
+private:
+    void print(const QString &name, const RuleScore &score, qint64 milliseconds)
+    {
+        if (!score.error.isEmpty()) {
+            m_out << name << ": " << score.error << '\n';
+            m_good = false;
+            return;
+        }
+        const auto perThousand = [&score](int count) {
+            return QString::number(score.open > 0 ? 1000 * count / score.open : 0);
+        };
+        m_out << "| " << name << " | " << score.known << " | " << score.mappedWrong << " | "
+              << percent(score.best, score.known) << " | "
+              << percent(score.referenceBest, score.known) << " | "
+              << percent(score.proposed, score.known) << " | " << percent(score.five, score.known)
+              << " | " << score.proposedWrong << " | " << score.gone << " | "
+              << percent(score.goneProposed, score.gone) << " | "
+              << percent(score.referenceGone, score.gone) << " | " << perThousand(score.open)
+              << " | " << perThousand(score.decisions) << " | "
+              << QString::number(double(milliseconds) / 1000, 'f', 1) << " | " << memory()
+              << " |\n";
+        for (const QString &miss : score.misses) {
+            if (m_options.misses)
+                m_out << "    " << miss << '\n';
+        }
+        m_out.flush();
+        m_calibration.add(score.calibration);
+        m_known += score.known;
+        m_best += score.best;
+        m_reference += score.referenceBest;
+        m_good = m_good && score.mappedWrong == 0;
+    }
+
+    const Options m_options;
+    QTextStream m_out;
+    Calibration m_calibration;
+    int m_known = 0;
+    int m_best = 0;
+    int m_reference = 0;
+    bool m_good = true;
+};
+
+Options optionsFrom(QStringList arguments)
+{
+    Options options;
+    arguments.removeFirst();
+    while (!arguments.isEmpty()) {
+        const QString argument = arguments.takeFirst();
+        if (argument == "--misses")
+            options.misses = true;
+        else if (argument == "--only" && !arguments.isEmpty())
+            options.only = arguments.takeFirst();
+        else
+            options.folders << QDir::cleanPath(argument);
+    }
+    return options;
 }
 
 } // namespace
@@ -116,14 +190,25 @@ void printTrial(const QString &folder, int skippedColumns, QTextStream &out)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    QTextStream out(stdout);
-    if (argc != 2) {
-        out << "Usage: scorereport FOLDER\n";
+    const Options options = optionsFrom(QCoreApplication::arguments());
+    std::vector<SampleSet> sets;
+    for (const QString &folder : options.folders) {
+        if (!readSets(folder, sets)) {
+            QTextStream(stderr) << "cannot read " << folder << '\n';
+            return 2;
+        }
+    }
+    if (sets.empty()) {
+        QTextStream(stderr) << "Usage: scorereport [--misses] [--only NAME] FOLDER...\n";
         return 1;
     }
-    const QString folder = QDir::cleanPath(QString::fromLocal8Bit(argv[1]));
-    const bool good = printScores(folder, out);
-    printTrial(folder, 0, out);
-    printTrial(folder, 1, out);
-    return good ? 0 : 2;
+    Report report(options);
+    for (const SampleSet &set : sets) {
+        report.add(set);
+        SampleSet without = set;
+        without.name += " without first column";
+        without.removeFirstColumns();
+        report.add(without);
+    }
+    return report.end() ? 0 : 2;
 }

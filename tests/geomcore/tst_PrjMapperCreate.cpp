@@ -91,10 +91,10 @@ void tst_PrjMapperCreate::exactHits_data()
     row("no value in any common variable", "D,k:n\n,\n", "D,k:n\n,\n", {"none"});
     row("internal columns do not count", "D,k:n,no:i\nM8,5,1\n", "D,k:n,no:i\nM8,5,2\n",
         {"0:1 ok"});
-    row("several equal lines: the first in display order", "D,k:n\nM9,6\nM8,5\n",
-        "D,k:n\nM8,5\nM9,6\nM8,5\n", {"0:2 ok", "0:1"});
-    row("equal lines on both sides are paired off in order", "D,k:n\nM8,5\nM8,5\nM8,5\n",
-        "D,k:n\nM8,5\nM8,5\n", {"0:1", "0:2", "0:1"});
+    row("several equal lines: the one in its place", "D,k:n\nM9,6\nM8,5\n",
+        "D,k:n\nM8,5\nM9,6\nM8,5\n", {"0:2 ok", "0:3"});
+    row("equal lines on both sides are paired off by place", "D,k:n\nM8,5\nM8,5\nM7,4\nM8,5\n",
+        "D,k:n\nM8,5\nM7,4\nM8,5\n", {"0:1", "0:1", "0:2 ok", "0:3"});
     row("two source lines for one target line", "D,k:n\nM8,5\nM8,5\nM9,6\n", "D,k:n\nM8,5\nM9,6\n",
         {"0:1", "0:1", "0:2 ok"});
     row("target range contains the value", "D,L:n\nM8,12\n", "D,L:r\nM8,10;12;16\n", {"0:1 ok"});
@@ -183,6 +183,11 @@ void tst_PrjMapperCreate::identity_data()
     QTest::newRow("the first column identifies")
         << source << Tables{{"new/a.prj", "D,a:n,b:n\nM9,30,40\nM8,10,20\n"}}
         << QStringList{"0:2", "0:1"};
+    QTest::newRow("six lines in reverse order")
+        << QByteArray("D,a:n,b:n\nM6,1,2\nM7,3,4\nM8,5,6\nM9,7,8\nM10,9,1\nM11,2,5\n")
+        << Tables{{"new/a.prj", "D,a:n,b:n\nM11,90,52\nM10,50,94\nM9,70,81\nM8,31,24\nM7,57,68\n"
+                                "M6,13,21\n"}}
+        << QStringList{"0:6", "0:5", "0:4", "0:3", "0:2", "0:1"};
     QTest::newRow("of several the most similar")
         << source
         << Tables{{"new/a.prj", "D,a:n,b:n\nM8,10,20\nM8,1,20\n1,1,1\n2,2,2\n3,3,3\n"
@@ -200,9 +205,9 @@ void tst_PrjMapperCreate::identity_data()
     QTest::newRow("not a column with many equal values")
         << source << Tables{{"new/a.prj", "D,a:n,b:n\nM8,10,20\nM8,11,21\nM9,30,40\n"}}
         << QStringList{"none", "none"};
-    QTest::newRow("not columns of different names")
+    QTest::newRow("two names in the same places")
         << source << Tables{{"new/a.prj", "E,D,a:n,b:n\nx,M8,10,20\ny,M9,30,40\n"}}
-        << QStringList{"none", "none"};
+        << QStringList{"0:1", "0:2"};
 }
 
 void tst_PrjMapperCreate::identity()
@@ -225,9 +230,11 @@ void tst_PrjMapperCreate::similarity_data()
     QTest::newRow("one value of ten differs")
         << head + line << head + "100,200,300,400,500,600,700,800,900,1\n" + noKey
         << QStringList{"0:1"};
-    QTest::newRow("two of ten differ: below the threshold")
+    QTest::newRow("two of ten differ")
         << head + line << head + "100,200,300,400,500,600,700,800,1,1\n" + noKey
-        << QStringList{"none"};
+        << QStringList{"0:1"};
+    QTest::newRow("nine of ten differ")
+        << head + line << head + "100,2,3,4,5,6,7,8,1,1\n" + noKey << QStringList{"none"};
     QTest::newRow("all numbers a little off")
         << head + line << head + "101,202,303,404,505,606,707,808,909,1010\n" + noKey
         << QStringList{"0:1"};
@@ -240,11 +247,13 @@ void tst_PrjMapperCreate::similarity_data()
         << head + "100,200,300,400,500,600,700,1,1,1\n" +
                "100,200,300,400,500,600,700,800,1,1000\n" + noKey
         << QStringList{"0:2"};
-    QTest::newRow("one value is too few")
-        << QByteArray("a:n\n100\n") << QByteArray("a\n101\nx\n") << QStringList{"none"};
-    QTest::newRow("too few values to compare")
+    QTest::newRow("one value that is near")
+        << QByteArray("a:n\n100\n") << QByteArray("a\n101\nx\n") << QStringList{"0:1"};
+    QTest::newRow("one value that is not")
+        << QByteArray("a:n\n100\n") << QByteArray("a\n7\nx\n") << QStringList{"none"};
+    QTest::newRow("most values cannot be compared")
         << QByteArray("a:n,b:n,c:n,d:n,e:n\n100,2,3,4,5\n") << QByteArray("a:n,b:n\n100,2.01\n,1\n")
-        << QStringList{"none"};
+        << QStringList{"0:1"};
 }
 
 void tst_PrjMapperCreate::similarity()
@@ -264,9 +273,9 @@ void tst_PrjMapperCreate::places_data()
     QTest::newRow("between two settled lines") << head + "1,1,1\n2,2,2\n3,3,3\n"
                                                << head + "1,1,1\n2,2,9\n3,3,3\n,7,7\n"
                                                << QStringList{"0:1 ok", "0:2", "0:3 ok"};
-    QTest::newRow("not if lines were put between them") << head + "1,1,1\n2,2,2\n3,3,3\n"
-                                                        << head + "1,1,1\n2,2,9\n,7,7\n3,3,3\n"
-                                                        << QStringList{"0:1 ok", "none", "0:4 ok"};
+    QTest::newRow("also if lines were put between them") << head + "1,1,1\n2,2,2\n3,3,3\n"
+                                                         << head + "1,1,1\n2,2,9\n,7,7\n3,3,3\n"
+                                                         << QStringList{"0:1 ok", "0:2", "0:4 ok"};
     QTest::newRow("before the first settled line") << head + "2,2,2\n1,1,1\n3,3,3\n"
                                                    << head + "2,2,9\n1,1,1\n3,3,3\n"
                                                    << QStringList{"0:1", "0:2 ok", "0:3 ok"};
@@ -275,11 +284,11 @@ void tst_PrjMapperCreate::places_data()
                                                  << QStringList{"0:1 ok", "0:2 ok", "0:3"};
     QTest::newRow("not if the line there is too different")
         << head + "1,1,1\n2,2,2\n3,3,3\n"
-        << head + "1,1,1\n2,8,9\n3,3,3\n,7,7\n"
+        << head + "1,1,1\n77,800,9\n3,3,3\n,7,7\n"
         << QStringList{"0:1 ok", "none", "0:3 ok"};
     QTest::newRow("not if another line is clearly more similar")
         << head + "1,1,1\n200,200,200\n3,3,3\n"
-        << head + "1,1,1\n200,200,9\n3,3,3\n200,200,201\n,7,7\n"
+        << head + "1,1,1\n200,8,9\n3,3,3\n200,200,201\n,7,7\n"
         << QStringList{"0:1 ok", "0:4", "0:3 ok"};
 }
 

@@ -2,8 +2,6 @@
 
 #include "ExactSearch.h"
 #include "PairJoinBuilder.h"
-#include "SimilarCandidates.h"
-#include "SimilaritySearch.h"
 #include "SourceTable.h"
 #include "TargetTable.h"
 
@@ -379,13 +377,6 @@ const IdentityKey &BoundTarget::identity() const
     if (!m_identity)
         m_identity = std::make_unique<IdentityKey>(m_source, *this);
     return *m_identity;
-}
-
-SimilaritySearch BoundTarget::similarity(const LineInput &line, const TargetValues &values) const
-{
-    const PairJoin *joined = line.row >= 0 ? join() : nullptr;
-    return {*m_table, values.search->variables(),
-            joined ? joined->freeCandidates(*m_table) : m_table->allCandidates()};
 }
 
 std::vector<int> BoundTarget::plainColumns() const

@@ -20,7 +20,6 @@
 namespace Mapper {
 
 class PairJoin;
-class SimilaritySearch;
 class SourceTable;
 class TargetTable;
 
@@ -79,11 +78,9 @@ public:
 
     /// Null without a source table.
     [[nodiscard]] const PairJoin *join() const;
+    /// What the join depends on beside the two tables.
+    [[nodiscard]] std::string signature() const;
     [[nodiscard]] const IdentityKey &identity() const;
-    /// For a similar line among those that are equal to no line of the source table, if that is
-    /// known.
-    [[nodiscard]] SimilaritySearch similarity(const LineInput &line,
-                                              const TargetValues &values) const;
 
     /// Every variable of the source table is one of the target's, so all values of a line are
     /// compared.
@@ -123,8 +120,6 @@ private:
     /// Names of the source's variables that a variable of the target is made of.
     [[nodiscard]] QStringList sourceNames(int variable) const;
     void setSearch(const std::vector<int> &variables, TargetValues &values) const;
-    [[nodiscard]] std::string signature() const;
-
     const int m_index;
     const PrjMappingTargetC m_target;
     const QString m_path;

@@ -1,6 +1,6 @@
 #include "DesignationIndex.h"
 
-#include "SimilarityRules.h"
+#include "CertaintyRules.h"
 #include "TargetTable.h"
 
 #include <geomcore/table/TableData.h>

@@ -20,9 +20,9 @@ public:
     [[nodiscard]] bool identifies() const { return m_identifies; }
     /// Rows, ascending, at most \a limit.
     [[nodiscard]] std::vector<int> rows(const std::string &text, size_t limit) const;
+    [[nodiscard]] std::string textOf(int row) const;
 
 private:
-    [[nodiscard]] std::string textOf(int row) const;
 
     const TargetTable &m_table;
     DesignationPattern m_pattern;

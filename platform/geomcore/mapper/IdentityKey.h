@@ -27,6 +27,8 @@ public:
     /// Rows of the target table with the line's identity, in display order, at most \a limit.
     [[nodiscard]] std::vector<int> rows(const LineInput &line, const TargetValues &values,
                                         int limit) const;
+    /// Norm numbers and designations; null if the lines are told apart otherwise.
+    [[nodiscard]] const DesignationIndex *designations() const { return m_designations.get(); }
     /// The key variables' index and their columns in the source table; null if the lines are told
     /// apart otherwise.
     [[nodiscard]] const VKTab::LineIndex *index() const { return m_index.get(); }

@@ -1,10 +1,10 @@
 #include "LineCheck.h"
 
+#include "CertaintyRules.h"
 #include "CheckMessages.h"
+#include "ComparedValues.h"
 #include "ExactSearch.h"
 #include "PairJoin.h"
-#include "Proposals.h"
-#include "SimilarityRules.h"
 #include "TargetTable.h"
 
 #include <geomcore/expression/MapVarValueC.h>

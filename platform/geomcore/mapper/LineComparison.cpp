@@ -1,11 +1,13 @@
 #include "LineComparison.h"
 
 #include "BoundTarget.h"
-#include "CellSimilarity.h"
 #include "ExactSearch.h"
 #include "TargetTable.h"
 
 #include <core/text/PString.h>
+#include <geomcore/plan/PairEvidence.h>
+
+#include <algorithm>
 
 namespace Mapper {
 
@@ -15,8 +17,6 @@ namespace {
 constexpr qsizetype MaxNamedVariables = 4;
 /// Characters that a sentence shows of a value.
 constexpr qsizetype MaxShown = 40;
-/// Values with at least this similarity are near each other.
-constexpr double NearSimilarity = 0.3;
 
 QString tr(const char *text)
 {
@@ -52,32 +52,36 @@ QString joined(const QString &kind, const QStringList &parts)
     return kind.arg(text);
 }
 
-ComparedVariableC::Outcome outcomeOf(const BoundTarget &target, const TargetValues &values,
-                                     size_t place, int row, std::string_view cell)
+/// Sets what became of two values that differ.
+void judgeChange(ComparedVariableC &variable, const Plan::CellEvidence &evidence)
 {
-    const LineTexts::Value &value = values.texts.values[place];
-    if (value.text.empty() && cell.empty())
-        return ComparedVariableC::Equal;
-    if (value.text.empty() || cell.empty())
-        return ComparedVariableC::Missing;
-    if (values.search->equals(value, row, place))
-        return ComparedVariableC::Equal;
-    const auto variable = size_t(values.search->variables()[place]);
-    const char decimalChar = target.table()->variables()[variable].decimalChar;
-    const double similarity =
-        ComparableCell(value.text).similarity(cell, decimalChar, NearSimilarity);
-    return similarity >= NearSimilarity ? ComparedVariableC::Near : ComparedVariableC::Different;
+    const auto likeliest = std::max_element(evidence.ways.begin(), evidence.ways.end());
+    switch (Plan::Way(likeliest - evidence.ways.begin())) {
+    case Plan::Way::Change:
+        variable.outcome = ComparedVariableC::Replaced;
+        variable.supports = std::max(1, int(evidence.supports + 0.5));
+        break;
+    case Plan::Way::Near:
+    case Plan::Way::Alike:
+        variable.outcome = ComparedVariableC::Near;
+        break;
+    case Plan::Way::Same:
+    case Plan::Way::Other:
+        variable.outcome = ComparedVariableC::Different;
+        break;
+    }
 }
 
 } // namespace
 
 QList<ComparedVariableC> compareLines(const BoundTarget &target, const TargetValues &values,
-                                      int row)
+                                      int row, const CellJudge &judge)
 {
     QList<ComparedVariableC> compared;
     std::string scratch;
     const TargetTable &table = *target.table();
     const std::vector<int> &variables = values.search->variables();
+    const std::vector<int> &known = target.variables();
     compared.reserve(qsizetype(variables.size()));
     for (size_t place = 0; place < variables.size(); ++place) {
         const std::string_view cell = table.text(row, variables[place], scratch);
@@ -86,7 +90,13 @@ QList<ComparedVariableC> compareLines(const BoundTarget &target, const TargetVal
         variable.name = table.variables()[size_t(variables[place])].name;
         variable.oldValue = QString::fromUtf8(value.data(), qsizetype(value.size()));
         variable.newValue = QString::fromUtf8(cell.data(), qsizetype(cell.size()));
-        variable.outcome = outcomeOf(target, values, place, row, cell);
+        const auto at = std::find(known.begin(), known.end(), variables[place]);
+        if (value.empty() != cell.empty())
+            variable.outcome = ComparedVariableC::Missing;
+        else if (value.empty() || values.search->equals(values.texts.values[place], row, place))
+            variable.outcome = ComparedVariableC::Equal;
+        else if (judge && at != known.end())
+            judgeChange(variable, judge(size_t(at - known.begin())));
         compared.append(variable);
     }
     return compared;

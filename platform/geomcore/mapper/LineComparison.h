@@ -2,16 +2,26 @@
 
 #include "LineCandidatesC.h"
 
+#include <functional>
+
+namespace Plan {
+struct CellEvidence;
+}
+
 namespace Mapper {
 
 class BoundTarget;
 struct TargetValues;
 
+/// What is known of a change: place in BoundTarget::variables().
+using CellJudge = std::function<Plan::CellEvidence(size_t place)>;
+
 /// How the values of a source line, as a target sees them, stand to those of one of its rows:
-/// every variable that both have, in the order of the target's table. Knows nothing of other
-/// lines, so that nothing is Replaced.
+/// every variable that both have, in the order of the target's table. \a judge is asked about
+/// values that differ; without it they are just different.
 [[nodiscard]] QList<ComparedVariableC> compareLines(const BoundTarget &target,
-                                                    const TargetValues &values, int row);
+                                                    const TargetValues &values, int row,
+                                                    const CellJudge &judge);
 
 /// One sentence in the user's language: which variables are equal, replaced (and in how many other
 /// lines alike), near, different, missing.

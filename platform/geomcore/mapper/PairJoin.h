@@ -2,14 +2,9 @@
 
 #include <geomcore/table/LineSet.h>
 
-#include <memory>
-#include <mutex>
 #include <vector>
 
 namespace Mapper {
-
-class SimilarCandidates;
-class TargetTable;
 
 /// Which lines of a source table have equal lines in a target table, all at once. Immutable once
 /// built; any thread.
@@ -45,19 +40,6 @@ public:
     /// should.
     [[nodiscard]] double agreement() const { return m_agreement; }
 
-    /// The target rows that are proposed for no source row: among these a line without an equal one
-    /// finds a similar one. Built at the first call.
-    [[nodiscard]] std::shared_ptr<const SimilarCandidates>
-    freeCandidates(const TargetTable &table) const;
-
-    struct Neighbours
-    {
-        int above = -1;
-        int below = -1; ///< Number of source rows if there is none.
-    };
-    /// The nearest source rows that have a hit. The first call looks through all rows.
-    [[nodiscard]] Neighbours neighbours(int sourceRow) const;
-
 private:
     friend class PairJoinBuilder;
 
@@ -65,7 +47,6 @@ private:
     {
         return rows.capacity() > 0 && rows.contains(row);
     }
-    void findNeighbours() const;
 
     std::vector<int> m_hits;
     VKTab::LineSet m_several;
@@ -77,11 +58,6 @@ private:
     VKTab::LineSet m_taken;
     VKTab::LineSet m_refused;
     double m_agreement = 0;
-    mutable std::once_flag m_freeOnce;
-    mutable std::shared_ptr<const SimilarCandidates> m_free;
-    mutable std::once_flag m_once;
-    mutable std::vector<int> m_above;
-    mutable std::vector<int> m_below;
 };
 
 } // namespace Mapper

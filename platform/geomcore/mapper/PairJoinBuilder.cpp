@@ -2,7 +2,7 @@
 
 #include "BoundTarget.h"
 #include "ExactSearch.h"
-#include "SimilarityRules.h"
+#include "CertaintyRules.h"
 #include "SourceTable.h"
 #include "TargetTable.h"
 

@@ -2,8 +2,8 @@
 
 #include "ExactSearch.h"
 #include "LineComparison.h"
+#include "LinePlans.h"
 #include "PairJoin.h"
-#include "Proposals.h"
 #include "TargetTable.h"
 #include "TargetTables.h"
 
@@ -21,9 +21,9 @@ using Mapper::TargetSet;
 
 namespace {
 
-/// Shares of right ones among equal lines and among proposals, see docs/line-assignment.md.
-constexpr double EqualProbability = 0.99;
-constexpr double ProposalProbability = 0.9;
+/// Share of right ones among lines with one equal line that equals no other, see
+/// docs/line-assignment.md.
+constexpr double EqualProbability = 0.995;
 
 /// The same but for their lines. Conditions and modifiers are shared immutable objects.
 bool haveSameTargets(const PrjMappingC &a, const PrjMappingC &b)
@@ -53,6 +53,7 @@ PrjMapperPrivate::~PrjMapperPrivate() = default;
 void PrjMapperPrivate::setSourceTable(const VKTab::Content &table)
 {
     m_targets.reset();
+    m_plan.reset();
     m_source = Mapper::SourceTable(table);
     m_source.setCancellation(m_isCanceled);
 }
@@ -66,6 +67,7 @@ void PrjMapperPrivate::setCancellation(std::function<bool()> isCanceled)
 void PrjMapperPrivate::setCreatorMode(bool creator)
 {
     m_targets.reset();
+    m_plan.reset();
     m_creatorMode = creator;
 }
 
@@ -73,6 +75,7 @@ void PrjMapperPrivate::setWorking(const PrjMappingC &mapping)
 {
     working.set(mapping);
     m_targets.reset();
+    m_plan.reset();
 }
 
 void PrjMapperPrivate::adoptNode()
@@ -172,31 +175,107 @@ PrjMapperLineC PrjMapperPrivate::createLine(const LineInput &line, bool firstTar
 Proposal PrjMapperPrivate::propose(const LineInput &line)
 {
     const Proposal equal = findEqual(line);
-    if (equal.target || hasEqualCombination(line))
+    if (equal.target)
+        return amongEqual(line, equal);
+    if (hasEqualCombination(line))
+        return {};
+    const std::vector<Plan::PlanEdge> edges = planned(line);
+    if (edges.empty() || edges.front().probability < LineCandidatesC::ProposedProbability)
+        return {};
+    return {openTarget(m_plan->targetOf(edges.front())), m_plan->rowOf(edges.front())};
+}
+
+Proposal PrjMapperPrivate::amongEqual(const LineInput &line, const Proposal &equal)
+{
+    const PairJoin *join = line.row >= 0 ? equal.target->join() : nullptr;
+    if (!join || join->hit(line.row) < 0 ||
+        (!join->isSeveral(line.row) && join->claims(equal.row) < 2))
         return equal;
-    return Mapper::Proposals(targets(), m_open).find(line);
+    for (const Plan::PlanEdge &edge : planned(line)) {
+        const BoundTarget *target = openTarget(m_plan->targetOf(edge));
+        if (!target || !TargetSet::haveSameProject(*target, *equal.target))
+            continue;
+        target->takeValues(line, m_values);
+        const int row = m_plan->rowOf(edge);
+        if (m_values.search->equals(m_values.texts, row))
+            return {equal.target, row};
+    }
+    return equal;
+}
+
+const Mapper::LinePlan *PrjMapperPrivate::plan(const LineInput &line)
+{
+    if (line.row < 0 || !m_source.isValid())
+        return nullptr;
+    if (!m_plan)
+        m_plan = Mapper::LinePlans::instance().get(targets(), working.mapping());
+    return m_plan.get();
+}
+
+const BoundTarget *PrjMapperPrivate::openTarget(int index) const
+{
+    const auto found = std::find_if(m_open.begin(), m_open.end(), [index](const auto *target) {
+        return target->index() == index;
+    });
+    return found == m_open.end() ? nullptr : *found;
+}
+
+std::vector<Plan::PlanEdge> PrjMapperPrivate::planned(const LineInput &line)
+{
+    const Mapper::LinePlan *whole = plan(line);
+    const Plan::LinePlanner::Line *own = whole ? whole->line(line.row) : nullptr;
+    std::vector<Plan::PlanEdge> edges = own ? own->candidates : std::vector<Plan::PlanEdge>();
+    std::erase_if(edges, [&](const Plan::PlanEdge &edge) {
+        return openTarget(whole->targetOf(edge)) == nullptr;
+    });
+    return edges;
+}
+
+LineCandidateC PrjMapperPrivate::candidate(const LineInput &line, const Proposal &proposal,
+                                           double probability, const Plan::PlanEdge *edge)
+{
+    proposal.target->takeValues(line, m_values);
+    Mapper::CellJudge judge;
+    if (edge)
+        judge = [&](size_t place) {
+            return m_plan->cell(*edge, line.row, place);
+        };
+    LineCandidateC candidate;
+    candidate.targetIndex = proposal.target->index();
+    candidate.targetPath = proposal.target->path();
+    candidate.lineId = proposal.target->table()->data().lineId(proposal.row);
+    candidate.probability = probability;
+    candidate.variables = Mapper::compareLines(*proposal.target, m_values, proposal.row, judge);
+    candidate.explanation = Mapper::explanationOf(candidate.variables);
+    return candidate;
 }
 
 LineCandidatesC PrjMapperPrivate::candidates(const LineInput &line)
 {
     collectOpenTargets(line, false);
-    const Proposal equal = findEqual(line);
-    const Proposal proposal = equal.target ? equal : propose(line);
     LineCandidatesC result;
     result.explanation = Mapper::nothingFits();
-    if (!proposal.target)
-        return result;
-    proposal.target->takeValues(line, m_values);
-    LineCandidateC candidate;
-    candidate.targetIndex = proposal.target->index();
-    candidate.targetPath = proposal.target->path();
-    candidate.lineId = proposal.target->table()->data().lineId(proposal.row);
-    candidate.probability = equal.target ? EqualProbability : ProposalProbability;
-    candidate.variables = Mapper::compareLines(*proposal.target, m_values, proposal.row);
-    candidate.explanation = Mapper::explanationOf(candidate.variables);
-    result.explanation = candidate.explanation;
-    result.noSuccessor = 1 - candidate.probability;
-    result.candidates.append(candidate);
+    const Proposal proposed = propose(line);
+    const std::vector<Plan::PlanEdge> edges = planned(line);
+    const Plan::LinePlanner::Line *own = m_plan ? m_plan->line(line.row) : nullptr;
+    if (proposed.target && !own) {
+        result.candidates.append(candidate(line, proposed, EqualProbability, nullptr));
+        result.noSuccessor = 1 - EqualProbability;
+    }
+    if (own)
+        result.noSuccessor = own->noSuccessor;
+    for (const Plan::PlanEdge &edge : edges) {
+        const Proposal found{openTarget(m_plan->targetOf(edge)), m_plan->rowOf(edge)};
+        const bool first = proposed.target &&
+                           TargetSet::haveSameProject(*found.target, *proposed.target) &&
+                           found.row == proposed.row;
+        if (edge.probability < LineCandidatesC::LeastProbability && !first)
+            continue;
+        const LineCandidateC made = candidate(line, found, edge.probability, &edge);
+        result.candidates.insert(first ? 0 : result.candidates.size(), made);
+    }
+    if (!result.candidates.isEmpty() && proposed.target)
+        result.explanation = result.candidates.first().explanation;
     return result;
 }
 
@@ -274,8 +353,10 @@ void PrjMapperPrivate::enter(const PrjMapperLineC &line)
     const bool confirmed =
         working.enter(line.getSourceLineId(), line.getTargetIndex(), line.getTargetLineId(),
                       line.getCheckState(), line.m_working);
-    if (confirmed && m_targets)
-        m_targets->forgetConfirmed();
+    if (!confirmed || !m_targets)
+        return;
+    m_targets->forgetConfirmed();
+    m_plan.reset();
 }
 
 PrjMapperPrivate::Varset PrjMapperPrivate::updateVarset(const PrjMapperLineC &line,

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "LineCheck.h"
+#include "LinePlan.h"
 #include "PrjMapperC.h"
-#include "Proposals.h"
 #include "SourceTable.h"
 #include "TargetSet.h"
 #include "WorkingMapping.h"
@@ -11,6 +11,17 @@
 
 #include <memory>
 #include <vector>
+
+namespace Mapper {
+
+/// A line that a source line may belong to.
+struct Proposal
+{
+    const BoundTarget *target = nullptr; ///< Null if there is nothing to propose.
+    int row = -1;
+};
+
+} // namespace Mapper
 
 /// What PrjMapperC works with. Targets are bound at the first need after a change of anything that
 /// they depend on.
@@ -86,6 +97,17 @@ private:
     void collectOpenTargets(const Mapper::LineInput &line, bool firstOnly);
     [[nodiscard]] Mapper::Proposal propose(const Mapper::LineInput &line);
     [[nodiscard]] Mapper::Proposal findEqual(const Mapper::LineInput &line);
+    /// Of several equal lines the one that the plan gives this line.
+    [[nodiscard]] Mapper::Proposal amongEqual(const Mapper::LineInput &line,
+                                              const Mapper::Proposal &equal);
+    /// Null if making it was cancelled, or there is nothing to plan for.
+    [[nodiscard]] const Mapper::LinePlan *plan(const Mapper::LineInput &line);
+    /// What the plan has for a line in the targets that are open for it, most probable first.
+    [[nodiscard]] std::vector<Plan::PlanEdge> planned(const Mapper::LineInput &line);
+    [[nodiscard]] const Mapper::BoundTarget *openTarget(int index) const;
+    [[nodiscard]] LineCandidateC candidate(const Mapper::LineInput &line,
+                                           const Mapper::Proposal &proposal, double probability,
+                                           const Plan::PlanEdge *edge);
     [[nodiscard]] bool hasEqualCombination(const Mapper::LineInput &line);
     [[nodiscard]] PrjMapperLineC proposedLine(int lineId, const Mapper::Proposal &proposal) const;
 
@@ -93,6 +115,7 @@ private:
     std::function<bool()> m_isCanceled;
     Mapper::SourceTable m_source;
     std::unique_ptr<Mapper::TargetSet> m_targets;
+    std::shared_ptr<const Mapper::LinePlan> m_plan;
     std::vector<const Mapper::BoundTarget *> m_open;
     Mapper::TargetValues m_values;
 };

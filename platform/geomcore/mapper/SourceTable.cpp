@@ -1,6 +1,6 @@
 #include "SourceTable.h"
 
-#include "SimilarityRules.h"
+#include "CertaintyRules.h"
 
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/table/LineIndex.h>

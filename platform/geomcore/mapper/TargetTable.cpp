@@ -4,15 +4,12 @@
 #include "ElementIndex.h"
 #include "ExactSearch.h"
 #include "PairJoin.h"
-#include "SimilarCandidates.h"
 #include "SourceTable.h"
 
 #include <geomcore/table/LineMapping.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TableData.h>
-
-#include <numeric>
 
 namespace Mapper {
 
@@ -113,15 +110,6 @@ std::shared_ptr<const ElementIndex> TargetTable::elementIndex(int variable) cons
 {
     return m_elements.get(variable,
                           [&] { return std::make_shared<ElementIndex>(*this, variable); });
-}
-
-std::shared_ptr<const SimilarCandidates> TargetTable::allCandidates() const
-{
-    return m_candidates.get(0, [&] {
-        std::vector<int> rows(size_t(m_data->rowCount()));
-        std::iota(rows.begin(), rows.end(), 0);
-        return std::make_shared<SimilarCandidates>(*this, std::move(rows));
-    });
 }
 
 std::shared_ptr<const DesignationIndex> TargetTable::designations() const

@@ -17,7 +17,6 @@
 
 namespace Mapper {
 
-class SimilarCandidates;
 class DesignationIndex;
 class ElementIndex;
 class ExactSearch;
@@ -66,8 +65,6 @@ public:
     [[nodiscard]] std::shared_ptr<const VKTab::LineIndex>
     lineIndex(const std::vector<int> &variables) const;
     [[nodiscard]] std::shared_ptr<const ElementIndex> elementIndex(int variable) const;
-    /// All lines, to seek a similar one among.
-    [[nodiscard]] std::shared_ptr<const SimilarCandidates> allCandidates() const;
     [[nodiscard]] std::shared_ptr<const DesignationIndex> designations() const;
     /// The variables that tell the lines apart, see SourceTable::keyColumns.
     [[nodiscard]] std::shared_ptr<const std::vector<int>> keyVariables() const;
@@ -84,7 +81,6 @@ private:
     mutable Memo<std::vector<int>, ExactSearch> m_exact;
     mutable Memo<std::vector<int>, VKTab::LineIndex> m_indexes;
     mutable Memo<int, ElementIndex> m_elements;
-    mutable Memo<int, SimilarCandidates> m_candidates;
     mutable Memo<int, DesignationIndex> m_designations;
     mutable Memo<int, std::vector<int>> m_keyVariables;
     mutable JoinCache m_joins;

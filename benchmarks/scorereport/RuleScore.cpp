@@ -1,0 +1,210 @@
+#include "RuleScore.h"
+
+#include "ReferenceRule.h"
+
+#include <core/text/PPathName.h>
+#include <geomcore/index/IndexTreeC.h>
+#include <geomcore/mapper/PrjMapperC.h>
+#include <geomcore/records/CatalogMappingC.h>
+#include <geomcore/table/ContentRef.h>
+#include <geomcore/table/LineView.h>
+#include <geomcore/table/readProjectTable.h>
+#include <geomcore/table/TableData.h>
+
+#include <QMap>
+
+namespace {
+
+/// "catalog/a/bolt.prj" becomes "a/bolt".
+QString tableName(const QString &projectPath)
+{
+    const qsizetype begin = projectPath.indexOf('/') + 1;
+    return projectPath.mid(begin, projectPath.lastIndexOf('.') - begin);
+}
+
+/// What lines must have in common to be settled by one decision: which variables differ, and how.
+QString patternOf(const LineCandidateC &candidate)
+{
+    QStringList parts;
+    for (const ComparedVariableC &variable : candidate.variables) {
+        if (variable.outcome != ComparedVariableC::Equal)
+            parts << variable.name + ':' + QString::number(variable.outcome);
+    }
+    return parts.join(';');
+}
+
+struct Pattern
+{
+    int lines = 0;
+    int right = 0;
+};
+
+class Scorer
+{
+public:
+    Scorer(const SampleSet &set, const QString &sourceRoot)
+        : m_set(set)
+        , m_sourceRoot(sourceRoot)
+    {
+    }
+
+    void add(const PrjMappingC &mapping, const ReleaseMappingC &dates)
+    {
+        const QString source = tableName(mapping.getSourcePath());
+        const auto table = m_set.olds.find(source);
+        VKTab::ContentRef content;
+        const QString file =
+            (PPathName(m_sourceRoot) + PPathName(mapping.getSourcePath())).native();
+        if (table == m_set.olds.end() ||
+            !VKTab::readProjectTable(
+                file, content,
+                {.catalogPath = mapping.getSourcePath(), .allLines = true, .tells = false}))
+            return;
+        ReleaseMappingC release = dates;
+        release.addMapping(mapping);
+        CatalogMappingC catalog;
+        catalog.addRelease(release);
+        PrjMapperC mapper(IndexTreeC::instance());
+        mapper.setCreatorMode(true);
+        mapper.setSourceProject(PPathName(mapping.getSourcePath()));
+        mapper.setSourceTable(content);
+        (void)mapper.findMapping(mapping.getSourcePath(), mapping.getSourceVersion(), catalog);
+        QStringList targets;
+        for (const PrjMappingTargetC &target : mapping.getTargets()) {
+            const QString name = tableName(target.getTargetPath());
+            if (m_set.news.contains(name) && !targets.contains(name))
+                targets << name;
+        }
+        const auto reference = ReferenceRule::partners(*table, m_set.news, targets);
+        m_patterns.clear();
+        for (int line = 1; line <= int(table->lines.size()); ++line)
+            addLine(mapper, content, {source, line}, mapping, reference.value(line));
+        for (const Pattern &pattern : std::as_const(m_patterns))
+            m_score.decisions += pattern.right == pattern.lines ? 1 : pattern.lines;
+    }
+    /// Lines of tables without a mapping.
+    void addRest()
+    {
+        for (auto entry = m_set.truth.begin(); entry != m_set.truth.end(); ++entry) {
+            if (entry->unknown || m_seen.contains(entry.key()))
+                continue;
+            ++(entry->places.isEmpty() ? m_score.gone : m_score.known);
+            if (!entry->places.isEmpty())
+                m_score.misses << entry.key().first + ": no mapping";
+        }
+    }
+    [[nodiscard]] const RuleScore &score() const { return m_score; }
+
+private:
+    void addLine(PrjMapperC &mapper, const VKTab::Content &content, const TruthFile::Place &line,
+                 const PrjMappingC &mapping, const TruthFile::Place &reference)
+    {
+        const auto entry = m_set.truth.find(line);
+        if (entry == m_set.truth.end() || entry->unknown)
+            return;
+        m_seen.insert(line, true);
+        const bool gone = entry->places.isEmpty();
+        ++(gone ? m_score.gone : m_score.known);
+        const VKTab::LineView view(content, VKTab::LineId(line.second));
+        const PrjMappingLineC stored = mapping.findLine(line.second, view);
+        const bool found = stored.isValid() && stored.isFound();
+        const TruthFile::Place assigned =
+            found ? TruthFile::Place(
+                        tableName(mapping.targetAt(stored.getTargetIndex()).getTargetPath()),
+                        stored.getTargetLineId())
+                  : TruthFile::Place();
+        const bool right = found && entry->places.contains(assigned);
+        const bool mapped = found && stored.getCheckState() == PRJMAPPING::Mapped;
+        m_score.mappedWrong += mapped && !right ? 1 : 0;
+        m_score.goneProposed += gone && found ? 1 : 0;
+        m_score.proposed += right ? 1 : 0;
+        m_score.proposedWrong += !gone && found && !right ? 1 : 0;
+        const bool referenceRight = entry->places.contains(reference);
+        m_score.referenceBest += referenceRight ? 1 : 0;
+        m_score.referenceGone += gone && reference.second > 0 ? 1 : 0;
+        const LineCandidatesC all = mapper.candidates(line.second, view);
+        addCandidates(all, *entry, mapped, found);
+        if (right == gone || (gone && found))
+            m_score.misses << QStringLiteral("%1:%2 -> %3:%4, %5 (%6)")
+                                  .arg(line.first, QString::number(line.second), assigned.first,
+                                       QString::number(assigned.second), all.explanation,
+                                       QString::number(all.noSuccessor, 'f', 2));
+    }
+
+    void addCandidates(const LineCandidatesC &all, const TruthFile::Entry &entry, bool mapped,
+                       bool found)
+    {
+        bool best = false;
+        bool any = false;
+        for (qsizetype i = 0; i < all.candidates.size(); ++i) {
+            const LineCandidateC &candidate = all.candidates[i];
+            const bool right = entry.places.contains(
+                TruthFile::Place(tableName(candidate.targetPath), candidate.lineId.value(0)));
+            best = best || (i == 0 && right);
+            any = any || right;
+            m_score.calibration.add(candidate.probability, right);
+        }
+        m_score.best += best ? 1 : 0;
+        m_score.five += any ? 1 : 0;
+        if (mapped)
+            return;
+        ++m_score.open;
+        if (!found || all.candidates.isEmpty()) {
+            ++m_score.decisions;
+            return;
+        }
+        Pattern &pattern = m_patterns[patternOf(all.candidates.first())];
+        ++pattern.lines;
+        pattern.right += best ? 1 : 0;
+    }
+
+    const SampleSet &m_set;
+    const QString m_sourceRoot;
+    QHash<TruthFile::Place, bool> m_seen;
+    QMap<QString, Pattern> m_patterns;
+    RuleScore m_score;
+};
+
+} // namespace
+
+void Calibration::add(double probability, bool right)
+{
+    Class &at = classes[size_t(std::min(9, int(probability * 10)))];
+    ++at.count;
+    at.said += probability;
+    at.right += right ? 1 : 0;
+}
+
+void Calibration::add(const Calibration &other)
+{
+    for (size_t i = 0; i < classes.size(); ++i) {
+        classes[i].count += other.classes[i].count;
+        classes[i].said += other.classes[i].said;
+        classes[i].right += other.classes[i].right;
+    }
+}
+
+double Calibration::error() const
+{
+    double distance = 0;
+    int count = 0;
+    for (const Class &at : classes) {
+        distance += std::abs(at.said - at.right);
+        count += at.count;
+    }
+    return count > 0 ? distance / count : 0;
+}
+
+RuleScore RuleScore::of(const SampleSet &set, const ReleaseMappingC &release,
+                        const QString &sourceRoot, const QString &targetRoot)
+{
+    IndexTreeC::instance()->setCatalogRoot(PPathName(targetRoot));
+    ReleaseMappingC dates;
+    dates.setSourceDate(release.getSourceDate());
+    dates.setTargetDate(release.getTargetDate());
+    Scorer scorer(set, sourceRoot);
+    for (const PrjMappingC &mapping : release.getMappingList())
+        scorer.add(mapping, dates);
+    scorer.addRest();
+    return scorer.score();
+}

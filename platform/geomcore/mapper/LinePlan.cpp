@@ -1,0 +1,249 @@
+#include "LinePlan.h"
+
+#include "DesignationIndex.h"
+#include "PairJoin.h"
+#include "TargetTable.h"
+
+#include <geomcore/table/LineView.h>
+#include <geomcore/table/TableData.h>
+
+#include <algorithm>
+
+namespace Mapper {
+
+namespace {
+
+/// Rows of a target's table from which it is learned how often values occur.
+constexpr int MaxSampled = 20'000;
+/// Lines with several equal ones that are told apart by their place.
+constexpr int MaxTied = 20'000;
+
+LineInput inputOf(const SourceTable &source, const VKTab::LineView &view)
+{
+    LineInput input;
+    input.lineId = source.data()->lineId(view.row()).value(0);
+    input.row = view.row();
+    input.view = &view;
+    input.stored = true;
+    return input;
+}
+
+} // namespace
+
+LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping)
+    : m_source(&targets.source())
+    , m_walksRanges(!targets.ranges().isEmpty())
+{
+    const int rows = source().data()->rowCount();
+    m_tables.sourceRows = rows;
+    m_settledTarget.assign(size_t(rows), -1);
+    m_settledRow.assign(size_t(rows), -1);
+    m_openOf.assign(size_t(rows), -1);
+    findSettled(targets, mapping);
+    for (int row = 0; row < rows; ++row) {
+        if (m_settledTarget[size_t(row)] >= 0)
+            continue;
+        m_openOf[size_t(row)] = int(m_tables.openLines.size());
+        m_tables.openLines.push_back(row);
+    }
+    for (size_t i = 0; i < m_bound.size() && !m_tables.openLines.empty(); ++i)
+        fill(*m_bound[i], m_tables.targets[i]);
+    m_tables.variableCount = int(m_variableNumbers.size());
+    m_planner = std::make_unique<Plan::LinePlanner>(m_tables);
+    m_planner->setCancellation([this] { return source().isCanceled(); });
+    if (!m_tables.openLines.empty())
+        m_planner->run();
+    m_isCanceled = source().isCanceled();
+    m_planner->setCancellation({});
+    m_bound.clear();
+    m_claimed.clear();
+    m_settledTarget = {};
+    m_settledRow = {};
+    m_source = nullptr;
+}
+
+LinePlan::~LinePlan() = default;
+
+void LinePlan::findSettled(TargetSet &targets, const PrjMappingC &mapping)
+{
+    for (int i = 0; i < targets.count(); ++i) {
+        const BoundTarget *target = targets.at(i, mapping);
+        if (!target || !target->isOpen() || target->variables().empty())
+            continue;
+        Plan::PlanTarget filled;
+        filled.rowCount = target->table()->data().rowCount();
+        filled.hasSourceName = targets.rank(*target) != NameRank::Other;
+        const auto same = std::find_if(m_bound.begin(), m_bound.end(), [&](const auto *other) {
+            return other->table() == target->table();
+        });
+        filled.table = same == m_bound.end()
+                           ? int(m_claimed.size())
+                           : m_tables.targets[size_t(same - m_bound.begin())].table;
+        if (same == m_bound.end())
+            m_claimed.emplace_back(size_t(filled.rowCount), 0);
+        filled.settled.assign(m_settledRow.size(), -1);
+        m_bound.push_back(target);
+        m_targetIndexes.push_back(i);
+        m_tables.targets.push_back(std::move(filled));
+    }
+    takeConfirmed(targets, mapping);
+    for (size_t place = 0; place < m_bound.size(); ++place)
+        takeEqual(*m_bound[place], place);
+}
+
+void LinePlan::takeConfirmed(TargetSet &targets, const PrjMappingC &mapping)
+{
+    for (int i = 0; i < targets.count(); ++i) {
+        const PrjMappingTargetC &entries = mapping.targetAt(i);
+        if (entries.lineCounts().verified() == 0)
+            continue;
+        const auto known = std::find(m_targetIndexes.begin(), m_targetIndexes.end(), i);
+        const auto place = size_t(known - m_targetIndexes.begin());
+        for (const LineTable::Iterator &entry : entries.lines()) {
+            if (entry.state() != PRJMAPPING::Verified || known == m_targetIndexes.end())
+                continue;
+            const int line = source().rowOf(entry.sourceLine());
+            const int row = m_bound[place]->table()->data().rowOf(entry.targetLine());
+            if (line < 0 || row < 0)
+                continue;
+            m_settledTarget[size_t(line)] = int(place);
+            m_settledRow[size_t(line)] = row;
+            m_tables.targets[place].settled[size_t(line)] = row;
+            m_claimed[size_t(m_tables.targets[place].table)][size_t(row)] = 1;
+        }
+    }
+}
+
+/// Lines with one equal line that no other line equals. If very many have several, these stay as
+/// they were paired off in order: their values tell nothing more.
+void LinePlan::takeEqual(const BoundTarget &target, size_t place)
+{
+    const PairJoin *join = target.join();
+    if (!join)
+        return;
+    std::vector<char> &claimed = m_claimed[size_t(m_tables.targets[place].table)];
+    const auto isTied = [&](int line, int row) {
+        return join->isSeveral(line) || join->claims(row) != 1;
+    };
+    int tied = 0;
+    for (int line = 0; line < join->sourceRows(); ++line)
+        tied += join->hit(line) >= 0 && isTied(line, join->hit(line)) ? 1 : 0;
+    for (int line = 0; line < join->sourceRows(); ++line) {
+        const int row = join->hit(line);
+        if (row < 0 || m_settledTarget[size_t(line)] >= 0 || claimed[size_t(row)] ||
+            (tied <= MaxTied && isTied(line, row)))
+            continue;
+        m_settledTarget[size_t(line)] = int(place);
+        m_settledRow[size_t(line)] = row;
+        m_tables.targets[place].settled[size_t(line)] = row;
+        claimed[size_t(row)] = 1;
+    }
+}
+
+bool LinePlan::takes(const BoundTarget &target, int sourceRow) const
+{
+    if (m_walksRanges)
+        return target.join() && target.join()->takesSome(sourceRow);
+    const VKTab::LineView view(*source().data(), sourceRow);
+    return target.conditionsHold(inputOf(source(), view));
+}
+
+void LinePlan::fill(const BoundTarget &target, Plan::PlanTarget &filled)
+{
+    const std::vector<char> &claimed = m_claimed[size_t(filled.table)];
+    for (int row = 0; row < filled.rowCount; ++row) {
+        const bool shown = !target.shownOnly() || target.table()->isShown(row);
+        if (!claimed[size_t(row)] && shown)
+            filled.openRows.push_back(row);
+    }
+    for (const int variable : target.variables()) {
+        const QString &name = target.table()->variables()[size_t(variable)].name;
+        filled.variables.push_back(
+            m_variableNumbers.emplace(name, int(m_variableNumbers.size())).first->second);
+    }
+    if (target.identity().designations()) // what tells the lines apart is one more variable
+        filled.variables.push_back(
+            m_variableNumbers.emplace(QString(), int(m_variableNumbers.size())).first->second);
+    fillLines(target, filled);
+    fillRows(target, filled);
+}
+
+void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
+{
+    const std::vector<int> &open = m_tables.openLines;
+    const size_t count = target.variables().size();
+    filled.lines = Plan::CellMatrix(open.size(), filled.variables.size());
+    filled.takes.assign(open.size(), 0);
+    TargetValues values;
+    for (size_t line = 0; line < open.size(); ++line) {
+        if (!takes(target, open[line]))
+            continue;
+        const VKTab::LineView view(*source().data(), open[line]);
+        target.takeValues(inputOf(source(), view), values);
+        for (size_t place = 0; place < count; ++place) {
+            const LineTexts::Value &value = values.texts.values[place];
+            filled.lines.set(line, place, m_tables.values.number(value.text, value.decimalChar));
+            // A line without a value there is like no line.
+            if (!value.text.empty())
+                filled.takes[line] = 1;
+        }
+        if (filled.variables.size() > count)
+            filled.lines.set(line, count, m_tables.values.number(source().designation(view), '.'));
+    }
+}
+
+bool LinePlan::isKey(const BoundTarget &target, bool hasSourceName, size_t place)
+{
+    if (place == target.variables().size())
+        return true;
+    const auto variable = size_t(target.variables()[place]);
+    const TargetTable &table = *target.table();
+    if (table.data().descriptor().primaryKey.contains(table.variables()[variable].name))
+        return true;
+    // A first column that looks like a key may be a measure as well, or that of another thing.
+    return hasSourceName && target.identity().index() &&
+           table.keyVariables()->front() == int(variable) && target.isText(int(variable));
+}
+
+void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled)
+{
+    const TargetTable &table = *target.table();
+    const size_t count = filled.variables.size();
+    TargetTable::Row split;
+    std::string scratch;
+    const auto number = [&](size_t place) {
+        if (place == target.variables().size())
+            return m_tables.values.number(target.identity().designations()->textOf(split.row), '.');
+        const auto variable = size_t(target.variables()[place]);
+        return m_tables.values.number(table.text(split, int(variable), scratch),
+                                      table.variables()[variable].decimalChar);
+    };
+    filled.rows = Plan::CellMatrix(filled.openRows.size(), count);
+    for (size_t row = 0; row < filled.openRows.size(); ++row) {
+        table.split(filled.openRows[row], split);
+        for (size_t place = 0; place < count; ++place)
+            filled.rows.set(row, place, number(place));
+    }
+    filled.chances.resize(count);
+    const int step = filled.rowCount / MaxSampled + 1;
+    for (int row = 0; row < filled.rowCount; row += step) {
+        table.split(row, split);
+        for (size_t place = 0; place < count; ++place)
+            filled.chances[place].add(number(place));
+    }
+    for (size_t place = 0; place < filled.chances.size(); ++place)
+        filled.chances[place].finish(m_tables.values, isKey(target, filled.hasSourceName, place));
+}
+
+const Plan::LinePlanner::Line *LinePlan::line(int sourceRow) const
+{
+    const int open = sourceRow < 0 ? -1 : m_openOf[size_t(sourceRow)];
+    return open < 0 ? nullptr : &m_planner->lines()[size_t(open)];
+}
+
+Plan::CellEvidence LinePlan::cell(const Plan::PlanEdge &edge, int sourceRow, size_t place) const
+{
+    return m_planner->cell(edge, size_t(m_openOf[size_t(sourceRow)]), place);
+}
+
+} // namespace Mapper

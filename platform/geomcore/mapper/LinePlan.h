@@ -1,0 +1,65 @@
+#pragma once
+
+#include "TargetSet.h"
+
+#include <geomcore/plan/LinePlanner.h>
+
+#include <memory>
+#include <vector>
+
+namespace Mapper {
+
+/// The plan of a source table over the targets of a mapping: for each line that no equal line
+/// settles, the rows that it may have become. Immutable once made; any thread.
+class LinePlan
+{
+public:
+    /// Looks at the targets and at the confirmed lines of \a mapping. The result refers to neither.
+    LinePlan(TargetSet &targets, const PrjMappingC &mapping);
+    ~LinePlan();
+
+    /// Null for a line that is settled or not in the table.
+    [[nodiscard]] const Plan::LinePlanner::Line *line(int sourceRow) const;
+    /// Index of the target in the mapping.
+    [[nodiscard]] int targetOf(const Plan::PlanEdge &edge) const
+    {
+        return m_targetIndexes[size_t(edge.target)];
+    }
+    /// Row of the target's table.
+    [[nodiscard]] int rowOf(const Plan::PlanEdge &edge) const
+    {
+        return m_tables.targets[size_t(edge.target)].openRows[size_t(edge.row)];
+    }
+    /// How one of the target's variables() compares. None if it is not compared.
+    [[nodiscard]] Plan::CellEvidence cell(const Plan::PlanEdge &edge, int sourceRow,
+                                          size_t place) const;
+    [[nodiscard]] bool isCanceled() const { return m_isCanceled; }
+
+private:
+    void findSettled(TargetSet &targets, const PrjMappingC &mapping);
+    void takeConfirmed(TargetSet &targets, const PrjMappingC &mapping);
+    void takeEqual(const BoundTarget &target, size_t place);
+    void fill(const BoundTarget &target, Plan::PlanTarget &filled);
+    void fillLines(const BoundTarget &target, Plan::PlanTarget &filled);
+    void fillRows(const BoundTarget &target, Plan::PlanTarget &filled);
+    /// Whether the variable, or what follows the target's variables, tells lines apart.
+    [[nodiscard]] static bool isKey(const BoundTarget &target, bool hasSourceName, size_t place);
+    [[nodiscard]] bool takes(const BoundTarget &target, int sourceRow) const;
+
+    const SourceTable &source() const { return *m_source; }
+
+    const SourceTable *m_source = nullptr; ///< Only while it is made.
+    bool m_walksRanges = false;
+    Plan::PlanTables m_tables;
+    std::vector<int> m_targetIndexes;
+    std::vector<const BoundTarget *> m_bound; ///< Only while it is made.
+    std::vector<int> m_settledTarget;         ///< By source row: place in m_bound, or -1.
+    std::vector<int> m_settledRow;
+    std::vector<int> m_openOf;                ///< By source row: number of the open line, or -1.
+    std::vector<std::vector<char>> m_claimed; ///< By number of the table and row.
+    std::map<QString, int> m_variableNumbers;
+    std::unique_ptr<Plan::LinePlanner> m_planner;
+    bool m_isCanceled = false;
+};
+
+} // namespace Mapper

@@ -1,0 +1,68 @@
+#include "ColumnChance.h"
+
+#include "CellValues.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Plan {
+
+namespace {
+
+/// So many numbers say as much about what is near as the distance alone.
+constexpr double FewNumbers = 8;
+/// A key is unique among more lines than those of a small table.
+constexpr int LinesOfKey = 100;
+
+} // namespace
+
+void ColumnChance::finish(const CellValues &values, bool isKey)
+{
+    int single = 0;
+    for (const auto &[number, count] : m_counts) {
+        m_lineCount += count;
+        if (number == CellValues::NoValue)
+            continue;
+        m_valueCount += count;
+        const CellValues::Value &value = values.value(number);
+        single += count == 1 && (isKey || !value.isNumber) ? 1 : 0;
+        for (const int token : value.distinct)
+            m_tokens[token] += count;
+        if (value.isNumber)
+            m_numbers.insert(m_numbers.end(), size_t(count), value.number);
+    }
+    std::sort(m_numbers.begin(), m_numbers.end());
+    m_further = isKey ? LinesOfKey : 1;
+    m_known = 1 - double(single) / (m_valueCount + 1);
+}
+
+double ColumnChance::missing() const
+{
+    return (m_lineCount - m_valueCount + 0.5) / (m_lineCount + 1);
+}
+
+double ColumnChance::share(int value) const
+{
+    const auto found = m_counts.find(value);
+    return m_known * ((found == m_counts.end() ? 0 : found->second) + 0.5) /
+           (m_valueCount + m_further);
+}
+
+double ColumnChance::tokenShare(int token) const
+{
+    const auto found = m_tokens.find(token);
+    return ((found == m_tokens.end() ? 0 : found->second) + 0.5) / (m_valueCount + 1);
+}
+
+double ColumnChance::nearShare(double number, double other) const
+{
+    const double distance = std::abs(other - number);
+    const auto first = std::lower_bound(m_numbers.begin(), m_numbers.end(), number - distance);
+    const auto last = std::upper_bound(first, m_numbers.end(), number + distance);
+    const double part = distance / std::max(std::abs(number), std::abs(other));
+    // One of them is the other number itself, which counts half.
+    const double seen = std::max(0.0, double(last - first) - 1) + 0.5;
+    return (seen + FewNumbers * std::min(1.0, part)) / (double(m_numbers.size()) + FewNumbers);
+}
+
+} // namespace Plan

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <unordered_map>
+#include <vector>
+
+namespace Plan {
+
+class CellValues;
+
+/// How often values and tokens occur in one variable of a target's table: what a comparison would
+/// give for two lines that have nothing to do with each other.
+class ColumnChance
+{
+public:
+    void add(int value) { ++m_counts[value]; }
+    /// To be called when all values are in. \a isKey: the values are meant to
+    /// tell lines apart, also from those of other tables, and numbers are no measures.
+    void finish(const CellValues &values, bool isKey);
+
+    [[nodiscard]] int lineCount() const { return m_lineCount; }
+    [[nodiscard]] int valueCount() const { return m_valueCount; }
+    /// Share of the lines without a value, of lines with this value or token among those that have
+    /// one. Half a line more is counted, so that nothing is impossible. Where many texts stand in
+    /// one line only, further lines would mostly have texts that are not here (Good and Turing):
+    /// the same text by chance is then rarer than its share. Measures meet by chance more often.
+    [[nodiscard]] double missing() const;
+    [[nodiscard]] double share(int value) const;
+    [[nodiscard]] double tokenShare(int token) const;
+    /// Share of the numbers that are at least as near to \a number as \a other is. As long as there
+    /// are few numbers, it is the part of the larger one by which the two differ.
+    [[nodiscard]] double nearShare(double number, double other) const;
+    [[nodiscard]] int numberCount() const { return int(m_numbers.size()); }
+
+private:
+    std::unordered_map<int, int> m_counts;
+    std::unordered_map<int, int> m_tokens;
+    std::vector<double> m_numbers; ///< Sorted.
+    double m_known = 1;            ///< Share of the values of further lines that are among these.
+    int m_further = 1;             ///< Lines that are counted as if they had other values.
+    int m_lineCount = 0;
+    int m_valueCount = 0;
+};
+
+} // namespace Plan

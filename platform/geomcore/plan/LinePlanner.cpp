@@ -1,0 +1,250 @@
+#include "LinePlanner.h"
+
+#include "CandidateLists.h"
+#include "SparseAssignment.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace Plan {
+
+namespace {
+
+/// What the variables say counts less than its sum, since they repeat each other: a size stands in
+/// several of them. Of 0.6, 0.7, 0.85 and 1 the probabilities were nearest to the shares of right
+/// ones at 0.7, over all sample tables, with and without keys, with and without a fifth of the new
+/// lines removed: calibration errors 0.027, 0.019, 0.019 and 0.022.
+constexpr double Independence = 0.7;
+/// How often it is learned from the pairs; after five rounds hardly anything moves.
+constexpr int Rounds = 5;
+
+/// Share of the lines that have no successor, before anything is known; it counts like
+/// VariableRates::Strength lines.
+constexpr double AssumedGone = 0.1;
+/// Share of the lines that stay in targets of the source's name, if there are any, before anything
+/// is known.
+constexpr double AssumedNamed = 0.9;
+/// Pairs below are not learned from.
+constexpr double LeastLearned = 0.2;
+/// Pairs from here on show the places of others.
+constexpr double Confident = 0.8;
+/// Rows around the places that neighbours suggest are candidates.
+constexpr int AroundPlace = 2;
+
+} // namespace
+
+LinePlanner::LinePlanner(const PlanTables &tables)
+    : m_tables(tables)
+    , m_prior(size_t(tables.variableCount), VariableRates::assumed())
+    , m_counts(size_t(tables.variableCount))
+    , m_gone(AssumedGone)
+    , m_edges(tables.openLines.size())
+    , m_learned(tables.openLines.size())
+    , m_lines(tables.openLines.size())
+{
+    std::map<int, int> offsets;
+    for (const PlanTarget &target : tables.targets) {
+        const auto [place, isNew] = offsets.emplace(target.table, m_nodeCount);
+        m_nodeOffsets.push_back(place->second);
+        m_nodeCount += isNew ? int(target.openRows.size()) : 0;
+    }
+}
+
+void LinePlanner::run()
+{
+    if (m_tables.openLines.empty() || m_nodeCount == 0)
+        return;
+    for (const PlanTarget &target : m_tables.targets) {
+        const CandidateLists lists(m_tables, target);
+        m_found.emplace_back(m_tables.openLines.size());
+        for (size_t line = 0; line < m_tables.openLines.size() && !isCanceled(); ++line) {
+            if (target.takes[line])
+                m_found.back()[line] = lists.find(line);
+        }
+    }
+    m_rates = m_prior;
+    learnTargets(std::vector<double>(m_tables.targets.size(), 0));
+    for (int round = 0; round < Rounds && !isCanceled(); ++round) {
+        findPlaces(round == 0);
+        makeEdges();
+        spreadProbabilities(m_edges, m_nodeCount);
+        learn();
+    }
+    choose();
+}
+
+void LinePlanner::findPlaces(bool first)
+{
+    m_places.clear();
+    for (size_t t = 0; t < m_tables.targets.size(); ++t) {
+        const PlanTarget &target = m_tables.targets[t];
+        std::vector<int> partners = target.settled;
+        for (size_t line = 0; line < m_edges.size() && !first; ++line) {
+            for (const PlanEdge &edge : m_edges[line]) {
+                const bool same = m_nodeOffsets[size_t(edge.target)] == m_nodeOffsets[t];
+                if (same && edge.probability >= Confident)
+                    partners[size_t(m_tables.openLines[line])] = target.openRows[size_t(edge.row)];
+            }
+        }
+        m_places.emplace_back(std::move(partners), target.rowCount);
+        m_places.back().learn();
+    }
+}
+
+double LinePlanner::own(size_t line, int node) const
+{
+    for (const PlanEdge &edge : m_learned[line]) {
+        if (edge.node == node)
+            return edge.probability;
+    }
+    return 0;
+}
+
+void LinePlanner::addEdges(size_t line, int t, const std::vector<int> &rows)
+{
+    const PlanTarget &target = m_tables.targets[size_t(t)];
+    const PairEvidence evidence(m_tables, m_rates, m_changes);
+    const PlaceEvidence &places = m_places[size_t(t)];
+    const double prior =
+        std::log((1 - m_gone) * m_shares[size_t(t)] / (m_gone * double(target.openRows.size())));
+    std::vector<PlanEdge> &edges = m_edges[line];
+    for (const int row : rows) {
+        const int node = m_nodeOffsets[size_t(t)] + row;
+        const bool known = std::any_of(edges.begin(), edges.end(),
+                                       [node](const PlanEdge &edge) { return edge.node == node; });
+        if (known)
+            continue;
+        PlanEdge edge{t, row, node, 0, 0};
+        edge.weight = prior +
+                      Independence * evidence.weight(target, line, size_t(row), own(line, node)) +
+                      places.weight(m_tables.openLines[line], target.openRows[size_t(row)]);
+        edges.push_back(edge);
+    }
+}
+
+void LinePlanner::makeEdges()
+{
+    for (size_t line = 0; line < m_edges.size() && !isCanceled(); ++line) {
+        m_edges[line].clear();
+        for (size_t t = 0; t < m_tables.targets.size(); ++t) {
+            const PlanTarget &target = m_tables.targets[t];
+            if (!target.takes[line])
+                continue;
+            std::vector<int> rows = m_found[t][line];
+            const PlaceEvidence::Places at = m_places[t].places(m_tables.openLines[line]);
+            for (const int place : {at.fromAbove, at.fromBelow}) {
+                auto row = std::lower_bound(target.openRows.begin(), target.openRows.end(),
+                                            place - AroundPlace);
+                for (; row != target.openRows.end() && *row <= place + AroundPlace; ++row)
+                    rows.push_back(int(row - target.openRows.begin()));
+            }
+            std::sort(rows.begin(), rows.end());
+            rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+            addEdges(line, int(t), rows);
+        }
+        std::stable_sort(m_edges[line].begin(), m_edges[line].end(),
+                         [](const PlanEdge &a, const PlanEdge &b) { return a.weight > b.weight; });
+        if (m_edges[line].size() > CandidateLists::MaxRows)
+            m_edges[line].resize(CandidateLists::MaxRows);
+    }
+}
+
+void LinePlanner::learnTargets(const std::vector<double> &lines)
+{
+    const std::vector<PlanTarget> &targets = m_tables.targets;
+    const auto named = std::count_if(targets.begin(), targets.end(),
+                                     [](const PlanTarget &target) { return target.hasSourceName; });
+    const auto others = double(targets.size()) - double(named);
+    m_shares = lines;
+    double total = 0;
+    for (size_t t = 0; t < targets.size(); ++t) {
+        for (const int row : targets[t].settled)
+            m_shares[t] += row >= 0 ? 1 : 0;
+        const double ofNamed = others == 0 ? 1 : (named == 0 ? 0 : AssumedNamed);
+        const double assumed =
+            targets[t].hasSourceName ? ofNamed / double(named) : (1 - ofNamed) / others;
+        m_shares[t] += VariableRates::Strength * assumed;
+        total += m_shares[t];
+    }
+    for (double &share : m_shares)
+        share /= total;
+}
+
+void LinePlanner::learn()
+{
+    std::vector<RateCounts> counts(m_counts.size());
+    ChangeMemory changes;
+    const PairEvidence evidence(m_tables, m_rates, m_changes);
+    double gone = 0;
+    std::vector<double> perTarget(m_tables.targets.size(), 0);
+    for (size_t line = 0; line < m_edges.size(); ++line) {
+        double successor = 0;
+        m_learned[line].clear();
+        for (const PlanEdge &edge : m_edges[line]) {
+            successor += edge.probability;
+            perTarget[size_t(edge.target)] += edge.probability;
+            if (edge.probability < LeastLearned)
+                continue;
+            evidence.count(m_tables.targets[size_t(edge.target)], line, size_t(edge.row),
+                           edge.probability, counts, changes);
+            m_learned[line].push_back(edge);
+        }
+        gone += std::max(0.0, 1 - successor);
+    }
+    m_counts = counts;
+    m_changes = changes;
+    for (size_t v = 0; v < counts.size(); ++v)
+        m_rates[v] = VariableRates::learned(counts[v], m_prior[v]);
+    learnTargets(perTarget);
+    m_gone = (gone + VariableRates::Strength * AssumedGone) /
+             (double(m_edges.size()) + VariableRates::Strength);
+}
+
+void LinePlanner::choose()
+{
+    const std::vector<int> pairs = assignPairs(m_edges, m_nodeCount, 0);
+    std::vector<char> taken(size_t(m_nodeCount), 0);
+    EdgeLists rest(m_edges.size());
+    std::vector<std::vector<int>> places(m_edges.size());
+    for (size_t line = 0; line < m_edges.size(); ++line) {
+        if (pairs[line] >= 0)
+            taken[size_t(m_edges[line][size_t(pairs[line])].node)] = 1;
+    }
+    for (size_t line = 0; line < m_edges.size(); ++line) {
+        for (int edge = 0; edge < int(m_edges[line].size()) && pairs[line] < 0; ++edge) {
+            if (taken[size_t(m_edges[line][size_t(edge)].node)])
+                continue;
+            rest[line].push_back(m_edges[line][size_t(edge)]);
+            places[line].push_back(edge);
+        }
+    }
+    const std::vector<int> left = assignPairs(rest, m_nodeCount, -1e6);
+    for (size_t line = 0; line < m_edges.size(); ++line) {
+        const int chosen = pairs[line] >= 0
+                               ? pairs[line]
+                               : (left[line] >= 0 ? places[line][size_t(left[line])] : -1);
+        std::vector<PlanEdge> &edges = m_edges[line];
+        const int node = chosen >= 0 ? edges[size_t(chosen)].node : -1;
+        double successor = 0;
+        for (const PlanEdge &edge : edges)
+            successor += edge.probability;
+        std::stable_sort(edges.begin(), edges.end(), [node](const PlanEdge &a, const PlanEdge &b) {
+            if ((a.node == node) != (b.node == node))
+                return a.node == node;
+            return a.probability > b.probability;
+        });
+        if (edges.size() > MaxCandidates)
+            edges.resize(MaxCandidates);
+        m_lines[line] = {edges, std::clamp(1 - successor, 0.0, 1.0)};
+    }
+}
+
+CellEvidence LinePlanner::cell(const PlanEdge &edge, size_t line, size_t place) const
+{
+    const PairEvidence evidence(m_tables, m_rates, m_changes);
+    return evidence.cell(m_tables.targets[size_t(edge.target)], line, size_t(edge.row), place,
+                         own(line, edge.node));
+}
+
+} // namespace Plan

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "PairEvidence.h"
+#include "PlaceEvidence.h"
+#include "SoftAssignment.h"
+
+#include <functional>
+#include <vector>
+
+namespace Plan {
+
+/// Works out for all open lines of a source table at once which open rows of its targets they may
+/// have become. What changed in the table as a whole is learned from the pairs that it makes
+/// likely, in a few rounds: a column that was reworded everywhere then says little, the same
+/// replacement in many lines counts nearly as equality, neighbours show the place.
+class LinePlanner
+{
+public:
+    /// The tables stay where they are.
+    explicit LinePlanner(const PlanTables &tables);
+
+    /// What pairs of other tables showed, by variable; as many as there are variables. Counts as
+    /// little evidence beside that of this table.
+    void setPrior(std::vector<VariableRates> rates) { m_prior = std::move(rates); }
+    /// Asked between lines; after it answered true the result is of no use.
+    void setCancellation(std::function<bool()> isCanceled) { m_isCanceled = std::move(isCanceled); }
+    void run();
+
+    struct Line
+    {
+        /// Most probable first; the one that the assignment gives stands before the others.
+        std::vector<PlanEdge> candidates;
+        double noSuccessor = 1;
+    };
+    /// By open line.
+    [[nodiscard]] const std::vector<Line> &lines() const { return m_lines; }
+    /// How one variable of a candidate compares, with what was learned.
+    [[nodiscard]] CellEvidence cell(const PlanEdge &edge, size_t line, size_t place) const;
+    /// What was seen, by variable.
+    [[nodiscard]] const std::vector<RateCounts> &counts() const { return m_counts; }
+
+    static constexpr size_t MaxCandidates = 5;
+
+private:
+    void findPlaces(bool first);
+    void makeEdges();
+    void addEdges(size_t line, int target, const std::vector<int> &rows);
+    void learn();
+    void learnTargets(const std::vector<double> &lines);
+    void choose();
+    [[nodiscard]] double own(size_t line, int node) const;
+    [[nodiscard]] bool isCanceled() const { return m_isCanceled && m_isCanceled(); }
+
+    const PlanTables &m_tables;
+    std::vector<int> m_nodeOffsets; ///< By target.
+    int m_nodeCount = 0;
+    std::vector<std::vector<std::vector<int>>> m_found; ///< By target and open line.
+    std::vector<VariableRates> m_prior;
+    std::vector<VariableRates> m_rates;
+    std::vector<RateCounts> m_counts;
+    ChangeMemory m_changes;
+    std::vector<PlaceEvidence> m_places; ///< By target.
+    double m_gone;
+    std::vector<double> m_shares; ///< By target: how many of the lines that have a successor.
+    EdgeLists m_edges;
+    EdgeLists m_learned; ///< The edges that m_changes was learned from.
+    std::vector<Line> m_lines;
+    std::function<bool()> m_isCanceled;
+};
+
+} // namespace Plan

@@ -1,0 +1,130 @@
+#include "PairEvidence.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Plan {
+
+namespace {
+
+/// A token that only the new value has speaks against the pair, but not more than this.
+constexpr double LeastNewToken = 0.05;
+
+} // namespace
+
+double PairEvidence::nearRatio(const ColumnChance &chance, int oldValue, int newValue) const
+{
+    const CellValues::Value &a = m_tables.values.value(oldValue);
+    const CellValues::Value &b = m_tables.values.value(newValue);
+    if (!a.isNumber || !b.isNumber || a.number * b.number <= 0)
+        return 0;
+    // The share of numbers as near by chance is even in 0 to 1; between partners its logarithm is.
+    const double share = chance.nearShare(a.number, b.number);
+    return 1 / (share * std::log(2.0 * chance.numberCount() + 2));
+}
+
+double PairEvidence::alikeRatio(const ColumnChance &chance, const VariableRates &rates,
+                                int oldValue, int newValue) const
+{
+    const std::vector<int> &a = m_tables.values.value(oldValue).distinct;
+    const std::vector<int> &b = m_tables.values.value(newValue).distinct;
+    double sum = 0;
+    bool any = false;
+    const double added = std::log(std::max(1 - rates.stays, LeastNewToken));
+    auto i = a.begin();
+    auto j = b.begin();
+    while (i != a.end() || j != b.end()) {
+        if (j == b.end() || (i != a.end() && *i < *j)) {
+            sum += std::log(1 - rates.stays) - std::log(1 - chance.tokenShare(*i));
+            ++i;
+        } else if (i == a.end() || *j < *i) {
+            sum += added;
+            ++j;
+        } else {
+            sum += std::log(rates.stays / chance.tokenShare(*i));
+            any = true;
+            ++i;
+            ++j;
+        }
+    }
+    // No value says more than that it is this one of all.
+    return any ? std::min(std::exp(sum), 1 / chance.share(newValue)) : 0;
+}
+
+CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t row, size_t place,
+                                double own) const
+{
+    CellEvidence evidence;
+    const int a = target.lines.at(line, place);
+    const int b = target.rows.at(row, place);
+    const int variable = target.variables[place];
+    const VariableRates &rates = m_rates[size_t(variable)];
+    const ColumnChance &chance = target.chances[place];
+    const double missing = chance.missing();
+    if (a == CellValues::NoValue || b == CellValues::NoValue) {
+        if (a != b && a == CellValues::NoValue)
+            evidence.weight = std::log(rates.gained / (1 - missing));
+        else if (a != b)
+            evidence.weight = std::log(rates.lost / missing);
+        else
+            evidence.weight = std::log((1 - rates.gained) / missing);
+        return evidence;
+    }
+    auto &ways = evidence.ways;
+    ways[int(Way::Other)] = rates.way(Way::Other);
+    if (a == b) {
+        ways[int(Way::Same)] = rates.way(Way::Same) / chance.share(b);
+    } else {
+        const ChangeMemory::Likely likely = m_changes.likely(m_tables.values, variable, a, b, own);
+        evidence.supports = likely.supports;
+        ways[int(Way::Change)] = rates.way(Way::Change) * likely.share / chance.share(b);
+        ways[int(Way::Near)] = rates.way(Way::Near) * nearRatio(chance, a, b);
+        ways[int(Way::Alike)] = rates.way(Way::Alike) * alikeRatio(chance, rates, a, b);
+    }
+    double sum = 0;
+    for (const double way : ways)
+        sum += way;
+    for (double &way : ways)
+        way /= sum;
+    evidence.weight = std::log(sum) + std::log((1 - rates.lost) / (1 - missing));
+    return evidence;
+}
+
+double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, double own) const
+{
+    double sum = 0;
+    for (size_t place = 0; place < target.variables.size(); ++place)
+        sum += cell(target, line, row, place, own).weight;
+    return sum;
+}
+
+void PairEvidence::count(const PlanTarget &target, size_t line, size_t row, double probability,
+                         std::vector<RateCounts> &counts, ChangeMemory &changes) const
+{
+    for (size_t place = 0; place < target.variables.size(); ++place) {
+        const int a = target.lines.at(line, place);
+        const int b = target.rows.at(row, place);
+        RateCounts &seen = counts[size_t(target.variables[place])];
+        (a == CellValues::NoValue ? seen.hadNone : seen.hadValue) += probability;
+        if (a == CellValues::NoValue || b == CellValues::NoValue) {
+            if (a != b)
+                (a == CellValues::NoValue ? seen.gained : seen.lost) += probability;
+            continue;
+        }
+        const CellEvidence evidence = cell(target, line, row, place, probability);
+        for (size_t way = 0; way < evidence.ways.size(); ++way)
+            seen.ways[way] += probability * evidence.ways[way];
+        changes.add(m_tables.values, target.variables[place], a, b, probability);
+        if (a == b)
+            continue;
+        const std::vector<int> &tokens = m_tables.values.value(a).distinct;
+        const std::vector<int> &others = m_tables.values.value(b).distinct;
+        seen.tokens += probability * double(tokens.size());
+        for (const int token : tokens) {
+            if (std::binary_search(others.begin(), others.end(), token))
+                seen.staying += probability;
+        }
+    }
+}
+
+} // namespace Plan

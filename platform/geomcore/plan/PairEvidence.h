@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ChangeMemory.h"
+#include "PlanTables.h"
+#include "VariableRates.h"
+
+#include <vector>
+
+namespace Plan {
+
+/// What a comparison of one variable says: the logarithm of how much more often it happens between
+/// lines that belong together than by chance, and by which way.
+struct CellEvidence
+{
+    double weight = 0;
+    std::array<double, WayCount> ways{}; ///< Probability of each way; all 0 if a value is missing.
+    double supports = 0;                 ///< Other pairs with the same change.
+};
+
+/// Compares an open line with an open row, with what was learned so far.
+class PairEvidence
+{
+public:
+    PairEvidence(const PlanTables &tables, const std::vector<VariableRates> &rates,
+                 const ChangeMemory &changes)
+        : m_tables(tables)
+        , m_rates(rates)
+        , m_changes(changes)
+    {
+    }
+
+    /// \a own is what the pair itself has added to the changes.
+    [[nodiscard]] CellEvidence cell(const PlanTarget &target, size_t line, size_t row, size_t place,
+                                    double own) const;
+    /// Sum of the weights over all variables.
+    [[nodiscard]] double weight(const PlanTarget &target, size_t line, size_t row,
+                                double own) const;
+    /// Adds what the pair shows, with its probability.
+    void count(const PlanTarget &target, size_t line, size_t row, double probability,
+               std::vector<RateCounts> &counts, ChangeMemory &changes) const;
+
+private:
+    [[nodiscard]] double alikeRatio(const ColumnChance &chance, const VariableRates &rates,
+                                    int oldValue, int newValue) const;
+    [[nodiscard]] double nearRatio(const ColumnChance &chance, int oldValue, int newValue) const;
+
+    const PlanTables &m_tables;
+    const std::vector<VariableRates> &m_rates;
+    const ChangeMemory &m_changes;
+};
+
+} // namespace Plan

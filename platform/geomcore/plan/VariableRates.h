@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace Plan {
+
+/// The ways in which a new value comes from an old one, both being there.
+enum class Way { Same, Change, Near, Alike, Other };
+inline constexpr int WayCount = 5;
+
+/// What was seen in pairs of lines that belong together, in one variable or in several: numbers of
+/// pairs, each counted with its probability.
+struct RateCounts
+{
+    std::array<double, WayCount> ways{};
+    double lost = 0;     ///< Pairs in which only the old line has a value,
+    double hadValue = 0; ///< of those in which it has one.
+    double gained = 0;   ///< Pairs in which only the new line has one,
+    double hadNone = 0;  ///< of those in which the old one has none.
+    double staying = 0;  ///< Tokens that stay when a value changes,
+    double tokens = 0;   ///< of all.
+
+    void add(const RateCounts &other, double weight = 1);
+    [[nodiscard]] double total() const;
+};
+
+/// How often each of these happens.
+struct VariableRates
+{
+    std::array<double, WayCount> ways{};
+    double lost = 0;
+    double gained = 0;
+    double stays = 0;
+
+    [[nodiscard]] double way(Way which) const { return ways[size_t(which)]; }
+
+    /// What is assumed as long as nothing is known: most values stay, and nothing is impossible.
+    [[nodiscard]] static VariableRates assumed();
+    /// From counts, as if Strength pairs more had shown \a prior.
+    [[nodiscard]] static VariableRates learned(const RateCounts &counts,
+                                               const VariableRates &prior);
+    /// So many pairs outweigh what is assumed before any is seen.
+    static constexpr double Strength = 8;
+};
+
+} // namespace Plan
