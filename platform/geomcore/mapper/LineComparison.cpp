@@ -8,6 +8,7 @@
 #include <geomcore/plan/PairEvidence.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Mapper {
 
@@ -17,6 +18,8 @@ namespace {
 constexpr qsizetype MaxNamedVariables = 4;
 /// Characters that a sentence shows of a value.
 constexpr qsizetype MaxShown = 40;
+/// Numbers that differ by less of the larger one are near if nothing else is known.
+constexpr double NearPart = 0.25;
 
 QString tr(const char *text)
 {
@@ -72,6 +75,20 @@ void judgeChange(ComparedVariableC &variable, const Plan::CellEvidence &evidence
     }
 }
 
+/// What two values alone say.
+bool isNear(std::string_view value, char valueDecimal, std::string_view cell, char cellDecimal)
+{
+    Plan::CellValues values;
+    const Plan::CellValues::Value a = values.value(values.number(value, valueDecimal));
+    const Plan::CellValues::Value b = values.value(values.number(cell, cellDecimal));
+    if (a.isNumber && b.isNumber)
+        return std::abs(a.number - b.number) <=
+               NearPart * std::max(std::abs(a.number), std::abs(b.number));
+    return std::any_of(a.distinct.begin(), a.distinct.end(), [&](int token) {
+        return std::binary_search(b.distinct.begin(), b.distinct.end(), token);
+    });
+}
+
 } // namespace
 
 QList<ComparedVariableC> compareLines(const BoundTarget &target, const TargetValues &values,
@@ -97,6 +114,9 @@ QList<ComparedVariableC> compareLines(const BoundTarget &target, const TargetVal
             variable.outcome = ComparedVariableC::Equal;
         else if (judge && at != known.end())
             judgeChange(variable, judge(size_t(at - known.begin())));
+        else if (isNear(value, values.texts.values[place].decimalChar, cell,
+                        table.variables()[size_t(variables[place])].decimalChar))
+            variable.outcome = ComparedVariableC::Near;
         compared.append(variable);
     }
     return compared;

@@ -18,7 +18,7 @@ using CellJudge = std::function<Plan::CellEvidence(size_t place)>;
 
 /// How the values of a source line, as a target sees them, stand to those of one of its rows:
 /// every variable that both have, in the order of the target's table. \a judge is asked about
-/// values that differ; without it they are just different.
+/// values that differ; without it numbers within a quarter and texts with words in common are near.
 [[nodiscard]] QList<ComparedVariableC> compareLines(const BoundTarget &target,
                                                     const TargetValues &values, int row,
                                                     const CellJudge &judge);

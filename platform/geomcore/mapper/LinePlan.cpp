@@ -241,6 +241,24 @@ const Plan::LinePlanner::Line *LinePlan::line(int sourceRow) const
     return open < 0 ? nullptr : &m_planner->lines()[size_t(open)];
 }
 
+std::optional<Plan::PlanEdge> LinePlan::edgeFor(int sourceRow, int targetIndex, int row) const
+{
+    const auto known = std::find(m_targetIndexes.begin(), m_targetIndexes.end(), targetIndex);
+    if (known == m_targetIndexes.end() || !line(sourceRow))
+        return std::nullopt;
+    const auto place = size_t(known - m_targetIndexes.begin());
+    const std::vector<int> &open = m_tables.targets[place].openRows;
+    const auto at = std::lower_bound(open.begin(), open.end(), row);
+    if (at == open.end() || *at != row ||
+        !m_tables.targets[place].takes[size_t(m_openOf[size_t(sourceRow)])])
+        return std::nullopt;
+    Plan::PlanEdge edge;
+    edge.target = int(place);
+    edge.row = int(at - open.begin());
+    edge.node = m_planner->nodeOf(edge.target, edge.row);
+    return edge;
+}
+
 Plan::CellEvidence LinePlan::cell(const Plan::PlanEdge &edge, int sourceRow, size_t place) const
 {
     return m_planner->cell(edge, size_t(m_openOf[size_t(sourceRow)]), place);

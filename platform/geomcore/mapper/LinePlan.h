@@ -4,7 +4,9 @@
 
 #include <geomcore/plan/LinePlanner.h>
 
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Mapper {
@@ -30,7 +32,10 @@ public:
     {
         return m_tables.targets[size_t(edge.target)].openRows[size_t(edge.row)];
     }
-    /// How one of the target's variables() compares. None if it is not compared.
+    /// The pair of an open line and an open row of a target of the mapping; none if one is settled.
+    [[nodiscard]] std::optional<Plan::PlanEdge> edgeFor(int sourceRow, int targetIndex,
+                                                        int row) const;
+    /// How one of the target's variables() compares.
     [[nodiscard]] Plan::CellEvidence cell(const Plan::PlanEdge &edge, int sourceRow,
                                           size_t place) const;
     [[nodiscard]] bool isCanceled() const { return m_isCanceled; }

@@ -420,7 +420,16 @@ QList<ComparedVariableC> PrjMapperPrivate::compareLine(const PrjMapperLineC &lin
     if (row < 0)
         return {};
     target->takeValues(input, m_values);
-    return Mapper::compareLines(*target, m_values, row);
+    Mapper::CellJudge judge;
+    const bool own = bound.targets == m_targets.get();
+    const Mapper::LinePlan *whole = own ? plan(input) : nullptr;
+    const auto edge =
+        whole ? whole->edgeFor(input.row, target->index(), row) : std::optional<Plan::PlanEdge>();
+    if (edge)
+        judge = [&](size_t place) {
+            return whole->cell(*edge, input.row, place);
+        };
+    return Mapper::compareLines(*target, m_values, row, judge);
 }
 
 PrjMapperCheckResultC PrjMapperPrivate::check(const PrjMapperLineC &line, const LineInput &input,

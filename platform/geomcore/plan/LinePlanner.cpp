@@ -82,7 +82,7 @@ void LinePlanner::findPlaces(bool first)
         std::vector<int> partners = target.settled;
         for (size_t line = 0; line < m_edges.size() && !first; ++line) {
             for (const PlanEdge &edge : m_edges[line]) {
-                const bool same = m_nodeOffsets[size_t(edge.target)] == m_nodeOffsets[t];
+                const bool same = m_tables.targets[size_t(edge.target)].table == target.table;
                 if (same && edge.probability >= Confident)
                     partners[size_t(m_tables.openLines[line])] = target.openRows[size_t(edge.row)];
             }
@@ -110,7 +110,7 @@ void LinePlanner::addEdges(size_t line, int t, const std::vector<int> &rows)
         std::log((1 - m_gone) * m_shares[size_t(t)] / (m_gone * double(target.openRows.size())));
     std::vector<PlanEdge> &edges = m_edges[line];
     for (const int row : rows) {
-        const int node = m_nodeOffsets[size_t(t)] + row;
+        const int node = nodeOf(t, row);
         const bool known = std::any_of(edges.begin(), edges.end(),
                                        [node](const PlanEdge &edge) { return edge.node == node; });
         if (known)
@@ -180,16 +180,17 @@ void LinePlanner::learn()
     std::vector<double> perTarget(m_tables.targets.size(), 0);
     for (size_t line = 0; line < m_edges.size(); ++line) {
         double successor = 0;
-        m_learned[line].clear();
+        std::vector<PlanEdge> learned;
         for (const PlanEdge &edge : m_edges[line]) {
             successor += edge.probability;
             perTarget[size_t(edge.target)] += edge.probability;
             if (edge.probability < LeastLearned)
                 continue;
-            evidence.count(m_tables.targets[size_t(edge.target)], line, size_t(edge.row),
-                           edge.probability, counts, changes);
-            m_learned[line].push_back(edge);
+            const PlanTarget &target = m_tables.targets[size_t(edge.target)];
+            if (evidence.count(target, edge, line, own(line, edge.node), counts, changes))
+                learned.push_back(edge);
         }
+        m_learned[line] = learned;
         gone += std::max(0.0, 1 - successor);
     }
     m_counts = counts;

@@ -34,6 +34,11 @@ public:
     };
     /// By open line.
     [[nodiscard]] const std::vector<Line> &lines() const { return m_lines; }
+    /// Number of an open row among those of all tables.
+    [[nodiscard]] int nodeOf(int target, int row) const
+    {
+        return m_nodeOffsets[size_t(target)] + row;
+    }
     /// How one variable of a candidate compares, with what was learned.
     [[nodiscard]] CellEvidence cell(const PlanEdge &edge, size_t line, size_t place) const;
     /// What was seen, by variable.
@@ -63,7 +68,7 @@ private:
     double m_gone;
     std::vector<double> m_shares; ///< By target: how many of the lines that have a successor.
     EdgeLists m_edges;
-    EdgeLists m_learned; ///< The edges that m_changes was learned from.
+    EdgeLists m_learned; ///< The edges that m_changes was learned from, with what they added.
     std::vector<Line> m_lines;
     std::function<bool()> m_isCanceled;
 };

@@ -98,9 +98,25 @@ double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, d
     return sum;
 }
 
-void PairEvidence::count(const PlanTarget &target, size_t line, size_t row, double probability,
+bool PairEvidence::hasCommonValue(const PlanTarget &target, size_t line, size_t row) const
+{
+    for (size_t place = 0; place < target.variables.size(); ++place) {
+        const int value = target.lines.at(line, place);
+        if (value != CellValues::NoValue && value == target.rows.at(row, place) &&
+            target.chances[place].share(value) < 0.5)
+            return true;
+    }
+    return false;
+}
+
+bool PairEvidence::count(const PlanTarget &target, const PlanEdge &edge, size_t line, double own,
                          std::vector<RateCounts> &counts, ChangeMemory &changes) const
 {
+    const auto row = size_t(edge.row);
+    const double probability = edge.probability;
+    // A change that nothing else speaks for is no model for others: in a series of numbers every
+    // shift looks like a rule.
+    const bool isModel = hasCommonValue(target, line, row);
     for (size_t place = 0; place < target.variables.size(); ++place) {
         const int a = target.lines.at(line, place);
         const int b = target.rows.at(row, place);
@@ -111,10 +127,11 @@ void PairEvidence::count(const PlanTarget &target, size_t line, size_t row, doub
                 (a == CellValues::NoValue ? seen.gained : seen.lost) += probability;
             continue;
         }
-        const CellEvidence evidence = cell(target, line, row, place, probability);
+        const CellEvidence evidence = cell(target, line, row, place, own);
         for (size_t way = 0; way < evidence.ways.size(); ++way)
             seen.ways[way] += probability * evidence.ways[way];
-        changes.add(m_tables.values, target.variables[place], a, b, probability);
+        if (isModel)
+            changes.add(m_tables.values, target.variables[place], a, b, probability);
         if (a == b)
             continue;
         const std::vector<int> &tokens = m_tables.values.value(a).distinct;
@@ -125,6 +142,7 @@ void PairEvidence::count(const PlanTarget &target, size_t line, size_t row, doub
                 seen.staying += probability;
         }
     }
+    return isModel;
 }
 
 } // namespace Plan

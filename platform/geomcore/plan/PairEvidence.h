@@ -2,6 +2,7 @@
 
 #include "ChangeMemory.h"
 #include "PlanTables.h"
+#include "SoftAssignment.h"
 #include "VariableRates.h"
 
 #include <vector>
@@ -35,11 +36,14 @@ public:
     /// Sum of the weights over all variables.
     [[nodiscard]] double weight(const PlanTarget &target, size_t line, size_t row,
                                 double own) const;
-    /// Adds what the pair shows, with its probability.
-    void count(const PlanTarget &target, size_t line, size_t row, double probability,
+    /// Adds what the pair shows, with its probability. False if it is no model for others, so that
+    /// it has added nothing to the changes.
+    bool count(const PlanTarget &target, const PlanEdge &edge, size_t line, double own,
                std::vector<RateCounts> &counts, ChangeMemory &changes) const;
 
 private:
+    /// Whether some variable has the same value in both, one that less than half of the rows have.
+    [[nodiscard]] bool hasCommonValue(const PlanTarget &target, size_t line, size_t row) const;
     [[nodiscard]] double alikeRatio(const ColumnChance &chance, const VariableRates &rates,
                                     int oldValue, int newValue) const;
     [[nodiscard]] double nearRatio(const ColumnChance &chance, int oldValue, int newValue) const;
