@@ -43,6 +43,12 @@ private Q_SLOTS:
     void outcomeOfEachVariable();
     void nothingToPropose();
     void workingMappingStays();
+    void families_data();
+    void families();
+    void replacementIsTold();
+    void goneLinesHaveNoProposal();
+    void orderOfCallsDoesNotMatter();
+    void probabilitiesAddUp();
     void comparedWithTheAssignedLine();
 };
 
@@ -139,6 +145,145 @@ void tst_PrjMapperCandidates::comparedWithTheAssignedLine()
     const VKTab::LineView second(fixture.source, VKTab::LineId(2));
     QVERIFY(fixture.mapper.compareLine(fixture.mapper.findLine(2, second), second).isEmpty());
     QVERIFY(fixture.mapper.compareLine(PrjMapperLineC(), view).isEmpty());
+}
+
+void tst_PrjMapperCandidates::families_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QByteArray>("target");
+    // Twelve lines, told apart by a size; the target's lines are in reverse order.
+    const auto row = [](const char *name, const auto &oldLine, const auto &newLine) {
+        QByteArray source = "D,s:n,t\n";
+        QByteArray target = source;
+        for (int i = 1; i <= 12; ++i)
+            source += oldLine(i) + '\n';
+        for (int i = 12; i >= 1; --i)
+            target += newLine(i) + '\n';
+        QTest::newRow(name) << source << target;
+    };
+    const auto number = [](int i) {
+        return QByteArray::number(i);
+    };
+    const auto plain = [number](int i) {
+        return "S0" + number(i) + "B," + number(7 * i * i) + ",kind " + number(i % 3);
+    };
+    row("letters within a name are replaced", plain, [number](int i) {
+        return "SX" + number(i) + "B," + number(7 * i * i) + ",kind " + number(i % 3);
+    });
+    row("a column is reworded", plain, [number](int i) {
+        return "S0" + number(i) + "B," + number(7 * i * i + 1) + ",type no. " + number(i % 3 + 100);
+    });
+    row("numbers have another unit", plain, [number](int i) {
+        return "S0" + number(i) + "B," + QByteArray::number(7 * i * i / 25.4, 'g', 6) + ",kind " +
+               number(i % 3);
+    });
+}
+
+void tst_PrjMapperCandidates::families()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(QByteArray, target);
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    for (int line = 1; line <= 12; ++line)
+        QCOMPARE(fixture.proposal(line), QStringLiteral("0:%1").arg(13 - line));
+}
+
+void tst_PrjMapperCandidates::replacementIsTold()
+{
+    QByteArray source = "D,s:n,material\n";
+    QByteArray target = source;
+    for (int i = 1; i <= 12; ++i) {
+        const QByteArray begin =
+            "M" + QByteArray::number(i) + ',' + QByteArray::number(i * i) + ',';
+        source += begin + (i % 2 ? "St37-2\n" : "St52-3\n");
+        target += begin + (i % 2 ? "S235JR\n" : "S355J2G3\n");
+    }
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    const LineCandidatesC found = fixture.mapper.candidates(3, fixture.varset(3));
+    QVERIFY(!found.candidates.isEmpty());
+    const LineCandidateC &best = found.candidates.first();
+    QCOMPARE(best.lineId, VKTab::LineId(3));
+    QCOMPARE(outcomes(best), (QList{Outcome::Equal, Outcome::Equal, Outcome::Replaced}));
+    QCOMPARE(best.variables[2].supports, 5);
+    QCOMPARE(best.explanation,
+             QString("gleich: D, s; ersetzt: material St37-2 → S235JR (so in 5 weiteren Zeilen)"));
+}
+
+void tst_PrjMapperCandidates::goneLinesHaveNoProposal()
+{
+    QByteArray source = "D,s:n,t:n\n";
+    QByteArray target = source;
+    for (int i = 1; i <= 20; ++i) {
+        source += "M" + QByteArray::number(i) + ',' + QByteArray::number(i * i) + ",5\n";
+        if (i % 5 != 0)
+            target += "M" + QByteArray::number(i) + ',' + QByteArray::number(i * i) + ",6\n";
+    }
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    for (int line = 1; line <= 20; ++line) {
+        const QString expected =
+            line % 5 == 0 ? QStringLiteral("none") : QStringLiteral("0:%1").arg(line - line / 5);
+        QCOMPARE(fixture.proposal(line), expected);
+    }
+}
+
+void tst_PrjMapperCandidates::orderOfCallsDoesNotMatter()
+{
+    QByteArray source = "a:n,b:n,c:n\n";
+    QByteArray target = source;
+    for (int i = 1; i <= 30; ++i) {
+        source += QByteArray::number(i % 7) + ',' + QByteArray::number(i % 5) + ",1\n";
+        target += QByteArray::number(i % 7) + ',' + QByteArray::number(i * 2 % 5) + ",2\n";
+    }
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target);
+    QStringList forward;
+    QStringList backward;
+    {
+        MapperFixture fixture(catalog, {"new/a.prj"});
+        fixture.start();
+        for (int line = 1; line <= 30; ++line)
+            forward.append(fixture.proposal(line));
+    }
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    for (int line = 30; line >= 1; --line) {
+        const PrjMapperLineC proposed = fixture.create(line);
+        if (proposed.isFound())
+            QVERIFY(fixture.mapper.addLine(proposed)); // decisions of the program teach nothing
+        backward.prepend(fixture.proposal(line));
+    }
+    QCOMPARE(backward, forward);
+}
+
+void tst_PrjMapperCandidates::probabilitiesAddUp()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "a:n,b:n\n1,2\n1,3\n5,6\n");
+    catalog.write("new/a.prj", "a:n,b:n\n1,4\n1,5\n5,7\n1,8\n");
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    for (int line = 1; line <= 3; ++line) {
+        const LineCandidatesC found = fixture.mapper.candidates(line, fixture.varset(line));
+        double sum = found.noSuccessor;
+        for (const LineCandidateC &candidate : found.candidates) {
+            QVERIFY(candidate.probability >= LineCandidatesC::LeastProbability);
+            sum += candidate.probability;
+        }
+        QVERIFY2(sum > 0.9 && sum < 1.001, qPrintable(QString::number(sum)));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_PrjMapperCandidates)

@@ -3,6 +3,8 @@
 #include "CandidateLists.h"
 #include "SparseAssignment.h"
 
+#include <core/parallel/WorkerPool.h>
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -25,6 +27,10 @@ constexpr double AssumedGone = 0.1;
 /// Share of the lines that stay in targets of the source's name, if there are any, before anything
 /// is known.
 constexpr double AssumedNamed = 0.9;
+/// Candidates of a line, of all targets together, that are kept after the first round.
+constexpr size_t KeptEdges = 12;
+/// Lines that a thread takes at once.
+constexpr size_t LinesAtOnce = 64;
 /// Pairs below are not learned from.
 constexpr double LeastLearned = 0.2;
 /// Pairs from here on show the places of others.
@@ -55,23 +61,56 @@ void LinePlanner::run()
 {
     if (m_tables.openLines.empty() || m_nodeCount == 0)
         return;
-    for (const PlanTarget &target : m_tables.targets) {
-        const CandidateLists lists(m_tables, target);
-        m_found.emplace_back(m_tables.openLines.size());
-        for (size_t line = 0; line < m_tables.openLines.size() && !isCanceled(); ++line) {
-            if (target.takes[line])
-                m_found.back()[line] = lists.find(line);
-        }
-    }
+    findCandidates();
     m_rates = m_prior;
     learnTargets(std::vector<double>(m_tables.targets.size(), 0));
     for (int round = 0; round < Rounds && !isCanceled(); ++round) {
         findPlaces(round == 0);
         makeEdges();
+        if (round == 0)
+            keepBest();
         spreadProbabilities(m_edges, m_nodeCount);
         learn();
     }
     choose();
+}
+
+void LinePlanner::forEachLine(const std::function<void(size_t)> &work) const
+{
+    const size_t count = m_edges.size();
+    WorkerPool::instance().run(int((count + LinesAtOnce - 1) / LinesAtOnce), [&](int step) {
+        const size_t first = size_t(step) * LinesAtOnce;
+        for (size_t line = first; line < std::min(count, first + LinesAtOnce); ++line) {
+            if (!isCanceled())
+                work(line);
+        }
+    });
+}
+
+void LinePlanner::findCandidates()
+{
+    for (const PlanTarget &target : m_tables.targets) {
+        const CandidateLists lists(m_tables, target);
+        std::vector<std::vector<int>> found(m_edges.size());
+        forEachLine([&](size_t line) {
+            if (target.takes[line])
+                found[line] = lists.find(line);
+        });
+        m_found.push_back(std::move(found));
+    }
+}
+
+/// What was far behind at first is not looked at again.
+void LinePlanner::keepBest()
+{
+    for (std::vector<std::vector<int>> &found : m_found)
+        found.assign(m_edges.size(), {});
+    for (size_t line = 0; line < m_edges.size(); ++line) {
+        if (m_edges[line].size() > KeptEdges)
+            m_edges[line].resize(KeptEdges);
+        for (const PlanEdge &edge : m_edges[line])
+            m_found[size_t(edge.target)][line].push_back(edge.row);
+    }
 }
 
 void LinePlanner::findPlaces(bool first)
@@ -125,29 +164,32 @@ void LinePlanner::addEdges(size_t line, int t, const std::vector<int> &rows)
 
 void LinePlanner::makeEdges()
 {
-    for (size_t line = 0; line < m_edges.size() && !isCanceled(); ++line) {
-        m_edges[line].clear();
-        for (size_t t = 0; t < m_tables.targets.size(); ++t) {
-            const PlanTarget &target = m_tables.targets[t];
-            if (!target.takes[line])
-                continue;
-            std::vector<int> rows = m_found[t][line];
-            const PlaceEvidence::Places at = m_places[t].places(m_tables.openLines[line]);
-            for (const int place : {at.fromAbove, at.fromBelow}) {
-                auto row = std::lower_bound(target.openRows.begin(), target.openRows.end(),
-                                            place - AroundPlace);
-                for (; row != target.openRows.end() && *row <= place + AroundPlace; ++row)
-                    rows.push_back(int(row - target.openRows.begin()));
-            }
-            std::sort(rows.begin(), rows.end());
-            rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-            addEdges(line, int(t), rows);
+    forEachLine([this](size_t line) { makeEdges(line); });
+}
+
+void LinePlanner::makeEdges(size_t line)
+{
+    m_edges[line].clear();
+    for (size_t t = 0; t < m_tables.targets.size(); ++t) {
+        const PlanTarget &target = m_tables.targets[t];
+        if (!target.takes[line])
+            continue;
+        std::vector<int> rows = m_found[t][line];
+        const PlaceEvidence::Places at = m_places[t].places(m_tables.openLines[line]);
+        for (const int place : {at.fromAbove, at.fromBelow}) {
+            auto row = std::lower_bound(target.openRows.begin(), target.openRows.end(),
+                                        place - AroundPlace);
+            for (; row != target.openRows.end() && *row <= place + AroundPlace; ++row)
+                rows.push_back(int(row - target.openRows.begin()));
         }
-        std::stable_sort(m_edges[line].begin(), m_edges[line].end(),
-                         [](const PlanEdge &a, const PlanEdge &b) { return a.weight > b.weight; });
-        if (m_edges[line].size() > CandidateLists::MaxRows)
-            m_edges[line].resize(CandidateLists::MaxRows);
+        std::sort(rows.begin(), rows.end());
+        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+        addEdges(line, int(t), rows);
     }
+    std::stable_sort(m_edges[line].begin(), m_edges[line].end(),
+                     [](const PlanEdge &a, const PlanEdge &b) { return a.weight > b.weight; });
+    if (m_edges[line].size() > CandidateLists::MaxRows)
+        m_edges[line].resize(CandidateLists::MaxRows);
 }
 
 void LinePlanner::learnTargets(const std::vector<double> &lines)

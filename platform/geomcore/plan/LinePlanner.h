@@ -47,8 +47,13 @@ public:
     static constexpr size_t MaxCandidates = 5;
 
 private:
+    void findCandidates();
     void findPlaces(bool first);
     void makeEdges();
+    void makeEdges(size_t line);
+    void keepBest();
+    /// Calls \a work for each open line, on all cores.
+    void forEachLine(const std::function<void(size_t)> &work) const;
     void addEdges(size_t line, int target, const std::vector<int> &rows);
     void learn();
     void learnTargets(const std::vector<double> &lines);
