@@ -181,7 +181,7 @@ void tst_ReviewCommands::explain()
     QCOMPARE(m_err, QString());
     QVERIFY2(m_out.startsWith("cat/a.prj:3"), qPrintable(m_out));
     QVERIFY2(m_out.contains("\nassigned to cat/a.prj:3, to check"), qPrintable(m_out));
-    QVERIFY2(m_out.contains("W: St37 → S235\n"), qPrintable(m_out));
+    QVERIFY2(m_out.contains("W: St37 → S235  (alike in 2 other lines)\n"), qPrintable(m_out));
     QVERIFY2(m_out.contains("  equal     Name: N3\n"), qPrintable(m_out));
     // Different ones first.
     QVERIFY(m_out.indexOf("L: 30 → 15") < m_out.indexOf("Name: N3"));

@@ -23,7 +23,6 @@ public:
     [[nodiscard]] std::string textOf(int row) const;
 
 private:
-
     const TargetTable &m_table;
     DesignationPattern m_pattern;
     std::vector<std::pair<size_t, int>> m_rows; ///< Sorted by hash of the text, then row.

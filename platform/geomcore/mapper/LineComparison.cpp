@@ -26,15 +26,15 @@ QString tr(const char *text)
     return PString::translate(text, "VelkGeomCore");
 }
 
-QString shown(const QString &value)
+QString cutValue(const QString &value)
 {
     return value.size() > MaxShown ? value.left(MaxShown) + QChar(0x2026) : value;
 }
 
 QString change(const ComparedVariableC &variable)
 {
-    QString text = variable.name + u' ' + shown(variable.oldValue) + QChar(u' ') + QChar(0x2192) +
-                   QChar(u' ') + shown(variable.newValue);
+    QString text = variable.name + u' ' + cutValue(variable.oldValue) + QChar(u' ') +
+                   QChar(0x2192) + QChar(u' ') + cutValue(variable.newValue);
     if (variable.supports > 0)
         text += QStringLiteral(" (") + tr("so in %1 weiteren Zeilen").arg(variable.supports) + u')';
     return text;
@@ -43,8 +43,8 @@ QString change(const ComparedVariableC &variable)
 QString missing(const ComparedVariableC &variable)
 {
     return variable.oldValue.isEmpty()
-               ? variable.name + QStringLiteral(" + ") + shown(variable.newValue)
-               : variable.name + QStringLiteral(" - ") + shown(variable.oldValue);
+               ? variable.name + QStringLiteral(" + ") + cutValue(variable.newValue)
+               : variable.name + QStringLiteral(" - ") + cutValue(variable.oldValue);
 }
 
 QString joined(const QString &kind, const QStringList &parts)

@@ -18,7 +18,7 @@ constexpr int MaxSampled = 20'000;
 /// Lines with several equal ones that are told apart by their place.
 constexpr int MaxTied = 20'000;
 
-LineInput inputOf(const SourceTable &source, const VKTab::LineView &view)
+LineInput planInput(const SourceTable &source, const VKTab::LineView &view)
 {
     LineInput input;
     input.lineId = source.data()->lineId(view.row()).value(0);
@@ -145,7 +145,7 @@ bool LinePlan::takes(const BoundTarget &target, int sourceRow) const
     if (m_walksRanges)
         return target.join() && target.join()->takesSome(sourceRow);
     const VKTab::LineView view(*source().data(), sourceRow);
-    return target.conditionsHold(inputOf(source(), view));
+    return target.conditionsHold(planInput(source(), view));
 }
 
 void LinePlan::fill(const BoundTarget &target, Plan::PlanTarget &filled)
@@ -179,7 +179,7 @@ void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
         if (!takes(target, open[line]))
             continue;
         const VKTab::LineView view(*source().data(), open[line]);
-        target.takeValues(inputOf(source(), view), values);
+        target.takeValues(planInput(source(), view), values);
         for (size_t place = 0; place < count; ++place) {
             const LineTexts::Value &value = values.texts.values[place];
             filled.lines.set(line, place, m_tables.values.number(value.text, value.decimalChar));

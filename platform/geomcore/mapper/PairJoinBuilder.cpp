@@ -1,8 +1,8 @@
 #include "PairJoinBuilder.h"
 
 #include "BoundTarget.h"
-#include "ExactSearch.h"
 #include "CertaintyRules.h"
+#include "ExactSearch.h"
 #include "SourceTable.h"
 #include "TargetTable.h"
 

@@ -75,15 +75,22 @@ void LinePlanner::run()
     choose();
 }
 
+bool LinePlanner::isCanceled() const
+{
+    if (!m_wasCanceled && m_isCanceled && m_isCanceled())
+        m_wasCanceled = true;
+    return m_wasCanceled;
+}
+
 void LinePlanner::forEachLine(const std::function<void(size_t)> &work) const
 {
     const size_t count = m_edges.size();
     WorkerPool::instance().run(int((count + LinesAtOnce - 1) / LinesAtOnce), [&](int step) {
         const size_t first = size_t(step) * LinesAtOnce;
-        for (size_t line = first; line < std::min(count, first + LinesAtOnce); ++line) {
-            if (!isCanceled())
-                work(line);
-        }
+        if (isCanceled())
+            return;
+        for (size_t line = first; line < std::min(count, first + LinesAtOnce); ++line)
+            work(line);
     });
 }
 

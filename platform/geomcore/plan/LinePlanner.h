@@ -4,6 +4,7 @@
 #include "PlaceEvidence.h"
 #include "SoftAssignment.h"
 
+#include <atomic>
 #include <functional>
 #include <vector>
 
@@ -22,7 +23,7 @@ public:
     /// What pairs of other tables showed, by variable; as many as there are variables. Counts as
     /// little evidence beside that of this table.
     void setPrior(std::vector<VariableRates> rates) { m_prior = std::move(rates); }
-    /// Asked between lines; after it answered true the result is of no use.
+    /// Asked between some lines; after it answered true the result is of no use.
     void setCancellation(std::function<bool()> isCanceled) { m_isCanceled = std::move(isCanceled); }
     void run();
 
@@ -59,7 +60,8 @@ private:
     void learnTargets(const std::vector<double> &lines);
     void choose();
     [[nodiscard]] double own(size_t line, int node) const;
-    [[nodiscard]] bool isCanceled() const { return m_isCanceled && m_isCanceled(); }
+    /// Once true, it is not asked again.
+    [[nodiscard]] bool isCanceled() const;
 
     const PlanTables &m_tables;
     std::vector<int> m_nodeOffsets; ///< By target.
@@ -76,6 +78,7 @@ private:
     EdgeLists m_learned; ///< The edges that m_changes was learned from, with what they added.
     std::vector<Line> m_lines;
     std::function<bool()> m_isCanceled;
+    mutable std::atomic<bool> m_wasCanceled = false;
 };
 
 } // namespace Plan

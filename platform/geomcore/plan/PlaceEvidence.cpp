@@ -10,7 +10,7 @@ namespace {
 
 /// Pairs that are looked at to learn from.
 constexpr int MaxLearned = 4000;
-constexpr int Rounds = 6;
+constexpr int PlaceRounds = 6;
 /// As if so many pairs had shown what is assumed.
 constexpr double Strength = 4;
 
@@ -66,7 +66,7 @@ void PlaceEvidence::learn()
     for (const int partner : m_partners)
         known += partner >= 0 ? 1 : 0;
     const int step = known / MaxLearned + 1;
-    for (int round = 0; round < Rounds && known > 0; ++round) {
+    for (int round = 0; round < PlaceRounds && known > 0; ++round) {
         Kinds counts{};
         double distances = 0;
         int seen = 0;
