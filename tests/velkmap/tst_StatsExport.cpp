@@ -1,4 +1,5 @@
 #include "../support/SizeLimit.h"
+#include "../support/TestCatalog.h"
 
 #include <geomcore/records/MappingFile.h>
 #include <tools/velkmap/Commands.h>
@@ -177,6 +178,60 @@ private Q_SLOTS:
         QCOMPARE(projects.at(0).toObject().value("sourcePath").toString(), QString("cat/a,b.prj"));
         QCOMPARE(projects.at(0).toObject().value("tableError").toBool(), false);
         QCOMPARE(projects.at(1).toObject().value("tableError").toBool(), true);
+    }
+
+    void statsWithReasons()
+    {
+        const TestCatalog old(m_dir.filePath("old"));
+        old.write("cat/a.prj", "Name,D:n\nB8,8\nB9,9\nB10,10\n");
+        old.write("cat/screws/b.prj", "Name\nB8\n");
+        const TestCatalog now(m_dir.filePath("new"));
+        now.write("cat/a.prj", "Name,D:n\nB8,8\nB9,99\nB10,10\n");
+        PrjMappingC first = mappingOf("cat/a.prj", {"cat/a.prj"});
+        enter(first, 0, 1, 1, PRJMAPPING::ToCheck);
+        enter(first, 0, 2, 2, PRJMAPPING::ToCheck);
+        enter(first, 0, 3, 3, PRJMAPPING::Verified);
+        PrjMappingC second = mappingOf("cat/screws/b.prj", {"cat/a.prj", ""});
+        enter(second, 1, 1, -1, PRJMAPPING::ToCheck);
+        PrjMappingC third = mappingOf("cat/screwsx.prj", {"cat/a.prj", ""});
+        enter(third, 1, 1, -1, PRJMAPPING::ToCheck);
+        ReleaseMappingC release;
+        release.setSourceDate("v1");
+        for (const PrjMappingC &mapping : {first, second, third})
+            release.addMapping(mapping);
+        MappingFile file;
+        file.setRelease(release);
+        const QString path = m_dir.filePath("reasons.json");
+        QVERIFY(file.write(path));
+        const QStringList arguments{"stats",    "--mapping", path,        "--source", old.root(),
+                                    "--target", now.root(),  "--reasons", "--others", "cat/screws"};
+        // The third project's table is missing.
+        QCOMPARE(run(arguments), ExitStatus::InputUnreadable);
+        QVERIFY2(m_err.contains("screwsx.prj"), qPrintable(m_err));
+        const QStringList rows = m_out.section("Why lines are open:\n", 1).split('\n');
+        QCOMPARE(rows.at(0).simplified(),
+                 "clash colleague unreadable formula noTarget column equal "
+                 "unlike unconfirmed project");
+        QCOMPARE(rows.at(1).simplified(), "0 0 0 0 0 0 0 1 1 cat/a.prj");
+        QCOMPARE(rows.at(2).simplified(), "0 1 0 0 0 0 0 0 0 cat/screws/b.prj");
+        QCOMPARE(rows.at(3).simplified(), "0 0 1 0 0 0 0 0 0 cat/screwsx.prj");
+        QCOMPARE(rows.at(4).simplified(), "0 1 1 0 0 0 0 1 1 in all");
+        QCOMPARE(run(arguments + QStringList{"--json"}), ExitStatus::InputUnreadable);
+        const QJsonObject stats = QJsonDocument::fromJson(m_out.toUtf8()).object();
+        QCOMPARE(stats.value("open").toObject().size(), 9);
+        QCOMPARE(stats.value("open").toObject().value("colleague").toInt(), 1);
+        QCOMPARE(stats.value("projects")
+                     .toArray()
+                     .at(0)
+                     .toObject()
+                     .value("open")
+                     .toObject()
+                     .value("unlike")
+                     .toInt(),
+                 1);
+        QCOMPARE(run({"stats", "--mapping", path, "--reasons", "--source", m_dir.filePath("no")}),
+                 ExitStatus::InputUnreadable);
+        QVERIFY2(m_err.contains("is no directory"), qPrintable(m_err));
     }
 
     void releaseIsChosenByDate()

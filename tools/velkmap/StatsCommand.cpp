@@ -1,6 +1,8 @@
 #include "StatsCommand.h"
 
+#include "CatalogRoots.h"
 #include "CommandLine.h"
+#include "OpenReasons.h"
 #include "ReleaseFile.h"
 
 #include <core/json/JsonWriter.h>
@@ -44,6 +46,34 @@ void writeRow(QTextStream &out, const Counts &counts, const QString &name)
     out << "  " << name << '\n';
 }
 
+/// The header of a table of counts; its keys fit over them.
+QString reasonHeader()
+{
+    QString header;
+    for (int i = 0; i < VelkRelease::OpenReasonCount; ++i)
+        header += u' ' + VelkRelease::openReasonKey(VelkRelease::OpenReason(i)).rightJustified(11);
+    return header;
+}
+
+void writeReasonRow(QTextStream &out, const VelkRelease::OpenReasonCounts &counts,
+                    const QString &name)
+{
+    for (const int count : counts)
+        out << QString::number(count).rightJustified(12);
+    out << "  " << name << '\n';
+}
+
+void writeReasons(const ReleaseMappingC &release, const OpenReasons &reasons, QTextStream &out)
+{
+    out << "\nWhy lines are open:\n" << reasonHeader() << "  project\n";
+    for (int i = 0; i < release.countMappings(); ++i) {
+        const VelkRelease::ProjectOpenReasons &project = reasons.projects()[size_t(i)];
+        if (!project.lines.empty())
+            writeReasonRow(out, project.counts(), release.mappingAt(i).getSourcePath());
+    }
+    writeReasonRow(out, reasons.total(), "in all");
+}
+
 void writeTable(const ReleaseMappingC &release, QTextStream &out)
 {
     for (const char *name : names)
@@ -66,7 +96,19 @@ void writeCounts(JsonWriter &json, const Counts &counts)
     }
 }
 
-void writeJson(const ReleaseMappingC &release, QTextStream &out)
+void writeReasons(JsonWriter &json, const VelkRelease::OpenReasonCounts &counts)
+{
+    json.key("open");
+    json.beginObject();
+    for (int i = 0; i < VelkRelease::OpenReasonCount; ++i) {
+        json.key(VelkRelease::openReasonKey(VelkRelease::OpenReason(i)).toStdString());
+        json.value(counts[size_t(i)]);
+    }
+    json.endObject();
+}
+
+/// Without reasons if \a reasons is null.
+void writeJson(const ReleaseMappingC &release, const OpenReasons *reasons, QTextStream &out)
 {
     JsonWriter json(JsonWriter::Indented);
     json.beginObject();
@@ -75,6 +117,8 @@ void writeJson(const ReleaseMappingC &release, QTextStream &out)
     json.key("targetDate");
     json.value(release.getTargetDate());
     writeCounts(json, totalOf(release));
+    if (reasons)
+        writeReasons(json, reasons->total());
     json.key("projects");
     json.beginArray();
     for (int i = 0; i < release.countMappings(); ++i) {
@@ -87,6 +131,8 @@ void writeJson(const ReleaseMappingC &release, QTextStream &out)
         json.key("tableError");
         json.value(mapping.getMappingState().testFlag(PRJMAPPING::StateTableError));
         writeCounts(json, countsOf(mapping));
+        if (reasons)
+            writeReasons(json, reasons->projects()[size_t(i)].counts());
         json.endObject();
     }
     json.endArray();
@@ -101,19 +147,36 @@ ExitStatus runStats(const QStringList &arguments, QTextStream &out, QTextStream 
     CommandLine line("stats", "Counts the lines of a release mapping by their state: all lines,\n"
                               "lines without a target line, assigned by the program, to be\n"
                               "checked, confirmed. The numbers overlap: a line that is confirmed\n"
-                              "to have no target line is among both.");
+                              "to have no target line is among both. With --reasons also the\n"
+                              "open lines by what stands in the way of settling them, each with\n"
+                              "one reason; the tables are read for it.");
     ReleaseFile::addOptions(line);
+    line.addFlag("reasons", "Counts the open lines by their main reason too.");
+    CatalogRoots::addOptions(line);
+    OpenReasons::addOptions(line);
     line.addFlag("json", "Prints the counts as JSON.");
     if (const auto over = line.parse(arguments, out, err))
         return *over;
     ReleaseFile file;
     if (const auto failed = file.read(line, err))
         return *failed;
-    if (line.isSet("json"))
-        writeJson(file.release(), out);
-    else
+    OpenReasons reasons;
+    const bool withReasons = line.isSet("reasons");
+    if (withReasons) {
+        CatalogRoots roots;
+        if (const auto failed = roots.take(line, "stats", err))
+            return *failed;
+        if (const auto failed = reasons.read(line, file.release(), roots, "stats", err))
+            return *failed;
+    }
+    if (line.isSet("json")) {
+        writeJson(file.release(), withReasons ? &reasons : nullptr, out);
+    } else {
         writeTable(file.release(), out);
-    return ExitStatus::Done;
+        if (withReasons)
+            writeReasons(file.release(), reasons, out);
+    }
+    return reasons.hasErrors() ? ExitStatus::InputUnreadable : ExitStatus::Done;
 }
 
 } // namespace velkmap

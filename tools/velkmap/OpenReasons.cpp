@@ -1,0 +1,61 @@
+#include "OpenReasons.h"
+
+#include "CatalogRoots.h"
+#include "CommandLine.h"
+#include "InterruptGuard.h"
+
+#include <QTextStream>
+
+namespace velkmap {
+
+namespace {
+
+/// Whether a path is one of the folders or projects, or lies in one of them.
+bool liesIn(const QString &path, const QStringList &places)
+{
+    return std::any_of(places.begin(), places.end(), [&](const QString &place) {
+        return path == place || path.startsWith(place.endsWith(u'/') ? place : place + u'/');
+    });
+}
+
+} // namespace
+
+void OpenReasons::addOptions(CommandLine &line)
+{
+    line.addOptional("others", "PATH",
+                     "Folder or project that somebody else decides on; may be repeated.");
+}
+
+std::optional<ExitStatus> OpenReasons::read(const CommandLine &line, const ReleaseMappingC &release,
+                                            const CatalogRoots &roots, const QString &command,
+                                            QTextStream &err)
+{
+    const InterruptGuard guard;
+    const QStringList others = line.values("others");
+    auto found = VelkRelease::openReasons(
+        release, {.sourceRoot = roots.source(),
+                  .isOthers = [&](const QString &path) { return liesIn(path, others); },
+                  .cancelled = &InterruptGuard::isRequested()});
+    if (!found)
+        return ExitStatus::Interrupted;
+    m_projects = std::move(*found);
+    for (const VelkRelease::ProjectOpenReasons &project : m_projects) {
+        for (const QString &error : project.errors)
+            err << "velkmap " << command << ": " << error << '\n';
+        m_hasErrors = m_hasErrors || !project.errors.isEmpty();
+    }
+    return std::nullopt;
+}
+
+VelkRelease::OpenReasonCounts OpenReasons::total() const
+{
+    VelkRelease::OpenReasonCounts sum{};
+    for (const VelkRelease::ProjectOpenReasons &project : m_projects) {
+        const VelkRelease::OpenReasonCounts counts = project.counts();
+        for (size_t i = 0; i < sum.size(); ++i)
+            sum[i] += counts[i];
+    }
+    return sum;
+}
+
+} // namespace velkmap

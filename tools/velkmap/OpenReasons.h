@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ExitStatus.h"
+
+#include <release/review/OpenReason.h>
+
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QTextStream;
+QT_END_NAMESPACE
+
+namespace velkmap {
+
+class CatalogRoots;
+class CommandLine;
+
+/// Why the lines of a release are open, for a command that has the options of CatalogRoots.
+class OpenReasons
+{
+public:
+    /// Adds --others.
+    static void addOptions(CommandLine &line);
+
+    /// Reads the tables of both releases. A result means that this was interrupted; what cannot be
+    /// read is told and makes lines unreadable.
+    [[nodiscard]] std::optional<ExitStatus> read(const CommandLine &line,
+                                                 const ReleaseMappingC &release,
+                                                 const CatalogRoots &roots, const QString &command,
+                                                 QTextStream &err);
+
+    /// In the order of the release.
+    [[nodiscard]] const std::vector<VelkRelease::ProjectOpenReasons> &projects() const
+    {
+        return m_projects;
+    }
+    [[nodiscard]] VelkRelease::OpenReasonCounts total() const;
+    /// Some table could not be read.
+    [[nodiscard]] bool hasErrors() const { return m_hasErrors; }
+
+private:
+    std::vector<VelkRelease::ProjectOpenReasons> m_projects;
+    bool m_hasErrors = false;
+};
+
+} // namespace velkmap
