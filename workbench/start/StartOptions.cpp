@@ -26,6 +26,12 @@ void addOptions(QCommandLineParser &parser)
         {"read-only", "Opens the mapping file for reading only."},
         {"select", "Selects a project by its source path.", "PATH"},
         {"line", "Selects a line of that project by its number.", "N"},
+        {"script",
+         "Runs a script and ends with its status; the arguments are the script's then, those that "
+         "begin with - behind \"--\".",
+         "FILE"},
+        {"mapping", "Mapping file to open for the script.", "FILE"},
+        {"output", "File that the script may write.", "FILE"},
         {"screenshot", "Renders the editor into a PNG file, without a display, and ends.", "FILE"},
         {"dialog", "Renders a dialog instead: formula or search.", "DIALOG"},
         {"text", "Text in that dialog.", "TEXT"},
@@ -48,7 +54,11 @@ QString wrongValue(const QCommandLineParser &parser, const StartOptions &options
     const auto wrong = [&parser](const QString &option, const QString &wanted) {
         return "--" + option + " is not " + wanted + ": " + parser.value(option);
     };
-    if (parser.positionalArguments().size() > 1)
+    if (options.script.isEmpty() && (parser.isSet("mapping") || parser.isSet("output")))
+        return "--mapping and --output are for --script only";
+    if (!options.script.isEmpty() && !options.screenshot.isEmpty())
+        return "--script and --screenshot exclude each other";
+    if (options.script.isEmpty() && parser.positionalArguments().size() > 1)
         return "more than one mapping file: " + parser.positionalArguments().join(", ");
     if (parser.isSet("line") && options.selectedLine < 0)
         return wrong("line", "the number of a line");
@@ -84,7 +94,14 @@ StartOptions StartOptions::parse(const QStringList &arguments)
     if (parser.isSet("version"))
         return end(Outcome::Over, "velkworkbench " + velkVersion() + '\n');
 
-    options.mappingFile = parser.positionalArguments().value(0);
+    options.script = parser.value("script");
+    options.scriptOutput = parser.value("output");
+    if (options.script.isEmpty())
+        options.mappingFile = parser.positionalArguments().value(0);
+    else {
+        options.mappingFile = parser.value("mapping");
+        options.scriptArguments = parser.positionalArguments();
+    }
     options.sourceRoot = parser.value("source");
     options.targetRoot = parser.value("target");
     options.release = parser.value("release");

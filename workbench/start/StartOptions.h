@@ -24,10 +24,13 @@ struct StartOptions
     int selectedLine = -1;
     QString dialog;     ///< of the screenshot: "formula", "search"; empty: the window
     QString dialogText; ///< in that dialog
-    QString screenshot; ///< file; the program renders the editor into it and ends
-    QSize size;         ///< of the window, in device independent pixels
-    QString theme;      ///< "light", "dark"; empty: as set
-    QString language;   ///< one of EditorLanguages; empty: as set
+    QString script;     ///< file; the program runs it and ends
+    QStringList scriptArguments;
+    QString scriptOutput; ///< the file that it may write
+    QString screenshot;   ///< file; the program renders the editor into it and ends
+    QSize size;           ///< of the window, in device independent pixels
+    QString theme;        ///< "light", "dark"; empty: as set
+    QString language;     ///< one of EditorLanguages; empty: as set
     int scale = 1;
     QString settingsDirectory; ///< empty: the user's own
     bool readOnly = false;

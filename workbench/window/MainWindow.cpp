@@ -14,6 +14,7 @@
 #include "Question.h"
 #include "RemoteCatalogs.h"
 #include "ReviewCommands.h"
+#include "ScriptDesk.h"
 #include "StatusArea.h"
 #include "StatusProgress.h"
 #include "WelcomePage.h"
@@ -22,8 +23,12 @@
 #include "WorkbenchSettings.h"
 
 #include <core/plugin/PTranslateManager.h>
+#include <geomcore/erp/ErpNumberColumn.h>
+#include <geomcore/erp/LinkDbErpNumbers.h>
+#include <geomcore/index/IndexTreeC.h>
 #include <gui/application/PApplication.h>
 #include <gui/progress/DefaultObserverDelegate.h>
+#include <workbench/script/ScriptConsole.h>
 
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -45,6 +50,8 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
     , m_linkDb(new LinkDbHost(plugin, this))
     , m_linkDbCommands(new LinkDbCommands(m_linkDb, m_editor, m_desk, this))
+    , m_scripts(new ScriptDesk(this, settings))
+    , m_erpNumbers(new ErpNumberColumn(std::make_shared<LinkDbErpNumbers>(), this))
     , m_pages(new QStackedWidget(this))
     , m_counterTimer(new QTimer(this))
     , m_language(settings->values().language)
@@ -57,6 +64,9 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     addDockWidget(Qt::BottomDockWidgetArea, m_log);
     m_log->hide();
     addReview();
+    addDockWidget(Qt::BottomDockWidgetArea, m_scripts->console());
+    tabifyDockWidget(m_log, m_scripts->console());
+    m_scripts->console()->hide();
     setStatusBar(m_status);
     m_welcome = new WelcomePage({m_actions->action(WorkbenchActions::OpenFile),
                                  m_actions->action(WorkbenchActions::NewMapping),
@@ -88,6 +98,9 @@ MainWindow::~MainWindow()
 {
     DefaultObserverDelegate::setDisplay(nullptr);
     // The editor's handler speaks to the document, and both to the log window.
+    IndexTreeC::instance()->setErpSource({});
+    delete m_erpNumbers;
+    delete m_scripts;
     delete m_editor;
     delete m_review;
     delete m_lines;
@@ -125,6 +138,13 @@ void MainWindow::connectParts()
     connect(m_linkDb, &LinkDbHost::groupChanged, m_settings, &WorkbenchSettings::setLinkDbGroup);
     connect(m_linkDb, &LinkDbHost::failed, this, [this](const QString &text) {
         m_status->showNote(tr("Keine Verbindung zur Linkdatenbank: %1").arg(text));
+    });
+    IndexTreeC::instance()->setErpSource(std::make_shared<LinkDbErpNumbers>());
+    connect(m_editor, &EditorArea::projectSelected, this, &MainWindow::showErpNumbers);
+    connect(m_linkDb, &LinkDbHost::changed, this, &MainWindow::showErpNumbers);
+    connect(m_erpNumbers, &ErpNumberColumn::failed, this, [this](const QString &reason) {
+        m_log->addMessage(LogWindow::Severity::Warning,
+                          tr("Die ERP-Nummern können nicht gelesen werden. %1").arg(reason));
     });
     // What changed, if anything did, is told at the end of the step, over this.
     connect(m_editor, &EditorArea::linesReassigned, this,
@@ -164,6 +184,14 @@ void MainWindow::onDocumentReady()
         m_editor->selectLine(place.line);
     m_status->showNote(document->isReadOnly() ? document->readOnlyText() : QString());
     m_settings->setSessionFile(document->mappingFile());
+}
+
+/// Without a link database the table stays as it is.
+void MainWindow::showErpNumbers()
+{
+    const bool isConnected = PLinkDbC::instance()->isOpen();
+    m_erpNumbers->attach(isConnected ? m_editor->sourceTable() : VKTab::ContentRef(),
+                         m_editor->currentPath());
 }
 
 void MainWindow::rememberPlace()

@@ -18,6 +18,8 @@ class PluginActions;
 class PMessageSinkScope;
 class RemoteCatalogs;
 class ReviewCommands;
+class ErpNumberColumn;
+class ScriptDesk;
 class StatusArea;
 class WelcomePage;
 class WorkbenchActions;
@@ -46,6 +48,7 @@ public:
     [[nodiscard]] ReviewCommands *review() const { return m_review; }
     [[nodiscard]] LogWindow *log() const { return m_log; }
     [[nodiscard]] StatusArea *status() const { return m_status; }
+    [[nodiscard]] ScriptDesk *scripts() const { return m_scripts; }
     [[nodiscard]] WorkbenchActions *commands() const { return m_actions; }
     [[nodiscard]] LinkDbHost *linkDb() const { return m_linkDb; }
 
@@ -85,6 +88,7 @@ private:
     void assignAll();
     void checkValueRanges();
     void showTargetProject(const QString &targetPath);
+    void showErpNumbers();
     void showAbout();
     void rememberPlace();
 
@@ -100,6 +104,8 @@ private:
     RemoteCatalogs *const m_remote;
     LinkDbHost *const m_linkDb;
     LinkDbCommands *const m_linkDbCommands;
+    ScriptDesk *const m_scripts;
+    ErpNumberColumn *const m_erpNumbers;
     QStackedWidget *const m_pages;
     WelcomePage *m_welcome = nullptr;
     PluginActions *m_pluginActions = nullptr;

@@ -8,9 +8,12 @@
 #include "LogWindow.h"
 #include "PluginActions.h"
 #include "RemoteCatalogs.h"
+#include "ScriptDesk.h"
 #include "WelcomePage.h"
 #include "WorkbenchActions.h"
 #include "WorkbenchSettings.h"
+
+#include <workbench/script/ScriptConsole.h>
 
 #include <QAction>
 #include <QFileInfo>
@@ -59,7 +62,8 @@ void MainWindow::buildMenus()
           WorkbenchActions::RemoveConfirmLines, Separator, WorkbenchActions::AssignAll,
           WorkbenchActions::CheckValueRanges});
     edit->addAction(m_linkDbCommands->proofAction());
-    fill(edit, m_actions, {Separator, WorkbenchActions::Settings});
+    fill(edit, m_actions,
+         {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings});
     fill(
         addMenu("goMenu"), m_actions,
         {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine});
@@ -93,6 +97,7 @@ void MainWindow::buildMenus()
     states->addActions(m_states->actions());
     view->addSeparator();
     view->addAction(m_log->toggleViewAction());
+    view->addAction(m_scripts->console()->toggleViewAction());
     fill(addMenu("helpMenu"), m_actions, {WorkbenchActions::ShowTour, WorkbenchActions::About});
 }
 
@@ -142,6 +147,7 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::RemoveConfirmLines, onMany(BulkOperation::RemoveAndConfirm));
     connectTo(WorkbenchActions::AssignAll, [this] { assignAll(); });
     connectTo(WorkbenchActions::CheckValueRanges, [this] { checkValueRanges(); });
+    connectTo(WorkbenchActions::EditScript, [this] { m_scripts->showEditor(); });
     connectTo(WorkbenchActions::Settings, [this] { editSettings(); });
     connectTo(WorkbenchActions::NextOpen, [this] { m_lines->goNext(); });
     connectTo(WorkbenchActions::PreviousOpen, [this] { m_lines->goPrevious(); });

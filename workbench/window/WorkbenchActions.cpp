@@ -82,6 +82,10 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Vergleicht alle Wertebereichstexte mit den Tabellen der Zielprojekte"),
      "", "", true, false},
+    {"editScript", QT_TRANSLATE_NOOP("WorkbenchActions", "&Skript..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Öffnet ein Fenster, in dem Skripte geschrieben und "
+                                           "ausgeführt werden"),
+     "Ctrl+Shift+R", "", false, false},
     {"settings", QT_TRANSLATE_NOOP("WorkbenchActions", "&Einstellungen..."),
      QT_TRANSLATE_NOOP("WorkbenchActions", "Sprache, Schrift, Tasten, Sicherung"), "Ctrl+,", "",
      false, false},

@@ -30,6 +30,7 @@ public:
         RemoveConfirmLines,
         AssignAll,
         CheckValueRanges,
+        EditScript,
         Settings,
         NextOpen,
         PreviousOpen,

@@ -5,6 +5,7 @@
 #include "MainWindow.h"
 #include "QtTexts.h"
 #include "Screenshot.h"
+#include "ScriptDesk.h"
 #include "WorkbenchSettings.h"
 
 #include <core/config/PConfigService.h>
@@ -17,6 +18,8 @@
 #include <QDir>
 #include <QIcon>
 #include <QTimer>
+
+#include <cstdio>
 
 void prepareWorkbench(WorkbenchSettings &settings, const SettingsPlace &place,
                       const StartOptions &options)
@@ -49,6 +52,38 @@ DocumentDesk::Wish wishOf(const StartOptions &options)
     return wish;
 }
 
+int statusOf(const ScriptOutcome &outcome)
+{
+    if (outcome.state != ScriptOutcome::Done)
+        std::fputs(("velkworkbench: " + outcome.error.text() + '\n').toUtf8().constData(), stderr);
+    switch (outcome.state) {
+    case ScriptOutcome::Done:
+        return outcome.status & 0xff;
+    case ScriptOutcome::Unreadable:
+        return 2;
+    case ScriptOutcome::NotWritten:
+        return 3;
+    case ScriptOutcome::Stopped:
+        return 130;
+    case ScriptOutcome::Failed:
+        break;
+    }
+    return 6;
+}
+
+/// Opens the mapping first if there is one; the window goes without a question.
+int runScript(MainWindow &window, const StartOptions &options)
+{
+    int status = 2;
+    QTimer::singleShot(0, &window, [&] {
+        if (options.mappingFile.isEmpty() || window.desk()->open(wishOf(options)))
+            status = statusOf(window.scripts()->runFile(options.script, options.scriptArguments,
+                                                        options.scriptOutput));
+        QCoreApplication::exit(status);
+    });
+    return QApplication::exec();
+}
+
 } // namespace
 
 int runWorkbench(PLinkDbGuiI *plugin, const StartOptions &options)
@@ -66,6 +101,9 @@ int runWorkbench(PLinkDbGuiI *plugin, const StartOptions &options)
     VelkApp()->setInitialized();
     if (!options.screenshot.isEmpty())
         return Screenshot(window, options).take(wishOf(options), settings.store());
+
+    if (!options.script.isEmpty())
+        return runScript(window, options);
 
     QTimer::singleShot(0, &window, [&] {
         if (options.mappingFile.isEmpty())

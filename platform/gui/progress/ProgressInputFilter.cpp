@@ -121,7 +121,8 @@ bool ProgressInputFilter::mayPass(const QObject *receiver) const
     const QWidget *const widget = nearestWidget(receiver);
     if (!widget)
         return false;
-    return m_display->acceptsInput(widget) || isInNewDialog(widget);
+    return m_display->acceptsInput(widget) || isInNewDialog(widget) ||
+           widget->property(CancelsProgress).toBool();
 }
 
 bool ProgressInputFilter::mayClose(const QObject *receiver) const

@@ -10,12 +10,15 @@
 /// Keeps the user from changing what a piece of work is busy with, as long as it lives: drops key,
 /// mouse, close and drop events of the application except for the progress display and for modal
 /// dialogs that opened since. Escape outside of those asks for the work to be cancelled, wherever
-/// the focus is. A request to quit is repeated at the end.
+/// the focus is. A request to quit is repeated at the end. Input passes to widgets with the
+/// property CancelsProgress, too: buttons that end the work.
 class ProgressInputFilter : public QObject
 {
     Q_OBJECT
 
 public:
+    static constexpr const char *CancelsProgress = "cancelsProgress";
+
     explicit ProgressInputFilter(std::shared_ptr<ProgressDisplayI> display);
     ~ProgressInputFilter() override;
 

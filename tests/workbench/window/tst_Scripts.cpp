@@ -1,0 +1,397 @@
+#include "ModalScript.h"
+#include "WindowFixture.h"
+
+#include <geomcore/erp/ErpNumberLayer.h>
+#include <geomcore/linkdb/PLinkDbC.h>
+#include <gui/application/PApplication.h>
+#include <TestPaths.h>
+#include <workbench/script/ScriptConsole.h>
+#include <workbench/script/ScriptEditor.h>
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/LogWindow.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/ScriptDesk.h>
+#include <workbench/window/ScriptDialogStates.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QDialog>
+#include <QFile>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <QTextBlock>
+#include <QToolButton>
+
+namespace {
+
+const QString project = QStringLiteral("standardparts/screws/iso4014.prj");
+
+/// A dialog that scripts show, with a state.
+class StatefulDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE QByteArray saveState() { return state; } // clazy:exclude=function-args-by-value
+    Q_INVOKABLE void restoreState(const QByteArray &restored) { state = restored; }
+
+    QByteArray state;
+};
+
+} // namespace
+
+/// Scripts in the editor's window, by real keys.
+class tst_Scripts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void linesRun();
+    void historyByKeys();
+    void completionByKeys();
+    void historyIsKept();
+    void workbenchObject();
+    void stoppedByEscape();
+    void stoppedByItsButton();
+    void editorRuns();
+    void editorMarksErrors();
+    void editorKeepsFiles();
+    void documentsOfALine();
+    void dialogStates();
+    void erpNumbersInTheTable();
+    void fromTheCommandLine_data();
+    void fromTheCommandLine();
+
+private:
+    [[nodiscard]] ScriptConsole *console() const { return m_fixture->window->scripts()->console(); }
+    [[nodiscard]] ConsoleInput *input() const { return console()->input(); }
+    void enter(const QString &line) const
+    {
+        input()->setFocus();
+        QTest::keyClicks(input(), line);
+        QTest::keyClick(input(), Qt::Key_Return);
+    }
+    [[nodiscard]] QString lastLine() const { return console()->text().section('\n', -1); }
+    [[nodiscard]] PRefPtr<PLinkDbC> connectLinkDb() const;
+
+    std::unique_ptr<WindowFixture> m_fixture;
+};
+
+void tst_Scripts::init()
+{
+    m_fixture = std::make_unique<WindowFixture>();
+    m_fixture->open(m_fixture->mappingFile());
+    console()->show();
+}
+
+void tst_Scripts::cleanup()
+{
+    m_fixture.reset();
+    PLinkDbC::setInstance({});
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(PMemManager::liveObjects(), 0);
+}
+
+PRefPtr<PLinkDbC> tst_Scripts::connectLinkDb() const
+{
+    PRefPtr<PLinkDbC> linkDb(new PLinkDbC);
+    if (!linkDb->open(LinkDbSettings::fromText(m_fixture->directory.filePath("links.db"))))
+        qWarning("%s", qPrintable(linkDb->lastError().text));
+    PLinkDbC::setInstance(linkDb);
+    return linkDb;
+}
+
+void tst_Scripts::linesRun()
+{
+    enter("var n = 20 + 1");
+    enter("n * 2");
+    QCOMPARE(lastLine(), QString("42"));
+    QVERIFY(input()->text().isEmpty());
+    enter("print('a %1', mapping.projectCount)");
+    QCOMPARE(lastLine(), QString("a %1 49"));
+    enter("mapping.project('none')");
+    QCOMPARE(lastLine(), QString("> mapping.project('none')"));
+    enter("mapping");
+    QCOMPARE(lastLine(), QString("[prxReleaseMappingC]"));
+    enter("nothing.at.all");
+    QCOMPARE(lastLine(), QString("ReferenceError: nothing is not defined"));
+    const QString before = console()->text();
+    enter("   ");
+    QCOMPARE(console()->text(), before);
+}
+
+void tst_Scripts::historyByKeys()
+{
+    enter("1");
+    enter("2");
+    enter("2");
+    QTest::keyClicks(input(), "half");
+    const auto press = [this](Qt::Key key) {
+        QTest::keyClick(input(), key);
+        return input()->text();
+    };
+    QCOMPARE(press(Qt::Key_Up), QString("2"));
+    QCOMPARE(press(Qt::Key_Up), QString("1"));
+    QCOMPARE(press(Qt::Key_Up), QString("1"));
+    QCOMPARE(press(Qt::Key_Down), QString("2"));
+    QCOMPARE(press(Qt::Key_Down), QString("half"));
+    QCOMPARE(press(Qt::Key_Down), QString("half"));
+}
+
+void tst_Scripts::completionByKeys()
+{
+    input()->setFocus();
+    QTest::keyClicks(input(), "print(mapping.projectA");
+    QTest::keyClick(input(), Qt::Key_Tab);
+    QCOMPARE(input()->text(), QString("print(mapping.projectAt"));
+    input()->clear();
+    QTest::keyClicks(input(), "mapping.pr");
+    QTest::keyClick(input(), Qt::Key_Tab);
+    QCOMPARE(input()->text(), QString("mapping.project"));
+    auto *const names = input()->findChild<QCompleter *>();
+    QVERIFY(names->popup()->isVisible());
+    QTest::keyClick(names->popup(), Qt::Key_Down);
+    QTest::keyClick(names->popup(), Qt::Key_Down);
+    QTest::keyClick(names->popup(), Qt::Key_Return);
+    QCOMPARE(input()->text(), QString("mapping.projectAt"));
+    // Without a name Tab goes on.
+    input()->clear();
+    QTest::keyClick(input(), Qt::Key_Tab);
+    QVERIFY(!input()->hasFocus());
+}
+
+void tst_Scripts::historyIsKept()
+{
+    enter("'ä' + 1");
+    m_fixture->closeWindow();
+    m_fixture->makeWindow();
+    QCOMPARE(input()->history(), QStringList{"'ä' + 1"});
+    console()->show();
+    QTest::keyClick(input(), Qt::Key_Up);
+    QCOMPARE(input()->text(), QString("'ä' + 1"));
+}
+
+void tst_Scripts::workbenchObject()
+{
+    enter("workbench.selectProject('" + project + "') && workbench.selectLine(3)");
+    QCOMPARE(lastLine(), QString("true"));
+    QCOMPARE(m_fixture->window->editor()->currentPath(), project);
+    QCOMPARE(m_fixture->window->editor()->currentLine(), 3);
+    enter("[workbench.project, workbench.line, workbench.table.lineCount].join()");
+    QCOMPARE(lastLine(), project + ",3,13");
+    enter("workbench.selectProject('none') || workbench.selectLine(-7)");
+    QCOMPARE(lastLine(), QString("false"));
+    enter("workbench.window.isVisible");
+    QCOMPARE(lastLine(), QString("true"));
+    enter("workbench.mappingFile");
+    QCOMPARE(lastLine(), m_fixture->mappingFile());
+    enter("workbench.log('to %1')");
+    QVERIFY(m_fixture->window->log()->text().endsWith("to %1"));
+}
+
+void tst_Scripts::stoppedByEscape()
+{
+    int presses = 0;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, [&] {
+        ++presses;
+        QTest::keyClick(input(), Qt::Key_A); // is dropped
+        if (presses > 3)
+            QTest::keyClick(input(), Qt::Key_Escape);
+    });
+    timer.start(200);
+    enter("for (;;) mapping.projectCount");
+    QCOMPARE(lastLine(), QString("The script was stopped"));
+    QVERIFY(presses > 3);
+    QVERIFY(input()->text().isEmpty());
+    QVERIFY(!m_fixture->window->scripts()->isRunning());
+}
+
+void tst_Scripts::stoppedByItsButton()
+{
+    auto *const stop = console()->findChild<QToolButton *>("scriptStop");
+    QVERIFY(!stop->isEnabled());
+    QTimer::singleShot(300, stop, [stop] { QTest::mouseClick(stop, Qt::LeftButton); });
+    enter("for (;;) mapping.projectCount");
+    QCOMPARE(lastLine(), QString("The script was stopped"));
+    QVERIFY(!stop->isEnabled());
+}
+
+void tst_Scripts::editorRuns()
+{
+    QTest::keyClick(m_fixture->window.get(), Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+    auto *const editor = m_fixture->window->findChild<ScriptEditor *>();
+    QVERIFY(editor && editor->isVisible());
+    auto *const text = editor->findChild<QPlainTextEdit *>("scriptText");
+    QTest::keyClicks(text, "print(args.join('|')); exit(3)");
+    QTest::keyClicks(editor->findChild<QLineEdit *>("scriptArguments"), "a \"b c\"");
+    QTest::mouseClick(editor->findChild<QPushButton *>("runScript"), Qt::LeftButton);
+    QCOMPARE(lastLine(), QString("a|b c"));
+    QCOMPARE(editor->message(), QString("Fertig, Status 3"));
+    // Each run begins anew.
+    text->setPlainText("print(typeof kept); var kept = 1");
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(text, Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(lastLine(), QString("undefined"));
+    }
+    QCOMPARE(editor->message(), QString("Fertig"));
+    ModalScript user;
+    user.then([&user](QWidget *dialog) {
+        user.note(dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    QVERIFY(!editor->close());
+    QVERIFY(user.isDone());
+    QCOMPARE(user.seen, QStringList{"scriptUnsaved"});
+    text->document()->setModified(false);
+    QVERIFY(editor->close());
+}
+
+void tst_Scripts::editorMarksErrors()
+{
+    ScriptEditor *const editor = m_fixture->window->scripts()->showEditor();
+    auto *const text = editor->findChild<QPlainTextEdit *>("scriptText");
+    text->setPlainText("let a = 1;\n\nmapping.projectAt(0).stateAt(-1);\n");
+    QTest::keyClick(text, Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY2(editor->message().startsWith("Zeile 3: Error: The mapping of "),
+             qPrintable(editor->message()));
+    QCOMPARE(text->textCursor().block().blockNumber(), 2);
+    QCOMPARE(text->extraSelections().size(), 1);
+    QTest::keyClicks(text, "x");
+    QCOMPARE(text->extraSelections().size(), 0);
+    text->document()->setModified(false);
+}
+
+void tst_Scripts::editorKeepsFiles()
+{
+    const QString file = m_fixture->directory.filePath("s.js");
+    QFile out(file);
+    QVERIFY(out.open(QIODevice::WriteOnly) && out.write("print('ä')") > 0);
+    out.close();
+    ScriptEditor *const editor = m_fixture->window->scripts()->showEditor();
+    QVERIFY(editor->openFile(file));
+    QCOMPARE(editor->program(), QString("print('ä')"));
+    QVERIFY(editor->windowTitle().startsWith("s.js"));
+    auto *const text = editor->findChild<QPlainTextEdit *>("scriptText");
+    QTest::keyClicks(text, "1;");
+    QVERIFY(editor->isWindowModified());
+    QTest::keyClick(text, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!editor->isWindowModified());
+    QVERIFY(out.open(QIODevice::ReadOnly));
+    QCOMPARE(out.readAll(), QByteArray("1;print('ä')"));
+    QVERIFY(!editor->openFile("/dev/zero"));
+    QVERIFY(editor->message().contains("/dev/zero"));
+    QCOMPARE(editor->file(), file);
+}
+
+void tst_Scripts::documentsOfALine()
+{
+    const PRefPtr<PLinkDbC> linkDb = connectLinkDb();
+    ScriptEditor *const editor = m_fixture->window->scripts()->showEditor();
+    QVERIFY(editor->openFile(VELK_SOURCE_DIR "/examples/scripts/documents-of-line.js"));
+    auto *const run = editor->findChild<QPushButton *>("runScript");
+    QTest::mouseClick(run, Qt::LeftButton);
+    QVERIFY2(editor->message().contains("Select a line first"), qPrintable(editor->message()));
+    QTest::keyClicks(editor->findChild<QLineEdit *>("scriptArguments"), project + " 3");
+    ModalScript user;
+    user.then([&user](QWidget *dialog) {
+        user.seen << QString::fromLatin1(dialog->metaObject()->className());
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    QTest::mouseClick(run, Qt::LeftButton);
+    QVERIFY(user.isDone());
+    QCOMPARE(user.seen, QStringList{"DocumentListDialogC"});
+    QCOMPARE(editor->message(), QString("Fertig"));
+    QCOMPARE(lastLine(), QString("closed with 0"));
+    // What the user arranged there is kept.
+    QVERIFY(!m_fixture->settings->state("script/DocumentListDialogC").isEmpty());
+}
+
+void tst_Scripts::dialogStates()
+{
+    ScriptDialogStates states(m_fixture->settings.get());
+    {
+        StatefulDialog dialog;
+        QDialog plain;
+        states.prepare(&dialog);
+        states.prepare(&plain);
+        QVERIFY(dialog.state.isEmpty());
+        dialog.state = "wide";
+        states.save();
+    }
+    StatefulDialog second;
+    states.prepare(&second);
+    QCOMPARE(second.state, QByteArray("wide"));
+}
+
+void tst_Scripts::erpNumbersInTheTable()
+{
+    const PRefPtr<PLinkDbC> linkDb = connectLinkDb();
+    PLinkDbRecordC record = linkDb->createRecord("plm_document");
+    record.setValue("PRJ_PATH", project);
+    record.setValue("LINE_ID", 3);
+    record.setValue("PDMID1", "4711");
+    QVERIFY(
+        linkDb->executeInsertStatement(linkDb->createSqlStatement("plm_document", record, false)));
+    EditorArea *const editor = m_fixture->window->editor();
+    QVERIFY(editor->selectProject(project));
+    const auto shown = [editor] {
+        const VKTab::ContentRef table = editor->sourceTable();
+        const VKTab::Var var = table.getVar(QString::fromLatin1(ErpNumberLayer::columnName));
+        return table.getLine(3, false).getValue(var, {}).toString();
+    };
+    QTRY_COMPARE(shown(), QString("4711"));
+    m_fixture->press(Qt::Key_F5);
+    QTRY_COMPARE(shown(), QString("4711"));
+}
+
+void tst_Scripts::fromTheCommandLine_data()
+{
+    QTest::addColumn<QByteArray>("program");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<QString>("err");
+    QTest::newRow("done") << QByteArray("print(args.join('|'), workbench.window.isVisible)") << 0
+                          << "a|-b true\n"
+                          << "";
+    QTest::newRow("status") << QByteArray("exit(7)") << 7 << ""
+                            << "";
+    QTest::newRow("fails") << QByteArray("\nthrow new Error('no')") << 6 << ""
+                           << ":2: Error: no\n";
+    QTest::newRow("mapping") << QByteArray("print(mapping.projectCount)") << 0 << "49\n"
+                             << "";
+    QTest::newRow("output") << QByteArray("output.write('x')") << 0 << ""
+                            << "";
+}
+
+void tst_Scripts::fromTheCommandLine()
+{
+    QFETCH(QByteArray, program);
+    QFETCH(QString, err);
+    const QString script = m_fixture->directory.filePath("s.js");
+    QFile file(script);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(program) > 0);
+    file.close();
+    const QString mapping = m_fixture->mappingFile("other.json");
+    const CatalogRoots roots = WindowFixture::roots();
+    QProcess process;
+    process.start(VELK_BINARY_DIR "/bin/velkworkbench",
+                  {"--settings", m_fixture->directory.filePath("set"), "--mapping", mapping,
+                   "--source", roots.source, "--target", roots.target, "--script", script,
+                   "--output", m_fixture->directory.filePath("o.txt"), "a", "--", "-b"});
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    const QString said = QString::fromUtf8(process.readAllStandardError());
+    QVERIFY2(said.contains(err), qPrintable(said));
+    QTEST(process.exitCode(), "status");
+    QTEST(QString::fromUtf8(process.readAllStandardOutput()), "out");
+    QCOMPARE(QFile::exists(m_fixture->directory.filePath("o.txt")), process.exitCode() != 6);
+}
+
+QTEST_MAIN(tst_Scripts)
+#include "tst_Scripts.moc"
