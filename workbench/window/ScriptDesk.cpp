@@ -40,8 +40,10 @@ ScriptDesk::ScriptDesk(MainWindow *window, WorkbenchSettings *settings)
 {
     m_console->input()->setHistory(
         QString::fromUtf8(settings->state(historyState)).split(u'\n', Qt::SkipEmptyParts));
-    m_console->input()->setCompletions(
-        [this](const QString &line) { return lines().engine().completions(line); });
+    m_console->input()->setCompletions([this](const QString &line) {
+        giveMapping(lines());
+        return lines().engine().completions(line);
+    });
     connect(m_console, &ScriptConsole::entered, this, &ScriptDesk::runLine);
     connect(m_console, &ScriptConsole::stopRequested, this, &ScriptDesk::stop);
     connect(VelkApp(), &PApplication::windowSetUp, this, [this](QWidget *dialog) {
@@ -83,6 +85,15 @@ void ScriptDesk::equip(ScriptSession &session)
     session.engine().setCallListener([this](const QString &) { m_dialogs->save(); });
 }
 
+void ScriptDesk::giveMapping(ScriptSession &session) const
+{
+    const MappingDocument *const document = m_window->desk()->document();
+    if (!document->isOpen())
+        return session.setNoMapping();
+    const CatalogRoots roots = document->catalogRoots();
+    session.setMapping(document->release(), {roots.source, roots.target});
+}
+
 void ScriptDesk::setRunning(ScriptSession *session)
 {
     m_running = session;
@@ -94,13 +105,7 @@ void ScriptDesk::setRunning(ScriptSession *session)
 ScriptOutcome ScriptDesk::watch(ScriptSession &session, const QString &title,
                                 const std::function<ScriptOutcome()> &run)
 {
-    const MappingDocument *const document = m_window->desk()->document();
-    if (document->isOpen()) {
-        const CatalogRoots roots = document->catalogRoots();
-        session.setMapping(document->release(), {roots.source, roots.target});
-    } else {
-        session.setNoMapping();
-    }
+    giveMapping(session);
     setRunning(&session);
     DefaultObserverDelegate display;
     display.activate(PProgressObserverBase::Thread);

@@ -51,6 +51,7 @@ private:
     [[nodiscard]] ScriptOutcome watch(ScriptSession &session, const QString &title,
                                       const std::function<ScriptOutcome()> &run);
     void equip(ScriptSession &session);
+    void giveMapping(ScriptSession &session) const;
     void setRunning(ScriptSession *session);
 
     MainWindow *const m_window;

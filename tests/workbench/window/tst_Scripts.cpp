@@ -167,13 +167,13 @@ void tst_Scripts::completionByKeys()
 
 void tst_Scripts::historyIsKept()
 {
-    enter("'ä' + 1");
+    enter("'a' + 1");
     m_fixture->closeWindow();
     m_fixture->makeWindow();
-    QCOMPARE(input()->history(), QStringList{"'ä' + 1"});
+    QCOMPARE(input()->history(), QStringList{"'a' + 1"});
     console()->show();
     QTest::keyClick(input(), Qt::Key_Up);
-    QCOMPARE(input()->text(), QString("'ä' + 1"));
+    QCOMPARE(input()->text(), QString("'a' + 1"));
 }
 
 void tst_Scripts::workbenchObject()
