@@ -18,6 +18,12 @@ QString commonBegin(const QStringList &names)
     return begin;
 }
 
+bool isOfList(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape ||
+           key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
 } // namespace
 
 ConsoleInput::ConsoleInput(QWidget *parent)
@@ -43,6 +49,11 @@ bool ConsoleInput::event(QEvent *event)
     if (event->type() == QEvent::KeyPress) {
         const auto *const key = static_cast<QKeyEvent *>(event);
         const bool isTab = key->key() == Qt::Key_Tab && key->modifiers() == Qt::NoModifier;
+        // The list of names gives its keys to this field first, and takes what that does not want.
+        if (m_completer->popup()->isVisible() && (isTab || isOfList(key->key()))) {
+            event->ignore();
+            return true;
+        }
         if (isTab && !text().left(cursorPosition()).trimmed().isEmpty()) {
             completeName();
             return true;

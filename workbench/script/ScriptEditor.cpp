@@ -55,9 +55,6 @@ ScriptEditor::ScriptEditor(QWidget *parent)
     m_stop->setObjectName("stopScript");
     m_stop->setProperty(ProgressInputFilter::CancelsProgress, true);
     m_stop->setEnabled(false);
-    m_open->setShortcut(QKeySequence::Open);
-    m_save->setShortcut(QKeySequence::Save);
-    m_run->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return));
     auto *const buttons = new QHBoxLayout;
     for (QPushButton *const button : {m_open, m_save, m_run, m_stop}) {
         button->setAutoDefault(false);
@@ -224,6 +221,10 @@ void ScriptEditor::retranslate()
     m_open->setText(tr("Öffnen …"));
     m_save->setText(tr("Speichern"));
     m_run->setText(tr("Ausführen"));
+    // A new text takes a button's key away.
+    m_open->setShortcut(QKeySequence::Open);
+    m_save->setShortcut(QKeySequence::Save);
+    m_run->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return));
     m_run->setToolTip(m_run->shortcut().toString(QKeySequence::NativeText));
     m_stop->setText(tr("Anhalten"));
     m_argumentsTitle->setText(tr("Argumente:"));
@@ -241,10 +242,8 @@ void ScriptEditor::changeEvent(QEvent *event)
 
 void ScriptEditor::closeEvent(QCloseEvent *event)
 {
-    if (mayDrop())
-        QDialog::closeEvent(event);
-    else
-        event->ignore();
+    // Not the dialog's own, which would reject, and that closes.
+    event->setAccepted(mayDrop());
 }
 
 void ScriptEditor::reject()

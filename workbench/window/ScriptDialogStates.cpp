@@ -7,7 +7,7 @@
 
 namespace {
 
-QString keyOf(const QWidget &dialog)
+QString stateNameOf(const QWidget &dialog)
 {
     return QStringLiteral("script/") + QString::fromLatin1(dialog.metaObject()->className());
 }
@@ -32,7 +32,7 @@ void ScriptDialogStates::prepare(QWidget *window)
         return;
     m_dialogs.removeAll(nullptr);
     m_dialogs.append(window);
-    const QByteArray state = m_settings->state(keyOf(*window));
+    const QByteArray state = m_settings->state(stateNameOf(*window));
     if (!state.isEmpty())
         QMetaObject::invokeMethod(window, "restoreState", Q_ARG(QByteArray, state));
 }
@@ -44,6 +44,6 @@ void ScriptDialogStates::save()
         if (dialog &&
             QMetaObject::invokeMethod(dialog, "saveState", Q_RETURN_ARG(QByteArray, state)) &&
             !state.isEmpty())
-            m_settings->setState(keyOf(*dialog), state);
+            m_settings->setState(stateNameOf(*dialog), state);
     }
 }

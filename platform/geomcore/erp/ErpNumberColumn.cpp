@@ -13,10 +13,10 @@ namespace {
 constexpr qsizetype mostLines = 500;
 
 /// For a single line that is asked for by name.
-class LineSource : public VKTab::ErpDataSourceI
+class SingleNumbers : public VKTab::ErpDataSourceI
 {
 public:
-    LineSource(const std::shared_ptr<ErpNumberSourceI> &source, const QString &path)
+    SingleNumbers(const std::shared_ptr<ErpNumberSourceI> &source, const QString &path)
         : m_source(source)
         , m_path(path)
     {
@@ -65,7 +65,8 @@ void ErpNumberColumn::attach(const VKTab::Content &table, const QString &catalog
     m_path = catalogPath;
     m_wishes = std::make_shared<ErpNumberWishes>(
         [this] { QMetaObject::invokeMethod(this, &ErpNumberColumn::read, Qt::QueuedConnection); });
-    m_table.addLayer(ErpNumberLayer(std::make_shared<LineSource>(m_source, catalogPath), m_wishes));
+    m_table.addLayer(
+        ErpNumberLayer(std::make_shared<SingleNumbers>(m_source, catalogPath), m_wishes));
 }
 
 void ErpNumberColumn::leave()

@@ -91,8 +91,9 @@ void tst_Scripts::init()
 
 void tst_Scripts::cleanup()
 {
-    m_fixture.reset();
+    m_fixture->closeWindow();
     PLinkDbC::setInstance({});
+    m_fixture.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(PMemManager::liveObjects(), 0);
 }
@@ -227,6 +228,7 @@ void tst_Scripts::editorRuns()
     QTest::keyClick(m_fixture->window.get(), Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
     auto *const editor = m_fixture->window->findChild<ScriptEditor *>();
     QVERIFY(editor && editor->isVisible());
+    QTRY_COMPARE(QApplication::activeWindow(), editor);
     auto *const text = editor->findChild<QPlainTextEdit *>("scriptText");
     QTest::keyClicks(text, "print(args.join('|')); exit(3)");
     QTest::keyClicks(editor->findChild<QLineEdit *>("scriptArguments"), "a \"b c\"");
@@ -236,10 +238,12 @@ void tst_Scripts::editorRuns()
     // Each run begins anew.
     text->setPlainText("print(typeof kept); var kept = 1");
     for (int i = 0; i < 2; ++i) {
+        const qsizetype before = console()->text().size();
         QTest::keyClick(text, Qt::Key_Return, Qt::ControlModifier);
-        QCOMPARE(lastLine(), QString("undefined"));
+        QTRY_COMPARE(console()->text().mid(before).trimmed(), QString("undefined"));
     }
-    QCOMPARE(editor->message(), QString("Fertig"));
+    QTRY_COMPARE(editor->message(), QString("Fertig"));
+    QTest::keyClicks(text, " ");
     ModalScript user;
     user.then([&user](QWidget *dialog) {
         user.note(dialog);
@@ -255,11 +259,12 @@ void tst_Scripts::editorRuns()
 void tst_Scripts::editorMarksErrors()
 {
     ScriptEditor *const editor = m_fixture->window->scripts()->showEditor();
+    QTRY_COMPARE(QApplication::activeWindow(), editor);
     auto *const text = editor->findChild<QPlainTextEdit *>("scriptText");
     text->setPlainText("let a = 1;\n\nmapping.projectAt(0).stateAt(-1);\n");
     QTest::keyClick(text, Qt::Key_Return, Qt::ControlModifier);
-    QVERIFY2(editor->message().startsWith("Zeile 3: Error: The mapping of "),
-             qPrintable(editor->message()));
+    QTRY_VERIFY2(editor->message().startsWith("Zeile 3: Error: The mapping of "),
+                 qPrintable(editor->message()));
     QCOMPARE(text->textCursor().block().blockNumber(), 2);
     QCOMPARE(text->extraSelections().size(), 1);
     QTest::keyClicks(text, "x");
@@ -274,6 +279,7 @@ void tst_Scripts::editorKeepsFiles()
     QVERIFY(out.open(QIODevice::WriteOnly) && out.write("print('ä')") > 0);
     out.close();
     ScriptEditor *const editor = m_fixture->window->scripts()->showEditor();
+    QTRY_COMPARE(QApplication::activeWindow(), editor);
     QVERIFY(editor->openFile(file));
     QCOMPARE(editor->program(), QString("print('ä')"));
     QVERIFY(editor->windowTitle().startsWith("s.js"));
@@ -281,7 +287,7 @@ void tst_Scripts::editorKeepsFiles()
     QTest::keyClicks(text, "1;");
     QVERIFY(editor->isWindowModified());
     QTest::keyClick(text, Qt::Key_S, Qt::ControlModifier);
-    QVERIFY(!editor->isWindowModified());
+    QTRY_VERIFY(!editor->isWindowModified());
     QVERIFY(out.open(QIODevice::ReadOnly));
     QCOMPARE(out.readAll(), QByteArray("1;print('ä')"));
     QVERIFY(!editor->openFile("/dev/zero"));
@@ -293,6 +299,7 @@ void tst_Scripts::documentsOfALine()
 {
     const PRefPtr<PLinkDbC> linkDb = connectLinkDb();
     ScriptEditor *const editor = m_fixture->window->scripts()->showEditor();
+    QTRY_COMPARE(QApplication::activeWindow(), editor);
     QVERIFY(editor->openFile(VELK_SOURCE_DIR "/examples/scripts/documents-of-line.js"));
     auto *const run = editor->findChild<QPushButton *>("runScript");
     QTest::mouseClick(run, Qt::LeftButton);
