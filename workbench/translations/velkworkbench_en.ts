@@ -1136,6 +1136,10 @@ Please choose another file.</translation>
         <source>Keine Verbindung zur Linkdatenbank: %1</source>
         <translation>No connection to the link database: %1</translation>
     </message>
+    <message>
+        <source>Die ERP-Nummern können nicht gelesen werden. %1</source>
+        <translation>The ERP numbers cannot be read. %1</translation>
+    </message>
 </context>
 <context>
     <name>MappingDocument</name>
@@ -1974,6 +1978,139 @@ Line: %2
     </message>
 </context>
 <context>
+    <name>ScriptConsole</name>
+    <message>
+        <source>Skriptkonsole</source>
+        <translation>Script Console</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Skripte</source>
+        <translation>Output of scripts</translation>
+    </message>
+    <message>
+        <source>Zeile eines Skripts</source>
+        <translation>Line of a script</translation>
+    </message>
+    <message>
+        <source>Eine Zeile JavaScript. Eingabe führt sie aus, Tab ergänzt, Auf und Ab blättern.</source>
+        <translation>A line of JavaScript. Return runs it, Tab completes, Up and Down browse.</translation>
+    </message>
+    <message>
+        <source>Anhalten</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Hält das laufende Skript an (Esc)</source>
+        <translation>Stops the running script (Esc)</translation>
+    </message>
+    <message>
+        <source>Leeren</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Löscht die Ausgabe</source>
+        <translation>Deletes the output</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptDesk</name>
+    <message>
+        <source>Skript %1</source>
+        <translation>Script %1</translation>
+    </message>
+    <message>
+        <source>(Konsole)</source>
+        <translation>(console)</translation>
+    </message>
+    <message>
+        <source>Fertig</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>Fertig, Status %1</source>
+        <translation>Done, status %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Line %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptEditor</name>
+    <message>
+        <source>Sie ist zu groß.</source>
+        <translation>It is too large.</translation>
+    </message>
+    <message>
+        <source>Sie ist kein Text in UTF-8.</source>
+        <translation>It is no text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelesen werden. %2</source>
+        <translation>%1 cannot be read. %2</translation>
+    </message>
+    <message>
+        <source>Skript öffnen</source>
+        <translation>Open Script</translation>
+    </message>
+    <message>
+        <source>Skripte (*.js);;Alle Dateien (*)</source>
+        <translation>Scripts (*.js);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Skript speichern</source>
+        <translation>Save Script</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden. %2</source>
+        <translation>%1 cannot be written. %2</translation>
+    </message>
+    <message>
+        <source>Das Skript ist nicht gespeichert.</source>
+        <translation>The script is not saved.</translation>
+    </message>
+    <message>
+        <source>(ohne Namen)</source>
+        <translation>(without a name)</translation>
+    </message>
+    <message>
+        <source>Neues Skript</source>
+        <translation>New script</translation>
+    </message>
+    <message>
+        <source>Skript</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>Öffnen …</source>
+        <translation>Open …</translation>
+    </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Ausführen</source>
+        <translation>Run</translation>
+    </message>
+    <message>
+        <source>Anhalten</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Argumente:</source>
+        <translation>Arguments:</translation>
+    </message>
+    <message>
+        <source>Text des Skripts</source>
+        <translation>Text of the script</translation>
+    </message>
+    <message>
+        <source>Argumente</source>
+        <translation>Arguments</translation>
+    </message>
+</context>
+<context>
     <name>SessionOwner</name>
     <message>
         <source>(Prozess %1)</source>
@@ -2659,6 +2796,14 @@ Line: %2
     <message>
         <source>Kandidat &amp;5</source>
         <translation>Candidate &amp;5</translation>
+    </message>
+    <message>
+        <source>&amp;Skript...</source>
+        <translation>Sc&amp;ript...</translation>
+    </message>
+    <message>
+        <source>Öffnet ein Fenster, in dem Skripte geschrieben und ausgeführt werden</source>
+        <translation>Opens a window in which scripts are written and run</translation>
     </message>
 </context>
 </TS>

@@ -3,10 +3,8 @@
 #include "DocumentDesk.h"
 #include "MainWindow.h"
 #include "prxWorkbenchC.h"
-#include "ScriptDialogStates.h"
 #include "WorkbenchSettings.h"
 
-#include <gui/application/PApplication.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
@@ -36,7 +34,6 @@ ScriptDesk::ScriptDesk(MainWindow *window, WorkbenchSettings *settings)
     , m_window(window)
     , m_settings(settings)
     , m_console(new ScriptConsole(window))
-    , m_dialogs(std::make_unique<ScriptDialogStates>(settings))
 {
     m_console->input()->setHistory(
         QString::fromUtf8(settings->state(historyState)).split(u'\n', Qt::SkipEmptyParts));
@@ -46,10 +43,6 @@ ScriptDesk::ScriptDesk(MainWindow *window, WorkbenchSettings *settings)
     });
     connect(m_console, &ScriptConsole::entered, this, &ScriptDesk::runLine);
     connect(m_console, &ScriptConsole::stopRequested, this, &ScriptDesk::stop);
-    connect(VelkApp(), &PApplication::windowSetUp, this, [this](QWidget *dialog) {
-        if (isRunning())
-            m_dialogs->prepare(dialog);
-    });
 }
 
 ScriptDesk::~ScriptDesk()
@@ -82,7 +75,6 @@ void ScriptDesk::equip(ScriptSession &session)
                                static_cast<const proxyObjectC *>(new prxWorkbenchC(m_window)));
     session.engine().setPrinter([this](const QString &text) { m_console->print(text); });
     session.engine().setLimits({.silent = std::chrono::seconds(SilentSeconds), .bytes = mostBytes});
-    session.engine().setCallListener([this](const QString &) { m_dialogs->save(); });
 }
 
 void ScriptDesk::giveMapping(ScriptSession &session) const

@@ -9,7 +9,6 @@
 
 class MainWindow;
 class ScriptConsole;
-class ScriptDialogStates;
 class ScriptEditor;
 class WorkbenchSettings;
 
@@ -58,7 +57,6 @@ private:
     WorkbenchSettings *const m_settings;
     ScriptConsole *const m_console;
     QPointer<ScriptEditor> m_editor;
-    std::unique_ptr<ScriptDialogStates> m_dialogs;
     std::unique_ptr<ScriptSession> m_lines; ///< of the console; made at its first line
     ScriptSession *m_running = nullptr;
 };

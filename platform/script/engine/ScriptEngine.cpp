@@ -362,8 +362,6 @@ void ScriptEngine::dropCollected()
 
 void ScriptEngine::endCall(const QString &member)
 {
-    if (m_callListener)
-        m_callListener(member);
     if (m_watch)
         m_watch->enterScript();
 }

@@ -44,11 +44,6 @@ public:
     /// Called when a script calls an object, every 50 ms at most: to look after other things, such
     /// as a wish to stop.
     void setBreath(const std::function<void()> &breath) { m_breath = breath; }
-    /// Called after each call that a script made of an object's method.
-    void setCallListener(const std::function<void(const QString &member)> &listener)
-    {
-        m_callListener = listener;
-    }
 
     /// Gives the value of the last statement. After an error it is empty and the exception is
     /// there; so it is after a stop, but not after exit(). Refused while a script runs.
@@ -113,7 +108,6 @@ private:
     ScriptLimits m_limits;
     std::function<void(const QString &)> m_printer;
     std::function<void()> m_breath;
-    std::function<void(const QString &)> m_callListener;
     std::chrono::steady_clock::time_point m_lastBreath;
     std::unique_ptr<ScriptWatch> m_watch; ///< while script code is at work
     ScriptStop m_stopped = ScriptStop::No;

@@ -3,7 +3,6 @@
 
 #include <geomcore/erp/ErpNumberLayer.h>
 #include <geomcore/linkdb/PLinkDbC.h>
-#include <gui/application/PApplication.h>
 #include <TestPaths.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
@@ -11,7 +10,6 @@
 #include <workbench/window/LogWindow.h>
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/ScriptDesk.h>
-#include <workbench/window/ScriptDialogStates.h>
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <QAbstractItemView>
@@ -28,18 +26,6 @@
 namespace {
 
 const QString project = QStringLiteral("standardparts/screws/iso4014.prj");
-
-/// A dialog that scripts show, with a state.
-class StatefulDialog : public QDialog
-{
-    Q_OBJECT
-
-public:
-    Q_INVOKABLE QByteArray saveState() { return state; } // clazy:exclude=function-args-by-value
-    Q_INVOKABLE void restoreState(const QByteArray &restored) { state = restored; }
-
-    QByteArray state;
-};
 
 } // namespace
 
@@ -62,7 +48,6 @@ private Q_SLOTS:
     void editorMarksErrors();
     void editorKeepsFiles();
     void documentsOfALine();
-    void dialogStates();
     void erpNumbersInTheTable();
     void fromTheCommandLine_data();
     void fromTheCommandLine();
@@ -315,25 +300,6 @@ void tst_Scripts::documentsOfALine()
     QCOMPARE(user.seen, QStringList{"DocumentListDialogC"});
     QCOMPARE(editor->message(), QString("Fertig"));
     QCOMPARE(lastLine(), QString("closed with 0"));
-    // What the user arranged there is kept.
-    QVERIFY(!m_fixture->settings->state("script/DocumentListDialogC").isEmpty());
-}
-
-void tst_Scripts::dialogStates()
-{
-    ScriptDialogStates states(m_fixture->settings.get());
-    {
-        StatefulDialog dialog;
-        QDialog plain;
-        states.prepare(&dialog);
-        states.prepare(&plain);
-        QVERIFY(dialog.state.isEmpty());
-        dialog.state = "wide";
-        states.save();
-    }
-    StatefulDialog second;
-    states.prepare(&second);
-    QCOMPARE(second.state, QByteArray("wide"));
 }
 
 void tst_Scripts::erpNumbersInTheTable()
