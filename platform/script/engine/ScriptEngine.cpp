@@ -360,7 +360,7 @@ void ScriptEngine::dropCollected()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void ScriptEngine::endCall(const QString &member)
+void ScriptEngine::endCall()
 {
     if (m_watch)
         m_watch->enterScript();
@@ -386,7 +386,7 @@ void ScriptEngine::print(const QString &line)
     beginCall();
     if (m_printer)
         m_printer(line);
-    endCall(QStringLiteral("print"));
+    endCall();
 }
 
 void ScriptEngine::exit(int status)

@@ -87,7 +87,7 @@ public:
 
     /// Round a call of an object by the script: the script's time stands still.
     void beginCall();
-    void endCall(const QString &member);
+    void endCall();
 
     /// For scripts.
     Q_INVOKABLE QJSValue createObject(const QString &id);

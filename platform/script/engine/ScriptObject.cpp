@@ -102,7 +102,7 @@ QJSValue ScriptObject::invoke(const QString &name, int kind, const mzComVariantA
         const int outcome = object.invoke(name, kind, arguments, result, exception);
         if (!engine)
             return {};
-        engine->endCall(name);
+        engine->endCall();
         if (outcome == mzComSuccess)
             return engine->toScript(result);
     } catch (const mzComExceptionC &error) {
