@@ -10,6 +10,11 @@ namespace {
 
 using Outcome = StartOptions::Outcome;
 
+QStringList dialogs()
+{
+    return {"formula", "search", "links", "proof"};
+}
+
 void addOptions(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
@@ -33,8 +38,8 @@ void addOptions(QCommandLineParser &parser)
         {"mapping", "Mapping file to open for the script.", "FILE"},
         {"output", "File that the script may write.", "FILE"},
         {"screenshot", "Renders the editor into a PNG file, without a display, and ends.", "FILE"},
-        {"dialog", "Renders a dialog instead: formula or search.", "DIALOG"},
-        {"text", "Text in that dialog.", "TEXT"},
+        {"dialog", "Renders a dialog instead: " + dialogs().join(" or ") + ".", "DIALOG"},
+        {"text", "Text in that dialog; for links and proof the link database.", "TEXT"},
         {"size", "Size of the window, such as 1400x900.", "WxH"},
         {"scale", "Pixels for a length of 1 in a screenshot: 1 or 2.", "N", "1"},
         {"theme", "light or dark.", "THEME"},
@@ -66,8 +71,8 @@ QString wrongValue(const QCommandLineParser &parser, const StartOptions &options
         return wrong("size", "of the form WxH");
     if (options.scale != 1 && options.scale != 2)
         return wrong("scale", "1 or 2");
-    if (parser.isSet("dialog") && options.dialog != "formula" && options.dialog != "search")
-        return wrong("dialog", "formula or search");
+    if (parser.isSet("dialog") && !dialogs().contains(options.dialog))
+        return wrong("dialog", dialogs().join(" or "));
     if (!options.theme.isEmpty() && options.theme != "light" && options.theme != "dark")
         return wrong("theme", "light or dark");
     if (!options.language.isEmpty() && !EditorLanguages::all().contains(options.language))

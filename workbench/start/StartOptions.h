@@ -22,7 +22,7 @@ struct StartOptions
     QString release;      ///< source date; empty: the last release of the file
     QString selectedPath; ///< source path of a project
     int selectedLine = -1;
-    QString dialog;     ///< of the screenshot: "formula", "search"; empty: the window
+    QString dialog;     ///< of the screenshot, see ScreenshotDialog; empty: the window
     QString dialogText; ///< in that dialog
     QString script;     ///< file; the program runs it and ends
     QStringList scriptArguments;

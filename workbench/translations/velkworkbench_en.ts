@@ -974,6 +974,10 @@ Please choose another file.</translation>
         <source>Offene Zeilen mit Nummern</source>
         <translation>Open lines with numbers</translation>
     </message>
+    <message>
+        <source>Nummern: %1</source>
+        <translation>Numbers: %1</translation>
+    </message>
 </context>
 <context>
     <name>LogWindow</name>

@@ -20,7 +20,7 @@ enum LinkColumn { NumberColumn, PathColumn, LineColumn, NameColumn };
 
 QString likeText(const QString &search)
 {
-    QString text = search;
+    QString text = search.toLower();
     for (const QChar sign : {u'\\', u'%', u'_'})
         text.replace(sign, QString(u'\\') + sign);
     return u'%' + text + u'%';
@@ -92,9 +92,11 @@ void LinkListDialog::load()
     const QString table = m_linkDb->getTableName("PLMTABLE2");
     QString statement = "SELECT GEO_ID, PDMID1, PRJ_PATH, LINE_ID, NBDEFAULTLANG FROM " + table;
     if (!m_search->text().isEmpty()) {
+        // Each database has another idea of LIKE for capitals.
         const QString like =
-            " LIKE " + m_linkDb->literal(likeText(m_search->text())) + " ESCAPE '\\'";
-        statement += " WHERE PDMID1" + like + " OR PRJ_PATH" + like + " OR NBDEFAULTLANG" + like;
+            ") LIKE " + m_linkDb->literal(likeText(m_search->text())) + " ESCAPE '\\'";
+        statement += " WHERE LOWER(PDMID1" + like + " OR LOWER(PRJ_PATH" + like +
+                     " OR LOWER(NBDEFAULTLANG" + like;
     }
     statement += " ORDER BY PRJ_PATH, LINE_ID, PDMID1 LIMIT " + QString::number(MostRows + 1);
     PLinkDbQueryCacheC rows(m_linkDb->executeSelectStatement(statement));

@@ -107,8 +107,8 @@ void LinkProofDialog::fill(const LinkProof &proof)
     }
     kind = addKind(tr("Offene Zeilen mit Nummern"), proof.open().size());
     for (const LinkProof::Open &each : proof.open())
-        add(kind, QString::number(each.numbers.size()), each.place,
-            each.numbers.join(QStringLiteral(", ")));
+        add(kind, each.numbers.join(QStringLiteral(", ")), each.place,
+            tr("Nummern: %1").arg(each.numbers.size()));
     for (int column = 0; column < m_list->columnCount(); ++column)
         m_list->resizeColumnToContents(column);
 }

@@ -83,10 +83,13 @@ int Screenshot::take(DocumentDesk::Wish wish, QSettings *store)
     const QPixmap picture =
         m_options.dialog.isEmpty()
             ? m_window.grab()
-            : ScreenshotDialog::take(m_options.dialog, m_options.dialogText, *m_window.editor());
+            : ScreenshotDialog::take(m_options.dialog, m_options.dialogText, m_window);
+    const QString problem = m_window.log()->text();
     const bool saved = picture.save(m_options.screenshot, "PNG");
     // The copy goes with this function, and what is open with it.
     m_window.editor()->close();
     m_window.desk()->document()->close();
+    if (picture.isNull())
+        return fail(Unreadable, problem);
     return saved ? Done : fail(Unwritable, "cannot write " + m_options.screenshot);
 }

@@ -1,12 +1,17 @@
 #include "ScreenshotDialog.h"
 
 #include "EditorArea.h"
+#include "LinkDbHost.h"
+#include "MainWindow.h"
 
 #include <formula/DlgFormulaEditor.h>
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/table/Content.h>
+#include <gui/application/PApplicationPool.h>
 #include <selection/dlgSearchSelect.h>
 
+#include <QAction>
+#include <QDialog>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -17,6 +22,8 @@ constexpr int formulaMilliseconds = 800;
 constexpr int searchMilliseconds = 5000;
 constexpr QSize formulaSize(560, 260);
 constexpr QSize searchSize(640, 520);
+constexpr int linksMilliseconds = 100;
+constexpr QSize linksSize(900, 420);
 
 QPixmap grabLater(QWidget &dialog, const QSize &size, int milliseconds)
 {
@@ -48,11 +55,34 @@ QPixmap search(const QString &text)
     return grabLater(dialog, searchSize, searchMilliseconds);
 }
 
+QPixmap ofLinkDb(const QString &name, const QString &address, const MainWindow &window)
+{
+    LinkDbHost *const host = window.linkDb();
+    host->apply(address, QString());
+    if (host->state() == LinkDbHost::Connecting) {
+        QEventLoop loop;
+        QObject::connect(host, &LinkDbHost::changed, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    if (host->state() != LinkDbHost::Connected)
+        return {};
+    const bool isProof = name == QLatin1String("proof");
+    QAction *const action = isProof ? window.findChild<QAction *>("proveNumbers")
+                                    : PApplicationPool::instance().action("CallLinkMgr");
+    action->trigger();
+    auto *const dialog =
+        window.findChild<QDialog *>(isProof ? "LinkProofDialog" : "LinkListDialog");
+    return dialog ? grabLater(*dialog, linksSize, linksMilliseconds) : QPixmap();
+}
+
 } // namespace
 
-QPixmap ScreenshotDialog::take(const QString &name, const QString &text, const EditorArea &editor)
+QPixmap ScreenshotDialog::take(const QString &name, const QString &text, const MainWindow &window)
 {
     if (name == QLatin1String("formula"))
-        return formula(text, editor);
-    return name == QLatin1String("search") ? search(text) : QPixmap();
+        return formula(text, *window.editor());
+    if (name == QLatin1String("search"))
+        return search(text);
+    const bool isOfLinkDb = name == QLatin1String("links") || name == QLatin1String("proof");
+    return isOfLinkDb ? ofLinkDb(name, text, window) : QPixmap();
 }

@@ -3,14 +3,16 @@
 #include <QPixmap>
 #include <QString>
 
-class EditorArea;
+class MainWindow;
 
-/// Renders one of the editor's dialogs by its name, "formula" or "search", with a text in it: a
-/// statement over the variables of the open project, or words to search for in its catalog.
+/// Renders one of the editor's dialogs by its name: "formula" or "search" with a text in it, a
+/// statement over the variables of the open project, or words to search for in its catalog; "links"
+/// or "proof" over the link database whose address the text is.
 class ScreenshotDialog
 {
 public:
-    /// Null for a name that is none of both. Takes seconds: the search is a real one.
+    /// Null for a name that is none of these, and for a database that cannot be opened, which the
+    /// window's messages tell. Takes seconds: the search is a real one.
     [[nodiscard]] static QPixmap take(const QString &name, const QString &text,
-                                      const EditorArea &editor);
+                                      const MainWindow &window);
 };

@@ -48,13 +48,35 @@ private Q_SLOTS:
     void logsIn();
     void logsInAtAServer();
     void choosesGroup();
+    void listsLinks_data() { databases(); }
     void listsLinks();
+    void handsSelectionOver_data() { databases(); }
     void handsSelectionOver();
+    void restoresDeleted_data() { databases(); }
     void restoresDeleted();
+    void showsDocumentsOfTheLine_data() { databases(); }
     void showsDocumentsOfTheLine();
+    void provesNumbers_data() { databases(); }
     void provesNumbers();
 
 private:
+    static void databases()
+    {
+        QTest::addColumn<bool>("onServer");
+        QTest::newRow("SQLite") << false;
+        QTest::newRow("PostgreSQL") << true;
+    }
+    void connectDatabase(const WindowFixture &fixture)
+    {
+        QFETCH(bool, onServer);
+        if (!onServer)
+            return connectFile(fixture);
+        if (!m_server)
+            m_server = std::make_unique<PostgresServer>();
+        QVERIFY2(m_server->isRunning(), qPrintable(m_server->problem()));
+        setAddress(fixture, m_server->newDatabase());
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.window->linkDb()->state(), LinkDbHost::Connected, 20'000);
+    }
     static void connectFile(const WindowFixture &fixture)
     {
         setAddress(fixture, "sqlite:" + fixture.directory.filePath("link.db"));
@@ -82,6 +104,8 @@ private:
             result.append(tree->topLevelItem(i)->text(column));
         return result;
     }
+
+    std::unique_ptr<PostgresServer> m_server;
 };
 
 void tst_LinkDb::settingsOfTheBox_data()
@@ -180,12 +204,12 @@ void tst_LinkDb::logsIn()
 
 void tst_LinkDb::logsInAtAServer()
 {
-    PostgresServer server;
-    QVERIFY2(server.isRunning(), qPrintable(server.problem()));
-    const QString database = LinkDbSettings::fromText(server.newDatabase()).database;
+    m_server = std::make_unique<PostgresServer>();
+    QVERIFY2(m_server->isRunning(), qPrintable(m_server->problem()));
+    const QString database = LinkDbSettings::fromText(m_server->newDatabase()).database;
     qputenv("PGPASSFILE", "/nonexistent");
     const WindowFixture fixture;
-    setAddress(fixture, server.loopbackAddress(database));
+    setAddress(fixture, m_server->loopbackAddress(database));
     QTRY_COMPARE_WITH_TIMEOUT(fixture.window->linkDb()->state(), LinkDbHost::Failed, 20'000);
     const auto logIn = [](const QString &password) {
         ModalScript script;
@@ -234,7 +258,7 @@ void tst_LinkDb::listsLinks()
 {
     WindowFixture fixture;
     fixture.open(fixture.mappingFile());
-    connectFile(fixture);
+    connectDatabase(fixture);
     addDocument(fixture, "N1", 3);
     addDocument(fixture, "N_2", 4);
     addDocument(fixture, "N32", 5);
@@ -243,9 +267,9 @@ void tst_LinkDb::listsLinks()
     auto *list = dialog->findChild<QTreeWidget *>("links");
     QCOMPARE(texts(list, 0), QStringList({"N1", "N_2", "N32"}));
     QCOMPARE(texts(list, 2), QStringList({"3", "4", "5"}));
-    // Signs with a meaning in SQL are looked for as they are.
+    // Signs with a meaning in SQL are looked for as they are, capitals like others.
     auto *search = dialog->findChild<QLineEdit *>("search");
-    QTest::keyClicks(search, "_2");
+    QTest::keyClicks(search, "n_2");
     QTest::keyClick(search, Qt::Key_Return);
     QCOMPARE(texts(list, 0), QStringList{"N_2"});
     search->clear();
@@ -260,7 +284,7 @@ void tst_LinkDb::handsSelectionOver()
 {
     WindowFixture fixture;
     fixture.open(fixture.mappingFile());
-    connectFile(fixture);
+    connectDatabase(fixture);
     addDocument(fixture, "N1", 3);
     QVERIFY(fixture.window->editor()->selectProject(din933));
     QVERIFY(fixture.window->editor()->selectLine(7));
@@ -289,7 +313,7 @@ void tst_LinkDb::handsSelectionOver()
 void tst_LinkDb::restoresDeleted()
 {
     const WindowFixture fixture;
-    connectFile(fixture);
+    connectDatabase(fixture);
     addDocument(fixture, "N1", 3);
     addDocument(fixture, "N2", 4);
     QVERIFY(PLinkDbC::instance()->executeInsertStatement(
@@ -313,7 +337,7 @@ void tst_LinkDb::showsDocumentsOfTheLine()
 {
     WindowFixture fixture;
     fixture.open(fixture.mappingFile());
-    connectFile(fixture);
+    connectDatabase(fixture);
     QVERIFY(fixture.window->editor()->selectProject(din933));
     QVERIFY(fixture.window->editor()->selectLine(3));
     QTRY_VERIFY(pooled("LinkDbAddToDb")->isEnabled());
@@ -351,7 +375,7 @@ void tst_LinkDb::provesNumbers()
 {
     WindowFixture fixture;
     fixture.open(fixture.mappingFile());
-    connectFile(fixture);
+    connectDatabase(fixture);
     addDocument(fixture, "N1", 3);
     addDocument(fixture, "N2", 99'999);
     QVERIFY(fixture.action("proveNumbers")->isEnabled());

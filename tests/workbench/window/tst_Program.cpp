@@ -162,12 +162,16 @@ private Q_SLOTS:
                                  << QSize(560, 260);
         QTest::newRow("search") << QStringList{"--dialog", "search", "--text", "din"}
                                 << QSize(640, 520);
+        for (const char *dialog : {"links", "proof"})
+            QTest::newRow(dialog) << QStringList{"--dialog", dialog, "--text", "link.db"}
+                                  << QSize(900, 420);
     }
     void rendersDialogs()
     {
         QFETCH(QStringList, extra);
         const WindowFixture fixture;
         const QString picture = fixture.directory.filePath("p.png");
+        extra.replaceInStrings("link.db", "sqlite:" + fixture.directory.filePath("link.db"));
         qputenv("XDG_CACHE_HOME", fixture.directory.filePath("cache").toUtf8());
         const Run run = program(pictureOf(fixture.mappingFile(), picture) + extra);
         qunsetenv("XDG_CACHE_HOME");
@@ -228,6 +232,11 @@ private Q_SLOTS:
         const Run roots = program({"--screenshot", picture, mapping});
         QCOMPARE(roots.status, 2);
         QVERIFY2(roots.err.contains("--source"), qPrintable(roots.err));
+        const Run database =
+            program(pictureOf(mapping, picture) +
+                    QStringList{"--dialog", "links", "--text", fixture.directory.path()});
+        QCOMPARE(database.status, 2);
+        QVERIFY2(database.err.contains("not a regular file"), qPrintable(database.err));
         const Run unwritable =
             program(pictureOf(mapping, fixture.directory.filePath("no/such/p.png")));
         QCOMPARE(unwritable.status, 3);
