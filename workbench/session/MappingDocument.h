@@ -167,7 +167,7 @@ public:
     [[nodiscard]] MergeOutcome mergeFile();
     /// What the last merge left; empty before.
     [[nodiscard]] const MergeState &mergeState() const;
-    /// Decides clashing lines for one side, in one step.
+    /// Decides clashing lines for one side or for neither, in one step.
     void settle(const QList<VelkRelease::MergeClash> &clashes, MergeState::Side side);
 
     /// 180 seconds at first; 0: never.

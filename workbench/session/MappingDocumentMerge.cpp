@@ -2,6 +2,7 @@
 
 #include <geomcore/records/sameTargetHead.h>
 #include <release/merge/mergeReleases.h>
+#include <release/merge/setStanding.h>
 
 namespace {
 
@@ -58,20 +59,42 @@ MergeOutcome MappingDocumentPrivate::mergeFile()
     return outcome;
 }
 
+namespace {
+
+QString settledText(MergeState::Side side, int lines)
+{
+    switch (side) {
+    case MergeState::Side::Ours:
+        return MappingDocument::tr("%n Konflikt(e): eigene Entscheidung", nullptr, lines);
+    case MergeState::Side::Theirs:
+        return MappingDocument::tr("%n Konflikt(e): Entscheidung der anderen Seite", nullptr,
+                                   lines);
+    case MergeState::Side::Neither:
+        break;
+    }
+    return MappingDocument::tr("%n Konflikt(e): neu zu entscheiden", nullptr, lines);
+}
+
+} // namespace
+
 void MappingDocumentPrivate::settle(const QList<VelkRelease::MergeClash> &clashes,
                                     MergeState::Side side)
 {
-    const QString text = side == MergeState::Side::Ours
-                             ? MappingDocument::tr("%n Konflikt(e): eigene Entscheidung", nullptr,
-                                                   int(clashes.size()))
-                             : MappingDocument::tr("%n Konflikt(e): Entscheidung der anderen Seite",
-                                                   nullptr, int(clashes.size()));
-    q->beginStep(text);
+    QList<QPair<ProjectId, QList<QPair<int, VelkRelease::LineStanding>>>> projects;
     for (const VelkRelease::MergeClash &clash : clashes) {
-        const PrjMappingC mapping =
-            release().findMapping(clash.sourcePath, clash.sourceVersion, QString());
-        if (mapping.isValid())
-            q->updateMapping(MergeState::settled(mapping, clash, side));
+        const ProjectId project{clash.sourcePath, clash.sourceVersion, QString()};
+        if (projects.isEmpty() || projects.last().first != project)
+            projects.append({project, {}});
+        projects.last().second.append({clash.line, MergeState::standing(clash, side)});
+    }
+    q->beginStep(settledText(side, int(clashes.size())));
+    for (const auto &[project, standings] : std::as_const(projects)) {
+        PrjMappingC mapping =
+            release().findMapping(project.path, project.version, project.tabVersion);
+        if (!mapping.isValid())
+            continue;
+        VelkRelease::setStandings(mapping, standings);
+        q->updateMapping(mapping);
     }
     q->endStep();
 }

@@ -1,7 +1,5 @@
 #include "MergeState.h"
 
-#include <release/merge/setStanding.h>
-
 #include <algorithm>
 
 using VelkRelease::MergeClash;
@@ -63,11 +61,26 @@ MappingChangeMap MergeState::localChanges(const ReleaseMappingC &release) const
     return left;
 }
 
-PrjMappingC MergeState::settled(const PrjMappingC &mapping, const MergeClash &clash, Side side)
+QList<MergeClash> MergeState::lineClashes() const
 {
-    PrjMappingC changed = mapping;
-    setStanding(changed, clash.line, side == Side::Ours ? clash.ours : clash.theirs);
-    return changed;
+    QList<MergeClash> lines;
+    std::ranges::copy_if(m_clashes, std::back_inserter(lines), [](const MergeClash &clash) {
+        return clash.kind == MergeClash::Line;
+    });
+    return lines;
+}
+
+VelkRelease::LineStanding MergeState::standing(const MergeClash &clash, Side side)
+{
+    switch (side) {
+    case Side::Ours:
+        return clash.ours;
+    case Side::Theirs:
+        return clash.theirs;
+    case Side::Neither:
+        break;
+    }
+    return {};
 }
 
 QString MergeState::text(const VelkRelease::MergeResult &result)

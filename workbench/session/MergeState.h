@@ -26,6 +26,7 @@ public:
     enum class Side {
         Ours,
         Theirs,
+        Neither, ///< the line is without target and to be decided
     };
 
     MergeState() = default;
@@ -39,9 +40,11 @@ public:
     /// Our changes that were not taken, without the lines that are settled.
     [[nodiscard]] MappingChangeMap localChanges(const ReleaseMappingC &release) const;
     [[nodiscard]] const MappingChangeMap &onlineChanges() const { return m_online; }
-    /// The mapping with the line as that side has it, and no mark.
-    [[nodiscard]] static PrjMappingC settled(const PrjMappingC &mapping,
-                                             const VelkRelease::MergeClash &clash, Side side);
+    /// Clashes of lines, settled or not, in the order of the release.
+    [[nodiscard]] QList<VelkRelease::MergeClash> lineClashes() const;
+    /// What a line is when that side is chosen; it has no mark.
+    [[nodiscard]] static VelkRelease::LineStanding standing(const VelkRelease::MergeClash &clash,
+                                                            Side side);
     /// German: what the merge came to.
     [[nodiscard]] static QString text(const VelkRelease::MergeResult &result);
 

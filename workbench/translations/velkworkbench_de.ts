@@ -103,12 +103,49 @@
     </message>
 </context>
 <context>
+    <name>ConflictCommands</name>
+    <message numerus="yes">
+        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <translation>
+            <numerusform>%n Zeile von %1 widerspricht sich in der gleichen Weise. Gilt die Entscheidung für alle?</numerusform>
+            <numerusform>%n Zeilen von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ConflictDock</name>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <translation>
+            <numerusform>%n weitere Zeile widerspricht sich wie diese.</numerusform>
+            <numerusform>%n weitere Zeilen widersprechen sich wie diese.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DifferenceModel</name>
     <message numerus="yes">
         <source>ersetzt wie in %n weiteren Zeile(n)</source>
         <translation>
             <numerusform>ersetzt wie in %n weiteren Zeile</numerusform>
             <numerusform>ersetzt wie in %n weiteren Zeilen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DocumentDesk</name>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n Zeile</numerusform>
+            <numerusform>%1: %n Zeilen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <translation>
+            <numerusform>Noch %n Zeile in Konflikt, in diesen Projekten:</numerusform>
+            <numerusform>Noch %n Zeilen in Konflikt, in diesen Projekten:</numerusform>
         </translation>
     </message>
 </context>
@@ -136,6 +173,13 @@
         <translation>
             <numerusform>%n Konflikt: Entscheidung der anderen Seite</numerusform>
             <numerusform>%n Konflikte: Entscheidung der anderen Seite</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <translation>
+            <numerusform>%n Konflikt: neu zu entscheiden</numerusform>
+            <numerusform>%n Konflikte: neu zu entscheiden</numerusform>
         </translation>
     </message>
 </context>

@@ -173,6 +173,205 @@
     </message>
 </context>
 <context>
+    <name>ConflictCommands</name>
+    <message>
+        <source>Die Zeile %1 in %2 kann nicht gezeigt werden</source>
+        <translation>Line %1 in %2 cannot be shown</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist in Konflikt</source>
+        <translation>No line is in conflict</translation>
+    </message>
+    <message>
+        <source>Alle Konflikte sind entschieden; nun speichern</source>
+        <translation>All conflicts are settled; save now</translation>
+    </message>
+    <message>
+        <source>Konflikt %1 von %2, noch %3 offen</source>
+        <translation>Conflict %1 of %2, %3 still open</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <translation>
+            <numerusform>%n line of %1 clashes in the same way. Does the decision hold for all?</numerusform>
+            <numerusform>%n lines of %1 clash in the same way. Does the decision hold for all?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Eigene: %1
+Andere: %2</source>
+        <translation>Mine: %1
+Theirs: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Für alle</source>
+        <translation>&amp;For all</translation>
+    </message>
+    <message>
+        <source>&amp;Zeile für Zeile</source>
+        <translation>&amp;Line by line</translation>
+    </message>
+    <message>
+        <source>Die Zeile ist in keinem Konflikt</source>
+        <translation>The line is in no conflict</translation>
+    </message>
+    <message>
+        <source>Die eigene Entscheidung ist nicht bekannt: die Zeile war schon beim Öffnen in Konflikt</source>
+        <translation>Your own decision is not known: the line was in conflict when the file was opened</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictDock</name>
+    <message>
+        <source>Keine Zeile ist in Konflikt.</source>
+        <translation>No line is in conflict.</translation>
+    </message>
+    <message>
+        <source>Alle Konflikte sind entschieden.</source>
+        <translation>All conflicts are settled.</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Konflikten sind noch offen.</source>
+        <translation>%1 of %2 conflicts are still open.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <translation>
+            <numerusform>%n more line clashes like this one.</numerusform>
+            <numerusform>%n more lines clash like this one.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Konflikte</source>
+        <translation>Conflicts</translation>
+    </message>
+    <message>
+        <source>Seiten des Konflikts</source>
+        <translation>Sides of the conflict</translation>
+    </message>
+    <message>
+        <source>&amp;Eigene</source>
+        <translation>&amp;Mine</translation>
+    </message>
+    <message>
+        <source>&amp;Andere</source>
+        <translation>&amp;Theirs</translation>
+    </message>
+    <message>
+        <source>&amp;Neu entscheiden</source>
+        <translation>&amp;Decide anew</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictModel</name>
+    <message>
+        <source>offen</source>
+        <translation>open</translation>
+    </message>
+    <message>
+        <source>eigene</source>
+        <translation>mine</translation>
+    </message>
+    <message>
+        <source>andere</source>
+        <translation>theirs</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Eigene Entscheidung</source>
+        <translation>My decision</translation>
+    </message>
+    <message>
+        <source>Andere Entscheidung</source>
+        <translation>Their decision</translation>
+    </message>
+    <message>
+        <source>Gilt</source>
+        <translation>Holds</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictSides</name>
+    <message>
+        <source>automatisch zugeordnet</source>
+        <translation>assigned by the program</translation>
+    </message>
+    <message>
+        <source>zu überprüfen</source>
+        <translation>to be checked</translation>
+    </message>
+    <message>
+        <source>bestätigt</source>
+        <translation>confirmed</translation>
+    </message>
+    <message>
+        <source>ohne Ziel, offen</source>
+        <translation>without target, open</translation>
+    </message>
+    <message>
+        <source>als ausgelaufen bestätigt</source>
+        <translation>confirmed as expired</translation>
+    </message>
+    <message>
+        <source>nicht bekannt</source>
+        <translation>not known</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2, %3</source>
+        <translation>%1, line %2, %3</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Zielprojekt</source>
+        <translation>Target project</translation>
+    </message>
+    <message>
+        <source>Zielzeile</source>
+        <translation>Target line</translation>
+    </message>
+    <message>
+        <source>Wertebereiche</source>
+        <translation>Value ranges</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictSidesModel</name>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Old line</translation>
+    </message>
+    <message>
+        <source>Vorher</source>
+        <translation>Before</translation>
+    </message>
+    <message>
+        <source>Eigene Entscheidung</source>
+        <translation>My decision</translation>
+    </message>
+    <message>
+        <source>Andere Entscheidung</source>
+        <translation>Their decision</translation>
+    </message>
+    <message>
+        <source>Angabe</source>
+        <translation>What</translation>
+    </message>
+</context>
+<context>
     <name>DifferenceModel</name>
     <message>
         <source>gleich</source>
@@ -292,10 +491,6 @@
         <translation>Saved: %1</translation>
     </message>
     <message>
-        <source>In diesen Projekten gibt es ungelöste Konflikte:</source>
-        <translation>There are unsettled conflicts in these projects:</translation>
-    </message>
-    <message>
         <source>Katalogstand</source>
         <translation>Catalog release</translation>
     </message>
@@ -342,6 +537,24 @@
     <message>
         <source>Die Änderungen der anderen konnten nicht übernommen werden.</source>
         <translation>The changes of the others could not be taken over.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n line</numerusform>
+            <numerusform>%1: %n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <translation>
+            <numerusform>Still %n line in conflict, in these projects:</numerusform>
+            <numerusform>Still %n lines in conflict, in these projects:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Konflikte zeigen</source>
+        <translation>Show &amp;conflicts</translation>
     </message>
 </context>
 <context>
@@ -1219,6 +1432,13 @@ Please choose another file.</translation>
         <translation>
             <numerusform>%n conflict: the other side&apos;s decision</numerusform>
             <numerusform>%n conflicts: the other side&apos;s decision</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <translation>
+            <numerusform>%n conflict: to be decided anew</numerusform>
+            <numerusform>%n conflicts: to be decided anew</numerusform>
         </translation>
     </message>
 </context>
@@ -2808,6 +3028,46 @@ Line: %2
     <message>
         <source>Öffnet ein Fenster, in dem Skripte geschrieben und ausgeführt werden</source>
         <translation>Opens a window in which scripts are written and run</translation>
+    </message>
+    <message>
+        <source>&amp;Konflikte</source>
+        <translation>&amp;Conflicts</translation>
+    </message>
+    <message>
+        <source>Zeigt die Zeilen, die zwei Seiten verschieden entschieden haben</source>
+        <translation>Shows the lines that two sides decided differently</translation>
+    </message>
+    <message>
+        <source>Nächster offener Kon&amp;flikt</source>
+        <translation>Next open con&amp;flict</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten Zeile, deren Konflikt noch offen ist</source>
+        <translation>Goes to the next line whose conflict is still open</translation>
+    </message>
+    <message>
+        <source>Konflikt: &amp;eigene Entscheidung</source>
+        <translation>Conflict: &amp;my decision</translation>
+    </message>
+    <message>
+        <source>In diesem Konflikt gilt die eigene Entscheidung</source>
+        <translation>In this conflict my own decision holds</translation>
+    </message>
+    <message>
+        <source>Konflikt: &amp;andere Entscheidung</source>
+        <translation>Conflict: &amp;their decision</translation>
+    </message>
+    <message>
+        <source>In diesem Konflikt gilt die Entscheidung der anderen Seite</source>
+        <translation>In this conflict the decision of the other side holds</translation>
+    </message>
+    <message>
+        <source>Konflikt: &amp;neu entscheiden</source>
+        <translation>Conflict: &amp;decide anew</translation>
+    </message>
+    <message>
+        <source>Keine der Entscheidungen gilt; die Zeile ist wieder ohne Ziel</source>
+        <translation>Neither decision holds; the line is without target again</translation>
     </message>
 </context>
 </TS>

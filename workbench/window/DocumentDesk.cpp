@@ -10,6 +10,7 @@
 #include <core/message/PMessage.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <workbench/session/BackgroundWork.h>
+#include <workbench/session/OpenLines.h>
 
 #include <QFileInfo>
 #include <QInputDialog>
@@ -253,24 +254,34 @@ bool DocumentDesk::saveAs()
     return true;
 }
 
-bool DocumentDesk::maySave() const
+bool DocumentDesk::maySave()
 {
     const QList<ProjectId> projects = m_document->conflictedProjects();
     if (projects.isEmpty())
         return true;
     constexpr int shown = 10;
     QStringList paths;
+    const auto conflicts = [this](const ProjectId &project) {
+        return OpenLines::countOf(m_document->mapping(project), OpenLines::Conflict);
+    };
+    int lines = 0;
+    for (const ProjectId &project : projects)
+        lines += conflicts(project);
     for (const ProjectId &project : projects.mid(0, shown))
-        paths << project.path;
+        paths << tr("%1: %n Zeile(n)", nullptr, conflicts(project)).arg(project.path);
     if (projects.size() > shown)
         paths << tr("und %1 weitere").arg(projects.size() - shown);
     Question question(m_window);
     question.setWarning();
-    question.setText(tr("In diesen Projekten gibt es ungelöste Konflikte:"));
+    question.setText(tr("Noch %n Zeile(n) in Konflikt, in diesen Projekten:", nullptr, lines));
     question.setDetails(paths.join('\n'));
     question.addAnswer(Question::Cancel, Question::cancelText());
+    question.addAnswer(Question::Refuse, tr("&Konflikte zeigen"));
     question.addAnswer(Question::Accept, tr("&Trotzdem speichern"));
-    return question.ask() == Question::Accept;
+    const Question::Answer answer = question.ask();
+    if (answer == Question::Refuse)
+        Q_EMIT conflictsWanted();
+    return answer == Question::Accept;
 }
 
 SaveOutcome DocumentDesk::write(const QString &file, const SaveOptions &options)
@@ -335,4 +346,6 @@ void DocumentDesk::merge()
                             "noch einmal speichern.")
                        : tr("Die Änderungen der anderen konnten nicht übernommen werden."),
                    outcome.text);
+    if (outcome.merged && !m_document->conflictedProjects().isEmpty())
+        Q_EMIT conflictsWanted();
 }

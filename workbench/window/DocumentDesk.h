@@ -64,6 +64,8 @@ Q_SIGNALS:
     /// Before the document closes, while it still holds everything.
     void aboutToClose();
     void noted(const QString &text);
+    /// The user is to see the lines in conflict.
+    void conflictsWanted();
 
 private:
     [[nodiscard]] bool openDocument(const Wish &wish);
@@ -83,7 +85,7 @@ private:
     /// Takes over what others wrote into the file, and tells what came and what clashes.
     void merge();
     /// Lines in conflict are listed, and the user says whether to save all the same.
-    [[nodiscard]] bool maySave() const;
+    [[nodiscard]] bool maySave();
     void setUp();
     void leave();
 

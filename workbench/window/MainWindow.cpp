@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "ApplicationTheme.h"
+#include "ConflictCommands.h"
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "LineCommands.h"
@@ -46,6 +47,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_desk(new DocumentDesk(settings, this))
     , m_lines(new LineCommands(m_desk->document(), m_editor, this))
     , m_review(new ReviewCommands(m_desk->document(), m_editor, m_lines, this))
+    , m_conflicts(new ConflictCommands(m_desk->document(), m_editor, this))
     , m_states(new LineStateFilter(this))
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
     , m_linkDb(new LinkDbHost(plugin, this))
@@ -102,6 +104,7 @@ MainWindow::~MainWindow()
     delete m_erpNumbers;
     delete m_scripts;
     delete m_editor;
+    delete m_conflicts;
     delete m_review;
     delete m_lines;
     delete m_desk;

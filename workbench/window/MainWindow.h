@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class ConflictCommands;
 class DocumentDesk;
 class EditorArea;
 class LineCommands;
@@ -46,6 +47,7 @@ public:
     [[nodiscard]] EditorArea *editor() const { return m_editor; }
     [[nodiscard]] LineCommands *lines() const { return m_lines; }
     [[nodiscard]] ReviewCommands *review() const { return m_review; }
+    [[nodiscard]] ConflictCommands *conflicts() const { return m_conflicts; }
     [[nodiscard]] LogWindow *log() const { return m_log; }
     [[nodiscard]] StatusArea *status() const { return m_status; }
     [[nodiscard]] ScriptDesk *scripts() const { return m_scripts; }
@@ -100,6 +102,7 @@ private:
     DocumentDesk *const m_desk;
     LineCommands *const m_lines;
     ReviewCommands *const m_review;
+    ConflictCommands *const m_conflicts;
     LineStateFilter *const m_states;
     RemoteCatalogs *const m_remote;
     LinkDbHost *const m_linkDb;

@@ -88,7 +88,13 @@ void MainWindow::buildMenus()
           WorkbenchActions::SampleRight,
           WorkbenchActions::SampleWrong,
           Separator,
-          WorkbenchActions::Replacements});
+          WorkbenchActions::Replacements,
+          Separator,
+          WorkbenchActions::Conflicts,
+          WorkbenchActions::NextConflict,
+          WorkbenchActions::ConflictOurs,
+          WorkbenchActions::ConflictTheirs,
+          WorkbenchActions::ConflictAnew});
     QMenu *const view = addMenu("viewMenu");
     fill(view, m_actions, {WorkbenchActions::Refresh, Separator});
     QMenu *const states = view->addMenu(QString());

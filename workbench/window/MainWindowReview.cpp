@@ -1,9 +1,11 @@
+#include "ConflictCommands.h"
 #include "DocumentDesk.h"
 #include "MainWindow.h"
 #include "ReviewCommands.h"
 #include "StatusArea.h"
 #include "WorkbenchActions.h"
 
+#include <workbench/review/ConflictDock.h>
 #include <workbench/review/DifferencePanel.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/session/MappingDocument.h>
@@ -14,6 +16,8 @@ void MainWindow::addReview()
 {
     addDockWidget(Qt::LeftDockWidgetArea, m_review->dock());
     addDockWidget(Qt::BottomDockWidgetArea, m_review->panel());
+    addDockWidget(Qt::BottomDockWidgetArea, m_conflicts->dock());
+    m_conflicts->dock()->hide();
     m_review->dock()->hide();
     m_review->panel()->hide();
     // Until the user wants other sizes.
@@ -42,6 +46,18 @@ void MainWindow::connectReview()
     for (int key = 1; key <= 5; ++key)
         connectTo(WorkbenchActions::Command(WorkbenchActions::TakeCandidate1 + key - 1),
                   [this, key] { m_review->takeCandidate(key); });
+    connectTo(WorkbenchActions::Conflicts, [this] { m_conflicts->showConflicts(); });
+    connectTo(WorkbenchActions::NextConflict, [this] { m_conflicts->goNext(); });
+    connectTo(WorkbenchActions::ConflictOurs,
+              [this] { m_conflicts->decide(MergeState::Side::Ours); });
+    connectTo(WorkbenchActions::ConflictTheirs,
+              [this] { m_conflicts->decide(MergeState::Side::Theirs); });
+    connectTo(WorkbenchActions::ConflictAnew,
+              [this] { m_conflicts->decide(MergeState::Side::Neither); });
+    connect(m_conflicts, &ConflictCommands::noted, this, [this](const QString &text) {
+        m_status->showNote(text, m_desk->document()->canUndo());
+    });
+    connect(m_desk, &DocumentDesk::conflictsWanted, m_conflicts, &ConflictCommands::showConflicts);
     connect(m_review, &ReviewCommands::noted, this,
             [this](const QString &text) { m_status->showNote(text); });
     connect(m_review, &ReviewCommands::done, this, [this](const QString &text) {

@@ -311,11 +311,11 @@ private Q_SLOTS:
         ModalScript script;
         script.then([&](QWidget *dialog) {
             script.note(dialog);
-            QCOMPARE(dialog->property("informativeText").toString(), path);
+            QCOMPARE(dialog->property("informativeText").toString(), path + ": 1 Zeile");
             QTest::mouseClick(dialog->findChild<QPushButton *>(button), Qt::LeftButton);
         });
         QCOMPARE(fixture.window->desk()->save(), saved);
-        QCOMPARE(script.texts, QStringList{"In diesen Projekten gibt es ungelöste Konflikte:"});
+        QCOMPARE(script.texts, QStringList{"Noch 1 Zeile in Konflikt, in diesen Projekten:"});
         fixture.window->desk()->document()->close();
     }
 
