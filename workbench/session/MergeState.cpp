@@ -15,7 +15,7 @@ bool isMarked(const PrjMappingC &mapping, int line)
     return false;
 }
 
-bool isOpen(const ReleaseMappingC &release, const MergeClash &clash)
+bool isOpenClash(const ReleaseMappingC &release, const MergeClash &clash)
 {
     return clash.kind == MergeClash::Line &&
            isMarked(release.findMapping(clash.sourcePath, clash.sourceVersion, QString()),
@@ -35,7 +35,7 @@ QList<MergeClash> MergeState::openClashes(const ReleaseMappingC &release) const
 {
     QList<MergeClash> open;
     std::ranges::copy_if(m_clashes, std::back_inserter(open),
-                         [&](const MergeClash &clash) { return isOpen(release, clash); });
+                         [&](const MergeClash &clash) { return isOpenClash(release, clash); });
     return open;
 }
 
@@ -43,7 +43,7 @@ MergeClash MergeState::clashOf(const ReleaseMappingC &release, const QString &so
                                int line) const
 {
     const auto found = std::ranges::find_if(m_clashes, [&](const MergeClash &clash) {
-        return clash.line == line && clash.sourcePath == sourcePath && isOpen(release, clash);
+        return clash.line == line && clash.sourcePath == sourcePath && isOpenClash(release, clash);
     });
     return found == m_clashes.end() ? MergeClash() : *found;
 }
