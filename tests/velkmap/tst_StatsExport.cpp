@@ -234,6 +234,60 @@ private Q_SLOTS:
         QVERIFY2(m_err.contains("is no directory"), qPrintable(m_err));
     }
 
+    void reportAsPage()
+    {
+        const TestCatalog catalog(m_dir.filePath("report"));
+        catalog.write("cat/a.prj", "Name,D:n\nB8,8\nB9,9\nB10,10\n");
+        PrjMappingC mapping = mappingOf("cat/a.prj", {"cat/a.prj", ""});
+        enter(mapping, 0, 1, 1, PRJMAPPING::Verified);
+        enter(mapping, 0, 2, 2, PRJMAPPING::ToCheck);
+        enter(mapping, 1, 3, -1, PRJMAPPING::Verified);
+        ReleaseMappingC release;
+        release.setSourceDate("v1");
+        release.addMapping(mapping);
+        MappingFile file;
+        file.setRelease(release);
+        const QString path = m_dir.filePath("report.json");
+        QVERIFY(file.write(path));
+        const QString page = m_dir.filePath("report.html");
+        const QStringList arguments{"report",       "--mapping", path,          "--source",
+                                    catalog.root(), "--target",  catalog.root()};
+        QCOMPARE(run(arguments), ExitStatus::WrongUsage); // where to?
+        QCOMPARE(run(arguments + QStringList{"--out", page}), ExitStatus::Done);
+        QCOMPARE(m_err, QString());
+        QCOMPARE(m_out, "settled: 2 of 3 lines; open: 1; written to " + page + '\n');
+        QFile written(page);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        const QString html = QString::fromUtf8(written.readAll());
+        for (const char *text :
+             {"<title>Mapping report: report.json</title>", "Settled: 2 of 3 lines; open: 1.",
+              "Lines without successor", "cat/a.prj:3", "equal, only not confirmed",
+              "Assigned with certainty", "UTC"})
+            QVERIFY2(html.contains(text), text);
+        QVERIFY(!html.contains("%1"));
+        QCOMPARE(run(arguments + QStringList{"--out", page, "--others", "cat"}), ExitStatus::Done);
+        QFile again(page);
+        QVERIFY(again.open(QIODevice::ReadOnly));
+        QVERIFY(again.readAll().contains("somebody else decides"));
+        QCOMPARE(run(arguments + QStringList{"--out", m_dir.filePath("no/page.html")}),
+                 ExitStatus::ResultUnwritable);
+        QVERIFY2(m_err.contains("no/page.html"), qPrintable(m_err));
+    }
+
+    /// The page is written all the same, and names what is missing.
+    void reportWithoutTables()
+    {
+        const QString mapping = writeMapping("lost.json");
+        const QString page = m_dir.filePath("lost.html");
+        QCOMPARE(run({"report", "--mapping", mapping, "--out", page, "--source", m_dir.path(),
+                      "--target", m_dir.path()}),
+                 ExitStatus::InputUnreadable);
+        QVERIFY2(m_err.contains("a,b.prj"), qPrintable(m_err));
+        QFile written(page);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QVERIFY(written.readAll().contains("What could not be read"));
+    }
+
     void releaseIsChosenByDate()
     {
         const QString mapping = writeMapping("dates.json");

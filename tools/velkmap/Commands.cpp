@@ -9,6 +9,7 @@
 #include "LinkCommand.h"
 #include "MergeCommand.h"
 #include "ProofCommand.h"
+#include "ReportCommand.h"
 #include "ReviewCommand.h"
 #include "RunCommand.h"
 #include "SearchCommand.h"
@@ -52,6 +53,7 @@ const QList<Command> &commands()
         {"export", "writes a release mapping as a CSV file", runExport},
         {"review", "groups the open lines by how they differ from their proposals", runReview},
         {"explain", "tells why a line is assigned so, and its other candidates", runExplain},
+        {"report", "writes how far a release is as a page of HTML", runReport},
         {"link", "writes the confirmed assignments into a link database", runLink},
         {"proof", "tells which numbers of a link database are in a bad place", runProof},
         {"search", "finds projects by words and by values of their tables", runSearch},

@@ -26,16 +26,21 @@ void OpenReasons::addOptions(CommandLine &line)
                      "Folder or project that somebody else decides on; may be repeated.");
 }
 
+std::function<bool(const QString &)> OpenReasons::others(const CommandLine &line)
+{
+    return [places = line.values("others")](const QString &path) {
+        return liesIn(path, places);
+    };
+}
+
 std::optional<ExitStatus> OpenReasons::read(const CommandLine &line, const ReleaseMappingC &release,
                                             const CatalogRoots &roots, const QString &command,
                                             QTextStream &err)
 {
     const InterruptGuard guard;
-    const QStringList others = line.values("others");
-    auto found = VelkRelease::openReasons(
-        release, {.sourceRoot = roots.source(),
-                  .isOthers = [&](const QString &path) { return liesIn(path, others); },
-                  .cancelled = &InterruptGuard::isRequested()});
+    auto found = VelkRelease::openReasons(release, {.sourceRoot = roots.source(),
+                                                    .isOthers = others(line),
+                                                    .cancelled = &InterruptGuard::isRequested()});
     if (!found)
         return ExitStatus::Interrupted;
     m_projects = std::move(*found);

@@ -21,6 +21,8 @@ class OpenReasons
 public:
     /// Adds --others.
     static void addOptions(CommandLine &line);
+    /// What it says, as an option of the work.
+    [[nodiscard]] static std::function<bool(const QString &)> others(const CommandLine &line);
 
     /// Reads the tables of both releases. A result means that this was interrupted; what cannot be
     /// read is told and makes lines unreadable.

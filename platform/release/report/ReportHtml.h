@@ -1,0 +1,71 @@
+#pragma once
+
+#include "ReleaseReport.h"
+
+namespace VelkRelease {
+
+/// The texts of a report, in the language of whoever makes it.
+enum class ReportText : quint8 {
+    Title,     ///< "Mapping report: %1", with the mapping's name
+    Releases,  ///< "Release %1 to %2"
+    Made,      ///< "Made on %1"
+    Summary,   ///< "Settled: %1 of %2 lines; open: %3"
+    TotalHead, ///< a heading, as all that end so
+    FolderHead,
+    ProjectHead,
+    ReasonHead,
+    PatternHead,
+    SampleHead,
+    DecisionHead,
+    OpenHead,
+    GoneHead,
+    ErrorHead,
+    Lines, ///< the sum of the six that follow
+    Confirmed,
+    Gone,
+    Certain,
+    ToCheck,
+    WithoutTarget,
+    InConflict,
+    Folder, ///< of a column, as all that follow
+    Project,
+    Line,
+    Designation,
+    Reason,
+    Pattern,
+    Projects,
+    Probability,
+    Exceptions,
+    Examples,
+    Time,
+    Who,
+    What,
+    Judged,
+    Right,
+    Bound,
+    Refused,       ///< of a sample
+    TableError,    ///< behind a project whose table could not be read
+    NotComparable, ///< of a pattern
+    NoDifference,  ///< of a pattern
+    Nothing,       ///< of a section without entries
+    More,          ///< "and %1 more"
+    Count
+};
+
+/// How a report is written.
+struct ReportForm
+{
+    std::function<QString(ReportText)> text;
+    std::function<QString(OpenReason)> reason; ///< in a few words
+    ValueChange::Words changes;
+    /// A time for people.
+    std::function<QString(const QDateTime &)> time;
+    QString language = QStringLiteral("en"); ///< a BCP 47 tag
+    int mostRows = -1;                       ///< of a list of lines, patterns or decisions; -1: all
+};
+
+/// One page of HTML 5 that needs no other file, simple enough for QTextDocument.
+[[nodiscard]] VELKRELEASE_EXPORT QString reportHtml(const ReleaseReport &report,
+                                                    const ReportForm &form);
+
+} // namespace VelkRelease
