@@ -464,6 +464,17 @@ QString LinkDbConnection::literal(const QVariant &value) const
                           : u'\'' + clean.toString().replace(u'\'', QLatin1String("''")) + u'\'';
 }
 
+std::optional<QString> LinkDbConnection::plainLiteral(const QVariant &value)
+{
+    if (value.typeId() != QMetaType::QString || value.isNull())
+        return std::nullopt;
+    QString text = value.toString();
+    if (text.isNull() || text.contains(u'\\'))
+        return std::nullopt;
+    text.remove(QChar(0)).replace(u'\'', QLatin1String("''"));
+    return u'\'' + text + u'\'';
+}
+
 QString LinkDbConnection::identifier(const QString &name)
 {
     // The driver's own quoting takes a name with quotes round it as quoted, and parts it at dots.

@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <functional>
+#include <optional>
 #include <thread>
 
 /// Connection to a link database with its transaction. On one thread, but for cancel().
@@ -59,6 +60,8 @@ public:
     [[nodiscard]] bool run(const QString &sql, Result *result = nullptr);
 
     [[nodiscard]] QString literal(const QVariant &value) const;
+    /// Of a text that every database writes in the same way, on any thread.
+    [[nodiscard]] static std::optional<QString> plainLiteral(const QVariant &value);
     [[nodiscard]] static QString identifier(const QString &name);
     /// Stored names of a table's columns; none if there is no such table.
     [[nodiscard]] QStringList columnsOf(const QString &table);

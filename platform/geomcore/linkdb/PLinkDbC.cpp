@@ -445,6 +445,9 @@ QString PLinkDbC::createSqlStatement(const PString &table, const PLinkDbRecordC 
 
 QString PLinkDbC::literal(const QVariant &value) const
 {
+    // The others want the connection's thread.
+    if (const std::optional<QString> plain = LinkDbConnection::plainLiteral(value))
+        return *plain;
     QString text;
     if (d->thread)
         d->thread->run(

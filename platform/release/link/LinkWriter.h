@@ -34,10 +34,12 @@ private:
     [[nodiscard]] Outcome tryToWrite(const LineLinks &links);
     [[nodiscard]] Outcome fail();
     [[nodiscard]] bool lock(const LineLinks &links);
-    [[nodiscard]] bool clear(const LineLinks &links);
-    [[nodiscard]] bool writeHead(const LineLinks &links);
-    [[nodiscard]] bool writeTargets(const LineLinks &links);
-    [[nodiscard]] bool writeLinks(const LineLinks &links);
+    [[nodiscard]] bool isServer() const;
+    [[nodiscard]] QStringList headStatements(const LineLinks &links) const;
+    [[nodiscard]] QString targetStatement(const LineLinks &links) const;
+    [[nodiscard]] QString rowStatement(const LineLinks &links, size_t first, size_t end) const;
+    [[nodiscard]] QString arrayStatement(const LineLinks &links, size_t first, size_t end) const;
+    [[nodiscard]] bool writeAll(const LineLinks &links);
     [[nodiscard]] QString text(const QString &value) const;
 
     PRefPtr<PLinkDbC> m_linkDb;
