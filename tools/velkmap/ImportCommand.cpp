@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include <release/assign/ReleaseDate.h>
 #include <release/import/TableImport.h>
+#include <release/import/TableSource.h>
 #include <release/import/TypeRecognition.h>
 
 #include <QDateTime>
@@ -20,7 +21,8 @@ namespace velkmap {
 namespace {
 
 const QString ImportDescription = QStringLiteral(
-    "Makes a catalog of projects and tables from a folder tree of CSV tables. "
+    "Makes a catalog of projects and tables from a folder tree of CSV tables, or of files that an "
+    "extension reads. "
     "Each NAME.csv becomes NAME.prj, NAME.json (the descriptor) and NAME.csv below CATALOG, at the "
     "same relative path. Column types, value ranges, decimal commas and key columns are recognised "
     "and printed. What is wrong can be corrected in the descriptor: a later import keeps it. It "
@@ -56,9 +58,9 @@ private:
     qint64 m_lines = 0;
 };
 
-QString withoutEnding(const QString &csvFile)
+QString withoutEnding(const QString &table)
 {
-    return csvFile.chopped(4);
+    return table.chopped(QFileInfo(table).suffix().size() + 1);
 }
 
 ExitStatus ImportRun::run(const QString &from, const QString &into,
@@ -80,6 +82,12 @@ ExitStatus ImportRun::run(const QString &from, const QString &into,
     return m_status;
 }
 
+bool isTable(const QFileInfo &file)
+{
+    return file.suffix().compare(QLatin1String("csv"), Qt::CaseInsensitive) == 0 ||
+           VelkRelease::TableSource::of(file.fileName());
+}
+
 QStringList ImportRun::findTables(const QDir &from)
 {
     QStringList tables;
@@ -90,7 +98,7 @@ QStringList ImportRun::findTables(const QDir &from)
         if (entry.isDir() && !entry.isReadable()) {
             m_err << entry.filePath() << ": the directory cannot be read\n";
             m_status = ExitStatus::InputUnreadable;
-        } else if (entry.isFile() && entry.suffix().toLower() == QLatin1String("csv")) {
+        } else if (entry.isFile() && isTable(entry)) {
             tables.append(from.relativeFilePath(entry.filePath()));
         }
     }

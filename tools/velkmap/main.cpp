@@ -1,5 +1,6 @@
 #include <tools/velkmap/Commands.h>
 
+#include <core/plugin/Extensions.h>
 #include <core/plugin/PTranslateManager.h>
 
 #include <QCoreApplication>
@@ -18,6 +19,9 @@ int main(int argc, char **argv)
     PTranslateManager::instance().setLanguage(QStringLiteral("en"));
     QTextStream out(stdout);
     QTextStream err(stderr);
+    const QStringList faults = Extensions::load(Extensions::folders());
+    for (const QString &fault : faults)
+        err << "velkmap: " << fault << '\n';
     const auto status = velkmap::run(QCoreApplication::arguments().mid(1), out, err);
     return int(velkmap::finish(status, out, err));
 }

@@ -1,4 +1,5 @@
 #include <core/config/PConfigInst.h>
+#include <core/plugin/Extensions.h>
 #include <core/text/PString.h>
 #include <gui/application/PApplication.h>
 #include <workbench/start/PluginLibrary.h>
@@ -80,6 +81,9 @@ int main(int argc, char **argv)
     const PRefPtr<PConfig> configuration(new PConfigInst(place.applicationConfig(), false));
     PApplication host(configuration);
 
+    const QStringList faults = Extensions::load(Extensions::folders());
+    for (const QString &fault : faults)
+        print(stderr, "velkworkbench: " + fault + '\n');
     PluginLibrary plugin;
     if (!plugin.load(PluginLibrary::pathOf("VelkLinkDbGui")))
         return notInstalled(options, plugin.error());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <cstddef>
 #include <memory_resource>
 #include <string_view>
@@ -7,7 +9,7 @@
 namespace VKTab {
 
 /// Where the texts of one evaluation live, and what bounds them.
-class EvaluationMemory : public std::pmr::monotonic_buffer_resource
+class VELKGEOMCORE_EXPORT EvaluationMemory : public std::pmr::monotonic_buffer_resource
 {
 public:
     /// A computed text has at most as many characters.

@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 namespace VKTab {
 
@@ -182,6 +184,28 @@ constexpr std::array functions = {
     ExpressionFunction{"UPPER", 1, 1, TextType, TextFunctions::upper},
 };
 
+std::atomic_bool formulasWereRead = false;
+
+std::vector<ExpressionFunction> &addedFunctions()
+{
+    static std::vector<ExpressionFunction> added;
+    return added;
+}
+
+/// Sorted by name. From the first call on nothing can be added.
+const std::vector<ExpressionFunction> &allFunctions()
+{
+    static const std::vector<ExpressionFunction> all = [] {
+        formulasWereRead = true;
+        std::vector<ExpressionFunction> sorted(functions.begin(), functions.end());
+        sorted.insert(sorted.end(), addedFunctions().begin(), addedFunctions().end());
+        std::ranges::sort(
+            sorted, [](const auto &a, const auto &b) { return qstricmp(a.name, b.name) < 0; });
+        return sorted;
+    }();
+    return all;
+}
+
 } // namespace
 
 double rounded(double x, int digits)
@@ -193,20 +217,34 @@ double rounded(double x, int digits)
     return std::isfinite(result) ? result : x; // too large to have such digits
 }
 
+bool addFunction(const ExpressionFunction &function)
+{
+    std::vector<ExpressionFunction> &added = addedFunctions();
+    const auto sameName = [&](const ExpressionFunction &other) {
+        return qstricmp(other.name, function.name) == 0;
+    };
+    if (formulasWereRead || !function.evaluate || std::ranges::any_of(functions, sameName) ||
+        std::ranges::any_of(added, sameName))
+        return false;
+    added.push_back(function);
+    return true;
+}
+
 const ExpressionFunction *findFunction(QStringView name)
 {
     const auto less = [](const ExpressionFunction &function, QStringView wanted) {
         return wanted.compare(QLatin1String(function.name), Qt::CaseInsensitive) > 0;
     };
-    const auto hit = std::lower_bound(functions.begin(), functions.end(), name, less);
-    if (hit == functions.end() || name.compare(QLatin1String(hit->name), Qt::CaseInsensitive) != 0)
+    const auto &all = allFunctions();
+    const auto hit = std::lower_bound(all.begin(), all.end(), name, less);
+    if (hit == all.end() || name.compare(QLatin1String(hit->name), Qt::CaseInsensitive) != 0)
         return nullptr;
     return &*hit;
 }
 
 std::span<const ExpressionFunction> expressionFunctions()
 {
-    return functions;
+    return allFunctions();
 }
 
 } // namespace VKTab

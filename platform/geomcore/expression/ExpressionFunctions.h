@@ -31,6 +31,10 @@ struct ExpressionFunction
 /// library.
 [[nodiscard]] const ExpressionFunction *findFunction(QStringView name);
 
+/// Makes a function known until the program ends; \a function and its name live as long. False if
+/// the name is taken, or if a formula was read before. For extensions, with addFunctionHelp().
+VELKGEOMCORE_EXPORT bool addFunction(const ExpressionFunction &function);
+
 /// All functions, sorted by name.
 [[nodiscard]] VELKGEOMCORE_EXPORT std::span<const ExpressionFunction> expressionFunctions();
 

@@ -3,6 +3,7 @@
 #include <core/text/PString.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace VKTab {
 
@@ -155,6 +156,12 @@ constexpr std::array helps = {
                  {{{"UPPER('iso 4014')", "'ISO 4014'"}, {"UPPER('ä')", "'Ä'"}}}},
 };
 
+std::vector<FunctionHelp> &allHelps()
+{
+    static std::vector<FunctionHelp> all(helps.begin(), helps.end());
+    return all;
+}
+
 } // namespace
 
 QString FunctionHelp::signature() const
@@ -167,17 +174,27 @@ QString FunctionHelp::text() const
     return PString::translate(description, helpContext);
 }
 
+void addFunctionHelp(const FunctionHelp &help)
+{
+    std::vector<FunctionHelp> &all = allHelps();
+    const auto behind = [](const FunctionHelp &a, const FunctionHelp &b) {
+        return qstricmp(a.name, b.name) < 0;
+    };
+    all.insert(std::upper_bound(all.begin(), all.end(), help, behind), help);
+}
+
 std::span<const FunctionHelp> functionHelps()
 {
-    return helps;
+    return allHelps();
 }
 
 const FunctionHelp *findFunctionHelp(QStringView name)
 {
-    const auto hit = std::find_if(helps.begin(), helps.end(), [&](const FunctionHelp &help) {
+    const auto &all = allHelps();
+    const auto hit = std::find_if(all.begin(), all.end(), [&](const FunctionHelp &help) {
         return name.compare(QLatin1String(help.name), Qt::CaseInsensitive) == 0;
     });
-    return hit == helps.end() ? nullptr : &*hit;
+    return hit == all.end() ? nullptr : &*hit;
 }
 
 } // namespace VKTab

@@ -32,6 +32,9 @@ struct VELKGEOMCORE_EXPORT FunctionHelp
     [[nodiscard]] QString text() const;
 };
 
+/// The help of a function that an extension has. Its texts are shown as they are.
+VELKGEOMCORE_EXPORT void addFunctionHelp(const FunctionHelp &help);
+
 /// Sorted by name.
 [[nodiscard]] VELKGEOMCORE_EXPORT std::span<const FunctionHelp> functionHelps();
 /// Letter case does not matter; null if there is no such function.

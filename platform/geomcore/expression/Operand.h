@@ -13,7 +13,7 @@ namespace VKTab {
 
 /// A value during the evaluation of a statement: small, not owning. Texts are UTF-8 and live in the
 /// table, in the program or in the memory resource of the evaluation.
-struct Operand
+struct VELKGEOMCORE_EXPORT Operand
 {
     enum class Kind : quint8 {
         /// No value: unknown variable, or an operation that gave none.
@@ -58,6 +58,7 @@ struct Operand
 [[nodiscard]] VELKGEOMCORE_EXPORT bool nearlyEqual(double a, double b);
 
 /// A copy of text in memory.
-[[nodiscard]] std::string_view keepText(std::string_view text, std::pmr::memory_resource &memory);
+[[nodiscard]] VELKGEOMCORE_EXPORT std::string_view keepText(std::string_view text,
+                                                            std::pmr::memory_resource &memory);
 
 } // namespace VKTab

@@ -1,6 +1,7 @@
 #include "SourceText.h"
 
 #include "CsvRewriter.h"
+#include "TableSource.h"
 
 #include <QDir>
 #include <QStringDecoder>
@@ -64,6 +65,8 @@ bool SourceText::read()
 {
     if (!open())
         return false;
+    if (const TableSource *source = TableSource::of(m_file.fileName()))
+        return convert(*source);
     decode();
     if (!checkLineEnds())
         return false;
@@ -83,6 +86,17 @@ bool SourceText::open()
     if (size > 0 && !bytes)
         return fail(0, 0, QStringLiteral("cannot be read: ") + m_file.errorString());
     m_csv = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), size);
+    return true;
+}
+
+bool SourceText::convert(const TableSource &source)
+{
+    VKTab::TableError error;
+    const QByteArray csv = source.toCsv(m_csv, &error);
+    if (csv.isNull())
+        return fail(error.row, error.column, error.text);
+    m_csv = csv;
+    m_isAsWritten = false;
     return true;
 }
 

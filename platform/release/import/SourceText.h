@@ -12,6 +12,8 @@
 
 namespace VelkRelease {
 
+class TableSource;
+
 /// How a CSV file is written that comes from somewhere else.
 struct SourceForm
 {
@@ -20,7 +22,8 @@ struct SourceForm
 };
 
 /// The text of a CSV file as tables are read: UTF-8 (RFC 4180) with commas. What is written
-/// otherwise is written anew in memory; the texts of the cells stay.
+/// otherwise is written anew in memory; the texts of the cells stay. Files that a TableSource is
+/// there for are read by it.
 class VELKRELEASE_EXPORT SourceText
 {
 public:
@@ -44,6 +47,7 @@ public:
 
 private:
     [[nodiscard]] bool open();
+    [[nodiscard]] bool convert(const TableSource &source);
     void decode();
     [[nodiscard]] bool checkLineEnds();
     [[nodiscard]] bool rewrite(char separator);
