@@ -4,6 +4,7 @@
 #include "PairJoin.h"
 #include "TargetTable.h"
 
+#include <geomcore/plan/ValueRule.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 
@@ -26,6 +27,16 @@ LineInput planInput(const SourceTable &source, const VKTab::LineView &view)
     input.view = &view;
     input.stored = true;
     return input;
+}
+
+/// Of the target's variables, as rules of proposals know them.
+std::vector<std::string> namesOf(const BoundTarget &target)
+{
+    std::vector<std::string> names;
+    names.reserve(target.variables().size());
+    for (const int variable : target.variables())
+        names.push_back(target.table()->variables()[size_t(variable)].name.toStdString());
+    return names;
 }
 
 } // namespace
@@ -174,7 +185,9 @@ void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
     const size_t count = target.variables().size();
     filled.lines = Plan::CellMatrix(open.size(), filled.variables.size());
     filled.takes.assign(open.size(), 0);
+    const std::vector<std::string> names = namesOf(target);
     TargetValues values;
+    std::string meaning;
     for (size_t line = 0; line < open.size(); ++line) {
         if (!takes(target, open[line]))
             continue;
@@ -182,7 +195,9 @@ void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
         target.takeValues(planInput(source(), view), values);
         for (size_t place = 0; place < count; ++place) {
             const LineTexts::Value &value = values.texts.values[place];
-            filled.lines.set(line, place, m_tables.values.number(value.text, value.decimalChar));
+            const std::string_view text =
+                Plan::ValueRule::meaningOf(names[place], value.text, meaning);
+            filled.lines.set(line, place, m_tables.values.number(text, value.decimalChar));
             // A line without a value there is like no line.
             if (!value.text.empty())
                 filled.takes[line] = 1;
@@ -210,13 +225,16 @@ void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled)
     const TargetTable &table = *target.table();
     const size_t count = filled.variables.size();
     TargetTable::Row split;
+    const std::vector<std::string> names = namesOf(target);
     std::string scratch;
+    std::string meaning;
     const auto number = [&](size_t place) {
         if (place == target.variables().size())
             return m_tables.values.number(target.identity().designations()->textOf(split.row), '.');
         const auto variable = size_t(target.variables()[place]);
-        return m_tables.values.number(table.text(split, int(variable), scratch),
-                                      table.variables()[variable].decimalChar);
+        const std::string_view text = Plan::ValueRule::meaningOf(
+            names[place], table.text(split, int(variable), scratch), meaning);
+        return m_tables.values.number(text, table.variables()[variable].decimalChar);
     };
     filled.rows = Plan::CellMatrix(filled.openRows.size(), count);
     for (size_t row = 0; row < filled.openRows.size(); ++row) {
