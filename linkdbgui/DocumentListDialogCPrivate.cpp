@@ -34,7 +34,12 @@ DocumentListDialogCPrivate::~DocumentListDialogCPrivate() = default;
 void DocumentListDialogCPrivate::findWidgets(const QWidget &form)
 {
     tvDocuments = form.findChild<QTreeWidget *>(QStringLiteral("tvDocuments"));
+    if (tvDocuments)
+        tvDocuments->setAccessibleName(form.windowTitle());
     tvVarset = form.findChild<QTreeWidget *>(QStringLiteral("tvVarset"));
+    const auto *const lbVarset = form.findChild<QLabel *>(QStringLiteral("lbVarset"));
+    if (tvVarset && lbVarset)
+        tvVarset->setAccessibleName(lbVarset->text());
     btnDelete = form.findChild<QPushButton *>(QStringLiteral("btnDelete"));
     btnCreate = form.findChild<QPushButton *>(QStringLiteral("btnCreate"));
     btnEdit = form.findChild<QPushButton *>(QStringLiteral("btnEdit"));

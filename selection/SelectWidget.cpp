@@ -38,6 +38,7 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
 {
     fileNameBox->setObjectName(QStringLiteral("fileNameBox"));
     treeView->setObjectName(QStringLiteral("catalogIndexTree"));
+    treeView->setAccessibleName(widgetText("Katalog"));
     auto *const layout = new QVBoxLayout(this);
     fileNameBox->setChecked(true);
     layout->addWidget(fileNameBox);

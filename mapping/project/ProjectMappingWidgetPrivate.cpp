@@ -50,6 +50,7 @@ void ProjectMappingWidgetPrivate::buildLayout()
     auto *const scrollArea = new QScrollArea(q);
     scrollArea->setObjectName(QStringLiteral("targetsScrollArea"));
     scrollArea->setWidgetResizable(true);
+    scrollArea->setFocusPolicy(Qt::NoFocus); // it follows the keys to what is in it
     targetsWidget = new QWidget(scrollArea);
     targetsWidget->setObjectName(QStringLiteral("targetsWidget"));
     targetsWidget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

@@ -1,8 +1,15 @@
+#include "../support/ControlCheck.h"
 #include "../support/TestCatalog.h"
+
+#include <formula/DlgFormulaEditor.h>
+#include <linkdbgui/DocumentListDialogC.h>
+#include <linkdbgui/NewRecordDialogC.h>
 
 #include <mapping/project/TableLineSelectionDialog.h>
 #include <mapping/table/dlgEditValueRangeMappings.h>
 #include <mapping/table/dlgSelectValueRangeVars.h>
+#include <selection/dlgSearchSelect.h>
+#include <selection/dlgSelect.h>
 
 #include <core/config/PConfigInst.h>
 #include <geomcoregui/table/VkTableModel.h>
@@ -25,6 +32,8 @@ private Q_SLOTS:
     void placeIsKept_data();
     void placeIsKept();
     void tableWithoutTopology();
+    void worksByKeyboardAndScreenReader_data();
+    void worksByKeyboardAndScreenReader();
 };
 
 void tst_EditorDialogs::placeIsKept_data()
@@ -67,6 +76,44 @@ void tst_EditorDialogs::tableWithoutTopology()
     QVERIFY(!view->isHeaderVisible());
     QVERIFY(view->model()->columnOf(table.getVar(u"k").getVarId()) >= 0);
     QCOMPARE(view->model()->columnOf(table.getVar(u"T").getVarId()), -1);
+}
+
+void tst_EditorDialogs::worksByKeyboardAndScreenReader_data()
+{
+    QTest::addColumn<std::function<QWidget *()>>("make");
+    const auto row = [](const char *name, const std::function<QWidget *()> &make) {
+        QTest::newRow(name) << make;
+    };
+    row("dlgSelectValueRangeVars", [] { return new dlgSelectValueRangeVars({"L"}, nullptr); });
+    row("dlgEditValueRangeMappings",
+        [] { return new dlgEditValueRangeMappings("{L=1} -> 2", nullptr); });
+    row("TableLineSelectionDialog", [] {
+        const TestCatalog catalog;
+        catalog.write("new/a.prj", "k:n,T:n\n5,2\n");
+        return new TableLineSelectionDialog(catalog.read("new/a.prj"), nullptr);
+    });
+    row("DlgFormulaEditor", [] { return new DlgFormulaEditor({}, {}, QString(), nullptr); });
+    row("dlgSearchSelect", [] { return new dlgSearchSelect(nullptr, false, false); });
+    row("dlgSelect", [] { return new dlgSelect(nullptr); });
+    row("DocumentListDialogC", [] { return new DocumentListDialogC(nullptr, {}); });
+    row("NewRecordDialogC", [] {
+        auto *const form = new NewRecordDialogC;
+        form->setFields({"PATH", "CADSYSTEM", "PDMSYSTEM"});
+        return form;
+    });
+}
+
+void tst_EditorDialogs::worksByKeyboardAndScreenReader()
+{
+    QFETCH(std::function<QWidget *()>, make);
+    const QTemporaryDir folder;
+    const PApplication application(
+        PRefPtr<PConfig>(new PConfigInst(folder.filePath("app.cfg"), false)));
+    const std::unique_ptr<QWidget> dialog(make());
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+    const QStringList faults = ControlCheck::mnemonics(*dialog) + ControlCheck::access(*dialog);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
 }
 
 QTEST_MAIN(tst_EditorDialogs)

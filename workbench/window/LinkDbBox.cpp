@@ -55,13 +55,13 @@ LinkDbBox::LinkDbBox(const QString &address, const QString &standardFile, QWidge
     m_encryption->setCurrentIndex(qMax(0, m_encryption->findData(settings.sslMode)));
 
     auto *form = new QFormLayout(this);
-    form->addRow(tr("A&rt:"), m_kind);
+    form->addRow(tr("Art:"), m_kind);
     form->addRow(tr("&Datei:"), m_file);
-    form->addRow(tr("Rechne&r:"), m_host);
+    form->addRow(tr("Rec&hner:"), m_host);
     form->addRow(tr("&Anschluss:"), m_port);
     form->addRow(tr("Daten&bank:"), m_database);
     form->addRow(tr("Ben&utzer:"), m_user);
-    form->addRow(tr("&Verschlüsselung:"), m_encryption);
+    form->addRow(tr("Verschlüsselun&g:"), m_encryption);
     m_ofServer = {m_host, m_port, m_database, m_user, m_encryption};
     for (QLineEdit *const edit : {m_file, m_host, m_database, m_user})
         connect(edit, &QLineEdit::textChanged, this, &LinkDbBox::changed);

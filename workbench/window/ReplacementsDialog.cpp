@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 /// Counter-examples that are shown.
@@ -51,6 +53,7 @@ ReplacementsDialog::ReplacementsDialog(const ReleaseMappingC &release, const QSt
     setWindowTitle(tr("Vereinbarte Ersetzungen"));
     resize(640, 420);
     m_list->setObjectName("ReplacementList");
+    m_list->setAccessibleName(windowTitle());
     m_folder->setObjectName("ReplacementFolder");
     m_evidence->setObjectName("ReplacementEvidence");
     m_evidence->setTextFormat(Qt::PlainText);
@@ -104,7 +107,7 @@ void ReplacementsDialog::fill()
                         u')');
     for (const AgreedReplacement &replacement : std::as_const(m_offered))
         m_list->addItem(PatternText::of(replacement));
-    m_list->setCurrentRow(qBound(0, row, m_list->count() - 1));
+    m_list->setCurrentRow(std::min(std::max(0, row), m_list->count() - 1)); // -1: it is empty
     updateButtons();
 }
 

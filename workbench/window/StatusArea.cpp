@@ -31,6 +31,7 @@ StatusArea::StatusArea(QWidget *parent)
     connect(m_note, &QLabel::linkActivated, this, &StatusArea::undoRequested);
     connect(m_open, &QLabel::linkActivated, this, &StatusArea::nextOpenRequested);
     retranslate();
+    writeNote();
 }
 
 QString StatusArea::grouped(int number)
@@ -61,6 +62,8 @@ void StatusArea::writeNote()
     if (m_undoable)
         text += QStringLiteral(" · <a href=\"undo\">%1</a>").arg(tr("rückgängig"));
     m_note->setText(text);
+    // Without a link there is nothing to do with it.
+    m_note->setFocusPolicy(m_undoable ? Qt::StrongFocus : Qt::NoFocus);
     m_note->setToolTip(m_noteText);
 }
 
