@@ -17,6 +17,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QSplitter>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -146,6 +147,10 @@ void CatalogMappingWidgetPrivate::makeConnections()
     connect(checkToCheck, SIGNAL(toggled(bool)), notifier, SIGNAL(onlyOpenProjectsChanged(bool)));
     tableWidget->setConditionListener(
         [this](const QString &condition) { Q_EMIT notifier->conditionCopied(condition); });
+    // Behind the table widget's own slots, which do what the buttons say.
+    for (const char *const button : {"btnMapLine", "btnRemoveLine", "btnRemoveVerifyLine"})
+        connect(tableWidget->findChild<QPushButton *>(QLatin1String(button)), SIGNAL(clicked()),
+                notifier, SIGNAL(linesDecided()));
     connect(tableWidget->sourceView()->grid()->selectionModel(),
             SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), notifier,
             SIGNAL(selectedLinesChanged()));

@@ -19,6 +19,9 @@ Q_SIGNALS:
     void onlyOpenProjectsChanged(bool on);
     /// The lines of the project were assigned anew at the user's wish, with or without a change.
     void linesReassigned();
+    /// The user confirmed, removed or set as expired what is selected, with or without a change;
+    /// what came of it was announced before.
+    void linesDecided();
     /// A condition was made of a line and put on the clipboard.
     void conditionCopied(const QString &text);
 };

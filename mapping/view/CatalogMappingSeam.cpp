@@ -15,6 +15,7 @@
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QTreeView>
 
@@ -56,6 +57,18 @@ bool CatalogMappingWidget::selectLine(int line)
 void CatalogMappingWidget::focusLines()
 {
     d->tableWidget->sourceView()->grid()->setFocus(Qt::OtherFocusReason);
+}
+
+void CatalogMappingWidget::focusOtherTable()
+{
+    const VkTableView *const source = d->tableWidget->sourceView();
+    const VkTableView *const target = d->tableWidget->targetView();
+    const QWidget *const focus = QApplication::focusWidget();
+    QAbstractItemView *const grid = source->isAncestorOf(focus) ? target->grid() : source->grid();
+    grid->setFocus(Qt::OtherFocusReason);
+    if (!grid->currentIndex().isValid())
+        grid->selectionModel()->setCurrentIndex(grid->model()->index(0, 0),
+                                                QItemSelectionModel::NoUpdate);
 }
 
 int CatalogMappingWidget::shownLineCount() const

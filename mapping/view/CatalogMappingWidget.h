@@ -60,7 +60,7 @@ public:
 
     /// Sends the signals of CatalogMappingNotifier: currentProjectChanged(),
     /// selectedLinesChanged(), onlyOpenProjectsChanged(bool), linesReassigned(),
-    /// conditionCopied(QString). Connected by name; lives as long as the widget.
+    /// linesDecided(), conditionCopied(QString). Connected by name; lives as long as the widget.
     [[nodiscard]] QObject *notifier() const;
 
     /// Mapping of the project that was opened last, as the handler has it; not valid if none is or
@@ -80,6 +80,9 @@ public:
     bool selectLine(int line);
     /// The keys go to the source table.
     void focusLines();
+    /// The keys go to the target table if the source table has them, else to the source table. A
+    /// table without a selected line gets a current one, which selects nothing.
+    void focusOtherTable();
     /// Rows of the source table that are shown, all filters applied; 0 if no table is.
     [[nodiscard]] int shownLineCount() const;
     /// The line in a row, from 0, in display order; -1 for a row out of range.

@@ -67,6 +67,9 @@ private Q_SLOTS:
     void selectsALinePastTheFilter_data();
     void selectsALinePastTheFilter();
     void focusesTheLines();
+    void changesTheTableThatHasTheKeys();
+    void tellsDecisions_data();
+    void tellsDecisions();
     void showsAMappingSilently();
     void showsAMappingOfAnotherProject();
     void opensTheProjectAnewForOtherTargets();
@@ -81,6 +84,12 @@ private Q_SLOTS:
     void keepsPaneSizes();
     void givesPanes();
     void leavesItsTreeModel();
+
+public Q_SLOTS:
+    void noteDecision();
+
+private:
+    std::function<void()> m_onDecision;
 };
 
 void tst_CatalogMappingSeam::signalsStandBesideTheWidget()
@@ -88,7 +97,7 @@ void tst_CatalogMappingSeam::signalsStandBesideTheWidget()
     const Editor editor;
     QCOMPARE(signalsOf(*editor.widget->notifier()->metaObject()),
              QStringList({"currentProjectChanged()", "selectedLinesChanged()",
-                          "onlyOpenProjectsChanged(bool)", "linesReassigned()",
+                          "onlyOpenProjectsChanged(bool)", "linesReassigned()", "linesDecided()",
                           "conditionCopied(QString)"}));
     QCOMPARE(signalsOf(CatalogMappingWidget::staticMetaObject), QStringList());
 }
@@ -222,6 +231,57 @@ void tst_CatalogMappingSeam::focusesTheLines()
     QVERIFY(editor.widget->selectProject(a));
     editor.widget->focusLines();
     QCOMPARE(editor.widget->focusWidget(), editor.table->sourceView()->grid());
+}
+
+void tst_CatalogMappingSeam::changesTheTableThatHasTheKeys()
+{
+    const Editor editor;
+    editor.show();
+    QVERIFY(editor.widget->selectProject(a));
+    QVERIFY(editor.widget->selectLine(1));
+    editor.tree->setFocus();
+    const QWidget *const source = editor.table->sourceView()->grid();
+    QAbstractItemView *const target = editor.table->targetView()->grid();
+    editor.widget->focusOtherTable();
+    QCOMPARE(editor.widget->focusWidget(), source);
+    editor.widget->focusOtherTable();
+    QCOMPARE(editor.widget->focusWidget(), target);
+    QVERIFY(target->currentIndex().isValid()); // the arrow keys begin there
+    editor.widget->focusOtherTable();
+    QCOMPARE(editor.widget->focusWidget(), source);
+    QCOMPARE(editor.widget->currentLine(), 1);
+}
+
+void tst_CatalogMappingSeam::tellsDecisions_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::newRow("confirm") << "btnMapLine";
+    QTest::newRow("remove") << "btnRemoveLine";
+    QTest::newRow("expired") << "btnRemoveVerifyLine";
+}
+
+void tst_CatalogMappingSeam::tellsDecisions()
+{
+    QFETCH(QString, button);
+    const Editor editor;
+    editor.show();
+    QVERIFY(editor.widget->selectProject(a));
+    QVERIFY(editor.widget->selectLine(1));
+    const Announcements announced(editor);
+    qsizetype before = -1;
+    connect(editor.widget->notifier(), SIGNAL(linesDecided()), this, SLOT(noteDecision()));
+    m_onDecision = [&] {
+        before = announced.count();
+    };
+    QTest::mouseClick(editor.widget->findChild<QPushButton *>(button), Qt::LeftButton);
+    QVERIFY(before > 0); // everybody has heard of it then
+    QCOMPARE(before, announced.count());
+    QCOMPARE(editor.widget->currentLine(), 1);
+}
+
+void tst_CatalogMappingSeam::noteDecision()
+{
+    m_onDecision();
 }
 
 void tst_CatalogMappingSeam::showsAMappingSilently()

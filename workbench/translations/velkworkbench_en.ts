@@ -941,16 +941,8 @@ Please choose another file.</translation>
         <translation>never</translation>
     </message>
     <message>
-        <source>A&amp;rt:</source>
-        <translation>&amp;Kind:</translation>
-    </message>
-    <message>
         <source>&amp;Datei:</source>
         <translation>&amp;File:</translation>
-    </message>
-    <message>
-        <source>Rechne&amp;r:</source>
-        <translation>&amp;Host:</translation>
     </message>
     <message>
         <source>&amp;Anschluss:</source>
@@ -965,16 +957,24 @@ Please choose another file.</translation>
         <translation>&amp;User:</translation>
     </message>
     <message>
-        <source>&amp;Verschlüsselung:</source>
-        <translation>&amp;Encryption:</translation>
-    </message>
-    <message>
         <source>Linkdatenbank: Der Name der Datei fehlt.</source>
         <translation>Link database: The name of the file is missing.</translation>
     </message>
     <message>
         <source>Linkdatenbank: Der Name der Datenbank fehlt oder ist keiner.</source>
         <translation>Link database: The name of the database is missing or is none.</translation>
+    </message>
+    <message>
+        <source>Art:</source>
+        <translation>Kind:</translation>
+    </message>
+    <message>
+        <source>Rec&amp;hner:</source>
+        <translation>&amp;Host:</translation>
+    </message>
+    <message>
+        <source>Verschlüsselun&amp;g:</source>
+        <translation>Encryption:</translation>
     </message>
 </context>
 <context>
@@ -1356,6 +1356,10 @@ Please choose another file.</translation>
     <message>
         <source>Die ERP-Nummern können nicht gelesen werden. %1</source>
         <translation>The ERP numbers cannot be read. %1</translation>
+    </message>
+    <message>
+        <source>Zu dieser Stelle gibt es keinen Hinweis</source>
+        <translation>There is no hint about this place</translation>
     </message>
 </context>
 <context>
@@ -2426,6 +2430,10 @@ Line: %2
         <source>nie</source>
         <translation>never</translation>
     </message>
+    <message>
+        <source>Nach einer Entscheidung weiter zur nä&amp;chsten offenen Zeile</source>
+        <translation>After a &amp;decision go on to the next open line</translation>
+    </message>
 </context>
 <context>
     <name>StatusArea</name>
@@ -2726,10 +2734,6 @@ Line: %2
         <translation>&amp;Quit</translation>
     </message>
     <message>
-        <source>&amp;Beispielkatalog öffnen</source>
-        <translation>Open &amp;example catalog</translation>
-    </message>
-    <message>
         <source>&amp;Einstellungen...</source>
         <translation>&amp;Settings...</translation>
     </message>
@@ -2764,10 +2768,6 @@ Line: %2
     <message>
         <source>&amp;Vorige offene Zeile</source>
         <translation>&amp;Previous open line</translation>
-    </message>
-    <message>
-        <source>&amp;Wertebereichszuordnungen prüfen</source>
-        <translation>Check &amp;value range assignments</translation>
     </message>
     <message>
         <source>&amp;Wiederherstellen</source>
@@ -2870,10 +2870,6 @@ Line: %2
         <translation>&amp;Remove assignments...</translation>
     </message>
     <message>
-        <source>Zuordnungen aufheben und bestäti&amp;gen...</source>
-        <translation>Remove assignments and con&amp;firm...</translation>
-    </message>
-    <message>
         <source>Ö&amp;ffnen...</source>
         <translation>&amp;Open...</translation>
     </message>
@@ -2948,10 +2944,6 @@ Line: %2
     <message>
         <source>Geht zur vorigen offenen Zeile des gewählten Musters</source>
         <translation>Goes to the previous open line of the chosen pattern</translation>
-    </message>
-    <message>
-        <source>Nächstes M&amp;uster</source>
-        <translation>Next Pa&amp;ttern</translation>
     </message>
     <message>
         <source>Wählt das nächste Muster der Liste</source>
@@ -3068,6 +3060,38 @@ Line: %2
     <message>
         <source>Keine der Entscheidungen gilt; die Zeile ist wieder ohne Ziel</source>
         <translation>Neither decision holds; the line is without target again</translation>
+    </message>
+    <message>
+        <source>Be&amp;ispielkatalog öffnen</source>
+        <translation>Open the &amp;example catalog</translation>
+    </message>
+    <message>
+        <source>Zuordnungen aufheben und bestä&amp;tigen...</source>
+        <translation>Remove Assignments and C&amp;onfirm...</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen &amp;prüfen</source>
+        <translation>Check &amp;value range assignments</translation>
+    </message>
+    <message>
+        <source>&amp;Andere Tabelle</source>
+        <translation>&amp;Other table</translation>
+    </message>
+    <message>
+        <source>Wechselt zwischen der alten und der neuen Tabelle</source>
+        <translation>Changes between the old and the new table</translation>
+    </message>
+    <message>
+        <source>Nächstes Mus&amp;ter</source>
+        <translation>Next Patt&amp;ern</translation>
+    </message>
+    <message>
+        <source>&amp;Hinweis zu dieser Stelle</source>
+        <translation>&amp;Hint about this place</translation>
+    </message>
+    <message>
+        <source>Zeigt den Hinweis dort, wo die Tasten hingehen: in einer Tabelle, warum die Zeile ihren Zustand hat</source>
+        <translation>Shows the hint where the keys go: in a table, why the line has its state</translation>
     </message>
 </context>
 </TS>

@@ -88,6 +88,7 @@ void EditorArea::make()
     connect(notifier, SIGNAL(onlyOpenProjectsChanged(bool)), this,
             SIGNAL(onlyOpenProjectsChanged(bool)));
     connect(notifier, SIGNAL(linesReassigned()), this, SIGNAL(linesReassigned()));
+    connect(notifier, SIGNAL(linesDecided()), this, SIGNAL(linesDecided()));
     connect(notifier, SIGNAL(conditionCopied(QString)), this, SIGNAL(conditionCopied(QString)));
     filterProjects();
     m_editor->show();
@@ -236,6 +237,7 @@ bool EditorArea::goTo(const LineRef &ref)
 {
     if (!m_editor || !ref.isValid())
         return false;
+    showChanges(); // later they would lead back to where they are
     if (ref.project != currentProject() && !goToProject(ref.project.path, ref.project.version))
         return false;
     if (!selectLine(ref.line))

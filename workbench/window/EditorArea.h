@@ -93,6 +93,8 @@ Q_SIGNALS:
     void lineKindsDropped();
     /// The same of chosen lines.
     void lineChoiceDropped();
+    /// The user decided on the selected lines in the editor; the step is not over yet.
+    void linesDecided();
     /// A condition was made of a line and put on the clipboard.
     void conditionCopied(const QString &text);
     /// The host's part view should show a target project.

@@ -21,6 +21,7 @@ LineCommands::LineCommands(MappingDocument *document, EditorArea *editor, QWidge
     , m_chosen(document)
 {
     connect(&m_open, &OpenLines::countChanged, this, &LineCommands::openCountChanged);
+    connect(m_editor, &EditorArea::linesDecided, this, [this] { onDecided(); });
 }
 
 LineCommands::~LineCommands() = default;
@@ -63,21 +64,54 @@ void LineCommands::go(bool forward)
 {
     if (m_order)
         return m_order(forward);
+    Q_EMIT noted(gone(forward));
+}
+
+QString LineCommands::gone(bool forward)
+{
     OpenLines::Found to = seek(forward, here());
     // A line that its table lacks cannot be shown; each is tried once.
     bool wrapped = to.wrapped;
     for (int tries = walk().count(); to.line.isValid() && tries > 0; --tries) {
         if (m_editor->goTo(to.line)) {
             to.wrapped = wrapped;
-            Q_EMIT noted(goneText(to, forward));
             m_last = to;
-            return;
+            return goneText(to, forward);
         }
         to = forward ? walk().next(to.line, m_editor->shown(), to.kind)
                      : walk().previous(to.line, m_editor->shown(), to.kind);
         wrapped = wrapped || to.wrapped;
     }
-    Q_EMIT noted(nothingText());
+    return nothingText();
+}
+
+void LineCommands::onDecided(const QString &step)
+{
+    const LineRef decided = here();
+    const QString told = step.isEmpty() ? finishedStep() : step;
+    const auto kind = m_open.kindOf(decided);
+    if (!m_goesOn || !kind || m_open.kinds().testFlag(*kind))
+        return;
+    const Order &order = m_decisionOrder ? m_decisionOrder : m_order;
+    if (order)
+        order(true);
+    const QString text = order ? QString() : gone(true);
+    if (told.isEmpty())
+        Q_EMIT noted(text);
+    else
+        Q_EMIT done(text.isEmpty() ? told : told + QStringLiteral(" · ") + text);
+}
+
+/// Ends the step of this turn of the event loop. Its text, if there was one.
+QString LineCommands::finishedStep()
+{
+    QString told;
+    const QMetaObject::Connection listening =
+        connect(m_document, &MappingDocument::stepDone, this,
+                [&told](const QString &text) { told = text; });
+    m_document->finishStep();
+    disconnect(listening);
+    return told;
 }
 
 /// The walk goes on in its kind as long as the user stays at its line, settled or not.

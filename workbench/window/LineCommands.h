@@ -34,6 +34,13 @@ public:
     /// goNext() and goPrevious() go through lines of these kinds; none: through what is open.
     void setKinds(OpenLines::Kinds kinds);
     using Order = std::function<void(bool forward)>;
+    /// A decision on one line that leaves it open no more leads to the next one.
+    void setGoesOn(bool on) { m_goesOn = on; }
+    /// Where decisions lead to instead, such as the next line of a set. Empty: as goNext().
+    void setDecisionOrder(const Order &order) { m_decisionOrder = order; }
+    /// The current line was decided: goes on if that is wanted. \a step is what is known of it
+    /// already; without one the step ends here.
+    void onDecided(const QString &step = QString());
     /// Another order of open lines: goNext() and goPrevious() call it. Empty: their own.
     void setOrder(const Order &order) { m_order = order; }
     /// Says of a condition on the selected line that was put on the clipboard whether it can be
@@ -51,6 +58,9 @@ Q_SIGNALS:
 
 private:
     void go(bool forward);
+    /// What there is to say of it.
+    [[nodiscard]] QString gone(bool forward);
+    [[nodiscard]] QString finishedStep();
     [[nodiscard]] const OpenLines &walk() const { return m_kinds ? m_chosen : m_open; }
     [[nodiscard]] OpenLines::Found seek(bool forward, const LineRef &from) const;
     [[nodiscard]] QString goneText(const OpenLines::Found &found, bool forward) const;
@@ -65,6 +75,8 @@ private:
     OpenLines m_chosen; ///< the kinds that the user wants to see
     OpenLines::Kinds m_kinds;
     Order m_order;
+    Order m_decisionOrder;
+    bool m_goesOn = false;
     OpenLines::Found m_last; ///< where the last walk ended
     QString m_lastText;      ///< of the last jump
 };

@@ -299,6 +299,7 @@ void MainWindow::applySettings()
 {
     const WorkbenchSettings::Values &values = m_settings->values();
     m_actions->setKeys(values.nextLine, values.previousLine);
+    m_lines->setGoesOn(values.goesOn);
     ApplicationTheme::setColours(values.theme);
     ApplicationTheme::setFontPercent(values.fontPercent);
     m_desk->document()->setAutosaveInterval(values.autosaveMinutes * 60);

@@ -2,6 +2,7 @@
 
 #include "DocumentDesk.h"
 #include "EditorArea.h"
+#include "FocusHelp.h"
 #include "LineCommands.h"
 #include "LineStateFilter.h"
 #include "LinkDbCommands.h"
@@ -9,10 +10,12 @@
 #include "PluginActions.h"
 #include "RemoteCatalogs.h"
 #include "ScriptDesk.h"
+#include "StatusArea.h"
 #include "WelcomePage.h"
 #include "WorkbenchActions.h"
 #include "WorkbenchSettings.h"
 
+#include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/script/ScriptConsole.h>
 
 #include <QAction>
@@ -64,9 +67,9 @@ void MainWindow::buildMenus()
     edit->addAction(m_linkDbCommands->proofAction());
     fill(edit, m_actions,
          {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings});
-    fill(
-        addMenu("goMenu"), m_actions,
-        {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine});
+    fill(addMenu("goMenu"), m_actions,
+         {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine,
+          WorkbenchActions::OtherTable});
     fill(addMenu("reviewMenu"), m_actions,
          {WorkbenchActions::ReviewPatterns,
           WorkbenchActions::ReviewDifferences,
@@ -104,7 +107,8 @@ void MainWindow::buildMenus()
     view->addSeparator();
     view->addAction(m_log->toggleViewAction());
     view->addAction(m_scripts->console()->toggleViewAction());
-    fill(addMenu("helpMenu"), m_actions, {WorkbenchActions::ShowTour, WorkbenchActions::About});
+    fill(addMenu("helpMenu"), m_actions,
+         {WorkbenchActions::ShowTour, WorkbenchActions::ShowReason, WorkbenchActions::About});
 }
 
 void MainWindow::buildToolBars()
@@ -158,6 +162,11 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::NextOpen, [this] { m_lines->goNext(); });
     connectTo(WorkbenchActions::PreviousOpen, [this] { m_lines->goPrevious(); });
     connectTo(WorkbenchActions::JumpToLine, [this] { m_lines->jumpByDialog(); });
+    connectTo(WorkbenchActions::OtherTable, [this] { m_editor->editor()->focusOtherTable(); });
+    connectTo(WorkbenchActions::ShowReason, [this] {
+        if (!FocusHelp::show())
+            m_status->showNote(tr("Zu dieser Stelle gibt es keinen Hinweis"));
+    });
     connectTo(WorkbenchActions::Refresh, [this] {
         m_remote->refresh();
         m_editor->rebuild();

@@ -84,6 +84,8 @@ void ReviewCommands::chooseSet(const std::vector<Place> &places)
 
 void ReviewCommands::showSet()
 {
+    m_lines->setDecisionOrder(m_set.empty() ? LineCommands::Order()
+                                            : [this](bool forward) { go(forward); });
     EditorArea::LineChoice choice;
     ProjectId project;
     int position = -1;
@@ -239,6 +241,7 @@ void ReviewCommands::takeCandidate(int key)
     m_document->updateMapping(edits.mapping());
     m_document->endStep();
     Q_EMIT done(text);
+    m_lines->onDecided(text);
 }
 
 void ReviewCommands::explainCurrent()

@@ -1,11 +1,13 @@
 #include "SettingsDialog.h"
 
+#include "KeyEditAccess.h"
 #include "LinkDbBox.h"
 #include "Question.h"
 #include "RepositoryBox.h"
 
 #include <gui/application/PApplication.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -24,6 +26,8 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     , m_theme(new QComboBox(this))
     , m_font(new QSpinBox(this))
     , m_autosave(new QSpinBox(this))
+    , m_goesOn(
+          new QCheckBox(tr("Nach einer Entscheidung weiter zur nä&chsten offenen Zeile"), this))
     , m_next(new QKeySequenceEdit(values.nextLine, this))
     , m_previous(new QKeySequenceEdit(values.previousLine, this))
     , m_repository(new RepositoryBox(values.repository, this))
@@ -31,6 +35,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     , m_problem(new QLabel(this))
 {
     setObjectName("SettingsDialog");
+    KeyEditAccess::install();
     setWindowTitle(tr("Einstellungen"));
     m_language->setObjectName("language");
     // A language is called by its own name.
@@ -53,6 +58,8 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     m_autosave->setSpecialValueText(tr("nie"));
     m_autosave->setSuffix(tr(" min"));
     m_autosave->setValue(values.autosaveMinutes);
+    m_goesOn->setObjectName("goesOn");
+    m_goesOn->setChecked(values.goesOn);
     m_next->setObjectName("nextLine");
     m_previous->setObjectName("previousLine");
     m_problem->setObjectName("problem");
@@ -65,6 +72,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     form->addRow(tr("&Farben:"), m_theme);
     form->addRow(tr("Sch&riftgröße:"), m_font);
     form->addRow(tr("Sicherungs&kopie alle:"), m_autosave);
+    form->addRow(m_goesOn);
     form->addRow(tr("Taste für die &nächste offene Zeile:"), m_next);
     form->addRow(tr("Taste für die &vorige offene Zeile:"), m_previous);
     layout->addLayout(form);
@@ -98,6 +106,7 @@ WorkbenchSettings::Values SettingsDialog::values() const
     values.theme = m_theme->currentData().toString();
     values.fontPercent = m_font->value();
     values.autosaveMinutes = m_autosave->value();
+    values.goesOn = m_goesOn->isChecked();
     values.nextLine = m_next->keySequence();
     values.previousLine = m_previous->keySequence();
     values.repository = m_repository->settings();

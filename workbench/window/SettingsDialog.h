@@ -5,6 +5,7 @@
 #include <QDialog>
 
 QT_BEGIN_NAMESPACE
+class QCheckBox;
 class QComboBox;
 class QKeySequenceEdit;
 class QLabel;
@@ -38,6 +39,7 @@ private:
     QComboBox *const m_theme;
     QSpinBox *const m_font;
     QSpinBox *const m_autosave;
+    QCheckBox *const m_goesOn;
     QKeySequenceEdit *const m_next;
     QKeySequenceEdit *const m_previous;
     RepositoryBox *const m_repository;

@@ -35,6 +35,7 @@ public:
         NextOpen,
         PreviousOpen,
         JumpToLine,
+        OtherTable,
         ReviewPatterns,
         ReviewDifferences,
         ConfirmPattern,
@@ -58,6 +59,7 @@ public:
         ConflictTheirs,
         ConflictAnew,
         Refresh,
+        ShowReason,
         ShowTour,
         About,
         CommandCount

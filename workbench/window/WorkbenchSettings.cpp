@@ -47,6 +47,7 @@ void WorkbenchSettings::read()
     m_values.autosaveMinutes =
         std::clamp(m_store.value("Settings/autosaveMinutes", standard.autosaveMinutes).toInt(), 0,
                    MaxAutosaveMinutes);
+    m_values.goesOn = m_store.value("Settings/goesOn", standard.goesOn).toBool();
     m_values.nextLine = keyOf(m_store.value("Settings/keyNextLine"), standard.nextLine);
     m_values.previousLine = keyOf(m_store.value("Settings/keyPreviousLine"), standard.previousLine);
     m_values.repository = readRepository();
@@ -97,6 +98,7 @@ void WorkbenchSettings::writeValues()
     m_store.setValue("Settings/theme", m_values.theme);
     m_store.setValue("Settings/fontPercent", m_values.fontPercent);
     m_store.setValue("Settings/autosaveMinutes", m_values.autosaveMinutes);
+    m_store.setValue("Settings/goesOn", m_values.goesOn);
     m_store.setValue("Settings/keyNextLine", m_values.nextLine.toString());
     m_store.setValue("Settings/keyPreviousLine", m_values.previousLine.toString());
     const RepositorySettings &repository = m_values.repository;

@@ -22,6 +22,7 @@ public:
         QString theme;           ///< "light", "dark"; empty: as the desktop
         int fontPercent = 100;   ///< of the desktop's font size
         int autosaveMinutes = 3; ///< 0: never
+        bool goesOn = true;      ///< to the next open line after a decision
         QKeySequence nextLine = QKeySequence(QStringLiteral("F8"));
         QKeySequence previousLine = QKeySequence(QStringLiteral("Shift+F8"));
         RepositorySettings repository;

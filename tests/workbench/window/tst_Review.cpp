@@ -218,10 +218,12 @@ void tst_Review::walksThePattern()
     fixture.press(Qt::Key_F9, Qt::ShiftModifier);
     fixture.press(Qt::Key_F9, Qt::ShiftModifier);
     QCOMPARE(fixture.here().line, lines.back().line);
-    // A decided line is left behind.
+    // A decided line is left behind, within the pattern.
     fixture.press(Qt::Key_F9);
     fixture.press(Qt::Key_V);
+    QCOMPARE(fixture.here().line, lines[1].line);
     fixture.press(Qt::Key_F9);
+    fixture.press(Qt::Key_F9, Qt::ShiftModifier);
     QCOMPARE(fixture.here().line, lines[1].line);
     const int chosen = fixture.review()->dock()->chosen();
     fixture.press(Qt::Key_F9, Qt::ControlModifier);

@@ -1,0 +1,216 @@
+// Work without the mouse: decisions that lead on, the other table, hints, visible focus.
+#include "WindowFixture.h"
+
+#include <geomcoregui/table/VkTableModel.h>
+#include <geomcoregui/table/VkTableView.h>
+#include <workbench/session/MappingDocument.h>
+#include <workbench/window/DocumentDesk.h>
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/LineCommands.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/StatusArea.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QToolTip>
+
+namespace {
+
+const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
+
+void setGoesOn(const WindowFixture &fixture, bool on)
+{
+    WorkbenchSettings::Values values = fixture.settings->values();
+    values.goesOn = on;
+    fixture.settings->setValues(values);
+}
+
+VkTableView *targetView(const WindowFixture &fixture)
+{
+    return fixture.window->editor()->findChild<VkTableView *>("targetView");
+}
+
+} // namespace
+
+class tst_KeyboardWork : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDecisionLeadsToTheNextOpenLine()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        EditorArea *const editor = fixture.window->editor();
+        const OpenLines &open = fixture.window->lines()->openLines();
+        fixture.press(Qt::Key_F8);
+        const int before = fixture.confirmedLines();
+        QList<LineRef> expected;
+        for (LineRef line{editor->currentProject(), editor->currentLine()}; expected.size() < 10;
+             line = expected.last())
+            expected += open.next(line).line;
+        for (const LineRef &next : expected) {
+            fixture.press(Qt::Key_V);
+            QCOMPARE(editor->currentPath(), next.project.path);
+            QCOMPARE(editor->currentLine(), next.line);
+            QCOMPARE(QApplication::focusWidget(), fixture.sourceView()->grid());
+        }
+        // A key for each line, a step of its own each.
+        QCOMPARE(fixture.confirmedLines(), before + 10);
+        QCOMPARE(fixture.window->desk()->document()->undoTexts().size(), 10);
+    }
+
+    void theStatusBarStillTellsTheDecision()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_V);
+        QCOMPARE(fixture.window->editor()->currentLine(), 4);
+        const QString told = "Zeile 3 → 2 bestätigt in " + din933;
+        QCOMPARE(fixture.window->status()->note(), told);
+        QApplication::processEvents();
+        QCOMPARE(fixture.window->status()->note(), told);
+        QVERIFY(fixture.window->status()
+                    ->findChild<QLabel *>("statusNote")
+                    ->text()
+                    .endsWith("<a href=\"undo\">rückgängig</a>"));
+    }
+
+    void expiredLinesLeadOnToo()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(fixture.confirmedLines(), 1);
+        QCOMPARE(fixture.window->editor()->currentLine(), 4);
+    }
+
+    void aLineThatIsOpenStillKeepsTheUser()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_X);
+        QTRY_VERIFY(fixture.window->desk()->document()->canUndo());
+        QCOMPARE(fixture.window->editor()->currentLine(), 3);
+    }
+
+    void severalLinesKeepTheUser()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_Down, Qt::ShiftModifier);
+        fixture.press(Qt::Key_V);
+        QTRY_COMPARE(fixture.confirmedLines(), 2);
+        QCOMPARE(fixture.window->editor()->selectedLines(), (QList<int>{3, 4}));
+    }
+
+    void theSettingIsKept()
+    {
+        WindowFixture fixture;
+        QVERIFY(fixture.settings->values().goesOn);
+        setGoesOn(fixture, false);
+        QVERIFY(!WorkbenchSettings(fixture.directory.filePath("workbench.ini")).values().goesOn);
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_V);
+        QTRY_COMPARE(fixture.confirmedLines(), 1);
+        QCOMPARE(fixture.window->editor()->currentLine(), 3);
+        setGoesOn(fixture, true);
+        // What is confirmed already leads on as well.
+        fixture.press(Qt::Key_V);
+        QCOMPARE(fixture.window->editor()->currentLine(), 4);
+        QCOMPARE(fixture.confirmedLines(), 1);
+    }
+
+    void oneKeyChangesTheTable()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_F6);
+        QCOMPARE(QApplication::focusWidget(), targetView(fixture)->grid());
+        // The assigned line is where the arrow keys begin.
+        const int assigned = targetView(fixture)->grid()->currentIndex().row();
+        fixture.press(Qt::Key_Down);
+        QCOMPARE(targetView(fixture)->grid()->currentIndex().row(), assigned + 1);
+        fixture.press(Qt::Key_F6);
+        QCOMPARE(QApplication::focusWidget(), fixture.sourceView()->grid());
+        QCOMPARE(fixture.window->editor()->currentLine(), 3);
+    }
+
+    void aChosenTargetLineIsTakenByThreeKeys()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_F6);
+        fixture.press(Qt::Key_Down);
+        const int chosen = targetView(fixture)->getTable().getSelection().value(0);
+        fixture.press(Qt::Key_V);
+        QVERIFY(chosen > 0);
+        QCOMPARE(fixture.window->status()->note(),
+                 QStringLiteral("Zeile 3 → %1 bestätigt (vorher 2) in %2").arg(chosen).arg(din933));
+        QCOMPARE(fixture.window->editor()->currentLine(), 4);
+    }
+
+    void reasonsCanBeReadByKeyboard()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        VkTableModel *const model = fixture.sourceView()->model();
+        QAbstractItemView *const grid = fixture.sourceView()->grid();
+        const int row = model->rowOf(VKTab::LineId(3));
+        QString wanted;
+        for (int column = 0; wanted.isEmpty(); ++column)
+            wanted = model->index(row, column).data(Qt::ToolTipRole).toString();
+        // A cell without a tip of its own gives the line's.
+        for (int column = 0; column < model->columnCount(); ++column) {
+            if (model->index(row, column).data(Qt::ToolTipRole).toString().isEmpty())
+                grid->selectionModel()->setCurrentIndex(model->index(row, column),
+                                                        QItemSelectionModel::NoUpdate);
+        }
+        fixture.press(Qt::Key_F1, Qt::ShiftModifier);
+        QCOMPARE(QToolTip::text(), wanted);
+        QVERIFY2(wanted.contains("muss bestätigt oder korrigiert"), qPrintable(wanted));
+        QToolTip::hideText();
+    }
+
+    void hintsOfButtonsCanBeReadByKeyboard()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        auto *const button = fixture.window->editor()->findChild<QPushButton *>("btnMapLine");
+        button->setFocus();
+        fixture.press(Qt::Key_F1, Qt::ShiftModifier);
+        QCOMPARE(QToolTip::text(), button->toolTip());
+        QToolTip::hideText();
+    }
+
+    void theFocusIsSeenInTheTables()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        for (VkTableView *const view : {fixture.sourceView(), targetView(fixture)}) {
+            QAbstractItemView *const grid = view->grid();
+            const QRect cell = grid->visualRect(grid->currentIndex());
+            grid->setFocus(Qt::TabFocusReason);
+            const QImage with = grid->viewport()->grab(cell).toImage();
+            fixture.window->editor()->findChild<QPushButton *>("btnMapLine")->setFocus();
+            QVERIFY2(with != grid->viewport()->grab(cell).toImage(),
+                     qPrintable(view->objectName()));
+        }
+    }
+};
+
+QTEST_MAIN(tst_KeyboardWork)
+#include "tst_KeyboardWork.moc"
