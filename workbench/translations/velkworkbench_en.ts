@@ -3015,7 +3015,7 @@ Line: %2
     </message>
     <message>
         <source>&amp;Skript...</source>
-        <translation>Sc&amp;ript...</translation>
+        <translation>Scr&amp;ipt...</translation>
     </message>
     <message>
         <source>Öffnet ein Fenster, in dem Skripte geschrieben und ausgeführt werden</source>
