@@ -133,11 +133,14 @@ bool isControl(const QWidget &widget)
            qobject_cast<const QTextEdit *>(&widget) || qobject_cast<const QTabBar *>(&widget);
 }
 
-/// A tool button of a tool bar or a dock's title has its command in a menu too.
+/// A tool button of a tool bar or a dock's title has its command in a menu too, and so has a
+/// button with the name of a command.
 bool hasCommandElsewhere(const QWidget &widget)
 {
     return qobject_cast<const QToolBar *>(widget.parentWidget()) ||
-           widget.objectName().startsWith(QLatin1String("qt_dockwidget_"));
+           widget.objectName().startsWith(QLatin1String("qt_dockwidget_")) ||
+           (!widget.objectName().isEmpty() &&
+            widget.window()->findChild<QAction *>(widget.objectName()));
 }
 
 } // namespace
@@ -161,6 +164,29 @@ QStringList ControlCheck::mnemonics(const QWidget &window)
                 rows.add(action->text());
         }
         faults += rows.doubled(nameOf(*menu));
+    }
+    return faults;
+}
+
+QStringList ControlCheck::keys(const QWidget &window)
+{
+    QMap<QString, QStringList> owners;
+    for (const QAction *const action : window.findChildren<QAction *>()) {
+        if (action->shortcutContext() != Qt::WindowShortcut)
+            continue;
+        for (const QKeySequence &key : action->shortcuts())
+            owners[key.toString(QKeySequence::PortableText)] += action->objectName();
+    }
+    for (const QAbstractButton *const button : window.findChildren<QAbstractButton *>()) {
+        const QString key = button->shortcut().toString(QKeySequence::PortableText);
+        if (!key.isEmpty() && !key.startsWith(QLatin1String("Alt+")))
+            owners[key] += button->objectName();
+    }
+    QStringList faults;
+    for (auto it = owners.cbegin(); it != owners.cend(); ++it) {
+        if (!it.key().isEmpty() && it->size() > 1)
+            faults +=
+                QStringLiteral("%1 leads to %2").arg(it.key(), it->join(QStringLiteral(", ")));
     }
     return faults;
 }

@@ -164,9 +164,9 @@ void ConflictDock::retranslate()
     setWindowTitle(tr("Konflikte"));
     m_view->setAccessibleName(windowTitle());
     m_values->setAccessibleName(tr("Seiten des Konflikts"));
-    m_buttons[0]->setText(tr("&Eigene"));
-    m_buttons[1]->setText(tr("&Andere"));
-    m_buttons[2]->setText(tr("&Neu entscheiden"));
+    m_buttons[0]->setText(tr("Eigene"));
+    m_buttons[1]->setText(tr("Andere"));
+    m_buttons[2]->setText(tr("Neu entscheiden"));
     m_model->retranslate();
     m_sidesModel->retranslate();
     showSides();

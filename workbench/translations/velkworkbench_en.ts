@@ -250,16 +250,16 @@ Theirs: %2</translation>
         <translation>Sides of the conflict</translation>
     </message>
     <message>
-        <source>&amp;Eigene</source>
-        <translation>&amp;Mine</translation>
+        <source>Eigene</source>
+        <translation>Mine</translation>
     </message>
     <message>
-        <source>&amp;Andere</source>
-        <translation>&amp;Theirs</translation>
+        <source>Andere</source>
+        <translation>Theirs</translation>
     </message>
     <message>
-        <source>&amp;Neu entscheiden</source>
-        <translation>&amp;Decide anew</translation>
+        <source>Neu entscheiden</source>
+        <translation>Decide anew</translation>
     </message>
 </context>
 <context>
@@ -906,7 +906,7 @@ Please choose another file.</translation>
     <name>LinkDbBox</name>
     <message>
         <source>&amp;Linkdatenbank verwenden</source>
-        <translation>Use a &amp;link database</translation>
+        <translation>Use a lin&amp;k database</translation>
     </message>
     <message>
         <source>Datei auf diesem Rechner</source>
@@ -942,11 +942,11 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>&amp;Datei:</source>
-        <translation>&amp;File:</translation>
+        <translation>F&amp;ile:</translation>
     </message>
     <message>
         <source>&amp;Anschluss:</source>
-        <translation>&amp;Port:</translation>
+        <translation>Po&amp;rt:</translation>
     </message>
     <message>
         <source>Daten&amp;bank:</source>
@@ -1532,7 +1532,7 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>An&amp;legen</source>
-        <translation>&amp;Make</translation>
+        <translation>Crea&amp;te</translation>
     </message>
     <message>
         <source>Beim Speichern kommt der neue Stand dazu; ein Stand mit demselben Datum wird ersetzt, mit allem, was darin bestätigt ist.</source>
@@ -2004,7 +2004,7 @@ Line: %2
     </message>
     <message>
         <source>&amp;Platz auf dieser Maschine:</source>
-        <translation>S&amp;pace on this machine:</translation>
+        <translation>Space on this &amp;machine:</translation>
     </message>
     <message>
         <source>&amp;Warten auf den Server:</source>
@@ -2412,7 +2412,7 @@ Line: %2
     </message>
     <message>
         <source>Sicherungs&amp;kopie alle:</source>
-        <translation>Safety &amp;copy every:</translation>
+        <translation>Safety cop&amp;y every:</translation>
     </message>
     <message>
         <source>Taste für die &amp;nächste offene Zeile:</source>
@@ -2867,7 +2867,7 @@ Line: %2
     </message>
     <message>
         <source>Zuordnungen &amp;aufheben...</source>
-        <translation>&amp;Remove assignments...</translation>
+        <translation>Re&amp;move assignments...</translation>
     </message>
     <message>
         <source>Ö&amp;ffnen...</source>
@@ -3023,39 +3023,23 @@ Line: %2
     </message>
     <message>
         <source>&amp;Konflikte</source>
-        <translation>&amp;Conflicts</translation>
+        <translation>Conflicts</translation>
     </message>
     <message>
         <source>Zeigt die Zeilen, die zwei Seiten verschieden entschieden haben</source>
         <translation>Shows the lines that two sides decided differently</translation>
     </message>
     <message>
-        <source>Nächster offener Kon&amp;flikt</source>
-        <translation>Next open con&amp;flict</translation>
-    </message>
-    <message>
         <source>Geht zur nächsten Zeile, deren Konflikt noch offen ist</source>
         <translation>Goes to the next line whose conflict is still open</translation>
-    </message>
-    <message>
-        <source>Konflikt: &amp;eigene Entscheidung</source>
-        <translation>Conflict: &amp;my decision</translation>
     </message>
     <message>
         <source>In diesem Konflikt gilt die eigene Entscheidung</source>
         <translation>In this conflict my own decision holds</translation>
     </message>
     <message>
-        <source>Konflikt: &amp;andere Entscheidung</source>
-        <translation>Conflict: &amp;their decision</translation>
-    </message>
-    <message>
         <source>In diesem Konflikt gilt die Entscheidung der anderen Seite</source>
         <translation>In this conflict the decision of the other side holds</translation>
-    </message>
-    <message>
-        <source>Konflikt: &amp;neu entscheiden</source>
-        <translation>Conflict: &amp;decide anew</translation>
     </message>
     <message>
         <source>Keine der Entscheidungen gilt; die Zeile ist wieder ohne Ziel</source>
@@ -3092,6 +3076,22 @@ Line: %2
     <message>
         <source>Zeigt den Hinweis dort, wo die Tasten hingehen: in einer Tabelle, warum die Zeile ihren Zustand hat</source>
         <translation>Shows the hint where the keys go: in a table, why the line has its state</translation>
+    </message>
+    <message>
+        <source>Nächster offener Konflikt</source>
+        <translation>Next open conflict</translation>
+    </message>
+    <message>
+        <source>Konflikt: eigene Entscheidung</source>
+        <translation>Conflict: my decision</translation>
+    </message>
+    <message>
+        <source>Konflikt: andere Entscheidung</source>
+        <translation>Conflict: their decision</translation>
+    </message>
+    <message>
+        <source>Konflikt: neu entscheiden</source>
+        <translation>Conflict: decide anew</translation>
     </message>
 </context>
 </TS>

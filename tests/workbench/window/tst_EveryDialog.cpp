@@ -109,6 +109,8 @@ private Q_SLOTS:
     void keysAreMarkedOnce() { check(&ControlCheck::mnemonics); }
     void keysAreMarkedOnceInEnglish_data() { addWindows(); }
     void keysAreMarkedOnceInEnglish() { check(&ControlCheck::mnemonics, "en"); }
+    void keysLeadToOnePlace_data() { addWindows(); }
+    void keysLeadToOnePlace() { check(&ControlCheck::keys); }
     void controlsHaveNameRoleAndFocus_data() { addWindows(); }
     void controlsHaveNameRoleAndFocus() { check(&ControlCheck::access); }
 

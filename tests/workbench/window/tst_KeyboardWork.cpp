@@ -134,13 +134,13 @@ private Q_SLOTS:
         WindowFixture fixture;
         fixture.open(fixture.mappingFile());
         QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
-        fixture.press(Qt::Key_F6);
+        fixture.press(Qt::Key_F4);
         QCOMPARE(QApplication::focusWidget(), targetView(fixture)->grid());
         // The assigned line is where the arrow keys begin.
         const int assigned = targetView(fixture)->grid()->currentIndex().row();
         fixture.press(Qt::Key_Down);
         QCOMPARE(targetView(fixture)->grid()->currentIndex().row(), assigned + 1);
-        fixture.press(Qt::Key_F6);
+        fixture.press(Qt::Key_F4);
         QCOMPARE(QApplication::focusWidget(), fixture.sourceView()->grid());
         QCOMPARE(fixture.window->editor()->currentLine(), 3);
     }
@@ -150,7 +150,7 @@ private Q_SLOTS:
         WindowFixture fixture;
         fixture.open(fixture.mappingFile());
         QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
-        fixture.press(Qt::Key_F6);
+        fixture.press(Qt::Key_F4);
         fixture.press(Qt::Key_Down);
         const int chosen = targetView(fixture)->getTable().getSelection().value(0);
         fixture.press(Qt::Key_V);
