@@ -6,6 +6,7 @@
 #include "ReleaseFile.h"
 
 #include <core/json/JsonWriter.h>
+#include <release/neighbour/ReleaseNeighbours.h>
 #include <release/pattern/DifferencePatterns.h>
 #include <release/pattern/ReplacementEvidence.h>
 
@@ -18,6 +19,8 @@ namespace velkmap {
 namespace {
 
 using VelkRelease::DifferencePatterns;
+using VelkRelease::NeighbourFinding;
+using VelkRelease::ReleaseNeighbours;
 using VelkRelease::ReplacementEvidence;
 using VelkRelease::ValueChange;
 
@@ -27,13 +30,16 @@ constexpr const char *ReviewDescription =
     "Groups the open lines of a release mapping by how they differ from the lines that are\n"
     "proposed for them: lines, projects, mean probability, exceptions (lines with the same\n"
     "differences and others besides), three examples. Changes nothing. Then what was agreed\n"
-    "to about values, with the lines that support it and those that do not.";
+    "to about values, with the lines that support it and those that do not. Then where the\n"
+    "assignments of neighbours do not fit each other (lines that are shifted, swapped,\n"
+    "skipped, taken twice), with what would mend it.";
 
 /// What the command tells.
 struct ReviewReport
 {
     const ReleaseMappingC &release;
     const DifferencePatterns &patterns;
+    const ReleaseNeighbours &neighbours;
     QList<ReplacementEvidence> evidence; ///< of the release's replacements
 };
 
@@ -64,6 +70,57 @@ QString replacementText(const AgreedReplacement &replacement)
     return change.text(changeWords());
 }
 
+QString stepsText(int steps)
+{
+    const int count = std::abs(steps);
+    return QString::number(count) + (count == 1 ? " line too far " : " lines too far ") +
+           (steps > 0 ? "down" : "up");
+}
+
+QString findingText(const NeighbourFinding &finding)
+{
+    const QString first = QString::number(finding.firstLine);
+    const QString last = QString::number(finding.lastLine);
+    switch (finding.kind) {
+    case NeighbourFinding::Shifted:
+        return "lines " + first + " to " + last + " are shifted, " + stepsText(finding.steps);
+    case NeighbourFinding::Swapped:
+        return "lines " + first + " and " + last + " are swapped";
+    case NeighbourFinding::Misplaced:
+        return "line " + first + " is misplaced, " + stepsText(finding.steps);
+    case NeighbourFinding::TakenTwice:
+        return "line " + first + " has the target line of another one, which it is unlike";
+    case NeighbourFinding::Skipped:
+        break;
+    }
+    return "line " + first + " is skipped, and a line that fits is free";
+}
+
+QString repairsText(const NeighbourFinding &finding)
+{
+    QStringList texts;
+    for (const NeighbourFinding::Repair &repair : finding.repairs) {
+        if (texts.size() == Examples) {
+            texts << QStringLiteral("...");
+            break;
+        }
+        texts << QString::number(repair.line) + QStringLiteral(" \u2192 ") +
+                     (repair.targetLine == -1 ? QStringLiteral("open")
+                                              : QString::number(repair.targetLine));
+    }
+    return texts.join(", ");
+}
+
+void writeNeighbours(const ReviewReport &report, QTextStream &out)
+{
+    for (const ReleaseNeighbours::Place &place : report.neighbours.places)
+        out << report.release.mappingAt(place.project).getSourcePath() << ": "
+            << findingText(place.finding) << "; mended: " << repairsText(place.finding) << '\n';
+    out << report.neighbours.checkedLines
+        << " assigned lines were looked at beside their neighbours, "
+        << report.neighbours.places.size() << " places do not fit\n";
+}
+
 void writeTable(const ReviewReport &report, QTextStream &out)
 {
     const DifferencePatterns &patterns = report.patterns;
@@ -90,6 +147,7 @@ void writeTable(const ReviewReport &report, QTextStream &out)
     }
     out << patterns.openLines() << " open lines with a proposal differ in " << ranked.size()
         << " ways\n";
+    writeNeighbours(report, out);
 }
 
 double rounded(double probability)
@@ -157,6 +215,43 @@ void writePattern(JsonWriter &json, const ReviewReport &report, int pattern)
     json.endObject();
 }
 
+void writeNeighbours(JsonWriter &json, const ReviewReport &report)
+{
+    static constexpr const char *kinds[] = {"shifted", "swapped", "misplaced", "takenTwice",
+                                            "skipped"};
+    json.key("checkedLines");
+    json.value(report.neighbours.checkedLines);
+    json.key("neighbours");
+    json.beginArray();
+    for (const auto &[project, finding] : report.neighbours.places) {
+        const PrjMappingC mapping = report.release.mappingAt(project);
+        json.beginObject();
+        writeText(json, "project", mapping.getSourcePath());
+        json.key("kind");
+        json.value(kinds[finding.kind]);
+        json.key("firstLine");
+        json.value(finding.firstLine);
+        json.key("lastLine");
+        json.value(finding.lastLine);
+        json.key("steps");
+        json.value(finding.steps);
+        json.key("repairs");
+        json.beginArray();
+        for (const NeighbourFinding::Repair &repair : finding.repairs) {
+            json.beginObject();
+            json.key("line");
+            json.value(repair.line);
+            writeText(json, "targetPath", mapping.targetAt(repair.target).getTargetPath());
+            json.key("targetLine");
+            json.value(repair.targetLine);
+            json.endObject();
+        }
+        json.endArray();
+        json.endObject();
+    }
+    json.endArray();
+}
+
 void writeJson(const ReviewReport &report, QTextStream &out)
 {
     JsonWriter json(JsonWriter::Indented);
@@ -184,6 +279,7 @@ void writeJson(const ReviewReport &report, QTextStream &out)
         json.endObject();
     }
     json.endArray();
+    writeNeighbours(json, report);
     json.endObject();
     out << QString::fromUtf8(json.take());
 }
@@ -222,13 +318,18 @@ ExitStatus runReview(const QStringList &arguments, QTextStream &out, QTextStream
             return line.wrongUsage("the mapping has no project " + project, err);
     }
     const InterruptGuard guard;
-    const auto patterns = DifferencePatterns::compute(
-        roots.source(), release, InterruptGuard::isRequested(), [&](int i) {
-            return projects.isEmpty() || projects.contains(release.mappingAt(i).getSourcePath());
-        });
+    const auto wanted = [&](int i) {
+        return projects.isEmpty() || projects.contains(release.mappingAt(i).getSourcePath());
+    };
+    const auto patterns =
+        DifferencePatterns::compute(roots.source(), release, InterruptGuard::isRequested(), wanted);
     if (!patterns)
         return ExitStatus::Interrupted;
-    ReviewReport report{release, *patterns, {}};
+    const auto neighbours =
+        ReleaseNeighbours::compute(roots.source(), release, InterruptGuard::isRequested(), wanted);
+    if (!neighbours)
+        return ExitStatus::Interrupted;
+    ReviewReport report{release, *patterns, *neighbours, {}};
     for (const AgreedReplacement &replacement : release.getReplacements()) {
         const auto evidence = VelkRelease::replacementEvidence(roots.source(), release, replacement,
                                                                InterruptGuard::isRequested());
@@ -236,13 +337,15 @@ ExitStatus runReview(const QStringList &arguments, QTextStream &out, QTextStream
             return ExitStatus::Interrupted;
         report.evidence.append(*evidence);
     }
-    for (const QString &error : patterns->errors())
+    QStringList errors = patterns->errors() + neighbours->errors;
+    errors.removeDuplicates();
+    for (const QString &error : errors)
         err << "velkmap review: " << error << '\n';
     if (line.isSet("json"))
         writeJson(report, out);
     else
         writeTable(report, out);
-    return patterns->errors().isEmpty() ? ExitStatus::Done : ExitStatus::InputUnreadable;
+    return errors.isEmpty() ? ExitStatus::Done : ExitStatus::InputUnreadable;
 }
 
 } // namespace velkmap

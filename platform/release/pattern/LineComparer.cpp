@@ -2,9 +2,13 @@
 
 #include <core/message/PStringMessageImpl.h>
 #include <core/text/PPathName.h>
+#include <geomcore/index/IndexTreeC.h>
+#include <geomcore/mapper/TargetTable.h>
+#include <geomcore/mapper/TargetTables.h>
 #include <geomcore/table/ContentRef.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/readProjectTable.h>
+#include <geomcore/table/TableData.h>
 #include <release/assign/conditionVariables.h>
 #include <release/assign/LinePart.h>
 #include <release/assign/TargetGuard.h>
@@ -13,6 +17,7 @@ namespace VelkRelease {
 
 struct LineComparer::Private
 {
+    PrjMappingC mapping;
     VKTab::ContentRef table;
     QStringList errors;
     std::unique_ptr<TargetGuard> targets;
@@ -28,6 +33,7 @@ LineComparer::LineComparer(const QString &sourceRoot, const PrjMappingC &mapping
                            const ReleaseMappingC &release, const std::atomic<bool> *cancelled)
     : d(std::make_unique<Private>())
 {
+    d->mapping = mapping;
     PStringMessageImpl messages(PMsgReply::Cancel, false);
     const QString path = mapping.getSourcePath();
     const QString file = (PPathName(sourceRoot) + PPathName(path)).native();
@@ -105,6 +111,49 @@ QList<ComparedVariableC> LineComparer::compared(int line)
         return {};
     const VKTab::LineView view = d->view(line);
     return d->part->mapper().compareLine(d->part->mapper().findLine(line, view), view);
+}
+
+std::vector<int> LineComparer::lines() const
+{
+    std::vector<int> lines;
+    if (!isValid())
+        return lines;
+    const QVector<VKTab::LineId> ids = d->table.getLineIdList();
+    lines.reserve(std::size_t(ids.size()));
+    for (const VKTab::LineId &id : ids)
+        lines.push_back(id.value(0));
+    return lines;
+}
+
+std::vector<int> LineComparer::targetLines(int target) const
+{
+    std::vector<int> lines;
+    if (!isValid())
+        return lines;
+    const PPathName file = IndexTreeC::instance()->compatiblePathToResolvedPath(
+        PPathName(d->mapping.targetAt(target).getTargetPath()));
+    const auto table = Mapper::TargetTables::instance().open(file.native());
+    if (!table)
+        return lines;
+    const VKTab::TableData &data = table->data();
+    lines.reserve(std::size_t(data.rowCount()));
+    for (int row = 0; row < data.rowCount(); ++row)
+        lines.push_back(data.lineNumber(row));
+    return lines;
+}
+
+QList<ComparedVariableC> LineComparer::compared(int line, int target, int targetLine)
+{
+    if (!hasLine(line))
+        return {};
+    PrjMappingLineC place;
+    place.setValid(true);
+    place.setSourceLineId(line);
+    place.setTargetIndex(target);
+    place.setTargetLineId(targetLine);
+    PrjMapperLineC assigned;
+    assigned.addMapping(place, d->mapping);
+    return d->part->mapper().compareLine(assigned, d->view(line));
 }
 
 LineCandidatesC LineComparer::candidates(int line)

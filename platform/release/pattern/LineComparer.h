@@ -10,6 +10,7 @@
 #include <atomic>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace VelkRelease {
 
@@ -42,6 +43,10 @@ public:
     [[nodiscard]] const QStringList &errors() const;
     /// The table has the line.
     [[nodiscard]] bool hasLine(int line) const;
+    /// The lines of the table, and of a target's table, in their order; none of a target that
+    /// cannot be read.
+    [[nodiscard]] std::vector<int> lines() const;
+    [[nodiscard]] std::vector<int> targetLines(int target) const;
     /// The line's designation.
     [[nodiscard]] QString designation(int line) const;
 
@@ -50,6 +55,9 @@ public:
     /// The variables of the line and of the one that it is assigned to, whatever the candidates;
     /// empty where assigned() gives nothing.
     [[nodiscard]] QList<ComparedVariableC> compared(int line);
+    /// The variables of the line and of any line of a target of the mapping; empty if one of the
+    /// tables cannot be read or does not have its line.
+    [[nodiscard]] QList<ComparedVariableC> compared(int line, int target, int targetLine);
     [[nodiscard]] LineCandidatesC candidates(int line);
 
 private:
