@@ -8,11 +8,11 @@ namespace VelkRelease {
 
 namespace {
 
-constexpr double MostWeight = 5;
+constexpr double MostOrderWeight = 5;
 
 double weightOf(int usual, int unusual)
 {
-    return std::clamp(std::log((usual + 0.5) / (unusual + 0.5)), 0.0, MostWeight);
+    return std::clamp(std::log((usual + 0.5) / (unusual + 0.5)), 0.0, MostOrderWeight);
 }
 
 } // namespace
