@@ -1,4 +1,4 @@
-#include "SubversionServer.h"
+#include "../support/SubversionServer.h"
 
 #include <core/progress/PProgress.h>
 #include <core/progress/PProgressObserverBase.h>

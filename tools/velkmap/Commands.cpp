@@ -13,6 +13,7 @@
 #include "ReviewCommand.h"
 #include "RunCommand.h"
 #include "SearchCommand.h"
+#include "ShareCommand.h"
 #include "StatsCommand.h"
 
 #include <core/Version.h>
@@ -49,6 +50,9 @@ const QList<Command> &commands()
         {"assign", "assigns the lines of a release mapping", runAssign},
         {"join", "puts the parts of several machines together", runJoin},
         {"merge", "merges two changed copies of a mapping file", runMerge},
+        {"share", "shares a mapping file with others, and tells who works on it", runShare},
+        {"update", "merges what others published into a shared mapping file", runUpdate},
+        {"publish", "makes a shared mapping file the newest shared copy", runPublish},
         {"stats", "counts the lines by their state", runStats},
         {"export", "writes a release mapping as a CSV file", runExport},
         {"review", "groups the open lines by how they differ from their proposals", runReview},

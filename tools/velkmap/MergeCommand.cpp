@@ -1,10 +1,9 @@
 #include "MergeCommand.h"
 
 #include "CommandLine.h"
+#include "MergeReport.h"
 #include "ReleaseFile.h"
 
-#include <core/files/DurableFile.h>
-#include <release/merge/ClashGroups.h>
 #include <release/merge/mergeFiles.h>
 #include <release/merge/SameLines.h>
 
@@ -53,28 +52,12 @@ std::optional<ExitStatus> readInput(const CommandLine &line, Input &input, QText
     return readFile(line.value("theirs"), input.theirs, err);
 }
 
-void tell(const VelkRelease::MergedFile &merged, QTextStream &out)
-{
-    for (const VelkRelease::MergeResult &result : merged.releases) {
-        const auto lines = std::ranges::count(result.clashes, VelkRelease::MergeClash::Line,
-                                              &VelkRelease::MergeClash::kind);
-        out << result.release.getSourceDate() << ": " << result.online.size()
-            << " changes of theirs, " << result.settled.size() << " made by both, " << lines
-            << " lines clash in " << VelkRelease::groupClashes(result.clashes).size() << " ways, "
-            << result.clashes.size() - lines << " other clashes\n";
-    }
-    for (const QString &date : merged.keptDates)
-        out << date << ": removed by one side, changed by the other; it stays\n";
-}
-
 ExitStatus write(const CommandLine &line, const VelkRelease::MergedFile &merged, QTextStream &err)
 {
     QString error;
-    bool written = merged.file.write(line.value("out"), &error);
-    if (written && line.isSet("report"))
-        written = DurableFile::write(line.value("report"), mergeReport(merged), &error);
-    if (written)
-        return ExitStatus::Done;
+    if (merged.file.write(line.value("out"), &error))
+        return writeMergeReport(line, merged, "merge", err) ? ExitStatus::Done
+                                                            : ExitStatus::ResultUnwritable;
     err << "velkmap merge: " << error << '\n';
     return ExitStatus::ResultUnwritable;
 }
@@ -88,11 +71,7 @@ ExitStatus runMerge(const QStringList &arguments, QTextStream &out, QTextStream 
     line.addRequired("ours", "FILE", "What we made of it.");
     line.addRequired("theirs", "FILE", "What the other side made of it.");
     line.addRequired("out", "FILE", "Result; may be one of the three.");
-    line.addOptional("report", "FILE", "Writes clashes, questions and changes as JSON.");
-    line.addOptional("target", "ROOT",
-                     "Directory that holds the new release's catalog: different lines of a target\n"
-                     "that say the same are no clash then.");
-    line.addAllowed();
+    addMergeOptions(line);
     if (const auto over = line.parse(arguments, out, err))
         return *over;
     line.takeAllowed();
@@ -104,17 +83,11 @@ ExitStatus runMerge(const QStringList &arguments, QTextStream &out, QTextStream 
         return *failed;
 
     VelkRelease::SameLines same(line.value("target"));
-    VelkRelease::MergeOptions options;
-    if (line.isSet("target")) {
-        options.sameLines = [&](const QString &target, int one, int other) {
-            return same.areSame(target, one, other);
-        };
-    }
     const VelkRelease::MergedFile merged =
-        VelkRelease::mergeFiles(input.base, input.ours, input.theirs, options);
+        VelkRelease::mergeFiles(input.base, input.ours, input.theirs, mergeOptions(line, same));
     if (const ExitStatus written = write(line, merged, err); written != ExitStatus::Done)
         return written;
-    tell(merged, out);
+    tellMerge(merged, out);
     return merged.clashes() ? ExitStatus::Clashes : ExitStatus::Done;
 }
 

@@ -181,6 +181,7 @@ RepositoryAnswer::Kind CatalogRepository::fetch(const Catalog &catalog, const QS
                 .arg(url, answer.text);
         break;
     case RepositoryAnswer::Cancelled:
+    case RepositoryAnswer::OutOfDate:
     case RepositoryAnswer::Failed:
         problem = answer.text;
         break;

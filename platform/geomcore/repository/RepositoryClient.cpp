@@ -28,6 +28,11 @@ RepositoryAnswer::Kind kindOf(const QString &errors)
         case 170001: // not authorized
         case 215004: // no more credentials
             return RepositoryAnswer::LoginNeeded;
+        case 155011: // the file is not the newest
+        case 160028: // the same of the transaction
+        case 160024: // somebody was quicker
+        case 170004: // the same, of a directory
+            return RepositoryAnswer::OutOfDate;
         case 104:    // connection reset
         case 110:    // timed out
         case 111:    // refused
@@ -83,18 +88,19 @@ RepositoryAnswer RepositoryClient::exportFiles(const QString &url, qint64 revisi
 
 RepositoryAnswer RepositoryClient::run(const QStringList &arguments, const QString &text) const
 {
-    QDir().mkpath(m_configDirectory);
     PProgress progress(0, 0, 1, true, true);
     progress.setText(text);
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     process.setProcessEnvironment(environment);
-    process.start(m_program, arguments +
-                                 QStringList{QStringLiteral("--non-interactive"),
-                                             QStringLiteral("--no-auth-cache"),
-                                             QStringLiteral("--config-dir"), m_configDirectory} +
-                                 loginArguments(m_login));
+    QStringList all = arguments + QStringList{QStringLiteral("--non-interactive")};
+    if (!m_configDirectory.isEmpty()) {
+        QDir().mkpath(m_configDirectory);
+        all +=
+            {QStringLiteral("--no-auth-cache"), QStringLiteral("--config-dir"), m_configDirectory};
+    }
+    process.start(m_program, all + loginArguments(m_login));
     if (!process.waitForStarted())
         return {RepositoryAnswer::Failed,
                 PString::translate("Das Programm %1 für das Katalog-Repository kann nicht "

@@ -23,7 +23,8 @@ struct RepositoryAnswer
         NoServer,    ///< no connection, or nothing heard for too long
         LoginNeeded, ///< none or a wrong one
         Cancelled,
-        Failed ///< anything else; the text is the client's
+        OutOfDate, ///< a commit onto something that is not the newest any more
+        Failed     ///< anything else; the text is the client's
     };
     Kind kind = Done;
     QString text; ///< of Done: what the client wrote, else what is wrong
@@ -38,8 +39,8 @@ class VELKGEOMCORE_EXPORT RepositoryClient
 {
 public:
     /// \a program a name on the PATH or a path; \a configDirectory is made, the user's own
-    /// Subversion settings are not read. A client of which nothing was heard for \a silence is
-    /// ended.
+    /// Subversion settings are not read; empty: they are, with the logins that are kept in them. A
+    /// client of which nothing was heard for \a silence is ended.
     RepositoryClient(QString program, QString configDirectory, std::chrono::milliseconds silence);
 
     void setLogin(const RepositoryLogin &login) { m_login = login; }
@@ -50,10 +51,10 @@ public:
     /// yet there. Externals are left out.
     [[nodiscard]] RepositoryAnswer exportFiles(const QString &url, qint64 revision,
                                                const QString &directory) const;
-
-private:
+    /// Any other operation; \a text is shown while it runs.
     [[nodiscard]] RepositoryAnswer run(const QStringList &arguments, const QString &text) const;
 
+private:
     QString m_program;
     QString m_configDirectory;
     std::chrono::milliseconds m_silence;

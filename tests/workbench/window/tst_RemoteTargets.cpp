@@ -1,7 +1,7 @@
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
-#include "../../geomcore/SubversionServer.h"
+#include "../../support/SubversionServer.h"
 
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/LogWindow.h>

@@ -1,0 +1,90 @@
+#include "FolderPlace.h"
+
+#include <core/files/DurableFile.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+
+#include <chrono>
+
+namespace VelkRelease {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// So long another one may be publishing.
+constexpr std::chrono::milliseconds lockWait = 5s;
+/// A lock that is older was left by a computer that is gone.
+constexpr std::chrono::milliseconds lockAge = 10min;
+
+} // namespace
+
+FolderPlace::FolderPlace(const QString &file)
+    : SharedPlace(file)
+{
+}
+
+ShareAnswer FolderPlace::fetch(SharedCopy &copy)
+{
+    copy = SharedCopy();
+    if (!QFileInfo::exists(file())) {
+        const QString folder = QFileInfo(file()).path();
+        return QFileInfo(folder).isDir() ? ShareAnswer()
+                                         : ShareAnswer{ShareAnswer::NotReachable, folder};
+    }
+    const ShareAnswer answer = read(file(), copy.bytes);
+    copy.exists = answer.isDone();
+    if (copy.exists)
+        copy.revision = QString::fromLatin1(FileState::hashOf(copy.bytes));
+    return answer;
+}
+
+ShareAnswer FolderPlace::publish(const QByteArray &bytes, const QString &expected, const QString &,
+                                 QString &revision)
+{
+    QLockFile lock(file() + QStringLiteral(".lock"));
+    lock.setStaleLockTime(int(lockAge.count()));
+    if (!lock.tryLock(int(lockWait.count()))) {
+        if (lock.error() != QLockFile::LockFailedError)
+            return {QFileInfo(QFileInfo(file()).path()).isDir() ? ShareAnswer::NotWritable
+                                                                : ShareAnswer::NotReachable,
+                    QFileInfo(file()).path()};
+        qint64 process = 0;
+        QString host;
+        QString program;
+        (void)lock.getLockInfo(&process, &host, &program);
+        return {ShareAnswer::Busy, host};
+    }
+    SharedCopy there;
+    if (const ShareAnswer answer = fetch(there); !answer.isDone())
+        return answer;
+    if (there.revision != expected)
+        return there.exists ? ShareAnswer{ShareAnswer::NewerThere, {}}
+                            : ShareAnswer{ShareAnswer::NotReachable, file()};
+    QString error;
+    if (!DurableFile::write(file(), bytes, &error))
+        return {ShareAnswer::NotWritable, error};
+    revision = QString::fromLatin1(FileState::hashOf(bytes));
+    return {};
+}
+
+ShareAnswer FolderPlace::writeNote(const QString &name, const QByteArray &bytes)
+{
+    const QString note = notesFolder() + u'/' + name;
+    if (bytes.isEmpty()) {
+        if (!QFileInfo::exists(note) || QFile::remove(note))
+            return {};
+        return {ShareAnswer::NotWritable, note};
+    }
+    QString error;
+    if (!QDir().mkpath(notesFolder()))
+        return {ShareAnswer::NotWritable, notesFolder()};
+    if (!DurableFile::write(note, bytes, &error))
+        return {ShareAnswer::NotWritable, error};
+    return {};
+}
+
+} // namespace VelkRelease

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "SharedPlace.h"
+
+#include <release/merge/mergeFiles.h>
+
+#include <QDateTime>
+#include <QList>
+#include <QStringList>
+
+namespace VelkRelease {
+
+/// Somebody who works on a shared mapping.
+struct Participant
+{
+    QString user;
+    QString host;
+    bool isOpen = false; ///< he has his mapping file open
+    QDateTime seen;      ///< UTC: when he last said so
+    QString revision;    ///< his base
+    QStringList folders; ///< of the catalog, that he took over
+    bool isSelf = false;
+};
+
+/// A mapping file of one modeller and the copy that he shares with others. Beside the mapping file
+/// lie ".share", which says where that is and at which revision both were the same, and ".base",
+/// the content then; docs/formats.md describes them. Any thread, one at a time for each file; the
+/// caller holds the mapping file's lock.
+class VELKRELEASE_EXPORT SharedMapping
+{
+public:
+    explicit SharedMapping(const QString &mappingFile);
+    ~SharedMapping();
+
+    [[nodiscard]] bool isLinked() const { return m_place != nullptr; }
+    /// Empty if it is not linked.
+    [[nodiscard]] QString sharedFile() const;
+    [[nodiscard]] QString baseRevision() const { return m_revision; }
+
+    /// Begins to share: publishes the mapping file as the first copy, or makes it of the shared
+    /// one. If both are there they must be the same.
+    [[nodiscard]] ShareAnswer link(const QString &sharedFile);
+    /// The shared copy stays.
+    void unlink();
+
+    struct Status
+    {
+        QString newest;       ///< revision of the shared copy
+        bool hasNews = false; ///< somebody published
+        bool hasOwn = false;  ///< the mapping file differs from its base
+    };
+    [[nodiscard]] ShareAnswer status(Status &status);
+
+    /// Merges what others published into the mapping file. Killed at any moment, the file has all
+    /// decisions that it had. \a merged is left without releases if there is nothing new.
+    [[nodiscard]] ShareAnswer update(MergedFile &merged, const MergeOptions &options = {});
+
+    struct PublishOptions
+    {
+        QString message;
+        bool intoOthersFolders = false;
+    };
+    /// Makes the mapping file the newest shared copy. Refuses over a change that was not merged,
+    /// with lines in conflict, and into folders of others.
+    [[nodiscard]] ShareAnswer publish(const PublishOptions &options);
+
+    /// This user's note: whether he has the file open. Never an obstacle to work.
+    [[nodiscard]] ShareAnswer announce(bool open);
+    /// Takes folders of the catalog over, in place of those before; they and what is below must be
+    /// nobody else's.
+    [[nodiscard]] ShareAnswer takeFolders(const QStringList &folders);
+    /// All of them, this one too if he has said anything.
+    [[nodiscard]] QList<Participant> participants() const;
+    [[nodiscard]] QStringList ownFolders() const;
+    /// "anna@ws12: standardparts/screws" of the projects in somebody else's folder.
+    [[nodiscard]] QStringList inOthersFolders(const QStringList &sourcePaths) const;
+
+    [[nodiscard]] static QString linkFile(const QString &mappingFile);
+    [[nodiscard]] static QString baseFile(const QString &mappingFile);
+
+private:
+    void load();
+    [[nodiscard]] ShareAnswer store(const QByteArray &base, const QString &revision);
+    [[nodiscard]] ShareAnswer readOwn(QByteArray &bytes) const;
+    [[nodiscard]] ShareAnswer mayPublish(const QByteArray &own,
+                                         const PublishOptions &options) const;
+    [[nodiscard]] QString noteName() const;
+    [[nodiscard]] Participant self() const;
+    [[nodiscard]] ShareAnswer writeSelf(const Participant &self);
+
+    const QString m_file; ///< absolute
+    std::unique_ptr<SharedPlace> m_place;
+    QString m_revision;
+};
+
+} // namespace VelkRelease
