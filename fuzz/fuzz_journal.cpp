@@ -2,6 +2,7 @@
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/ReleaseMappingC.h>
+#include <release/history/JournalRow.h>
 #include <workbench/session/JournalReader.h>
 #include <workbench/session/JournalText.h>
 #include <workbench/session/ReleaseChanges.h>
@@ -15,7 +16,8 @@ QByteArray framed(const QByteArray &rows)
 {
     QByteArray journal;
     for (const QByteArray &row : rows.split('\n'))
-        journal += JournalText::unframe(row) ? row + '\n' : JournalText::frame(row);
+        journal += VelkRelease::JournalRow::unframe(row) ? row + '\n'
+                                                         : VelkRelease::JournalRow::frame(row);
     return journal;
 }
 

@@ -1,9 +1,9 @@
 #include "../support/SizeLimit.h"
 #include "SessionFixture.h"
 
+#include <release/history/JournalRow.h>
 #include <workbench/session/JournalFile.h>
 #include <workbench/session/JournalReader.h>
-#include <workbench/session/JournalText.h>
 #include <workbench/session/MappingDifference.h>
 
 #include <core/json/PJsonValue.h>
@@ -60,9 +60,9 @@ void tst_JournalFile::appendsToWhatIsThere()
     const QList<QByteArray> rows = SessionFixture::content(path).split('\n');
     QCOMPARE(rows.size(), 3);
     QVERIFY(rows[2].isEmpty());
-    QCOMPARE(JournalText::unframe(rows[0]).value().toByteArray(),
+    QCOMPARE(VelkRelease::JournalRow::unframe(rows[0]).value().toByteArray(),
              QByteArray("{\"kind\":\"opened\",\"text\":\"one\"}"));
-    QCOMPARE(JournalText::unframe(rows[1]).value().toByteArray(),
+    QCOMPARE(VelkRelease::JournalRow::unframe(rows[1]).value().toByteArray(),
              QByteArray("{\"kind\":\"opened\",\"text\":\"two\"}"));
 }
 
@@ -158,7 +158,7 @@ void tst_JournalFile::damage_data()
     QTest::addColumn<int>("records");
     QTest::addColumn<QList<int>>("gaps");
     const auto row = [](const char *json) {
-        return JournalText::frame(json);
+        return VelkRelease::JournalRow::frame(json);
     };
     const QByteArray opened = row(R"({"kind":"opened","sourceDate":"1"})");
     const QByteArray step = row(R"({"kind":"step"})");
@@ -195,7 +195,8 @@ void tst_JournalFile::halfARowIsEndedFirst()
 {
     const SessionFixture files;
     const QString path = files.path(QStringLiteral("j"));
-    const QByteArray opened = JournalText::frame(R"({"kind":"opened","sourceDate":"1"})");
+    const QByteArray opened =
+        VelkRelease::JournalRow::frame(R"({"kind":"opened","sourceDate":"1"})");
     SessionFixture::setContent(path, opened + opened.chopped(5));
     {
         JournalFile journal;
@@ -226,9 +227,10 @@ void tst_JournalFile::unknownSessions_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QList<int>>("records"); ///< of each session
     QTest::addColumn<QList<bool>>("known");
-    const QByteArray opened = JournalText::frame(R"({"kind":"opened","sourceDate":"1"})");
-    const QByteArray step = JournalText::frame(R"({"kind":"step"})");
-    const QByteArray closed = JournalText::frame(R"({"kind":"closed"})");
+    const QByteArray opened =
+        VelkRelease::JournalRow::frame(R"({"kind":"opened","sourceDate":"1"})");
+    const QByteArray step = VelkRelease::JournalRow::frame(R"({"kind":"step"})");
+    const QByteArray closed = VelkRelease::JournalRow::frame(R"({"kind":"closed"})");
     QTest::newRow("behind a closed one")
         << opened + step + closed + step + step << QList<int>{1, 2} << QList<bool>{true, false};
     QTest::newRow("damage behind a closed one")

@@ -1,5 +1,6 @@
 #include "SessionFixture.h"
 
+#include <release/history/JournalRow.h>
 #include <workbench/session/JournalText.h>
 #include <workbench/session/MappingDifference.h>
 #include <workbench/session/ReleaseChanges.h>
@@ -299,7 +300,7 @@ void tst_MappingDifference::framesAreChecked_data()
 {
     QTest::addColumn<QByteArray>("row");
     QTest::addColumn<bool>("good");
-    const QByteArray row = JournalText::frame("{\"kind\":\"x\"}").chopped(1);
+    const QByteArray row = VelkRelease::JournalRow::frame("{\"kind\":\"x\"}").chopped(1);
     QTest::newRow("whole") << row << true;
     QTest::newRow("empty") << QByteArray() << false;
     QTest::newRow("cut") << row.chopped(1) << false;
@@ -315,12 +316,12 @@ void tst_MappingDifference::framesAreChecked()
 {
     QFETCH(QByteArray, row);
     QFETCH(bool, good);
-    QCOMPARE(JournalText::unframe(row).has_value(), good);
+    QCOMPARE(VelkRelease::JournalRow::unframe(row).has_value(), good);
 }
 
 void tst_MappingDifference::checksumIsTheUsualOne()
 {
-    QCOMPARE(JournalText::checksum("123456789"), 0xCBF43926U);
+    QCOMPARE(VelkRelease::JournalRow::checksum("123456789"), 0xCBF43926U);
 }
 
 void tst_MappingDifference::wrongRecordsAreRefused_data()

@@ -4,6 +4,7 @@
 #include "CreateCommand.h"
 #include "ExplainCommand.h"
 #include "ExportCommand.h"
+#include "HistoryCommand.h"
 #include "ImportCommand.h"
 #include "JoinCommand.h"
 #include "LinkCommand.h"
@@ -58,6 +59,7 @@ const QList<Command> &commands()
         {"review", "groups the open lines by how they differ from their proposals", runReview},
         {"explain", "tells why a line is assigned so, and its other candidates", runExplain},
         {"report", "writes how far a release is as a page of HTML", runReport},
+        {"history", "tells who decided what about lines, when and why", runHistory},
         {"link", "writes the confirmed assignments into a link database", runLink},
         {"proof", "tells which numbers of a link database are in a bad place", runProof},
         {"search", "finds projects by words and by values of their tables", runSearch},

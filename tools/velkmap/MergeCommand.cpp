@@ -4,6 +4,7 @@
 #include "MergeReport.h"
 #include "ReleaseFile.h"
 
+#include <release/history/DecisionHistory.h>
 #include <release/merge/mergeFiles.h>
 #include <release/merge/SameLines.h>
 
@@ -62,6 +63,18 @@ ExitStatus write(const CommandLine &line, const VelkRelease::MergedFile &merged,
     return ExitStatus::ResultUnwritable;
 }
 
+/// Who decided what on both sides. The result is whole without that.
+void takeHistories(const CommandLine &line, QTextStream &err)
+{
+    for (const char *side : {"ours", "theirs"}) {
+        QString error;
+        if (line.value(side) != line.value("out") &&
+            !VelkRelease::DecisionHistory::adopt(line.value(side), line.value("out"), &error))
+            err << "velkmap merge: the history of " << line.value(side)
+                << " is not taken along: " << error << '\n';
+    }
+}
+
 } // namespace
 
 ExitStatus runMerge(const QStringList &arguments, QTextStream &out, QTextStream &err)
@@ -87,6 +100,7 @@ ExitStatus runMerge(const QStringList &arguments, QTextStream &out, QTextStream 
         VelkRelease::mergeFiles(input.base, input.ours, input.theirs, mergeOptions(line, same));
     if (const ExitStatus written = write(line, merged, err); written != ExitStatus::Done)
         return written;
+    takeHistories(line, err);
     tellMerge(merged, out);
     return merged.clashes() ? ExitStatus::Clashes : ExitStatus::Done;
 }

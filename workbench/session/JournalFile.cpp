@@ -4,6 +4,7 @@
 #include "OwnFile.h"
 
 #include <core/json/PJsonValue.h>
+#include <release/history/JournalRow.h>
 
 #include <utility>
 
@@ -69,12 +70,12 @@ void JournalFile::close()
 
 void JournalFile::append(const PJsonValue &record)
 {
-    appendRow(JournalText::frame(record.toByteArray(true)));
+    appendRow(VelkRelease::JournalRow::frame(record.toByteArray(true)));
 }
 
 void JournalFile::append(const MappingDifference &difference, int step)
 {
-    appendRow(JournalText::frame(JournalText::writeChange(difference, step)));
+    appendRow(VelkRelease::JournalRow::frame(JournalText::writeChange(difference, step)));
 }
 
 void JournalFile::appendRow(const QByteArray &row)

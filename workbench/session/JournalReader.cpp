@@ -1,9 +1,9 @@
 #include "JournalReader.h"
 
-#include "JournalText.h"
 #include "OwnFile.h"
 
 #include <core/json/PJsonValue.h>
+#include <release/history/JournalRow.h>
 
 #include <QFile>
 
@@ -44,7 +44,7 @@ bool JournalReader::read(const QString &path, QString *error)
         const bool whole = row.endsWith('\n');
         if (whole)
             row.chop(1);
-        const std::optional<QByteArrayView> record = JournalText::unframe(row);
+        const std::optional<QByteArrayView> record = VelkRelease::JournalRow::unframe(row);
         if (whole && record)
             take(*record);
         else

@@ -3,12 +3,8 @@
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
 
-#include <charconv>
-#include <zlib.h>
-
 namespace {
 
-constexpr qsizetype Digits = 8;
 /// More than any mapping has.
 constexpr qint64 MaxTargets = 1 << 20;
 
@@ -50,7 +46,10 @@ void writeTarget(JsonWriter &writer, const MappingDifference::TargetPair &pair)
     writer.beginObject();
     writer.key("at");
     writer.row({pair.before, pair.after});
-    if (pair.headDiffers) {
+    if (!pair.headDiffers) {
+        writer.key("path");
+        writer.value(QStringView(pair.path));
+    } else {
         writer.key("before");
         writer.written(pair.headBefore.toJson().toByteArray(true));
         writer.key("after");
@@ -107,6 +106,7 @@ std::optional<MappingDifference::TargetPair> readTarget(const PJsonValue &json)
         return std::nullopt;
     pair.before = int(at.at(0).toInt());
     pair.after = int(at.at(1).toInt());
+    pair.path = json.value(QStringLiteral("path")).toText();
     pair.headDiffers = json.contains(QStringLiteral("after"));
     if (pair.headDiffers) {
         pair.headBefore = TargetHead::fromJson(json.value(QStringLiteral("before")));
@@ -124,33 +124,6 @@ std::optional<MappingDifference::TargetPair> readTarget(const PJsonValue &json)
 }
 
 } // namespace
-
-quint32 JournalText::checksum(QByteArrayView bytes)
-{
-    return quint32(crc32_z(0, reinterpret_cast<const Bytef *>(bytes.data()), size_t(bytes.size())));
-}
-
-QByteArray JournalText::frame(QByteArrayView record)
-{
-    QByteArray row = QByteArray::number(checksum(record), 16).rightJustified(Digits, '0');
-    row.reserve(record.size() + Digits + 2);
-    row += ' ';
-    row += record;
-    row += '\n';
-    return row;
-}
-
-std::optional<QByteArrayView> JournalText::unframe(QByteArrayView row)
-{
-    if (row.size() < Digits + 1 || row[Digits] != ' ')
-        return std::nullopt;
-    quint32 noted = 0;
-    const auto [end, code] = std::from_chars(row.data(), row.data() + Digits, noted, 16);
-    const QByteArrayView record = row.sliced(Digits + 1);
-    if (code != std::errc() || end != row.data() + Digits || checksum(record) != noted)
-        return std::nullopt;
-    return record;
-}
 
 QByteArray JournalText::writeChange(const MappingDifference &difference, int step)
 {

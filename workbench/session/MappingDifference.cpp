@@ -39,6 +39,8 @@ TargetPair makePair(const PrjMappingC &before, int b, const PrjMappingC &after, 
     if (pair.headDiffers) {
         pair.headBefore = TargetHead::of(targetBefore);
         pair.headAfter = TargetHead::of(targetAfter);
+    } else {
+        pair.path = targetAfter.getTargetPath();
     }
     if (b >= 0 && a >= 0 && targetBefore.getVarsetModifier() != targetAfter.getVarsetModifier()) {
         const TargetHead head = TargetHead::of(targetAfter);

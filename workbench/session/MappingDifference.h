@@ -17,6 +17,7 @@ public:
     {
         int before = -1; ///< -1: the target is new
         int after = -1;  ///< -1: the target is gone
+        QString path;    ///< of the target, unless headDiffers
         bool headDiffers = false;
         TargetHead headBefore; ///< if headDiffers and there was one, as the next
         TargetHead headAfter;
