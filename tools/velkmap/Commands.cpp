@@ -33,7 +33,7 @@ void printHelp(QTextStream &out)
            "Carries the table lines of a catalog release over to the next release.\n\n"
            "Commands:\n";
     for (const Command &command : commands())
-        out << "  " << command.name.leftJustified(8) << command.summary << '\n';
+        out << "  " << command.name.leftJustified(9) << command.summary << '\n';
     out << "\n'velkmap COMMAND --help' tells a command's options; 'velkmap --version' the "
            "version.\n"
            "\nExit status:\n";
