@@ -215,6 +215,23 @@
     </message>
 </context>
 <context>
+    <name>NeighbourDock</name>
+    <message numerus="yes">
+        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <translation>
+            <numerusform>%n zugeordnete Zeile angesehen</numerusform>
+            <numerusform>%n zugeordnete Zeilen angesehen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fundstelle(n)</source>
+        <translation>
+            <numerusform>%n Fundstelle</numerusform>
+            <numerusform>%n Fundstellen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PatternDock</name>
     <message numerus="yes">
         <source>%n offene Zeile(n) mit Vorschlag</source>

@@ -1505,6 +1505,89 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>NeighbourCommands</name>
+    <message>
+        <source>Die Zeile %1 kann nicht gezeigt werden</source>
+        <translation>Line %1 cannot be shown</translation>
+    </message>
+    <message>
+        <source>Es ist keine Fundstelle gewählt</source>
+        <translation>No finding is chosen</translation>
+    </message>
+    <message>
+        <source>Behoben: %1 in %2</source>
+        <translation>Mended: %1 in %2</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourDock</name>
+    <message>
+        <source>Die Tabellen werden verglichen</source>
+        <translation>The tables are being compared</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <translation>
+            <numerusform>%n assigned line looked at</numerusform>
+            <numerusform>%n assigned lines looked at</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fundstelle(n)</source>
+        <translation>
+            <numerusform>%n finding</numerusform>
+            <numerusform>%n findings</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nachbarschaft</source>
+        <translation>Neighbours</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourModel</name>
+    <message>
+        <source>Zeilen %1 bis %2 sind um %3 verschoben</source>
+        <translation>Lines %1 to %2 are shifted by %3</translation>
+    </message>
+    <message>
+        <source>Zeilen %1 und %2 sind vertauscht</source>
+        <translation>Lines %1 and %2 are swapped</translation>
+    </message>
+    <message>
+        <source>Zeile %1 liegt um %2 daneben</source>
+        <translation>Line %1 is misplaced by %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1 hat die Zielzeile einer anderen</source>
+        <translation>Line %1 has the target line of another one</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist übersprungen</source>
+        <translation>Line %1 is skipped</translation>
+    </message>
+    <message>
+        <source>offen</source>
+        <translation>open</translation>
+    </message>
+    <message>
+        <source>Behoben: %1</source>
+        <translation>Mended: %1</translation>
+    </message>
+    <message>
+        <source>Fund</source>
+        <translation>Finding</translation>
+    </message>
+    <message>
+        <source>Behoben</source>
+        <translation>Mended</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+</context>
+<context>
     <name>NewMappingDialog</name>
     <message>
         <source>%1 gibt es schon.</source>
@@ -3092,6 +3175,22 @@ Line: %2
     <message>
         <source>Konflikt: neu entscheiden</source>
         <translation>Conflict: decide anew</translation>
+    </message>
+    <message>
+        <source>Na&amp;chbarschaft</source>
+        <translation>Nei&amp;ghbours</translation>
+    </message>
+    <message>
+        <source>Zeigt, wo Zuordnungen benachbarter Zeilen nicht zueinander passen</source>
+        <translation>Shows where assignments of neighbouring lines do not fit each other</translation>
+    </message>
+    <message>
+        <source>&amp;Zeilen zurechtrücken</source>
+        <translation>&amp;Mend lines</translation>
+    </message>
+    <message>
+        <source>Behebt die gewählte Fundstelle der Nachbarschaft in einem Schritt</source>
+        <translation>Mends the chosen finding in one step</translation>
     </message>
 </context>
 </TS>

@@ -9,6 +9,7 @@
 #include "LinkDbCommands.h"
 #include "LinkDbHost.h"
 #include "LogWindow.h"
+#include "NeighbourCommands.h"
 #include "PartView.h"
 #include "PluginActions.h"
 #include "QtTexts.h"
@@ -47,6 +48,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_desk(new DocumentDesk(settings, this))
     , m_lines(new LineCommands(m_desk->document(), m_editor, this))
     , m_review(new ReviewCommands(m_desk->document(), m_editor, m_lines, this))
+    , m_neighbours(new NeighbourCommands(m_desk->document(), m_editor, this))
     , m_conflicts(new ConflictCommands(m_desk->document(), m_editor, this))
     , m_states(new LineStateFilter(this))
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
@@ -106,6 +108,7 @@ MainWindow::~MainWindow()
     delete m_editor;
     delete m_conflicts;
     delete m_review;
+    delete m_neighbours;
     delete m_lines;
     delete m_desk;
     delete m_linkDbCommands;

@@ -14,6 +14,7 @@ class LineStateFilter;
 class LinkDbCommands;
 class LinkDbHost;
 class LogWindow;
+class NeighbourCommands;
 class PLinkDbGuiI;
 class PluginActions;
 class PMessageSinkScope;
@@ -47,6 +48,7 @@ public:
     [[nodiscard]] EditorArea *editor() const { return m_editor; }
     [[nodiscard]] LineCommands *lines() const { return m_lines; }
     [[nodiscard]] ReviewCommands *review() const { return m_review; }
+    [[nodiscard]] NeighbourCommands *neighbours() const { return m_neighbours; }
     [[nodiscard]] ConflictCommands *conflicts() const { return m_conflicts; }
     [[nodiscard]] LogWindow *log() const { return m_log; }
     [[nodiscard]] StatusArea *status() const { return m_status; }
@@ -102,6 +104,7 @@ private:
     DocumentDesk *const m_desk;
     LineCommands *const m_lines;
     ReviewCommands *const m_review;
+    NeighbourCommands *const m_neighbours;
     ConflictCommands *const m_conflicts;
     LineStateFilter *const m_states;
     RemoteCatalogs *const m_remote;

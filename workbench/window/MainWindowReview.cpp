@@ -1,12 +1,14 @@
 #include "ConflictCommands.h"
 #include "DocumentDesk.h"
 #include "MainWindow.h"
+#include "NeighbourCommands.h"
 #include "ReviewCommands.h"
 #include "StatusArea.h"
 #include "WorkbenchActions.h"
 
 #include <workbench/review/ConflictDock.h>
 #include <workbench/review/DifferencePanel.h>
+#include <workbench/review/NeighbourDock.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/session/MappingDocument.h>
 
@@ -20,6 +22,8 @@ void MainWindow::addReview()
     m_conflicts->dock()->hide();
     m_review->dock()->hide();
     m_review->panel()->hide();
+    tabifyDockWidget(m_review->dock(), m_neighbours->dock());
+    m_neighbours->dock()->hide();
     // Until the user wants other sizes.
     resizeDocks({m_review->dock()}, {460}, Qt::Horizontal);
     resizeDocks({m_review->panel()}, {240}, Qt::Vertical);
@@ -39,6 +43,8 @@ void MainWindow::connectReview()
     connectTo(WorkbenchActions::NextPattern, [this] { m_review->chooseNext(); });
     connectTo(WorkbenchActions::LeastSureFirst,
               [this](bool on) { m_review->setLeastSureFirst(on); });
+    connectTo(WorkbenchActions::Neighbours, [this] { m_neighbours->showList(); });
+    connectTo(WorkbenchActions::MendNeighbours, [this] { m_neighbours->mend(); });
     connectTo(WorkbenchActions::Replacements, [this] { m_review->editReplacements(); });
     connectTo(WorkbenchActions::StartSample, [this] { m_review->startSample(); });
     connectTo(WorkbenchActions::SampleRight, [this] { m_review->judge(true); });
@@ -58,9 +64,14 @@ void MainWindow::connectReview()
         m_status->showNote(text, m_desk->document()->canUndo());
     });
     connect(m_desk, &DocumentDesk::conflictsWanted, m_conflicts, &ConflictCommands::showConflicts);
-    connect(m_review, &ReviewCommands::noted, this,
-            [this](const QString &text) { m_status->showNote(text); });
-    connect(m_review, &ReviewCommands::done, this, [this](const QString &text) {
+    const auto showNote = [this](const QString &text) {
+        m_status->showNote(text);
+    };
+    const auto showStep = [this](const QString &text) {
         m_status->showNote(text, m_desk->document()->canUndo());
-    });
+    };
+    connect(m_review, &ReviewCommands::noted, this, showNote);
+    connect(m_review, &ReviewCommands::done, this, showStep);
+    connect(m_neighbours, &NeighbourCommands::noted, this, showNote);
+    connect(m_neighbours, &NeighbourCommands::done, this, showStep);
 }

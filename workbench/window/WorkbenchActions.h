@@ -44,6 +44,8 @@ public:
         PreviousInPattern,
         NextPattern,
         LeastSureFirst,
+        Neighbours,
+        MendNeighbours,
         Replacements,
         StartSample,
         SampleRight,

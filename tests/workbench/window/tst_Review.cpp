@@ -5,6 +5,7 @@
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/review/CandidateModel.h>
 #include <workbench/review/DifferencePanel.h>
+#include <workbench/review/NeighbourDock.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternModel.h>
 #include <workbench/session/JournalReader.h>
@@ -14,11 +15,13 @@
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/LineCommands.h>
 #include <workbench/window/MainWindow.h>
+#include <workbench/window/NeighbourCommands.h>
 #include <workbench/window/ReviewCommands.h>
 #include <workbench/window/StatusArea.h>
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>
+#include <release/decide/LineEdits.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -114,6 +117,7 @@ private Q_SLOTS:
     void selectedLinesBySample();
     void agreedReplacement();
     void followsTheDocument();
+    void neighboursAreMendedInOneStep();
 };
 
 void tst_Review::numbersAddUp()
@@ -472,6 +476,77 @@ void tst_Review::followsTheDocument()
     // Closed while it reads.
     fixture.review()->work()->readAnew();
     fixture.closeWindow();
+}
+
+void tst_Review::neighboursAreMendedInOneStep()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    MappingDocument *const document = fixture.window->desk()->document();
+    const NeighbourWork *const work = fixture.window->neighbours()->work();
+    const auto isChecked = [&] {
+        return !work->isReading() && work->checkedLines() > 0;
+    };
+    QVERIFY(fixture.window->neighbours()->dock()->isHidden());
+    fixture.press(Qt::Key_F7, Qt::ControlModifier);
+    auto *const list = fixture.window->findChild<QTreeView *>("NeighbourList");
+    const QAbstractItemModelTester tester(list->model(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QCOMPARE(QApplication::focusWidget(), list);
+    QVERIFY(QTest::qWaitFor(isChecked, 20000));
+    const int before = list->model()->rowCount();
+    // Ten lines of a project are moved one line on.
+    QVERIFY(fixture.window->editor()->selectProject(din933));
+    const ProjectId project = fixture.window->editor()->currentProject();
+    const PrjMappingC right = document->mapping(project);
+    VelkRelease::LineEdits edits(right);
+    const LineTable &lines = right.targetAt(0).lines();
+    LineTable::Iterator entry = lines.begin();
+    std::advance(entry, 10);
+    const int first = entry.sourceLine();
+    int last = first;
+    for (int i = 0; i < 10; ++i) {
+        last = entry.sourceLine();
+        const LineTable::Iterator next = std::next(entry);
+        edits.assign(last, 0, next.targetLine(), PRJMAPPING::Verified);
+        entry = next;
+    }
+    document->updateMapping(edits.mapping());
+    QVERIFY(QTest::qWaitFor([&] { return list->model()->rowCount() > before; }, 20000));
+    QVERIFY(QTest::qWaitFor(isChecked, 20000));
+    const QString text = QString("Zeilen %1 bis %2 sind um 1 verschoben").arg(first).arg(last);
+    int row = 0;
+    while (row < list->model()->rowCount() && list->model()->index(row, 0).data() != text)
+        ++row;
+    QVERIFY2(row < list->model()->rowCount(), qPrintable(text));
+    QVERIFY2(fixture.window->findChild<QLabel *>("NeighbourSum")
+                 ->text()
+                 .endsWith(QString("%1 Fundstelle%2").arg(before + 1).arg(before == 0 ? "" : "n")),
+             qPrintable(fixture.window->findChild<QLabel *>("NeighbourSum")->text()));
+    list->setFocus();
+    list->setCurrentIndex(list->model()->index(row, 0));
+    fixture.press(Qt::Key_Return);
+    QCOMPARE(fixture.window->editor()->currentLine(), first);
+    const PrjMappingC shifted = document->mapping(project);
+    const int steps = int(document->undoTexts().size());
+    fixture.press(Qt::Key_M, Qt::ControlModifier);
+    QCOMPARE(document->mapping(project).targetAt(0).getMappedLine(first).getTargetLineId(),
+             right.targetAt(0).getMappedLine(first).getTargetLineId());
+    QCOMPARE(document->mapping(project).targetAt(0).getMappedLine(last).getTargetLineId(),
+             right.targetAt(0).getMappedLine(last).getTargetLineId());
+    // Gone at once, and a single step.
+    QCOMPARE(list->model()->rowCount(), before);
+    QCOMPARE(document->undoTexts().size(), steps + 1);
+    QVERIFY2(document->undoText().startsWith("Behoben: " + text), qPrintable(document->undoText()));
+    QVERIFY(QTest::qWaitFor(isChecked, 20000));
+    QCOMPARE(list->model()->rowCount(), before);
+    fixture.press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(LineTable::isSame(document->mapping(project).targetAt(0).lines(),
+                              shifted.targetAt(0).lines()));
+    QVERIFY(QTest::qWaitFor([&] { return list->model()->rowCount() == before + 1; }, 20000));
+    // Closed while it looks.
+    document->close();
+    QCOMPARE(list->model()->rowCount(), 0);
 }
 
 QTEST_MAIN(tst_Review)
