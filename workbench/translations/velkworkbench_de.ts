@@ -150,6 +150,16 @@
     </message>
 </context>
 <context>
+    <name>HistoryCommands</name>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1</source>
+        <translation>
+            <numerusform>%n Zeile in %1</numerusform>
+            <numerusform>%n Zeilen in %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>LineCommands</name>
     <message numerus="yes">
         <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>

@@ -634,6 +634,14 @@ Please choose another file.</translation>
         <source>Mapping-Dateien (*.json);;Alle Dateien (*)</source>
         <translation>Mapping files (*.json);;All files (*)</translation>
     </message>
+    <message>
+        <source>Tabelle speichern</source>
+        <translation>Save table</translation>
+    </message>
+    <message>
+        <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+        <translation>Tables (*.csv);;All files (*)</translation>
+    </message>
 </context>
 <context>
     <name>GuardedSave</name>
@@ -712,6 +720,130 @@ Please choose another file.</translation>
     <message>
         <source>in der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer</source>
         <translation>release %1 is missing from the written file, or it is another one</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryCommands</name>
+    <message>
+        <source>&amp;Verlauf der Entscheidungen...</source>
+        <translation>&amp;History of the decisions...</translation>
+    </message>
+    <message>
+        <source>Wer hat was entschieden, wann und warum</source>
+        <translation>Who decided what, when and why</translation>
+    </message>
+    <message>
+        <source>Gr&amp;und der Entscheidung...</source>
+        <translation>Reason for the &amp;decision...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1</source>
+        <translation>
+            <numerusform>%n line in %1</numerusform>
+            <numerusform>%n lines in %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Grund notiert: %1</source>
+        <translation>Reason noted: %1</translation>
+    </message>
+    <message>
+        <source>Zur letzten Entscheidung oder zu den gewählten Zeilen, etwa warum es keinen Nachfolger gibt</source>
+        <translation>For the last decision or for the selected lines, such as why there is no successor</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2</source>
+        <translation>Line %1 in %2</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Verlauf der Entscheidungen</source>
+        <translation>History of the decisions</translation>
+    </message>
+    <message>
+        <source>Gewählte Zeile</source>
+        <translation>Selected line</translation>
+    </message>
+    <message>
+        <source>Gewähltes Projekt</source>
+        <translation>Selected project</translation>
+    </message>
+    <message>
+        <source>Alle Projekte</source>
+        <translation>All projects</translation>
+    </message>
+    <message>
+        <source>Wer, Projekt, Ziel oder Grund suchen</source>
+        <translation>Search who, project, target or reason</translation>
+    </message>
+    <message>
+        <source>&amp;Neu lesen</source>
+        <translation>&amp;Read anew</translation>
+    </message>
+    <message>
+        <source>Als &amp;CSV speichern...</source>
+        <translation>Save as &amp;CSV...</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Nicht lesbare Zeilen des Journals: %1</source>
+        <translation>Rows of the journal that cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>Entscheidungen: %1</source>
+        <translation>Decisions: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geschrieben werden.</source>
+        <translation>The file cannot be written.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>kein Nachfolger</source>
+        <translation>no successor</translation>
+    </message>
+    <message>
+        <source>%1 (nicht gespeichert)</source>
+        <translation>%1 (not saved)</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Who</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Bisher</source>
+        <translation>Formerly</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Reason</translation>
     </message>
 </context>
 <context>
@@ -1945,6 +2077,41 @@ Line: %2
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ReasonDialog</name>
+    <message>
+        <source>Grund der Entscheidung</source>
+        <translation>Reason for the decision</translation>
+    </message>
+    <message>
+        <source>&amp;Grund:</source>
+        <translation>&amp;Reason:</translation>
+    </message>
+    <message>
+        <source>eingestellt</source>
+        <translation>discontinued</translation>
+    </message>
+    <message>
+        <source>zusammengelegt mit einem anderen Teil</source>
+        <translation>merged into another part</translation>
+    </message>
+    <message>
+        <source>aufgeteilt in mehrere Teile</source>
+        <translation>split into several parts</translation>
+    </message>
+    <message>
+        <source>in einen anderen Katalog verschoben</source>
+        <translation>moved to another catalog</translation>
+    </message>
+    <message>
+        <source>noch nicht geprüft</source>
+        <translation>not yet checked</translation>
+    </message>
+    <message>
+        <source>&amp;Für:</source>
+        <translation>&amp;For:</translation>
     </message>
 </context>
 <context>

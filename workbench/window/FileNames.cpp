@@ -10,6 +10,14 @@ QString filter()
     return QCoreApplication::translate("FileNames", "Mapping-Dateien (*.json);;Alle Dateien (*)");
 }
 
+QString askForNew(QFileDialog &dialog, const QString &suggested)
+{
+    dialog.setObjectName("SaveFileDialog");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(QFileInfo(suggested).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 } // namespace
 
 QString FileNames::askOpen(QWidget *parent, const QString &former)
@@ -21,11 +29,16 @@ QString FileNames::askOpen(QWidget *parent, const QString &former)
 QString FileNames::askSave(QWidget *parent, const QString &former)
 {
     QFileDialog dialog(parent, tr("Mapping-Datei speichern"), QFileInfo(former).path(), filter());
-    dialog.setObjectName("SaveFileDialog");
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("json");
-    dialog.selectFile(QFileInfo(former).fileName());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return askForNew(dialog, former);
+}
+
+QString FileNames::askForTable(QWidget *parent, const QString &suggested)
+{
+    QFileDialog dialog(parent, tr("Tabelle speichern"), QFileInfo(suggested).path(),
+                       tr("Tabellen (*.csv);;Alle Dateien (*)"));
+    dialog.setDefaultSuffix("csv");
+    return askForNew(dialog, suggested);
 }
 
 QString FileNames::askDirectory(QWidget *parent, const QString &title, const QString &former)

@@ -17,6 +17,8 @@ public:
     [[nodiscard]] static QString askOpen(QWidget *parent, const QString &former);
     /// With the ending ".json" if none is given; an existing file is to be confirmed.
     [[nodiscard]] static QString askSave(QWidget *parent, const QString &former);
+    /// \a suggested is the file's name; ".csv" as above.
+    [[nodiscard]] static QString askForTable(QWidget *parent, const QString &suggested);
     [[nodiscard]] static QString askDirectory(QWidget *parent, const QString &title,
                                               const QString &former);
 };

@@ -4,6 +4,7 @@
 #include "ConflictCommands.h"
 #include "DocumentDesk.h"
 #include "EditorArea.h"
+#include "HistoryCommands.h"
 #include "LineCommands.h"
 #include "LineStateFilter.h"
 #include "LinkDbCommands.h"
@@ -46,6 +47,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_status(new StatusArea(this))
     , m_editor(new EditorArea(this))
     , m_desk(new DocumentDesk(settings, this))
+    , m_history(new HistoryCommands(m_desk->document(), m_editor, this))
     , m_lines(new LineCommands(m_desk->document(), m_editor, this))
     , m_review(new ReviewCommands(m_desk->document(), m_editor, m_lines, this))
     , m_neighbours(new NeighbourCommands(m_desk->document(), m_editor, this))
@@ -105,6 +107,7 @@ MainWindow::~MainWindow()
     IndexTreeC::instance()->setErpSource({});
     delete m_erpNumbers;
     delete m_scripts;
+    delete m_history;
     delete m_editor;
     delete m_conflicts;
     delete m_review;
@@ -129,6 +132,7 @@ void MainWindow::connectParts()
     };
     connect(m_desk, &DocumentDesk::noted, this, note);
     connect(m_lines, &LineCommands::noted, this, note);
+    connect(m_history, &HistoryCommands::noted, this, note);
     connect(m_lines, &LineCommands::done, this, [this](const QString &text) {
         m_status->showNote(text, m_desk->document()->canUndo());
     });

@@ -9,6 +9,7 @@
 class ConflictCommands;
 class DocumentDesk;
 class EditorArea;
+class HistoryCommands;
 class LineCommands;
 class LineStateFilter;
 class LinkDbCommands;
@@ -102,6 +103,7 @@ private:
     StatusArea *const m_status;
     EditorArea *const m_editor;
     DocumentDesk *const m_desk;
+    HistoryCommands *const m_history; ///< sees a decision before m_lines goes on
     LineCommands *const m_lines;
     ReviewCommands *const m_review;
     NeighbourCommands *const m_neighbours;

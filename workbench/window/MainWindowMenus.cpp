@@ -3,6 +3,7 @@
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "FocusHelp.h"
+#include "HistoryCommands.h"
 #include "LineCommands.h"
 #include "LineStateFilter.h"
 #include "LinkDbCommands.h"
@@ -64,7 +65,7 @@ void MainWindow::buildMenus()
           WorkbenchActions::ConfirmExpiredLines, WorkbenchActions::RemoveLines,
           WorkbenchActions::RemoveConfirmLines, Separator, WorkbenchActions::AssignAll,
           WorkbenchActions::CheckValueRanges});
-    edit->addAction(m_linkDbCommands->proofAction());
+    edit->addActions({m_history->reasonAction(), m_linkDbCommands->proofAction()});
     fill(edit, m_actions,
          {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings});
     fill(addMenu("goMenu"), m_actions,
@@ -108,6 +109,7 @@ void MainWindow::buildMenus()
     states->setToolTipsVisible(true);
     states->addActions(m_states->actions());
     view->addSeparator();
+    view->addAction(m_history->showAction());
     view->addAction(m_log->toggleViewAction());
     view->addAction(m_scripts->console()->toggleViewAction());
     fill(addMenu("helpMenu"), m_actions,
