@@ -1,6 +1,7 @@
 #include "../support/SubversionServer.h"
 
 #include <geomcore/records/MappingFile.h>
+#include <release/history/JournalRow.h>
 #include <release/share/SharedMapping.h>
 #include <TestPaths.h>
 
@@ -49,6 +50,8 @@ private Q_SLOTS:
     void init();
     void twoModellers_data() { places(); }
     void twoModellers();
+    void historyComesAlong_data() { places(); }
+    void historyComesAlong();
     void bothDecideOneLine_data() { places(); }
     void bothDecideOneLine();
     void publishingAtOneTime_data() { places(); }
@@ -205,6 +208,43 @@ void tst_Sharing::twoModellers()
     QCOMPARE(bytes(shared("anna")), bytes(mine("ben")));
     QCOMPARE(velkmap({"update", "--mapping", mine("anna")}), 0);
     QCOMPARE(m_said, QString()); // nothing is new
+}
+
+/// Each one's own, and those of others only once.
+void tst_Sharing::historyComesAlong()
+{
+    begin();
+    const auto note = [this](const QString &who, int line) {
+        QFile journal(mine(who) + ".journal");
+        QVERIFY(journal.open(QIODevice::WriteOnly | QIODevice::Append));
+        for (const char *record :
+             {R"({"kind":"opened","time":"2026-11-0%1T09:00:00.000Z","user":"%2"})",
+              R"({"kind":"change","step":1,"project":["parts/bolts/a.prj","v1","",""],"targets":)"
+              R"([{"at":[0,0],"path":"n.prj","lines":[[%1,1,0,1,2]]}]})",
+              R"({"kind":"step","time":"2026-11-0%1T10:00:00.000Z","step":1,"text":"ok"})",
+              R"({"kind":"closed","modified":false})"})
+            journal.write(VelkRelease::JournalRow::frame(
+                QString(record).replace("%1", QString::number(line)).replace("%2", who).toUtf8()));
+    };
+    const auto history = [this](const QString &who) {
+        (void)velkmap({"history", "--mapping", mine(who)});
+        return m_said.count("2026-11-01T10:00:00Z anna parts/bolts/a.prj:1: n.prj:1") * 10 +
+               m_said.count("2026-11-02T10:00:00Z ben parts/bolts/a.prj:2: n.prj:1");
+    };
+    decide("anna", Bolts, 1, 5);
+    note("anna", 1);
+    QCOMPARE(velkmap({"publish", "--mapping", mine("anna")}), 0);
+    decide("ben", Bolts, 2, 6);
+    note("ben", 2);
+    QCOMPARE(history("ben"), 1);
+    QCOMPARE(velkmap({"update", "--mapping", mine("ben")}), 0);
+    QCOMPARE(history("ben"), 11);
+    QCOMPARE(velkmap({"publish", "--mapping", mine("ben")}), 0);
+    QCOMPARE(velkmap({"update", "--mapping", mine("anna")}), 0);
+    QCOMPARE(history("anna"), 11);
+    // Notes of another kind disturb nobody.
+    QVERIFY(velkmap({"share", "--mapping", mine("anna")}) == 0);
+    QVERIFY2(!m_said.contains("verlauf"), qPrintable(m_said));
 }
 
 void tst_Sharing::bothDecideOneLine()

@@ -57,9 +57,8 @@ QList<DecisionHistory::Decision> withReasons(const QList<DecisionHistory::Decisi
     return result;
 }
 
-bool readAll(const QString &mappingFile, HistorySessions &sessions, QString *error)
+bool readAll(const QStringList &files, HistorySessions &sessions, QString *error)
 {
-    const QStringList files = DecisionHistory::files(mappingFile);
     return std::ranges::all_of(files,
                                [&](const QString &file) { return sessions.add(file, error); });
 }
@@ -94,7 +93,7 @@ bool DecisionHistory::read(const QString &mappingFile, QString *error)
 {
     m_decisions.clear();
     HistorySessions sessions;
-    if (!readAll(mappingFile, sessions, error))
+    if (!readAll(files(mappingFile), sessions, error))
         return false;
     m_damaged = sessions.damagedRows();
     QList<Decision> all;
@@ -116,9 +115,22 @@ QList<DecisionHistory::Decision> DecisionHistory::of(const QString &path, int li
 
 bool DecisionHistory::adopt(const QString &from, const QString &into, QString *error)
 {
+    return adoptFiles(files(from), into, error);
+}
+
+QByteArray DecisionHistory::ownRows(const QString &mappingFile, QString *error)
+{
+    QStringList own = files(mappingFile);
+    own.removeAll(adoptedFile(mappingFile));
+    HistorySessions sessions;
+    return readAll(own, sessions, error) ? sessions.rowsBeyond({}) : QByteArray();
+}
+
+bool DecisionHistory::adoptFiles(const QStringList &from, const QString &into, QString *error)
+{
     HistorySessions theirs;
     HistorySessions ours;
-    if (!readAll(from, theirs, error) || !readAll(into, ours, error))
+    if (!readAll(from, theirs, error) || !readAll(files(into), ours, error))
         return false;
     const QByteArray rows = theirs.rowsBeyond(ours);
     if (rows.isEmpty())

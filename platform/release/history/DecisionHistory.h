@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 class PJsonValue;
 
@@ -56,6 +57,12 @@ public:
     /// Takes the decisions of another copy over that the copy \a into does not have, for good: into
     /// a file of their own beside it. False with \a error.
     [[nodiscard]] static bool adopt(const QString &from, const QString &into, QString *error);
+    /// The same of files that hold journals or parts of them, wherever these lie.
+    [[nodiscard]] static bool adoptFiles(const QStringList &from, const QString &into,
+                                         QString *error);
+    /// The decisions that were made in this file itself, for others to adopt; empty if there are
+    /// none, or with \a error.
+    [[nodiscard]] static QByteArray ownRows(const QString &mappingFile, QString *error);
     /// Where adopt() puts them.
     [[nodiscard]] static QString adoptedFile(const QString &mappingFile);
     /// All files that hold decisions, the oldest first; those that are there.

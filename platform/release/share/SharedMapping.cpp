@@ -1,5 +1,7 @@
 #include "SharedMapping.h"
 
+#include "SharedHistory.h"
+
 #include <core/files/DurableFile.h>
 #include <core/files/EditLock.h>
 #include <geomcore/records/sameTargetHead.h>
@@ -231,6 +233,7 @@ ShareAnswer SharedMapping::update(MergedFile &merged, const MergeOptions &option
     if (!result.file.write(m_file, &error))
         return {ShareAnswer::NotWritable, error};
     merged = std::move(result);
+    SharedHistory::take(*m_place, m_file);
     return store(there.bytes, there.revision);
 }
 
@@ -270,6 +273,7 @@ ShareAnswer SharedMapping::publish(const PublishOptions &options)
         return {};
     if (const ShareAnswer answer = mayPublish(own, options); !answer.isDone())
         return answer;
+    SharedHistory::publish(*m_place, m_file, noteName());
     QString revision;
     if (const ShareAnswer answer = m_place->publish(own, m_revision, options.message, revision);
         !answer.isDone())
@@ -285,7 +289,7 @@ QString SharedMapping::noteName() const
         QCryptographicHash::hash(m_file.toUtf8(), QCryptographicHash::Sha256).toHex().left(8);
     QString name = owner.user + u'@' + owner.host + u'-' + QString::fromLatin1(place);
     name.replace(u'/', u'_').replace(u'\\', u'_');
-    return name + QStringLiteral(".json");
+    return name;
 }
 
 QList<Participant> SharedMapping::participants() const
@@ -315,13 +319,14 @@ ShareAnswer SharedMapping::writeSelf(const Participant &self)
 {
     const SessionOwner owner = EditLock::self();
     return m_place->writeNote(
-        noteName(), jsonOf({{"note", noteName()},
-                            {"user", owner.user},
-                            {"host", owner.host},
-                            {"open", self.isOpen},
-                            {"seen", QDateTime::currentDateTimeUtc().toString(Qt::ISODate)},
-                            {"revision", m_revision},
-                            {"folders", QJsonArray::fromStringList(self.folders)}}));
+        noteName() + QStringLiteral(".json"),
+        jsonOf({{"note", noteName()},
+                {"user", owner.user},
+                {"host", owner.host},
+                {"open", self.isOpen},
+                {"seen", QDateTime::currentDateTimeUtc().toString(Qt::ISODate)},
+                {"revision", m_revision},
+                {"folders", QJsonArray::fromStringList(self.folders)}}));
 }
 
 ShareAnswer SharedMapping::announce(bool open)

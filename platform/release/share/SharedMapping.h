@@ -52,7 +52,8 @@ public:
     [[nodiscard]] ShareAnswer status(Status &status);
 
     /// Merges what others published into the mapping file. Killed at any moment, the file has all
-    /// decisions that it had. \a merged is left without releases if there is nothing new.
+    /// decisions that it had. \a merged is left without releases if there is nothing new. The
+    /// history of what others decided comes along.
     [[nodiscard]] ShareAnswer update(MergedFile &merged, const MergeOptions &options = {});
 
     struct PublishOptions

@@ -31,14 +31,23 @@ QString SharedPlace::notesFolder() const
 QList<QByteArray> SharedPlace::notes() const
 {
     QList<QByteArray> all;
-    const QFileInfoList files =
-        QDir(notesFolder()).entryInfoList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
-    for (const QFileInfo &info : files) {
+    const QStringList files = noteFiles(QStringLiteral(".json"));
+    for (const QString &file : files) {
         QByteArray bytes;
-        if (read(info.filePath(), bytes).isDone())
+        if (read(file, bytes).isDone())
             all += bytes;
     }
     return all;
+}
+
+QStringList SharedPlace::noteFiles(const QString &ending) const
+{
+    QStringList files;
+    const QFileInfoList found =
+        QDir(notesFolder()).entryInfoList({u'*' + ending}, QDir::Files, QDir::Name);
+    for (const QFileInfo &info : found)
+        files += info.filePath();
+    return files;
 }
 
 ShareAnswer SharedPlace::read(const QString &file, QByteArray &bytes)

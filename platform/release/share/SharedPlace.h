@@ -63,6 +63,8 @@ public:
     [[nodiscard]] virtual ShareAnswer writeNote(const QString &name, const QByteArray &bytes) = 0;
     /// Notes as they were at the last fetch or are by now.
     [[nodiscard]] QList<QByteArray> notes() const;
+    /// Where notes with this ending lie; notes() are those with ".json".
+    [[nodiscard]] QStringList noteFiles(const QString &ending) const;
 
 protected:
     explicit SharedPlace(const QString &file);
