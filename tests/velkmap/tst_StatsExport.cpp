@@ -2,6 +2,7 @@
 #include "../support/TestCatalog.h"
 
 #include <geomcore/records/MappingFile.h>
+#include <release/history/JournalRow.h>
 #include <tools/velkmap/Commands.h>
 #include <tools/velkmap/ExportCommand.h>
 
@@ -275,6 +276,45 @@ private Q_SLOTS:
     }
 
     /// The page is written all the same, and names what is missing.
+    void reportWithSamples()
+    {
+        const QString mapping = m_dir.filePath("samples.json");
+        MappingFile file;
+        ReleaseMappingC release = someRelease();
+        release.setSourceDate("2022-01-01T00:00:00Z");
+        file.setRelease(release);
+        QVERIFY(file.write(mapping));
+        QByteArray journal;
+        for (const QByteArray &record :
+             {QByteArray(R"({"kind":"opened","sourceDate":"2022-01-01T00:00:00Z"})"),
+              QByteArray(R"({"kind":"sample","time":"2022-02-03T04:05:06.000Z","note":{)"
+                         R"("judge":"mia","lines":345,"drawn":["cat/a.prj:1"],"right":59,)"
+                         R"("judged":59,"certainty":"0.95","bound":"0.049510"}})"),
+              QByteArray(R"({"kind":"sample","time":"2022-02-04T04:05:06.000Z","note":{)"
+                         R"("judge":"tom","lines":17,"drawn":[],"right":2,"judged":3}})"),
+              QByteArray(R"({"kind":"opened","sourceDate":"2023-01-01T00:00:00Z"})"),
+              QByteArray(R"({"kind":"sample","time":"2023-02-04T04:05:06.000Z","note":{)"
+                         R"("judge":"eve","lines":18,"right":2,"judged":3}})")})
+            journal += VelkRelease::JournalRow::frame(record);
+        QFile beside(mapping + ".journal");
+        QVERIFY(beside.open(QIODevice::WriteOnly) && beside.write(journal) == journal.size());
+        beside.close();
+        const QString page = m_dir.filePath("samples.html");
+        (void)run({"report", "--mapping", mapping, "--out", page, "--source", m_dir.path(),
+                   "--target", m_dir.path()});
+        QFile written(page);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(written.readAll());
+        const QStringList rows =
+            text.split("<tr>").filter("mia") + text.split("<tr>").filter("tom");
+        QCOMPARE(rows.size(), 2);
+        QVERIFY2(rows[0].contains("2022-02-03 04:05 UTC") && rows[0].contains("345") &&
+                     rows[0].contains("5.0 %"),
+                 qPrintable(rows[0]));
+        QVERIFY2(rows[1].contains("refused"), qPrintable(rows[1]));
+        QVERIFY(!text.contains("eve<"));
+    }
+
     void reportWithoutTables()
     {
         const QString mapping = writeMapping("lost.json");

@@ -22,6 +22,7 @@
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>
 #include <release/decide/LineEdits.h>
+#include <release/history/SampleHistory.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -361,6 +362,21 @@ void tst_Review::acceptedBySample()
     QVERIFY(!note.value("judge").toText().isEmpty());
     QVERIFY(note.value("bound").toText().startsWith("0.049"));
     QVERIFY(!records.first().value("time").toText().isEmpty());
+    // As a report reads it.
+    QString error;
+    const auto samples = VelkRelease::readJudgedSamples(fixture.document()->mappingFile(), &error);
+    QVERIFY2(samples, qPrintable(error));
+    QCOMPARE(samples->size(), 1U);
+    QCOMPARE(samples->front().release, fixture.document()->release().getSourceDate());
+    QCOMPARE(samples->front().judge, note.value("judge").toText());
+    QCOMPARE(samples->front().lines, lines);
+    QCOMPARE(samples->front().drawn.size(), 59);
+    QCOMPARE(samples->front().drawn.first(), note.value("drawn").at(0).toText());
+    QCOMPARE(samples->front().judged, 59);
+    QCOMPARE(samples->front().right, 59);
+    QCOMPARE(samples->front().certainty, 0.95);
+    QVERIFY(std::abs(samples->front().bound.value() - 0.04951) < 1e-4);
+    QVERIFY(samples->front().time.isValid());
     fixture.press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(fixture.confirmedLines(), confirmed);
 }
@@ -400,6 +416,11 @@ void tst_Review::firstWrongOneSplits()
     QCOMPARE(note.value("judged").toInt(), 2);
     QCOMPARE(note.value("right").toInt(), 1);
     QVERIFY(!note.contains("bound"));
+    QString error;
+    const auto samples = VelkRelease::readJudgedSamples(fixture.document()->mappingFile(), &error);
+    QVERIFY(samples && samples->size() == 1);
+    QVERIFY(!samples->front().bound);
+    QCOMPARE(samples->front().drawn.size(), 2);
 }
 
 void tst_Review::selectedLinesBySample()
