@@ -55,6 +55,8 @@ class tst_ReleaseMappingBuilder : public QObject
 
 private Q_SLOTS:
     void mapsEachOldProject();
+    void linesOfOtherProjects_data();
+    void linesOfOtherProjects();
     void recordsVersionsAndDates();
     void givenDatesWin();
     void datesCompareInUtc();
@@ -100,6 +102,31 @@ void tst_ReleaseMappingBuilder::mapsEachOldProject()
     QCOMPARE(builder.counts().several, 1);
     QCOMPARE(builder.counts().gone, 2);
     QCOMPARE(builder.counts().unreadable, 0);
+}
+
+void tst_ReleaseMappingBuilder::linesOfOtherProjects_data()
+{
+    QTest::addColumn<QByteArray>("before"); // the second table of the old release
+    QTest::addColumn<QString>("expected");  // what the first one becomes
+    QTest::newRow("moved") << QByteArray("size,s,k;M4,8,1.8")
+                           << "old/a/bolt.prj: new/a/bolt.prj "
+                              "new/a/stud.prj";
+    QTest::newRow("was there before")
+        << QByteArray("size,s,k;M3,5.5,2;M4,8,1.8") << "old/a/bolt.prj: new/a/bolt.prj";
+}
+
+void tst_ReleaseMappingBuilder::linesOfOtherProjects()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QString, expected);
+    Releases releases;
+    releases.source.add("a/bolt", Bolts);
+    releases.source.add("a/stud", before);
+    releases.target.add("a/bolt", "size,s,k;M4,7,2.8;M5,8,3.5");
+    releases.target.add("a/stud", "size,s,k;M3,5.5,2;M4,8,1.8");
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(told(builder.release()), QStringList({expected, "old/a/stud.prj: new/a/stud.prj"}));
 }
 
 void tst_ReleaseMappingBuilder::recordsVersionsAndDates()

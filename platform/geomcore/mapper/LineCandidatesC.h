@@ -42,7 +42,7 @@ struct LineCandidateC
 struct LineCandidatesC
 {
     static constexpr int MaxCandidates = 5;
-    /// Less probable lines are no candidates.
+    /// Less probable lines are no candidates, but for the best one.
     static constexpr double LeastProbability = 0.02;
     /// A line at least as probable is proposed.
     static constexpr double ProposedProbability = 0.5;

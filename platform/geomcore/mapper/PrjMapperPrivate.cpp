@@ -269,7 +269,8 @@ LineCandidatesC PrjMapperPrivate::candidates(const LineInput &line)
         const bool first = proposed.target &&
                            TargetSet::haveSameProject(*found.target, *proposed.target) &&
                            found.row == proposed.row;
-        if (edge.probability < LineCandidatesC::LeastProbability && !first)
+        const bool best = &edge == &edges.front();
+        if (edge.probability < LineCandidatesC::LeastProbability && !first && !best)
             continue;
         const LineCandidateC made = candidate(line, found, edge.probability, &edge);
         result.candidates.insert(first ? 0 : result.candidates.size(), made);

@@ -25,12 +25,14 @@ void ColumnChance::finish(const CellValues &values, bool isKey)
             continue;
         m_valueCount += count;
         const CellValues::Value &value = values.value(number);
+        m_meanTokens += double(count) * double(value.distinct.size());
         single += count == 1 && (isKey || !value.isNumber) ? 1 : 0;
         for (const int token : value.distinct)
             m_tokens[token] += count;
         if (value.isNumber)
             m_numbers.insert(m_numbers.end(), size_t(count), value.number);
     }
+    m_meanTokens /= std::max(1, m_valueCount);
     std::sort(m_numbers.begin(), m_numbers.end());
     m_further = isKey ? LinesOfKey : 1;
     m_known = 1 - double(single) / (m_valueCount + 1);

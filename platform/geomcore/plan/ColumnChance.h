@@ -26,6 +26,8 @@ public:
     [[nodiscard]] double missing() const;
     [[nodiscard]] double share(int value) const;
     [[nodiscard]] double tokenShare(int token) const;
+    /// Different tokens of a value, on average.
+    [[nodiscard]] double meanTokens() const { return m_meanTokens; }
     /// Share of the numbers that are at least as near to \a number as \a other is. As long as there
     /// are few numbers, it is the part of the larger one by which the two differ.
     [[nodiscard]] double nearShare(double number, double other) const;
@@ -35,8 +37,9 @@ private:
     std::unordered_map<int, int> m_counts;
     std::unordered_map<int, int> m_tokens;
     std::vector<double> m_numbers; ///< Sorted.
-    double m_known = 1;            ///< Share of the values of further lines that are among these.
-    int m_further = 1;             ///< Lines that are counted as if they had other values.
+    double m_meanTokens = 0;
+    double m_known = 1; ///< Share of the values of further lines that are among these.
+    int m_further = 1;  ///< Lines that are counted as if they had other values.
     int m_lineCount = 0;
     int m_valueCount = 0;
 };

@@ -7,9 +7,6 @@ namespace Plan {
 
 namespace {
 
-/// A token that only the new value has speaks against the pair, but not more than this.
-constexpr double LeastNewToken = 0.05;
-
 } // namespace
 
 double PairEvidence::nearRatio(const ColumnChance &chance, int oldValue, int newValue) const
@@ -28,24 +25,25 @@ double PairEvidence::alikeRatio(const ColumnChance &chance, const VariableRates 
 {
     const std::vector<int> &a = m_tables.values.value(oldValue).distinct;
     const std::vector<int> &b = m_tables.values.value(newValue).distinct;
-    double sum = 0;
+    // A token of the old text stays or does not; further ones come as they come in any text of the
+    // column, but more seldom, so that the common ones which a text does without count for it.
+    double sum = (1 - rates.adds) * chance.meanTokens();
     bool any = false;
-    const double added = std::log(std::max(1 - rates.stays, LeastNewToken));
+    const double added = std::log(rates.adds);
     auto i = a.begin();
     auto j = b.begin();
     while (i != a.end() || j != b.end()) {
-        if (j == b.end() || (i != a.end() && *i < *j)) {
-            sum += std::log(1 - rates.stays) - std::log(1 - chance.tokenShare(*i));
-            ++i;
-        } else if (i == a.end() || *j < *i) {
-            sum += added;
-            ++j;
-        } else {
-            sum += std::log(rates.stays / chance.tokenShare(*i));
-            any = true;
-            ++i;
-            ++j;
-        }
+        const bool onlyOld = j == b.end() || (i != a.end() && *i < *j);
+        const bool onlyNew = !onlyOld && (i == a.end() || *j < *i);
+        const double share = chance.tokenShare(onlyNew ? *j : *i);
+        sum -= (1 - rates.adds) * share;
+        if (onlyOld)
+            sum += std::log((1 - rates.stays) / (1 - share));
+        else
+            sum += onlyNew ? added : std::log(rates.stays / share);
+        any = any || (!onlyOld && !onlyNew);
+        i += onlyNew ? 0 : 1;
+        j += onlyOld ? 0 : 1;
     }
     // No value says more than that it is this one of all.
     return any ? std::min(std::exp(sum), 1 / chance.share(newValue)) : 0;
@@ -109,6 +107,23 @@ bool PairEvidence::hasCommonValue(const PlanTarget &target, size_t line, size_t 
     return false;
 }
 
+void PairEvidence::countTokens(const ColumnChance &chance, int oldValue, int newValue,
+                               double weight, RateCounts &seen) const
+{
+    const std::vector<int> &tokens = m_tables.values.value(oldValue).distinct;
+    const std::vector<int> &others = m_tables.values.value(newValue).distinct;
+    double staying = 0;
+    double expected = chance.meanTokens();
+    for (const int token : tokens) {
+        staying += std::binary_search(others.begin(), others.end(), token) ? 1 : 0;
+        expected -= chance.tokenShare(token);
+    }
+    seen.tokens += weight * double(tokens.size());
+    seen.staying += weight * staying;
+    seen.added += weight * (double(others.size()) - staying);
+    seen.expected += weight * std::max(0.0, expected);
+}
+
 bool PairEvidence::count(const PlanTarget &target, const PlanEdge &edge, size_t line, double own,
                          std::vector<RateCounts> &counts, ChangeMemory &changes) const
 {
@@ -134,13 +149,8 @@ bool PairEvidence::count(const PlanTarget &target, const PlanEdge &edge, size_t 
             changes.add(m_tables.values, target.variables[place], a, b, probability);
         if (a == b)
             continue;
-        const std::vector<int> &tokens = m_tables.values.value(a).distinct;
-        const std::vector<int> &others = m_tables.values.value(b).distinct;
-        seen.tokens += probability * double(tokens.size());
-        for (const int token : tokens) {
-            if (std::binary_search(others.begin(), others.end(), token))
-                seen.staying += probability;
-        }
+        countTokens(target.chances[place], a, b, probability * evidence.ways[int(Way::Alike)],
+                    seen);
     }
     return isModel;
 }

@@ -46,6 +46,8 @@ private:
     [[nodiscard]] bool hasCommonValue(const PlanTarget &target, size_t line, size_t row) const;
     [[nodiscard]] double alikeRatio(const ColumnChance &chance, const VariableRates &rates,
                                     int oldValue, int newValue) const;
+    void countTokens(const ColumnChance &chance, int oldValue, int newValue, double weight,
+                     RateCounts &seen) const;
     [[nodiscard]] double nearRatio(const ColumnChance &chance, int oldValue, int newValue) const;
 
     const PlanTables &m_tables;

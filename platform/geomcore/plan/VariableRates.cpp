@@ -12,6 +12,8 @@ void RateCounts::add(const RateCounts &other, double weight)
     hadNone += weight * other.hadNone;
     staying += weight * other.staying;
     tokens += weight * other.tokens;
+    added += weight * other.added;
+    expected += weight * other.expected;
 }
 
 double RateCounts::total() const
@@ -29,6 +31,7 @@ VariableRates VariableRates::assumed()
     rates.lost = 0.05;
     rates.gained = 0.05;
     rates.stays = 0.5;
+    rates.adds = 0.5;
     return rates;
 }
 
@@ -44,6 +47,7 @@ VariableRates VariableRates::learned(const RateCounts &counts, const VariableRat
     rates.lost = share(counts.lost, counts.hadValue, prior.lost);
     rates.gained = share(counts.gained, counts.hadNone, prior.gained);
     rates.stays = share(counts.staying, counts.tokens, prior.stays);
+    rates.adds = share(counts.added, counts.expected, prior.adds);
     return rates;
 }
 

@@ -18,8 +18,10 @@ struct RateCounts
     double hadValue = 0; ///< of those in which it has one.
     double gained = 0;   ///< Pairs in which only the new line has one,
     double hadNone = 0;  ///< of those in which the old one has none.
-    double staying = 0;  ///< Tokens that stay when a value changes,
+    double staying = 0;  ///< Tokens that stay where some of a text stay,
     double tokens = 0;   ///< of all.
+    double added = 0;    ///< Tokens that only the new text has then,
+    double expected = 0; ///< and how many of these any text of the column would have.
 
     void add(const RateCounts &other, double weight = 1);
     [[nodiscard]] double total() const;
@@ -32,6 +34,7 @@ struct VariableRates
     double lost = 0;
     double gained = 0;
     double stays = 0;
+    double adds = 0; ///< Tokens that are new in a text beside those that any text would have.
 
     [[nodiscard]] double way(Way which) const { return ways[size_t(which)]; }
 

@@ -8,6 +8,7 @@
 #include "ReleaseDate.h"
 #include "ReleaseIndex.h"
 #include "RuleProposals.h"
+#include "TargetOwners.h"
 #include "VariableNames.h"
 
 #include <core/parallel/WorkerPool.h>
@@ -58,7 +59,10 @@ private:
                                      const std::vector<ReadProject> &projects);
     [[nodiscard]] bool setDates();
     void takeMessages();
-    [[nodiscard]] PrjMappingC mappingOf(const ReadProject &source) const;
+    /// By source project: the tables that can take over its lines.
+    [[nodiscard]] std::vector<std::vector<int>> findTables() const;
+    [[nodiscard]] PrjMappingC mappingOf(const ReadProject &source,
+                                        const std::vector<int> &tables) const;
     void addTargets(PrjMappingC &mapping, const std::vector<int> &tables) const;
     void proposeRules(const ReadProject &source, PrjMappingC &mapping,
                       const std::vector<int> &tables) const;
@@ -91,9 +95,10 @@ ReleaseMappingBuilder::Outcome ReleaseMappingBuilder::Work::run()
     for (ReadProject &target : m_targets)
         m_index.add(target.project.path, std::move(target.cells));
     m_index.finish();
+    const std::vector<std::vector<int>> tables = findTables();
     std::vector<PrjMappingC> mappings(m_sources.size());
     WorkerPool::instance().run(int(m_sources.size()), [&](int i) {
-        mappings[size_t(i)] = mappingOf(m_sources[size_t(i)]);
+        mappings[size_t(i)] = mappingOf(m_sources[size_t(i)], tables[size_t(i)]);
     });
     for (const PrjMappingC &mapping : mappings) {
         count(mapping);
@@ -141,13 +146,35 @@ ReadProject ReleaseMappingBuilder::Work::readProject(const CatalogReader &catalo
     return read;
 }
 
-PrjMappingC ReleaseMappingBuilder::Work::mappingOf(const ReadProject &source) const
+std::vector<std::vector<int>> ReleaseMappingBuilder::Work::findTables() const
+{
+    const int count = int(m_sources.size());
+    std::vector<std::vector<int>> found(m_sources.size());
+    WorkerPool::instance().run(count, [&](int i) {
+        const ReadProject &source = m_sources[size_t(i)];
+        found[size_t(i)] = ProjectFinder(m_index).find(source.project.path, source.cells);
+    });
+    std::vector<const LineCells *> sources;
+    sources.reserve(m_sources.size());
+    for (const ReadProject &source : m_sources)
+        sources.push_back(&source.cells);
+    std::vector<const LineCells *> targets;
+    targets.reserve(size_t(m_index.count()));
+    for (int i = 0; i < m_index.count(); ++i)
+        targets.push_back(&m_index.table(i));
+    const TargetOwners owners(sources, targets, found);
+    std::vector<std::vector<int>> kept(m_sources.size());
+    WorkerPool::instance().run(count, [&](int i) { kept[size_t(i)] = owners.withoutOthers(i); });
+    return kept;
+}
+
+PrjMappingC ReleaseMappingBuilder::Work::mappingOf(const ReadProject &source,
+                                                   const std::vector<int> &tables) const
 {
     PrjMappingC mapping;
     mapping.setSourcePath(source.project.path);
     mapping.setSourceVersion(source.project.version);
     mapping.setTabVersion(source.project.tableVersion);
-    const std::vector<int> tables = ProjectFinder(m_index).find(source.project.path, source.cells);
     addTargets(mapping, tables);
     proposeRules(source, mapping, tables);
     mapping.updateMappingState();

@@ -1,0 +1,56 @@
+#include "TargetOwners.h"
+
+#include "LineCells.h"
+#include "TableMatch.h"
+
+#include <algorithm>
+
+namespace VelkRelease {
+
+TargetOwners::TargetOwners(const std::vector<const LineCells *> &sources,
+                           const std::vector<const LineCells *> &targets,
+                           const std::vector<std::vector<int>> &found)
+    : m_sources(sources)
+    , m_targets(targets)
+    , m_found(found)
+    , m_owners(targets.size())
+{
+    for (size_t source = 0; source < found.size(); ++source) {
+        if (!found[source].empty())
+            m_owners[size_t(found[source].front())].push_back(int(source));
+    }
+}
+
+std::vector<int> TargetOwners::withoutOthers(int source) const
+{
+    std::vector<int> tables = m_found[size_t(source)];
+    if (tables.size() < 2)
+        return tables;
+    const auto gone = std::remove_if(tables.begin() + 1, tables.end(),
+                                     [&](int table) { return !hasOwnLine(source, table); });
+    tables.erase(gone, tables.end());
+    return tables;
+}
+
+bool TargetOwners::hasOwnLine(int source, int target) const
+{
+    const LineCells &lines = *m_sources[size_t(source)];
+    const TableMatch match(lines, *m_targets[size_t(target)]);
+    std::vector<bool> own(size_t(lines.rowCount()), false);
+    for (int row = 0; row < lines.rowCount(); ++row)
+        own[size_t(row)] = match.isEqual(row) || match.isHeld(row);
+    for (const int owner : m_owners[size_t(target)]) {
+        if (owner == source)
+            continue;
+        const TableMatch before(lines, *m_sources[size_t(owner)]);
+        for (int row = 0; row < lines.rowCount(); ++row) {
+            if (before.isEqual(row) || before.isHeld(row))
+                own[size_t(row)] = false;
+        }
+    }
+    // A table that has no line as it was is there for another reason, and so is one without owner.
+    return std::ranges::count(own, true) > 0 || m_owners[size_t(target)].empty() ||
+           !match.anyFound();
+}
+
+} // namespace VelkRelease
