@@ -91,9 +91,19 @@ CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t ro
 double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, double own) const
 {
     double sum = 0;
-    for (size_t place = 0; place < target.variables.size(); ++place)
-        sum += cell(target, line, row, place, own).weight;
-    return sum;
+    double nearest = 0;
+    bool hasCommon = false;
+    for (size_t place = 0; place < target.variables.size(); ++place) {
+        const CellEvidence evidence = cell(target, line, row, place, own);
+        sum += evidence.weight;
+        const auto &ways = evidence.ways;
+        hasCommon = hasCommon ||
+                    ways[int(Way::Same)] + ways[int(Way::Change)] + ways[int(Way::Alike)] > 0.5;
+        if (ways[int(Way::Near)] > 0.5)
+            nearest = std::max(nearest, evidence.weight);
+    }
+    // Some number is always near: where nothing is the same, one says nothing.
+    return hasCommon ? sum : sum - nearest;
 }
 
 bool PairEvidence::hasCommonValue(const PlanTarget &target, size_t line, size_t row) const
