@@ -99,7 +99,10 @@ void LinkListDialog::load()
                      " OR LOWER(NBDEFAULTLANG" + like;
     }
     statement += " ORDER BY PRJ_PATH, LINE_ID, PDMID1 LIMIT " + QString::number(MostRows + 1);
-    PLinkDbQueryCacheC rows(m_linkDb->executeSelectStatement(statement));
+    const PRefPtr<PLinkDbQueryI> found = m_linkDb->executeSelectStatement(statement);
+    if (!found->isValid())
+        return m_linkDb->showLastError(); // what was found before stays
+    PLinkDbQueryCacheC rows(found);
     QList<QTreeWidgetItem *> items;
     while (rows.next()) {
         auto *item = new QTreeWidgetItem({rows.value(1).toString(), rows.value(2).toString(),

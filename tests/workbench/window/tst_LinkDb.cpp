@@ -2,6 +2,7 @@
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
+#include <core/message/PScriptedMessageSink.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/linkdb/LinkDbDeletedRows.h>
 #include <geomcore/linkdb/PLinkDbQueryCacheC.h>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void choosesGroup();
     void listsLinks_data() { databases(); }
     void listsLinks();
+    void listTellsALostConnection();
     void handsSelectionOver_data() { databases(); }
     void handsSelectionOver();
     void restoresDeleted_data() { databases(); }
@@ -278,6 +280,32 @@ void tst_LinkDb::listsLinks()
     QTest::mouseClick(dialog->findChild<QPushButton *>("show"), Qt::LeftButton);
     QCOMPARE(fixture.window->editor()->currentPath(), din933);
     QCOMPARE(fixture.window->editor()->currentLine(), 3);
+}
+
+void tst_LinkDb::listTellsALostConnection()
+{
+    const WindowFixture fixture;
+    if (!m_server)
+        m_server = std::make_unique<PostgresServer>();
+    QVERIFY2(m_server->isRunning(), qPrintable(m_server->problem()));
+    setAddress(fixture, m_server->newDatabase());
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->linkDb()->state(), LinkDbHost::Connected, 20'000);
+    addDocument(fixture, "N1", 3);
+    pooled("CallLinkMgr")->trigger();
+    auto *dialog = fixture.window->findChild<LinkListDialog *>();
+    auto *search = dialog->findChild<QLineEdit *>("search");
+    m_server->kill();
+    {
+        const auto sink = std::make_shared<PScriptedMessageSink>();
+        const PMessageSinkScope scope(sink);
+        QTest::keyClick(search, Qt::Key_Return);
+        QCOMPARE(sink->texts().size(), 1);
+        QCOMPARE(texts(dialog->findChild<QTreeWidget *>("links"), 0), QStringList{"N1"});
+    }
+    QVERIFY(m_server->start());
+    QTest::keyClicks(search, "n");
+    QTest::keyClick(search, Qt::Key_Return);
+    QCOMPARE(texts(dialog->findChild<QTreeWidget *>("links"), 0), QStringList{"N1"});
 }
 
 void tst_LinkDb::handsSelectionOver()
