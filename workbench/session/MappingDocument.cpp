@@ -254,7 +254,12 @@ bool MappingDocument::isModified() const
 
 MergeOutcome MappingDocument::mergeFile()
 {
-    return d->mergeFile();
+    return d->mergeFile(nullptr);
+}
+
+MergeOutcome MappingDocument::takeMerged(const VelkRelease::MergeResult &known)
+{
+    return d->mergeFile(&known);
 }
 
 const MergeState &MappingDocument::mergeState() const

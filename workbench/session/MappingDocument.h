@@ -165,6 +165,9 @@ public:
     /// steps made before cannot be undone one by one any more, but all together. The tree is made
     /// anew: releaseReplaced() follows.
     [[nodiscard]] MergeOutcome mergeFile();
+    /// The same of a file into which another merge wrote what it came to: its clashes are those of
+    /// \a known.
+    [[nodiscard]] MergeOutcome takeMerged(const VelkRelease::MergeResult &known);
     /// What the last merge left; empty before.
     [[nodiscard]] const MergeState &mergeState() const;
     /// Decides clashing lines for one side or for neither, in one step.

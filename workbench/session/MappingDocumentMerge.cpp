@@ -21,7 +21,7 @@ bool sameRelease(const ReleaseMappingC &a, const ReleaseMappingC &b)
 
 /// The new beginning of the session is what stands in the file; what is ours on top of it is one
 /// step, so that undoing it leads to the file and never to a state that would overwrite it.
-MergeOutcome MappingDocumentPrivate::mergeFile()
+MergeOutcome MappingDocumentPrivate::mergeFile(const VelkRelease::MergeResult *known)
 {
     finishStep();
     MergeOutcome outcome;
@@ -37,8 +37,12 @@ MergeOutcome MappingDocumentPrivate::mergeFile()
         outcome.text = reading.errorText;
         return outcome;
     }
-    const VelkRelease::MergeResult result =
+    VelkRelease::MergeResult result =
         VelkRelease::mergeReleases(file.loaded(), release(), *reading.release);
+    const ReleaseMappingC merged = result.release;
+    if (known)
+        result = *known;
+    result.release = merged;
     file.setKnown(reading.content.state, *reading.release);
     mergeState = MergeState(result);
     steps.history().clear();

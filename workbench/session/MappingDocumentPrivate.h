@@ -40,7 +40,7 @@ public:
     [[nodiscard]] SaveOutcome save(const SaveOptions &options);
     [[nodiscard]] SaveOutcome saveAs(const QString &path, const SaveOptions &options);
     void autosave();
-    [[nodiscard]] MergeOutcome mergeFile();
+    [[nodiscard]] MergeOutcome mergeFile(const VelkRelease::MergeResult *known);
     void settle(const QList<VelkRelease::MergeClash> &clashes, MergeState::Side side);
     void startAutosave();
 

@@ -3,7 +3,6 @@
 #include "EditorArea.h"
 #include "Question.h"
 
-#include <workbench/review/ConflictDock.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <QTimer>
@@ -26,7 +25,11 @@ ConflictCommands::ConflictCommands(MappingDocument *document, EditorArea *editor
     });
 }
 
-ConflictCommands::~ConflictCommands() = default;
+/// The dock shows the list for as long as it is there.
+ConflictCommands::~ConflictCommands()
+{
+    delete m_dock;
+}
 
 void ConflictCommands::showConflicts()
 {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <workbench/session/ConflictList.h>
+#include <workbench/review/ConflictDock.h>
 
 #include <QObject>
+#include <QPointer>
 
 #include <set>
 
-class ConflictDock;
 class EditorArea;
 class MappingDocument;
 
@@ -48,6 +48,6 @@ private:
     EditorArea *const m_editor;
     QWidget *const m_window;
     ConflictList *const m_list;
-    ConflictDock *const m_dock;
+    const QPointer<ConflictDock> m_dock; ///< the window may delete it first
     std::set<int> m_oneByOne; ///< groups whose lines the user wants to decide singly
 };

@@ -41,6 +41,17 @@ QString FileNames::askForTable(QWidget *parent, const QString &suggested)
     return askForNew(dialog, suggested);
 }
 
+QString FileNames::askShared(QWidget *parent, const QString &former)
+{
+    QFileDialog dialog(parent, tr("Gemeinsame Kopie wählen"), QFileInfo(former).path(), filter());
+    dialog.setObjectName("SharedFileDialog");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // nothing is overwritten
+    dialog.setDefaultSuffix("json");
+    dialog.selectFile(QFileInfo(former).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 QString FileNames::askDirectory(QWidget *parent, const QString &title, const QString &former)
 {
     return QFileDialog::getExistingDirectory(parent, title, former);

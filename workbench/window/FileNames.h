@@ -19,6 +19,8 @@ public:
     [[nodiscard]] static QString askSave(QWidget *parent, const QString &former);
     /// \a suggested is the file's name; ".csv" as above.
     [[nodiscard]] static QString askForTable(QWidget *parent, const QString &suggested);
+    /// A shared copy that is there or is to be made.
+    [[nodiscard]] static QString askShared(QWidget *parent, const QString &former);
     [[nodiscard]] static QString askDirectory(QWidget *parent, const QString &title,
                                               const QString &former);
 };

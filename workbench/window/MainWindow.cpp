@@ -18,6 +18,7 @@
 #include "RemoteCatalogs.h"
 #include "ReviewCommands.h"
 #include "ScriptDesk.h"
+#include "ShareCommands.h"
 #include "StatusArea.h"
 #include "StatusProgress.h"
 #include "WelcomePage.h"
@@ -52,6 +53,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_review(new ReviewCommands(m_desk->document(), m_editor, m_lines, this))
     , m_neighbours(new NeighbourCommands(m_desk->document(), m_editor, this))
     , m_conflicts(new ConflictCommands(m_desk->document(), m_editor, this))
+    , m_share(new ShareCommands(m_desk, m_editor, this))
     , m_states(new LineStateFilter(this))
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
     , m_linkDb(new LinkDbHost(plugin, this))
@@ -109,6 +111,7 @@ MainWindow::~MainWindow()
     delete m_scripts;
     delete m_history;
     delete m_editor;
+    delete m_share;
     delete m_conflicts;
     delete m_review;
     delete m_neighbours;

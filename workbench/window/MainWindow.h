@@ -23,6 +23,7 @@ class RemoteCatalogs;
 class ReviewCommands;
 class ErpNumberColumn;
 class ScriptDesk;
+class ShareCommands;
 class StatusArea;
 class WelcomePage;
 class WorkbenchActions;
@@ -51,6 +52,7 @@ public:
     [[nodiscard]] ReviewCommands *review() const { return m_review; }
     [[nodiscard]] NeighbourCommands *neighbours() const { return m_neighbours; }
     [[nodiscard]] ConflictCommands *conflicts() const { return m_conflicts; }
+    [[nodiscard]] ShareCommands *share() const { return m_share; }
     [[nodiscard]] LogWindow *log() const { return m_log; }
     [[nodiscard]] StatusArea *status() const { return m_status; }
     [[nodiscard]] ScriptDesk *scripts() const { return m_scripts; }
@@ -108,6 +110,7 @@ private:
     ReviewCommands *const m_review;
     NeighbourCommands *const m_neighbours;
     ConflictCommands *const m_conflicts;
+    ShareCommands *const m_share;
     LineStateFilter *const m_states;
     RemoteCatalogs *const m_remote;
     LinkDbHost *const m_linkDb;

@@ -58,7 +58,15 @@ void MainWindow::buildMenus()
     fill(file, m_actions,
          {WorkbenchActions::OpenExample, Separator, WorkbenchActions::Save,
           WorkbenchActions::SaveAs, WorkbenchActions::CatalogRoots, WorkbenchActions::CloseFile,
-          Separator, WorkbenchActions::Quit});
+          Separator});
+    QMenu *const share = file->addMenu(QString());
+    share->setObjectName("shareMenu");
+    share->setToolTipsVisible(true);
+    fill(share, m_actions,
+         {WorkbenchActions::ShareFile, WorkbenchActions::ShareUpdate,
+          WorkbenchActions::SharePublish, WorkbenchActions::ShareFolders,
+          WorkbenchActions::ShareWho});
+    fill(file, m_actions, {Separator, WorkbenchActions::Quit});
     QMenu *const edit = addMenu("editMenu");
     fill(edit, m_actions,
          {WorkbenchActions::Undo, WorkbenchActions::Redo, Separator, WorkbenchActions::ConfirmLines,
@@ -208,6 +216,7 @@ void MainWindow::retranslate()
         findChild<QMenu *>(QLatin1String(name))->setTitle(title);
     };
     setTitle("fileMenu", tr("&Datei"));
+    setTitle("shareMenu", tr("&Teilen"));
     setTitle("recentMenu", tr("&Zuletzt geöffnet"));
     setTitle("editMenu", tr("&Bearbeiten"));
     setTitle("goMenu", tr("&Gehe zu"));

@@ -3,6 +3,7 @@
 #include "MainWindow.h"
 #include "NeighbourCommands.h"
 #include "ReviewCommands.h"
+#include "ShareCommands.h"
 #include "StatusArea.h"
 #include "WorkbenchActions.h"
 
@@ -52,6 +53,15 @@ void MainWindow::connectReview()
     for (int key = 1; key <= 5; ++key)
         connectTo(WorkbenchActions::Command(WorkbenchActions::TakeCandidate1 + key - 1),
                   [this, key] { m_review->takeCandidate(key); });
+    connectTo(WorkbenchActions::ShareFile, [this] { m_share->shareByDialog(); });
+    connectTo(WorkbenchActions::ShareUpdate, [this] { m_share->update(); });
+    connectTo(WorkbenchActions::SharePublish, [this] { m_share->publish(); });
+    connectTo(WorkbenchActions::ShareFolders, [this] { m_share->takeFoldersByDialog(); });
+    connectTo(WorkbenchActions::ShareWho, [this] { m_share->tellWho(); });
+    connect(m_share, &ShareCommands::noted, this,
+            [this](const QString &text) { m_status->showNote(text); });
+    connect(m_share, &ShareCommands::conflictsWanted, m_conflicts,
+            &ConflictCommands::showConflicts);
     connectTo(WorkbenchActions::Conflicts, [this] { m_conflicts->showConflicts(); });
     connectTo(WorkbenchActions::NextConflict, [this] { m_conflicts->goNext(); });
     connectTo(WorkbenchActions::ConflictOurs,
