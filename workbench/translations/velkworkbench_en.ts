@@ -642,6 +642,10 @@ Please choose another file.</translation>
         <source>Tabellen (*.csv);;Alle Dateien (*)</source>
         <translation>Tables (*.csv);;All files (*)</translation>
     </message>
+    <message>
+        <source>Gemeinsame Kopie wählen</source>
+        <translation>Choose the shared copy</translation>
+    </message>
 </context>
 <context>
     <name>GuardedSave</name>
@@ -1492,6 +1496,10 @@ Please choose another file.</translation>
     <message>
         <source>Zu dieser Stelle gibt es keinen Hinweis</source>
         <translation>There is no hint about this place</translation>
+    </message>
+    <message>
+        <source>&amp;Teilen</source>
+        <translation>S&amp;hare</translation>
     </message>
 </context>
 <context>
@@ -2686,6 +2694,157 @@ Line: %2
     </message>
 </context>
 <context>
+    <name>ShareCommands</name>
+    <message>
+        <source>Das Mapping wird mit niemandem geteilt. Zuerst die gemeinsame Kopie wählen.</source>
+        <translation>The mapping is shared with nobody. Choose the shared copy first.</translation>
+    </message>
+    <message>
+        <source>%1 gibt es schon, und es ist ein anderes Mapping. Eine andere Kopie wählen, oder die vorhandene in eine neue Datei holen.</source>
+        <translation>%1 is there already and is another mapping. Choose another copy, or get this one into a new file.</translation>
+    </message>
+    <message>
+        <source>Andere haben seit der letzten Aktualisierung etwas veröffentlicht.</source>
+        <translation>Others have published something since the last update.</translation>
+    </message>
+    <message>
+        <source>Zeilen in Konflikt werden nicht veröffentlicht: %1.</source>
+        <translation>Lines in conflict are not published: %1.</translation>
+    </message>
+    <message>
+        <source>Es gibt Änderungen in Ordnern anderer: %1.</source>
+        <translation>There are changes in folders of others: %1.</translation>
+    </message>
+    <message>
+        <source>Der Ordner ist schon vergeben: %1.</source>
+        <translation>The folder is taken already: %1.</translation>
+    </message>
+    <message>
+        <source>Gerade veröffentlicht jemand anderes (%1). Bitte gleich noch einmal versuchen.</source>
+        <translation>Somebody else publishes at this moment (%1). Please try again in a moment.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Kopie ist nicht erreichbar: %1. Die eigene Datei ist unverändert; später noch einmal versuchen.</source>
+        <translation>The shared copy cannot be reached: %1. Your own file is as it was; try again later.</translation>
+    </message>
+    <message>
+        <source>Eine der Dateien ist kein lesbares Mapping: %1.</source>
+        <translation>One of the files is no readable mapping: %1.</translation>
+    </message>
+    <message>
+        <source>Es konnte nicht geschrieben werden: %1.</source>
+        <translation>It could not be written: %1.</translation>
+    </message>
+    <message>
+        <source>Das ging nicht.</source>
+        <translation>That did not work.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Kopie wird gelesen</source>
+        <translation>Reading the shared copy</translation>
+    </message>
+    <message>
+        <source>Geteilt über %1</source>
+        <translation>Shared by %1</translation>
+    </message>
+    <message>
+        <source>Änderungen der anderen werden geholt</source>
+        <translation>Getting the changes of others</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts Neues</source>
+        <translation>There is nothing new</translation>
+    </message>
+    <message>
+        <source>Die Änderungen werden veröffentlicht</source>
+        <translation>Publishing the changes</translation>
+    </message>
+    <message>
+        <source>Mapping bearbeitet</source>
+        <translation>Mapping edited</translation>
+    </message>
+    <message>
+        <source>Veröffentlicht, Stand %1</source>
+        <translation>Published, revision %1</translation>
+    </message>
+    <message>
+        <source>Zuerst wird das übernommen. Danach kann veröffentlicht werden.</source>
+        <translation>That is merged first. After it you can publish.</translation>
+    </message>
+    <message>
+        <source>A&amp;ktualisieren</source>
+        <translation>&amp;Update</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem veröffentlichen</source>
+        <translation>Publish all the &amp;same</translation>
+    </message>
+    <message>
+        <source>Ordner übernehmen</source>
+        <translation>Take folders over</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
+        <translation>Folders of the catalog, with commas between them; none gives all back:</translation>
+    </message>
+    <message>
+        <source>Über&amp;nehmen</source>
+        <translation>&amp;Take over</translation>
+    </message>
+    <message>
+        <source>Die Ordner werden eingetragen</source>
+        <translation>Entering the folders</translation>
+    </message>
+    <message>
+        <source>Keine eigenen Ordner mehr</source>
+        <translation>No folders of your own any more</translation>
+    </message>
+    <message>
+        <source>Eigene Ordner: %1</source>
+        <translation>Your folders: %1</translation>
+    </message>
+    <message>
+        <source>(hier)</source>
+        <translation>(here)</translation>
+    </message>
+    <message>
+        <source>hat es offen</source>
+        <translation>has it open</translation>
+    </message>
+    <message>
+        <source>hat es nicht offen</source>
+        <translation>does not have it open</translation>
+    </message>
+    <message>
+        <source>zuletzt %1</source>
+        <translation>last %1</translation>
+    </message>
+    <message>
+        <source>Ordner %1</source>
+        <translation>folders %1</translation>
+    </message>
+    <message>
+        <source>Eigener Stand %1, neuester Stand %2</source>
+        <translation>Your revision %1, newest revision %2</translation>
+    </message>
+    <message>
+        <source>Andere haben etwas veröffentlicht.</source>
+        <translation>Others have published something.</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts Neues von anderen.</source>
+        <translation>There is nothing new of others.</translation>
+    </message>
+    <message>
+        <source>Eigene Änderungen sind noch nicht veröffentlicht.</source>
+        <translation>Changes of your own are not published yet.</translation>
+    </message>
+    <message>
+        <source>Gemeinsame Kopie: %1</source>
+        <translation>Shared copy: %1</translation>
+    </message>
+</context>
+<context>
     <name>StatusArea</name>
     <message>
         <source>Alles entschieden</source>
@@ -3358,6 +3517,42 @@ Line: %2
     <message>
         <source>Behebt die gewählte Fundstelle der Nachbarschaft in einem Schritt</source>
         <translation>Mends the chosen finding in one step</translation>
+    </message>
+    <message>
+        <source>&amp;Gemeinsame Kopie...</source>
+        <translation>&amp;Shared copy...</translation>
+    </message>
+    <message>
+        <source>Wählt die Kopie, über die mehrere an diesem Mapping arbeiten</source>
+        <translation>Chooses the copy by which several work on this mapping</translation>
+    </message>
+    <message>
+        <source>Übernimmt, was andere veröffentlicht haben</source>
+        <translation>Merges what others have published</translation>
+    </message>
+    <message>
+        <source>&amp;Veröffentlichen</source>
+        <translation>&amp;Publish</translation>
+    </message>
+    <message>
+        <source>Gibt die eigenen Änderungen an die anderen weiter</source>
+        <translation>Hands your own changes on to the others</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner übernehmen...</source>
+        <translation>Take &amp;folders over...</translation>
+    </message>
+    <message>
+        <source>Sagt den anderen, welche Ordner man selbst bearbeitet</source>
+        <translation>Tells the others which folders you work on</translation>
+    </message>
+    <message>
+        <source>&amp;Wer arbeitet woran</source>
+        <translation>&amp;Who works on what</translation>
+    </message>
+    <message>
+        <source>Zeigt, wer das Mapping offen hat und welche Ordner wem gehören</source>
+        <translation>Shows who has the mapping open and whose which folders are</translation>
     </message>
 </context>
 </TS>
