@@ -1,5 +1,6 @@
 #include "TableMappingWidgetPrivate.h"
 
+#include "LineKeys.h"
 #include "LineLookUp.h"
 #include "lineStatusKeys.h"
 #include "lineToolTips.h"
@@ -14,6 +15,7 @@
 #include <geomcore/table/SignalConnect.h>
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <gui/application/PCommandKeys.h>
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -47,12 +49,29 @@ TableMappingWidgetPrivate::TableMappingWidgetPrivate(TableMappingWidget *widget)
     hiddenBox->setObjectName(QStringLiteral("chkShowHiddenCols"));
     connect(hiddenBox, SIGNAL(toggled(bool)), this, SLOT(onToggleShowHiddenCols()));
     layout->addWidget(hiddenBox);
+    setupKeys();
 }
 
 TableMappingWidgetPrivate::~TableMappingWidgetPrivate()
 {
     if (m_run)
         m_run->forgetTargetView();
+}
+
+void TableMappingWidgetPrivate::setupKeys()
+{
+    const std::pair<QPushButton *, const char *> commands[]{
+        {btnMapLine, "lineConfirm"},
+        {btnRemoveLine, "lineRemove"},
+        {btnRemoveVerifyLine, "lineRemoveConfirm"},
+        {btnResolvedRanges, "lineValueRanges"},
+        {btnCondition, "lineCondition"},
+        {q->findChild<QPushButton *>("btnVerifyAll"), "linesConfirmAll"}};
+    for (const auto &[button, command] : commands) {
+        LineKeys::setCommand(button, QLatin1String(command));
+        connect(&PCommandKeys::instance(), &PCommandKeys::changed, button,
+                [shown = button] { LineKeys::update(shown); });
+    }
 }
 
 TablePane *TableMappingWidgetPrivate::createSourcePane()
@@ -106,19 +125,16 @@ TablePane *TableMappingWidgetPrivate::createTargetPane()
     designationLabels.targetLabel = pane->designationLabel();
     btnMapLine = pane->addButton(
         "btnMapLine", ":/bitmaps/line.png",
-        PString::translate("Aktuell markierte Zeile zuordnen", "VelkLinkDbGui") + " (v)",
-        QKeySequence(Qt::Key_V));
+        PString::translate("Aktuell markierte Zeile zuordnen", "VelkLinkDbGui") + " (v)");
     connect(btnMapLine, SIGNAL(clicked()), this, SLOT(onMapLineClicked()));
     btnRemoveLine = pane->addButton(
         "btnRemoveLine", "bitmaps:indextree/state_deleted.png",
-        PString::translate("Zuordnung zu diesem Projekt aufheben", "VelkLinkDbGui") + " (x)",
-        QKeySequence(Qt::Key_X));
+        PString::translate("Zuordnung zu diesem Projekt aufheben", "VelkLinkDbGui") + " (x)");
     connect(btnRemoveLine, SIGNAL(clicked()), this, SLOT(onRemoveLineMappingClicked()));
     btnRemoveVerifyLine = pane->addButton(
         "btnRemoveVerifyLine", ":/bitmaps/remove_verify.png",
         PString::translate("Zuordnung zu diesem Projekt aufheben und bestätigen (STRG + x)",
-                           "VelkLinkDbGui"),
-        QKeySequence(Qt::CTRL | Qt::Key_X));
+                           "VelkLinkDbGui"));
     connect(btnRemoveVerifyLine, SIGNAL(clicked()), this, SLOT(onRemoveVerifyLineMappingClicked()));
     chkFilterTarget = pane->addBox(
         "chkFilterTarget",

@@ -136,6 +136,7 @@ public:
 private:
     // Set-up
     [[nodiscard]] TablePane *createSourcePane();
+    void setupKeys();
     [[nodiscard]] TablePane *createTargetPane();
     void connectSourceTable();
     void connectTargetTable(const VKTab::ContentRef &table);

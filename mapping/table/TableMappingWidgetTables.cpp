@@ -1,5 +1,6 @@
 #include "TableMappingWidgetPrivate.h"
 
+#include "LineKeys.h"
 #include "LineLookUp.h"
 #include "lineToolTips.h"
 #include "TablePane.h"
@@ -286,8 +287,7 @@ void TableMappingWidgetPrivate::showMapButton(const PrjMapperLineC &line,
                        QString::number(sourceLine.value(0)),
                        QString::number(targetView->getTable().getSelection().value(0))));
     btnMapLine->setIcon(QIcon(isCurrent ? confirm : assign));
-    btnMapLine->setToolTip(toolTip);
-    btnMapLine->setAccessibleName(toolTip);
+    LineKeys::setToolTip(btnMapLine, toolTip);
     btnMapLine->setEnabled(isFree);
 }
 

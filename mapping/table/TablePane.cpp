@@ -59,14 +59,12 @@ QHBoxLayout *TablePane::createRow(const QString &caption, QLabel *label)
     return row;
 }
 
-QPushButton *TablePane::addButton(const char *name, const QString &icon, const QString &toolTip,
-                                  const QKeySequence &keys)
+QPushButton *TablePane::addButton(const char *name, const QString &icon, const QString &toolTip)
 {
     auto *const button = new LineActionButton(QIcon(icon), QString(), this);
     button->setObjectName(QLatin1String(name));
     button->setToolTip(toolTip);
     button->setAccessibleName(toolTip);
-    button->setShortcut(keys);
     button->setFocusPolicy(Qt::TabFocus); // after a click the arrow keys still walk the lines
     m_numberRow->addWidget(button);
     return button;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QKeySequence>
 #include <QString>
 #include <QWidget>
 
@@ -36,8 +35,7 @@ public:
 
     /// Shows a picture only, behind the buttons that are there already. Its shortcut acts at once,
     /// and a click leaves the focus where it is.
-    QPushButton *addButton(const char *name, const QString &icon, const QString &toolTip,
-                           const QKeySequence &keys = {});
+    QPushButton *addButton(const char *name, const QString &icon, const QString &toolTip);
     QCheckBox *addBox(const char *name, const QString &text);
 
     void showPath(const QString &path);

@@ -170,6 +170,16 @@
     </message>
 </context>
 <context>
+    <name>LocatorDialog</name>
+    <message numerus="yes">
+        <source>%n Treffer</source>
+        <translation>
+            <numerusform>%n Treffer</numerusform>
+            <numerusform>%n Treffer</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MappingDocument</name>
     <message numerus="yes">
         <source>%n Konflikt(e): eigene Entscheidung</source>

@@ -5,10 +5,12 @@
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "HistoryCommands.h"
+#include "KeyedActions.h"
 #include "LineCommands.h"
 #include "LineStateFilter.h"
 #include "LinkDbCommands.h"
 #include "LinkDbHost.h"
+#include "LocatorDesk.h"
 #include "LogWindow.h"
 #include "NeighbourCommands.h"
 #include "PartView.h"
@@ -31,6 +33,7 @@
 #include <geomcore/erp/LinkDbErpNumbers.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <gui/application/PApplication.h>
+#include <gui/application/PCommandKeys.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <workbench/script/ScriptConsole.h>
 
@@ -44,6 +47,7 @@
 MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     : m_settings(settings)
     , m_actions(new WorkbenchActions(this))
+    , m_keyed(new KeyedActions(this))
     , m_log(new LogWindow(this))
     , m_status(new StatusArea(this))
     , m_editor(new EditorArea(this))
@@ -60,6 +64,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_linkDbCommands(new LinkDbCommands(m_linkDb, m_editor, m_desk, this))
     , m_scripts(new ScriptDesk(this, settings))
     , m_erpNumbers(new ErpNumberColumn(std::make_shared<LinkDbErpNumbers>(), this))
+    , m_locator(new LocatorDesk(this, settings))
     , m_pages(new QStackedWidget(this))
     , m_counterTimer(new QTimer(this))
     , m_language(settings->values().language)
@@ -89,6 +94,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     pluginBar->setObjectName("pluginToolBar");
     m_pluginActions =
         new PluginActions(plugin, {m_editor, m_linkDb, m_linkDbCommands}, pluginBar, this);
+    collectCommands();
     connectCommands();
     connectParts();
     connectReview();
@@ -108,6 +114,7 @@ MainWindow::~MainWindow()
     // The editor's handler speaks to the document, and both to the log window.
     IndexTreeC::instance()->setErpSource({});
     delete m_erpNumbers;
+    delete m_locator;
     delete m_scripts;
     delete m_history;
     delete m_editor;
@@ -246,7 +253,7 @@ void MainWindow::onLineKindsChanged()
     m_editor->setLineKinds(kinds);
     if (!kinds || m_editor->shownLines().size() > 0)
         return;
-    const QString next = m_settings->values().nextLine.toString(QKeySequence::NativeText);
+    const QString next = PCommandKeys::instance().keyText(QStringLiteral("goNext"));
     m_status->showNote(tr("Hier ist keine solche Zeile. %1 geht zur nächsten.").arg(next));
 }
 
@@ -308,7 +315,7 @@ void MainWindow::updateUndo()
 void MainWindow::applySettings()
 {
     const WorkbenchSettings::Values &values = m_settings->values();
-    m_actions->setKeys(values.nextLine, values.previousLine);
+    PCommandKeys::instance().setChoice(values.keys);
     m_lines->setGoesOn(values.goesOn);
     ApplicationTheme::setColours(values.theme);
     ApplicationTheme::setFontPercent(values.fontPercent);

@@ -9,11 +9,14 @@
 class ConflictCommands;
 class DocumentDesk;
 class EditorArea;
+class ErpNumberColumn;
+class KeyedActions;
 class HistoryCommands;
 class LineCommands;
 class LineStateFilter;
 class LinkDbCommands;
 class LinkDbHost;
+class LocatorDesk;
 class LogWindow;
 class NeighbourCommands;
 class PLinkDbGuiI;
@@ -21,7 +24,6 @@ class PluginActions;
 class PMessageSinkScope;
 class RemoteCatalogs;
 class ReviewCommands;
-class ErpNumberColumn;
 class ScriptDesk;
 class ShareCommands;
 class StatusArea;
@@ -57,6 +59,7 @@ public:
     [[nodiscard]] StatusArea *status() const { return m_status; }
     [[nodiscard]] ScriptDesk *scripts() const { return m_scripts; }
     [[nodiscard]] WorkbenchActions *commands() const { return m_actions; }
+    [[nodiscard]] KeyedActions *keyedActions() const { return m_keyed; }
     [[nodiscard]] LinkDbHost *linkDb() const { return m_linkDb; }
 
     /// Shows it, as large as the screen if it is larger than that.
@@ -73,6 +76,7 @@ protected:
 private:
     void buildMenus();
     void buildToolBars();
+    void collectCommands();
     void connectCommands();
     void connectParts();
     void addReview();
@@ -91,7 +95,9 @@ private:
     void updateUndo();
     void updateRecentFiles();
     void applySettings();
-    void editSettings();
+    /// The keys go to a field of the dialog, unless its name is empty.
+    void editSettings(const QString &field = {});
+    void editKeys();
     void assignAll();
     void checkValueRanges();
     void showTargetProject(const QString &targetPath);
@@ -101,6 +107,7 @@ private:
 
     WorkbenchSettings *const m_settings;
     WorkbenchActions *const m_actions;
+    KeyedActions *const m_keyed;
     LogWindow *const m_log;
     StatusArea *const m_status;
     EditorArea *const m_editor;
@@ -117,6 +124,7 @@ private:
     LinkDbCommands *const m_linkDbCommands;
     ScriptDesk *const m_scripts;
     ErpNumberColumn *const m_erpNumbers;
+    LocatorDesk *const m_locator;
     QStackedWidget *const m_pages;
     WelcomePage *m_welcome = nullptr;
     PluginActions *m_pluginActions = nullptr;

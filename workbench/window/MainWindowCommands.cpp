@@ -2,6 +2,8 @@
 
 #include "DocumentDesk.h"
 #include "EditorArea.h"
+#include "KeyedActions.h"
+#include "KeysDialog.h"
 #include "LogWindow.h"
 #include "MappingMaker.h"
 #include "PartView.h"
@@ -15,6 +17,7 @@
 #include <core/message/PMessage.h>
 #include <core/text/PPathName.h>
 #include <core/Version.h>
+#include <gui/application/PCommandKeys.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/OpenLines.h>
@@ -55,7 +58,8 @@ void MainWindow::startTour()
     const auto pane = [this](Pane which) {
         return m_editor->isOpen() ? m_editor->editor()->pane(which) : nullptr;
     };
-    const QString next = m_settings->values().nextLine.toString(QKeySequence::NativeText);
+    const PCommandKeys &keys = PCommandKeys::instance();
+    const QString next = keys.keyText("goNext");
     new TourOverlay(
         {
             {pane(Pane::Tree), tr("Der Katalog"),
@@ -66,10 +70,11 @@ void MainWindow::startTour()
              tr("Hier stehen die Projekte des neuen Stands, die Zeilen übernehmen können, mit "
                 "Bedingungen und Variablenzuordnungen.")},
             {pane(Pane::Lines), tr("Die Zeilen"),
-             tr("Links die alte Tabelle, rechts die neue. V bestätigt die Zuordnung oder ordnet "
-                "die "
-                "rechts gewählte Zeile zu, X hebt auf, Strg+X bestätigt, dass die Zeile "
-                "ausgelaufen ist.")},
+             tr("Links die alte Tabelle, rechts die neue. %1 bestätigt die Zuordnung oder ordnet "
+                "die rechts gewählte Zeile zu, %2 hebt auf, %3 bestätigt, dass die Zeile "
+                "ausgelaufen ist.")
+                 .arg(keys.keyText("lineConfirm"), keys.keyText("lineRemove"),
+                      keys.keyText("lineRemoveConfirm"))},
             {m_status, tr("Was noch offen ist"),
              tr("Der Zähler sagt, wie viele Zeilen eine Entscheidung brauchen. %1 geht zur "
                 "nächsten, auch im nächsten Projekt.")
@@ -82,22 +87,23 @@ void MainWindow::startTour()
         this);
 }
 
-void MainWindow::editSettings()
+void MainWindow::editSettings(const QString &field)
 {
-    QList<QKeySequence> taken;
-    const auto actions = m_actions->findChildren<QAction *>(Qt::FindDirectChildrenOnly);
-    for (const QAction *action : actions) {
-        if (action != m_actions->action(WorkbenchActions::NextOpen) &&
-            action != m_actions->action(WorkbenchActions::PreviousOpen))
-            taken += action->shortcuts();
-    }
-    // Of the editor's buttons and tables.
-    for (const char *key : {"V", "X", "Ctrl+X", "F3", "Shift+F3", "Ctrl+C", "Ctrl+F",
-                            "Ctrl+Shift+F", "Ctrl++", "Ctrl+-", "Ctrl+0"})
-        taken << QKeySequence(QLatin1String(key));
-    SettingsDialog dialog(m_settings->values(), taken, m_settings->linkDbFile(), this);
+    SettingsDialog dialog(m_settings->values(), m_settings->linkDbFile(), this);
+    dialog.focusField(field);
     if (dialog.exec() == QDialog::Accepted)
         m_settings->setValues(dialog.values());
+}
+
+void MainWindow::editKeys()
+{
+    KeysDialog dialog(
+        m_settings->values().keys, [this](const QString &id) { return m_keyed->nameOf(id); }, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    WorkbenchSettings::Values values = m_settings->values();
+    values.keys = dialog.choice();
+    m_settings->setValues(values);
 }
 
 void MainWindow::assignAll()

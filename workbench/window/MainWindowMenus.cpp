@@ -4,9 +4,11 @@
 #include "EditorArea.h"
 #include "FocusHelp.h"
 #include "HistoryCommands.h"
+#include "KeyedActions.h"
 #include "LineCommands.h"
 #include "LineStateFilter.h"
 #include "LinkDbCommands.h"
+#include "LocatorDesk.h"
 #include "LogWindow.h"
 #include "PluginActions.h"
 #include "RemoteCatalogs.h"
@@ -75,10 +77,11 @@ void MainWindow::buildMenus()
           WorkbenchActions::CheckValueRanges});
     edit->addActions({m_history->reasonAction(), m_linkDbCommands->proofAction()});
     fill(edit, m_actions,
-         {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings});
+         {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings,
+          WorkbenchActions::ShowKeys});
     fill(addMenu("goMenu"), m_actions,
          {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine,
-          WorkbenchActions::OtherTable});
+          WorkbenchActions::OtherTable, Separator, WorkbenchActions::Locate});
     fill(addMenu("reviewMenu"), m_actions,
          {WorkbenchActions::ReviewPatterns,
           WorkbenchActions::ReviewDifferences,
@@ -121,7 +124,8 @@ void MainWindow::buildMenus()
     view->addAction(m_log->toggleViewAction());
     view->addAction(m_scripts->console()->toggleViewAction());
     fill(addMenu("helpMenu"), m_actions,
-         {WorkbenchActions::ShowTour, WorkbenchActions::ShowReason, WorkbenchActions::About});
+         {WorkbenchActions::ShowKeys, WorkbenchActions::ShowTour, WorkbenchActions::ShowReason,
+          WorkbenchActions::About});
 }
 
 void MainWindow::buildToolBars()
@@ -142,6 +146,22 @@ void MainWindow::buildToolBars()
     QToolBar *const states = addToolBar(QString());
     states->setObjectName("statesToolBar");
     m_states->fill(states);
+}
+
+/// Whatever can be done by an action can have a key and is found by the locator.
+void MainWindow::collectCommands()
+{
+    QAction *const showLog = m_log->toggleViewAction();
+    QAction *const showConsole = m_scripts->console()->toggleViewAction();
+    showLog->setObjectName("viewLog");
+    showConsole->setObjectName("viewScriptConsole");
+    QList<QAction *> actions;
+    for (int i = 0; i < WorkbenchActions::CommandCount; ++i)
+        actions << m_actions->action(WorkbenchActions::Command(i));
+    actions << m_linkDbCommands->proofAction() << m_states->actions() << showLog << showConsole
+            << m_pluginActions->actions();
+    m_keyed->add(actions);
+    connect(m_keyed, &KeyedActions::changed, m_actions, &WorkbenchActions::retranslate);
 }
 
 void MainWindow::connectCommands()
@@ -172,6 +192,9 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::CheckValueRanges, [this] { checkValueRanges(); });
     connectTo(WorkbenchActions::EditScript, [this] { m_scripts->showEditor(); });
     connectTo(WorkbenchActions::Settings, [this] { editSettings(); });
+    connectTo(WorkbenchActions::ShowKeys, [this] { editKeys(); });
+    connectTo(WorkbenchActions::Locate, [this] { m_locator->open(); });
+    connect(m_locator, &LocatorDesk::settingChosen, this, &MainWindow::editSettings);
     connectTo(WorkbenchActions::NextOpen, [this] { m_lines->goNext(); });
     connectTo(WorkbenchActions::PreviousOpen, [this] { m_lines->goPrevious(); });
     connectTo(WorkbenchActions::JumpToLine, [this] { m_lines->jumpByDialog(); });

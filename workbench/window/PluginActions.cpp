@@ -100,6 +100,15 @@ void PluginActions::connectActions()
         connect(m_editor, &EditorArea::onlyOpenProjectsChanged, action, &QAction::setChecked);
 }
 
+QList<QAction *> PluginActions::actions() const
+{
+    QList<QAction *> actions;
+    actions.reserve(m_sources.size());
+    for (const Source &source : m_sources)
+        actions << source.action;
+    return actions;
+}
+
 void PluginActions::retranslate()
 {
     for (const Source &source : std::as_const(m_sources))

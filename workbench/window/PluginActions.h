@@ -31,6 +31,8 @@ public:
     /// Has the plug-in describe its actions to the pool and puts them into the tool bar.
     PluginActions(PLinkDbGuiI *plugin, const Parts &parts, QToolBar *toolBar, QObject *parent);
 
+    /// In the order of the tool bar.
+    [[nodiscard]] QList<QAction *> actions() const;
     /// After the language changed.
     void retranslate();
     /// After another project or line was selected, or a document opened or closed.

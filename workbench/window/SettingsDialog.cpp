@@ -1,6 +1,6 @@
 #include "SettingsDialog.h"
 
-#include "KeyEditAccess.h"
+#include "KeyedActions.h"
 #include "LinkDbBox.h"
 #include "Question.h"
 #include "RepositoryBox.h"
@@ -11,31 +11,27 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QKeySequenceEdit>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
-                               const QList<QKeySequence> &takenKeys, const QString &linkDbFile,
+SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values, const QString &linkDbFile,
                                QWidget *parent)
     : QDialog(parent)
-    , m_takenKeys(takenKeys)
+    , m_keys(values.keys)
     , m_language(new QComboBox(this))
     , m_theme(new QComboBox(this))
     , m_font(new QSpinBox(this))
     , m_autosave(new QSpinBox(this))
     , m_goesOn(
           new QCheckBox(tr("Nach einer Entscheidung weiter zur nä&chsten offenen Zeile"), this))
-    , m_next(new QKeySequenceEdit(values.nextLine, this))
-    , m_previous(new QKeySequenceEdit(values.previousLine, this))
     , m_repository(new RepositoryBox(values.repository, this))
     , m_linkDb(new LinkDbBox(values.linkDb, linkDbFile, this))
     , m_problem(new QLabel(this))
 {
     setObjectName("SettingsDialog");
-    KeyEditAccess::install();
     setWindowTitle(tr("Einstellungen"));
     m_language->setObjectName("language");
     // A language is called by its own name.
@@ -60,8 +56,6 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     m_autosave->setValue(values.autosaveMinutes);
     m_goesOn->setObjectName("goesOn");
     m_goesOn->setChecked(values.goesOn);
-    m_next->setObjectName("nextLine");
-    m_previous->setObjectName("previousLine");
     m_problem->setObjectName("problem");
     m_problem->setWordWrap(true);
     m_problem->setTextFormat(Qt::PlainText);
@@ -73,8 +67,6 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     form->addRow(tr("Sch&riftgröße:"), m_font);
     form->addRow(tr("Sicherungs&kopie alle:"), m_autosave);
     form->addRow(m_goesOn);
-    form->addRow(tr("Taste für die &nächste offene Zeile:"), m_next);
-    form->addRow(tr("Taste für die &vorige offene Zeile:"), m_previous);
     layout->addLayout(form);
     layout->addWidget(m_repository);
     layout->addWidget(m_linkDb);
@@ -86,8 +78,6 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values,
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_next, &QKeySequenceEdit::keySequenceChanged, this, &SettingsDialog::check);
-    connect(m_previous, &QKeySequenceEdit::keySequenceChanged, this, &SettingsDialog::check);
     connect(m_repository, &RepositoryBox::changed, this, &SettingsDialog::check);
     connect(m_linkDb, &LinkDbBox::changed, this, &SettingsDialog::check);
     check();
@@ -107,23 +97,44 @@ WorkbenchSettings::Values SettingsDialog::values() const
     values.fontPercent = m_font->value();
     values.autosaveMinutes = m_autosave->value();
     values.goesOn = m_goesOn->isChecked();
-    values.nextLine = m_next->keySequence();
-    values.previousLine = m_previous->keySequence();
+    values.keys = m_keys;
     values.repository = m_repository->settings();
     values.linkDb = m_linkDb->address();
     return values;
 }
 
+QList<SettingsDialog::Field> SettingsDialog::fields() const
+{
+    QList<Field> fields;
+    const QList<QLabel *> labels = findChildren<QLabel *>();
+    for (const QLabel *const label : labels) {
+        if (!label->buddy())
+            continue;
+        QString text = KeyedActions::plain(label->text());
+        if (text.endsWith(u':'))
+            text.chop(1);
+        const auto *const box = qobject_cast<const QGroupBox *>(label->parentWidget());
+        fields << Field{label->buddy()->objectName(), text,
+                        box ? KeyedActions::plain(box->title()) : QString()};
+    }
+    for (const QGroupBox *const box :
+         {static_cast<const QGroupBox *>(m_repository), static_cast<const QGroupBox *>(m_linkDb)})
+        fields << Field{box->objectName(), KeyedActions::plain(box->title()), QString()};
+    return fields;
+}
+
+bool SettingsDialog::focusField(const QString &name)
+{
+    auto *const field = findChild<QWidget *>(name);
+    if (!field)
+        return false;
+    QWidget *const box = field->isEnabled() ? nullptr : field->parentWidget();
+    (box ? box : field)->setFocus(Qt::ShortcutFocusReason);
+    return true;
+}
+
 QString SettingsDialog::problem() const
 {
-    const WorkbenchSettings::Values chosen = values();
-    if (!chosen.nextLine.isEmpty() && chosen.nextLine == chosen.previousLine)
-        return tr("Beide Richtungen haben dieselbe Taste.");
-    for (const QKeySequence &key : {chosen.nextLine, chosen.previousLine}) {
-        if (!key.isEmpty() && m_takenKeys.contains(key))
-            return tr("Die Taste %1 ist schon vergeben.")
-                .arg(key.toString(QKeySequence::NativeText));
-    }
     const QString ofRepository = m_repository->problem();
     return ofRepository.isEmpty() ? m_linkDb->problem() : ofRepository;
 }

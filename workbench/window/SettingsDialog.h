@@ -7,7 +7,6 @@
 QT_BEGIN_NAMESPACE
 class QCheckBox;
 class QComboBox;
-class QKeySequenceEdit;
 class QLabel;
 class QPushButton;
 class QSpinBox;
@@ -22,26 +21,35 @@ class SettingsDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// Keys in \a takenKeys belong to other commands and are refused. \a linkDbFile is suggested
-    /// for a link database.
-    SettingsDialog(const WorkbenchSettings::Values &values, const QList<QKeySequence> &takenKeys,
-                   const QString &linkDbFile, QWidget *parent);
+    /// A setting by the name of its field.
+    struct Field
+    {
+        QString name;
+        QString text;  ///< without mark and colon
+        QString group; ///< the box that it is in; empty for none
+    };
+
+    /// \a linkDbFile is suggested for a link database.
+    SettingsDialog(const WorkbenchSettings::Values &values, const QString &linkDbFile,
+                   QWidget *parent);
     ~SettingsDialog() override;
 
     [[nodiscard]] WorkbenchSettings::Values values() const;
+    [[nodiscard]] QList<Field> fields() const;
+    /// The keys go to a field; false if there is none of that name. A box that is off has its title
+    /// for it.
+    bool focusField(const QString &name);
 
 private:
     void check();
     [[nodiscard]] QString problem() const;
 
-    const QList<QKeySequence> m_takenKeys;
+    const PCommandKeys::Choice m_keys; ///< not changed here
     QComboBox *const m_language;
     QComboBox *const m_theme;
     QSpinBox *const m_font;
     QSpinBox *const m_autosave;
     QCheckBox *const m_goesOn;
-    QKeySequenceEdit *const m_next;
-    QKeySequenceEdit *const m_previous;
     RepositoryBox *const m_repository;
     LinkDbBox *const m_linkDb;
     QLabel *const m_problem;

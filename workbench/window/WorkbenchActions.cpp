@@ -110,12 +110,12 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
      QT_TRANSLATE_NOOP(
          "WorkbenchActions",
          "Geht zur nächsten Zeile, die eine Entscheidung braucht, auch im nächsten Projekt"),
-     "", "next", true, false},
+     "F8", "next", true, false},
     {"goPrevious", QT_TRANSLATE_NOOP("WorkbenchActions", "&Vorige offene Zeile"),
      QT_TRANSLATE_NOOP(
          "WorkbenchActions",
          "Geht zur vorigen Zeile, die eine Entscheidung braucht, auch im vorigen Projekt"),
-     "", "previous", true, false},
+     "Shift+F8", "previous", true, false},
     {"goLine", QT_TRANSLATE_NOOP("WorkbenchActions", "&Gehe zu Zeile..."),
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Sucht eine Zeile des Projekts nach Nummer oder Bezeichnung"),
@@ -123,6 +123,10 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
     {"goOtherTable", QT_TRANSLATE_NOOP("WorkbenchActions", "&Andere Tabelle"),
      QT_TRANSLATE_NOOP("WorkbenchActions", "Wechselt zwischen der alten und der neuen Tabelle"),
      "F4", "", true, false},
+    {"goLocate", QT_TRANSLATE_NOOP("WorkbenchActions", "&Finden..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Findet Projekte, Zeilen, Befehle und Einstellungen nach Teilen der Wörter"),
+     "Ctrl+K", "", false, false},
     {"reviewPatterns", QT_TRANSLATE_NOOP("WorkbenchActions", "&Muster der Unterschiede"),
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Zeigt, worin sich die offenen Zeilen von ihren Vorschlägen unterscheiden"),
@@ -221,6 +225,9 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Baut die Anzeige neu auf: Baum, Statistik, Tabellen von der Platte"),
      "F5", "refresh", true, false},
+    {"helpKeys", QT_TRANSLATE_NOOP("WorkbenchActions", "&Tasten..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Zeigt und ändert die Tasten aller Befehle"), "Ctrl+F1",
+     "", false, false},
     {"helpReason", QT_TRANSLATE_NOOP("WorkbenchActions", "&Hinweis zu dieser Stelle"),
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Zeigt den Hinweis dort, wo die Tasten hingehen: in einer Tabelle, warum "
@@ -271,19 +278,6 @@ void WorkbenchActions::setDocumentOpen(bool open, bool readOnly)
             continue;
         m_actions[i]->setEnabled((open || !row.needsDocument) && !(readOnly && row.needsWriting));
     }
-}
-
-void WorkbenchActions::setKeys(const QKeySequence &next, const QKeySequence &previous)
-{
-    // A command gives way to the user's own choice, or the key would do neither.
-    for (int i = 0; i < CommandCount; ++i) {
-        const QKeySequence own =
-            QKeySequence::fromString(commandRows[size_t(i)].shortcut, QKeySequence::PortableText);
-        m_actions[i]->setShortcut(own == next || own == previous ? QKeySequence() : own);
-    }
-    action(NextOpen)->setShortcut(next);
-    action(PreviousOpen)->setShortcut(previous);
-    retranslate();
 }
 
 void WorkbenchActions::setUndoTexts(const QString &undo, const QString &redo)

@@ -4,7 +4,6 @@
 #include <QObject>
 
 class QAction;
-class QKeySequence;
 
 /// The workbench's own commands by name, with texts in the language of the moment. The names are
 /// the actions' object names.
@@ -41,6 +40,7 @@ public:
         PreviousOpen,
         JumpToLine,
         OtherTable,
+        Locate,
         ReviewPatterns,
         ReviewDifferences,
         ConfirmPattern,
@@ -66,6 +66,7 @@ public:
         ConflictTheirs,
         ConflictAnew,
         Refresh,
+        ShowKeys,
         ShowReason,
         ShowTour,
         About,
@@ -77,11 +78,11 @@ public:
     [[nodiscard]] QAction *action(Command command) const { return m_actions[command]; }
     /// Of the document: those that need one open.
     void setDocumentOpen(bool open, bool readOnly);
-    void setKeys(const QKeySequence &next, const QKeySequence &previous);
     /// What undo and redo would do; empty texts disable them.
     void setUndoTexts(const QString &undo, const QString &redo);
 
 public Q_SLOTS:
+    /// After another language or other keys.
     void retranslate();
 
 private:

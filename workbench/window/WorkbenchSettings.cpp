@@ -20,12 +20,6 @@ QString groupOf(const QString &file)
                            QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals));
 }
 
-QKeySequence keyOf(const QVariant &value, const QKeySequence &standard)
-{
-    return value.isValid() ? QKeySequence::fromString(value.toString(), QKeySequence::PortableText)
-                           : standard;
-}
-
 } // namespace
 
 WorkbenchSettings::WorkbenchSettings(const QString &file, QObject *parent)
@@ -48,8 +42,7 @@ void WorkbenchSettings::read()
         std::clamp(m_store.value("Settings/autosaveMinutes", standard.autosaveMinutes).toInt(), 0,
                    MaxAutosaveMinutes);
     m_values.goesOn = m_store.value("Settings/goesOn", standard.goesOn).toBool();
-    m_values.nextLine = keyOf(m_store.value("Settings/keyNextLine"), standard.nextLine);
-    m_values.previousLine = keyOf(m_store.value("Settings/keyPreviousLine"), standard.previousLine);
+    m_values.keys = readKeys();
     m_values.repository = readRepository();
     m_values.linkDb = m_store.value("LinkDb/address").toString();
 }
@@ -70,6 +63,38 @@ RepositorySettings WorkbenchSettings::readRepository() const
     repository.silenceSeconds = number("Repository/silenceSeconds", standard.silenceSeconds, 1,
                                        RepositorySettings::MaxSilenceSeconds);
     return repository;
+}
+
+PCommandKeys::Choice WorkbenchSettings::readKeys()
+{
+    PCommandKeys::Choice keys;
+    m_store.beginGroup("Keys");
+    const QStringList ids = m_store.childKeys();
+    for (const QString &id : ids)
+        keys[id] =
+            QKeySequence::fromString(m_store.value(id).toString(), QKeySequence::PortableText);
+    m_store.endGroup();
+    // Settings of before had keys for these two alone.
+    const std::pair<const char *, std::pair<const char *, const char *>> former[]{
+        {"Settings/keyNextLine", {"goNext", "F8"}},
+        {"Settings/keyPreviousLine", {"goPrevious", "Shift+F8"}}};
+    for (const auto &[name, command] : former) {
+        const QVariant value = m_store.value(name);
+        const QString id = QLatin1String(command.first);
+        if (value.isValid() && !keys.contains(id) &&
+            value.toString() != QLatin1String(command.second))
+            keys[id] = QKeySequence::fromString(value.toString(), QKeySequence::PortableText);
+    }
+    return keys;
+}
+
+void WorkbenchSettings::writeKeys()
+{
+    m_store.remove("Settings/keyNextLine");
+    m_store.remove("Settings/keyPreviousLine");
+    m_store.remove("Keys");
+    for (auto each = m_values.keys.cbegin(); each != m_values.keys.cend(); ++each)
+        m_store.setValue("Keys/" + each.key(), each->toString(QKeySequence::PortableText));
 }
 
 void WorkbenchSettings::setValues(const Values &values)
@@ -99,8 +124,7 @@ void WorkbenchSettings::writeValues()
     m_store.setValue("Settings/fontPercent", m_values.fontPercent);
     m_store.setValue("Settings/autosaveMinutes", m_values.autosaveMinutes);
     m_store.setValue("Settings/goesOn", m_values.goesOn);
-    m_store.setValue("Settings/keyNextLine", m_values.nextLine.toString());
-    m_store.setValue("Settings/keyPreviousLine", m_values.previousLine.toString());
+    writeKeys();
     const RepositorySettings &repository = m_values.repository;
     m_store.setValue("LinkDb/address", m_values.linkDb);
     m_store.setValue("Repository/use", repository.isUsed);

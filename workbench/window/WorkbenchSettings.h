@@ -2,9 +2,9 @@
 
 #include "RepositorySettings.h"
 
+#include <gui/application/PCommandKeys.h>
 #include <workbench/start/EditorLanguages.h>
 
-#include <QKeySequence>
 #include <QObject>
 #include <QSettings>
 #include <QStringList>
@@ -23,8 +23,7 @@ public:
         int fontPercent = 100;   ///< of the desktop's font size
         int autosaveMinutes = 3; ///< 0: never
         bool goesOn = true;      ///< to the next open line after a decision
-        QKeySequence nextLine = QKeySequence(QStringLiteral("F8"));
-        QKeySequence previousLine = QKeySequence(QStringLiteral("Shift+F8"));
+        PCommandKeys::Choice keys; ///< of commands that have other keys than the standard ones
         RepositorySettings repository;
         QString linkDb; ///< address as LinkDbSettings has it; empty: none is used
 
@@ -86,7 +85,9 @@ Q_SIGNALS:
 private:
     void read();
     [[nodiscard]] RepositorySettings readRepository() const;
+    [[nodiscard]] PCommandKeys::Choice readKeys();
     void writeValues();
+    void writeKeys();
 
     QSettings m_store;
     Values m_values;

@@ -4,6 +4,8 @@
 #include "TableGrid.h"
 #include "VkTableModel.h"
 
+#include <gui/application/PCommandKeys.h>
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -118,14 +120,17 @@ bool TableFindBar::eventFilter(QObject *object, QEvent *event)
         (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride))
         return QWidget::eventFilter(object, event);
     const auto *const key = static_cast<QKeyEvent *>(event);
-    const bool isFind =
-        key->key() == Qt::Key_F3 || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    const PCommandKeys &keys = PCommandKeys::instance();
+    const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    const bool isBack = keys.isPressed(QStringLiteral("tableFindPrevious"), *key) ||
+                        (isEnter && key->modifiers().testFlag(Qt::ShiftModifier));
+    const bool isFind = isEnter || isBack || keys.isPressed(QStringLiteral("tableFindNext"), *key);
     if (!isFind && key->key() != Qt::Key_Escape)
         return QWidget::eventFilter(object, event);
     event->accept();
     if (event->type() == QEvent::KeyPress) {
         if (isFind)
-            findAgain(key->modifiers().testFlag(Qt::ShiftModifier));
+            findAgain(isBack);
         else
             close();
     }

@@ -7,16 +7,19 @@
 #include "VkTableModel.h"
 #include "VkTableViewPrivate.h"
 
+#include <gui/application/PCommandKeys.h>
+
 #include <QMenu>
 #include <QPointer>
 
 namespace {
 
-QAction *addRow(QMenu *menu, const char *name, const QString &text, const QKeySequence &keys = {})
+/// \a command is what has the row's key, or nothing.
+QAction *addRow(QMenu *menu, const char *name, const QString &text, const char *command = "")
 {
     QAction *const row = menu->addAction(text);
     row->setObjectName(QLatin1String(name));
-    row->setShortcut(keys);
+    row->setShortcut(PCommandKeys::instance().key(QLatin1String(command)));
     row->setShortcutVisibleInContextMenu(true);
     return row;
 }
@@ -57,14 +60,12 @@ void VkTableViewPrivate::showMenu(VkTableViewBase::PopupArea area, int row, int 
 
 void VkTableViewPrivate::addMenuRows(QMenu *menu, int column)
 {
-    QAction *const copyRow =
-        addRow(menu, "copy", tableText("Kopieren"), QKeySequence(Qt::CTRL | Qt::Key_C));
+    QAction *const copyRow = addRow(menu, "copy", tableText("Kopieren"), "tableCopy");
     copyRow->setEnabled(!selection->selectedRows().isEmpty());
     connect(copyRow, &QAction::triggered, this, [this] { copy(); });
-    connect(addRow(menu, "find", tableText("Suchen ..."), QKeySequence(Qt::CTRL | Qt::Key_F)),
-            &QAction::triggered, this, [this] { findBar->open(); });
-    QAction *const filterRow = addRow(menu, "filter", tableText("Spaltenfilter"),
-                                      QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
+    connect(addRow(menu, "find", tableText("Suchen ..."), "tableFind"), &QAction::triggered, this,
+            [this] { findBar->open(); });
+    QAction *const filterRow = addRow(menu, "filter", tableText("Spaltenfilter"), "tableFilter");
     filterRow->setCheckable(true);
     filterRow->setChecked(filterBar->isVisible());
     connect(filterRow, &QAction::triggered, this, [this](bool shown) { q->showFilterBar(shown); });

@@ -11,6 +11,7 @@
 #include "VkTableModel.h"
 
 #include <geomcore/table/TableData.h>
+#include <gui/application/PCommandKeys.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -21,12 +22,32 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
 
 constexpr double zoomStep = 1.1;
 constexpr int iconSize = 16; // at zoom factor 1
+
+QList<QKeySequence> keysOf(const QStringList &texts)
+{
+    return QKeySequence::listFromString(texts.join(QLatin1String("; ")));
+}
+
+using Place = PCommandKeys::Place;
+
+// On some keyboards plus needs the shift key, on others it stands on the key of the equals sign.
+const DeclaredCommands tableCommands(
+    {{"tableFind", Place::Table, keysOf({"Ctrl+F"})},
+     {"tableFindNext", Place::Table, keysOf({"F3"})},
+     {"tableFindPrevious", Place::Table, keysOf({"Shift+F3"})},
+     {"tableFilter", Place::Table, keysOf({"Ctrl+Shift+F"})},
+     {"tableCopy", Place::Table, keysOf({"Ctrl+C"})},
+     {"tableLarger", Place::Table, keysOf({"Ctrl++", "Ctrl+=", "Ctrl+Shift++", "Ctrl+Shift+="})},
+     {"tableSmaller", Place::Table, keysOf({"Ctrl+-", "Ctrl+Shift+-"})},
+     {"tableNormalSize", Place::Table, keysOf({"Ctrl+0", "Ctrl+Shift+0"})}});
 
 } // namespace
 
@@ -208,26 +229,23 @@ bool VkTableViewPrivate::eventFilter(QObject *object, QEvent *event)
 
 VkTableViewPrivate::Command VkTableViewPrivate::commandOf(const QKeyEvent &event) const
 {
-    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    const int key = event.key();
-    if (key == Qt::Key_F3 && modifiers == Qt::NoModifier)
-        return Command::FindNext;
-    if (key == Qt::Key_F3 && modifiers == Qt::ShiftModifier)
-        return Command::FindPrevious;
-    if (key == Qt::Key_Escape && findBar->isVisible())
+    static const std::array<std::pair<QLatin1String, Command>, 8> commands{{
+        {QLatin1String("tableFind"), Command::Find},
+        {QLatin1String("tableFindNext"), Command::FindNext},
+        {QLatin1String("tableFindPrevious"), Command::FindPrevious},
+        {QLatin1String("tableFilter"), Command::Filter},
+        {QLatin1String("tableCopy"), Command::Copy},
+        {QLatin1String("tableLarger"), Command::Larger},
+        {QLatin1String("tableSmaller"), Command::Smaller},
+        {QLatin1String("tableNormalSize"), Command::Normal},
+    }};
+    if (event.key() == Qt::Key_Escape && !event.modifiers() && findBar->isVisible())
         return Command::Close;
-    if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier))
-        return Command::None;
-    const bool isShift = modifiers.testFlag(Qt::ShiftModifier);
-    if (key == Qt::Key_F)
-        return isShift ? Command::Filter : Command::Find;
-    if (key == Qt::Key_C && !isShift)
-        return Command::Copy;
-    if (key == Qt::Key_Plus || key == Qt::Key_Equal)
-        return Command::Larger;
-    if (key == Qt::Key_Minus)
-        return Command::Smaller;
-    return key == Qt::Key_0 ? Command::Normal : Command::None;
+    const PCommandKeys &keys = PCommandKeys::instance();
+    const auto pressed = std::find_if(commands.begin(), commands.end(), [&](const auto &each) {
+        return keys.isPressed(each.first, event);
+    });
+    return pressed == commands.end() ? Command::None : pressed->second;
 }
 
 void VkTableViewPrivate::run(Command command)

@@ -131,7 +131,7 @@ void tst_LinkDb::settingsOfTheBox()
 void tst_LinkDb::settingsAreKept()
 {
     const WindowFixture fixture;
-    SettingsDialog dialog(fixture.settings->values(), {}, fixture.settings->linkDbFile(), nullptr);
+    SettingsDialog dialog(fixture.settings->values(), fixture.settings->linkDbFile(), nullptr);
     auto *box = dialog.findChild<LinkDbBox *>("linkDb");
     QCOMPARE(dialog.values().linkDb, "");
     box->setChecked(true);

@@ -388,7 +388,7 @@ private Q_SLOTS:
         WindowFixture fixture;
         fixture.open(fixture.mappingFile());
         WorkbenchSettings::Values values = fixture.settings->values();
-        values.nextLine = QKeySequence("F7");
+        values.keys["goNext"] = QKeySequence("F7");
         fixture.settings->setValues(values);
         QCOMPARE(fixture.action("goNext")->shortcut(), QKeySequence("F7"));
         QVERIFY(fixture.action("goNext")->toolTip().endsWith("(F7)"));
@@ -396,7 +396,7 @@ private Q_SLOTS:
         QVERIFY(fixture.window->editor()->currentLine() >= 0);
         // The command that had the key before gets it back.
         QVERIFY(fixture.action("reviewPatterns")->shortcut().isEmpty());
-        values.nextLine = QKeySequence("F8");
+        values.keys.clear();
         fixture.settings->setValues(values);
         QCOMPARE(fixture.action("reviewPatterns")->shortcut(), QKeySequence("F7"));
     }

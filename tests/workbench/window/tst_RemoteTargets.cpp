@@ -212,7 +212,7 @@ void tst_RemoteTargets::serversAreChecked()
 {
     QFETCH(QString, text);
     QFETCH(bool, isUsed);
-    SettingsDialog dialog(m_fixture->settings->values(), {}, QString(), nullptr);
+    SettingsDialog dialog(m_fixture->settings->values(), QString(), nullptr);
     dialog.show();
     auto *box = dialog.findChild<RepositoryBox *>("repository");
     auto *servers = dialog.findChild<QPlainTextEdit *>("repositoryServers");
@@ -235,7 +235,7 @@ void tst_RemoteTargets::settingsAreKept()
     const WorkbenchSettings kept(file);
     QCOMPARE(kept.values(), values);
     QCOMPARE(kept.repositoryCache(), m_fixture->directory.filePath("repository"));
-    SettingsDialog dialog(values, {}, QString(), nullptr);
+    SettingsDialog dialog(values, QString(), nullptr);
     QCOMPARE(dialog.values().repository, values.repository);
     const QHash<QString, QString> expected{{"a", "svn://h"}, {"b", "svn://i"}};
     QCOMPARE(values.repository.serversByCatalog(), expected);

@@ -2,8 +2,7 @@
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <QComboBox>
-#include <QKeySequenceEdit>
-#include <QLabel>
+#include <QGroupBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -20,8 +19,7 @@ private Q_SLOTS:
         const WorkbenchSettings settings(m_directory.filePath("standard.ini"));
         QCOMPARE(settings.values(), WorkbenchSettings::Values());
         QCOMPARE(settings.values().language, EditorLanguages::firstOn());
-        QCOMPARE(settings.values().nextLine, QKeySequence("F8"));
-        QCOMPARE(settings.values().previousLine, QKeySequence("Shift+F8"));
+        QVERIFY(settings.values().keys.isEmpty());
         QCOMPARE(settings.values().autosaveMinutes, 3);
         QVERIFY(settings.recentFiles().isEmpty());
         QVERIFY(!settings.flag("started"));
@@ -35,8 +33,8 @@ private Q_SLOTS:
         values.theme = "dark";
         values.fontPercent = 125;
         values.autosaveMinutes = 0;
-        values.nextLine = QKeySequence("Ctrl+Down");
-        values.previousLine = QKeySequence();
+        values.keys["goNext"] = QKeySequence("Ctrl+Down");
+        values.keys["lineConfirm"] = QKeySequence();
         {
             WorkbenchSettings settings(file);
             const QSignalSpy changed(&settings, &WorkbenchSettings::valuesChanged);
@@ -46,6 +44,26 @@ private Q_SLOTS:
             QCOMPARE(changed.size(), 1);
         }
         QCOMPARE(WorkbenchSettings(file).values(), values);
+        values.keys.remove("lineConfirm");
+        WorkbenchSettings(file).setValues(values);
+        QCOMPARE(WorkbenchSettings(file).values(), values);
+    }
+
+    void takesOverFormerKeys()
+    {
+        const QString file = m_directory.filePath("former.ini");
+        {
+            QSettings store(file, QSettings::IniFormat);
+            store.setValue("Settings/keyNextLine", "F9");
+            store.setValue("Settings/keyPreviousLine", "Shift+F8");
+        }
+        WorkbenchSettings settings(file);
+        const PCommandKeys::Choice keys{{"goNext", QKeySequence("F9")}};
+        QCOMPARE(settings.values().keys, keys);
+        WorkbenchSettings::Values values = settings.values();
+        values.keys.clear();
+        settings.setValues(values);
+        QVERIFY(WorkbenchSettings(file).values().keys.isEmpty());
     }
 
     void forgetsValuesForNow()
@@ -103,7 +121,7 @@ private Q_SLOTS:
     void dialogGivesWhatWasEntered()
     {
         WorkbenchSettings::Values values;
-        SettingsDialog dialog(values, {}, QString(), nullptr);
+        SettingsDialog dialog(values, QString(), nullptr);
         QCOMPARE(dialog.values(), values);
         dialog.findChild<QComboBox *>("language")->setCurrentText("English");
         dialog.findChild<QComboBox *>("theme")->setCurrentText("Dunkel");
@@ -111,49 +129,41 @@ private Q_SLOTS:
         dialog.findChild<QSpinBox *>("autosave")->setValue(0);
         QCOMPARE(dialog.findChild<QSpinBox *>("autosave")->text(), QStringLiteral("nie"));
         dialog.show();
-        auto *next = dialog.findChild<QKeySequenceEdit *>("nextLine");
-        next->clear();
-        QTest::keyClick(next, Qt::Key_F9);
         values.language = "en";
         values.theme = "dark";
         values.fontPercent = 150;
         values.autosaveMinutes = 0;
-        values.nextLine = QKeySequence("F9");
-        QTRY_COMPARE(dialog.values(), values);
+        QCOMPARE(dialog.values(), values);
     }
 
-    void dialogRefusesKeysOfOthers_data()
+    void dialogTellsItsFields()
     {
-        QTest::addColumn<QString>("next");
-        QTest::addColumn<QString>("previous");
-        QTest::addColumn<QString>("problem");
-        QTest::newRow("free") << "F9"
-                              << "Shift+F9"
-                              << "";
-        QTest::newRow("none") << ""
-                              << ""
-                              << "";
-        QTest::newRow("both the same") << "F9"
-                                       << "F9"
-                                       << "Beide Richtungen haben dieselbe Taste.";
-        QTest::newRow("taken") << "Ctrl+S"
-                               << "F9"
-                               << "Die Taste Ctrl+S ist schon vergeben.";
-        QTest::newRow("taken, other way") << "F9"
-                                          << "V"
-                                          << "Die Taste V ist schon vergeben.";
-    }
-    void dialogRefusesKeysOfOthers()
-    {
-        QFETCH(QString, next);
-        QFETCH(QString, previous);
-        QFETCH(QString, problem);
-        SettingsDialog dialog({}, {QKeySequence("Ctrl+S"), QKeySequence("V")}, QString(), nullptr);
-        dialog.findChild<QKeySequenceEdit *>("nextLine")->setKeySequence(QKeySequence(next));
-        dialog.findChild<QKeySequenceEdit *>("previousLine")
-            ->setKeySequence(QKeySequence(previous));
-        QCOMPARE(dialog.findChild<QLabel *>("problem")->text(), problem);
-        QCOMPARE(dialog.findChild<QPushButton *>("ok")->isEnabled(), problem.isEmpty());
+        WorkbenchSettings::Values values;
+        values.keys["goNext"] = QKeySequence("F9");
+        SettingsDialog dialog(values, QString(), nullptr);
+        QCOMPARE(dialog.values(), values);
+        QStringList names;
+        const QList<SettingsDialog::Field> fields = dialog.fields();
+        for (const SettingsDialog::Field &field : fields) {
+            QVERIFY2(dialog.findChild<QWidget *>(field.name), qPrintable(field.text));
+            QVERIFY2(!field.text.contains(u'&') && !field.text.endsWith(u':'),
+                     qPrintable(field.text));
+            names << field.name + '=' + field.text + '=' + field.group;
+        }
+        QVERIFY(names.contains("language=Sprache="));
+        QVERIFY(names.contains("linkDbHost=Rechner=Linkdatenbank verwenden"));
+        QVERIFY(names.contains("linkDb=Linkdatenbank verwenden="));
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(dialog.focusField("autosave"));
+        QVERIFY(dialog.findChild<QSpinBox *>("autosave")->hasFocus());
+        // Its box is off.
+        QVERIFY(dialog.focusField("repositoryCache"));
+        QVERIFY(dialog.findChild<QGroupBox *>("repository")->hasFocus());
+        QVERIFY(!dialog.focusField("none"));
+        dialog.findChild<QGroupBox *>("repository")->setChecked(true);
+        QVERIFY(dialog.focusField("repositoryCache"));
+        QVERIFY(dialog.findChild<QSpinBox *>("repositoryCache")->hasFocus());
     }
 
 private:

@@ -1,0 +1,122 @@
+#include "LocatorDesk.h"
+
+#include "DocumentDesk.h"
+#include "EditorArea.h"
+#include "KeyedActions.h"
+#include "MainWindow.h"
+#include "SettingsDialog.h"
+#include "StatusArea.h"
+#include "WorkbenchSettings.h"
+
+#include <gui/application/PCommandKeys.h>
+#include <workbench/locator/LocatorDialog.h>
+#include <workbench/locator/LocatorSearch.h>
+#include <workbench/session/MappingDocument.h>
+
+#include <QAction>
+
+namespace {
+
+/// Of a larger table lines are found by their numbers alone: reading all designations would be
+/// felt.
+constexpr int MostDesignations = 20000;
+
+} // namespace
+
+LocatorDesk::LocatorDesk(MainWindow *window, WorkbenchSettings *settings)
+    : QObject(window)
+    , m_window(window)
+    , m_settings(settings)
+    , m_search(new LocatorSearch(this))
+{
+}
+
+LocatorDesk::~LocatorDesk() = default;
+
+void LocatorDesk::open()
+{
+    m_search->setRelease(m_window->desk()->document()->isOpen()
+                             ? m_window->desk()->document()->release()
+                             : ReleaseMappingC());
+    m_search->setItems(lines() + commands() + settings());
+    auto *const dialog = new LocatorDialog(m_search, m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    // Whatever it leads to may open dialogs of its own.
+    connect(dialog, &LocatorDialog::chosen, this, &LocatorDesk::goTo, Qt::QueuedConnection);
+    dialog->open();
+}
+
+QList<LocatorItem> LocatorDesk::commands() const
+{
+    QList<LocatorItem> items;
+    const QList<QAction *> &actions = m_window->keyedActions()->actions();
+    for (const QAction *const action : actions) {
+        if (action->isVisible())
+            items << LocatorItem{.kind = LocatorItem::Command,
+                                 .title = KeyedActions::plain(action->text()),
+                                 .detail = action->shortcut().toString(QKeySequence::NativeText),
+                                 .id = action->objectName(),
+                                 .isEnabled = action->isEnabled()};
+    }
+    return items;
+}
+
+QList<LocatorItem> LocatorDesk::settings() const
+{
+    QList<LocatorItem> items;
+    const SettingsDialog dialog(m_settings->values(), m_settings->linkDbFile(), nullptr);
+    const QList<SettingsDialog::Field> fields = dialog.fields();
+    for (const SettingsDialog::Field &field : fields)
+        items << LocatorItem{.kind = LocatorItem::Setting,
+                             .title = field.text,
+                             .detail = field.group,
+                             .id = field.name};
+    return items;
+}
+
+QList<LocatorItem> LocatorDesk::lines() const
+{
+    QList<LocatorItem> items;
+    const VKTab::ContentRef table = m_window->editor()->sourceTable();
+    if (!table.isValid())
+        return items;
+    const ProjectId project = m_window->editor()->currentProject();
+    const QList<VKTab::LineId> ids = table.getLineIdList();
+    const bool withNames = ids.size() <= MostDesignations;
+    items.reserve(ids.size());
+    for (const VKTab::LineId &id : ids) {
+        const QString name =
+            withNames
+                ? table.getLine(id, false).getValue(VKTab::LineI::NormDesignation, {}).toString()
+                : QString();
+        items << LocatorItem{.kind = LocatorItem::Line,
+                             .title = (QString::number(id.value(0)) + u' ' + name).trimmed(),
+                             .detail = project.path,
+                             .line = {project, id.value(0)}};
+    }
+    return items;
+}
+
+void LocatorDesk::goTo(const LocatorItem &item)
+{
+    switch (item.kind) {
+    case LocatorItem::Line:
+        if (!m_window->editor()->goTo(item.line))
+            m_window->status()->showNote(
+                tr("Die Zeile %1 gibt es in %2 nicht.")
+                    .arg(QString::number(item.line.line), item.line.project.path));
+        return;
+    case LocatorItem::Project:
+        if (!m_window->editor()->selectProject(item.line.project.path))
+            m_window->status()->showNote(
+                tr("Das Projekt %1 kann nicht gezeigt werden.").arg(item.line.project.path));
+        return;
+    case LocatorItem::Command:
+        if (QAction *const action = m_window->keyedActions()->action(item.id))
+            action->trigger();
+        return;
+    case LocatorItem::Setting:
+        Q_EMIT settingChosen(item.id);
+        return;
+    }
+}
