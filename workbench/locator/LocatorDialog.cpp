@@ -43,7 +43,6 @@ LocatorDialog::LocatorDialog(LocatorSearch *search, QWidget *parent)
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setHeaderHidden(true);
-    m_list->setFocusPolicy(Qt::NoFocus);
     m_note->setObjectName("locatorNote");
     m_note->setTextFormat(Qt::PlainText);
     auto *const layout = new QVBoxLayout(this);
@@ -53,6 +52,7 @@ LocatorDialog::LocatorDialog(LocatorSearch *search, QWidget *parent)
     connect(m_input, &QLineEdit::textChanged, this, &LocatorDialog::seek);
     connect(m_search, &LocatorSearch::found, this, &LocatorDialog::showHits);
     connect(m_list, &QTreeView::clicked, this, &LocatorDialog::choose);
+    connect(m_list, &QTreeView::activated, this, &LocatorDialog::choose);
     seek();
     resize(680, 420);
     PApplication::setupWindow(this);
@@ -91,7 +91,8 @@ void LocatorDialog::showHits(const LocatorHits &hits)
 
 void LocatorDialog::choose(const QModelIndex &index)
 {
-    if (!index.isValid() || !index.flags().testFlag(Qt::ItemIsEnabled))
+    // A click may be both, the choice of a row and its activation.
+    if (result() == Accepted || !index.isValid() || !index.flags().testFlag(Qt::ItemIsEnabled))
         return;
     const LocatorItem item = m_model->itemAt(index.row());
     accept();

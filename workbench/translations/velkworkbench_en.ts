@@ -851,6 +851,132 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>KeyedActions</name>
+    <message>
+        <source>Zeile bestätigen oder gewählte Zeile zuordnen</source>
+        <translation>Confirm line or assign the selected line</translation>
+    </message>
+    <message>
+        <source>Zuordnung der Zeile aufheben</source>
+        <translation>Remove assignment of the line</translation>
+    </message>
+    <message>
+        <source>Zuordnung aufheben und als ausgelaufen bestätigen</source>
+        <translation>Remove assignment and confirm as expired</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnung bearbeiten</source>
+        <translation>Edit value range assignment</translation>
+    </message>
+    <message>
+        <source>Bedingung aus der Zeile kopieren</source>
+        <translation>Copy condition made of the line</translation>
+    </message>
+    <message>
+        <source>Ganzes Projekt bestätigen</source>
+        <translation>Confirm whole project</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Find in the table</translation>
+    </message>
+    <message>
+        <source>Weitersuchen</source>
+        <translation>Find next</translation>
+    </message>
+    <message>
+        <source>Rückwärts weitersuchen</source>
+        <translation>Find previous</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Column filter</translation>
+    </message>
+    <message>
+        <source>Zeilen kopieren</source>
+        <translation>Copy lines</translation>
+    </message>
+    <message>
+        <source>Tabelle größer</source>
+        <translation>Larger table</translation>
+    </message>
+    <message>
+        <source>Tabelle kleiner</source>
+        <translation>Smaller table</translation>
+    </message>
+    <message>
+        <source>Tabelle in normaler Größe</source>
+        <translation>Table in normal size</translation>
+    </message>
+</context>
+<context>
+    <name>KeysDialog</name>
+    <message>
+        <source>&amp;Standard</source>
+        <translation>&amp;Default</translation>
+    </message>
+    <message>
+        <source>&amp;Keine Taste</source>
+        <translation>N&amp;o key</translation>
+    </message>
+    <message>
+        <source>Tasten</source>
+        <translation>Keys</translation>
+    </message>
+    <message>
+        <source>Befehl oder Taste</source>
+        <translation>Command or key</translation>
+    </message>
+    <message>
+        <source>Befehle</source>
+        <translation>Commands</translation>
+    </message>
+    <message>
+        <source>Befehl</source>
+        <translation>Command</translation>
+    </message>
+    <message>
+        <source>Wo</source>
+        <translation>Where</translation>
+    </message>
+    <message>
+        <source>Taste</source>
+        <translation>Key</translation>
+    </message>
+    <message>
+        <source>Tabelle</source>
+        <translation>Table</translation>
+    </message>
+    <message>
+        <source>Fenster</source>
+        <translation>Window</translation>
+    </message>
+    <message>
+        <source>Taste für %1</source>
+        <translation>Key for %1</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 brauchen Felder und Listen selbst.</source>
+        <translation>Fields and lists need the key %1 themselves.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 hätten %2 und %3.</source>
+        <translation>Both %2 and %3 would have the key %1.</translation>
+    </message>
+    <message>
+        <source>Selbst gewählt</source>
+        <translation>Chosen by you</translation>
+    </message>
+    <message>
+        <source>%1 hat die Taste %2 dann nicht mehr.</source>
+        <translation>%1 does not have the key %2 any more then.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 hat jetzt %2.</source>
+        <translation>%2 has the key %1 now.</translation>
+    </message>
+</context>
+<context>
     <name>LegendDialog</name>
     <message>
         <source>Ausgelaufen: bestätigt, dass es keine Zuordnung gibt</source>
@@ -1329,6 +1455,74 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>LocatorDesk</name>
+    <message>
+        <source>Die Zeile %1 gibt es in %2 nicht.</source>
+        <translation>There is no line %1 in %2.</translation>
+    </message>
+    <message>
+        <source>Das Projekt %1 kann nicht gezeigt werden.</source>
+        <translation>The project %1 cannot be shown.</translation>
+    </message>
+</context>
+<context>
+    <name>LocatorDialog</name>
+    <message>
+        <source>Finden</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>Projekt, Zeile, Befehl oder Einstellung</source>
+        <translation>Project, line, command or setting</translation>
+    </message>
+    <message>
+        <source>Gefunden</source>
+        <translation>Found</translation>
+    </message>
+    <message>
+        <source>Teile der Wörter genügen; eine Zahl dahinter meint eine Zeile.</source>
+        <translation>Parts of words are enough; a number behind them means a line.</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nothing found</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 von %2 Treffern</source>
+        <translation>The first %1 of %2 hits</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Treffer</source>
+        <translation>
+            <numerusform>%n hit</numerusform>
+            <numerusform>%n hits</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>LocatorModel</name>
+    <message>
+        <source>Zeile %1</source>
+        <translation>Line %1</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Befehl</source>
+        <translation>Command</translation>
+    </message>
+    <message>
+        <source>Einstellung</source>
+        <translation>Setting</translation>
+    </message>
+</context>
+<context>
     <name>LogWindow</name>
     <message>
         <source>Alle Meldungen kopieren</source>
@@ -1426,10 +1620,6 @@ Please choose another file.</translation>
         <translation>Link database</translation>
     </message>
     <message>
-        <source>Links die alte Tabelle, rechts die neue. V bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, X hebt auf, Strg+X bestätigt, dass die Zeile ausgelaufen ist.</source>
-        <translation>The old table on the left, the new one on the right. V confirms the assignment or assigns the line selected on the right, X removes it, Ctrl+X confirms that the line has expired.</translation>
-    </message>
-    <message>
         <source>Links steht der alte Katalogstand. Die Bilder zeigen, wo noch etwas zu entscheiden ist. Wählen Sie ein Projekt, um seine Zeilen zu sehen.</source>
         <translation>On the left is the old catalog release. The icons show where something is still to be decided. Select a project to see its lines.</translation>
     </message>
@@ -1500,6 +1690,10 @@ Please choose another file.</translation>
     <message>
         <source>&amp;Teilen</source>
         <translation>S&amp;hare</translation>
+    </message>
+    <message>
+        <source>Links die alte Tabelle, rechts die neue. %1 bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, %2 hebt auf, %3 bestätigt, dass die Zeile ausgelaufen ist.</source>
+        <translation>On the left the old table, on the right the new one. %1 confirms the assignment or assigns the line selected on the right, %2 removes it, %3 confirms that the line has expired.</translation>
     </message>
 </context>
 <context>
@@ -2645,14 +2839,6 @@ Line: %2
         <translation>&amp;Language:</translation>
     </message>
     <message>
-        <source>Beide Richtungen haben dieselbe Taste.</source>
-        <translation>Both directions have the same key.</translation>
-    </message>
-    <message>
-        <source>Die Taste %1 ist schon vergeben.</source>
-        <translation>The key %1 is taken already.</translation>
-    </message>
-    <message>
         <source>Dunkel</source>
         <translation>Dark</translation>
     </message>
@@ -2671,14 +2857,6 @@ Line: %2
     <message>
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Safety cop&amp;y every:</translation>
-    </message>
-    <message>
-        <source>Taste für die &amp;nächste offene Zeile:</source>
-        <translation>Key for the &amp;next open line:</translation>
-    </message>
-    <message>
-        <source>Taste für die &amp;vorige offene Zeile:</source>
-        <translation>Key for the &amp;previous open line:</translation>
     </message>
     <message>
         <source>Wie der Desktop</source>
@@ -3553,6 +3731,22 @@ Line: %2
     <message>
         <source>Zeigt, wer das Mapping offen hat und welche Ordner wem gehören</source>
         <translation>Shows who has the mapping open and whose which folders are</translation>
+    </message>
+    <message>
+        <source>&amp;Finden...</source>
+        <translation>&amp;Find...</translation>
+    </message>
+    <message>
+        <source>Findet Projekte, Zeilen, Befehle und Einstellungen nach Teilen der Wörter</source>
+        <translation>Finds projects, lines, commands and settings by parts of words</translation>
+    </message>
+    <message>
+        <source>&amp;Tasten...</source>
+        <translation>&amp;Keys...</translation>
+    </message>
+    <message>
+        <source>Zeigt und ändert die Tasten aller Befehle</source>
+        <translation>Shows and changes the keys of all commands</translation>
     </message>
 </context>
 </TS>

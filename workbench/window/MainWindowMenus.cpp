@@ -77,8 +77,7 @@ void MainWindow::buildMenus()
           WorkbenchActions::CheckValueRanges});
     edit->addActions({m_history->reasonAction(), m_linkDbCommands->proofAction()});
     fill(edit, m_actions,
-         {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings,
-          WorkbenchActions::ShowKeys});
+         {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings});
     fill(addMenu("goMenu"), m_actions,
          {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine,
           WorkbenchActions::OtherTable, Separator, WorkbenchActions::Locate});
@@ -148,7 +147,8 @@ void MainWindow::buildToolBars()
     m_states->fill(states);
 }
 
-/// Whatever can be done by an action can have a key and is found by the locator.
+/// Whatever is in the menus by a name, or comes from the plug-in, can have a key and is found by the
+/// locator.
 void MainWindow::collectCommands()
 {
     QAction *const showLog = m_log->toggleViewAction();
@@ -158,8 +158,14 @@ void MainWindow::collectCommands()
     QList<QAction *> actions;
     for (int i = 0; i < WorkbenchActions::CommandCount; ++i)
         actions << m_actions->action(WorkbenchActions::Command(i));
-    actions << m_linkDbCommands->proofAction() << m_states->actions() << showLog << showConsole
-            << m_pluginActions->actions();
+    const QList<QMenu *> menus = menuBar()->findChildren<QMenu *>();
+    for (const QMenu *const menu : menus) {
+        for (QAction *const action : menu->actions()) {
+            if (!action->objectName().isEmpty() && !action->menu() && !actions.contains(action))
+                actions << action;
+        }
+    }
+    actions << m_pluginActions->actions();
     m_keyed->add(actions);
     connect(m_keyed, &KeyedActions::changed, m_actions, &WorkbenchActions::retranslate);
 }

@@ -19,10 +19,10 @@ public:
     struct Values
     {
         QString language = EditorLanguages::firstOn();
-        QString theme;           ///< "light", "dark"; empty: as the desktop
-        int fontPercent = 100;   ///< of the desktop's font size
-        int autosaveMinutes = 3; ///< 0: never
-        bool goesOn = true;      ///< to the next open line after a decision
+        QString theme;             ///< "light", "dark"; empty: as the desktop
+        int fontPercent = 100;     ///< of the desktop's font size
+        int autosaveMinutes = 3;   ///< 0: never
+        bool goesOn = true;        ///< to the next open line after a decision
         PCommandKeys::Choice keys; ///< of commands that have other keys than the standard ones
         RepositorySettings repository;
         QString linkDb; ///< address as LinkDbSettings has it; empty: none is used

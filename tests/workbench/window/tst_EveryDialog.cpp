@@ -4,6 +4,8 @@
 #include "WindowFixture.h"
 
 #include <geomcore/records/ReleaseMappingC.h>
+#include <workbench/locator/LocatorDialog.h>
+#include <workbench/locator/LocatorSearch.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/RecoveryOffer.h>
 #include <workbench/window/CatalogRootsDialog.h>
@@ -80,11 +82,15 @@ void addWindows()
         QApplication::processEvents();
         look(fixture.window.get());
     });
-    for (const char *const command : {"settings", "goLine", "linesConfirm", "assignAll",
+    for (const char *const command : {"settings", "helpKeys", "goLine", "linesConfirm", "assignAll",
                                       "helpAbout", "reviewReplacements", "fileNew", "fileRoots"})
         QTest::newRow(command) << byCommand(command);
     QTest::newRow("recovery") << byHand(
         [](WindowFixture &) { return new RecoveryDialog("/d/m.json", fullOffer(), nullptr); });
+    QTest::newRow("locator") << byHand([](WindowFixture &fixture) {
+        auto *const search = new LocatorSearch(fixture.window.get());
+        return new LocatorDialog(search, nullptr);
+    });
     QTest::newRow("legend") << byHand([](WindowFixture &) { return new LegendDialog(nullptr); });
     QTest::newRow("login") << byHand([](WindowFixture &) {
         return new RepositoryLoginDialog("svn://host/catalog", "refused", "me", nullptr);
