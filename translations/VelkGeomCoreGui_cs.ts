@@ -16,6 +16,14 @@
         <translation>%1 z %2 projektů</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 z %2 řádků</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(prázdné)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>Nalezen 1 projekt</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 řádek</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Zobrazit všechny sloupce</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Zrušit všechny filtry sloupců</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Vše kromě vybraných</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Hledat v tabulce</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Žádný řádek neodpovídá filtrům sloupců</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Kopírovat</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logika</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtrovat podle hodnot ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Seřadit sloupec vzestupně</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Skrýt sloupec</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Sloupec doleva</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Sloupec doprava</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>hodnota</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Hodnoty sloupce %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Rozsah hodnot (%1 hodnot): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Hledá se ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Zobrazí řádky, jejichž hodnota obsahuje text. S =, &lt;, &lt;=, &gt; nebo &gt;= na začátku se porovnává.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Zobrazí řádky, jejichž hodnota obsahuje text. S =, &lt;, &lt;=, &gt; nebo &gt;= na začátku se porovnává; ! na začátku obrací význam, samotné = najde prázdné hodnoty. &amp; vyžaduje obojí, | jedno z obou. Alt+šipka dolů zobrazí hodnoty.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>a %1 vzácnějších hodnot</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 af %2 projekter</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 af %2 linjer</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(tom)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 projekt fundet</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 linje</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Vis alle kolonner</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Ophæv alle kolonnefiltre</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Alle undtagen de valgte</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Søg i tabellen</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Ingen linje passer til kolonnefiltrene</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Kopiér</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logik</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtrer efter værdier ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Sortér kolonnen stigende</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Skjul kolonne</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Kolonne mod venstre</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Kolonne mod højre</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>værdi</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Værdier i kolonnen %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Værdiområde (%1 værdier): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Der søges ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Viser linjer, hvis værdi indeholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes der.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Viser linjer, hvis værdi indeholder teksten. Med =, &lt;, &lt;=, &gt; eller &gt;= foran sammenlignes der; ! foran vender om, = alene finder tomme værdier. &amp; kræver begge, | en af dem. Alt+pil ned viser værdierne.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>og %1 sjældnere værdier</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 von %2 Projekten</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 von %2 Zeilen</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(leer)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 Projekt gefunden</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 Zeile</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Alle Spalten einblenden</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Alle Spaltenfilter aufheben</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Alle außer den gewählten</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>In der Tabelle suchen</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Keine Zeile passt zu den Spaltenfiltern</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Kopieren</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logik</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Nach Werten filtern ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Spalte aufsteigend sortieren</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Spalte ausblenden</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Spalte nach links</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Spalte nach rechts</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>Wert</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Werte der Spalte %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Wertebereich (%1 Werte): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Wird gesucht ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>und %1 seltenere Werte</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 of %2 projects</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 of %2 lines</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(empty)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 project found</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 line</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Show all columns</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Clear all column filters</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>All but the chosen ones</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Find in table</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>No line passes the column filters</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Copy</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logic</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filter by values ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Sort column in ascending order</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Hide column</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Move column left</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Move column right</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>value</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Values of column %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Value range (%1 values): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Searching ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Shows lines whose value contains the text. With =, &lt;, &lt;=, &gt; or &gt;= in front it is compared.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Shows lines whose value holds the text. With =, &lt;, &lt;=, &gt; or &gt;= before it, it is compared; ! before it means not, = alone finds empty values. &amp; wants both, | either of them. Alt+Down shows the values.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>and %1 rarer values</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

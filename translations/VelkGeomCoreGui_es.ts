@@ -16,6 +16,14 @@
         <translation>%1 de %2 proyectos</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 de %2 filas</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(vacío)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 proyecto encontrado</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 línea</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Mostrar todas las columnas</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Quitar todos los filtros de columna</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Todos excepto los elegidos</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Buscar en la tabla</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Ninguna fila cumple los filtros de columna</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Copiar</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Lógica</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtrar por valores ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Ordenar la columna de forma ascendente</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Ocultar columna</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Mover columna a la izquierda</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Mover columna a la derecha</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>valor</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Valores de la columna %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Rango de valores (%1 valores): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Buscando ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Muestra las líneas cuyo valor contiene el texto. Con =, &lt;, &lt;=, &gt; o &gt;= delante se compara.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Muestra las filas cuyo valor contiene el texto. Con =, &lt;, &lt;=, &gt; o &gt;= delante se compara; ! delante lo niega, = solo busca valores vacíos. &amp; exige ambos, | uno de los dos. Alt+flecha abajo muestra los valores.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>más</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>y %1 valores menos frecuentes</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

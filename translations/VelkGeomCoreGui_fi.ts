@@ -16,6 +16,14 @@
         <translation>%1 / %2 projektia</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 / %2 riviä</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(tyhjä)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 projekti löytyi</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 rivi</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Näytä kaikki sarakkeet</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Poista kaikki sarakesuodattimet</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Kaikki paitsi valitut</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Etsi taulukosta</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Mikään rivi ei vastaa sarakesuodattimia</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Kopioi</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logiikka</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Suodata arvojen mukaan ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Lajittele sarake nousevasti</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Piilota sarake</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Siirrä saraketta vasemmalle</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Siirrä saraketta oikealle</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>arvo</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Sarakkeen %1 arvot</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Arvoalue (%1 arvoa): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Etsitään ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Näyttää rivit, joiden arvo sisältää tekstin. Kun edessä on =, &lt;, &lt;=, &gt; tai &gt;=, arvoa verrataan.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Näyttää rivit, joiden arvo sisältää tekstin. Etumerkki =, &lt;, &lt;=, &gt; tai &gt;= vertaa; ! kääntää ehdon, pelkkä = löytää tyhjät arvot. &amp; vaatii molemmat, | jommankumman. Alt+nuoli alas näyttää arvot.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>ja %1 harvinaisempaa arvoa</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 projets sur %2</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 lignes sur %2</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(vide)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 projet trouvé</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 ligne</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Afficher toutes les colonnes</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Supprimer tous les filtres de colonne</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Toutes sauf celles choisies</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Rechercher dans la table</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Aucune ligne ne correspond aux filtres de colonne</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Copier</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logique</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtrer par valeurs ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Trier la colonne par ordre croissant</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Masquer la colonne</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Déplacer la colonne à gauche</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Déplacer la colonne à droite</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>valeur</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Valeurs de la colonne %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Plage de valeurs (%1 valeurs) : %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Recherche ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Affiche les lignes dont la valeur contient le texte. Précédé de =, &lt;, &lt;=, &gt; ou &gt;=, il est comparé.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Affiche les lignes dont la valeur contient le texte. Avec =, &lt;, &lt;=, &gt; ou &gt;= devant, la valeur est comparée ; ! devant inverse, = seul trouve les valeurs vides. &amp; exige les deux, | l'un des deux. Alt+flèche bas affiche les valeurs.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>et %1 valeurs plus rares</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 / %2 projekt</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 / %2 sor</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(üres)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 projekt található</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 sor</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Minden oszlop megjelenítése</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Minden oszlopszűrő megszüntetése</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Minden, kivéve a kiválasztottakat</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Keresés a táblázatban</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Egy sor sem felel meg az oszlopszűrőknek</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Másolás</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logika</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Szűrés értékek szerint ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Oszlop rendezése növekvő sorrendben</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Oszlop elrejtése</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Oszlop balra</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Oszlop jobbra</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>érték</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>A(z) %1 oszlop értékei</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Értéktartomány (%1 érték): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Keresés ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Azokat a sorokat mutatja, amelyek értéke tartalmazza a szöveget. Elöl =, &lt;, &lt;=, &gt; vagy &gt;= esetén összehasonlít.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Azokat a sorokat mutatja, amelyek értéke tartalmazza a szöveget. Elé írt =, &lt;, &lt;=, &gt; vagy &gt;= összehasonlít; a ! tagad, az = önmagában az üres értékeket találja meg. Az &amp; mindkettőt, a | az egyiket kéri. Az Alt+le nyíl az értékeket mutatja.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plusz</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>és %1 ritkább érték</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

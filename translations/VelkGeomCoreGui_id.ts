@@ -16,6 +16,14 @@
         <translation>%1 dari %2 proyek</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 dari %2 baris</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(kosong)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 proyek ditemukan</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 baris</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Tampilkan semua kolom</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Hapus semua saringan kolom</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Semua kecuali yang dipilih</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Cari di tabel</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Tidak ada baris yang cocok dengan filter kolom</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Salin</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logika</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Saring menurut nilai ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Urutkan kolom menaik</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Sembunyikan kolom</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Kolom ke kiri</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Kolom ke kanan</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>nilai</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Nilai kolom %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Rentang nilai (%1 nilai): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Mencari ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Menampilkan baris yang nilainya memuat teks. Dengan =, &lt;, &lt;=, &gt; atau &gt;= di depan, nilai dibandingkan.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Menampilkan baris yang nilainya memuat teks. Dengan =, &lt;, &lt;=, &gt; atau &gt;= di depan nilainya dibandingkan; ! di depan membalik, = saja mencari nilai kosong. &amp; meminta keduanya, | salah satunya. Alt+panah bawah menampilkan nilai.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>tambah</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>dan %1 nilai yang lebih jarang</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 di %2 progetti</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 di %2 righe</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(vuoto)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 progetto trovato</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 riga</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Mostra tutte le colonne</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Rimuovere tutti i filtri colonna</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Tutti tranne quelli scelti</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Cercare nella tabella</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Nessuna riga corrisponde ai filtri di colonna</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Copia</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logica</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtra per valori ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Ordinare la colonna in modo crescente</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Nascondi colonna</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Sposta colonna a sinistra</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Sposta colonna a destra</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>valore</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Valori della colonna %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Intervallo di valori (%1 valori): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Ricerca in corso ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Mostra le righe il cui valore contiene il testo. Con =, &lt;, &lt;=, &gt; o &gt;= davanti viene confrontato.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Mostra le righe il cui valore contiene il testo. Con =, &lt;, &lt;=, &gt; o &gt;= davanti si confronta; ! davanti nega, = da solo trova i valori vuoti. &amp; richiede entrambi, | uno dei due. Alt+freccia giù mostra i valori.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>più</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>e %1 valori più rari</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

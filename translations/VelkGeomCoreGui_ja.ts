@@ -16,6 +16,14 @@
         <translation>%1 / %2 プロジェクト</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%2 行中 %1 行</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(空)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 件のプロジェクトが見つかりました</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 行</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>すべての列を表示</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>すべての列フィルターを解除</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>選択したもの以外すべて</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>テーブル内を検索</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>列フィルターに合う行がありません</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>コピー</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>論理</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>値で絞り込む ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>列を昇順に並べ替え</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>列を隠す</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>列を左へ</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>列を右へ</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>値</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>列 %1 の値</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>値範囲（%1個の値）: %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>検索中 ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>値にテキストを含む行を表示します。先頭に =、&lt;、&lt;=、&gt;、&gt;= を付けると比較します。</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>値に文字列を含む行を表示します。前に =、&lt;、&lt;=、&gt;、&gt;= を付けると比較します。前の ! は否定、= だけなら空の値を探します。&amp; は両方、| はどちらか一方です。Alt+↓ で値を表示します。</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>足す</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>ほか %1 件の少ない値</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

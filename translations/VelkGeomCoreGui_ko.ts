@@ -16,6 +16,14 @@
         <translation>%1 / %2 프로젝트</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%2행 중 %1행</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(비어 있음)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>프로젝트 1개 찾음</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1행</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>모든 열 표시</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>모든 열 필터 해제</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>선택한 것을 제외한 전체</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>테이블에서 찾기</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>열 필터에 맞는 행이 없습니다</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>복사</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>논리</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>값으로 필터링 ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>열을 오름차순으로 정렬</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>열 숨기기</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>열을 왼쪽으로</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>열을 오른쪽으로</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>값</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>%1 열의 값</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>값 범위(값 %1개): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>검색 중 ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>값에 텍스트가 들어 있는 행을 표시합니다. 앞에 =, &lt;, &lt;=, &gt; 또는 &gt;=를 쓰면 비교합니다.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>값에 텍스트가 있는 행을 표시합니다. 앞에 =, &lt;, &lt;=, &gt; 또는 &gt;=를 붙이면 비교합니다. 앞의 !는 부정이고, =만 쓰면 빈 값을 찾습니다. &amp;는 둘 다, |는 둘 중 하나입니다. Alt+아래 화살표는 값을 표시합니다.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>더하기</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>및 더 드문 값 %1개</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 z %2 projektów</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 z %2 wierszy</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(puste)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>Znaleziono 1 projekt</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 wiersz</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Pokaż wszystkie kolumny</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Usuń wszystkie filtry kolumn</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Wszystkie oprócz wybranych</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Szukaj w tabeli</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Żaden wiersz nie pasuje do filtrów kolumn</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Kopiuj</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logika</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtruj według wartości ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Sortuj kolumnę rosnąco</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Ukryj kolumnę</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Kolumna w lewo</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Kolumna w prawo</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>wartość</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Wartości kolumny %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Zakres wartości (%1 wartości): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Wyszukiwanie ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Pokazuje wiersze, których wartość zawiera tekst. Z =, &lt;, &lt;=, &gt; lub &gt;= na początku następuje porównanie.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Pokazuje wiersze, których wartość zawiera tekst. Z =, &lt;, &lt;=, &gt; lub &gt;= na początku następuje porównanie; ! na początku zaprzecza, samo = znajduje puste wartości. &amp; wymaga obu, | jednego z nich. Alt+strzałka w dół pokazuje wartości.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>i %1 rzadszych wartości</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 de %2 projetos</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 de %2 linhas</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(vazio)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 projeto encontrado</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 linha</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Mostrar todas as colunas</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Remover todos os filtros de coluna</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Todos exceto os escolhidos</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Procurar na tabela</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Nenhuma linha corresponde aos filtros de coluna</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Copiar</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Lógica</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtrar por valores ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Ordenar a coluna por ordem crescente</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Ocultar coluna</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Mover coluna para a esquerda</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Mover coluna para a direita</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>valor</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Valores da coluna %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Intervalo de valores (%1 valores): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Pesquisando ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Mostra linhas cujo valor contém o texto. Com =, &lt;, &lt;=, &gt; ou &gt;= antes, é comparado.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Mostra as linhas cujo valor contém o texto. Com =, &lt;, &lt;=, &gt; ou &gt;= antes, compara-se; ! antes nega, = sozinho encontra valores vazios. &amp; exige ambos, | um dos dois. Alt+seta para baixo mostra os valores.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>mais</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>e %1 valores mais raros</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

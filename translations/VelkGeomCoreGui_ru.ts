@@ -16,6 +16,14 @@
         <translation>%1 из %2 проектов</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 из %2 строк</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(пусто)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>Найден 1 проект</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 строка</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Показать все столбцы</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Снять все фильтры столбцов</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Все, кроме выбранных</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Найти в таблице</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Ни одна строка не соответствует фильтрам столбцов</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Копировать</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Логика</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Фильтр по значениям ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Сортировать столбец по возрастанию</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Скрыть столбец</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Столбец влево</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Столбец вправо</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>значение</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Значения столбца %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Диапазон значений (значений: %1): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Идёт поиск ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Показывает строки, значение которых содержит текст. С =, &lt;, &lt;=, &gt; или &gt;= впереди выполняется сравнение.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Показывает строки, значение которых содержит текст. Знаки =, &lt;, &lt;=, &gt; или &gt;= перед ним сравнивают; ! перед ним означает отрицание, одно = находит пустые значения. &amp; требует обоих, | одного из двух. Alt+стрелка вниз показывает значения.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>плюс</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>и ещё %1 более редких значений</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 od %2 projektov</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 od %2 vrstic</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(prazno)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>Najden 1 projekt</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 vrstica</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Pokaži vse stolpce</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Odstrani vse filtre stolpcev</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Vse razen izbranih</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Išči v tabeli</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Nobena vrstica ne ustreza filtrom stolpcev</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Kopiraj</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logika</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtriraj po vrednostih ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Razvrsti stolpec naraščajoče</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Skrij stolpec</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Stolpec v levo</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Stolpec v desno</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>vrednost</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Vrednosti stolpca %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Območje vrednosti (vrednosti: %1): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Iskanje ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Prikaže vrstice, katerih vrednost vsebuje besedilo. Z =, &lt;, &lt;=, &gt; ali &gt;= na začetku se primerja.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Prikaže vrstice, katerih vrednost vsebuje besedilo. Z =, &lt;, &lt;=, &gt; ali &gt;= pred njim se primerja; ! pred njim zanika, samo = najde prazne vrednosti. &amp; zahteva oboje, | eno od obeh. Alt+puščica dol prikaže vrednosti.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>in %1 redkejših vrednosti</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 av %2 projekt</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%1 av %2 rader</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(tom)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 projekt hittades</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 rad</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Visa alla kolumner</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Ta bort alla kolumnfilter</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Alla utom de valda</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Sök i tabellen</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Ingen rad passar kolumnfiltren</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Kopiera</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Logik</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Filtrera efter värden ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Sortera kolumnen stigande</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Dölj kolumn</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Kolumn åt vänster</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Kolumn åt höger</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>värde</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>Värden i kolumnen %1</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Värdeområde (%1 värden): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Söker ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Visar rader vars värde innehåller texten. Med =, &lt;, &lt;=, &gt; eller &gt;= framför jämförs det.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Visar rader vars värde innehåller texten. Med =, &lt;, &lt;=, &gt; eller &gt;= framför jämförs det; ! framför vänder, = ensamt hittar tomma värden. &amp; kräver båda, | en av dem. Alt+nedpil visar värdena.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>plus</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>och %1 mer sällsynta värden</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -16,6 +16,14 @@
         <translation>%1 / %2 proje</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%2 satırdan %1</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(boş)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>1 proje bulundu</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 satır</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>Tüm sütunları göster</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>Tüm sütun süzgeçlerini kaldır</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>Seçilenler dışında tümü</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>Tabloda ara</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>Sütun filtrelerine uyan satır yok</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>Kopyala</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>Mantık</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>Değerlere göre filtrele ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>Sütunu artan sırala</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>Sütunu gizle</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>Sütunu sola taşı</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>Sütunu sağa taşı</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>değer</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>%1 sütununun değerleri</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>Değer aralığı (%1 değer): %2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>Aranıyor ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>Değeri metni içeren satırları gösterir. Başında =, &lt;, &lt;=, &gt; veya &gt;= varsa karşılaştırılır.</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>Değeri metni içeren satırları gösterir. Başında =, &lt;, &lt;=, &gt; veya &gt;= varsa karşılaştırılır; baştaki ! tersini alır, tek başına = boş değerleri bulur. &amp; ikisini, | ikisinden birini ister. Alt+aşağı ok değerleri gösterir.</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>artı</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>ve %1 daha seyrek değer</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

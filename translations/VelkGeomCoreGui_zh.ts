@@ -16,6 +16,14 @@
         <translation>%1 / %2 个项目</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%2 行中的 %1 行</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(空)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>找到 1 个项目</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 行</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>显示所有列</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>清除所有列筛选</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>除所选之外的全部</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>在表中查找</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>没有符合列筛选的行</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>复制</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>逻辑</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>按值筛选 ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>按列升序排序</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>隐藏列</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>列左移</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>列右移</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>值</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>列 %1 的值</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>值范围（%1 个值）：%2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>正在搜索 ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>显示值包含该文本的行。以 =、&lt;、&lt;=、&gt; 或 &gt;= 开头则进行比较。</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>显示值中包含该文本的行。前面加 =、&lt;、&lt;=、&gt; 或 &gt;= 则进行比较；前面的 ! 表示否定，单独的 = 查找空值。&amp; 要求两者，| 要求其一。Alt+向下键显示值。</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>加</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>以及 %1 个较少见的值</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

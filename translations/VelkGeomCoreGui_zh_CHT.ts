@@ -16,6 +16,14 @@
         <translation>%1 / %2 個專案</translation>
     </message>
     <message>
+        <source>%1 von %2 Zeilen</source>
+        <translation>%2 列中的 %1 列</translation>
+    </message>
+    <message>
+        <source>(leer)</source>
+        <translation>(空)</translation>
+    </message>
+    <message>
         <source>1 Projekt gefunden</source>
         <translation>找到 1 個專案</translation>
     </message>
@@ -24,8 +32,16 @@
         <translation>1 行</translation>
     </message>
     <message>
+        <source>Alle Spalten einblenden</source>
+        <translation>顯示所有欄</translation>
+    </message>
+    <message>
         <source>Alle Spaltenfilter aufheben</source>
         <translation>清除所有欄篩選</translation>
+    </message>
+    <message>
+        <source>Alle außer den gewählten</source>
+        <translation>所選以外的全部</translation>
     </message>
     <message>
         <source>Am Anfang der Tabelle fortgesetzt</source>
@@ -96,12 +112,20 @@
         <translation>在表格中尋找</translation>
     </message>
     <message>
+        <source>Keine Zeile passt zu den Spaltenfiltern</source>
+        <translation>沒有符合欄篩選的列</translation>
+    </message>
+    <message>
         <source>Kopieren</source>
         <translation>複製</translation>
     </message>
     <message>
         <source>Logik</source>
         <translation>邏輯</translation>
+    </message>
+    <message>
+        <source>Nach Werten filtern ...</source>
+        <translation>依值篩選 ...</translation>
     </message>
     <message>
         <source>Name, Norm, Bezeichnung oder Wert</source>
@@ -138,6 +162,18 @@
     <message>
         <source>Spalte aufsteigend sortieren</source>
         <translation>將欄遞增排序</translation>
+    </message>
+    <message>
+        <source>Spalte ausblenden</source>
+        <translation>隱藏欄</translation>
+    </message>
+    <message>
+        <source>Spalte nach links</source>
+        <translation>欄左移</translation>
+    </message>
+    <message>
+        <source>Spalte nach rechts</source>
+        <translation>欄右移</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>
@@ -196,6 +232,10 @@
         <translation>值</translation>
     </message>
     <message>
+        <source>Werte der Spalte %1</source>
+        <translation>欄 %1 的值</translation>
+    </message>
+    <message>
         <source>Wertebereich (%1 Werte): %2</source>
         <translation>值範圍（%1 個值）：%2</translation>
     </message>
@@ -204,8 +244,8 @@
         <translation>正在搜尋 ...</translation>
     </message>
     <message>
-        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen.</source>
-        <translation>顯示值包含該文字的列。以 =、&lt;、&lt;=、&gt; 或 &gt;= 開頭則進行比較。</translation>
+        <source>Zeigt Zeilen, deren Wert den Text enthält. Mit =, &lt;, &lt;=, &gt; oder &gt;= davor wird verglichen; ! davor kehrt um, = allein findet leere Werte. &amp; verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt die Werte.</source>
+        <translation>顯示值中包含該文字的列。前面加 =、&lt;、&lt;=、&gt; 或 &gt;= 則進行比較；前面的 ! 表示否定，單獨的 = 尋找空值。&amp; 要求兩者，| 要求其一。Alt+向下鍵顯示值。</translation>
     </message>
     <message>
         <source>Zuweisung an eine Variable der Zieltabelle</source>
@@ -274,6 +314,10 @@
     <message>
         <source>plus</source>
         <translation>加</translation>
+    </message>
+    <message>
+        <source>und %1 seltenere Werte</source>
+        <translation>以及 %1 個較少見的值</translation>
     </message>
     <message>
         <source>und %1 weitere</source>

@@ -78,6 +78,7 @@ TablePane *TableMappingWidgetPrivate::createSourcePane()
 {
     auto *const pane = new TablePane(QStringLiteral("source"), q);
     sourceView = pane->view();
+    sourceView->setFiltersKept(true);
     sourceView->connectPopupShow(
         [this, alive = reference()](const VKTab::Content &content, QMenu *menu, int area, int row) {
             return alive.expired() ? 0 : onSourcePopupShow(content, menu, area, row);

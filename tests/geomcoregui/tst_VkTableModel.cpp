@@ -1,6 +1,7 @@
 #include "ViewTables.h"
 
 #include <geomcore/table/FilterByLineId.h>
+#include <geomcoregui/table/QuickFilter.h>
 #include <geomcoregui/table/VkTableModel.h>
 
 #include <QAbstractItemModelTester>
@@ -56,6 +57,9 @@ private Q_SLOTS:
     void quickFilters_data();
     void quickFilters();
     void quickFiltersOfTwoColumns();
+    void valuesAreCounted();
+    void filtersOfValues_data();
+    void filtersOfValues();
     void sortingStaysInAFilteredTable();
 
     void finds_data();
@@ -537,6 +541,28 @@ void tst_VkTableModel::quickFilters_data()
                                      << "=24" << QList<int>({3});
     QTest::newRow("nothing fits") << "Note"
                                   << "zzz" << QList<int>();
+    QTest::newRow("text not held") << "Note"
+                                   << "!an" << QList<int>({4});
+    QTest::newRow("another text") << "Note"
+                                  << "!=blank" << QList<int>({2, 4});
+    QTest::newRow("any value") << "L"
+                               << "!=" << QList<int>({1, 2, 3});
+    QTest::newRow("not alone says nothing") << "Dia"
+                                            << "!" << QList<int>({1, 2, 3, 4});
+    QTest::newRow("one of two") << "Dia"
+                                << "=8 | >=16" << QList<int>({1, 4});
+    QTest::newRow("both") << "Dia"
+                          << ">8 & <16" << QList<int>({2, 3});
+    QTest::newRow("both is the stronger one") << "Dia"
+                                              << "=8 | >8 & <12" << QList<int>({1, 2});
+    QTest::newRow("second part not yet written") << "Dia"
+                                                 << "=8 | " << QList<int>({1});
+    QTest::newRow("sign in quotes") << "Note"
+                                    << "\"a|b\"" << QList<int>();
+    QTest::newRow("quoted text") << "Note"
+                                 << "=\"blank\"" << QList<int>({1, 3});
+    QTest::newRow("missing or a value") << "L"
+                                        << "= | =15" << QList<int>({3, 4});
 }
 
 void tst_VkTableModel::quickFilters()
@@ -553,6 +579,51 @@ void tst_VkTableModel::quickFilters()
     m_model->setQuickFilter(id, {});
     QCOMPARE(m_model->rowCount(), 4);
     QVERIFY(!m_model->hasQuickFilter());
+}
+
+void tst_VkTableModel::valuesAreCounted()
+{
+    m_model->setTable(m_table);
+    const VarId note = m_table.getVar(u"Note").getVarId();
+    const VarId dia = m_table.getVar(u"Dia").getVarId();
+    const auto counted = [&](const VarId &variable) {
+        QStringList texts;
+        for (const VkTableModel::ValueCount &value : m_model->valueCounts(variable))
+            texts +=
+                QStringLiteral("%1%2 %3").arg(value.passes ? "+" : "", value.text).arg(value.count);
+        return texts.join(u'|');
+    };
+    const QString all = counted(note);
+    QVERIFY2(all.contains("+blank 2"), qPrintable(all));
+    // Its own filter takes nothing away, those of others do.
+    m_model->setQuickFilter(note, "=blank");
+    QCOMPARE(counted(note).remove('+'), QString(all).remove('+'));
+    QVERIFY2(counted(note).contains("+blank 2"), qPrintable(counted(note)));
+    QCOMPARE(counted(note).count('+'), 1);
+    QCOMPARE(m_model->valueCounts(dia).size(), 2);
+    m_model->setQuickFilter(dia, ">8");
+    QVERIFY2(counted(note).contains("+blank 1"), qPrintable(counted(note)));
+    QVERIFY(m_model->valueCounts(VarId(999)).isEmpty());
+}
+
+void tst_VkTableModel::filtersOfValues_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<bool>("others");
+    QTest::addColumn<QString>("filter");
+    QTest::newRow("none") << QStringList() << false << "";
+    QTest::newRow("one") << QStringList{"M8"} << false << "=M8";
+    QTest::newRow("two") << QStringList{"M8", ""} << false << "=M8 | =";
+    QTest::newRow("others") << QStringList{"M8", "M9"} << true << "!=M8 & !=M9";
+    QTest::newRow("signs") << QStringList{"A|B", "\"q", "a & b"} << false
+                           << "=\"A|B\" | =\"\"q\" | =\"a & b\"";
+}
+
+void tst_VkTableModel::filtersOfValues()
+{
+    QFETCH(QStringList, texts);
+    QFETCH(bool, others);
+    QTEST(QuickFilter::ofTexts(texts, others), "filter");
 }
 
 void tst_VkTableModel::quickFiltersOfTwoColumns()

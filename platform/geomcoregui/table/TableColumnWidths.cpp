@@ -1,5 +1,7 @@
 #include "TableColumnWidths.h"
 
+#include "TableColumnNames.h"
+#include "TableColumnOrder.h"
 #include "TableGrid.h"
 #include "VkTableModel.h"
 
@@ -7,7 +9,6 @@
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
-#include <QUrl>
 
 namespace {
 
@@ -15,12 +16,6 @@ const QString section = QStringLiteral("TableColumns");
 constexpr int sampleRows = 60;
 constexpr int widest = 360; // at zoom factor 1
 constexpr int widestRange = 220;
-
-/// A text without the signs that separate names, widths and keys.
-QString encoded(const QString &text)
-{
-    return QString::fromLatin1(QUrl::toPercentEncoding(text));
-}
 
 } // namespace
 
@@ -40,25 +35,11 @@ TableColumnWidths::~TableColumnWidths()
     store();
 }
 
-QString TableColumnWidths::tableKey() const
-{
-    const VKTab::ContentRef table = m_model->getTable();
-    const QString path = table.getKeyValue(VKTab::KeyProjectPath).toString();
-    return encoded(path.isEmpty() ? table.getKeyValue(VKTab::KeyNormNumber).toString() : path);
-}
-
-QString TableColumnWidths::nameOf(int column) const
-{
-    const QString key =
-        m_model->headerData(column, Qt::Horizontal, VkTableModel::StatusKeyRole).toString();
-    return key.isEmpty() ? m_model->variable(column).getName() : QStringLiteral("*") + key;
-}
-
 void TableColumnWidths::load()
 {
     store();
     m_widths.clear();
-    m_key = tableKey();
+    m_key = TableColumnNames::ofTable(*m_model);
     if (m_key.isEmpty())
         return;
     const QString stored =
@@ -67,7 +48,7 @@ void TableColumnWidths::load()
         const qsizetype colon = entry.indexOf(u':');
         const int width = QStringView(entry).mid(colon + 1).toInt();
         if (colon > 0 && width > 0)
-            m_widths[QUrl::fromPercentEncoding(entry.left(colon).toLatin1())] = width;
+            m_widths[TableColumnNames::decoded(entry.left(colon))] = width;
     }
 }
 
@@ -77,7 +58,7 @@ void TableColumnWidths::store()
         return;
     QStringList entries;
     for (const auto &[name, width] : m_widths)
-        entries.append(encoded(name) + u':' + QString::number(width));
+        entries.append(TableColumnNames::encoded(name) + u':' + QString::number(width));
     PApplication::getAppConfig()->SetValue(m_key, section, entries.join(u';'));
 }
 
@@ -87,7 +68,7 @@ void TableColumnWidths::apply()
     QHeaderView *const header = m_grid->horizontalHeader();
     showUsedColumns();
     for (int column = 0; column < m_model->columnCount(); ++column) {
-        const auto known = m_widths.find(nameOf(column));
+        const auto known = m_widths.find(TableColumnNames::ofColumn(*m_model, column));
         header->resizeSection(column, known == m_widths.end() ? neededWidth(column)
                                                               : qRound(known->second * m_zoom));
     }
@@ -96,10 +77,15 @@ void TableColumnWidths::apply()
 void TableColumnWidths::showUsedColumns()
 {
     const QScopedValueRollback guard(m_applying, true);
+    QStringList hiddenByUser;
+    if (m_order)
+        hiddenByUser = m_order->hidden();
     // The header keeps what was hidden when the model gets other columns.
     for (int column = 0; column < m_model->columnCount(); ++column) {
-        const bool hidden =
+        const bool unused =
             column < m_model->statusColumnCount() && !m_model->isStatusColumnUsed(column);
+        const bool hidden =
+            unused || hiddenByUser.contains(TableColumnNames::ofColumn(*m_model, column));
         if (m_grid->isColumnHidden(column) != hidden)
             m_grid->setColumnHidden(column, hidden);
     }
@@ -113,7 +99,7 @@ void TableColumnWidths::setZoomFactor(double factor)
 
 void TableColumnWidths::fit(int column)
 {
-    m_changed = m_widths.erase(nameOf(column)) > 0 || m_changed;
+    m_changed = m_widths.erase(TableColumnNames::ofColumn(*m_model, column)) > 0 || m_changed;
     const QScopedValueRollback guard(m_applying, true);
     m_grid->horizontalHeader()->resizeSection(column, neededWidth(column));
 }
@@ -148,6 +134,6 @@ void TableColumnWidths::onResized(int column, int, int newSize)
 {
     if (m_applying || newSize <= 0 || column >= m_model->columnCount())
         return;
-    m_widths[nameOf(column)] = std::max(1, qRound(newSize / m_zoom));
+    m_widths[TableColumnNames::ofColumn(*m_model, column)] = std::max(1, qRound(newSize / m_zoom));
     m_changed = true;
 }

@@ -5,6 +5,7 @@
 
 #include <map>
 
+class TableColumnOrder;
 class TableGrid;
 class VkTableModel;
 
@@ -20,9 +21,12 @@ public:
     /// Stores what is not stored yet.
     ~TableColumnWidths() override;
 
+    /// Columns that the user hides; must live as long.
+    void setOrder(const TableColumnOrder *order) { m_order = order; }
     /// Reads the widths for the model's table.
     void load();
-    /// Gives the columns their widths. Status columns that no line has a value in are hidden.
+    /// Gives the columns their widths. Status columns that no line has a value in are hidden,
+    /// and what the user hides.
     void apply();
     /// Shows status columns that came into use, and all columns of variables.
     void showUsedColumns();
@@ -35,11 +39,10 @@ private:
     void onResized(int column, int oldSize, int newSize);
     void store();
     [[nodiscard]] int neededWidth(int column) const;
-    [[nodiscard]] QString nameOf(int column) const;
-    [[nodiscard]] QString tableKey() const;
 
     TableGrid *m_grid;
     VkTableModel *m_model;
+    const TableColumnOrder *m_order = nullptr;
     double m_zoom = 1;
     bool m_applying = false;
     bool m_changed = false;

@@ -2,6 +2,7 @@
 
 #include "TableBar.h"
 #include "TableGrid.h"
+#include "TableValueList.h"
 #include "VkTableModel.h"
 
 #include <geomcore/table/LineView.h>
@@ -73,9 +74,26 @@ void TableFilterBar::retranslate()
         edit->setAccessibleName(tableText("Spaltenfilter %1").arg(name));
         edit->setToolTip(
             tableText("Zeigt Zeilen, deren Wert den Text enthält. Mit =, <, <=, > oder "
-                      ">= davor wird verglichen."));
+                      ">= davor wird verglichen; ! davor kehrt um, = allein findet leere "
+                      "Werte. & verlangt beides, | eines von beiden. Alt+Pfeil nach unten zeigt "
+                      "die Werte."));
         edit->setPlaceholderText(tableText("Filter"));
     }
+}
+
+TableValueList *TableFilterBar::showValues(int column)
+{
+    if (!isVisible())
+        setShown(true);
+    QLineEdit *const edit = column < 0 ? nullptr : editOf(column);
+    if (!edit)
+        return nullptr;
+    auto *const list = new TableValueList(m_model, m_model->variable(column).getVarId(), this);
+    connect(list, &TableValueList::filterChosen, edit, &QLineEdit::setText);
+    list->move(edit->mapToGlobal(QPoint(0, edit->height())));
+    list->show();
+    list->setFocus(Qt::PopupFocusReason);
+    return list;
 }
 
 QSize TableFilterBar::sizeHint() const
@@ -164,6 +182,10 @@ bool TableFilterBar::eventFilter(QObject *object, QEvent *event)
     const auto *const key = static_cast<QKeyEvent *>(event);
     if (key->key() == Qt::Key_Escape && !edit->text().isEmpty()) {
         edit->clear();
+        return true;
+    }
+    if (key->key() == Qt::Key_Down && key->modifiers().testFlag(Qt::AltModifier)) {
+        showValues(m_model->columnOf(VKTab::VarId(variableOf(edit))));
         return true;
     }
     if (key->key() == Qt::Key_Escape || key->key() == Qt::Key_Down) {

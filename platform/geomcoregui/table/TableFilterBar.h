@@ -10,10 +10,12 @@ class QToolButton;
 QT_END_NAMESPACE
 
 class TableGrid;
+class TableValueList;
 class VkTableModel;
 
 /// Row of edits above a grid, one for each column of a variable, that move with the columns. What
-/// is written there filters at once; Escape in one empties it, Down goes into the grid.
+/// is written there filters at once; Escape in one empties it, Down goes into the grid, Alt+Down
+/// shows the column's values.
 class TableFilterBar : public QWidget
 {
     Q_OBJECT
@@ -26,6 +28,11 @@ public:
     void setShown(bool shown);
     /// The edit of a column; null for a status column.
     [[nodiscard]] QLineEdit *editOf(int column) const;
+    /// The values of a column with their numbers, to choose from; null for a status column. The bar
+    /// is shown for it.
+    TableValueList *showValues(int column);
+    /// Brings the edits in line with the model's columns and filters.
+    void takeColumns();
     void retranslate();
     QSize sizeHint() const override;
 
@@ -35,7 +42,6 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void takeColumns();
     void place();
     void warm(const QLineEdit *edit) const;
     [[nodiscard]] QLineEdit *makeEdit(int variable, const QString &name);

@@ -42,6 +42,18 @@ void TableRowBuilder::filter(const TableColumnValues &values, const QString &qui
     });
 }
 
+std::vector<int> TableRowBuilder::count(const TableColumnValues &values)
+{
+    takeAll();
+    std::vector<int> counts(values.texts().size(), 0);
+    for (const int place : m_places) {
+        const int row = fileRow(place);
+        if (row >= 0)
+            ++counts[values.ids()[size_t(row)]];
+    }
+    return counts;
+}
+
 void TableRowBuilder::sort(const TableColumnValues &values, const std::vector<quint32> &ranks,
                            Qt::SortOrder order)
 {

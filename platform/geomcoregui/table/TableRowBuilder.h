@@ -20,6 +20,8 @@ public:
     explicit TableRowBuilder(const VKTab::Content &table);
 
     void filter(const TableColumnValues &values, const QString &quickFilter);
+    /// How many rows that are left have each text of the values, by the text's number.
+    [[nodiscard]] std::vector<int> count(const TableColumnValues &values);
     /// \a ranks are those of the values.
     void sort(const TableColumnValues &values, const std::vector<quint32> &ranks,
               Qt::SortOrder order);

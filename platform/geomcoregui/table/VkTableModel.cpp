@@ -139,6 +139,11 @@ QString VkTableModel::quickFilter(const VKTab::VarId &variable) const
     return found == d->quickFilters.end() ? QString() : found->second;
 }
 
+QList<VkTableModel::ValueCount> VkTableModel::valueCounts(const VKTab::VarId &variable) const
+{
+    return d->valueCounts(variable);
+}
+
 void VkTableModel::clearQuickFilters()
 {
     if (d->quickFilters.empty())

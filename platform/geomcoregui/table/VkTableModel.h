@@ -76,6 +76,16 @@ public:
     /// Variables that are not shown keep theirs, without effect.
     void setQuickFilter(const VKTab::VarId &variable, const QString &text);
     [[nodiscard]] QString quickFilter(const VKTab::VarId &variable) const;
+    /// A text of a column and the rows that have it.
+    struct ValueCount
+    {
+        QString text; ///< empty: the value is missing
+        int count = 0;
+        bool passes = false; ///< the column's quick filter
+    };
+    /// The texts of a variable among the rows that all other quick filters leave, in ascending
+    /// order; missing values last.
+    [[nodiscard]] QList<ValueCount> valueCounts(const VKTab::VarId &variable) const;
     void clearQuickFilters();
     [[nodiscard]] bool hasQuickFilter() const;
 

@@ -1,9 +1,12 @@
 #include "VkTableModelPrivate.h"
 
+#include "QuickFilter.h"
 #include "TableCellText.h"
 #include "TableRowBuilder.h"
 
 #include <geomcore/table/SignalConnect.h>
+
+#include <algorithm>
 
 using VKTab::Content;
 
@@ -205,6 +208,42 @@ TableRows VkTableModelPrivate::makeRows()
         builder.sort(*sorting.values, sorting.ranked(), order);
     }
     return builder.rows();
+}
+
+QList<VkTableModel::ValueCount> VkTableModelPrivate::valueCounts(const VKTab::VarId &variable)
+{
+    const int asked = q->columnOf(variable);
+    if (!table.isValid() || asked < 0)
+        return {};
+    const ViewLanguage language;
+    TableRowBuilder builder(table);
+    for (const auto &[id, text] : quickFilters) {
+        if (const int index = q->columnOf(id); index >= 0 && id != variable)
+            builder.filter(*values(columns.at(index).var).values, text);
+    }
+    SortedValues &column = values(columns.at(asked).var);
+    const TableColumnValues &shown = *column.values;
+    const std::vector<int> counts = builder.count(shown);
+    const std::vector<char> passing = QuickFilter(q->quickFilter(variable)).passing(shown);
+    const std::vector<quint32> &ranks = column.ranked();
+    std::vector<std::size_t> texts;
+    texts.reserve(counts.size());
+    for (std::size_t id = 0; id < counts.size(); ++id) {
+        if (counts[id] > 0)
+            texts.push_back(id);
+    }
+    std::sort(texts.begin(), texts.end(),
+              [&](std::size_t a, std::size_t b) { return ranks[a] < ranks[b]; });
+    QList<VkTableModel::ValueCount> found;
+    for (const std::size_t id : texts) {
+        const std::string_view utf8 = shown.texts()[id];
+        const QString text = QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+        if (!found.isEmpty() && found.last().text == text)
+            found.last().count += counts[id];
+        else
+            found += {text, counts[id], passing[id] != 0};
+    }
+    return found;
 }
 
 const TableColumn *VkTableModelPrivate::column(int index) const

@@ -60,6 +60,7 @@ public:
     void resetTo(const QList<TableColumn> &columns);
     void forgetCells();
     [[nodiscard]] TableRows makeRows();
+    [[nodiscard]] QList<VkTableModel::ValueCount> valueCounts(const VKTab::VarId &variable);
     [[nodiscard]] const TableColumn *column(int index) const;
     struct SortedValues;
     SortedValues &values(const VKTab::Var &var);

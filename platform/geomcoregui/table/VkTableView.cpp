@@ -138,6 +138,11 @@ void VkTableView::showFindBar()
     d->findBar->open();
 }
 
+void VkTableView::setFiltersKept(bool kept)
+{
+    d->filtersKept = kept;
+}
+
 void VkTableView::showFilterBar(bool show)
 {
     d->setFilterBarShown(show);

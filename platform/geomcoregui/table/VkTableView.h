@@ -17,7 +17,8 @@ class VkTableViewPrivate;
 /// Ctrl+Minus and Ctrl+0 zoom, Space or Enter on an icon clicks it.
 ///
 /// Widths that a user gives to columns are kept in the application's configuration, by table and
-/// variable. The object names are "grid", "findBar", "filterBar" and "tableTitle".
+/// variable, and so are their order and which of them are hidden. The object names are "grid",
+/// "findBar", "filterBar" and "tableTitle".
 class VELKGEOMCOREGUI_EXPORT VkTableView : public QWidget, public VkTableViewBase
 {
     Q_OBJECT
@@ -78,6 +79,9 @@ public:
     void copySelection() const;
     void showFindBar();
     void showFilterBar(bool show);
+    /// Quick filters and the order of rows are kept in the application's configuration, by table,
+    /// and come back with it. Not at first.
+    void setFiltersKept(bool kept);
 
 protected:
     void changeEvent(QEvent *event) override;

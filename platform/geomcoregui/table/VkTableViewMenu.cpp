@@ -1,4 +1,5 @@
 #include "TableBar.h"
+#include "TableColumnOrder.h"
 #include "TableColumnWidths.h"
 #include "TableFilterBar.h"
 #include "TableFindBar.h"
@@ -69,7 +70,29 @@ void VkTableViewPrivate::addMenuRows(QMenu *menu, int column)
     filterRow->setCheckable(true);
     filterRow->setChecked(filterBar->isVisible());
     connect(filterRow, &QAction::triggered, this, [this](bool shown) { q->showFilterBar(shown); });
+    if (column >= model->statusColumnCount())
+        connect(addRow(menu, "values", tableText("Nach Werten filtern ..."), {}),
+                &QAction::triggered, this, [this, column] { filterBar->showValues(column); });
     addSortRows(menu, column);
+    addColumnRows(menu, column);
+}
+
+void VkTableViewPrivate::addColumnRows(QMenu *menu, int column)
+{
+    menu->addSeparator();
+    const auto row = [&](const char *name, const QString &text, bool enabled, const auto &action) {
+        QAction *const added = addRow(menu, name, text);
+        added->setEnabled(enabled);
+        connect(added, &QAction::triggered, this, action);
+    };
+    row("columnLeft", tableText("Spalte nach links"), columnOrder->canMove(column, -1),
+        [this, column] { columnOrder->move(column, -1); });
+    row("columnRight", tableText("Spalte nach rechts"), columnOrder->canMove(column, 1),
+        [this, column] { columnOrder->move(column, 1); });
+    row("hideColumn", tableText("Spalte ausblenden"), columnOrder->canHide(column),
+        [this, column] { columnOrder->hide(column); });
+    row("showColumns", tableText("Alle Spalten einblenden"), !columnOrder->hidden().isEmpty(),
+        [this] { columnOrder->showAll(); });
 }
 
 void VkTableViewPrivate::addSortRows(QMenu *menu, int column)

@@ -3,6 +3,8 @@
 #include "TableBar.h"
 #include "TableCellText.h"
 #include "TableClipboard.h"
+#include "TableColumnNames.h"
+#include "TableColumnOrder.h"
 #include "TableColumnWidths.h"
 #include "TableFilterBar.h"
 #include "TableFindBar.h"
@@ -11,6 +13,7 @@
 #include "VkTableModel.h"
 
 #include <geomcore/table/TableData.h>
+#include <gui/application/PApplication.h>
 #include <gui/application/PCommandKeys.h>
 
 #include <QClipboard>
@@ -29,6 +32,7 @@
 namespace {
 
 constexpr double zoomStep = 1.1;
+const QString filterSection = QStringLiteral("TableFilters");
 constexpr int iconSize = 16; // at zoom factor 1
 
 QList<QKeySequence> keysOf(const QStringList &texts)
@@ -58,6 +62,7 @@ VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
     , model(new VkTableModel(this))
     , filterBar(new TableFilterBar(grid, model, view))
     , findBar(new TableFindBar(grid, model, view))
+    , hits(new QLabel(view))
 {
     title->setObjectName(QStringLiteral("tableTitle"));
     title->setTextFormat(Qt::PlainText);
@@ -65,6 +70,11 @@ VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
     grid->setModel(model);
     selection = new TableSelectionLink(grid, model);
     widths = new TableColumnWidths(grid, model);
+    columnOrder = new TableColumnOrder(grid, model);
+    widths->setOrder(columnOrder);
+    hits->setObjectName(QStringLiteral("filterHits"));
+    hits->setTextFormat(Qt::PlainText);
+    hits->hide();
     grid->installEventFilter(this);
     q->setFocusProxy(grid);
     layOut();
@@ -73,7 +83,12 @@ VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
     showTitle();
 }
 
-VkTableViewPrivate::~VkTableViewPrivate() = default;
+VkTableViewPrivate::~VkTableViewPrivate()
+{
+    keepFilters();
+    // It is asked by the widths, which the grid deletes in its own order.
+    widths->setOrder(nullptr);
+}
 
 void VkTableViewPrivate::layOut()
 {
@@ -83,6 +98,7 @@ void VkTableViewPrivate::layOut()
     layout->addWidget(title);
     layout->addWidget(filterBar);
     layout->addWidget(grid, 1);
+    layout->addWidget(hits);
     layout->addWidget(findBar);
 }
 
@@ -101,6 +117,10 @@ void VkTableViewPrivate::connectGrid()
     connect(model, &QAbstractItemModel::modelReset, this, &VkTableViewPrivate::onModelReset);
     connect(model, &VkTableModel::statusColumnCameIntoUse, this,
             [this] { widths->showUsedColumns(); });
+    connect(columnOrder, &TableColumnOrder::hiddenChanged, this, [this] {
+        widths->showUsedColumns();
+        filterBar->retranslate();
+    });
     connect(grid, &TableGrid::cellClicked, this, &VkTableViewPrivate::onCellClicked);
     connect(grid, &TableGrid::lineEntered, this,
             [this](const QModelIndex &index) { onCellClicked(index, Qt::NoButton); });
@@ -118,11 +138,85 @@ void VkTableViewPrivate::setTable(const VKTab::ContentRef &table)
     selection->clear();
     grid->horizontalScrollBar()->setValue(0);
     grid->verticalScrollBar()->setValue(0);
+    keepFilters();
     model->setTable(table);
     selection->connectTable();
     widths->load();
+    columnOrder->load();
+    columnOrder->apply();
     widths->apply();
+    takeFilters();
     showTitle();
+}
+
+/// The filters and the order of the rows, by table: for the next time that it is shown.
+void VkTableViewPrivate::keepFilters()
+{
+    const QString key = TableColumnNames::ofTable(*model);
+    if (!filtersKept || key.isEmpty())
+        return;
+    QStringList entries;
+    for (int column = 0; column < model->columnCount(); ++column) {
+        const QString name = TableColumnNames::encoded(TableColumnNames::ofColumn(*model, column));
+        const VKTab::Var variable = model->variable(column);
+        const QString text =
+            variable.isValid() ? model->quickFilter(variable.getVarId()) : QString();
+        if (!text.isEmpty())
+            entries += name + u':' + TableColumnNames::encoded(text);
+        if (column == model->sortColumn())
+            entries += (model->sortOrder() == Qt::AscendingOrder ? u'<' : u'>') + name;
+    }
+    const QString kept = entries.join(u';');
+    const PRefPtr<PConfig> config = PApplication::getAppConfig();
+    if (config->getItemValue(key, filterSection, QString()).GetString() != kept)
+        config->SetValue(key, filterSection, kept);
+}
+
+void VkTableViewPrivate::takeFilters()
+{
+    const QString key = TableColumnNames::ofTable(*model);
+    if (!filtersKept || key.isEmpty())
+        return;
+    const QString kept =
+        PApplication::getAppConfig()->getItemValue(key, filterSection, QString()).GetString();
+    const QStringList entries = kept.split(u';', Qt::SkipEmptyParts);
+    const auto columnOf = [this](const QString &name) {
+        const QString decoded = TableColumnNames::decoded(name);
+        for (int column = 0; column < model->columnCount(); ++column) {
+            if (TableColumnNames::ofColumn(*model, column) == decoded)
+                return column;
+        }
+        return -1;
+    };
+    for (const QString &entry : entries) {
+        const qsizetype colon = entry.indexOf(u':');
+        const int column = columnOf(colon > 0 ? entry.left(colon) : entry.mid(1));
+        if (column < 0)
+            continue;
+        if (colon > 0)
+            model->setQuickFilter(model->variable(column).getVarId(),
+                                  TableColumnNames::decoded(entry.mid(colon + 1)));
+        else
+            sort(column, entry.startsWith(u'<') ? Qt::AscendingOrder : Qt::DescendingOrder);
+    }
+    // A filter must be seen.
+    if (model->hasQuickFilter())
+        filterBar->setShown(true);
+    filterBar->takeColumns();
+    showHits();
+}
+
+void VkTableViewPrivate::showHits()
+{
+    const ViewLanguage language;
+    hits->setVisible(model->hasQuickFilter());
+    if (!model->hasQuickFilter())
+        return;
+    const int all = model->getTable().getLineMapping().count();
+    hits->setText(model->rowCount() == 0
+                      ? tableText("Keine Zeile passt zu den Spaltenfiltern")
+                      : tableText("%1 von %2 Zeilen")
+                            .arg(QString::number(model->rowCount()), QString::number(all)));
 }
 
 void VkTableViewPrivate::setActive(bool following)
@@ -139,6 +233,7 @@ void VkTableViewPrivate::onModelReset()
         header->setSortIndicator(model->sortColumn(), model->sortOrder());
     }
     widths->apply();
+    showHits();
     grid->doItemsLayout(); // the scroll bars get their ranges
     selection->restore();
 }
@@ -192,6 +287,7 @@ void VkTableViewPrivate::retranslate()
 {
     findBar->retranslate();
     filterBar->retranslate();
+    showHits();
     showTitle();
 }
 

@@ -11,6 +11,7 @@ class QKeyEvent;
 class QLabel;
 QT_END_NAMESPACE
 
+class TableColumnOrder;
 class TableColumnWidths;
 class TableFilterBar;
 class TableFindBar;
@@ -43,6 +44,9 @@ public:
     TableFindBar *findBar;
     TableSelectionLink *selection = nullptr;
     TableColumnWidths *widths = nullptr;
+    TableColumnOrder *columnOrder = nullptr;
+    QLabel *hits; ///< rows that the quick filters leave
+    bool filtersKept = false;
     bool headerVisible = true;
     double zoom = 1;
     boost::signals2::signal<int(const VKTab::Content &, int, const QString &)> iconClicked;
@@ -74,5 +78,9 @@ private:
     void showMenu(VkTableViewBase::PopupArea area, int row, int column, const QPoint &position);
     void addMenuRows(QMenu *menu, int column);
     void addSortRows(QMenu *menu, int column);
+    void addColumnRows(QMenu *menu, int column);
+    void showHits();
+    void keepFilters();
+    void takeFilters();
     void sort(int column, Qt::SortOrder order);
 };
