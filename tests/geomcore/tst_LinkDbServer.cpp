@@ -437,6 +437,24 @@ void tst_LinkDbServer::passwords()
     qputenv("PGPASSFILE", file.fileName().toUtf8());
     QVERIFY(linkDb.open(settings));
     qputenv("PGPASSFILE", "/nonexistent");
+    // The desktop's secret store, by the program that asks it.
+    QFile tool(m_folder->filePath("secret-tool"));
+    QVERIFY(tool.open(QIODevice::WriteOnly));
+    QVERIFY(tool.write("#!/bin/sh\n[ \"$*\" = 'lookup protocol postgresql server 127.0.0.1 user "
+                       "keeper' ] && echo secret\n") > 0);
+    tool.close();
+    QVERIFY(tool.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(!linkDb.open(settings));
+    const QByteArray paths = qgetenv("PATH");
+    qputenv("PATH", m_folder->path().toUtf8() + ':' + paths);
+    QVERIFY2(linkDb.open(settings), qPrintable(linkDb.lastError().text));
+    m_server->endConnections();
+    QCOMPARE(documents(linkDb), 0); // asked again
+    QVERIFY(!linkDb.open(settings, "wrong"));
+    LinkDbSettings other = settings;
+    other.user = "nobody";
+    QVERIFY(!linkDb.open(other));
+    qputenv("PATH", paths);
     // The password is still known when the connection has to be made anew.
     QVERIFY(linkDb.open(settings, "secret"));
     m_server->endConnections();

@@ -1183,10 +1183,6 @@ Please choose another file.</translation>
         <translation>the usual one</translation>
     </message>
     <message>
-        <source>Das Kennwort steht in der Kennwortdatei oder in PGPASSWORD, oder es wird bei der Anmeldung eingegeben. Gespeichert wird es nicht.</source>
-        <translation>The password is in the password file or in PGPASSWORD, or it is entered at log-in. It is not stored.</translation>
-    </message>
-    <message>
         <source>wenn möglich</source>
         <translation>if possible</translation>
     </message>
@@ -1237,6 +1233,10 @@ Please choose another file.</translation>
     <message>
         <source>Verschlüsselun&amp;g:</source>
         <translation>Encryption:</translation>
+    </message>
+    <message>
+        <source>Das Kennwort steht in der Kennwortdatei, im Schlüsselspeicher des Desktops oder in PGPASSWORD, oder es wird bei der Anmeldung eingegeben. Gespeichert wird es nicht.</source>
+        <translation>The password is in the password file, in the desktop&apos;s secret store or in PGPASSWORD, or it is entered at log-in. It is not stored.</translation>
     </message>
 </context>
 <context>

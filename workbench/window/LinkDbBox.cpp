@@ -45,8 +45,9 @@ LinkDbBox::LinkDbBox(const QString &address, const QString &standardFile, QWidge
     m_database->setText(settings.database);
     m_user->setObjectName("linkDbUser");
     m_user->setText(settings.user);
-    m_user->setToolTip(tr("Das Kennwort steht in der Kennwortdatei oder in PGPASSWORD, oder es "
-                          "wird bei der Anmeldung eingegeben. Gespeichert wird es nicht."));
+    m_user->setToolTip(tr("Das Kennwort steht in der Kennwortdatei, im Schlüsselspeicher des "
+                          "Desktops oder in PGPASSWORD, oder es wird bei der Anmeldung eingegeben. "
+                          "Gespeichert wird es nicht."));
     m_encryption->setObjectName("linkDbEncryption");
     m_encryption->addItem(tr("wenn möglich"), QString());
     m_encryption->addItem(tr("immer"), "require");

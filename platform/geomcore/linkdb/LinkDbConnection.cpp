@@ -1,11 +1,7 @@
 #include "LinkDbConnection.h"
 
-#include "LinkDbSchema.h"
-
 #include <core/text/PString.h>
 
-#include <QDir>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSqlDriver>
 #include <QSqlError>
@@ -18,7 +14,6 @@
 
 namespace {
 
-constexpr int busyMs = 50;                   ///< the driver's own wait for a lock
 constexpr std::chrono::seconds patience{10}; ///< all waits for a lock of a file
 constexpr int commitLooks = 20;              ///< at a commit whose answer was lost
 constexpr int commitLookMs = 100;
@@ -27,12 +22,6 @@ QString nextConnection()
 {
     static std::atomic<quint64> count = 0;
     return QStringLiteral("velk-linkdb-%1").arg(++count);
-}
-
-QString accountName()
-{
-    const QString user = qEnvironmentVariable("USER");
-    return user.isEmpty() ? qEnvironmentVariable("USERNAME") : user;
 }
 
 /// The names in a table's own spelling: the driver of SQLite drops quotes from those of a result.
@@ -47,19 +36,6 @@ std::optional<QString> tableOfStar(const QString &sql)
 }
 
 } // namespace
-
-QString LinkDbConnection::notConnected()
-{
-    return PString::translate("Es besteht keine Verbindung zu einer Linkdatenbank. Sie wird in den "
-                              "Einstellungen gewählt.",
-                              "VelkGeomCore");
-}
-
-QString LinkDbConnection::cannotBeOpened(const QString &why) const
-{
-    return PString::translate("Die Linkdatenbank %1 kann nicht geöffnet werden: %2", "VelkGeomCore")
-        .arg(m_settings.displayName(), why);
-}
 
 LinkDbConnection::LinkDbConnection()
     : m_connection(nextConnection())
@@ -82,119 +58,6 @@ bool LinkDbConnection::fail(const QString &text, const QString &statement, bool 
 {
     m_error = {text, statement, {}, lost, false};
     return false;
-}
-
-bool LinkDbConnection::open(const LinkDbSettings &settings, const QString &password)
-{
-    close();
-    m_settings = settings;
-    m_password = password;
-    m_lostChanges = 0;
-    m_error = {};
-    if (!connectNow())
-        return false;
-    if (LinkDbSchema::bringUpToDate(*this)) {
-        m_wanted = true;
-        return true;
-    }
-    disconnectNow();
-    return false;
-}
-
-bool LinkDbConnection::connectNow()
-{
-    if (m_settings.kind == LinkDbSettings::Kind::None)
-        return fail(notConnected());
-    const QString driver = isPostgreSQL() ? QStringLiteral("QPSQL") : QStringLiteral("QSQLITE");
-    QSqlDatabase connection = QSqlDatabase::addDatabase(driver, m_connection);
-    if (!connection.isValid())
-        return fail(PString::translate("Der Treiber %1 für die Linkdatenbank fehlt", "VelkGeomCore")
-                        .arg(driver));
-    if (isPostgreSQL()) {
-        connection.setDatabaseName(m_settings.database);
-        connection.setHostName(m_settings.host);
-        if (m_settings.port > 0)
-            connection.setPort(m_settings.port);
-        connection.setUserName(m_settings.user);
-        connection.setPassword(m_password);
-        connection.setConnectOptions(
-            QStringLiteral("connect_timeout=%1;keepalives_idle=30;keepalives_interval=10;"
-                           "tcp_user_timeout=30000;application_name=velklinkdb;sslmode=%2")
-                .arg(QString::number(m_settings.connectSeconds),
-                     m_settings.sslMode.isEmpty() ? QStringLiteral("prefer") : m_settings.sslMode));
-    } else {
-        const QFileInfo info(PString::ResolveEnvirons(m_settings.file));
-        if ((info.exists() || info.isSymLink()) && !info.isFile())
-            return fail(cannotBeOpened(QStringLiteral("not a regular file")));
-        if (m_settings.readOnly && !info.exists())
-            return fail(PString::translate("Die Linkdatenbank %1 gibt es nicht", "VelkGeomCore")
-                            .arg(info.filePath()));
-        if (!m_settings.readOnly)
-            QDir().mkpath(info.absolutePath()); // opening fails if that does
-        connection.setDatabaseName(info.absoluteFilePath());
-        connection.setConnectOptions(
-            QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1%2")
-                .arg(QString::number(busyMs),
-                     m_settings.readOnly ? QStringLiteral(";QSQLITE_OPEN_READONLY") : QString()));
-    }
-    m_open = connection.open();
-    if (!m_open) {
-        const QSqlError error = connection.lastError();
-        connection = QSqlDatabase();
-        disconnectNow();
-        const QString why = error.databaseText().trimmed();
-        return fail(cannotBeOpened(why.isEmpty() ? error.driverText() : why));
-    }
-    m_userName = m_settings.user.isEmpty() ? accountName() : m_settings.user;
-    if (!isPostgreSQL())
-        return true;
-    Result who;
-    const QString mode = m_settings.readOnly ? QStringLiteral("on") : QStringLiteral("off");
-    if (run(QStringLiteral("SET client_min_messages = warning")) &&
-        run(QStringLiteral("SET default_transaction_read_only = ") + mode) &&
-        run(QStringLiteral("SELECT current_user, pg_backend_pid()"), &who) && !who.rows.isEmpty()) {
-        m_userName = who.rows.first().value(0).toString();
-        m_backend = who.rows.first().value(1).toLongLong();
-        return true;
-    }
-    disconnectNow();
-    return false;
-}
-
-void LinkDbConnection::disconnectNow()
-{
-    m_backend = 0;
-    m_open = false;
-    m_pending = false;
-    m_pendingStatements = 0;
-    if (!QSqlDatabase::contains(m_connection))
-        return;
-    database().close();
-    QSqlDatabase::removeDatabase(m_connection);
-}
-
-void LinkDbConnection::close()
-{
-    if (m_pending)
-        static_cast<void>(rollback());
-    m_wanted = false;
-    disconnectNow();
-}
-
-bool LinkDbConnection::ready()
-{
-    if (m_open)
-        return true;
-    if (!m_wanted)
-        return fail(notConnected());
-    if (!connectNow()) {
-        m_error.lost = true;
-        return false;
-    }
-    m_notices.append(
-        PString::translate("Die Verbindung zur Linkdatenbank %1 besteht wieder", "VelkGeomCore")
-            .arg(m_settings.displayName()));
-    return true;
 }
 
 bool LinkDbConnection::isLost(const QSqlError &error)
@@ -249,7 +112,7 @@ bool LinkDbConnection::execute(QSqlQuery &query, const QString &sql)
         const bool busy = !isPostgreSQL() && (code == 5 || code == 6);
         if (!busy || m_cancelled || std::chrono::steady_clock::now() > end)
             return note(query, sql);
-        QThread::msleep(busyMs / 2);
+        QThread::msleep(BusyMs / 2);
     }
     return true;
 }

@@ -85,8 +85,11 @@ public:
     [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
 
 private:
+    static constexpr int BusyMs = 50; ///< the driver's own wait for a lock
+
     [[nodiscard]] QSqlDatabase database() const;
     [[nodiscard]] bool connectNow();
+    [[nodiscard]] bool openWithSecret(QSqlDatabase &connection) const;
     [[nodiscard]] QString cannotBeOpened(const QString &why) const;
     void disconnectNow();
     [[nodiscard]] bool ready();

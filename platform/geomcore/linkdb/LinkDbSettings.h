@@ -5,8 +5,8 @@
 #include <QString>
 
 /// Where a link database is. There is no place for a password: that comes from the environment
-/// (PGPASSWORD), from the user's password file (PGPASSFILE, "~/.pgpass") or from a log-in, and is
-/// never kept.
+/// (PGPASSWORD), from the user's password file (PGPASSFILE, "~/.pgpass"), from the desktop's secret
+/// store or from a log-in, and is never kept.
 ///
 /// As a text: "sqlite:FILE", or the path of a file alone, or
 /// "postgresql://[USER@][HOST][:PORT]/DATABASE[?sslmode=MODE]" with the modes of PostgreSQL. The
