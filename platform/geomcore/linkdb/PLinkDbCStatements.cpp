@@ -4,6 +4,10 @@
 #include "PLinkDbC.h"
 #include "PLinkDbCPrivate.h"
 
+#include <QUuid>
+
+#include <utility>
+
 namespace {
 
 class LinkDbQuery : public PLinkDbQueryI
