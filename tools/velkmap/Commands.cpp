@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "AssignCommand.h"
+#include "ChainCommand.h"
 #include "CreateCommand.h"
 #include "ExplainCommand.h"
 #include "ExportCommand.h"
@@ -54,6 +55,7 @@ const QList<Command> &commands()
         {"share", "shares a mapping file with others, and tells who works on it", runShare},
         {"update", "merges what others published into a shared mapping file", runUpdate},
         {"publish", "makes a shared mapping file the newest shared copy", runPublish},
+        {"chain", "writes the mapping over two that follow each other", runChain},
         {"stats", "counts the lines by their state", runStats},
         {"export", "writes a release mapping as a CSV file", runExport},
         {"review", "groups the open lines by how they differ from their proposals", runReview},
