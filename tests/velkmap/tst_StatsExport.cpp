@@ -2,9 +2,9 @@
 #include "../support/TestCatalog.h"
 
 #include <geomcore/records/MappingFile.h>
+#include <release/export/MappingTable.h>
 #include <release/history/JournalRow.h>
 #include <tools/velkmap/Commands.h>
-#include <tools/velkmap/ExportCommand.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -90,7 +90,7 @@ class tst_StatsExport : public QObject
 private Q_SLOTS:
     void exportsOneRowASourceLineInOrder()
     {
-        QCOMPARE(velkmap::exportedRows(someRelease()),
+        QCOMPARE(VelkRelease::mappingTable(someRelease()),
                  QByteArray("source_path,source_version,source_line,target_path,target_line,state,"
                             "conflict,extended\n"
                             "\"cat/a,b.prj\",v260101000000,1,,-1,0,0,\n"
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(run({"export", "--mapping", mapping, "--csv", csv}), ExitStatus::Done);
         QFile file(csv);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), velkmap::exportedRows(someRelease()));
+        QCOMPARE(file.readAll(), VelkRelease::mappingTable(someRelease()));
         QVERIFY(m_err.isEmpty());
     }
 

@@ -2,15 +2,13 @@
 
 #include "CatalogRoots.h"
 #include "CommandLine.h"
+#include "InterruptGuard.h"
 #include "LinkDbOption.h"
 #include "ReleaseFile.h"
 
 #include <core/files/DurableFile.h>
-#include <core/parallel/WorkerPool.h>
-#include <geomcore/csv/csvCell.h>
 #include <geomcore/erp/LinkDbErpNumbers.h>
-#include <geomcore/records/MappingRows.h>
-#include <release/pattern/OpenPairs.h>
+#include <release/export/MappingTable.h>
 
 #include <QTextStream>
 
@@ -18,62 +16,15 @@ namespace velkmap {
 
 namespace {
 
-QByteArray reasonCells(const MappingRow &row, const QHash<int, LineReason> &reasons)
-{
-    const auto reason = row.entry.getState() == PRJMAPPING::ToCheck && !row.entry.getConflict() &&
-                                row.entry.getTargetLineId() != -1
-                            ? reasons.constFind(row.sourceLine)
-                            : reasons.cend();
-    if (reason == reasons.cend())
-        return ",,";
-    return ',' + QByteArray::number(reason->probability, 'f', 4) + ',' + csvCell(reason->reason);
-}
-
-void appendMapping(QByteArray &out, const PrjMappingC &mapping,
-                   const QHash<int, LineReason> *reasons, const QHash<int, QString> *numbers)
-{
-    const QList<PrjMappingTargetC> targets = mapping.getTargets();
-    QList<QByteArray> paths;
-    for (const PrjMappingTargetC &target : targets)
-        paths << csvCell(target.getTargetPath());
-    const QByteArray source =
-        csvCell(mapping.getSourcePath()) + ',' + csvCell(mapping.getSourceVersion());
-    for (const MappingRow &row : mappingRows(mapping)) {
-        const int targetLine = row.entry.getTargetLineId();
-        out += source + ',' + QByteArray::number(row.sourceLine) + ',' +
-               (targetLine == -1 ? QByteArray() : paths.at(row.target)) + ',' +
-               QByteArray::number(targetLine) + ',' +
-               QByteArray::number(int(row.entry.getState())) + ',' +
-               (row.entry.getConflict() ? '1' : '0') + ',' + csvCell(row.entry.getExtended()) +
-               (reasons ? reasonCells(row, *reasons) : QByteArray()) +
-               (numbers ? ',' + csvCell(numbers->value(row.sourceLine)) : QByteArray()) + '\n';
-    }
-}
-
-LineReasons reasonsOf(const ReleaseMappingC &release, const QString &sourceRoot,
-                      QStringList &errors)
-{
-    LineReasons reasons(size_t(release.countMappings()));
-    std::vector<QStringList> texts(reasons.size());
-    WorkerPool::instance().run(release.countMappings(), [&](int i) {
-        const PrjMappingC mapping = release.mappingAt(i);
-        for (const VelkRelease::OpenPair &pair :
-             VelkRelease::readOpenPairs(sourceRoot, mapping, release,
-                                        VelkRelease::openProposals(mapping), texts[size_t(i)])) {
-            if (pair.comparable)
-                reasons[size_t(i)].insert(pair.line, {pair.probability, pair.reason});
-        }
-    });
-    for (const QStringList &some : texts)
-        errors += some;
-    return reasons;
-}
+using VelkRelease::LineNumberColumn;
+using VelkRelease::lineReasons;
+using VelkRelease::mappingTable;
 
 /// Nothing if the link database cannot be read; then the message says why.
-std::optional<LineNumbers> numbersOf(const ReleaseMappingC &release, QTextStream &err)
+std::optional<LineNumberColumn> numbersOf(const ReleaseMappingC &release, QTextStream &err)
 {
     LinkDbErpNumbers source;
-    LineNumbers numbers(size_t(release.countMappings()));
+    LineNumberColumn numbers(size_t(release.countMappings()));
     for (int i = 0; i < release.countMappings(); ++i) {
         QString error;
         const auto read = source.numbersOf(release.mappingAt(i).getSourcePath(), {}, &error);
@@ -98,19 +49,6 @@ ExitStatus save(const QString &path, const QByteArray &rows, QTextStream &err)
 
 } // namespace
 
-QByteArray exportedRows(const ReleaseMappingC &release, const LineReasons *reasons,
-                        const LineNumbers *numbers)
-{
-    QByteArray out = "source_path,source_version,source_line,target_path,target_line,state,"
-                     "conflict,extended";
-    out += reasons ? ",probability,reason" : "";
-    out += numbers ? ",erp_number\n" : "\n";
-    for (int i = 0; i < release.countMappings(); ++i)
-        appendMapping(out, release.mappingAt(i), reasons ? &(*reasons)[size_t(i)] : nullptr,
-                      numbers ? &(*numbers)[size_t(i)] : nullptr);
-    return out;
-}
-
 ExitStatus runExport(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
     CommandLine line("export",
@@ -131,24 +69,28 @@ ExitStatus runExport(const QStringList &arguments, QTextStream &out, QTextStream
     LinkDbOption linkDb;
     if (const auto failed = linkDb.open(line, err))
         return *failed;
-    std::optional<LineNumbers> numbers;
+    std::optional<LineNumberColumn> numbers;
     if (line.isSet("linkdb")) {
         numbers = numbersOf(file.release(), err);
         if (!numbers)
             return ExitStatus::InputUnreadable;
     }
-    const LineNumbers *const withNumbers = numbers ? &*numbers : nullptr;
+    const LineNumberColumn *const withNumbers = numbers ? &*numbers : nullptr;
     if (!line.isSet("reasons"))
-        return save(line.value("csv"), exportedRows(file.release(), nullptr, withNumbers), err);
+        return save(line.value("csv"), mappingTable(file.release(), nullptr, withNumbers), err);
     CatalogRoots roots;
     if (const auto failed = roots.take(line, "export", err))
         return *failed;
     QStringList errors;
-    const LineReasons reasons = reasonsOf(file.release(), roots.source(), errors);
+    const InterruptGuard guard;
+    const auto reasons =
+        lineReasons(file.release(), roots.source(), errors, InterruptGuard::isRequested());
+    if (!reasons)
+        return ExitStatus::Interrupted;
     for (const QString &error : std::as_const(errors))
         err << "velkmap export: " << error << '\n';
     const ExitStatus saved =
-        save(line.value("csv"), exportedRows(file.release(), &reasons, withNumbers), err);
+        save(line.value("csv"), mappingTable(file.release(), &*reasons, withNumbers), err);
     return saved == ExitStatus::Done && !errors.isEmpty() ? ExitStatus::InputUnreadable : saved;
 }
 
