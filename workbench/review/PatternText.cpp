@@ -7,8 +7,6 @@
 
 namespace PatternText {
 
-namespace {
-
 VelkRelease::ValueChange::Words words()
 {
     return {QCoreApplication::translate("PatternText", "Zahl in der Nähe"),
@@ -17,8 +15,6 @@ VelkRelease::ValueChange::Words words()
             QCoreApplication::translate("PatternText", "Wert hinzugekommen"),
             QCoreApplication::translate("PatternText", "Wert fehlt")};
 }
-
-} // namespace
 
 QString of(const QList<VelkRelease::ValueChange> &changes)
 {

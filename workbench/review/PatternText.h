@@ -11,6 +11,8 @@ namespace PatternText {
 [[nodiscard]] QString of(const VelkRelease::DifferencePatterns &patterns, int pattern);
 [[nodiscard]] QString of(const QList<VelkRelease::ValueChange> &changes);
 [[nodiscard]] QString of(const AgreedReplacement &replacement);
+/// What changes without a notation of their own are called.
+[[nodiscard]] VelkRelease::ValueChange::Words words();
 /// "93 %"; never 100 % for less.
 [[nodiscard]] QString percent(double share);
 

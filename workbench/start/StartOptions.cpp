@@ -12,7 +12,7 @@ using Outcome = StartOptions::Outcome;
 
 QStringList dialogs()
 {
-    return {"formula", "search", "links", "proof"};
+    return {"formula", "search", "links", "proof", "documents"};
 }
 
 void addOptions(QCommandLineParser &parser)

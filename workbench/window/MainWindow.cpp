@@ -17,6 +17,7 @@
 #include "PluginActions.h"
 #include "QtTexts.h"
 #include "Question.h"
+#include "ReleaseCommands.h"
 #include "RemoteCatalogs.h"
 #include "ReviewCommands.h"
 #include "ScriptDesk.h"
@@ -58,6 +59,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_neighbours(new NeighbourCommands(m_desk->document(), m_editor, this))
     , m_conflicts(new ConflictCommands(m_desk->document(), m_editor, this))
     , m_share(new ShareCommands(m_desk, m_editor, this))
+    , m_release(new ReleaseCommands(m_desk->document(), settings->store(), this))
     , m_states(new LineStateFilter(this))
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
     , m_linkDb(new LinkDbHost(plugin, this))
@@ -143,6 +145,8 @@ void MainWindow::connectParts()
     connect(m_desk, &DocumentDesk::noted, this, note);
     connect(m_lines, &LineCommands::noted, this, note);
     connect(m_history, &HistoryCommands::noted, this, note);
+    m_release->setLanguage(m_language);
+    connect(m_release, &ReleaseCommands::noted, this, note);
     connect(m_lines, &LineCommands::done, this, [this](const QString &text) {
         m_status->showNote(text, m_desk->document()->canUndo());
     });
@@ -328,6 +332,7 @@ void MainWindow::applySettings()
     m_language = values.language;
     QtTexts::setLanguage(m_language);
     PTranslateManager::instance().setLanguage(m_language);
+    m_release->setLanguage(m_language);
     // The editor's widgets take their texts when they are made.
     m_editor->rebuild();
 }

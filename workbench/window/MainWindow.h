@@ -22,6 +22,7 @@ class NeighbourCommands;
 class PLinkDbGuiI;
 class PluginActions;
 class PMessageSinkScope;
+class ReleaseCommands;
 class RemoteCatalogs;
 class ReviewCommands;
 class ScriptDesk;
@@ -53,6 +54,7 @@ public:
     [[nodiscard]] LineCommands *lines() const { return m_lines; }
     [[nodiscard]] ReviewCommands *review() const { return m_review; }
     [[nodiscard]] NeighbourCommands *neighbours() const { return m_neighbours; }
+    [[nodiscard]] ReleaseCommands *releases() const { return m_release; }
     [[nodiscard]] ConflictCommands *conflicts() const { return m_conflicts; }
     [[nodiscard]] ShareCommands *share() const { return m_share; }
     [[nodiscard]] LogWindow *log() const { return m_log; }
@@ -118,6 +120,7 @@ private:
     NeighbourCommands *const m_neighbours;
     ConflictCommands *const m_conflicts;
     ShareCommands *const m_share;
+    ReleaseCommands *const m_release;
     LineStateFilter *const m_states;
     RemoteCatalogs *const m_remote;
     LinkDbHost *const m_linkDb;

@@ -11,6 +11,7 @@
 #include "LocatorDesk.h"
 #include "LogWindow.h"
 #include "PluginActions.h"
+#include "ReleaseCommands.h"
 #include "RemoteCatalogs.h"
 #include "ScriptDesk.h"
 #include "StatusArea.h"
@@ -68,7 +69,9 @@ void MainWindow::buildMenus()
          {WorkbenchActions::ShareFile, WorkbenchActions::ShareUpdate,
           WorkbenchActions::SharePublish, WorkbenchActions::ShareFolders,
           WorkbenchActions::ShareWho});
-    fill(file, m_actions, {Separator, WorkbenchActions::Quit});
+    fill(file, m_actions,
+         {Separator, WorkbenchActions::ImportTables, WorkbenchActions::ExportLines,
+          WorkbenchActions::WriteReport, Separator, WorkbenchActions::Quit});
     QMenu *const edit = addMenu("editMenu");
     fill(edit, m_actions,
          {WorkbenchActions::Undo, WorkbenchActions::Redo, Separator, WorkbenchActions::ConfirmLines,
@@ -187,6 +190,9 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::SaveAs, [this] { m_desk->saveAs(); });
     connectTo(WorkbenchActions::CloseFile, [this] { m_desk->close(); });
     connectTo(WorkbenchActions::CatalogRoots, [this] { m_desk->changeRoots(); });
+    connectTo(WorkbenchActions::ImportTables, [this] { m_release->importByDialog(); });
+    connectTo(WorkbenchActions::ExportLines, [this] { m_release->exportByDialog(); });
+    connectTo(WorkbenchActions::WriteReport, [this] { m_release->reportByDialog(); });
     connectTo(WorkbenchActions::Quit, [this] { close(); });
     connectTo(WorkbenchActions::Undo, [this] { m_desk->document()->undo(); });
     connectTo(WorkbenchActions::Redo, [this] { m_desk->document()->redo(); });

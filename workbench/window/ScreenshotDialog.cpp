@@ -11,9 +11,11 @@
 #include <selection/dlgSearchSelect.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QEventLoop>
 #include <QTimer>
+#include <QTreeWidget>
 
 namespace {
 
@@ -24,6 +26,7 @@ constexpr QSize formulaSize(560, 260);
 constexpr QSize searchSize(640, 520);
 constexpr int linksMilliseconds = 100;
 constexpr QSize linksSize(900, 420);
+constexpr QSize documentsSize(1000, 420);
 
 QPixmap grabLater(QWidget &dialog, const QSize &size, int milliseconds)
 {
@@ -55,6 +58,24 @@ QPixmap search(const QString &text)
     return grabLater(dialog, searchSize, searchMilliseconds);
 }
 
+/// Of the selected line. The dialog is modal, so it is taken while its own loop runs.
+QPixmap documents()
+{
+    QPixmap picture;
+    QTimer::singleShot(linksMilliseconds, qApp, [&picture] {
+        auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        auto *const list = dialog->findChild<QTreeWidget *>("tvDocuments");
+        if (list && list->topLevelItemCount() > 0)
+            list->setCurrentItem(list->topLevelItem(0));
+        picture = grabLater(*dialog, documentsSize, linksMilliseconds);
+        dialog->reject();
+    });
+    PApplicationPool::instance().action("LinkDbAddToDb")->trigger();
+    return picture;
+}
+
 QPixmap ofLinkDb(const QString &name, const QString &address, const MainWindow &window)
 {
     LinkDbHost *const host = window.linkDb();
@@ -66,6 +87,8 @@ QPixmap ofLinkDb(const QString &name, const QString &address, const MainWindow &
     }
     if (host->state() != LinkDbHost::Connected)
         return {};
+    if (name == QLatin1String("documents"))
+        return documents();
     const bool isProof = name == QLatin1String("proof");
     QAction *const action = isProof ? window.findChild<QAction *>("proveNumbers")
                                     : PApplicationPool::instance().action("CallLinkMgr");
@@ -83,6 +106,6 @@ QPixmap ScreenshotDialog::take(const QString &name, const QString &text, const M
         return formula(text, *window.editor());
     if (name == QLatin1String("search"))
         return search(text);
-    const bool isOfLinkDb = name == QLatin1String("links") || name == QLatin1String("proof");
+    const bool isOfLinkDb = QStringList{"links", "proof", "documents"}.contains(name);
     return isOfLinkDb ? ofLinkDb(name, text, window) : QPixmap();
 }

@@ -6,8 +6,8 @@
 class MainWindow;
 
 /// Renders one of the editor's dialogs by its name: "formula" or "search" with a text in it, a
-/// statement over the variables of the open project, or words to search for in its catalog; "links"
-/// or "proof" over the link database whose address the text is.
+/// statement over the variables of the open project, or words to search for in its catalog; "links",
+/// "proof" or, of the selected line, "documents" over the link database whose address the text is.
 class ScreenshotDialog
 {
 public:

@@ -1,0 +1,329 @@
+#include "ModalScript.h"
+#include "WindowFixture.h"
+
+#include <core/files/EditLock.h>
+#include <core/json/PJsonValue.h>
+#include <core/progress/PProgress.h>
+#include <geomcore/records/MappingFile.h>
+#include <gui/progress/DefaultObserverDelegate.h>
+#include <gui/progress/ProgressDisplayI.h>
+#include <release/export/MappingTable.h>
+#include <workbench/review/ReportTexts.h>
+#include <workbench/window/DocumentDesk.h>
+#include <workbench/window/LogWindow.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/ReleaseCommands.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <QAction>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSet>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+/// Cancels all work as soon as it is shown.
+class Cancelling : public ProgressDisplayI
+{
+public:
+    void showProgress(const QList<PProgressInfo> &running) override
+    {
+        for (const PProgressInfo &info : running) {
+            if (info.cancel)
+                info.cancel->request();
+        }
+    }
+    [[nodiscard]] bool acceptsInput(const QWidget *) const override { return false; }
+};
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+} // namespace
+
+class tst_ReleaseCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTextIsThere();
+    void menu();
+    void report();
+    void paper();
+    void reportByMenu();
+    void exportsLines();
+    void cancelled_data();
+    void cancelled();
+    void unwritable();
+    void importsAFolder();
+    void importFaults();
+    void importByMenu();
+};
+
+/// Each number of the report has a text of its own, in both languages.
+void tst_ReleaseCommands::everyTextIsThere()
+{
+    const VelkRelease::ReportForm form = ReportTexts::form("de");
+    QSet<QString> texts;
+    for (int i = 0; i < int(VelkRelease::ReportText::Count); ++i)
+        texts << form.text(VelkRelease::ReportText(i));
+    QCOMPARE(texts.size(), int(VelkRelease::ReportText::Count));
+    for (int i = 0; i < VelkRelease::OpenReasonCount; ++i)
+        texts << form.reason(VelkRelease::OpenReason(i));
+    QCOMPARE(texts.size(), int(VelkRelease::ReportText::Count) + VelkRelease::OpenReasonCount);
+    QVERIFY(!texts.contains(QString()));
+    QCOMPARE(form.text(VelkRelease::ReportText::Title), "Mapping-Bericht: %1");
+    QCOMPARE(form.text(VelkRelease::ReportText::More), "und %1 weitere");
+    QCOMPARE(form.reason(VelkRelease::OpenReason::Unconfirmed), "gleich, nur nicht bestätigt");
+}
+
+void tst_ReleaseCommands::menu()
+{
+    WindowFixture fixture;
+    QVERIFY(fixture.action("fileImport")->isEnabled());
+    QVERIFY(!fixture.action("fileExport")->isEnabled());
+    QVERIFY(!fixture.action("fileReport")->isEnabled());
+    fixture.open(fixture.mappingFile());
+    for (const char *name : {"fileImport", "fileExport", "fileReport"}) {
+        QVERIFY(fixture.action(name)->isEnabled());
+        QVERIFY(fixture.action(name)->text().contains('&'));
+    }
+}
+
+void tst_ReleaseCommands::report()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    ReleaseCommands *const commands = fixture.window->releases();
+    commands->setLanguage("de");
+    const QSignalSpy noted(commands, &ReleaseCommands::noted);
+    MappingDocument *const document = fixture.window->desk()->document();
+    PrjMappingC mapping = document->release().mappingAt(0);
+    PrjMappingTargetC target = mapping.targetAt(0);
+    target.addLineId(1, 1, PRJMAPPING::Verified, QString());
+    mapping.updateTarget(0, target);
+    document->beginStep("<Schritt & Tat>");
+    document->updateMapping(mapping);
+    document->endStep();
+    PJsonValue note(PJsonValue::Object);
+    note[QStringLiteral("judge")] = PJsonValue(QStringLiteral("anna"));
+    note[QStringLiteral("lines")] = PJsonValue::fromInt(345);
+    note[QStringLiteral("judged")] = PJsonValue::fromInt(59);
+    note[QStringLiteral("right")] = PJsonValue::fromInt(59);
+    note[QStringLiteral("bound")] = PJsonValue(QStringLiteral("0.049500"));
+    document->writeNote("sample", note);
+    const QString file = fixture.directory.filePath("report.html");
+    QVERIFY(commands->writeReport(file));
+    QCOMPARE(noted.last().first().toString(), "Bericht nach " + file + " geschrieben");
+    const QString html = QString::fromUtf8(contentOf(file));
+    const LineCounts &counts = document->counts();
+    QVERIFY(html.contains("<title>Mapping-Bericht: m.json</title>"));
+    QVERIFY(html.contains("<html lang=\"de\">"));
+    QVERIFY(html.contains(
+        QString("<td>Zeilen</td><td class=\"n\" align=\"right\">%1</td>").arg(counts.lines())));
+    QVERIFY(html.contains("standardparts/screws/din933.prj:"));
+    QVERIFY(html.contains("zu unähnlich"));
+    QVERIFY(html.contains("standardparts/plugs/din908.prj (Tabelle nicht lesbar)"));
+    QVERIFY(html.contains("<td>" + EditLock::self().user.toHtmlEscaped() +
+                          "</td><td>&lt;Schritt &amp; Tat&gt;</td>"));
+    QVERIFY(html.contains("<td>anna</td><td class=\"n\" align=\"right\">345</td>"));
+    QVERIFY(html.contains("5.0 %"));
+}
+
+void tst_ReleaseCommands::paper()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    const QString file = fixture.directory.filePath("report.PDF");
+    QVERIFY(fixture.window->releases()->writeReport(file));
+    const QByteArray bytes = contentOf(file);
+    QVERIFY(bytes.startsWith("%PDF-"));
+    QVERIFY(bytes.trimmed().endsWith("%%EOF"));
+    QVERIFY(bytes.count("/Type /Page\n") > 5);
+}
+
+void tst_ReleaseCommands::reportByMenu()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    const QString file = fixture.directory.filePath("named.html");
+    ModalScript script;
+    script.then([&](QWidget *dialog) {
+        script.note(dialog);
+        auto *const files = qobject_cast<QFileDialog *>(dialog);
+        QVERIFY(files);
+        QCOMPARE(QFileInfo(files->selectedFiles().value(0)).fileName(), "m.pdf");
+        files->selectFile(file);
+        static_cast<QDialog *>(files)->accept();
+    });
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    fixture.action("fileReport")->trigger();
+    QCOMPARE(script.seen, QStringList{"ReportFileDialog"});
+    QVERIFY(contentOf(file).startsWith("<!DOCTYPE html>"));
+    QCOMPARE(fixture.settings->store()->value("Report/folder").toString(), QFileInfo(file).path());
+}
+
+void tst_ReleaseCommands::exportsLines()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    const QString file = fixture.directory.filePath("lines.csv");
+    QVERIFY(fixture.window->releases()->exportLines(file));
+    const QList<QByteArray> rows = contentOf(file).split('\n');
+    QCOMPARE(rows.first(), "source_path,source_version,source_line,target_path,target_line,state,"
+                           "conflict,extended,probability,reason");
+    const MappingDocument *const document = fixture.window->desk()->document();
+    QCOMPARE(rows.size() - 2, document->counts().lines());
+    // What stands before the reasons is what the release says without them.
+    const QList<QByteArray> plain = VelkRelease::mappingTable(document->release()).split('\n');
+    QCOMPARE(plain.size(), rows.size());
+    for (int i = 0; i < plain.size(); ++i)
+        QVERIFY(rows[i].startsWith(plain[i]));
+}
+
+void tst_ReleaseCommands::cancelled_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::newRow("report") << "report.html";
+    QTest::newRow("export") << "lines.csv";
+    QTest::newRow("import") << "import";
+}
+
+void tst_ReleaseCommands::cancelled()
+{
+    QFETCH(QString, what);
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    ReleaseCommands *const commands = fixture.window->releases();
+    const QSignalSpy noted(commands, &ReleaseCommands::noted);
+    const QString place = fixture.directory.filePath(what);
+    DefaultObserverDelegate::setTimes(0, 0);
+    DefaultObserverDelegate::setDisplay(std::make_shared<Cancelling>());
+    PProgress::setInterval(std::chrono::milliseconds(0));
+    if (what == "import")
+        QVERIFY(!commands->importFolder(WindowFixture::roots().source, place));
+    else
+        QVERIFY(
+            !(what.endsWith("csv") ? commands->exportLines(place) : commands->writeReport(place)));
+    PProgress::setInterval(std::chrono::milliseconds(50));
+    DefaultObserverDelegate::setDisplay(nullptr);
+    DefaultObserverDelegate::setTimes(500, 100);
+    QVERIFY2(noted.last().first().toString().startsWith("Abgebrochen"),
+             qPrintable(noted.last().first().toString()));
+    if (what != "import")
+        QVERIFY(!QFile::exists(place));
+}
+
+void tst_ReleaseCommands::unwritable()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    for (const char *name : {"no/report.html", "no/report.pdf", "no/lines.csv"}) {
+        const QString file = fixture.directory.filePath(name);
+        ModalScript script;
+        QString told;
+        script.then([&](QWidget *dialog) {
+            told = dialog->property("text").toString();
+            dialog->close();
+        });
+        QVERIFY(!(file.endsWith("csv") ? fixture.window->releases()->exportLines(file)
+                                       : fixture.window->releases()->writeReport(file)));
+        QCOMPARE(told, file + " kann nicht geschrieben werden.");
+    }
+}
+
+void tst_ReleaseCommands::importsAFolder()
+{
+    WindowFixture fixture;
+    ReleaseCommands *const commands = fixture.window->releases();
+    const QSignalSpy noted(commands, &ReleaseCommands::noted);
+    const QString from = fixture.directory.filePath("tables");
+    const QString into = fixture.directory.filePath("new/cat");
+    QVERIFY(QDir().mkpath(QFileInfo(into).path()));
+    write(from + "/screws/a.csv", "Name,D\nB8,8\nB9,9\n");
+    write(from + "/b.csv", "Name,D\nN8,8\n");
+    QVERIFY(commands->importFolder(from, into));
+    QCOMPARE(noted.last().first().toString(),
+             "2 Tabellen mit 3 Zeilen: 2 neu, 0 geändert, 0 unverändert, 0 nicht importiert");
+    QVERIFY(QFile::exists(into + "/screws/a.prj") && QFile::exists(into + "/b.json"));
+    QVERIFY(QFile::remove(from + "/b.csv"));
+    write(from + "/screws/a.csv", "Name,D\nB8,8\nB9,10\n");
+    QVERIFY(commands->importFolder(from, into));
+    QCOMPARE(noted.last().first().toString(),
+             "1 Tabellen mit 2 Zeilen: 0 neu, 1 geändert, 0 unverändert, 0 nicht importiert");
+    QVERIFY(fixture.window->log()->text().contains("b.prj hat keine CSV-Datei mehr"));
+    QVERIFY(QFile::exists(into + "/b.prj"));
+}
+
+void tst_ReleaseCommands::importFaults()
+{
+    WindowFixture fixture;
+    ReleaseCommands *const commands = fixture.window->releases();
+    const QSignalSpy noted(commands, &ReleaseCommands::noted);
+    const QString from = fixture.directory.filePath("tables");
+    const QString into = fixture.directory.filePath("cat");
+    QVERIFY(QDir().mkpath(from));
+    QVERIFY(!commands->importFolder(from, into));
+    QVERIFY(noted.last().first().toString().contains("keine CSV-Datei"));
+    write(from + "/good.csv", "Name,D\nB8,8\n");
+    write(from + "/torn.csv", "Name,D\n\"B8,8\n");
+    QVERIFY(!commands->importFolder(from, into));
+    QCOMPARE(noted.last().first().toString(),
+             "1 Tabellen mit 1 Zeilen: 1 neu, 0 geändert, 0 unverändert, 1 nicht importiert");
+    QVERIFY(fixture.window->log()->text().contains("torn.csv"));
+    // Where the catalog should be stands a file.
+    write(fixture.directory.filePath("file"), "x");
+    QVERIFY(!commands->importFolder(from, fixture.directory.filePath("file")));
+    QVERIFY2(noted.last().first().toString().startsWith("Nicht alles geschrieben"),
+             qPrintable(noted.last().first().toString()));
+}
+
+void tst_ReleaseCommands::importByMenu()
+{
+    WindowFixture fixture;
+    const QString from = fixture.directory.filePath("tables");
+    const QString into = fixture.directory.filePath("cat");
+    write(from + "/a.csv", "Name,D\nB8,8\n");
+    ModalScript script;
+    script.then([&](QWidget *dialog) {
+        script.note(dialog);
+        const auto line = [dialog](const char *name) {
+            return dialog->findChild<QLineEdit *>(name);
+        };
+        auto *const ok = dialog->findChild<QPushButton *>("ok");
+        auto *const problem = dialog->findChild<QLabel *>("problem");
+        QVERIFY(!ok->isEnabled() && !problem->text().isEmpty());
+        QTest::keyClicks(line("importFrom"), from);
+        QVERIFY(!ok->isEnabled());
+        QTest::keyClicks(line("importInto"), from + "/cat");
+        QCOMPARE(problem->text(), "Ein Verzeichnis liegt im anderen.");
+        QVERIFY(!ok->isEnabled());
+        line("importInto")->clear();
+        QTest::keyClicks(line("importInto"), into);
+        QVERIFY(ok->isEnabled() && problem->text().isEmpty());
+        QTest::mouseClick(ok, Qt::LeftButton);
+    });
+    fixture.action("fileImport")->trigger();
+    QCOMPARE(script.seen, QStringList{"ImportDialog"});
+    QVERIFY(QFile::exists(into + "/a.prj"));
+    QCOMPARE(fixture.settings->store()->value("Import/into").toString(), into);
+}
+
+QTEST_MAIN(tst_ReleaseCommands)
+#include "tst_ReleaseCommands.moc"
