@@ -1,6 +1,8 @@
 #include "../support/TestCatalog.h"
 
 #include <core/parallel/WorkerPool.h>
+#include <release/history/JournalRow.h>
+#include <release/report/ReportHistory.h>
 #include <release/report/ReportHtml.h>
 
 #include <QRegularExpression>
@@ -143,6 +145,8 @@ private Q_SLOTS:
     void nothingToTell();
     void longLists();
     void hostileTexts();
+    void history();
+    void unreadableHistory();
 };
 
 void tst_ReleaseReport::numbersAddUp()
@@ -300,7 +304,7 @@ void tst_ReleaseReport::sections()
     report.samples = {{time, "anna", 300, 59, 59, 0.04951},
                       {time, "bob", 20, 3, 2, std::nullopt},
                       {time, "eve", 5, 5, 5, 0.0}};
-    report.decisions = {{time, "anna", "12 lines confirmed"}};
+    report.decisions = {{time, "anna", "12 lines confirmed", "as agreed", 12}};
     const QString html = reportHtml(report, form());
     const auto body = [&](ReportText head) {
         return rowsOf(html, head).mid(1);
@@ -320,7 +324,7 @@ void tst_ReleaseReport::sections()
             QString("2026-11-22T08:30:00Z|bob|20|3|2|&lt;%1&gt;").arg(int(ReportText::Refused)),
             "2026-11-22T08:30:00Z|eve|5|5|5|0.0 %"}));
     QCOMPARE(body(ReportText::DecisionHead),
-             QStringList{"2026-11-22T08:30:00Z|anna|12 lines confirmed"});
+             QStringList{"2026-11-22T08:30:00Z|anna|12 lines confirmed|as agreed|12"});
     QCOMPARE(body(ReportText::OpenHead).first(), "cat/screws/a.prj:2|bolt B2 &lt;2&gt;|unlike");
     QCOMPARE(body(ReportText::GoneHead).last(), "cat/screws/b&amp;c.prj:1|bolt B1 &lt;1&gt;");
     QCOMPARE(body(ReportText::PatternHead).size(), 2);
@@ -359,13 +363,93 @@ void tst_ReleaseReport::hostileTexts()
     report.sourceDate = "%1%2%3";
     report.projects.push_back({text, {}, {}, false});
     report.openLines.push_back({0, 1, OpenReason::Clash, text});
-    report.decisions.push_back({{}, text, text});
+    report.decisions.push_back({{}, text, text, text, 1});
     report.errors << text;
     const QString html = reportHtml(report, form());
     QVERIFY(!html.contains("<b>%1%2"));
-    QCOMPARE(html.count(text.toHtmlEscaped()), 8); // title twice, project, line twice, decision
-                                                   // twice, error
+    // Title twice, project, line twice, decision three times, error.
+    QCOMPARE(html.count(text.toHtmlEscaped()), 9);
     QCOMPARE(rowsOf(html, ReportText::OpenHead).last().count('|'), 2);
+}
+
+namespace {
+
+/// A session of the release, with a step on two lines and one on a third.
+QByteArray session(const QByteArray &user, const QByteArray &day, const QByteArray &release = "v1")
+{
+    const QByteArray change =
+        R"("project":["cat/a.prj","v1","t","t"],"known":[true,true],"state":[0,0],"count":3,)"
+        R"("targets":[{"at":[0,0],"path":"new/a.prj","lines":)";
+    const QByteArray time = R"("time":"2026-11-)" + day + "T08:0";
+    QByteArray rows;
+    for (const QByteArray &record :
+         {R"({"kind":"opened",)" + time + R"(0:00.000Z","user":")" + user +
+              R"(","host":"h","sourceDate":")" + release + R"("})",
+          R"({"kind":"change","step":1,)" + change + "[[1,1,0,1,2],[2,2,0,2,2]]}]}",
+          R"({"kind":"step",)" + time +
+              R"(1:00.000Z","step":1,"origin":"edit","text":"two <confirmed>"})",
+          R"({"kind":"change","step":2,)" + change + "[[3,3,0,3,2]]}]}",
+          R"({"kind":"step",)" + time +
+              R"(2:00.000Z","step":2,"origin":"edit","text":"one confirmed"})",
+          R"({"kind":"reason",)" + time +
+              R"(3:00.000Z","note":{"project":"cat/a.prj","version":"v1","lines":[3],)"
+              R"("reason":"by telephone"}})",
+          R"({"kind":"sample",)" + time + R"(4:00.000Z","note":{"judge":")" + user +
+              R"(","lines":345,"judged":59,"right":59,"bound":"0.049500"}})"})
+        rows += JournalRow::frame(record);
+    return rows;
+}
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+} // namespace
+
+void tst_ReleaseReport::history()
+{
+    const QTemporaryDir folder;
+    const QString mapping = folder.filePath("m.json");
+    ReleaseReport report;
+    report.sourceDate = "v1";
+    QString error;
+    QVERIFY(addHistory(report, mapping, &error));
+    QVERIFY(report.decisions.empty() && report.samples.empty());
+    writeFile(mapping + ".journal", session("bob", "20"));
+    writeFile(mapping + ".journal.alt-20261119",
+              session("anna", "10") + session("eve", "11", "another"));
+    QVERIFY2(addHistory(report, mapping, &error), qPrintable(error));
+    QStringList told;
+    for (const ReleaseReport::Decision &decision : report.decisions)
+        told << QString("%1 %2: %3 (%4) %5")
+                    .arg(QString::number(decision.time.date().day()), decision.who, decision.what,
+                         decision.reason, QString::number(decision.lines));
+    QCOMPARE(told, (QStringList{
+                       "10 anna: two <confirmed> () 2", "10 anna: one confirmed (by telephone) 1",
+                       "20 bob: two <confirmed> () 2", "20 bob: one confirmed (by telephone) 1"}));
+    QCOMPARE(report.samples.size(), size_t(2));
+    QCOMPARE(report.samples[0].judge, "anna");
+    QCOMPARE(report.samples[1].judge, "bob");
+    QCOMPARE(report.samples[1].lines, 345);
+    QCOMPARE(report.samples[1].judged, 59);
+    QCOMPARE(report.samples[1].right, 59);
+    QCOMPARE(report.samples[1].bound, std::optional(0.0495));
+}
+
+void tst_ReleaseReport::unreadableHistory()
+{
+    const QTemporaryDir folder;
+    const QString mapping = folder.filePath("m.json");
+    QVERIFY(QFile::link(folder.filePath("nowhere"), mapping + ".journal"));
+    ReleaseReport report;
+    report.sourceDate = "v1";
+    QString error;
+    QVERIFY(!addHistory(report, mapping, &error));
+    QVERIFY2(error.contains(".journal"), qPrintable(error));
+    QVERIFY(report.decisions.empty());
 }
 
 QTEST_GUILESS_MAIN(tst_ReleaseReport)

@@ -8,7 +8,7 @@
 #include "ReviewCommand.h"
 
 #include <core/files/DurableFile.h>
-#include <release/history/SampleHistory.h>
+#include <release/report/ReportHistory.h>
 #include <release/report/ReportHtml.h>
 
 #include <QFileInfo>
@@ -162,22 +162,6 @@ VelkRelease::ReportForm englishForm()
     return form;
 }
 
-/// Those of the release.
-void addSamples(VelkRelease::ReleaseReport &report, const QString &mappingFile)
-{
-    QString error;
-    const auto samples = VelkRelease::readJudgedSamples(mappingFile, &error);
-    if (!samples) {
-        report.errors += error;
-        return;
-    }
-    for (const VelkRelease::JudgedSample &sample : *samples) {
-        if (sample.release == report.sourceDate)
-            report.samples.push_back({sample.time, sample.judge, sample.lines, sample.judged,
-                                      sample.right, sample.bound});
-    }
-}
-
 } // namespace
 
 ExitStatus runReport(const QStringList &arguments, QTextStream &out, QTextStream &err)
@@ -204,7 +188,9 @@ ExitStatus runReport(const QStringList &arguments, QTextStream &out, QTextStream
         return ExitStatus::Interrupted;
     report->name = QFileInfo(file.path()).fileName();
     report->made = QDateTime::currentDateTimeUtc();
-    addSamples(*report, file.path());
+    QString unread;
+    if (!addHistory(*report, file.path(), &unread))
+        report->errors << unread;
     for (const QString &error : report->errors)
         err << "velkmap report: " << error << '\n';
     QString cause;

@@ -39,7 +39,7 @@ void addOptions(QCommandLineParser &parser)
         {"output", "File that the script may write.", "FILE"},
         {"screenshot", "Renders the editor into a PNG file, without a display, and ends.", "FILE"},
         {"dialog", "Renders a dialog instead: " + dialogs().join(" or ") + ".", "DIALOG"},
-        {"text", "Text in that dialog; for links and proof the link database.", "TEXT"},
+        {"text", "Text in that dialog; for links, proof and documents the link database.", "TEXT"},
         {"size", "Size of the window, such as 1400x900.", "WxH"},
         {"scale", "Pixels for a length of 1 in a screenshot: 1 or 2.", "N", "1"},
         {"theme", "light or dark.", "THEME"},

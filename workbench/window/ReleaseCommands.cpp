@@ -9,11 +9,11 @@
 #include <gui/print/PdfPages.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <release/export/MappingTable.h>
+#include <release/report/ReportHistory.h>
 #include <release/report/ReportHtml.h>
 #include <workbench/review/ReportTexts.h>
 #include <workbench/session/BackgroundWork.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/session/ReportJournal.h>
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -231,7 +231,9 @@ std::optional<VelkRelease::ReleaseReport> ReleaseCommands::makeReport() const
         return std::nullopt;
     report->name = QFileInfo(m_document->mappingFile()).fileName();
     report->made = QDateTime::currentDateTimeUtc();
-    addJournal(*report, m_document->journalFile(), release.getSourceDate());
+    QString error;
+    if (!addHistory(*report, m_document->mappingFile(), &error))
+        report->errors << error;
     return report;
 }
 

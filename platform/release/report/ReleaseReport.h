@@ -43,12 +43,14 @@ struct ReleaseReport
         int right = 0;
         std::optional<double> bound; ///< share of wrong lines at most; nothing: refused
     };
-    /// Who decided on something.
+    /// Who decided on something: a step of the editor.
     struct Decision
     {
         QDateTime time;
         QString who;
         QString what;
+        QString reason;
+        int lines = 0;
     };
 
     QString name; ///< of the mapping file, without its folder

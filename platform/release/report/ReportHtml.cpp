@@ -157,7 +157,7 @@ void HtmlWriter::writeParts(ReportText head, ReportText column,
     m_out << "</tr>\n";
     rows(parts.size(), 8, [&](std::size_t i) {
         const ReleaseReport::Part &part = parts[i];
-        cell(part.hasTableError
+        cell(part.hasTableError && column == ReportText::Project
                  ? part.path + QStringLiteral(" (") + text(ReportText::TableError) + u')'
                  : part.path);
         writeNumbers(part.numbers);
@@ -251,13 +251,16 @@ void HtmlWriter::writeDecisions()
     heading(ReportText::DecisionHead);
     beginTable();
     m_out << "<tr>";
-    headCells({ReportText::Time, ReportText::Who, ReportText::What});
+    headCells({ReportText::Time, ReportText::Who, ReportText::What, ReportText::Reason});
+    headCells({ReportText::Lines}, true);
     m_out << "</tr>\n";
-    rows(m_report.decisions.size(), 3, [&](std::size_t i) {
+    rows(m_report.decisions.size(), 5, [&](std::size_t i) {
         const ReleaseReport::Decision &decision = m_report.decisions[i];
         cell(m_form.time(decision.time));
         cell(decision.who);
         cell(decision.what);
+        cell(decision.reason);
+        number(decision.lines);
     });
     endTable();
 }

@@ -165,6 +165,11 @@ private Q_SLOTS:
         for (const char *dialog : {"links", "proof"})
             QTest::newRow(dialog) << QStringList{"--dialog", dialog, "--text", "link.db"}
                                   << QSize(900, 420);
+        QTest::newRow("documents")
+            << QStringList{"--dialog", "documents", "--text",
+                           "link.db",  "--select",  "standardparts/screws/iso4014.prj",
+                           "--line",   "4"}
+            << QSize(1000, 420);
     }
     void rendersDialogs()
     {
