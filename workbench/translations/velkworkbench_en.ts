@@ -851,6 +851,49 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Ordner mit CSV-Dateien</source>
+        <translation>Folder of CSV files</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogs</source>
+        <translation>Directory of the catalog</translation>
+    </message>
+    <message>
+        <source>Tabellen importieren</source>
+        <translation>Import tables</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner mit CSV-Dateien:</source>
+        <translation>&amp;Folder of CSV files:</translation>
+    </message>
+    <message>
+        <source>&amp;Verzeichnis des Katalogs:</source>
+        <translation>&amp;Directory of the catalog:</translation>
+    </message>
+    <message>
+        <source>Aus jeder CSV-Datei wird ein Projekt mit seiner Tabelle am selben Ort im Katalog. Wer die Tabellen wieder importiert, behält die Nummern der Zeilen.</source>
+        <translation>Each CSV file becomes a project with its table at the same place in the catalog. Whoever imports the tables again keeps the numbers of the lines.</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren</source>
+        <translation>&amp;Import</translation>
+    </message>
+    <message>
+        <source>Der Ordner mit den CSV-Dateien fehlt.</source>
+        <translation>The folder of the CSV files is missing.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des Katalogs fehlt; es wird angelegt, wenn es das Verzeichnis darüber gibt.</source>
+        <translation>The directory of the catalog is missing; it is made if the directory above it is there.</translation>
+    </message>
+    <message>
+        <source>Ein Verzeichnis liegt im anderen.</source>
+        <translation>One directory lies in the other.</translation>
+    </message>
+</context>
+<context>
     <name>KeyedActions</name>
     <message>
         <source>Zeile bestätigen oder gewählte Zeile zuordnen</source>
@@ -2376,6 +2419,81 @@ Line: %2
     </message>
 </context>
 <context>
+    <name>ReleaseCommands</name>
+    <message>
+        <source>Tabellen werden importiert</source>
+        <translation>Importing tables</translation>
+    </message>
+    <message>
+        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
+        <translation>%1 tables with %2 lines: %3 new, %4 changed, %5 unchanged, %6 not imported</translation>
+    </message>
+    <message>
+        <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
+        <translation>%1 has no CSV file any more and stays as it is</translation>
+    </message>
+    <message>
+        <source>In dem Ordner ist keine CSV-Datei; es wurde nichts importiert</source>
+        <translation>There is no CSV file in the folder; nothing was imported</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Cancelled: %1</translation>
+    </message>
+    <message>
+        <source>Nicht alles geschrieben: %1</source>
+        <translation>Not everything was written: %1</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>Zeilen exportieren</source>
+        <translation>Export lines</translation>
+    </message>
+    <message>
+        <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+        <translation>Tables (*.csv);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Zeilen werden exportiert</source>
+        <translation>Exporting lines</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts exportiert</source>
+        <translation>Cancelled, nothing was exported</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen nach %2 exportiert</source>
+        <translation>%1 lines exported to %2</translation>
+    </message>
+    <message>
+        <source>Bericht schreiben</source>
+        <translation>Write report</translation>
+    </message>
+    <message>
+        <source>PDF-Dateien (*.pdf);;HTML-Seiten (*.html);;Alle Dateien (*)</source>
+        <translation>PDF files (*.pdf);;HTML pages (*.html);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Bericht wird erstellt</source>
+        <translation>Making the report</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht geschrieben</source>
+        <translation>Cancelled, no report was written</translation>
+    </message>
+    <message>
+        <source>Seiten werden gesetzt</source>
+        <translation>Laying out pages</translation>
+    </message>
+    <message>
+        <source>Bericht nach %1 geschrieben</source>
+        <translation>Report written to %1</translation>
+    </message>
+</context>
+<context>
     <name>ReplacementsDialog</name>
     <message>
         <source>Vereinbarte Ersetzungen</source>
@@ -2430,6 +2548,217 @@ Line: %2
             <numerusform>%n does not</numerusform>
             <numerusform>%n do not</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ReportTexts</name>
+    <message>
+        <source>Mapping-Bericht: %1</source>
+        <translation>Mapping report: %1</translation>
+    </message>
+    <message>
+        <source>Katalogstand %1 nach %2</source>
+        <translation>Release %1 to %2</translation>
+    </message>
+    <message>
+        <source>Erstellt am %1</source>
+        <translation>Made on %1</translation>
+    </message>
+    <message>
+        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
+        <translation>Settled: %1 of %2 lines; open: %3.</translation>
+    </message>
+    <message>
+        <source>Stand der Zeilen</source>
+        <translation>How the lines stand</translation>
+    </message>
+    <message>
+        <source>Nach Ordnern, mit allem darunter</source>
+        <translation>By folder, with all that lies below</translation>
+    </message>
+    <message>
+        <source>Nach Projekten</source>
+        <translation>By project</translation>
+    </message>
+    <message>
+        <source>Warum Zeilen offen sind</source>
+        <translation>Why lines are open</translation>
+    </message>
+    <message>
+        <source>Worin sich offene Zeilen von ihren Vorschlägen unterscheiden</source>
+        <translation>How open lines differ from their proposals</translation>
+    </message>
+    <message>
+        <source>Stichproben</source>
+        <translation>Samples</translation>
+    </message>
+    <message>
+        <source>Wer was entschieden hat</source>
+        <translation>Who decided what</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen</source>
+        <translation>Open lines</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Nachfolger</source>
+        <translation>Lines without successor</translation>
+    </message>
+    <message>
+        <source>Was nicht gelesen werden konnte</source>
+        <translation>What could not be read</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Confirmed</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigt</source>
+        <translation>Confirmed to have no successor</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet</source>
+        <translation>Assigned with certainty</translation>
+    </message>
+    <message>
+        <source>Zu prüfen</source>
+        <translation>To check</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel</source>
+        <translation>Without target</translation>
+    </message>
+    <message>
+        <source>Im Konflikt</source>
+        <translation>In conflict</translation>
+    </message>
+    <message>
+        <source>Ordner</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Designation</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>Unterschiede</source>
+        <translation>Differences</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projects</translation>
+    </message>
+    <message>
+        <source>Wahrscheinlichkeit</source>
+        <translation>Probability</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Exceptions</translation>
+    </message>
+    <message>
+        <source>Beispiele</source>
+        <translation>Examples</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Who</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>Beurteilt</source>
+        <translation>Judged</translation>
+    </message>
+    <message>
+        <source>Richtig</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Höchstens falsch (zu 95 % sicher)</source>
+        <translation>Wrong at most (95 % certain)</translation>
+    </message>
+    <message>
+        <source>abgelehnt</source>
+        <translation>refused</translation>
+    </message>
+    <message>
+        <source>Tabelle nicht lesbar</source>
+        <translation>table could not be read</translation>
+    </message>
+    <message>
+        <source>nicht zu vergleichen</source>
+        <translation>cannot be compared</translation>
+    </message>
+    <message>
+        <source>kein Unterschied</source>
+        <translation>no difference</translation>
+    </message>
+    <message>
+        <source>keine</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>zwei haben verschieden entschieden</source>
+        <translation>two people decided differently</translation>
+    </message>
+    <message>
+        <source>ein anderer entscheidet</source>
+        <translation>somebody else decides</translation>
+    </message>
+    <message>
+        <source>eine Tabelle ist nicht lesbar</source>
+        <translation>a table cannot be read</translation>
+    </message>
+    <message>
+        <source>Bedingung oder Formel scheitert</source>
+        <translation>a condition or formula fails</translation>
+    </message>
+    <message>
+        <source>kein Ziel ist zuständig</source>
+        <translation>no target is for it</translation>
+    </message>
+    <message>
+        <source>eine Spalte fehlt</source>
+        <translation>a column is missing</translation>
+    </message>
+    <message>
+        <source>mehrere Zeilen sind gleich</source>
+        <translation>several lines are equal</translation>
+    </message>
+    <message>
+        <source>zu unähnlich</source>
+        <translation>too unlike</translation>
+    </message>
+    <message>
+        <source>gleich, nur nicht bestätigt</source>
+        <translation>equal, only not confirmed</translation>
     </message>
 </context>
 <context>
@@ -3747,6 +4076,30 @@ Line: %2
     <message>
         <source>Zeigt und ändert die Tasten aller Befehle</source>
         <translation>Shows and changes the keys of all commands</translation>
+    </message>
+    <message>
+        <source>Tabellen i&amp;mportieren...</source>
+        <translation>&amp;Import tables...</translation>
+    </message>
+    <message>
+        <source>Macht aus einem Ordner mit CSV-Dateien Projekte eines Katalogs</source>
+        <translation>Makes projects of a catalog from a folder of CSV files</translation>
+    </message>
+    <message>
+        <source>Zeilen e&amp;xportieren...</source>
+        <translation>E&amp;xport lines...</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Zeilen des Stands mit ihren Zuordnungen in eine CSV-Datei</source>
+        <translation>Writes all lines of the release with their assignments into a CSV file</translation>
+    </message>
+    <message>
+        <source>Be&amp;richt...</source>
+        <translation>Re&amp;port...</translation>
+    </message>
+    <message>
+        <source>Schreibt als PDF oder HTML, wie weit der Stand ist und warum Zeilen offen sind</source>
+        <translation>Writes as PDF or HTML how far the release is and why lines are open</translation>
     </message>
 </context>
 </TS>
