@@ -33,6 +33,17 @@
 #include <sanitizer/lsan_interface.h>
 #endif
 
+namespace {
+
+/// A long text must not keep the pane from getting narrower; then it stands in the tool tip.
+void letGetNarrow(QCheckBox *box)
+{
+    box->setMinimumWidth(1);
+    box->setToolTip(box->text());
+}
+
+} // namespace
+
 void CatalogMappingWidgetPrivate::buildLayout()
 {
     auto *const layout = new QVBoxLayout(q);
@@ -67,6 +78,7 @@ QWidget *CatalogMappingWidgetPrivate::makeTreePane(QWidget *parent)
         PString::translate("Zeige nur Projekte mit unvollständigen Mappings", "VelkLinkDbGui"),
         pane);
     checkToCheck->setObjectName(QStringLiteral("checkToCheck"));
+    letGetNarrow(checkToCheck);
     layout->addWidget(checkToCheck);
     auto *const rows = new QVBoxLayout;
     rows->setContentsMargins(0, 0, 0, 0);
@@ -93,6 +105,7 @@ QCheckBox *CatalogMappingWidgetPrivate::addFilterRow(QBoxLayout *rows, const cha
     auto *const box = new QCheckBox(text, treeView->parentWidget());
     box->setObjectName(QLatin1String(name));
     box->setEnabled(false);
+    letGetNarrow(box);
     row->addWidget(box);
     rows->addLayout(row);
     return box;

@@ -162,5 +162,6 @@ void MainWindow::showTargetProject(const QString &targetPath)
 void MainWindow::showAbout()
 {
     Question::tell(this, QStringLiteral("Velkworkbench ") + velkVersion(),
-                   tr("Einstellungen: %1").arg(QString(m_settings->store()->fileName())));
+                   tr("Einstellungen: %1").arg(QString(m_settings->store()->fileName())),
+                   QMessageBox::Information);
 }

@@ -77,10 +77,11 @@ Question::Answer Question::ask()
     return Cancel;
 }
 
-void Question::tell(QWidget *parent, const QString &text, const QString &details)
+void Question::tell(QWidget *parent, const QString &text, const QString &details,
+                    QMessageBox::Icon icon)
 {
     Question question(parent);
-    question.m_box.setIcon(QMessageBox::Warning);
+    question.m_box.setIcon(icon);
     question.m_box.setWindowTitle(tr("Hinweis"));
     question.setText(text);
     question.setDetails(details);

@@ -27,8 +27,9 @@ public:
     [[nodiscard]] static QString noText() { return tr("&Nein"); }
     [[nodiscard]] static QString cancelText() { return tr("Abbrechen"); }
 
-    /// Tells something that cannot wait in the log window.
-    static void tell(QWidget *parent, const QString &text, const QString &details = QString());
+    /// Tells something that cannot wait in the log window. \a icon says how bad it is.
+    static void tell(QWidget *parent, const QString &text, const QString &details = QString(),
+                     QMessageBox::Icon icon = QMessageBox::Warning);
 
 private:
     QMessageBox m_box;

@@ -117,6 +117,8 @@ private Q_SLOTS:
     void keysAreMarkedOnceInEnglish() { check(&ControlCheck::mnemonics, "en"); }
     void keysLeadToOnePlace_data() { addWindows(); }
     void keysLeadToOnePlace() { check(&ControlCheck::keys); }
+    void fitsASmallScreen_data();
+    void fitsASmallScreen();
     void controlsHaveNameRoleAndFocus_data() { addWindows(); }
     void controlsHaveNameRoleAndFocus() { check(&ControlCheck::access); }
 
@@ -137,6 +139,26 @@ private:
         QVERIFY(looked);
     }
 };
+
+void tst_EveryDialog::fitsASmallScreen_data()
+{
+    addWindows();
+}
+
+/// 1024 x 768, and 1920 x 1200 at 200 %; title, frame and a bar of the desktop need room too.
+void tst_EveryDialog::fitsASmallScreen()
+{
+    QFETCH(Show, show);
+    WindowFixture fixture;
+    show(fixture, [](QWidget *window) {
+        for (QDockWidget *const dock : window->findChildren<QDockWidget *>())
+            dock->hide(); // they are for larger ones
+        QApplication::processEvents();
+        const QSize least = window->minimumSizeHint().expandedTo(window->minimumSize());
+        QVERIFY2(least.width() <= 950 && least.height() <= 560,
+                 qPrintable(QStringLiteral("%1 x %2").arg(least.width()).arg(least.height())));
+    });
+}
 
 QTEST_MAIN(tst_EveryDialog)
 #include "tst_EveryDialog.moc"
