@@ -10,8 +10,10 @@
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TableData.h>
+#include <release/pattern/DifferencePatterns.h>
 
-#include <QMap>
+#include <atomic>
+#include <map>
 
 namespace {
 
@@ -22,23 +24,6 @@ QString tableName(const QString &projectPath)
     return projectPath.mid(begin, projectPath.lastIndexOf('.') - begin);
 }
 
-/// What lines must have in common to be settled by one decision: which variables differ, and how.
-QString patternOf(const LineCandidateC &candidate)
-{
-    QStringList parts;
-    for (const ComparedVariableC &variable : candidate.variables) {
-        if (variable.outcome != ComparedVariableC::Equal)
-            parts << variable.name + ':' + QString::number(variable.outcome);
-    }
-    return parts.join(';');
-}
-
-struct Pattern
-{
-    int lines = 0;
-    int right = 0;
-};
-
 class Scorer
 {
 public:
@@ -48,8 +33,9 @@ public:
     {
     }
 
-    void add(const PrjMappingC &mapping, const ReleaseMappingC &dates)
+    void add(int position, const PrjMappingC &mapping, const ReleaseMappingC &dates)
     {
+        m_position = position;
         const QString source = tableName(mapping.getSourcePath());
         const auto table = m_set.olds.find(source);
         VKTab::ContentRef content;
@@ -76,11 +62,34 @@ public:
                 targets << name;
         }
         const auto reference = ReferenceRule::partners(*table, m_set.news, targets);
-        m_patterns.clear();
         for (int line = 1; line <= int(table->lines.size()); ++line)
             addLine(mapper, content, {source, line}, mapping, reference.value(line));
-        for (const Pattern &pattern : std::as_const(m_patterns))
-            m_score.decisions += pattern.right == pattern.lines ? 1 : pattern.lines;
+    }
+    /// One decision for each pattern that is right in all its lines; of another one, one for each
+    /// project in which it is; one for each other open line.
+    void addDecisions(const VelkRelease::DifferencePatterns &patterns)
+    {
+        for (int pattern = 0; pattern < patterns.count(); ++pattern) {
+            std::map<int, std::pair<int, int>> projects; // all lines, and right ones
+            for (const auto &place : patterns.places(pattern)) {
+                const auto open = m_open.find({place.project, place.line});
+                if (open == m_open.end())
+                    continue;
+                auto &[lines, right] = projects[place.project];
+                ++lines;
+                right += open->second ? 1 : 0;
+                m_open.erase(open);
+            }
+            int decisions = 0;
+            bool allRight = true;
+            for (const auto &[project, counts] : projects) {
+                const bool isRight = counts.first == counts.second;
+                decisions += isRight ? 1 : counts.first;
+                allRight = allRight && isRight;
+            }
+            m_score.decisions += allRight ? std::min(1, decisions) : decisions;
+        }
+        m_score.decisions += int(m_open.size());
     }
     /// Lines of tables without a mapping.
     void addRest()
@@ -123,7 +132,11 @@ private:
         m_score.referenceBest += referenceRight ? 1 : 0;
         m_score.referenceGone += gone && reference.second > 0 ? 1 : 0;
         const LineCandidatesC all = mapper.candidates(line.second, view);
-        addCandidates(all, *entry, mapped, found);
+        addCandidates(all, *entry);
+        if (!mapped) {
+            ++m_score.open;
+            m_open[{m_position, line.second}] = right;
+        }
         if (right == gone || (gone && found))
             m_score.misses << QStringLiteral("%1:%2 -> %3:%4, %5 (%6)")
                                   .arg(line.first, QString::number(line.second), assigned.first,
@@ -131,8 +144,7 @@ private:
                                        QString::number(all.noSuccessor, 'f', 2));
     }
 
-    void addCandidates(const LineCandidatesC &all, const TruthFile::Entry &entry, bool mapped,
-                       bool found)
+    void addCandidates(const LineCandidatesC &all, const TruthFile::Entry &entry)
     {
         bool best = false;
         bool any = false;
@@ -146,22 +158,13 @@ private:
         }
         m_score.best += best ? 1 : 0;
         m_score.five += any ? 1 : 0;
-        if (mapped)
-            return;
-        ++m_score.open;
-        if (!found || all.candidates.isEmpty()) {
-            ++m_score.decisions;
-            return;
-        }
-        Pattern &pattern = m_patterns[patternOf(all.candidates.first())];
-        ++pattern.lines;
-        pattern.right += best ? 1 : 0;
     }
 
     const SampleSet &m_set;
     const QString m_sourceRoot;
     QHash<TruthFile::Place, bool> m_seen;
-    QMap<QString, Pattern> m_patterns;
+    int m_position = 0;
+    std::map<std::pair<int, int>, bool> m_open; ///< By mapping and line: proposed rightly.
     RuleScore m_score;
 };
 
@@ -203,8 +206,12 @@ RuleScore RuleScore::of(const SampleSet &set, const ReleaseMappingC &release,
     dates.setSourceDate(release.getSourceDate());
     dates.setTargetDate(release.getTargetDate());
     Scorer scorer(set, sourceRoot);
-    for (const PrjMappingC &mapping : release.getMappingList())
-        scorer.add(mapping, dates);
+    for (int i = 0; i < release.countMappings(); ++i)
+        scorer.add(i, release.mappingAt(i), dates);
+    const std::atomic<bool> cancelled = false;
+    if (const auto patterns =
+            VelkRelease::DifferencePatterns::compute(sourceRoot, release, cancelled))
+        scorer.addDecisions(*patterns);
     scorer.addRest();
     return scorer.score();
 }

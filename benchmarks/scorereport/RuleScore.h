@@ -35,7 +35,7 @@ struct RuleScore
     int gone = 0;
     int goneProposed = 0;
     int open = 0;      ///< Lines that are not Mapped: decisions one by one.
-    int decisions = 0; ///< With one decision for each pattern that is right in all its lines.
+    int decisions = 0; ///< With one decision for each pattern, or project of it, that is right.
     int referenceBest = 0;
     int referenceGone = 0; ///< Gone lines for which the reference has a line.
     Calibration calibration;

@@ -9,6 +9,7 @@
 // cannot be read or a line is assigned wrongly.
 
 #include "Disturbance.h"
+#include "GoalTable.h"
 #include "RuleScore.h"
 
 #include <tests/road/SampleRoad.h>
@@ -97,7 +98,7 @@ public:
                      QString(" --- |").repeated(15) + '\n';
     }
 
-    void add(const SampleSet &original)
+    void add(const SampleSet &original, bool withKeys)
     {
         for (const Disturbance &disturbance : Disturbance::all()) {
             if (!disturbance.name.contains(m_options.only))
@@ -107,7 +108,11 @@ public:
             QElapsedTimer timer;
             timer.start();
             const RuleScore score = measure(set);
-            print(set.name + ", " + disturbance.name, score, timer.elapsed());
+            const QString name = set.name + ", " + disturbance.name;
+            print(name, score, timer.elapsed());
+            if (score.error.isEmpty())
+                m_goals.add(name, disturbance.name != "as it is", withKeys,
+                            disturbance.name.contains("removed"), score);
         }
     }
     /// Whether all was read, and nothing is assigned wrongly.
@@ -124,6 +129,7 @@ public:
         m_out << "\nCalibration error: " << QString::number(m_calibration.error(), 'f', 4)
               << "\nRight ones best: " << m_best << ", by the reference: " << m_reference << ", of "
               << m_known << '\n';
+        m_goals.print(m_out);
         return m_good;
     }
 
@@ -163,6 +169,7 @@ private:
     const Options m_options;
     QTextStream m_out;
     Calibration m_calibration;
+    GoalTable m_goals;
     int m_known = 0;
     int m_best = 0;
     int m_reference = 0;
@@ -204,11 +211,11 @@ int main(int argc, char **argv)
     }
     Report report(options);
     for (const SampleSet &set : sets) {
-        report.add(set);
+        report.add(set, true);
         SampleSet without = set;
         without.name += " without first column";
         without.removeFirstColumns();
-        report.add(without);
+        report.add(without, false);
     }
     return report.end() ? 0 : 2;
 }

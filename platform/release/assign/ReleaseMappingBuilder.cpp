@@ -154,14 +154,14 @@ std::vector<std::vector<int>> ReleaseMappingBuilder::Work::findTables() const
         const ReadProject &source = m_sources[size_t(i)];
         found[size_t(i)] = ProjectFinder(m_index).find(source.project.path, source.cells);
     });
-    std::vector<const LineCells *> sources;
+    std::vector<TargetOwners::Table> sources;
     sources.reserve(m_sources.size());
     for (const ReadProject &source : m_sources)
-        sources.push_back(&source.cells);
-    std::vector<const LineCells *> targets;
+        sources.push_back({foldedName(source.project.path), &source.cells});
+    std::vector<TargetOwners::Table> targets;
     targets.reserve(size_t(m_index.count()));
     for (int i = 0; i < m_index.count(); ++i)
-        targets.push_back(&m_index.table(i));
+        targets.push_back({m_index.name(i), &m_index.table(i)});
     const TargetOwners owners(sources, targets, found);
     std::vector<std::vector<int>> kept(m_sources.size());
     WorkerPool::instance().run(count, [&](int i) { kept[size_t(i)] = owners.withoutOthers(i); });

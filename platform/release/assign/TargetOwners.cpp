@@ -1,14 +1,14 @@
 #include "TargetOwners.h"
 
 #include "LineCells.h"
+#include "ProjectName.h"
 #include "TableMatch.h"
 
 #include <algorithm>
 
 namespace VelkRelease {
 
-TargetOwners::TargetOwners(const std::vector<const LineCells *> &sources,
-                           const std::vector<const LineCells *> &targets,
+TargetOwners::TargetOwners(const std::vector<Table> &sources, const std::vector<Table> &targets,
                            const std::vector<std::vector<int>> &found)
     : m_sources(sources)
     , m_targets(targets)
@@ -34,15 +34,18 @@ std::vector<int> TargetOwners::withoutOthers(int source) const
 
 bool TargetOwners::hasOwnLine(int source, int target) const
 {
-    const LineCells &lines = *m_sources[size_t(source)];
-    const TableMatch match(lines, *m_targets[size_t(target)]);
+    const LineCells &lines = *m_sources[size_t(source)].cells;
+    const Table &table = m_targets[size_t(target)];
+    const double likeness = nameLikeness(m_sources[size_t(source)].name, table.name);
+    const TableMatch match(lines, *table.cells);
     std::vector<bool> own(size_t(lines.rowCount()), false);
     for (int row = 0; row < lines.rowCount(); ++row)
         own[size_t(row)] = match.isEqual(row) || match.isHeld(row);
     for (const int owner : m_owners[size_t(target)]) {
-        if (owner == source)
+        const Table &other = m_sources[size_t(owner)];
+        if (owner == source || likeness >= nameLikeness(other.name, table.name))
             continue;
-        const TableMatch before(lines, *m_sources[size_t(owner)]);
+        const TableMatch before(lines, *other.cells);
         for (int row = 0; row < lines.rowCount(); ++row) {
             if (before.isEqual(row) || before.isHeld(row))
                 own[size_t(row)] = false;

@@ -2,6 +2,8 @@
 
 #include <release/VelkReleaseGlobal.h>
 
+#include <QString>
+
 #include <vector>
 
 namespace VelkRelease {
@@ -14,22 +16,27 @@ class LineCells;
 class VELKRELEASE_EXPORT TargetOwners
 {
 public:
+    struct Table
+    {
+        QString name; ///< Of the project, folded.
+        const LineCells *cells = nullptr;
+    };
     /// \a found: by source project the numbers of the tables that can take over its lines, best
     /// first. The owner of a table is each project that it is the best one for. \a sources and
     /// \a targets stay where they are.
-    TargetOwners(const std::vector<const LineCells *> &sources,
-                 const std::vector<const LineCells *> &targets,
+    TargetOwners(const std::vector<Table> &sources, const std::vector<Table> &targets,
                  const std::vector<std::vector<int>> &found);
 
     /// Those of found that have a line of the project that no owner of theirs has had before; the
-    /// best one stays in any case. Any thread.
+    /// best one stays in any case, and so do those whose name is at least as near to the project's
+    /// as to the owner's. Any thread.
     [[nodiscard]] std::vector<int> withoutOthers(int source) const;
 
 private:
     [[nodiscard]] bool hasOwnLine(int source, int target) const;
 
-    const std::vector<const LineCells *> &m_sources;
-    const std::vector<const LineCells *> &m_targets;
+    const std::vector<Table> &m_sources;
+    const std::vector<Table> &m_targets;
     const std::vector<std::vector<int>> &m_found;
     std::vector<std::vector<int>> m_owners; ///< By table.
 };
