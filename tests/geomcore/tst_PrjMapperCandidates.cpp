@@ -1,5 +1,7 @@
 #include "MapperFixture.h"
 
+#include <core/parallel/WorkerPool.h>
+
 #include <QTest>
 
 using Outcome = ComparedVariableC::Outcome;
@@ -48,6 +50,7 @@ private Q_SLOTS:
     void replacementIsTold();
     void goneLinesHaveNoProposal();
     void orderOfCallsDoesNotMatter();
+    void numberOfThreadsDoesNotMatter();
     void probabilitiesAddUp();
     void comparedWithTheAssignedLine();
 };
@@ -266,6 +269,31 @@ void tst_PrjMapperCandidates::orderOfCallsDoesNotMatter()
         backward.prepend(fixture.proposal(line));
     }
     QCOMPARE(backward, forward);
+}
+
+void tst_PrjMapperCandidates::numberOfThreadsDoesNotMatter()
+{
+    QByteArray source = "a,b:n,c:n\n";
+    QByteArray target = source;
+    for (int i = 1; i <= 400; ++i) {
+        const QByteArray name = QByteArray::number(i % 90);
+        source += "S0" + name + "B," + QByteArray::number(i % 17) + ",1\n";
+        target += "S" + name + "B," + QByteArray::number(i * 3 % 17) + ",2\n";
+    }
+    QStringList results[2];
+    for (const int threads : {1, 4}) {
+        WorkerPool::instance().setThreads(threads);
+        const TestCatalog catalog; // of its own, or the plan would be there already
+        catalog.write("old/a.prj", source);
+        catalog.write("new/a.prj", target);
+        MapperFixture fixture(catalog, {"new/a.prj"});
+        fixture.start();
+        for (int line = 1; line <= 400; ++line)
+            results[threads == 1 ? 0 : 1].append(fixture.proposal(line));
+    }
+    WorkerPool::instance().setThreads(0);
+    QVERIFY(!results[0].filter("0:").isEmpty());
+    QCOMPARE(results[1], results[0]);
 }
 
 void tst_PrjMapperCandidates::probabilitiesAddUp()
