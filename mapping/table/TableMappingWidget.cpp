@@ -1,5 +1,6 @@
 #include "TableMappingWidget.h"
 
+#include "ComparedTables.h"
 #include "TableMappingWidgetPrivate.h"
 
 #include <geomcoregui/table/VkTableView.h>
@@ -74,6 +75,12 @@ void TableMappingWidget::showOnlyLines(const std::vector<int> &lines)
 {
     d->chkFilterSource->setChecked(false);
     TableLineFilters::showOnly(d->sourceTable, lines);
+}
+
+void TableMappingWidget::setComparing(bool on)
+{
+    d->compared->setOn(on);
+    d->showSourceLine(d->sourceTable.getSelection());
 }
 
 void TableMappingWidget::setConditionListener(

@@ -47,6 +47,9 @@ public:
 
     [[nodiscard]] VkTableView *sourceView() const;
     [[nodiscard]] VkTableView *targetView() const;
+    /// The selected line and its target line are compared: cells that differ are marked, both lines
+    /// stand at one height, and the tables scroll together. Off at first.
+    void setComparing(bool on);
     /// Takes the filter by state away, and the one set from the menu.
     void showAllLines();
     /// In place of such filters: only these source lines, ascending by number.

@@ -1,5 +1,6 @@
 #include "TableMappingWidgetPrivate.h"
 
+#include "ComparedTables.h"
 #include "LineKeys.h"
 #include "LineLookUp.h"
 #include "lineStatusKeys.h"
@@ -42,6 +43,7 @@ TableMappingWidgetPrivate::TableMappingWidgetPrivate(TableMappingWidget *widget)
     m_targetPane = createTargetPane();
     splitter->addWidget(m_targetPane);
     m_target = std::make_unique<TargetTableView>(targetView, sourceView);
+    compared = new ComparedTables(sourceView, targetView, this);
     connect(m_sourcePane, &TablePane::paletteChanged, this, [this] { designationLabels.show(); });
     connect(m_targetPane, &TablePane::paletteChanged, this, [this] { designationLabels.show(); });
     auto *const hiddenBox =

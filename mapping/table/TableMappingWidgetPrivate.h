@@ -29,6 +29,7 @@ class QMenu;
 class QPushButton;
 QT_END_NAMESPACE
 
+class ComparedTables;
 class LineLookUp;
 class PrjMapperCheckResultC;
 class RangeRun;
@@ -102,6 +103,7 @@ public:
     const QString valueRangeWarning;
     bool remoteViewerMode = false; ///< set from outside, read by nobody
     std::function<void(const QString &condition)> conditionListener;
+    ComparedTables *compared = nullptr;
 
 public Q_SLOTS:
     void onMapLineClicked();

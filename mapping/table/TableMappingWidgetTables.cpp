@@ -1,5 +1,6 @@
 #include "TableMappingWidgetPrivate.h"
 
+#include "ComparedTables.h"
 #include "LineKeys.h"
 #include "LineLookUp.h"
 #include "lineToolTips.h"
@@ -137,6 +138,7 @@ PrjMapperLineC TableMappingWidgetPrivate::mapperLineFor(const VKTab::LineId &id,
 void TableMappingWidgetPrivate::clearTargetTable()
 {
     m_target->clear();
+    compared->clear();
     m_filters.forgetTarget();
     showText(btnMapLine, QString());
 }
@@ -200,6 +202,7 @@ bool TableMappingWidgetPrivate::showSingleLine(const VKTab::LineId &id, bool *as
     m_targetPane->showPath(line.getTargetPath());
     if (isReused)
         targetView->setHorizontalScrollPos(horizontal);
+    compared->show(id, table.getSelection(), varset);
     return true;
 }
 

@@ -135,6 +135,11 @@ void CatalogMappingWidget::showOnlyLines(const std::vector<int> &lines)
         d->tableWidget->showOnlyLines(lines);
 }
 
+void CatalogMappingWidget::setComparing(bool on)
+{
+    d->tableWidget->setComparing(on);
+}
+
 void CatalogMappingWidget::showAllLines()
 {
     if (sourceTable().isValid())

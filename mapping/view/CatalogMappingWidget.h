@@ -109,6 +109,8 @@ public:
     /// The source table shows only these lines, ascending by number, until another project is shown
     /// or the user chooses another filter of lines; none at all if there are none.
     void showOnlyLines(const std::vector<int> &lines);
+    /// See TableMappingWidget::setComparing().
+    void setComparing(bool on);
     /// The source table shows all lines again that the filters of columns leave.
     void showAllLines();
     /// For the tables that are shown now.

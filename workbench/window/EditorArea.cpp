@@ -79,6 +79,7 @@ void EditorArea::make()
         m_document->mergeState().localChanges(m_document->release()));
     m_editor->setConflictedOnlineChanges(m_document->mergeState().onlineChanges());
     m_editor->setRemoteViewerMode(m_remoteTargets);
+    m_editor->setComparing(true);
     m_layout->addWidget(m_editor);
     m_editor->restoreState(m_state);
     m_editor->expandDirectories({});

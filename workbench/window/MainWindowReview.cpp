@@ -17,6 +17,8 @@
 
 void MainWindow::addReview()
 {
+    // The lists beside the tree have the whole height.
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     addDockWidget(Qt::LeftDockWidgetArea, m_review->dock());
     addDockWidget(Qt::BottomDockWidgetArea, m_review->panel());
     addDockWidget(Qt::BottomDockWidgetArea, m_conflicts->dock());
@@ -36,7 +38,13 @@ void MainWindow::connectReview()
         connect(m_actions->action(command), &QAction::triggered, this, slot);
     };
     connectTo(WorkbenchActions::ReviewPatterns, [this] { m_review->showPatterns(); });
-    connectTo(WorkbenchActions::ReviewDifferences, [this] { m_review->showDifferences(); });
+    connectTo(WorkbenchActions::ReviewDifferences, [this] {
+        m_review->showDifferences();
+        // At first it takes what it gets, which is half of the window.
+        QDockWidget *const panel = m_review->panel();
+        if (panel->isVisible() && panel->height() > height() * 2 / 5)
+            resizeDocks({panel}, {height() / 4}, Qt::Vertical);
+    });
     connectTo(WorkbenchActions::ConfirmPattern, [this] { m_review->confirmAll(); });
     connectTo(WorkbenchActions::TakeOutLine, [this] { m_review->takeOut(); });
     connectTo(WorkbenchActions::NextInPattern, [this] { m_review->goNext(); });

@@ -21,6 +21,16 @@ void keepIconsClear(QStyleOptionViewItem *option)
                mixed(base.blue(), highlight.blue()));
 }
 
+/// Told by more than the colour, and on the selected line too.
+void markDifference(QStyleOptionViewItem *option)
+{
+    const bool dark = option->palette.color(QPalette::Base).lightness() < 128;
+    option->state &= ~QStyle::State_Selected;
+    option->backgroundBrush = dark ? QColor(128, 92, 0) : QColor(255, 224, 130);
+    option->palette.setBrush(QPalette::Text, dark ? Qt::white : Qt::black);
+    option->font.setUnderline(true);
+}
+
 /// A number at the right edge of its cell and a text at the left one of the next would read as one.
 void keepTextsApart(QStyleOptionViewItem *option)
 {
@@ -43,6 +53,18 @@ TableDelegate::TableDelegate(QObject *parent)
 
 TableDelegate::~TableDelegate() = default;
 
+void TableDelegate::setMarkedCells(const VKTab::LineId &line, const QSet<int> &variables)
+{
+    m_markedLine = line;
+    m_markedVariables = variables;
+}
+
+bool TableDelegate::isMarkedCell(const QModelIndex &index) const
+{
+    return m_markedVariables.contains(index.data(VkTableModel::VarIdRole).toInt()) &&
+           index.data(VkTableModel::LineIdRole).value<VKTab::LineId>() == m_markedLine;
+}
+
 void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
@@ -59,5 +81,7 @@ void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
         const bool dark = option->palette.color(QPalette::Base).lightness() < 128;
         option->backgroundBrush = QColor(dark ? 0xff5c5200 : 0xfffff3a0);
     }
+    if (isMarkedCell(index))
+        markDifference(option);
     keepTextsApart(option);
 }

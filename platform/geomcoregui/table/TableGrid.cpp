@@ -42,6 +42,12 @@ void TableGrid::setMarkedText(const QString &text)
     viewport()->update();
 }
 
+void TableGrid::setMarkedCells(const VKTab::LineId &line, const QSet<int> &variables)
+{
+    m_delegate->setMarkedCells(line, variables);
+    viewport()->update();
+}
+
 void TableGrid::keyboardSearch(const QString &) {}
 
 bool TableGrid::isIcon(const QModelIndex &index) const

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <geomcore/value/LineId.h>
+
+#include <QSet>
 #include <QTableView>
 
 class TableDelegate;
@@ -16,6 +19,8 @@ public:
 
     /// Cells that hold the text are marked; none for an empty text.
     void setMarkedText(const QString &text);
+    /// Cells of a line that differ from something, by the numbers of their variables.
+    void setMarkedCells(const VKTab::LineId &line, const QSet<int> &variables);
     /// Letters belong to the shortcuts of the window; finding has its bar.
     void keyboardSearch(const QString &text) override;
 

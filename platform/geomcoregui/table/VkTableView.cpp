@@ -108,6 +108,18 @@ VkTableModel *VkTableView::model() const
     return d->model;
 }
 
+void VkTableView::setMarkedCells(const VKTab::LineId &line, const QStringList &variables)
+{
+    QSet<int> ids;
+    const VKTab::ContentRef table = getTable();
+    for (const QString &name : variables) {
+        const VKTab::Var var = table.getVar(name);
+        if (var.isValid())
+            ids.insert(var.getVarId().value());
+    }
+    d->grid->setMarkedCells(line, ids);
+}
+
 QAbstractItemView *VkTableView::grid() const
 {
     return d->grid;

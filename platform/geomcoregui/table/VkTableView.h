@@ -65,6 +65,10 @@ public:
     /// The grid inside, for tests and for placing something over it. Owned by the view.
     [[nodiscard]] QAbstractItemView *grid() const;
 
+    /// Marks the cells of a line that differ from another one, by the names of their variables,
+    /// and takes former marks away.
+    void setMarkedCells(const VKTab::LineId &line, const QStringList &variables);
+
     [[nodiscard]] double getZoomFactor() const;
     /// 1 is the size of the application's font; other factors are brought between MinZoomFactor and
     /// MaxZoomFactor.

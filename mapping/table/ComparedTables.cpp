@@ -1,0 +1,166 @@
+#include "ComparedTables.h"
+
+#include <geomcore/expression/MapVarValueC.h>
+#include <geomcore/table/Line.h>
+#include <geomcoregui/table/VkTableModel.h>
+#include <geomcoregui/table/VkTableView.h>
+
+#include <QAbstractItemView>
+#include <QScopeGuard>
+#include <QScrollBar>
+#include <QTimer>
+
+namespace {
+
+QModelIndex cellOf(const VkTableView &view, const VKTab::LineId &line, const QString &variable)
+{
+    const VKTab::Var var = view.getTable().getVar(variable);
+    const int row = view.model()->rowOf(line);
+    const int column = var.isValid() ? view.model()->columnOf(var.getVarId()) : -1;
+    return row < 0 || column < 0 ? QModelIndex() : view.model()->index(row, column);
+}
+
+/// The first column of a variable that begins in sight.
+QString firstVariable(const VkTableView &view)
+{
+    const VkTableModel &model = *view.model();
+    for (int column = model.statusColumnCount(); column < model.columnCount(); ++column) {
+        const QRect area = view.grid()->visualRect(model.index(0, column));
+        if (area.isValid() && area.left() >= 0)
+            return model.variable(column).getName();
+    }
+    return {};
+}
+
+} // namespace
+
+ComparedTables::ComparedTables(VkTableView *source, VkTableView *target, QObject *parent)
+    : QObject(parent)
+    , m_source(source)
+    , m_target(target)
+{
+    const auto follow = [this](VkTableView *moved, VkTableView *other, int &height) {
+        connect(moved->grid()->horizontalScrollBar(), &QScrollBar::valueChanged, this,
+                [this, moved, other] { followSideways(moved, other); });
+        connect(moved->grid()->verticalScrollBar(), &QScrollBar::valueChanged, this,
+                [this, other, &height](int value) {
+                    followDown(other, value - std::exchange(height, value));
+                });
+    };
+    follow(source, target, m_sourceHeight);
+    follow(target, source, m_targetHeight);
+}
+
+void ComparedTables::setOn(bool on)
+{
+    m_isOn = on;
+    if (!on)
+        clear();
+}
+
+void ComparedTables::clear()
+{
+    m_targetLine = VKTab::LineId();
+    m_differing.clear();
+    m_source->setMarkedCells({}, {});
+    m_target->setMarkedCells({}, {});
+}
+
+void ComparedTables::show(const VKTab::LineId &source, const VKTab::LineId &target,
+                          const QHash<QString, MapVarValueC> &values)
+{
+    if (!m_isOn)
+        return;
+    m_sourceLine = source;
+    m_targetLine = target;
+    m_differing = differingVariables(values);
+    m_source->setMarkedCells(source, m_differing);
+    m_target->setMarkedCells(target, m_differing);
+    // The views bring the selected lines into sight first.
+    QTimer::singleShot(0, this, &ComparedTables::align);
+}
+
+QStringList ComparedTables::differingVariables(const QHash<QString, MapVarValueC> &values) const
+{
+    QStringList differing;
+    const VKTab::ContentRef table = m_target->getTable();
+    const VKTab::Line line = table.getLine(m_targetLine, false);
+    const VkTableModel &model = *m_target->model();
+    for (int column = model.statusColumnCount(); column < model.columnCount(); ++column) {
+        const VKTab::Var var = model.variable(column);
+        const auto value = values.constFind(var.getName());
+        if (value == values.cend())
+            continue;
+        MapVarValueC own;
+        own.setName(var.getName());
+        own.setNumeric(var.isNumeric());
+        own.setValue(line.getValue(var, {}, {}));
+        const bool bothMissing =
+            own.getValue().toString().isEmpty() && value->getValue().toString().isEmpty();
+        if (!bothMissing && !(own == *value))
+            differing += var.getName();
+    }
+    return differing;
+}
+
+void ComparedTables::align()
+{
+    if (!m_targetLine.isValid())
+        return;
+    const auto done = qScopeGuard([this] { m_follows = false; });
+    m_follows = true;
+    showFirst(*m_source, m_differing);
+    showFirst(*m_target, m_differing);
+    const QAbstractItemView &left = *m_source->grid();
+    const QAbstractItemView &right = *m_target->grid();
+    const auto heightOf = [](const VkTableView &view, const VKTab::LineId &line) {
+        const QRect row = view.grid()->visualRect(
+            view.model()->index(view.model()->rowOf(line), view.model()->statusColumnCount()));
+        return view.grid()->viewport()->mapToGlobal(row.topLeft()).y();
+    };
+    if (m_source->model()->rowOf(m_sourceLine) < 0 || m_target->model()->rowOf(m_targetLine) < 0)
+        return;
+    QScrollBar &bar = *right.verticalScrollBar();
+    bar.setValue(bar.value() + heightOf(*m_target, m_targetLine) -
+                 heightOf(*m_source, m_sourceLine));
+    // Near the ends of its table the target cannot follow: then the source does.
+    QScrollBar &other = *left.verticalScrollBar();
+    other.setValue(other.value() + heightOf(*m_source, m_sourceLine) -
+                   heightOf(*m_target, m_targetLine));
+}
+
+void ComparedTables::showFirst(const VkTableView &view, const QStringList &variables)
+{
+    const QList<VKTab::LineId> selected = view.getSelectedLines();
+    if (variables.isEmpty() || selected.isEmpty())
+        return;
+    const QModelIndex cell = cellOf(view, selected.first(), variables.first());
+    if (cell.isValid())
+        view.grid()->scrollTo(cell);
+}
+
+void ComparedTables::followSideways(VkTableView *moved, VkTableView *other)
+{
+    if (!m_isOn || m_follows || !m_targetLine.isValid())
+        return;
+    const QString name = firstVariable(*moved);
+    const QModelIndex from = cellOf(*moved, moved == m_source ? m_sourceLine : m_targetLine, name);
+    const QModelIndex to = cellOf(*other, other == m_source ? m_sourceLine : m_targetLine, name);
+    if (!from.isValid() || !to.isValid())
+        return;
+    const auto done = qScopeGuard([this] { m_follows = false; });
+    m_follows = true;
+    QScrollBar &bar = *other->grid()->horizontalScrollBar();
+    bar.setValue(bar.value() + other->grid()->visualRect(to).left() -
+                 moved->grid()->visualRect(from).left());
+}
+
+void ComparedTables::followDown(VkTableView *other, int by)
+{
+    if (!m_isOn || m_follows || !m_targetLine.isValid())
+        return;
+    const auto done = qScopeGuard([this] { m_follows = false; });
+    m_follows = true;
+    QScrollBar &bar = *other->grid()->verticalScrollBar();
+    bar.setValue(bar.value() + by);
+}

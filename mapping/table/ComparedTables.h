@@ -1,0 +1,50 @@
+#pragma once
+
+#include <geomcore/table/ContentRef.h>
+#include <geomcore/value/LineId.h>
+
+#include <QHash>
+#include <QObject>
+#include <QStringList>
+
+class MapVarValueC;
+class VkTableView;
+
+/// Source and target table as they are compared: the pair of lines stands at one height with the
+/// cells that differ marked, and while it does, the tables scroll together, sideways by the columns
+/// that both have. Does nothing until it is switched on.
+class ComparedTables : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Neither view is owned.
+    ComparedTables(VkTableView *source, VkTableView *target, QObject *parent);
+
+    void setOn(bool on);
+    /// The lines that are shown; \a values are those of the source line as the target sees them, by
+    /// name.
+    void show(const VKTab::LineId &source, const VKTab::LineId &target,
+              const QHash<QString, MapVarValueC> &values);
+    /// There is no pair.
+    void clear();
+
+private:
+    [[nodiscard]] QStringList differingVariables(const QHash<QString, MapVarValueC> &values) const;
+    void align();
+    /// Without moving the table further than needed.
+    static void showFirst(const VkTableView &view, const QStringList &variables);
+    /// The other table follows sideways to the column that is the first one in sight.
+    void followSideways(VkTableView *moved, VkTableView *other);
+    void followDown(VkTableView *other, int by);
+
+    VkTableView *const m_source;
+    VkTableView *const m_target;
+    VKTab::LineId m_sourceLine;
+    VKTab::LineId m_targetLine; ///< not valid: no pair
+    QStringList m_differing;
+    int m_sourceHeight = 0; ///< of the scroll bars as they were last
+    int m_targetHeight = 0;
+    bool m_isOn = false;
+    bool m_follows = false; ///< what moves now was moved by the other one
+};
