@@ -5,12 +5,14 @@
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
-#include <QAbstractItemView>
 #include <QScopeGuard>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTimer>
 
 namespace {
+
+constexpr int WidthsTake = 100; // milliseconds
 
 QModelIndex cellOf(const VkTableView &view, const VKTab::LineId &line, const QString &variable)
 {
@@ -61,6 +63,7 @@ void ComparedTables::setOn(bool on)
 void ComparedTables::clear()
 {
     m_targetLine = VKTab::LineId();
+    m_table = VKTab::ContentRef();
     m_differing.clear();
     m_source->setMarkedCells({}, {});
     m_target->setMarkedCells({}, {});
@@ -78,6 +81,10 @@ void ComparedTables::show(const VKTab::LineId &source, const VKTab::LineId &targ
     m_target->setMarkedCells(target, m_differing);
     // The views bring the selected lines into sight first.
     QTimer::singleShot(0, this, &ComparedTables::align);
+    // The columns of a table that is new get their widths a little later.
+    if (!(m_table == m_target->getTable()))
+        QTimer::singleShot(WidthsTake, this, &ComparedTables::align);
+    m_table = m_target->getTable();
 }
 
 QStringList ComparedTables::differingVariables(const QHash<QString, MapVarValueC> &values) const
@@ -109,14 +116,14 @@ void ComparedTables::align()
         return;
     const auto done = qScopeGuard([this] { m_follows = false; });
     m_follows = true;
-    showFirst(*m_source, m_differing);
-    showFirst(*m_target, m_differing);
+    showFirst(*m_source, m_sourceLine);
+    showFirst(*m_target, m_targetLine);
     const QAbstractItemView &left = *m_source->grid();
     const QAbstractItemView &right = *m_target->grid();
     const auto heightOf = [](const VkTableView &view, const VKTab::LineId &line) {
-        const QRect row = view.grid()->visualRect(
-            view.model()->index(view.model()->rowOf(line), view.model()->statusColumnCount()));
-        return view.grid()->viewport()->mapToGlobal(row.topLeft()).y();
+        const auto *const grid = qobject_cast<QTableView *>(view.grid());
+        const int top = grid->rowViewportPosition(view.model()->rowOf(line));
+        return grid->viewport()->mapToGlobal(QPoint(0, top)).y();
     };
     if (m_source->model()->rowOf(m_sourceLine) < 0 || m_target->model()->rowOf(m_targetLine) < 0)
         return;
@@ -129,14 +136,13 @@ void ComparedTables::align()
                    heightOf(*m_target, m_targetLine));
 }
 
-void ComparedTables::showFirst(const VkTableView &view, const QStringList &variables)
+void ComparedTables::showFirst(const VkTableView &view, const VKTab::LineId &line)
 {
-    const QList<VKTab::LineId> selected = view.getSelectedLines();
-    if (variables.isEmpty() || selected.isEmpty())
-        return;
-    const QModelIndex cell = cellOf(view, selected.first(), variables.first());
-    if (cell.isValid())
-        view.grid()->scrollTo(cell);
+    for (const QString &variable : m_differing) {
+        const QModelIndex cell = cellOf(view, line, variable);
+        if (cell.isValid())
+            return view.grid()->scrollTo(cell);
+    }
 }
 
 void ComparedTables::followSideways(VkTableView *moved, VkTableView *other)

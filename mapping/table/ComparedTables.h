@@ -33,7 +33,7 @@ private:
     [[nodiscard]] QStringList differingVariables(const QHash<QString, MapVarValueC> &values) const;
     void align();
     /// Without moving the table further than needed.
-    static void showFirst(const VkTableView &view, const QStringList &variables);
+    void showFirst(const VkTableView &view, const VKTab::LineId &line);
     /// The other table follows sideways to the column that is the first one in sight.
     void followSideways(VkTableView *moved, VkTableView *other);
     void followDown(VkTableView *other, int by);
@@ -42,6 +42,7 @@ private:
     VkTableView *const m_target;
     VKTab::LineId m_sourceLine;
     VKTab::LineId m_targetLine; ///< not valid: no pair
+    VKTab::ContentRef m_table;  ///< of the target that was shown last
     QStringList m_differing;
     int m_sourceHeight = 0; ///< of the scroll bars as they were last
     int m_targetHeight = 0;

@@ -1,0 +1,172 @@
+#include "TableEditorFixture.h"
+
+#include <QScrollBar>
+#include <QTableView>
+
+namespace {
+
+QByteArray wideTable(int lines, const QByteArray &material, const QByteArray &columns)
+{
+    QByteArray table = "D," + columns + ",W\n";
+    for (int line = 1; line <= lines; ++line) {
+        table += "M8";
+        for (int column = 0; column <= columns.count(','); ++column)
+            table += ",a rather long value " + QByteArray::number(column);
+        table += ',' + material + '\n';
+    }
+    return table;
+}
+
+} // namespace
+
+class tst_ComparedTables : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void offAtFirst();
+    void oneHeight();
+    void endOfTheTable();
+    void firstDifferenceInSight();
+    void marks();
+    void scrollTogether();
+    void severalLines();
+
+private:
+    [[nodiscard]] static int heightOf(VkTableView *view, int line);
+    [[nodiscard]] static int leftOf(VkTableView *view, const QString &variable);
+    [[nodiscard]] static bool isInSight(VkTableView *view, int line, const QString &variable);
+    void select(int line) const;
+
+    std::unique_ptr<TableEditorFixture> m_editor;
+};
+
+void tst_ComparedTables::init()
+{
+    m_editor = std::make_unique<TableEditorFixture>();
+    m_editor->catalog.write("old/a.prj", wideTable(100, "St37", "A,B,C,E,F,G,H"));
+    m_editor->catalog.write("new/a.prj", wideTable(160, "S235", "A,B,C,E,F,G,H"));
+    for (int line = 1; line <= 100; ++line)
+        enter(m_editor->mapping, 0, line, line == 100 ? 160 : line + 40, PRJMAPPING::ToCheck);
+    m_editor->widget->setComparing(true);
+    m_editor->load();
+}
+
+int tst_ComparedTables::heightOf(VkTableView *view, int line)
+{
+    const auto *const grid = qobject_cast<QTableView *>(view->grid());
+    const int row = view->model()->rowOf(VKTab::LineId(line));
+    return grid->viewport()->mapToGlobal(QPoint(0, grid->rowViewportPosition(row))).y();
+}
+
+int tst_ComparedTables::leftOf(VkTableView *view, const QString &variable)
+{
+    const int column = view->model()->columnOf(view->getTable().getVar(variable).getVarId());
+    return view->grid()->visualRect(view->model()->index(0, column)).left();
+}
+
+bool tst_ComparedTables::isInSight(VkTableView *view, int line, const QString &variable)
+{
+    const int column = view->model()->columnOf(view->getTable().getVar(variable).getVarId());
+    const QModelIndex index =
+        view->model()->index(view->model()->rowOf(VKTab::LineId(line)), column);
+    return view->grid()->viewport()->rect().contains(view->grid()->visualRect(index).center());
+}
+
+void tst_ComparedTables::select(int line) const
+{
+    m_editor->select(line);
+    QTest::qWait(200); // the columns of a table that is new get their widths
+}
+
+void tst_ComparedTables::offAtFirst()
+{
+    TableEditorFixture editor;
+    editor.catalog.write("old/a.prj", wideTable(20, "St37", "A,B,C,E,F,G,H"));
+    editor.catalog.write("new/a.prj", wideTable(60, "S235", "A,B,C,E,F,G,H"));
+    enter(editor.mapping, 0, 3, 50, PRJMAPPING::ToCheck);
+    editor.load();
+    editor.select(3);
+    QCoreApplication::processEvents();
+    QCOMPARE(editor.target->getHorizontalScrollPos(), 0);
+    editor.target->setHorizontalScrollPos(50);
+    QCOMPARE(editor.source->getHorizontalScrollPos(), 0);
+}
+
+void tst_ComparedTables::oneHeight()
+{
+    for (const int line : {5, 30, 29, 60}) {
+        select(line);
+        QCOMPARE(heightOf(m_editor->target, line + 40), heightOf(m_editor->source, line));
+    }
+}
+
+void tst_ComparedTables::endOfTheTable()
+{
+    // There is nothing below the last line, so the source gives way.
+    select(100);
+    QVERIFY(isInSight(m_editor->target, 160, "W"));
+    QVERIFY(isInSight(m_editor->source, 100, "W"));
+    QCOMPARE(heightOf(m_editor->target, 160), heightOf(m_editor->source, 100));
+}
+
+void tst_ComparedTables::firstDifferenceInSight()
+{
+    QVERIFY(!isInSight(m_editor->source, 1, "W"));
+    select(5);
+    QVERIFY(isInSight(m_editor->source, 5, "W"));
+    QVERIFY(isInSight(m_editor->target, 45, "W"));
+}
+
+void tst_ComparedTables::marks()
+{
+    const auto groundOf = [](VkTableView *view, int line, const QString &variable) {
+        const int column = view->model()->columnOf(view->getTable().getVar(variable).getVarId());
+        const QRect cell = view->grid()->visualRect(
+            view->model()->index(view->model()->rowOf(VKTab::LineId(line)), column));
+        const QImage image = view->grid()->viewport()->grab().toImage();
+        return image.pixelColor(cell.right() - 3, cell.top() + 3);
+    };
+    select(5);
+    const QColor mark(255, 224, 130);
+    QCOMPARE(groundOf(m_editor->source, 5, "W"), mark);
+    QCOMPARE(groundOf(m_editor->target, 45, "W"), mark);
+    QVERIFY(groundOf(m_editor->target, 46, "W") != mark);
+    QVERIFY(groundOf(m_editor->source, 5, "H") != mark);
+    // Another line of the same tables.
+    select(6);
+    QVERIFY(groundOf(m_editor->target, 45, "W") != mark);
+    QCOMPARE(groundOf(m_editor->target, 46, "W"), mark);
+}
+
+void tst_ComparedTables::scrollTogether()
+{
+    select(50);
+    const int height = heightOf(m_editor->source, 50);
+    m_editor->source->setVerticalScrollPos(m_editor->source->getVerticalScrollPos() + 60);
+    QCOMPARE(heightOf(m_editor->source, 50), height - 60);
+    QCOMPARE(heightOf(m_editor->target, 90), height - 60);
+    m_editor->target->setVerticalScrollPos(m_editor->target->getVerticalScrollPos() - 25);
+    QCOMPARE(heightOf(m_editor->source, 50), height - 35);
+    m_editor->source->setHorizontalScrollPos(0);
+    QVERIFY(leftOf(m_editor->target, "A") >= 0);
+    m_editor->target->setHorizontalScrollPos(leftOf(m_editor->target, "B") +
+                                             m_editor->target->getHorizontalScrollPos());
+    QCOMPARE(leftOf(m_editor->target, "B"), 0);
+    QCOMPARE(leftOf(m_editor->source, "B"), 0);
+}
+
+void tst_ComparedTables::severalLines()
+{
+    select(5);
+    m_editor->click(m_editor->source, 6, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    // No pair: each table goes its own way, and nothing is marked.
+    m_editor->source->setVerticalScrollPos(0);
+    m_editor->source->setVerticalScrollPos(100);
+    QVERIFY(!m_editor->targetTable().isValid());
+}
+
+QTEST_MAIN(tst_ComparedTables)
+#include "tst_ComparedTables.moc"
