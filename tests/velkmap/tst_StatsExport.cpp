@@ -4,6 +4,7 @@
 #include <geomcore/records/MappingFile.h>
 #include <release/export/MappingTable.h>
 #include <release/history/JournalRow.h>
+#include <release/share/SharedMapping.h>
 #include <tools/velkmap/Commands.h>
 
 #include <QJsonArray>
@@ -217,6 +218,16 @@ private Q_SLOTS:
         QCOMPARE(rows.at(2).simplified(), "0 1 0 0 0 0 0 0 0 cat/screws/b.prj");
         QCOMPARE(rows.at(3).simplified(), "0 0 1 0 0 0 0 0 0 cat/screwsx.prj");
         QCOMPARE(rows.at(4).simplified(), "0 1 1 0 0 0 0 1 1 in all");
+        // The same when somebody took the folder over.
+        const QString other = m_dir.filePath("other.json");
+        QVERIFY(QFile::copy(path, other));
+        const QString shared = m_dir.filePath("shared.json");
+        QVERIFY(VelkRelease::SharedMapping(path).link(shared).isDone());
+        VelkRelease::SharedMapping colleague(other);
+        QVERIFY(colleague.link(shared).isDone());
+        QVERIFY(colleague.takeFolders({"cat/screws"}).isDone());
+        QCOMPARE(run(arguments.first(8)), ExitStatus::InputUnreadable);
+        QCOMPARE(m_out.section("Why lines are open:\n", 1).split('\n').mid(1), rows.mid(1));
         QCOMPARE(run(arguments + QStringList{"--json"}), ExitStatus::InputUnreadable);
         const QJsonObject stats = QJsonDocument::fromJson(m_out.toUtf8()).object();
         QCOMPARE(stats.value("open").toObject().size(), 9);

@@ -3,6 +3,9 @@
 #include "CatalogRoots.h"
 #include "CommandLine.h"
 #include "InterruptGuard.h"
+#include "ReleaseFile.h"
+
+#include <release/share/SharedMapping.h>
 
 #include <QTextStream>
 
@@ -26,21 +29,25 @@ void OpenReasons::addOptions(CommandLine &line)
                      "Folder or project that somebody else decides on; may be repeated.");
 }
 
-std::function<bool(const QString &)> OpenReasons::others(const CommandLine &line)
+std::function<bool(const QString &)> OpenReasons::others(const CommandLine &line,
+                                                         const QString &mappingFile)
 {
-    return [places = line.values("others")](const QString &path) {
-        return liesIn(path, places);
+    return [places = line.values("others"),
+            isTaken =
+                VelkRelease::SharedMapping(mappingFile).isInOthersFolder()](const QString &path) {
+        return liesIn(path, places) || isTaken(path);
     };
 }
 
-std::optional<ExitStatus> OpenReasons::read(const CommandLine &line, const ReleaseMappingC &release,
+std::optional<ExitStatus> OpenReasons::read(const CommandLine &line, const ReleaseFile &file,
                                             const CatalogRoots &roots, const QString &command,
                                             QTextStream &err)
 {
     const InterruptGuard guard;
-    auto found = VelkRelease::openReasons(release, {.sourceRoot = roots.source(),
-                                                    .isOthers = others(line),
-                                                    .cancelled = &InterruptGuard::isRequested()});
+    auto found =
+        VelkRelease::openReasons(file.release(), {.sourceRoot = roots.source(),
+                                                  .isOthers = others(line, file.path()),
+                                                  .cancelled = &InterruptGuard::isRequested()});
     if (!found)
         return ExitStatus::Interrupted;
     m_projects = std::move(*found);

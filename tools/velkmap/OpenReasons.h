@@ -14,6 +14,7 @@ namespace velkmap {
 
 class CatalogRoots;
 class CommandLine;
+class ReleaseFile;
 
 /// Why the lines of a release are open, for a command that has the options of CatalogRoots.
 class OpenReasons
@@ -21,13 +22,14 @@ class OpenReasons
 public:
     /// Adds --others.
     static void addOptions(CommandLine &line);
-    /// What it says, as an option of the work.
-    [[nodiscard]] static std::function<bool(const QString &)> others(const CommandLine &line);
+    /// What it says, and who took folders over where the mapping file is shared, as an option of
+    /// the work.
+    [[nodiscard]] static std::function<bool(const QString &)> others(const CommandLine &line,
+                                                                     const QString &mappingFile);
 
     /// Reads the tables of both releases. A result means that this was interrupted; what cannot be
     /// read is told and makes lines unreadable.
-    [[nodiscard]] std::optional<ExitStatus> read(const CommandLine &line,
-                                                 const ReleaseMappingC &release,
+    [[nodiscard]] std::optional<ExitStatus> read(const CommandLine &line, const ReleaseFile &file,
                                                  const CatalogRoots &roots, const QString &command,
                                                  QTextStream &err);
 

@@ -180,10 +180,10 @@ ExitStatus runReport(const QStringList &arguments, QTextStream &out, QTextStream
     if (const auto failed = roots.take(line, "report", err))
         return *failed;
     const InterruptGuard guard;
-    auto report = VelkRelease::makeReleaseReport(file.release(),
-                                                 {.sourceRoot = roots.source(),
-                                                  .isOthers = OpenReasons::others(line),
-                                                  .cancelled = &InterruptGuard::isRequested()});
+    auto report = VelkRelease::makeReleaseReport(
+        file.release(), {.sourceRoot = roots.source(),
+                         .isOthers = OpenReasons::others(line, file.path()),
+                         .cancelled = &InterruptGuard::isRequested()});
     if (!report)
         return ExitStatus::Interrupted;
     report->name = QFileInfo(file.path()).fileName();

@@ -166,7 +166,7 @@ ExitStatus runStats(const QStringList &arguments, QTextStream &out, QTextStream 
         CatalogRoots roots;
         if (const auto failed = roots.take(line, "stats", err))
             return *failed;
-        if (const auto failed = reasons.read(line, file.release(), roots, "stats", err))
+        if (const auto failed = reasons.read(line, file, roots, "stats", err))
             return *failed;
     }
     if (line.isSet("json")) {

@@ -11,6 +11,7 @@
 #include <release/export/MappingTable.h>
 #include <release/report/ReportHistory.h>
 #include <release/report/ReportHtml.h>
+#include <release/share/SharedMapping.h>
 #include <workbench/review/ReportTexts.h>
 #include <workbench/session/BackgroundWork.h>
 #include <workbench/session/MappingDocument.h>
@@ -221,12 +222,12 @@ std::optional<VelkRelease::ReleaseReport> ReleaseCommands::makeReport() const
     const ReleaseMappingC release = m_document->release();
     constexpr int Parts = 3;
     WorkProgress progress(tr("Bericht wird erstellt"), Parts * release.countMappings());
-    auto report =
-        VelkRelease::makeReleaseReport(release,
-                                       {.sourceRoot = m_document->catalogRoots().source,
-                                        .isOthers = {},
-                                        .cancelled = &progress.cancelled()},
-                                       [&](int done, int /*count*/) { progress.advanceTo(done); });
+    auto report = VelkRelease::makeReleaseReport(
+        release,
+        {.sourceRoot = m_document->catalogRoots().source,
+         .isOthers = VelkRelease::SharedMapping(m_document->mappingFile()).isInOthersFolder(),
+         .cancelled = &progress.cancelled()},
+        [&](int done, int /*count*/) { progress.advanceTo(done); });
     if (!report)
         return std::nullopt;
     report->name = QFileInfo(m_document->mappingFile()).fileName();

@@ -382,4 +382,17 @@ QStringList SharedMapping::inOthersFolders(const QStringList &sourcePaths) const
     return found;
 }
 
+std::function<bool(const QString &)> SharedMapping::isInOthersFolder() const
+{
+    QStringList folders;
+    for (const Participant &other : participants()) {
+        if (!other.isSelf)
+            folders += other.folders;
+    }
+    return [folders](const QString &path) {
+        return std::ranges::any_of(folders,
+                                   [&](const QString &folder) { return isWithin(path, folder); });
+    };
+}
+
 } // namespace VelkRelease

@@ -75,6 +75,9 @@ public:
     [[nodiscard]] QStringList ownFolders() const;
     /// "anna@ws12: standardparts/screws" of the projects in somebody else's folder.
     [[nodiscard]] QStringList inOthersFolders(const QStringList &sourcePaths) const;
+    /// Whether a project lies in a folder that somebody else has taken over by now. May be called
+    /// on any thread, also when this object is gone.
+    [[nodiscard]] std::function<bool(const QString &)> isInOthersFolder() const;
 
     [[nodiscard]] static QString linkFile(const QString &mappingFile);
     [[nodiscard]] static QString baseFile(const QString &mappingFile);
