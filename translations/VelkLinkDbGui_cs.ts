@@ -494,6 +494,10 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Upravit přiřazení rozsahů hodnot</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Kombinace hodnot: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET označeného dokumentu:</translation>
     </message>

@@ -494,6 +494,10 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Rediger tildelinger af værdiområder</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Værdikombinationer: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET for det markerede dokument:</translation>
     </message>

@@ -494,6 +494,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Wertebereichszuordnungen bearbeiten</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Wertkombinationen: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET des markierten Dokuments:</translation>
     </message>

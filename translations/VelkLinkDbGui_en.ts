@@ -494,6 +494,10 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Edit value range assignments</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Value combinations: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET of the selected document:</translation>
     </message>

@@ -494,6 +494,10 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Editar las asignaciones de rangos de valores</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Combinaciones de valores: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET del documento seleccionado:</translation>
     </message>

@@ -494,6 +494,10 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Muokkaa arvoalueiden kohdistuksia</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Arvoyhdistelmiä: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>Valitun asiakirjan XVARSET:</translation>
     </message>

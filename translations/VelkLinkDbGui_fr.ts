@@ -494,6 +494,10 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Modifier les affectations de plages de valeurs</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Combinaisons de valeurs : %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET du document sélectionné :</translation>
     </message>

@@ -494,6 +494,10 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Értéktartomány-hozzárendelések szerkesztése</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Értékkombinációk: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>A kijelölt dokumentum XVARSET értéke:</translation>
     </message>

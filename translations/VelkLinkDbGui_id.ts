@@ -494,6 +494,10 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Sunting penetapan rentang nilai</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Kombinasi nilai: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET dokumen terpilih:</translation>
     </message>

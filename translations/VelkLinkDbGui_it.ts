@@ -494,6 +494,10 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Modificare le assegnazioni degli intervalli di valori</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Combinazioni di valori: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET del documento selezionato:</translation>
     </message>

@@ -494,6 +494,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>値範囲の割り当てを編集</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>値の組み合わせ: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>選択したドキュメントのXVARSET:</translation>
     </message>

@@ -494,6 +494,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>값 범위 할당 편집</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>값 조합: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>선택한 문서의 XVARSET:</translation>
     </message>

@@ -494,6 +494,10 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Rediger tilordninger av verdiområder</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Verdikombinasjoner: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET for det valgte dokumentet:</translation>
     </message>

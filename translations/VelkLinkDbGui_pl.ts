@@ -494,6 +494,10 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Edytuj przypisania zakresów wartości</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Kombinacje wartości: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET zaznaczonego dokumentu:</translation>
     </message>

@@ -494,6 +494,10 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Editar as atribuições de intervalos de valores</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Combinações de valores: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET do documento selecionado:</translation>
     </message>

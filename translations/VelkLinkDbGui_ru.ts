@@ -494,6 +494,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Изменить назначения диапазонов значений</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Сочетания значений: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET выделенного документа:</translation>
     </message>

@@ -494,6 +494,10 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Uredi dodelitve območij vrednosti</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Kombinacije vrednosti: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET označenega dokumenta:</translation>
     </message>

@@ -494,6 +494,10 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Redigera tilldelningar av värdeområden</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Värdekombinationer: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>XVARSET för det markerade dokumentet:</translation>
     </message>

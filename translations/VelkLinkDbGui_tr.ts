@@ -494,6 +494,10 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Değer aralığı atamalarını düzenle</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>Değer birleşimleri: %1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>Seçili belgenin XVARSET değeri:</translation>
     </message>

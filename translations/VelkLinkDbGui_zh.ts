@@ -494,6 +494,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>编辑值范围分配</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>值组合：%1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>所选文档的 XVARSET：</translation>
     </message>

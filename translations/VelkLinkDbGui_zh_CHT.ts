@@ -494,6 +494,10 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>編輯值範圍指派</translation>
     </message>
     <message>
+        <source>Wertkombinationen: %1</source>
+        <translation>值組合：%1</translation>
+    </message>
+    <message>
         <source>XVARSET des markierten Dokuments:</source>
         <translation>所選文件的 XVARSET：</translation>
     </message>

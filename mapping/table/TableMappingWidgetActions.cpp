@@ -151,18 +151,40 @@ void TableMappingWidgetPrivate::onCreateConditionClicked()
         conditionListener(condition);
 }
 
+namespace {
+
+/// Of all lines, each with as many as a run walks.
+qint64 countCombinations(const VKTab::Content &table, const QVector<VKTab::LineId> &lines,
+                         const QStringList &variables)
+{
+    const VKTab::ResolveRangeOptionsC options;
+    qint64 sum = 0;
+    for (const VKTab::LineId &id : lines) {
+        VKTab::Line line = table.getLine(id, true);
+        VKTab::ValueRangeIterator combinations(table, line, options);
+        combinations.setVariablesToResolve(variables);
+        sum += combinations.count();
+    }
+    return sum;
+}
+
+} // namespace
+
 bool TableMappingWidgetPrivate::confirmsValueRangeRun() const
 {
     const QString warning = valueRangeWarning; // the widget may go while the question is open
     return PMessage::Show(warning, PMsgDlgMode::OkCancel) != PMsgReply::Cancel;
 }
 
-QStringList TableMappingWidgetPrivate::chooseRangeVariables()
+QStringList TableMappingWidgetPrivate::chooseRangeVariables(const QVector<VKTab::LineId> &lines)
 {
     const QStringList names = valueRangeVariables(sourceTable);
     if (names.isEmpty())
         return {};
     const QPointer<dlgSelectValueRangeVars> dialog = new dlgSelectValueRangeVars(names, q);
+    dialog->setCounter([table = sourceTable, lines](const QStringList &variables) {
+        return countCombinations(table, lines, variables);
+    });
     const bool accepted = dialog->exec() == QDialog::Accepted;
     QStringList chosen = accepted && dialog ? dialog->selectedNames() : QStringList();
     delete dialog;
@@ -174,7 +196,7 @@ void TableMappingWidgetPrivate::onMapResolvedValueRangesClicked()
     const QPointer<TableMappingWidgetPrivate> alive = this;
     if (!sourceTable.isValid() || !confirmsValueRangeRun() || !alive)
         return;
-    const QStringList names = chooseRangeVariables();
+    const QStringList names = chooseRangeVariables(sourceTable.getLineIdList());
     if (alive && !names.isEmpty())
         runValueRangeMapping(names, sourceTable.getLineIdList());
 }
@@ -187,7 +209,7 @@ void TableMappingWidgetPrivate::onMapLineValueRanges()
     const VKTab::LineId id = sourceTable.getSelection();
     if (!id.isValid())
         return;
-    const QStringList names = chooseRangeVariables();
+    const QStringList names = chooseRangeVariables({id});
     if (alive && !names.isEmpty())
         runValueRangeMapping(names, {id});
 }

@@ -163,7 +163,7 @@ private:
     void publish(const LineDecision &decision);
     void showFailingValues(const VKTab::LineId &id);
     [[nodiscard]] bool confirmsValueRangeRun() const;
-    [[nodiscard]] QStringList chooseRangeVariables();
+    [[nodiscard]] QStringList chooseRangeVariables(const QVector<VKTab::LineId> &lines);
     QAction *addMenuRow(QMenu *menu, const QString &text, const QString &icon, const char *slot);
     [[nodiscard]] bool canConfirmSelection() const;
 

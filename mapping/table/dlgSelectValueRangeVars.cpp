@@ -5,6 +5,8 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -51,4 +53,22 @@ void dlgSelectValueRangeVars::updateOkButton()
     m_buttons->button(QDialogButtonBox::Ok)
         ->setEnabled(std::any_of(m_boxes.begin(), m_boxes.end(),
                                  [](const QCheckBox *box) { return box->isChecked(); }));
+    writeCount();
+}
+
+void dlgSelectValueRangeVars::setCounter(const Counter &counter)
+{
+    m_counter = counter;
+    m_count = new QLabel(this);
+    m_count->setObjectName(QStringLiteral("combinationCount"));
+    auto *const box = static_cast<QVBoxLayout *>(layout());
+    box->insertWidget(box->indexOf(m_buttons), m_count);
+    writeCount();
+}
+
+void dlgSelectValueRangeVars::writeCount()
+{
+    if (m_count)
+        m_count->setText(PString::translate("Wertkombinationen: %1", "VelkLinkDbGui")
+                             .arg(QLocale().toString(m_counter(selectedNames()))));
 }

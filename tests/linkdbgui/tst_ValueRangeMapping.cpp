@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -83,6 +84,7 @@ private Q_SLOTS:
 
     void selectDialog();
     void editDialog();
+    void combinationsAreTold();
 
     void cancelledWarning();
     void cancelledDialog();
@@ -206,6 +208,29 @@ void tst_ValueRangeMapping::editDialog()
     QCOMPARE(dialog.text(), QString("x{L=10} -> 1"));
     buttonOf(dialog, QDialogButtonBox::Ok)->click();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void tst_ValueRangeMapping::combinationsAreTold()
+{
+    // 6 and 1 of the first and the second line; the third has more than a run walks
+    f->catalog.write("old/a.prj", "D,L:r,T:r\nM8,10;20;30,1;2\nM9,30,1\nM10,1..999/1,1..999/1\n");
+    f->load();
+    m_messages->addAnswer(PMsgReply::Ok);
+    QStringList told;
+    whenOpen<dlgSelectValueRangeVars>([&](dlgSelectValueRangeVars &dialog) {
+        const auto *const count = dialog.findChild<QLabel *>("combinationCount");
+        told << count->text();
+        for (QCheckBox *const box : dialog.findChildren<QCheckBox *>()) {
+            box->click();
+            told << count->text();
+        }
+        dialog.reject();
+    });
+    QTest::mouseClick(f->button("btnResolvedRanges"), Qt::LeftButton);
+    const auto text = [](qint64 number) {
+        return "Wertkombinationen: " + QLocale().toString(number);
+    };
+    QCOMPARE(told, QStringList({text(0), text(3 + 999), text(6 + 100000)}));
 }
 
 void tst_ValueRangeMapping::cancelledWarning()

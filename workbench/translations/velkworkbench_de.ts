@@ -314,6 +314,26 @@
     </message>
 </context>
 <context>
+    <name>RangeCommands</name>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <translation>
+            <numerusform>%n Zeile ist bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</numerusform>
+            <numerusform>%n Zeilen sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RangeDock</name>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n Zeile</numerusform>
+            <numerusform>%1: %n Zeilen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ReplacementsDialog</name>
     <message numerus="yes">
         <source>%n Zeile(n) dafür</source>

@@ -2325,6 +2325,62 @@ Line: %2
     </message>
 </context>
 <context>
+    <name>RangeCommands</name>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <translation>
+            <numerusform>%n line is confirmed although values of its range have no new line.</numerusform>
+            <numerusform>%n lines are confirmed although values of their ranges have no new line.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Zurücknehmen</source>
+        <translation>&amp;Take back</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem bestätigen</source>
+        <translation>&amp;Confirm all the same</translation>
+    </message>
+</context>
+<context>
+    <name>RangeDock</name>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n line</numerusform>
+            <numerusform>%1: %n lines</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Die Zeile hat keine Wertebereichszuordnung.</source>
+        <translation>The line has no mapping of value ranges.</translation>
+    </message>
+    <message>
+        <source>%1: %2 von %3 Werten zugeordnet</source>
+        <translation>%1: %2 of %3 values assigned</translation>
+    </message>
+    <message>
+        <source>fehlend: %1</source>
+        <translation>missing: %1</translation>
+    </message>
+    <message>
+        <source>mehrfach: %1</source>
+        <translation>several times: %1</translation>
+    </message>
+    <message>
+        <source>nicht im alten Bereich: %1</source>
+        <translation>not in the old range: %1</translation>
+    </message>
+    <message>
+        <source>Wertebereich der Zeile</source>
+        <translation>Value range of the line</translation>
+    </message>
+</context>
+<context>
     <name>ReasonDialog</name>
     <message>
         <source>Grund der Entscheidung</source>
@@ -4100,6 +4156,14 @@ Line: %2
     <message>
         <source>Schreibt als PDF oder HTML, wie weit der Stand ist und warum Zeilen offen sind</source>
         <translation>Writes as PDF or HTML how far the release is and why lines are open</translation>
+    </message>
+    <message>
+        <source>Wertebereich der Zeile</source>
+        <translation>Value range of the line</translation>
+    </message>
+    <message>
+        <source>Zeigt, welche Werte des alten Bereichs neue Zeilen haben</source>
+        <translation>Shows which values of the old range have new lines</translation>
     </message>
 </context>
 </TS>

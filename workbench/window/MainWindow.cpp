@@ -17,6 +17,7 @@
 #include "PluginActions.h"
 #include "QtTexts.h"
 #include "Question.h"
+#include "RangeCommands.h"
 #include "ReleaseCommands.h"
 #include "RemoteCatalogs.h"
 #include "ReviewCommands.h"
@@ -60,6 +61,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_conflicts(new ConflictCommands(m_desk->document(), m_editor, this))
     , m_share(new ShareCommands(m_desk, m_editor, this))
     , m_release(new ReleaseCommands(m_desk->document(), settings->store(), this))
+    , m_ranges(new RangeCommands(m_desk->document(), m_editor, this))
     , m_states(new LineStateFilter(this))
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
     , m_linkDb(new LinkDbHost(plugin, this))
@@ -120,6 +122,7 @@ MainWindow::~MainWindow()
     delete m_scripts;
     delete m_history;
     delete m_editor;
+    delete m_ranges;
     delete m_share;
     delete m_conflicts;
     delete m_review;

@@ -22,6 +22,7 @@ class NeighbourCommands;
 class PLinkDbGuiI;
 class PluginActions;
 class PMessageSinkScope;
+class RangeCommands;
 class ReleaseCommands;
 class RemoteCatalogs;
 class ReviewCommands;
@@ -121,6 +122,7 @@ private:
     ConflictCommands *const m_conflicts;
     ShareCommands *const m_share;
     ReleaseCommands *const m_release;
+    RangeCommands *const m_ranges;
     LineStateFilter *const m_states;
     RemoteCatalogs *const m_remote;
     LinkDbHost *const m_linkDb;

@@ -110,6 +110,7 @@ void MainWindow::buildMenus()
           Separator,
           WorkbenchActions::Replacements,
           Separator,
+          WorkbenchActions::RangeOfLine,
           WorkbenchActions::Conflicts,
           WorkbenchActions::NextConflict,
           WorkbenchActions::ConflictOurs,

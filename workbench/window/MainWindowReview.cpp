@@ -2,6 +2,7 @@
 #include "DocumentDesk.h"
 #include "MainWindow.h"
 #include "NeighbourCommands.h"
+#include "RangeCommands.h"
 #include "ReviewCommands.h"
 #include "ShareCommands.h"
 #include "StatusArea.h"
@@ -23,6 +24,8 @@ void MainWindow::addReview()
     addDockWidget(Qt::BottomDockWidgetArea, m_review->panel());
     addDockWidget(Qt::BottomDockWidgetArea, m_conflicts->dock());
     m_conflicts->dock()->hide();
+    addDockWidget(Qt::BottomDockWidgetArea, m_ranges->dock());
+    m_ranges->dock()->hide();
     m_review->dock()->hide();
     m_review->panel()->hide();
     tabifyDockWidget(m_review->dock(), m_neighbours->dock());
@@ -70,6 +73,7 @@ void MainWindow::connectReview()
             [this](const QString &text) { m_status->showNote(text); });
     connect(m_share, &ShareCommands::conflictsWanted, m_conflicts,
             &ConflictCommands::showConflicts);
+    connectTo(WorkbenchActions::RangeOfLine, [this] { m_ranges->showRange(); });
     connectTo(WorkbenchActions::Conflicts, [this] { m_conflicts->showConflicts(); });
     connectTo(WorkbenchActions::NextConflict, [this] { m_conflicts->goNext(); });
     connectTo(WorkbenchActions::ConflictOurs,

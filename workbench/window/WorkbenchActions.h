@@ -63,6 +63,7 @@ public:
         TakeCandidate3,
         TakeCandidate4,
         TakeCandidate5,
+        RangeOfLine,
         Conflicts,
         NextConflict,
         ConflictOurs,

@@ -60,6 +60,16 @@ bool ValueRangeIterator::next()
     return true;
 }
 
+int ValueRangeIterator::count() const
+{
+    qint64 product = m_ranges.empty() ? 0 : 1;
+    for (const Range &range : m_ranges)
+        product =
+            std::min<qint64>(product * std::min<qint64>(range.values.count(), RangeText::MaxValues),
+                             RangeText::MaxValues);
+    return int(product);
+}
+
 bool ValueRangeIterator::step()
 {
     for (auto range = m_ranges.rbegin(); range != m_ranges.rend(); ++range) {

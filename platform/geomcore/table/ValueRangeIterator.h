@@ -39,6 +39,9 @@ public:
     /// Steps to the next combination, at first to the first one. False when there is none left, at
     /// once if no named variable takes part.
     bool next();
+    /// Combinations of the walk, without walking: the product of the ranges, RangeText::MaxValues
+    /// at most.
+    [[nodiscard]] int count() const;
 
 private:
     struct Range
