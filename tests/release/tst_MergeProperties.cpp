@@ -17,7 +17,14 @@ using VelkRelease::MergeResult;
 
 namespace {
 
-constexpr int Cases = 20'000;
+/// VELK_MERGE_CASES says how many for a long run.
+int caseCount()
+{
+    const int wanted = qEnvironmentVariableIntValue("VELK_MERGE_CASES");
+    return wanted > 0 ? wanted : 20'000;
+}
+
+const int Cases = caseCount();
 constexpr int Lines = 5;
 
 /// What a user can do, at random, always the same for a seed.
