@@ -63,6 +63,11 @@ LocatorDialog::~LocatorDialog()
     PApplication::saveWindow(this);
 }
 
+void LocatorDialog::setWords(const QString &words)
+{
+    m_input->setText(words);
+}
+
 void LocatorDialog::seek()
 {
     m_isEntered = false;

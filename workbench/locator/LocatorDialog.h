@@ -24,6 +24,8 @@ public:
     LocatorDialog(LocatorSearch *search, QWidget *parent);
     ~LocatorDialog() override;
 
+    void setWords(const QString &words);
+
 Q_SIGNALS:
     /// After it closed.
     void chosen(const LocatorItem &item);

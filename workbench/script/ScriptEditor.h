@@ -26,6 +26,7 @@ public:
     [[nodiscard]] const QString &file() const { return m_file; }
     [[nodiscard]] QString program() const;
     [[nodiscard]] QString message() const;
+    void run();
     void setRunning(bool running);
     /// What became of the run; a line from 1 is shown, 0 is none.
     void showOutcome(const QString &text, bool isError, int line);
@@ -41,7 +42,6 @@ protected:
 
 private:
     void openByDialog();
-    void run();
     [[nodiscard]] bool mayDrop();
     void markLine(int line);
     void retranslate();

@@ -12,7 +12,8 @@ using Outcome = StartOptions::Outcome;
 
 QStringList dialogs()
 {
-    return {"formula", "search", "links", "proof", "documents"};
+    return {"formula", "search",  "links", "proof", "documents",
+            "script",  "locator", "keys",  "manual"};
 }
 
 void addOptions(QCommandLineParser &parser)
@@ -39,7 +40,9 @@ void addOptions(QCommandLineParser &parser)
         {"output", "File that the script may write.", "FILE"},
         {"screenshot", "Renders the editor into a PNG file, without a display, and ends.", "FILE"},
         {"dialog", "Renders a dialog instead: " + dialogs().join(" or ") + ".", "DIALOG"},
-        {"text", "Text in that dialog; for links, proof and documents the link database.", "TEXT"},
+        {"text",
+         "Text in that dialog; for links, proof and documents the link database, for script a file.",
+         "TEXT"},
         {"size", "Size of the window, such as 1400x900.", "WxH"},
         {"scale", "Pixels for a length of 1 in a screenshot: 1 or 2.", "N", "1"},
         {"theme", "light or dark.", "THEME"},

@@ -727,6 +727,25 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Back</translation>
+    </message>
+    <message>
+        <source>Handbuch</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Inhalt</source>
+        <translation>Contents</translation>
+    </message>
+    <message>
+        <source>Auf der Seite suchen</source>
+        <translation>Find on the page</translation>
+    </message>
+</context>
+<context>
     <name>HistoryCommands</name>
     <message>
         <source>&amp;Verlauf der Entscheidungen...</source>
@@ -4164,6 +4183,14 @@ Line: %2
     <message>
         <source>Zeigt, welche Werte des alten Bereichs neue Zeilen haben</source>
         <translation>Shows which values of the old range have new lines</translation>
+    </message>
+    <message>
+        <source>Hand&amp;buch</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>Öffnet das Handbuch an der Stelle, um die es geht</source>
+        <translation>Opens the manual at the place for where you are</translation>
     </message>
 </context>
 </TS>

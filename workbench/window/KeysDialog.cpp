@@ -114,6 +114,11 @@ void KeysDialog::fill()
     m_list->header()->setStretchLastSection(false);
 }
 
+void KeysDialog::setWords(const QString &words)
+{
+    m_filter->setText(words);
+}
+
 void KeysDialog::filter()
 {
     const QString words = SearchText::folded(m_filter->text()).simplified();

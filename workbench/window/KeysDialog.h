@@ -29,6 +29,8 @@ public:
     KeysDialog(const PCommandKeys::Choice &choice, const Names &nameOf, QWidget *parent);
     ~KeysDialog() override;
 
+    /// Only commands and keys with these parts of words are listed.
+    void setWords(const QString &words);
     [[nodiscard]] const PCommandKeys::Choice &choice() const { return m_choice; }
 
 protected:

@@ -4,6 +4,7 @@
 #include "ConflictCommands.h"
 #include "DocumentDesk.h"
 #include "EditorArea.h"
+#include "HelpDesk.h"
 #include "HistoryCommands.h"
 #include "KeyedActions.h"
 #include "LineCommands.h"
@@ -69,6 +70,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_scripts(new ScriptDesk(this, settings))
     , m_erpNumbers(new ErpNumberColumn(std::make_shared<LinkDbErpNumbers>(), this))
     , m_locator(new LocatorDesk(this, settings))
+    , m_help(new HelpDesk(this))
     , m_pages(new QStackedWidget(this))
     , m_counterTimer(new QTimer(this))
     , m_language(settings->values().language)

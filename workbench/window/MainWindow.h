@@ -10,6 +10,7 @@ class ConflictCommands;
 class DocumentDesk;
 class EditorArea;
 class ErpNumberColumn;
+class HelpDesk;
 class KeyedActions;
 class HistoryCommands;
 class LineCommands;
@@ -130,6 +131,7 @@ private:
     ScriptDesk *const m_scripts;
     ErpNumberColumn *const m_erpNumbers;
     LocatorDesk *const m_locator;
+    HelpDesk *const m_help;
     QStackedWidget *const m_pages;
     WelcomePage *m_welcome = nullptr;
     PluginActions *m_pluginActions = nullptr;

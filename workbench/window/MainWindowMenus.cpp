@@ -3,6 +3,7 @@
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "FocusHelp.h"
+#include "HelpDesk.h"
 #include "HistoryCommands.h"
 #include "KeyedActions.h"
 #include "LineCommands.h"
@@ -127,8 +128,8 @@ void MainWindow::buildMenus()
     view->addAction(m_log->toggleViewAction());
     view->addAction(m_scripts->console()->toggleViewAction());
     fill(addMenu("helpMenu"), m_actions,
-         {WorkbenchActions::ShowKeys, WorkbenchActions::ShowTour, WorkbenchActions::ShowReason,
-          WorkbenchActions::About});
+         {WorkbenchActions::ShowManual, WorkbenchActions::ShowKeys, WorkbenchActions::ShowTour,
+          WorkbenchActions::ShowReason, WorkbenchActions::About});
 }
 
 void MainWindow::buildToolBars()
@@ -151,8 +152,8 @@ void MainWindow::buildToolBars()
     m_states->fill(states);
 }
 
-/// Whatever is in the menus by a name, or comes from the plug-in, can have a key and is found by the
-/// locator.
+/// Whatever is in the menus by a name, or comes from the plug-in, can have a key and is found by
+/// the locator.
 void MainWindow::collectCommands()
 {
     QAction *const showLog = m_log->toggleViewAction();
@@ -205,6 +206,7 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::CheckValueRanges, [this] { checkValueRanges(); });
     connectTo(WorkbenchActions::EditScript, [this] { m_scripts->showEditor(); });
     connectTo(WorkbenchActions::Settings, [this] { editSettings(); });
+    connectTo(WorkbenchActions::ShowManual, [this] { m_help->show(); });
     connectTo(WorkbenchActions::ShowKeys, [this] { editKeys(); });
     connectTo(WorkbenchActions::Locate, [this] { m_locator->open(); });
     connect(m_locator, &LocatorDesk::settingChosen, this, &MainWindow::editSettings);

@@ -1,19 +1,28 @@
 #include "ScreenshotDialog.h"
 
 #include "EditorArea.h"
+#include "HelpWindow.h"
+#include "KeyedActions.h"
+#include "KeysDialog.h"
 #include "LinkDbHost.h"
 #include "MainWindow.h"
+#include "ScriptDesk.h"
+#include "WorkbenchActions.h"
 
 #include <formula/DlgFormulaEditor.h>
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/table/Content.h>
 #include <gui/application/PApplicationPool.h>
 #include <selection/dlgSearchSelect.h>
+#include <workbench/locator/LocatorDialog.h>
+#include <workbench/script/ScriptConsole.h>
+#include <workbench/script/ScriptEditor.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QEventLoop>
+#include <QPainter>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -25,6 +34,11 @@ constexpr int searchMilliseconds = 5000;
 constexpr QSize formulaSize(560, 260);
 constexpr QSize searchSize(640, 520);
 constexpr int linksMilliseconds = 100;
+constexpr int dialogMilliseconds = 400;
+constexpr QSize scriptSize(760, 420);
+constexpr QSize locatorSize(640, 320);
+constexpr QSize keysSize(640, 420);
+constexpr QSize helpSize(980, 620);
 constexpr QSize linksSize(900, 420);
 constexpr QSize documentsSize(1000, 420);
 
@@ -98,14 +112,67 @@ QPixmap ofLinkDb(const QString &name, const QString &address, const MainWindow &
     return dialog ? grabLater(*dialog, linksSize, linksMilliseconds) : QPixmap();
 }
 
+/// The window with what a command or a script opened over it.
+QPixmap pictureAbove(MainWindow &window, QWidget &dialog, const QSize &size)
+{
+    const QPixmap front = grabLater(dialog, size, dialogMilliseconds);
+    QPixmap picture = window.grab();
+    QPainter painter(&picture);
+    const QPoint place((window.width() - front.width()) / 2, window.height() / 8);
+    painter.drawPixmap(place, front);
+    painter.setPen(window.palette().color(QPalette::Mid));
+    painter.drawRect(QRect(place, front.deviceIndependentSize().toSize()).adjusted(-1, -1, 0, 0));
+    return picture;
+}
+
+QPixmap scriptPicture(const QString &file, MainWindow &window)
+{
+    window.scripts()->console()->show();
+    ScriptEditor *const editor = window.scripts()->showEditor();
+    if (!editor->openFile(file))
+        return {};
+    editor->run();
+    return pictureAbove(window, *editor, scriptSize);
+}
+
+QPixmap locatorPicture(const QString &words, MainWindow &window)
+{
+    window.commands()->action(WorkbenchActions::Locate)->trigger();
+    auto *const dialog = window.findChild<LocatorDialog *>();
+    dialog->setWords(words);
+    return pictureAbove(window, *dialog, locatorSize);
+}
+
+QPixmap keysPicture(const QString &words, const MainWindow &window)
+{
+    KeysDialog dialog(
+        {}, [&window](const QString &id) { return window.keyedActions()->nameOf(id); }, nullptr);
+    dialog.setWords(words);
+    return grabLater(dialog, keysSize, dialogMilliseconds);
+}
+
+QPixmap manualPicture(const QString &topic)
+{
+    HelpWindow help(nullptr);
+    return help.showTopic(topic) ? grabLater(help, helpSize, dialogMilliseconds) : QPixmap();
+}
+
 } // namespace
 
-QPixmap ScreenshotDialog::take(const QString &name, const QString &text, const MainWindow &window)
+QPixmap ScreenshotDialog::take(const QString &name, const QString &text, MainWindow &window)
 {
     if (name == QLatin1String("formula"))
         return formula(text, *window.editor());
     if (name == QLatin1String("search"))
         return search(text);
+    if (name == QLatin1String("script"))
+        return scriptPicture(text, window);
+    if (name == QLatin1String("locator"))
+        return locatorPicture(text, window);
+    if (name == QLatin1String("keys"))
+        return keysPicture(text, window);
+    if (name == QLatin1String("manual"))
+        return manualPicture(text);
     const bool isOfLinkDb = QStringList{"links", "proof", "documents"}.contains(name);
     return isOfLinkDb ? ofLinkDb(name, text, window) : QPixmap();
 }

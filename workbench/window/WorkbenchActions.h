@@ -70,6 +70,7 @@ public:
         ConflictTheirs,
         ConflictAnew,
         Refresh,
+        ShowManual,
         ShowKeys,
         ShowReason,
         ShowTour,

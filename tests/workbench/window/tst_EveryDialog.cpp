@@ -11,6 +11,7 @@
 #include <workbench/window/CatalogRootsDialog.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
+#include <workbench/window/HelpWindow.h>
 #include <workbench/window/LegendDialog.h>
 #include <workbench/window/LineCommands.h>
 #include <workbench/window/MainWindow.h>
@@ -90,6 +91,11 @@ void addWindows()
     QTest::newRow("locator") << byHand([](WindowFixture &fixture) {
         auto *const search = new LocatorSearch(fixture.window.get());
         return new LocatorDialog(search, nullptr);
+    });
+    QTest::newRow("manual") << byHand([](WindowFixture &) {
+        auto *const help = new HelpWindow(nullptr);
+        help->showTopic("manual/tour.md");
+        return help;
     });
     QTest::newRow("legend") << byHand([](WindowFixture &) { return new LegendDialog(nullptr); });
     QTest::newRow("login") << byHand([](WindowFixture &) {

@@ -87,9 +87,9 @@ private Q_SLOTS:
             << QStringList{"--line=-3"} << "--line is not the number of a line: -3";
         QTest::newRow("size") << QStringList{"--size", "800"}
                               << "--size is not of the form WxH: 800";
-        QTest::newRow("dialog")
-            << QStringList{"--dialog", "x"}
-            << "--dialog is not formula or search or links or proof or documents: x";
+        QTest::newRow("dialog") << QStringList{"--dialog", "x"}
+                                << "--dialog is not formula or search or links or proof or "
+                                   "documents or script or locator or keys or manual: x";
         QTest::newRow("scale") << QStringList{"--scale", "3"} << "--scale is not 1 or 2: 3";
         QTest::newRow("theme") << QStringList{"--theme", "red"}
                                << "--theme is not light or dark: red";

@@ -1,0 +1,190 @@
+#include "ModalScript.h"
+#include "WindowFixture.h"
+
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/HelpDesk.h>
+#include <workbench/window/HelpWindow.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/SettingsDialog.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <QFile>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTreeWidget>
+
+/// The manual in the program.
+class tst_Help : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTopicIsThere();
+    void everyLinkLeadsSomewhere_data();
+    void everyLinkLeadsSomewhere();
+    void opensWhereOneIs();
+    void opensAboveADialog();
+    void linksAndBack();
+    void contentsAndFind();
+    void glossaryHasBothLanguages();
+
+private:
+    [[nodiscard]] static QString textAtTop(const HelpWindow *help)
+    {
+        auto *const text = help->findChild<QTextBrowser *>("helpText");
+        return text->cursorForPosition({5, 12}).block().text();
+    }
+};
+
+void tst_Help::everyTopicIsThere()
+{
+    for (const QString &topic : HelpDesk::topics()) {
+        HelpWindow help(nullptr);
+        QVERIFY2(help.showTopic(topic), qPrintable(topic));
+    }
+    HelpWindow help(nullptr);
+    QVERIFY(!help.showTopic("manual.md#no-such-heading"));
+    QVERIFY(!help.showTopic("none.md"));
+    for (const QString &page : HelpWindow::pages())
+        QVERIFY2(HelpWindow::headingsOf(page).size() > 0, qPrintable(page));
+    QCOMPARE(HelpWindow::headingsOf("manual.md").at(2).first,
+             QString("manual.md#make-catalogs-of-tables-velkmap-import"));
+}
+
+void tst_Help::everyLinkLeadsSomewhere_data()
+{
+    QTest::addColumn<QString>("page");
+    for (const QString &page : HelpWindow::pages())
+        QTest::newRow(qPrintable(page)) << page;
+}
+
+/// Links and pictures as they stand in the text.
+void tst_Help::everyLinkLeadsSomewhere()
+{
+    QFETCH(QString, page);
+    QFile file(":/manual/" + page);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    static const QRegularExpression link("\\]\\(([^)\\s]+)\\)");
+    const QUrl base("qrc:/manual/" + page);
+    HelpWindow help(nullptr);
+    for (auto each = link.globalMatch(text); each.hasNext();) {
+        const QUrl url = base.resolved(QUrl(each.next().captured(1)));
+        if (url.scheme() != "qrc")
+            continue;
+        const QString name = url.path().mid(8);
+        if (!name.endsWith(".md")) {
+            // What is no page lies beside the manual in the sources.
+            if (name.endsWith(".png"))
+                QVERIFY2(QFile::exists(":/manual/" + name), qPrintable(name));
+            continue;
+        }
+        if (url.path().startsWith("/manual/"))
+            QVERIFY2(help.showTopic(name + (url.hasFragment() ? '#' + url.fragment() : QString())),
+                     qPrintable(url.toString()));
+    }
+}
+
+void tst_Help::opensWhereOneIs()
+{
+    WindowFixture fixture;
+    const auto shown = [&fixture] {
+        return fixture.window->findChild<HelpWindow *>();
+    };
+    fixture.press(Qt::Key_F1);
+    QTRY_VERIFY(shown() && shown()->isVisible());
+    QCOMPARE(shown()->topic(), QString("manual/tour.md"));
+    shown()->close();
+    fixture.open(fixture.mappingFile());
+    QVERIFY(fixture.window->editor()->goTo({{"standardparts/screws/din933.prj", {}, {}}, 3}));
+    fixture.press(Qt::Key_F1);
+    QTRY_COMPARE(shown()->topic(), QString("manual.md#decide-line-by-line"));
+    QTRY_COMPARE(textAtTop(shown()), QString("Decide line by line"));
+}
+
+void tst_Help::opensAboveADialog()
+{
+    WindowFixture fixture;
+    ModalScript user;
+    QString topic;
+    user.then([&topic](QWidget *dialog) {
+        auto *const box = dialog->findChild<QGroupBox *>("linkDb");
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_F1);
+        auto *const help = dialog->findChild<HelpWindow *>();
+        topic = help ? help->topic() : QString();
+        if (help)
+            help->close();
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    fixture.action("settings")->trigger();
+    QVERIFY(user.isDone());
+    QCOMPARE(topic, QString("manual/database.md"));
+}
+
+void tst_Help::linksAndBack()
+{
+    HelpWindow help(nullptr);
+    help.show();
+    QVERIFY(help.showTopic("manual/tour.md"));
+    auto *const back = help.findChild<QPushButton *>("helpBack");
+    auto *const text = help.findChild<QTextBrowser *>("helpText");
+    QVERIFY(!back->isEnabled());
+    Q_EMIT text->anchorClicked(QUrl("../manual.md#the-editor"));
+    QCOMPARE(help.topic(), QString("manual.md#the-editor"));
+    QCOMPARE(text->textCursor().block().text(), QString("The editor"));
+    QTest::mouseClick(back, Qt::LeftButton);
+    QCOMPARE(help.topic(), QString("manual/tour.md"));
+    QVERIFY(!back->isEnabled());
+}
+
+void tst_Help::contentsAndFind()
+{
+    HelpWindow help(nullptr);
+    help.show();
+    auto *const contents = help.findChild<QTreeWidget *>("helpContents");
+    QCOMPARE(contents->topLevelItemCount(), int(HelpWindow::pages().size()));
+    QCOMPARE(contents->topLevelItem(0)->text(0), QString("A tour of 15 minutes"));
+    contents->expandItem(contents->topLevelItem(1));
+    contents->setCurrentItem(contents->topLevelItem(1)->child(0));
+    contents->setFocus();
+    QTest::keyClick(contents, Qt::Key_Return);
+    QCOMPARE(help.topic(), QString("manual.md#the-batch-program"));
+    auto *const find = help.findChild<QLineEdit *>("helpFind");
+    auto *const text = help.findChild<QTextBrowser *>("helpText");
+    QTest::keyClicks(find, "Ctrl+Shift+F");
+    QTest::keyClick(find, Qt::Key_Return);
+    QCOMPARE(text->textCursor().selectedText(), QString("Ctrl+Shift+F"));
+    const int place = text->textCursor().position();
+    QTest::keyClick(find, Qt::Key_Return);
+    QCOMPARE(text->textCursor().position(), place); // round and back
+}
+
+/// A row has a word in both languages and says what it is; the words are in order.
+void tst_Help::glossaryHasBothLanguages()
+{
+    QFile file(":/manual/glossary.md");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QStringList words;
+    const QStringList rows = QString::fromUtf8(file.readAll()).split('\n');
+    for (const QString &row : rows) {
+        if (!row.startsWith("| ") || row.startsWith("| English") || row.startsWith("| ---"))
+            continue;
+        const QStringList cells = row.split(" | ");
+        QVERIFY2(cells.size() == 3, qPrintable(row));
+        words << cells.at(0).mid(2).toLower();
+    }
+    QVERIFY(words.size() > 50);
+    QStringList sorted = words;
+    sorted.sort();
+    QCOMPARE(words, sorted);
+}
+
+QTEST_MAIN(tst_Help)
+#include "tst_Help.moc"
