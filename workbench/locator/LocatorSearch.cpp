@@ -6,12 +6,15 @@
 #include <QThreadPool>
 
 #include <algorithm>
+#include <array>
 #include <mutex>
 
 namespace {
 
 /// Projects that are asked for a line.
 constexpr int ProjectsWithLine = 10;
+/// Of one kind, before the others have had their turn: a table's lines are often alike.
+constexpr int MostOfAKind = 10;
 
 struct Ranked
 {
@@ -121,6 +124,10 @@ LocatorHits LocatorSearch::Sources::find(const QString &words,
     }
     std::stable_sort(all.begin(), all.end(), [](const Ranked &one, const Ranked &other) {
         return std::pair(one.rank, one.item.kind) < std::pair(other.rank, other.item.kind);
+    });
+    std::array<int, 4> ofKind{};
+    std::stable_partition(all.begin(), all.end(), [&ofKind](const Ranked &each) {
+        return ++ofKind[size_t(each.item.kind)] <= MostOfAKind;
     });
     const size_t shown = std::min(all.size(), size_t(Limit));
     hits.items.reserve(qsizetype(shown));

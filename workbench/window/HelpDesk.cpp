@@ -76,15 +76,9 @@ QStringList HelpDesk::topics()
     return topics;
 }
 
-void HelpDesk::show()
+void HelpDesk::showFor(const QWidget *widget)
 {
-    const QWidget *const focus = m_window->focusWidget();
-    open(m_window, topicOf(focus ? focus : m_window));
-}
-
-void HelpDesk::showTopic(const QString &topic)
-{
-    open(m_window, topic);
+    open(m_window, topicOf(widget ? widget : m_window));
 }
 
 /// Above a modal dialog, or it could not be used beside that.

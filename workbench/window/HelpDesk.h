@@ -20,9 +20,8 @@ public:
     explicit HelpDesk(QWidget *window);
     ~HelpDesk() override;
 
-    /// At the place for what has the keys.
-    void show();
-    void showTopic(const QString &topic);
+    /// At the place for a widget of the window; null stands for the window.
+    void showFor(const QWidget *widget);
     /// The topic for a widget: its own, else that of what it lies in, else the editor's.
     [[nodiscard]] static QString topicOf(const QWidget *widget);
     /// All that topicOf() gives.

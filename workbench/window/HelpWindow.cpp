@@ -4,6 +4,7 @@
 
 #include <gui/application/PApplication.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QDesktopServices>
 #include <QFile>
 #include <QHBoxLayout>
@@ -11,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTextBlock>
@@ -147,12 +149,23 @@ bool HelpWindow::load(const QString &topic)
     while (block.isValid() && !heading.isEmpty() &&
            (block.blockFormat().headingLevel() == 0 || slugOf(block.text()) != heading))
         block = block.next();
-    QTextCursor cursor(block.isValid() ? block : m_text->document()->begin());
-    // The heading stands at the top: first to the end, then up to it.
-    m_text->moveCursor(QTextCursor::End);
-    m_text->setTextCursor(cursor);
-    m_text->ensureCursorVisible();
+    m_text->setTextCursor(QTextCursor(block.isValid() ? block : m_text->document()->begin()));
+    scroll();
     return block.isValid();
+}
+
+void HelpWindow::scroll()
+{
+    const QTextBlock block = m_text->textCursor().block();
+    m_text->verticalScrollBar()->setValue(
+        int(m_text->document()->documentLayout()->blockBoundingRect(block).top()));
+}
+
+/// Only now it is known how wide the page is.
+void HelpWindow::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    QMetaObject::invokeMethod(this, &HelpWindow::scroll, Qt::QueuedConnection);
 }
 
 void HelpWindow::follow(const QUrl &link)

@@ -32,8 +32,13 @@ public:
     bool showTopic(const QString &topic);
     [[nodiscard]] const QString &topic() const { return m_topic; }
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void fillContents();
+    /// The block that was gone to stands at the top.
+    void scroll();
     [[nodiscard]] bool load(const QString &topic);
     void follow(const QUrl &link);
     void goBack();

@@ -122,6 +122,7 @@ void KeysDialog::setWords(const QString &words)
 void KeysDialog::filter()
 {
     const QString words = SearchText::folded(m_filter->text()).simplified();
+    QTreeWidgetItem *first = nullptr;
     for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
         QTreeWidgetItem *const item = m_list->topLevelItem(i);
         const QString text =
@@ -129,7 +130,11 @@ void KeysDialog::filter()
         const QStringList parts = words.split(u' ', Qt::SkipEmptyParts);
         item->setHidden(!std::all_of(parts.begin(), parts.end(),
                                      [&](const QString &part) { return text.contains(part); }));
+        if (!first && !item->isHidden())
+            first = item;
     }
+    if (first && m_list->currentItem() && m_list->currentItem()->isHidden())
+        m_list->setCurrentItem(first);
 }
 
 QString KeysDialog::currentId() const

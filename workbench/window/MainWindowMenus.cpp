@@ -206,7 +206,9 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::CheckValueRanges, [this] { checkValueRanges(); });
     connectTo(WorkbenchActions::EditScript, [this] { m_scripts->showEditor(); });
     connectTo(WorkbenchActions::Settings, [this] { editSettings(); });
-    connectTo(WorkbenchActions::ShowManual, [this] { m_help->show(); });
+    connectTo(WorkbenchActions::ShowManual, [this] {
+        m_help->showFor(m_desk->document()->isOpen() ? focusWidget() : m_welcome);
+    });
     connectTo(WorkbenchActions::ShowKeys, [this] { editKeys(); });
     connectTo(WorkbenchActions::Locate, [this] { m_locator->open(); });
     connect(m_locator, &LocatorDesk::settingChosen, this, &MainWindow::editSettings);

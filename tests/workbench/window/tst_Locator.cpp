@@ -57,6 +57,7 @@ private Q_SLOTS:
     void cleanup();
     void searchFinds_data();
     void searchFinds();
+    void linesLeaveRoom();
     void laterSearchOvertakes();
     void manyProjects();
     void goesToAProject();
@@ -174,6 +175,28 @@ void tst_Locator::searchFinds()
         texts << text;
     }
     QTEST(texts.join(", "), "found");
+}
+
+/// A table whose lines all have the word in their names.
+void tst_Locator::linesLeaveRoom()
+{
+    LocatorSearch search;
+    search.setRelease(releaseOf({"a/din933.prj"}));
+    QList<LocatorItem> items;
+    for (int line = 1; line <= 80; ++line)
+        items << LocatorItem{.kind = LocatorItem::Line,
+                             .title = QStringLiteral("%1 DIN 933").arg(line),
+                             .line = {{"here.prj", {}, {}}, line}};
+    search.setItems(items);
+    QSignalSpy found(&search, &LocatorSearch::found);
+    search.find("933");
+    QVERIFY(found.wait());
+    const auto hits = found.at(0).at(0).value<LocatorHits>();
+    QCOMPARE(hits.count, 81);
+    QCOMPARE(hits.items.size(), LocatorSearch::Limit);
+    QCOMPARE(hits.items.at(9).kind, LocatorItem::Line);
+    QCOMPARE(hits.items.at(10).kind, LocatorItem::Project);
+    QCOMPARE(hits.items.at(11).line.line, 11);
 }
 
 void tst_Locator::laterSearchOvertakes()
@@ -535,6 +558,7 @@ void tst_Locator::keysAreFiltered()
     auto *const filter = dialog.findChild<QLineEdit *>("keysFilter");
     QTest::keyClicks(filter, "zeile gehe");
     QCOMPARE(shown(), QStringList{"Gehe zu Zeile"});
+    QCOMPARE(list->currentItem()->text(0), QString("Gehe zu Zeile"));
     filter->clear();
     QTest::keyClicks(filter, "ctrl+g");
     QCOMPARE(shown(), QStringList{"Gehe zu Zeile"});
