@@ -162,6 +162,10 @@ private Q_SLOTS:
                                  << QSize(560, 260);
         QTest::newRow("search") << QStringList{"--dialog", "search", "--text", "din"}
                                 << QSize(640, 520);
+        QTest::newRow("keys") << QStringList{"--dialog", "keys", "--text", "line"}
+                              << QSize(640, 420);
+        QTest::newRow("manual") << QStringList{"--dialog", "manual", "--text", "manual/tour.md"}
+                                << QSize(980, 620);
         for (const char *dialog : {"links", "proof"})
             QTest::newRow(dialog) << QStringList{"--dialog", dialog, "--text", "link.db"}
                                   << QSize(900, 420);
