@@ -41,7 +41,8 @@ void addOptions(QCommandLineParser &parser)
         {"screenshot", "Renders the editor into a PNG file, without a display, and ends.", "FILE"},
         {"dialog", "Renders a dialog instead: " + dialogs().join(" or ") + ".", "DIALOG"},
         {"text",
-         "Text in that dialog; for links, proof and documents the link database, for script a file.",
+         "Text in that dialog; for links, proof and documents the link database, for script a "
+         "file.",
          "TEXT"},
         {"size", "Size of the window, such as 1400x900.", "WxH"},
         {"scale", "Pixels for a length of 1 in a screenshot: 1 or 2.", "N", "1"},

@@ -6,10 +6,10 @@
 class MainWindow;
 
 /// Renders one of the editor's dialogs by its name: "formula" or "search" with a text in it, a
-/// statement over the variables of the open project, or words to search for in its catalog; "links",
-/// "proof" or, of the selected line, "documents" over the link database whose address the text is;
-/// "script" with the file that it is, which runs; "locator" and "keys" with words to look for;
-/// "manual" at a topic.
+/// statement over the variables of the open project, or words to search for in its catalog;
+/// "links", "proof" or, of the selected line, "documents" over the link database whose address the
+/// text is; "script" with the file that it is, which runs; "locator" and "keys" with words to look
+/// for; "manual" at a topic.
 class ScreenshotDialog
 {
 public:
