@@ -48,7 +48,7 @@ void DocumentListDialogCPrivate::deleteLeaf(const QString &id)
                               QStringLiteral(" WHERE Child = ") + id);
     if (parents > 1) {
         PMessage::Show(deletionText("Das Teil konnte nicht gelöscht werden, da es von mehreren "
-                                  "Assemblies referenziert wird!"),
+                                    "Assemblies referenziert wird!"),
                        PMsgDlgMode::Warning);
         return;
     }
@@ -71,7 +71,7 @@ void DocumentListDialogCPrivate::deleteAssembly(const QString &id)
     const QPointer<DocumentListDialogC> self(q);
     const PMsgReply reply = PMessage::Show(
         deletionText("Sie sind dabei, eine Assembly zu löschen, die Unterelemente enthält. Sollen "
-                   "alle Unterelemente ebenfalls gelöscht werden?"),
+                     "alle Unterelemente ebenfalls gelöscht werden?"),
         PMsgDlgMode::YesNoCancel);
     if (reply == PMsgReply::Cancel || !self)
         return;
@@ -109,10 +109,11 @@ void DocumentListDialogCPrivate::deleteChildren(const QString &id)
         linkDbIface->commit();
     }
     if (kept > 0)
-        PMessage::Show(deletionText("Es konnten nicht alle Unterelemente gelöscht werden, da einige "
-                                  "Unterelemente auch von anderen Assemblies referenziert "
-                                  "werden!"),
-                       PMsgDlgMode::Warning);
+        PMessage::Show(
+            deletionText("Es konnten nicht alle Unterelemente gelöscht werden, da einige "
+                         "Unterelemente auch von anderen Assemblies referenziert "
+                         "werden!"),
+            PMsgDlgMode::Warning);
 }
 
 bool DocumentListDialogCPrivate::runDelete(const QString &statement) const

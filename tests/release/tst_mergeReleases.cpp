@@ -3,7 +3,6 @@
 #include <release/merge/ClashGroups.h>
 #include <release/merge/mergeReleases.h>
 
-
 #include <QTest>
 
 using MergeCase::release;

@@ -64,9 +64,8 @@ MappingChangeMap MergeState::localChanges(const ReleaseMappingC &release) const
 QList<MergeClash> MergeState::lineClashes() const
 {
     QList<MergeClash> lines;
-    std::ranges::copy_if(m_clashes, std::back_inserter(lines), [](const MergeClash &clash) {
-        return clash.kind == MergeClash::Line;
-    });
+    std::ranges::copy_if(m_clashes, std::back_inserter(lines),
+                         [](const MergeClash &clash) { return clash.kind == MergeClash::Line; });
     return lines;
 }
 

@@ -49,5 +49,5 @@ private:
     QWidget *const m_window;
     ConflictList *const m_list;
     const QPointer<ConflictDock> m_dock; ///< the window may delete it first
-    std::set<int> m_oneByOne; ///< groups whose lines the user wants to decide singly
+    std::set<int> m_oneByOne;            ///< groups whose lines the user wants to decide singly
 };

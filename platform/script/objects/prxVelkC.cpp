@@ -47,7 +47,7 @@ ProxyPtrT<prxReleaseMappingC> prxVelkC::openRelease(const QString &file, const Q
     const MappingFile read = readFile(file, sourceDate.isEmpty() ? noDate : sourceDate);
     if (!read.contains(sourceDate)) {
         scriptFailure(QStringLiteral("%1: there is no release %2; the file holds %3")
-                 .arg(file, sourceDate, read.sourceDates().join(QStringLiteral(", "))));
+                          .arg(file, sourceDate, read.sourceDates().join(QStringLiteral(", "))));
     }
     return ProxyPtrT<prxReleaseMappingC>(
         new prxReleaseMappingC(read.release(sourceDate), {sourceRoot, targetRoot}));

@@ -24,7 +24,8 @@ QString fileBelow(const QString &root, const QString &path)
 ProxyPtrT<VKTab::proxyTableC> readScriptTable(const QString &root, const QString &path)
 {
     if (path.isEmpty())
-        scriptFailure(QStringLiteral("A table is read by the path of its project; this one is empty"));
+        scriptFailure(
+            QStringLiteral("A table is read by the path of its project; this one is empty"));
     const QString file = root.isEmpty() ? path : fileBelow(root, path);
     VKTab::Content table;
     const VKTab::ProjectTable read = VKTab::readProjectTable(
