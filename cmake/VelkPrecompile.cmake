@@ -31,6 +31,11 @@ function(velk_precompile target)
   if(NOT "Boost::headers" IN_LIST links)
     return()
   endif()
+  # g++ takes no header that was made without a module which the test library's headers ask for.
+  if("VelkQtTest" IN_LIST links AND "Qt6::Network" IN_LIST links
+     AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    return()
+  endif()
   set(modules Boost::headers Qt6::Core)
   set(headers core)
   if("VelkQtTest" IN_LIST links)

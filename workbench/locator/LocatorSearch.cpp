@@ -83,7 +83,10 @@ void LocatorSearch::Sources::addLines(const QString &words, const std::function<
         return;
     const PartFinder::Hits hits = projects->finder().find(others, ProjectsWithLine, isStale);
     for (const PartFinder::Hit &hit : hits.best) {
-        if (!projects->release().mappingAt(hit.entry).findLine(number, {}).isValid())
+        if (!projects->release()
+                 .mappingAt(hit.entry)
+                 .findLine(number, QHash<QString, MapVarValueC>())
+                 .isValid())
             continue;
         LocatorItem item = projectItem(projects->release(), hit.entry);
         item.kind = LocatorItem::Line;

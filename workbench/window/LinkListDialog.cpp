@@ -16,7 +16,7 @@
 
 namespace {
 
-enum LinkColumn { NumberColumn, PathColumn, LineColumn, NameColumn };
+enum LinkColumn { LinkNumber, LinkPath, LinkLine, LinkName };
 
 QString likeText(const QString &search)
 {
@@ -73,7 +73,7 @@ LinkListDialog::LinkListDialog(const PRefPtr<PLinkDbC> &linkDb, QWidget *parent)
     connect(m_list, &QTreeWidget::itemDoubleClicked, m_show, &QPushButton::click);
     connect(m_show, &QPushButton::clicked, this, [this] {
         if (const QTreeWidgetItem *const item = m_list->currentItem())
-            Q_EMIT lineWanted(item->text(PathColumn), item->text(LineColumn).toInt());
+            Q_EMIT lineWanted(item->text(LinkPath), item->text(LinkLine).toInt());
     });
     connect(m_move, &QPushButton::clicked, this, [this] { setAwaiting(true); });
     connect(restore, &QPushButton::clicked, this, &LinkListDialog::restoreDeleted);

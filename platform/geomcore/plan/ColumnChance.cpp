@@ -19,6 +19,7 @@ constexpr int LinesOfKey = 100;
 void ColumnChance::finish(const CellValues &values, bool isKey)
 {
     int single = 0;
+    std::unordered_map<int, int> tokens;
     for (const auto &[number, count] : m_counts) {
         m_lineCount += count;
         if (number == CellValues::NoValue)
@@ -28,7 +29,7 @@ void ColumnChance::finish(const CellValues &values, bool isKey)
         m_meanTokens += double(count) * double(value.distinct.size());
         single += count == 1 && (isKey || !value.isNumber) ? 1 : 0;
         for (const int token : value.distinct)
-            m_tokens[token] += count;
+            tokens[token] += count;
         if (value.isNumber)
             m_numbers.insert(m_numbers.end(), size_t(count), value.number);
     }
@@ -36,6 +37,23 @@ void ColumnChance::finish(const CellValues &values, bool isKey)
     std::sort(m_numbers.begin(), m_numbers.end());
     m_further = isKey ? LinesOfKey : 1;
     m_known = 1 - double(single) / (m_valueCount + 1);
+    finishTokens(values, tokens);
+}
+
+void ColumnChance::finishTokens(const CellValues &values,
+                                const std::unordered_map<int, int> &counts)
+{
+    const auto chance = [this](int count) {
+        const double share = (count + 0.5) / (m_valueCount + 1);
+        return TokenChance{share, std::log(share), std::log(1 - share)};
+    };
+    m_tokenPlaces.assign(size_t(values.tokenCount()), 0);
+    m_tokenChances.assign(1, chance(0));
+    m_tokenChances.reserve(counts.size() + 1);
+    for (const auto &[token, count] : counts) {
+        m_tokenPlaces[size_t(token)] = int(m_tokenChances.size());
+        m_tokenChances.push_back(chance(count));
+    }
 }
 
 double ColumnChance::missing() const
@@ -48,12 +66,6 @@ double ColumnChance::share(int value) const
     const auto found = m_counts.find(value);
     return m_known * ((found == m_counts.end() ? 0 : found->second) + 0.5) /
            (m_valueCount + m_further);
-}
-
-double ColumnChance::tokenShare(int token) const
-{
-    const auto found = m_tokens.find(token);
-    return ((found == m_tokens.end() ? 0 : found->second) + 0.5) / (m_valueCount + 1);
 }
 
 double ColumnChance::nearShare(double number, double other) const

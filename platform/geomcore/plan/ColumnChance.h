@@ -25,7 +25,21 @@ public:
     /// the same text by chance is then rarer than its share. Measures meet by chance more often.
     [[nodiscard]] double missing() const;
     [[nodiscard]] double share(int value) const;
-    [[nodiscard]] double tokenShare(int token) const;
+    [[nodiscard]] double tokenShare(int token) const { return tokenChance(token).share; }
+    /// Share of a token with its logarithm and that of the lines without it: a comparison of long
+    /// texts asks for many of them.
+    struct TokenChance
+    {
+        double share = 0;
+        double logShare = 0;
+        double logWithout = 0;
+    };
+    [[nodiscard]] const TokenChance &tokenChance(int token) const
+    {
+        return m_tokenChances[size_t(token) < m_tokenPlaces.size()
+                                  ? size_t(m_tokenPlaces[size_t(token)])
+                                  : 0];
+    }
     /// Different tokens of a value, on average.
     [[nodiscard]] double meanTokens() const { return m_meanTokens; }
     /// Share of the numbers that are at least as near to \a number as \a other is. As long as there
@@ -34,8 +48,11 @@ public:
     [[nodiscard]] int numberCount() const { return int(m_numbers.size()); }
 
 private:
+    void finishTokens(const CellValues &values, const std::unordered_map<int, int> &counts);
+
     std::unordered_map<int, int> m_counts;
-    std::unordered_map<int, int> m_tokens;
+    std::vector<int> m_tokenPlaces; ///< By token: place in m_tokenChances; 0: it does not occur.
+    std::vector<TokenChance> m_tokenChances = std::vector<TokenChance>(1);
     std::vector<double> m_numbers; ///< Sorted.
     double m_meanTokens = 0;
     double m_known = 1; ///< Share of the values of further lines that are among these.

@@ -5,10 +5,6 @@
 
 namespace Plan {
 
-namespace {
-
-} // namespace
-
 double PairEvidence::nearRatio(const ColumnChance &chance, int oldValue, int newValue) const
 {
     const CellValues::Value &a = m_tables.values.value(oldValue);
@@ -30,17 +26,19 @@ double PairEvidence::alikeRatio(const ColumnChance &chance, const VariableRates 
     double sum = (1 - rates.adds) * chance.meanTokens();
     bool any = false;
     const double added = std::log(rates.adds);
+    const double stays = std::log(rates.stays);
+    const double goes = std::log(1 - rates.stays);
     auto i = a.begin();
     auto j = b.begin();
     while (i != a.end() || j != b.end()) {
         const bool onlyOld = j == b.end() || (i != a.end() && *i < *j);
         const bool onlyNew = !onlyOld && (i == a.end() || *j < *i);
-        const double share = chance.tokenShare(onlyNew ? *j : *i);
-        sum -= (1 - rates.adds) * share;
+        const ColumnChance::TokenChance &token = chance.tokenChance(onlyNew ? *j : *i);
+        sum -= (1 - rates.adds) * token.share;
         if (onlyOld)
-            sum += std::log((1 - rates.stays) / (1 - share));
+            sum += goes - token.logWithout;
         else
-            sum += onlyNew ? added : std::log(rates.stays / share);
+            sum += onlyNew ? added : stays - token.logShare;
         any = any || (!onlyOld && !onlyNew);
         i += onlyNew ? 0 : 1;
         j += onlyOld ? 0 : 1;
