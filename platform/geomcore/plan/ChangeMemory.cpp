@@ -29,17 +29,17 @@ bool hasNumber(const CellValues &values, int value)
 void ChangeMemory::add(const CellValues &values, int variable, int oldValue, int newValue,
                        double weight)
 {
-    m_weights[applicableKey(variable, OfAll, 0)] += weight;
-    m_weights[applicableKey(variable, OfValue, oldValue)] += weight;
+    m_weights.add(applicableKey(variable, OfAll, 0), weight);
+    m_weights.add(applicableKey(variable, OfValue, oldValue), weight);
     for (const int token : values.value(oldValue).distinct)
-        m_weights[applicableKey(variable, OfToken, token)] += weight;
+        m_weights.add(applicableKey(variable, OfToken, token), weight);
     if (hasNumber(values, oldValue))
-        m_weights[applicableKey(variable, OfNumbers, 0)] += weight;
+        m_weights.add(applicableKey(variable, OfNumbers, 0), weight);
     if (oldValue == newValue)
         return;
     for (const std::uint64_t key : changeBetween(values, variable, oldValue, newValue).keys) {
         if (key != 0)
-            m_weights[key] += weight;
+            m_weights.add(key, weight);
     }
 }
 
@@ -48,23 +48,17 @@ void ChangeMemory::clear()
     m_weights.clear();
 }
 
-double ChangeMemory::weightOf(std::uint64_t key) const
-{
-    const auto found = m_weights.find(key);
-    return found == m_weights.end() ? 0 : found->second;
-}
-
 double ChangeMemory::applicable(const CellValues &values, int variable, int oldValue,
                                 const CellChange &change, CellChange::Kind kind) const
 {
     if (kind == CellChange::Whole)
-        return weightOf(applicableKey(variable, OfValue, oldValue));
+        return m_weights.of(applicableKey(variable, OfValue, oldValue));
     if (kind == CellChange::Factor || kind == CellChange::Offset)
-        return weightOf(applicableKey(variable, OfNumbers, 0));
-    double least = weightOf(applicableKey(variable, OfAll, 0));
+        return m_weights.of(applicableKey(variable, OfNumbers, 0));
+    double least = m_weights.of(applicableKey(variable, OfAll, 0));
     const std::vector<int> &tokens = values.value(oldValue).tokens;
     for (int i = change.middleBegin; i < change.middleEnd; ++i)
-        least = std::min(least, weightOf(applicableKey(variable, OfToken, tokens[size_t(i)])));
+        least = std::min(least, m_weights.of(applicableKey(variable, OfToken, tokens[size_t(i)])));
     return least;
 }
 
@@ -72,12 +66,12 @@ ChangeMemory::Likely ChangeMemory::likely(const CellValues &values, int variable
                                           int newValue, double own) const
 {
     Likely best;
-    if (m_weights.empty())
+    if (m_weights.isEmpty())
         return best;
     const CellChange change = changeBetween(values, variable, oldValue, newValue);
     for (int kind = 0; kind < CellChange::KindCount; ++kind) {
         const std::uint64_t key = change.keys[kind];
-        const double supports = key == 0 ? 0 : weightOf(key) - own;
+        const double supports = key == 0 ? 0 : m_weights.of(key) - own;
         if (supports <= 1e-6)
             continue;
         const double all =

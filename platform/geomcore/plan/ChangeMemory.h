@@ -1,8 +1,7 @@
 #pragma once
 
 #include "CellChange.h"
-
-#include <unordered_map>
+#include "KeyWeights.h"
 
 namespace Plan {
 
@@ -27,9 +26,8 @@ public:
 private:
     [[nodiscard]] double applicable(const CellValues &values, int variable, int oldValue,
                                     const CellChange &change, CellChange::Kind kind) const;
-    [[nodiscard]] double weightOf(std::uint64_t key) const;
 
-    std::unordered_map<std::uint64_t, double> m_weights;
+    KeyWeights m_weights;
 };
 
 } // namespace Plan
