@@ -105,7 +105,7 @@ void tell(const Participant &participant, QTextStream &out)
 ExitStatus tellStatus(SharedMapping &shared, QTextStream &out, QTextStream &err)
 {
     SharedMapping::Status status;
-    const ShareAnswer answer = shared.status(status);
+    ShareAnswer answer = shared.status(status);
     if (!answer.isDone())
         return finish("share", answer, err);
     out << shared.sharedFile() << ": base " << shared.baseRevision().left(12) << ", newest "
@@ -152,11 +152,11 @@ ExitStatus runShare(const QStringList &arguments, QTextStream &out, QTextStream 
         return ExitStatus::Done;
     }
     if (line.isSet("with")) {
-        if (const ShareAnswer answer = shared.link(line.value("with")); !answer.isDone())
+        if (ShareAnswer answer = shared.link(line.value("with")); !answer.isDone())
             return finish("share", answer, err);
     }
     if (line.isSet("folders")) {
-        const ShareAnswer answer = shared.takeFolders(foldersOf(line.value("folders")));
+        ShareAnswer answer = shared.takeFolders(foldersOf(line.value("folders")));
         if (!answer.isDone())
             return finish("share", answer, err);
     }
@@ -177,7 +177,7 @@ ExitStatus runUpdate(const QStringList &arguments, QTextStream &out, QTextStream
     SharedMapping shared(line.value("mapping"));
     VelkRelease::SameLines same(line.value("target"));
     VelkRelease::MergedFile merged;
-    const ShareAnswer answer = shared.update(merged, mergeOptions(line, same));
+    ShareAnswer answer = shared.update(merged, mergeOptions(line, same));
     if (!answer.isDone())
         return finish("update", answer, err);
     tellMerge(merged, out);
@@ -198,7 +198,7 @@ ExitStatus runPublish(const QStringList &arguments, QTextStream &out, QTextStrea
     if (const auto failed = takeLock(lock, line.value("mapping"), err))
         return *failed;
     SharedMapping shared(line.value("mapping"));
-    const ShareAnswer answer = shared.publish({line.value("message"), line.isSet("into-others")});
+    ShareAnswer answer = shared.publish({line.value("message"), line.isSet("into-others")});
     if (answer.isDone())
         out << shared.sharedFile() << ": revision " << shared.baseRevision().left(12) << '\n';
     return finish("publish", answer, err);

@@ -246,7 +246,7 @@ void ReviewWork::explain(const LineRef &line)
 std::shared_ptr<ReviewWork::Job> ReviewWork::run(const std::function<void(Job &)> &work)
 {
     reap();
-    const auto job = std::make_shared<Job>();
+    auto job = std::make_shared<Job>();
     job->number = ++m_lastJob;
     m_jobs.push_back(job);
     // The thread ends before its job goes, for that is where it is joined.

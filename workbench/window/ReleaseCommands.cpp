@@ -147,7 +147,7 @@ QString ReleaseCommands::askFile(const char *name, const QString &title, const Q
     dialog.selectFile(mapping.baseName() + u'.' + ending);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    const QString file = dialog.selectedFiles().value(0);
+    QString file = dialog.selectedFiles().value(0);
     m_store->setValue(QLatin1String(name) + QStringLiteral("/folder"), QFileInfo(file).path());
     return file;
 }

@@ -174,9 +174,9 @@ bool ShareCommands::publish()
 bool ShareCommands::publish(bool intoOthersFolders)
 {
     QString revision;
-    const ShareAnswer answer =
+    ShareAnswer answer =
         run(tr("Die Änderungen werden veröffentlicht"), [&](SharedMapping &shared) {
-            const ShareAnswer done = shared.publish({tr("Mapping bearbeitet"), intoOthersFolders});
+            ShareAnswer done = shared.publish({tr("Mapping bearbeitet"), intoOthersFolders});
             revision = shared.baseRevision();
             return done;
         });
@@ -259,7 +259,7 @@ void ShareCommands::tellWho()
     QString base;
     QString file;
     if (!finish(run(tr("Die gemeinsame Kopie wird gelesen"), [&](SharedMapping &shared) {
-            const ShareAnswer answer = shared.status(status);
+            ShareAnswer answer = shared.status(status);
             for (const Participant &participant : shared.participants())
                 rows += text(participant);
             base = shared.baseRevision();

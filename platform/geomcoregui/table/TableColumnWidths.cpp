@@ -35,6 +35,11 @@ TableColumnWidths::~TableColumnWidths()
     store();
 }
 
+void TableColumnWidths::setOrder(const TableColumnOrder *order)
+{
+    m_order = order;
+}
+
 void TableColumnWidths::load()
 {
     store();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <map>
@@ -21,8 +22,8 @@ public:
     /// Stores what is not stored yet.
     ~TableColumnWidths() override;
 
-    /// Columns that the user hides; must live as long.
-    void setOrder(const TableColumnOrder *order) { m_order = order; }
+    /// Columns that the user hides.
+    void setOrder(const TableColumnOrder *order);
     /// Reads the widths for the model's table.
     void load();
     /// Gives the columns their widths. Status columns that no line has a value in are hidden,
@@ -42,7 +43,7 @@ private:
 
     TableGrid *m_grid;
     VkTableModel *m_model;
-    const TableColumnOrder *m_order = nullptr;
+    QPointer<const TableColumnOrder> m_order; ///< The grid deletes both, in its own order.
     double m_zoom = 1;
     bool m_applying = false;
     bool m_changed = false;

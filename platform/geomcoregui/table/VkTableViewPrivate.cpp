@@ -86,8 +86,6 @@ VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
 VkTableViewPrivate::~VkTableViewPrivate()
 {
     keepFilters();
-    // It is asked by the widths, which the grid deletes in its own order.
-    widths->setOrder(nullptr);
 }
 
 void VkTableViewPrivate::layOut()

@@ -165,16 +165,16 @@ void ProjectMerge::mergeHead(int slot)
     if (isReal && base && !theirs)
         tellOnline(headChange(slot, Base, 3));
     PrjMappingTargetC &merged = m_targets[size_t(slot)];
-    merged = theirs ? *theirs : ours ? *ours : *base;
+    if (const PrjMappingTargetC *present = theirs ? theirs : ours ? ours : base)
+        merged = *present;
     if (ours && theirs)
-        mergeRules(slot);
+        mergeRules(slot, *ours, *theirs);
 }
 
-void ProjectMerge::mergeRules(int slot)
+void ProjectMerge::mergeRules(int slot, const PrjMappingTargetC &ours,
+                              const PrjMappingTargetC &theirs)
 {
     const PrjMappingTargetC &base = target(slot, Base) ? *target(slot, Base) : noTarget();
-    const PrjMappingTargetC &ours = *target(slot, Ours);
-    const PrjMappingTargetC &theirs = *target(slot, Theirs);
     PrjMappingTargetC &merged = m_targets[size_t(slot)];
     const bool isNew = !target(slot, Base);
     const auto merge = [&](auto same, int type, MergeClash::Kind kind, auto take) {

@@ -31,6 +31,7 @@ public:
         int line = -1;
 
         friend bool operator==(const Place &, const Place &) = default;
+        // NOLINTNEXTLINE(modernize-use-nullptr): the comparison that is made has no pointer
         friend auto operator<=>(const Place &, const Place &) = default;
     };
     struct Numbers

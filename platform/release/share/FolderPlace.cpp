@@ -35,7 +35,7 @@ ShareAnswer FolderPlace::fetch(SharedCopy &copy)
         return QFileInfo(folder).isDir() ? ShareAnswer()
                                          : ShareAnswer{ShareAnswer::NotReachable, folder};
     }
-    const ShareAnswer answer = read(file(), copy.bytes);
+    ShareAnswer answer = read(file(), copy.bytes);
     copy.exists = answer.isDone();
     if (copy.exists)
         copy.revision = QString::fromLatin1(FileState::hashOf(copy.bytes));
@@ -59,7 +59,7 @@ ShareAnswer FolderPlace::publish(const QByteArray &bytes, const QString &expecte
         return {ShareAnswer::Busy, host};
     }
     SharedCopy there;
-    if (const ShareAnswer answer = fetch(there); !answer.isDone())
+    if (ShareAnswer answer = fetch(there); !answer.isDone())
         return answer;
     if (there.revision != expected)
         return there.exists ? ShareAnswer{ShareAnswer::NewerThere, {}}

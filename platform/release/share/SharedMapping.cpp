@@ -82,7 +82,8 @@ Participant participantOf(const QJsonObject &note)
     participant.isOpen = note["open"].toBool();
     participant.seen = QDateTime::fromString(note["seen"].toString(), Qt::ISODate);
     participant.revision = note["revision"].toString();
-    for (const QJsonValue &folder : note["folders"].toArray())
+    const QJsonArray folders = note["folders"].toArray();
+    for (const auto &folder : folders)
         participant.folders += folder.toString();
     return participant;
 }
@@ -157,25 +158,25 @@ ShareAnswer SharedMapping::link(const QString &sharedFile)
 {
     auto place = SharedPlace::at(sharedFile);
     SharedCopy there;
-    if (const ShareAnswer answer = place->fetch(there); !answer.isDone())
+    if (ShareAnswer answer = place->fetch(there); !answer.isDone())
         return answer;
     const bool isHere = QFileInfo::exists(m_file);
     QByteArray own;
     if (isHere) {
-        if (const ShareAnswer answer = readOwn(own); !answer.isDone())
+        if (ShareAnswer answer = readOwn(own); !answer.isDone())
             return answer;
     }
     MappingFile file;
     const QByteArray &content = isHere ? own : there.bytes;
     if (!isHere && !there.exists)
         return {ShareAnswer::NotReachable, place->file()};
-    if (const ShareAnswer answer = parsed(isHere ? m_file : place->file(), content, file);
+    if (ShareAnswer answer = parsed(isHere ? m_file : place->file(), content, file);
         !answer.isDone())
         return answer;
     if (isHere && there.exists && own != there.bytes)
         return {ShareAnswer::BothExist, place->file()};
     if (!there.exists) {
-        const ShareAnswer answer =
+        ShareAnswer answer =
             place->publish(own, QString(), QStringLiteral("Begin to share"), there.revision);
         if (!answer.isDone())
             return answer;
@@ -199,7 +200,7 @@ ShareAnswer SharedMapping::status(Status &status)
     if (!m_place)
         return {ShareAnswer::NotLinked, m_file};
     SharedCopy there;
-    if (const ShareAnswer answer = m_place->fetch(there); !answer.isDone())
+    if (ShareAnswer answer = m_place->fetch(there); !answer.isDone())
         return answer;
     if (!there.exists)
         return {ShareAnswer::NotReachable, m_place->file()};
@@ -215,7 +216,7 @@ ShareAnswer SharedMapping::update(MergedFile &merged, const MergeOptions &option
     if (!m_place)
         return {ShareAnswer::NotLinked, m_file};
     SharedCopy there;
-    if (const ShareAnswer answer = m_place->fetch(there); !answer.isDone())
+    if (ShareAnswer answer = m_place->fetch(there); !answer.isDone())
         return answer;
     if (!there.exists)
         return {ShareAnswer::NotReachable, m_place->file()};
@@ -227,7 +228,7 @@ ShareAnswer SharedMapping::update(MergedFile &merged, const MergeOptions &option
     QString error;
     if (!base.read(baseFile(m_file), QString(), &error) || !ours.read(m_file, QString(), &error))
         return {ShareAnswer::Unreadable, error};
-    if (const ShareAnswer answer = parsed(m_place->file(), there.bytes, theirs); !answer.isDone())
+    if (ShareAnswer answer = parsed(m_place->file(), there.bytes, theirs); !answer.isDone())
         return answer;
     MergedFile result = mergeFiles(base, ours, theirs, options);
     if (!result.file.write(m_file, &error))
@@ -240,7 +241,7 @@ ShareAnswer SharedMapping::update(MergedFile &merged, const MergeOptions &option
 ShareAnswer SharedMapping::mayPublish(const QByteArray &own, const PublishOptions &options) const
 {
     MappingFile ours;
-    if (const ShareAnswer answer = parsed(m_file, own, ours); !answer.isDone())
+    if (ShareAnswer answer = parsed(m_file, own, ours); !answer.isDone())
         return answer;
     if (const QStringList projects = linesInConflict(ours); !projects.isEmpty())
         return {ShareAnswer::InConflict, projects.join(QStringLiteral(", "))};
@@ -261,21 +262,21 @@ ShareAnswer SharedMapping::publish(const PublishOptions &options)
     if (!m_place)
         return {ShareAnswer::NotLinked, m_file};
     QByteArray own;
-    if (const ShareAnswer answer = readOwn(own); !answer.isDone())
+    if (ShareAnswer answer = readOwn(own); !answer.isDone())
         return answer;
     // What was published since comes before all else: it may settle the rest.
     Status now;
-    if (const ShareAnswer answer = status(now); !answer.isDone())
+    if (ShareAnswer answer = status(now); !answer.isDone())
         return answer;
     if (now.hasNews)
         return {ShareAnswer::NewerThere, {}};
     if (!now.hasOwn)
         return {};
-    if (const ShareAnswer answer = mayPublish(own, options); !answer.isDone())
+    if (ShareAnswer answer = mayPublish(own, options); !answer.isDone())
         return answer;
     SharedHistory::publish(*m_place, m_file, noteName());
     QString revision;
-    if (const ShareAnswer answer = m_place->publish(own, m_revision, options.message, revision);
+    if (ShareAnswer answer = m_place->publish(own, m_revision, options.message, revision);
         !answer.isDone())
         return answer;
     return store(own, revision);
@@ -343,7 +344,7 @@ ShareAnswer SharedMapping::takeFolders(const QStringList &folders)
     if (!m_place)
         return {ShareAnswer::NotLinked, m_file};
     SharedCopy there; // brings the notes of a repository
-    if (const ShareAnswer answer = m_place->fetch(there); !answer.isDone())
+    if (ShareAnswer answer = m_place->fetch(there); !answer.isDone())
         return answer;
     for (const Participant &other : participants()) {
         if (other.isSelf)

@@ -80,7 +80,7 @@ ShareAnswer SubversionPlace::takeBack() const
                 file(), DurableFile::stampedName(file(), QStringLiteral("uncommitted")), &error))
             return {ShareAnswer::NotWritable, error};
     }
-    const ShareAnswer answer = answerOf(svn({QStringLiteral("revert"), peg(file())}));
+    ShareAnswer answer = answerOf(svn({QStringLiteral("revert"), peg(file())}));
     // One that was to be new is not known any more, and stands in the way of another's.
     if (answer.isDone() && revision().isEmpty())
         QFile::remove(file());
@@ -101,7 +101,7 @@ ShareAnswer SubversionPlace::fetch(SharedCopy &copy)
     const QString folder = QFileInfo(file()).path();
     if (!QFileInfo(folder).isDir())
         return {ShareAnswer::NotReachable, folder};
-    if (const ShareAnswer answer = takeBack(); !answer.isDone())
+    if (ShareAnswer answer = takeBack(); !answer.isDone())
         return answer;
     if (const RepositoryAnswer answer =
             svn({QStringLiteral("update"), QStringLiteral("-q"), peg(folder)});
@@ -110,7 +110,7 @@ ShareAnswer SubversionPlace::fetch(SharedCopy &copy)
     copy.revision = revision();
     if (copy.revision.isEmpty())
         return {};
-    const ShareAnswer answer = read(file(), copy.bytes);
+    ShareAnswer answer = read(file(), copy.bytes);
     copy.exists = answer.isDone();
     return answer;
 }
@@ -128,7 +128,7 @@ ShareAnswer SubversionPlace::publish(const QByteArray &bytes, const QString &exp
                                      const QString &message, QString &newRevision)
 {
     SharedCopy there;
-    if (const ShareAnswer answer = fetch(there); !answer.isDone())
+    if (ShareAnswer answer = fetch(there); !answer.isDone())
         return answer;
     if (there.revision != expected)
         return there.exists ? ShareAnswer{ShareAnswer::NewerThere, {}}
@@ -163,8 +163,8 @@ ShareAnswer SubversionPlace::writeNote(const QString &name, const QByteArray &by
     if (bytes.isEmpty()) {
         if (!isThere)
             return {};
-        const ShareAnswer answer = answerOf(svn({QStringLiteral("delete"), QStringLiteral("-q"),
-                                                 QStringLiteral("--force"), peg(note)}));
+        ShareAnswer answer = answerOf(svn({QStringLiteral("delete"), QStringLiteral("-q"),
+                                           QStringLiteral("--force"), peg(note)}));
         return answer.isDone() ? commit({note}, QStringLiteral("note")) : answer;
     }
     QString error;
@@ -173,7 +173,7 @@ ShareAnswer SubversionPlace::writeNote(const QString &name, const QByteArray &by
     if (!DurableFile::write(note, bytes, &error))
         return {ShareAnswer::NotWritable, error};
     // The folder may be new, here or in the repository.
-    const ShareAnswer added =
+    ShareAnswer added =
         answerOf(svn({QStringLiteral("add"), QStringLiteral("-q"), QStringLiteral("--force"),
                       QStringLiteral("--parents"), peg(note)}));
     return added.isDone() ? commit({notesFolder()}, QStringLiteral("note")) : added;

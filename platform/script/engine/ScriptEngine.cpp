@@ -318,8 +318,7 @@ QJSValue ScriptEngine::callSafely(const QJSValue &object, const QString &name,
                                   const QJSValue &arguments)
 {
     const Run watched(*this);
-    const QJSValue outcome =
-        m_helpers.property(QStringLiteral("call")).call({object, name, arguments});
+    QJSValue outcome = m_helpers.property(QStringLiteral("call")).call({object, name, arguments});
     if (!watched.isStopped())
         return outcome;
     QJSValue stopped = m_engine.newObject();
@@ -417,7 +416,7 @@ QJSValue ScriptEngine::typeOf(const ScriptObject &object)
     const auto list = [this](const QStringList &names) {
         return m_engine.toScriptValue(names);
     };
-    const QJSValue type =
+    QJSValue type =
         m_helpers.property(QStringLiteral("type"))
             .call({object.title(), list(object.methods()), list(object.readableProperties())});
     if (!type.isError())
