@@ -62,7 +62,7 @@ void judgeChange(ComparedVariableC &variable, const Plan::CellEvidence &evidence
     switch (Plan::Way(likeliest - evidence.ways.begin())) {
     case Plan::Way::Change:
         variable.outcome = ComparedVariableC::Replaced;
-        variable.supports = std::max(1, int(evidence.supports + 0.5));
+        variable.supports = std::max(1, int(std::lround(evidence.supports)));
         break;
     case Plan::Way::Near:
     case Plan::Way::Alike:

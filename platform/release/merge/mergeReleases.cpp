@@ -84,7 +84,7 @@ void ReleaseMerge::mergeDates()
 PrjMappingC ReleaseMerge::merged(const ThreePlaces &at)
 {
     const PrjMappingC base = m_base.mappingAt(at.base);
-    const PrjMappingC ours = m_ours.mappingAt(at.ours);
+    PrjMappingC ours = m_ours.mappingAt(at.ours);
     const PrjMappingC theirs = m_theirs.mappingAt(at.theirs);
     if (!ours.isValid() && !theirs.isValid())
         return {};
