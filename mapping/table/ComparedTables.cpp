@@ -1,5 +1,6 @@
 #include "ComparedTables.h"
 
+#include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/expression/MapVarValueC.h>
 #include <geomcore/table/Line.h>
 #include <geomcoregui/table/VkTableModel.h>
@@ -92,20 +93,19 @@ QStringList ComparedTables::differingVariables(const QHash<QString, MapVarValueC
     QStringList differing;
     const VKTab::ContentRef table = m_target->getTable();
     const VKTab::Line line = table.getLine(m_targetLine, false);
+    // Values as both tables store them: what is shown is written as the user's language has it.
+    const QHash<QString, MapVarValueC> stored = createVarsetFromVKTable(line, {});
     const VkTableModel &model = *m_target->model();
     for (int column = model.statusColumnCount(); column < model.columnCount(); ++column) {
-        const VKTab::Var var = model.variable(column);
-        const auto value = values.constFind(var.getName());
-        if (value == values.cend())
+        const QString name = model.variable(column).getName();
+        const auto value = values.constFind(name);
+        const auto own = stored.constFind(name);
+        if (value == values.cend() || own == stored.cend())
             continue;
-        MapVarValueC own;
-        own.setName(var.getName());
-        own.setNumeric(var.isNumeric());
-        own.setValue(line.getValue(var, {}, {}));
         const bool bothMissing =
-            own.getValue().toString().isEmpty() && value->getValue().toString().isEmpty();
-        if (!bothMissing && !(own == *value))
-            differing += var.getName();
+            own->getValue().toString().isEmpty() && value->getValue().toString().isEmpty();
+        if (!bothMissing && !(*own == *value))
+            differing += name;
     }
     return differing;
 }

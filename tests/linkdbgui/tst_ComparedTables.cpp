@@ -17,6 +17,17 @@ QByteArray wideTable(int lines, const QByteArray &material, const QByteArray &co
     return table;
 }
 
+QColor groundOf(VkTableView *view, int line, const QString &variable)
+{
+    const int column = view->model()->columnOf(view->getTable().getVar(variable).getVarId());
+    const QRect cell = view->grid()->visualRect(
+        view->model()->index(view->model()->rowOf(VKTab::LineId(line)), column));
+    const QImage image = view->grid()->viewport()->grab().toImage();
+    return image.pixelColor(cell.right() - 3, cell.top() + 3);
+}
+
+const QColor mark(255, 224, 130);
+
 } // namespace
 
 class tst_ComparedTables : public QObject
@@ -30,6 +41,7 @@ private Q_SLOTS:
     void endOfTheTable();
     void firstDifferenceInSight();
     void marks();
+    void marksNoUnits();
     void scrollTogether();
     void severalLines();
 
@@ -121,15 +133,7 @@ void tst_ComparedTables::firstDifferenceInSight()
 
 void tst_ComparedTables::marks()
 {
-    const auto groundOf = [](VkTableView *view, int line, const QString &variable) {
-        const int column = view->model()->columnOf(view->getTable().getVar(variable).getVarId());
-        const QRect cell = view->grid()->visualRect(
-            view->model()->index(view->model()->rowOf(VKTab::LineId(line)), column));
-        const QImage image = view->grid()->viewport()->grab().toImage();
-        return image.pixelColor(cell.right() - 3, cell.top() + 3);
-    };
     select(5);
-    const QColor mark(255, 224, 130);
     QCOMPARE(groundOf(m_editor->source, 5, "W"), mark);
     QCOMPARE(groundOf(m_editor->target, 45, "W"), mark);
     QVERIFY(groundOf(m_editor->target, 46, "W") != mark);
@@ -138,6 +142,25 @@ void tst_ComparedTables::marks()
     select(6);
     QVERIFY(groundOf(m_editor->target, 45, "W") != mark);
     QCOMPARE(groundOf(m_editor->target, 46, "W"), mark);
+}
+
+/// Numbers are shown with their unit and in the user's notation; both tables have the same.
+void tst_ComparedTables::marksNoUnits()
+{
+    TableEditorFixture editor;
+    const auto millimetres = [](VKTab::TableDescriptor &descriptor) {
+        descriptor.fields[1].unit = "mm";
+    };
+    editor.catalog.write("old/a.prj", "D,P:n,W\nM8,0.5,St37\n", millimetres);
+    editor.catalog.write("new/a.prj", "D,P:n,W\nM8,0.5,S235\n", millimetres);
+    enter(editor.mapping, 0, 1, 1, PRJMAPPING::ToCheck);
+    editor.widget->setComparing(true);
+    editor.load();
+    editor.select(1);
+    QCOMPARE(groundOf(editor.source, 1, "W"), mark);
+    QCOMPARE(groundOf(editor.target, 1, "W"), mark);
+    QVERIFY(groundOf(editor.source, 1, "P") != mark);
+    QVERIFY(groundOf(editor.target, 1, "P") != mark);
 }
 
 void tst_ComparedTables::scrollTogether()
