@@ -274,7 +274,7 @@ QByteArray tst_MergeCommand::git(const QStringList &arguments, int expected) con
 void tst_MergeCommand::mergeDriver()
 {
     if (QStandardPaths::findExecutable("git").isEmpty())
-        QSKIP("there is no git");
+        QFAIL("there is no git");
     QVERIFY(QDir(m_dir->path()).mkdir("repository"));
     const auto commit = [&](const ReleaseMappingC &release) {
         write("repository/bolts.json", {release});

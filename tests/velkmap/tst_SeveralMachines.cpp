@@ -257,7 +257,7 @@ void tst_SeveralMachines::mappingStays()
 void tst_SeveralMachines::gnuParallel()
 {
     if (QStandardPaths::findExecutable("parallel").isEmpty())
-        QSKIP("there is no GNU Parallel");
+        QFAIL("there is no GNU Parallel");
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("VELKMAP", VELK_BINARY_DIR "/bin/velkmap");
