@@ -168,15 +168,15 @@ void ProjectMerge::mergeHead(int slot)
     if (const PrjMappingTargetC *present = theirs ? theirs : ours ? ours : base)
         merged = *present;
     if (ours && theirs)
-        mergeRules(slot, *ours, *theirs);
+        mergeRules(slot, base, *ours, *theirs);
 }
 
-void ProjectMerge::mergeRules(int slot, const PrjMappingTargetC &ours,
-                              const PrjMappingTargetC &theirs)
+void ProjectMerge::mergeRules(int slot, const PrjMappingTargetC *former,
+                              const PrjMappingTargetC &ours, const PrjMappingTargetC &theirs)
 {
-    const PrjMappingTargetC &base = target(slot, Base) ? *target(slot, Base) : noTarget();
+    const PrjMappingTargetC &base = former ? *former : noTarget();
     PrjMappingTargetC &merged = m_targets[size_t(slot)];
-    const bool isNew = !target(slot, Base);
+    const bool isNew = !former;
     const auto merge = [&](auto same, int type, MergeClash::Kind kind, auto take) {
         if (!isNew && !same(base, theirs))
             tellOnline(headChange(slot, Theirs, type));

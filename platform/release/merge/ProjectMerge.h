@@ -58,7 +58,8 @@ private:
     [[nodiscard]] bool settleEntries(int line, bool &sameValues);
     void clashOf(const LineGroup &group);
     void mergeHead(int slot);
-    void mergeRules(int slot, const PrjMappingTargetC &ours, const PrjMappingTargetC &theirs);
+    void mergeRules(int slot, const PrjMappingTargetC *former, const PrjMappingTargetC &ours,
+                    const PrjMappingTargetC &theirs);
     [[nodiscard]] bool isDropped(int slot) const;
     [[nodiscard]] bool movedTargets(const OrderInput &input) const;
     void tellKept(int slot);
