@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTextStream>
 
+#include <sys/stat.h>
+
 using velkmap::ExitStatus;
 using VelkRelease::DecisionHistory;
 
@@ -254,7 +256,7 @@ void tst_HistoryCommand::damage()
     QVERIFY(DecisionHistory::adopt(path("m.json"), path("o.json"), &error));
     QCOMPARE(told("o.json"), told());
     QVERIFY(QFile::remove(path("m.json.journal")));
-    QVERIFY(QFile::link("/dev/null", path("m.json.journal")));
+    QCOMPARE(::mkfifo(qPrintable(path("m.json.journal")), 0600), 0);
     QVERIFY(told().first().contains("not a regular file"));
     QCOMPARE(run({"history", "--mapping", path("m.json")}).status, ExitStatus::InputUnreadable);
 }
@@ -325,7 +327,7 @@ void tst_HistoryCommand::mergeTakesBothAlong()
     }
     // The merged file stands without them.
     QVERIFY(QFile::remove(path("theirs.json.journal")));
-    QVERIFY(QFile::link("/dev/null", path("theirs.json.journal")));
+    QCOMPARE(::mkfifo(qPrintable(path("theirs.json.journal")), 0600), 0);
     const Result result = run({"merge", "--base", path("base.json"), "--ours", path("base.json"),
                                "--theirs", path("theirs.json"), "--out", path("out2.json")});
     QCOMPARE(result.status, ExitStatus::Done);
