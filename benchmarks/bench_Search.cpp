@@ -21,6 +21,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <ctime>
 #include <memory>
 
 namespace velkbench {
@@ -134,6 +135,7 @@ void makeIndex(benchmark::State &state)
     Catalogs &catalogs = Catalogs::instance();
     double making = 0;
     double reading = 0;
+    double processor = 0;
     for (auto _ : state) {
         for (const char *ending : {"", "-wal", "-shm"})
             QFile::remove(catalogs.index + QLatin1String(ending));
@@ -141,11 +143,15 @@ void makeIndex(benchmark::State &state)
         clock.start();
         benchmark::DoNotOptimize(catalogs.readAll());
         reading = double(clock.nsecsElapsed()) / 1e9;
+        const std::clock_t before = std::clock();
         clock.start();
         (void)updated(CatalogIndexUpdate::Directories);
         making = double(clock.nsecsElapsed()) / 1e9;
+        processor = double(std::clock() - before) / CLOCKS_PER_SEC;
     }
     state.counters["projects_per_s"] = catalogs.count / making;
+    // Of all cores together: tells more than the clock while others use them too.
+    state.counters["processor_us_per_project"] = processor / catalogs.count * 1e6;
     state.counters["wall_vs_reading"] = making / reading;
     state.counters["index_MB"] = double(QFileInfo(catalogs.index).size()) / 1e6;
 }
@@ -159,6 +165,7 @@ void updateIndex(benchmark::State &state)
     // What was read so shortly after it was written is looked at again, which is not the question.
     (void)updated(CatalogIndexUpdate::Files);
     double worst = 0;
+    double processor = 0;
     int round = 0;
     for (auto _ : state) {
         state.PauseTiming();
@@ -174,13 +181,16 @@ void updateIndex(benchmark::State &state)
         state.ResumeTiming();
         QElapsedTimer clock;
         clock.start();
+        const std::clock_t before = std::clock();
         const CatalogIndexOutcome outcome =
             updated(writesInto ? CatalogIndexUpdate::Files : CatalogIndexUpdate::Directories);
         worst = std::max(worst, double(clock.nsecsElapsed()) / 1e6);
+        processor = std::max(processor, double(std::clock() - before) / CLOCKS_PER_SEC * 1e3);
         if (outcome.changed != 1)
             state.counters["read_anew"] = outcome.changed;
     }
     state.counters["worst_ms"] = worst;
+    state.counters["worst_processor_ms"] = processor;
 }
 BENCHMARK(updateIndex)
     ->Name("search/update")

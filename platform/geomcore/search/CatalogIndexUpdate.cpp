@@ -12,12 +12,15 @@
 #include <QLockFile>
 
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 namespace {
 
-/// So many projects are read and then written in one transaction.
-constexpr int BatchSize = 256;
+/// So many projects are read and written in one transaction.
+constexpr size_t BatchSize = 1024;
+/// After so many the caller is told, and may break off.
+constexpr size_t TellEvery = 64;
 
 QString lockFileOf(const QString &indexFile)
 {
@@ -48,8 +51,7 @@ struct CatalogIndexUpdate::Private
     CatalogIndexOutcome work(bool checkFiles);
     [[nodiscard]] bool removeGone(const CatalogScan &scan);
     [[nodiscard]] bool readAll(const CatalogScan &scan);
-    [[nodiscard]] bool writeBatch(const CatalogScan &scan, size_t begin,
-                                  const std::vector<IndexedProject> &projects);
+    [[nodiscard]] bool readBatch(const CatalogScan &scan, size_t begin, size_t end);
     [[nodiscard]] bool finish(CatalogScan &scan);
 };
 
@@ -158,36 +160,52 @@ bool CatalogIndexUpdate::Private::removeGone(const CatalogScan &scan)
 
 bool CatalogIndexUpdate::Private::readAll(const CatalogScan &scan)
 {
-    const std::vector<CatalogScan::Work> &all = scan.work();
-    for (size_t begin = 0; begin < all.size(); begin += BatchSize) {
-        if (!goOn(int(begin), int(all.size()))) {
-            outcome.state = CatalogIndexOutcome::Cancelled;
+    const size_t count = scan.work().size();
+    for (size_t begin = 0; begin < count; begin += BatchSize) {
+        if (!readBatch(scan, begin, std::min(begin + BatchSize, count)))
             return false;
-        }
-        std::vector<IndexedProject> projects(std::min<size_t>(BatchSize, all.size() - begin));
-        WorkerPool::instance().run(int(projects.size()), [&](int i) {
-            projects[size_t(i)] = IndexedProject::read(root, all[begin + size_t(i)].path);
-        });
-        if (!writeBatch(scan, begin, projects))
+        if (outcome.state == CatalogIndexOutcome::Cancelled)
             return false;
     }
-    (void)goOn(int(all.size()), int(all.size()));
+    (void)goOn(int(count), int(count));
     return true;
 }
 
-bool CatalogIndexUpdate::Private::writeBatch(const CatalogScan &scan, size_t begin,
-                                             const std::vector<IndexedProject> &projects)
+// This thread alone writes; it reads only while nothing is there to be written, the others always.
+bool CatalogIndexUpdate::Private::readBatch(const CatalogScan &scan, size_t begin, size_t end)
 {
     if (!file.run(QStringLiteral("BEGIN IMMEDIATE")))
         return false;
+    const std::vector<CatalogScan::Work> &all = scan.work();
+    std::vector<IndexedProject> projects(end - begin);
+    std::vector<std::atomic<bool>> areRead(projects.size());
     CatalogIndexWriter writer(file);
-    for (size_t i = 0; i < projects.size(); ++i) {
-        const CatalogScan::Work &work = scan.work()[begin + i];
-        if (!writer.enter(projects[i], work.known, scan.chainOf(work.directory)))
+    size_t written = 0;
+    size_t nextTell = 0;
+    bool failed = false;
+    const auto writeThoseRead = [&](int /*done*/) {
+        if (outcome.state == CatalogIndexOutcome::Cancelled || failed)
             return false;
-        ++(work.known == 0 ? outcome.added : outcome.changed);
-    }
-    return file.run(QStringLiteral("COMMIT"));
+        for (; written < projects.size() && areRead[written]; ++written) {
+            if (written >= nextTell && !goOn(int(begin + written), int(all.size()))) {
+                outcome.state = CatalogIndexOutcome::Cancelled;
+                return false;
+            }
+            nextTell = std::max(nextTell, written - written % TellEvery + TellEvery);
+            const CatalogScan::Work &work = all[begin + written];
+            if (!writer.enter(projects[written], work.known, scan.chainOf(work.directory)))
+                return !(failed = true);
+            projects[written] = {};
+            ++(work.known == 0 ? outcome.added : outcome.changed);
+        }
+        return true;
+    };
+    const auto read = [&](int i) {
+        projects[size_t(i)] = IndexedProject::read(root, all[begin + size_t(i)].path);
+        areRead[size_t(i)] = true;
+    };
+    (void)WorkerPool::instance().run(int(projects.size()), read, writeThoseRead);
+    return !failed && file.run(QStringLiteral("COMMIT"));
 }
 
 bool CatalogIndexUpdate::Private::finish(CatalogScan &scan)

@@ -1,5 +1,6 @@
 #include "CatalogScan.h"
 
+#include <core/parallel/WorkerPool.h>
 #include <geomcore/index/CatalogEntries.h>
 
 #include <QDir>
@@ -10,20 +11,32 @@
 namespace {
 
 constexpr qint64 NeverRead = 0;
+/// The files of so many projects are looked at together, on all cores.
+constexpr size_t LookedAtOnce = 4096;
+constexpr size_t LookedInOneStep = 64;
 
-/// The files of a project as the index has them, from a column of the query on.
-IndexedFiles filesAt(const QSqlQuery &query, int at, const QString &directory)
+/// The files of a project as the index has them, from a column of the query on. A name alone lies
+/// beside the project: located() makes a path of it.
+IndexedFiles filesAt(const QSqlQuery &query, int at)
 {
     const auto stamp = [&query](int column) {
         return FileStamp{query.value(column).toLongLong(), query.value(column + 1).toLongLong()};
     };
-    // A name alone lies beside the project.
-    const auto file = [&](int column) {
-        const QString name = query.value(column).toString();
-        const bool beside = !name.isEmpty() && !name.contains(u'/') && !name.contains(u'\\');
-        return beside ? directory + QDir::separator() + name : name;
-    };
-    return {directory, stamp(at), file(at + 2), stamp(at + 3), file(at + 5), stamp(at + 6)};
+    return {{},
+            stamp(at),
+            query.value(at + 2).toString(),
+            stamp(at + 3),
+            query.value(at + 5).toString(),
+            stamp(at + 6)};
+}
+
+IndexedFiles located(IndexedFiles files, const QString &directory)
+{
+    for (QString *const file : {&files.descriptor, &files.lines}) {
+        if (!file->isEmpty() && !file->contains(u'/') && !file->contains(u'\\'))
+            *file = directory + QDir::separator() + *file;
+    }
+    return files;
 }
 
 const char *const FileColumns = "time, size, table_file, table_time, table_size, lines_file,"
@@ -45,7 +58,12 @@ QString CatalogScan::nativeOf(const QString &path) const
 
 bool CatalogScan::run(bool checkFiles)
 {
-    m_checkFiles = checkFiles;
+    // Tables that lie elsewhere do not change the time of the project's directory.
+    const QString elsewhere = QStringLiteral(" AND (instr(table_file, '/') > 0 OR"
+                                             " instr(lines_file, '/') > 0)");
+    m_keptProjects = m_file.prepared(
+        QStringLiteral("SELECT id, path, ") + QLatin1String(FileColumns) +
+        QStringLiteral(" FROM projects WHERE dir = ?") + (checkFiles ? QString() : elsewhere));
     if (!loadDirectories())
         return false;
     Directory root;
@@ -54,7 +72,11 @@ bool CatalogScan::run(bool checkFiles)
         root = m_directories.value(*known);
     else if (!enter(root))
         return false;
-    return walk(root);
+    if (!walk(root))
+        return false;
+    lookAtFiles();
+    m_keptProjects = QSqlQuery();
+    return true;
 }
 
 bool CatalogScan::loadDirectories()
@@ -162,7 +184,7 @@ bool CatalogScan::compareProjects(const Directory &directory, QSet<QString> foun
         const QString path = query.value(1).toString();
         if (!found.remove(path))
             m_gone.push_back(id);
-        else if (!filesAt(query, 2, native).areUnchanged(nativeOf(path)))
+        else if (!located(filesAt(query, 2), native).areUnchanged(nativeOf(path)))
             m_work.push_back({path, directory.id, id});
     }
     QStringList added(found.cbegin(), found.cend());
@@ -174,22 +196,40 @@ bool CatalogScan::compareProjects(const Directory &directory, QSet<QString> foun
 
 bool CatalogScan::compareFiles(const Directory &directory)
 {
-    // Tables that lie elsewhere do not change the time of the project's directory.
-    const QString elsewhere = QStringLiteral(" AND (instr(table_file, '/') > 0 OR"
-                                             " instr(lines_file, '/') > 0)");
-    QSqlQuery query = m_file.prepared(
-        QStringLiteral("SELECT id, path, ") + QLatin1String(FileColumns) +
-        QStringLiteral(" FROM projects WHERE dir = ?") + (m_checkFiles ? QString() : elsewhere));
-    query.addBindValue(directory.id);
-    if (!m_file.run(query))
+    m_keptProjects.bindValue(0, directory.id);
+    if (!m_file.run(m_keptProjects))
         return false;
     const QString native = nativeOf(directory.path);
-    while (query.next()) {
-        const QString path = query.value(1).toString();
-        if (!filesAt(query, 2, native).areUnchanged(nativeOf(path)))
-            m_work.push_back({path, directory.id, query.value(0).toLongLong()});
-    }
+    while (m_keptProjects.next())
+        m_kept.push_back({{m_keptProjects.value(1).toString(), directory.id,
+                           m_keptProjects.value(0).toLongLong()},
+                          native,
+                          filesAt(m_keptProjects, 2)});
+    m_keptProjects.finish();
+    if (m_kept.size() >= LookedAtOnce)
+        lookAtFiles();
     return true;
+}
+
+// Asking for times is most of the work where nothing has changed.
+void CatalogScan::lookAtFiles()
+{
+    std::vector<char> changed(m_kept.size(), 0);
+    const auto look = [&](int step) {
+        const size_t begin = size_t(step) * LookedInOneStep;
+        for (size_t i = begin; i < std::min(begin + LookedInOneStep, m_kept.size()); ++i) {
+            const Kept &kept = m_kept[i];
+            changed[i] =
+                located(kept.files, kept.directory).areUnchanged(nativeOf(kept.project.path)) ? 0
+                                                                                              : 1;
+        }
+    };
+    WorkerPool::instance().run(int((m_kept.size() + LookedInOneStep - 1) / LookedInOneStep), look);
+    for (size_t i = 0; i < m_kept.size(); ++i) {
+        if (changed[i])
+            m_work.push_back(m_kept[i].project);
+    }
+    m_kept.clear();
 }
 
 bool CatalogScan::enter(Directory &directory)

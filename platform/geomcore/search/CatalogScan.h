@@ -40,6 +40,13 @@ public:
     [[nodiscard]] bool isBrokenOff() const { return m_brokenOff; }
 
 private:
+    /// A project of a directory that is as it was; its files may not be.
+    struct Kept
+    {
+        Work project;
+        QString directory; ///< Native path.
+        IndexedFiles files;
+    };
     struct Directory
     {
         qint64 id = 0;
@@ -54,6 +61,7 @@ private:
                                 QList<Directory> &children);
     [[nodiscard]] bool compareProjects(const Directory &directory, QSet<QString> found);
     [[nodiscard]] bool compareFiles(const Directory &directory);
+    void lookAtFiles();
     [[nodiscard]] bool enter(Directory &directory);
     [[nodiscard]] bool remove(qint64 directory);
     [[nodiscard]] bool follows(const QString &link);
@@ -62,13 +70,14 @@ private:
     CatalogIndexFile &m_file;
     const QString m_root;
     const std::function<bool()> m_goOn;
-    bool m_checkFiles = false;
     bool m_brokenOff = false;
     QHash<qint64, Directory> m_directories;
     QHash<qint64, QList<qint64>> m_children;
     QHash<QString, qint64> m_byPath;
     QHash<qint64, qint64> m_times; // to be kept
     QSet<QString> m_followed;
+    QSqlQuery m_keptProjects;
+    std::vector<Kept> m_kept; // not looked at yet
     std::vector<Work> m_work;
     std::vector<qint64> m_gone;
     QStringList m_unreadable;
