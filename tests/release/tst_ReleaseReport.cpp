@@ -99,7 +99,7 @@ ReportForm form()
     form.reason = [](OpenReason reason) {
         return openReasonKey(reason);
     };
-    form.changes = {"near", "other", "wording", "added", "missing"};
+    form.changes = {"near", "other", "wording", "added", "missing", "spelling"};
     form.time = [](const QDateTime &time) {
         return time.toString(Qt::ISODate);
     };

@@ -111,6 +111,8 @@ const char *englishText(ReportText text)
         return "cannot be compared";
     case ReportText::NoDifference:
         return "no difference";
+    case ReportText::InDoubt:
+        return "in doubt: %1";
     case ReportText::Nothing:
         return "none";
     case ReportText::More:

@@ -50,7 +50,8 @@ QString patternText(const DifferencePatterns &patterns, int pattern)
     QStringList texts;
     for (const ValueChange &change : patterns.changes(pattern))
         texts << change.text(changeWords());
-    return texts.isEmpty() ? QStringLiteral("no difference") : texts.join("; ");
+    const QString text = texts.isEmpty() ? QStringLiteral("no difference") : texts.join("; ");
+    return patterns.isDoubtful(pattern) ? QStringLiteral("in doubt: ") + text : text;
 }
 
 QString placeText(const ReleaseMappingC &release, const DifferencePatterns::Place &place)
@@ -164,7 +165,7 @@ void writeText(JsonWriter &json, std::string_view name, const QString &text)
 void writeChange(JsonWriter &json, const ValueChange &change)
 {
     static constexpr const char *kinds[] = {"replacement", "numberMap", "nearNumber", "otherNumber",
-                                            "wording",     "added",     "missing"};
+                                            "wording",     "notation",  "added",      "missing"};
     json.beginObject();
     writeText(json, "variable", change.variable);
     json.key("kind");
@@ -197,6 +198,8 @@ void writePattern(JsonWriter &json, const ReviewReport &report, int pattern)
     writeText(json, "text", patternText(report.patterns, pattern));
     json.key("comparable");
     json.value(report.patterns.isComparable(pattern));
+    json.key("doubtful");
+    json.value(report.patterns.isDoubtful(pattern));
     json.key("changes");
     json.beginArray();
     for (const ValueChange &change : report.patterns.changes(pattern))
@@ -288,8 +291,8 @@ void writeJson(const ReviewReport &report, QTextStream &out)
 
 const ValueChange::Words &changeWords()
 {
-    static const ValueChange::Words words{"near number", "other number", "other wording",
-                                          "value added", "value missing"};
+    static const ValueChange::Words words{"near number", "other number",  "other wording",
+                                          "value added", "value missing", "other spelling"};
     return words;
 }
 

@@ -72,16 +72,18 @@ void DifferencePanel::show(const LineExplanation &explanation)
         return;
     }
     const auto &assigned = explanation.assigned;
+    const QList<LineCandidateC> &candidates = explanation.candidates.candidates;
     head += u'\n';
     if (!assigned)
         head += tr("Ohne Ziel. %1").arg(explanation.candidates.explanation);
     else if (assigned->probability > 0)
         head +=
             PatternText::percent(assigned->probability) + QStringLiteral(": ") + assigned->reason;
+    else if (candidates.isEmpty())
+        head += explanation.isConfirmed ? tr("Bestätigt.") : tr("Sicher zugeordnet.");
     else
         head += tr("Die zugeordnete Zeile ist keiner der Kandidaten.");
     m_head->setText(head);
-    const QList<LineCandidateC> &candidates = explanation.candidates.candidates;
     m_differences->setVariables(assigned               ? assigned->variables
                                 : candidates.isEmpty() ? QList<ComparedVariableC>()
                                                        : candidates.first().variables);

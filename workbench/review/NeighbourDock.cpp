@@ -32,7 +32,9 @@ NeighbourDock::NeighbourDock(NeighbourWork *work, QWidget *parent)
     setWidget(content);
     connect(m_list, &QTreeView::activated, this, &NeighbourDock::chosen);
     connect(work, &NeighbourWork::changed, this, &NeighbourDock::update);
-    connect(this, &QDockWidget::visibilityChanged, work, &NeighbourWork::setWanted);
+    // Behind another tab it stays as it is.
+    connect(this, &QDockWidget::visibilityChanged, work,
+            [this, work] { work->setWanted(!isHidden()); });
     retranslate();
 }
 

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+using VelkRelease::DifferencePatterns;
+
 PatternDock::PatternDock(ReviewWork *work, QWidget *parent)
     : QDockWidget(parent)
     , m_work(work)
@@ -92,6 +94,18 @@ void PatternDock::chooseNext()
     choose(m_model->patternAt((row + 1) % m_model->rowCount()));
 }
 
+int PatternDock::nextOpen() const
+{
+    const int rows = m_model->rowCount();
+    const int from = m_model->rowOf(m_chosen);
+    for (int i = 1; i <= rows; ++i) {
+        const int pattern = m_model->patternAt((from + i) % rows);
+        if (pattern != m_chosen && m_work->patterns().numbers(pattern).lines > 0)
+            return pattern;
+    }
+    return -1;
+}
+
 void PatternDock::setTakenOut(int lines)
 {
     m_takenOut = lines;
@@ -118,8 +132,9 @@ void PatternDock::writeSum()
             texts += tr("%n davon wird/werden noch verglichen", nullptr, pending);
     }
     if (m_chosen >= 0) {
-        const int lines = m_work->patterns().numbers(m_chosen).lines;
-        texts += tr("Gewählt: %n Zeile(n)", nullptr, lines) +
+        const DifferencePatterns::Numbers chosen = m_work->patterns().numbers(m_chosen);
+        texts += tr("Gewählt: %n Zeile(n)", nullptr, chosen.lines) + u' ' +
+                 tr("in %n Projekt(en)", nullptr, chosen.projects) +
                  (m_takenOut > 0
                       ? QStringLiteral(", ") + tr("%n davon herausgenommen", nullptr, m_takenOut)
                       : QString());

@@ -27,6 +27,9 @@ public:
     void choose(int pattern);
     /// The first row behind the chosen one, else the first; none if there are no rows.
     void chooseNext();
+    /// The first pattern behind the chosen one that has lines still, from the top again after the
+    /// last; -1 if there is no other.
+    [[nodiscard]] int nextOpen() const;
     /// Lines of the chosen pattern that were taken out, to be told.
     void setTakenOut(int lines);
     void focusList();

@@ -13,7 +13,8 @@ VelkRelease::ValueChange::Words words()
             QCoreApplication::translate("PatternText", "andere Zahl"),
             QCoreApplication::translate("PatternText", "anderer Wortlaut"),
             QCoreApplication::translate("PatternText", "Wert hinzugekommen"),
-            QCoreApplication::translate("PatternText", "Wert fehlt")};
+            QCoreApplication::translate("PatternText", "Wert fehlt"),
+            QCoreApplication::translate("PatternText", "andere Schreibweise")};
 }
 
 QString of(const QList<VelkRelease::ValueChange> &changes)
@@ -28,8 +29,12 @@ QString of(const VelkRelease::DifferencePatterns &patterns, int pattern)
 {
     if (!patterns.isComparable(pattern))
         return QCoreApplication::translate("PatternText", "nicht zu vergleichen");
-    const QString text = of(patterns.changes(pattern));
-    return text.isEmpty() ? QCoreApplication::translate("PatternText", "kein Unterschied") : text;
+    QString text = of(patterns.changes(pattern));
+    if (text.isEmpty())
+        text = QCoreApplication::translate("PatternText", "kein Unterschied");
+    return patterns.isDoubtful(pattern)
+               ? QCoreApplication::translate("PatternText", "unsicher: %1").arg(text)
+               : text;
 }
 
 QString of(const AgreedReplacement &replacement)

@@ -56,6 +56,7 @@ constexpr std::array<const char *, size_t(ReportText::Count)> reportTexts = {
     QT_TRANSLATE_NOOP("ReportTexts", "Tabelle nicht lesbar"),
     QT_TRANSLATE_NOOP("ReportTexts", "nicht zu vergleichen"),
     QT_TRANSLATE_NOOP("ReportTexts", "kein Unterschied"),
+    QT_TRANSLATE_NOOP("ReportTexts", "unsicher: %1"),
     QT_TRANSLATE_NOOP("ReportTexts", "keine"),
     QT_TRANSLATE_NOOP("ReportTexts", "und %1 weitere"),
 };

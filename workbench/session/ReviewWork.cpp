@@ -2,6 +2,8 @@
 
 #include "MappingDocument.h"
 
+#include <geomcore/records/LineTable.h>
+
 #include <QElapsedTimer>
 #include <QTimer>
 
@@ -16,6 +18,16 @@ using VelkRelease::OpenPair;
 namespace {
 
 constexpr qint64 TellEvery = 100; // milliseconds
+
+bool isConfirmed(const PrjMappingC &mapping, int line)
+{
+    for (int i = 0; i < mapping.countTargets(); ++i) {
+        const LineTable::Iterator entry = mapping.targetAt(i).lines().find(line);
+        if (entry && entry.state() == PRJMAPPING::Verified)
+            return true;
+    }
+    return false;
+}
 
 } // namespace
 
@@ -36,6 +48,7 @@ struct ReviewWork::Comparer
             comparer = std::make_unique<LineComparer>(sourceRoot, mapping, head);
         LineExplanation explanation;
         explanation.line = {project, line};
+        explanation.isConfirmed = isConfirmed(mapping, line);
         explanation.errors = comparer->errors();
         explanation.isRead = comparer->hasLine(line);
         if (!explanation.isRead)

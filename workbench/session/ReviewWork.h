@@ -18,6 +18,7 @@ class MappingDocument;
 struct LineExplanation
 {
     LineRef line;
+    bool isConfirmed = false;
     bool isRead = false; ///< the tables could be read and have the line
     QString designation;
     std::optional<VelkRelease::LineComparer::Pair> assigned; ///< nothing if it is not assigned

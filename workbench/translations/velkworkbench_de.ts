@@ -288,6 +288,13 @@
             <numerusform>%n davon herausgenommen</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n Projekt</numerusform>
+            <numerusform>in %n Projekten</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -378,6 +385,13 @@
         <translation>
             <numerusform>%n Zeile bestätigt</numerusform>
             <numerusform>%n Zeilen bestätigt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n davon ist unsicher.</numerusform>
+            <numerusform>%n davon sind unsicher.</numerusform>
         </translation>
     </message>
 </context>

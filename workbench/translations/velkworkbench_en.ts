@@ -435,6 +435,14 @@ Theirs: %2</translation>
         <source>Kandidaten</source>
         <translation>Candidates</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Confirmed.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Assigned with certainty.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Please choose another file.</translation>
         <source>Nummern: %1</source>
         <translation>Numbers: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>other spelling</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Please choose another file.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Differences of the Open Lines</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n project</numerusform>
+            <numerusform>in %n projects</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Please choose another file.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>no difference</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>other spelling</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>in doubt: %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Line: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>equal, only not confirmed</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>in doubt: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3059,6 +3090,17 @@ Line: %2
     <message>
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Look at the Wrong Line</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n of them is in doubt.</numerusform>
+            <numerusform>%n of them are in doubt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>All patterns are done</translation>
     </message>
 </context>
 <context>

@@ -95,7 +95,7 @@ void LinkProofDialog::fill(const LinkProof &proof)
         add(kind, each.number, each.origins.first(), places.join(QStringLiteral(", ")));
     }
     const ValueChange::Words words{tr("nahe Zahl"), tr("andere Zahl"), tr("anderer Text"),
-                                   tr("neu"), tr("fehlt")};
+                                   tr("neu"),       tr("fehlt"),       tr("andere Schreibweise")};
     kind = addKind(proof.hasCompared() ? tr("Teil weicht ab")
                                        : tr("Teil weicht ab (nicht verglichen)"),
                    proof.differing().size());

@@ -326,6 +326,7 @@ void MainWindow::applySettings()
     const WorkbenchSettings::Values &values = m_settings->values();
     PCommandKeys::instance().setChoice(values.keys);
     m_lines->setGoesOn(values.goesOn);
+    m_review->setGoesOn(values.goesOn);
     ApplicationTheme::setColours(values.theme);
     ApplicationTheme::setFontPercent(values.fontPercent);
     m_desk->document()->setAutosaveInterval(values.autosaveMinutes * 60);

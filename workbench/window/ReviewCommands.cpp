@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <map>
 
+using VelkRelease::DifferencePatterns;
+
 ReviewCommands::ReviewCommands(MappingDocument *document, EditorArea *editor, LineCommands *lines,
                                QWidget *window)
     : m_document(document)
@@ -27,7 +29,9 @@ ReviewCommands::ReviewCommands(MappingDocument *document, EditorArea *editor, Li
     , m_panel(new DifferencePanel(window))
 {
     connect(m_dock, &PatternDock::chosenChanged, this, &ReviewCommands::choosePattern);
-    connect(m_dock, &QDockWidget::visibilityChanged, m_work, &ReviewWork::setWanted);
+    // Behind another tab it stays as it is.
+    connect(m_dock, &QDockWidget::visibilityChanged, m_work,
+            [this] { m_work->setWanted(!m_dock->isHidden()); });
     connect(m_panel, &QDockWidget::visibilityChanged, this, [this](bool visible) {
         m_explained = LineRef();
         if (visible)
@@ -123,10 +127,12 @@ void ReviewCommands::go(bool forward)
     std::vector<Place> open = m_set.empty() ? m_work->patterns().leastSure() : lines();
     if (!m_leastSureFirst)
         std::sort(open.begin(), open.end());
+    if (open.empty() && goOn())
+        return;
     if (open.empty())
         return Q_EMIT noted(m_work->hasPatterns() ? tr("Keine Zeile mehr offen")
                                                   : tr("Die Tabellen sind noch nicht verglichen"));
-    const VelkRelease::DifferencePatterns &patterns = m_work->patterns();
+    const DifferencePatterns &patterns = m_work->patterns();
     const auto order = [&](const Place &place) {
         return std::pair(m_leastSureFirst ? patterns.probability(place).value_or(0) : 0.0, place);
     };
@@ -190,40 +196,72 @@ void ReviewCommands::confirmAll()
         return Q_EMIT noted(tr("Es ist kein Muster gewählt, oder alle Zeilen sind entschieden"));
     const QString pattern =
         m_dock->chosen() < 0 ? QString() : PatternText::of(m_work->patterns(), m_dock->chosen());
-    (void)confirm(places, pattern, QString());
+    if ((doubtfulIn(places) > 0 || !isTold(places)) && !ask(places, pattern))
+        return;
+    confirm(places, pattern, QString());
+}
+
+/// The list says how many lines these are.
+bool ReviewCommands::isTold(const std::vector<Place> &places) const
+{
+    return m_dock->chosen() >= 0 && m_work->patterns().numbers(m_dock->chosen()).lines ==
+                                        int(places.size() + m_takenOut.size());
+}
+
+int ReviewCommands::doubtfulIn(const std::vector<Place> &places) const
+{
+    return int(std::count_if(places.begin(), places.end(), [this](const Place &place) {
+        return m_work->patterns().probability(place).value_or(0) < DifferencePatterns::SureFrom;
+    }));
+}
+
+bool ReviewCommands::ask(const std::vector<Place> &places, const QString &details) const
+{
+    std::set<int> projects;
+    for (const Place &place : places)
+        projects.insert(place.project);
+    Question question(m_window);
+    question.setText(tr("%n Zeile(n)", nullptr, int(places.size())) + u' ' +
+                     tr("in %n Projekt(en) bestätigen?", nullptr, int(projects.size())));
+    QStringList texts;
+    if (!details.isEmpty())
+        texts += details;
+    if (const int doubtful = doubtfulIn(places); doubtful > 0)
+        texts += tr("%n davon ist/sind unsicher.", nullptr, doubtful);
+    texts += tr("Der Schritt kann zurückgenommen werden.");
+    question.setDetails(texts.join(u'\n'));
+    question.addAnswer(Question::Accept, tr("&Bestätigen"));
+    question.addAnswer(Question::Cancel, Question::cancelText());
+    return question.ask() == Question::Accept;
 }
 
 /// \a stepText: empty for the number of lines.
-bool ReviewCommands::confirm(const std::vector<Place> &places, const QString &details,
+void ReviewCommands::confirm(const std::vector<Place> &places, const QString &details,
                              const QString &stepText)
 {
     std::map<int, QList<int>> byProject;
     for (const Place &place : places)
         byProject[place.project].append(place.line);
-    std::vector<BulkOperation> operations;
-    int count = 0;
-    for (const auto &[position, lines] : byProject) {
-        operations.emplace_back(*m_document, m_work->projectAt(position), lines);
-        count += operations.back().preview(BulkOperation::Confirm).lines;
-    }
-    Question question(m_window);
-    question.setText(tr("%n Zeile(n)", nullptr, count) + u' ' +
-                     tr("in %n Projekt(en) bestätigen?", nullptr, int(byProject.size())));
-    const QString undo = tr("Der Schritt kann zurückgenommen werden.");
-    question.setDetails(details.isEmpty() ? undo : details + u'\n' + undo);
-    question.addAnswer(Question::Accept, tr("&Bestätigen"));
-    question.addAnswer(Question::Cancel, Question::cancelText());
-    if (question.ask() != Question::Accept)
-        return false;
-    const QString text = stepText.isEmpty() ? tr("%n Zeile(n) bestätigt", nullptr, count) +
-                                                  QStringLiteral(": ") + details
-                                            : stepText;
+    const QString text = stepText.isEmpty()
+                             ? tr("%n Zeile(n) bestätigt", nullptr, int(places.size())) +
+                                   QStringLiteral(": ") + details
+                             : stepText;
     m_document->beginStep(text);
-    for (const BulkOperation &operation : operations)
-        (void)operation.run(BulkOperation::Confirm);
+    for (const auto &[position, lines] : byProject)
+        (void)BulkOperation(*m_document, m_work->projectAt(position), lines)
+            .run(BulkOperation::Confirm);
     m_document->endStep();
-    Q_EMIT done(text);
-    return true;
+    const bool ended = lines().empty() && !goOn() && m_goesOn;
+    Q_EMIT done(ended ? text + QStringLiteral(" · ") + tr("Alle Muster sind erledigt") : text);
+}
+
+/// From a set without open lines to the next pattern, if there is one and the user wants it.
+bool ReviewCommands::goOn()
+{
+    const int next = m_goesOn && m_dock->chosen() >= 0 ? m_dock->nextOpen() : -1;
+    if (next >= 0)
+        m_dock->choose(next);
+    return next >= 0;
 }
 
 void ReviewCommands::takeCandidate(int key)

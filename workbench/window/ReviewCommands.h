@@ -41,7 +41,8 @@ public:
     /// Shows the list and gives it the keys.
     void showPatterns();
     void showDifferences();
-    /// Asks with the number of lines first.
+    /// Asks first if lines of the set are in doubt, or if the list does not tell their number;
+    /// then goes on to the next pattern.
     void confirmAll();
     /// The line in sight is not confirmed with the others of the set.
     void takeOut();
@@ -52,6 +53,8 @@ public:
     void takeCandidate(int key);
     /// Lines come by the chance of error, the least sure first, else by their places.
     void setLeastSureFirst(bool on);
+    /// When all lines of the set are decided, the next pattern is chosen.
+    void setGoesOn(bool on) { m_goesOn = on; }
     /// Agrees to replacements of values, and withdraws them.
     void editReplacements();
 
@@ -82,8 +85,11 @@ private:
     void explainCurrent();
     void showExplanation(const LineExplanation &explanation);
     [[nodiscard]] LineRef here() const;
-    [[nodiscard]] bool confirm(const std::vector<Place> &places, const QString &details,
-                               const QString &stepText);
+    [[nodiscard]] bool isTold(const std::vector<Place> &places) const;
+    [[nodiscard]] int doubtfulIn(const std::vector<Place> &places) const;
+    [[nodiscard]] bool ask(const std::vector<Place> &places, const QString &details) const;
+    void confirm(const std::vector<Place> &places, const QString &details, const QString &stepText);
+    [[nodiscard]] bool goOn();
     void goToSample();
     void endSample();
     void noteSample() const;
@@ -99,6 +105,7 @@ private:
     std::vector<Place> m_set; ///< as it was chosen; decided ones are still in it
     std::set<Place> m_takenOut;
     bool m_leastSureFirst = false;
+    bool m_goesOn = false;
     LineRef m_explained; ///< that the panel shows
     std::optional<VelkRelease::SampleAcceptance> m_sample;
     quint64 m_seed = 0;

@@ -142,7 +142,8 @@ void ReviewCommands::endSample()
     const std::vector<Place> accepted = m_sample->lines();
     m_sample.reset();
     Q_EMIT noted(text);
-    (void)confirm(accepted, text, text);
+    if (ask(accepted, text))
+        confirm(accepted, text, text);
 }
 
 /// The set falls apart by patterns, or by projects if it is one pattern; the user goes on with one

@@ -2,6 +2,9 @@
 
 #include "CellParts.h"
 
+#include <QRegularExpression>
+#include <QSet>
+
 #include <algorithm>
 #include <cmath>
 
@@ -14,6 +17,8 @@ constexpr int FamilyLines = 2;
 /// A number map makes a family if it explains this share of what became of the variable's numbers;
 /// figures that were all measured anew have some differences in common by chance.
 constexpr double MapShare = 0.5;
+/// A number that was replaced makes a family if this share of the lines with it got the same one.
+constexpr double SameShare = 0.5;
 /// Longer texts are not named as replacements.
 constexpr qsizetype MaxReplaced = 200;
 /// Numbers that differ by less than this part of the larger one are near each other.
@@ -27,6 +32,31 @@ QString nameOf(const ValueChange &change)
         return head + QString::number(change.factor, 'g', 6) + Between +
                QString::number(change.offset, 'g', 6);
     return head + change.before + Between + change.after;
+}
+
+/// Of an old number of a variable.
+QString originOf(const QString &variable, const QString &before)
+{
+    return variable + QChar(0x1f) + before;
+}
+
+/// The texts differ in blanks and capitals alone.
+bool isNotation(const QString &before, const QString &after)
+{
+    const auto plain = [](QString text) {
+        text.removeIf([](QChar c) { return c.isSpace(); });
+        return text.toCaseFolded();
+    };
+    return plain(before) == plain(after);
+}
+
+/// The number is what the map makes of the other one, as far as it has decimal places.
+bool isMapped(const ValueChange &map, double before, double after, const QString &written)
+{
+    const qsizetype point = written.lastIndexOf(QRegularExpression(QStringLiteral("[.,]")));
+    const auto places = point < 0 ? 0 : written.size() - point - 1;
+    const double half = 0.5 * std::pow(10.0, -double(places)) * (1 + 1e-6);
+    return std::abs(before * map.factor + map.offset - after) <= half;
 }
 
 ValueChange plainChange(const QString &variable, ValueChange::Kind kind)
@@ -50,6 +80,7 @@ struct ChangeFamilies::Part
     QString before;
     QString after;
     QList<ValueChange> options;
+    bool isNumber = false; ///< that another number took the place of
 };
 
 ChangeFamilies::ChangeFamilies(const QList<AgreedReplacement> &agreed)
@@ -61,7 +92,7 @@ std::vector<ChangeFamilies::Part> ChangeFamilies::partsOf(const OpenPair::Value 
 {
     std::vector<Part> parts;
     for (const CellPart &cell : differingParts(value.before, value.after)) {
-        Part part{cell.before, cell.after, {}};
+        Part part{cell.before, cell.after, {}, false};
         if (std::max(cell.before.size(), cell.after.size()) <= MaxReplaced) {
             ValueChange change = plainChange(value.variable, ValueChange::Replacement);
             change.before = cell.before;
@@ -70,7 +101,8 @@ std::vector<ChangeFamilies::Part> ChangeFamilies::partsOf(const OpenPair::Value 
         }
         const auto before = numberOf(cell.before);
         const auto after = numberOf(cell.after);
-        if (before && after) {
+        part.isNumber = before && after;
+        if (part.isNumber) {
             ValueChange change = plainChange(value.variable, ValueChange::NumberMap);
             if (const auto factor = factorOf(*before, *after); factor && *factor != 1) {
                 change.factor = *factor;
@@ -89,27 +121,48 @@ std::vector<ChangeFamilies::Part> ChangeFamilies::partsOf(const OpenPair::Value 
 
 void ChangeFamilies::count(const std::vector<OpenPair> &pairs)
 {
-    for (const OpenPair &pair : pairs) {
-        QStringList names; // a line counts once, however often it has a change
-        QStringList numbers;
-        for (const OpenPair::Value &value : pair.values) {
-            if (value.before.isEmpty() || value.after.isEmpty())
-                continue;
-            for (const Part &part : partsOf(value)) {
-                for (const ValueChange &option : part.options) {
-                    names.append(nameOf(option));
-                    if (option.kind == ValueChange::NumberMap)
-                        numbers.append(value.variable);
-                }
+    for (const OpenPair &pair : pairs)
+        countPair(pair);
+}
+
+/// A line counts once, however often it has a change.
+void ChangeFamilies::countPair(const OpenPair &pair)
+{
+    QHash<QString, ValueChange> options; // by name
+    QSet<QString> numbers;
+    QSet<QString> origins;
+    for (const OpenPair::Value &value : pair.values) {
+        if (value.before.isEmpty() || value.after.isEmpty())
+            continue;
+        for (const Part &part : partsOf(value)) {
+            for (const ValueChange &option : part.options) {
+                options.insert(nameOf(option), option);
+                if (option.kind == ValueChange::NumberMap)
+                    numbers.insert(value.variable);
             }
+            if (part.isNumber)
+                origins.insert(originOf(value.variable, part.before));
         }
-        names.removeDuplicates();
-        for (const QString &name : std::as_const(names))
-            ++m_supports[name];
-        numbers.removeDuplicates();
-        for (const QString &name : std::as_const(numbers))
-            ++m_numbers[name];
     }
+    for (auto option = options.cbegin(); option != options.cend(); ++option) {
+        const int supports = ++m_supports[option.key()];
+        if (option->kind != ValueChange::NumberMap)
+            continue;
+        // Of equally supported ones the first in the order of their names, whatever that of a hash.
+        BestMap &best = m_maps[option->variable];
+        if (supports > best.supports ||
+            (supports == best.supports && option.key() < nameOf(best.change)))
+            best = {*option, supports};
+    }
+    for (const QString &name : std::as_const(numbers))
+        ++m_numbers[name];
+    for (const QString &name : std::as_const(origins))
+        ++m_origins[name];
+}
+
+int ChangeFamilies::supportsOf(const ValueChange &change) const
+{
+    return m_supports.value(nameOf(change));
 }
 
 const AgreedReplacement *ChangeFamilies::agreedTo(const OpenPair::Value &value, const Part &part,
@@ -130,6 +183,31 @@ const AgreedReplacement *ChangeFamilies::agreedTo(const OpenPair::Value &value, 
     };
     const auto found = std::find_if(m_agreed.cbegin(), m_agreed.cend(), isMeant);
     return found == m_agreed.cend() ? nullptr : &*found;
+}
+
+/// The family of a part that most lines support, if it has one.
+std::optional<ValueChange> ChangeFamilies::familyOf(const Part &part, const QString &variable) const
+{
+    std::optional<ValueChange> found;
+    int most = FamilyLines - 1;
+    const auto offer = [&](const ValueChange &change) {
+        const int supports = supportsOf(change);
+        const double least =
+            change.kind == ValueChange::NumberMap ? MapShare * m_numbers.value(variable)
+            : part.isNumber ? SameShare * m_origins.value(originOf(variable, part.before))
+                            : 0;
+        if (supports > most && supports >= least) {
+            most = supports;
+            found = change;
+        }
+    };
+    for (const ValueChange &option : part.options)
+        offer(option);
+    const auto map = m_maps.constFind(variable);
+    if (part.isNumber && map != m_maps.cend() &&
+        isMapped(map->change, *numberOf(part.before), *numberOf(part.after), part.after))
+        offer(map->change);
+    return found;
 }
 
 void ChangeFamilies::addChanges(const OpenPair::Value &value, const QString &sourcePath,
@@ -156,23 +234,16 @@ void ChangeFamilies::addChanges(const OpenPair::Value &value, const QString &sou
             found.append(change);
             continue;
         }
-        const ValueChange *best = nullptr;
-        int supports = FamilyLines - 1;
-        for (const ValueChange &option : part.options) {
-            const int count = m_supports.value(nameOf(option));
-            if (option.kind == ValueChange::NumberMap &&
-                count < MapShare * m_numbers.value(value.variable))
-                continue;
-            if (count > supports) {
-                supports = count;
-                best = &option;
-            }
+        if (isNotation(part.before, part.after)) {
+            found.append(plainChange(value.variable, ValueChange::Notation));
+            continue;
         }
-        if (!best) {
+        const std::optional<ValueChange> family = familyOf(part, value.variable);
+        if (!family) {
             found.clear();
             break;
         }
-        found.append(*best);
+        found.append(*family);
     }
     if (found.isEmpty()) {
         const auto before = numberOf(value.before);

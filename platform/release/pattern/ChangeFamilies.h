@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 
+#include <optional>
 #include <vector>
 
 namespace VelkRelease {
@@ -28,16 +29,28 @@ public:
 
 private:
     struct Part;
+    /// The number map of a variable that most lines support.
+    struct BestMap
+    {
+        ValueChange change;
+        int supports = 0;
+    };
 
     [[nodiscard]] static std::vector<Part> partsOf(const OpenPair::Value &value);
     void addChanges(const OpenPair::Value &value, const QString &sourcePath,
                     QList<ValueChange> &changes) const;
+    void countPair(const OpenPair &pair);
+    [[nodiscard]] int supportsOf(const ValueChange &change) const;
+    [[nodiscard]] std::optional<ValueChange> familyOf(const Part &part,
+                                                      const QString &variable) const;
     [[nodiscard]] const AgreedReplacement *agreedTo(const OpenPair::Value &value, const Part &part,
                                                     const QString &sourcePath) const;
 
     QList<AgreedReplacement> m_agreed;
     QHash<QString, int> m_supports; ///< by a name of variable and change
     QHash<QString, int> m_numbers;  ///< lines in which a number of a variable changed
+    QHash<QString, int> m_origins;  ///< lines in which a certain number of a variable changed
+    QHash<QString, BestMap> m_maps; ///< by variable
 };
 
 } // namespace VelkRelease

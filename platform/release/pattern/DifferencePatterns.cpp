@@ -117,14 +117,17 @@ int DifferencePatterns::patternFor(const OpenPair &pair, const QString &sourcePa
         ids.push_back(id);
     }
     std::sort(ids.begin(), ids.end());
-    QString name = pair.comparable ? QString() : QStringLiteral("-");
+    const bool doubtful = pair.comparable && pair.probability < SureFrom;
+    QString name = !pair.comparable ? QStringLiteral("-")
+                   : doubtful       ? QStringLiteral("?")
+                                    : QString();
     for (const int id : ids)
         name += QString::number(id) + u' ';
     const int next = count();
     const int pattern = numberFor(m_patternOf, name, next);
     if (pattern < next)
         return pattern;
-    m_patterns.push_back({changes, pair.comparable, {}, 0, 0, {}});
+    m_patterns.push_back({changes, pair.comparable, doubtful, {}, 0, 0, {}});
     m_changesOf.push_back(ids);
     noteLarger(next);
     for (const int id : ids)
@@ -143,6 +146,8 @@ void DifferencePatterns::noteLarger(int pattern)
     others.erase(std::unique(others.begin(), others.end()), others.end());
     for (const int other : others) {
         const std::vector<int> &its = m_changesOf[size_t(other)];
+        if (its.size() == own.size())
+            continue;
         if (contains(its, own))
             m_patterns[size_t(pattern)].larger.push_back(other);
         else if (contains(own, its))

@@ -16,8 +16,9 @@
 namespace VelkRelease {
 
 /// The open lines of a release by how they differ from the lines that are proposed for them: lines
-/// with the same changes of the same variables are one pattern, whatever their projects. Every open
-/// line with a proposal is in exactly one pattern, or still to be compared.
+/// with the same changes of the same variables are one pattern, whatever their projects; those of
+/// which the program is not sure are one of their own. Every open line with a proposal is in
+/// exactly one pattern, or still to be compared.
 ///
 /// What the changes are called is settled when the patterns are made, by all lines that were open
 /// then. Decisions take lines out of their pattern, and undo brings them back; another proposal of
@@ -49,6 +50,10 @@ public:
         std::vector<OpenPair> pairs;
         QStringList errors;
     };
+
+    /// A line whose proposal is less probable is in doubt: one in ten of the least sure others
+    /// would be wrong, and nobody looks at each line of a pattern.
+    static constexpr double SureFrom = 0.9;
 
     /// Without any line.
     DifferencePatterns() = default;
@@ -82,6 +87,11 @@ public:
     [[nodiscard]] bool isComparable(int pattern) const
     {
         return m_patterns[size_t(pattern)].comparable;
+    }
+    /// Its lines are in doubt.
+    [[nodiscard]] bool isDoubtful(int pattern) const
+    {
+        return m_patterns[size_t(pattern)].doubtful;
     }
     [[nodiscard]] Numbers numbers(int pattern) const;
     /// Patterns that have lines, those of most lines first.
@@ -121,6 +131,7 @@ private:
     {
         QList<ValueChange> changes;
         bool comparable = true;
+        bool doubtful = false;
         std::map<int, std::map<int, double>> open; ///< probability of lines, by project
         int lines = 0;
         /// Of the probabilities, in whole steps, so that it does not depend on the order in which

@@ -48,6 +48,8 @@ QString ValueChange::text(const Words &words) const
         return head + words.otherNumber;
     case Wording:
         return head + words.wording;
+    case Notation:
+        return head + words.notation;
     case Added:
         return head + words.added;
     case Missing:

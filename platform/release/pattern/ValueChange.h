@@ -14,9 +14,10 @@ struct VELKRELEASE_EXPORT ValueChange
         NumberMap,   ///< new number = old number * factor + offset, in several lines
         NearNumber,  ///< another number close by
         OtherNumber,
-        Wording, ///< another text
-        Added,   ///< only the new line has a value
-        Missing, ///< only the old line has one
+        Wording,  ///< another text
+        Notation, ///< the same text but for blanks and capitals
+        Added,    ///< only the new line has a value
+        Missing,  ///< only the old line has one
     };
     /// Words for what has no notation of its own.
     struct Words
@@ -26,6 +27,7 @@ struct VELKRELEASE_EXPORT ValueChange
         QString wording;
         QString added;
         QString missing;
+        QString notation;
     };
 
     QString variable; ///< by its name in the new table

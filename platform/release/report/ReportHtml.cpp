@@ -192,7 +192,9 @@ QString HtmlWriter::patternText(int pattern) const
     QStringList texts;
     for (const ValueChange &change : m_report.patterns.changes(pattern))
         texts << change.text(m_form.changes);
-    return texts.isEmpty() ? text(ReportText::NoDifference) : texts.join(QStringLiteral("; "));
+    const QString changes =
+        texts.isEmpty() ? text(ReportText::NoDifference) : texts.join(QStringLiteral("; "));
+    return m_report.patterns.isDoubtful(pattern) ? text(ReportText::InDoubt).arg(changes) : changes;
 }
 
 void HtmlWriter::writePatterns()

@@ -47,6 +47,7 @@ enum class ReportText : quint8 {
     TableError,    ///< behind a project whose table could not be read
     NotComparable, ///< of a pattern
     NoDifference,  ///< of a pattern
+    InDoubt,       ///< "in doubt: %1", of a pattern
     Nothing,       ///< of a section without entries
     More,          ///< "and %1 more"
     Count

@@ -42,7 +42,7 @@ DifferencePatterns samplePatterns()
     release.addMapping(proposed("a.prj", 4));
     release.addMapping(proposed("b.prj", 2));
     return {release,
-            {{{pairOf(1, "x", "y", 0.5), pairOf(2, "x", "y", 0.75), pairOf(3, "1", "", 0.9),
+            {{{pairOf(1, "x", "y", 0.92), pairOf(2, "x", "y", 0.95), pairOf(3, "1", "", 0.9),
                pairOf(4, "u", "v", 0.999)},
               {}},
              {{pairOf(1, "x", "y", 1), pairOf(2, "u", "v", 0.999)}, {}}}};
@@ -82,7 +82,7 @@ void tst_ReviewModels::patterns()
     QCOMPARE(model.rowCount(), 0);
     const DifferencePatterns patterns = samplePatterns();
     model.setPatterns(&patterns);
-    QCOMPARE(textOf(model), "W: x → y|3|2|75 %|0\n"
+    QCOMPARE(textOf(model), "W: x → y|3|2|95 %|0\n"
                             "W: u → v|2|2|99 %|0\n"
                             "W: Wert fehlt|1|1|90 %|0");
     QCOMPARE(model.lineCount(), patterns.openLines());

@@ -18,6 +18,7 @@
 #include <workbench/window/NeighbourCommands.h>
 #include <workbench/window/ReviewCommands.h>
 #include <workbench/window/StatusArea.h>
+#include <workbench/window/WorkbenchSettings.h>
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>
@@ -108,6 +109,9 @@ private Q_SLOTS:
     void numbersAddUp();
     void choosingFiltersTreeAndTable();
     void confirmsAllInOneStep();
+    void asksForLinesInDoubt();
+    void staysWhereTheUserWants();
+    void lastLineLeadsToTheNextPattern();
     void takesTheShownLineOut();
     void walksThePattern();
     void leastSureFirst();
@@ -166,29 +170,75 @@ void tst_Review::confirmsAllInOneStep()
     fixture.choose("Kz: ");
     const int pattern = fixture.review()->dock()->chosen();
     const int lines = fixture.linesIn(fixture.model()->rowOf(pattern));
+    const int next = fixture.model()->patternAt(fixture.model()->rowOf(pattern) + 1);
     const int open = fixture.model()->lineCount();
     const int confirmed = fixture.confirmedLines();
+    // The number was told: no question, and the next pattern follows.
+    QVERIFY(fixture.sum().contains(QString("Gewählt: %1 Zeilen in 1 Projekt").arg(lines)));
     ModalScript script;
-    script.thenClick("answerCancel");
     fixture.press(Qt::Key_Return, Qt::ControlModifier);
-    QVERIFY(script.isDone());
-    QCOMPARE(fixture.confirmedLines(), confirmed);
-    script.thenClick("answerAccept");
-    fixture.press(Qt::Key_Return, Qt::ControlModifier);
-    QVERIFY(script.isDone());
-    QVERIFY2(script.texts.last().startsWith(QString("%1 Zeilen in ").arg(lines)),
-             qPrintable(script.texts.last()));
+    QVERIFY(script.texts.isEmpty());
     QCOMPARE(fixture.confirmedLines(), confirmed + lines);
-    QCoreApplication::processEvents();
     QCOMPARE(fixture.model()->rowOf(pattern), -1);
     QCOMPARE(fixture.model()->lineCount(), open - lines);
-    QCOMPARE(fixture.review()->dock()->chosen(), -1);
+    QCOMPARE(fixture.review()->dock()->chosen(), next);
+    QCOMPARE(fixture.review()->work()->patterns().patternOf(
+                 fixture.review()->work()->placeOf(fixture.here())),
+             next);
     // One step takes all of them back.
     QCOMPARE(fixture.document()->undoTexts().size(), 1);
     fixture.press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(fixture.confirmedLines(), confirmed);
     QCOMPARE(fixture.model()->lineCount(), open);
     QVERIFY(fixture.model()->rowOf(pattern) >= 0);
+}
+
+/// Nobody confirms by one key what the program is not sure of.
+void tst_Review::asksForLinesInDoubt()
+{
+    ReviewFixture fixture;
+    fixture.choose("unsicher: kein Unterschied");
+    const int pattern = fixture.review()->dock()->chosen();
+    const int lines = fixture.linesIn(fixture.model()->rowOf(pattern));
+    QVERIFY(lines > 0);
+    const int confirmed = fixture.confirmedLines();
+    ModalScript script;
+    script.thenClick("answerCancel");
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(script.isDone());
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+    QCOMPARE(fixture.review()->dock()->chosen(), pattern);
+    script.thenClick("answerAccept");
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY(script.isDone());
+    QVERIFY2(script.texts.last().startsWith(QString("%1 Zeilen in ").arg(lines)),
+             qPrintable(script.texts.last()));
+    QCOMPARE(fixture.confirmedLines(), confirmed + lines);
+}
+
+void tst_Review::staysWhereTheUserWants()
+{
+    ReviewFixture fixture;
+    WorkbenchSettings::Values values = fixture.settings->values();
+    values.goesOn = false;
+    fixture.settings->setValues(values);
+    fixture.choose("Werkstoff: FP → FKM");
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(fixture.review()->dock()->chosen(), -1);
+    QVERIFY(!fixture.window->editor()->editor()->linesAreFiltered());
+}
+
+/// The last line of a pattern leads on as its confirmation does.
+void tst_Review::lastLineLeadsToTheNextPattern()
+{
+    ReviewFixture fixture;
+    fixture.choose("d3: + 0.1");
+    const int next = fixture.model()->patternAt(fixture.rowOf("d3: + 0.1") + 1);
+    QCOMPARE(fixture.review()->lines().size(), 2U);
+    fixture.press(Qt::Key_V);
+    fixture.press(Qt::Key_V);
+    QCOMPARE(fixture.review()->dock()->chosen(), next);
+    QCOMPARE(fixture.rowOf("d3: + 0.1"), -1);
 }
 
 void tst_Review::takesTheShownLineOut()
@@ -203,8 +253,6 @@ void tst_Review::takesTheShownLineOut()
     QCOMPARE(fixture.review()->lines().size(), size_t(lines - 1));
     QVERIFY2(fixture.sum().contains("1 davon herausgenommen"), qPrintable(fixture.sum()));
     QVERIFY(!fixture.window->editor()->shownLines().contains(out.line));
-    ModalScript script;
-    script.thenClick("answerAccept");
     fixture.press(Qt::Key_Return, Qt::ControlModifier);
     QCOMPARE(fixture.confirmedLines(), confirmed + lines - 1);
     // It is still open and in its pattern.
