@@ -1,22 +1,16 @@
 #include "DesignationLabels.h"
 
+#include "DesignationLabel.h"
+
 #include <QColor>
-#include <QLabel>
-#include <QPalette>
 #include <QTextDocument>
 
 namespace {
 
-/// Both colours are made for a light ground, so they bring one along where the window is dark.
-void setGround(QLabel *label, bool shown)
+void compare(QLabel *label, DesignationLabel::Comparison comparison)
 {
-    const bool isDark = label->parentWidget() &&
-                        label->parentWidget()->palette().color(QPalette::Window).lightness() < 128;
-    QPalette palette;
-    if (isDark && shown)
-        palette.setColor(QPalette::Window, QColor(0xe8, 0xe8, 0xe8));
-    label->setPalette(palette);
-    label->setAutoFillBackground(isDark && shown);
+    if (auto *const shown = qobject_cast<DesignationLabel *>(label))
+        shown->setComparison(comparison);
 }
 
 /// As it stands, whatever signs are in it.
@@ -52,14 +46,18 @@ void DesignationLabels::show() const
         return;
     sourceLabel->setToolTip(plainToolTip(sourceText)); // where the label is too narrow
     targetLabel->setToolTip(plainToolTip(targetText));
-    setGround(sourceLabel, !sourceText.isEmpty());
-    setGround(targetLabel, !targetText.isEmpty());
     if (sourceText.isEmpty() && targetText.isEmpty()) {
         sourceLabel->clear();
         targetLabel->clear();
+        compare(sourceLabel, DesignationLabel::NotCompared);
+        compare(targetLabel, DesignationLabel::NotCompared);
         return;
     }
-    const QColor colour(sourceText == targetText ? Qt::darkGreen : Qt::red);
+    const bool equal = sourceText == targetText;
+    const QColor colour(equal ? Qt::darkGreen : Qt::red);
     sourceLabel->setText(coloured(sourceText, colour));
     targetLabel->setText(coloured(targetText, colour));
+    const auto comparison = equal ? DesignationLabel::Equal : DesignationLabel::Different;
+    compare(sourceLabel, comparison);
+    compare(targetLabel, comparison);
 }

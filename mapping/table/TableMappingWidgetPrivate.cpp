@@ -44,8 +44,6 @@ TableMappingWidgetPrivate::TableMappingWidgetPrivate(TableMappingWidget *widget)
     splitter->addWidget(m_targetPane);
     m_target = std::make_unique<TargetTableView>(targetView, sourceView);
     compared = new ComparedTables(sourceView, targetView, this);
-    connect(m_sourcePane, &TablePane::paletteChanged, this, [this] { designationLabels.show(); });
-    connect(m_targetPane, &TablePane::paletteChanged, this, [this] { designationLabels.show(); });
     auto *const hiddenBox =
         new QCheckBox(PString::translate("Versteckte Spalten anzeigen", "VelkLinkDbGui"), q);
     hiddenBox->setObjectName(QStringLiteral("chkShowHiddenCols"));

@@ -1,13 +1,13 @@
 #include "TablePane.h"
 
+#include "DesignationLabel.h"
 #include "LineActionButton.h"
 
 #include <core/text/PString.h>
 #include <geomcore/table/Content.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <gui/views/ElidedCheckBox.h>
 
-#include <QCheckBox>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -25,7 +25,8 @@ TablePane::TablePane(const QString &side, QWidget *parent)
     const QString designation = PString::translate("Normbezeichnung", "VelkLinkDbGui");
     const QString number = PString::translate("Normnummer", "VelkLinkDbGui");
     m_path = createLabel(side + QStringLiteral("PathLabel"), path);
-    m_designation = createLabel(side + QStringLiteral("DesignationLabel"), designation);
+    m_designation = nameLabel(new DesignationLabel(this), side + QStringLiteral("DesignationLabel"),
+                              designation);
     m_number = createLabel(side + QStringLiteral("NumberLabel"), number);
     m_numberRow = createRow(number + QStringLiteral(": "), m_number);
     auto *const layout = new QVBoxLayout(this);
@@ -40,7 +41,11 @@ TablePane::~TablePane() = default;
 
 QLabel *TablePane::createLabel(const QString &name, const QString &meaning)
 {
-    auto *const label = new QLabel(this);
+    return nameLabel(new QLabel(this), name, meaning);
+}
+
+QLabel *TablePane::nameLabel(QLabel *label, const QString &name, const QString &meaning)
+{
     label->setObjectName(name);
     label->setAccessibleName(meaning);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -72,7 +77,7 @@ QPushButton *TablePane::addButton(const char *name, const QString &icon, const Q
 
 QCheckBox *TablePane::addBox(const char *name, const QString &text)
 {
-    auto *const box = new QCheckBox(text, this);
+    auto *const box = new ElidedCheckBox(text, this);
     box->setObjectName(QLatin1String(name));
     layout()->addWidget(box);
     return box;
@@ -93,11 +98,4 @@ void TablePane::clearTexts()
 {
     showPath(QString());
     m_number->clear();
-}
-
-void TablePane::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        Q_EMIT paletteChanged();
 }

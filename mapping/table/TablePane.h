@@ -43,14 +43,9 @@ public:
     /// Path and norm number go.
     void clearTexts();
 
-Q_SIGNALS:
-    void paletteChanged();
-
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     [[nodiscard]] QLabel *createLabel(const QString &name, const QString &meaning);
+    static QLabel *nameLabel(QLabel *label, const QString &name, const QString &meaning);
     [[nodiscard]] QHBoxLayout *createRow(const QString &caption, QLabel *label);
 
     VkTableView *m_view;

@@ -14,8 +14,8 @@
 
 #include <core/text/PString.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <gui/views/ElidedCheckBox.h>
 
-#include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
@@ -32,17 +32,6 @@
 #ifdef VELK_CATALOG_LEAK_CHECK
 #include <sanitizer/lsan_interface.h>
 #endif
-
-namespace {
-
-/// A long text must not keep the pane from getting narrower; then it stands in the tool tip.
-void letGetNarrow(QCheckBox *box)
-{
-    box->setMinimumWidth(1);
-    box->setToolTip(box->text());
-}
-
-} // namespace
 
 void CatalogMappingWidgetPrivate::buildLayout()
 {
@@ -74,11 +63,10 @@ QWidget *CatalogMappingWidgetPrivate::makeTreePane(QWidget *parent)
     treeView->setUniformRowHeights(true); // so that a row costs nothing until it is seen
     treeView->setContextMenuPolicy(Qt::CustomContextMenu);
     layout->addWidget(treeView);
-    checkToCheck = new QCheckBox(
+    checkToCheck = new ElidedCheckBox(
         PString::translate("Zeige nur Projekte mit unvollständigen Mappings", "VelkLinkDbGui"),
         pane);
     checkToCheck->setObjectName(QStringLiteral("checkToCheck"));
-    letGetNarrow(checkToCheck);
     layout->addWidget(checkToCheck);
     auto *const rows = new QVBoxLayout;
     rows->setContentsMargins(0, 0, 0, 0);
@@ -102,10 +90,9 @@ QCheckBox *CatalogMappingWidgetPrivate::addFilterRow(QBoxLayout *rows, const cha
     auto *const row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
     row->addSpacerItem(new QSpacerItem(20, 1, QSizePolicy::Minimum, QSizePolicy::Minimum));
-    auto *const box = new QCheckBox(text, treeView->parentWidget());
+    auto *const box = new ElidedCheckBox(text, treeView->parentWidget());
     box->setObjectName(QLatin1String(name));
     box->setEnabled(false);
-    letGetNarrow(box);
     row->addWidget(box);
     rows->addLayout(row);
     return box;

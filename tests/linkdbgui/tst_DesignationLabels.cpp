@@ -1,3 +1,6 @@
+#include "../support/ControlCheck.h"
+
+#include <mapping/table/DesignationLabel.h>
 #include <mapping/table/DesignationLabels.h>
 
 #include <QLabel>
@@ -13,7 +16,9 @@ private Q_SLOTS:
     void texts();
     void withoutBothLabels();
     void everyChangeShows();
-    void lightGroundInADarkWindow();
+    void differenceIsTold_data();
+    void differenceIsTold();
+    void longTextIsCut();
 };
 
 namespace {
@@ -105,27 +110,60 @@ void tst_DesignationLabels::everyChangeShows()
     QCOMPARE(sourceLabel.text() + targetLabel.text(), QString());
 }
 
-void tst_DesignationLabels::lightGroundInADarkWindow()
+/// By a sign besides the colour, and legible on every ground.
+void tst_DesignationLabels::differenceIsTold_data()
 {
-    QWidget window;
-    QLabel sourceLabel(&window);
-    QLabel targetLabel(&window);
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("equal") << "M8"
+                           << "M8"
+                           << "= M8";
+    QTest::newRow("different") << "M8 <b>"
+                               << "M9"
+                               << "≠ M8 <b>";
+    QTest::newRow("source only") << "M8"
+                                 << ""
+                                 << "≠ M8";
+    QTest::newRow("nothing") << ""
+                             << ""
+                             << "";
+}
+
+void tst_DesignationLabels::differenceIsTold()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, target);
+    DesignationLabel sourceLabel(nullptr);
+    DesignationLabel targetLabel(nullptr);
     DesignationLabels labels;
     labels.sourceLabel = &sourceLabel;
     labels.targetLabel = &targetLabel;
-    labels.setSourceText("a");
-    QVERIFY(!sourceLabel.autoFillBackground());
-    window.setPalette(QPalette(QColor(40, 40, 40)));
-    labels.setSourceText("b");
-    QVERIFY(sourceLabel.autoFillBackground());
-    QVERIFY(sourceLabel.palette().color(QPalette::Window).lightness() > 200);
-    QVERIFY(!targetLabel.autoFillBackground());
-    labels.setSourceText("");
-    QVERIFY(!sourceLabel.autoFillBackground());
-    labels.setSourceText("c");
-    window.setPalette(QPalette(QColor(240, 240, 240)));
-    labels.show();
-    QVERIFY(!sourceLabel.autoFillBackground());
+    labels.setSourceText(source);
+    labels.setTargetText(target);
+    QTEST(sourceLabel.shownText(), "shown");
+    QTEST(sourceLabel.accessibleDescription(), "shown");
+    QVERIFY(sourceLabel.sizeHint().width() >=
+            sourceLabel.fontMetrics().horizontalAdvance(sourceLabel.shownText()));
+    for (const QColor &window :
+         {QColor(0xf3, 0xf4, 0xf6), QColor(0x2b, 0x2d, 0x31), QColor(Qt::black)}) {
+        const QColor ink = DesignationLabel::ink(sourceLabel.comparison(), QPalette(window));
+        const double contrast = ControlCheck::contrast(ink, window);
+        QVERIFY2(contrast >= 4.5, qPrintable(window.name() + QString(": %1").arg(contrast)));
+    }
+}
+
+void tst_DesignationLabels::longTextIsCut()
+{
+    DesignationLabel label(nullptr);
+    label.setText("<span style=\"color:#ff0000;\">" + QString(40, 'x') + "</span>");
+    label.setComparison(DesignationLabel::Different);
+    label.resize(label.sizeHint());
+    const QImage whole = label.grab().toImage();
+    label.resize(60, label.height());
+    const QImage cut = label.grab().toImage();
+    QVERIFY(whole.copy(0, 0, 60, whole.height()) != cut); // it ends in dots
+    QVERIFY(whole.copy(0, 0, 20, whole.height()) == cut.copy(0, 0, 20, cut.height()));
 }
 
 QTEST_MAIN(tst_DesignationLabels)

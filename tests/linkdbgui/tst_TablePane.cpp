@@ -4,8 +4,8 @@
 
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <gui/views/ElidedCheckBox.h>
 
-#include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -22,7 +22,7 @@ private Q_SLOTS:
     void buttons();
     void boxes();
     void texts();
-    void paletteIsAnnounced();
+    void narrowBox();
 };
 
 void tst_TablePane::names()
@@ -97,15 +97,18 @@ void tst_TablePane::texts()
              QString());
 }
 
-void tst_TablePane::paletteIsAnnounced()
+void tst_TablePane::narrowBox()
 {
-    QWidget window;
-    TablePane pane("left", &window);
-    const QSignalSpy spy(&pane, &TablePane::paletteChanged);
-    pane.setFont(QFont("Courier"));
-    QCOMPARE(spy.count(), 0);
-    window.setPalette(QPalette(QColor(40, 40, 40)));
-    QCOMPARE(spy.count(), 1);
+    TablePane pane("left", nullptr);
+    auto *const box = qobject_cast<ElidedCheckBox *>(pane.addBox("chkBox", "Only these &lines"));
+    QVERIFY(box);
+    QVERIFY(box->minimumSizeHint().width() < box->sizeHint().width());
+    box->resize(box->sizeHint());
+    QCOMPARE(box->shownText(), QString("Only these &lines"));
+    box->resize(box->minimumSizeHint());
+    QVERIFY(box->shownText().endsWith(QChar(0x2026)));
+    QCOMPARE(box->text(), QString("Only these &lines"));
+    QCOMPARE(box->toolTip(), QString("Only these &lines"));
 }
 
 QTEST_MAIN(tst_TablePane)

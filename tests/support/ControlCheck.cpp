@@ -13,12 +13,15 @@
 #include <QMap>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTextEdit>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <cmath>
 
 namespace {
 
@@ -221,4 +224,77 @@ QStringList ControlCheck::access(const QWidget &window)
             faults += name + QStringLiteral(" does not say that it takes the keys");
     }
     return faults;
+}
+
+namespace {
+
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+using RolePair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
+
+/// What a control of this kind writes in, and on what.
+QList<RolePair> rolesOf(const QWidget &widget)
+{
+    if (qobject_cast<const QAbstractItemView *>(&widget))
+        return {{QPalette::Text, QPalette::Base},
+                {QPalette::Text, QPalette::AlternateBase},
+                {QPalette::HighlightedText, QPalette::Highlight},
+                {QPalette::Link, QPalette::Base}};
+    if (qobject_cast<const QLineEdit *>(&widget) || qobject_cast<const QPlainTextEdit *>(&widget) ||
+        qobject_cast<const QTextEdit *>(&widget))
+        return {{QPalette::Text, QPalette::Base},
+                {QPalette::PlaceholderText, QPalette::Base},
+                {QPalette::HighlightedText, QPalette::Highlight}};
+    if (qobject_cast<const QLabel *>(&widget))
+        return {{QPalette::WindowText, QPalette::Window}, {QPalette::Link, QPalette::Window}};
+    if (qobject_cast<const QAbstractButton *>(&widget) || qobject_cast<const QComboBox *>(&widget))
+        return {{QPalette::ButtonText, QPalette::Button}, {QPalette::WindowText, QPalette::Window}};
+    return {};
+}
+
+} // namespace
+
+double ControlCheck::contrast(const QColor &a, const QColor &b)
+{
+    const double first = luminance(a);
+    const double second = luminance(b);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+QStringList ControlCheck::contrasts(const QWidget &window)
+{
+    QStringList faults;
+    for (const QWidget *const widget : shownWidgets(window)) {
+        if (!widget->isEnabled())
+            continue;
+        for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+            for (const auto &[ink, ground] : rolesOf(*widget)) {
+                const QPalette &palette = widget->palette();
+                const double found =
+                    contrast(palette.color(group, ink), palette.color(group, ground));
+                if (found < 4.5)
+                    faults += QStringLiteral("%1: %2 on %3 has %4")
+                                  .arg(nameOf(*widget), palette.color(group, ink).name(),
+                                       palette.color(group, ground).name())
+                                  .arg(found);
+            }
+        }
+    }
+    faults.removeDuplicates();
+    return faults;
+}
+
+void ControlCheck::picture(QWidget *window, const QString &name)
+{
+    const QString folder = qEnvironmentVariable("VELK_PICTURES");
+    if (!folder.isEmpty())
+        window->grab().save(folder + u'/' + QString(name).replace(u' ', u'-') +
+                            QStringLiteral(".png"));
 }

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+class QColor;
 class QWidget;
 
 /// What keeps a window from being used by keyboard or with a screen reader, one text for each
@@ -16,4 +17,10 @@ public:
     [[nodiscard]] static QStringList keys(const QWidget &window);
     /// Controls without a name or role, and those that the keyboard does not reach.
     [[nodiscard]] static QStringList access(const QWidget &window);
+    /// Texts that cannot be told from their ground: enabled ones below a contrast of 4.5.
+    [[nodiscard]] static QStringList contrasts(const QWidget &window);
+    /// After the recommendations for accessible pages (WCAG 2): from 1, equal, to 21.
+    [[nodiscard]] static double contrast(const QColor &a, const QColor &b);
+    /// Leaves a picture in the folder that VELK_PICTURES names; does nothing without one.
+    static void picture(QWidget *window, const QString &name);
 };

@@ -28,6 +28,7 @@ ConflictDock::ConflictDock(ConflictList *list, QWidget *parent)
     auto *const head = new QHBoxLayout;
     m_counter = new QLabel(content);
     m_counter->setObjectName("ConflictCounter");
+    m_counter->setMinimumWidth(1); // beside other parts of a small window
     head->addWidget(m_counter, 1);
     layout->addLayout(head);
     auto *const panes = new QSplitter(Qt::Horizontal, content);

@@ -2,6 +2,8 @@
 
 #include "DifferenceModel.h"
 
+#include <gui/views/Inks.h>
+
 #include <QApplication>
 #include <QPainter>
 #include <QTextLayout>
@@ -12,11 +14,10 @@ using Marks = QList<QPair<int, int>>;
 
 QList<QTextLayout::FormatRange> formatsOf(const Marks &marks, const QPalette &palette)
 {
-    // On dark surfaces a light mark would hide light characters.
-    const bool dark = palette.color(QPalette::Base).lightness() < 128;
     QTextCharFormat marked;
-    marked.setBackground(dark ? QColor(128, 92, 0) : QColor(255, 224, 130));
-    marked.setForeground(dark ? QColor(Qt::white) : QColor(Qt::black));
+    marked.setBackground(Inks::differenceGround(palette));
+    marked.setForeground(Inks::differenceText(palette));
+    marked.setFontUnderline(true); // told by more than the colour
     QList<QTextLayout::FormatRange> formats;
     for (const auto &[begin, length] : marks)
         formats.append({begin, length, marked});

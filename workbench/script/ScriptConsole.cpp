@@ -1,37 +1,16 @@
 #include "ScriptConsole.h"
 
 #include <gui/progress/ProgressInputFilter.h>
+#include <gui/views/MessageText.h>
 
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
-#include <QTextBlock>
 #include <QToolButton>
-
-namespace {
-
-/// As many lines as the tables can spare.
-class OutputText : public QPlainTextEdit
-{
-public:
-    using QPlainTextEdit::QPlainTextEdit;
-    [[nodiscard]] QSize sizeHint() const override
-    {
-        return {600, fontMetrics().lineSpacing() * 7 + 2 * frameWidth()};
-    }
-};
-
-bool isDark(const QPalette &palette)
-{
-    return palette.color(QPalette::Base).lightness() < 128;
-}
-
-} // namespace
 
 ScriptConsole::ScriptConsole(QWidget *parent)
     : QDockWidget(parent)
-    , m_text(new OutputText(this))
+    , m_text(new MessageText(LinesAtFirst, this))
     , m_input(new ConsoleInput(this))
     , m_stop(new QToolButton(this))
     , m_clear(new QToolButton(this))
@@ -40,10 +19,8 @@ ScriptConsole::ScriptConsole(QWidget *parent)
     setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea | Qt::RightDockWidgetArea);
     const QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     m_text->setObjectName("scriptOutput");
-    m_text->setReadOnly(true);
     m_text->setFont(font);
     m_text->setMaximumBlockCount(LineLimit);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_input->setObjectName("scriptInput");
     m_input->setFont(font);
     m_stop->setObjectName("scriptStop");
@@ -62,7 +39,7 @@ ScriptConsole::ScriptConsole(QWidget *parent)
     layout->addLayout(row);
     setWidget(content);
     connect(m_input, &ConsoleInput::entered, this, [this](const QString &line) {
-        add(QStringLiteral("> ") + line, palette().color(QPalette::PlaceholderText));
+        m_text->add(QStringLiteral("> ") + line, Inks::Ink::Quiet);
         Q_EMIT entered(line);
     });
     connect(m_stop, &QToolButton::clicked, this, &ScriptConsole::stopRequested);
@@ -70,34 +47,21 @@ ScriptConsole::ScriptConsole(QWidget *parent)
     retranslate();
 }
 
-void ScriptConsole::add(const QString &text, const QColor &colour)
-{
-    QTextCharFormat format;
-    format.setForeground(colour);
-    QTextCursor cursor(m_text->document());
-    cursor.movePosition(QTextCursor::End);
-    if (!m_text->document()->isEmpty())
-        cursor.insertBlock();
-    cursor.insertText(text, format);
-    m_text->moveCursor(QTextCursor::End);
-    m_text->ensureCursorVisible();
-}
-
 void ScriptConsole::print(const QString &text)
 {
-    add(text, palette().color(QPalette::Text));
+    m_text->add(text, Inks::Ink::Plain);
 }
 
 void ScriptConsole::showError(const QString &text)
 {
-    add(text, isDark(palette()) ? QColor(0xff8a80) : QColor(0xb3261e));
+    m_text->add(text, Inks::Ink::Bad);
     show();
     raise();
 }
 
 void ScriptConsole::showValue(const QString &text)
 {
-    add(text, isDark(palette()) ? QColor(0x8ab4f8) : QColor(0x1a56b0));
+    m_text->add(text, Inks::Ink::Value);
 }
 
 QString ScriptConsole::text() const

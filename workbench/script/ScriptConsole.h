@@ -5,9 +5,9 @@
 #include <QDockWidget>
 
 QT_BEGIN_NAMESPACE
-class QPlainTextEdit;
 class QToolButton;
 QT_END_NAMESPACE
+class MessageText;
 
 /// Where scripts print and single lines are run, the latest at the end.
 class ScriptConsole : public QDockWidget
@@ -19,6 +19,8 @@ public:
 
     /// Lines beyond are dropped, the oldest first.
     static constexpr int LineLimit = 20000;
+    /// As many as the tables can spare.
+    static constexpr int LinesAtFirst = 7;
 
     void print(const QString &text);
     void showError(const QString &text);
@@ -36,10 +38,9 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void add(const QString &text, const QColor &colour);
     void retranslate();
 
-    QPlainTextEdit *const m_text;
+    MessageText *const m_text;
     ConsoleInput *const m_input;
     QToolButton *const m_stop;
     QToolButton *const m_clear;

@@ -4,6 +4,7 @@
 #include <core/files/DurableFile.h>
 #include <gui/application/PApplication.h>
 #include <gui/progress/ProgressInputFilter.h>
+#include <gui/views/Inks.h>
 
 #include <QCloseEvent>
 #include <QFile>
@@ -183,10 +184,9 @@ void ScriptEditor::setRunning(bool running)
 void ScriptEditor::showOutcome(const QString &text, bool isError, int line)
 {
     QPalette colours = palette();
-    if (isError) {
-        const bool dark = colours.color(QPalette::Base).lightness() < 128;
-        colours.setColor(QPalette::WindowText, dark ? QColor(0xff8a80) : QColor(0xb3261e));
-    }
+    if (isError)
+        colours.setColor(QPalette::WindowText,
+                         Inks::ink(Inks::Ink::Bad, colours, QPalette::Window));
     m_message->setPalette(colours);
     m_message->setText(text);
     markLine(line);

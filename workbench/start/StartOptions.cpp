@@ -46,7 +46,7 @@ void addOptions(QCommandLineParser &parser)
          "TEXT"},
         {"size", "Size of the window, such as 1400x900.", "WxH"},
         {"scale", "Pixels for a length of 1 in a screenshot: 1 or 2.", "N", "1"},
-        {"theme", "light or dark.", "THEME"},
+        {"theme", "light, dark or contrast.", "THEME"},
         {"language", EditorLanguages::all().join(" or ") + ".", "LANGUAGE"},
         {"settings", "Directory of settings and journals; the user's own by default.", "DIR"},
     });
@@ -77,8 +77,9 @@ QString wrongValue(const QCommandLineParser &parser, const StartOptions &options
         return wrong("scale", "1 or 2");
     if (parser.isSet("dialog") && !dialogs().contains(options.dialog))
         return wrong("dialog", dialogs().join(" or "));
-    if (!options.theme.isEmpty() && options.theme != "light" && options.theme != "dark")
-        return wrong("theme", "light or dark");
+    if (!options.theme.isEmpty() &&
+        !QStringList{"light", "dark", "contrast"}.contains(options.theme))
+        return wrong("theme", "light, dark or contrast");
     if (!options.language.isEmpty() && !EditorLanguages::all().contains(options.language))
         return wrong("language", EditorLanguages::all().join(" or "));
     return {};

@@ -29,7 +29,7 @@ struct StartOptions
     QString scriptOutput; ///< the file that it may write
     QString screenshot;   ///< file; the program renders the editor into it and ends
     QSize size;           ///< of the window, in device independent pixels
-    QString theme;        ///< "light", "dark"; empty: as set
+    QString theme;        ///< "light", "dark", "contrast"; empty: as set
     QString language;     ///< one of EditorLanguages; empty: as set
     int scale = 1;
     QString settingsDirectory; ///< empty: the user's own

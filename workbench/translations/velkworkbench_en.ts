@@ -815,7 +815,7 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Als &amp;CSV speichern...</source>
-        <translation>Save as &amp;CSV...</translation>
+        <translation>&amp;Save as CSV...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -1410,7 +1410,7 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Zuletzt &amp;Gelöschtes...</source>
-        <translation>&amp;Last deleted...</translation>
+        <translation>Last &amp;deleted...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -3315,6 +3315,10 @@ Line: %2
     <message>
         <source>Nach einer Entscheidung weiter zur nä&amp;chsten offenen Zeile</source>
         <translation>After a &amp;decision go on to the next open line</translation>
+    </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>High contrast</translation>
     </message>
 </context>
 <context>

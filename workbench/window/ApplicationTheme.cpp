@@ -25,9 +25,13 @@ struct Colours
 };
 
 const Colours lightColours{0xf3f4f6, 0xffffff, 0xf5f7fa, 0xe9ebee, 0x1b1f24, 0x8b929b,
-                           0x6b727b, 0x2f6fb3, 0xffffff, 0x1a5fa8, 0xfffbe0};
+                           0x646b74, 0x2f6fb3, 0xffffff, 0x1a5fa8, 0xfffbe0};
 const Colours darkColours{0x2b2d31, 0x1f2124, 0x26282c, 0x383b40, 0xe6e8eb, 0x858b93,
-                          0x9aa1a9, 0x3d7fc4, 0xffffff, 0x7fb5ee, 0x3a3c30};
+                          0x9aa1a9, 0x3474b8, 0xffffff, 0x7fb5ee, 0x3a3c30};
+// White on black; every edge is drawn by WorkbenchStyle.
+const Colours contrastColours{0xff000000, 0xff000000, 0xff1c1c1c, 0xff000000,
+                              0xffffffff, 0xffb0b0b0, 0xffd8d8d8, 0xffffe600,
+                              0xff000000, 0xff8cd3ff, 0xff000000};
 
 QPalette paletteOf(const Colours &colours)
 {
@@ -54,12 +58,23 @@ QPalette paletteOf(const Colours &colours)
 
 void ApplicationTheme::setColours(const QString &theme)
 {
-    if (theme != "light" && theme != "dark")
+    const bool isOwn = names().contains(theme);
+    const bool highContrast = theme == "contrast";
+    QApplication::setStyle(new WorkbenchStyle(highContrast ? WorkbenchStyle::HighContrast
+                                              : isOwn      ? WorkbenchStyle::Own
+                                                           : WorkbenchStyle::Desktop));
+    if (!isOwn)
         return;
-    QApplication::setStyle(new WorkbenchStyle);
-    const QPalette palette = paletteOf(theme == "dark" ? darkColours : lightColours);
+    const QPalette palette = paletteOf(highContrast      ? contrastColours
+                                       : theme == "dark" ? darkColours
+                                                         : lightColours);
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+}
+
+QStringList ApplicationTheme::names()
+{
+    return {"light", "dark", "contrast"};
 }
 
 void ApplicationTheme::setFontPercent(int percent)

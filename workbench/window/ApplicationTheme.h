@@ -1,13 +1,15 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 /// Colours and fonts of the whole program. GUI thread, once there is a QApplication.
 class ApplicationTheme
 {
 public:
-    /// "light", "dark"; anything else keeps the desktop's colours.
+    /// One of names(); anything else keeps the desktop's colours.
     static void setColours(const QString &theme);
+    /// "light", "dark" and "contrast", white on black with every edge drawn.
+    [[nodiscard]] static QStringList names();
     /// In percent of the font that the program started with.
     static void setFontPercent(int percent);
     /// Whether text is light on a dark ground now.

@@ -38,8 +38,10 @@ HistoryDialog::HistoryDialog(const QString &mappingFile, const LineRef &here, QW
     m_scope->setCurrentIndex(here.isValid() ? OfLine : here.project.isValid() ? OfProject : OfAll);
     m_search->setObjectName("search");
     m_search->setPlaceholderText(tr("Wer, Projekt, Ziel oder Grund suchen"));
+    m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
     m_view->setObjectName("decisions");
+    m_view->setAccessibleName(windowTitle());
     m_view->setModel(m_model);
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);

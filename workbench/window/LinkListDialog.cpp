@@ -39,8 +39,10 @@ LinkListDialog::LinkListDialog(const PRefPtr<PLinkDbC> &linkDb, QWidget *parent)
     setWindowTitle(tr("Linkmanager"));
     m_search->setObjectName("search");
     m_search->setPlaceholderText(tr("Nummer, Projekt oder Bezeichnung suchen"));
+    m_search->setAccessibleName(m_search->placeholderText());
     m_search->setClearButtonEnabled(true);
     m_list->setObjectName("links");
+    m_list->setAccessibleName(windowTitle());
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setHeaderLabels({tr("Nummer"), tr("Projekt"), tr("Zeile"), tr("Bezeichnung")});

@@ -30,6 +30,7 @@ LinkProofDialog::LinkProofDialog(const LinkProof &proof, QWidget *parent)
     setObjectName("LinkProofDialog");
     setWindowTitle(tr("Prüfung der Nummern"));
     m_list->setObjectName("findings");
+    m_list->setAccessibleName(windowTitle());
     m_list->setUniformRowHeights(true);
     m_list->setHeaderLabels({tr("Nummer"), tr("Zeile"), tr("Befund")});
     auto *sum =

@@ -2,8 +2,8 @@
 
 #include <QDockWidget>
 
+class MessageText;
 class QAction;
-class QPlainTextEdit;
 
 /// What the program has to say, the latest at the end. GUI thread.
 class LogWindow : public QDockWidget
@@ -17,6 +17,8 @@ public:
 
     /// Lines beyond are dropped, the oldest first.
     static constexpr int LineLimit = 5000;
+    /// The tables need the room.
+    static constexpr int LinesAtFirst = 6;
 
     /// Adds a message with the time of day. An error or warning brings the window to the front.
     void addMessage(Severity severity, const QString &text);
@@ -27,9 +29,8 @@ protected:
 
 private:
     void retranslate();
-    [[nodiscard]] QColor colourOf(Severity severity) const;
 
-    QPlainTextEdit *const m_text;
+    MessageText *const m_text;
     QAction *const m_clear;
     QAction *const m_copy;
 };

@@ -43,6 +43,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values, const QS
     m_theme->addItem(tr("Wie der Desktop"), QString());
     m_theme->addItem(tr("Hell"), "light");
     m_theme->addItem(tr("Dunkel"), "dark");
+    m_theme->addItem(tr("Hoher Kontrast"), "contrast");
     m_theme->setCurrentIndex(m_theme->findData(values.theme));
     m_font->setObjectName("font");
     m_font->setRange(WorkbenchSettings::MinFontPercent, WorkbenchSettings::MaxFontPercent);

@@ -61,6 +61,7 @@ void StatusArea::writeNote()
     QString text = m_noteText.toHtmlEscaped();
     if (m_undoable)
         text += QStringLiteral(" · <a href=\"undo\">%1</a>").arg(tr("rückgängig"));
+    m_note->setText(QString());
     m_note->setText(text);
     // Without a link there is nothing to do with it.
     m_note->setFocusPolicy(m_undoable ? Qt::StrongFocus : Qt::NoFocus);
@@ -100,6 +101,7 @@ void StatusArea::retranslate()
 void StatusArea::changeEvent(QEvent *event)
 {
     QStatusBar::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    // A link keeps the colour that it was written in.
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::PaletteChange)
         retranslate();
 }

@@ -19,7 +19,7 @@ public:
     struct Values
     {
         QString language = EditorLanguages::firstOn();
-        QString theme;             ///< "light", "dark"; empty: as the desktop
+        QString theme;             ///< of ApplicationTheme; empty: as the desktop
         int fontPercent = 100;     ///< of the desktop's font size
         int autosaveMinutes = 3;   ///< 0: never
         bool goesOn = true;        ///< to the next open line after a decision

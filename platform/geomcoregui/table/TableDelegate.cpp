@@ -2,6 +2,8 @@
 
 #include "VkTableModel.h"
 
+#include <gui/views/Inks.h>
+
 namespace {
 
 /// An icon on the full colour of a selection, tinted by the style, could hardly be told from
@@ -24,10 +26,9 @@ void keepIconsClear(QStyleOptionViewItem *option)
 /// Told by more than the colour, and on the selected line too.
 void markDifference(QStyleOptionViewItem *option)
 {
-    const bool dark = option->palette.color(QPalette::Base).lightness() < 128;
     option->state &= ~QStyle::State_Selected;
-    option->backgroundBrush = dark ? QColor(128, 92, 0) : QColor(255, 224, 130);
-    option->palette.setBrush(QPalette::Text, dark ? Qt::white : Qt::black);
+    option->backgroundBrush = Inks::differenceGround(option->palette);
+    option->palette.setBrush(QPalette::Text, Inks::differenceText(option->palette));
     option->font.setUnderline(true);
 }
 

@@ -3,8 +3,11 @@
 #include <geomcore/binding/VarsetParserC.h>
 #include <geomcore/expression/StatementParser.h>
 #include <geomcore/expression/Tokenizer.h>
+#include <gui/views/Inks.h>
 
+#include <gui/views/Inks.h>
 #include <QEvent>
+
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -15,11 +18,6 @@
 namespace {
 
 constexpr int pauseInMilliseconds = 400;
-
-bool isDark(const QPalette &palette)
-{
-    return palette.color(QPalette::Base).lightness() < 128;
-}
 
 } // namespace
 
@@ -119,7 +117,7 @@ void FormulaCheck::mark(qsizetype position)
     selection.cursor.setPosition(int(m_start));
     selection.cursor.setPosition(int(m_end), QTextCursor::KeepAnchor);
     selection.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-    selection.format.setUnderlineColor(isDark(m_edit->palette()) ? 0xffff8080 : 0xffc00000);
+    selection.format.setUnderlineColor(Inks::ink(Inks::Ink::Bad, m_edit->palette()));
     m_edit->setExtraSelections({selection});
 }
 

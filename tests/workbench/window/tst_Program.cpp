@@ -75,7 +75,8 @@ private Q_SLOTS:
         QVERIFY(help.out.contains("--screenshot"));
         const Run wrong = program({"--theme", "red"});
         QCOMPARE(wrong.status, 1);
-        QVERIFY(wrong.err.startsWith("velkworkbench: --theme is not light or dark: red\n"));
+        QVERIFY(
+            wrong.err.startsWith("velkworkbench: --theme is not light, dark or contrast: red\n"));
     }
 
     void saysWhichLibraryIsMissing()

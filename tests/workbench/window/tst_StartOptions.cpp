@@ -92,7 +92,7 @@ private Q_SLOTS:
                                    "documents or script or locator or keys or manual: x";
         QTest::newRow("scale") << QStringList{"--scale", "3"} << "--scale is not 1 or 2: 3";
         QTest::newRow("theme") << QStringList{"--theme", "red"}
-                               << "--theme is not light or dark: red";
+                               << "--theme is not light, dark or contrast: red";
         QTest::newRow("language") << QStringList{"--language", "fr"}
                                   << "--language is not de or en: fr";
     }

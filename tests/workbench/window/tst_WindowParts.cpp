@@ -1,6 +1,7 @@
 #include <core/message/PMessage.h>
 #include <core/progress/PProgress.h>
 #include <gui/progress/DefaultObserverDelegate.h>
+#include <gui/views/Inks.h>
 #include <workbench/window/ApplicationTheme.h>
 #include <workbench/window/LegendDialog.h>
 #include <workbench/window/LogWindow.h>
@@ -17,14 +18,17 @@
 
 #include <QAction>
 #include <QFile>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
 #include <QToolButton>
 
 #include <thread>
@@ -109,7 +113,7 @@ private Q_SLOTS:
                  QStringLiteral("Zeilen, die noch eine Entscheidung brauchen"));
     }
 
-    void themesAreLightOrDark()
+    void themesAreLightDarkOrOfHighContrast()
     {
         const QPalette before = QApplication::palette();
         ApplicationTheme::setColours("dark");
@@ -117,9 +121,69 @@ private Q_SLOTS:
         QVERIFY(dark.color(QPalette::Window).lightness() < 128);
         ApplicationTheme::setColours("system"); // as the desktop has it: nothing of ours
         QCOMPARE(QApplication::palette(), dark);
+        ApplicationTheme::setColours("contrast");
+        QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(Qt::black));
+        QCOMPARE(QApplication::palette().color(QPalette::Text), QColor(Qt::white));
         ApplicationTheme::setColours("light");
         QVERIFY(QApplication::palette().color(QPalette::Window).lightness() > 128);
         QApplication::setPalette(before);
+    }
+
+    /// What stood in the log before is to be read after a change of colours too.
+    void messagesFollowTheColours()
+    {
+        const QPalette before = QApplication::palette();
+        ApplicationTheme::setColours("light");
+        LogWindow log(nullptr);
+        log.addMessage(LogWindow::Severity::Information, "one");
+        log.addMessage(LogWindow::Severity::Warning, "two\nlines");
+        log.addMessage(LogWindow::Severity::Error, "three");
+        auto *const text = log.findChild<QPlainTextEdit *>("logText");
+        const auto inkOf = [text](int block) {
+            QTextCursor cursor(text->document()->findBlockByNumber(block));
+            cursor.movePosition(QTextCursor::EndOfBlock);
+            return cursor.charFormat().foreground().color();
+        };
+        for (const QString &theme : ApplicationTheme::names()) {
+            ApplicationTheme::setColours(theme);
+            QCoreApplication::processEvents();
+            const QPalette now = text->palette();
+            QCOMPARE(inkOf(0), Inks::ink(Inks::Ink::Plain, now));
+            QCOMPARE(inkOf(1), Inks::ink(Inks::Ink::Warning, now));
+            QCOMPARE(inkOf(2), Inks::ink(Inks::Ink::Warning, now));
+            QCOMPARE(inkOf(3), Inks::ink(Inks::Ink::Bad, now));
+        }
+        QApplication::setPalette(before);
+    }
+
+    /// On tables too, after a key of a command as well as after Tab.
+    void focusIsSeen()
+    {
+        ApplicationTheme::setColours("light");
+        QWidget window;
+        auto *const layout = new QHBoxLayout(&window);
+        QList<QTableWidget *> tables;
+        for (int i = 0; i < 2; ++i) {
+            tables += new QTableWidget(2, 2, &window);
+            layout->addWidget(tables.last());
+        }
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        for (QTableWidget *const focused : tables) {
+            focused->setFocus(Qt::ShortcutFocusReason);
+            QCoreApplication::processEvents();
+            const QColor edge = focused->palette().color(QPalette::Highlight);
+            for (QTableWidget *const table : tables) {
+                const QImage shown = table->grab().toImage();
+                QCOMPARE(shown.pixelColor(table->width() / 2, 1) == edge, table == focused);
+            }
+        }
+        // The cell with the keys has a frame in the colour of its text.
+        QTableWidget *const table = tables.last();
+        table->setCurrentCell(1, 1);
+        const QRect cell = table->visualRect(table->model()->index(1, 1));
+        QCOMPARE(table->viewport()->grab().toImage().pixelColor(cell.left(), cell.center().y()),
+                 table->palette().color(QPalette::HighlightedText));
     }
 
     void longNotesDoNotWidenTheWindow()
