@@ -17,6 +17,7 @@ public:
     [[nodiscard]] const QString &problem() const { return m_problem; }
     /// "svn://127.0.0.1:PORT"
     [[nodiscard]] QString url() const;
+    [[nodiscard]] QString repository() const { return m_directory.filePath("repository"); }
 
     /// Makes the content of a directory that of "trunk/catalog" in a new revision, as far as files
     /// are new or differ.

@@ -16,6 +16,7 @@ namespace {
 using VelkRelease::Participant;
 using VelkRelease::ShareAnswer;
 using VelkRelease::SharedMapping;
+using VelkRelease::ShareRepair;
 
 constexpr const char *shareDescription =
     "Shares a mapping file by a copy in a folder that all can reach, or in a working copy\n"
@@ -50,7 +51,7 @@ QString textOf(const ShareAnswer &answer)
     case ShareAnswer::TakenByOthers:
         return "the folder is taken: " + answer.cause;
     case ShareAnswer::Busy:
-        return "somebody publishes at this moment (" + answer.cause + "); try again";
+        return "somebody works there at this moment (" + answer.cause + "); try again";
     case ShareAnswer::NotReachable:
         return "the shared copy cannot be reached: " + answer.cause;
     case ShareAnswer::Unreadable:
@@ -84,8 +85,31 @@ ExitStatus statusOf(ShareAnswer::Kind kind)
     return ExitStatus::ResultUnwritable;
 }
 
-ExitStatus finish(const char *command, const ShareAnswer &answer, QTextStream &err)
+QString textOf(const ShareRepair &repair)
 {
+    switch (repair.kind) {
+    case ShareRepair::Published:
+        return "the last publishing was broken off, but had come through";
+    case ShareRepair::BrokenOff:
+        return "the last publishing was broken off; publish again";
+    case ShareRepair::TakenBack:
+        return "the shared file had been changed in the working copy and not committed; that is "
+               "kept in " +
+               repair.kept;
+    case ShareRepair::CleanedUp:
+        return "the working copy was left in the middle of something and was cleaned up";
+    case ShareRepair::StoreAnew:
+        return "the store of the working copy was damaged and fetched anew; the former one is " +
+               repair.kept;
+    }
+    return {};
+}
+
+ExitStatus finish(const char *command, const SharedMapping &shared, const ShareAnswer &answer,
+                  QTextStream &err)
+{
+    for (const ShareRepair &repair : shared.repairs())
+        err << "velkmap " << command << ": " << textOf(repair) << '\n';
     if (!answer.isDone())
         err << "velkmap " << command << ": " << textOf(answer) << '\n';
     return statusOf(answer.kind);
@@ -107,24 +131,14 @@ ExitStatus tellStatus(SharedMapping &shared, QTextStream &out, QTextStream &err)
     SharedMapping::Status status;
     ShareAnswer answer = shared.status(status);
     if (!answer.isDone())
-        return finish("share", answer, err);
+        return finish("share", shared, answer, err);
     out << shared.sharedFile() << ": base " << shared.baseRevision().left(12) << ", newest "
         << status.newest.left(12) << '\n'
         << (status.hasNews ? "something to update" : "nothing to update") << ", "
         << (status.hasOwn ? "something to publish" : "nothing to publish") << '\n';
     for (const Participant &participant : shared.participants())
         tell(participant, out);
-    return ExitStatus::Done;
-}
-
-QStringList foldersOf(const QString &text)
-{
-    QStringList folders = text.split(u',', Qt::SkipEmptyParts);
-    for (QString &folder : folders) {
-        while (folder.endsWith(u'/'))
-            folder.chop(1);
-    }
-    return folders;
+    return finish("share", shared, answer, err);
 }
 
 } // namespace
@@ -134,9 +148,11 @@ ExitStatus runShare(const QStringList &arguments, QTextStream &out, QTextStream 
     CommandLine line("share", shareDescription);
     line.addRequired("mapping", "FILE", "The mapping file of this user.");
     line.addOptional("with", "SHARED", "The shared copy, from now on.");
-    line.addOptional("folders", "LIST",
-                     "Folders of the catalog that this user takes over, with commas between them;\n"
-                     "nobody else publishes in them unasked. An empty list gives them back.");
+    line.addOptional(
+        "folders", "LIST",
+        "Folders of the catalog that this user takes over, with commas between them;\n"
+        "nobody else publishes in them unasked. \"*\" and \"?\" stand for any characters\n"
+        "and for one. An empty list gives them back.");
     line.addFlag("stop", "Ends the sharing; the shared copy and the mapping file stay.");
     if (const auto over = line.parse(arguments, out, err))
         return *over;
@@ -153,12 +169,13 @@ ExitStatus runShare(const QStringList &arguments, QTextStream &out, QTextStream 
     }
     if (line.isSet("with")) {
         if (ShareAnswer answer = shared.link(line.value("with")); !answer.isDone())
-            return finish("share", answer, err);
+            return finish("share", shared, answer, err);
     }
     if (line.isSet("folders")) {
-        ShareAnswer answer = shared.takeFolders(foldersOf(line.value("folders")));
+        ShareAnswer answer =
+            shared.takeFolders(line.value("folders").split(u',', Qt::SkipEmptyParts));
         if (!answer.isDone())
-            return finish("share", answer, err);
+            return finish("share", shared, answer, err);
     }
     return tellStatus(shared, out, err);
 }
@@ -178,8 +195,8 @@ ExitStatus runUpdate(const QStringList &arguments, QTextStream &out, QTextStream
     VelkRelease::SameLines same(line.value("target"));
     VelkRelease::MergedFile merged;
     ShareAnswer answer = shared.update(merged, mergeOptions(line, same));
-    if (!answer.isDone())
-        return finish("update", answer, err);
+    if (finish("update", shared, answer, err) != ExitStatus::Done)
+        return statusOf(answer.kind);
     tellMerge(merged, out);
     if (!writeMergeReport(line, merged, "update", err))
         return ExitStatus::ResultUnwritable;
@@ -201,7 +218,7 @@ ExitStatus runPublish(const QStringList &arguments, QTextStream &out, QTextStrea
     ShareAnswer answer = shared.publish({line.value("message"), line.isSet("into-others")});
     if (answer.isDone())
         out << shared.sharedFile() << ": revision " << shared.baseRevision().left(12) << '\n';
-    return finish("publish", answer, err);
+    return finish("publish", shared, answer, err);
 }
 
 } // namespace velkmap

@@ -3412,10 +3412,6 @@ Line: %2
         <translation>Take folders over</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Folders of the catalog, with commas between them; none gives all back:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>&amp;Take over</translation>
     </message>
@@ -3470,6 +3466,34 @@ Line: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Shared copy: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>The last publishing was broken off, but had come through.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>The last publishing was broken off. Please publish again.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>The shared file had been changed in the working copy and not committed. That is kept in %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>The working copy had been left in the middle of something and was cleaned up.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>The store of the working copy was damaged and was fetched anew; the former one is %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Something that was broken off has been put right.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Folders of the catalog with commas between them; * stands for any characters, ? for one. Empty gives all back:</translation>
     </message>
 </context>
 <context>

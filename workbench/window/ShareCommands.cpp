@@ -17,6 +17,7 @@ using VelkRelease::MergedFile;
 using VelkRelease::Participant;
 using VelkRelease::ShareAnswer;
 using VelkRelease::SharedMapping;
+using VelkRelease::ShareRepair;
 
 ShareCommands::ShareCommands(DocumentDesk *desk, EditorArea *editor, QWidget *window)
     : QObject(window)
@@ -87,15 +88,44 @@ QString ShareCommands::textOf(const ShareAnswer &answer)
     return {};
 }
 
+QString ShareCommands::textOf(const ShareRepair &repair)
+{
+    switch (repair.kind) {
+    case ShareRepair::Published:
+        return tr("Die letzte Veröffentlichung war abgebrochen, aber angekommen.");
+    case ShareRepair::BrokenOff:
+        return tr("Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal "
+                  "veröffentlichen.");
+    case ShareRepair::TakenBack:
+        return tr("Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. "
+                  "Das ist aufgehoben in %1.")
+            .arg(repair.kept);
+    case ShareRepair::CleanedUp:
+        return tr("Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde "
+                  "aufgeräumt.");
+    case ShareRepair::StoreAnew:
+        return tr("Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die "
+                  "frühere ist %1.")
+            .arg(repair.kept);
+    }
+    return {};
+}
+
 ShareAnswer ShareCommands::run(const QString &text, const Work &work)
 {
     ShareAnswer answer;
+    QStringList repaired;
     const QString file = m_desk->document()->mappingFile();
     BackgroundWork::run(text, [&] {
         m_pool.waitForDone();
         SharedMapping shared(file);
         answer = work(shared);
+        for (const ShareRepair &repair : shared.repairs())
+            repaired += textOf(repair);
     });
+    if (!repaired.isEmpty())
+        Question::tell(m_window, tr("Etwas Abgebrochenes wurde in Ordnung gebracht."),
+                       repaired.join(u'\n'));
     return answer;
 }
 
@@ -216,7 +246,9 @@ void ShareCommands::takeFoldersByDialog()
     QInputDialog dialog(m_window);
     dialog.setObjectName("FoldersDialog");
     dialog.setWindowTitle(tr("Ordner übernehmen"));
-    dialog.setLabelText(tr("Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:"));
+    dialog.setLabelText(
+        tr("Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? "
+           "für eines. Leer gibt alle zurück:"));
     dialog.setTextValue(folders.join(QStringLiteral(", ")));
     dialog.setOkButtonText(tr("Über&nehmen"));
     dialog.setCancelButtonText(Question::cancelText());
@@ -225,7 +257,7 @@ void ShareCommands::takeFoldersByDialog()
     QStringList wanted;
     for (const QString &part : dialog.textValue().split(u',')) {
         if (const QString folder = part.trimmed(); !folder.isEmpty())
-            wanted += folder.endsWith(u'/') ? folder.chopped(1) : folder;
+            wanted += folder;
     }
     if (finish(run(tr("Die Ordner werden eingetragen"),
                    [&](SharedMapping &shared) { return shared.takeFolders(wanted); })))

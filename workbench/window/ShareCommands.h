@@ -50,6 +50,7 @@ private:
     [[nodiscard]] bool saved();
     void announce(bool open);
     [[nodiscard]] static QString textOf(const VelkRelease::ShareAnswer &answer);
+    [[nodiscard]] static QString textOf(const VelkRelease::ShareRepair &repair);
     [[nodiscard]] static QString text(const VelkRelease::Participant &participant);
 
     DocumentDesk *const m_desk;

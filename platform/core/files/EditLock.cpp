@@ -1,5 +1,7 @@
 #include "EditLock.h"
 
+#include "LockFile.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -14,9 +16,16 @@
 #include <unistd.h>
 #endif
 
+#include <chrono>
 #include <vector>
 
 namespace {
+
+using namespace std::chrono_literals;
+
+/// Until a process that was made is the program that was to be started, and holds no files of who
+/// made it any more.
+constexpr std::chrono::milliseconds startingTakes = 500ms;
 
 QString userName()
 {
@@ -82,17 +91,22 @@ EditLock::Result EditLock::take(const QString &mappingFile)
     m_owner = SessionOwner();
     auto lock = std::make_unique<QLockFile>(lockFile(mappingFile));
     lock->setStaleLockTime(0);
-    if (lock->tryLock(0)) {
-        m_lock = std::move(lock);
-        noteSelf();
-        m_mark = markOf(m_lock->fileName());
-        return Taken;
+    bool isTaken = LockFile::take(*lock, 0ms);
+    if (!isTaken && lock->error() == QLockFile::LockFailedError) {
+        lock->getLockInfo(&m_owner.process, &m_owner.host, &m_owner.program);
+        readOwner(lock->fileName());
+        if (!hasEnded(m_owner))
+            return HeldByOther;
+        // What it was just starting when it was killed holds its open files for a moment.
+        isTaken = lock->tryLock(int(startingTakes.count()));
     }
-    if (lock->error() != QLockFile::LockFailedError)
+    if (!isTaken)
         return NotWritable;
-    lock->getLockInfo(&m_owner.process, &m_owner.host, &m_owner.program);
-    readOwner(lock->fileName());
-    return hasEnded(m_owner) ? NotWritable : HeldByOther;
+    m_owner = SessionOwner();
+    m_lock = std::move(lock);
+    noteSelf();
+    m_mark = markOf(m_lock->fileName());
+    return Taken;
 }
 
 void EditLock::release()

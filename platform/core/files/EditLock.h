@@ -11,8 +11,8 @@
 class QLockFile;
 
 /// Says to others that a mapping file is being edited, and by whom: a lock file beside it, which
-/// goes with its owner. The lock of a process of this computer that ended is taken over; that of
-/// another computer counts until somebody removes it.
+/// goes with its owner. The lock of a process of this computer that ended is taken over, and one
+/// that names nobody; that of another computer counts until somebody removes it.
 class VELKCORE_EXPORT EditLock
 {
 public:

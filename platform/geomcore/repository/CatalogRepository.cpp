@@ -182,6 +182,8 @@ RepositoryAnswer::Kind CatalogRepository::fetch(const Catalog &catalog, const QS
         break;
     case RepositoryAnswer::Cancelled:
     case RepositoryAnswer::OutOfDate:
+    case RepositoryAnswer::InUse:
+    case RepositoryAnswer::Damaged:
     case RepositoryAnswer::Failed:
         problem = answer.text;
         break;

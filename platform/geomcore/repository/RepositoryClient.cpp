@@ -8,9 +8,25 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/prctl.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 constexpr int sliceMs = 50; ///< until the next look at output and cancel
+
+/// A text or a page of the store is missing, or is another one. Some of the numbers say other
+/// things, too.
+bool isDamaged(const QString &errors)
+{
+    static const QRegularExpression marks(
+        QStringLiteral("E155016|E155017|E200014|E235000|E155010: Pristine|"
+                       "\\.svn/pristine/.*No such file|sqlite\\[S(11|26)\\]"));
+    return marks.match(errors).hasMatch();
+}
 
 /// The client's errors as "svn: E170013: text", by their numbers; the texts are for people.
 RepositoryAnswer::Kind kindOf(const QString &errors)
@@ -33,6 +49,10 @@ RepositoryAnswer::Kind kindOf(const QString &errors)
         case 160024: // somebody was quicker
         case 170004: // the same, of a directory
             return RepositoryAnswer::OutOfDate;
+        case 155004: // locked
+        case 155037: // something begun was not ended
+        case 200033: // the store is being written
+            return RepositoryAnswer::InUse;
         case 104:    // connection reset
         case 110:    // timed out
         case 111:    // refused
@@ -47,7 +67,7 @@ RepositoryAnswer::Kind kindOf(const QString &errors)
             break;
         }
     }
-    return kind;
+    return kind == RepositoryAnswer::Failed && isDamaged(errors) ? RepositoryAnswer::Damaged : kind;
 }
 
 /// The password goes through the pipe: arguments can be seen by others.
@@ -100,6 +120,14 @@ RepositoryAnswer RepositoryClient::run(const QStringList &arguments, const QStri
         all +=
             {QStringLiteral("--no-auth-cache"), QStringLiteral("--config-dir"), m_configDirectory};
     }
+#ifdef Q_OS_LINUX
+    // One that lived on would be in the way of the next.
+    process.setChildProcessModifier([parent = ::getpid()] {
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (::getppid() != parent) // it was killed before
+            ::_exit(1);
+    });
+#endif
     process.start(m_program, all + loginArguments(m_login));
     if (!process.waitForStarted())
         return {RepositoryAnswer::Failed,

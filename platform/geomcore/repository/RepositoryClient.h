@@ -24,6 +24,8 @@ struct RepositoryAnswer
         LoginNeeded, ///< none or a wrong one
         Cancelled,
         OutOfDate, ///< a commit onto something that is not the newest any more
+        InUse,     ///< another client works in the working copy, or ended in the middle of it
+        Damaged,   ///< the client's own store in the working copy
         Failed     ///< anything else; the text is the client's
     };
     Kind kind = Done;
@@ -34,7 +36,8 @@ struct RepositoryAnswer
 
 /// The Subversion client as a program of its own: started without a shell, never asks, keeps no
 /// login. An operation returns when the client has ended; while it runs a progress is told, by
-/// which it can be cancelled. Any thread, each with an object of its own.
+/// which it can be cancelled. If this process is killed the client is, too (Linux). Any thread,
+/// each with an object of its own.
 class VELKGEOMCORE_EXPORT RepositoryClient
 {
 public:

@@ -3,6 +3,7 @@
 #include "CatalogIndexFile.h"
 #include "CatalogIndexWriter.h"
 #include "CatalogScan.h"
+#include <core/files/LockFile.h>
 #include <core/parallel/WorkerPool.h>
 #include <core/text/PPathName.h>
 #include <geomcore/project/CatalogPlaces.h>
@@ -96,7 +97,7 @@ CatalogIndexOutcome CatalogIndexUpdate::run(Check check, const Tell &tell)
     const QString place = QFileInfo(d->indexFile).absolutePath();
     QLockFile lock(lockFileOf(d->indexFile));
     lock.setStaleLockTime(0);
-    if (!QDir().mkpath(place) || !lock.tryLock(0))
+    if (!QDir().mkpath(place) || !LockFile::take(lock, std::chrono::milliseconds(0)))
         return lock.error() == QLockFile::LockFailedError
                    ? d->fail(CatalogIndexOutcome::Busy, {})
                    : d->fail(CatalogIndexOutcome::Failed,

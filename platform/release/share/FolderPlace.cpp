@@ -7,20 +7,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 
-#include <chrono>
-
 namespace VelkRelease {
-
-namespace {
-
-using namespace std::chrono_literals;
-
-/// So long another one may be publishing.
-constexpr std::chrono::milliseconds lockWait = 5s;
-/// A lock that is older was left by a computer that is gone.
-constexpr std::chrono::milliseconds lockAge = 10min;
-
-} // namespace
 
 FolderPlace::FolderPlace(const QString &file)
     : SharedPlace(file)
@@ -45,19 +32,9 @@ ShareAnswer FolderPlace::fetch(SharedCopy &copy)
 ShareAnswer FolderPlace::publish(const QByteArray &bytes, const QString &expected, const QString &,
                                  QString &revision)
 {
-    QLockFile lock(file() + QStringLiteral(".lock"));
-    lock.setStaleLockTime(int(lockAge.count()));
-    if (!lock.tryLock(int(lockWait.count()))) {
-        if (lock.error() != QLockFile::LockFailedError)
-            return {QFileInfo(QFileInfo(file()).path()).isDir() ? ShareAnswer::NotWritable
-                                                                : ShareAnswer::NotReachable,
-                    QFileInfo(file()).path()};
-        qint64 process = 0;
-        QString host;
-        QString program;
-        (void)lock.getLockInfo(&process, &host, &program);
-        return {ShareAnswer::Busy, host};
-    }
+    QLockFile lock(lockFile());
+    if (ShareAnswer answer = takeLock(lock); !answer.isDone())
+        return answer;
     SharedCopy there;
     if (ShareAnswer answer = fetch(there); !answer.isDone())
         return answer;

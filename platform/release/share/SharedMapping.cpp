@@ -1,28 +1,19 @@
 #include "SharedMapping.h"
 
+#include "FolderPattern.h"
 #include "SharedHistory.h"
 
 #include <core/files/DurableFile.h>
-#include <core/files/EditLock.h>
 #include <geomcore/records/sameTargetHead.h>
 
-#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <algorithm>
 
 namespace VelkRelease {
 
 namespace {
-
-QByteArray jsonOf(const QJsonObject &object)
-{
-    return QJsonDocument(object).toJson(QJsonDocument::Indented);
-}
 
 ShareAnswer parsed(const QString &name, const QByteArray &bytes, MappingFile &file)
 {
@@ -30,11 +21,6 @@ ShareAnswer parsed(const QString &name, const QByteArray &bytes, MappingFile &fi
     if (file.parse(bytes, QString(), &error))
         return {};
     return {ShareAnswer::Unreadable, name + QStringLiteral(": ") + error};
-}
-
-bool isWithin(const QString &path, const QString &folder)
-{
-    return path == folder || path.startsWith(folder + u'/');
 }
 
 QStringList linesInConflict(const MappingFile &file)
@@ -74,25 +60,6 @@ QStringList changedProjects(const MappingFile &before, const MappingFile &after)
     return paths;
 }
 
-Participant participantOf(const QJsonObject &note)
-{
-    Participant participant;
-    participant.user = note["user"].toString();
-    participant.host = note["host"].toString();
-    participant.isOpen = note["open"].toBool();
-    participant.seen = QDateTime::fromString(note["seen"].toString(), Qt::ISODate);
-    participant.revision = note["revision"].toString();
-    const QJsonArray folders = note["folders"].toArray();
-    for (const auto &folder : folders)
-        participant.folders += folder.toString();
-    return participant;
-}
-
-QString nameOf(const Participant &participant)
-{
-    return participant.user + u'@' + participant.host;
-}
-
 } // namespace
 
 SharedMapping::SharedMapping(const QString &mappingFile)
@@ -120,15 +87,19 @@ QString SharedMapping::sharedFile() const
 
 void SharedMapping::load()
 {
+    m_participants.reset();
     m_place.reset();
     m_revision.clear();
+    m_isPublishing = false;
     QFile file(linkFile(m_file));
     if (!file.open(QIODevice::ReadOnly))
         return;
     const QJsonObject link = QJsonDocument::fromJson(file.readAll()).object();
     if (const QString shared = link["shared"].toString(); !shared.isEmpty()) {
         m_place = SharedPlace::at(shared);
+        m_participants = std::make_unique<Participants>(*m_place, m_file);
         m_revision = link["revision"].toString();
+        m_isPublishing = link["publishing"].toBool();
     }
 }
 
@@ -137,12 +108,53 @@ void SharedMapping::load()
 ShareAnswer SharedMapping::store(const QByteArray &base, const QString &revision)
 {
     QString error;
-    if (!DurableFile::write(baseFile(m_file), base, &error) ||
-        !DurableFile::write(linkFile(m_file),
-                            jsonOf({{"shared", m_place->file()}, {"revision", revision}}), &error))
+    if (!DurableFile::write(baseFile(m_file), base, &error))
         return {ShareAnswer::NotWritable, error};
-    m_revision = revision;
+    const QString former = std::exchange(m_revision, revision);
+    ShareAnswer answer = writeLink(false);
+    if (!answer.isDone())
+        m_revision = former;
+    return answer;
+}
+
+ShareAnswer SharedMapping::writeLink(bool isPublishing)
+{
+    QJsonObject link{{"shared", m_place->file()}, {"revision", m_revision}};
+    if (isPublishing)
+        link["publishing"] = true;
+    QString error;
+    if (!DurableFile::write(linkFile(m_file), QJsonDocument(link).toJson(), &error))
+        return {ShareAnswer::NotWritable, error};
+    m_isPublishing = isPublishing;
     return {};
+}
+
+/// The shared copy, with what a publishing that was broken off has come to.
+ShareAnswer SharedMapping::fetch(SharedCopy &copy)
+{
+    ShareAnswer answer = m_place->fetch(copy);
+    noteRepairs();
+    if (!answer.isDone() || !m_isPublishing)
+        return answer;
+    QByteArray own;
+    if (copy.exists && readOwn(own).isDone() && own == copy.bytes) {
+        m_repairs += ShareRepair{ShareRepair::Published, {}};
+        return store(own, copy.revision);
+    }
+    m_repairs += ShareRepair{ShareRepair::BrokenOff, {}};
+    return writeLink(false);
+}
+
+/// A copy of what stands in the mapping file already is of no use.
+void SharedMapping::noteRepairs()
+{
+    for (const ShareRepair &repair : m_place->takeRepairs()) {
+        if (repair.kind == ShareRepair::TakenBack &&
+            FileState::of(repair.kept).sameContent(FileState::of(m_file)) &&
+            QFile::remove(repair.kept))
+            continue;
+        m_repairs += repair;
+    }
 }
 
 ShareAnswer SharedMapping::readOwn(QByteArray &bytes) const
@@ -184,7 +196,10 @@ ShareAnswer SharedMapping::link(const QString &sharedFile)
     QString error;
     if (!isHere && !DurableFile::write(m_file, there.bytes, &error))
         return {ShareAnswer::NotWritable, error};
+    m_participants.reset();
     m_place = std::move(place);
+    m_participants = std::make_unique<Participants>(*m_place, m_file);
+    noteRepairs();
     return store(content, there.revision);
 }
 
@@ -200,7 +215,7 @@ ShareAnswer SharedMapping::status(Status &status)
     if (!m_place)
         return {ShareAnswer::NotLinked, m_file};
     SharedCopy there;
-    if (ShareAnswer answer = m_place->fetch(there); !answer.isDone())
+    if (ShareAnswer answer = fetch(there); !answer.isDone())
         return answer;
     if (!there.exists)
         return {ShareAnswer::NotReachable, m_place->file()};
@@ -216,7 +231,7 @@ ShareAnswer SharedMapping::update(MergedFile &merged, const MergeOptions &option
     if (!m_place)
         return {ShareAnswer::NotLinked, m_file};
     SharedCopy there;
-    if (ShareAnswer answer = m_place->fetch(there); !answer.isDone())
+    if (ShareAnswer answer = fetch(there); !answer.isDone())
         return answer;
     if (!there.exists)
         return {ShareAnswer::NotReachable, m_place->file()};
@@ -274,69 +289,32 @@ ShareAnswer SharedMapping::publish(const PublishOptions &options)
         return {};
     if (ShareAnswer answer = mayPublish(own, options); !answer.isDone())
         return answer;
-    SharedHistory::publish(*m_place, m_file, noteName());
-    QString revision;
-    if (ShareAnswer answer = m_place->publish(own, m_revision, options.message, revision);
-        !answer.isDone())
+    if (ShareAnswer answer = writeLink(true); !answer.isDone())
         return answer;
-    return store(own, revision);
-}
-
-/// One for each mapping file: a user may have several.
-QString SharedMapping::noteName() const
-{
-    const SessionOwner owner = EditLock::self();
-    const QByteArray place =
-        QCryptographicHash::hash(m_file.toUtf8(), QCryptographicHash::Sha256).toHex().left(8);
-    QString name = owner.user + u'@' + owner.host + u'-' + QString::fromLatin1(place);
-    name.replace(u'/', u'_').replace(u'\\', u'_');
-    return name;
+    SharedHistory::publish(*m_place, m_file, m_participants->noteName());
+    QString revision;
+    ShareAnswer answer = m_place->publish(own, m_revision, options.message, revision);
+    noteRepairs();
+    if (answer.isDone())
+        return store(own, revision);
+    // Unless nobody knows what became of it.
+    if (answer.kind != ShareAnswer::NotReachable)
+        (void)writeLink(false);
+    return answer;
 }
 
 QList<Participant> SharedMapping::participants() const
 {
-    QList<Participant> all;
-    if (!m_place)
-        return all;
-    const QString own = noteName();
-    for (const QByteArray &bytes : m_place->notes()) {
-        const QJsonObject note = QJsonDocument::fromJson(bytes).object();
-        if (note.isEmpty())
-            continue;
-        all += participantOf(note);
-        all.last().isSelf = note["note"].toString() == own;
-    }
-    return all;
-}
-
-Participant SharedMapping::self() const
-{
-    const QList<Participant> all = participants();
-    const auto found = std::ranges::find_if(all, &Participant::isSelf);
-    return found == all.end() ? Participant() : *found;
-}
-
-ShareAnswer SharedMapping::writeSelf(const Participant &self)
-{
-    const SessionOwner owner = EditLock::self();
-    return m_place->writeNote(
-        noteName() + QStringLiteral(".json"),
-        jsonOf({{"note", noteName()},
-                {"user", owner.user},
-                {"host", owner.host},
-                {"open", self.isOpen},
-                {"seen", QDateTime::currentDateTimeUtc().toString(Qt::ISODate)},
-                {"revision", m_revision},
-                {"folders", QJsonArray::fromStringList(self.folders)}}));
+    return m_place ? m_participants->all() : QList<Participant>();
 }
 
 ShareAnswer SharedMapping::announce(bool open)
 {
     if (!m_place)
         return {ShareAnswer::NotLinked, m_file};
-    Participant note = self();
+    Participant note = m_participants->self();
     note.isOpen = open;
-    return writeSelf(note);
+    return m_participants->write(note, m_revision);
 }
 
 ShareAnswer SharedMapping::takeFolders(const QStringList &folders)
@@ -344,56 +322,37 @@ ShareAnswer SharedMapping::takeFolders(const QStringList &folders)
     if (!m_place)
         return {ShareAnswer::NotLinked, m_file};
     SharedCopy there; // brings the notes of a repository
-    if (ShareAnswer answer = m_place->fetch(there); !answer.isDone())
+    if (ShareAnswer answer = fetch(there); !answer.isDone())
         return answer;
-    for (const Participant &other : participants()) {
-        if (other.isSelf)
-            continue;
-        for (const QString &taken : other.folders) {
-            for (const QString &wanted : folders) {
-                if (isWithin(wanted, taken) || isWithin(taken, wanted))
-                    return {ShareAnswer::TakenByOthers,
-                            nameOf(other) + QStringLiteral(": ") + taken};
-            }
-        }
+    QStringList wanted;
+    for (const QString &folder : folders) {
+        if (const QString cleaned = FolderPattern::cleaned(folder); !cleaned.isEmpty())
+            wanted += cleaned;
     }
-    Participant note = self();
-    note.folders = folders;
-    return writeSelf(note);
+    if (const QString taken = m_participants->taken(wanted); !taken.isEmpty())
+        return {ShareAnswer::TakenByOthers, taken};
+    Participant note = m_participants->self();
+    note.folders = wanted;
+    return m_participants->write(note, m_revision);
 }
 
 QStringList SharedMapping::ownFolders() const
 {
-    return self().folders;
+    return m_place ? m_participants->self().folders : QStringList();
 }
 
 QStringList SharedMapping::inOthersFolders(const QStringList &sourcePaths) const
 {
-    QStringList found;
-    for (const Participant &other : participants()) {
-        for (const QString &folder : other.folders) {
-            const bool touched =
-                !other.isSelf && std::ranges::any_of(sourcePaths, [&](const QString &path) {
-                    return isWithin(path, folder);
-                });
-            if (touched)
-                found += nameOf(other) + QStringLiteral(": ") + folder;
-        }
-    }
-    return found;
+    return m_place ? m_participants->inOthersFolders(sourcePaths) : QStringList();
 }
 
 std::function<bool(const QString &)> SharedMapping::isInOthersFolder() const
 {
-    QStringList folders;
-    for (const Participant &other : participants()) {
-        if (!other.isSelf)
-            folders += other.folders;
-    }
-    return [folders](const QString &path) {
-        return std::ranges::any_of(folders,
-                                   [&](const QString &folder) { return isWithin(path, folder); });
-    };
+    if (!m_place)
+        return [](const QString &) {
+            return false;
+        };
+    return m_participants->isInOthersFolder();
 }
 
 } // namespace VelkRelease

@@ -1,26 +1,10 @@
 #pragma once
 
-#include "SharedPlace.h"
+#include "Participants.h"
 
 #include <release/merge/mergeFiles.h>
 
-#include <QDateTime>
-#include <QList>
-#include <QStringList>
-
 namespace VelkRelease {
-
-/// Somebody who works on a shared mapping.
-struct Participant
-{
-    QString user;
-    QString host;
-    bool isOpen = false; ///< he has his mapping file open
-    QDateTime seen;      ///< UTC: when he last said so
-    QString revision;    ///< his base
-    QStringList folders; ///< of the catalog, that he took over
-    bool isSelf = false;
-};
 
 /// A mapping file of one modeller and the copy that he shares with others. Beside the mapping file
 /// lie ".share", which says where that is and at which revision both were the same, and ".base",
@@ -62,13 +46,14 @@ public:
         bool intoOthersFolders = false;
     };
     /// Makes the mapping file the newest shared copy. Refuses over a change that was not merged,
-    /// with lines in conflict, and into folders of others.
+    /// with lines in conflict, and into folders of others. Killed at any moment, the shared copy is
+    /// the former or the new one, and the next call or update finds out which.
     [[nodiscard]] ShareAnswer publish(const PublishOptions &options);
 
     /// This user's note: whether he has the file open. Never an obstacle to work.
     [[nodiscard]] ShareAnswer announce(bool open);
-    /// Takes folders of the catalog over, in place of those before; they and what is below must be
-    /// nobody else's.
+    /// Takes folders of the catalog over, in place of those before, by names or FolderPattern; they
+    /// and what is below must be nobody else's.
     [[nodiscard]] ShareAnswer takeFolders(const QStringList &folders);
     /// All of them, this one too if he has said anything.
     [[nodiscard]] QList<Participant> participants() const;
@@ -79,6 +64,9 @@ public:
     /// on any thread, also when this object is gone.
     [[nodiscard]] std::function<bool(const QString &)> isInOthersFolder() const;
 
+    /// What was found broken off or damaged and put right by this object.
+    [[nodiscard]] const QList<ShareRepair> &repairs() const { return m_repairs; }
+
     [[nodiscard]] static QString linkFile(const QString &mappingFile);
     [[nodiscard]] static QString baseFile(const QString &mappingFile);
 
@@ -88,13 +76,16 @@ private:
     [[nodiscard]] ShareAnswer readOwn(QByteArray &bytes) const;
     [[nodiscard]] ShareAnswer mayPublish(const QByteArray &own,
                                          const PublishOptions &options) const;
-    [[nodiscard]] QString noteName() const;
-    [[nodiscard]] Participant self() const;
-    [[nodiscard]] ShareAnswer writeSelf(const Participant &self);
+    [[nodiscard]] ShareAnswer writeLink(bool isPublishing);
+    [[nodiscard]] ShareAnswer fetch(SharedCopy &copy);
+    void noteRepairs();
 
     const QString m_file; ///< absolute
     std::unique_ptr<SharedPlace> m_place;
+    std::unique_ptr<Participants> m_participants;
     QString m_revision;
+    bool m_isPublishing = false; ///< a publishing was begun of which no end is known
+    QList<ShareRepair> m_repairs;
 };
 
 } // namespace VelkRelease

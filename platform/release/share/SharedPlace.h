@@ -7,6 +7,9 @@
 #include <QString>
 
 #include <memory>
+#include <utility>
+
+class QLockFile;
 
 namespace VelkRelease {
 
@@ -23,15 +26,29 @@ struct ShareAnswer
         InConflict,      ///< lines in conflict are not published
         InOthersFolders, ///< lines in folders that others took over
         TakenByOthers,   ///< the folder is somebody else's
-        Busy,            ///< somebody publishes at this moment
-        NotReachable,    ///< the share, the repository or the file in it is gone
-        Unreadable,      ///< one of the files is no mapping file
+        Busy, ///< somebody publishes at this moment, or another client is in the working copy
+        NotReachable, ///< the share, the repository or the file in it is gone
+        Unreadable,   ///< one of the files is no mapping file
         NotWritable,
     };
     Kind kind = Done;
     QString cause; ///< what is concerned or what the system said; no sentence
 
     [[nodiscard]] bool isDone() const { return kind == Done; }
+};
+
+/// What somebody who was killed had left, and was put right.
+struct ShareRepair
+{
+    enum Kind {
+        Published, ///< a publishing of which nobody had known the end had come through
+        BrokenOff, ///< it had not, and is to be done again
+        TakenBack, ///< the shared file in the working copy was changed by hand
+        CleanedUp, ///< the working copy was left in the middle of something
+        StoreAnew, ///< the working copy's own store was damaged
+    };
+    Kind kind = BrokenOff;
+    QString kept; ///< where the former content is now
 };
 
 /// The shared copy at one revision.
@@ -63,6 +80,8 @@ public:
     [[nodiscard]] virtual ShareAnswer writeNote(const QString &name, const QByteArray &bytes) = 0;
     /// Notes as they were at the last fetch or are by now.
     [[nodiscard]] QList<QByteArray> notes() const;
+    /// Since the last call.
+    [[nodiscard]] QList<ShareRepair> takeRepairs() { return std::exchange(m_repairs, {}); }
     /// Where notes with this ending lie; notes() are those with ".json".
     [[nodiscard]] QStringList noteFiles(const QString &ending) const;
 
@@ -70,9 +89,14 @@ protected:
     explicit SharedPlace(const QString &file);
     [[nodiscard]] QString notesFolder() const;
     [[nodiscard]] static ShareAnswer read(const QString &file, QByteArray &bytes);
+    /// Of all that use this class nobody else writes there while \a lock is held.
+    [[nodiscard]] ShareAnswer takeLock(QLockFile &lock) const;
+    [[nodiscard]] QString lockFile() const;
+    void addRepair(const ShareRepair &repair) { m_repairs += repair; }
 
 private:
     QString m_file;
+    QList<ShareRepair> m_repairs;
 };
 
 } // namespace VelkRelease

@@ -2,10 +2,15 @@
 
 #include <core/files/DurableFile.h>
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QThread>
+#include <QXmlStreamReader>
 
+#include <algorithm>
 #include <chrono>
 
 namespace VelkRelease {
@@ -15,6 +20,9 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds silence = 60s;
+/// So long another client may work in the working copy.
+constexpr std::chrono::milliseconds othersTake = 3s;
+constexpr std::chrono::milliseconds pause = 200ms;
 
 RepositoryClient newClient()
 {
@@ -33,10 +41,45 @@ ShareAnswer answerOf(const RepositoryAnswer &answer)
     case RepositoryAnswer::LoginNeeded:
     case RepositoryAnswer::Cancelled:
         return {ShareAnswer::NotReachable, answer.text};
+    case RepositoryAnswer::InUse:
+        return {ShareAnswer::Busy, answer.text};
+    case RepositoryAnswer::Damaged:
     case RepositoryAnswer::Failed:
         break;
     }
     return {ShareAnswer::NotWritable, answer.text};
+}
+
+/// Empty if the folder is in none.
+QString workingCopy(const QString &folder)
+{
+    for (QDir place(folder);;) {
+        if (QFileInfo(place.filePath(QStringLiteral(".svn"))).isDir())
+            return place.path();
+        if (!place.cdUp())
+            return {};
+    }
+}
+
+/// A client has the store open as long as it lives; what is locked while nobody has was left. Where
+/// that cannot be seen it counts as left.
+bool isStoreOpen(const QString &root)
+{
+#ifdef Q_OS_LINUX
+    const QString store = QFileInfo(root + QStringLiteral("/.svn/wc.db")).canonicalFilePath();
+    const QStringList processes =
+        QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs);
+    for (const QString &process : processes) {
+        const QDir files(QStringLiteral("/proc/%1/fd").arg(process));
+        const QFileInfoList open = files.entryInfoList(QDir::Files | QDir::System);
+        if (std::ranges::any_of(
+                open, [&](const QFileInfo &entry) { return entry.symLinkTarget() == store; }))
+            return true;
+    }
+#else
+    Q_UNUSED(root)
+#endif
+    return false;
 }
 
 /// A name with "@" would be taken for one with a revision.
@@ -55,67 +98,166 @@ SubversionPlace::SubversionPlace(const QString &file)
 
 bool SubversionPlace::isWorkingCopy(const QString &folder)
 {
-    for (QDir place(folder);;) {
-        if (QFileInfo(place.filePath(QStringLiteral(".svn"))).isDir())
-            return true;
-        if (!place.cdUp())
-            return false;
-    }
+    return !workingCopy(folder).isEmpty();
 }
 
-RepositoryAnswer SubversionPlace::svn(const QStringList &arguments) const
+RepositoryAnswer SubversionPlace::withoutWaiting(const QStringList &arguments) const
 {
     return m_client.run(arguments, file());
 }
 
-ShareAnswer SubversionPlace::takeBack() const
+/// Waits while another client works.
+RepositoryAnswer SubversionPlace::afterOthers(const QStringList &arguments)
+{
+    const QString root = workingCopy(QFileInfo(file()).absolutePath());
+    const QDeadlineTimer until(othersTake);
+    for (;;) {
+        RepositoryAnswer answer = withoutWaiting(arguments);
+        if (answer.kind != RepositoryAnswer::InUse || until.hasExpired() || !isStoreOpen(root))
+            return answer;
+        QThread::msleep(pause.count());
+    }
+}
+
+RepositoryAnswer SubversionPlace::svn(const QStringList &arguments)
+{
+    RepositoryAnswer answer = afterOthers(arguments);
+    const QString root = workingCopy(QFileInfo(file()).absolutePath());
+    if (answer.kind == RepositoryAnswer::InUse && !isStoreOpen(root)) {
+        const RepositoryAnswer cleaned =
+            withoutWaiting({QStringLiteral("cleanup"), QStringLiteral("-q"), peg(root)});
+        if (!cleaned.isDone()) {
+            answer = cleaned;
+            if (answer.kind == RepositoryAnswer::InUse) // by nobody
+                answer.kind = RepositoryAnswer::Failed;
+        } else {
+            addRepair({ShareRepair::CleanedUp, {}});
+            answer = withoutWaiting(arguments);
+        }
+    }
+    if (answer.kind == RepositoryAnswer::Damaged && makeStoreAnew())
+        answer = withoutWaiting(arguments);
+    return answer;
+}
+
+/// At the revision of the former store: at a newer one, files that only are older would look as if
+/// they had been changed back here.
+bool SubversionPlace::makeStoreAnew()
+{
+    const QString root = workingCopy(QFileInfo(file()).absolutePath());
+    Entry top;
+    if (!entry(root, top).isDone() || !top.exists || top.root.isEmpty())
+        return false;
+    const QString store = top.root + QStringLiteral("/.svn");
+    const QString former = DurableFile::stampedName(store, QStringLiteral("damaged"));
+    if (!QDir().rename(store, former))
+        return false;
+    const RepositoryAnswer answer =
+        withoutWaiting({QStringLiteral("checkout"), QStringLiteral("-q"), QStringLiteral("--force"),
+                        QStringLiteral("--depth"), top.depth, QStringLiteral("-r"), top.checkout,
+                        peg(top.url), top.root});
+    if (answer.isDone()) {
+        addRepair({ShareRepair::StoreAnew, former});
+        return true;
+    }
+    if (QDir(store).removeRecursively())
+        QDir().rename(former, store);
+    return false;
+}
+
+RepositoryAnswer SubversionPlace::entry(const QString &path, Entry &entry)
+{
+    entry = Entry();
+    RepositoryAnswer answer =
+        afterOthers({QStringLiteral("info"), QStringLiteral("--xml"), peg(path)});
+    if (answer.kind == RepositoryAnswer::NotThere)
+        return {};
+    QXmlStreamReader xml(answer.text);
+    while (answer.isDone() && !xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QString revision = xml.attributes().value(QLatin1String("revision")).toString();
+        if (xml.name() == QLatin1String("entry")) {
+            entry.exists = true;
+            entry.checkout = revision;
+        } else if (xml.name() == QLatin1String("commit")) {
+            entry.revision = revision;
+        } else if (xml.name() == QLatin1String("url")) {
+            entry.url = xml.readElementText();
+        } else if (xml.name() == QLatin1String("wcroot-abspath")) {
+            entry.root = xml.readElementText();
+        } else if (xml.name() == QLatin1String("depth")) {
+            entry.depth = xml.readElementText();
+        }
+    }
+    return answer;
+}
+
+ShareAnswer SubversionPlace::revision(QString &revision)
+{
+    Entry found;
+    const RepositoryAnswer answer = entry(file(), found);
+    revision = found.revision;
+    return answerOf(answer);
+}
+
+ShareAnswer SubversionPlace::takeBack()
 {
     const RepositoryAnswer status =
         svn({QStringLiteral("status"), QStringLiteral("-q"), peg(file())});
     if (!status.isDone() || status.text.isEmpty())
         return answerOf(status);
     if (QFileInfo::exists(file())) {
+        const QString kept = DurableFile::stampedName(file(), QStringLiteral("uncommitted"));
         QString error;
-        if (!DurableFile::copy(
-                file(), DurableFile::stampedName(file(), QStringLiteral("uncommitted")), &error))
+        if (!DurableFile::copy(file(), kept, &error))
             return {ShareAnswer::NotWritable, error};
+        addRepair({ShareRepair::TakenBack, kept});
     }
-    ShareAnswer answer = answerOf(svn({QStringLiteral("revert"), peg(file())}));
+    if (ShareAnswer answer = answerOf(svn({QStringLiteral("revert"), peg(file())}));
+        !answer.isDone())
+        return answer;
     // One that was to be new is not known any more, and stands in the way of another's.
-    if (answer.isDone() && revision().isEmpty())
+    QString known;
+    ShareAnswer answer = revision(known);
+    if (answer.isDone() && known.isEmpty())
         QFile::remove(file());
     return answer;
 }
 
-QString SubversionPlace::revision() const
-{
-    const RepositoryAnswer answer =
-        svn({QStringLiteral("info"), QStringLiteral("--show-item"),
-             QStringLiteral("last-changed-revision"), QStringLiteral("--no-newline"), peg(file())});
-    return answer.isDone() ? answer.text : QString();
-}
-
 ShareAnswer SubversionPlace::fetch(SharedCopy &copy)
 {
-    copy = SharedCopy();
-    const QString folder = QFileInfo(file()).path();
-    if (!QFileInfo(folder).isDir())
-        return {ShareAnswer::NotReachable, folder};
-    if (ShareAnswer answer = takeBack(); !answer.isDone())
+    QLockFile lock(lockFile());
+    if (ShareAnswer answer = takeLock(lock); !answer.isDone())
         return answer;
-    if (const RepositoryAnswer answer =
-            svn({QStringLiteral("update"), QStringLiteral("-q"), peg(folder)});
-        !answer.isDone())
-        return {ShareAnswer::NotReachable, answer.text};
-    copy.revision = revision();
-    if (copy.revision.isEmpty())
-        return {};
+    return fetchAlone(copy);
+}
+
+ShareAnswer SubversionPlace::fetchAlone(SharedCopy &copy)
+{
+    copy = SharedCopy();
+    if (ShareAnswer answer = fetchRevision(copy.revision);
+        !answer.isDone() || copy.revision.isEmpty())
+        return answer;
     ShareAnswer answer = read(file(), copy.bytes);
     copy.exists = answer.isDone();
     return answer;
 }
 
-ShareAnswer SubversionPlace::commit(const QStringList &files, const QString &message) const
+ShareAnswer SubversionPlace::fetchRevision(QString &found)
+{
+    if (ShareAnswer answer = takeBack(); !answer.isDone())
+        return answer;
+    if (const RepositoryAnswer answer =
+            svn({QStringLiteral("update"), QStringLiteral("-q"), peg(QFileInfo(file()).path())});
+        !answer.isDone())
+        return answerOf(answer);
+    ShareAnswer answer = revision(found);
+    m_isFetched = answer.isDone();
+    return answer;
+}
+
+ShareAnswer SubversionPlace::commit(const QStringList &files, const QString &message)
 {
     QStringList arguments{QStringLiteral("commit"), QStringLiteral("-q"), QStringLiteral("-m"),
                           message};
@@ -127,38 +269,55 @@ ShareAnswer SubversionPlace::commit(const QStringList &files, const QString &mes
 ShareAnswer SubversionPlace::publish(const QByteArray &bytes, const QString &expected,
                                      const QString &message, QString &newRevision)
 {
-    SharedCopy there;
-    if (ShareAnswer answer = fetch(there); !answer.isDone())
+    QLockFile lock(lockFile());
+    if (ShareAnswer answer = takeLock(lock); !answer.isDone())
         return answer;
-    if (there.revision != expected)
-        return there.exists ? ShareAnswer{ShareAnswer::NewerThere, {}}
-                            : ShareAnswer{ShareAnswer::NotReachable, file()};
+    // A commit onto another revision than the working copy's is refused by the repository.
+    QString there;
+    if (ShareAnswer answer = m_isFetched ? revision(there) : fetchRevision(there); !answer.isDone())
+        return answer;
+    if (there != expected)
+        return there.isEmpty() ? ShareAnswer{ShareAnswer::NotReachable, file()}
+                               : ShareAnswer{ShareAnswer::NewerThere, {}};
     QString error;
     if (!DurableFile::write(file(), bytes, &error))
         return {ShareAnswer::NotWritable, error};
     ShareAnswer answer;
-    if (!there.exists)
+    if (there.isEmpty())
         answer = answerOf(svn({QStringLiteral("add"), QStringLiteral("-q"), peg(file())}));
     if (answer.isDone())
         answer = commit({file()}, message);
     if (!answer.isDone()) {
         const RepositoryAnswer reverted =
             svn({QStringLiteral("revert"), QStringLiteral("-q"), peg(file())});
-        if (reverted.isDone() && !there.exists)
+        if (reverted.isDone() && there.isEmpty())
             QFile::remove(file());
         return answer;
     }
-    newRevision = revision();
-    return {};
+    return revision(newRevision);
 }
 
 ShareAnswer SubversionPlace::writeNote(const QString &name, const QByteArray &bytes)
 {
+    QLockFile lock(lockFile());
+    if (ShareAnswer answer = takeLock(lock); !answer.isDone())
+        return answer;
     const QString note = notesFolder() + u'/' + name;
+    ShareAnswer answer = putNote(note, bytes);
+    if (answer.isDone() || answer.kind == ShareAnswer::NotReachable)
+        return answer;
+    // One that a killed program left half added or removed; only this user writes it.
+    (void)svn(
+        {QStringLiteral("revert"), QStringLiteral("-q"), QStringLiteral("-R"), peg(notesFolder())});
+    return putNote(note, bytes);
+}
+
+ShareAnswer SubversionPlace::putNote(const QString &note, const QByteArray &bytes)
+{
     if (const RepositoryAnswer answer =
             svn({QStringLiteral("update"), QStringLiteral("-q"), peg(QFileInfo(file()).path())});
         !answer.isDone())
-        return {ShareAnswer::NotReachable, answer.text};
+        return answerOf(answer);
     const bool isThere = QFileInfo::exists(note);
     if (bytes.isEmpty()) {
         if (!isThere)

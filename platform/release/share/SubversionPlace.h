@@ -7,7 +7,9 @@
 namespace VelkRelease {
 
 /// A file in a working copy of a Subversion repository, which nobody else changes. The revision is
-/// the one that last changed the file. The user's own Subversion settings and logins hold.
+/// the one that last changed the file. The user's own Subversion settings and logins hold. What a
+/// client that was killed left is cleaned up; a store that it damaged is fetched anew, with all
+/// files as they are, and the former one stays beside it.
 class SubversionPlace : public SharedPlace
 {
 public:
@@ -23,12 +25,32 @@ public:
     [[nodiscard]] ShareAnswer writeNote(const QString &name, const QByteArray &bytes) override;
 
 private:
-    [[nodiscard]] RepositoryAnswer svn(const QStringList &arguments) const;
-    [[nodiscard]] ShareAnswer takeBack() const;
-    [[nodiscard]] ShareAnswer commit(const QStringList &files, const QString &message) const;
-    [[nodiscard]] QString revision() const;
+    /// What the client knows of a path in the working copy.
+    struct Entry
+    {
+        bool exists = false;
+        QString url;
+        QString root;     ///< of the working copy
+        QString checkout; ///< revision as it was brought up to date
+        QString revision; ///< that last changed it; empty if it was never committed
+        QString depth;
+    };
+
+    /// Runs the client, again after what could be put right.
+    [[nodiscard]] RepositoryAnswer svn(const QStringList &arguments);
+    [[nodiscard]] RepositoryAnswer withoutWaiting(const QStringList &arguments) const;
+    [[nodiscard]] RepositoryAnswer afterOthers(const QStringList &arguments);
+    [[nodiscard]] bool makeStoreAnew();
+    [[nodiscard]] RepositoryAnswer entry(const QString &path, Entry &entry);
+    [[nodiscard]] ShareAnswer revision(QString &revision);
+    [[nodiscard]] ShareAnswer fetchAlone(SharedCopy &copy);
+    [[nodiscard]] ShareAnswer fetchRevision(QString &found);
+    [[nodiscard]] ShareAnswer takeBack();
+    [[nodiscard]] ShareAnswer commit(const QStringList &files, const QString &message);
+    [[nodiscard]] ShareAnswer putNote(const QString &note, const QByteArray &bytes);
 
     RepositoryClient m_client;
+    bool m_isFetched = false;
 };
 
 } // namespace VelkRelease
