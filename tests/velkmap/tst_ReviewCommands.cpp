@@ -32,6 +32,8 @@ private Q_SLOTS:
     void explain();
     void explainAsJson();
     void explainUnassignedLine();
+    void explainRanges_data();
+    void explainRanges();
     void exportWithReasons();
     void wrongUsage_data();
     void wrongUsage();
@@ -251,6 +253,51 @@ void tst_ReviewCommands::explainAsJson()
     QCOMPARE(variables[1]["new"].toString(), "S235");
     QVERIFY(all["noSuccessor"].isDouble());
     QVERIFY(all["candidates"].isArray());
+}
+
+void tst_ReviewCommands::explainRanges_data()
+{
+    QTest::addColumn<QString>("texts");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("not divided") << ""
+                                 << "";
+    QTest::newRow("all") << "{L=10} -> 1\n{L=20} -> 2\n{L=30} -> 2"
+                         << "values of L: 3 of 3 have a new line\n";
+    QTest::newRow("gaps") << "{L=20} -> 1"
+                          << "values of L: 1 of 3 have a new line\n  missing   10 | 30\n";
+    QTest::newRow("several") << "{L=10} -> 1\n{L=10} -> 2\n{L=20} -> 1\n{L=30} -> 1"
+                             << "values of L: 3 of 3 have a new line\n  several   10\n";
+    QTest::newRow("unknown")
+        << "{L=10} -> 1\n{L=99} -> 1"
+        << "values of L: 1 of 3 have a new line\n  missing   20 | 30\n  unknown   {L=99}\n";
+}
+
+void tst_ReviewCommands::explainRanges()
+{
+    QFETCH(const QString, texts);
+    QFETCH(const QString, said);
+    TestCatalog(path("r1")).write("cat/a.prj", "Name,L:r\nN1,10;20;30\n");
+    PrjMappingC mapping = mappingOf("cat/a.prj", {"cat/a.prj"});
+    mapping.changeTarget(
+        0, [&](PrjMappingTargetC &target) { target.addLineId(1, 1, ToCheck, texts); });
+    ReleaseMappingC release;
+    release.setSourceDate("2021-01-01T00:00:00Z");
+    release.setTargetDate("2022-01-01T00:00:00Z");
+    release.addMapping(mapping);
+    MappingFile file;
+    file.setRelease(release);
+    QVERIFY(file.write(path("m.json")));
+    const QStringList command = QStringList("explain") + places() + QStringList("--line");
+    QCOMPARE(run(command + QStringList("cat/a.prj:1")), ExitStatus::Done);
+    const qsizetype from = m_out.indexOf("values of ");
+    QCOMPARE(from < 0 ? QString() : m_out.mid(from, m_out.indexOf("candidates\n") - from), said);
+    QCOMPARE(run(command + QStringList{"cat/a.prj:1", "--json"}), ExitStatus::Done);
+    const QJsonObject ranges =
+        QJsonDocument::fromJson(m_out.toUtf8()).object()["ranges"].toObject();
+    QCOMPARE(ranges.isEmpty(), said.isEmpty());
+    QCOMPARE(ranges["missing"].toArray().size(), said.count("missing") * 2);
+    QCOMPARE(ranges["several"].toArray().size(), said.count("several"));
+    QCOMPARE(ranges["unknown"].toArray().size(), said.count("unknown"));
 }
 
 void tst_ReviewCommands::explainUnassignedLine()

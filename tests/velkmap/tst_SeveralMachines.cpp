@@ -1,3 +1,6 @@
+#include "../support/SizeLimit.h"
+#include "../workbench/AsNobody.h"
+
 #include <core/files/EditLock.h>
 #include <geomcore/records/MappingFile.h>
 #include <release/assign/AssignmentPart.h>
@@ -5,8 +8,10 @@
 #include <tools/velkmap/Commands.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -38,6 +43,9 @@ private Q_SLOTS:
     void wrongUsage();
     void mappingStays();
     void gnuParallel();
+    void joinKilledAtAnyMoment();
+    void joinOnAFullDisk();
+    void joinWithoutRights();
 
 private:
     ExitStatus run(const QStringList &arguments);
@@ -277,6 +285,79 @@ void tst_SeveralMachines::gnuParallel()
     QVERIFY2(process.exitCode() == 2, told.constData()); // the broken table
     QVERIFY2(told.contains("3 parts with ") && !told.contains("part 2/3:"), told.constData());
     QCOMPARE(bytes(path("m.json")), m_oneRun);
+}
+
+/// The mapping is the former or the joined one, and joining again comes to its end.
+void tst_SeveralMachines::joinKilledAtAnyMoment()
+{
+    const int wanted = qEnvironmentVariableIntValue("VELK_KILLS");
+    const QByteArray before = bytes(path("m.json"));
+    QStringList join{"join"};
+    for (int number = 1; number <= 3; ++number) {
+        share(number, 3);
+        join << part(number);
+    }
+    join += {"--mapping", path("m.json")};
+    QRandomGenerator random(11);
+    QElapsedTimer clock;
+    qint64 takes = 0;
+    int joined = 0;
+    for (int kill = 0; kill <= (wanted > 0 ? wanted : 6); ++kill) {
+        QVERIFY(QFile::remove(path("m.json")) &&
+                QFile::copy(m_made.filePath("created.json"), path("m.json")));
+        if (kill > 0) {
+            QProcess process;
+            process.start(VELK_BINARY_DIR "/bin/velkmap", join);
+            QVERIFY(process.waitForStarted());
+            QTest::qSleep(random.bounded(int(takes) + 1));
+            process.kill();
+            QVERIFY(process.waitForFinished());
+            const QByteArray left = bytes(path("m.json"));
+            QVERIFY(left == before || left == m_oneRun);
+            joined += left == m_oneRun;
+            if (left == m_oneRun)
+                continue; // of another release now, and refused
+        }
+        QProcess process;
+        clock.start();
+        process.start(VELK_BINARY_DIR "/bin/velkmap", join);
+        QVERIFY(process.waitForFinished(60000));
+        takes = clock.elapsed();
+        QVERIFY2(process.exitCode() == 2, process.readAllStandardError().constData());
+        QCOMPARE(bytes(path("m.json")), m_oneRun);
+    }
+    qInfo("%d were joined before the kill", joined);
+}
+
+void tst_SeveralMachines::joinOnAFullDisk()
+{
+    const QByteArray before = bytes(path("m.json"));
+    QStringList parts;
+    for (int number = 1; number <= 2; ++number) {
+        share(number, 2);
+        parts << part(number);
+    }
+    for (const qint64 room : {qint64(0), qint64(100), m_oneRun.size() / 2, m_oneRun.size() - 1}) {
+        const SizeLimit full(room);
+        QCOMPARE(join(parts), ExitStatus::ResultUnwritable);
+        QCOMPARE(bytes(path("m.json")), before);
+    }
+    QCOMPARE(join(parts), ExitStatus::InputUnreadable); // the broken table
+    QCOMPARE(bytes(path("m.json")), m_oneRun);
+}
+
+void tst_SeveralMachines::joinWithoutRights()
+{
+    share(1, 1);
+    QFile::setPermissions(m_dir->path(), QFile::Permissions(0x5555));
+    const QByteArray before = bytes(path("m.json"));
+    {
+        const AsNobody nobody;
+        QVERIFY(!nobody.failed());
+        QCOMPARE(join({part(1)}), ExitStatus::ResultUnwritable);
+    }
+    QFile::setPermissions(m_dir->path(), QFile::Permissions(0x7700));
+    QCOMPARE(bytes(path("m.json")), before);
 }
 
 QTEST_GUILESS_MAIN(tst_SeveralMachines)

@@ -303,7 +303,7 @@ void tst_Sharing::killedAtAnyMoment()
         count(told);
         clock.start();
         status = program({"publish", "--mapping", mine(who)});
-        takes = std::max(takes, clock.elapsed()); // on a busy machine
+        takes = clock.elapsed();
         QVERIFY2(status == 0, qPrintable(m_said));
         count(told);
         QCOMPARE(lineIn(shared(who), path, 1 + kill % 9), kill);

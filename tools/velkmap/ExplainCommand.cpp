@@ -5,6 +5,7 @@
 #include "ReleaseFile.h"
 
 #include <core/json/JsonWriter.h>
+#include <release/decide/RangeCoverage.h>
 #include <release/pattern/LineComparer.h>
 
 #include <QTextStream>
@@ -16,11 +17,16 @@ namespace velkmap {
 namespace {
 
 using VelkRelease::LineComparer;
+using VelkRelease::RangeCoverage;
 
 constexpr const char *ExplainDescription =
     "Tells of one source line where it is assigned to, the old and the new value of each\n"
     "variable, and the lines that it may have become, with their probability and what speaks\n"
-    "for and against each. Changes nothing.";
+    "for and against each; of a line whose value ranges are divided, which of the old values\n"
+    "have a new line, which have none and which have several. Changes nothing.";
+
+/// At most so many values are named in a text; JSON has all.
+constexpr int namedValues = 20;
 
 /// What is known of the line.
 struct ExplainReport
@@ -33,6 +39,7 @@ struct ExplainReport
     int state = 0;
     std::optional<LineComparer::Pair> assigned;
     LineCandidatesC candidates;
+    RangeCoverage coverage;
 };
 
 constexpr const char *stateNames[] = {"to check", "assigned by the program", "confirmed"};
@@ -71,6 +78,32 @@ void writeVariables(const QList<ComparedVariableC> &variables, const QString &in
     }
 }
 
+QString someOf(const QStringList &values)
+{
+    if (values.size() <= namedValues)
+        return values.join(QStringLiteral(" | "));
+    return values.first(namedValues).join(QStringLiteral(" | ")) +
+           QStringLiteral(" and %1 more").arg(values.size() - namedValues);
+}
+
+/// Nothing of a line whose ranges no text divides.
+void writeText(const RangeCoverage &coverage, QTextStream &out)
+{
+    if (coverage.isEmpty())
+        return;
+    const QStringList missing = coverage.missing();
+    out << "values of " << coverage.variables.join(", ") << ": "
+        << coverage.values.size() - missing.size() << " of " << coverage.values.size()
+        << " have a new line\n";
+    const auto row = [&](const char *name, const QStringList &values) {
+        if (!values.isEmpty())
+            out << "  " << QString::fromLatin1(name).leftJustified(10) << someOf(values) << '\n';
+    };
+    row("missing", missing);
+    row("several", coverage.twice());
+    row("unknown", coverage.strange);
+}
+
 void writeText(const ExplainReport &report, QTextStream &out)
 {
     out << report.path << ':' << report.line;
@@ -88,6 +121,7 @@ void writeText(const ExplainReport &report, QTextStream &out)
         if (report.assigned)
             writeVariables(report.assigned->variables, "  ", out);
     }
+    writeText(report.coverage, out);
     out << "candidates\n";
     for (const LineCandidateC &candidate : report.candidates.candidates)
         out << "  " << QString::number(candidate.probability, 'f', 2) << "  "
@@ -126,6 +160,26 @@ void writeVariables(JsonWriter &json, const QList<ComparedVariableC> &variables)
     json.endArray();
 }
 
+void writeJson(const RangeCoverage &coverage, JsonWriter &json)
+{
+    const auto list = [&](std::string_view name, const QStringList &values) {
+        json.key(name);
+        json.beginArray();
+        for (const QString &value : values)
+            json.value(QStringView(value));
+        json.endArray();
+    };
+    json.key("ranges");
+    json.beginObject();
+    list("variables", coverage.variables);
+    json.key("values");
+    json.value(int(coverage.values.size()));
+    list("missing", coverage.missing());
+    list("several", coverage.twice());
+    list("unknown", coverage.strange);
+    json.endObject();
+}
+
 void writeJson(const ExplainReport &report, QTextStream &out)
 {
     JsonWriter json(JsonWriter::Indented);
@@ -145,6 +199,8 @@ void writeJson(const ExplainReport &report, QTextStream &out)
         write(json, "reason", report.assigned->reason);
         writeVariables(json, report.assigned->variables);
     }
+    if (!report.coverage.isEmpty())
+        writeJson(report.coverage, json);
     json.key("candidates");
     json.beginArray();
     for (const LineCandidateC &candidate : report.candidates.candidates) {
@@ -214,6 +270,7 @@ ExitStatus runExplain(const QStringList &arguments, QTextStream &out, QTextStrea
     report.designation = comparer.designation(report.line);
     report.assigned = comparer.assigned(report.line);
     report.candidates = comparer.candidates(report.line);
+    report.coverage = comparer.coverage(report.line);
     setStanding(report, mapping);
     if (line.isSet("json"))
         writeJson(report, out);

@@ -60,8 +60,9 @@ ExitStatus runJoin(const QStringList &arguments, QTextStream &out, QTextStream &
     ReleaseMappingC release = file.release();
     if (!joinParts(parts, release)) {
         err << "velkmap join: " << file.path()
-            << " is not the mapping that the parts were made of, or was changed since; nothing "
-               "was written\n";
+            << " is not the mapping that the parts were made of, or was changed since, perhaps by "
+               "a join that came through; "
+               "nothing was written\n";
         return ExitStatus::InputUnreadable;
     }
     if (const ExitStatus written = file.write(release, err); written != ExitStatus::Done)

@@ -161,4 +161,9 @@ LineCandidatesC LineComparer::candidates(int line)
     return hasLine(line) ? d->part->mapper().candidates(line, d->view(line)) : LineCandidatesC();
 }
 
+RangeCoverage LineComparer::coverage(int line) const
+{
+    return hasLine(line) ? rangeCoverage(d->table, d->mapping, line) : RangeCoverage();
+}
+
 } // namespace VelkRelease

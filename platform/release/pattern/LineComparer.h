@@ -4,6 +4,7 @@
 
 #include <geomcore/mapper/LineCandidatesC.h>
 #include <geomcore/records/ReleaseMappingC.h>
+#include <release/decide/RangeCoverage.h>
 
 #include <QStringList>
 
@@ -59,6 +60,8 @@ public:
     /// tables cannot be read or does not have its line.
     [[nodiscard]] QList<ComparedVariableC> compared(int line, int target, int targetLine);
     [[nodiscard]] LineCandidatesC candidates(int line);
+    /// Which values of the line's ranges have a new line; empty if none are divided.
+    [[nodiscard]] RangeCoverage coverage(int line) const;
 
 private:
     struct Private;
