@@ -1,6 +1,7 @@
 #include "../support/SizeLimit.h"
 
 #include <core/config/PIniFile.h>
+#include <core/files/ContentHash.h>
 #include <core/files/DurableFile.h>
 
 #include <QDateTime>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void fullDiskAtAnIniFile();
     void laterErrorsOfTheStream();
     void stampedNameIsFree();
+    void contentHash();
 
 private:
     [[nodiscard]] QString path(const QString &name) const { return m_dir->filePath(name); }
@@ -172,6 +174,22 @@ void tst_DurableFile::stampedNameIsFree()
     }
     const QString name = DurableFile::stampedName(path("a%1b"), "copy");
     QVERIFY2(name.startsWith(path("a%1b.copy-")) && name.endsWith("Z-2"), qPrintable(name));
+}
+
+/// The values are those of the method's own description.
+void tst_DurableFile::contentHash()
+{
+    QCOMPARE(ContentHash::of({}), QByteArray("99aa06d3014798d86001c324468d497f"));
+    QByteArray bytes(3 << 20, 'x');
+    ContentHash hash;
+    hash.add(QByteArrayView(bytes).first(7));
+    hash.add(QByteArrayView(bytes).sliced(7));
+    QCOMPARE(hash.result(), ContentHash::of(bytes));
+    const QString file = path("large");
+    QVERIFY(DurableFile::write(file, bytes));
+    QCOMPARE(FileState::of(file).hash, ContentHash::of(bytes));
+    bytes[1 << 20] = 'y';
+    QVERIFY(ContentHash::of(bytes) != hash.result());
 }
 
 QTEST_GUILESS_MAIN(tst_DurableFile)

@@ -102,6 +102,11 @@ void tst_DocumentFile::readsTheLastRelease()
     const DocumentFile::Reading first = read(QStringLiteral("2022-01-01"));
     QCOMPARE(first.date, QStringLiteral("2022-01-01"));
     QCOMPARE(first.release->getSourceDate(), QStringLiteral("2022-01-01"));
+    // Another one that cannot be read does not count.
+    SessionFixture::setContent(m_file,
+                               SessionFixture::content(m_file).replace(0, 1, "{\"2020\": 7,"));
+    QCOMPARE(read().date, QStringLiteral("2024-01-01"));
+    QCOMPARE(read().release->countMappings(), last.release->countMappings());
 }
 
 void tst_DocumentFile::readsWhatWasReadBefore()

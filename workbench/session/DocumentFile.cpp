@@ -21,18 +21,21 @@ QString readRelease(DocumentFile::Reading &reading, QStringList &dates)
 {
     if (!reading.content.error.isEmpty())
         return reading.content.error;
+    MappingFile mappings;
     QString error;
-    if (reading.date.isEmpty()) {
+    const bool isRead = reading.date.isEmpty() && mappings.parseLast(reading.content.bytes);
+    if (!isRead && reading.date.isEmpty()) {
         dates = DocumentFile::datesIn(reading.content, &error);
         reading.date = dates.value(dates.size() - 1);
         if (!error.isEmpty() || dates.isEmpty())
             return error;
     }
-    MappingFile mappings;
-    if (!mappings.parse(reading.content.bytes, reading.date, &error))
+    if (!isRead && !mappings.parse(reading.content.bytes, reading.date, &error))
         return error;
     dates = mappings.sourceDates();
     reading.notes = mappings.notes();
+    if (reading.date.isEmpty())
+        reading.date = dates.value(dates.size() - 1);
     if (dates.contains(reading.date))
         reading.release = mappings.release(reading.date);
     return QString();

@@ -45,9 +45,8 @@ bool DocumentDesk::openByDialog()
     return !file.isEmpty() && open({.file = file});
 }
 
-std::optional<QString> DocumentDesk::chooseRelease(const FileContent &content) const
+std::optional<QString> DocumentDesk::chooseRelease(const QStringList &dates) const
 {
-    const QStringList dates = MappingDocument::sourceDates(content);
     if (dates.size() < 2)
         return dates.value(0);
     QInputDialog dialog(m_window);
@@ -75,11 +74,13 @@ bool DocumentDesk::openDocument(const Wish &wish)
         request.recovery = MappingDocument::Recovery::UseSaved;
     if (wish.mayAsk && wish.release.isEmpty()) {
         const auto content = std::make_shared<FileContent>();
+        QStringList dates;
         BackgroundWork::run(tr("Die Mapping-Datei wird gelesen"), [&] {
             *content = FileContent::of(MappingDocument::canonicalPath(request.mappingFile));
+            dates = MappingDocument::sourceDates(*content);
         });
         request.content = content;
-        const std::optional<QString> date = chooseRelease(*request.content);
+        const std::optional<QString> date = chooseRelease(dates);
         if (!date)
             return false;
         request.sourceDate = *date;

@@ -73,7 +73,7 @@ private:
     [[nodiscard]] bool tellReadOnly(const MappingDocument::OpenRequest &request);
     [[nodiscard]] bool recover(MappingDocument::OpenRequest request);
     /// Nothing if the user called it off.
-    [[nodiscard]] std::optional<QString> chooseRelease(const FileContent &content) const;
+    [[nodiscard]] std::optional<QString> chooseRelease(const QStringList &dates) const;
     [[nodiscard]] bool findRoots(const Wish &wish);
     [[nodiscard]] bool showsProject(const CatalogRoots &roots) const;
     [[nodiscard]] bool finish(const SaveOutcome &outcome, const SaveOptions &options,

@@ -1,6 +1,7 @@
 #include "DurableFile.h"
 
-#include <QCryptographicHash>
+#include "ContentHash.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -22,14 +23,14 @@ bool report(QString *error, const QString &what)
     return false;
 }
 
-bool copyBytes(QFile &from, QFileDevice &to, QCryptographicHash &hash)
+bool copyBytes(QFile &from, QFileDevice &to, ContentHash &hash)
 {
     constexpr qint64 Piece = 1 << 20;
     while (!from.atEnd()) {
         const QByteArray bytes = from.read(Piece);
         if (bytes.isEmpty() || to.write(bytes) != bytes.size())
             return false;
-        hash.addData(bytes);
+        hash.add(bytes);
     }
     return from.error() == QFileDevice::NoError;
 }
@@ -116,13 +117,13 @@ bool DurableFile::copy(const QString &from, const QString &to, QString *error)
     if (!open(target, error))
         return false;
     target.setPermissions(source.permissions());
-    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+    ContentHash hash;
     if (!copyBytes(source, target, hash))
         return report(error, source.error() == QFileDevice::NoError ? target.errorString()
                                                                     : source.errorString());
     if (!commit(target, error))
         return false;
-    if (FileState::of(to).hash != hash.result().toHex())
+    if (FileState::of(to).hash != hash.result())
         return report(error, QStringLiteral("The copy differs from the original."));
     return true;
 }
@@ -156,17 +157,21 @@ FileState FileState::of(const QString &path)
         return state;
     state.size = info.size();
     state.time = info.lastModified().toUTC();
-    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
-    if (hash.addData(&file))
-        state.hash = hash.result().toHex();
+    constexpr qint64 Piece = 1 << 20;
+    ContentHash hash;
+    while (!file.atEnd()) {
+        const QByteArray bytes = file.read(Piece);
+        if (bytes.isEmpty())
+            return state;
+        hash.add(bytes);
+    }
+    state.hash = hash.result();
     return state;
 }
 
 QByteArray FileState::hashOf(QByteArrayView content)
 {
-    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
-    hash.addData(content);
-    return hash.result().toHex();
+    return ContentHash::of(content);
 }
 
 bool FileState::sameContent(const FileState &other) const

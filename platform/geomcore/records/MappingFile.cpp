@@ -37,6 +37,11 @@ bool report(QString *error, const QString &path, const QString &what)
     return false;
 }
 
+WantedMembers wantedOf(const QString &sourceDate)
+{
+    return sourceDate.isEmpty() ? WantedMembers::All : WantedMembers::Named;
+}
+
 void writeMembers(JsonWriter &writer, const QList<MappingFileMember> &members)
 {
     writer.beginObject();
@@ -73,7 +78,7 @@ bool MappingFile::read(const QString &nativePath, const QString &sourceDate, QSt
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return report(error, nativePath, file.errorString());
     QString what;
-    if (readMappingFile(file, sourceDate, d->members, d->notes, &what))
+    if (readMappingFile(file, wantedOf(sourceDate), sourceDate, d->members, d->notes, &what))
         return true;
     if (file.error() != QFileDevice::NoError)
         return report(error, nativePath, file.errorString());
@@ -87,7 +92,23 @@ bool MappingFile::parse(const QByteArray &json, const QString &sourceDate, QStri
     QBuffer buffer;
     buffer.setData(json);
     return buffer.open(QIODevice::ReadOnly) &&
-           readMappingFile(buffer, sourceDate, d->members, d->notes, error);
+           readMappingFile(buffer, wantedOf(sourceDate), sourceDate, d->members, d->notes, error);
+}
+
+bool MappingFile::parseLast(const QByteArray &json, QString *error)
+{
+    QBuffer buffer;
+    buffer.setData(json);
+    MappingFile found;
+    if (!buffer.open(QIODevice::ReadOnly) ||
+        !readMappingFile(buffer, WantedMembers::Last, QString(), found.d->members, found.d->notes,
+                         error))
+        return false;
+    if (!found.d->members.isEmpty() && !found.d->members.last().isRecords)
+        return report(error, found.d->members.last().sourceDate,
+                      QStringLiteral("It stands between two releases of one date."));
+    *this = found;
+    return true;
 }
 
 QStringList MappingFile::notes() const

@@ -33,6 +33,11 @@ public:
     [[nodiscard]] bool parse(const QByteArray &json, const QString &sourceDate = QString(),
                              QString *error = nullptr);
 
+    /// The same for the release that stands last in the file, in one pass where its date is not
+    /// known before. False also if another release is not as it should be, or a date stands there
+    /// twice with another one between: then its date has to be named.
+    [[nodiscard]] bool parseLast(const QByteArray &json, QString *error = nullptr);
+
     /// What the last reading put right or passed over, a sentence each: a release that stands twice
     /// in the file, a target without path that is not the last one.
     [[nodiscard]] QStringList notes() const;

@@ -97,8 +97,9 @@ class FileEvents
 public:
     using Size = rapidjson::SizeType;
 
-    FileEvents(const QString &sourceDate, JsonDeviceStream &stream)
-        : m_wanted(sourceDate)
+    FileEvents(WantedMembers wanted, const QString &sourceDate, JsonDeviceStream &stream)
+        : m_wanted(wanted)
+        , m_wantedName(sourceDate)
         , m_stream(stream)
     {
     }
@@ -143,8 +144,8 @@ public:
                             : QStringLiteral("Values are nested too deeply.");
     }
     [[nodiscard]] const QList<MappingFileMember> &members() const { return m_members; }
-    [[nodiscard]] const QStringList &notes() const { return m_notes; }
-    /// For each member that did not become records.
+    [[nodiscard]] QStringList notes() const { return m_notes + m_lastNotes; }
+    /// Of each member.
     [[nodiscard]] const QHash<QString, Extent> &extents() const { return m_extents; }
 
 private:
@@ -188,12 +189,22 @@ private:
         if (m_positions.contains(name))
             m_notes += QStringLiteral("\"%1\" stands there more than once; the last one counts.")
                            .arg(name);
-        m_reading = m_wanted.isEmpty() || name == m_wanted;
+        m_reading = m_wanted != WantedMembers::Named || name == m_wantedName;
         m_builder = ReleaseBuilder();
-        if (!m_reading) {
+        if (m_wanted == WantedMembers::Last)
+            giveUpLast();
+        if (!m_reading)
             member().isRecords = false;
-            m_extents[name].from = qsizetype(m_stream.Tell());
-        }
+        m_extents[name].from = qsizetype(m_stream.Tell());
+    }
+    /// What was the last one so far is left as text.
+    void giveUpLast()
+    {
+        if (m_members.isEmpty() || !m_members.last().isRecords)
+            return;
+        m_members.last().isRecords = false;
+        m_members.last().release = ReleaseMappingC();
+        m_lastNotes.clear();
     }
     bool endOfRelease()
     {
@@ -210,9 +221,11 @@ private:
         MappingFileMember &entry = member();
         entry.isRecords = true;
         entry.release = m_builder.release();
+        QStringList &notes = m_wanted == WantedMembers::Last ? m_lastNotes : m_notes;
         for (const QString &note : m_builder.notes())
-            m_notes += QStringLiteral("\"%1\": %2").arg(m_name, note);
+            notes += QStringLiteral("\"%1\": %2").arg(m_name, note);
         m_reading = false;
+        endOfText();
         return true;
     }
     MappingFileMember &member()
@@ -224,12 +237,14 @@ private:
         return m_members.emplaceBack(MappingFileMember{m_name, false, {}, {}});
     }
 
-    const QString m_wanted;
+    const WantedMembers m_wanted;
+    const QString m_wantedName;
     JsonDeviceStream &m_stream;
     QList<MappingFileMember> m_members;
     QHash<QString, qsizetype> m_positions; ///< in m_members
     QHash<QString, Extent> m_extents;
     QStringList m_notes;
+    QStringList m_lastNotes; ///< of the release that may still turn out not to be the last one
     ReleaseBuilder m_builder;
     QString m_name;
     QString m_message;
@@ -291,11 +306,11 @@ bool readRelease(const QByteArray &json, ReleaseMappingC &release, QString *erro
     return true;
 }
 
-bool readMappingFile(QIODevice &file, const QString &sourceDate, QList<MappingFileMember> &members,
-                     QStringList &notes, QString *error)
+bool readMappingFile(QIODevice &file, WantedMembers wanted, const QString &sourceDate,
+                     QList<MappingFileMember> &members, QStringList &notes, QString *error)
 {
     JsonDeviceStream stream(file);
-    FileEvents events(sourceDate, stream);
+    FileEvents events(wanted, sourceDate, stream);
     QString what;
     const qsizetype offset = parse(stream, events, file.size(), what);
     if (offset >= 0) {

@@ -20,9 +20,16 @@ struct MappingFileMember
     QByteArray text;         ///< unless isRecords: the value as it is written
 };
 
+/// Which members of a mapping file become records.
+enum class WantedMembers {
+    Named,
+    All,
+    Last, ///< the others are looked at all the same, and have to be as they should
+};
+
 /// Reads a whole mapping file in one pass, piece by piece; \a file is open and can be read again.
-/// The member named \a sourceDate becomes records, all if that is empty. False if anything is not
-/// as it should be, as above. \a notes says what was put right or passed over.
-[[nodiscard]] bool readMappingFile(QIODevice &file, const QString &sourceDate,
+/// \a wanted members become records, with Named that of the name \a sourceDate. False if anything
+/// is not as it should be, as above. \a notes says what was put right or passed over.
+[[nodiscard]] bool readMappingFile(QIODevice &file, WantedMembers wanted, const QString &sourceDate,
                                    QList<MappingFileMember> &members, QStringList &notes,
                                    QString *error);
