@@ -1,0 +1,4257 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="cs_CZ" sourcelanguage="de_DE">
+<context>
+    <name>BulkOperation</name>
+    <message>
+        <source>Es ist nichts zu ändern.</source>
+        <translation>Není co měnit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigen?</source>
+        <translation>
+            <numerusform>Potvrdit %n řádek?</numerusform>
+            <numerusform>Potvrdit %n řádky?</numerusform>
+            <numerusform>Potvrdit %n řádků?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Potvrdit %n řádek jako neplatný?</numerusform>
+            <numerusform>Potvrdit %n řádky jako neplatné?</numerusform>
+            <numerusform>Potvrdit %n řádků jako neplatné?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <translation>
+            <numerusform>Zrušit přiřazení %n řádku?</numerusform>
+            <numerusform>Zrušit přiřazení %n řádků?</numerusform>
+            <numerusform>Zrušit přiřazení %n řádků?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Zrušit přiřazení %n řádku a potvrdit ho jako neplatný?</numerusform>
+            <numerusform>Zrušit přiřazení %n řádků a potvrdit je jako neplatné?</numerusform>
+            <numerusform>Zrušit přiřazení %n řádků a potvrdit je jako neplatné?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind schon bestätigt.</source>
+        <translation>
+            <numerusform>%n z nich je už potvrzený.</numerusform>
+            <numerusform>%n z nich jsou už potvrzené.</numerusform>
+            <numerusform>%n z nich je už potvrzených.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <translation>
+            <numerusform>%n z nich ztratí své přiřazení rozsahů hodnot.</numerusform>
+            <numerusform>%n z nich ztratí svá přiřazení rozsahů hodnot.</numerusform>
+            <numerusform>%n z nich ztratí svá přiřazení rozsahů hodnot.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <translation>
+            <numerusform>%n řádek bez cíle zůstane nepotvrzený.</numerusform>
+            <numerusform>%n řádky bez cíle zůstanou nepotvrzené.</numerusform>
+            <numerusform>%n řádků bez cíle zůstane nepotvrzených.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <translation>
+            <numerusform>%n řádek zůstane, jak je.</numerusform>
+            <numerusform>%n řádky zůstanou, jak jsou.</numerusform>
+            <numerusform>%n řádků zůstane, jak je.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <translation>
+            <numerusform>%n řádek v konfliktu se nezmění.</numerusform>
+            <numerusform>%n řádky v konfliktu se nezmění.</numerusform>
+            <numerusform>%n řádků v konfliktu se nezmění.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <translation>
+            <numerusform>%n řádek není zapsán v žádném cílovém projektu.</numerusform>
+            <numerusform>%n řádky nejsou zapsány v žádném cílovém projektu.</numerusform>
+            <numerusform>%n řádků není zapsáno v žádném cílovém projektu.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt.</source>
+        <translation>
+            <numerusform>Potvrzen %n řádek.</numerusform>
+            <numerusform>Potvrzeny %n řádky.</numerusform>
+            <numerusform>Potvrzeno %n řádků.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>%n řádek potvrzen jako neplatný.</numerusform>
+            <numerusform>%n řádky potvrzeny jako neplatné.</numerusform>
+            <numerusform>%n řádků potvrzeno jako neplatné.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <translation>
+            <numerusform>Přiřazení %n řádku zrušeno.</numerusform>
+            <numerusform>Přiřazení %n řádků zrušeno.</numerusform>
+            <numerusform>Přiřazení %n řádků zrušeno.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>Přiřazení %n řádku zrušeno, potvrzen jako neplatný.</numerusform>
+            <numerusform>Přiřazení %n řádků zrušeno, potvrzeny jako neplatné.</numerusform>
+            <numerusform>Přiřazení %n řádků zrušeno, potvrzeno jako neplatné.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CandidateModel</name>
+    <message>
+        <source>kein Nachfolger</source>
+        <translation>bez nástupce</translation>
+    </message>
+    <message>
+        <source>Taste</source>
+        <translation>Klávesa</translation>
+    </message>
+    <message>
+        <source>Sicherheit</source>
+        <translation>Jistota</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Nový řádek</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Důvod</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogRootsDialog</name>
+    <message>
+        <source>Verzeichnis des alten Katalogstands</source>
+        <translation>Adresář staré verze katalogu</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des neuen Katalogstands</source>
+        <translation>Adresář nové verze katalogu</translation>
+    </message>
+    <message>
+        <source>Katalogverzeichnisse</source>
+        <translation>Adresáře katalogů</translation>
+    </message>
+    <message>
+        <source>Wo liegen die beiden Katalogstände dieser Mapping-Datei? Die Verzeichnisse werden zusammen mit der Datei gemerkt.</source>
+        <translation>Kde leží obě verze katalogu tohoto mapovacího souboru? Adresáře se pamatují společně se souborem.</translation>
+    </message>
+    <message>
+        <source>&amp;Alter Stand (%1):</source>
+        <translation>&amp;Stará verze (%1):</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Stand (%1):</source>
+        <translation>&amp;Nová verze (%1):</translation>
+    </message>
+    <message>
+        <source>Beide Verzeichnisse werden gebraucht.</source>
+        <translation>Jsou potřeba oba adresáře.</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Verzeichnis.</source>
+        <translation>%1 není adresář.</translation>
+    </message>
+    <message>
+        <source>Im alten Stand fehlt %1. Gesucht ist das Verzeichnis, in dem der Katalog %2 liegt.</source>
+        <translation>Ve staré verzi chybí %1. Hledá se adresář, ve kterém leží katalog %2.</translation>
+    </message>
+    <message>
+        <source>Im neuen Stand fehlt der Katalog %1.</source>
+        <translation>V nové verzi chybí katalog %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictCommands</name>
+    <message>
+        <source>Die Zeile %1 in %2 kann nicht gezeigt werden</source>
+        <translation>Řádek %1 v %2 nelze zobrazit</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist in Konflikt</source>
+        <translation>Žádný řádek není v konfliktu</translation>
+    </message>
+    <message>
+        <source>Alle Konflikte sind entschieden; nun speichern</source>
+        <translation>Všechny konflikty jsou rozhodnuty; teď uložte</translation>
+    </message>
+    <message>
+        <source>Konflikt %1 von %2, noch %3 offen</source>
+        <translation>Konflikt %1 z %2, ještě nerozhodnuto: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <translation>
+            <numerusform>%n řádek z %1 si odporuje stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
+            <numerusform>%n řádky z %1 si odporují stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
+            <numerusform>%n řádků z %1 si odporuje stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Eigene: %1
+Andere: %2</source>
+        <translation>Vlastní: %1
+Jiné: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Für alle</source>
+        <translation>&amp;Pro všechny</translation>
+    </message>
+    <message>
+        <source>&amp;Zeile für Zeile</source>
+        <translation>Řá&amp;dek po řádku</translation>
+    </message>
+    <message>
+        <source>Die Zeile ist in keinem Konflikt</source>
+        <translation>Řádek není v žádném konfliktu</translation>
+    </message>
+    <message>
+        <source>Die eigene Entscheidung ist nicht bekannt: die Zeile war schon beim Öffnen in Konflikt</source>
+        <translation>Vlastní rozhodnutí není známo: řádek byl v konfliktu už při otevření</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictDock</name>
+    <message>
+        <source>Keine Zeile ist in Konflikt.</source>
+        <translation>Žádný řádek není v konfliktu.</translation>
+    </message>
+    <message>
+        <source>Alle Konflikte sind entschieden.</source>
+        <translation>Všechny konflikty jsou rozhodnuty.</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Konflikten sind noch offen.</source>
+        <translation>Nerozhodnuté konflikty: %1 z %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <translation>
+            <numerusform>Ještě %n řádek si odporuje jako tento.</numerusform>
+            <numerusform>Ještě %n řádky si odporují jako tento.</numerusform>
+            <numerusform>Ještě %n řádků si odporuje jako tento.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Konflikte</source>
+        <translation>Konflikty</translation>
+    </message>
+    <message>
+        <source>Seiten des Konflikts</source>
+        <translation>Strany konfliktu</translation>
+    </message>
+    <message>
+        <source>Eigene</source>
+        <translation>Vlastní</translation>
+    </message>
+    <message>
+        <source>Andere</source>
+        <translation>Jiné</translation>
+    </message>
+    <message>
+        <source>Neu entscheiden</source>
+        <translation>Rozhodnout znovu</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictModel</name>
+    <message>
+        <source>offen</source>
+        <translation>nerozhodnuto</translation>
+    </message>
+    <message>
+        <source>eigene</source>
+        <translation>vlastní</translation>
+    </message>
+    <message>
+        <source>andere</source>
+        <translation>jiné</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>nové</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Řádek</translation>
+    </message>
+    <message>
+        <source>Eigene Entscheidung</source>
+        <translation>Vlastní rozhodnutí</translation>
+    </message>
+    <message>
+        <source>Andere Entscheidung</source>
+        <translation>Jiné rozhodnutí</translation>
+    </message>
+    <message>
+        <source>Gilt</source>
+        <translation>Platí</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictSides</name>
+    <message>
+        <source>automatisch zugeordnet</source>
+        <translation>přiřazeno automaticky</translation>
+    </message>
+    <message>
+        <source>zu überprüfen</source>
+        <translation>ke kontrole</translation>
+    </message>
+    <message>
+        <source>bestätigt</source>
+        <translation>potvrzeno</translation>
+    </message>
+    <message>
+        <source>ohne Ziel, offen</source>
+        <translation>bez cíle, otevřený</translation>
+    </message>
+    <message>
+        <source>als ausgelaufen bestätigt</source>
+        <translation>potvrzeno jako neplatný</translation>
+    </message>
+    <message>
+        <source>nicht bekannt</source>
+        <translation>neznámé</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2, %3</source>
+        <translation>%1, řádek %2, %3</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Stav</translation>
+    </message>
+    <message>
+        <source>Zielprojekt</source>
+        <translation>Cílový projekt</translation>
+    </message>
+    <message>
+        <source>Zielzeile</source>
+        <translation>Cílový řádek</translation>
+    </message>
+    <message>
+        <source>Wertebereiche</source>
+        <translation>Rozsahy hodnot</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictSidesModel</name>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Starý řádek</translation>
+    </message>
+    <message>
+        <source>Vorher</source>
+        <translation>Předtím</translation>
+    </message>
+    <message>
+        <source>Eigene Entscheidung</source>
+        <translation>Vlastní rozhodnutí</translation>
+    </message>
+    <message>
+        <source>Andere Entscheidung</source>
+        <translation>Jiné rozhodnutí</translation>
+    </message>
+    <message>
+        <source>Angabe</source>
+        <translation>Údaj</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceModel</name>
+    <message>
+        <source>gleich</source>
+        <translation>stejné</translation>
+    </message>
+    <message numerus="yes">
+        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>nahrazeno jako v %n dalším řádku</numerusform>
+            <numerusform>nahrazeno jako v %n dalších řádcích</numerusform>
+            <numerusform>nahrazeno jako v %n dalších řádcích</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ähnlich</source>
+        <translation>podobné</translation>
+    </message>
+    <message>
+        <source>verschieden</source>
+        <translation>různé</translation>
+    </message>
+    <message>
+        <source>nur in der neuen Zeile</source>
+        <translation>jen v novém řádku</translation>
+    </message>
+    <message>
+        <source>nur in der alten Zeile</source>
+        <translation>jen ve starém řádku</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Proměnná</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Staré</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>Nové</translation>
+    </message>
+</context>
+<context>
+    <name>DifferencePanel</name>
+    <message>
+        <source>Die Tabelle hat die Zeile nicht.</source>
+        <translation>Tabulka tento řádek neobsahuje.</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel. %1</source>
+        <translation>Bez cíle. %1</translation>
+    </message>
+    <message>
+        <source>Die zugeordnete Zeile ist keiner der Kandidaten.</source>
+        <translation>Přiřazený řádek není žádným z kandidátů.</translation>
+    </message>
+    <message>
+        <source>Alt und neu</source>
+        <translation>Staré a nové</translation>
+    </message>
+    <message>
+        <source>Kandidaten</source>
+        <translation>Kandidáti</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentDesk</name>
+    <message>
+        <source>Katalogstand</source>
+        <translation>Verze katalogu</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält mehrere Katalogstände. Welcher soll geöffnet werden?</source>
+        <translation>Soubor obsahuje několik verzí katalogu. Kterou otevřít?</translation>
+    </message>
+    <message>
+        <source>Öffnen</source>
+        <translation>Otevřít</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei wird gelesen</source>
+        <translation>Čte se mapovací soubor</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geöffnet werden.</source>
+        <translation>Soubor nelze otevřít.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist nur zum Lesen geöffnet.</source>
+        <translation>Soubor je otevřen jen pro čtení.</translation>
+    </message>
+    <message>
+        <source>Die Sperre kann aufgehoben werden, wenn dort sicher niemand mehr arbeitet, etwa nach einem Ausfall des Rechners.</source>
+        <translation>Zámek lze zrušit, pokud tam už určitě nikdo nepracuje, například po výpadku počítače.</translation>
+    </message>
+    <message>
+        <source>Nur &amp;lesen</source>
+        <translation>&amp;Jen číst</translation>
+    </message>
+    <message>
+        <source>Sperre &amp;aufheben</source>
+        <translation>Z&amp;rušit zámek</translation>
+    </message>
+    <message>
+        <source>Die Sperre konnte nicht aufgehoben werden.</source>
+        <translation>Zámek se nepodařilo zrušit.</translation>
+    </message>
+    <message>
+        <source>Die Kataloge sind nicht bekannt; sie werden mit --source und --target angegeben.</source>
+        <translation>Katalogy nejsou známy; zadávají se pomocí --source a --target.</translation>
+    </message>
+    <message>
+        <source>Änderungen an %1 speichern?</source>
+        <translation>Uložit změny v %1?</translation>
+    </message>
+    <message>
+        <source>Verworfene Änderungen sind verloren.</source>
+        <translation>Zahozené změny budou ztraceny.</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Uložit</translation>
+    </message>
+    <message>
+        <source>&amp;Verwerfen</source>
+        <translation>Za&amp;hodit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n řádek</numerusform>
+            <numerusform>%1: %n řádky</numerusform>
+            <numerusform>%1: %n řádků</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>a dalších %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <translation>
+            <numerusform>Ještě %n řádek v konfliktu, v těchto projektech:</numerusform>
+            <numerusform>Ještě %n řádky v konfliktu, v těchto projektech:</numerusform>
+            <numerusform>Ještě %n řádků v konfliktu, v těchto projektech:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Konflikte zeigen</source>
+        <translation>Zo&amp;brazit konflikty</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem speichern</source>
+        <translation>&amp;Přesto uložit</translation>
+    </message>
+    <message>
+        <source>Gespeichert: %1</source>
+        <translation>Uloženo: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei wurde nicht gespeichert.</source>
+        <translation>Soubor nebyl uložen.</translation>
+    </message>
+    <message>
+        <source>Änderungen &amp;zusammenführen</source>
+        <translation>&amp;Sloučit změny</translation>
+    </message>
+    <message>
+        <source>Kopie behalten und &amp;neu schreiben</source>
+        <translation>Ponechat &amp;kopii a zapsat znovu</translation>
+    </message>
+    <message>
+        <source>&amp;Eigenen Stand schreiben</source>
+        <translation>&amp;Zapsat vlastní verzi</translation>
+    </message>
+    <message>
+        <source>Die Änderungen der anderen sind übernommen. Bitte prüfen und dann noch einmal speichern.</source>
+        <translation>Změny ostatních byly převzaty. Zkontrolujte je a pak uložte ještě jednou.</translation>
+    </message>
+    <message>
+        <source>Die Änderungen der anderen konnten nicht übernommen werden.</source>
+        <translation>Změny ostatních se nepodařilo převzít.</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei kann nicht angelegt werden.</source>
+        <translation>Mapovací soubor nelze vytvořit.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>%1 wird gelesen</source>
+        <translation>Čte se %1</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
+        <translation>Mapovací soubor %1 nelze přečíst (%2).
+Zvolte jiný soubor nebo obnovte záložní kopii %3.</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+Bitte eine andere Datei wählen.</source>
+        <translation>Mapovací soubor %1 nelze přečíst (%2).
+Zvolte jiný soubor.</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand.</source>
+        <translation>%1 neobsahuje žádnou verzi.</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand %2. Vorhanden sind: %3</source>
+        <translation>%1 neobsahuje verzi %2. K dispozici: %3</translation>
+    </message>
+    <message>
+        <source>%1 ist nur zum Lesen geöffnet.</source>
+        <translation>%1 je otevřen jen pro čtení.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet und ist deshalb nur zum Lesen geöffnet.</source>
+        <translation>%1 právě upravuje %2, a proto je otevřen jen pro čtení.</translation>
+    </message>
+    <message>
+        <source>Der Ordner von %1 ist nicht beschreibbar (%2). Die Datei ist deshalb nur zum Lesen geöffnet; unter einem anderen Namen gespeichert lässt sie sich bearbeiten.</source>
+        <translation>Do složky souboru %1 nelze zapisovat (%2). Soubor je proto otevřen jen pro čtení; uložený pod jiným názvem ho lze upravovat.</translation>
+    </message>
+    <message>
+        <source>Zu %1 gibt es Arbeit, die nicht gespeichert wurde. Sie wird angeboten, sobald sich die Datei zum Bearbeiten öffnen lässt (%2).</source>
+        <translation>K %1 existuje práce, která nebyla uložena. Bude nabídnuta, jakmile půjde soubor otevřít k úpravám (%2).</translation>
+    </message>
+    <message>
+        <source>%1 hat noch einen anderen Namen (harter Link). Beim Speichern bleibt die Datei unter dem anderen Namen, wie sie war.</source>
+        <translation>%1 má ještě jiný název (pevný odkaz). Při uložení zůstane soubor pod jiným názvem, jaký byl.</translation>
+    </message>
+    <message>
+        <source>%1 wird gespeichert</source>
+        <translation>Ukládá se %1</translation>
+    </message>
+    <message>
+        <source>%1 wird gesichert</source>
+        <translation>Zálohuje se %1</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet. Es wurde nichts geschrieben. Bitte einen anderen Namen wählen.</source>
+        <translation>%1 právě upravuje %2. Nic nebylo zapsáno. Zvolte jiný název.</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
+        <translation>Ve složce souboru %1 nelze nic vytvořit (%2). Nic nebylo zapsáno. Zvolte jinou složku.</translation>
+    </message>
+</context>
+<context>
+    <name>FileNames</name>
+    <message>
+        <source>Mapping-Dateien (*.json);;Alle Dateien (*)</source>
+        <translation>Mapovací soubory (*.json);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei öffnen</source>
+        <translation>Otevřít mapovací soubor</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei speichern</source>
+        <translation>Uložit mapovací soubor</translation>
+    </message>
+    <message>
+        <source>Tabelle speichern</source>
+        <translation>Uložit tabulku</translation>
+    </message>
+    <message>
+        <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+        <translation>Tabulky (*.csv);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>Gemeinsame Kopie wählen</source>
+        <translation>Zvolit společnou kopii</translation>
+    </message>
+</context>
+<context>
+    <name>GuardedSave</name>
+    <message>
+        <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
+        <translation>%1 není běžný soubor, a nelze ho proto použít jako zámek. Nic nebylo zapsáno. Odstraňte, co tam je.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts geschrieben. Bitte gleich noch einmal speichern.</source>
+        <translation>%1 právě ukládá jiný program. Nic nebylo zapsáno. Za chvíli uložte znovu.</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
+        <translation>Ve složce souboru %1 nelze nic vytvořit (%2). Nic nebylo zapsáno. Uvolněte místo nebo uložte pod jiným názvem.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelesen werden (%2). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 nelze přečíst (%2). Nic nebylo zapsáno. Uložte pod jiným názvem.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <translation>%1 není čitelný mapovací soubor (%2). Nic nebylo zapsáno. Při uložení se stávající soubor zachová pod názvem s časovým razítkem a vytvoří se nový, který obsahuje jen tuto verzi.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <translation>%1 není čitelný mapovací soubor (%2). Nic nebylo zapsáno. Při uložení se stávající soubor zachová pod názvem s časovým razítkem a vytvoří se nový. Ostatní verze pocházejí ze zálohy %3: %4.</translation>
+    </message>
+    <message>
+        <source>%1 ist unlesbar und konnte nicht als %2 aufgehoben werden (%3). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 je nečitelný a nepodařilo se ho zachovat jako %2 (%3). Nic nebylo zapsáno. Uložte pod jiným názvem.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts geschrieben.</source>
+        <translation>%1 byl od otevření smazán nebo přejmenován. Při uložení se soubor vytvoří znovu a bude obsahovat jen tuto verzi (%2). Zatím nebylo nic zapsáno.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen von jemand anderem geändert, dieser Stand (%2) aber nicht. Beim Speichern bleiben die anderen Stände, wie sie jetzt in der Datei sind. Es wurde noch nichts geschrieben.</source>
+        <translation>%1 od otevření změnil někdo jiný, ale ne tuto verzi (%2). Při uložení zůstanou ostatní verze, jak jsou nyní v souboru. Zatím nebylo nic zapsáno.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen von jemand anderem geändert, auch dieser Stand (%2). Beim Speichern gehen dessen Änderungen an diesem Stand verloren. Es wurde noch nichts geschrieben: trotzdem speichern, unter einem anderen Namen speichern oder die Datei neu öffnen.</source>
+        <translation>%1 od otevření změnil někdo jiný, i tuto verzi (%2). Při uložení se jeho změny v této verzi ztratí. Zatím nebylo nic zapsáno: přesto uložte, uložte pod jiným názvem nebo soubor otevřete znovu.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. Bitte die Schreibrechte prüfen oder unter einem anderen Namen speichern.</source>
+        <translation>Do %1 nelze zapisovat (%2). Nic nebylo zapsáno. Zkontrolujte oprávnění k zápisu nebo uložte pod jiným názvem.</translation>
+    </message>
+    <message>
+        <source>%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter einem anderen Namen speichern.</source>
+        <translation>%1 nebyl uložen: %2. Soubor je beze změny, změny jsou stále otevřené. Uvolněte místo a uložte ještě jednou, nebo uložte pod jiným názvem.</translation>
+    </message>
+    <message>
+        <source>die Datei konnte nicht vollständig geschrieben werden</source>
+        <translation>soubor se nepodařilo zapsat celý</translation>
+    </message>
+    <message>
+        <source>die geschriebene Datei ist nicht lesbar (%1)</source>
+        <translation>zapsaný soubor není čitelný (%1)</translation>
+    </message>
+    <message>
+        <source>die geschriebene Datei enthält nicht, was gespeichert werden sollte</source>
+        <translation>zapsaný soubor neobsahuje, co mělo být uloženo</translation>
+    </message>
+    <message>
+        <source>in der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer</source>
+        <translation>v zapsaném souboru chybí verze %1, nebo je jiná</translation>
+    </message>
+    <message>
+        <source>Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
+        <translation>Záložní kopii %1 se nepodařilo vytvořit (%2). Nic nebylo zapsáno. Uvolněte místo nebo uložte pod jiným názvem.</translation>
+    </message>
+    <message>
+        <source>%1 wurde während des Speicherns von jemand anderem geändert. Es wurde nichts geschrieben. Bitte noch einmal speichern.</source>
+        <translation>%1 během ukládání změnil někdo jiný. Nic nebylo zapsáno. Uložte ještě jednou.</translation>
+    </message>
+    <message>
+        <source>%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind weiterhin geöffnet. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 nebyl uložen: %2. Soubor je beze změny, změny jsou stále otevřené. Uložte pod jiným názvem.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Zpět</translation>
+    </message>
+    <message>
+        <source>Handbuch</source>
+        <translation>Příručka</translation>
+    </message>
+    <message>
+        <source>Inhalt</source>
+        <translation>Obsah</translation>
+    </message>
+    <message>
+        <source>Auf der Seite suchen</source>
+        <translation>Hledat na stránce</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryCommands</name>
+    <message>
+        <source>&amp;Verlauf der Entscheidungen...</source>
+        <translation>&amp;Historie rozhodnutí...</translation>
+    </message>
+    <message>
+        <source>Wer hat was entschieden, wann und warum</source>
+        <translation>Kdo co rozhodl, kdy a proč</translation>
+    </message>
+    <message>
+        <source>Gr&amp;und der Entscheidung...</source>
+        <translation>&amp;Důvod rozhodnutí...</translation>
+    </message>
+    <message>
+        <source>Zur letzten Entscheidung oder zu den gewählten Zeilen, etwa warum es keinen Nachfolger gibt</source>
+        <translation>K poslednímu rozhodnutí nebo k vybraným řádkům, například proč není nástupce</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2</source>
+        <translation>Řádek %1 v %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1</source>
+        <translation>
+            <numerusform>%n řádek v %1</numerusform>
+            <numerusform>%n řádky v %1</numerusform>
+            <numerusform>%n řádků v %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Grund notiert: %1</source>
+        <translation>Důvod zaznamenán: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Verlauf der Entscheidungen</source>
+        <translation>Historie rozhodnutí</translation>
+    </message>
+    <message>
+        <source>Gewählte Zeile</source>
+        <translation>Vybraný řádek</translation>
+    </message>
+    <message>
+        <source>Gewähltes Projekt</source>
+        <translation>Vybraný projekt</translation>
+    </message>
+    <message>
+        <source>Alle Projekte</source>
+        <translation>Všechny projekty</translation>
+    </message>
+    <message>
+        <source>Wer, Projekt, Ziel oder Grund suchen</source>
+        <translation>Hledat kdo, projekt, cíl nebo důvod</translation>
+    </message>
+    <message>
+        <source>&amp;Neu lesen</source>
+        <translation>&amp;Načíst znovu</translation>
+    </message>
+    <message>
+        <source>Als &amp;CSV speichern...</source>
+        <translation>&amp;Uložit jako CSV...</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Zavřít</translation>
+    </message>
+    <message>
+        <source>Nicht lesbare Zeilen des Journals: %1</source>
+        <translation>Nečitelné řádky žurnálu: %1</translation>
+    </message>
+    <message>
+        <source>Entscheidungen: %1</source>
+        <translation>Rozhodnutí: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geschrieben werden.</source>
+        <translation>Soubor nelze zapsat.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>kein Nachfolger</source>
+        <translation>bez nástupce</translation>
+    </message>
+    <message>
+        <source>%1 (nicht gespeichert)</source>
+        <translation>%1 (neuloženo)</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kdo</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Řádek</translation>
+    </message>
+    <message>
+        <source>Bisher</source>
+        <translation>Dosud</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>Nové</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Důvod</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Ordner mit CSV-Dateien</source>
+        <translation>Složka se soubory CSV</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogs</source>
+        <translation>Adresář katalogu</translation>
+    </message>
+    <message>
+        <source>Tabellen importieren</source>
+        <translation>Import tabulek</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner mit CSV-Dateien:</source>
+        <translation>&amp;Složka se soubory CSV:</translation>
+    </message>
+    <message>
+        <source>&amp;Verzeichnis des Katalogs:</source>
+        <translation>&amp;Adresář katalogu:</translation>
+    </message>
+    <message>
+        <source>Aus jeder CSV-Datei wird ein Projekt mit seiner Tabelle am selben Ort im Katalog. Wer die Tabellen wieder importiert, behält die Nummern der Zeilen.</source>
+        <translation>Z každého souboru CSV vznikne projekt s tabulkou na stejném místě v katalogu. Při opětovném importu tabulek zůstanou čísla řádků zachována.</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren</source>
+        <translation>&amp;Importovat</translation>
+    </message>
+    <message>
+        <source>Der Ordner mit den CSV-Dateien fehlt.</source>
+        <translation>Chybí složka se soubory CSV.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des Katalogs fehlt; es wird angelegt, wenn es das Verzeichnis darüber gibt.</source>
+        <translation>Chybí adresář katalogu; vytvoří se, pokud existuje nadřazený adresář.</translation>
+    </message>
+    <message>
+        <source>Ein Verzeichnis liegt im anderen.</source>
+        <translation>Jeden adresář leží ve druhém.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyedActions</name>
+    <message>
+        <source>Zeile bestätigen oder gewählte Zeile zuordnen</source>
+        <translation>Potvrdit řádek nebo přiřadit vybraný řádek</translation>
+    </message>
+    <message>
+        <source>Zuordnung der Zeile aufheben</source>
+        <translation>Zrušit přiřazení řádku</translation>
+    </message>
+    <message>
+        <source>Zuordnung aufheben und als ausgelaufen bestätigen</source>
+        <translation>Zrušit přiřazení a potvrdit jako neplatný</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnung bearbeiten</source>
+        <translation>Upravit přiřazení rozsahů hodnot</translation>
+    </message>
+    <message>
+        <source>Bedingung aus der Zeile kopieren</source>
+        <translation>Kopírovat podmínku z řádku</translation>
+    </message>
+    <message>
+        <source>Ganzes Projekt bestätigen</source>
+        <translation>Potvrdit celý projekt</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Hledat v tabulce</translation>
+    </message>
+    <message>
+        <source>Weitersuchen</source>
+        <translation>Hledat další</translation>
+    </message>
+    <message>
+        <source>Rückwärts weitersuchen</source>
+        <translation>Hledat předchozí</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Filtr sloupce</translation>
+    </message>
+    <message>
+        <source>Zeilen kopieren</source>
+        <translation>Kopírovat řádky</translation>
+    </message>
+    <message>
+        <source>Tabelle größer</source>
+        <translation>Větší tabulka</translation>
+    </message>
+    <message>
+        <source>Tabelle kleiner</source>
+        <translation>Menší tabulka</translation>
+    </message>
+    <message>
+        <source>Tabelle in normaler Größe</source>
+        <translation>Tabulka v normální velikosti</translation>
+    </message>
+</context>
+<context>
+    <name>KeysDialog</name>
+    <message>
+        <source>&amp;Standard</source>
+        <translation>&amp;Výchozí</translation>
+    </message>
+    <message>
+        <source>&amp;Keine Taste</source>
+        <translation>Žádná &amp;klávesa</translation>
+    </message>
+    <message>
+        <source>Tasten</source>
+        <translation>Klávesy</translation>
+    </message>
+    <message>
+        <source>Befehl oder Taste</source>
+        <translation>Příkaz nebo klávesa</translation>
+    </message>
+    <message>
+        <source>Befehle</source>
+        <translation>Příkazy</translation>
+    </message>
+    <message>
+        <source>Befehl</source>
+        <translation>Příkaz</translation>
+    </message>
+    <message>
+        <source>Wo</source>
+        <translation>Kde</translation>
+    </message>
+    <message>
+        <source>Taste</source>
+        <translation>Klávesa</translation>
+    </message>
+    <message>
+        <source>Tabelle</source>
+        <translation>Tabulka</translation>
+    </message>
+    <message>
+        <source>Fenster</source>
+        <translation>Okno</translation>
+    </message>
+    <message>
+        <source>Taste für %1</source>
+        <translation>Klávesa pro: %1</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 brauchen Felder und Listen selbst.</source>
+        <translation>Klávesu %1 potřebují samotná pole a seznamy.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 hätten %2 und %3.</source>
+        <translation>Klávesu %1 by měly %2 a %3.</translation>
+    </message>
+    <message>
+        <source>Selbst gewählt</source>
+        <translation>Vlastní volba</translation>
+    </message>
+    <message>
+        <source>%1 hat die Taste %2 dann nicht mehr.</source>
+        <translation>%1 pak už nebude mít klávesu %2.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 hat jetzt %2.</source>
+        <translation>Klávesu %1 má teď %2.</translation>
+    </message>
+</context>
+<context>
+    <name>LegendDialog</name>
+    <message>
+        <source>Bestätigt: die Zuordnung ist entschieden</source>
+        <translation>Potvrzený: přiřazení je rozhodnuto</translation>
+    </message>
+    <message>
+        <source>Vorschlag: muss bestätigt oder korrigiert werden</source>
+        <translation>Návrh: je třeba ho potvrdit nebo opravit</translation>
+    </message>
+    <message>
+        <source>Ohne Bild: eindeutig gleich, vom Programm zugeordnet</source>
+        <translation>Bez obrázku: jednoznačně stejný, přiřazen programem</translation>
+    </message>
+    <message>
+        <source>Keine Zuordnung gefunden</source>
+        <translation>Nenalezeno žádné přiřazení</translation>
+    </message>
+    <message>
+        <source>Ausgelaufen: bestätigt, dass es keine Zuordnung gibt</source>
+        <translation>Neplatný: potvrzeno, že přiřazení neexistuje</translation>
+    </message>
+    <message>
+        <source>Konflikt mit der Änderung eines anderen</source>
+        <translation>Konflikt se změnou někoho jiného</translation>
+    </message>
+    <message>
+        <source>Projekt oder Tabelle kann nicht gelesen werden</source>
+        <translation>Projekt nebo tabulku nelze přečíst</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen der Zeile</source>
+        <translation>Přiřazení rozsahů hodnot řádku</translation>
+    </message>
+    <message>
+        <source>In der Zieltabelle: die zugeordnete Zeile</source>
+        <translation>V cílové tabulce: přiřazený řádek</translation>
+    </message>
+    <message>
+        <source>Legende</source>
+        <translation>Legenda</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Zavřít</translation>
+    </message>
+</context>
+<context>
+    <name>LineCommands</name>
+    <message>
+        <source>Bedingung in die Zwischenablage kopiert</source>
+        <translation>Podmínka zkopírována do schránky</translation>
+    </message>
+    <message>
+        <source>Die kopierte Bedingung ist so noch nicht zu gebrauchen, ein Wert fehlt, ist ein Bereich oder enthält ein Anführungszeichen: %1</source>
+        <translation>Zkopírovanou podmínku takto ještě nelze použít: chybí hodnota, je rozsahem nebo obsahuje uvozovku: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <translation>
+            <numerusform>Zde ve filtru je vše hotovo, mimo něj je ještě %n otevřený řádek.</numerusform>
+            <numerusform>Zde ve filtru je vše hotovo, mimo něj jsou ještě %n otevřené řádky.</numerusform>
+            <numerusform>Zde ve filtru je vše hotovo, mimo něj je ještě %n otevřených řádků.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Dosaženo konce, pokračuje se od začátku</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Dosaženo začátku, pokračuje se od konce</translation>
+    </message>
+    <message>
+        <source>Konflikt %1 von %2</source>
+        <translation>Konflikt %1 z %2</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist in einem der gewählten Zustände</source>
+        <translation>Žádný řádek není v některém ze zvolených stavů</translation>
+    </message>
+    <message>
+        <source>Keine Zeile braucht mehr eine Entscheidung</source>
+        <translation>Žádný řádek už nepotřebuje rozhodnutí</translation>
+    </message>
+    <message>
+        <source>Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen</source>
+        <translation>Žádný z otevřených řádků nelze zobrazit; chybí tabulky</translation>
+    </message>
+    <message>
+        <source>Gehe zu Zeile</source>
+        <translation>Přejít na řádek</translation>
+    </message>
+    <message>
+        <source>Nummer oder Normbezeichnung:</source>
+        <translation>Číslo nebo normové označení:</translation>
+    </message>
+    <message>
+        <source>Gehe zu</source>
+        <translation>Přejít</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt gewählt</source>
+        <translation>Není vybrán žádný projekt</translation>
+    </message>
+    <message>
+        <source>Keine Zeile mit „%1“ in diesem Projekt</source>
+        <translation>V tomto projektu není řádek s „%1“</translation>
+    </message>
+    <message>
+        <source>Treffer %1 von %2</source>
+        <translation>Výskyt %1 z %2</translation>
+    </message>
+    <message>
+        <source>&amp;Ausführen</source>
+        <translation>&amp;Provést</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann zurückgenommen werden.</source>
+        <translation>Tento krok lze vzít zpět.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die markierten Zeilen.</source>
+        <translation>Jde o označené řádky.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind alle Zeilen des Projekts.</source>
+        <translation>Jde o všechny řádky projektu.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
+        <translation>Jde o zobrazené řádky projektu: %1 z %2.</translation>
+    </message>
+    <message>
+        <source>Filter: %1.</source>
+        <translation>Filtr: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LineStateFilter</name>
+    <message>
+        <source>Konflikt</source>
+        <translation>Konflikt</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen im Konflikt mit der Änderung eines anderen zeigen, und ihre Projekte</source>
+        <translation>Zobrazit jen řádky v konfliktu se změnou někoho jiného a jejich projekty</translation>
+    </message>
+    <message>
+        <source>Zu prüfen</source>
+        <translation>Ke kontrole</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen mit einem Vorschlag zeigen, der bestätigt oder korrigiert werden muss, und ihre Projekte</source>
+        <translation>Zobrazit jen řádky s návrhem, který je třeba potvrdit nebo opravit, a jejich projekty</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel</source>
+        <translation>Bez cíle</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, für die nichts gefunden ist, und ihre Projekte</source>
+        <translation>Zobrazit jen řádky, pro které se nic nenašlo, a jejich projekty</translation>
+    </message>
+    <message>
+        <source>Automatisch</source>
+        <translation>Automaticky</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, die eindeutig gleich sind und vom Programm zugeordnet wurden, und ihre Projekte</source>
+        <translation>Zobrazit jen řádky, které jsou jednoznačně stejné a přiřadil je program, a jejich projekty</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Potvrzené</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen mit bestätigter Zuordnung zeigen, und ihre Projekte</source>
+        <translation>Zobrazit jen řádky s potvrzeným přiřazením a jejich projekty</translation>
+    </message>
+    <message>
+        <source>Ausgelaufen</source>
+        <translation>Neplatné</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre Projekte</source>
+        <translation>Zobrazit jen řádky potvrzené jako neplatné a jejich projekty</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbBox</name>
+    <message>
+        <source>&amp;Linkdatenbank verwenden</source>
+        <translation>&amp;Používat databázi odkazů</translation>
+    </message>
+    <message>
+        <source>Datei auf diesem Rechner</source>
+        <translation>Soubor na tomto počítači</translation>
+    </message>
+    <message>
+        <source>PostgreSQL-Server</source>
+        <translation>Server PostgreSQL</translation>
+    </message>
+    <message>
+        <source>der übliche</source>
+        <translation>obvyklý</translation>
+    </message>
+    <message>
+        <source>Das Kennwort steht in der Kennwortdatei, im Schlüsselspeicher des Desktops oder in PGPASSWORD, oder es wird bei der Anmeldung eingegeben. Gespeichert wird es nicht.</source>
+        <translation>Heslo je v souboru hesel, v klíčence prostředí nebo v PGPASSWORD, nebo se zadává při přihlášení. Neukládá se.</translation>
+    </message>
+    <message>
+        <source>wenn möglich</source>
+        <translation>pokud možno</translation>
+    </message>
+    <message>
+        <source>immer</source>
+        <translation>vždy</translation>
+    </message>
+    <message>
+        <source>immer, Server geprüft</source>
+        <translation>vždy, server ověřen</translation>
+    </message>
+    <message>
+        <source>nie</source>
+        <translation>nikdy</translation>
+    </message>
+    <message>
+        <source>Art:</source>
+        <translation>Druh:</translation>
+    </message>
+    <message>
+        <source>&amp;Datei:</source>
+        <translation>&amp;Soubor:</translation>
+    </message>
+    <message>
+        <source>Rec&amp;hner:</source>
+        <translation>Počí&amp;tač:</translation>
+    </message>
+    <message>
+        <source>&amp;Anschluss:</source>
+        <translation>Po&amp;rt:</translation>
+    </message>
+    <message>
+        <source>Daten&amp;bank:</source>
+        <translation>&amp;Databáze:</translation>
+    </message>
+    <message>
+        <source>Ben&amp;utzer:</source>
+        <translation>&amp;Uživatel:</translation>
+    </message>
+    <message>
+        <source>Verschlüsselun&amp;g:</source>
+        <translation>Ši&amp;frování:</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank: Der Name der Datei fehlt.</source>
+        <translation>Databáze odkazů: chybí název souboru.</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank: Der Name der Datenbank fehlt oder ist keiner.</source>
+        <translation>Databáze odkazů: název databáze chybí nebo není platný.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbCommands</name>
+    <message>
+        <source>&amp;Nummern der Linkdatenbank prüfen</source>
+        <translation>&amp;Zkontrolovat čísla databáze odkazů</translation>
+    </message>
+    <message>
+        <source>In der Linkdatenbank gibt es keine Gruppe, zu der Sie gehören.</source>
+        <translation>V databázi odkazů není žádná skupina, do které patříte.</translation>
+    </message>
+    <message>
+        <source>Gruppe auswählen</source>
+        <translation>Vybrat skupinu</translation>
+    </message>
+    <message>
+        <source>Gruppe der Linkdatenbank:</source>
+        <translation>Skupina databáze odkazů:</translation>
+    </message>
+    <message>
+        <source>Zeile %1 von %2 steht nicht in diesem Mapping.</source>
+        <translation>Řádek %1 z %2 není v tomto mapování.</translation>
+    </message>
+    <message>
+        <source>Nummern der Linkdatenbank werden geprüft</source>
+        <translation>Kontrolují se čísla databáze odkazů</translation>
+    </message>
+    <message>
+        <source>Die Nummern konnten nicht geprüft werden.</source>
+        <translation>Čísla se nepodařilo zkontrolovat.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbHost</name>
+    <message>
+        <source>Für die Linkdatenbank fehlt die Lizenz.</source>
+        <translation>Chybí licence pro databázi odkazů.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbLoginDialog</name>
+    <message>
+        <source>Anmeldung an der Linkdatenbank</source>
+        <translation>Přihlášení k databázi odkazů</translation>
+    </message>
+    <message>
+        <source>Das Kennwort gilt bis zum Ende des Programms und wird nicht gespeichert. Bleibt es leer, kommt es aus der Kennwortdatei.</source>
+        <translation>Heslo platí do konce programu a neukládá se. Zůstane-li prázdné, vezme se ze souboru hesel.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
+        <translation>Pod tímto jménem je v protokolu uvedeno, kdo něco smazal.</translation>
+    </message>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Uživatel:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Heslo:</translation>
+    </message>
+</context>
+<context>
+    <name>LinkListDialog</name>
+    <message>
+        <source>Linkmanager</source>
+        <translation>Správce odkazů</translation>
+    </message>
+    <message>
+        <source>Nummer, Projekt oder Bezeichnung suchen</source>
+        <translation>Hledat číslo, projekt nebo popis</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Číslo</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Řádek</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Popis</translation>
+    </message>
+    <message>
+        <source>Zeile &amp;zeigen</source>
+        <translation>&amp;Zobrazit řádek</translation>
+    </message>
+    <message>
+        <source>Mit anderer Zeile &amp;verknüpfen...</source>
+        <translation>&amp;Propojit s jiným řádkem...</translation>
+    </message>
+    <message>
+        <source>Wählen Sie danach Projekt und Zeile und senden Sie die Auswahl mit &quot;Auswahl an Linkmanager&quot;.</source>
+        <translation>Potom vyberte projekt a řádek a odešlete výběr příkazem „Výběr do správce odkazů“.</translation>
+    </message>
+    <message>
+        <source>Zuletzt &amp;Gelöschtes...</source>
+        <translation>&amp;Naposledy smazané...</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>Za&amp;vřít</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
+        <translation>Prvních %1 odkazů; hledání ukáže další.</translation>
+    </message>
+    <message>
+        <source>Links: %1</source>
+        <translation>Odkazy: %1</translation>
+    </message>
+    <message>
+        <source>Es ist nichts gelöscht, was wiederhergestellt werden könnte.</source>
+        <translation>Není smazáno nic, co by šlo obnovit.</translation>
+    </message>
+    <message>
+        <source>Zuletzt Gelöschtes wiederherstellen? Zeilen: %1</source>
+        <translation>Obnovit naposledy smazané? Řádky: %1</translation>
+    </message>
+    <message>
+        <source>%1 hat sie am %2 aus %3 gelöscht.</source>
+        <translation>%1 je smazal(a) %2 z %3.</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Obnovit</translation>
+    </message>
+</context>
+<context>
+    <name>LinkProofDialog</name>
+    <message>
+        <source>Prüfung der Nummern</source>
+        <translation>Kontrola čísel</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Číslo</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Řádek</translation>
+    </message>
+    <message>
+        <source>Befund</source>
+        <translation>Nález</translation>
+    </message>
+    <message>
+        <source>Nummern an Projekten dieses Mappings: %1, an anderen Projekten: %2</source>
+        <translation>Čísla u projektů tohoto mapování: %1, u jiných projektů: %2</translation>
+    </message>
+    <message>
+        <source>Nicht verglichen, da nicht lesbar: %1</source>
+        <translation>Neporovnáno, protože nečitelné: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Zavřít</translation>
+    </message>
+    <message>
+        <source>Zeile ausgelaufen oder nicht da</source>
+        <translation>Řádek neplatný nebo neexistuje</translation>
+    </message>
+    <message>
+        <source>als ausgelaufen bestätigt</source>
+        <translation>potvrzeno jako neplatný</translation>
+    </message>
+    <message>
+        <source>das Projekt hat sie nicht</source>
+        <translation>projekt ho nemá</translation>
+    </message>
+    <message>
+        <source>Von mehreren Zeilen beansprucht</source>
+        <translation>Nárokováno několika řádky</translation>
+    </message>
+    <message>
+        <source>nahe Zahl</source>
+        <translation>blízké číslo</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>jiné číslo</translation>
+    </message>
+    <message>
+        <source>anderer Text</source>
+        <translation>jiný text</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>nové</translation>
+    </message>
+    <message>
+        <source>fehlt</source>
+        <translation>chybí</translation>
+    </message>
+    <message>
+        <source>Teil weicht ab</source>
+        <translation>Díl se liší</translation>
+    </message>
+    <message>
+        <source>Teil weicht ab (nicht verglichen)</source>
+        <translation>Díl se liší (neporovnáno)</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen mit Nummern</source>
+        <translation>Otevřené řádky s čísly</translation>
+    </message>
+    <message>
+        <source>Nummern: %1</source>
+        <translation>Čísla: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocatorDesk</name>
+    <message>
+        <source>Die Zeile %1 gibt es in %2 nicht.</source>
+        <translation>Řádek %1 v %2 neexistuje.</translation>
+    </message>
+    <message>
+        <source>Das Projekt %1 kann nicht gezeigt werden.</source>
+        <translation>Projekt %1 nelze zobrazit.</translation>
+    </message>
+</context>
+<context>
+    <name>LocatorDialog</name>
+    <message>
+        <source>Finden</source>
+        <translation>Najít</translation>
+    </message>
+    <message>
+        <source>Projekt, Zeile, Befehl oder Einstellung</source>
+        <translation>Projekt, řádek, příkaz nebo nastavení</translation>
+    </message>
+    <message>
+        <source>Gefunden</source>
+        <translation>Nalezené</translation>
+    </message>
+    <message>
+        <source>Teile der Wörter genügen; eine Zahl dahinter meint eine Zeile.</source>
+        <translation>Stačí části slov; číslo na konci znamená řádek.</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nic nenalezeno</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 von %2 Treffern</source>
+        <translation>První výskyty: %1 z %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Treffer</source>
+        <translation>
+            <numerusform>%n výskyt</numerusform>
+            <numerusform>%n výskyty</numerusform>
+            <numerusform>%n výskytů</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>LocatorModel</name>
+    <message>
+        <source>Zeile %1</source>
+        <translation>Řádek %1</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Řádek</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Befehl</source>
+        <translation>Příkaz</translation>
+    </message>
+    <message>
+        <source>Einstellung</source>
+        <translation>Nastavení</translation>
+    </message>
+</context>
+<context>
+    <name>LogWindow</name>
+    <message>
+        <source>Fehler: </source>
+        <translation>Chyba: </translation>
+    </message>
+    <message>
+        <source>Warnung: </source>
+        <translation>Varování: </translation>
+    </message>
+    <message>
+        <source>Meldungen</source>
+        <translation>Hlášení</translation>
+    </message>
+    <message>
+        <source>Meldungen löschen</source>
+        <translation>Vymazat hlášení</translation>
+    </message>
+    <message>
+        <source>Alle Meldungen kopieren</source>
+        <translation>Kopírovat všechna hlášení</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Keine Verbindung zur Linkdatenbank: %1</source>
+        <translation>Žádné spojení s databází odkazů: %1</translation>
+    </message>
+    <message>
+        <source>Die ERP-Nummern können nicht gelesen werden. %1</source>
+        <translation>Čísla ERP nelze přečíst. %1</translation>
+    </message>
+    <message>
+        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <translation>Řádky přiřazeny znovu: žádná změna</translation>
+    </message>
+    <message>
+        <source>Hier ist keine solche Zeile. %1 geht zur nächsten.</source>
+        <translation>Zde takový řádek není. %1 přejde na další.</translation>
+    </message>
+    <message>
+        <source>schreibgeschützt</source>
+        <translation>jen pro čtení</translation>
+    </message>
+    <message>
+        <source>Der Katalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Links steht der alte Katalogstand. Die Bilder zeigen, wo noch etwas zu entscheiden ist. Wählen Sie ein Projekt, um seine Zeilen zu sehen.</source>
+        <translation>Vlevo je stará verze katalogu. Obrázky ukazují, kde je ještě co rozhodnout. Vyberte projekt, abyste viděli jeho řádky.</translation>
+    </message>
+    <message>
+        <source>Die Ziele</source>
+        <translation>Cíle</translation>
+    </message>
+    <message>
+        <source>Hier stehen die Projekte des neuen Stands, die Zeilen übernehmen können, mit Bedingungen und Variablenzuordnungen.</source>
+        <translation>Zde jsou projekty nové verze, které mohou převzít řádky, s podmínkami a mapováním proměnných.</translation>
+    </message>
+    <message>
+        <source>Die Zeilen</source>
+        <translation>Řádky</translation>
+    </message>
+    <message>
+        <source>Links die alte Tabelle, rechts die neue. %1 bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, %2 hebt auf, %3 bestätigt, dass die Zeile ausgelaufen ist.</source>
+        <translation>Vlevo stará tabulka, vpravo nová. %1 potvrdí přiřazení nebo přiřadí řádek vybraný vpravo, %2 ho zruší, %3 potvrdí, že řádek je neplatný.</translation>
+    </message>
+    <message>
+        <source>Was noch offen ist</source>
+        <translation>Co je ještě otevřené</translation>
+    </message>
+    <message>
+        <source>Der Zähler sagt, wie viele Zeilen eine Entscheidung brauchen. %1 geht zur nächsten, auch im nächsten Projekt.</source>
+        <translation>Počítadlo říká, kolik řádků potřebuje rozhodnutí. %1 přejde na další, i v dalším projektu.</translation>
+    </message>
+    <message>
+        <source>Nichts geht verloren</source>
+        <translation>Nic se neztratí</translation>
+    </message>
+    <message>
+        <source>Jeder Schritt kann zurückgenommen werden. Was nicht gespeichert ist, bietet das Programm nach einem Absturz zur Wiederherstellung an. Der Rundgang steht im Menü Hilfe.</source>
+        <translation>Každý krok lze vzít zpět. Co není uloženo, nabídne program po pádu k obnovení. Prohlídka je v nabídce Nápověda.</translation>
+    </message>
+    <message>
+        <source>Zeilen des ganzen Katalogs zuordnen?</source>
+        <translation>Přiřadit řádky celého katalogu?</translation>
+    </message>
+    <message>
+        <source>Bestätigtes bleibt in jedem Fall. Der Schritt kann zurückgenommen werden.</source>
+        <translation>Potvrzené v každém případě zůstane. Tento krok lze vzít zpět.</translation>
+    </message>
+    <message>
+        <source>Nur &amp;Zeilen ohne Zuordnung</source>
+        <translation>&amp;Jen řádky bez přiřazení</translation>
+    </message>
+    <message>
+        <source>Alles &amp;Unbestätigte neu</source>
+        <translation>&amp;Vše nepotvrzené znovu</translation>
+    </message>
+    <message>
+        <source>Alle Projekte zugeordnet</source>
+        <translation>Přiřazeny všechny projekty</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt %1 gibt es nicht.</source>
+        <translation>Cílový projekt %1 neexistuje.</translation>
+    </message>
+    <message>
+        <source>Zielprojekt: %1</source>
+        <translation>Cílový projekt: %1</translation>
+    </message>
+    <message>
+        <source>Einstellungen: %1</source>
+        <translation>Nastavení: %1</translation>
+    </message>
+    <message>
+        <source>Zu dieser Stelle gibt es keinen Hinweis</source>
+        <translation>K tomuto místu není žádná nápověda</translation>
+    </message>
+    <message>
+        <source>Liste &amp;leeren</source>
+        <translation>&amp;Vyprázdnit seznam</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;Soubor</translation>
+    </message>
+    <message>
+        <source>&amp;Teilen</source>
+        <translation>&amp;Sdílení</translation>
+    </message>
+    <message>
+        <source>&amp;Zuletzt geöffnet</source>
+        <translation>&amp;Naposledy otevřené</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>Úp&amp;ravy</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zu</source>
+        <translation>&amp;Přejít</translation>
+    </message>
+    <message>
+        <source>&amp;Prüfen</source>
+        <translation>&amp;Kontrola</translation>
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;Zobrazení</translation>
+    </message>
+    <message>
+        <source>Nur &amp;Zeilen</source>
+        <translation>&amp;Jen řádky</translation>
+    </message>
+    <message>
+        <source>&amp;Hilfe</source>
+        <translation>&amp;Nápověda</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank</source>
+        <translation>Databáze odkazů</translation>
+    </message>
+    <message>
+        <source>Zustände der Zeilen</source>
+        <translation>Stavy řádků</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Nástroje</translation>
+    </message>
+</context>
+<context>
+    <name>MappingDocument</name>
+    <message>
+        <source>Es ist keine Datei zum Bearbeiten geöffnet.</source>
+        <translation>Není otevřen žádný soubor k úpravám.</translation>
+    </message>
+    <message>
+        <source>Eigene Änderungen auf dem Stand der Datei</source>
+        <translation>Vlastní změny na verzi ze souboru</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <translation>
+            <numerusform>%n konflikt: vlastní rozhodnutí</numerusform>
+            <numerusform>%n konflikty: vlastní rozhodnutí</numerusform>
+            <numerusform>%n konfliktů: vlastní rozhodnutí</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <translation>
+            <numerusform>%n konflikt: rozhodnutí druhé strany</numerusform>
+            <numerusform>%n konflikty: rozhodnutí druhé strany</numerusform>
+            <numerusform>%n konfliktů: rozhodnutí druhé strany</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <translation>
+            <numerusform>%n konflikt: rozhodnout znovu</numerusform>
+            <numerusform>%n konflikty: rozhodnout znovu</numerusform>
+            <numerusform>%n konfliktů: rozhodnout znovu</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht geschrieben werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte bald speichern.</source>
+        <translation>Do žurnálu %1 nelze zapisovat (%2). Po pádu by byly změny ztraceny: brzy uložte.</translation>
+    </message>
+    <message>
+        <source>Der wiederhergestellte Stand kann nicht gesichert werden (%1). Bitte Platz schaffen und noch einmal öffnen; das Journal ist unverändert.</source>
+        <translation>Obnovenou verzi nelze zajistit (%1). Uvolněte místo a otevřete znovu; žurnál je beze změny.</translation>
+    </message>
+    <message>
+        <source>Wiederherstellung nach einem Absturz</source>
+        <translation>Obnovení po pádu</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht angelegt werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte oft speichern.</source>
+        <translation>Žurnál %1 nelze vytvořit (%2). Po pádu by byly změny ztraceny: ukládejte často.</translation>
+    </message>
+    <message>
+        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <translation>Není otevřen žádný mapovací soubor.</translation>
+    </message>
+    <message>
+        <source>Es wird gerade gespeichert.</source>
+        <translation>Právě se ukládá.</translation>
+    </message>
+    <message>
+        <source>Es wurde nicht gespeichert. %1 Bitte unter einem anderen Namen speichern.</source>
+        <translation>Nebylo uloženo. %1 Uložte pod jiným názvem.</translation>
+    </message>
+    <message>
+        <source>Die Sperre von %1 ist verloren und kann nicht erneuert werden. Andere könnten die Datei gleichzeitig bearbeiten.</source>
+        <translation>Zámek souboru %1 je ztracen a nelze ho obnovit. Ostatní by mohli soubor upravovat současně.</translation>
+    </message>
+    <message>
+        <source>Die automatische Sicherung ist nicht gelungen (%1). Bitte bald speichern.</source>
+        <translation>Automatické ukládání se nezdařilo (%1). Brzy uložte.</translation>
+    </message>
+    <message>
+        <source>Die Änderung wurde nicht übernommen. %1</source>
+        <translation>Změna nebyla převzata. %1</translation>
+    </message>
+    <message>
+        <source>Konflikte markiert</source>
+        <translation>Konflikty označeny</translation>
+    </message>
+    <message>
+        <source>Rückgängig: %1</source>
+        <translation>Vráceno zpět: %1</translation>
+    </message>
+    <message>
+        <source>Wiederholt: %1</source>
+        <translation>Provedeno znovu: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MappingMaker</name>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Hledají se cílové projekty</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts angelegt</source>
+        <translation>Přerušeno, nic nebylo vytvořeno</translation>
+    </message>
+    <message>
+        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
+        <translation>Projekty: %1, z toho na stejném místě %2, na jiném %3, rozdělené %4, bez cíle %5, nečitelné %6</translation>
+    </message>
+    <message>
+        <source>Zeilen werden zugeordnet</source>
+        <translation>Přiřazují se řádky</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
+        <translation>Přerušeno: projekty: %1 z %2, řádky: %3, z toho přiřazené %4, ke kontrole %5, bez cíle %6</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
+        <translation>Projekty: %1 z %2, řádky: %3, z toho přiřazené %4, ke kontrole %5, bez cíle %6</translation>
+    </message>
+</context>
+<context>
+    <name>MergeState</name>
+    <message numerus="yes">
+        <source>%n Änderung(en) übernommen.</source>
+        <translation>
+            <numerusform>Převzata %n změna.</numerusform>
+            <numerusform>Převzaty %n změny.</numerusform>
+            <numerusform>Převzato %n změn.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <translation>
+            <numerusform>%n řádek rozhodli oba stejně.</numerusform>
+            <numerusform>%n řádky rozhodli oba stejně.</numerusform>
+            <numerusform>%n řádků rozhodli oba stejně.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <translation>
+            <numerusform>%n řádek je rozhodnut různě a označen jako konflikt.</numerusform>
+            <numerusform>%n řádky jsou rozhodnuty různě a označeny jako konflikt.</numerusform>
+            <numerusform>%n řádků je rozhodnuto různě a označeno jako konflikt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <translation>
+            <numerusform>%n jiný rozpor: platí verze ze souboru.</numerusform>
+            <numerusform>%n jiné rozpory: platí verze ze souboru.</numerusform>
+            <numerusform>%n jiných rozporů: platí verze ze souboru.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourCommands</name>
+    <message>
+        <source>Die Zeile %1 kann nicht gezeigt werden</source>
+        <translation>Řádek %1 nelze zobrazit</translation>
+    </message>
+    <message>
+        <source>Es ist keine Fundstelle gewählt</source>
+        <translation>Není vybrán žádný nález</translation>
+    </message>
+    <message>
+        <source>Behoben: %1 in %2</source>
+        <translation>Opraveno: %1 v %2</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourDock</name>
+    <message>
+        <source>Die Tabellen werden verglichen</source>
+        <translation>Tabulky se porovnávají</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <translation>
+            <numerusform>Prohlédnut %n přiřazený řádek</numerusform>
+            <numerusform>Prohlédnuty %n přiřazené řádky</numerusform>
+            <numerusform>Prohlédnuto %n přiřazených řádků</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fundstelle(n)</source>
+        <translation>
+            <numerusform>%n nález</numerusform>
+            <numerusform>%n nálezy</numerusform>
+            <numerusform>%n nálezů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nachbarschaft</source>
+        <translation>Sousedství</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourModel</name>
+    <message>
+        <source>Zeilen %1 bis %2 sind um %3 verschoben</source>
+        <translation>Řádky %1 až %2 jsou posunuty o %3</translation>
+    </message>
+    <message>
+        <source>Zeilen %1 und %2 sind vertauscht</source>
+        <translation>Řádky %1 a %2 jsou zaměněny</translation>
+    </message>
+    <message>
+        <source>Zeile %1 liegt um %2 daneben</source>
+        <translation>Řádek %1 je vedle o %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1 hat die Zielzeile einer anderen</source>
+        <translation>Řádek %1 má cílový řádek jiného</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist übersprungen</source>
+        <translation>Řádek %1 je přeskočen</translation>
+    </message>
+    <message>
+        <source>offen</source>
+        <translation>nerozhodnuto</translation>
+    </message>
+    <message>
+        <source>Behoben: %1</source>
+        <translation>Opraveno: %1</translation>
+    </message>
+    <message>
+        <source>Fund</source>
+        <translation>Nález</translation>
+    </message>
+    <message>
+        <source>Behoben</source>
+        <translation>Opraveno</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekt</translation>
+    </message>
+</context>
+<context>
+    <name>NewMappingDialog</name>
+    <message>
+        <source>Verzeichnis des alten Katalogstands</source>
+        <translation>Adresář staré verze katalogu</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des neuen Katalogstands</source>
+        <translation>Adresář nové verze katalogu</translation>
+    </message>
+    <message>
+        <source>&amp;Zeilen gleich zuordnen</source>
+        <translation>Přiřadit &amp;hned řádky</translation>
+    </message>
+    <message>
+        <source>Neues Mapping</source>
+        <translation>Nové mapování</translation>
+    </message>
+    <message>
+        <source>&amp;Alter Katalogstand:</source>
+        <translation>&amp;Stará verze katalogu:</translation>
+    </message>
+    <message>
+        <source>Katalog darin:</source>
+        <translation>Katalog v něm:</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Katalogstand:</source>
+        <translation>&amp;Nová verze katalogu:</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei wählen</source>
+        <translation>Zvolit mapovací soubor</translation>
+    </message>
+    <message>
+        <source>&amp;Mapping-Datei:</source>
+        <translation>&amp;Mapovací soubor:</translation>
+    </message>
+    <message>
+        <source>An&amp;legen</source>
+        <translation>&amp;Vytvořit</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des alten Katalogstands fehlt.</source>
+        <translation>Chybí adresář staré verze katalogu.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des neuen Katalogstands fehlt.</source>
+        <translation>Chybí adresář nové verze katalogu.</translation>
+    </message>
+    <message>
+        <source>Jeder Stand braucht ein Verzeichnis mit dem Katalog.</source>
+        <translation>Každá verze potřebuje adresář s katalogem.</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei braucht einen Namen.</source>
+        <translation>Mapovací soubor potřebuje název.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis %1 gibt es nicht.</source>
+        <translation>Adresář %1 neexistuje.</translation>
+    </message>
+    <message>
+        <source>%1 gibt es schon.</source>
+        <translation>%1 už existuje.</translation>
+    </message>
+    <message>
+        <source>Beim Speichern kommt der neue Stand dazu; ein Stand mit demselben Datum wird ersetzt, mit allem, was darin bestätigt ist.</source>
+        <translation>Při uložení přibude nová verze; verze se stejným datem bude nahrazena, se vším, co je v ní potvrzeno.</translation>
+    </message>
+    <message>
+        <source>&amp;Diese Datei verwenden</source>
+        <translation>&amp;Použít tento soubor</translation>
+    </message>
+</context>
+<context>
+    <name>OwnFileTexts</name>
+    <message>
+        <source>der Datenträger ist voll</source>
+        <translation>médium je plné</translation>
+    </message>
+    <message>
+        <source>die Datei wird größer, als hier erlaubt ist</source>
+        <translation>soubor je větší, než je zde dovoleno</translation>
+    </message>
+    <message>
+        <source>das Schreibrecht fehlt</source>
+        <translation>chybí oprávnění k zápisu</translation>
+    </message>
+    <message>
+        <source>der Datenträger ist schreibgeschützt</source>
+        <translation>médium je chráněno proti zápisu</translation>
+    </message>
+    <message>
+        <source>der Ordner oder die Datei ist nicht mehr da</source>
+        <translation>složka nebo soubor už neexistuje</translation>
+    </message>
+    <message>
+        <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
+        <translation>na jeho místě je něco jiného než běžný soubor</translation>
+    </message>
+</context>
+<context>
+    <name>PartView</name>
+    <message>
+        <source>Die Tabelle des Projektes kann nicht gelesen werden.</source>
+        <translation>Tabulku projektu nelze přečíst.</translation>
+    </message>
+    <message>
+        <source>Pfad:</source>
+        <translation>Cesta:</translation>
+    </message>
+    <message>
+        <source>Norm:</source>
+        <translation>Norma:</translation>
+    </message>
+    <message>
+        <source>Bezeichnung:</source>
+        <translation>Označení:</translation>
+    </message>
+    <message>
+        <source>Projektversion:</source>
+        <translation>Verze projektu:</translation>
+    </message>
+    <message>
+        <source>Tabellenversion:</source>
+        <translation>Verze tabulky:</translation>
+    </message>
+    <message>
+        <source>Zeilen:</source>
+        <translation>Řádky:</translation>
+    </message>
+    <message>
+        <source>Datei:</source>
+        <translation>Soubor:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Hledat</translation>
+    </message>
+    <message>
+        <source>Filtern</source>
+        <translation>Filtrovat</translation>
+    </message>
+    <message>
+        <source>Ordner öffnen</source>
+        <translation>Otevřít složku</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Zavřít</translation>
+    </message>
+</context>
+<context>
+    <name>PatternDock</name>
+    <message>
+        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
+        <translation>Tabulky se porovnávají: přečtené projekty: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <translation>
+            <numerusform>%n otevřený řádek s návrhem</numerusform>
+            <numerusform>%n otevřené řádky s návrhem</numerusform>
+            <numerusform>%n otevřených řádků s návrhem</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Muster(n)</source>
+        <translation>
+            <numerusform>v %n vzoru</numerusform>
+            <numerusform>ve %n vzorech</numerusform>
+            <numerusform>v %n vzorech</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon wird/werden noch verglichen</source>
+        <translation>
+            <numerusform>%n z nich se ještě porovnává</numerusform>
+            <numerusform>%n z nich se ještě porovnávají</numerusform>
+            <numerusform>%n z nich se ještě porovnává</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Gewählt: %n Zeile(n)</source>
+        <translation>
+            <numerusform>Vybráno: %n řádek</numerusform>
+            <numerusform>Vybráno: %n řádky</numerusform>
+            <numerusform>Vybráno: %n řádků</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon herausgenommen</source>
+        <translation>
+            <numerusform>%n z nich vyjmut</numerusform>
+            <numerusform>%n z nich vyjmuty</numerusform>
+            <numerusform>%n z nich vyjmuto</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unterschiede der offenen Zeilen</source>
+        <translation>Rozdíly otevřených řádků</translation>
+    </message>
+</context>
+<context>
+    <name>PatternModel</name>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n řádek</numerusform>
+            <numerusform>%n řádky</numerusform>
+            <numerusform>%n řádků</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Projekt(e)</source>
+        <translation>
+            <numerusform>%n projekt</numerusform>
+            <numerusform>%n projekty</numerusform>
+            <numerusform>%n projektů</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <translation>
+            <numerusform>Ještě %n řádek má tyto a jiné rozdíly</numerusform>
+            <numerusform>Ještě %n řádky mají tyto a jiné rozdíly</numerusform>
+            <numerusform>Ještě %n řádků má tyto a jiné rozdíly</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unterschied</source>
+        <translation>Rozdíl</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Řádky</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projekty</translation>
+    </message>
+    <message>
+        <source>Sicherheit</source>
+        <translation>Jistota</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Výjimky</translation>
+    </message>
+</context>
+<context>
+    <name>PatternText</name>
+    <message>
+        <source>Zahl in der Nähe</source>
+        <translation>číslo poblíž</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>jiné číslo</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>jiné znění</translation>
+    </message>
+    <message>
+        <source>Wert hinzugekommen</source>
+        <translation>hodnota přibyla</translation>
+    </message>
+    <message>
+        <source>Wert fehlt</source>
+        <translation>hodnota chybí</translation>
+    </message>
+    <message>
+        <source>nicht zu vergleichen</source>
+        <translation>nelze porovnat</translation>
+    </message>
+    <message>
+        <source>kein Unterschied</source>
+        <translation>žádný rozdíl</translation>
+    </message>
+</context>
+<context>
+    <name>PluginActions</name>
+    <message>
+        <source>nicht verfügbar: es ist keine Datei geöffnet</source>
+        <translation>nedostupné: není otevřen žádný soubor</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: die Linkdatenbank wird verbunden</source>
+        <translation>nedostupné: databáze odkazů se připojuje</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: %1</source>
+        <translation>nedostupné: %1</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Linkdatenbank verbunden</source>
+        <translation>nedostupné: není připojena žádná databáze odkazů</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: der Linkmanager wartet auf keine Auswahl</source>
+        <translation>nedostupné: správce odkazů nečeká na žádný výběr</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist kein Projekt gewählt</source>
+        <translation>nedostupné: není vybrán žádný projekt</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Zeile gewählt</source>
+        <translation>nedostupné: není vybrán žádný řádek</translation>
+    </message>
+    <message>
+        <source>ERP-Nummer für %1, Zeile %2</source>
+        <translation>Číslo ERP pro %1, řádek %2</translation>
+    </message>
+    <message>
+        <source>Bitte eine ERP-Nummer vergeben.
+
+Projekt: %1
+Zeile: %2
+</source>
+        <translation>Prosíme o přidělení čísla ERP.
+
+Projekt: %1
+Řádek: %2
+</translation>
+    </message>
+    <message>
+        <source>Es konnte keine Mail begonnen werden.</source>
+        <translation>E-mail se nepodařilo založit.</translation>
+    </message>
+    <message>
+        <source>Auf diesem Rechner ist kein Mailprogramm eingerichtet. Die Anfrage lautet:
+
+%1: %2</source>
+        <translation>Na tomto počítači není nastaven žádný poštovní program. Žádost zní:
+
+%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Question</name>
+    <message>
+        <source>Frage</source>
+        <translation>Otázka</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Upozornění</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Ja</source>
+        <translation>&amp;Ano</translation>
+    </message>
+    <message>
+        <source>&amp;Nein</source>
+        <translation>&amp;Ne</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Zrušit</translation>
+    </message>
+</context>
+<context>
+    <name>RangeCommands</name>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Řádek %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <translation>
+            <numerusform>%n řádek je potvrzen, ačkoli hodnoty jeho rozsahu nemají nový řádek.</numerusform>
+            <numerusform>%n řádky jsou potvrzeny, ačkoli hodnoty jejich rozsahů nemají nový řádek.</numerusform>
+            <numerusform>%n řádků je potvrzeno, ačkoli hodnoty jejich rozsahů nemají nový řádek.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Zurücknehmen</source>
+        <translation>&amp;Vzít zpět</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem bestätigen</source>
+        <translation>&amp;Přesto potvrdit</translation>
+    </message>
+</context>
+<context>
+    <name>RangeDock</name>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n řádek</numerusform>
+            <numerusform>%1: %n řádky</numerusform>
+            <numerusform>%1: %n řádků</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Die Zeile hat keine Wertebereichszuordnung.</source>
+        <translation>Řádek nemá přiřazení rozsahů hodnot.</translation>
+    </message>
+    <message>
+        <source>%1: %2 von %3 Werten zugeordnet</source>
+        <translation>%1: přiřazené hodnoty: %2 z %3</translation>
+    </message>
+    <message>
+        <source>fehlend: %1</source>
+        <translation>chybějící: %1</translation>
+    </message>
+    <message>
+        <source>mehrfach: %1</source>
+        <translation>vícekrát: %1</translation>
+    </message>
+    <message>
+        <source>nicht im alten Bereich: %1</source>
+        <translation>mimo starý rozsah: %1</translation>
+    </message>
+    <message>
+        <source>Wertebereich der Zeile</source>
+        <translation>Rozsah hodnot řádku</translation>
+    </message>
+</context>
+<context>
+    <name>ReasonDialog</name>
+    <message>
+        <source>Grund der Entscheidung</source>
+        <translation>Důvod rozhodnutí</translation>
+    </message>
+    <message>
+        <source>&amp;Für:</source>
+        <translation>&amp;Pro:</translation>
+    </message>
+    <message>
+        <source>&amp;Grund:</source>
+        <translation>&amp;Důvod:</translation>
+    </message>
+    <message>
+        <source>eingestellt</source>
+        <translation>vyřazeno z nabídky</translation>
+    </message>
+    <message>
+        <source>zusammengelegt mit einem anderen Teil</source>
+        <translation>sloučeno s jiným dílem</translation>
+    </message>
+    <message>
+        <source>aufgeteilt in mehrere Teile</source>
+        <translation>rozděleno na několik dílů</translation>
+    </message>
+    <message>
+        <source>in einen anderen Katalog verschoben</source>
+        <translation>přesunuto do jiného katalogu</translation>
+    </message>
+    <message>
+        <source>noch nicht geprüft</source>
+        <translation>ještě nezkontrolováno</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Wiederherstellung</source>
+        <translation>Obnovení</translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
+        <translation>K %1 existuje práce, která nebyla uložena: kroky: %2, řádky: %3, projekty: %4, naposledy „%5“. Pochází od %6.</translation>
+    </message>
+    <message>
+        <source>Gespeichert</source>
+        <translation>Uloženo</translation>
+    </message>
+    <message>
+        <source>Wiederhergestellt</source>
+        <translation>Obnoveno</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Stav k</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projekty</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Řádky</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Potvrzené</translation>
+    </message>
+    <message>
+        <source>Zu überprüfen</source>
+        <translation>Ke kontrole</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Nenalezeno</translation>
+    </message>
+    <message>
+        <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
+        <translation>Uložená verze je novější než vše, co lze obnovit.</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>O&amp;bnovit</translation>
+    </message>
+    <message>
+        <source>Mit &amp;späteren Änderungen (%1)</source>
+        <translation>S &amp;pozdějšími změnami (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Gespeicherten Stand öffnen</source>
+        <translation>&amp;Otevřít uloženou verzi</translation>
+    </message>
+</context>
+<context>
+    <name>ReleaseCommands</name>
+    <message>
+        <source>Tabellen werden importiert</source>
+        <translation>Importují se tabulky</translation>
+    </message>
+    <message>
+        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
+        <translation>Tabulky: %1, řádky: %2; nové %3, změněné %4, nezměněné %5, neimportované %6</translation>
+    </message>
+    <message>
+        <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
+        <translation>%1 už nemá soubor CSV a zůstává, jak je</translation>
+    </message>
+    <message>
+        <source>In dem Ordner ist keine CSV-Datei; es wurde nichts importiert</source>
+        <translation>Ve složce není žádný soubor CSV; nic nebylo importováno</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Přerušeno: %1</translation>
+    </message>
+    <message>
+        <source>Nicht alles geschrieben: %1</source>
+        <translation>Nebylo zapsáno vše: %1</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 nelze zapsat.</translation>
+    </message>
+    <message>
+        <source>Zeilen exportieren</source>
+        <translation>Export řádků</translation>
+    </message>
+    <message>
+        <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+        <translation>Tabulky (*.csv);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>Zeilen werden exportiert</source>
+        <translation>Exportují se řádky</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts exportiert</source>
+        <translation>Přerušeno, nic nebylo exportováno</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen nach %2 exportiert</source>
+        <translation>Řádky (%1) exportovány do %2</translation>
+    </message>
+    <message>
+        <source>Bericht schreiben</source>
+        <translation>Zapsat zprávu</translation>
+    </message>
+    <message>
+        <source>PDF-Dateien (*.pdf);;HTML-Seiten (*.html);;Alle Dateien (*)</source>
+        <translation>Soubory PDF (*.pdf);;Stránky HTML (*.html);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>Bericht wird erstellt</source>
+        <translation>Vytváří se zpráva</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht geschrieben</source>
+        <translation>Přerušeno, žádná zpráva nebyla zapsána</translation>
+    </message>
+    <message>
+        <source>Seiten werden gesetzt</source>
+        <translation>Sázejí se stránky</translation>
+    </message>
+    <message>
+        <source>Bericht nach %1 geschrieben</source>
+        <translation>Zpráva zapsána do %1</translation>
+    </message>
+</context>
+<context>
+    <name>ReplacementsDialog</name>
+    <message>
+        <source>Vereinbarte Ersetzungen</source>
+        <translation>Dohodnuté náhrady</translation>
+    </message>
+    <message>
+        <source>im ganzen Katalogstand</source>
+        <translation>v celé verzi katalogu</translation>
+    </message>
+    <message>
+        <source>&amp;Vereinbaren</source>
+        <translation>&amp;Dohodnout</translation>
+    </message>
+    <message>
+        <source>&amp;Zurückziehen</source>
+        <translation>&amp;Odvolat</translation>
+    </message>
+    <message>
+        <source>&amp;Belege</source>
+        <translation>Do&amp;klady</translation>
+    </message>
+    <message>
+        <source>&amp;Übernehmen</source>
+        <translation>&amp;Převzít</translation>
+    </message>
+    <message>
+        <source>Eine Ersetzung sagt, dass ein alter Wert für einen neuen steht. Sie macht Vorschläge, bestätigt aber nichts.</source>
+        <translation>Náhrada říká, že stará hodnota odpovídá nové. Vytváří návrhy, ale nic nepotvrzuje.</translation>
+    </message>
+    <message>
+        <source>vereinbart</source>
+        <translation>dohodnuto</translation>
+    </message>
+    <message>
+        <source>vereinbart in %1</source>
+        <translation>dohodnuto v %1</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen</source>
+        <translation>Čtou se tabulky</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dafür</source>
+        <translation>
+            <numerusform>%n řádek pro</numerusform>
+            <numerusform>%n řádky pro</numerusform>
+            <numerusform>%n řádků pro</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dagegen</source>
+        <translation>
+            <numerusform>%n řádek proti</numerusform>
+            <numerusform>%n řádky proti</numerusform>
+            <numerusform>%n řádků proti</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ReportTexts</name>
+    <message>
+        <source>Mapping-Bericht: %1</source>
+        <translation>Zpráva o mapování: %1</translation>
+    </message>
+    <message>
+        <source>Katalogstand %1 nach %2</source>
+        <translation>Verze katalogu %1 na %2</translation>
+    </message>
+    <message>
+        <source>Erstellt am %1</source>
+        <translation>Vytvořeno %1</translation>
+    </message>
+    <message>
+        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
+        <translation>Vyřízeno: %1 z %2 řádků; otevřené: %3.</translation>
+    </message>
+    <message>
+        <source>Stand der Zeilen</source>
+        <translation>Stav řádků</translation>
+    </message>
+    <message>
+        <source>Nach Ordnern, mit allem darunter</source>
+        <translation>Podle složek, se vším pod nimi</translation>
+    </message>
+    <message>
+        <source>Nach Projekten</source>
+        <translation>Podle projektů</translation>
+    </message>
+    <message>
+        <source>Warum Zeilen offen sind</source>
+        <translation>Proč jsou řádky otevřené</translation>
+    </message>
+    <message>
+        <source>Worin sich offene Zeilen von ihren Vorschlägen unterscheiden</source>
+        <translation>V čem se otevřené řádky liší od svých návrhů</translation>
+    </message>
+    <message>
+        <source>Stichproben</source>
+        <translation>Náhodné vzorky</translation>
+    </message>
+    <message>
+        <source>Wer was entschieden hat</source>
+        <translation>Kdo co rozhodl</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen</source>
+        <translation>Otevřené řádky</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Nachfolger</source>
+        <translation>Řádky bez nástupce</translation>
+    </message>
+    <message>
+        <source>Was nicht gelesen werden konnte</source>
+        <translation>Co se nepodařilo přečíst</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Řádky</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Potvrzené</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigt</source>
+        <translation>Potvrzeno jako neplatné</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet</source>
+        <translation>Přiřazeno s jistotou</translation>
+    </message>
+    <message>
+        <source>Zu prüfen</source>
+        <translation>Ke kontrole</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel</source>
+        <translation>Bez cíle</translation>
+    </message>
+    <message>
+        <source>Im Konflikt</source>
+        <translation>V konfliktu</translation>
+    </message>
+    <message>
+        <source>Ordner</source>
+        <translation>Složka</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Řádek</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Označení</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Důvod</translation>
+    </message>
+    <message>
+        <source>Unterschiede</source>
+        <translation>Rozdíly</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projekty</translation>
+    </message>
+    <message>
+        <source>Wahrscheinlichkeit</source>
+        <translation>Pravděpodobnost</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Výjimky</translation>
+    </message>
+    <message>
+        <source>Beispiele</source>
+        <translation>Příklady</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kdo</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Beurteilt</source>
+        <translation>Posouzeno</translation>
+    </message>
+    <message>
+        <source>Richtig</source>
+        <translation>Správně</translation>
+    </message>
+    <message>
+        <source>Höchstens falsch (zu 95 % sicher)</source>
+        <translation>Chybných nejvýše (s jistotou 95 %)</translation>
+    </message>
+    <message>
+        <source>abgelehnt</source>
+        <translation>odmítnut</translation>
+    </message>
+    <message>
+        <source>Tabelle nicht lesbar</source>
+        <translation>tabulka není čitelná</translation>
+    </message>
+    <message>
+        <source>nicht zu vergleichen</source>
+        <translation>nelze porovnat</translation>
+    </message>
+    <message>
+        <source>kein Unterschied</source>
+        <translation>žádný rozdíl</translation>
+    </message>
+    <message>
+        <source>keine</source>
+        <translation>žádné</translation>
+    </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>a dalších %1</translation>
+    </message>
+    <message>
+        <source>zwei haben verschieden entschieden</source>
+        <translation>dva rozhodli různě</translation>
+    </message>
+    <message>
+        <source>ein anderer entscheidet</source>
+        <translation>rozhoduje někdo jiný</translation>
+    </message>
+    <message>
+        <source>eine Tabelle ist nicht lesbar</source>
+        <translation>tabulka není čitelná</translation>
+    </message>
+    <message>
+        <source>Bedingung oder Formel scheitert</source>
+        <translation>podmínka nebo vzorec selhává</translation>
+    </message>
+    <message>
+        <source>kein Ziel ist zuständig</source>
+        <translation>žádný cíl není příslušný</translation>
+    </message>
+    <message>
+        <source>eine Spalte fehlt</source>
+        <translation>chybí sloupec</translation>
+    </message>
+    <message>
+        <source>mehrere Zeilen sind gleich</source>
+        <translation>několik řádků je stejných</translation>
+    </message>
+    <message>
+        <source>zu unähnlich</source>
+        <translation>příliš nepodobné</translation>
+    </message>
+    <message>
+        <source>gleich, nur nicht bestätigt</source>
+        <translation>stejné, jen nepotvrzené</translation>
+    </message>
+</context>
+<context>
+    <name>RepositoryBox</name>
+    <message>
+        <source>Zielprojekte aus dem Reposi&amp;tory lesen</source>
+        <translation>Číst &amp;cílové projekty z repozitáře</translation>
+    </message>
+    <message>
+        <source>Katalog = svn://Server:Port/Pfad</source>
+        <translation>Katalog = svn://server:port/cesta</translation>
+    </message>
+    <message>
+        <source>Je Zeile ein Katalog. Ohne Zeile ist der Name des Katalogs zugleich der seines Servers.</source>
+        <translation>Na každém řádku jeden katalog. Bez řádku je název katalogu zároveň názvem jeho serveru.</translation>
+    </message>
+    <message>
+        <source>die neueste</source>
+        <translation>nejnovější</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Serv&amp;er:</source>
+        <translation>Ser&amp;ver:</translation>
+    </message>
+    <message>
+        <source>Revisi&amp;on:</source>
+        <translation>Revi&amp;ze:</translation>
+    </message>
+    <message>
+        <source>&amp;Platz auf dieser Maschine:</source>
+        <translation>&amp;Místo na tomto počítači:</translation>
+    </message>
+    <message>
+        <source>&amp;Warten auf den Server:</source>
+        <translation>Čekání &amp;na server:</translation>
+    </message>
+    <message>
+        <source>Server, Zeile %1: &quot;%2&quot; ist nicht von der Form &quot;Katalog = svn://Server:Port/Pfad&quot;.</source>
+        <translation>Server, řádek %1: &quot;%2&quot; nemá tvar &quot;Katalog = svn://server:port/cesta&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>RepositoryLoginDialog</name>
+    <message>
+        <source>Anmeldung am Repository</source>
+        <translation>Přihlášení k repozitáři</translation>
+    </message>
+    <message>
+        <source>%1 verlangt eine Anmeldung.</source>
+        <translation>%1 vyžaduje přihlášení.</translation>
+    </message>
+    <message>
+        <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
+        <translation>Jméno a heslo platí do konce programu a neukládají se.</translation>
+    </message>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Uživatel:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Heslo:</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewCommands</name>
+    <message>
+        <source>Die Zeile %1 kann nicht gezeigt werden</source>
+        <translation>Řádek %1 nelze zobrazit</translation>
+    </message>
+    <message>
+        <source>Keine Zeile mehr offen</source>
+        <translation>Žádný řádek už není otevřený</translation>
+    </message>
+    <message>
+        <source>Die Tabellen sind noch nicht verglichen</source>
+        <translation>Tabulky ještě nejsou porovnány</translation>
+    </message>
+    <message numerus="yes">
+        <source>Von vorn: %n Zeile(n) offen</source>
+        <translation>
+            <numerusform>Od začátku: %n otevřený řádek</numerusform>
+            <numerusform>Od začátku: %n otevřené řádky</numerusform>
+            <numerusform>Od začátku: %n otevřených řádků</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach ihrer Unsicherheit</source>
+        <translation>Otevřené řádky přicházejí podle nejistoty</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach ihrem Ort</source>
+        <translation>Otevřené řádky přicházejí podle místa</translation>
+    </message>
+    <message>
+        <source>Die Zeile gehört nicht zum gewählten Muster</source>
+        <translation>Řádek nepatří k vybranému vzoru</translation>
+    </message>
+    <message>
+        <source>Zeile %1 herausgenommen</source>
+        <translation>Řádek %1 vyjmut</translation>
+    </message>
+    <message>
+        <source>Es ist kein Muster gewählt, oder alle Zeilen sind entschieden</source>
+        <translation>Není vybrán žádný vzor, nebo jsou všechny jeho řádky rozhodnuty</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n řádek</numerusform>
+            <numerusform>%n řádky</numerusform>
+            <numerusform>%n řádků</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en) bestätigen?</source>
+        <translation>
+            <numerusform>potvrdit v %n projektu?</numerusform>
+            <numerusform>potvrdit ve %n projektech?</numerusform>
+            <numerusform>potvrdit v %n projektech?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Der Schritt kann zurückgenommen werden.</source>
+        <translation>Tento krok lze vzít zpět.</translation>
+    </message>
+    <message>
+        <source>&amp;Bestätigen</source>
+        <translation>&amp;Potvrdit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>Potvrzen %n řádek</numerusform>
+            <numerusform>Potvrzeny %n řádky</numerusform>
+            <numerusform>Potvrzeno %n řádků</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Einen Kandidaten %1 gibt es nicht</source>
+        <translation>Kandidát %1 neexistuje</translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 bestätigt</source>
+        <translation>Řádek %1 → %2 potvrzen</translation>
+    </message>
+    <message>
+        <source>Ersetzungen vereinbart: %1</source>
+        <translation>Dohodnuté náhrady: %1</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Muster, oder markieren Sie offene Zeilen</source>
+        <translation>Vyberte vzor nebo označte otevřené řádky</translation>
+    </message>
+    <message>
+        <source>Stichprobe</source>
+        <translation>Náhodný vzorek</translation>
+    </message>
+    <message>
+        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
+        <translation>Tolik z %1 řádků se vylosuje a posoudí jednotlivě. %2 správných říká s jistotou 95 %, že méně než 5 % je chybných, %3 správných méně než 1 %.</translation>
+    </message>
+    <message>
+        <source>&amp;Ziehen</source>
+        <translation>&amp;Losovat</translation>
+    </message>
+    <message>
+        <source>Stichprobe, Zeile %1 von %2: + richtig, − falsch</source>
+        <translation>Vzorek, řádek %1 z %2: + správně, − chybně</translation>
+    </message>
+    <message>
+        <source>Es läuft keine Stichprobe</source>
+        <translation>Žádný vzorek neprobíhá</translation>
+    </message>
+    <message>
+        <source>Die Zeilen der Stichprobe sind alle schon entschieden</source>
+        <translation>Všechny řádky vzorku jsou už rozhodnuty</translation>
+    </message>
+    <message>
+        <source>%1 von %2 richtig</source>
+        <translation>správně %1 z %2</translation>
+    </message>
+    <message>
+        <source>Stichprobe abgelehnt, %1; beurteilt von %2</source>
+        <translation>Vzorek odmítnut, %1; posoudil(a) %2</translation>
+    </message>
+    <message>
+        <source>alle Zeilen beurteilt</source>
+        <translation>všechny řádky posouzeny</translation>
+    </message>
+    <message>
+        <source>mit 95 % Sicherheit weniger als %1 % falsch</source>
+        <translation>s jistotou 95 % méně než %1 % chybných</translation>
+    </message>
+    <message>
+        <source>Stichprobe: %1, %2</source>
+        <translation>Vzorek: %1, %2</translation>
+    </message>
+    <message>
+        <source>beurteilt von %1</source>
+        <translation>posoudil(a) %1</translation>
+    </message>
+    <message>
+        <source>dort war die falsche</source>
+        <translation>tam byl ten chybný</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist falsch: die Stichprobe ist zu Ende</source>
+        <translation>Řádek %1 je chybný: vzorek končí</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Řádek %1 v %2 je chybný. Množina je rozdělena podle rozdílů; se kterou částí pokračovat?</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>Po&amp;kračovat</translation>
+    </message>
+    <message>
+        <source>&amp;Falsche Zeile ansehen</source>
+        <translation>Prohlédnout &amp;chybný řádek</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptConsole</name>
+    <message>
+        <source>Skriptkonsole</source>
+        <translation>Konzole skriptů</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Skripte</source>
+        <translation>Výstup skriptů</translation>
+    </message>
+    <message>
+        <source>Zeile eines Skripts</source>
+        <translation>Řádek skriptu</translation>
+    </message>
+    <message>
+        <source>Eine Zeile JavaScript. Eingabe führt sie aus, Tab ergänzt, Auf und Ab blättern.</source>
+        <translation>Řádek JavaScriptu. Enter ho provede, Tab doplní, šipkami nahoru a dolů se listuje.</translation>
+    </message>
+    <message>
+        <source>Anhalten</source>
+        <translation>Zastavit</translation>
+    </message>
+    <message>
+        <source>Hält das laufende Skript an (Esc)</source>
+        <translation>Zastaví běžící skript (Esc)</translation>
+    </message>
+    <message>
+        <source>Leeren</source>
+        <translation>Vyprázdnit</translation>
+    </message>
+    <message>
+        <source>Löscht die Ausgabe</source>
+        <translation>Smaže výstup</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptDesk</name>
+    <message>
+        <source>Skript %1</source>
+        <translation>Skript %1</translation>
+    </message>
+    <message>
+        <source>(Konsole)</source>
+        <translation>(konzole)</translation>
+    </message>
+    <message>
+        <source>Fertig</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>Fertig, Status %1</source>
+        <translation>Hotovo, stav %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Řádek %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptEditor</name>
+    <message>
+        <source>Sie ist zu groß.</source>
+        <translation>Je příliš velký.</translation>
+    </message>
+    <message>
+        <source>Sie ist kein Text in UTF-8.</source>
+        <translation>Není to text v UTF-8.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelesen werden. %2</source>
+        <translation>%1 nelze přečíst. %2</translation>
+    </message>
+    <message>
+        <source>Skript öffnen</source>
+        <translation>Otevřít skript</translation>
+    </message>
+    <message>
+        <source>Skripte (*.js);;Alle Dateien (*)</source>
+        <translation>Skripty (*.js);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>Skript speichern</source>
+        <translation>Uložit skript</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden. %2</source>
+        <translation>%1 nelze zapsat. %2</translation>
+    </message>
+    <message>
+        <source>Das Skript ist nicht gespeichert.</source>
+        <translation>Skript není uložen.</translation>
+    </message>
+    <message>
+        <source>(ohne Namen)</source>
+        <translation>(beze jména)</translation>
+    </message>
+    <message>
+        <source>Neues Skript</source>
+        <translation>Nový skript</translation>
+    </message>
+    <message>
+        <source>Skript</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>Öffnen …</source>
+        <translation>Otevřít …</translation>
+    </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Uložit</translation>
+    </message>
+    <message>
+        <source>Ausführen</source>
+        <translation>Spustit</translation>
+    </message>
+    <message>
+        <source>Anhalten</source>
+        <translation>Zastavit</translation>
+    </message>
+    <message>
+        <source>Argumente:</source>
+        <translation>Argumenty:</translation>
+    </message>
+    <message>
+        <source>Text des Skripts</source>
+        <translation>Text skriptu</translation>
+    </message>
+    <message>
+        <source>Argumente</source>
+        <translation>Argumenty</translation>
+    </message>
+</context>
+<context>
+    <name>SessionOwner</name>
+    <message>
+        <source>an</source>
+        <translation>na</translation>
+    </message>
+    <message>
+        <source>(Prozess %1)</source>
+        <translation>(proces %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SessionRecovery</name>
+    <message>
+        <source>Das Journal %1 kann nicht gelesen werden (%2).</source>
+        <translation>Žurnál %1 nelze přečíst (%2).</translation>
+    </message>
+    <message>
+        <source>Hinter der letzten abgeschlossenen Sitzung ist das Journal %1 nicht lesbar. Was dort stand, ist nicht bekannt; das Journal wird aufgehoben.</source>
+        <translation>Za poslední ukončenou relací není žurnál %1 čitelný. Co tam bylo, není známo; žurnál se zachová.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>Žurnál %1 je poškozen. Za poškozeným místem se ještě hodí změn: %2, už se nehodí: %3; další mohou chybět. Žurnál se zachová.</translation>
+    </message>
+    <message>
+        <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
+        <translation>Konec žurnálu %1 není čitelný. Poslední změna může chybět.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <translation>Žurnál %1 je poškozen nebo se nehodí k mapovacímu souboru. Chybí nejméně %2 pozdějších změn; žurnál se zachová.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Nach einer Entscheidung weiter zur nä&amp;chsten offenen Zeile</source>
+        <translation>Po rozhodnutí přejít na další &amp;otevřený řádek</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>Wie der Desktop</source>
+        <translation>Jako prostředí</translation>
+    </message>
+    <message>
+        <source>Hell</source>
+        <translation>Světlé</translation>
+    </message>
+    <message>
+        <source>Dunkel</source>
+        <translation>Tmavé</translation>
+    </message>
+    <message>
+        <source>nie</source>
+        <translation>nikdy</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source>&amp;Sprache:</source>
+        <translation>&amp;Jazyk:</translation>
+    </message>
+    <message>
+        <source>&amp;Farben:</source>
+        <translation>&amp;Barvy:</translation>
+    </message>
+    <message>
+        <source>Sch&amp;riftgröße:</source>
+        <translation>Veli&amp;kost písma:</translation>
+    </message>
+    <message>
+        <source>Sicherungs&amp;kopie alle:</source>
+        <translation>Záložní kopie každýc&amp;h:</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommands</name>
+    <message>
+        <source>Das Mapping wird mit niemandem geteilt. Zuerst die gemeinsame Kopie wählen.</source>
+        <translation>Mapování se s nikým nesdílí. Nejprve zvolte společnou kopii.</translation>
+    </message>
+    <message>
+        <source>%1 gibt es schon, und es ist ein anderes Mapping. Eine andere Kopie wählen, oder die vorhandene in eine neue Datei holen.</source>
+        <translation>%1 už existuje a je to jiné mapování. Zvolte jinou kopii, nebo stávající načtěte do nového souboru.</translation>
+    </message>
+    <message>
+        <source>Andere haben seit der letzten Aktualisierung etwas veröffentlicht.</source>
+        <translation>Ostatní od poslední aktualizace něco zveřejnili.</translation>
+    </message>
+    <message>
+        <source>Zeilen in Konflikt werden nicht veröffentlicht: %1.</source>
+        <translation>Řádky v konfliktu se nezveřejňují: %1.</translation>
+    </message>
+    <message>
+        <source>Es gibt Änderungen in Ordnern anderer: %1.</source>
+        <translation>Jsou změny ve složkách ostatních: %1.</translation>
+    </message>
+    <message>
+        <source>Der Ordner ist schon vergeben: %1.</source>
+        <translation>Složka je už obsazena: %1.</translation>
+    </message>
+    <message>
+        <source>Gerade veröffentlicht jemand anderes (%1). Bitte gleich noch einmal versuchen.</source>
+        <translation>Právě zveřejňuje někdo jiný (%1). Zkuste to za chvíli znovu.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Kopie ist nicht erreichbar: %1. Die eigene Datei ist unverändert; später noch einmal versuchen.</source>
+        <translation>Společná kopie není dostupná: %1. Vlastní soubor je beze změny; zkuste to později znovu.</translation>
+    </message>
+    <message>
+        <source>Eine der Dateien ist kein lesbares Mapping: %1.</source>
+        <translation>Jeden ze souborů není čitelné mapování: %1.</translation>
+    </message>
+    <message>
+        <source>Es konnte nicht geschrieben werden: %1.</source>
+        <translation>Nepodařilo se zapsat: %1.</translation>
+    </message>
+    <message>
+        <source>Das ging nicht.</source>
+        <translation>To se nezdařilo.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Kopie wird gelesen</source>
+        <translation>Čte se společná kopie</translation>
+    </message>
+    <message>
+        <source>Geteilt über %1</source>
+        <translation>Sdíleno přes %1</translation>
+    </message>
+    <message>
+        <source>Änderungen der anderen werden geholt</source>
+        <translation>Načítají se změny ostatních</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts Neues</source>
+        <translation>Není nic nového</translation>
+    </message>
+    <message>
+        <source>Die Änderungen werden veröffentlicht</source>
+        <translation>Zveřejňují se změny</translation>
+    </message>
+    <message>
+        <source>Mapping bearbeitet</source>
+        <translation>Mapování upraveno</translation>
+    </message>
+    <message>
+        <source>Veröffentlicht, Stand %1</source>
+        <translation>Zveřejněno, stav %1</translation>
+    </message>
+    <message>
+        <source>Zuerst wird das übernommen. Danach kann veröffentlicht werden.</source>
+        <translation>Nejprve se převezme toto. Potom lze zveřejnit.</translation>
+    </message>
+    <message>
+        <source>A&amp;ktualisieren</source>
+        <translation>&amp;Aktualizovat</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem veröffentlichen</source>
+        <translation>&amp;Přesto zveřejnit</translation>
+    </message>
+    <message>
+        <source>Ordner übernehmen</source>
+        <translation>Převzít složky</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
+        <translation>Složky katalogu, oddělené čárkami; prázdné vrátí všechny:</translation>
+    </message>
+    <message>
+        <source>Über&amp;nehmen</source>
+        <translation>Pře&amp;vzít</translation>
+    </message>
+    <message>
+        <source>Die Ordner werden eingetragen</source>
+        <translation>Zapisují se složky</translation>
+    </message>
+    <message>
+        <source>Keine eigenen Ordner mehr</source>
+        <translation>Už žádné vlastní složky</translation>
+    </message>
+    <message>
+        <source>Eigene Ordner: %1</source>
+        <translation>Vlastní složky: %1</translation>
+    </message>
+    <message>
+        <source>(hier)</source>
+        <translation>(zde)</translation>
+    </message>
+    <message>
+        <source>hat es offen</source>
+        <translation>má otevřeno</translation>
+    </message>
+    <message>
+        <source>hat es nicht offen</source>
+        <translation>nemá otevřeno</translation>
+    </message>
+    <message>
+        <source>zuletzt %1</source>
+        <translation>naposledy %1</translation>
+    </message>
+    <message>
+        <source>Ordner %1</source>
+        <translation>složky %1</translation>
+    </message>
+    <message>
+        <source>Eigener Stand %1, neuester Stand %2</source>
+        <translation>Vlastní stav %1, nejnovější stav %2</translation>
+    </message>
+    <message>
+        <source>Andere haben etwas veröffentlicht.</source>
+        <translation>Ostatní něco zveřejnili.</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts Neues von anderen.</source>
+        <translation>Od ostatních není nic nového.</translation>
+    </message>
+    <message>
+        <source>Eigene Änderungen sind noch nicht veröffentlicht.</source>
+        <translation>Vlastní změny ještě nejsou zveřejněny.</translation>
+    </message>
+    <message>
+        <source>Gemeinsame Kopie: %1</source>
+        <translation>Společná kopie: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StatusArea</name>
+    <message>
+        <source>rückgängig</source>
+        <translation>zpět</translation>
+    </message>
+    <message>
+        <source>Alles entschieden</source>
+        <translation>Vše rozhodnuto</translation>
+    </message>
+    <message>
+        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Otevřené: &lt;a href=&quot;next&quot;&gt;řádky: %1&lt;/a&gt;, projekty: %2</translation>
+    </message>
+    <message>
+        <source>Zeilen, die noch eine Entscheidung brauchen</source>
+        <translation>Řádky, které ještě potřebují rozhodnutí</translation>
+    </message>
+    <message>
+        <source>Schreibgeschützt</source>
+        <translation>Jen pro čtení</translation>
+    </message>
+</context>
+<context>
+    <name>StatusProgress</name>
+    <message>
+        <source>Fortschritt</source>
+        <translation>Průběh</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
+        <translation>Přeruší probíhající práci; co je hotové, zůstane</translation>
+    </message>
+</context>
+<context>
+    <name>StepNotices</name>
+    <message>
+        <source>Die Änderung in %1 wirkt erst, wenn die Zeilen erneut zugewiesen werden. Dabei bleibt nur erhalten, was bestätigt ist.</source>
+        <translation>Změna v %1 se projeví, až se řádky přiřadí znovu. Zachová se přitom jen to, co je potvrzeno.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <translation>
+            <numerusform>%n řádek v %1 byl potvrzen jako neplatný a už není: %2</numerusform>
+            <numerusform>%n řádky v %1 byly potvrzeny jako neplatné a už nejsou: %2</numerusform>
+            <numerusform>%n řádků v %1 bylo potvrzeno jako neplatné a už není: %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, &quot;Formel...&quot; wählen oder die Zeile löschen und neu eingeben.</source>
+        <translation>V %1 zůstávají ignorované proměnné: %2. Chcete-li některou znovu přiřadit, zvolte &quot;Vzorec...&quot; nebo řádek smažte a zadejte znovu.</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <translation>Odpadla podmínka cílového projektu %1 v %2.</translation>
+    </message>
+    <message>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <translation>Odpadlo mapování proměnných cílového projektu %1 v %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <translation>
+            <numerusform>Řádek %1 → %2 v %3: cílový řádek má i %n jiný řádek: %4</numerusform>
+            <numerusform>Řádek %1 → %2 v %3: cílový řádek mají i %n jiné řádky: %4</numerusform>
+            <numerusform>Řádek %1 → %2 v %3: cílový řádek má i %n jiných řádků: %4</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <translation>
+            <numerusform>%n řádek v %1 sdílí svůj cílový řádek s nově přiřazenými: %2</numerusform>
+            <numerusform>%n řádky v %1 sdílejí svůj cílový řádek s nově přiřazenými: %2</numerusform>
+            <numerusform>%n řádků v %1 sdílí svůj cílový řádek s nově přiřazenými: %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepSummary</name>
+    <message numerus="yes">
+        <source>%n Konflikt(e) angenommen</source>
+        <translation>
+            <numerusform>přijat %n konflikt</numerusform>
+            <numerusform>přijaty %n konflikty</numerusform>
+            <numerusform>přijato %n konfliktů</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>Potvrzen %n řádek</numerusform>
+            <numerusform>Potvrzeny %n řádky</numerusform>
+            <numerusform>Potvrzeno %n řádků</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n řádek potvrzen jako neplatný</numerusform>
+            <numerusform>%n řádky potvrzeny jako neplatné</numerusform>
+            <numerusform>%n řádků potvrzeno jako neplatné</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) zugeordnet</source>
+        <translation>
+            <numerusform>přiřazen %n řádek</numerusform>
+            <numerusform>přiřazeny %n řádky</numerusform>
+            <numerusform>přiřazeno %n řádků</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <translation>
+            <numerusform>přiřazení %n řádku zrušeno</numerusform>
+            <numerusform>přiřazení %n řádků zrušeno</numerusform>
+            <numerusform>přiřazení %n řádků zrušeno</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>přiřazení rozsahů hodnot %n řádku změněno</numerusform>
+            <numerusform>přiřazení rozsahů hodnot %n řádků změněno</numerusform>
+            <numerusform>přiřazení rozsahů hodnot %n řádků změněno</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <translation>
+            <numerusform>konflikt %n řádku vyřešen</numerusform>
+            <numerusform>konflikt %n řádků vyřešen</numerusform>
+            <numerusform>konflikt %n řádků vyřešen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>změněn %n řádek</numerusform>
+            <numerusform>změněny %n řádky</numerusform>
+            <numerusform>změněno %n řádků</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 bestätigt</source>
+        <translation>řádek %1 → %2 potvrzen</translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 zugeordnet</source>
+        <translation>řádek %1 → %2 přiřazen</translation>
+    </message>
+    <message>
+        <source>%1 (vorher %2)</source>
+        <translation>%1 (předtím %2)</translation>
+    </message>
+    <message>
+        <source>Zeile %1 als ausgelaufen bestätigt (vorher %2)</source>
+        <translation>řádek %1 potvrzen jako neplatný (předtím %2)</translation>
+    </message>
+    <message>
+        <source>Zeile %1 als ausgelaufen bestätigt</source>
+        <translation>řádek %1 potvrzen jako neplatný</translation>
+    </message>
+    <message>
+        <source>Zuordnung von Zeile %1 aufgehoben (vorher %2)</source>
+        <translation>přiřazení řádku %1 zrušeno (předtím %2)</translation>
+    </message>
+    <message>
+        <source>Projekt hinzugefügt</source>
+        <translation>Projekt přidán</translation>
+    </message>
+    <message>
+        <source>Projekt entfernt</source>
+        <translation>Projekt odebrán</translation>
+    </message>
+    <message>
+        <source>Zielprojekt hinzugefügt</source>
+        <translation>Cílový projekt přidán</translation>
+    </message>
+    <message>
+        <source>Zielprojekt entfernt</source>
+        <translation>Cílový projekt odebrán</translation>
+    </message>
+    <message>
+        <source>Reihenfolge der Zielprojekte geändert</source>
+        <translation>Pořadí cílových projektů změněno</translation>
+    </message>
+    <message>
+        <source>Bedingungen geändert</source>
+        <translation>Podmínky změněny</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung geändert</source>
+        <translation>Mapování proměnných změněno</translation>
+    </message>
+    <message>
+        <source>Versionen geändert</source>
+        <translation>Verze změněny</translation>
+    </message>
+    <message>
+        <source>Status geändert</source>
+        <translation>Stav změněn</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 v %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 v %n projektu</numerusform>
+            <numerusform>%1 ve %n projektech</numerusform>
+            <numerusform>%1 v %n projektech</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TourOverlay</name>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Zpět</translation>
+    </message>
+    <message>
+        <source>&amp;Überspringen</source>
+        <translation>&amp;Přeskočit</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>&amp;Další</translation>
+    </message>
+    <message>
+        <source>&amp;Fertig</source>
+        <translation>&amp;Hotovo</translation>
+    </message>
+</context>
+<context>
+    <name>ValueRangeCheck</name>
+    <message>
+        <source>%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form {NAME=WERT} -&gt; Zeilennummer: &quot;%4&quot;. Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, řádek %2: položka %3 přiřazení rozsahů hodnot nemá tvar {NAME=HODNOTA} -&gt; číslo řádku: &quot;%4&quot;. Opravte ji nebo rozložte znovu.</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat kein Zielprojekt. Bitte zuordnen oder den Text leeren.</source>
+        <translation>%1, řádek %2: přiřazení rozsahů hodnot uvádí řádek %3, ale řádek nemá cílový projekt. Přiřaďte ho nebo text vyprázdněte.</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht gibt. Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, řádek %2: přiřazení rozsahů hodnot uvádí řádek %3, který v %4 neexistuje. Opravte ho nebo rozložte znovu.</translation>
+    </message>
+    <message>
+        <source>%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte prüfen (%3).</source>
+        <translation>%1: tabulku cílového projektu %2 nelze přečíst, jeho přiřazení rozsahů hodnot nejsou zkontrolována. Zkontrolujte adresář cílových projektů (%3).</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen werden geprüft</source>
+        <translation>Kontrolují se přiřazení rozsahů hodnot</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <translation>
+            <numerusform>Zkontrolováno %n přiřazení rozsahů hodnot</numerusform>
+            <numerusform>Zkontrolována %n přiřazení rozsahů hodnot</numerusform>
+            <numerusform>Zkontrolováno %n přiřazení rozsahů hodnot</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>keine Beanstandung</source>
+        <translation>bez výhrad</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Beanstandung(en)</source>
+        <translation>
+            <numerusform>%n výhrada</numerusform>
+            <numerusform>%n výhrady</numerusform>
+            <numerusform>%n výhrad</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (abgebrochen): %2.</source>
+        <translation>%1 (přerušeno): %2.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Katalogstände abgleichen</source>
+        <translation>Porovnání verzí katalogů</translation>
+    </message>
+    <message>
+        <source>Ein Katalog ist neu erschienen, und jede Zeile des alten Stands muss auf eine Zeile des neuen übertragen werden. Das Programm schlägt vor, Sie prüfen und bestätigen.</source>
+        <translation>Vyšel nový katalog a každý řádek staré verze je třeba převést na řádek nové. Program navrhuje, vy kontrolujete a potvrzujete.</translation>
+    </message>
+    <message>
+        <source>Zuletzt geöffnet:</source>
+        <translation>Naposledy otevřené:</translation>
+    </message>
+</context>
+<context>
+    <name>WorkbenchActions</name>
+    <message>
+        <source>&amp;Neues Mapping...</source>
+        <translation>Nové &amp;mapování...</translation>
+    </message>
+    <message>
+        <source>Legt aus zwei Katalogständen eine neue Mapping-Datei an</source>
+        <translation>Vytvoří nový mapovací soubor ze dvou verzí katalogu</translation>
+    </message>
+    <message>
+        <source>Ö&amp;ffnen...</source>
+        <translation>&amp;Otevřít...</translation>
+    </message>
+    <message>
+        <source>Öffnet eine Mapping-Datei</source>
+        <translation>Otevře mapovací soubor</translation>
+    </message>
+    <message>
+        <source>Be&amp;ispielkatalog öffnen</source>
+        <translation>Otevřít &amp;vzorový katalog</translation>
+    </message>
+    <message>
+        <source>Öffnet eine eigene Mapping-Datei für den mitgelieferten Beispielkatalog</source>
+        <translation>Otevře vlastní mapovací soubor pro přiložený vzorový katalog</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Uložit</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Änderungen in die Mapping-Datei</source>
+        <translation>Zapíše všechny změny do mapovacího souboru</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;unter...</source>
+        <translation>Uložit &amp;jako...</translation>
+    </message>
+    <message>
+        <source>Schreibt in eine andere Mapping-Datei</source>
+        <translation>Zapíše do jiného mapovacího souboru</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>&amp;Zavřít</translation>
+    </message>
+    <message>
+        <source>Schließt die Mapping-Datei</source>
+        <translation>Zavře mapovací soubor</translation>
+    </message>
+    <message>
+        <source>&amp;Katalogverzeichnisse...</source>
+        <translation>&amp;Adresáře katalogů...</translation>
+    </message>
+    <message>
+        <source>Wählt die Verzeichnisse des alten und des neuen Katalogstands</source>
+        <translation>Zvolí adresáře staré a nové verze katalogu</translation>
+    </message>
+    <message>
+        <source>&amp;Gemeinsame Kopie...</source>
+        <translation>&amp;Společná kopie...</translation>
+    </message>
+    <message>
+        <source>Wählt die Kopie, über die mehrere an diesem Mapping arbeiten</source>
+        <translation>Zvolí kopii, přes kterou na tomto mapování pracuje více lidí</translation>
+    </message>
+    <message>
+        <source>&amp;Aktualisieren</source>
+        <translation>&amp;Aktualizovat</translation>
+    </message>
+    <message>
+        <source>Übernimmt, was andere veröffentlicht haben</source>
+        <translation>Převezme, co zveřejnili ostatní</translation>
+    </message>
+    <message>
+        <source>&amp;Veröffentlichen</source>
+        <translation>&amp;Zveřejnit</translation>
+    </message>
+    <message>
+        <source>Gibt die eigenen Änderungen an die anderen weiter</source>
+        <translation>Předá vlastní změny ostatním</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner übernehmen...</source>
+        <translation>&amp;Převzít složky...</translation>
+    </message>
+    <message>
+        <source>Sagt den anderen, welche Ordner man selbst bearbeitet</source>
+        <translation>Sdělí ostatním, které složky sami upravujete</translation>
+    </message>
+    <message>
+        <source>&amp;Wer arbeitet woran</source>
+        <translation>&amp;Kdo na čem pracuje</translation>
+    </message>
+    <message>
+        <source>Zeigt, wer das Mapping offen hat und welche Ordner wem gehören</source>
+        <translation>Ukáže, kdo má mapování otevřené a komu které složky patří</translation>
+    </message>
+    <message>
+        <source>Tabellen i&amp;mportieren...</source>
+        <translation>&amp;Importovat tabulky...</translation>
+    </message>
+    <message>
+        <source>Macht aus einem Ordner mit CSV-Dateien Projekte eines Katalogs</source>
+        <translation>Vytvoří ze složky se soubory CSV projekty katalogu</translation>
+    </message>
+    <message>
+        <source>Zeilen e&amp;xportieren...</source>
+        <translation>&amp;Exportovat řádky...</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Zeilen des Stands mit ihren Zuordnungen in eine CSV-Datei</source>
+        <translation>Zapíše všechny řádky verze s jejich přiřazeními do souboru CSV</translation>
+    </message>
+    <message>
+        <source>Be&amp;richt...</source>
+        <translation>Zp&amp;ráva...</translation>
+    </message>
+    <message>
+        <source>Schreibt als PDF oder HTML, wie weit der Stand ist und warum Zeilen offen sind</source>
+        <translation>Zapíše jako PDF nebo HTML, jak daleko verze je a proč jsou řádky otevřené</translation>
+    </message>
+    <message>
+        <source>&amp;Beenden</source>
+        <translation>&amp;Konec</translation>
+    </message>
+    <message>
+        <source>Beendet das Programm</source>
+        <translation>Ukončí program</translation>
+    </message>
+    <message>
+        <source>&amp;Rückgängig</source>
+        <translation>Zpě&amp;t</translation>
+    </message>
+    <message>
+        <source>Nimmt den letzten Schritt zurück</source>
+        <translation>Vezme zpět poslední krok</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>Zno&amp;vu</translation>
+    </message>
+    <message>
+        <source>Führt den zurückgenommenen Schritt wieder aus</source>
+        <translation>Provede znovu krok vzatý zpět</translation>
+    </message>
+    <message>
+        <source>Zeilen &amp;bestätigen...</source>
+        <translation>Potv&amp;rdit řádky...</translation>
+    </message>
+    <message>
+        <source>Bestätigt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt</source>
+        <translation>Potvrdí v jednom kroku přiřazení označených nebo všech zobrazených řádků</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Ziel als aus&amp;gelaufen bestätigen...</source>
+        <translation>Potvrdit řádky &amp;bez cíle jako neplatné...</translation>
+    </message>
+    <message>
+        <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>
+        <translation>Z označených nebo všech zobrazených řádků potvrdí jako neplatné ty bez cíle</translation>
+    </message>
+    <message>
+        <source>Zuordnungen &amp;aufheben...</source>
+        <translation>Zr&amp;ušit přiřazení...</translation>
+    </message>
+    <message>
+        <source>Hebt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt auf</source>
+        <translation>Zruší v jednom kroku přiřazení označených nebo všech zobrazených řádků</translation>
+    </message>
+    <message>
+        <source>Zuordnungen aufheben und bestä&amp;tigen...</source>
+        <translation>Zrušit přiřazení &amp;a potvrdit...</translation>
+    </message>
+    <message>
+        <source>Die markierten oder alle gezeigten Zeilen sind ausgelaufen: hebt auf und bestätigt in einem Schritt</source>
+        <translation>Označené nebo všechny zobrazené řádky jsou neplatné: zruší přiřazení a potvrdí v jednom kroku</translation>
+    </message>
+    <message>
+        <source>Alle Projekte &amp;zuordnen...</source>
+        <translation>&amp;Přiřadit všechny projekty...</translation>
+    </message>
+    <message>
+        <source>Sucht für alle Zeilen des Katalogs Zuordnungen; Bestätigtes bleibt</source>
+        <translation>Hledá přiřazení pro všechny řádky katalogu; potvrzené zůstane</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen &amp;prüfen</source>
+        <translation>Zkontrolovat přiřazení rozsahů &amp;hodnot</translation>
+    </message>
+    <message>
+        <source>Vergleicht alle Wertebereichstexte mit den Tabellen der Zielprojekte</source>
+        <translation>Porovná všechny texty rozsahů hodnot s tabulkami cílových projektů</translation>
+    </message>
+    <message>
+        <source>&amp;Skript...</source>
+        <translation>&amp;Skript...</translation>
+    </message>
+    <message>
+        <source>Öffnet ein Fenster, in dem Skripte geschrieben und ausgeführt werden</source>
+        <translation>Otevře okno, ve kterém se píší a spouštějí skripty</translation>
+    </message>
+    <message>
+        <source>&amp;Einstellungen...</source>
+        <translation>&amp;Nastavení...</translation>
+    </message>
+    <message>
+        <source>Sprache, Schrift, Tasten, Sicherung</source>
+        <translation>Jazyk, písmo, klávesy, zálohování</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste offene Zeile</source>
+        <translation>&amp;Další otevřený řádek</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten Zeile, die eine Entscheidung braucht, auch im nächsten Projekt</source>
+        <translation>Přejde na další řádek, který potřebuje rozhodnutí, i v dalším projektu</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige offene Zeile</source>
+        <translation>Předchozí &amp;otevřený řádek</translation>
+    </message>
+    <message>
+        <source>Geht zur vorigen Zeile, die eine Entscheidung braucht, auch im vorigen Projekt</source>
+        <translation>Přejde na předchozí řádek, který potřebuje rozhodnutí, i v předchozím projektu</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zu Zeile...</source>
+        <translation>&amp;Přejít na řádek...</translation>
+    </message>
+    <message>
+        <source>Sucht eine Zeile des Projekts nach Nummer oder Bezeichnung</source>
+        <translation>Hledá řádek projektu podle čísla nebo označení</translation>
+    </message>
+    <message>
+        <source>&amp;Andere Tabelle</source>
+        <translation>Druhá &amp;tabulka</translation>
+    </message>
+    <message>
+        <source>Wechselt zwischen der alten und der neuen Tabelle</source>
+        <translation>Přepíná mezi starou a novou tabulkou</translation>
+    </message>
+    <message>
+        <source>&amp;Finden...</source>
+        <translation>&amp;Najít...</translation>
+    </message>
+    <message>
+        <source>Findet Projekte, Zeilen, Befehle und Einstellungen nach Teilen der Wörter</source>
+        <translation>Najde projekty, řádky, příkazy a nastavení podle částí slov</translation>
+    </message>
+    <message>
+        <source>&amp;Muster der Unterschiede</source>
+        <translation>&amp;Vzory rozdílů</translation>
+    </message>
+    <message>
+        <source>Zeigt, worin sich die offenen Zeilen von ihren Vorschlägen unterscheiden</source>
+        <translation>Ukáže, v čem se otevřené řádky liší od svých návrhů</translation>
+    </message>
+    <message>
+        <source>&amp;Alt und neu</source>
+        <translation>&amp;Staré a nové</translation>
+    </message>
+    <message>
+        <source>Zeigt alte und neue Werte der Zeile nebeneinander, und ihre Kandidaten</source>
+        <translation>Ukáže staré a nové hodnoty řádku vedle sebe a jeho kandidáty</translation>
+    </message>
+    <message>
+        <source>Muster &amp;bestätigen...</source>
+        <translation>&amp;Potvrdit vzor...</translation>
+    </message>
+    <message>
+        <source>Bestätigt alle Zeilen des gewählten Musters in einem Schritt</source>
+        <translation>Potvrdí v jednom kroku všechny řádky vybraného vzoru</translation>
+    </message>
+    <message>
+        <source>Zeile &amp;herausnehmen</source>
+        <translation>Vyj&amp;mout řádek</translation>
+    </message>
+    <message>
+        <source>Die Zeile wird nicht mit den anderen des Musters bestätigt</source>
+        <translation>Řádek se nepotvrdí s ostatními řádky vzoru</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste Zeile des Musters</source>
+        <translation>&amp;Další řádek vzoru</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten offenen Zeile des gewählten Musters</source>
+        <translation>Přejde na další otevřený řádek vybraného vzoru</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige Zeile des Musters</source>
+        <translation>Před&amp;chozí řádek vzoru</translation>
+    </message>
+    <message>
+        <source>Geht zur vorigen offenen Zeile des gewählten Musters</source>
+        <translation>Přejde na předchozí otevřený řádek vybraného vzoru</translation>
+    </message>
+    <message>
+        <source>Nächstes Mus&amp;ter</source>
+        <translation>D&amp;alší vzor</translation>
+    </message>
+    <message>
+        <source>Wählt das nächste Muster der Liste</source>
+        <translation>Vybere další vzor v seznamu</translation>
+    </message>
+    <message>
+        <source>&amp;Unsicherste zuerst</source>
+        <translation>&amp;Nejprve nejméně jisté</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach der Gefahr eines Irrtums statt nach ihrem Ort</source>
+        <translation>Otevřené řádky přicházejí podle rizika omylu místo podle místa</translation>
+    </message>
+    <message>
+        <source>Na&amp;chbarschaft</source>
+        <translation>Souseds&amp;tví</translation>
+    </message>
+    <message>
+        <source>Zeigt, wo Zuordnungen benachbarter Zeilen nicht zueinander passen</source>
+        <translation>Ukáže, kde k sobě přiřazení sousedních řádků nepasují</translation>
+    </message>
+    <message>
+        <source>&amp;Zeilen zurechtrücken</source>
+        <translation>Sr&amp;ovnat řádky</translation>
+    </message>
+    <message>
+        <source>Behebt die gewählte Fundstelle der Nachbarschaft in einem Schritt</source>
+        <translation>Opraví v jednom kroku vybraný nález v sousedství</translation>
+    </message>
+    <message>
+        <source>&amp;Ersetzungen...</source>
+        <translation>Ná&amp;hrady...</translation>
+    </message>
+    <message>
+        <source>Vereinbart Ersetzungen von Werten für den Katalogstand oder zieht sie zurück</source>
+        <translation>Dohodne náhrady hodnot pro verzi katalogu nebo je odvolá</translation>
+    </message>
+    <message>
+        <source>&amp;Stichprobe...</source>
+        <translation>Náhodný v&amp;zorek...</translation>
+    </message>
+    <message>
+        <source>Zieht Zeilen des gewählten Musters oder der markierten Zeilen, die einzeln beurteilt werden</source>
+        <translation>Vylosuje řádky vybraného vzoru nebo označené řádky, které se posuzují jednotlivě</translation>
+    </message>
+    <message>
+        <source>Stichprobe: &amp;richtig</source>
+        <translation>Vzo&amp;rek: správně</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Zeile der Stichprobe ist richtig zugeordnet</source>
+        <translation>Zobrazený řádek vzorku je přiřazen správně</translation>
+    </message>
+    <message>
+        <source>Stichprobe: &amp;falsch</source>
+        <translation>Vzore&amp;k: chybně</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Zeile der Stichprobe ist falsch zugeordnet; die Stichprobe endet</source>
+        <translation>Zobrazený řádek vzorku je přiřazen chybně; vzorek končí</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;1</source>
+        <translation>Kandidát &amp;1</translation>
+    </message>
+    <message>
+        <source>Ordnet der Zeile diesen Kandidaten zu und bestätigt ihn</source>
+        <translation>Přiřadí řádku tohoto kandidáta a potvrdí ho</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;2</source>
+        <translation>Kandidát &amp;2</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;3</source>
+        <translation>Kandidát &amp;3</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;4</source>
+        <translation>Kandidát &amp;4</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;5</source>
+        <translation>Kandidát &amp;5</translation>
+    </message>
+    <message>
+        <source>Wertebereich der Zeile</source>
+        <translation>Rozsah hodnot řádku</translation>
+    </message>
+    <message>
+        <source>Zeigt, welche Werte des alten Bereichs neue Zeilen haben</source>
+        <translation>Ukáže, které hodnoty starého rozsahu mají nové řádky</translation>
+    </message>
+    <message>
+        <source>&amp;Konflikte</source>
+        <translation>Kon&amp;flikty</translation>
+    </message>
+    <message>
+        <source>Zeigt die Zeilen, die zwei Seiten verschieden entschieden haben</source>
+        <translation>Ukáže řádky, které dvě strany rozhodly různě</translation>
+    </message>
+    <message>
+        <source>Nächster offener Konflikt</source>
+        <translation>Další nerozhodnutý konflikt</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten Zeile, deren Konflikt noch offen ist</source>
+        <translation>Přejde na další řádek, jehož konflikt je ještě nerozhodnutý</translation>
+    </message>
+    <message>
+        <source>Konflikt: eigene Entscheidung</source>
+        <translation>Konflikt: vlastní rozhodnutí</translation>
+    </message>
+    <message>
+        <source>In diesem Konflikt gilt die eigene Entscheidung</source>
+        <translation>V tomto konfliktu platí vlastní rozhodnutí</translation>
+    </message>
+    <message>
+        <source>Konflikt: andere Entscheidung</source>
+        <translation>Konflikt: jiné rozhodnutí</translation>
+    </message>
+    <message>
+        <source>In diesem Konflikt gilt die Entscheidung der anderen Seite</source>
+        <translation>V tomto konfliktu platí rozhodnutí druhé strany</translation>
+    </message>
+    <message>
+        <source>Konflikt: neu entscheiden</source>
+        <translation>Konflikt: rozhodnout znovu</translation>
+    </message>
+    <message>
+        <source>Keine der Entscheidungen gilt; die Zeile ist wieder ohne Ziel</source>
+        <translation>Žádné z rozhodnutí neplatí; řádek je opět bez cíle</translation>
+    </message>
+    <message>
+        <source>Baut die Anzeige neu auf: Baum, Statistik, Tabellen von der Platte</source>
+        <translation>Sestaví zobrazení znovu: strom, statistiku, tabulky z disku</translation>
+    </message>
+    <message>
+        <source>Hand&amp;buch</source>
+        <translation>Pří&amp;ručka</translation>
+    </message>
+    <message>
+        <source>Öffnet das Handbuch an der Stelle, um die es geht</source>
+        <translation>Otevře příručku na místě, o které jde</translation>
+    </message>
+    <message>
+        <source>&amp;Tasten...</source>
+        <translation>&amp;Klávesy...</translation>
+    </message>
+    <message>
+        <source>Zeigt und ändert die Tasten aller Befehle</source>
+        <translation>Ukáže a změní klávesy všech příkazů</translation>
+    </message>
+    <message>
+        <source>&amp;Hinweis zu dieser Stelle</source>
+        <translation>&amp;Nápověda k tomuto místu</translation>
+    </message>
+    <message>
+        <source>Zeigt den Hinweis dort, wo die Tasten hingehen: in einer Tabelle, warum die Zeile ihren Zustand hat</source>
+        <translation>Ukáže nápovědu tam, kam směřují klávesy: v tabulce, proč má řádek svůj stav</translation>
+    </message>
+    <message>
+        <source>&amp;Rundgang</source>
+        <translation>&amp;Prohlídka</translation>
+    </message>
+    <message>
+        <source>Zeigt in wenigen Schritten, wo was liegt</source>
+        <translation>Ukáže v několika krocích, kde co je</translation>
+    </message>
+    <message>
+        <source>Über &amp;dieses Programm</source>
+        <translation>O &amp;tomto programu</translation>
+    </message>
+    <message>
+        <source>Version und Verzeichnisse</source>
+        <translation>Verze a adresáře</translation>
+    </message>
+</context>
+</TS>
