@@ -2840,7 +2840,7 @@ Rad: %2
     <name>RepositoryBox</name>
     <message>
         <source>Zielprojekte aus dem Reposi&amp;tory lesen</source>
-        <translation>&amp;Läs målprojekt från centralarkivet</translation>
+        <translation>&amp;Läs målprojekt från arkivet</translation>
     </message>
     <message>
         <source>Katalog = svn://Server:Port/Pfad</source>
@@ -2887,7 +2887,7 @@ Rad: %2
     <name>RepositoryLoginDialog</name>
     <message>
         <source>Anmeldung am Repository</source>
-        <translation>Inloggning i centralarkivet</translation>
+        <translation>Inloggning i arkivet</translation>
     </message>
     <message>
         <source>%1 verlangt eine Anmeldung.</source>

@@ -1,0 +1,4196 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fi_FI" sourcelanguage="de_DE">
+<context>
+    <name>BulkOperation</name>
+    <message>
+        <source>Es ist nichts zu ändern.</source>
+        <translation>Muutettavaa ei ole.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigen?</source>
+        <translation>
+            <numerusform>Vahvistetaanko %n rivi?</numerusform>
+            <numerusform>Vahvistetaanko %n riviä?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Vahvistetaanko %n rivi poistuneeksi?</numerusform>
+            <numerusform>Vahvistetaanko %n riviä poistuneeksi?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <translation>
+            <numerusform>Perutaanko %n rivin kohdistus?</numerusform>
+            <numerusform>Perutaanko %n rivin kohdistus?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Perutaanko %n rivin kohdistus ja vahvistetaanko se poistuneeksi?</numerusform>
+            <numerusform>Perutaanko %n rivin kohdistus ja vahvistetaanko ne poistuneiksi?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind schon bestätigt.</source>
+        <translation>
+            <numerusform>%n niistä on jo vahvistettu.</numerusform>
+            <numerusform>%n niistä on jo vahvistettu.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <translation>
+            <numerusform>%n niistä menettää arvoaluekohdistuksensa.</numerusform>
+            <numerusform>%n niistä menettää arvoaluekohdistuksensa.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <translation>
+            <numerusform>%n rivi ilman kohdetta jää vahvistamatta.</numerusform>
+            <numerusform>%n riviä ilman kohdetta jää vahvistamatta.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <translation>
+            <numerusform>%n rivi jää ennalleen.</numerusform>
+            <numerusform>%n riviä jää ennalleen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <translation>
+            <numerusform>%n ristiriitaista riviä ei muuteta.</numerusform>
+            <numerusform>%n ristiriitaista riviä ei muuteta.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <translation>
+            <numerusform>%n rivi ei ole missään kohdeprojektissa.</numerusform>
+            <numerusform>%n riviä ei ole missään kohdeprojektissa.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt.</source>
+        <translation>
+            <numerusform>%n rivi vahvistettu.</numerusform>
+            <numerusform>%n riviä vahvistettu.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>%n rivi vahvistettu poistuneeksi.</numerusform>
+            <numerusform>%n riviä vahvistettu poistuneiksi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <translation>
+            <numerusform>%n rivin kohdistus peruttu.</numerusform>
+            <numerusform>%n rivin kohdistus peruttu.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>%n rivin kohdistus peruttu ja rivi vahvistettu poistuneeksi.</numerusform>
+            <numerusform>%n rivin kohdistus peruttu ja rivit vahvistettu poistuneiksi.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CandidateModel</name>
+    <message>
+        <source>kein Nachfolger</source>
+        <translation>ei seuraajaa</translation>
+    </message>
+    <message>
+        <source>Taste</source>
+        <translation>Näppäin</translation>
+    </message>
+    <message>
+        <source>Sicherheit</source>
+        <translation>Varmuus</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Uusi rivi</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Syy</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogRootsDialog</name>
+    <message>
+        <source>Verzeichnis des alten Katalogstands</source>
+        <translation>Vanhan luetteloversion hakemisto</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des neuen Katalogstands</source>
+        <translation>Uuden luetteloversion hakemisto</translation>
+    </message>
+    <message>
+        <source>Katalogverzeichnisse</source>
+        <translation>Luettelohakemistot</translation>
+    </message>
+    <message>
+        <source>Wo liegen die beiden Katalogstände dieser Mapping-Datei? Die Verzeichnisse werden zusammen mit der Datei gemerkt.</source>
+        <translation>Missä tämän kohdistustiedoston kaksi luetteloversiota ovat? Hakemistot muistetaan yhdessä tiedoston kanssa.</translation>
+    </message>
+    <message>
+        <source>&amp;Alter Stand (%1):</source>
+        <translation>&amp;Vanha versio (%1):</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Stand (%1):</source>
+        <translation>&amp;Uusi versio (%1):</translation>
+    </message>
+    <message>
+        <source>Beide Verzeichnisse werden gebraucht.</source>
+        <translation>Molemmat hakemistot tarvitaan.</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Verzeichnis.</source>
+        <translation>%1 ei ole hakemisto.</translation>
+    </message>
+    <message>
+        <source>Im alten Stand fehlt %1. Gesucht ist das Verzeichnis, in dem der Katalog %2 liegt.</source>
+        <translation>Vanhasta versiosta puuttuu %1. Tarvitaan hakemisto, jossa luettelo %2 on.</translation>
+    </message>
+    <message>
+        <source>Im neuen Stand fehlt der Katalog %1.</source>
+        <translation>Uudesta versiosta puuttuu luettelo %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictCommands</name>
+    <message>
+        <source>Die Zeile %1 in %2 kann nicht gezeigt werden</source>
+        <translation>Riviä %1 projektissa %2 ei voi näyttää</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist in Konflikt</source>
+        <translation>Yksikään rivi ei ole ristiriidassa</translation>
+    </message>
+    <message>
+        <source>Alle Konflikte sind entschieden; nun speichern</source>
+        <translation>Kaikki ristiriidat on ratkaistu; tallenna nyt</translation>
+    </message>
+    <message>
+        <source>Konflikt %1 von %2, noch %3 offen</source>
+        <translation>Ristiriita %1/%2, vielä %3 avoinna</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <translation>
+            <numerusform>%n rivi projektissa %1 on ristiriidassa samalla tavalla. Päteekö päätös kaikkiin?</numerusform>
+            <numerusform>%n riviä projektissa %1 on ristiriidassa samalla tavalla. Päteekö päätös kaikkiin?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Eigene: %1
+Andere: %2</source>
+        <translation>Oma: %1
+Toisen: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Für alle</source>
+        <translation>&amp;Kaikille</translation>
+    </message>
+    <message>
+        <source>&amp;Zeile für Zeile</source>
+        <translation>&amp;Rivi kerrallaan</translation>
+    </message>
+    <message>
+        <source>Die Zeile ist in keinem Konflikt</source>
+        <translation>Rivi ei ole ristiriidassa</translation>
+    </message>
+    <message>
+        <source>Die eigene Entscheidung ist nicht bekannt: die Zeile war schon beim Öffnen in Konflikt</source>
+        <translation>Omaa päätöstä ei tiedetä: rivi oli ristiriidassa jo avattaessa</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictDock</name>
+    <message>
+        <source>Keine Zeile ist in Konflikt.</source>
+        <translation>Yksikään rivi ei ole ristiriidassa.</translation>
+    </message>
+    <message>
+        <source>Alle Konflikte sind entschieden.</source>
+        <translation>Kaikki ristiriidat on ratkaistu.</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Konflikten sind noch offen.</source>
+        <translation>%1/%2 ristiriitaa on vielä avoinna.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <translation>
+            <numerusform>Vielä %n rivi on ristiriidassa samoin kuin tämä.</numerusform>
+            <numerusform>Vielä %n riviä on ristiriidassa samoin kuin tämä.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Konflikte</source>
+        <translation>Ristiriidat</translation>
+    </message>
+    <message>
+        <source>Seiten des Konflikts</source>
+        <translation>Ristiriidan osapuolet</translation>
+    </message>
+    <message>
+        <source>Eigene</source>
+        <translation>Oma</translation>
+    </message>
+    <message>
+        <source>Andere</source>
+        <translation>Toisen</translation>
+    </message>
+    <message>
+        <source>Neu entscheiden</source>
+        <translation>Päätä uudelleen</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictModel</name>
+    <message>
+        <source>offen</source>
+        <translation>avoin</translation>
+    </message>
+    <message>
+        <source>eigene</source>
+        <translation>oma</translation>
+    </message>
+    <message>
+        <source>andere</source>
+        <translation>toisen</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>uusi</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekti</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Rivi</translation>
+    </message>
+    <message>
+        <source>Eigene Entscheidung</source>
+        <translation>Oma päätös</translation>
+    </message>
+    <message>
+        <source>Andere Entscheidung</source>
+        <translation>Toisen päätös</translation>
+    </message>
+    <message>
+        <source>Gilt</source>
+        <translation>Voimassa</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictSides</name>
+    <message>
+        <source>automatisch zugeordnet</source>
+        <translation>automaattisesti kohdistettu</translation>
+    </message>
+    <message>
+        <source>zu überprüfen</source>
+        <translation>tarkistettava</translation>
+    </message>
+    <message>
+        <source>bestätigt</source>
+        <translation>vahvistettu</translation>
+    </message>
+    <message>
+        <source>ohne Ziel, offen</source>
+        <translation>ilman kohdetta, avoin</translation>
+    </message>
+    <message>
+        <source>als ausgelaufen bestätigt</source>
+        <translation>vahvistettu poistuneeksi</translation>
+    </message>
+    <message>
+        <source>nicht bekannt</source>
+        <translation>ei tiedossa</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2, %3</source>
+        <translation>%1, rivi %2, %3</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Tila</translation>
+    </message>
+    <message>
+        <source>Zielprojekt</source>
+        <translation>Kohdeprojekti</translation>
+    </message>
+    <message>
+        <source>Zielzeile</source>
+        <translation>Kohderivi</translation>
+    </message>
+    <message>
+        <source>Wertebereiche</source>
+        <translation>Arvoalueet</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictSidesModel</name>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Vanha rivi</translation>
+    </message>
+    <message>
+        <source>Vorher</source>
+        <translation>Aiemmin</translation>
+    </message>
+    <message>
+        <source>Eigene Entscheidung</source>
+        <translation>Oma päätös</translation>
+    </message>
+    <message>
+        <source>Andere Entscheidung</source>
+        <translation>Toisen päätös</translation>
+    </message>
+    <message>
+        <source>Angabe</source>
+        <translation>Tieto</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceModel</name>
+    <message>
+        <source>gleich</source>
+        <translation>sama</translation>
+    </message>
+    <message numerus="yes">
+        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>korvattu kuten %n muulla rivillä</numerusform>
+            <numerusform>korvattu kuten %n muulla rivillä</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ähnlich</source>
+        <translation>samankaltainen</translation>
+    </message>
+    <message>
+        <source>verschieden</source>
+        <translation>eri</translation>
+    </message>
+    <message>
+        <source>nur in der neuen Zeile</source>
+        <translation>vain uudella rivillä</translation>
+    </message>
+    <message>
+        <source>nur in der alten Zeile</source>
+        <translation>vain vanhalla rivillä</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Muuttuja</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Vanha</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>Uusi</translation>
+    </message>
+</context>
+<context>
+    <name>DifferencePanel</name>
+    <message>
+        <source>Die Tabelle hat die Zeile nicht.</source>
+        <translation>Taulukossa ei ole riviä.</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel. %1</source>
+        <translation>Ilman kohdetta. %1</translation>
+    </message>
+    <message>
+        <source>Die zugeordnete Zeile ist keiner der Kandidaten.</source>
+        <translation>Kohdistettu rivi ei ole mikään ehdokkaista.</translation>
+    </message>
+    <message>
+        <source>Alt und neu</source>
+        <translation>Vanha ja uusi</translation>
+    </message>
+    <message>
+        <source>Kandidaten</source>
+        <translation>Ehdokkaat</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentDesk</name>
+    <message>
+        <source>Katalogstand</source>
+        <translation>Luetteloversio</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält mehrere Katalogstände. Welcher soll geöffnet werden?</source>
+        <translation>Tiedosto sisältää useita luetteloversioita. Mikä niistä avataan?</translation>
+    </message>
+    <message>
+        <source>Öffnen</source>
+        <translation>Avaa</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei wird gelesen</source>
+        <translation>Luetaan kohdistustiedostoa</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geöffnet werden.</source>
+        <translation>Tiedostoa ei voi avata.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist nur zum Lesen geöffnet.</source>
+        <translation>Tiedosto on avattu vain lukemista varten.</translation>
+    </message>
+    <message>
+        <source>Die Sperre kann aufgehoben werden, wenn dort sicher niemand mehr arbeitet, etwa nach einem Ausfall des Rechners.</source>
+        <translation>Lukituksen voi poistaa, jos siellä ei varmasti enää kukaan työskentele, esimerkiksi tietokoneen kaatumisen jälkeen.</translation>
+    </message>
+    <message>
+        <source>Nur &amp;lesen</source>
+        <translation>&amp;Vain luku</translation>
+    </message>
+    <message>
+        <source>Sperre &amp;aufheben</source>
+        <translation>&amp;Poista lukitus</translation>
+    </message>
+    <message>
+        <source>Die Sperre konnte nicht aufgehoben werden.</source>
+        <translation>Lukitusta ei voitu poistaa.</translation>
+    </message>
+    <message>
+        <source>Die Kataloge sind nicht bekannt; sie werden mit --source und --target angegeben.</source>
+        <translation>Luetteloita ei tunneta; ne annetaan valitsimilla --source ja --target.</translation>
+    </message>
+    <message>
+        <source>Änderungen an %1 speichern?</source>
+        <translation>Tallennetaanko muutokset tiedostoon %1?</translation>
+    </message>
+    <message>
+        <source>Verworfene Änderungen sind verloren.</source>
+        <translation>Hylätyt muutokset menetetään.</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Tallenna</translation>
+    </message>
+    <message>
+        <source>&amp;Verwerfen</source>
+        <translation>&amp;Hylkää</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n rivi</numerusform>
+            <numerusform>%1: %n riviä</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>ja %1 muuta</translation>
+    </message>
+    <message numerus="yes">
+        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <translation>
+            <numerusform>Vielä %n rivi ristiriidassa, näissä projekteissa:</numerusform>
+            <numerusform>Vielä %n riviä ristiriidassa, näissä projekteissa:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Konflikte zeigen</source>
+        <translation>&amp;Näytä ristiriidat</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem speichern</source>
+        <translation>Tallenna &amp;silti</translation>
+    </message>
+    <message>
+        <source>Gespeichert: %1</source>
+        <translation>Tallennettu: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei wurde nicht gespeichert.</source>
+        <translation>Tiedostoa ei tallennettu.</translation>
+    </message>
+    <message>
+        <source>Änderungen &amp;zusammenführen</source>
+        <translation>&amp;Yhdistä muutokset</translation>
+    </message>
+    <message>
+        <source>Kopie behalten und &amp;neu schreiben</source>
+        <translation>Säilytä kopio ja kirjoita &amp;uudelleen</translation>
+    </message>
+    <message>
+        <source>&amp;Eigenen Stand schreiben</source>
+        <translation>&amp;Kirjoita oma versio</translation>
+    </message>
+    <message>
+        <source>Die Änderungen der anderen sind übernommen. Bitte prüfen und dann noch einmal speichern.</source>
+        <translation>Muiden muutokset on otettu mukaan. Tarkista ne ja tallenna sitten vielä kerran.</translation>
+    </message>
+    <message>
+        <source>Die Änderungen der anderen konnten nicht übernommen werden.</source>
+        <translation>Muiden muutoksia ei voitu ottaa mukaan.</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei kann nicht angelegt werden.</source>
+        <translation>Kohdistustiedostoa ei voi luoda.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>%1 wird gelesen</source>
+        <translation>Luetaan: %1</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
+        <translation>Kohdistustiedostoa %1 ei voi lukea (%2).
+Valitse toinen tiedosto tai palauta varmuuskopio %3.</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+Bitte eine andere Datei wählen.</source>
+        <translation>Kohdistustiedostoa %1 ei voi lukea (%2).
+Valitse toinen tiedosto.</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand.</source>
+        <translation>%1 ei sisällä yhtään versiota.</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand %2. Vorhanden sind: %3</source>
+        <translation>%1 ei sisällä versiota %2. Olemassa ovat: %3</translation>
+    </message>
+    <message>
+        <source>%1 ist nur zum Lesen geöffnet.</source>
+        <translation>%1 on avattu vain lukemista varten.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet und ist deshalb nur zum Lesen geöffnet.</source>
+        <translation>%1 on parhaillaan käyttäjän %2 muokattavana ja siksi avattu vain lukemista varten.</translation>
+    </message>
+    <message>
+        <source>Der Ordner von %1 ist nicht beschreibbar (%2). Die Datei ist deshalb nur zum Lesen geöffnet; unter einem anderen Namen gespeichert lässt sie sich bearbeiten.</source>
+        <translation>Tiedoston %1 kansioon ei voi kirjoittaa (%2). Siksi tiedosto on avattu vain lukemista varten; toisella nimellä tallennettuna sitä voi muokata.</translation>
+    </message>
+    <message>
+        <source>Zu %1 gibt es Arbeit, die nicht gespeichert wurde. Sie wird angeboten, sobald sich die Datei zum Bearbeiten öffnen lässt (%2).</source>
+        <translation>Tiedostoon %1 liittyy työtä, jota ei tallennettu. Sitä tarjotaan heti, kun tiedoston voi avata muokattavaksi (%2).</translation>
+    </message>
+    <message>
+        <source>%1 hat noch einen anderen Namen (harter Link). Beim Speichern bleibt die Datei unter dem anderen Namen, wie sie war.</source>
+        <translation>Tiedostolla %1 on toinenkin nimi (kova linkki). Tallennettaessa toisenniminen tiedosto jää ennalleen.</translation>
+    </message>
+    <message>
+        <source>%1 wird gespeichert</source>
+        <translation>Tallennetaan: %1</translation>
+    </message>
+    <message>
+        <source>%1 wird gesichert</source>
+        <translation>Varmuuskopioidaan: %1</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet. Es wurde nichts geschrieben. Bitte einen anderen Namen wählen.</source>
+        <translation>%1 on parhaillaan käyttäjän %2 muokattavana. Mitään ei kirjoitettu. Valitse toinen nimi.</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
+        <translation>Tiedoston %1 kansioon ei voi luoda mitään (%2). Mitään ei kirjoitettu. Valitse toinen kansio.</translation>
+    </message>
+</context>
+<context>
+    <name>FileNames</name>
+    <message>
+        <source>Mapping-Dateien (*.json);;Alle Dateien (*)</source>
+        <translation>Kohdistustiedostot (*.json);;Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei öffnen</source>
+        <translation>Avaa kohdistustiedosto</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei speichern</source>
+        <translation>Tallenna kohdistustiedosto</translation>
+    </message>
+    <message>
+        <source>Tabelle speichern</source>
+        <translation>Tallenna taulukko</translation>
+    </message>
+    <message>
+        <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+        <translation>Taulukot (*.csv);;Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>Gemeinsame Kopie wählen</source>
+        <translation>Valitse yhteinen kopio</translation>
+    </message>
+</context>
+<context>
+    <name>GuardedSave</name>
+    <message>
+        <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
+        <translation>%1 ei ole tavallinen tiedosto eikä siksi kelpaa lukitukseksi. Mitään ei kirjoitettu. Poista se, mitä siinä on.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts geschrieben. Bitte gleich noch einmal speichern.</source>
+        <translation>Toinen ohjelma tallentaa parhaillaan tiedostoa %1. Mitään ei kirjoitettu. Tallenna hetken kuluttua uudelleen.</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
+        <translation>Tiedoston %1 kansioon ei voi luoda mitään (%2). Mitään ei kirjoitettu. Vapauta tilaa tai tallenna toisella nimellä.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelesen werden (%2). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>Tiedostoa %1 ei voi lukea (%2). Mitään ei kirjoitettu. Tallenna toisella nimellä.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <translation>%1 ei ole luettava kohdistustiedosto (%2). Mitään ei kirjoitettu. Tallennettaessa nykyinen tiedosto säilytetään aikaleimatulla nimellä ja luodaan uusi, joka sisältää vain tämän version.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <translation>%1 ei ole luettava kohdistustiedosto (%2). Mitään ei kirjoitettu. Tallennettaessa nykyinen tiedosto säilytetään aikaleimatulla nimellä ja luodaan uusi. Muut versiot otetaan varmuuskopiosta %3: %4.</translation>
+    </message>
+    <message>
+        <source>%1 ist unlesbar und konnte nicht als %2 aufgehoben werden (%3). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 on lukukelvoton, eikä sitä voitu säilyttää nimellä %2 (%3). Mitään ei kirjoitettu. Tallenna toisella nimellä.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts geschrieben.</source>
+        <translation>%1 on avaamisen jälkeen poistettu tai nimetty uudelleen. Tallennettaessa tiedosto luodaan uudelleen, ja se sisältää vain tämän version (%2). Mitään ei ole vielä kirjoitettu.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen von jemand anderem geändert, dieser Stand (%2) aber nicht. Beim Speichern bleiben die anderen Stände, wie sie jetzt in der Datei sind. Es wurde noch nichts geschrieben.</source>
+        <translation>Joku muu on avaamisen jälkeen muuttanut tiedostoa %1, mutta ei tätä versiota (%2). Tallennettaessa muut versiot jäävät sellaisiksi kuin ne nyt tiedostossa ovat. Mitään ei ole vielä kirjoitettu.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen von jemand anderem geändert, auch dieser Stand (%2). Beim Speichern gehen dessen Änderungen an diesem Stand verloren. Es wurde noch nichts geschrieben: trotzdem speichern, unter einem anderen Namen speichern oder die Datei neu öffnen.</source>
+        <translation>Joku muu on avaamisen jälkeen muuttanut tiedostoa %1, myös tätä versiota (%2). Tallennettaessa hänen muutoksensa tähän versioon menetetään. Mitään ei ole vielä kirjoitettu: tallenna silti, tallenna toisella nimellä tai avaa tiedosto uudelleen.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. Bitte die Schreibrechte prüfen oder unter einem anderen Namen speichern.</source>
+        <translation>Tiedostoon %1 ei voi kirjoittaa (%2). Mitään ei kirjoitettu. Tarkista kirjoitusoikeudet tai tallenna toisella nimellä.</translation>
+    </message>
+    <message>
+        <source>%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter einem anderen Namen speichern.</source>
+        <translation>Tiedostoa %1 ei tallennettu: %2. Tiedosto on muuttumaton, muutokset ovat edelleen auki. Vapauta tilaa ja tallenna uudelleen tai tallenna toisella nimellä.</translation>
+    </message>
+    <message>
+        <source>die Datei konnte nicht vollständig geschrieben werden</source>
+        <translation>tiedostoa ei voitu kirjoittaa kokonaan</translation>
+    </message>
+    <message>
+        <source>die geschriebene Datei ist nicht lesbar (%1)</source>
+        <translation>kirjoitettua tiedostoa ei voi lukea (%1)</translation>
+    </message>
+    <message>
+        <source>die geschriebene Datei enthält nicht, was gespeichert werden sollte</source>
+        <translation>kirjoitettu tiedosto ei sisällä sitä, mitä piti tallentaa</translation>
+    </message>
+    <message>
+        <source>in der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer</source>
+        <translation>kirjoitetusta tiedostosta puuttuu versio %1, tai se on toinen</translation>
+    </message>
+    <message>
+        <source>Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
+        <translation>Varmuuskopiota %1 ei voitu luoda (%2). Mitään ei kirjoitettu. Vapauta tilaa tai tallenna toisella nimellä.</translation>
+    </message>
+    <message>
+        <source>%1 wurde während des Speicherns von jemand anderem geändert. Es wurde nichts geschrieben. Bitte noch einmal speichern.</source>
+        <translation>Joku muu muutti tiedostoa %1 tallentamisen aikana. Mitään ei kirjoitettu. Tallenna vielä kerran.</translation>
+    </message>
+    <message>
+        <source>%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind weiterhin geöffnet. Bitte unter einem anderen Namen speichern.</source>
+        <translation>Tiedostoa %1 ei tallennettu: %2. Tiedosto on muuttumaton, muutokset ovat edelleen auki. Tallenna toisella nimellä.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Takaisin</translation>
+    </message>
+    <message>
+        <source>Handbuch</source>
+        <translation>Käsikirja</translation>
+    </message>
+    <message>
+        <source>Inhalt</source>
+        <translation>Sisältö</translation>
+    </message>
+    <message>
+        <source>Auf der Seite suchen</source>
+        <translation>Etsi sivulta</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryCommands</name>
+    <message>
+        <source>&amp;Verlauf der Entscheidungen...</source>
+        <translation>&amp;Päätöshistoria...</translation>
+    </message>
+    <message>
+        <source>Wer hat was entschieden, wann und warum</source>
+        <translation>Kuka päätti mitä, milloin ja miksi</translation>
+    </message>
+    <message>
+        <source>Gr&amp;und der Entscheidung...</source>
+        <translation>&amp;Päätöksen syy...</translation>
+    </message>
+    <message>
+        <source>Zur letzten Entscheidung oder zu den gewählten Zeilen, etwa warum es keinen Nachfolger gibt</source>
+        <translation>Viimeiseen päätökseen tai valittuihin riveihin, esimerkiksi miksi seuraajaa ei ole</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2</source>
+        <translation>Rivi %1 projektissa %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1</source>
+        <translation>
+            <numerusform>%n rivi projektissa %1</numerusform>
+            <numerusform>%n riviä projektissa %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Grund notiert: %1</source>
+        <translation>Syy merkitty: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Verlauf der Entscheidungen</source>
+        <translation>Päätöshistoria</translation>
+    </message>
+    <message>
+        <source>Gewählte Zeile</source>
+        <translation>Valittu rivi</translation>
+    </message>
+    <message>
+        <source>Gewähltes Projekt</source>
+        <translation>Valittu projekti</translation>
+    </message>
+    <message>
+        <source>Alle Projekte</source>
+        <translation>Kaikki projektit</translation>
+    </message>
+    <message>
+        <source>Wer, Projekt, Ziel oder Grund suchen</source>
+        <translation>Etsi tekijää, projektia, kohdetta tai syytä</translation>
+    </message>
+    <message>
+        <source>&amp;Neu lesen</source>
+        <translation>&amp;Lue uudelleen</translation>
+    </message>
+    <message>
+        <source>Als &amp;CSV speichern...</source>
+        <translation>&amp;Tallenna CSV-muodossa...</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Sulje</translation>
+    </message>
+    <message>
+        <source>Nicht lesbare Zeilen des Journals: %1</source>
+        <translation>Lukukelvottomia päiväkirjan rivejä: %1</translation>
+    </message>
+    <message>
+        <source>Entscheidungen: %1</source>
+        <translation>Päätöksiä: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geschrieben werden.</source>
+        <translation>Tiedostoa ei voi kirjoittaa.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>kein Nachfolger</source>
+        <translation>ei seuraajaa</translation>
+    </message>
+    <message>
+        <source>%1 (nicht gespeichert)</source>
+        <translation>%1 (tallentamatta)</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Aika</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kuka</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekti</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Rivi</translation>
+    </message>
+    <message>
+        <source>Bisher</source>
+        <translation>Tähän asti</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>Uusi</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Mitä</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Syy</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Ordner mit CSV-Dateien</source>
+        <translation>CSV-tiedostojen kansio</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogs</source>
+        <translation>Luettelon hakemisto</translation>
+    </message>
+    <message>
+        <source>Tabellen importieren</source>
+        <translation>Tuo taulukoita</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner mit CSV-Dateien:</source>
+        <translation>&amp;CSV-tiedostojen kansio:</translation>
+    </message>
+    <message>
+        <source>&amp;Verzeichnis des Katalogs:</source>
+        <translation>&amp;Luettelon hakemisto:</translation>
+    </message>
+    <message>
+        <source>Aus jeder CSV-Datei wird ein Projekt mit seiner Tabelle am selben Ort im Katalog. Wer die Tabellen wieder importiert, behält die Nummern der Zeilen.</source>
+        <translation>Jokaisesta CSV-tiedostosta tulee projekti taulukkoineen samaan paikkaan luettelossa. Kun taulukot tuodaan uudelleen, rivien numerot säilyvät.</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren</source>
+        <translation>&amp;Tuo</translation>
+    </message>
+    <message>
+        <source>Der Ordner mit den CSV-Dateien fehlt.</source>
+        <translation>CSV-tiedostojen kansio puuttuu.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des Katalogs fehlt; es wird angelegt, wenn es das Verzeichnis darüber gibt.</source>
+        <translation>Luettelon hakemisto puuttuu; se luodaan, jos ylempi hakemisto on olemassa.</translation>
+    </message>
+    <message>
+        <source>Ein Verzeichnis liegt im anderen.</source>
+        <translation>Toinen hakemisto on toisen sisällä.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyedActions</name>
+    <message>
+        <source>Zeile bestätigen oder gewählte Zeile zuordnen</source>
+        <translation>Vahvista rivi tai kohdista valittu rivi</translation>
+    </message>
+    <message>
+        <source>Zuordnung der Zeile aufheben</source>
+        <translation>Peru rivin kohdistus</translation>
+    </message>
+    <message>
+        <source>Zuordnung aufheben und als ausgelaufen bestätigen</source>
+        <translation>Peru kohdistus ja vahvista poistuneeksi</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnung bearbeiten</source>
+        <translation>Muokkaa arvoaluekohdistusta</translation>
+    </message>
+    <message>
+        <source>Bedingung aus der Zeile kopieren</source>
+        <translation>Kopioi ehto riviltä</translation>
+    </message>
+    <message>
+        <source>Ganzes Projekt bestätigen</source>
+        <translation>Vahvista koko projekti</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Etsi taulukosta</translation>
+    </message>
+    <message>
+        <source>Weitersuchen</source>
+        <translation>Etsi seuraava</translation>
+    </message>
+    <message>
+        <source>Rückwärts weitersuchen</source>
+        <translation>Etsi edellinen</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Sarakesuodatin</translation>
+    </message>
+    <message>
+        <source>Zeilen kopieren</source>
+        <translation>Kopioi rivit</translation>
+    </message>
+    <message>
+        <source>Tabelle größer</source>
+        <translation>Suurempi taulukko</translation>
+    </message>
+    <message>
+        <source>Tabelle kleiner</source>
+        <translation>Pienempi taulukko</translation>
+    </message>
+    <message>
+        <source>Tabelle in normaler Größe</source>
+        <translation>Taulukko normaalikokoisena</translation>
+    </message>
+</context>
+<context>
+    <name>KeysDialog</name>
+    <message>
+        <source>&amp;Standard</source>
+        <translation>&amp;Oletus</translation>
+    </message>
+    <message>
+        <source>&amp;Keine Taste</source>
+        <translation>Ei &amp;näppäintä</translation>
+    </message>
+    <message>
+        <source>Tasten</source>
+        <translation>Näppäimet</translation>
+    </message>
+    <message>
+        <source>Befehl oder Taste</source>
+        <translation>Komento tai näppäin</translation>
+    </message>
+    <message>
+        <source>Befehle</source>
+        <translation>Komennot</translation>
+    </message>
+    <message>
+        <source>Befehl</source>
+        <translation>Komento</translation>
+    </message>
+    <message>
+        <source>Wo</source>
+        <translation>Missä</translation>
+    </message>
+    <message>
+        <source>Taste</source>
+        <translation>Näppäin</translation>
+    </message>
+    <message>
+        <source>Tabelle</source>
+        <translation>Taulukko</translation>
+    </message>
+    <message>
+        <source>Fenster</source>
+        <translation>Ikkuna</translation>
+    </message>
+    <message>
+        <source>Taste für %1</source>
+        <translation>Näppäin komennolle %1</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 brauchen Felder und Listen selbst.</source>
+        <translation>Kentät ja luettelot tarvitsevat itse näppäintä %1.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 hätten %2 und %3.</source>
+        <translation>Näppäin %1 olisi sekä komennolla %2 että komennolla %3.</translation>
+    </message>
+    <message>
+        <source>Selbst gewählt</source>
+        <translation>Itse valittu</translation>
+    </message>
+    <message>
+        <source>%1 hat die Taste %2 dann nicht mehr.</source>
+        <translation>Komennolla %1 ei sitten enää ole näppäintä %2.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 hat jetzt %2.</source>
+        <translation>Näppäin %1 on nyt komennolla %2.</translation>
+    </message>
+</context>
+<context>
+    <name>LegendDialog</name>
+    <message>
+        <source>Bestätigt: die Zuordnung ist entschieden</source>
+        <translation>Vahvistettu: kohdistus on päätetty</translation>
+    </message>
+    <message>
+        <source>Vorschlag: muss bestätigt oder korrigiert werden</source>
+        <translation>Ehdotus: vahvistettava tai korjattava</translation>
+    </message>
+    <message>
+        <source>Ohne Bild: eindeutig gleich, vom Programm zugeordnet</source>
+        <translation>Ilman kuvaketta: yksiselitteisesti sama, ohjelman kohdistama</translation>
+    </message>
+    <message>
+        <source>Keine Zuordnung gefunden</source>
+        <translation>Kohdistusta ei löytynyt</translation>
+    </message>
+    <message>
+        <source>Ausgelaufen: bestätigt, dass es keine Zuordnung gibt</source>
+        <translation>Poistunut: vahvistettu, ettei kohdistusta ole</translation>
+    </message>
+    <message>
+        <source>Konflikt mit der Änderung eines anderen</source>
+        <translation>Ristiriita toisen tekemän muutoksen kanssa</translation>
+    </message>
+    <message>
+        <source>Projekt oder Tabelle kann nicht gelesen werden</source>
+        <translation>Projektia tai taulukkoa ei voi lukea</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen der Zeile</source>
+        <translation>Rivin arvoaluekohdistukset</translation>
+    </message>
+    <message>
+        <source>In der Zieltabelle: die zugeordnete Zeile</source>
+        <translation>Kohdetaulukossa: kohdistettu rivi</translation>
+    </message>
+    <message>
+        <source>Legende</source>
+        <translation>Selite</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Sulje</translation>
+    </message>
+</context>
+<context>
+    <name>LineCommands</name>
+    <message>
+        <source>Bedingung in die Zwischenablage kopiert</source>
+        <translation>Ehto kopioitu leikepöydälle</translation>
+    </message>
+    <message>
+        <source>Die kopierte Bedingung ist so noch nicht zu gebrauchen, ein Wert fehlt, ist ein Bereich oder enthält ein Anführungszeichen: %1</source>
+        <translation>Kopioitua ehtoa ei vielä voi käyttää näin: arvo puuttuu, on alue tai sisältää lainausmerkin: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <translation>
+            <numerusform>Täällä suodattimessa kaikki on tehty, ulkopuolella on vielä %n rivi avoinna.</numerusform>
+            <numerusform>Täällä suodattimessa kaikki on tehty, ulkopuolella on vielä %n riviä avoinna.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Loppu saavutettu, jatketaan alusta</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Alku saavutettu, jatketaan lopusta</translation>
+    </message>
+    <message>
+        <source>Konflikt %1 von %2</source>
+        <translation>Ristiriita %1/%2</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist in einem der gewählten Zustände</source>
+        <translation>Mikään rivi ei ole valituissa tiloissa</translation>
+    </message>
+    <message>
+        <source>Keine Zeile braucht mehr eine Entscheidung</source>
+        <translation>Mikään rivi ei enää vaadi päätöstä</translation>
+    </message>
+    <message>
+        <source>Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen</source>
+        <translation>Yhtäkään avointa riviä ei voi näyttää; taulukot puuttuvat</translation>
+    </message>
+    <message>
+        <source>Gehe zu Zeile</source>
+        <translation>Siirry riville</translation>
+    </message>
+    <message>
+        <source>Nummer oder Normbezeichnung:</source>
+        <translation>Numero tai standardimerkintä:</translation>
+    </message>
+    <message>
+        <source>Gehe zu</source>
+        <translation>Siirry</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt gewählt</source>
+        <translation>Projektia ei ole valittu</translation>
+    </message>
+    <message>
+        <source>Keine Zeile mit „%1“ in diesem Projekt</source>
+        <translation>Tässä projektissa ei ole riviä, jossa on ”%1”</translation>
+    </message>
+    <message>
+        <source>Treffer %1 von %2</source>
+        <translation>Osuma %1/%2</translation>
+    </message>
+    <message>
+        <source>&amp;Ausführen</source>
+        <translation>&amp;Suorita</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann zurückgenommen werden.</source>
+        <translation>Vaiheen voi kumota.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die markierten Zeilen.</source>
+        <translation>Kyse on merkityistä riveistä.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind alle Zeilen des Projekts.</source>
+        <translation>Kyse on kaikista projektin riveistä.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
+        <translation>Kyse on näytetyistä %1 rivistä projektin %2 rivistä.</translation>
+    </message>
+    <message>
+        <source>Filter: %1.</source>
+        <translation>Suodatin: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LineStateFilter</name>
+    <message>
+        <source>Konflikt</source>
+        <translation>Ristiriita</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen im Konflikt mit der Änderung eines anderen zeigen, und ihre Projekte</source>
+        <translation>Näytä vain rivit, jotka ovat ristiriidassa toisen tekemän muutoksen kanssa, ja niiden projektit</translation>
+    </message>
+    <message>
+        <source>Zu prüfen</source>
+        <translation>Tarkistettava</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen mit einem Vorschlag zeigen, der bestätigt oder korrigiert werden muss, und ihre Projekte</source>
+        <translation>Näytä vain rivit, joilla on vahvistettava tai korjattava ehdotus, ja niiden projektit</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel</source>
+        <translation>Ilman kohdetta</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, für die nichts gefunden ist, und ihre Projekte</source>
+        <translation>Näytä vain rivit, joille ei löytynyt mitään, ja niiden projektit</translation>
+    </message>
+    <message>
+        <source>Automatisch</source>
+        <translation>Automaattinen</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, die eindeutig gleich sind und vom Programm zugeordnet wurden, und ihre Projekte</source>
+        <translation>Näytä vain yksiselitteisesti samat, ohjelman kohdistamat rivit ja niiden projektit</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Vahvistettu</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen mit bestätigter Zuordnung zeigen, und ihre Projekte</source>
+        <translation>Näytä vain rivit, joiden kohdistus on vahvistettu, ja niiden projektit</translation>
+    </message>
+    <message>
+        <source>Ausgelaufen</source>
+        <translation>Poistunut</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre Projekte</source>
+        <translation>Näytä vain poistuneiksi vahvistetut rivit ja niiden projektit</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbBox</name>
+    <message>
+        <source>&amp;Linkdatenbank verwenden</source>
+        <translation>Käytä &amp;linkkitietokantaa</translation>
+    </message>
+    <message>
+        <source>Datei auf diesem Rechner</source>
+        <translation>Tiedosto tällä tietokoneella</translation>
+    </message>
+    <message>
+        <source>PostgreSQL-Server</source>
+        <translation>PostgreSQL-palvelin</translation>
+    </message>
+    <message>
+        <source>der übliche</source>
+        <translation>tavallinen</translation>
+    </message>
+    <message>
+        <source>Das Kennwort steht in der Kennwortdatei, im Schlüsselspeicher des Desktops oder in PGPASSWORD, oder es wird bei der Anmeldung eingegeben. Gespeichert wird es nicht.</source>
+        <translation>Salasana on salasanatiedostossa, työpöydän avainrenkaassa tai muuttujassa PGPASSWORD, tai se annetaan kirjauduttaessa. Sitä ei tallenneta.</translation>
+    </message>
+    <message>
+        <source>wenn möglich</source>
+        <translation>jos mahdollista</translation>
+    </message>
+    <message>
+        <source>immer</source>
+        <translation>aina</translation>
+    </message>
+    <message>
+        <source>immer, Server geprüft</source>
+        <translation>aina, palvelin tarkistetaan</translation>
+    </message>
+    <message>
+        <source>nie</source>
+        <translation>ei koskaan</translation>
+    </message>
+    <message>
+        <source>Art:</source>
+        <translation>Laji:</translation>
+    </message>
+    <message>
+        <source>&amp;Datei:</source>
+        <translation>&amp;Tiedosto:</translation>
+    </message>
+    <message>
+        <source>Rec&amp;hner:</source>
+        <translation>Palv&amp;elin:</translation>
+    </message>
+    <message>
+        <source>&amp;Anschluss:</source>
+        <translation>&amp;Portti:</translation>
+    </message>
+    <message>
+        <source>Daten&amp;bank:</source>
+        <translation>Tietoka&amp;nta:</translation>
+    </message>
+    <message>
+        <source>Ben&amp;utzer:</source>
+        <translation>Kä&amp;yttäjä:</translation>
+    </message>
+    <message>
+        <source>Verschlüsselun&amp;g:</source>
+        <translation>&amp;Salaus:</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank: Der Name der Datei fehlt.</source>
+        <translation>Linkkitietokanta: tiedoston nimi puuttuu.</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank: Der Name der Datenbank fehlt oder ist keiner.</source>
+        <translation>Linkkitietokanta: tietokannan nimi puuttuu tai ei kelpaa.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbCommands</name>
+    <message>
+        <source>&amp;Nummern der Linkdatenbank prüfen</source>
+        <translation>&amp;Tarkista linkkitietokannan numerot</translation>
+    </message>
+    <message>
+        <source>In der Linkdatenbank gibt es keine Gruppe, zu der Sie gehören.</source>
+        <translation>Linkkitietokannassa ei ole ryhmää, johon kuulut.</translation>
+    </message>
+    <message>
+        <source>Gruppe auswählen</source>
+        <translation>Valitse ryhmä</translation>
+    </message>
+    <message>
+        <source>Gruppe der Linkdatenbank:</source>
+        <translation>Linkkitietokannan ryhmä:</translation>
+    </message>
+    <message>
+        <source>Zeile %1 von %2 steht nicht in diesem Mapping.</source>
+        <translation>Projektin %2 riviä %1 ei ole tässä kohdistuksessa.</translation>
+    </message>
+    <message>
+        <source>Nummern der Linkdatenbank werden geprüft</source>
+        <translation>Tarkistetaan linkkitietokannan numeroita</translation>
+    </message>
+    <message>
+        <source>Die Nummern konnten nicht geprüft werden.</source>
+        <translation>Numeroita ei voitu tarkistaa.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbHost</name>
+    <message>
+        <source>Für die Linkdatenbank fehlt die Lizenz.</source>
+        <translation>Linkkitietokannan lisenssi puuttuu.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbLoginDialog</name>
+    <message>
+        <source>Anmeldung an der Linkdatenbank</source>
+        <translation>Kirjautuminen linkkitietokantaan</translation>
+    </message>
+    <message>
+        <source>Das Kennwort gilt bis zum Ende des Programms und wird nicht gespeichert. Bleibt es leer, kommt es aus der Kennwortdatei.</source>
+        <translation>Salasana on voimassa ohjelman loppuun asti, eikä sitä tallenneta. Jos se jää tyhjäksi, se otetaan salasanatiedostosta.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
+        <translation>Tällä nimellä lokissa lukee, kuka on poistanut jotain.</translation>
+    </message>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Käyttäjä:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Salasana:</translation>
+    </message>
+</context>
+<context>
+    <name>LinkListDialog</name>
+    <message>
+        <source>Linkmanager</source>
+        <translation>Linkkienhallinta</translation>
+    </message>
+    <message>
+        <source>Nummer, Projekt oder Bezeichnung suchen</source>
+        <translation>Etsi numeroa, projektia tai kuvausta</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Numero</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekti</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Rivi</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Kuvaus</translation>
+    </message>
+    <message>
+        <source>Zeile &amp;zeigen</source>
+        <translation>&amp;Näytä rivi</translation>
+    </message>
+    <message>
+        <source>Mit anderer Zeile &amp;verknüpfen...</source>
+        <translation>&amp;Linkitä toiseen riviin...</translation>
+    </message>
+    <message>
+        <source>Wählen Sie danach Projekt und Zeile und senden Sie die Auswahl mit &quot;Auswahl an Linkmanager&quot;.</source>
+        <translation>Valitse sitten projekti ja rivi ja lähetä valinta komennolla ”Valinta linkkienhallintaan”.</translation>
+    </message>
+    <message>
+        <source>Zuletzt &amp;Gelöschtes...</source>
+        <translation>&amp;Viimeksi poistetut...</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Sulje</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
+        <translation>Ensimmäiset %1 linkkiä; haku näyttää muita.</translation>
+    </message>
+    <message>
+        <source>Links: %1</source>
+        <translation>Linkkejä: %1</translation>
+    </message>
+    <message>
+        <source>Es ist nichts gelöscht, was wiederhergestellt werden könnte.</source>
+        <translation>Mitään palautettavissa olevaa ei ole poistettu.</translation>
+    </message>
+    <message>
+        <source>Zuletzt Gelöschtes wiederherstellen? Zeilen: %1</source>
+        <translation>Palautetaanko viimeksi poistetut? Rivejä: %1</translation>
+    </message>
+    <message>
+        <source>%1 hat sie am %2 aus %3 gelöscht.</source>
+        <translation>%1 poisti ne %2 kohteesta %3.</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Palauta</translation>
+    </message>
+</context>
+<context>
+    <name>LinkProofDialog</name>
+    <message>
+        <source>Prüfung der Nummern</source>
+        <translation>Numeroiden tarkistus</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Numero</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Rivi</translation>
+    </message>
+    <message>
+        <source>Befund</source>
+        <translation>Tulos</translation>
+    </message>
+    <message>
+        <source>Nummern an Projekten dieses Mappings: %1, an anderen Projekten: %2</source>
+        <translation>Numeroita tämän kohdistuksen projekteilla: %1, muilla projekteilla: %2</translation>
+    </message>
+    <message>
+        <source>Nicht verglichen, da nicht lesbar: %1</source>
+        <translation>Vertaamatta, koska lukukelvottomia: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Sulje</translation>
+    </message>
+    <message>
+        <source>Zeile ausgelaufen oder nicht da</source>
+        <translation>Rivi poistunut tai sitä ei ole</translation>
+    </message>
+    <message>
+        <source>als ausgelaufen bestätigt</source>
+        <translation>vahvistettu poistuneeksi</translation>
+    </message>
+    <message>
+        <source>das Projekt hat sie nicht</source>
+        <translation>sitä ei ole projektissa</translation>
+    </message>
+    <message>
+        <source>Von mehreren Zeilen beansprucht</source>
+        <translation>Useat rivit vaativat sitä</translation>
+    </message>
+    <message>
+        <source>nahe Zahl</source>
+        <translation>lähellä oleva luku</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>toinen luku</translation>
+    </message>
+    <message>
+        <source>anderer Text</source>
+        <translation>toinen teksti</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>uusi</translation>
+    </message>
+    <message>
+        <source>fehlt</source>
+        <translation>puuttuu</translation>
+    </message>
+    <message>
+        <source>Teil weicht ab</source>
+        <translation>Osa poikkeaa</translation>
+    </message>
+    <message>
+        <source>Teil weicht ab (nicht verglichen)</source>
+        <translation>Osa poikkeaa (ei verrattu)</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen mit Nummern</source>
+        <translation>Avoimet rivit, joilla on numero</translation>
+    </message>
+    <message>
+        <source>Nummern: %1</source>
+        <translation>Numeroita: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocatorDesk</name>
+    <message>
+        <source>Die Zeile %1 gibt es in %2 nicht.</source>
+        <translation>Riviä %1 ei ole projektissa %2.</translation>
+    </message>
+    <message>
+        <source>Das Projekt %1 kann nicht gezeigt werden.</source>
+        <translation>Projektia %1 ei voi näyttää.</translation>
+    </message>
+</context>
+<context>
+    <name>LocatorDialog</name>
+    <message>
+        <source>Finden</source>
+        <translation>Etsi</translation>
+    </message>
+    <message>
+        <source>Projekt, Zeile, Befehl oder Einstellung</source>
+        <translation>Projekti, rivi, komento tai asetus</translation>
+    </message>
+    <message>
+        <source>Gefunden</source>
+        <translation>Löydetyt</translation>
+    </message>
+    <message>
+        <source>Teile der Wörter genügen; eine Zahl dahinter meint eine Zeile.</source>
+        <translation>Sanojen osat riittävät; luku niiden perässä tarkoittaa riviä.</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Mitään ei löytynyt</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 von %2 Treffern</source>
+        <translation>Ensimmäiset %1/%2 osumaa</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Treffer</source>
+        <translation>
+            <numerusform>%n osuma</numerusform>
+            <numerusform>%n osumaa</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>LocatorModel</name>
+    <message>
+        <source>Zeile %1</source>
+        <translation>Rivi %1</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Rivi</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekti</translation>
+    </message>
+    <message>
+        <source>Befehl</source>
+        <translation>Komento</translation>
+    </message>
+    <message>
+        <source>Einstellung</source>
+        <translation>Asetus</translation>
+    </message>
+</context>
+<context>
+    <name>LogWindow</name>
+    <message>
+        <source>Fehler: </source>
+        <translation>Virhe: </translation>
+    </message>
+    <message>
+        <source>Warnung: </source>
+        <translation>Varoitus: </translation>
+    </message>
+    <message>
+        <source>Meldungen</source>
+        <translation>Ilmoitukset</translation>
+    </message>
+    <message>
+        <source>Meldungen löschen</source>
+        <translation>Tyhjennä ilmoitukset</translation>
+    </message>
+    <message>
+        <source>Alle Meldungen kopieren</source>
+        <translation>Kopioi kaikki ilmoitukset</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Keine Verbindung zur Linkdatenbank: %1</source>
+        <translation>Ei yhteyttä linkkitietokantaan: %1</translation>
+    </message>
+    <message>
+        <source>Die ERP-Nummern können nicht gelesen werden. %1</source>
+        <translation>ERP-numeroita ei voi lukea. %1</translation>
+    </message>
+    <message>
+        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <translation>Rivit kohdistettu uudelleen: ei muutoksia</translation>
+    </message>
+    <message>
+        <source>Hier ist keine solche Zeile. %1 geht zur nächsten.</source>
+        <translation>Täällä ei ole sellaista riviä. %1 siirtyy seuraavaan.</translation>
+    </message>
+    <message>
+        <source>schreibgeschützt</source>
+        <translation>kirjoitussuojattu</translation>
+    </message>
+    <message>
+        <source>Der Katalog</source>
+        <translation>Luettelo</translation>
+    </message>
+    <message>
+        <source>Links steht der alte Katalogstand. Die Bilder zeigen, wo noch etwas zu entscheiden ist. Wählen Sie ein Projekt, um seine Zeilen zu sehen.</source>
+        <translation>Vasemmalla on vanha luetteloversio. Kuvakkeet näyttävät, missä on vielä päätettävää. Valitse projekti, niin näet sen rivit.</translation>
+    </message>
+    <message>
+        <source>Die Ziele</source>
+        <translation>Kohteet</translation>
+    </message>
+    <message>
+        <source>Hier stehen die Projekte des neuen Stands, die Zeilen übernehmen können, mit Bedingungen und Variablenzuordnungen.</source>
+        <translation>Tässä ovat uuden version projektit, jotka voivat ottaa rivejä vastaan, ehtoineen ja muuttujakohdistuksineen.</translation>
+    </message>
+    <message>
+        <source>Die Zeilen</source>
+        <translation>Rivit</translation>
+    </message>
+    <message>
+        <source>Links die alte Tabelle, rechts die neue. %1 bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, %2 hebt auf, %3 bestätigt, dass die Zeile ausgelaufen ist.</source>
+        <translation>Vasemmalla vanha taulukko, oikealla uusi. %1 vahvistaa kohdistuksen tai kohdistaa oikealta valitun rivin, %2 peruu sen, %3 vahvistaa, että rivi on poistunut.</translation>
+    </message>
+    <message>
+        <source>Was noch offen ist</source>
+        <translation>Mitä on vielä avoinna</translation>
+    </message>
+    <message>
+        <source>Der Zähler sagt, wie viele Zeilen eine Entscheidung brauchen. %1 geht zur nächsten, auch im nächsten Projekt.</source>
+        <translation>Laskuri kertoo, kuinka moni rivi vaatii päätöksen. %1 siirtyy seuraavaan, myös seuraavassa projektissa.</translation>
+    </message>
+    <message>
+        <source>Nichts geht verloren</source>
+        <translation>Mitään ei menetetä</translation>
+    </message>
+    <message>
+        <source>Jeder Schritt kann zurückgenommen werden. Was nicht gespeichert ist, bietet das Programm nach einem Absturz zur Wiederherstellung an. Der Rundgang steht im Menü Hilfe.</source>
+        <translation>Jokaisen vaiheen voi kumota. Kaatumisen jälkeen ohjelma tarjoaa tallentamattoman työn palauttamista. Kierros on Ohje-valikossa.</translation>
+    </message>
+    <message>
+        <source>Zeilen des ganzen Katalogs zuordnen?</source>
+        <translation>Kohdistetaanko koko luettelon rivit?</translation>
+    </message>
+    <message>
+        <source>Bestätigtes bleibt in jedem Fall. Der Schritt kann zurückgenommen werden.</source>
+        <translation>Vahvistettu säilyy joka tapauksessa. Vaiheen voi kumota.</translation>
+    </message>
+    <message>
+        <source>Nur &amp;Zeilen ohne Zuordnung</source>
+        <translation>&amp;Vain rivit ilman kohdistusta</translation>
+    </message>
+    <message>
+        <source>Alles &amp;Unbestätigte neu</source>
+        <translation>&amp;Kaikki vahvistamaton uudelleen</translation>
+    </message>
+    <message>
+        <source>Alle Projekte zugeordnet</source>
+        <translation>Kaikki projektit kohdistettu</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt %1 gibt es nicht.</source>
+        <translation>Kohdeprojektia %1 ei ole.</translation>
+    </message>
+    <message>
+        <source>Zielprojekt: %1</source>
+        <translation>Kohdeprojekti: %1</translation>
+    </message>
+    <message>
+        <source>Einstellungen: %1</source>
+        <translation>Asetukset: %1</translation>
+    </message>
+    <message>
+        <source>Zu dieser Stelle gibt es keinen Hinweis</source>
+        <translation>Tähän kohtaan ei ole vihjettä</translation>
+    </message>
+    <message>
+        <source>Liste &amp;leeren</source>
+        <translation>&amp;Tyhjennä luettelo</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;Tiedosto</translation>
+    </message>
+    <message>
+        <source>&amp;Teilen</source>
+        <translation>&amp;Jaa</translation>
+    </message>
+    <message>
+        <source>&amp;Zuletzt geöffnet</source>
+        <translation>&amp;Viimeksi avatut</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>&amp;Muokkaa</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zu</source>
+        <translation>&amp;Siirry</translation>
+    </message>
+    <message>
+        <source>&amp;Prüfen</source>
+        <translation>Ta&amp;rkista</translation>
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;Näytä</translation>
+    </message>
+    <message>
+        <source>Nur &amp;Zeilen</source>
+        <translation>&amp;Vain rivit</translation>
+    </message>
+    <message>
+        <source>&amp;Hilfe</source>
+        <translation>&amp;Ohje</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank</source>
+        <translation>Linkkitietokanta</translation>
+    </message>
+    <message>
+        <source>Zustände der Zeilen</source>
+        <translation>Rivien tilat</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Työkalut</translation>
+    </message>
+</context>
+<context>
+    <name>MappingDocument</name>
+    <message>
+        <source>Es ist keine Datei zum Bearbeiten geöffnet.</source>
+        <translation>Muokattavaksi avattua tiedostoa ei ole.</translation>
+    </message>
+    <message>
+        <source>Eigene Änderungen auf dem Stand der Datei</source>
+        <translation>Omat muutokset tiedoston version päällä</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <translation>
+            <numerusform>%n ristiriita: oma päätös</numerusform>
+            <numerusform>%n ristiriitaa: oma päätös</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <translation>
+            <numerusform>%n ristiriita: toisen osapuolen päätös</numerusform>
+            <numerusform>%n ristiriitaa: toisen osapuolen päätös</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <translation>
+            <numerusform>%n ristiriita: päätettävä uudelleen</numerusform>
+            <numerusform>%n ristiriitaa: päätettävä uudelleen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht geschrieben werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte bald speichern.</source>
+        <translation>Päiväkirjaan %1 ei voi kirjoittaa (%2). Kaatumisen jälkeen muutokset menetettäisiin: tallenna pian.</translation>
+    </message>
+    <message>
+        <source>Der wiederhergestellte Stand kann nicht gesichert werden (%1). Bitte Platz schaffen und noch einmal öffnen; das Journal ist unverändert.</source>
+        <translation>Palautettua versiota ei voi varmistaa (%1). Vapauta tilaa ja avaa uudelleen; päiväkirja on muuttumaton.</translation>
+    </message>
+    <message>
+        <source>Wiederherstellung nach einem Absturz</source>
+        <translation>Palautus kaatumisen jälkeen</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht angelegt werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte oft speichern.</source>
+        <translation>Päiväkirjaa %1 ei voi luoda (%2). Kaatumisen jälkeen muutokset menetettäisiin: tallenna usein.</translation>
+    </message>
+    <message>
+        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <translation>Kohdistustiedostoa ei ole avattu.</translation>
+    </message>
+    <message>
+        <source>Es wird gerade gespeichert.</source>
+        <translation>Tallennus on käynnissä.</translation>
+    </message>
+    <message>
+        <source>Es wurde nicht gespeichert. %1 Bitte unter einem anderen Namen speichern.</source>
+        <translation>Tallennusta ei tehty. %1 Tallenna toisella nimellä.</translation>
+    </message>
+    <message>
+        <source>Die Sperre von %1 ist verloren und kann nicht erneuert werden. Andere könnten die Datei gleichzeitig bearbeiten.</source>
+        <translation>Tiedoston %1 lukitus on menetetty, eikä sitä voi uusia. Muut voisivat muokata tiedostoa samaan aikaan.</translation>
+    </message>
+    <message>
+        <source>Die automatische Sicherung ist nicht gelungen (%1). Bitte bald speichern.</source>
+        <translation>Automaattinen varmistus ei onnistunut (%1). Tallenna pian.</translation>
+    </message>
+    <message>
+        <source>Die Änderung wurde nicht übernommen. %1</source>
+        <translation>Muutosta ei otettu mukaan. %1</translation>
+    </message>
+    <message>
+        <source>Konflikte markiert</source>
+        <translation>Ristiriidat merkitty</translation>
+    </message>
+    <message>
+        <source>Rückgängig: %1</source>
+        <translation>Kumottu: %1</translation>
+    </message>
+    <message>
+        <source>Wiederholt: %1</source>
+        <translation>Tehty uudelleen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MappingMaker</name>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Etsitään kohdeprojekteja</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts angelegt</source>
+        <translation>Keskeytetty, mitään ei luotu</translation>
+    </message>
+    <message>
+        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
+        <translation>Projekteja %1: samassa paikassa %2, muualla %3, jaettu %4, ilman kohdetta %5, lukukelvottomia %6</translation>
+    </message>
+    <message>
+        <source>Zeilen werden zugeordnet</source>
+        <translation>Kohdistetaan rivejä</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
+        <translation>Keskeytetty: projekteja %1/%2, rivejä %3, joista kohdistettu %4, tarkistettava %5, ilman kohdetta %6</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
+        <translation>Projekteja %1/%2, rivejä %3, joista kohdistettu %4, tarkistettava %5, ilman kohdetta %6</translation>
+    </message>
+</context>
+<context>
+    <name>MergeState</name>
+    <message numerus="yes">
+        <source>%n Änderung(en) übernommen.</source>
+        <translation>
+            <numerusform>%n muutos otettu mukaan.</numerusform>
+            <numerusform>%n muutosta otettu mukaan.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <translation>
+            <numerusform>%n rivistä molemmat ovat päättäneet samoin.</numerusform>
+            <numerusform>%n rivistä molemmat ovat päättäneet samoin.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <translation>
+            <numerusform>%n rivistä on päätetty eri tavoin, ja se on merkitty ristiriidaksi.</numerusform>
+            <numerusform>%n rivistä on päätetty eri tavoin, ja ne on merkitty ristiriidaksi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <translation>
+            <numerusform>%n muu ristiriitaisuus: tiedoston versio pätee.</numerusform>
+            <numerusform>%n muuta ristiriitaisuutta: tiedoston versio pätee.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourCommands</name>
+    <message>
+        <source>Die Zeile %1 kann nicht gezeigt werden</source>
+        <translation>Riviä %1 ei voi näyttää</translation>
+    </message>
+    <message>
+        <source>Es ist keine Fundstelle gewählt</source>
+        <translation>Löydöstä ei ole valittu</translation>
+    </message>
+    <message>
+        <source>Behoben: %1 in %2</source>
+        <translation>Korjattu: %1 projektissa %2</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourDock</name>
+    <message>
+        <source>Die Tabellen werden verglichen</source>
+        <translation>Taulukoita verrataan</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <translation>
+            <numerusform>%n kohdistettu rivi katsottu</numerusform>
+            <numerusform>%n kohdistettua riviä katsottu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fundstelle(n)</source>
+        <translation>
+            <numerusform>%n löydös</numerusform>
+            <numerusform>%n löydöstä</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nachbarschaft</source>
+        <translation>Naapurusto</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourModel</name>
+    <message>
+        <source>Zeilen %1 bis %2 sind um %3 verschoben</source>
+        <translation>Rivit %1–%2 ovat siirtyneet: %3</translation>
+    </message>
+    <message>
+        <source>Zeilen %1 und %2 sind vertauscht</source>
+        <translation>Rivit %1 ja %2 ovat vaihtaneet paikkaa</translation>
+    </message>
+    <message>
+        <source>Zeile %1 liegt um %2 daneben</source>
+        <translation>Rivi %1 on väärällä paikalla: %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1 hat die Zielzeile einer anderen</source>
+        <translation>Rivillä %1 on toisen rivin kohderivi</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist übersprungen</source>
+        <translation>Rivi %1 on ohitettu</translation>
+    </message>
+    <message>
+        <source>offen</source>
+        <translation>avoin</translation>
+    </message>
+    <message>
+        <source>Behoben: %1</source>
+        <translation>Korjattu: %1</translation>
+    </message>
+    <message>
+        <source>Fund</source>
+        <translation>Löydös</translation>
+    </message>
+    <message>
+        <source>Behoben</source>
+        <translation>Korjattu</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekti</translation>
+    </message>
+</context>
+<context>
+    <name>NewMappingDialog</name>
+    <message>
+        <source>Verzeichnis des alten Katalogstands</source>
+        <translation>Vanhan luetteloversion hakemisto</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des neuen Katalogstands</source>
+        <translation>Uuden luetteloversion hakemisto</translation>
+    </message>
+    <message>
+        <source>&amp;Zeilen gleich zuordnen</source>
+        <translation>Kohdista &amp;rivit saman tien</translation>
+    </message>
+    <message>
+        <source>Neues Mapping</source>
+        <translation>Uusi kohdistus</translation>
+    </message>
+    <message>
+        <source>&amp;Alter Katalogstand:</source>
+        <translation>&amp;Vanha luetteloversio:</translation>
+    </message>
+    <message>
+        <source>Katalog darin:</source>
+        <translation>Siinä oleva luettelo:</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Katalogstand:</source>
+        <translation>&amp;Uusi luetteloversio:</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei wählen</source>
+        <translation>Valitse kohdistustiedosto</translation>
+    </message>
+    <message>
+        <source>&amp;Mapping-Datei:</source>
+        <translation>Ko&amp;hdistustiedosto:</translation>
+    </message>
+    <message>
+        <source>An&amp;legen</source>
+        <translation>&amp;Luo</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des alten Katalogstands fehlt.</source>
+        <translation>Vanhan luetteloversion hakemisto puuttuu.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des neuen Katalogstands fehlt.</source>
+        <translation>Uuden luetteloversion hakemisto puuttuu.</translation>
+    </message>
+    <message>
+        <source>Jeder Stand braucht ein Verzeichnis mit dem Katalog.</source>
+        <translation>Jokainen versio tarvitsee hakemiston, jossa luettelo on.</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei braucht einen Namen.</source>
+        <translation>Kohdistustiedosto tarvitsee nimen.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis %1 gibt es nicht.</source>
+        <translation>Hakemistoa %1 ei ole.</translation>
+    </message>
+    <message>
+        <source>%1 gibt es schon.</source>
+        <translation>%1 on jo olemassa.</translation>
+    </message>
+    <message>
+        <source>Beim Speichern kommt der neue Stand dazu; ein Stand mit demselben Datum wird ersetzt, mit allem, was darin bestätigt ist.</source>
+        <translation>Tallennettaessa uusi versio lisätään; saman päivän versio korvataan kaikkine vahvistuksineen.</translation>
+    </message>
+    <message>
+        <source>&amp;Diese Datei verwenden</source>
+        <translation>&amp;Käytä tätä tiedostoa</translation>
+    </message>
+</context>
+<context>
+    <name>OwnFileTexts</name>
+    <message>
+        <source>der Datenträger ist voll</source>
+        <translation>tallennusväline on täynnä</translation>
+    </message>
+    <message>
+        <source>die Datei wird größer, als hier erlaubt ist</source>
+        <translation>tiedostosta tulee suurempi kuin täällä on sallittu</translation>
+    </message>
+    <message>
+        <source>das Schreibrecht fehlt</source>
+        <translation>kirjoitusoikeus puuttuu</translation>
+    </message>
+    <message>
+        <source>der Datenträger ist schreibgeschützt</source>
+        <translation>tallennusväline on kirjoitussuojattu</translation>
+    </message>
+    <message>
+        <source>der Ordner oder die Datei ist nicht mehr da</source>
+        <translation>kansiota tai tiedostoa ei enää ole</translation>
+    </message>
+    <message>
+        <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
+        <translation>sen paikalla on jotain muuta kuin tavallinen tiedosto</translation>
+    </message>
+</context>
+<context>
+    <name>PartView</name>
+    <message>
+        <source>Die Tabelle des Projektes kann nicht gelesen werden.</source>
+        <translation>Projektin taulukkoa ei voi lukea.</translation>
+    </message>
+    <message>
+        <source>Pfad:</source>
+        <translation>Polku:</translation>
+    </message>
+    <message>
+        <source>Norm:</source>
+        <translation>Standardi:</translation>
+    </message>
+    <message>
+        <source>Bezeichnung:</source>
+        <translation>Merkintä:</translation>
+    </message>
+    <message>
+        <source>Projektversion:</source>
+        <translation>Projektiversio:</translation>
+    </message>
+    <message>
+        <source>Tabellenversion:</source>
+        <translation>Taulukkoversio:</translation>
+    </message>
+    <message>
+        <source>Zeilen:</source>
+        <translation>Rivejä:</translation>
+    </message>
+    <message>
+        <source>Datei:</source>
+        <translation>Tiedosto:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Etsi</translation>
+    </message>
+    <message>
+        <source>Filtern</source>
+        <translation>Suodata</translation>
+    </message>
+    <message>
+        <source>Ordner öffnen</source>
+        <translation>Avaa kansio</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Sulje</translation>
+    </message>
+</context>
+<context>
+    <name>PatternDock</name>
+    <message>
+        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
+        <translation>Taulukoita verrataan: luettuja projekteja %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <translation>
+            <numerusform>%n avoin rivi, jolla on ehdotus</numerusform>
+            <numerusform>%n avointa riviä, joilla on ehdotus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Muster(n)</source>
+        <translation>
+            <numerusform>%n mallissa</numerusform>
+            <numerusform>%n mallissa</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon wird/werden noch verglichen</source>
+        <translation>
+            <numerusform>%n niistä on vielä vertailussa</numerusform>
+            <numerusform>%n niistä on vielä vertailussa</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Gewählt: %n Zeile(n)</source>
+        <translation>
+            <numerusform>Valittu: %n rivi</numerusform>
+            <numerusform>Valittu: %n riviä</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon herausgenommen</source>
+        <translation>
+            <numerusform>%n niistä jätetty pois</numerusform>
+            <numerusform>%n niistä jätetty pois</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unterschiede der offenen Zeilen</source>
+        <translation>Avointen rivien erot</translation>
+    </message>
+</context>
+<context>
+    <name>PatternModel</name>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n rivi</numerusform>
+            <numerusform>%n riviä</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Projekt(e)</source>
+        <translation>
+            <numerusform>%n projekti</numerusform>
+            <numerusform>%n projektia</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <translation>
+            <numerusform>Vielä %n rivillä on näitä ja muita eroja</numerusform>
+            <numerusform>Vielä %n rivillä on näitä ja muita eroja</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unterschied</source>
+        <translation>Ero</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Rivit</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projektit</translation>
+    </message>
+    <message>
+        <source>Sicherheit</source>
+        <translation>Varmuus</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Poikkeukset</translation>
+    </message>
+</context>
+<context>
+    <name>PatternText</name>
+    <message>
+        <source>Zahl in der Nähe</source>
+        <translation>lähes sama luku</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>toinen luku</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>toinen sanamuoto</translation>
+    </message>
+    <message>
+        <source>Wert hinzugekommen</source>
+        <translation>arvo lisätty</translation>
+    </message>
+    <message>
+        <source>Wert fehlt</source>
+        <translation>arvo puuttuu</translation>
+    </message>
+    <message>
+        <source>nicht zu vergleichen</source>
+        <translation>ei verrattavissa</translation>
+    </message>
+    <message>
+        <source>kein Unterschied</source>
+        <translation>ei eroa</translation>
+    </message>
+</context>
+<context>
+    <name>PluginActions</name>
+    <message>
+        <source>nicht verfügbar: es ist keine Datei geöffnet</source>
+        <translation>ei käytettävissä: tiedostoa ei ole avattu</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: die Linkdatenbank wird verbunden</source>
+        <translation>ei käytettävissä: linkkitietokantaan yhdistetään</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: %1</source>
+        <translation>ei käytettävissä: %1</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Linkdatenbank verbunden</source>
+        <translation>ei käytettävissä: linkkitietokantaa ei ole yhdistetty</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: der Linkmanager wartet auf keine Auswahl</source>
+        <translation>ei käytettävissä: linkkienhallinta ei odota valintaa</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist kein Projekt gewählt</source>
+        <translation>ei käytettävissä: projektia ei ole valittu</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Zeile gewählt</source>
+        <translation>ei käytettävissä: riviä ei ole valittu</translation>
+    </message>
+    <message>
+        <source>ERP-Nummer für %1, Zeile %2</source>
+        <translation>ERP-numero projektille %1, rivi %2</translation>
+    </message>
+    <message>
+        <source>Bitte eine ERP-Nummer vergeben.
+
+Projekt: %1
+Zeile: %2
+</source>
+        <translation>Pyydämme antamaan ERP-numeron.
+
+Projekti: %1
+Rivi: %2
+</translation>
+    </message>
+    <message>
+        <source>Es konnte keine Mail begonnen werden.</source>
+        <translation>Sähköpostiviestiä ei voitu aloittaa.</translation>
+    </message>
+    <message>
+        <source>Auf diesem Rechner ist kein Mailprogramm eingerichtet. Die Anfrage lautet:
+
+%1: %2</source>
+        <translation>Tällä tietokoneella ei ole määritetty sähköpostiohjelmaa. Pyyntö kuuluu:
+
+%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Question</name>
+    <message>
+        <source>Frage</source>
+        <translation>Kysymys</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Huomautus</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Ja</source>
+        <translation>&amp;Kyllä</translation>
+    </message>
+    <message>
+        <source>&amp;Nein</source>
+        <translation>&amp;Ei</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Peruuta</translation>
+    </message>
+</context>
+<context>
+    <name>RangeCommands</name>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Rivi %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <translation>
+            <numerusform>%n rivi on vahvistettu, vaikka sen alueen arvoilla ei ole uutta riviä.</numerusform>
+            <numerusform>%n riviä on vahvistettu, vaikka niiden alueiden arvoilla ei ole uutta riviä.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Zurücknehmen</source>
+        <translation>&amp;Peru</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem bestätigen</source>
+        <translation>&amp;Vahvista silti</translation>
+    </message>
+</context>
+<context>
+    <name>RangeDock</name>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n rivi</numerusform>
+            <numerusform>%1: %n riviä</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Die Zeile hat keine Wertebereichszuordnung.</source>
+        <translation>Rivillä ei ole arvoaluekohdistusta.</translation>
+    </message>
+    <message>
+        <source>%1: %2 von %3 Werten zugeordnet</source>
+        <translation>%1: %2/%3 arvoa kohdistettu</translation>
+    </message>
+    <message>
+        <source>fehlend: %1</source>
+        <translation>puuttuu: %1</translation>
+    </message>
+    <message>
+        <source>mehrfach: %1</source>
+        <translation>useaan kertaan: %1</translation>
+    </message>
+    <message>
+        <source>nicht im alten Bereich: %1</source>
+        <translation>ei vanhassa alueessa: %1</translation>
+    </message>
+    <message>
+        <source>Wertebereich der Zeile</source>
+        <translation>Rivin arvoalue</translation>
+    </message>
+</context>
+<context>
+    <name>ReasonDialog</name>
+    <message>
+        <source>Grund der Entscheidung</source>
+        <translation>Päätöksen syy</translation>
+    </message>
+    <message>
+        <source>&amp;Für:</source>
+        <translation>&amp;Koskee:</translation>
+    </message>
+    <message>
+        <source>&amp;Grund:</source>
+        <translation>&amp;Syy:</translation>
+    </message>
+    <message>
+        <source>eingestellt</source>
+        <translation>poistettu valikoimasta</translation>
+    </message>
+    <message>
+        <source>zusammengelegt mit einem anderen Teil</source>
+        <translation>yhdistetty toiseen osaan</translation>
+    </message>
+    <message>
+        <source>aufgeteilt in mehrere Teile</source>
+        <translation>jaettu useaksi osaksi</translation>
+    </message>
+    <message>
+        <source>in einen anderen Katalog verschoben</source>
+        <translation>siirretty toiseen luetteloon</translation>
+    </message>
+    <message>
+        <source>noch nicht geprüft</source>
+        <translation>ei vielä tarkistettu</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Wiederherstellung</source>
+        <translation>Palautus</translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
+        <translation>Tiedostoon %1 liittyy työtä, jota ei tallennettu: vaiheita %2, rivejä %3, projekteja %4, viimeksi ”%5”. Sen on tehnyt %6.</translation>
+    </message>
+    <message>
+        <source>Gespeichert</source>
+        <translation>Tallennettu</translation>
+    </message>
+    <message>
+        <source>Wiederhergestellt</source>
+        <translation>Palautettu</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Ajankohta</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projektit</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Rivit</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Vahvistettu</translation>
+    </message>
+    <message>
+        <source>Zu überprüfen</source>
+        <translation>Tarkistettava</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Ei löytynyt</translation>
+    </message>
+    <message>
+        <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
+        <translation>Tallennettu versio on uudempi kuin mikään, mitä voi palauttaa.</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Palauta</translation>
+    </message>
+    <message>
+        <source>Mit &amp;späteren Änderungen (%1)</source>
+        <translation>&amp;Myöhempine muutoksineen (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Gespeicherten Stand öffnen</source>
+        <translation>&amp;Avaa tallennettu versio</translation>
+    </message>
+</context>
+<context>
+    <name>ReleaseCommands</name>
+    <message>
+        <source>Tabellen werden importiert</source>
+        <translation>Tuodaan taulukoita</translation>
+    </message>
+    <message>
+        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
+        <translation>Taulukoita %1, rivejä %2: uusia %3, muutettuja %4, muuttumattomia %5, tuomatta %6</translation>
+    </message>
+    <message>
+        <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
+        <translation>Kohteella %1 ei enää ole CSV-tiedostoa, ja se jää ennalleen</translation>
+    </message>
+    <message>
+        <source>In dem Ordner ist keine CSV-Datei; es wurde nichts importiert</source>
+        <translation>Kansiossa ei ole CSV-tiedostoa; mitään ei tuotu</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Keskeytetty: %1</translation>
+    </message>
+    <message>
+        <source>Nicht alles geschrieben: %1</source>
+        <translation>Kaikkea ei kirjoitettu: %1</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>Tiedostoa %1 ei voi kirjoittaa.</translation>
+    </message>
+    <message>
+        <source>Zeilen exportieren</source>
+        <translation>Vie rivejä</translation>
+    </message>
+    <message>
+        <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+        <translation>Taulukot (*.csv);;Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>Zeilen werden exportiert</source>
+        <translation>Viedään rivejä</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts exportiert</source>
+        <translation>Keskeytetty, mitään ei viety</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen nach %2 exportiert</source>
+        <translation>%1 riviä viety tiedostoon %2</translation>
+    </message>
+    <message>
+        <source>Bericht schreiben</source>
+        <translation>Kirjoita raportti</translation>
+    </message>
+    <message>
+        <source>PDF-Dateien (*.pdf);;HTML-Seiten (*.html);;Alle Dateien (*)</source>
+        <translation>PDF-tiedostot (*.pdf);;HTML-sivut (*.html);;Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>Bericht wird erstellt</source>
+        <translation>Luodaan raporttia</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht geschrieben</source>
+        <translation>Keskeytetty, raporttia ei kirjoitettu</translation>
+    </message>
+    <message>
+        <source>Seiten werden gesetzt</source>
+        <translation>Taitetaan sivuja</translation>
+    </message>
+    <message>
+        <source>Bericht nach %1 geschrieben</source>
+        <translation>Raportti kirjoitettu tiedostoon %1</translation>
+    </message>
+</context>
+<context>
+    <name>ReplacementsDialog</name>
+    <message>
+        <source>Vereinbarte Ersetzungen</source>
+        <translation>Sovitut korvaukset</translation>
+    </message>
+    <message>
+        <source>im ganzen Katalogstand</source>
+        <translation>koko luetteloversiossa</translation>
+    </message>
+    <message>
+        <source>&amp;Vereinbaren</source>
+        <translation>&amp;Sovi</translation>
+    </message>
+    <message>
+        <source>&amp;Zurückziehen</source>
+        <translation>&amp;Peru</translation>
+    </message>
+    <message>
+        <source>&amp;Belege</source>
+        <translation>&amp;Todisteet</translation>
+    </message>
+    <message>
+        <source>&amp;Übernehmen</source>
+        <translation>&amp;Ota käyttöön</translation>
+    </message>
+    <message>
+        <source>Eine Ersetzung sagt, dass ein alter Wert für einen neuen steht. Sie macht Vorschläge, bestätigt aber nichts.</source>
+        <translation>Korvaus sanoo, että vanha arvo vastaa uutta. Se tekee ehdotuksia, mutta ei vahvista mitään.</translation>
+    </message>
+    <message>
+        <source>vereinbart</source>
+        <translation>sovittu</translation>
+    </message>
+    <message>
+        <source>vereinbart in %1</source>
+        <translation>sovittu projektissa %1</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen</source>
+        <translation>Taulukoita luetaan</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dafür</source>
+        <translation>
+            <numerusform>%n rivi puolesta</numerusform>
+            <numerusform>%n riviä puolesta</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dagegen</source>
+        <translation>
+            <numerusform>%n rivi vastaan</numerusform>
+            <numerusform>%n riviä vastaan</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ReportTexts</name>
+    <message>
+        <source>Mapping-Bericht: %1</source>
+        <translation>Kohdistusraportti: %1</translation>
+    </message>
+    <message>
+        <source>Katalogstand %1 nach %2</source>
+        <translation>Luetteloversiosta %1 versioon %2</translation>
+    </message>
+    <message>
+        <source>Erstellt am %1</source>
+        <translation>Luotu %1</translation>
+    </message>
+    <message>
+        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
+        <translation>Valmiina: %1/%2 riviä; avoinna: %3.</translation>
+    </message>
+    <message>
+        <source>Stand der Zeilen</source>
+        <translation>Rivien tilanne</translation>
+    </message>
+    <message>
+        <source>Nach Ordnern, mit allem darunter</source>
+        <translation>Kansioittain, kaikki niiden alla mukaan lukien</translation>
+    </message>
+    <message>
+        <source>Nach Projekten</source>
+        <translation>Projekteittain</translation>
+    </message>
+    <message>
+        <source>Warum Zeilen offen sind</source>
+        <translation>Miksi rivejä on avoinna</translation>
+    </message>
+    <message>
+        <source>Worin sich offene Zeilen von ihren Vorschlägen unterscheiden</source>
+        <translation>Miten avoimet rivit eroavat ehdotuksistaan</translation>
+    </message>
+    <message>
+        <source>Stichproben</source>
+        <translation>Otokset</translation>
+    </message>
+    <message>
+        <source>Wer was entschieden hat</source>
+        <translation>Kuka päätti mitä</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen</source>
+        <translation>Avoimet rivit</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Nachfolger</source>
+        <translation>Rivit ilman seuraajaa</translation>
+    </message>
+    <message>
+        <source>Was nicht gelesen werden konnte</source>
+        <translation>Mitä ei voitu lukea</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Rivit</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Vahvistettu</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigt</source>
+        <translation>Vahvistettu poistuneiksi</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet</source>
+        <translation>Varmasti kohdistettu</translation>
+    </message>
+    <message>
+        <source>Zu prüfen</source>
+        <translation>Tarkistettava</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel</source>
+        <translation>Ilman kohdetta</translation>
+    </message>
+    <message>
+        <source>Im Konflikt</source>
+        <translation>Ristiriidassa</translation>
+    </message>
+    <message>
+        <source>Ordner</source>
+        <translation>Kansio</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Projekti</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Rivi</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Merkintä</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Syy</translation>
+    </message>
+    <message>
+        <source>Unterschiede</source>
+        <translation>Erot</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Projektit</translation>
+    </message>
+    <message>
+        <source>Wahrscheinlichkeit</source>
+        <translation>Todennäköisyys</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Poikkeukset</translation>
+    </message>
+    <message>
+        <source>Beispiele</source>
+        <translation>Esimerkkejä</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Aika</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kuka</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Mitä</translation>
+    </message>
+    <message>
+        <source>Beurteilt</source>
+        <translation>Arvioitu</translation>
+    </message>
+    <message>
+        <source>Richtig</source>
+        <translation>Oikein</translation>
+    </message>
+    <message>
+        <source>Höchstens falsch (zu 95 % sicher)</source>
+        <translation>Enintään väärin (95 % varmasti)</translation>
+    </message>
+    <message>
+        <source>abgelehnt</source>
+        <translation>hylätty</translation>
+    </message>
+    <message>
+        <source>Tabelle nicht lesbar</source>
+        <translation>taulukkoa ei voi lukea</translation>
+    </message>
+    <message>
+        <source>nicht zu vergleichen</source>
+        <translation>ei verrattavissa</translation>
+    </message>
+    <message>
+        <source>kein Unterschied</source>
+        <translation>ei eroa</translation>
+    </message>
+    <message>
+        <source>keine</source>
+        <translation>ei mitään</translation>
+    </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>ja %1 muuta</translation>
+    </message>
+    <message>
+        <source>zwei haben verschieden entschieden</source>
+        <translation>kaksi on päättänyt eri tavoin</translation>
+    </message>
+    <message>
+        <source>ein anderer entscheidet</source>
+        <translation>joku muu päättää</translation>
+    </message>
+    <message>
+        <source>eine Tabelle ist nicht lesbar</source>
+        <translation>taulukkoa ei voi lukea</translation>
+    </message>
+    <message>
+        <source>Bedingung oder Formel scheitert</source>
+        <translation>ehto tai kaava epäonnistuu</translation>
+    </message>
+    <message>
+        <source>kein Ziel ist zuständig</source>
+        <translation>mikään kohde ei ota riviä</translation>
+    </message>
+    <message>
+        <source>eine Spalte fehlt</source>
+        <translation>sarake puuttuu</translation>
+    </message>
+    <message>
+        <source>mehrere Zeilen sind gleich</source>
+        <translation>useat rivit ovat samoja</translation>
+    </message>
+    <message>
+        <source>zu unähnlich</source>
+        <translation>liian erilainen</translation>
+    </message>
+    <message>
+        <source>gleich, nur nicht bestätigt</source>
+        <translation>sama, mutta vahvistamatta</translation>
+    </message>
+</context>
+<context>
+    <name>RepositoryBox</name>
+    <message>
+        <source>Zielprojekte aus dem Reposi&amp;tory lesen</source>
+        <translation>Lue ko&amp;hdeprojektit versiovarastosta</translation>
+    </message>
+    <message>
+        <source>Katalog = svn://Server:Port/Pfad</source>
+        <translation>Luettelo = svn://palvelin:portti/polku</translation>
+    </message>
+    <message>
+        <source>Je Zeile ein Katalog. Ohne Zeile ist der Name des Katalogs zugleich der seines Servers.</source>
+        <translation>Yksi luettelo riviä kohti. Ilman riviä luettelon nimi on samalla sen palvelimen nimi.</translation>
+    </message>
+    <message>
+        <source>die neueste</source>
+        <translation>uusin</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> Mt</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Serv&amp;er:</source>
+        <translation>P&amp;alvelin:</translation>
+    </message>
+    <message>
+        <source>Revisi&amp;on:</source>
+        <translation>&amp;Revisio:</translation>
+    </message>
+    <message>
+        <source>&amp;Platz auf dieser Maschine:</source>
+        <translation>T&amp;ilaa tällä koneella:</translation>
+    </message>
+    <message>
+        <source>&amp;Warten auf den Server:</source>
+        <translation>Palvelimen &amp;odotus:</translation>
+    </message>
+    <message>
+        <source>Server, Zeile %1: &quot;%2&quot; ist nicht von der Form &quot;Katalog = svn://Server:Port/Pfad&quot;.</source>
+        <translation>Palvelin, rivi %1: &quot;%2&quot; ei ole muotoa &quot;Luettelo = svn://palvelin:portti/polku&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>RepositoryLoginDialog</name>
+    <message>
+        <source>Anmeldung am Repository</source>
+        <translation>Kirjautuminen versiovarastoon</translation>
+    </message>
+    <message>
+        <source>%1 verlangt eine Anmeldung.</source>
+        <translation>%1 vaatii kirjautumisen.</translation>
+    </message>
+    <message>
+        <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
+        <translation>Nimi ja salasana ovat voimassa ohjelman loppuun asti, eikä niitä tallenneta.</translation>
+    </message>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Käyttäjä:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Salasana:</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewCommands</name>
+    <message>
+        <source>Die Zeile %1 kann nicht gezeigt werden</source>
+        <translation>Riviä %1 ei voi näyttää</translation>
+    </message>
+    <message>
+        <source>Keine Zeile mehr offen</source>
+        <translation>Yksikään rivi ei ole enää avoinna</translation>
+    </message>
+    <message>
+        <source>Die Tabellen sind noch nicht verglichen</source>
+        <translation>Taulukoita ei ole vielä verrattu</translation>
+    </message>
+    <message numerus="yes">
+        <source>Von vorn: %n Zeile(n) offen</source>
+        <translation>
+            <numerusform>Alusta: %n rivi avoinna</numerusform>
+            <numerusform>Alusta: %n riviä avoinna</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach ihrer Unsicherheit</source>
+        <translation>Avoimet rivit tulevat epävarmuuden mukaan</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach ihrem Ort</source>
+        <translation>Avoimet rivit tulevat paikan mukaan</translation>
+    </message>
+    <message>
+        <source>Die Zeile gehört nicht zum gewählten Muster</source>
+        <translation>Rivi ei kuulu valittuun malliin</translation>
+    </message>
+    <message>
+        <source>Zeile %1 herausgenommen</source>
+        <translation>Rivi %1 jätetty pois</translation>
+    </message>
+    <message>
+        <source>Es ist kein Muster gewählt, oder alle Zeilen sind entschieden</source>
+        <translation>Mallia ei ole valittu, tai kaikista sen riveistä on päätetty</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n rivi</numerusform>
+            <numerusform>%n riviä</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en) bestätigen?</source>
+        <translation>
+            <numerusform>vahvistetaanko %n projektissa?</numerusform>
+            <numerusform>vahvistetaanko %n projektissa?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Der Schritt kann zurückgenommen werden.</source>
+        <translation>Vaiheen voi kumota.</translation>
+    </message>
+    <message>
+        <source>&amp;Bestätigen</source>
+        <translation>&amp;Vahvista</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>%n rivi vahvistettu</numerusform>
+            <numerusform>%n riviä vahvistettu</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Einen Kandidaten %1 gibt es nicht</source>
+        <translation>Ehdokasta %1 ei ole</translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 bestätigt</source>
+        <translation>Rivi %1 → %2 vahvistettu</translation>
+    </message>
+    <message>
+        <source>Ersetzungen vereinbart: %1</source>
+        <translation>Sovittuja korvauksia: %1</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Muster, oder markieren Sie offene Zeilen</source>
+        <translation>Valitse malli tai merkitse avoimia rivejä</translation>
+    </message>
+    <message>
+        <source>Stichprobe</source>
+        <translation>Otos</translation>
+    </message>
+    <message>
+        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
+        <translation>Näin monta riviä %1 rivistä arvotaan ja arvioidaan yksitellen. %2 oikeaa kertoo 95 %:n varmuudella, että alle 5 % on väärin, %3 oikeaa, että alle 1 %.</translation>
+    </message>
+    <message>
+        <source>&amp;Ziehen</source>
+        <translation>&amp;Arvo</translation>
+    </message>
+    <message>
+        <source>Stichprobe, Zeile %1 von %2: + richtig, − falsch</source>
+        <translation>Otos, rivi %1/%2: + oikein, − väärin</translation>
+    </message>
+    <message>
+        <source>Es läuft keine Stichprobe</source>
+        <translation>Otosta ei ole käynnissä</translation>
+    </message>
+    <message>
+        <source>Die Zeilen der Stichprobe sind alle schon entschieden</source>
+        <translation>Kaikista otoksen riveistä on jo päätetty</translation>
+    </message>
+    <message>
+        <source>%1 von %2 richtig</source>
+        <translation>%1/%2 oikein</translation>
+    </message>
+    <message>
+        <source>Stichprobe abgelehnt, %1; beurteilt von %2</source>
+        <translation>Otos hylätty, %1; arvioinut %2</translation>
+    </message>
+    <message>
+        <source>alle Zeilen beurteilt</source>
+        <translation>kaikki rivit arvioitu</translation>
+    </message>
+    <message>
+        <source>mit 95 % Sicherheit weniger als %1 % falsch</source>
+        <translation>95 %:n varmuudella alle %1 % väärin</translation>
+    </message>
+    <message>
+        <source>Stichprobe: %1, %2</source>
+        <translation>Otos: %1, %2</translation>
+    </message>
+    <message>
+        <source>beurteilt von %1</source>
+        <translation>arvioinut %1</translation>
+    </message>
+    <message>
+        <source>dort war die falsche</source>
+        <translation>väärä oli siellä</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist falsch: die Stichprobe ist zu Ende</source>
+        <translation>Rivi %1 on väärin: otos on päättynyt</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Rivi %1 projektissa %2 on väärin. Joukko on jaettu erojen mukaan; millä osalla jatketaan?</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>&amp;Jatka</translation>
+    </message>
+    <message>
+        <source>&amp;Falsche Zeile ansehen</source>
+        <translation>&amp;Katso väärää riviä</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptConsole</name>
+    <message>
+        <source>Skriptkonsole</source>
+        <translation>Skriptikonsoli</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Skripte</source>
+        <translation>Skriptien tuloste</translation>
+    </message>
+    <message>
+        <source>Zeile eines Skripts</source>
+        <translation>Skriptin rivi</translation>
+    </message>
+    <message>
+        <source>Eine Zeile JavaScript. Eingabe führt sie aus, Tab ergänzt, Auf und Ab blättern.</source>
+        <translation>Rivi JavaScriptiä. Enter suorittaa sen, sarkain täydentää, ylä- ja alanuoli selaavat.</translation>
+    </message>
+    <message>
+        <source>Anhalten</source>
+        <translation>Pysäytä</translation>
+    </message>
+    <message>
+        <source>Hält das laufende Skript an (Esc)</source>
+        <translation>Pysäyttää käynnissä olevan skriptin (Esc)</translation>
+    </message>
+    <message>
+        <source>Leeren</source>
+        <translation>Tyhjennä</translation>
+    </message>
+    <message>
+        <source>Löscht die Ausgabe</source>
+        <translation>Poistaa tulosteen</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptDesk</name>
+    <message>
+        <source>Skript %1</source>
+        <translation>Skripti %1</translation>
+    </message>
+    <message>
+        <source>(Konsole)</source>
+        <translation>(konsoli)</translation>
+    </message>
+    <message>
+        <source>Fertig</source>
+        <translation>Valmis</translation>
+    </message>
+    <message>
+        <source>Fertig, Status %1</source>
+        <translation>Valmis, tila %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Rivi %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptEditor</name>
+    <message>
+        <source>Sie ist zu groß.</source>
+        <translation>Se on liian suuri.</translation>
+    </message>
+    <message>
+        <source>Sie ist kein Text in UTF-8.</source>
+        <translation>Se ei ole UTF-8-tekstiä.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelesen werden. %2</source>
+        <translation>Tiedostoa %1 ei voi lukea. %2</translation>
+    </message>
+    <message>
+        <source>Skript öffnen</source>
+        <translation>Avaa skripti</translation>
+    </message>
+    <message>
+        <source>Skripte (*.js);;Alle Dateien (*)</source>
+        <translation>Skriptit (*.js);;Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>Skript speichern</source>
+        <translation>Tallenna skripti</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden. %2</source>
+        <translation>Tiedostoa %1 ei voi kirjoittaa. %2</translation>
+    </message>
+    <message>
+        <source>Das Skript ist nicht gespeichert.</source>
+        <translation>Skriptiä ei ole tallennettu.</translation>
+    </message>
+    <message>
+        <source>(ohne Namen)</source>
+        <translation>(nimetön)</translation>
+    </message>
+    <message>
+        <source>Neues Skript</source>
+        <translation>Uusi skripti</translation>
+    </message>
+    <message>
+        <source>Skript</source>
+        <translation>Skripti</translation>
+    </message>
+    <message>
+        <source>Öffnen …</source>
+        <translation>Avaa …</translation>
+    </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Tallenna</translation>
+    </message>
+    <message>
+        <source>Ausführen</source>
+        <translation>Suorita</translation>
+    </message>
+    <message>
+        <source>Anhalten</source>
+        <translation>Pysäytä</translation>
+    </message>
+    <message>
+        <source>Argumente:</source>
+        <translation>Argumentit:</translation>
+    </message>
+    <message>
+        <source>Text des Skripts</source>
+        <translation>Skriptin teksti</translation>
+    </message>
+    <message>
+        <source>Argumente</source>
+        <translation>Argumentit</translation>
+    </message>
+</context>
+<context>
+    <name>SessionOwner</name>
+    <message>
+        <source>an</source>
+        <translation>koneella</translation>
+    </message>
+    <message>
+        <source>(Prozess %1)</source>
+        <translation>(prosessi %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SessionRecovery</name>
+    <message>
+        <source>Das Journal %1 kann nicht gelesen werden (%2).</source>
+        <translation>Päiväkirjaa %1 ei voi lukea (%2).</translation>
+    </message>
+    <message>
+        <source>Hinter der letzten abgeschlossenen Sitzung ist das Journal %1 nicht lesbar. Was dort stand, ist nicht bekannt; das Journal wird aufgehoben.</source>
+        <translation>Viimeisen päättyneen istunnon jälkeen päiväkirjaa %1 ei voi lukea. Mitä siinä oli, ei tiedetä; päiväkirja säilytetään.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>Päiväkirja %1 on vaurioitunut. Vauriokohdan jälkeen %2 muutosta sopii vielä, %3 ei enää sovi; muitakin voi puuttua. Päiväkirja säilytetään.</translation>
+    </message>
+    <message>
+        <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
+        <translation>Päiväkirjan %1 loppua ei voi lukea. Viimeinen muutos saattaa puuttua.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <translation>Päiväkirja %1 on vaurioitunut tai ei sovi kohdistustiedostoon. Vähintään %2 myöhempää muutosta puuttuu; päiväkirja säilytetään.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Nach einer Entscheidung weiter zur nä&amp;chsten offenen Zeile</source>
+        <translation>Siirry päätöksen jälkeen se&amp;uraavalle avoimelle riville</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Asetukset</translation>
+    </message>
+    <message>
+        <source>Wie der Desktop</source>
+        <translation>Kuten työpöytä</translation>
+    </message>
+    <message>
+        <source>Hell</source>
+        <translation>Vaalea</translation>
+    </message>
+    <message>
+        <source>Dunkel</source>
+        <translation>Tumma</translation>
+    </message>
+    <message>
+        <source>nie</source>
+        <translation>ei koskaan</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source>&amp;Sprache:</source>
+        <translation>&amp;Kieli:</translation>
+    </message>
+    <message>
+        <source>&amp;Farben:</source>
+        <translation>&amp;Värit:</translation>
+    </message>
+    <message>
+        <source>Sch&amp;riftgröße:</source>
+        <translation>Kir&amp;jasinkoko:</translation>
+    </message>
+    <message>
+        <source>Sicherungs&amp;kopie alle:</source>
+        <translation>Var&amp;muuskopion väli:</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommands</name>
+    <message>
+        <source>Das Mapping wird mit niemandem geteilt. Zuerst die gemeinsame Kopie wählen.</source>
+        <translation>Kohdistusta ei jaeta kenenkään kanssa. Valitse ensin yhteinen kopio.</translation>
+    </message>
+    <message>
+        <source>%1 gibt es schon, und es ist ein anderes Mapping. Eine andere Kopie wählen, oder die vorhandene in eine neue Datei holen.</source>
+        <translation>%1 on jo olemassa ja on toinen kohdistus. Valitse toinen kopio tai hae olemassa oleva uuteen tiedostoon.</translation>
+    </message>
+    <message>
+        <source>Andere haben seit der letzten Aktualisierung etwas veröffentlicht.</source>
+        <translation>Muut ovat julkaisseet jotain viime päivityksen jälkeen.</translation>
+    </message>
+    <message>
+        <source>Zeilen in Konflikt werden nicht veröffentlicht: %1.</source>
+        <translation>Ristiriitaisia rivejä ei julkaista: %1.</translation>
+    </message>
+    <message>
+        <source>Es gibt Änderungen in Ordnern anderer: %1.</source>
+        <translation>Muiden kansioissa on muutoksia: %1.</translation>
+    </message>
+    <message>
+        <source>Der Ordner ist schon vergeben: %1.</source>
+        <translation>Kansio on jo varattu: %1.</translation>
+    </message>
+    <message>
+        <source>Gerade veröffentlicht jemand anderes (%1). Bitte gleich noch einmal versuchen.</source>
+        <translation>Joku muu julkaisee parhaillaan (%1). Yritä hetken kuluttua uudelleen.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Kopie ist nicht erreichbar: %1. Die eigene Datei ist unverändert; später noch einmal versuchen.</source>
+        <translation>Yhteistä kopiota ei tavoiteta: %1. Oma tiedosto on muuttumaton; yritä myöhemmin uudelleen.</translation>
+    </message>
+    <message>
+        <source>Eine der Dateien ist kein lesbares Mapping: %1.</source>
+        <translation>Yksi tiedostoista ei ole luettava kohdistus: %1.</translation>
+    </message>
+    <message>
+        <source>Es konnte nicht geschrieben werden: %1.</source>
+        <translation>Kirjoittaminen ei onnistunut: %1.</translation>
+    </message>
+    <message>
+        <source>Das ging nicht.</source>
+        <translation>Se ei onnistunut.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Kopie wird gelesen</source>
+        <translation>Luetaan yhteistä kopiota</translation>
+    </message>
+    <message>
+        <source>Geteilt über %1</source>
+        <translation>Jaettu kopion %1 kautta</translation>
+    </message>
+    <message>
+        <source>Änderungen der anderen werden geholt</source>
+        <translation>Haetaan muiden muutoksia</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts Neues</source>
+        <translation>Uutta ei ole</translation>
+    </message>
+    <message>
+        <source>Die Änderungen werden veröffentlicht</source>
+        <translation>Julkaistaan muutoksia</translation>
+    </message>
+    <message>
+        <source>Mapping bearbeitet</source>
+        <translation>Kohdistusta muokattu</translation>
+    </message>
+    <message>
+        <source>Veröffentlicht, Stand %1</source>
+        <translation>Julkaistu, revisio %1</translation>
+    </message>
+    <message>
+        <source>Zuerst wird das übernommen. Danach kann veröffentlicht werden.</source>
+        <translation>Ensin tämä otetaan mukaan. Sen jälkeen voi julkaista.</translation>
+    </message>
+    <message>
+        <source>A&amp;ktualisieren</source>
+        <translation>&amp;Päivitä</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem veröffentlichen</source>
+        <translation>&amp;Julkaise silti</translation>
+    </message>
+    <message>
+        <source>Ordner übernehmen</source>
+        <translation>Ota kansioita hoitoon</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
+        <translation>Luettelon kansiot pilkuin erotettuina; tyhjä palauttaa kaikki:</translation>
+    </message>
+    <message>
+        <source>Über&amp;nehmen</source>
+        <translation>&amp;Ota hoitoon</translation>
+    </message>
+    <message>
+        <source>Die Ordner werden eingetragen</source>
+        <translation>Kansioita merkitään</translation>
+    </message>
+    <message>
+        <source>Keine eigenen Ordner mehr</source>
+        <translation>Omia kansioita ei enää ole</translation>
+    </message>
+    <message>
+        <source>Eigene Ordner: %1</source>
+        <translation>Omat kansiot: %1</translation>
+    </message>
+    <message>
+        <source>(hier)</source>
+        <translation>(täällä)</translation>
+    </message>
+    <message>
+        <source>hat es offen</source>
+        <translation>pitää sitä auki</translation>
+    </message>
+    <message>
+        <source>hat es nicht offen</source>
+        <translation>ei pidä sitä auki</translation>
+    </message>
+    <message>
+        <source>zuletzt %1</source>
+        <translation>viimeksi %1</translation>
+    </message>
+    <message>
+        <source>Ordner %1</source>
+        <translation>kansiot %1</translation>
+    </message>
+    <message>
+        <source>Eigener Stand %1, neuester Stand %2</source>
+        <translation>Oma revisio %1, uusin revisio %2</translation>
+    </message>
+    <message>
+        <source>Andere haben etwas veröffentlicht.</source>
+        <translation>Muut ovat julkaisseet jotain.</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts Neues von anderen.</source>
+        <translation>Muilta ei ole mitään uutta.</translation>
+    </message>
+    <message>
+        <source>Eigene Änderungen sind noch nicht veröffentlicht.</source>
+        <translation>Omia muutoksia ei ole vielä julkaistu.</translation>
+    </message>
+    <message>
+        <source>Gemeinsame Kopie: %1</source>
+        <translation>Yhteinen kopio: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StatusArea</name>
+    <message>
+        <source>rückgängig</source>
+        <translation>kumoa</translation>
+    </message>
+    <message>
+        <source>Alles entschieden</source>
+        <translation>Kaikesta on päätetty</translation>
+    </message>
+    <message>
+        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Avoinna: &lt;a href=&quot;next&quot;&gt;%1 riviä&lt;/a&gt; %2 projektissa</translation>
+    </message>
+    <message>
+        <source>Zeilen, die noch eine Entscheidung brauchen</source>
+        <translation>Rivit, jotka vielä vaativat päätöksen</translation>
+    </message>
+    <message>
+        <source>Schreibgeschützt</source>
+        <translation>Kirjoitussuojattu</translation>
+    </message>
+</context>
+<context>
+    <name>StatusProgress</name>
+    <message>
+        <source>Fortschritt</source>
+        <translation>Edistyminen</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Peruuta</translation>
+    </message>
+    <message>
+        <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
+        <translation>Keskeyttää käynnissä olevan työn; valmis säilyy</translation>
+    </message>
+</context>
+<context>
+    <name>StepNotices</name>
+    <message>
+        <source>Die Änderung in %1 wirkt erst, wenn die Zeilen erneut zugewiesen werden. Dabei bleibt nur erhalten, was bestätigt ist.</source>
+        <translation>Projektin %1 muutos vaikuttaa vasta, kun rivit kohdistetaan uudelleen. Silloin säilyy vain se, mikä on vahvistettu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <translation>
+            <numerusform>%n rivi projektissa %1 oli vahvistettu poistuneeksi eikä enää ole: %2</numerusform>
+            <numerusform>%n riviä projektissa %1 oli vahvistettu poistuneiksi eikä enää ole: %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, &quot;Formel...&quot; wählen oder die Zeile löschen und neu eingeben.</source>
+        <translation>Projektissa %1 muuttujat jäävät ohitetuiksi: %2. Kohdista jokin niistä uudelleen valitsemalla &quot;Kaava...&quot; tai poista rivi ja syötä se uudelleen.</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <translation>Kohdeprojektin %1 ehto projektissa %2 on poistunut.</translation>
+    </message>
+    <message>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <translation>Kohdeprojektin %1 muuttujien kohdistus projektissa %2 on poistunut.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <translation>
+            <numerusform>Rivi %1 → %2 projektissa %3: kohderivi on myös %n muulla rivillä: %4</numerusform>
+            <numerusform>Rivi %1 → %2 projektissa %3: kohderivi on myös %n muulla rivillä: %4</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <translation>
+            <numerusform>%n rivi projektissa %1 jakaa kohderivinsä äsken kohdistettujen kanssa: %2</numerusform>
+            <numerusform>%n riviä projektissa %1 jakaa kohderivinsä äsken kohdistettujen kanssa: %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepSummary</name>
+    <message numerus="yes">
+        <source>%n Konflikt(e) angenommen</source>
+        <translation>
+            <numerusform>%n ristiriita hyväksytty</numerusform>
+            <numerusform>%n ristiriitaa hyväksytty</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>%n rivi vahvistettu</numerusform>
+            <numerusform>%n riviä vahvistettu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n rivi vahvistettu poistuneeksi</numerusform>
+            <numerusform>%n riviä vahvistettu poistuneiksi</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) zugeordnet</source>
+        <translation>
+            <numerusform>%n rivi kohdistettu</numerusform>
+            <numerusform>%n riviä kohdistettu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <translation>
+            <numerusform>%n rivin kohdistus peruttu</numerusform>
+            <numerusform>%n rivin kohdistus peruttu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>%n rivin arvoaluekohdistus muutettu</numerusform>
+            <numerusform>%n rivin arvoaluekohdistus muutettu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <translation>
+            <numerusform>%n rivin ristiriita ratkaistu</numerusform>
+            <numerusform>%n rivin ristiriita ratkaistu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>%n rivi muutettu</numerusform>
+            <numerusform>%n riviä muutettu</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 bestätigt</source>
+        <translation>rivi %1 → %2 vahvistettu</translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 zugeordnet</source>
+        <translation>rivi %1 → %2 kohdistettu</translation>
+    </message>
+    <message>
+        <source>%1 (vorher %2)</source>
+        <translation>%1 (aiemmin %2)</translation>
+    </message>
+    <message>
+        <source>Zeile %1 als ausgelaufen bestätigt (vorher %2)</source>
+        <translation>rivi %1 vahvistettu poistuneeksi (aiemmin %2)</translation>
+    </message>
+    <message>
+        <source>Zeile %1 als ausgelaufen bestätigt</source>
+        <translation>rivi %1 vahvistettu poistuneeksi</translation>
+    </message>
+    <message>
+        <source>Zuordnung von Zeile %1 aufgehoben (vorher %2)</source>
+        <translation>rivin %1 kohdistus peruttu (aiemmin %2)</translation>
+    </message>
+    <message>
+        <source>Projekt hinzugefügt</source>
+        <translation>Projekti lisätty</translation>
+    </message>
+    <message>
+        <source>Projekt entfernt</source>
+        <translation>Projekti poistettu</translation>
+    </message>
+    <message>
+        <source>Zielprojekt hinzugefügt</source>
+        <translation>Kohdeprojekti lisätty</translation>
+    </message>
+    <message>
+        <source>Zielprojekt entfernt</source>
+        <translation>Kohdeprojekti poistettu</translation>
+    </message>
+    <message>
+        <source>Reihenfolge der Zielprojekte geändert</source>
+        <translation>Kohdeprojektien järjestys muutettu</translation>
+    </message>
+    <message>
+        <source>Bedingungen geändert</source>
+        <translation>Ehdot muutettu</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung geändert</source>
+        <translation>Muuttujien kohdistus muutettu</translation>
+    </message>
+    <message>
+        <source>Versionen geändert</source>
+        <translation>Versiot muutettu</translation>
+    </message>
+    <message>
+        <source>Status geändert</source>
+        <translation>Tila muutettu</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 projektissa %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1, %n projektissa</numerusform>
+            <numerusform>%1, %n projektissa</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TourOverlay</name>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Takaisin</translation>
+    </message>
+    <message>
+        <source>&amp;Überspringen</source>
+        <translation>&amp;Ohita</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>&amp;Seuraava</translation>
+    </message>
+    <message>
+        <source>&amp;Fertig</source>
+        <translation>&amp;Valmis</translation>
+    </message>
+</context>
+<context>
+    <name>ValueRangeCheck</name>
+    <message>
+        <source>%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form {NAME=WERT} -&gt; Zeilennummer: &quot;%4&quot;. Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, rivi %2: Arvoaluekohdistuksen kohta %3 ei ole muotoa {NAME=ARVO} -&gt; rivinumero: &quot;%4&quot;. Korjaa se tai pura se uudelleen.</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat kein Zielprojekt. Bitte zuordnen oder den Text leeren.</source>
+        <translation>%1, rivi %2: Arvoaluekohdistus nimeää rivin %3, mutta rivillä ei ole kohdeprojektia. Kohdista se tai tyhjennä teksti.</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht gibt. Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, rivi %2: Arvoaluekohdistus nimeää rivin %3, jota ei ole projektissa %4. Korjaa se tai pura se uudelleen.</translation>
+    </message>
+    <message>
+        <source>%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte prüfen (%3).</source>
+        <translation>%1: Kohdeprojektin %2 taulukkoa ei voi lukea, sen arvoaluekohdistukset ovat tarkistamatta. Tarkista kohdeprojektien hakemisto (%3).</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen werden geprüft</source>
+        <translation>Tarkistetaan arvoaluekohdistuksia</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <translation>
+            <numerusform>%n arvoaluekohdistus tarkistettu</numerusform>
+            <numerusform>%n arvoaluekohdistusta tarkistettu</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>keine Beanstandung</source>
+        <translation>ei huomautettavaa</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Beanstandung(en)</source>
+        <translation>
+            <numerusform>%n huomautus</numerusform>
+            <numerusform>%n huomautusta</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (abgebrochen): %2.</source>
+        <translation>%1 (keskeytetty): %2.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Katalogstände abgleichen</source>
+        <translation>Sovita luetteloversiot yhteen</translation>
+    </message>
+    <message>
+        <source>Ein Katalog ist neu erschienen, und jede Zeile des alten Stands muss auf eine Zeile des neuen übertragen werden. Das Programm schlägt vor, Sie prüfen und bestätigen.</source>
+        <translation>Luettelosta on ilmestynyt uusi versio, ja jokainen vanhan version rivi on siirrettävä uuden version riville. Ohjelma ehdottaa, sinä tarkistat ja vahvistat.</translation>
+    </message>
+    <message>
+        <source>Zuletzt geöffnet:</source>
+        <translation>Viimeksi avatut:</translation>
+    </message>
+</context>
+<context>
+    <name>WorkbenchActions</name>
+    <message>
+        <source>&amp;Neues Mapping...</source>
+        <translation>&amp;Uusi kohdistus...</translation>
+    </message>
+    <message>
+        <source>Legt aus zwei Katalogständen eine neue Mapping-Datei an</source>
+        <translation>Luo uuden kohdistustiedoston kahdesta luetteloversiosta</translation>
+    </message>
+    <message>
+        <source>Ö&amp;ffnen...</source>
+        <translation>&amp;Avaa...</translation>
+    </message>
+    <message>
+        <source>Öffnet eine Mapping-Datei</source>
+        <translation>Avaa kohdistustiedoston</translation>
+    </message>
+    <message>
+        <source>Be&amp;ispielkatalog öffnen</source>
+        <translation>Avaa &amp;esimerkkiluettelo</translation>
+    </message>
+    <message>
+        <source>Öffnet eine eigene Mapping-Datei für den mitgelieferten Beispielkatalog</source>
+        <translation>Avaa oman kohdistustiedoston mukana tulevalle esimerkkiluettelolle</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>Talle&amp;nna</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Änderungen in die Mapping-Datei</source>
+        <translation>Kirjoittaa kaikki muutokset kohdistustiedostoon</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;unter...</source>
+        <translation>Tallenna ni&amp;mellä...</translation>
+    </message>
+    <message>
+        <source>Schreibt in eine andere Mapping-Datei</source>
+        <translation>Kirjoittaa toiseen kohdistustiedostoon</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>&amp;Sulje</translation>
+    </message>
+    <message>
+        <source>Schließt die Mapping-Datei</source>
+        <translation>Sulkee kohdistustiedoston</translation>
+    </message>
+    <message>
+        <source>&amp;Katalogverzeichnisse...</source>
+        <translation>Lue&amp;ttelohakemistot...</translation>
+    </message>
+    <message>
+        <source>Wählt die Verzeichnisse des alten und des neuen Katalogstands</source>
+        <translation>Valitsee vanhan ja uuden luetteloversion hakemistot</translation>
+    </message>
+    <message>
+        <source>&amp;Gemeinsame Kopie...</source>
+        <translation>&amp;Yhteinen kopio...</translation>
+    </message>
+    <message>
+        <source>Wählt die Kopie, über die mehrere an diesem Mapping arbeiten</source>
+        <translation>Valitsee kopion, jonka kautta useat työstävät tätä kohdistusta</translation>
+    </message>
+    <message>
+        <source>&amp;Aktualisieren</source>
+        <translation>Päi&amp;vitä</translation>
+    </message>
+    <message>
+        <source>Übernimmt, was andere veröffentlicht haben</source>
+        <translation>Ottaa mukaan sen, mitä muut ovat julkaisseet</translation>
+    </message>
+    <message>
+        <source>&amp;Veröffentlichen</source>
+        <translation>&amp;Julkaise</translation>
+    </message>
+    <message>
+        <source>Gibt die eigenen Änderungen an die anderen weiter</source>
+        <translation>Välittää omat muutokset muille</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner übernehmen...</source>
+        <translation>&amp;Ota kansioita hoitoon...</translation>
+    </message>
+    <message>
+        <source>Sagt den anderen, welche Ordner man selbst bearbeitet</source>
+        <translation>Kertoo muille, mitä kansioita itse muokkaa</translation>
+    </message>
+    <message>
+        <source>&amp;Wer arbeitet woran</source>
+        <translation>&amp;Kuka tekee mitä</translation>
+    </message>
+    <message>
+        <source>Zeigt, wer das Mapping offen hat und welche Ordner wem gehören</source>
+        <translation>Näyttää, kuka pitää kohdistusta auki ja mitkä kansiot ovat kenenkin</translation>
+    </message>
+    <message>
+        <source>Tabellen i&amp;mportieren...</source>
+        <translation>Tuo taulu&amp;koita...</translation>
+    </message>
+    <message>
+        <source>Macht aus einem Ordner mit CSV-Dateien Projekte eines Katalogs</source>
+        <translation>Tekee CSV-tiedostojen kansiosta luettelon projekteja</translation>
+    </message>
+    <message>
+        <source>Zeilen e&amp;xportieren...</source>
+        <translation>Vie &amp;rivejä...</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Zeilen des Stands mit ihren Zuordnungen in eine CSV-Datei</source>
+        <translation>Kirjoittaa version kaikki rivit kohdistuksineen CSV-tiedostoon</translation>
+    </message>
+    <message>
+        <source>Be&amp;richt...</source>
+        <translation>Ra&amp;portti...</translation>
+    </message>
+    <message>
+        <source>Schreibt als PDF oder HTML, wie weit der Stand ist und warum Zeilen offen sind</source>
+        <translation>Kirjoittaa PDF- tai HTML-muodossa, kuinka pitkällä versio on ja miksi rivejä on avoinna</translation>
+    </message>
+    <message>
+        <source>&amp;Beenden</source>
+        <translation>&amp;Lopeta</translation>
+    </message>
+    <message>
+        <source>Beendet das Programm</source>
+        <translation>Lopettaa ohjelman</translation>
+    </message>
+    <message>
+        <source>&amp;Rückgängig</source>
+        <translation>&amp;Kumoa</translation>
+    </message>
+    <message>
+        <source>Nimmt den letzten Schritt zurück</source>
+        <translation>Kumoaa viimeisen vaiheen</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>Tee &amp;uudelleen</translation>
+    </message>
+    <message>
+        <source>Führt den zurückgenommenen Schritt wieder aus</source>
+        <translation>Tekee kumotun vaiheen uudelleen</translation>
+    </message>
+    <message>
+        <source>Zeilen &amp;bestätigen...</source>
+        <translation>&amp;Vahvista rivit...</translation>
+    </message>
+    <message>
+        <source>Bestätigt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt</source>
+        <translation>Vahvistaa merkittyjen tai kaikkien näytettyjen rivien kohdistuksen yhdessä vaiheessa</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Ziel als aus&amp;gelaufen bestätigen...</source>
+        <translation>Vahvista rivit &amp;ilman kohdetta poistuneiksi...</translation>
+    </message>
+    <message>
+        <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>
+        <translation>Vahvistaa merkityistä tai kaikista näytetyistä riveistä ilman kohdetta olevat poistuneiksi</translation>
+    </message>
+    <message>
+        <source>Zuordnungen &amp;aufheben...</source>
+        <translation>Pe&amp;ru kohdistukset...</translation>
+    </message>
+    <message>
+        <source>Hebt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt auf</source>
+        <translation>Peruu merkittyjen tai kaikkien näytettyjen rivien kohdistuksen yhdessä vaiheessa</translation>
+    </message>
+    <message>
+        <source>Zuordnungen aufheben und bestä&amp;tigen...</source>
+        <translation>Peru kohdistukset &amp;ja vahvista...</translation>
+    </message>
+    <message>
+        <source>Die markierten oder alle gezeigten Zeilen sind ausgelaufen: hebt auf und bestätigt in einem Schritt</source>
+        <translation>Merkityt tai kaikki näytetyt rivit ovat poistuneet: peruu ja vahvistaa yhdessä vaiheessa</translation>
+    </message>
+    <message>
+        <source>Alle Projekte &amp;zuordnen...</source>
+        <translation>Ko&amp;hdista kaikki projektit...</translation>
+    </message>
+    <message>
+        <source>Sucht für alle Zeilen des Katalogs Zuordnungen; Bestätigtes bleibt</source>
+        <translation>Etsii kohdistukset luettelon kaikille riveille; vahvistettu säilyy</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen &amp;prüfen</source>
+        <translation>Tarkista arvoaluekoh&amp;distukset</translation>
+    </message>
+    <message>
+        <source>Vergleicht alle Wertebereichstexte mit den Tabellen der Zielprojekte</source>
+        <translation>Vertaa kaikkia arvoaluetekstejä kohdeprojektien taulukoihin</translation>
+    </message>
+    <message>
+        <source>&amp;Skript...</source>
+        <translation>&amp;Skripti...</translation>
+    </message>
+    <message>
+        <source>Öffnet ein Fenster, in dem Skripte geschrieben und ausgeführt werden</source>
+        <translation>Avaa ikkunan, jossa kirjoitetaan ja suoritetaan skriptejä</translation>
+    </message>
+    <message>
+        <source>&amp;Einstellungen...</source>
+        <translation>&amp;Asetukset...</translation>
+    </message>
+    <message>
+        <source>Sprache, Schrift, Tasten, Sicherung</source>
+        <translation>Kieli, kirjasin, näppäimet, varmistus</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste offene Zeile</source>
+        <translation>Seuraava &amp;avoin rivi</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten Zeile, die eine Entscheidung braucht, auch im nächsten Projekt</source>
+        <translation>Siirtyy seuraavalle päätöstä vaativalle riville, myös seuraavassa projektissa</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige offene Zeile</source>
+        <translation>&amp;Edellinen avoin rivi</translation>
+    </message>
+    <message>
+        <source>Geht zur vorigen Zeile, die eine Entscheidung braucht, auch im vorigen Projekt</source>
+        <translation>Siirtyy edelliselle päätöstä vaativalle riville, myös edellisessä projektissa</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zu Zeile...</source>
+        <translation>&amp;Siirry riville...</translation>
+    </message>
+    <message>
+        <source>Sucht eine Zeile des Projekts nach Nummer oder Bezeichnung</source>
+        <translation>Etsii projektin rivin numeron tai merkinnän perusteella</translation>
+    </message>
+    <message>
+        <source>&amp;Andere Tabelle</source>
+        <translation>&amp;Toinen taulukko</translation>
+    </message>
+    <message>
+        <source>Wechselt zwischen der alten und der neuen Tabelle</source>
+        <translation>Vaihtaa vanhan ja uuden taulukon välillä</translation>
+    </message>
+    <message>
+        <source>&amp;Finden...</source>
+        <translation>Ets&amp;i...</translation>
+    </message>
+    <message>
+        <source>Findet Projekte, Zeilen, Befehle und Einstellungen nach Teilen der Wörter</source>
+        <translation>Löytää projekteja, rivejä, komentoja ja asetuksia sanojen osien perusteella</translation>
+    </message>
+    <message>
+        <source>&amp;Muster der Unterschiede</source>
+        <translation>&amp;Erojen mallit</translation>
+    </message>
+    <message>
+        <source>Zeigt, worin sich die offenen Zeilen von ihren Vorschlägen unterscheiden</source>
+        <translation>Näyttää, miten avoimet rivit eroavat ehdotuksistaan</translation>
+    </message>
+    <message>
+        <source>&amp;Alt und neu</source>
+        <translation>&amp;Vanha ja uusi</translation>
+    </message>
+    <message>
+        <source>Zeigt alte und neue Werte der Zeile nebeneinander, und ihre Kandidaten</source>
+        <translation>Näyttää rivin vanhat ja uudet arvot rinnakkain sekä sen ehdokkaat</translation>
+    </message>
+    <message>
+        <source>Muster &amp;bestätigen...</source>
+        <translation>Vahvista &amp;malli...</translation>
+    </message>
+    <message>
+        <source>Bestätigt alle Zeilen des gewählten Musters in einem Schritt</source>
+        <translation>Vahvistaa kaikki valitun mallin rivit yhdessä vaiheessa</translation>
+    </message>
+    <message>
+        <source>Zeile &amp;herausnehmen</source>
+        <translation>&amp;Jätä rivi pois</translation>
+    </message>
+    <message>
+        <source>Die Zeile wird nicht mit den anderen des Musters bestätigt</source>
+        <translation>Riviä ei vahvisteta mallin muiden rivien kanssa</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste Zeile des Musters</source>
+        <translation>Mallin &amp;seuraava rivi</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten offenen Zeile des gewählten Musters</source>
+        <translation>Siirtyy valitun mallin seuraavalle avoimelle riville</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige Zeile des Musters</source>
+        <translation>Mallin edellinen &amp;rivi</translation>
+    </message>
+    <message>
+        <source>Geht zur vorigen offenen Zeile des gewählten Musters</source>
+        <translation>Siirtyy valitun mallin edelliselle avoimelle riville</translation>
+    </message>
+    <message>
+        <source>Nächstes Mus&amp;ter</source>
+        <translation>Se&amp;uraava malli</translation>
+    </message>
+    <message>
+        <source>Wählt das nächste Muster der Liste</source>
+        <translation>Valitsee luettelon seuraavan mallin</translation>
+    </message>
+    <message>
+        <source>&amp;Unsicherste zuerst</source>
+        <translation>Epävarmimma&amp;t ensin</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach der Gefahr eines Irrtums statt nach ihrem Ort</source>
+        <translation>Avoimet rivit tulevat virheen vaaran mukaan eivätkä paikan mukaan</translation>
+    </message>
+    <message>
+        <source>Na&amp;chbarschaft</source>
+        <translation>N&amp;aapurusto</translation>
+    </message>
+    <message>
+        <source>Zeigt, wo Zuordnungen benachbarter Zeilen nicht zueinander passen</source>
+        <translation>Näyttää, missä vierekkäisten rivien kohdistukset eivät sovi yhteen</translation>
+    </message>
+    <message>
+        <source>&amp;Zeilen zurechtrücken</source>
+        <translation>Korjaa rivien &amp;paikat</translation>
+    </message>
+    <message>
+        <source>Behebt die gewählte Fundstelle der Nachbarschaft in einem Schritt</source>
+        <translation>Korjaa valitun naapuruston löydöksen yhdessä vaiheessa</translation>
+    </message>
+    <message>
+        <source>&amp;Ersetzungen...</source>
+        <translation>&amp;Korvaukset...</translation>
+    </message>
+    <message>
+        <source>Vereinbart Ersetzungen von Werten für den Katalogstand oder zieht sie zurück</source>
+        <translation>Sopii arvojen korvauksista luetteloversiolle tai peruu ne</translation>
+    </message>
+    <message>
+        <source>&amp;Stichprobe...</source>
+        <translation>&amp;Otos...</translation>
+    </message>
+    <message>
+        <source>Zieht Zeilen des gewählten Musters oder der markierten Zeilen, die einzeln beurteilt werden</source>
+        <translation>Arpoo valitun mallin tai merkittyjen rivien joukosta rivejä, jotka arvioidaan yksitellen</translation>
+    </message>
+    <message>
+        <source>Stichprobe: &amp;richtig</source>
+        <translation>Otos: oikei&amp;n</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Zeile der Stichprobe ist richtig zugeordnet</source>
+        <translation>Otoksen näytetty rivi on kohdistettu oikein</translation>
+    </message>
+    <message>
+        <source>Stichprobe: &amp;falsch</source>
+        <translation>Otos: väär&amp;in</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Zeile der Stichprobe ist falsch zugeordnet; die Stichprobe endet</source>
+        <translation>Otoksen näytetty rivi on kohdistettu väärin; otos päättyy</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;1</source>
+        <translation>Ehdokas &amp;1</translation>
+    </message>
+    <message>
+        <source>Ordnet der Zeile diesen Kandidaten zu und bestätigt ihn</source>
+        <translation>Kohdistaa rivin tähän ehdokkaaseen ja vahvistaa sen</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;2</source>
+        <translation>Ehdokas &amp;2</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;3</source>
+        <translation>Ehdokas &amp;3</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;4</source>
+        <translation>Ehdokas &amp;4</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;5</source>
+        <translation>Ehdokas &amp;5</translation>
+    </message>
+    <message>
+        <source>Wertebereich der Zeile</source>
+        <translation>Rivin arvoalue</translation>
+    </message>
+    <message>
+        <source>Zeigt, welche Werte des alten Bereichs neue Zeilen haben</source>
+        <translation>Näyttää, millä vanhan alueen arvoilla on uudet rivit</translation>
+    </message>
+    <message>
+        <source>&amp;Konflikte</source>
+        <translation>Ristirii&amp;dat</translation>
+    </message>
+    <message>
+        <source>Zeigt die Zeilen, die zwei Seiten verschieden entschieden haben</source>
+        <translation>Näyttää rivit, joista kaksi osapuolta on päättänyt eri tavoin</translation>
+    </message>
+    <message>
+        <source>Nächster offener Konflikt</source>
+        <translation>Seuraava avoin ristiriita</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten Zeile, deren Konflikt noch offen ist</source>
+        <translation>Siirtyy seuraavalle riville, jonka ristiriita on vielä avoinna</translation>
+    </message>
+    <message>
+        <source>Konflikt: eigene Entscheidung</source>
+        <translation>Ristiriita: oma päätös</translation>
+    </message>
+    <message>
+        <source>In diesem Konflikt gilt die eigene Entscheidung</source>
+        <translation>Tässä ristiriidassa pätee oma päätös</translation>
+    </message>
+    <message>
+        <source>Konflikt: andere Entscheidung</source>
+        <translation>Ristiriita: toisen päätös</translation>
+    </message>
+    <message>
+        <source>In diesem Konflikt gilt die Entscheidung der anderen Seite</source>
+        <translation>Tässä ristiriidassa pätee toisen osapuolen päätös</translation>
+    </message>
+    <message>
+        <source>Konflikt: neu entscheiden</source>
+        <translation>Ristiriita: päätä uudelleen</translation>
+    </message>
+    <message>
+        <source>Keine der Entscheidungen gilt; die Zeile ist wieder ohne Ziel</source>
+        <translation>Kumpikaan päätöksistä ei päde; rivi on taas ilman kohdetta</translation>
+    </message>
+    <message>
+        <source>Baut die Anzeige neu auf: Baum, Statistik, Tabellen von der Platte</source>
+        <translation>Rakentaa näkymän uudelleen: puun, tilastot, taulukot levyltä</translation>
+    </message>
+    <message>
+        <source>Hand&amp;buch</source>
+        <translation>Kä&amp;sikirja</translation>
+    </message>
+    <message>
+        <source>Öffnet das Handbuch an der Stelle, um die es geht</source>
+        <translation>Avaa käsikirjan siitä kohdasta, josta on kyse</translation>
+    </message>
+    <message>
+        <source>&amp;Tasten...</source>
+        <translation>&amp;Näppäimet...</translation>
+    </message>
+    <message>
+        <source>Zeigt und ändert die Tasten aller Befehle</source>
+        <translation>Näyttää ja muuttaa kaikkien komentojen näppäimet</translation>
+    </message>
+    <message>
+        <source>&amp;Hinweis zu dieser Stelle</source>
+        <translation>&amp;Vihje tähän kohtaan</translation>
+    </message>
+    <message>
+        <source>Zeigt den Hinweis dort, wo die Tasten hingehen: in einer Tabelle, warum die Zeile ihren Zustand hat</source>
+        <translation>Näyttää vihjeen siinä, minne näppäimet vaikuttavat: taulukossa sen, miksi rivi on tilassaan</translation>
+    </message>
+    <message>
+        <source>&amp;Rundgang</source>
+        <translation>&amp;Kierros</translation>
+    </message>
+    <message>
+        <source>Zeigt in wenigen Schritten, wo was liegt</source>
+        <translation>Näyttää muutamassa vaiheessa, missä mikin on</translation>
+    </message>
+    <message>
+        <source>Über &amp;dieses Programm</source>
+        <translation>&amp;Tietoja tästä ohjelmasta</translation>
+    </message>
+    <message>
+        <source>Version und Verzeichnisse</source>
+        <translation>Versio ja hakemistot</translation>
+    </message>
+</context>
+</TS>
