@@ -1,0 +1,4257 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="de_DE">
+<context>
+    <name>BulkOperation</name>
+    <message>
+        <source>Es ist nichts zu ändern.</source>
+        <translation>Изменять нечего.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigen?</source>
+        <translation>
+            <numerusform>Подтвердить %n строку?</numerusform>
+            <numerusform>Подтвердить %n строки?</numerusform>
+            <numerusform>Подтвердить %n строк?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Подтвердить %n строку как снятую с производства?</numerusform>
+            <numerusform>Подтвердить %n строки как снятые с производства?</numerusform>
+            <numerusform>Подтвердить %n строк как снятые с производства?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <translation>
+            <numerusform>Снять назначение %n строки?</numerusform>
+            <numerusform>Снять назначение %n строк?</numerusform>
+            <numerusform>Снять назначение %n строк?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <translation>
+            <numerusform>Снять назначение %n строки и подтвердить её как снятую с производства?</numerusform>
+            <numerusform>Снять назначение %n строк и подтвердить их как снятые с производства?</numerusform>
+            <numerusform>Снять назначение %n строк и подтвердить их как снятые с производства?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind schon bestätigt.</source>
+        <translation>
+            <numerusform>%n из них уже подтверждена.</numerusform>
+            <numerusform>%n из них уже подтверждены.</numerusform>
+            <numerusform>%n из них уже подтверждены.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <translation>
+            <numerusform>%n из них потеряет своё назначение диапазонов значений.</numerusform>
+            <numerusform>%n из них потеряют свои назначения диапазонов значений.</numerusform>
+            <numerusform>%n из них потеряют свои назначения диапазонов значений.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <translation>
+            <numerusform>%n строка без цели останется неподтверждённой.</numerusform>
+            <numerusform>%n строки без цели останутся неподтверждёнными.</numerusform>
+            <numerusform>%n строк без цели останутся неподтверждёнными.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <translation>
+            <numerusform>%n строка останется как есть.</numerusform>
+            <numerusform>%n строки останутся как есть.</numerusform>
+            <numerusform>%n строк останутся как есть.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <translation>
+            <numerusform>%n строка с конфликтом не изменится.</numerusform>
+            <numerusform>%n строки с конфликтом не изменятся.</numerusform>
+            <numerusform>%n строк с конфликтом не изменятся.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <translation>
+            <numerusform>%n строка не внесена ни в один целевой проект.</numerusform>
+            <numerusform>%n строки не внесены ни в один целевой проект.</numerusform>
+            <numerusform>%n строк не внесены ни в один целевой проект.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt.</source>
+        <translation>
+            <numerusform>Подтверждена %n строка.</numerusform>
+            <numerusform>Подтверждены %n строки.</numerusform>
+            <numerusform>Подтверждено %n строк.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>%n строка подтверждена как снятая с производства.</numerusform>
+            <numerusform>%n строки подтверждены как снятые с производства.</numerusform>
+            <numerusform>%n строк подтверждено как снятые с производства.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <translation>
+            <numerusform>Назначение %n строки снято.</numerusform>
+            <numerusform>Назначение %n строк снято.</numerusform>
+            <numerusform>Назначение %n строк снято.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <translation>
+            <numerusform>Назначение %n строки снято, она подтверждена как снятая с производства.</numerusform>
+            <numerusform>Назначение %n строк снято, они подтверждены как снятые с производства.</numerusform>
+            <numerusform>Назначение %n строк снято, они подтверждены как снятые с производства.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CandidateModel</name>
+    <message>
+        <source>kein Nachfolger</source>
+        <translation>нет преемника</translation>
+    </message>
+    <message>
+        <source>Taste</source>
+        <translation>Клавиша</translation>
+    </message>
+    <message>
+        <source>Sicherheit</source>
+        <translation>Уверенность</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Новая строка</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Причина</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogRootsDialog</name>
+    <message>
+        <source>Verzeichnis des alten Katalogstands</source>
+        <translation>Папка старого выпуска каталога</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des neuen Katalogstands</source>
+        <translation>Папка нового выпуска каталога</translation>
+    </message>
+    <message>
+        <source>Katalogverzeichnisse</source>
+        <translation>Папки каталогов</translation>
+    </message>
+    <message>
+        <source>Wo liegen die beiden Katalogstände dieser Mapping-Datei? Die Verzeichnisse werden zusammen mit der Datei gemerkt.</source>
+        <translation>Где лежат оба выпуска каталога этого файла сопоставления? Папки запоминаются вместе с файлом.</translation>
+    </message>
+    <message>
+        <source>&amp;Alter Stand (%1):</source>
+        <translation>&amp;Старый выпуск (%1):</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Stand (%1):</source>
+        <translation>&amp;Новый выпуск (%1):</translation>
+    </message>
+    <message>
+        <source>Beide Verzeichnisse werden gebraucht.</source>
+        <translation>Нужны обе папки.</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Verzeichnis.</source>
+        <translation>%1 не является папкой.</translation>
+    </message>
+    <message>
+        <source>Im alten Stand fehlt %1. Gesucht ist das Verzeichnis, in dem der Katalog %2 liegt.</source>
+        <translation>В старом выпуске нет %1. Нужна папка, в которой лежит каталог %2.</translation>
+    </message>
+    <message>
+        <source>Im neuen Stand fehlt der Katalog %1.</source>
+        <translation>В новом выпуске нет каталога %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictCommands</name>
+    <message>
+        <source>Die Zeile %1 in %2 kann nicht gezeigt werden</source>
+        <translation>Строку %1 в %2 нельзя показать</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist in Konflikt</source>
+        <translation>Ни одна строка не в конфликте</translation>
+    </message>
+    <message>
+        <source>Alle Konflikte sind entschieden; nun speichern</source>
+        <translation>Все конфликты разрешены; теперь сохраните</translation>
+    </message>
+    <message>
+        <source>Konflikt %1 von %2, noch %3 offen</source>
+        <translation>Конфликт %1 из %2, ещё не решено: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <translation>
+            <numerusform>%n строка из %1 противоречит так же. Действует ли решение для всех?</numerusform>
+            <numerusform>%n строки из %1 противоречат так же. Действует ли решение для всех?</numerusform>
+            <numerusform>%n строк из %1 противоречат так же. Действует ли решение для всех?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Eigene: %1
+Andere: %2</source>
+        <translation>Своё: %1
+Другое: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Für alle</source>
+        <translation>&amp;Для всех</translation>
+    </message>
+    <message>
+        <source>&amp;Zeile für Zeile</source>
+        <translation>&amp;Строка за строкой</translation>
+    </message>
+    <message>
+        <source>Die Zeile ist in keinem Konflikt</source>
+        <translation>Строка не в конфликте</translation>
+    </message>
+    <message>
+        <source>Die eigene Entscheidung ist nicht bekannt: die Zeile war schon beim Öffnen in Konflikt</source>
+        <translation>Своё решение неизвестно: строка уже при открытии была в конфликте</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictDock</name>
+    <message>
+        <source>Keine Zeile ist in Konflikt.</source>
+        <translation>Ни одна строка не в конфликте.</translation>
+    </message>
+    <message>
+        <source>Alle Konflikte sind entschieden.</source>
+        <translation>Все конфликты разрешены.</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Konflikten sind noch offen.</source>
+        <translation>Нерешённых конфликтов: %1 из %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <translation>
+            <numerusform>Ещё %n строка противоречит так же, как эта.</numerusform>
+            <numerusform>Ещё %n строки противоречат так же, как эта.</numerusform>
+            <numerusform>Ещё %n строк противоречат так же, как эта.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Konflikte</source>
+        <translation>Конфликты</translation>
+    </message>
+    <message>
+        <source>Seiten des Konflikts</source>
+        <translation>Стороны конфликта</translation>
+    </message>
+    <message>
+        <source>Eigene</source>
+        <translation>Своё</translation>
+    </message>
+    <message>
+        <source>Andere</source>
+        <translation>Другое</translation>
+    </message>
+    <message>
+        <source>Neu entscheiden</source>
+        <translation>Решить заново</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictModel</name>
+    <message>
+        <source>offen</source>
+        <translation>не решён</translation>
+    </message>
+    <message>
+        <source>eigene</source>
+        <translation>своё</translation>
+    </message>
+    <message>
+        <source>andere</source>
+        <translation>другое</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>новое</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Проект</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Eigene Entscheidung</source>
+        <translation>Своё решение</translation>
+    </message>
+    <message>
+        <source>Andere Entscheidung</source>
+        <translation>Другое решение</translation>
+    </message>
+    <message>
+        <source>Gilt</source>
+        <translation>Действует</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictSides</name>
+    <message>
+        <source>automatisch zugeordnet</source>
+        <translation>назначена автоматически</translation>
+    </message>
+    <message>
+        <source>zu überprüfen</source>
+        <translation>требует проверки</translation>
+    </message>
+    <message>
+        <source>bestätigt</source>
+        <translation>подтверждена</translation>
+    </message>
+    <message>
+        <source>ohne Ziel, offen</source>
+        <translation>без цели, открыта</translation>
+    </message>
+    <message>
+        <source>als ausgelaufen bestätigt</source>
+        <translation>подтверждена как снятая с производства</translation>
+    </message>
+    <message>
+        <source>nicht bekannt</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2, %3</source>
+        <translation>%1, строка %2, %3</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Zielprojekt</source>
+        <translation>Целевой проект</translation>
+    </message>
+    <message>
+        <source>Zielzeile</source>
+        <translation>Целевая строка</translation>
+    </message>
+    <message>
+        <source>Wertebereiche</source>
+        <translation>Диапазоны значений</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictSidesModel</name>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Старая строка</translation>
+    </message>
+    <message>
+        <source>Vorher</source>
+        <translation>Раньше</translation>
+    </message>
+    <message>
+        <source>Eigene Entscheidung</source>
+        <translation>Своё решение</translation>
+    </message>
+    <message>
+        <source>Andere Entscheidung</source>
+        <translation>Другое решение</translation>
+    </message>
+    <message>
+        <source>Angabe</source>
+        <translation>Сведения</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceModel</name>
+    <message>
+        <source>gleich</source>
+        <translation>равно</translation>
+    </message>
+    <message numerus="yes">
+        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>заменено, как ещё в %n строке</numerusform>
+            <numerusform>заменено, как ещё в %n строках</numerusform>
+            <numerusform>заменено, как ещё в %n строках</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ähnlich</source>
+        <translation>похоже</translation>
+    </message>
+    <message>
+        <source>verschieden</source>
+        <translation>различно</translation>
+    </message>
+    <message>
+        <source>nur in der neuen Zeile</source>
+        <translation>только в новой строке</translation>
+    </message>
+    <message>
+        <source>nur in der alten Zeile</source>
+        <translation>только в старой строке</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Переменная</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Старое</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>Новое</translation>
+    </message>
+</context>
+<context>
+    <name>DifferencePanel</name>
+    <message>
+        <source>Die Tabelle hat die Zeile nicht.</source>
+        <translation>В таблице нет этой строки.</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel. %1</source>
+        <translation>Без цели. %1</translation>
+    </message>
+    <message>
+        <source>Die zugeordnete Zeile ist keiner der Kandidaten.</source>
+        <translation>Назначенной строки нет среди кандидатов.</translation>
+    </message>
+    <message>
+        <source>Alt und neu</source>
+        <translation>Старое и новое</translation>
+    </message>
+    <message>
+        <source>Kandidaten</source>
+        <translation>Кандидаты</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentDesk</name>
+    <message>
+        <source>Katalogstand</source>
+        <translation>Выпуск каталога</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält mehrere Katalogstände. Welcher soll geöffnet werden?</source>
+        <translation>Файл содержит несколько выпусков каталога. Какой открыть?</translation>
+    </message>
+    <message>
+        <source>Öffnen</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei wird gelesen</source>
+        <translation>Чтение файла сопоставления</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geöffnet werden.</source>
+        <translation>Файл не удаётся открыть.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist nur zum Lesen geöffnet.</source>
+        <translation>Файл открыт только для чтения.</translation>
+    </message>
+    <message>
+        <source>Die Sperre kann aufgehoben werden, wenn dort sicher niemand mehr arbeitet, etwa nach einem Ausfall des Rechners.</source>
+        <translation>Блокировку можно снять, если там точно больше никто не работает, например после сбоя компьютера.</translation>
+    </message>
+    <message>
+        <source>Nur &amp;lesen</source>
+        <translation>&amp;Только чтение</translation>
+    </message>
+    <message>
+        <source>Sperre &amp;aufheben</source>
+        <translation>Снять &amp;блокировку</translation>
+    </message>
+    <message>
+        <source>Die Sperre konnte nicht aufgehoben werden.</source>
+        <translation>Блокировку не удалось снять.</translation>
+    </message>
+    <message>
+        <source>Die Kataloge sind nicht bekannt; sie werden mit --source und --target angegeben.</source>
+        <translation>Каталоги неизвестны; они задаются через --source и --target.</translation>
+    </message>
+    <message>
+        <source>Änderungen an %1 speichern?</source>
+        <translation>Сохранить изменения в %1?</translation>
+    </message>
+    <message>
+        <source>Verworfene Änderungen sind verloren.</source>
+        <translation>Отброшенные изменения будут потеряны.</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Сохранить</translation>
+    </message>
+    <message>
+        <source>&amp;Verwerfen</source>
+        <translation>&amp;Отменить изменения</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n строка</numerusform>
+            <numerusform>%1: %n строки</numerusform>
+            <numerusform>%1: %n строк</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>и ещё %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <translation>
+            <numerusform>Ещё %n строка в конфликте, в этих проектах:</numerusform>
+            <numerusform>Ещё %n строки в конфликте, в этих проектах:</numerusform>
+            <numerusform>Ещё %n строк в конфликте, в этих проектах:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Konflikte zeigen</source>
+        <translation>&amp;Показать конфликты</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem speichern</source>
+        <translation>&amp;Всё равно сохранить</translation>
+    </message>
+    <message>
+        <source>Gespeichert: %1</source>
+        <translation>Сохранено: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei wurde nicht gespeichert.</source>
+        <translation>Файл не сохранён.</translation>
+    </message>
+    <message>
+        <source>Änderungen &amp;zusammenführen</source>
+        <translation>Объединить &amp;изменения</translation>
+    </message>
+    <message>
+        <source>Kopie behalten und &amp;neu schreiben</source>
+        <translation>Оставить &amp;копию и записать заново</translation>
+    </message>
+    <message>
+        <source>&amp;Eigenen Stand schreiben</source>
+        <translation>&amp;Записать свою версию</translation>
+    </message>
+    <message>
+        <source>Die Änderungen der anderen sind übernommen. Bitte prüfen und dann noch einmal speichern.</source>
+        <translation>Изменения других приняты. Проверьте их и сохраните ещё раз.</translation>
+    </message>
+    <message>
+        <source>Die Änderungen der anderen konnten nicht übernommen werden.</source>
+        <translation>Изменения других не удалось принять.</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei kann nicht angelegt werden.</source>
+        <translation>Файл сопоставления не удаётся создать.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>%1 wird gelesen</source>
+        <translation>Чтение %1</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
+        <translation>Файл сопоставления %1 не удаётся прочитать (%2).
+Выберите другой файл или верните резервную копию %3.</translation>
+    </message>
+    <message>
+        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+Bitte eine andere Datei wählen.</source>
+        <translation>Файл сопоставления %1 не удаётся прочитать (%2).
+Выберите другой файл.</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand.</source>
+        <translation>%1 не содержит выпусков.</translation>
+    </message>
+    <message>
+        <source>%1 enthält keinen Stand %2. Vorhanden sind: %3</source>
+        <translation>%1 не содержит выпуска %2. Имеются: %3</translation>
+    </message>
+    <message>
+        <source>%1 ist nur zum Lesen geöffnet.</source>
+        <translation>%1 открыт только для чтения.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet und ist deshalb nur zum Lesen geöffnet.</source>
+        <translation>%1 сейчас редактирует %2, поэтому он открыт только для чтения.</translation>
+    </message>
+    <message>
+        <source>Der Ordner von %1 ist nicht beschreibbar (%2). Die Datei ist deshalb nur zum Lesen geöffnet; unter einem anderen Namen gespeichert lässt sie sich bearbeiten.</source>
+        <translation>В папку файла %1 нельзя писать (%2). Поэтому файл открыт только для чтения; сохранив под другим именем, его можно редактировать.</translation>
+    </message>
+    <message>
+        <source>Zu %1 gibt es Arbeit, die nicht gespeichert wurde. Sie wird angeboten, sobald sich die Datei zum Bearbeiten öffnen lässt (%2).</source>
+        <translation>Для %1 есть несохранённая работа. Она будет предложена, как только файл удастся открыть для редактирования (%2).</translation>
+    </message>
+    <message>
+        <source>%1 hat noch einen anderen Namen (harter Link). Beim Speichern bleibt die Datei unter dem anderen Namen, wie sie war.</source>
+        <translation>У %1 есть и другое имя (жёсткая ссылка). При сохранении файл под другим именем останется прежним.</translation>
+    </message>
+    <message>
+        <source>%1 wird gespeichert</source>
+        <translation>Сохранение %1</translation>
+    </message>
+    <message>
+        <source>%1 wird gesichert</source>
+        <translation>Резервное копирование %1</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von %2 bearbeitet. Es wurde nichts geschrieben. Bitte einen anderen Namen wählen.</source>
+        <translation>%1 сейчас редактирует %2. Ничего не записано. Выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
+        <translation>В папке файла %1 ничего нельзя создать (%2). Ничего не записано. Выберите другую папку.</translation>
+    </message>
+</context>
+<context>
+    <name>FileNames</name>
+    <message>
+        <source>Mapping-Dateien (*.json);;Alle Dateien (*)</source>
+        <translation>Файлы сопоставления (*.json);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei öffnen</source>
+        <translation>Открыть файл сопоставления</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei speichern</source>
+        <translation>Сохранить файл сопоставления</translation>
+    </message>
+    <message>
+        <source>Tabelle speichern</source>
+        <translation>Сохранить таблицу</translation>
+    </message>
+    <message>
+        <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+        <translation>Таблицы (*.csv);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Gemeinsame Kopie wählen</source>
+        <translation>Выбрать общую копию</translation>
+    </message>
+</context>
+<context>
+    <name>GuardedSave</name>
+    <message>
+        <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
+        <translation>%1 не является обычным файлом и не может служить блокировкой. Ничего не записано. Удалите то, что там находится.</translation>
+    </message>
+    <message>
+        <source>%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts geschrieben. Bitte gleich noch einmal speichern.</source>
+        <translation>%1 сейчас сохраняет другая программа. Ничего не записано. Сохраните ещё раз чуть позже.</translation>
+    </message>
+    <message>
+        <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
+        <translation>В папке файла %1 ничего нельзя создать (%2). Ничего не записано. Освободите место или сохраните под другим именем.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelesen werden (%2). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 не удаётся прочитать (%2). Ничего не записано. Сохраните под другим именем.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <translation>%1 не является читаемым файлом сопоставления (%2). Ничего не записано. При сохранении имеющийся файл останется под именем с меткой времени, и будет создан новый, содержащий только этот выпуск.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <translation>%1 не является читаемым файлом сопоставления (%2). Ничего не записано. При сохранении имеющийся файл останется под именем с меткой времени, и будет создан новый. Остальные выпуски берутся из резервной копии %3: %4.</translation>
+    </message>
+    <message>
+        <source>%1 ist unlesbar und konnte nicht als %2 aufgehoben werden (%3). Es wurde nichts geschrieben. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 нечитаем, и его не удалось сохранить как %2 (%3). Ничего не записано. Сохраните под другим именем.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts geschrieben.</source>
+        <translation>%1 с момента открытия удалён или переименован. При сохранении файл будет создан заново и будет содержать только этот выпуск (%2). Пока ничего не записано.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen von jemand anderem geändert, dieser Stand (%2) aber nicht. Beim Speichern bleiben die anderen Stände, wie sie jetzt in der Datei sind. Es wurde noch nichts geschrieben.</source>
+        <translation>%1 с момента открытия изменён кем-то другим, но не этот выпуск (%2). При сохранении остальные выпуски останутся такими, какие они сейчас в файле. Пока ничего не записано.</translation>
+    </message>
+    <message>
+        <source>%1 wurde seit dem Öffnen von jemand anderem geändert, auch dieser Stand (%2). Beim Speichern gehen dessen Änderungen an diesem Stand verloren. Es wurde noch nichts geschrieben: trotzdem speichern, unter einem anderen Namen speichern oder die Datei neu öffnen.</source>
+        <translation>%1 с момента открытия изменён кем-то другим, включая этот выпуск (%2). При сохранении чужие изменения этого выпуска будут потеряны. Пока ничего не записано: всё равно сохраните, сохраните под другим именем или откройте файл заново.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. Bitte die Schreibrechte prüfen oder unter einem anderen Namen speichern.</source>
+        <translation>В %1 нельзя писать (%2). Ничего не записано. Проверьте права на запись или сохраните под другим именем.</translation>
+    </message>
+    <message>
+        <source>%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter einem anderen Namen speichern.</source>
+        <translation>%1 не сохранён: %2. Файл не изменён, изменения по-прежнему открыты. Освободите место и сохраните ещё раз или сохраните под другим именем.</translation>
+    </message>
+    <message>
+        <source>die Datei konnte nicht vollständig geschrieben werden</source>
+        <translation>файл не удалось записать полностью</translation>
+    </message>
+    <message>
+        <source>die geschriebene Datei ist nicht lesbar (%1)</source>
+        <translation>записанный файл нечитаем (%1)</translation>
+    </message>
+    <message>
+        <source>die geschriebene Datei enthält nicht, was gespeichert werden sollte</source>
+        <translation>записанный файл не содержит того, что нужно было сохранить</translation>
+    </message>
+    <message>
+        <source>in der geschriebenen Datei fehlt der Stand %1, oder er ist ein anderer</source>
+        <translation>в записанном файле нет выпуска %1, или он другой</translation>
+    </message>
+    <message>
+        <source>Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
+        <translation>Резервную копию %1 не удалось создать (%2). Ничего не записано. Освободите место или сохраните под другим именем.</translation>
+    </message>
+    <message>
+        <source>%1 wurde während des Speicherns von jemand anderem geändert. Es wurde nichts geschrieben. Bitte noch einmal speichern.</source>
+        <translation>%1 во время сохранения изменён кем-то другим. Ничего не записано. Сохраните ещё раз.</translation>
+    </message>
+    <message>
+        <source>%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind weiterhin geöffnet. Bitte unter einem anderen Namen speichern.</source>
+        <translation>%1 не сохранён: %2. Файл не изменён, изменения по-прежнему открыты. Сохраните под другим именем.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Назад</translation>
+    </message>
+    <message>
+        <source>Handbuch</source>
+        <translation>Руководство</translation>
+    </message>
+    <message>
+        <source>Inhalt</source>
+        <translation>Содержание</translation>
+    </message>
+    <message>
+        <source>Auf der Seite suchen</source>
+        <translation>Найти на странице</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryCommands</name>
+    <message>
+        <source>&amp;Verlauf der Entscheidungen...</source>
+        <translation>&amp;История решений...</translation>
+    </message>
+    <message>
+        <source>Wer hat was entschieden, wann und warum</source>
+        <translation>Кто что решил, когда и почему</translation>
+    </message>
+    <message>
+        <source>Gr&amp;und der Entscheidung...</source>
+        <translation>&amp;Причина решения...</translation>
+    </message>
+    <message>
+        <source>Zur letzten Entscheidung oder zu den gewählten Zeilen, etwa warum es keinen Nachfolger gibt</source>
+        <translation>К последнему решению или к выбранным строкам, например почему нет преемника</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2</source>
+        <translation>Строка %1 в %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1</source>
+        <translation>
+            <numerusform>%n строка в %1</numerusform>
+            <numerusform>%n строки в %1</numerusform>
+            <numerusform>%n строк в %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Grund notiert: %1</source>
+        <translation>Причина записана: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Verlauf der Entscheidungen</source>
+        <translation>История решений</translation>
+    </message>
+    <message>
+        <source>Gewählte Zeile</source>
+        <translation>Выбранная строка</translation>
+    </message>
+    <message>
+        <source>Gewähltes Projekt</source>
+        <translation>Выбранный проект</translation>
+    </message>
+    <message>
+        <source>Alle Projekte</source>
+        <translation>Все проекты</translation>
+    </message>
+    <message>
+        <source>Wer, Projekt, Ziel oder Grund suchen</source>
+        <translation>Искать: кто, проект, цель или причина</translation>
+    </message>
+    <message>
+        <source>&amp;Neu lesen</source>
+        <translation>&amp;Прочитать заново</translation>
+    </message>
+    <message>
+        <source>Als &amp;CSV speichern...</source>
+        <translation>&amp;Сохранить как CSV...</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>Nicht lesbare Zeilen des Journals: %1</source>
+        <translation>Нечитаемых строк журнала: %1</translation>
+    </message>
+    <message>
+        <source>Entscheidungen: %1</source>
+        <translation>Решений: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geschrieben werden.</source>
+        <translation>Файл не удаётся записать.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>kein Nachfolger</source>
+        <translation>нет преемника</translation>
+    </message>
+    <message>
+        <source>%1 (nicht gespeichert)</source>
+        <translation>%1 (не сохранено)</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Кто</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Проект</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Bisher</source>
+        <translation>До этого</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>Новое</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Причина</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Ordner mit CSV-Dateien</source>
+        <translation>Папка с файлами CSV</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogs</source>
+        <translation>Папка каталога</translation>
+    </message>
+    <message>
+        <source>Tabellen importieren</source>
+        <translation>Импорт таблиц</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner mit CSV-Dateien:</source>
+        <translation>&amp;Папка с файлами CSV:</translation>
+    </message>
+    <message>
+        <source>&amp;Verzeichnis des Katalogs:</source>
+        <translation>Папка &amp;каталога:</translation>
+    </message>
+    <message>
+        <source>Aus jeder CSV-Datei wird ein Projekt mit seiner Tabelle am selben Ort im Katalog. Wer die Tabellen wieder importiert, behält die Nummern der Zeilen.</source>
+        <translation>Из каждого файла CSV получается проект с таблицей на том же месте каталога. При повторном импорте таблиц номера строк сохраняются.</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren</source>
+        <translation>&amp;Импортировать</translation>
+    </message>
+    <message>
+        <source>Der Ordner mit den CSV-Dateien fehlt.</source>
+        <translation>Не указана папка с файлами CSV.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des Katalogs fehlt; es wird angelegt, wenn es das Verzeichnis darüber gibt.</source>
+        <translation>Нет папки каталога; она будет создана, если есть папка над ней.</translation>
+    </message>
+    <message>
+        <source>Ein Verzeichnis liegt im anderen.</source>
+        <translation>Одна папка лежит внутри другой.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyedActions</name>
+    <message>
+        <source>Zeile bestätigen oder gewählte Zeile zuordnen</source>
+        <translation>Подтвердить строку или назначить выбранную строку</translation>
+    </message>
+    <message>
+        <source>Zuordnung der Zeile aufheben</source>
+        <translation>Снять назначение строки</translation>
+    </message>
+    <message>
+        <source>Zuordnung aufheben und als ausgelaufen bestätigen</source>
+        <translation>Снять назначение и подтвердить как снятую с производства</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnung bearbeiten</source>
+        <translation>Изменить назначение диапазонов значений</translation>
+    </message>
+    <message>
+        <source>Bedingung aus der Zeile kopieren</source>
+        <translation>Копировать условие из строки</translation>
+    </message>
+    <message>
+        <source>Ganzes Projekt bestätigen</source>
+        <translation>Подтвердить весь проект</translation>
+    </message>
+    <message>
+        <source>In der Tabelle suchen</source>
+        <translation>Найти в таблице</translation>
+    </message>
+    <message>
+        <source>Weitersuchen</source>
+        <translation>Найти далее</translation>
+    </message>
+    <message>
+        <source>Rückwärts weitersuchen</source>
+        <translation>Найти предыдущее</translation>
+    </message>
+    <message>
+        <source>Spaltenfilter</source>
+        <translation>Фильтр столбца</translation>
+    </message>
+    <message>
+        <source>Zeilen kopieren</source>
+        <translation>Копировать строки</translation>
+    </message>
+    <message>
+        <source>Tabelle größer</source>
+        <translation>Крупнее таблица</translation>
+    </message>
+    <message>
+        <source>Tabelle kleiner</source>
+        <translation>Мельче таблица</translation>
+    </message>
+    <message>
+        <source>Tabelle in normaler Größe</source>
+        <translation>Таблица обычного размера</translation>
+    </message>
+</context>
+<context>
+    <name>KeysDialog</name>
+    <message>
+        <source>&amp;Standard</source>
+        <translation>По &amp;умолчанию</translation>
+    </message>
+    <message>
+        <source>&amp;Keine Taste</source>
+        <translation>&amp;Без клавиши</translation>
+    </message>
+    <message>
+        <source>Tasten</source>
+        <translation>Клавиши</translation>
+    </message>
+    <message>
+        <source>Befehl oder Taste</source>
+        <translation>Команда или клавиша</translation>
+    </message>
+    <message>
+        <source>Befehle</source>
+        <translation>Команды</translation>
+    </message>
+    <message>
+        <source>Befehl</source>
+        <translation>Команда</translation>
+    </message>
+    <message>
+        <source>Wo</source>
+        <translation>Где</translation>
+    </message>
+    <message>
+        <source>Taste</source>
+        <translation>Клавиша</translation>
+    </message>
+    <message>
+        <source>Tabelle</source>
+        <translation>Таблица</translation>
+    </message>
+    <message>
+        <source>Fenster</source>
+        <translation>Окно</translation>
+    </message>
+    <message>
+        <source>Taste für %1</source>
+        <translation>Клавиша для %1</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 brauchen Felder und Listen selbst.</source>
+        <translation>Клавиша %1 нужна самим полям и спискам.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 hätten %2 und %3.</source>
+        <translation>Клавишу %1 имели бы %2 и %3.</translation>
+    </message>
+    <message>
+        <source>Selbst gewählt</source>
+        <translation>Выбрано вами</translation>
+    </message>
+    <message>
+        <source>%1 hat die Taste %2 dann nicht mehr.</source>
+        <translation>Тогда у %1 больше не будет клавиши %2.</translation>
+    </message>
+    <message>
+        <source>Die Taste %1 hat jetzt %2.</source>
+        <translation>Клавиша %1 теперь у %2.</translation>
+    </message>
+</context>
+<context>
+    <name>LegendDialog</name>
+    <message>
+        <source>Bestätigt: die Zuordnung ist entschieden</source>
+        <translation>Подтверждена: назначение решено</translation>
+    </message>
+    <message>
+        <source>Vorschlag: muss bestätigt oder korrigiert werden</source>
+        <translation>Предложение: нужно подтвердить или исправить</translation>
+    </message>
+    <message>
+        <source>Ohne Bild: eindeutig gleich, vom Programm zugeordnet</source>
+        <translation>Без значка: однозначно равна, назначена программой</translation>
+    </message>
+    <message>
+        <source>Keine Zuordnung gefunden</source>
+        <translation>Назначение не найдено</translation>
+    </message>
+    <message>
+        <source>Ausgelaufen: bestätigt, dass es keine Zuordnung gibt</source>
+        <translation>Снята с производства: подтверждено, что назначения нет</translation>
+    </message>
+    <message>
+        <source>Konflikt mit der Änderung eines anderen</source>
+        <translation>Конфликт с изменением другого</translation>
+    </message>
+    <message>
+        <source>Projekt oder Tabelle kann nicht gelesen werden</source>
+        <translation>Проект или таблицу не удаётся прочитать</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen der Zeile</source>
+        <translation>Назначения диапазонов значений строки</translation>
+    </message>
+    <message>
+        <source>In der Zieltabelle: die zugeordnete Zeile</source>
+        <translation>В целевой таблице: назначенная строка</translation>
+    </message>
+    <message>
+        <source>Legende</source>
+        <translation>Условные обозначения</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>LineCommands</name>
+    <message>
+        <source>Bedingung in die Zwischenablage kopiert</source>
+        <translation>Условие скопировано в буфер обмена</translation>
+    </message>
+    <message>
+        <source>Die kopierte Bedingung ist so noch nicht zu gebrauchen, ein Wert fehlt, ist ein Bereich oder enthält ein Anführungszeichen: %1</source>
+        <translation>Скопированное условие пока нельзя использовать: значение отсутствует, является диапазоном или содержит кавычку: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <translation>
+            <numerusform>Здесь, в фильтре, всё готово; вне его открыта ещё %n строка.</numerusform>
+            <numerusform>Здесь, в фильтре, всё готово; вне его открыты ещё %n строки.</numerusform>
+            <numerusform>Здесь, в фильтре, всё готово; вне его открыто ещё %n строк.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Достигнут конец, продолжение с начала</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Достигнуто начало, продолжение с конца</translation>
+    </message>
+    <message>
+        <source>Konflikt %1 von %2</source>
+        <translation>Конфликт %1 из %2</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist in einem der gewählten Zustände</source>
+        <translation>Ни одна строка не находится в выбранных состояниях</translation>
+    </message>
+    <message>
+        <source>Keine Zeile braucht mehr eine Entscheidung</source>
+        <translation>Больше ни одна строка не требует решения</translation>
+    </message>
+    <message>
+        <source>Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen</source>
+        <translation>Ни одну из открытых строк нельзя показать; нет таблиц</translation>
+    </message>
+    <message>
+        <source>Gehe zu Zeile</source>
+        <translation>Перейти к строке</translation>
+    </message>
+    <message>
+        <source>Nummer oder Normbezeichnung:</source>
+        <translation>Номер или обозначение по стандарту:</translation>
+    </message>
+    <message>
+        <source>Gehe zu</source>
+        <translation>Перейти</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt gewählt</source>
+        <translation>Проект не выбран</translation>
+    </message>
+    <message>
+        <source>Keine Zeile mit „%1“ in diesem Projekt</source>
+        <translation>В этом проекте нет строки с «%1»</translation>
+    </message>
+    <message>
+        <source>Treffer %1 von %2</source>
+        <translation>Совпадение %1 из %2</translation>
+    </message>
+    <message>
+        <source>&amp;Ausführen</source>
+        <translation>&amp;Выполнить</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann zurückgenommen werden.</source>
+        <translation>Шаг можно отменить.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die markierten Zeilen.</source>
+        <translation>Имеются в виду выделенные строки.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind alle Zeilen des Projekts.</source>
+        <translation>Имеются в виду все строки проекта.</translation>
+    </message>
+    <message>
+        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
+        <translation>Имеются в виду показанные строки проекта: %1 из %2.</translation>
+    </message>
+    <message>
+        <source>Filter: %1.</source>
+        <translation>Фильтр: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LineStateFilter</name>
+    <message>
+        <source>Konflikt</source>
+        <translation>Конфликт</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen im Konflikt mit der Änderung eines anderen zeigen, und ihre Projekte</source>
+        <translation>Показать только строки, конфликтующие с изменением другого, и их проекты</translation>
+    </message>
+    <message>
+        <source>Zu prüfen</source>
+        <translation>Требует проверки</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen mit einem Vorschlag zeigen, der bestätigt oder korrigiert werden muss, und ihre Projekte</source>
+        <translation>Показать только строки с предложением, которое нужно подтвердить или исправить, и их проекты</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel</source>
+        <translation>Без цели</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, für die nichts gefunden ist, und ihre Projekte</source>
+        <translation>Показать только строки, для которых ничего не найдено, и их проекты</translation>
+    </message>
+    <message>
+        <source>Automatisch</source>
+        <translation>Автоматически</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, die eindeutig gleich sind und vom Programm zugeordnet wurden, und ihre Projekte</source>
+        <translation>Показать только однозначно равные строки, назначенные программой, и их проекты</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Подтверждена</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen mit bestätigter Zuordnung zeigen, und ihre Projekte</source>
+        <translation>Показать только строки с подтверждённым назначением и их проекты</translation>
+    </message>
+    <message>
+        <source>Ausgelaufen</source>
+        <translation>Снята с производства</translation>
+    </message>
+    <message>
+        <source>Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre Projekte</source>
+        <translation>Показать только строки, подтверждённые как снятые с производства, и их проекты</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbBox</name>
+    <message>
+        <source>&amp;Linkdatenbank verwenden</source>
+        <translation>&amp;Использовать базу связей</translation>
+    </message>
+    <message>
+        <source>Datei auf diesem Rechner</source>
+        <translation>Файл на этом компьютере</translation>
+    </message>
+    <message>
+        <source>PostgreSQL-Server</source>
+        <translation>Сервер PostgreSQL</translation>
+    </message>
+    <message>
+        <source>der übliche</source>
+        <translation>обычный</translation>
+    </message>
+    <message>
+        <source>Das Kennwort steht in der Kennwortdatei, im Schlüsselspeicher des Desktops oder in PGPASSWORD, oder es wird bei der Anmeldung eingegeben. Gespeichert wird es nicht.</source>
+        <translation>Пароль находится в файле паролей, в хранилище ключей рабочего стола или в PGPASSWORD либо вводится при входе. Он не сохраняется.</translation>
+    </message>
+    <message>
+        <source>wenn möglich</source>
+        <translation>если возможно</translation>
+    </message>
+    <message>
+        <source>immer</source>
+        <translation>всегда</translation>
+    </message>
+    <message>
+        <source>immer, Server geprüft</source>
+        <translation>всегда, с проверкой сервера</translation>
+    </message>
+    <message>
+        <source>nie</source>
+        <translation>никогда</translation>
+    </message>
+    <message>
+        <source>Art:</source>
+        <translation>Вид:</translation>
+    </message>
+    <message>
+        <source>&amp;Datei:</source>
+        <translation>&amp;Файл:</translation>
+    </message>
+    <message>
+        <source>Rec&amp;hner:</source>
+        <translation>&amp;Компьютер:</translation>
+    </message>
+    <message>
+        <source>&amp;Anschluss:</source>
+        <translation>&amp;Порт:</translation>
+    </message>
+    <message>
+        <source>Daten&amp;bank:</source>
+        <translation>&amp;База данных:</translation>
+    </message>
+    <message>
+        <source>Ben&amp;utzer:</source>
+        <translation>По&amp;льзователь:</translation>
+    </message>
+    <message>
+        <source>Verschlüsselun&amp;g:</source>
+        <translation>&amp;Шифрование:</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank: Der Name der Datei fehlt.</source>
+        <translation>База связей: не указано имя файла.</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank: Der Name der Datenbank fehlt oder ist keiner.</source>
+        <translation>База связей: имя базы данных не указано или недопустимо.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbCommands</name>
+    <message>
+        <source>&amp;Nummern der Linkdatenbank prüfen</source>
+        <translation>Проверить &amp;номера базы связей</translation>
+    </message>
+    <message>
+        <source>In der Linkdatenbank gibt es keine Gruppe, zu der Sie gehören.</source>
+        <translation>В базе связей нет группы, к которой вы принадлежите.</translation>
+    </message>
+    <message>
+        <source>Gruppe auswählen</source>
+        <translation>Выбрать группу</translation>
+    </message>
+    <message>
+        <source>Gruppe der Linkdatenbank:</source>
+        <translation>Группа базы связей:</translation>
+    </message>
+    <message>
+        <source>Zeile %1 von %2 steht nicht in diesem Mapping.</source>
+        <translation>Строки %1 из %2 нет в этом сопоставлении.</translation>
+    </message>
+    <message>
+        <source>Nummern der Linkdatenbank werden geprüft</source>
+        <translation>Проверка номеров базы связей</translation>
+    </message>
+    <message>
+        <source>Die Nummern konnten nicht geprüft werden.</source>
+        <translation>Номера не удалось проверить.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbHost</name>
+    <message>
+        <source>Für die Linkdatenbank fehlt die Lizenz.</source>
+        <translation>Нет лицензии на базу связей.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDbLoginDialog</name>
+    <message>
+        <source>Anmeldung an der Linkdatenbank</source>
+        <translation>Вход в базу связей</translation>
+    </message>
+    <message>
+        <source>Das Kennwort gilt bis zum Ende des Programms und wird nicht gespeichert. Bleibt es leer, kommt es aus der Kennwortdatei.</source>
+        <translation>Пароль действует до завершения программы и не сохраняется. Если он пуст, берётся пароль из файла паролей.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
+        <translation>Под этим именем в протоколе указано, кто что-либо удалил.</translation>
+    </message>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Пользователь:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>Па&amp;роль:</translation>
+    </message>
+</context>
+<context>
+    <name>LinkListDialog</name>
+    <message>
+        <source>Linkmanager</source>
+        <translation>Менеджер связей</translation>
+    </message>
+    <message>
+        <source>Nummer, Projekt oder Bezeichnung suchen</source>
+        <translation>Искать номер, проект или описание</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Номер</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Проект</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Zeile &amp;zeigen</source>
+        <translation>&amp;Показать строку</translation>
+    </message>
+    <message>
+        <source>Mit anderer Zeile &amp;verknüpfen...</source>
+        <translation>&amp;Связать с другой строкой...</translation>
+    </message>
+    <message>
+        <source>Wählen Sie danach Projekt und Zeile und senden Sie die Auswahl mit &quot;Auswahl an Linkmanager&quot;.</source>
+        <translation>Затем выберите проект и строку и отправьте выбор командой «Выбор в менеджер связей».</translation>
+    </message>
+    <message>
+        <source>Zuletzt &amp;Gelöschtes...</source>
+        <translation>Последнее &amp;удалённое...</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
+        <translation>Первые связи: %1; поиск покажет другие.</translation>
+    </message>
+    <message>
+        <source>Links: %1</source>
+        <translation>Связи: %1</translation>
+    </message>
+    <message>
+        <source>Es ist nichts gelöscht, was wiederhergestellt werden könnte.</source>
+        <translation>Ничего не удалено, что можно было бы восстановить.</translation>
+    </message>
+    <message>
+        <source>Zuletzt Gelöschtes wiederherstellen? Zeilen: %1</source>
+        <translation>Восстановить последнее удалённое? Строк: %1</translation>
+    </message>
+    <message>
+        <source>%1 hat sie am %2 aus %3 gelöscht.</source>
+        <translation>Удалил(а) %1, %2, из %3.</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Восстановить</translation>
+    </message>
+</context>
+<context>
+    <name>LinkProofDialog</name>
+    <message>
+        <source>Prüfung der Nummern</source>
+        <translation>Проверка номеров</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Номер</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Befund</source>
+        <translation>Результат</translation>
+    </message>
+    <message>
+        <source>Nummern an Projekten dieses Mappings: %1, an anderen Projekten: %2</source>
+        <translation>Номеров у проектов этого сопоставления: %1, у других проектов: %2</translation>
+    </message>
+    <message>
+        <source>Nicht verglichen, da nicht lesbar: %1</source>
+        <translation>Не сравнивалось, так как нечитаемо: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>Zeile ausgelaufen oder nicht da</source>
+        <translation>Строка снята с производства или отсутствует</translation>
+    </message>
+    <message>
+        <source>als ausgelaufen bestätigt</source>
+        <translation>подтверждена как снятая с производства</translation>
+    </message>
+    <message>
+        <source>das Projekt hat sie nicht</source>
+        <translation>в проекте её нет</translation>
+    </message>
+    <message>
+        <source>Von mehreren Zeilen beansprucht</source>
+        <translation>На него претендуют несколько строк</translation>
+    </message>
+    <message>
+        <source>nahe Zahl</source>
+        <translation>близкое число</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>другое число</translation>
+    </message>
+    <message>
+        <source>anderer Text</source>
+        <translation>другой текст</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>новое</translation>
+    </message>
+    <message>
+        <source>fehlt</source>
+        <translation>отсутствует</translation>
+    </message>
+    <message>
+        <source>Teil weicht ab</source>
+        <translation>Деталь отличается</translation>
+    </message>
+    <message>
+        <source>Teil weicht ab (nicht verglichen)</source>
+        <translation>Деталь отличается (не сравнивалась)</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen mit Nummern</source>
+        <translation>Открытые строки с номерами</translation>
+    </message>
+    <message>
+        <source>Nummern: %1</source>
+        <translation>Номеров: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocatorDesk</name>
+    <message>
+        <source>Die Zeile %1 gibt es in %2 nicht.</source>
+        <translation>Строки %1 нет в %2.</translation>
+    </message>
+    <message>
+        <source>Das Projekt %1 kann nicht gezeigt werden.</source>
+        <translation>Проект %1 нельзя показать.</translation>
+    </message>
+</context>
+<context>
+    <name>LocatorDialog</name>
+    <message>
+        <source>Finden</source>
+        <translation>Найти</translation>
+    </message>
+    <message>
+        <source>Projekt, Zeile, Befehl oder Einstellung</source>
+        <translation>Проект, строка, команда или настройка</translation>
+    </message>
+    <message>
+        <source>Gefunden</source>
+        <translation>Найденное</translation>
+    </message>
+    <message>
+        <source>Teile der Wörter genügen; eine Zahl dahinter meint eine Zeile.</source>
+        <translation>Достаточно частей слов; число в конце означает строку.</translation>
+    </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Ничего не найдено</translation>
+    </message>
+    <message>
+        <source>Die ersten %1 von %2 Treffern</source>
+        <translation>Первые совпадения: %1 из %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Treffer</source>
+        <translation>
+            <numerusform>%n совпадение</numerusform>
+            <numerusform>%n совпадения</numerusform>
+            <numerusform>%n совпадений</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>LocatorModel</name>
+    <message>
+        <source>Zeile %1</source>
+        <translation>Строка %1</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Проект</translation>
+    </message>
+    <message>
+        <source>Befehl</source>
+        <translation>Команда</translation>
+    </message>
+    <message>
+        <source>Einstellung</source>
+        <translation>Настройка</translation>
+    </message>
+</context>
+<context>
+    <name>LogWindow</name>
+    <message>
+        <source>Fehler: </source>
+        <translation>Ошибка: </translation>
+    </message>
+    <message>
+        <source>Warnung: </source>
+        <translation>Предупреждение: </translation>
+    </message>
+    <message>
+        <source>Meldungen</source>
+        <translation>Сообщения</translation>
+    </message>
+    <message>
+        <source>Meldungen löschen</source>
+        <translation>Очистить сообщения</translation>
+    </message>
+    <message>
+        <source>Alle Meldungen kopieren</source>
+        <translation>Копировать все сообщения</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Keine Verbindung zur Linkdatenbank: %1</source>
+        <translation>Нет соединения с базой связей: %1</translation>
+    </message>
+    <message>
+        <source>Die ERP-Nummern können nicht gelesen werden. %1</source>
+        <translation>Номера ERP не удаётся прочитать. %1</translation>
+    </message>
+    <message>
+        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <translation>Строки назначены заново: без изменений</translation>
+    </message>
+    <message>
+        <source>Hier ist keine solche Zeile. %1 geht zur nächsten.</source>
+        <translation>Здесь нет такой строки. %1 переходит к следующей.</translation>
+    </message>
+    <message>
+        <source>schreibgeschützt</source>
+        <translation>только для чтения</translation>
+    </message>
+    <message>
+        <source>Der Katalog</source>
+        <translation>Каталог</translation>
+    </message>
+    <message>
+        <source>Links steht der alte Katalogstand. Die Bilder zeigen, wo noch etwas zu entscheiden ist. Wählen Sie ein Projekt, um seine Zeilen zu sehen.</source>
+        <translation>Слева старый выпуск каталога. Значки показывают, где ещё нужно что-то решить. Выберите проект, чтобы увидеть его строки.</translation>
+    </message>
+    <message>
+        <source>Die Ziele</source>
+        <translation>Цели</translation>
+    </message>
+    <message>
+        <source>Hier stehen die Projekte des neuen Stands, die Zeilen übernehmen können, mit Bedingungen und Variablenzuordnungen.</source>
+        <translation>Здесь находятся проекты нового выпуска, которые могут принять строки, с условиями и сопоставлениями переменных.</translation>
+    </message>
+    <message>
+        <source>Die Zeilen</source>
+        <translation>Строки</translation>
+    </message>
+    <message>
+        <source>Links die alte Tabelle, rechts die neue. %1 bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, %2 hebt auf, %3 bestätigt, dass die Zeile ausgelaufen ist.</source>
+        <translation>Слева старая таблица, справа новая. %1 подтверждает назначение или назначает строку, выбранную справа, %2 снимает его, %3 подтверждает, что строка снята с производства.</translation>
+    </message>
+    <message>
+        <source>Was noch offen ist</source>
+        <translation>Что ещё открыто</translation>
+    </message>
+    <message>
+        <source>Der Zähler sagt, wie viele Zeilen eine Entscheidung brauchen. %1 geht zur nächsten, auch im nächsten Projekt.</source>
+        <translation>Счётчик показывает, сколько строк требуют решения. %1 переходит к следующей, в том числе в следующем проекте.</translation>
+    </message>
+    <message>
+        <source>Nichts geht verloren</source>
+        <translation>Ничего не теряется</translation>
+    </message>
+    <message>
+        <source>Jeder Schritt kann zurückgenommen werden. Was nicht gespeichert ist, bietet das Programm nach einem Absturz zur Wiederherstellung an. Der Rundgang steht im Menü Hilfe.</source>
+        <translation>Каждый шаг можно отменить. Несохранённое программа после сбоя предложит восстановить. Экскурсия находится в меню «Справка».</translation>
+    </message>
+    <message>
+        <source>Zeilen des ganzen Katalogs zuordnen?</source>
+        <translation>Назначить строки всего каталога?</translation>
+    </message>
+    <message>
+        <source>Bestätigtes bleibt in jedem Fall. Der Schritt kann zurückgenommen werden.</source>
+        <translation>Подтверждённое остаётся в любом случае. Шаг можно отменить.</translation>
+    </message>
+    <message>
+        <source>Nur &amp;Zeilen ohne Zuordnung</source>
+        <translation>&amp;Только строки без назначения</translation>
+    </message>
+    <message>
+        <source>Alles &amp;Unbestätigte neu</source>
+        <translation>&amp;Всё неподтверждённое заново</translation>
+    </message>
+    <message>
+        <source>Alle Projekte zugeordnet</source>
+        <translation>Назначены все проекты</translation>
+    </message>
+    <message>
+        <source>Das Zielprojekt %1 gibt es nicht.</source>
+        <translation>Целевого проекта %1 нет.</translation>
+    </message>
+    <message>
+        <source>Zielprojekt: %1</source>
+        <translation>Целевой проект: %1</translation>
+    </message>
+    <message>
+        <source>Einstellungen: %1</source>
+        <translation>Настройки: %1</translation>
+    </message>
+    <message>
+        <source>Zu dieser Stelle gibt es keinen Hinweis</source>
+        <translation>Для этого места нет подсказки</translation>
+    </message>
+    <message>
+        <source>Liste &amp;leeren</source>
+        <translation>&amp;Очистить список</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Teilen</source>
+        <translation>&amp;Общий доступ</translation>
+    </message>
+    <message>
+        <source>&amp;Zuletzt geöffnet</source>
+        <translation>&amp;Недавно открытые</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zu</source>
+        <translation>Пе&amp;реход</translation>
+    </message>
+    <message>
+        <source>&amp;Prüfen</source>
+        <translation>Провер&amp;ка</translation>
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>Nur &amp;Zeilen</source>
+        <translation>&amp;Только строки</translation>
+    </message>
+    <message>
+        <source>&amp;Hilfe</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>Linkdatenbank</source>
+        <translation>База связей</translation>
+    </message>
+    <message>
+        <source>Zustände der Zeilen</source>
+        <translation>Состояния строк</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Инструменты</translation>
+    </message>
+</context>
+<context>
+    <name>MappingDocument</name>
+    <message>
+        <source>Es ist keine Datei zum Bearbeiten geöffnet.</source>
+        <translation>Нет файла, открытого для редактирования.</translation>
+    </message>
+    <message>
+        <source>Eigene Änderungen auf dem Stand der Datei</source>
+        <translation>Свои изменения поверх версии файла</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <translation>
+            <numerusform>%n конфликт: своё решение</numerusform>
+            <numerusform>%n конфликта: своё решение</numerusform>
+            <numerusform>%n конфликтов: своё решение</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <translation>
+            <numerusform>%n конфликт: решение другой стороны</numerusform>
+            <numerusform>%n конфликта: решение другой стороны</numerusform>
+            <numerusform>%n конфликтов: решение другой стороны</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <translation>
+            <numerusform>%n конфликт: решить заново</numerusform>
+            <numerusform>%n конфликта: решить заново</numerusform>
+            <numerusform>%n конфликтов: решить заново</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht geschrieben werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte bald speichern.</source>
+        <translation>В журнал %1 не удаётся писать (%2). После сбоя изменения были бы потеряны: скорее сохраните.</translation>
+    </message>
+    <message>
+        <source>Der wiederhergestellte Stand kann nicht gesichert werden (%1). Bitte Platz schaffen und noch einmal öffnen; das Journal ist unverändert.</source>
+        <translation>Восстановленную версию не удаётся сохранить (%1). Освободите место и откройте ещё раз; журнал не изменён.</translation>
+    </message>
+    <message>
+        <source>Wiederherstellung nach einem Absturz</source>
+        <translation>Восстановление после сбоя</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 kann nicht angelegt werden (%2). Nach einem Absturz wären die Änderungen verloren: bitte oft speichern.</source>
+        <translation>Журнал %1 не удаётся создать (%2). После сбоя изменения были бы потеряны: сохраняйте чаще.</translation>
+    </message>
+    <message>
+        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <translation>Файл сопоставления не открыт.</translation>
+    </message>
+    <message>
+        <source>Es wird gerade gespeichert.</source>
+        <translation>Идёт сохранение.</translation>
+    </message>
+    <message>
+        <source>Es wurde nicht gespeichert. %1 Bitte unter einem anderen Namen speichern.</source>
+        <translation>Не сохранено. %1 Сохраните под другим именем.</translation>
+    </message>
+    <message>
+        <source>Die Sperre von %1 ist verloren und kann nicht erneuert werden. Andere könnten die Datei gleichzeitig bearbeiten.</source>
+        <translation>Блокировка %1 потеряна и не может быть возобновлена. Другие могли бы редактировать файл одновременно.</translation>
+    </message>
+    <message>
+        <source>Die automatische Sicherung ist nicht gelungen (%1). Bitte bald speichern.</source>
+        <translation>Автоматическое сохранение не удалось (%1). Скорее сохраните.</translation>
+    </message>
+    <message>
+        <source>Die Änderung wurde nicht übernommen. %1</source>
+        <translation>Изменение не принято. %1</translation>
+    </message>
+    <message>
+        <source>Konflikte markiert</source>
+        <translation>Конфликты отмечены</translation>
+    </message>
+    <message>
+        <source>Rückgängig: %1</source>
+        <translation>Отменено: %1</translation>
+    </message>
+    <message>
+        <source>Wiederholt: %1</source>
+        <translation>Повторено: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MappingMaker</name>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Поиск целевых проектов</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts angelegt</source>
+        <translation>Прервано, ничего не создано</translation>
+    </message>
+    <message>
+        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
+        <translation>Проектов: %1, из них на том же месте %2, на другом %3, разделено %4, без цели %5, нечитаемых %6</translation>
+    </message>
+    <message>
+        <source>Zeilen werden zugeordnet</source>
+        <translation>Назначение строк</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
+        <translation>Прервано: проектов: %1 из %2, строк: %3, из них назначено %4, требуют проверки %5, без цели %6</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
+        <translation>Проектов: %1 из %2, строк: %3, из них назначено %4, требуют проверки %5, без цели %6</translation>
+    </message>
+</context>
+<context>
+    <name>MergeState</name>
+    <message numerus="yes">
+        <source>%n Änderung(en) übernommen.</source>
+        <translation>
+            <numerusform>Принято %n изменение.</numerusform>
+            <numerusform>Принято %n изменения.</numerusform>
+            <numerusform>Принято %n изменений.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <translation>
+            <numerusform>%n строку обе стороны решили одинаково.</numerusform>
+            <numerusform>%n строки обе стороны решили одинаково.</numerusform>
+            <numerusform>%n строк обе стороны решили одинаково.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <translation>
+            <numerusform>%n строка решена по-разному и отмечена как конфликт.</numerusform>
+            <numerusform>%n строки решены по-разному и отмечены как конфликт.</numerusform>
+            <numerusform>%n строк решены по-разному и отмечены как конфликт.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <translation>
+            <numerusform>%n другое противоречие: действует версия файла.</numerusform>
+            <numerusform>%n других противоречия: действует версия файла.</numerusform>
+            <numerusform>%n других противоречий: действует версия файла.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourCommands</name>
+    <message>
+        <source>Die Zeile %1 kann nicht gezeigt werden</source>
+        <translation>Строку %1 нельзя показать</translation>
+    </message>
+    <message>
+        <source>Es ist keine Fundstelle gewählt</source>
+        <translation>Находка не выбрана</translation>
+    </message>
+    <message>
+        <source>Behoben: %1 in %2</source>
+        <translation>Исправлено: %1 в %2</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourDock</name>
+    <message>
+        <source>Die Tabellen werden verglichen</source>
+        <translation>Таблицы сравниваются</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <translation>
+            <numerusform>Просмотрена %n назначенная строка</numerusform>
+            <numerusform>Просмотрены %n назначенные строки</numerusform>
+            <numerusform>Просмотрено %n назначенных строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fundstelle(n)</source>
+        <translation>
+            <numerusform>%n находка</numerusform>
+            <numerusform>%n находки</numerusform>
+            <numerusform>%n находок</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nachbarschaft</source>
+        <translation>Соседство</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourModel</name>
+    <message>
+        <source>Zeilen %1 bis %2 sind um %3 verschoben</source>
+        <translation>Строки с %1 по %2 сдвинуты на %3</translation>
+    </message>
+    <message>
+        <source>Zeilen %1 und %2 sind vertauscht</source>
+        <translation>Строки %1 и %2 переставлены</translation>
+    </message>
+    <message>
+        <source>Zeile %1 liegt um %2 daneben</source>
+        <translation>Строка %1 не на месте на %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1 hat die Zielzeile einer anderen</source>
+        <translation>У строки %1 целевая строка другой</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist übersprungen</source>
+        <translation>Строка %1 пропущена</translation>
+    </message>
+    <message>
+        <source>offen</source>
+        <translation>не решён</translation>
+    </message>
+    <message>
+        <source>Behoben: %1</source>
+        <translation>Исправлено: %1</translation>
+    </message>
+    <message>
+        <source>Fund</source>
+        <translation>Находка</translation>
+    </message>
+    <message>
+        <source>Behoben</source>
+        <translation>Исправлено</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Проект</translation>
+    </message>
+</context>
+<context>
+    <name>NewMappingDialog</name>
+    <message>
+        <source>Verzeichnis des alten Katalogstands</source>
+        <translation>Папка старого выпуска каталога</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des neuen Katalogstands</source>
+        <translation>Папка нового выпуска каталога</translation>
+    </message>
+    <message>
+        <source>&amp;Zeilen gleich zuordnen</source>
+        <translation>С&amp;разу назначить строки</translation>
+    </message>
+    <message>
+        <source>Neues Mapping</source>
+        <translation>Новое сопоставление</translation>
+    </message>
+    <message>
+        <source>&amp;Alter Katalogstand:</source>
+        <translation>&amp;Старый выпуск каталога:</translation>
+    </message>
+    <message>
+        <source>Katalog darin:</source>
+        <translation>Каталог в ней:</translation>
+    </message>
+    <message>
+        <source>&amp;Neuer Katalogstand:</source>
+        <translation>&amp;Новый выпуск каталога:</translation>
+    </message>
+    <message>
+        <source>Mapping-Datei wählen</source>
+        <translation>Выбрать файл сопоставления</translation>
+    </message>
+    <message>
+        <source>&amp;Mapping-Datei:</source>
+        <translation>&amp;Файл сопоставления:</translation>
+    </message>
+    <message>
+        <source>An&amp;legen</source>
+        <translation>Со&amp;здать</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des alten Katalogstands fehlt.</source>
+        <translation>Не указана папка старого выпуска каталога.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis des neuen Katalogstands fehlt.</source>
+        <translation>Не указана папка нового выпуска каталога.</translation>
+    </message>
+    <message>
+        <source>Jeder Stand braucht ein Verzeichnis mit dem Katalog.</source>
+        <translation>Каждому выпуску нужна папка с каталогом.</translation>
+    </message>
+    <message>
+        <source>Die Mapping-Datei braucht einen Namen.</source>
+        <translation>Файлу сопоставления нужно имя.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis %1 gibt es nicht.</source>
+        <translation>Папки %1 нет.</translation>
+    </message>
+    <message>
+        <source>%1 gibt es schon.</source>
+        <translation>%1 уже существует.</translation>
+    </message>
+    <message>
+        <source>Beim Speichern kommt der neue Stand dazu; ein Stand mit demselben Datum wird ersetzt, mit allem, was darin bestätigt ist.</source>
+        <translation>При сохранении добавится новый выпуск; выпуск с той же датой будет заменён вместе со всем, что в нём подтверждено.</translation>
+    </message>
+    <message>
+        <source>&amp;Diese Datei verwenden</source>
+        <translation>&amp;Использовать этот файл</translation>
+    </message>
+</context>
+<context>
+    <name>OwnFileTexts</name>
+    <message>
+        <source>der Datenträger ist voll</source>
+        <translation>носитель заполнен</translation>
+    </message>
+    <message>
+        <source>die Datei wird größer, als hier erlaubt ist</source>
+        <translation>файл становится больше, чем здесь разрешено</translation>
+    </message>
+    <message>
+        <source>das Schreibrecht fehlt</source>
+        <translation>нет права на запись</translation>
+    </message>
+    <message>
+        <source>der Datenträger ist schreibgeschützt</source>
+        <translation>носитель защищён от записи</translation>
+    </message>
+    <message>
+        <source>der Ordner oder die Datei ist nicht mehr da</source>
+        <translation>папки или файла больше нет</translation>
+    </message>
+    <message>
+        <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
+        <translation>на его месте находится не обычный файл</translation>
+    </message>
+</context>
+<context>
+    <name>PartView</name>
+    <message>
+        <source>Die Tabelle des Projektes kann nicht gelesen werden.</source>
+        <translation>Таблицу проекта не удаётся прочитать.</translation>
+    </message>
+    <message>
+        <source>Pfad:</source>
+        <translation>Путь:</translation>
+    </message>
+    <message>
+        <source>Norm:</source>
+        <translation>Стандарт:</translation>
+    </message>
+    <message>
+        <source>Bezeichnung:</source>
+        <translation>Обозначение:</translation>
+    </message>
+    <message>
+        <source>Projektversion:</source>
+        <translation>Версия проекта:</translation>
+    </message>
+    <message>
+        <source>Tabellenversion:</source>
+        <translation>Версия таблицы:</translation>
+    </message>
+    <message>
+        <source>Zeilen:</source>
+        <translation>Строк:</translation>
+    </message>
+    <message>
+        <source>Datei:</source>
+        <translation>Файл:</translation>
+    </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Найти</translation>
+    </message>
+    <message>
+        <source>Filtern</source>
+        <translation>Фильтр</translation>
+    </message>
+    <message>
+        <source>Ordner öffnen</source>
+        <translation>Открыть папку</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>PatternDock</name>
+    <message>
+        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
+        <translation>Таблицы сравниваются: прочитано проектов: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <translation>
+            <numerusform>%n открытая строка с предложением</numerusform>
+            <numerusform>%n открытые строки с предложением</numerusform>
+            <numerusform>%n открытых строк с предложением</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Muster(n)</source>
+        <translation>
+            <numerusform>в %n шаблоне</numerusform>
+            <numerusform>в %n шаблонах</numerusform>
+            <numerusform>в %n шаблонах</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon wird/werden noch verglichen</source>
+        <translation>
+            <numerusform>%n из них ещё сравнивается</numerusform>
+            <numerusform>%n из них ещё сравниваются</numerusform>
+            <numerusform>%n из них ещё сравниваются</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Gewählt: %n Zeile(n)</source>
+        <translation>
+            <numerusform>Выбрана %n строка</numerusform>
+            <numerusform>Выбраны %n строки</numerusform>
+            <numerusform>Выбрано %n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon herausgenommen</source>
+        <translation>
+            <numerusform>%n из них исключена</numerusform>
+            <numerusform>%n из них исключены</numerusform>
+            <numerusform>%n из них исключено</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unterschiede der offenen Zeilen</source>
+        <translation>Различия открытых строк</translation>
+    </message>
+</context>
+<context>
+    <name>PatternModel</name>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n строка</numerusform>
+            <numerusform>%n строки</numerusform>
+            <numerusform>%n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Projekt(e)</source>
+        <translation>
+            <numerusform>%n проект</numerusform>
+            <numerusform>%n проекта</numerusform>
+            <numerusform>%n проектов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <translation>
+            <numerusform>Ещё у %n строки есть эти и другие различия</numerusform>
+            <numerusform>Ещё у %n строк есть эти и другие различия</numerusform>
+            <numerusform>Ещё у %n строк есть эти и другие различия</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unterschied</source>
+        <translation>Различие</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Строки</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Проекты</translation>
+    </message>
+    <message>
+        <source>Sicherheit</source>
+        <translation>Уверенность</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Исключения</translation>
+    </message>
+</context>
+<context>
+    <name>PatternText</name>
+    <message>
+        <source>Zahl in der Nähe</source>
+        <translation>близкое значение</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>другое число</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>другая формулировка</translation>
+    </message>
+    <message>
+        <source>Wert hinzugekommen</source>
+        <translation>значение добавлено</translation>
+    </message>
+    <message>
+        <source>Wert fehlt</source>
+        <translation>значение отсутствует</translation>
+    </message>
+    <message>
+        <source>nicht zu vergleichen</source>
+        <translation>несравнимо</translation>
+    </message>
+    <message>
+        <source>kein Unterschied</source>
+        <translation>нет различий</translation>
+    </message>
+</context>
+<context>
+    <name>PluginActions</name>
+    <message>
+        <source>nicht verfügbar: es ist keine Datei geöffnet</source>
+        <translation>недоступно: файл не открыт</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: die Linkdatenbank wird verbunden</source>
+        <translation>недоступно: база связей подключается</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: %1</source>
+        <translation>недоступно: %1</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Linkdatenbank verbunden</source>
+        <translation>недоступно: база связей не подключена</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: der Linkmanager wartet auf keine Auswahl</source>
+        <translation>недоступно: менеджер связей не ждёт выбора</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist kein Projekt gewählt</source>
+        <translation>недоступно: проект не выбран</translation>
+    </message>
+    <message>
+        <source>nicht verfügbar: es ist keine Zeile gewählt</source>
+        <translation>недоступно: строка не выбрана</translation>
+    </message>
+    <message>
+        <source>ERP-Nummer für %1, Zeile %2</source>
+        <translation>Номер ERP для %1, строка %2</translation>
+    </message>
+    <message>
+        <source>Bitte eine ERP-Nummer vergeben.
+
+Projekt: %1
+Zeile: %2
+</source>
+        <translation>Просим присвоить номер ERP.
+
+Проект: %1
+Строка: %2
+</translation>
+    </message>
+    <message>
+        <source>Es konnte keine Mail begonnen werden.</source>
+        <translation>Не удалось начать письмо.</translation>
+    </message>
+    <message>
+        <source>Auf diesem Rechner ist kein Mailprogramm eingerichtet. Die Anfrage lautet:
+
+%1: %2</source>
+        <translation>На этом компьютере не настроена почтовая программа. Текст запроса:
+
+%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Question</name>
+    <message>
+        <source>Frage</source>
+        <translation>Вопрос</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Примечание</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>&amp;Ja</source>
+        <translation>&amp;Да</translation>
+    </message>
+    <message>
+        <source>&amp;Nein</source>
+        <translation>&amp;Нет</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>RangeCommands</name>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Строка %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <translation>
+            <numerusform>%n строка подтверждена, хотя у значений её диапазона нет новой строки.</numerusform>
+            <numerusform>%n строки подтверждены, хотя у значений их диапазонов нет новой строки.</numerusform>
+            <numerusform>%n строк подтверждены, хотя у значений их диапазонов нет новой строки.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Zurücknehmen</source>
+        <translation>&amp;Вернуть</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem bestätigen</source>
+        <translation>Всё &amp;равно подтвердить</translation>
+    </message>
+</context>
+<context>
+    <name>RangeDock</name>
+    <message numerus="yes">
+        <source>%1: %n Zeile(n)</source>
+        <translation>
+            <numerusform>%1: %n строка</numerusform>
+            <numerusform>%1: %n строки</numerusform>
+            <numerusform>%1: %n строк</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Die Zeile hat keine Wertebereichszuordnung.</source>
+        <translation>У строки нет назначения диапазонов значений.</translation>
+    </message>
+    <message>
+        <source>%1: %2 von %3 Werten zugeordnet</source>
+        <translation>%1: назначено значений: %2 из %3</translation>
+    </message>
+    <message>
+        <source>fehlend: %1</source>
+        <translation>отсутствуют: %1</translation>
+    </message>
+    <message>
+        <source>mehrfach: %1</source>
+        <translation>многократно: %1</translation>
+    </message>
+    <message>
+        <source>nicht im alten Bereich: %1</source>
+        <translation>нет в старом диапазоне: %1</translation>
+    </message>
+    <message>
+        <source>Wertebereich der Zeile</source>
+        <translation>Диапазон значений строки</translation>
+    </message>
+</context>
+<context>
+    <name>ReasonDialog</name>
+    <message>
+        <source>Grund der Entscheidung</source>
+        <translation>Причина решения</translation>
+    </message>
+    <message>
+        <source>&amp;Für:</source>
+        <translation>&amp;Для:</translation>
+    </message>
+    <message>
+        <source>&amp;Grund:</source>
+        <translation>&amp;Причина:</translation>
+    </message>
+    <message>
+        <source>eingestellt</source>
+        <translation>выпуск прекращён</translation>
+    </message>
+    <message>
+        <source>zusammengelegt mit einem anderen Teil</source>
+        <translation>объединена с другой деталью</translation>
+    </message>
+    <message>
+        <source>aufgeteilt in mehrere Teile</source>
+        <translation>разделена на несколько деталей</translation>
+    </message>
+    <message>
+        <source>in einen anderen Katalog verschoben</source>
+        <translation>перенесена в другой каталог</translation>
+    </message>
+    <message>
+        <source>noch nicht geprüft</source>
+        <translation>ещё не проверена</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Wiederherstellung</source>
+        <translation>Восстановление</translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
+        <translation>Для %1 есть несохранённая работа: шагов: %2, строк: %3, проектов: %4, последний — «%5». Автор: %6.</translation>
+    </message>
+    <message>
+        <source>Gespeichert</source>
+        <translation>Сохранено</translation>
+    </message>
+    <message>
+        <source>Wiederhergestellt</source>
+        <translation>Восстановлено</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>По состоянию на</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Проекты</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Строки</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Подтверждена</translation>
+    </message>
+    <message>
+        <source>Zu überprüfen</source>
+        <translation>Требует проверки</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Не найдено</translation>
+    </message>
+    <message>
+        <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
+        <translation>Сохранённая версия новее всего, что можно восстановить.</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>&amp;Восстановить</translation>
+    </message>
+    <message>
+        <source>Mit &amp;späteren Änderungen (%1)</source>
+        <translation>С &amp;более поздними изменениями (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Gespeicherten Stand öffnen</source>
+        <translation>&amp;Открыть сохранённую версию</translation>
+    </message>
+</context>
+<context>
+    <name>ReleaseCommands</name>
+    <message>
+        <source>Tabellen werden importiert</source>
+        <translation>Импорт таблиц</translation>
+    </message>
+    <message>
+        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
+        <translation>Таблиц: %1, строк: %2; новых %3, изменённых %4, неизменённых %5, не импортировано %6</translation>
+    </message>
+    <message>
+        <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
+        <translation>У %1 больше нет файла CSV, он остаётся как есть</translation>
+    </message>
+    <message>
+        <source>In dem Ordner ist keine CSV-Datei; es wurde nichts importiert</source>
+        <translation>В папке нет файлов CSV; ничего не импортировано</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Прервано: %1</translation>
+    </message>
+    <message>
+        <source>Nicht alles geschrieben: %1</source>
+        <translation>Записано не всё: %1</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 не удаётся записать.</translation>
+    </message>
+    <message>
+        <source>Zeilen exportieren</source>
+        <translation>Экспорт строк</translation>
+    </message>
+    <message>
+        <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+        <translation>Таблицы (*.csv);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Zeilen werden exportiert</source>
+        <translation>Строки экспортируются</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts exportiert</source>
+        <translation>Прервано, ничего не экспортировано</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen nach %2 exportiert</source>
+        <translation>Строки (%1) экспортированы в %2</translation>
+    </message>
+    <message>
+        <source>Bericht schreiben</source>
+        <translation>Записать отчёт</translation>
+    </message>
+    <message>
+        <source>PDF-Dateien (*.pdf);;HTML-Seiten (*.html);;Alle Dateien (*)</source>
+        <translation>Файлы PDF (*.pdf);;Страницы HTML (*.html);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Bericht wird erstellt</source>
+        <translation>Создание отчёта</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht geschrieben</source>
+        <translation>Прервано, отчёт не записан</translation>
+    </message>
+    <message>
+        <source>Seiten werden gesetzt</source>
+        <translation>Вёрстка страниц</translation>
+    </message>
+    <message>
+        <source>Bericht nach %1 geschrieben</source>
+        <translation>Отчёт записан в %1</translation>
+    </message>
+</context>
+<context>
+    <name>ReplacementsDialog</name>
+    <message>
+        <source>Vereinbarte Ersetzungen</source>
+        <translation>Согласованные замены</translation>
+    </message>
+    <message>
+        <source>im ganzen Katalogstand</source>
+        <translation>во всём выпуске каталога</translation>
+    </message>
+    <message>
+        <source>&amp;Vereinbaren</source>
+        <translation>&amp;Согласовать</translation>
+    </message>
+    <message>
+        <source>&amp;Zurückziehen</source>
+        <translation>&amp;Отозвать</translation>
+    </message>
+    <message>
+        <source>&amp;Belege</source>
+        <translation>&amp;Подтверждения</translation>
+    </message>
+    <message>
+        <source>&amp;Übernehmen</source>
+        <translation>П&amp;ринять</translation>
+    </message>
+    <message>
+        <source>Eine Ersetzung sagt, dass ein alter Wert für einen neuen steht. Sie macht Vorschläge, bestätigt aber nichts.</source>
+        <translation>Замена говорит, что старое значение соответствует новому. Она даёт предложения, но ничего не подтверждает.</translation>
+    </message>
+    <message>
+        <source>vereinbart</source>
+        <translation>согласовано</translation>
+    </message>
+    <message>
+        <source>vereinbart in %1</source>
+        <translation>согласовано в %1</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen</source>
+        <translation>Таблицы читаются</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dafür</source>
+        <translation>
+            <numerusform>%n строка за</numerusform>
+            <numerusform>%n строки за</numerusform>
+            <numerusform>%n строк за</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) dagegen</source>
+        <translation>
+            <numerusform>%n строка против</numerusform>
+            <numerusform>%n строки против</numerusform>
+            <numerusform>%n строк против</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ReportTexts</name>
+    <message>
+        <source>Mapping-Bericht: %1</source>
+        <translation>Отчёт о сопоставлении: %1</translation>
+    </message>
+    <message>
+        <source>Katalogstand %1 nach %2</source>
+        <translation>Выпуск каталога %1 в %2</translation>
+    </message>
+    <message>
+        <source>Erstellt am %1</source>
+        <translation>Создано %1</translation>
+    </message>
+    <message>
+        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
+        <translation>Готово: %1 из %2 строк; открыто: %3.</translation>
+    </message>
+    <message>
+        <source>Stand der Zeilen</source>
+        <translation>Состояние строк</translation>
+    </message>
+    <message>
+        <source>Nach Ordnern, mit allem darunter</source>
+        <translation>По папкам, со всем, что ниже</translation>
+    </message>
+    <message>
+        <source>Nach Projekten</source>
+        <translation>По проектам</translation>
+    </message>
+    <message>
+        <source>Warum Zeilen offen sind</source>
+        <translation>Почему строки открыты</translation>
+    </message>
+    <message>
+        <source>Worin sich offene Zeilen von ihren Vorschlägen unterscheiden</source>
+        <translation>Чем открытые строки отличаются от своих предложений</translation>
+    </message>
+    <message>
+        <source>Stichproben</source>
+        <translation>Выборки</translation>
+    </message>
+    <message>
+        <source>Wer was entschieden hat</source>
+        <translation>Кто что решил</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen</source>
+        <translation>Открытые строки</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Nachfolger</source>
+        <translation>Строки без преемника</translation>
+    </message>
+    <message>
+        <source>Was nicht gelesen werden konnte</source>
+        <translation>Что не удалось прочитать</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Строки</translation>
+    </message>
+    <message>
+        <source>Bestätigt</source>
+        <translation>Подтверждена</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigt</source>
+        <translation>Подтверждены как снятые с производства</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet</source>
+        <translation>Надёжно назначены</translation>
+    </message>
+    <message>
+        <source>Zu prüfen</source>
+        <translation>Требует проверки</translation>
+    </message>
+    <message>
+        <source>Ohne Ziel</source>
+        <translation>Без цели</translation>
+    </message>
+    <message>
+        <source>Im Konflikt</source>
+        <translation>В конфликте</translation>
+    </message>
+    <message>
+        <source>Ordner</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Проект</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Обозначение</translation>
+    </message>
+    <message>
+        <source>Grund</source>
+        <translation>Причина</translation>
+    </message>
+    <message>
+        <source>Unterschiede</source>
+        <translation>Различия</translation>
+    </message>
+    <message>
+        <source>Projekte</source>
+        <translation>Проекты</translation>
+    </message>
+    <message>
+        <source>Wahrscheinlichkeit</source>
+        <translation>Вероятность</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Исключения</translation>
+    </message>
+    <message>
+        <source>Beispiele</source>
+        <translation>Примеры</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Кто</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>Beurteilt</source>
+        <translation>Оценено</translation>
+    </message>
+    <message>
+        <source>Richtig</source>
+        <translation>Верно</translation>
+    </message>
+    <message>
+        <source>Höchstens falsch (zu 95 % sicher)</source>
+        <translation>Не более чем неверно (уверенность 95 %)</translation>
+    </message>
+    <message>
+        <source>abgelehnt</source>
+        <translation>отклонена</translation>
+    </message>
+    <message>
+        <source>Tabelle nicht lesbar</source>
+        <translation>таблица нечитаема</translation>
+    </message>
+    <message>
+        <source>nicht zu vergleichen</source>
+        <translation>несравнимо</translation>
+    </message>
+    <message>
+        <source>kein Unterschied</source>
+        <translation>нет различий</translation>
+    </message>
+    <message>
+        <source>keine</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>и ещё %1</translation>
+    </message>
+    <message>
+        <source>zwei haben verschieden entschieden</source>
+        <translation>двое решили по-разному</translation>
+    </message>
+    <message>
+        <source>ein anderer entscheidet</source>
+        <translation>решает кто-то другой</translation>
+    </message>
+    <message>
+        <source>eine Tabelle ist nicht lesbar</source>
+        <translation>таблица нечитаема</translation>
+    </message>
+    <message>
+        <source>Bedingung oder Formel scheitert</source>
+        <translation>условие или формула не выполняется</translation>
+    </message>
+    <message>
+        <source>kein Ziel ist zuständig</source>
+        <translation>ни одна цель не подходит</translation>
+    </message>
+    <message>
+        <source>eine Spalte fehlt</source>
+        <translation>нет столбца</translation>
+    </message>
+    <message>
+        <source>mehrere Zeilen sind gleich</source>
+        <translation>несколько строк равны</translation>
+    </message>
+    <message>
+        <source>zu unähnlich</source>
+        <translation>слишком непохоже</translation>
+    </message>
+    <message>
+        <source>gleich, nur nicht bestätigt</source>
+        <translation>равно, только не подтверждено</translation>
+    </message>
+</context>
+<context>
+    <name>RepositoryBox</name>
+    <message>
+        <source>Zielprojekte aus dem Reposi&amp;tory lesen</source>
+        <translation>&amp;Читать целевые проекты из репозитория</translation>
+    </message>
+    <message>
+        <source>Katalog = svn://Server:Port/Pfad</source>
+        <translation>Каталог = svn://сервер:порт/путь</translation>
+    </message>
+    <message>
+        <source>Je Zeile ein Katalog. Ohne Zeile ist der Name des Katalogs zugleich der seines Servers.</source>
+        <translation>По одному каталогу в строке. Без строки имя каталога — это и имя его сервера.</translation>
+    </message>
+    <message>
+        <source>die neueste</source>
+        <translation>последняя</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> МБ</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> с</translation>
+    </message>
+    <message>
+        <source>Serv&amp;er:</source>
+        <translation>&amp;Сервер:</translation>
+    </message>
+    <message>
+        <source>Revisi&amp;on:</source>
+        <translation>&amp;Ревизия:</translation>
+    </message>
+    <message>
+        <source>&amp;Platz auf dieser Maschine:</source>
+        <translation>&amp;Место на этом компьютере:</translation>
+    </message>
+    <message>
+        <source>&amp;Warten auf den Server:</source>
+        <translation>&amp;Ожидание сервера:</translation>
+    </message>
+    <message>
+        <source>Server, Zeile %1: &quot;%2&quot; ist nicht von der Form &quot;Katalog = svn://Server:Port/Pfad&quot;.</source>
+        <translation>Сервер, строка %1: &quot;%2&quot; не имеет вида &quot;Каталог = svn://сервер:порт/путь&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>RepositoryLoginDialog</name>
+    <message>
+        <source>Anmeldung am Repository</source>
+        <translation>Вход в репозиторий</translation>
+    </message>
+    <message>
+        <source>%1 verlangt eine Anmeldung.</source>
+        <translation>%1 требует входа.</translation>
+    </message>
+    <message>
+        <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
+        <translation>Имя и пароль действуют до завершения программы и не сохраняются.</translation>
+    </message>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Пользователь:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>Па&amp;роль:</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewCommands</name>
+    <message>
+        <source>Die Zeile %1 kann nicht gezeigt werden</source>
+        <translation>Строку %1 нельзя показать</translation>
+    </message>
+    <message>
+        <source>Keine Zeile mehr offen</source>
+        <translation>Открытых строк больше нет</translation>
+    </message>
+    <message>
+        <source>Die Tabellen sind noch nicht verglichen</source>
+        <translation>Таблицы ещё не сравнены</translation>
+    </message>
+    <message numerus="yes">
+        <source>Von vorn: %n Zeile(n) offen</source>
+        <translation>
+            <numerusform>С начала: открыта %n строка</numerusform>
+            <numerusform>С начала: открыты %n строки</numerusform>
+            <numerusform>С начала: открыто %n строк</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach ihrer Unsicherheit</source>
+        <translation>Открытые строки идут по неуверенности</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach ihrem Ort</source>
+        <translation>Открытые строки идут по месту</translation>
+    </message>
+    <message>
+        <source>Die Zeile gehört nicht zum gewählten Muster</source>
+        <translation>Строка не относится к выбранному шаблону</translation>
+    </message>
+    <message>
+        <source>Zeile %1 herausgenommen</source>
+        <translation>Строка %1 исключена</translation>
+    </message>
+    <message>
+        <source>Es ist kein Muster gewählt, oder alle Zeilen sind entschieden</source>
+        <translation>Шаблон не выбран, или все его строки решены</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n строка</numerusform>
+            <numerusform>%n строки</numerusform>
+            <numerusform>%n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en) bestätigen?</source>
+        <translation>
+            <numerusform>подтвердить в %n проекте?</numerusform>
+            <numerusform>подтвердить в %n проектах?</numerusform>
+            <numerusform>подтвердить в %n проектах?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Der Schritt kann zurückgenommen werden.</source>
+        <translation>Шаг можно отменить.</translation>
+    </message>
+    <message>
+        <source>&amp;Bestätigen</source>
+        <translation>&amp;Подтвердить</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>Подтверждена %n строка</numerusform>
+            <numerusform>Подтверждены %n строки</numerusform>
+            <numerusform>Подтверждено %n строк</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Einen Kandidaten %1 gibt es nicht</source>
+        <translation>Кандидата %1 нет</translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 bestätigt</source>
+        <translation>Строка %1 → %2 подтверждена</translation>
+    </message>
+    <message>
+        <source>Ersetzungen vereinbart: %1</source>
+        <translation>Согласованные замены: %1</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Muster, oder markieren Sie offene Zeilen</source>
+        <translation>Выберите шаблон или выделите открытые строки</translation>
+    </message>
+    <message>
+        <source>Stichprobe</source>
+        <translation>Выборка</translation>
+    </message>
+    <message>
+        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
+        <translation>Столько строк из %1 отбирается случайно и оценивается по одной. %2 верных говорят с уверенностью 95 %, что неверных меньше 5 %, %3 верных — меньше 1 %.</translation>
+    </message>
+    <message>
+        <source>&amp;Ziehen</source>
+        <translation>&amp;Отобрать</translation>
+    </message>
+    <message>
+        <source>Stichprobe, Zeile %1 von %2: + richtig, − falsch</source>
+        <translation>Выборка, строка %1 из %2: + верно, − неверно</translation>
+    </message>
+    <message>
+        <source>Es läuft keine Stichprobe</source>
+        <translation>Выборка не проводится</translation>
+    </message>
+    <message>
+        <source>Die Zeilen der Stichprobe sind alle schon entschieden</source>
+        <translation>Все строки выборки уже решены</translation>
+    </message>
+    <message>
+        <source>%1 von %2 richtig</source>
+        <translation>верно %1 из %2</translation>
+    </message>
+    <message>
+        <source>Stichprobe abgelehnt, %1; beurteilt von %2</source>
+        <translation>Выборка отклонена, %1; оценил(а) %2</translation>
+    </message>
+    <message>
+        <source>alle Zeilen beurteilt</source>
+        <translation>все строки оценены</translation>
+    </message>
+    <message>
+        <source>mit 95 % Sicherheit weniger als %1 % falsch</source>
+        <translation>с уверенностью 95 % неверно меньше %1 %</translation>
+    </message>
+    <message>
+        <source>Stichprobe: %1, %2</source>
+        <translation>Выборка: %1, %2</translation>
+    </message>
+    <message>
+        <source>beurteilt von %1</source>
+        <translation>оценил(а) %1</translation>
+    </message>
+    <message>
+        <source>dort war die falsche</source>
+        <translation>там была неверная</translation>
+    </message>
+    <message>
+        <source>Zeile %1 ist falsch: die Stichprobe ist zu Ende</source>
+        <translation>Строка %1 неверна: выборка окончена</translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Строка %1 в %2 неверна. Набор разделён по различиям; с какой частью продолжить?</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>&amp;Далее</translation>
+    </message>
+    <message>
+        <source>&amp;Falsche Zeile ansehen</source>
+        <translation>Посмотреть &amp;неверную строку</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptConsole</name>
+    <message>
+        <source>Skriptkonsole</source>
+        <translation>Консоль скриптов</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Skripte</source>
+        <translation>Вывод скриптов</translation>
+    </message>
+    <message>
+        <source>Zeile eines Skripts</source>
+        <translation>Строка скрипта</translation>
+    </message>
+    <message>
+        <source>Eine Zeile JavaScript. Eingabe führt sie aus, Tab ergänzt, Auf und Ab blättern.</source>
+        <translation>Строка JavaScript. Enter выполняет её, Tab дополняет, стрелки вверх и вниз листают.</translation>
+    </message>
+    <message>
+        <source>Anhalten</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>Hält das laufende Skript an (Esc)</source>
+        <translation>Останавливает работающий скрипт (Esc)</translation>
+    </message>
+    <message>
+        <source>Leeren</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Löscht die Ausgabe</source>
+        <translation>Удаляет вывод</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptDesk</name>
+    <message>
+        <source>Skript %1</source>
+        <translation>Скрипт %1</translation>
+    </message>
+    <message>
+        <source>(Konsole)</source>
+        <translation>(консоль)</translation>
+    </message>
+    <message>
+        <source>Fertig</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>Fertig, Status %1</source>
+        <translation>Готово, код %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Строка %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptEditor</name>
+    <message>
+        <source>Sie ist zu groß.</source>
+        <translation>Он слишком велик.</translation>
+    </message>
+    <message>
+        <source>Sie ist kein Text in UTF-8.</source>
+        <translation>Это не текст в UTF-8.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelesen werden. %2</source>
+        <translation>%1 не удаётся прочитать. %2</translation>
+    </message>
+    <message>
+        <source>Skript öffnen</source>
+        <translation>Открыть скрипт</translation>
+    </message>
+    <message>
+        <source>Skripte (*.js);;Alle Dateien (*)</source>
+        <translation>Скрипты (*.js);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Skript speichern</source>
+        <translation>Сохранить скрипт</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden. %2</source>
+        <translation>%1 не удаётся записать. %2</translation>
+    </message>
+    <message>
+        <source>Das Skript ist nicht gespeichert.</source>
+        <translation>Скрипт не сохранён.</translation>
+    </message>
+    <message>
+        <source>(ohne Namen)</source>
+        <translation>(без имени)</translation>
+    </message>
+    <message>
+        <source>Neues Skript</source>
+        <translation>Новый скрипт</translation>
+    </message>
+    <message>
+        <source>Skript</source>
+        <translation>Скрипт</translation>
+    </message>
+    <message>
+        <source>Öffnen …</source>
+        <translation>Открыть …</translation>
+    </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Ausführen</source>
+        <translation>Выполнить</translation>
+    </message>
+    <message>
+        <source>Anhalten</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>Argumente:</source>
+        <translation>Аргументы:</translation>
+    </message>
+    <message>
+        <source>Text des Skripts</source>
+        <translation>Текст скрипта</translation>
+    </message>
+    <message>
+        <source>Argumente</source>
+        <translation>Аргументы</translation>
+    </message>
+</context>
+<context>
+    <name>SessionOwner</name>
+    <message>
+        <source>an</source>
+        <translation>на</translation>
+    </message>
+    <message>
+        <source>(Prozess %1)</source>
+        <translation>(процесс %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SessionRecovery</name>
+    <message>
+        <source>Das Journal %1 kann nicht gelesen werden (%2).</source>
+        <translation>Журнал %1 не удаётся прочитать (%2).</translation>
+    </message>
+    <message>
+        <source>Hinter der letzten abgeschlossenen Sitzung ist das Journal %1 nicht lesbar. Was dort stand, ist nicht bekannt; das Journal wird aufgehoben.</source>
+        <translation>После последнего завершённого сеанса журнал %1 нечитаем. Что там было, неизвестно; журнал сохраняется.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>Журнал %1 повреждён. После повреждения ещё подходят изменения: %2, больше не подходят: %3; других может не хватать. Журнал сохраняется.</translation>
+    </message>
+    <message>
+        <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
+        <translation>Конец журнала %1 нечитаем. Последнего изменения может не быть.</translation>
+    </message>
+    <message>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <translation>Журнал %1 повреждён или не подходит к файлу сопоставления. Не хватает более поздних изменений: не менее %2; журнал сохраняется.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Nach einer Entscheidung weiter zur nä&amp;chsten offenen Zeile</source>
+        <translation>После реше&amp;ния переходить к следующей открытой строке</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Wie der Desktop</source>
+        <translation>Как на рабочем столе</translation>
+    </message>
+    <message>
+        <source>Hell</source>
+        <translation>Светлые</translation>
+    </message>
+    <message>
+        <source>Dunkel</source>
+        <translation>Тёмные</translation>
+    </message>
+    <message>
+        <source>nie</source>
+        <translation>никогда</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> мин</translation>
+    </message>
+    <message>
+        <source>&amp;Sprache:</source>
+        <translation>&amp;Язык:</translation>
+    </message>
+    <message>
+        <source>&amp;Farben:</source>
+        <translation>&amp;Цвета:</translation>
+    </message>
+    <message>
+        <source>Sch&amp;riftgröße:</source>
+        <translation>Ра&amp;змер шрифта:</translation>
+    </message>
+    <message>
+        <source>Sicherungs&amp;kopie alle:</source>
+        <translation>Резер&amp;вная копия каждые:</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommands</name>
+    <message>
+        <source>Das Mapping wird mit niemandem geteilt. Zuerst die gemeinsame Kopie wählen.</source>
+        <translation>Сопоставление никому не открыто. Сначала выберите общую копию.</translation>
+    </message>
+    <message>
+        <source>%1 gibt es schon, und es ist ein anderes Mapping. Eine andere Kopie wählen, oder die vorhandene in eine neue Datei holen.</source>
+        <translation>%1 уже существует, и это другое сопоставление. Выберите другую копию или загрузите имеющуюся в новый файл.</translation>
+    </message>
+    <message>
+        <source>Andere haben seit der letzten Aktualisierung etwas veröffentlicht.</source>
+        <translation>Другие что-то опубликовали с последнего обновления.</translation>
+    </message>
+    <message>
+        <source>Zeilen in Konflikt werden nicht veröffentlicht: %1.</source>
+        <translation>Строки в конфликте не публикуются: %1.</translation>
+    </message>
+    <message>
+        <source>Es gibt Änderungen in Ordnern anderer: %1.</source>
+        <translation>Есть изменения в папках других: %1.</translation>
+    </message>
+    <message>
+        <source>Der Ordner ist schon vergeben: %1.</source>
+        <translation>Папка уже занята: %1.</translation>
+    </message>
+    <message>
+        <source>Gerade veröffentlicht jemand anderes (%1). Bitte gleich noch einmal versuchen.</source>
+        <translation>Сейчас публикует кто-то другой (%1). Повторите попытку чуть позже.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Kopie ist nicht erreichbar: %1. Die eigene Datei ist unverändert; später noch einmal versuchen.</source>
+        <translation>Общая копия недоступна: %1. Свой файл не изменён; повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>Eine der Dateien ist kein lesbares Mapping: %1.</source>
+        <translation>Один из файлов не является читаемым сопоставлением: %1.</translation>
+    </message>
+    <message>
+        <source>Es konnte nicht geschrieben werden: %1.</source>
+        <translation>Не удалось записать: %1.</translation>
+    </message>
+    <message>
+        <source>Das ging nicht.</source>
+        <translation>Не получилось.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Kopie wird gelesen</source>
+        <translation>Чтение общей копии</translation>
+    </message>
+    <message>
+        <source>Geteilt über %1</source>
+        <translation>Общий доступ через %1</translation>
+    </message>
+    <message>
+        <source>Änderungen der anderen werden geholt</source>
+        <translation>Получение изменений других</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts Neues</source>
+        <translation>Нового нет</translation>
+    </message>
+    <message>
+        <source>Die Änderungen werden veröffentlicht</source>
+        <translation>Публикация изменений</translation>
+    </message>
+    <message>
+        <source>Mapping bearbeitet</source>
+        <translation>Сопоставление изменено</translation>
+    </message>
+    <message>
+        <source>Veröffentlicht, Stand %1</source>
+        <translation>Опубликовано, версия %1</translation>
+    </message>
+    <message>
+        <source>Zuerst wird das übernommen. Danach kann veröffentlicht werden.</source>
+        <translation>Сначала это будет принято. После этого можно публиковать.</translation>
+    </message>
+    <message>
+        <source>A&amp;ktualisieren</source>
+        <translation>&amp;Обновить</translation>
+    </message>
+    <message>
+        <source>&amp;Trotzdem veröffentlichen</source>
+        <translation>&amp;Всё равно опубликовать</translation>
+    </message>
+    <message>
+        <source>Ordner übernehmen</source>
+        <translation>Взять папки себе</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
+        <translation>Папки каталога через запятую; пустое поле возвращает все:</translation>
+    </message>
+    <message>
+        <source>Über&amp;nehmen</source>
+        <translation>В&amp;зять</translation>
+    </message>
+    <message>
+        <source>Die Ordner werden eingetragen</source>
+        <translation>Запись папок</translation>
+    </message>
+    <message>
+        <source>Keine eigenen Ordner mehr</source>
+        <translation>Своих папок больше нет</translation>
+    </message>
+    <message>
+        <source>Eigene Ordner: %1</source>
+        <translation>Свои папки: %1</translation>
+    </message>
+    <message>
+        <source>(hier)</source>
+        <translation>(здесь)</translation>
+    </message>
+    <message>
+        <source>hat es offen</source>
+        <translation>держит открытым</translation>
+    </message>
+    <message>
+        <source>hat es nicht offen</source>
+        <translation>не держит открытым</translation>
+    </message>
+    <message>
+        <source>zuletzt %1</source>
+        <translation>последний раз %1</translation>
+    </message>
+    <message>
+        <source>Ordner %1</source>
+        <translation>папки %1</translation>
+    </message>
+    <message>
+        <source>Eigener Stand %1, neuester Stand %2</source>
+        <translation>Своя версия %1, новейшая версия %2</translation>
+    </message>
+    <message>
+        <source>Andere haben etwas veröffentlicht.</source>
+        <translation>Другие что-то опубликовали.</translation>
+    </message>
+    <message>
+        <source>Es gibt nichts Neues von anderen.</source>
+        <translation>От других нового нет.</translation>
+    </message>
+    <message>
+        <source>Eigene Änderungen sind noch nicht veröffentlicht.</source>
+        <translation>Свои изменения ещё не опубликованы.</translation>
+    </message>
+    <message>
+        <source>Gemeinsame Kopie: %1</source>
+        <translation>Общая копия: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StatusArea</name>
+    <message>
+        <source>rückgängig</source>
+        <translation>отменить</translation>
+    </message>
+    <message>
+        <source>Alles entschieden</source>
+        <translation>Всё решено</translation>
+    </message>
+    <message>
+        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Открыто: &lt;a href=&quot;next&quot;&gt;строк: %1&lt;/a&gt;, проектов: %2</translation>
+    </message>
+    <message>
+        <source>Zeilen, die noch eine Entscheidung brauchen</source>
+        <translation>Строки, которые ещё требуют решения</translation>
+    </message>
+    <message>
+        <source>Schreibgeschützt</source>
+        <translation>Только для чтения</translation>
+    </message>
+</context>
+<context>
+    <name>StatusProgress</name>
+    <message>
+        <source>Fortschritt</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
+        <translation>Прерывает текущую работу; готовое остаётся</translation>
+    </message>
+</context>
+<context>
+    <name>StepNotices</name>
+    <message>
+        <source>Die Änderung in %1 wirkt erst, wenn die Zeilen erneut zugewiesen werden. Dabei bleibt nur erhalten, was bestätigt ist.</source>
+        <translation>Изменение в %1 подействует, только когда строки будут назначены заново. При этом сохранится только подтверждённое.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <translation>
+            <numerusform>%n строка в %1 была подтверждена как снятая с производства и больше не подтверждена: %2</numerusform>
+            <numerusform>%n строки в %1 были подтверждены как снятые с производства и больше не подтверждены: %2</numerusform>
+            <numerusform>%n строк в %1 были подтверждены как снятые с производства и больше не подтверждены: %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, &quot;Formel...&quot; wählen oder die Zeile löschen und neu eingeben.</source>
+        <translation>В %1 остаются игнорируемые переменные: %2. Чтобы снова сопоставить одну из них, выберите &quot;Формула...&quot; или удалите строку и введите её заново.</translation>
+    </message>
+    <message>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <translation>Условие целевого проекта %1 в %2 отпало.</translation>
+    </message>
+    <message>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <translation>Сопоставление переменных целевого проекта %1 в %2 отпало.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <translation>
+            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %n строки: %4</numerusform>
+            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %n строк: %4</numerusform>
+            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %n строк: %4</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <translation>
+            <numerusform>%n строка в %1 делит целевую строку с вновь назначенными: %2</numerusform>
+            <numerusform>%n строки в %1 делят целевую строку с вновь назначенными: %2</numerusform>
+            <numerusform>%n строк в %1 делят целевую строку с вновь назначенными: %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepSummary</name>
+    <message numerus="yes">
+        <source>%n Konflikt(e) angenommen</source>
+        <translation>
+            <numerusform>принят %n конфликт</numerusform>
+            <numerusform>приняты %n конфликта</numerusform>
+            <numerusform>принято %n конфликтов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) bestätigt</source>
+        <translation>
+            <numerusform>Подтверждена %n строка</numerusform>
+            <numerusform>Подтверждены %n строки</numerusform>
+            <numerusform>Подтверждено %n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n строка подтверждена как снятая с производства</numerusform>
+            <numerusform>%n строки подтверждены как снятые с производства</numerusform>
+            <numerusform>%n строк подтверждено как снятые с производства</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) zugeordnet</source>
+        <translation>
+            <numerusform>назначена %n строка</numerusform>
+            <numerusform>назначены %n строки</numerusform>
+            <numerusform>назначено %n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <translation>
+            <numerusform>снято назначение %n строки</numerusform>
+            <numerusform>снято назначение %n строк</numerusform>
+            <numerusform>снято назначение %n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>изменено назначение диапазонов значений %n строки</numerusform>
+            <numerusform>изменено назначение диапазонов значений %n строк</numerusform>
+            <numerusform>изменено назначение диапазонов значений %n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <translation>
+            <numerusform>разрешён конфликт %n строки</numerusform>
+            <numerusform>разрешён конфликт %n строк</numerusform>
+            <numerusform>разрешён конфликт %n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) geändert</source>
+        <translation>
+            <numerusform>изменена %n строка</numerusform>
+            <numerusform>изменены %n строки</numerusform>
+            <numerusform>изменено %n строк</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 bestätigt</source>
+        <translation>строка %1 → %2 подтверждена</translation>
+    </message>
+    <message>
+        <source>Zeile %1 → %2 zugeordnet</source>
+        <translation>строка %1 → %2 назначена</translation>
+    </message>
+    <message>
+        <source>%1 (vorher %2)</source>
+        <translation>%1 (раньше %2)</translation>
+    </message>
+    <message>
+        <source>Zeile %1 als ausgelaufen bestätigt (vorher %2)</source>
+        <translation>строка %1 подтверждена как снятая с производства (раньше %2)</translation>
+    </message>
+    <message>
+        <source>Zeile %1 als ausgelaufen bestätigt</source>
+        <translation>строка %1 подтверждена как снятая с производства</translation>
+    </message>
+    <message>
+        <source>Zuordnung von Zeile %1 aufgehoben (vorher %2)</source>
+        <translation>назначение строки %1 снято (раньше %2)</translation>
+    </message>
+    <message>
+        <source>Projekt hinzugefügt</source>
+        <translation>Проект добавлен</translation>
+    </message>
+    <message>
+        <source>Projekt entfernt</source>
+        <translation>Проект удалён</translation>
+    </message>
+    <message>
+        <source>Zielprojekt hinzugefügt</source>
+        <translation>Целевой проект добавлен</translation>
+    </message>
+    <message>
+        <source>Zielprojekt entfernt</source>
+        <translation>Целевой проект удалён</translation>
+    </message>
+    <message>
+        <source>Reihenfolge der Zielprojekte geändert</source>
+        <translation>Порядок целевых проектов изменён</translation>
+    </message>
+    <message>
+        <source>Bedingungen geändert</source>
+        <translation>Условия изменены</translation>
+    </message>
+    <message>
+        <source>Variablenzuordnung geändert</source>
+        <translation>Сопоставление переменных изменено</translation>
+    </message>
+    <message>
+        <source>Versionen geändert</source>
+        <translation>Версии изменены</translation>
+    </message>
+    <message>
+        <source>Status geändert</source>
+        <translation>Состояние изменено</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 в %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 в %n проекте</numerusform>
+            <numerusform>%1 в %n проектах</numerusform>
+            <numerusform>%1 в %n проектах</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TourOverlay</name>
+    <message>
+        <source>&amp;Zurück</source>
+        <translation>&amp;Назад</translation>
+    </message>
+    <message>
+        <source>&amp;Überspringen</source>
+        <translation>&amp;Пропустить</translation>
+    </message>
+    <message>
+        <source>&amp;Weiter</source>
+        <translation>&amp;Далее</translation>
+    </message>
+    <message>
+        <source>&amp;Fertig</source>
+        <translation>&amp;Готово</translation>
+    </message>
+</context>
+<context>
+    <name>ValueRangeCheck</name>
+    <message>
+        <source>%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form {NAME=WERT} -&gt; Zeilennummer: &quot;%4&quot;. Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, строка %2: запись %3 назначения диапазонов значений не имеет вида {NAME=ЗНАЧЕНИЕ} -&gt; номер строки: &quot;%4&quot;. Исправьте её или раскройте заново.</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat kein Zielprojekt. Bitte zuordnen oder den Text leeren.</source>
+        <translation>%1, строка %2: назначение диапазонов значений называет строку %3, но у строки нет целевого проекта. Назначьте её или очистите текст.</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht gibt. Bitte berichtigen oder neu auflösen.</source>
+        <translation>%1, строка %2: назначение диапазонов значений называет строку %3, которой нет в %4. Исправьте его или раскройте заново.</translation>
+    </message>
+    <message>
+        <source>%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte prüfen (%3).</source>
+        <translation>%1: таблицу целевого проекта %2 не удаётся прочитать, его назначения диапазонов значений не проверены. Проверьте папку целевых проектов (%3).</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen werden geprüft</source>
+        <translation>Проверка назначений диапазонов значений</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <translation>
+            <numerusform>Проверено %n назначение диапазонов значений</numerusform>
+            <numerusform>Проверено %n назначения диапазонов значений</numerusform>
+            <numerusform>Проверено %n назначений диапазонов значений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>keine Beanstandung</source>
+        <translation>без замечаний</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Beanstandung(en)</source>
+        <translation>
+            <numerusform>%n замечание</numerusform>
+            <numerusform>%n замечания</numerusform>
+            <numerusform>%n замечаний</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (abgebrochen): %2.</source>
+        <translation>%1 (прервано): %2.</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Katalogstände abgleichen</source>
+        <translation>Согласование выпусков каталогов</translation>
+    </message>
+    <message>
+        <source>Ein Katalog ist neu erschienen, und jede Zeile des alten Stands muss auf eine Zeile des neuen übertragen werden. Das Programm schlägt vor, Sie prüfen und bestätigen.</source>
+        <translation>Вышел новый каталог, и каждую строку старого выпуска нужно перенести на строку нового. Программа предлагает, вы проверяете и подтверждаете.</translation>
+    </message>
+    <message>
+        <source>Zuletzt geöffnet:</source>
+        <translation>Недавно открытые:</translation>
+    </message>
+</context>
+<context>
+    <name>WorkbenchActions</name>
+    <message>
+        <source>&amp;Neues Mapping...</source>
+        <translation>Новое &amp;сопоставление...</translation>
+    </message>
+    <message>
+        <source>Legt aus zwei Katalogständen eine neue Mapping-Datei an</source>
+        <translation>Создаёт новый файл сопоставления из двух выпусков каталога</translation>
+    </message>
+    <message>
+        <source>Ö&amp;ffnen...</source>
+        <translation>О&amp;ткрыть...</translation>
+    </message>
+    <message>
+        <source>Öffnet eine Mapping-Datei</source>
+        <translation>Открывает файл сопоставления</translation>
+    </message>
+    <message>
+        <source>Be&amp;ispielkatalog öffnen</source>
+        <translation>Отк&amp;рыть пример каталога</translation>
+    </message>
+    <message>
+        <source>Öffnet eine eigene Mapping-Datei für den mitgelieferten Beispielkatalog</source>
+        <translation>Открывает собственный файл сопоставления для прилагаемого примера каталога</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>Со&amp;хранить</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Änderungen in die Mapping-Datei</source>
+        <translation>Записывает все изменения в файл сопоставления</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;unter...</source>
+        <translation>Сохранить &amp;как...</translation>
+    </message>
+    <message>
+        <source>Schreibt in eine andere Mapping-Datei</source>
+        <translation>Записывает в другой файл сопоставления</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>Schließt die Mapping-Datei</source>
+        <translation>Закрывает файл сопоставления</translation>
+    </message>
+    <message>
+        <source>&amp;Katalogverzeichnisse...</source>
+        <translation>&amp;Папки каталогов...</translation>
+    </message>
+    <message>
+        <source>Wählt die Verzeichnisse des alten und des neuen Katalogstands</source>
+        <translation>Выбирает папки старого и нового выпусков каталога</translation>
+    </message>
+    <message>
+        <source>&amp;Gemeinsame Kopie...</source>
+        <translation>Общая &amp;копия...</translation>
+    </message>
+    <message>
+        <source>Wählt die Kopie, über die mehrere an diesem Mapping arbeiten</source>
+        <translation>Выбирает копию, через которую несколько человек работают над этим сопоставлением</translation>
+    </message>
+    <message>
+        <source>&amp;Aktualisieren</source>
+        <translation>&amp;Обновить</translation>
+    </message>
+    <message>
+        <source>Übernimmt, was andere veröffentlicht haben</source>
+        <translation>Принимает то, что опубликовали другие</translation>
+    </message>
+    <message>
+        <source>&amp;Veröffentlichen</source>
+        <translation>О&amp;публиковать</translation>
+    </message>
+    <message>
+        <source>Gibt die eigenen Änderungen an die anderen weiter</source>
+        <translation>Передаёт свои изменения другим</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner übernehmen...</source>
+        <translation>&amp;Взять папки себе...</translation>
+    </message>
+    <message>
+        <source>Sagt den anderen, welche Ordner man selbst bearbeitet</source>
+        <translation>Сообщает другим, какие папки вы редактируете сами</translation>
+    </message>
+    <message>
+        <source>&amp;Wer arbeitet woran</source>
+        <translation>Кто &amp;над чем работает</translation>
+    </message>
+    <message>
+        <source>Zeigt, wer das Mapping offen hat und welche Ordner wem gehören</source>
+        <translation>Показывает, кто держит сопоставление открытым и кому принадлежат какие папки</translation>
+    </message>
+    <message>
+        <source>Tabellen i&amp;mportieren...</source>
+        <translation>&amp;Импортировать таблицы...</translation>
+    </message>
+    <message>
+        <source>Macht aus einem Ordner mit CSV-Dateien Projekte eines Katalogs</source>
+        <translation>Делает из папки с файлами CSV проекты каталога</translation>
+    </message>
+    <message>
+        <source>Zeilen e&amp;xportieren...</source>
+        <translation>&amp;Экспортировать строки...</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Zeilen des Stands mit ihren Zuordnungen in eine CSV-Datei</source>
+        <translation>Записывает все строки выпуска с их назначениями в файл CSV</translation>
+    </message>
+    <message>
+        <source>Be&amp;richt...</source>
+        <translation>От&amp;чёт...</translation>
+    </message>
+    <message>
+        <source>Schreibt als PDF oder HTML, wie weit der Stand ist und warum Zeilen offen sind</source>
+        <translation>Записывает в PDF или HTML, насколько готов выпуск и почему строки открыты</translation>
+    </message>
+    <message>
+        <source>&amp;Beenden</source>
+        <translation>&amp;Выход</translation>
+    </message>
+    <message>
+        <source>Beendet das Programm</source>
+        <translation>Завершает программу</translation>
+    </message>
+    <message>
+        <source>&amp;Rückgängig</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>Nimmt den letzten Schritt zurück</source>
+        <translation>Отменяет последний шаг</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederherstellen</source>
+        <translation>По&amp;вторить</translation>
+    </message>
+    <message>
+        <source>Führt den zurückgenommenen Schritt wieder aus</source>
+        <translation>Снова выполняет отменённый шаг</translation>
+    </message>
+    <message>
+        <source>Zeilen &amp;bestätigen...</source>
+        <translation>По&amp;дтвердить строки...</translation>
+    </message>
+    <message>
+        <source>Bestätigt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt</source>
+        <translation>Подтверждает назначение выделенных или всех показанных строк за один шаг</translation>
+    </message>
+    <message>
+        <source>Zeilen ohne Ziel als aus&amp;gelaufen bestätigen...</source>
+        <translation>Подтвердить строки &amp;без цели как снятые с производства...</translation>
+    </message>
+    <message>
+        <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>
+        <translation>Из выделенных или всех показанных строк подтверждает строки без цели как снятые с производства</translation>
+    </message>
+    <message>
+        <source>Zuordnungen &amp;aufheben...</source>
+        <translation>Сня&amp;ть назначения...</translation>
+    </message>
+    <message>
+        <source>Hebt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt auf</source>
+        <translation>Снимает назначение выделенных или всех показанных строк за один шаг</translation>
+    </message>
+    <message>
+        <source>Zuordnungen aufheben und bestä&amp;tigen...</source>
+        <translation>Снять назначения &amp;и подтвердить...</translation>
+    </message>
+    <message>
+        <source>Die markierten oder alle gezeigten Zeilen sind ausgelaufen: hebt auf und bestätigt in einem Schritt</source>
+        <translation>Выделенные или все показанные строки сняты с производства: снимает назначение и подтверждает за один шаг</translation>
+    </message>
+    <message>
+        <source>Alle Projekte &amp;zuordnen...</source>
+        <translation>На&amp;значить все проекты...</translation>
+    </message>
+    <message>
+        <source>Sucht für alle Zeilen des Katalogs Zuordnungen; Bestätigtes bleibt</source>
+        <translation>Ищет назначения для всех строк каталога; подтверждённое остаётся</translation>
+    </message>
+    <message>
+        <source>Wertebereichszuordnungen &amp;prüfen</source>
+        <translation>П&amp;роверить назначения диапазонов значений</translation>
+    </message>
+    <message>
+        <source>Vergleicht alle Wertebereichstexte mit den Tabellen der Zielprojekte</source>
+        <translation>Сравнивает все тексты диапазонов значений с таблицами целевых проектов</translation>
+    </message>
+    <message>
+        <source>&amp;Skript...</source>
+        <translation>С&amp;крипт...</translation>
+    </message>
+    <message>
+        <source>Öffnet ein Fenster, in dem Skripte geschrieben und ausgeführt werden</source>
+        <translation>Открывает окно, в котором пишут и выполняют скрипты</translation>
+    </message>
+    <message>
+        <source>&amp;Einstellungen...</source>
+        <translation>На&amp;стройки...</translation>
+    </message>
+    <message>
+        <source>Sprache, Schrift, Tasten, Sicherung</source>
+        <translation>Язык, шрифт, клавиши, резервное копирование</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste offene Zeile</source>
+        <translation>&amp;Следующая открытая строка</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten Zeile, die eine Entscheidung braucht, auch im nächsten Projekt</source>
+        <translation>Переходит к следующей строке, требующей решения, в том числе в следующем проекте</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige offene Zeile</source>
+        <translation>Предыдущая &amp;открытая строка</translation>
+    </message>
+    <message>
+        <source>Geht zur vorigen Zeile, die eine Entscheidung braucht, auch im vorigen Projekt</source>
+        <translation>Переходит к предыдущей строке, требующей решения, в том числе в предыдущем проекте</translation>
+    </message>
+    <message>
+        <source>&amp;Gehe zu Zeile...</source>
+        <translation>&amp;Перейти к строке...</translation>
+    </message>
+    <message>
+        <source>Sucht eine Zeile des Projekts nach Nummer oder Bezeichnung</source>
+        <translation>Ищет строку проекта по номеру или обозначению</translation>
+    </message>
+    <message>
+        <source>&amp;Andere Tabelle</source>
+        <translation>&amp;Другая таблица</translation>
+    </message>
+    <message>
+        <source>Wechselt zwischen der alten und der neuen Tabelle</source>
+        <translation>Переключает между старой и новой таблицей</translation>
+    </message>
+    <message>
+        <source>&amp;Finden...</source>
+        <translation>&amp;Найти...</translation>
+    </message>
+    <message>
+        <source>Findet Projekte, Zeilen, Befehle und Einstellungen nach Teilen der Wörter</source>
+        <translation>Находит проекты, строки, команды и настройки по частям слов</translation>
+    </message>
+    <message>
+        <source>&amp;Muster der Unterschiede</source>
+        <translation>&amp;Шаблоны различий</translation>
+    </message>
+    <message>
+        <source>Zeigt, worin sich die offenen Zeilen von ihren Vorschlägen unterscheiden</source>
+        <translation>Показывает, чем открытые строки отличаются от своих предложений</translation>
+    </message>
+    <message>
+        <source>&amp;Alt und neu</source>
+        <translation>&amp;Старое и новое</translation>
+    </message>
+    <message>
+        <source>Zeigt alte und neue Werte der Zeile nebeneinander, und ihre Kandidaten</source>
+        <translation>Показывает старые и новые значения строки рядом, а также её кандидатов</translation>
+    </message>
+    <message>
+        <source>Muster &amp;bestätigen...</source>
+        <translation>&amp;Подтвердить шаблон...</translation>
+    </message>
+    <message>
+        <source>Bestätigt alle Zeilen des gewählten Musters in einem Schritt</source>
+        <translation>Подтверждает все строки выбранного шаблона за один шаг</translation>
+    </message>
+    <message>
+        <source>Zeile &amp;herausnehmen</source>
+        <translation>&amp;Исключить строку</translation>
+    </message>
+    <message>
+        <source>Die Zeile wird nicht mit den anderen des Musters bestätigt</source>
+        <translation>Строка не подтверждается вместе с другими строками шаблона</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste Zeile des Musters</source>
+        <translation>С&amp;ледующая строка шаблона</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten offenen Zeile des gewählten Musters</source>
+        <translation>Переходит к следующей открытой строке выбранного шаблона</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige Zeile des Musters</source>
+        <translation>П&amp;редыдущая строка шаблона</translation>
+    </message>
+    <message>
+        <source>Geht zur vorigen offenen Zeile des gewählten Musters</source>
+        <translation>Переходит к предыдущей открытой строке выбранного шаблона</translation>
+    </message>
+    <message>
+        <source>Nächstes Mus&amp;ter</source>
+        <translation>Сле&amp;дующий шаблон</translation>
+    </message>
+    <message>
+        <source>Wählt das nächste Muster der Liste</source>
+        <translation>Выбирает следующий шаблон списка</translation>
+    </message>
+    <message>
+        <source>&amp;Unsicherste zuerst</source>
+        <translation>Сначала &amp;наименее надёжные</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen kommen nach der Gefahr eines Irrtums statt nach ihrem Ort</source>
+        <translation>Открытые строки идут по опасности ошибки, а не по месту</translation>
+    </message>
+    <message>
+        <source>Na&amp;chbarschaft</source>
+        <translation>Соседс&amp;тво</translation>
+    </message>
+    <message>
+        <source>Zeigt, wo Zuordnungen benachbarter Zeilen nicht zueinander passen</source>
+        <translation>Показывает, где назначения соседних строк не согласуются</translation>
+    </message>
+    <message>
+        <source>&amp;Zeilen zurechtrücken</source>
+        <translation>П&amp;оправить строки</translation>
+    </message>
+    <message>
+        <source>Behebt die gewählte Fundstelle der Nachbarschaft in einem Schritt</source>
+        <translation>Исправляет выбранную находку соседства за один шаг</translation>
+    </message>
+    <message>
+        <source>&amp;Ersetzungen...</source>
+        <translation>&amp;Замены...</translation>
+    </message>
+    <message>
+        <source>Vereinbart Ersetzungen von Werten für den Katalogstand oder zieht sie zurück</source>
+        <translation>Согласует замены значений для выпуска каталога или отзывает их</translation>
+    </message>
+    <message>
+        <source>&amp;Stichprobe...</source>
+        <translation>&amp;Выборка...</translation>
+    </message>
+    <message>
+        <source>Zieht Zeilen des gewählten Musters oder der markierten Zeilen, die einzeln beurteilt werden</source>
+        <translation>Отбирает строки выбранного шаблона или выделенные строки, которые оцениваются по одной</translation>
+    </message>
+    <message>
+        <source>Stichprobe: &amp;richtig</source>
+        <translation>Вы&amp;борка: верно</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Zeile der Stichprobe ist richtig zugeordnet</source>
+        <translation>Показанная строка выборки назначена верно</translation>
+    </message>
+    <message>
+        <source>Stichprobe: &amp;falsch</source>
+        <translation>Выбор&amp;ка: неверно</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Zeile der Stichprobe ist falsch zugeordnet; die Stichprobe endet</source>
+        <translation>Показанная строка выборки назначена неверно; выборка завершается</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;1</source>
+        <translation>Кандидат &amp;1</translation>
+    </message>
+    <message>
+        <source>Ordnet der Zeile diesen Kandidaten zu und bestätigt ihn</source>
+        <translation>Назначает строке этого кандидата и подтверждает его</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;2</source>
+        <translation>Кандидат &amp;2</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;3</source>
+        <translation>Кандидат &amp;3</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;4</source>
+        <translation>Кандидат &amp;4</translation>
+    </message>
+    <message>
+        <source>Kandidat &amp;5</source>
+        <translation>Кандидат &amp;5</translation>
+    </message>
+    <message>
+        <source>Wertebereich der Zeile</source>
+        <translation>Диапазон значений строки</translation>
+    </message>
+    <message>
+        <source>Zeigt, welche Werte des alten Bereichs neue Zeilen haben</source>
+        <translation>Показывает, у каких значений старого диапазона есть новые строки</translation>
+    </message>
+    <message>
+        <source>&amp;Konflikte</source>
+        <translation>Кон&amp;фликты</translation>
+    </message>
+    <message>
+        <source>Zeigt die Zeilen, die zwei Seiten verschieden entschieden haben</source>
+        <translation>Показывает строки, которые две стороны решили по-разному</translation>
+    </message>
+    <message>
+        <source>Nächster offener Konflikt</source>
+        <translation>Следующий нерешённый конфликт</translation>
+    </message>
+    <message>
+        <source>Geht zur nächsten Zeile, deren Konflikt noch offen ist</source>
+        <translation>Переходит к следующей строке, конфликт которой ещё не решён</translation>
+    </message>
+    <message>
+        <source>Konflikt: eigene Entscheidung</source>
+        <translation>Конфликт: своё решение</translation>
+    </message>
+    <message>
+        <source>In diesem Konflikt gilt die eigene Entscheidung</source>
+        <translation>В этом конфликте действует своё решение</translation>
+    </message>
+    <message>
+        <source>Konflikt: andere Entscheidung</source>
+        <translation>Конфликт: другое решение</translation>
+    </message>
+    <message>
+        <source>In diesem Konflikt gilt die Entscheidung der anderen Seite</source>
+        <translation>В этом конфликте действует решение другой стороны</translation>
+    </message>
+    <message>
+        <source>Konflikt: neu entscheiden</source>
+        <translation>Конфликт: решить заново</translation>
+    </message>
+    <message>
+        <source>Keine der Entscheidungen gilt; die Zeile ist wieder ohne Ziel</source>
+        <translation>Ни одно из решений не действует; строка снова без цели</translation>
+    </message>
+    <message>
+        <source>Baut die Anzeige neu auf: Baum, Statistik, Tabellen von der Platte</source>
+        <translation>Строит показ заново: дерево, статистику, таблицы с диска</translation>
+    </message>
+    <message>
+        <source>Hand&amp;buch</source>
+        <translation>&amp;Руководство</translation>
+    </message>
+    <message>
+        <source>Öffnet das Handbuch an der Stelle, um die es geht</source>
+        <translation>Открывает руководство на нужном месте</translation>
+    </message>
+    <message>
+        <source>&amp;Tasten...</source>
+        <translation>&amp;Клавиши...</translation>
+    </message>
+    <message>
+        <source>Zeigt und ändert die Tasten aller Befehle</source>
+        <translation>Показывает и изменяет клавиши всех команд</translation>
+    </message>
+    <message>
+        <source>&amp;Hinweis zu dieser Stelle</source>
+        <translation>Подсказка к этому &amp;месту</translation>
+    </message>
+    <message>
+        <source>Zeigt den Hinweis dort, wo die Tasten hingehen: in einer Tabelle, warum die Zeile ihren Zustand hat</source>
+        <translation>Показывает подсказку там, куда направлены клавиши: в таблице — почему строка в этом состоянии</translation>
+    </message>
+    <message>
+        <source>&amp;Rundgang</source>
+        <translation>&amp;Экскурсия</translation>
+    </message>
+    <message>
+        <source>Zeigt in wenigen Schritten, wo was liegt</source>
+        <translation>Показывает за несколько шагов, где что находится</translation>
+    </message>
+    <message>
+        <source>Über &amp;dieses Programm</source>
+        <translation>Об этой &amp;программе</translation>
+    </message>
+    <message>
+        <source>Version und Verzeichnisse</source>
+        <translation>Версия и папки</translation>
+    </message>
+</context>
+</TS>
