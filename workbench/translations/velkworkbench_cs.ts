@@ -452,6 +452,14 @@ Jiné: %2</translation>
         <source>Kandidaten</source>
         <translation>Kandidáti</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Potvrzeno.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Přiřazeno s jistotou.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1536,6 +1544,10 @@ Zvolte jiný soubor.</translation>
         <source>Nummern: %1</source>
         <translation>Čísla: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>jiný zápis</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2217,6 +2229,14 @@ Zvolte jiný soubor.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Rozdíly otevřených řádků</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>v %n projektu</numerusform>
+            <numerusform>ve %n projektech</numerusform>
+            <numerusform>v %n projektech</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2294,6 +2314,14 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>žádný rozdíl</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>jiný zápis</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>nejisté: %1</translation>
     </message>
 </context>
 <context>
@@ -2878,6 +2906,10 @@ Projekt: %1
         <source>gleich, nur nicht bestätigt</source>
         <translation>stejné, jen nepotvrzené</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>nejisté: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3107,6 +3139,18 @@ Projekt: %1
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>Prohlédnout &amp;chybný řádek</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n z nich je nejistý.</numerusform>
+            <numerusform>%n z nich jsou nejisté.</numerusform>
+            <numerusform>%n z nich je nejistých.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Všechny vzory jsou vyřízeny</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3321,6 +3365,10 @@ Projekt: %1
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Záložní kopie každýc&amp;h:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Vysoký kontrast</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3413,10 +3461,6 @@ Projekt: %1
         <translation>Převzít složky</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Složky katalogu, oddělené čárkami; prázdné vrátí všechny:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>Pře&amp;vzít</translation>
     </message>
@@ -3471,6 +3515,34 @@ Projekt: %1
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Společná kopie: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Poslední zveřejnění bylo přerušeno, ale dorazilo.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Poslední zveřejnění bylo přerušeno. Zveřejněte ještě jednou.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Společný soubor byl v pracovní kopii změněn a neodeslán. To je uchováno v %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Pracovní kopie byla opuštěna uprostřed práce a byla uklizena.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Správa pracovní kopie byla poškozena a byla načtena znovu; dřívější je %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Něco přerušeného bylo uvedeno do pořádku.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Složky katalogu, oddělené čárkami; * zastupuje libovolné znaky, ? jeden znak. Prázdné vrátí všechny:</translation>
     </message>
 </context>
 <context>

@@ -435,6 +435,14 @@ Anden: %2</translation>
         <source>Kandidaten</source>
         <translation>Kandidater</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Bekræftet.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Sikkert tildelt.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Vælg en anden fil.</translation>
         <source>Nummern: %1</source>
         <translation>Numre: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>anden skrivemåde</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Vælg en anden fil.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>De åbne linjers forskelle</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %n projekter</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Vælg en anden fil.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>ingen forskel</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>anden skrivemåde</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>usikkert: %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Linje: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>ens, blot ikke bekræftet</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>usikkert: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3060,6 +3091,17 @@ Linje: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>Se &amp;den forkerte linje</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n af dem er usikker.</numerusform>
+            <numerusform>%n af dem er usikre.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Alle mønstre er færdige</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3274,6 +3316,10 @@ Linje: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Sikkerhedskopi &amp;hver:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Høj kontrast</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3366,10 +3412,6 @@ Linje: %2
         <translation>Overtag mapper</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Katalogets mapper, adskilt med kommaer; tom giver alle tilbage:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>O&amp;vertag</translation>
     </message>
@@ -3424,6 +3466,34 @@ Linje: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Fælles kopi: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Den seneste offentliggørelse blev afbrudt, men kom frem.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Den seneste offentliggørelse blev afbrudt. Offentliggør en gang til.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Den fælles fil var ændret i arbejdskopien og ikke indsendt. Det er bevaret i %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Arbejdskopien var forladt midt i et arbejde og er ryddet op.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Arbejdskopiens forvaltning var beskadiget og er hentet på ny; den tidligere er %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Noget afbrudt er bragt i orden.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Katalogets mapper, adskilt med kommaer; * står for vilkårlige tegn, ? for ét. Tom giver alle tilbage:</translation>
     </message>
 </context>
 <context>

@@ -435,6 +435,14 @@ Ajena: %2</translation>
         <source>Kandidaten</source>
         <translation>Candidatas</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Confirmada.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Asignada con certeza.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Elija otro archivo.</translation>
         <source>Nummern: %1</source>
         <translation>Números: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>otra grafía</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Elija otro archivo.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Diferencias de las líneas abiertas</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>en %n proyecto</numerusform>
+            <numerusform>en %n proyectos</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Elija otro archivo.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>ninguna diferencia</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>otra grafía</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>dudoso: %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Línea: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>igual, solo que no confirmada</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>dudoso: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3060,6 +3091,17 @@ Línea: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Ver la línea errónea</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n de ellas es dudosa.</numerusform>
+            <numerusform>%n de ellas son dudosas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Todos los patrones están resueltos</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3274,6 +3316,10 @@ Línea: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Copia &amp;de seguridad cada:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Alto contraste</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3366,10 +3412,6 @@ Línea: %2
         <translation>Tomar carpetas</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Carpetas del catálogo, separadas por comas; vacío las devuelve todas:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>&amp;Tomar</translation>
     </message>
@@ -3424,6 +3466,34 @@ Línea: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Copia común: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>La última publicación se interrumpió, pero llegó.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>La última publicación se interrumpió. Publique otra vez.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>El archivo común se había cambiado en la copia de trabajo sin enviarlo. Eso se conserva en %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>La copia de trabajo se había dejado en mitad de una operación y se ha ordenado.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>La gestión de la copia de trabajo estaba dañada y se ha traído de nuevo; la anterior es %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Algo interrumpido se ha puesto en orden.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Carpetas del catálogo, separadas por comas; * vale por cualesquiera caracteres, ? por uno. Vacío las devuelve todas:</translation>
     </message>
 </context>
 <context>

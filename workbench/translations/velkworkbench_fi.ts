@@ -435,6 +435,14 @@ Toisen: %2</translation>
         <source>Kandidaten</source>
         <translation>Ehdokkaat</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Vahvistettu.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Varmasti kohdistettu.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Valitse toinen tiedosto.</translation>
         <source>Nummern: %1</source>
         <translation>Numeroita: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>toinen kirjoitusasu</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Valitse toinen tiedosto.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Avointen rivien erot</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projektissa</numerusform>
+            <numerusform>%n projektissa</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>ei eroa</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>toinen kirjoitusasu</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>epävarma: %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Rivi: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>sama, mutta vahvistamatta</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>epävarma: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3060,6 +3091,17 @@ Rivi: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Katso väärää riviä</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n niistä on epävarma.</numerusform>
+            <numerusform>%n niistä on epävarmoja.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Kaikki mallit on käsitelty</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3274,6 +3316,10 @@ Rivi: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Var&amp;muuskopion väli:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Suuri kontrasti</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3366,10 +3412,6 @@ Rivi: %2
         <translation>Ota kansioita hoitoon</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Luettelon kansiot pilkuin erotettuina; tyhjä palauttaa kaikki:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>&amp;Ota hoitoon</translation>
     </message>
@@ -3424,6 +3466,34 @@ Rivi: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Yhteinen kopio: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Viimeisin julkaiseminen keskeytyi, mutta meni perille.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Viimeisin julkaiseminen keskeytyi. Julkaise vielä kerran.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Yhteistä tiedostoa oli muutettu työkopiossa lähettämättä sitä. Muutos on tallessa: %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Työkopio oli jätetty kesken työn, ja se on siivottu.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Työkopion hallintatiedot olivat vaurioituneet ja ne on haettu uudelleen; aiemmat ovat: %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Keskeytynyt työ on saatettu kuntoon.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Luettelon kansiot pilkuin erotettuina; * tarkoittaa mitä tahansa merkkejä, ? yhtä. Tyhjä palauttaa kaikki:</translation>
     </message>
 </context>
 <context>

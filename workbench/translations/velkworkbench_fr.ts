@@ -435,6 +435,14 @@ L&apos;autre : %2</translation>
         <source>Kandidaten</source>
         <translation>Candidats</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Confirmée.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Affectée avec certitude.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Choisissez un autre fichier.</translation>
         <source>Nummern: %1</source>
         <translation>Numéros : %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>autre graphie</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Choisissez un autre fichier.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Différences des lignes ouvertes</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>dans %n projet</numerusform>
+            <numerusform>dans %n projets</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>aucune différence</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>autre graphie</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>incertain : %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Ligne : %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>égales, mais pas confirmées</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>incertain : %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3060,6 +3091,17 @@ Ligne : %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Voir la ligne fausse</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n d&apos;entre elles est incertaine.</numerusform>
+            <numerusform>%n d&apos;entre elles sont incertaines.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Tous les motifs sont traités</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3274,6 +3316,10 @@ Ligne : %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Cop&amp;ie de sauvegarde toutes les :</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3366,10 +3412,6 @@ Ligne : %2
         <translation>Prendre des dossiers en charge</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Dossiers du catalogue, séparés par des virgules ; vide les rend tous :</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>Prendre en &amp;charge</translation>
     </message>
@@ -3424,6 +3466,34 @@ Ligne : %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Copie commune : %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>La dernière publication avait été interrompue, mais elle est bien arrivée.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>La dernière publication a été interrompue. Publiez encore une fois.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Le fichier commun avait été modifié dans la copie de travail sans être soumis. Cela est conservé dans %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>La copie de travail avait été quittée au milieu d&apos;une opération et a été remise en ordre.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>La gestion de la copie de travail était endommagée et a été récupérée de nouveau ; l&apos;ancienne est %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Quelque chose d&apos;interrompu a été remis en ordre.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Dossiers du catalogue, séparés par des virgules ; * vaut pour des caractères quelconques, ? pour un seul. Vide les rend tous :</translation>
     </message>
 </context>
 <context>

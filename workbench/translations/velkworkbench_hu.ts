@@ -418,6 +418,14 @@ Másik: %2</translation>
         <source>Kandidaten</source>
         <translation>Jelöltek</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Megerősítve.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Biztosan hozzárendelve.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1494,6 +1502,10 @@ Válasszon másik fájlt.</translation>
         <source>Nummern: %1</source>
         <translation>Számok: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>más írásmód</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2145,6 +2157,12 @@ Válasszon másik fájlt.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>A nyitott sorok különbségei</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projektben</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2216,6 +2234,14 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>nincs különbség</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>más írásmód</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>bizonytalan: %1</translation>
     </message>
 </context>
 <context>
@@ -2792,6 +2818,10 @@ Sor: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>egyező, csak nincs megerősítve</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>bizonytalan: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3013,6 +3043,16 @@ Sor: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Hibás sor megtekintése</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>közülük %n bizonytalan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Minden minta kész</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3227,6 +3267,10 @@ Sor: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Biztonsági &amp;másolat gyakorisága:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Nagy kontraszt</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3319,10 +3363,6 @@ Sor: %2
         <translation>Mappák átvétele</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>A katalógus mappái, vesszővel elválasztva; üresen mindet visszaadja:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>Á&amp;tvétel</translation>
     </message>
@@ -3377,6 +3417,34 @@ Sor: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Közös másolat: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Az utolsó közzététel megszakadt, de megérkezett.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Az utolsó közzététel megszakadt. Tegye közzé még egyszer.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>A közös fájlt a munkapéldányban módosították, de nem küldték be. Ez itt maradt meg: %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>A munkapéldányt munka közben hagyták el; rendbe lett téve.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>A munkapéldány kezelőadatai sérültek voltak, ezért újra le lettek töltve; a korábbi: %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Valami félbeszakadt rendbe lett hozva.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>A katalógus mappái, vesszővel elválasztva; a * tetszőleges karaktereket, a ? egyet jelent. Üresen mindet visszaadja:</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,14 @@ Milik pihak lain: %2</translation>
         <source>Kandidaten</source>
         <translation>Kandidat</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Dikonfirmasi.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Ditetapkan dengan pasti.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1494,6 +1502,10 @@ Harap pilih berkas lain.</translation>
         <source>Nummern: %1</source>
         <translation>Nomor: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>ejaan lain</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2145,6 +2157,12 @@ Harap pilih berkas lain.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Perbedaan baris terbuka</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>di %n proyek</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2216,6 +2234,14 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>tidak ada perbedaan</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>ejaan lain</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>tidak pasti: %1</translation>
     </message>
 </context>
 <context>
@@ -2792,6 +2818,10 @@ Baris: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>sama, hanya belum dikonfirmasi</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>tidak pasti: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3013,6 +3043,16 @@ Baris: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>Lihat &amp;baris yang salah</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n di antaranya tidak pasti.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Semua pola sudah selesai</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3227,6 +3267,10 @@ Baris: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>&amp;Cadangkan setiap:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Kontras tinggi</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3319,10 +3363,6 @@ Baris: %2
         <translation>Ambil alih folder</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Folder katalog, dipisahkan koma; kosong mengembalikan semuanya:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>&amp;Ambil alih</translation>
     </message>
@@ -3377,6 +3417,34 @@ Baris: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Salinan bersama: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Penerbitan terakhir terputus, tetapi sudah sampai.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Penerbitan terakhir terputus. Harap terbitkan sekali lagi.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Berkas bersama telah diubah di salinan kerja dan belum dikirim. Perubahan itu disimpan di %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Salinan kerja ditinggalkan di tengah pekerjaan dan telah dirapikan.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Pengelolaan salinan kerja rusak dan telah diambil ulang; yang sebelumnya adalah %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Sesuatu yang terputus telah dibereskan.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Folder katalog, dipisahkan koma; * berarti sembarang karakter, ? satu karakter. Kosong mengembalikan semuanya:</translation>
     </message>
 </context>
 <context>

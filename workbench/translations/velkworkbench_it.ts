@@ -435,6 +435,14 @@ Altra: %2</translation>
         <source>Kandidaten</source>
         <translation>Candidati</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Confermata.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Assegnata con certezza.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Scegliere un altro file.</translation>
         <source>Nummern: %1</source>
         <translation>Numeri: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>altra grafia</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Scegliere un altro file.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Differenze delle righe aperte</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n progetto</numerusform>
+            <numerusform>in %n progetti</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Scegliere un altro file.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>nessuna differenza</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>altra grafia</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>incerto: %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Riga: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>uguale, solo non confermata</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>incerto: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3060,6 +3091,17 @@ Riga: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Guarda la riga errata</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n di esse è incerta.</numerusform>
+            <numerusform>%n di esse sono incerte.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Tutti gli schemi sono completati</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3274,6 +3316,10 @@ Riga: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Copia di sicure&amp;zza ogni:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Contrasto elevato</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3366,10 +3412,6 @@ Riga: %2
         <translation>Prendi in carico cartelle</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Cartelle del catalogo, separate da virgole; vuoto le restituisce tutte:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>Prendi in &amp;carico</translation>
     </message>
@@ -3424,6 +3466,34 @@ Riga: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Copia comune: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>L&apos;ultima pubblicazione era stata interrotta, ma è arrivata.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>L&apos;ultima pubblicazione è stata interrotta. Pubblicare ancora una volta.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Il file comune era stato modificato nella copia di lavoro e non inviato. La modifica è conservata in %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>La copia di lavoro era stata lasciata a metà di un&apos;operazione ed è stata rimessa in ordine.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>La gestione della copia di lavoro era danneggiata ed è stata prelevata di nuovo; quella precedente è %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Qualcosa di interrotto è stato rimesso in ordine.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Cartelle del catalogo, separate da virgole; * sta per caratteri qualsiasi, ? per uno. Vuoto le restituisce tutte:</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,14 @@ Andere: %2</source>
         <source>Kandidaten</source>
         <translation>候補</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>確認済み。</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>確実に割り当て済み。</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -787,11 +795,11 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Als &amp;CSV speichern...</source>
-        <translation>CSVとして保存(&amp;C)...</translation>
+        <translation>CSVとして保存(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
-        <translation>閉じる(&amp;S)</translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message>
         <source>Nicht lesbare Zeilen des Journals: %1</source>
@@ -1381,7 +1389,7 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Zuletzt &amp;Gelöschtes...</source>
-        <translation>最後に削除したもの(&amp;G)...</translation>
+        <translation>最後に削除したもの(&amp;D)...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -1493,6 +1501,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>番号: %1</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>別の表記</translation>
     </message>
 </context>
 <context>
@@ -2145,6 +2157,12 @@ Bitte eine andere Datei wählen.</source>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>未決定の行の差異</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n 件のプロジェクト</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2216,6 +2234,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>kein Unterschied</source>
         <translation>差異なし</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>別の表記</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>不確か: %1</translation>
     </message>
 </context>
 <context>
@@ -2792,6 +2818,10 @@ Zeile: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>同じだが未確認</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>不確か: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3013,6 +3043,16 @@ Zeile: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>誤りの行を見る(&amp;L)</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>そのうち %n 行は不確かです。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>すべてのパターンが完了しました</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3227,6 +3267,10 @@ Zeile: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>バックアップの間隔(&amp;Y):</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>ハイコントラスト</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3319,10 +3363,6 @@ Zeile: %2
         <translation>フォルダーを担当</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>カタログのフォルダー (カンマ区切り、空にするとすべて返却):</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>担当する(&amp;T)</translation>
     </message>
@@ -3377,6 +3417,34 @@ Zeile: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>共有コピー: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>前回の公開は中断されましたが、届いていました。</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>前回の公開は中断されました。もう一度公開してください。</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>共有ファイルが作業コピーで変更され、送信されていませんでした。その内容は %1 に保管されています。</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>作業コピーが作業の途中で放置されていたため、整理しました。</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>作業コピーの管理情報が破損していたため、取得し直しました。以前のものは %1 です。</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>中断されていたものを修復しました。</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>カタログのフォルダー (カンマ区切り)。* は任意の文字列、? は1文字を表します。空にするとすべて返却します:</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,14 @@ Andere: %2</source>
         <source>Kandidaten</source>
         <translation>후보</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>확인됨.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>확실하게 할당됨.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -787,11 +795,11 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Als &amp;CSV speichern...</source>
-        <translation>CSV로 저장(&amp;C)...</translation>
+        <translation>CSV로 저장(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
-        <translation>닫기(&amp;S)</translation>
+        <translation>닫기(&amp;C)</translation>
     </message>
     <message>
         <source>Nicht lesbare Zeilen des Journals: %1</source>
@@ -1381,7 +1389,7 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Zuletzt &amp;Gelöschtes...</source>
-        <translation>최근 삭제 항목(&amp;G)...</translation>
+        <translation>최근 삭제 항목(&amp;D)...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -1493,6 +1501,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>번호: %1</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>다른 표기</translation>
     </message>
 </context>
 <context>
@@ -2145,6 +2157,12 @@ Bitte eine andere Datei wählen.</source>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>미결 행의 차이</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>프로젝트 %n개</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2216,6 +2234,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>kein Unterschied</source>
         <translation>차이 없음</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>다른 표기</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>불확실: %1</translation>
     </message>
 </context>
 <context>
@@ -2792,6 +2818,10 @@ Zeile: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>같지만 확인되지 않음</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>불확실: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3013,6 +3043,16 @@ Zeile: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>틀린 행 보기(&amp;L)</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>그중 %n개가 불확실합니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>모든 패턴이 완료되었습니다</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3227,6 +3267,10 @@ Zeile: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>백업 간격(&amp;Y):</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>고대비</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3319,10 +3363,6 @@ Zeile: %2
         <translation>폴더 맡기</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>카탈로그 폴더(쉼표로 구분, 비우면 모두 반환):</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>맡기(&amp;T)</translation>
     </message>
@@ -3377,6 +3417,34 @@ Zeile: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>공유 사본: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>마지막 게시가 중단되었지만 도착했습니다.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>마지막 게시가 중단되었습니다. 다시 게시하세요.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>공유 파일이 작업 사본에서 변경되었지만 제출되지 않았습니다. 그 내용은 %1에 보관됩니다.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>작업 사본이 작업 도중에 방치되어 있어 정리했습니다.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>작업 사본의 관리 정보가 손상되어 새로 가져왔습니다. 이전 것은 %1입니다.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>중단된 것을 바로잡았습니다.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>카탈로그 폴더(쉼표로 구분). *는 임의의 문자열, ?는 한 글자를 뜻합니다. 비우면 모두 반환합니다:</translation>
     </message>
 </context>
 <context>

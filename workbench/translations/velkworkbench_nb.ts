@@ -435,6 +435,14 @@ Annen: %2</translation>
         <source>Kandidaten</source>
         <translation>Kandidater</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Bekreftet.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Sikkert tilordnet.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Velg en annen fil.</translation>
         <source>Nummern: %1</source>
         <translation>Numre: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>annen skrivemåte</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Velg en annen fil.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Forskjeller i de åpne linjene</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n prosjekt</numerusform>
+            <numerusform>i %n prosjekter</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Velg en annen fil.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>ingen forskjell</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>annen skrivemåte</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>usikkert: %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Linje: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>lik, bare ikke bekreftet</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>usikkert: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3060,6 +3091,17 @@ Linje: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>Se på &amp;den gale linjen</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n av dem er usikker.</numerusform>
+            <numerusform>%n av dem er usikre.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Alle mønstre er ferdige</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3274,6 +3316,10 @@ Linje: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Sikkerhetskopi &amp;hvert:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Høy kontrast</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3366,10 +3412,6 @@ Linje: %2
         <translation>Ta over mapper</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Mapper i katalogen, atskilt med komma; tomt gir alle tilbake:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>&amp;Ta over</translation>
     </message>
@@ -3424,6 +3466,34 @@ Linje: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Felles kopi: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Den siste publiseringen ble avbrutt, men kom fram.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Den siste publiseringen ble avbrutt. Publiser en gang til.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Den felles filen var endret i arbeidskopien og ikke sendt inn. Det er tatt vare på i %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Arbeidskopien var forlatt midt i et arbeid og er ryddet opp.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Forvaltningen av arbeidskopien var skadet og er hentet på nytt; den tidligere er %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Noe avbrutt er brakt i orden.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Mapper i katalogen, atskilt med komma; * står for vilkårlige tegn, ? for ett. Tomt gir alle tilbake:</translation>
     </message>
 </context>
 <context>

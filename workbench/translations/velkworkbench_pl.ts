@@ -452,6 +452,14 @@ Inna: %2</translation>
         <source>Kandidaten</source>
         <translation>Kandydaci</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Potwierdzony.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Przypisany na pewno.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1536,6 +1544,10 @@ Wybierz inny plik.</translation>
         <source>Nummern: %1</source>
         <translation>Numery: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>inna pisownia</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2217,6 +2229,14 @@ Wybierz inny plik.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Różnice otwartych wierszy</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>w %n projekcie</numerusform>
+            <numerusform>w %n projektach</numerusform>
+            <numerusform>w %n projektach</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2294,6 +2314,14 @@ Wybierz inny plik.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>brak różnicy</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>inna pisownia</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>niepewne: %1</translation>
     </message>
 </context>
 <context>
@@ -2878,6 +2906,10 @@ Wiersz: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>równe, tylko niepotwierdzone</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>niepewne: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3107,6 +3139,18 @@ Wiersz: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Obejrzyj błędny wiersz</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n z nich jest niepewny.</numerusform>
+            <numerusform>%n z nich są niepewne.</numerusform>
+            <numerusform>%n z nich jest niepewnych.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Wszystkie wzorce są załatwione</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3321,6 +3365,10 @@ Wiersz: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Kop&amp;ia zapasowa co:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Wysoki kontrast</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3413,10 +3461,6 @@ Wiersz: %2
         <translation>Przejmij foldery</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Foldery katalogu, oddzielone przecinkami; puste zwraca wszystkie:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>P&amp;rzejmij</translation>
     </message>
@@ -3471,6 +3515,34 @@ Wiersz: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Wspólna kopia: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Ostatnia publikacja została przerwana, ale dotarła.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Ostatnia publikacja została przerwana. Opublikuj jeszcze raz.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Wspólny plik był zmieniony w kopii roboczej i nie został wysłany. Zmianę zachowano w %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Kopia robocza została porzucona w trakcie operacji i została uporządkowana.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Dane zarządzania kopii roboczej były uszkodzone i zostały pobrane od nowa; poprzednie to %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Coś przerwanego zostało uporządkowane.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Foldery katalogu, oddzielone przecinkami; * oznacza dowolne znaki, ? jeden znak. Puste zwraca wszystkie:</translation>
     </message>
 </context>
 <context>

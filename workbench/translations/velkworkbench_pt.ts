@@ -435,6 +435,14 @@ Outra: %2</translation>
         <source>Kandidaten</source>
         <translation>Candidatas</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Confirmada.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Atribuída com certeza.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Escolha outro ficheiro.</translation>
         <source>Nummern: %1</source>
         <translation>Números: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>outra grafia</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Escolha outro ficheiro.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Diferenças das linhas em aberto</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>em %n projeto</numerusform>
+            <numerusform>em %n projetos</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>nenhuma diferença</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>outra grafia</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>incerto: %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Linha: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>igual, só não confirmada</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>incerto: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3060,6 +3091,17 @@ Linha: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Ver a linha errada</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n delas é incerta.</numerusform>
+            <numerusform>%n delas são incertas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Todos os padrões estão resolvidos</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3274,6 +3316,10 @@ Linha: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Cópia de se&amp;gurança a cada:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Alto contraste</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3366,10 +3412,6 @@ Linha: %2
         <translation>Assumir pastas</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Pastas do catálogo, separadas por vírgulas; vazio devolve todas:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>A&amp;ssumir</translation>
     </message>
@@ -3424,6 +3466,34 @@ Linha: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Cópia comum: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>A última publicação foi interrompida, mas chegou.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>A última publicação foi interrompida. Publique mais uma vez.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>O ficheiro comum tinha sido alterado na cópia de trabalho e não submetido. Isso está guardado em %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>A cópia de trabalho tinha sido deixada a meio de uma operação e foi arrumada.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>A gestão da cópia de trabalho estava danificada e foi obtida de novo; a anterior é %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Algo interrompido foi posto em ordem.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Pastas do catálogo, separadas por vírgulas; * vale por quaisquer caracteres, ? por um. Vazio devolve todas:</translation>
     </message>
 </context>
 <context>

@@ -452,6 +452,14 @@ Andere: %2</source>
         <source>Kandidaten</source>
         <translation>Кандидаты</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Подтверждена.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Надёжно назначена.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1536,6 +1544,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Nummern: %1</source>
         <translation>Номеров: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>другое написание</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2217,6 +2229,14 @@ Bitte eine andere Datei wählen.</source>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Различия открытых строк</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>в %n проекте</numerusform>
+            <numerusform>в %n проектах</numerusform>
+            <numerusform>в %n проектах</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2294,6 +2314,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>kein Unterschied</source>
         <translation>нет различий</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>другое написание</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>сомнительно: %1</translation>
     </message>
 </context>
 <context>
@@ -2878,6 +2906,10 @@ Zeile: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>равно, только не подтверждено</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>сомнительно: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3107,6 +3139,18 @@ Zeile: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>Посмотреть &amp;неверную строку</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n из них сомнительна.</numerusform>
+            <numerusform>%n из них сомнительны.</numerusform>
+            <numerusform>%n из них сомнительны.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Все шаблоны обработаны</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3321,6 +3365,10 @@ Zeile: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Резер&amp;вная копия каждые:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Высокая контрастность</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3413,10 +3461,6 @@ Zeile: %2
         <translation>Взять папки себе</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Папки каталога через запятую; пустое поле возвращает все:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>В&amp;зять</translation>
     </message>
@@ -3471,6 +3515,34 @@ Zeile: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Общая копия: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Последняя публикация была прервана, но дошла.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Последняя публикация была прервана. Опубликуйте ещё раз.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Общий файл был изменён в рабочей копии и не отправлен. Это сохранено в %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Рабочая копия была оставлена посреди работы и приведена в порядок.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Служебные данные рабочей копии были повреждены и получены заново; прежние — %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Нечто прерванное приведено в порядок.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Папки каталога через запятую; * означает любые символы, ? — один. Пустое поле возвращает все:</translation>
     </message>
 </context>
 <context>

@@ -469,6 +469,14 @@ Druga: %2</translation>
         <source>Kandidaten</source>
         <translation>Kandidati</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Potrjena.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Zanesljivo dodeljena.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1557,6 +1565,10 @@ Izberite drugo datoteko.</translation>
         <source>Nummern: %1</source>
         <translation>Številke: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>drug zapis</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2253,6 +2265,15 @@ Izberite drugo datoteko.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Razlike odprtih vrstic</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>v %n projektu</numerusform>
+            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %n projektih</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2333,6 +2354,14 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>ni razlike</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>drug zapis</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>negotovo: %1</translation>
     </message>
 </context>
 <context>
@@ -2921,6 +2950,10 @@ Vrstica: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>enako, le ni potrjeno</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>negotovo: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3154,6 +3187,19 @@ Vrstica: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Oglej si napačno vrstico</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n od njih je negotova.</numerusform>
+            <numerusform>%n od njih sta negotovi.</numerusform>
+            <numerusform>%n od njih so negotove.</numerusform>
+            <numerusform>%n od njih je negotovih.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Vsi vzorci so opravljeni</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3368,6 +3414,10 @@ Vrstica: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Varnostna kopija vsaki&amp;h:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Visok kontrast</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3460,10 +3510,6 @@ Vrstica: %2
         <translation>Prevzemi mape</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Mape kataloga, ločene z vejicami; prazno vrne vse:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>P&amp;revzemi</translation>
     </message>
@@ -3518,6 +3564,34 @@ Vrstica: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Skupna kopija: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Zadnja objava je bila prekinjena, vendar je prispela.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Zadnja objava je bila prekinjena. Objavite še enkrat.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Skupna datoteka je bila v delovni kopiji spremenjena in ni bila oddana. To je ohranjeno v %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Delovna kopija je bila zapuščena sredi dela in je bila pospravljena.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Upravljanje delovne kopije je bilo poškodovano in je bilo preneseno znova; prejšnje je %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Nekaj prekinjenega je bilo spravljeno v red.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Mape kataloga, ločene z vejicami; * pomeni poljubne znake, ? enega. Prazno vrne vse:</translation>
     </message>
 </context>
 <context>

@@ -435,6 +435,14 @@ Annat: %2</translation>
         <source>Kandidaten</source>
         <translation>Kandidater</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Bekräftad.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Säkert tilldelad.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1515,6 +1523,10 @@ Välj en annan fil.</translation>
         <source>Nummern: %1</source>
         <translation>Nummer: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>annat skrivsätt</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2181,6 +2193,13 @@ Välj en annan fil.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>De öppna radernas skillnader</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %n projekt</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2255,6 +2274,14 @@ Välj en annan fil.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>ingen skillnad</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>annat skrivsätt</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>osäkert: %1</translation>
     </message>
 </context>
 <context>
@@ -2835,6 +2862,10 @@ Rad: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>lika, bara inte bekräftad</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>osäkert: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3060,6 +3091,17 @@ Rad: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Titta på den felaktiga raden</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>%n av dem är osäker.</numerusform>
+            <numerusform>%n av dem är osäkra.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Alla mönster är klara</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3274,6 +3316,10 @@ Rad: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Säker&amp;hetskopia var:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Hög kontrast</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3366,10 +3412,6 @@ Rad: %2
         <translation>Ta över mappar</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Katalogens mappar, med kommatecken emellan; tomt lämnar tillbaka alla:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>&amp;Ta över</translation>
     </message>
@@ -3424,6 +3466,34 @@ Rad: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Gemensam kopia: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Den senaste publiceringen avbröts, men kom fram.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Den senaste publiceringen avbröts. Publicera en gång till.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Den gemensamma filen hade ändrats i arbetskopian utan att skickas in. Det har behållits i %1.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Arbetskopian hade lämnats mitt i ett arbete och har städats upp.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Arbetskopians förvaltning var skadad och har hämtats på nytt; den tidigare är %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Något avbrutet har ställts i ordning.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Katalogens mappar, med kommatecken emellan; * står för valfria tecken, ? för ett. Tomt lämnar tillbaka alla:</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,14 @@ Diğer: %2</translation>
         <source>Kandidaten</source>
         <translation>Adaylar</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>Onaylandı.</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>Kesin atandı.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -1494,6 +1502,10 @@ Lütfen başka bir dosya seçin.</translation>
         <source>Nummern: %1</source>
         <translation>Numaralar: %1</translation>
     </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>başka yazım</translation>
+    </message>
 </context>
 <context>
     <name>LocatorDesk</name>
@@ -2145,6 +2157,12 @@ Lütfen başka bir dosya seçin.</translation>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>Açık satırların farkları</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projede</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2216,6 +2234,14 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>kein Unterschied</source>
         <translation>fark yok</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>başka yazım</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>belirsiz: %1</translation>
     </message>
 </context>
 <context>
@@ -2792,6 +2818,10 @@ Satır: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>aynı, yalnızca onaylanmamış</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>belirsiz: %1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3013,6 +3043,16 @@ Satır: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>&amp;Yanlış satıra bak</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>Bunların %n tanesi belirsiz.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>Tüm örüntüler tamamlandı</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3227,6 +3267,10 @@ Satır: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>Yedekleme &amp;aralığı:</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>Yüksek karşıtlık</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3319,10 +3363,6 @@ Satır: %2
         <translation>Klasörleri üstlen</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>Kataloğun klasörleri, virgülle ayrılmış; boş bırakılırsa hepsi geri verilir:</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>Ü&amp;stlen</translation>
     </message>
@@ -3377,6 +3417,34 @@ Satır: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>Ortak kopya: %1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>Son yayımlama yarıda kesilmiş, ama ulaşmış.</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>Son yayımlama yarıda kesildi. Lütfen bir kez daha yayımlayın.</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>Ortak dosya çalışma kopyasında değiştirilmiş ve gönderilmemişti. Bu, %1 içinde saklandı.</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>Çalışma kopyası bir işin ortasında bırakılmıştı ve toparlandı.</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>Çalışma kopyasının yönetim verileri bozulmuştu ve yeniden alındı; önceki: %1.</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>Yarıda kesilmiş bir şey düzeltildi.</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>Kataloğun klasörleri, virgülle ayrılmış; * herhangi karakterlerin, ? tek karakterin yerini tutar. Boş bırakılırsa hepsi geri verilir:</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,14 @@ Andere: %2</source>
         <source>Kandidaten</source>
         <translation>候选</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>已确认。</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>可靠分配。</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -787,11 +795,11 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Als &amp;CSV speichern...</source>
-        <translation>另存为 CSV(&amp;C)...</translation>
+        <translation>另存为 CSV(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
-        <translation>关闭(&amp;S)</translation>
+        <translation>关闭(&amp;C)</translation>
     </message>
     <message>
         <source>Nicht lesbare Zeilen des Journals: %1</source>
@@ -1381,7 +1389,7 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Zuletzt &amp;Gelöschtes...</source>
-        <translation>最近删除的内容(&amp;G)...</translation>
+        <translation>最近删除的内容(&amp;D)...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -1493,6 +1501,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>编号：%1</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>写法不同</translation>
     </message>
 </context>
 <context>
@@ -2145,6 +2157,12 @@ Bitte eine andere Datei wählen.</source>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>未决行的差异</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>涉及 %n 个项目</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2216,6 +2234,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>kein Unterschied</source>
         <translation>没有差异</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>写法不同</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>不确定：%1</translation>
     </message>
 </context>
 <context>
@@ -2792,6 +2818,10 @@ Zeile: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>相同，只是未确认</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>不确定：%1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3013,6 +3043,16 @@ Zeile: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>查看错误的行(&amp;L)</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>其中 %n 行不确定。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>所有模式都已处理完</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3227,6 +3267,10 @@ Zeile: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>备份间隔(&amp;Y)：</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>高对比度</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3319,10 +3363,6 @@ Zeile: %2
         <translation>负责文件夹</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>目录的文件夹，以逗号分隔；留空则全部归还：</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>负责(&amp;T)</translation>
     </message>
@@ -3377,6 +3417,34 @@ Zeile: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>共享副本：%1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>上次发布曾中断，但已送达。</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>上次发布已中断。请再发布一次。</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>共享文件曾在工作副本中更改而未提交。该内容保留在 %1 中。</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>工作副本曾在操作中途被遗留，现已清理。</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>工作副本的管理数据已损坏，现已重新获取；原来的为 %1。</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>中断的内容已整理妥当。</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>目录的文件夹，以逗号分隔；* 代表任意字符，? 代表一个字符。留空则全部归还：</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,14 @@ Andere: %2</source>
         <source>Kandidaten</source>
         <translation>候選</translation>
     </message>
+    <message>
+        <source>Bestätigt.</source>
+        <translation>已確認。</translation>
+    </message>
+    <message>
+        <source>Sicher zugeordnet.</source>
+        <translation>可靠指派。</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -787,11 +795,11 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Als &amp;CSV speichern...</source>
-        <translation>另存為 CSV(&amp;C)...</translation>
+        <translation>另存為 CSV(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
-        <translation>關閉(&amp;S)</translation>
+        <translation>關閉(&amp;C)</translation>
     </message>
     <message>
         <source>Nicht lesbare Zeilen des Journals: %1</source>
@@ -1381,7 +1389,7 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Zuletzt &amp;Gelöschtes...</source>
-        <translation>最近刪除的內容(&amp;G)...</translation>
+        <translation>最近刪除的內容(&amp;D)...</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -1493,6 +1501,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>編號：%1</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>寫法不同</translation>
     </message>
 </context>
 <context>
@@ -2145,6 +2157,12 @@ Bitte eine andere Datei wählen.</source>
         <source>Unterschiede der offenen Zeilen</source>
         <translation>未決列的差異</translation>
     </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>涉及 %n 個專案</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2216,6 +2234,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>kein Unterschied</source>
         <translation>沒有差異</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>寫法不同</translation>
+    </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>不確定：%1</translation>
     </message>
 </context>
 <context>
@@ -2792,6 +2818,10 @@ Zeile: %2
         <source>gleich, nur nicht bestätigt</source>
         <translation>相同，只是未確認</translation>
     </message>
+    <message>
+        <source>unsicher: %1</source>
+        <translation>不確定：%1</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3013,6 +3043,16 @@ Zeile: %2
         <source>&amp;Falsche Zeile ansehen</source>
         <translation>檢視錯誤的列(&amp;L)</translation>
     </message>
+    <message numerus="yes">
+        <source>%n davon ist/sind unsicher.</source>
+        <translation>
+            <numerusform>其中 %n 列不確定。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alle Muster sind erledigt</source>
+        <translation>所有模式都已處理完</translation>
+    </message>
 </context>
 <context>
     <name>ScriptConsole</name>
@@ -3227,6 +3267,10 @@ Zeile: %2
         <source>Sicherungs&amp;kopie alle:</source>
         <translation>備份間隔(&amp;Y)：</translation>
     </message>
+    <message>
+        <source>Hoher Kontrast</source>
+        <translation>高對比</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>
@@ -3319,10 +3363,6 @@ Zeile: %2
         <translation>負責資料夾</translation>
     </message>
     <message>
-        <source>Ordner des Katalogs, mit Kommas dazwischen; leer gibt alle zurück:</source>
-        <translation>目錄的資料夾，以逗號分隔；留空則全部歸還：</translation>
-    </message>
-    <message>
         <source>Über&amp;nehmen</source>
         <translation>負責(&amp;T)</translation>
     </message>
@@ -3377,6 +3417,34 @@ Zeile: %2
     <message>
         <source>Gemeinsame Kopie: %1</source>
         <translation>共用副本：%1</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen, aber angekommen.</source>
+        <translation>上次發布曾中斷，但已送達。</translation>
+    </message>
+    <message>
+        <source>Die letzte Veröffentlichung war abgebrochen. Bitte noch einmal veröffentlichen.</source>
+        <translation>上次發布已中斷。請再發布一次。</translation>
+    </message>
+    <message>
+        <source>Die gemeinsame Datei war in der Arbeitskopie geändert und nicht eingereicht. Das ist aufgehoben in %1.</source>
+        <translation>共用檔案曾在工作副本中變更而未提交。該內容保留在 %1 中。</translation>
+    </message>
+    <message>
+        <source>Die Arbeitskopie war mitten in einer Arbeit verlassen worden und wurde aufgeräumt.</source>
+        <translation>工作副本曾在作業中途被遺留，現已清理。</translation>
+    </message>
+    <message>
+        <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
+        <translation>工作副本的管理資料已損壞，現已重新取得；原來的為 %1。</translation>
+    </message>
+    <message>
+        <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
+        <translation>中斷的內容已整理妥當。</translation>
+    </message>
+    <message>
+        <source>Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? für eines. Leer gibt alle zurück:</source>
+        <translation>目錄的資料夾，以逗號分隔；* 代表任意字元，? 代表一個字元。留空則全部歸還：</translation>
     </message>
 </context>
 <context>
