@@ -3,7 +3,6 @@
 #include "PatternText.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace ReportTexts {
 
@@ -81,7 +80,7 @@ QString reason(OpenReason reason)
     return QCoreApplication::translate("ReportTexts", reasonTexts[size_t(reason)]);
 }
 
-VelkRelease::ReportForm form(const QString &language)
+VelkRelease::ReportForm form(const QLocale &locale)
 {
     VelkRelease::ReportForm form;
     form.text = [](ReportText text) {
@@ -89,10 +88,10 @@ VelkRelease::ReportForm form(const QString &language)
     };
     form.reason = &ReportTexts::reason;
     form.changes = PatternText::words();
-    form.time = [locale = QLocale(language)](const QDateTime &time) {
+    form.time = [locale](const QDateTime &time) {
         return locale.toString(time.toLocalTime(), QLocale::ShortFormat);
     };
-    form.language = language;
+    form.language = locale.bcp47Name();
     return form;
 }
 

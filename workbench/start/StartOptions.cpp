@@ -47,7 +47,7 @@ void addOptions(QCommandLineParser &parser)
         {"size", "Size of the window, such as 1400x900.", "WxH"},
         {"scale", "Pixels for a length of 1 in a screenshot: 1 or 2.", "N", "1"},
         {"theme", "light, dark or contrast.", "THEME"},
-        {"language", EditorLanguages::all().join(" or ") + ".", "LANGUAGE"},
+        {"language", "One of " + EditorLanguages::all().join(", ") + ".", "LANGUAGE"},
         {"settings", "Directory of settings and journals; the user's own by default.", "DIR"},
     });
 }
@@ -81,7 +81,7 @@ QString wrongValue(const QCommandLineParser &parser, const StartOptions &options
         !QStringList{"light", "dark", "contrast"}.contains(options.theme))
         return wrong("theme", "light, dark or contrast");
     if (!options.language.isEmpty() && !EditorLanguages::all().contains(options.language))
-        return wrong("language", EditorLanguages::all().join(" or "));
+        return wrong("language", "one of " + EditorLanguages::all().join(", "));
     return {};
 }
 

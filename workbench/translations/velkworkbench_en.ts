@@ -1302,7 +1302,7 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Verschlüsselun&amp;g:</source>
-        <translation>Encryption:</translation>
+        <translation>E&amp;ncryption:</translation>
     </message>
     <message>
         <source>Das Kennwort steht in der Kennwortdatei, im Schlüsselspeicher des Desktops oder in PGPASSWORD, oder es wird bei der Anmeldung eingegeben. Gespeichert wird es nicht.</source>
@@ -4084,7 +4084,7 @@ Line: %2
     </message>
     <message>
         <source>&amp;Konflikte</source>
-        <translation>Conflicts</translation>
+        <translation>Con&amp;flicts</translation>
     </message>
     <message>
         <source>Zeigt die Zeilen, die zwei Seiten verschieden entschieden haben</source>

@@ -1277,7 +1277,7 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Verschlüsselun&amp;g:</source>
-        <translation>暗号化(&amp;G):</translation>
+        <translation>暗号化(&amp;N):</translation>
     </message>
     <message>
         <source>Linkdatenbank: Der Name der Datei fehlt.</source>
@@ -4117,7 +4117,7 @@ Zeile: %2
     </message>
     <message>
         <source>&amp;Konflikte</source>
-        <translation>競合(&amp;K)</translation>
+        <translation>競合(&amp;F)</translation>
     </message>
     <message>
         <source>Zeigt die Zeilen, die zwei Seiten verschieden entschieden haben</source>

@@ -15,6 +15,7 @@
 #include <workbench/review/ReportTexts.h>
 #include <workbench/session/BackgroundWork.h>
 #include <workbench/session/MappingDocument.h>
+#include <workbench/start/EditorLanguages.h>
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -249,7 +250,7 @@ bool ReleaseCommands::writeReport(const QString &file)
         return false;
     }
     tellErrors(report->errors);
-    VelkRelease::ReportForm form = ReportTexts::form(m_language);
+    VelkRelease::ReportForm form = ReportTexts::form(EditorLanguages::localeOf(m_language));
     QByteArray bytes;
     if (file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
         form.mostRows = PaperRows;

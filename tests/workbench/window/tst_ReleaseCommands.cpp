@@ -79,7 +79,7 @@ private Q_SLOTS:
 /// Each number of the report has a text of its own, in both languages.
 void tst_ReleaseCommands::everyTextIsThere()
 {
-    const VelkRelease::ReportForm form = ReportTexts::form("de");
+    const VelkRelease::ReportForm form = ReportTexts::form(QLocale("de"));
     QSet<QString> texts;
     for (int i = 0; i < int(VelkRelease::ReportText::Count); ++i)
         texts << form.text(VelkRelease::ReportText(i));

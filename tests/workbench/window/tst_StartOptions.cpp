@@ -93,8 +93,9 @@ private Q_SLOTS:
         QTest::newRow("scale") << QStringList{"--scale", "3"} << "--scale is not 1 or 2: 3";
         QTest::newRow("theme") << QStringList{"--theme", "red"}
                                << "--theme is not light, dark or contrast: red";
-        QTest::newRow("language") << QStringList{"--language", "fr"}
-                                  << "--language is not de or en: fr";
+        QTest::newRow("language") << QStringList{"--language", "xx"}
+                                  << "--language is not one of de, cs, da, en, es, fi, fr, hu, id, "
+                                     "it, ja, ko, nb, pl, pt, ru, sl, sv, tr, zh, zh_CHT: xx";
     }
     void refusesWrongValues()
     {

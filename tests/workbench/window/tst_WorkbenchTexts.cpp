@@ -1,13 +1,57 @@
 #include <core/plugin/PTranslateManager.h>
 
 #include <TestPaths.h>
+#include <workbench/start/EditorLanguages.h>
 #include <workbench/window/QtTexts.h>
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QXmlStreamReader>
+
+namespace {
+
+/// Tags, patterns of files and what a user types as it stands.
+QStringList fixedParts(const QString &text)
+{
+    static const QRegularExpression parts(
+        R"(%(?:L?\d|n)|</?[a-z][^>]*>|\*\.[a-z]+|;;|--[a-z]+|svn://|->|→|\n)");
+    QStringList found;
+    for (auto matches = parts.globalMatch(text); matches.hasNext();)
+        found << matches.next().captured();
+    found.sort(); // another language has another order
+    return found;
+}
+
+bool hasMnemonic(QString text)
+{
+    static const QRegularExpression mnemonic("&\\w",
+                                             QRegularExpression::UseUnicodePropertiesOption);
+    return text.remove("&&").contains(mnemonic);
+}
+
+/// What the translation lacks, or nothing.
+QString faultOf(const QString &source, const QString &translation)
+{
+    if (translation.trimmed().isEmpty())
+        return "empty";
+    if (fixedParts(source) != fixedParts(translation))
+        return "places or tags differ";
+    if (hasMnemonic(source) && !hasMnemonic(translation))
+        return "the mnemonic is lost";
+    if (source.startsWith(' ') != translation.startsWith(' ') ||
+        source.endsWith(' ') != translation.endsWith(' '))
+        return "blanks differ";
+    for (const QLatin1String end : {QLatin1String("..."), QLatin1String("…")}) {
+        if (source.endsWith(end) != translation.endsWith(end))
+            return "ends otherwise";
+    }
+    return {};
+}
+
+} // namespace
 
 class tst_WorkbenchTexts : public QObject
 {
@@ -29,6 +73,13 @@ private Q_SLOTS:
         const QTemporaryDir directory;
         QVERIFY(
             QFile::copy(":/translations/velkworkbench_en.qm", directory.filePath("qtbase_en.qm")));
+        QVERIFY(QFile::copy(":/translations/velkworkbench_en.qm",
+                            directory.filePath("qtbase_pt_BR.qm")));
+        QVERIFY(!QtTexts::setLanguage("zh_CHT", directory.path()));
+        QVERIFY(QtTexts::setLanguage("pt", directory.path())); // better than none
+        QVERIFY(QFile::copy(":/translations/velkworkbench_en.qm",
+                            directory.filePath("qtbase_zh_TW.qm")));
+        QVERIFY(QtTexts::setLanguage("zh_CHT", directory.path()));
         QVERIFY(!QtTexts::setLanguage("fr", directory.path()));
         QCOMPARE(QCoreApplication::translate("MainWindow", "&Datei"), QString("&Datei"));
         QVERIFY(QtTexts::setLanguage("en", directory.path()));
@@ -37,56 +88,124 @@ private Q_SLOTS:
         QCOMPARE(QCoreApplication::translate("MainWindow", "&Datei"), QString("&Datei"));
     }
 
-    void everyTextKeepsItsPlaces()
-    {
-        QFile file(QStringLiteral(VELK_SOURCE_DIR "/workbench/translations/velkworkbench_en.ts"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QXmlStreamReader xml(&file);
-        QString source;
-        int texts = 0;
-        while (!xml.atEnd()) {
-            xml.readNext();
-            if (!xml.isStartElement())
-                continue;
-            if (xml.name() == QLatin1String("source"))
-                source = xml.readElementText();
-            if (xml.name() != QLatin1String("translation"))
-                continue;
-            const QString translation = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-            ++texts;
-            for (int i = 1; i < 10; ++i) {
-                const QString place = "%" + QString::number(i);
-                QVERIFY2(source.contains(place) == translation.contains(place), qPrintable(source));
-            }
-            QVERIFY2(source.endsWith("...") == translation.endsWith("..."), qPrintable(source));
-        }
-        QVERIFY(texts > 250);
-    }
+    void everyTextKeepsItsPlaces_data();
+    void everyTextKeepsItsPlaces();
 
     void textsAreFoundAtRunTime_data()
     {
         QTest::addColumn<QByteArray>("context");
         QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("english");
-        QTest::newRow("class") << QByteArray("MainWindow") << QByteArray("&Datei") << "&File";
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("translation");
+        QTest::newRow("class") << QByteArray("MainWindow") << QByteArray("&Datei") << "en"
+                               << "&File";
         QTest::newRow("table") << QByteArray("WorkbenchActions") << QByteArray("&Aktualisieren")
+                               << "en"
                                << "&Refresh";
         QTest::newRow("session") << QByteArray("StepSummary")
-                                 << QByteArray("Zeile %1 → %2 bestätigt")
+                                 << QByteArray("Zeile %1 → %2 bestätigt") << "en"
                                  << QString::fromUtf8("line %1 → %2 confirmed");
+        QTest::newRow("French") << QByteArray("MainWindow") << QByteArray("&Datei") << "fr"
+                                << "&Fichier";
+        QTest::newRow("Japanese") << QByteArray("MainWindow") << QByteArray("&Datei") << "ja"
+                                  << QString::fromUtf8("ファイル(&F)");
+        QTest::newRow("traditional Chinese") << QByteArray("ConflictModel") << QByteArray("Zeile")
+                                             << "zh_CHT" << QString::fromUtf8("列");
     }
     void textsAreFoundAtRunTime()
     {
         QFETCH(QByteArray, context);
         QFETCH(QByteArray, text);
+        QFETCH(QString, language);
         PTranslateManager::registerModule("velkworkbench");
-        PTranslateManager::instance().setLanguage("en");
-        QTEST(QCoreApplication::translate(context.constData(), text.constData()), "english");
+        PTranslateManager::instance().setLanguage(language);
+        QTEST(QCoreApplication::translate(context.constData(), text.constData()), "translation");
         PTranslateManager::instance().setLanguage("de");
         QCOMPARE(QCoreApplication::translate(context.constData(), text.constData()),
                  QString::fromUtf8(text));
     }
+    void numbersChooseTheForm_data();
+    void numbersChooseTheForm();
 };
+
+void tst_WorkbenchTexts::everyTextKeepsItsPlaces_data()
+{
+    QTest::addColumn<QString>("language");
+    const QStringList languages = EditorLanguages::all();
+    for (const QString &language : languages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+/// Of each text that has a translation, and of each of its plural forms.
+void tst_WorkbenchTexts::everyTextKeepsItsPlaces()
+{
+    QFETCH(QString, language);
+    QFile file(QStringLiteral(VELK_SOURCE_DIR "/workbench/translations/velkworkbench_%1.ts")
+                   .arg(language));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&file);
+    QString source;
+    int texts = 0;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == QLatin1String("source"))
+            source = xml.readElementText();
+        if (xml.name() != QLatin1String("translation"))
+            continue;
+        QVERIFY2(!xml.attributes().hasAttribute("type"), qPrintable(source));
+        QStringList translations;
+        if (xml.readNext(); xml.isCharacters() && !xml.isWhitespace())
+            translations << xml.text().toString();
+        while (!xml.isEndElement() || xml.name() != QLatin1String("translation")) {
+            if (xml.isStartElement() && xml.name() == QLatin1String("numerusform"))
+                translations << xml.readElementText();
+            xml.readNext();
+        }
+        QVERIFY2(!translations.isEmpty(), qPrintable(source));
+        ++texts;
+        for (const QString &translation : std::as_const(translations)) {
+            const QString fault = faultOf(source, translation);
+            QVERIFY2(fault.isEmpty(),
+                     qPrintable(QStringLiteral("%1: %2: %3").arg(fault, source, translation)));
+        }
+    }
+    QVERIFY(texts > (language == "de" ? 50 : 900));
+}
+
+void tst_WorkbenchTexts::numbersChooseTheForm_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *language, int number, const char *text) {
+        QTest::addRow("%s, %d", language, number)
+            << language << number << QString::fromUtf8(text).arg(number);
+    };
+    row("de", 1, "%1 Projekt");
+    row("de", 2, "%1 Projekte");
+    row("fr", 0, "%1 projet");
+    row("fr", 2, "%1 projets");
+    row("pl", 3, "%1 projekty");
+    row("pl", 12, "%1 projektów");
+    row("ru", 21, "%1 проект");
+    row("sl", 2, "%1 projekta");
+    row("sl", 4, "%1 projekti");
+    row("sl", 5, "%1 projektov");
+    row("tr", 5, "%1 proje");
+    row("ko", 5, "프로젝트 %1개");
+}
+
+void tst_WorkbenchTexts::numbersChooseTheForm()
+{
+    QFETCH(QString, language);
+    QFETCH(int, number);
+    PTranslateManager::registerModule("velkworkbench");
+    PTranslateManager::instance().setLanguage(language);
+    QTEST(QCoreApplication::translate("PatternModel", "%n Projekt(e)", nullptr, number), "text");
+    PTranslateManager::instance().setLanguage("de");
+}
 
 QTEST_MAIN(tst_WorkbenchTexts)
 #include "tst_WorkbenchTexts.moc"
