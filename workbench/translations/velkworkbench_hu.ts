@@ -2616,7 +2616,7 @@ Sor: %2
     </message>
     <message>
         <source>Katalogstand %1 nach %2</source>
-        <translation>Katalógusverzió: %1 → %2</translation>
+        <translation>%1 katalógusverzióról erre: %2</translation>
     </message>
     <message>
         <source>Erstellt am %1</source>

@@ -2616,7 +2616,7 @@ Satır: %2
     </message>
     <message>
         <source>Katalogstand %1 nach %2</source>
-        <translation>Katalog sürümü: %1 → %2</translation>
+        <translation>%1 katalog sürümünden %2 sürümüne</translation>
     </message>
     <message>
         <source>Erstellt am %1</source>
