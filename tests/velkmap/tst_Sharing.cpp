@@ -120,6 +120,7 @@ void tst_Sharing::bothDecideOneLine()
     QCOMPARE(lineIn(mine("ben"), Bolts, 1), -5);
     QCOMPARE(velkmap({"publish", "--mapping", mine("ben")}), 4);
     QVERIFY2(m_said.contains("lines are in conflict in " + Bolts), qPrintable(m_said));
+    QCOMPARE(velkmap({"publish", "--mapping", mine("ben"), "--into-others"}), 4);
     decide("ben", Bolts, 1, 6); // settled
     QCOMPARE(velkmap({"publish", "--mapping", mine("ben")}), 0);
     QCOMPARE(velkmap({"update", "--mapping", mine("anna")}), 0);
@@ -160,6 +161,21 @@ void tst_Sharing::dividedByFolders()
              0);
     decide("ben", Nuts, 1, 7);
     QCOMPARE(velkmap({"publish", "--mapping", mine("ben")}), 0);
+    // A project that is gone is a change, too.
+    const QByteArray whole = bytes(mine("ben"));
+    MappingFile file;
+    QVERIFY(file.read(mine("ben")));
+    const ReleaseMappingC former = file.releases().first();
+    ReleaseMappingC release;
+    release.setSourceDate(former.getSourceDate());
+    release.setTargetDate(former.getTargetDate());
+    release.addMapping(former.findMapping(Nuts, "v1", QString()));
+    file.setRelease(release);
+    QVERIFY(file.write(mine("ben")));
+    QCOMPARE(velkmap({"publish", "--mapping", mine("ben")}), 4);
+    QFile again(mine("ben"));
+    QVERIFY(again.open(QIODevice::WriteOnly) && again.write(whole) == whole.size());
+    again.close();
     decide("ben", Bolts, 1, 7);
     QCOMPARE(velkmap({"publish", "--mapping", mine("ben")}), 4);
     QVERIFY2(m_said.contains("in folders of others") && m_said.contains(": parts/bolts;"),
@@ -184,7 +200,7 @@ void tst_Sharing::dividedByPatterns_data()
     QTest::newRow("a folder above") << "*/*/a?prj"
                                     << "parts" << false << true;
     QTest::newRow("of the first folder") << "*ts"
-                                        << "parts/nuts" << false << true;
+                                         << "parts/nuts" << false << true;
     QTest::newRow("not the whole way") << "pa*bolts"
                                        << "parts/*" << true << false;
     QTest::newRow("one character") << "parts/bolt?/?.prj"

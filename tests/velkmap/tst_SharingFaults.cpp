@@ -27,6 +27,8 @@ private Q_SLOTS:
     void fullDisk();
     void withoutRights_data();
     void withoutRights();
+    void brokenOff_data() { places(); }
+    void brokenOff();
     void noBase_data() { places(); }
     void noBase();
     void locksThatNameNobody();
@@ -157,6 +159,27 @@ void tst_SharingFaults::withoutRights()
     QCOMPARE(lineIn(shared("anna"), Bolts, 1), 5);
 }
 
+/// It is said once, and what was not published is still the user's own.
+void tst_SharingFaults::brokenOff()
+{
+    begin();
+    decide("anna", Bolts, 1, 5);
+    QFile link(SharedMapping::linkFile(mine("anna")));
+    QVERIFY(link.open(QIODevice::ReadOnly));
+    const QByteArray text = link.readAll().replace("{", "{\"publishing\": true,");
+    link.close();
+    QVERIFY(link.open(QIODevice::WriteOnly) && link.write(text) == text.size());
+    link.close();
+    QCOMPARE(velkmap({"share", "--mapping", mine("anna")}), 0);
+    QVERIFY2(m_said.contains("the last publishing was broken off; publish again\n"),
+             qPrintable(m_said));
+    QVERIFY2(m_said.contains("nothing to update, something to publish"), qPrintable(m_said));
+    QCOMPARE(velkmap({"share", "--mapping", mine("anna")}), 0);
+    QVERIFY2(!m_said.contains("broken off"), qPrintable(m_said));
+    QCOMPARE(velkmap({"publish", "--mapping", mine("anna")}), 0);
+    QCOMPARE(lineIn(shared("anna"), Bolts, 1), 5);
+}
+
 /// Published, and that could not be noted: the next command finds out.
 void tst_SharingFaults::noBase()
 {
@@ -282,6 +305,7 @@ void tst_SharingFaults::leftInTheWorkingCopy()
     file.close();
     decide("anna", Bolts, 1, 5);
     QCOMPARE(velkmap({"publish", "--mapping", mine("anna")}), 0);
+    QVERIFY2(m_said.contains("and not committed; that is kept in "), qPrintable(m_said));
     QCOMPARE(lineIn(shared("anna"), Bolts, 1), 5);
     const QStringList kept =
         QDir(m_dir->filePath("anna-copy")).entryList({"m.json.uncommitted*"}, QDir::Files);
@@ -315,6 +339,19 @@ void tst_SharingFaults::storeDamaged()
     svn({"commit", "-q", "-m", "notes", copy});
     QVERIFY(notes.open(QIODevice::WriteOnly) && notes.write("second") == 6);
     notes.close();
+    // What others changed since is no change back of this user's.
+    QFile other(copy + "/other.txt");
+    QVERIFY(other.open(QIODevice::WriteOnly) && other.write("older") == 5);
+    other.close();
+    svn({"add", "-q", other.fileName()});
+    svn({"commit", "-q", "-m", "other", other.fileName()});
+    svn({"update", "-q", copy});
+    const QString bens = m_dir->filePath("ben-copy");
+    svn({"checkout", "-q", m_server->url() + "/trunk/catalog", bens});
+    QFile changed(bens + "/other.txt");
+    QVERIFY(changed.open(QIODevice::WriteOnly) && changed.write("newer") == 5);
+    changed.close();
+    svn({"commit", "-q", "-m", "newer", bens});
     decide("anna", Bolts, 1, 5);
     for (const QString &file : pristine("anna")) {
         QFile::setPermissions(file, QFile::Permissions(0x6644));
@@ -329,6 +366,7 @@ void tst_SharingFaults::storeDamaged()
     QCOMPARE(bytes(notes.fileName()), "second");
     QCOMPARE(lineIn(mine("anna"), Bolts, 1), 5);
     if (status != 0) {
+        QCOMPARE(bytes(other.fileName()), "older");
         QVERIFY2(m_said.contains("wcroot"), qPrintable(m_said));
         QVERIFY(QDir(copy).removeRecursively());
         svn({"checkout", "-q", m_server->url() + "/trunk/catalog", copy});
@@ -338,7 +376,8 @@ void tst_SharingFaults::storeDamaged()
                  qPrintable(m_said));
     }
     QCOMPARE(lineIn(shared("anna"), Bolts, 1), 5);
-    svn({"checkout", "-q", m_server->url() + "/trunk/catalog", m_dir->filePath("ben-copy")});
+    QCOMPARE(bytes(other.fileName()), "newer");
+    svn({"update", "-q", bens});
     QCOMPARE(lineIn(shared("ben"), Bolts, 1), 5);
     QCOMPARE(bytes(m_dir->filePath("ben-copy/notes.txt")), "first");
 }

@@ -125,7 +125,7 @@ MappingChange ProjectMerge::lineChange(int line, Side side, int type) const
         const PrjMappingTargetC *first = nullptr;
         for (int slot = 0; slot < int(m_slots.size()); ++slot) {
             const PrjMappingTargetC *found = target(slot, of);
-            if (!found || !found->containsLine(line) || (first && found->isNotFoundTarget()))
+            if (!found || !found->containsLine(line))
                 continue;
             first = !first || first->isNotFoundTarget() ? found : first;
         }
