@@ -140,29 +140,50 @@ RepositoryAnswer SubversionPlace::svn(const QStringList &arguments)
     return answer;
 }
 
-/// At the revision of the former store: at a newer one, files that only are older would look as if
-/// they had been changed back here.
+/// At the oldest revision of the former store, and from there on: at a newer one, files that only
+/// are older would look as if they had been changed back here.
 bool SubversionPlace::makeStoreAnew()
 {
-    const QString root = workingCopy(QFileInfo(file()).absolutePath());
     Entry top;
-    if (!entry(root, top).isDone() || !top.exists || top.root.isEmpty())
+    QString oldest;
+    if (!entry(workingCopy(QFileInfo(file()).absolutePath()), top).isDone() || top.root.isEmpty() ||
+        !oldestRevision(top.root, oldest))
         return false;
     const QString store = top.root + QStringLiteral("/.svn");
     const QString former = DurableFile::stampedName(store, QStringLiteral("damaged"));
     if (!QDir().rename(store, former))
         return false;
-    const RepositoryAnswer answer =
-        withoutWaiting({QStringLiteral("checkout"), QStringLiteral("-q"), QStringLiteral("--force"),
-                        QStringLiteral("--depth"), top.depth, QStringLiteral("-r"), top.checkout,
-                        peg(top.url), top.root});
-    if (answer.isDone()) {
+    const QString force = QStringLiteral("--force");
+    const QString quiet = QStringLiteral("-q");
+    const QString at = QStringLiteral("-r");
+    if (withoutWaiting({QStringLiteral("checkout"), quiet, force, QStringLiteral("--depth"),
+                        top.depth, at, oldest, peg(top.url), top.root})
+            .isDone() &&
+        withoutWaiting({QStringLiteral("update"), quiet, force, at, top.checkout, peg(top.root)})
+            .isDone()) {
         addRepair({ShareRepair::StoreAnew, former});
         return true;
     }
     if (QDir(store).removeRecursively())
         QDir().rename(former, store);
     return false;
+}
+
+/// An update that found the damage has set the folder's revision already, but not that of files.
+bool SubversionPlace::oldestRevision(const QString &root, QString &oldest) const
+{
+    const RepositoryAnswer answer =
+        withoutWaiting({QStringLiteral("info"), QStringLiteral("-R"), QStringLiteral("--show-item"),
+                        QStringLiteral("revision"), peg(root)});
+    qint64 least = -1;
+    for (const QString &row : answer.text.split(u'\n')) {
+        bool isNumber = false;
+        const qint64 revision = row.section(u' ', 0, 0).toLongLong(&isNumber);
+        if (isNumber && revision >= 0 && (least < 0 || revision < least)) // -1: not committed
+            least = revision;
+    }
+    oldest = QString::number(least);
+    return answer.isDone() && least >= 0;
 }
 
 RepositoryAnswer SubversionPlace::entry(const QString &path, Entry &entry)

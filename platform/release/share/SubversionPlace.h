@@ -41,6 +41,7 @@ private:
     [[nodiscard]] RepositoryAnswer withoutWaiting(const QStringList &arguments) const;
     [[nodiscard]] RepositoryAnswer afterOthers(const QStringList &arguments);
     [[nodiscard]] bool makeStoreAnew();
+    [[nodiscard]] bool oldestRevision(const QString &root, QString &oldest) const;
     [[nodiscard]] RepositoryAnswer entry(const QString &path, Entry &entry);
     [[nodiscard]] ShareAnswer revision(QString &revision);
     [[nodiscard]] ShareAnswer fetchAlone(SharedCopy &copy);
