@@ -49,6 +49,19 @@ void collect(QtMsgType, const QMessageLogContext &context, const QString &text)
     }
 }
 
+/// An empty link database in a file; making its tables anew for each test would take its time.
+const QString &preparedFile()
+{
+    static const QTemporaryDir folder;
+    static const QString file = [] {
+        QString name = folder.filePath(QStringLiteral("link.db"));
+        PLinkDbC linkDb;
+        (void)linkDb.open(LinkDbSettings::fromText(name));
+        return name;
+    }();
+    return file;
+}
+
 /// The server of the test program; ends with it.
 PostgresServer &server()
 {
@@ -75,9 +88,15 @@ QString emptyDatabase()
 
 void addDatabases()
 {
-    QTest::addColumn<QString>("database");
-    QTest::newRow("SQLite") << "SQLite";
-    QTest::newRow("PostgreSQL") << "PostgreSQL";
+    QTest::addColumn<bool>("onServer");
+    QTest::newRow("SQLite") << false;
+    QTest::newRow("PostgreSQL") << true;
+}
+
+bool isOnServer()
+{
+    QFETCH_GLOBAL(bool, onServer);
+    return onServer;
 }
 
 StatementLog::StatementLog()
@@ -220,7 +239,7 @@ QStringList labelsOf(const QWidget &form)
     return labels;
 }
 
-DocumentFixture::DocumentFixture(const QString &database)
+DocumentFixture::DocumentFixture()
     : path(catalog.file(project))
     , linkDb(new PLinkDbC)
     , iface(new prxLinkDbIfaceC(linkDb))
@@ -228,11 +247,13 @@ DocumentFixture::DocumentFixture(const QString &database)
 {
     IndexTreeC::instance()->setCatalogRoot(PPathName(catalog.root()));
     writeTable({});
-    const QString address = database == QLatin1String("PostgreSQL")
-                                ? emptyDatabase()
-                                : folder.filePath(QStringLiteral("link.db"));
-    QVERIFY2(linkDb->open(LinkDbSettings::fromText(address)),
+    const QString file = folder.filePath(QStringLiteral("link.db"));
+    if (!isOnServer())
+        QVERIFY(QFile::copy(preparedFile(), file));
+    QVERIFY2(linkDb->open(LinkDbSettings::fromText(isOnServer() ? emptyDatabase() : file)),
              qPrintable(linkDb->lastError().text + server().problem()));
+    if (!isOnServer()) // the file goes with the test
+        QVERIFY(linkDb->executeSelectStatement("PRAGMA synchronous = OFF")->isValid());
     (void)log.takeStatements();
 }
 
@@ -298,7 +319,7 @@ void DocumentFixture::execute(const QString &sql) const
 
 void DocumentFixture::refuseDeletion(const QString &geoId) const
 {
-    if (linkDb->settings().kind == LinkDbSettings::Kind::SQLite) {
+    if (!isOnServer()) {
         execute(QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON plm_document WHEN "
                                "OLD.GEO_ID = '%1' BEGIN SELECT RAISE(ABORT, 'refused'); END")
                     .arg(geoId));
@@ -309,6 +330,25 @@ void DocumentFixture::refuseDeletion(const QString &geoId) const
     execute(QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON plm_document FOR EACH ROW WHEN "
                            "(OLD.GEO_ID = '%1') EXECUTE FUNCTION refuse()")
                 .arg(geoId));
+}
+
+void DocumentFixture::refuseCommits() const
+{
+    execute(QStringLiteral("CREATE TABLE known(id TEXT PRIMARY KEY)"));
+    execute(QStringLiteral("CREATE TABLE late(id TEXT REFERENCES known(id) DEFERRABLE INITIALLY "
+                           "DEFERRED)"));
+    if (!isOnServer()) {
+        QVERIFY(linkDb->executeSelectStatement("PRAGMA foreign_keys = ON")->isValid());
+        for (const QString &event : {QStringLiteral("INSERT"), QStringLiteral("UPDATE")})
+            execute(QStringLiteral("CREATE TRIGGER late_%1 AFTER %1 ON plm_document BEGIN INSERT "
+                                   "INTO late VALUES(NEW.PDMID1); END")
+                        .arg(event));
+        return;
+    }
+    execute(QStringLiteral("CREATE FUNCTION note() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
+                           "INSERT INTO late VALUES(NEW.PDMID1); RETURN NEW; END $$"));
+    execute(QStringLiteral("CREATE TRIGGER late AFTER INSERT OR UPDATE ON plm_document FOR EACH "
+                           "ROW EXECUTE FUNCTION note()"));
 }
 
 void DocumentFixture::setKey(const QString &key, const QString &value) const
@@ -400,6 +440,11 @@ void clickDocument(const DocumentListDialogC &dialog, int row)
     QVERIFY(item);
     list->scrollToItem(item);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(item).center());
+}
+
+void clickRecord(const DocumentListDialogC &dialog, const QString &geoId)
+{
+    clickDocument(dialog, int(idsOf(dialog).indexOf(geoId)));
 }
 
 void clickButton(const QWidget &dialog, const char *name)

@@ -21,8 +21,10 @@
 #include <functional>
 #include <memory>
 
-/// Rows for a test on each database, in the column "database".
+/// Global rows for a whole test: everything runs on each database.
 void addDatabases();
+/// The database of the current global row is a server.
+[[nodiscard]] bool isOnServer();
 
 /// What goes to the database, and what the document dialog logs, as long as it lives.
 class StatementLog
@@ -101,8 +103,8 @@ class DocumentFixture
 public:
     using Values = QList<std::pair<QString, QVariant>>;
 
-    /// With a file or, for the database "PostgreSQL", on the server of the program.
-    explicit DocumentFixture(const QString &database = QStringLiteral("SQLite"));
+    /// On the database of the current global row: a file, or the server of the program.
+    DocumentFixture();
     ~DocumentFixture();
     Q_DISABLE_COPY_MOVE(DocumentFixture)
 
@@ -114,6 +116,8 @@ public:
     void execute(const QString &sql) const;
     /// The database refuses to delete that document.
     void refuseDeletion(const QString &geoId) const;
+    /// The database takes new documents and changes of them, and refuses to commit these.
+    void refuseCommits() const;
     void setKey(const QString &key, const QString &value) const;
     /// First column of a SELECT; forgets the log.
     [[nodiscard]] QStringList column(const QString &sql) const;
@@ -159,4 +163,6 @@ template<class Widget>
 [[nodiscard]] QStringList selectedIds(const DocumentListDialogC &dialog);
 /// Clicks a row of the list of documents.
 void clickDocument(const DocumentListDialogC &dialog, int row);
+/// The same by its GEO_ID, as each database has an order of its own.
+void clickRecord(const DocumentListDialogC &dialog, const QString &geoId);
 void clickButton(const QWidget &dialog, const char *name);

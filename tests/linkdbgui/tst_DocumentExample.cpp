@@ -40,10 +40,10 @@ class tst_DocumentExample : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data() { addDatabases(); }
     void init();
     void cleanup();
     void loadsIntoAnEmptyDatabase();
-    void script_data() { addDatabases(); }
     void script();
 
 private:
@@ -83,8 +83,7 @@ void tst_DocumentExample::loadsIntoAnEmptyDatabase()
 
 void tst_DocumentExample::script()
 {
-    QFETCH(QString, database);
-    const DocumentFixture fixture(database);
+    const DocumentFixture fixture;
     for (const QString &statement : statements())
         fixture.execute(statement);
     fixture.setKey("PDM_COLUMNS", "PDMID1,PDMID2,XVARSET,NBDEFAULTLANG");

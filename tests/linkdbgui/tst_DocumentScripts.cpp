@@ -27,6 +27,21 @@ QStringList rowsOf(const proxyMemberDescListS *description)
     return rows;
 }
 
+/// Tells its end.
+class MortalCallback : public CallbackObject
+{
+public:
+    explicit MortalCallback(std::function<void()> atEnd)
+        : CallbackObject([](prxDictionaryObjC &, const mzComVariantC &) { return mzComVariantC(); })
+        , m_atEnd(std::move(atEnd))
+    {
+    }
+    ~MortalCallback() override { m_atEnd(); }
+
+private:
+    const std::function<void()> m_atEnd;
+};
+
 mzComVariantC variantOf(const proxyObjectC *object)
 {
     return mzComVariantC(object);
@@ -40,6 +55,7 @@ class tst_DocumentScripts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data() { addDatabases(); }
     void init();
     void descriptions();
     void signatures();
@@ -61,6 +77,7 @@ private Q_SLOTS:
     void parentWindow();
     void parentWindowTakesTheDialogAlong();
     void wrappedArguments();
+    void goesInOrder();
     void nothingIsLeft();
 
 private:
@@ -451,6 +468,34 @@ void tst_DocumentScripts::wrappedArguments()
     // A callback's object may be a variable, and no property.
     QCOMPARE(run(dialog.get(), "SetCreateCallback", {mzComVariantC::variable(*variable), "run"}),
              0);
+}
+
+void tst_DocumentScripts::goesInOrder()
+{
+    const DocumentFixture fixture;
+    const ProxyPtrT<prxguiWindowC> window(new prxguiWindowC);
+    QStringList gone;
+    // With how many hold the window, the table and the database.
+    const auto note = [&](const char *name) {
+        gone.append(QStringLiteral("%1 %2%3%4")
+                        .arg(name)
+                        .arg(window->refCount())
+                        .arg(fixture.table->refCount())
+                        .arg(fixture.iface->refCount()));
+    };
+    ProxyPtrT<prxDocumentListDialogC> dialog = dialogOf(fixture);
+    dialog->SetUpdateCallback(dispatchOf(new MortalCallback([&] { note("update"); })), "run");
+    dialog->SetCreateCallback(dispatchOf(new MortalCallback([&] { note("create"); })), "run");
+    dialog->setParentWindow(window);
+    show(fixture, dialog.get(), 1, [&](DocumentListDialogC &shown) {
+        connect(&shown, &QObject::destroyed, this, [&] { note("dialog"); });
+    });
+    QCOMPARE(gone, QStringList());
+    dialog = nullptr;
+    // The dialog first, then the window, the callbacks, and what they may need.
+    QCOMPARE(gone, (QStringList{"dialog 222", "create 122", "update 122"}));
+    QCOMPARE(fixture.table->refCount(), 1);
+    QCOMPARE(fixture.iface->refCount(), 1);
 }
 
 void tst_DocumentScripts::nothingIsLeft()

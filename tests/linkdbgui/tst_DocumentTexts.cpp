@@ -58,11 +58,11 @@ class tst_DocumentTexts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data() { addDatabases(); }
     void fields_data();
     void fields();
     void script_data();
     void script();
-    void lineFeedsAndNull_data() { addDatabases(); }
     void lineFeedsAndNull();
     void placeOfTheLine_data();
     void placeOfTheLine();
@@ -72,7 +72,6 @@ private Q_SLOTS:
 
 void tst_DocumentTexts::fields_data()
 {
-    QTest::addColumn<QString>("database");
     QTest::addColumn<QString>("text");
     const QList<std::pair<const char *, QString>> texts = {
         {"quote", "it's"},
@@ -91,17 +90,14 @@ void tst_DocumentTexts::fields_data()
         {"NULL", "NULL"},
         {"long", QString(100'000, u'x') + u'\''},
     };
-    for (const char *database : {"SQLite", "PostgreSQL"}) {
-        for (const auto &[name, text] : texts)
-            QTest::addRow("%s, %s", database, name) << database << text;
-    }
+    for (const auto &[name, text] : texts)
+        QTest::newRow(name) << text;
 }
 
 void tst_DocumentTexts::fields()
 {
-    QFETCH(QString, database);
     QFETCH(QString, text);
-    const DocumentFixture fixture(database);
+    const DocumentFixture fixture;
     fixture.setKey("PDM_EDIT_COLUMNS", "PDMID1,PDMID2,XVARSET");
     fixture.setKey("PDM_COLUMNS", "PDMID1,PDMID2,XVARSET,CADSYSTEM,PDMSYSTEM");
     const QStringList fields = {"PDMID1", "PDMID2", "XVARSET", "CADSYSTEM", "PDMSYSTEM"};
@@ -161,9 +157,8 @@ void tst_DocumentTexts::script_data()
 
 void tst_DocumentTexts::script()
 {
-    QFETCH(QString, database);
     QFETCH(QString, text);
-    const DocumentFixture fixture(database);
+    const DocumentFixture fixture;
     const auto dialog = fixture.showDialog();
     dialog->setCreateCallback(scriptOf([&](prxDictionaryObjC &values, const mzComVariantC &) {
                                   values.addObj("PDMID1", text);
@@ -185,8 +180,7 @@ void tst_DocumentTexts::script()
 
 void tst_DocumentTexts::lineFeedsAndNull()
 {
-    QFETCH(QString, database);
-    const DocumentFixture fixture(database);
+    const DocumentFixture fixture;
     const QString text = QStringLiteral("a\nb\tc\r");
     const auto dialog = fixture.showDialog();
     dialog->setCreateCallback(scriptOf([&](prxDictionaryObjC &values, const mzComVariantC &) {
@@ -208,20 +202,16 @@ void tst_DocumentTexts::lineFeedsAndNull()
 
 void tst_DocumentTexts::placeOfTheLine_data()
 {
-    QTest::addColumn<QString>("database");
     QTest::addColumn<QString>("name");
-    for (const char *database : {"SQLite", "PostgreSQL"}) {
-        for (const QString &name :
-             {QString("it's"), QString("a' OR '1'='1"), QString("%1"), everyPlane().mid(1)})
-            QTest::addRow("%s, %s", database, qPrintable(name)) << database << name;
-    }
+    for (const QString &name :
+         {QString("it's"), QString("a' OR '1'='1"), QString("%1"), everyPlane().mid(1)})
+        QTest::newRow(qPrintable(name)) << name;
 }
 
 void tst_DocumentTexts::placeOfTheLine()
 {
-    QFETCH(QString, database);
     QFETCH(QString, name);
-    DocumentFixture fixture(database);
+    DocumentFixture fixture;
     fixture.usePool(name);
     const QString project = "cat/" + name + ".prj";
     fixture.catalog.writeFile(project, "[PROJECT]\nVERSIONPRJ=" + name.toUtf8() + '\n');
@@ -237,20 +227,16 @@ void tst_DocumentTexts::placeOfTheLine()
 
 void tst_DocumentTexts::columnNames_data()
 {
-    QTest::addColumn<QString>("database");
     QTest::addColumn<QString>("column");
-    for (const char *database : {"SQLite", "PostgreSQL"}) {
-        for (const char *column :
-             {"A\"B", "A'B", "A B", "%1", "\"A\"", "A.B", "A; DROP TABLE PLM_DOCUMENT"})
-            QTest::addRow("%s, %s", database, column) << database << column;
-    }
+    for (const char *column :
+         {"A\"B", "A'B", "A B", "%1", "\"A\"", "A.B", "A; DROP TABLE PLM_DOCUMENT"})
+        QTest::newRow(column) << column;
 }
 
 void tst_DocumentTexts::columnNames()
 {
-    QFETCH(QString, database);
     QFETCH(QString, column);
-    const DocumentFixture fixture(database);
+    const DocumentFixture fixture;
     fixture.execute("ALTER TABLE plm_document ADD COLUMN " + fixture.linkDb->identifier(column) +
                     " TEXT");
     fixture.setKey("PDM_COLUMNS", column);
