@@ -176,6 +176,10 @@
         <translation>Skupina "%1" v databázi odkazů není, nebo do ní %2 nepatří</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>Databáze odkazů %1 neodpovídá, spojení s ní bylo ukončeno</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Databáze odkazů %1 neexistuje</translation>
     </message>

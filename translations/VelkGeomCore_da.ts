@@ -176,6 +176,10 @@
         <translation>Gruppen "%1" findes ikke i linkdatabasen, eller %2 hører ikke til den</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>Linkdatabasen %1 svarer ikke, forbindelsen til den er opgivet</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Linkdatabasen %1 findes ikke</translation>
     </message>

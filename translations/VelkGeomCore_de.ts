@@ -176,6 +176,10 @@
         <translation>Die Gruppe "%1" gibt es in der Linkdatenbank nicht, oder %2 gehört nicht zu ihr</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Die Linkdatenbank %1 gibt es nicht</translation>
     </message>

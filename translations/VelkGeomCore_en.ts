@@ -176,6 +176,10 @@
         <translation>There is no group "%1" in the link database, or %2 does not belong to it</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>The link database %1 does not answer, the connection to it has been given up</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>There is no link database %1</translation>
     </message>

@@ -176,6 +176,10 @@
         <translation>El grupo "%1" no existe en la base de enlaces, o %2 no pertenece a él</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>La base de enlaces %1 no responde, se ha abandonado la conexión con ella</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>La base de enlaces %1 no existe</translation>
     </message>

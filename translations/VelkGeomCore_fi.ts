@@ -176,6 +176,10 @@
         <translation>Ryhmää "%1" ei ole linkkitietokannassa, tai %2 ei kuulu siihen</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>Linkkitietokanta %1 ei vastaa, yhteydestä siihen on luovuttu</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Linkkitietokantaa %1 ei ole</translation>
     </message>

@@ -176,6 +176,10 @@
         <translation>Le groupe "%1" n'existe pas dans la base de liens, ou %2 n'en fait pas partie</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>La base de liens %1 ne répond pas, la connexion est abandonnée</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>La base de liens %1 n'existe pas</translation>
     </message>

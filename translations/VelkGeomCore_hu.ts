@@ -176,6 +176,10 @@
         <translation>A(z) "%1" csoport nincs a hivatkozási adatbázisban, vagy %2 nem tartozik hozzá</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>A(z) %1 hivatkozási adatbázis nem válaszol, a kapcsolat feladva</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>A(z) %1 hivatkozási adatbázis nem létezik</translation>
     </message>

@@ -176,6 +176,10 @@
         <translation>Grup "%1" tidak ada di basis data tautan, atau %2 bukan anggotanya</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>Basis data tautan %1 tidak menjawab, koneksi ke sana dihentikan</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Basis data tautan %1 tidak ada</translation>
     </message>

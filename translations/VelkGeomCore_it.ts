@@ -176,6 +176,10 @@
         <translation>Il gruppo "%1" non esiste nel database dei collegamenti, o %2 non ne fa parte</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>La base dei collegamenti %1 non risponde, la connessione è stata abbandonata</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Il database dei collegamenti %1 non esiste</translation>
     </message>

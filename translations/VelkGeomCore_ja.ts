@@ -176,6 +176,10 @@
         <translation>グループ "%1" はリンクデータベースにないか、%2 が属していません</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>リンクデータベース %1 が応答しないため、接続を打ち切りました</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>リンクデータベース %1 はありません</translation>
     </message>

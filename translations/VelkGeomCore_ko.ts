@@ -176,6 +176,10 @@
         <translation>그룹 "%1"이(가) 링크 데이터베이스에 없거나 %2이(가) 속하지 않습니다</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>링크 데이터베이스 %1이(가) 응답하지 않아 연결을 포기했습니다</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>링크 데이터베이스 %1이(가) 없습니다</translation>
     </message>

@@ -176,6 +176,10 @@
         <translation>Grupy "%1" nie ma w bazie łączy albo %2 do niej nie należy</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>Baza łączy %1 nie odpowiada, połączenie z nią zostało porzucone</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Nie ma bazy łączy %1</translation>
     </message>

@@ -176,6 +176,10 @@
         <translation>O grupo "%1" não existe na base de ligações, ou %2 não lhe pertence</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>A base de ligações %1 não responde, a ligação a ela foi abandonada</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>A base de ligações %1 não existe</translation>
     </message>

@@ -176,6 +176,10 @@
         <translation>Группы "%1" нет в базе связей, или %2 в неё не входит</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>База связей %1 не отвечает, соединение с ней прекращено</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Базы связей %1 нет</translation>
     </message>

@@ -176,6 +176,10 @@
         <translation>Skupine "%1" ni v zbirki povezav ali pa ji %2 ne pripada</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>Zbirka povezav %1 se ne odziva, povezava z njo je opuščena</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Zbirke povezav %1 ni</translation>
     </message>

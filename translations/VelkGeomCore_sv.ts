@@ -176,6 +176,10 @@
         <translation>Gruppen "%1" finns inte i länkdatabasen, eller %2 hör inte till den</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>Länkdatabasen %1 svarar inte, förbindelsen till den har getts upp</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>Länkdatabasen %1 finns inte</translation>
     </message>

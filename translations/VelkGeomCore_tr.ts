@@ -176,6 +176,10 @@
         <translation>"%1" grubu bağlantı veritabanında yok ya da %2 ona ait değil</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>%1 bağlantı veritabanı yanıt vermiyor, bağlantıdan vazgeçildi</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>%1 bağlantı veritabanı yok</translation>
     </message>

@@ -176,6 +176,10 @@
         <translation>链接数据库中没有组"%1"，或者 %2 不属于该组</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>链接数据库 %1 没有响应，已放弃与它的连接</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>没有链接数据库 %1</translation>
     </message>

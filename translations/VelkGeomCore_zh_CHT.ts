@@ -176,6 +176,10 @@
         <translation>連結資料庫中沒有群組"%1"，或者 %2 不屬於該群組</translation>
     </message>
     <message>
+        <source>Die Linkdatenbank %1 antwortet nicht, die Verbindung zu ihr ist aufgegeben</source>
+        <translation>連結資料庫 %1 沒有回應，已放棄與它的連線</translation>
+    </message>
+    <message>
         <source>Die Linkdatenbank %1 gibt es nicht</source>
         <translation>沒有連結資料庫 %1</translation>
     </message>

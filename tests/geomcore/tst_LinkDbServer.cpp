@@ -101,6 +101,11 @@ private Q_SLOTS:
     void cancelsStatement_data();
     void cancelsStatement();
     void waitsForTheLockOfAFile();
+    void unansweredConnectingIsGivenUp_data();
+    void unansweredConnectingIsGivenUp();
+    void unansweredStatementIsGivenUp();
+    void unansweredCommitIsUncertain();
+    void stopsWhatRuns();
 
 private:
     [[nodiscard]] PRefPtr<PLinkDbC> opened(const QString &address);
@@ -565,10 +570,119 @@ void tst_LinkDbServer::waitsForTheLockOfAFile()
     QVERIFY(insert(*first, "c"));
     PProgress progress(0, 0, 1, true, true);
     progress.requestCancel();
+    QElapsedTimer time;
+    time.start();
     QVERIFY(!insert(*second, "d"));
+    QVERIFY(time.elapsed() < 9000); // it would wait longer else
     progress.done();
     QVERIFY(first->commit());
     QCOMPARE(documents(*second), 3);
+}
+
+void tst_LinkDbServer::unansweredConnectingIsGivenUp_data()
+{
+    QTest::addColumn<bool>("byStop");
+    QTest::newRow("the user cancels") << false;
+    QTest::newRow("stop()") << true;
+}
+
+void tst_LinkDbServer::unansweredConnectingIsGivenUp()
+{
+    QFETCH(bool, byStop);
+    LinkDbSettings settings = LinkDbSettings::fromText(m_server->newDatabase());
+    settings.connectSeconds = 120;
+    m_server->halt();
+    QElapsedTimer time;
+    time.start();
+    PLinkDbC linkDb;
+    {
+        PProgress progress(0, 0, 1, true, true);
+        if (!byStop)
+            progress.requestCancel();
+        std::jthread stops([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            if (byStop)
+                linkDb.stop();
+        });
+        QVERIFY(!linkDb.open(settings));
+        progress.done();
+    }
+    QVERIFY(linkDb.lastError().cancelled);
+    QVERIFY(linkDb.close());
+    QVERIFY(time.elapsed() < 60'000);
+    QVERIFY(PLinkDbC::isThreadLeft());
+    m_server->resume();
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
+    QCOMPARE(linkDb.open(settings), !byStop); // what is stopped stays so
+}
+
+void tst_LinkDbServer::unansweredStatementIsGivenUp()
+{
+    LinkDbSettings settings = LinkDbSettings::fromText(m_server->newDatabase());
+    settings.connectSeconds = 1;
+    PLinkDbC linkDb;
+    QVERIFY(linkDb.open(settings));
+    QVERIFY(insert(linkDb, "a"));
+    m_server->halt();
+    PProgress progress(0, 0, 1, true, true);
+    progress.requestCancel();
+    QVERIFY(!insert(linkDb, "b"));
+    progress.done();
+    // It counts as lost, with what was pending.
+    QVERIFY(linkDb.lastError().lost && linkDb.lastError().cancelled);
+    QVERIFY2(linkDb.lastError().text.contains("antwortet nicht"),
+             qPrintable(linkDb.lastError().text));
+    QVERIFY(m_sink->logged.last().contains("antwortet nicht"));
+    QVERIFY(m_sink->logged.last().endsWith("(Anweisungen: 1)."));
+    QVERIFY(!linkDb.isOpen());
+    QVERIFY(!linkDb.isPending());
+    QVERIFY(PLinkDbC::isThreadLeft());
+    m_server->resume();
+    QVERIFY(!linkDb.commit());
+    QVERIFY(linkDb.lastError().text.contains("verloren"));
+    QCOMPARE(documents(linkDb), 0);
+    QVERIFY(linkDb.isOpen());
+    QVERIFY(insert(linkDb, "a"));
+    QVERIFY(linkDb.commit());
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
+    QCOMPARE(documents(linkDb), 1);
+}
+
+void tst_LinkDbServer::unansweredCommitIsUncertain()
+{
+    LinkDbSettings settings = LinkDbSettings::fromText(m_server->newDatabase());
+    settings.connectSeconds = 1;
+    PLinkDbC linkDb;
+    QVERIFY(linkDb.open(settings));
+    QVERIFY(insert(linkDb, "a"));
+    m_server->halt();
+    PProgress progress(0, 0, 1, true, true);
+    progress.requestCancel();
+    QVERIFY(!linkDb.commit());
+    progress.done();
+    QVERIFY2(linkDb.lastError().text.contains("ungewiss"), qPrintable(linkDb.lastError().text));
+    QVERIFY(!m_sink->logged.last().contains("Anweisungen"));
+    m_server->resume();
+    QVERIFY(linkDb.commit()); // of nothing
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
+    QCOMPARE(documents(linkDb), 1);
+}
+
+void tst_LinkDbServer::stopsWhatRuns()
+{
+    PLinkDbC linkDb;
+    QVERIFY(linkDb.open(LinkDbSettings::fromText(m_server->newDatabase())));
+    std::atomic<bool> answered = true;
+    {
+        std::jthread reads(
+            [&] { answered = linkDb.executeSelectStatement("SELECT pg_sleep(60)")->isValid(); });
+        std::this_thread::sleep_for(std::chrono::milliseconds(400));
+        linkDb.stop();
+    }
+    QVERIFY(!answered);
+    QVERIFY(!linkDb.executeSelectStatement("SELECT 1")->isValid());
+    QVERIFY(linkDb.close());
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
 }
 
 QTEST_GUILESS_MAIN(tst_LinkDbServer)

@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QUuid>
 
+#include <thread>
+
 namespace {
 
 constexpr qsizetype longText = 100'000;
@@ -65,6 +67,9 @@ private Q_SLOTS:
     void commitsNothingByItself();
     void failedStatementGoesAlone_data() { databases(); }
     void failedStatementGoesAlone();
+    void writersDoNotBlockEachOther_data() { databases(); }
+    void writersDoNotBlockEachOther();
+    void lostChangesAreMadeAgain();
     void closingCommits_data() { databases(); }
     void closingCommits();
     void keepsDeletedRows_data() { databases(); }
@@ -125,6 +130,8 @@ PRefPtr<PLinkDbC> tst_PLinkDbC::opened()
     PRefPtr<PLinkDbC> linkDb(new PLinkDbC);
     if (!linkDb->open(m_settings))
         QTest::qFail(qPrintable(linkDb->lastError().text), __FILE__, __LINE__);
+    if (!onServer) // the file goes with the test
+        (void)linkDb->executeSelectStatement("PRAGMA synchronous = OFF");
     return linkDb;
 }
 
@@ -349,6 +356,52 @@ void tst_PLinkDbC::failedStatementGoesAlone()
     // One that fails as the first leaves no transaction behind.
     QVERIFY(!linkDb->executeInsertStatement("DELETE FROM no_table"));
     QVERIFY(!linkDb->isPending());
+}
+
+void tst_PLinkDbC::writersDoNotBlockEachOther()
+{
+    // A deletion reads first, so each would wait for the other if it did not lock at once.
+    const PRefPtr<PLinkDbC> first = opened();
+    std::atomic<int> good = 0;
+    {
+        std::vector<std::jthread> threads;
+        threads.reserve(2);
+        for (const char *name : {"a", "b"})
+            threads.emplace_back([&, name] {
+                PLinkDbC linkDb;
+                if (!linkDb.open(m_settings))
+                    return;
+                (void)linkDb.executeSelectStatement("PRAGMA synchronous = OFF");
+                for (int i = 0; i < 30; ++i)
+                    good +=
+                        linkDb.executeInsertStatement(
+                            QString("INSERT INTO plm_document(GEO_ID) VALUES('%1')").arg(name)) &&
+                        linkDb.commit() &&
+                        linkDb.executeInsertStatement(
+                            QString("DELETE FROM plm_document WHERE GEO_ID = '%1'").arg(name)) &&
+                        linkDb.commit();
+            });
+    }
+    QCOMPARE(good, 60);
+    QCOMPARE(first->executeCountStatement("SELECT COUNT(*) FROM plm_document"), 0);
+    QCOMPARE(first->executeCountStatement("SELECT COUNT(*) FROM linkdb_deleted"), 60);
+}
+
+void tst_PLinkDbC::lostChangesAreMadeAgain()
+{
+    PLinkDbC linkDb;
+    QVERIFY(linkDb.open(LinkDbSettings::fromText(m_server->newDatabase())));
+    const auto insertBoth = [&] {
+        return linkDb.executeInsertStatement("INSERT INTO plm_document(GEO_ID) VALUES('a')") &&
+               linkDb.executeInsertStatement("INSERT INTO plm_document(GEO_ID) VALUES('b')");
+    };
+    QVERIFY(insertBoth());
+    m_server->endConnections();
+    QVERIFY(!linkDb.executeInsertStatement("INSERT INTO plm_document(GEO_ID) VALUES('c')"));
+    // Who begins anew is not told again.
+    QVERIFY(insertBoth());
+    QVERIFY(linkDb.commit());
+    QCOMPARE(linkDb.executeCountStatement("SELECT COUNT(*) FROM plm_document"), 2);
 }
 
 void tst_PLinkDbC::closingCommits()

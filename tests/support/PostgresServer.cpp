@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int startMs = 10'000;
+constexpr int startMs = 60'000;
 
 /// Folder of the newest server's programs.
 QString findPrograms()
@@ -94,6 +94,7 @@ PostgresServer::~PostgresServer()
 {
     if (m_server.state() == QProcess::NotRunning)
         return;
+    resume();
     ::kill(pid_t(m_server.processId()), SIGINT); // fast: ends all connections
     if (!m_server.waitForFinished(startMs))
         kill();
@@ -148,6 +149,25 @@ bool PostgresServer::start()
     if (log.open(QIODevice::ReadOnly))
         m_problem += QString::fromUtf8(log.readAll());
     return false;
+}
+
+void PostgresServer::halt()
+{
+    const QString clients =
+        sql(QStringLiteral("postgres"),
+            QStringLiteral("SELECT pid FROM pg_stat_activity WHERE backend_type "
+                           "= 'client backend' AND pid <> pg_backend_pid()"));
+    m_halted = {m_server.processId()};
+    for (const QString &client : clients.split(u'\n', Qt::SkipEmptyParts))
+        m_halted.append(client.toLongLong());
+    for (const qint64 process : std::as_const(m_halted))
+        ::kill(pid_t(process), SIGSTOP);
+}
+
+void PostgresServer::resume()
+{
+    for (const qint64 process : std::exchange(m_halted, {}))
+        ::kill(pid_t(process), SIGCONT);
 }
 
 void PostgresServer::kill()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
@@ -42,6 +43,9 @@ public:
     /// Stops at once, as a crash would; start() brings it back with what was committed.
     void kill();
     bool start();
+    /// From now on the server takes connections and statements, and answers none, until resume().
+    void halt();
+    void resume();
 
 private:
     [[nodiscard]] QString folder() const { return m_folder.path(); }
@@ -54,6 +58,7 @@ private:
     QProcess m_server;
     int m_port = 0;
     int m_databases = 0;
+    QList<qint64> m_halted;
     unsigned m_user = 0;
     unsigned m_group = 0;
 };

@@ -2,12 +2,14 @@
 
 #include <core/plugin/Extensions.h>
 #include <core/plugin/PTranslateManager.h>
+#include <geomcore/linkdb/PLinkDbC.h>
 
 #include <QCoreApplication>
 #include <QTextStream>
 
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 
 int main(int argc, char **argv)
 {
@@ -23,5 +25,9 @@ int main(int argc, char **argv)
     for (const QString &fault : faults)
         err << "velkmap: " << fault << '\n';
     const auto status = velkmap::run(QCoreApplication::arguments().mid(1), out, err);
-    return int(velkmap::finish(status, out, err));
+    const int finished = int(velkmap::finish(status, out, err));
+    // A thread that still waits for a server would have the libraries taken down below it.
+    if (PLinkDbC::isThreadLeft())
+        std::_Exit(finished);
+    return finished;
 }

@@ -50,7 +50,6 @@ void LineDocuments::show(EditorArea *editor, const QString &sourceRoot, const Li
     dialog.setVelkTab(ProxyPtrT<VKTab::proxyTableC>(new VKTab::proxyTableC(editor->sourceTable())));
     dialog.setLinkDbIface(ProxyPtrT<prxLinkDbIfaceC>(new prxLinkDbIfaceC(linkDb)));
     dialog.setCreateCallback(mzIDispatchC(check.get()), mzComStringC(QStringLiteral("write")));
-    linkDb->setMoreCatalogRoots({sourceRoot});
     // The file, for the version of the project stands in or beside it.
     dialog.initDialog((PPathName(sourceRoot) + PPathName(editor->currentPath())).text(),
                       editor->currentLine(), 0);

@@ -12,14 +12,38 @@ LinkDbHost::LinkDbHost(PLinkDbGuiI *plugin, QObject *parent)
 
 LinkDbHost::~LinkDbHost()
 {
+    leave();
+}
+
+void LinkDbHost::leave()
+{
+    giveUpAttempt();
+    close();
+    m_state = NotSet;
+    m_address.clear();
+}
+
+/// An attempt that is under way is of no use any more.
+void LinkDbHost::giveUpAttempt()
+{
+    ++m_attempt;
+    if (m_attempted)
+        m_attempted->stop();
     if (m_thread.joinable())
         m_thread.join();
-    close();
+    m_attempted = nullptr;
 }
 
 PRefPtr<PLinkDbC> LinkDbHost::linkDb() const
 {
     return m_linkDb ? m_linkDb : PLinkDbC::instance();
+}
+
+void LinkDbHost::setSourceRoot(const QString &directory)
+{
+    m_sourceRoot = directory;
+    if (m_linkDb)
+        m_linkDb->setMoreCatalogRoots({directory});
 }
 
 void LinkDbHost::setState(State state, const QString &problem)
@@ -34,6 +58,8 @@ void LinkDbHost::close()
     if (!m_linkDb)
         return;
     PLinkDbC::setInstance(nullptr);
+    if (!m_linkDb->isPending()) // what reads in the background is of no use any more
+        m_linkDb->stop();
     m_linkDb->close();
     m_linkDb = nullptr;
 }
@@ -44,7 +70,7 @@ void LinkDbHost::apply(const QString &address, const QString &group)
         return;
     m_address = address;
     m_group = group;
-    ++m_attempt; // an attempt that is under way is of no use any more
+    giveUpAttempt();
     close();
     if (address.isEmpty())
         return setState(NotSet);
@@ -75,12 +101,11 @@ void LinkDbHost::login(const QString &user, const QString &password)
 /// The former connection stays until the new one is there.
 void LinkDbHost::connectTo(const LinkDbSettings &settings, const QString &password)
 {
-    if (m_thread.joinable())
-        m_thread.join();
-    const int attempt = ++m_attempt;
+    giveUpAttempt();
+    const PRefPtr<PLinkDbC> linkDb(new PLinkDbC);
+    m_attempted = linkDb;
     setState(Connecting);
-    m_thread = std::jthread([this, attempt, settings, password] {
-        const PRefPtr<PLinkDbC> linkDb(new PLinkDbC);
+    m_thread = std::jthread([this, linkDb, settings, password, attempt = m_attempt] {
         const bool good = linkDb->open(settings, password);
         QMetaObject::invokeMethod(
             this, [this, attempt, linkDb, good] { onConnected(attempt, linkDb, good); },
@@ -92,6 +117,7 @@ void LinkDbHost::onConnected(int attempt, const PRefPtr<PLinkDbC> &linkDb, bool 
 {
     if (attempt != m_attempt)
         return;
+    m_attempted = nullptr;
     if (!good) {
         const QString cause = linkDb->lastError().text;
         setState(m_linkDb ? Connected : Failed, cause);
@@ -101,6 +127,7 @@ void LinkDbHost::onConnected(int attempt, const PRefPtr<PLinkDbC> &linkDb, bool 
     close();
     m_linkDb = linkDb;
     m_settings = linkDb->settings();
+    linkDb->setMoreCatalogRoots({m_sourceRoot});
     if (!m_group.isEmpty() && m_group != linkDb->currentGroup() &&
         linkDb->groups().contains(m_group))
         linkDb->changeGroup(m_group);

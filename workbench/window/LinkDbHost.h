@@ -19,14 +19,21 @@ public:
 
     /// \a plugin is not owned and may be null.
     explicit LinkDbHost(PLinkDbGuiI *plugin, QObject *parent = nullptr);
-    /// Commits what is pending.
     ~LinkDbHost() override;
+
+    /// Commits what is pending and is without a connection from now on. Does not wait for a server
+    /// that does not answer, unless changes are pending.
+    void leave();
 
     /// Connects to another database, or to none for an empty address. \a group is chosen if the
     /// user may choose it. Nothing happens for the same address.
     void apply(const QString &address, const QString &group);
     /// Connects in the background as another user; the former one stays if that fails.
     void login(const QString &user, const QString &password);
+
+    /// Where the old release's projects are: documents are known by their paths below it, here and
+    /// in scripts. Kept for later connections.
+    void setSourceRoot(const QString &directory);
 
     [[nodiscard]] State state() const { return m_state; }
     /// Why it is not connected, or nothing.
@@ -48,15 +55,18 @@ private:
     void connectTo(const LinkDbSettings &settings, const QString &password);
     void onConnected(int attempt, const PRefPtr<PLinkDbC> &linkDb, bool good);
     void close();
+    void giveUpAttempt();
     void setState(State state, const QString &problem = {});
 
     PLinkDbGuiI *const m_plugin;
     QString m_address;
     QString m_group;
+    QString m_sourceRoot;
     LinkDbSettings m_settings;
     State m_state = NotSet;
     QString m_problem;
     PRefPtr<PLinkDbC> m_linkDb;
+    PRefPtr<PLinkDbC> m_attempted; ///< by the thread
     int m_attempt = 0;
     std::jthread m_thread;
 };

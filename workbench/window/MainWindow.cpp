@@ -119,6 +119,7 @@ MainWindow::~MainWindow()
     DefaultObserverDelegate::setDisplay(nullptr);
     // The editor's handler speaks to the document, and both to the log window.
     IndexTreeC::instance()->setErpSource({});
+    m_linkDb->leave(); // before what reads numbers is waited for
     delete m_erpNumbers;
     delete m_locator;
     delete m_scripts;
@@ -205,6 +206,7 @@ void MainWindow::connectDocument()
 void MainWindow::onDocumentReady()
 {
     MappingDocument *const document = m_desk->document();
+    m_linkDb->setSourceRoot(document->catalogRoots().source);
     m_editor->open(document, document->catalogRoots().source);
     m_pages->setCurrentWidget(m_editor);
     updateState();

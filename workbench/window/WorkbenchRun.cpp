@@ -10,6 +10,7 @@
 
 #include <core/config/PConfigService.h>
 #include <core/plugin/PTranslateManager.h>
+#include <geomcore/linkdb/PLinkDbC.h>
 #include <gui/application/PApplication.h>
 #include <workbench/start/SettingsPlace.h>
 #include <workbench/start/StartOptions.h>
@@ -20,6 +21,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <cstdlib>
 
 void prepareWorkbench(WorkbenchSettings &settings, const SettingsPlace &place,
                       const StartOptions &options)
@@ -86,7 +88,9 @@ int runScript(MainWindow &window, const StartOptions &options)
 
 } // namespace
 
-int runWorkbench(PLinkDbGuiI *plugin, const StartOptions &options)
+namespace {
+
+int runWindow(PLinkDbGuiI *plugin, const StartOptions &options)
 {
     const SettingsPlace place(options.settingsDirectory);
     WorkbenchSettings settings(place.workbenchSettings());
@@ -113,4 +117,16 @@ int runWorkbench(PLinkDbGuiI *plugin, const StartOptions &options)
             window.editor()->selectLine(options.selectedLine);
     });
     return QApplication::exec();
+}
+
+} // namespace
+
+int runWorkbench(PLinkDbGuiI *plugin, const StartOptions &options)
+{
+    const int status = runWindow(plugin, options);
+    // Window and settings are gone in good order. A thread that still waits for a server would
+    // have the libraries unloaded below it.
+    if (PLinkDbC::isThreadLeft())
+        std::_Exit(status);
+    return status;
 }

@@ -92,10 +92,7 @@ bool LinkDbConnection::note(const QSqlQuery &query, const QString &statement)
                                         "VelkGeomCore")
                          .arg(m_settings.displayName(), m_error.text);
     if (m_lostChanges > 0)
-        notice += u' ' + PString::translate("Nicht festgeschriebene Änderungen sind verloren "
-                                            "(Anweisungen: %1).",
-                                            "VelkGeomCore")
-                             .arg(m_lostChanges);
+        notice += u' ' + lostChangesText(m_lostChanges);
     m_notices.append(notice);
     return false;
 }
@@ -296,10 +293,7 @@ bool LinkDbConnection::outcomeOfCommit()
     }
     m_lostChanges = 0;
     m_error = error;
-    m_error.text = PString::translate("%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: "
-                                      "vor einer Wiederholung nachsehen.",
-                                      "VelkGeomCore")
-                       .arg(error.text);
+    m_error.text = uncertainText(error.text);
     return false;
 }
 
@@ -374,23 +368,4 @@ bool LinkDbConnection::tableColumns(const QString &table, QStringList &columns)
         fail(PString::translate("Die Tabelle %1 gibt es in der Linkdatenbank nicht", "VelkGeomCore")
                  .arg(table));
     return !columns.isEmpty();
-}
-
-void LinkDbConnection::cancel()
-{
-    const qint64 backend = m_backend;
-    if (m_cancelled.exchange(true) || backend == 0)
-        return;
-    // PostgreSQL takes the request over another connection, which may have to wait, too.
-    if (m_canceller.joinable())
-        m_canceller.join();
-    m_canceller = std::thread([settings = m_settings, password = m_password, backend] {
-        LinkDbConnection other;
-        other.m_settings = settings;
-        other.m_password = password;
-        if (other.connectNow())
-            static_cast<void>(
-                other.run(QStringLiteral("SELECT pg_cancel_backend(%1)").arg(backend)));
-        other.disconnectNow();
-    });
 }

@@ -73,12 +73,25 @@ public:
     /// Sets the error and is false.
     bool fail(const QString &text, const QString &statement = {}, bool lost = false);
 
+    [[nodiscard]] static QString lostChangesText(int statements);
+    /// Of a commit without an answer.
+    [[nodiscard]] static QString uncertainText(const QString &cause);
     /// What is told if there never was a connection.
     [[nodiscard]] static QString notConnected();
 
     /// Any thread: the statement that runs gives up soon.
     void cancel();
     void clearCancel() { m_cancelled = false; }
+    /// Any thread: it waits for a server's first answers, with nothing at stake.
+    [[nodiscard]] bool isConnecting() const { return m_isConnecting; }
+    /// Before its thread is left to itself: nobody waits for what cancel() began.
+    void leaveCanceller();
+    /// Connects at the next statement, in the place of one that was given up with so many
+    /// statements that were not committed.
+    void replace(const LinkDbSettings &settings, const QString &password, int lostChanges);
+    [[nodiscard]] int pendingStatements() const { return m_pendingStatements; }
+    /// Statements went with a connection and no commit() has told so yet.
+    [[nodiscard]] bool hasLostChanges() const { return m_lostChanges > 0; }
     [[nodiscard]] bool isCancelled() const { return m_cancelled; }
 
     /// What is to be told of connections lost and taken up again, since the last call.
@@ -108,11 +121,12 @@ private:
     bool m_open = false;
     bool m_wanted = false; ///< open until the connection was lost
     bool m_pending = false;
-    int m_pendingStatements = 0;
+    std::atomic<int> m_pendingStatements = 0; ///< read by who gives up
     int m_lostChanges = 0; ///< statements that went with the connection and are not yet told
     QString m_transactionId;
     LinkDbError m_error;
     std::atomic<bool> m_cancelled = false;
+    std::atomic<bool> m_isConnecting = false;
     std::atomic<qint64> m_backend = 0;
     QStringList m_notices;
     std::thread m_canceller;

@@ -26,6 +26,21 @@ QString LinkDbConnection::notConnected()
                               "VelkGeomCore");
 }
 
+QString LinkDbConnection::lostChangesText(int statements)
+{
+    return PString::translate("Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).",
+                              "VelkGeomCore")
+        .arg(statements);
+}
+
+QString LinkDbConnection::uncertainText(const QString &cause)
+{
+    return PString::translate("%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer "
+                              "Wiederholung nachsehen.",
+                              "VelkGeomCore")
+        .arg(cause);
+}
+
 QString LinkDbConnection::cannotBeOpened(const QString &why) const
 {
     return PString::translate("Die Linkdatenbank %1 kann nicht geöffnet werden: %2", "VelkGeomCore")
@@ -85,7 +100,9 @@ bool LinkDbConnection::connectNow()
                 .arg(QString::number(BusyMs),
                      m_settings.readOnly ? QStringLiteral(";QSQLITE_OPEN_READONLY") : QString()));
     }
+    m_isConnecting = true;
     m_open = connection.open() || openWithSecret(connection);
+    m_isConnecting = false;
     if (!m_open) {
         const QSqlError error = connection.lastError();
         connection = QSqlDatabase();
@@ -156,4 +173,38 @@ bool LinkDbConnection::ready()
         PString::translate("Die Verbindung zur Linkdatenbank %1 besteht wieder", "VelkGeomCore")
             .arg(m_settings.displayName()));
     return true;
+}
+
+void LinkDbConnection::cancel()
+{
+    const qint64 backend = m_backend;
+    if (m_cancelled.exchange(true) || backend == 0)
+        return;
+    // PostgreSQL takes the request over another connection, which may have to wait, too.
+    if (m_canceller.joinable())
+        m_canceller.join();
+    m_canceller = std::thread([settings = m_settings, password = m_password, backend] {
+        LinkDbConnection other;
+        other.m_settings = settings;
+        other.m_password = password;
+        if (other.connectNow())
+            static_cast<void>(
+                other.run(QStringLiteral("SELECT pg_cancel_backend(%1)").arg(backend)));
+        other.disconnectNow();
+    });
+}
+
+void LinkDbConnection::leaveCanceller()
+{
+    if (m_canceller.joinable())
+        m_canceller.detach();
+}
+
+void LinkDbConnection::replace(const LinkDbSettings &settings, const QString &password,
+                               int lostChanges)
+{
+    m_settings = settings;
+    m_password = password;
+    m_wanted = true;
+    m_lostChanges = lostChanges;
 }

@@ -116,7 +116,7 @@ QList<LinkDbDeletedRow> LinkDbDeletedRows::list(PLinkDbC &linkDb, int limit)
 
 bool LinkDbDeletedRows::restore(PLinkDbC &linkDb, const QList<LinkDbDeletedRow> &rows)
 {
-    return linkDb.parts().change([&](LinkDbConnection &connection) {
+    return linkDb.parts().change([rows](LinkDbConnection &connection) {
         return std::ranges::all_of(rows, [&](const LinkDbDeletedRow &row) {
             qint64 taken = 0;
             LinkDbConnection::Result gone;

@@ -24,104 +24,10 @@ Instance &theInstance()
     return *instance;
 }
 
-/// In messages; its middle goes then.
-constexpr qsizetype longestStatement = 4000;
-
-QString describe(const LinkDbError &error)
-{
-    QString text =
-        PString::translate("Fehler der Linkdatenbank: %1", "VelkGeomCore").arg(error.text);
-    if (error.statement.isEmpty())
-        return text;
-    text += QStringLiteral("\n\n");
-    if (error.statement.size() <= longestStatement)
-        return text + error.statement;
-    return text + error.statement.left(longestStatement / 2) + QStringLiteral(" ... ") +
-           error.statement.right(longestStatement / 2);
-}
+/// Of a user who has cancelled, in seconds.
+constexpr int mostPatience = 5;
 
 } // namespace
-
-bool PLinkDbC::Private::work(const Work &work)
-{
-    bool done = false;
-    QStringList notices;
-    LinkDbError failure;
-    if (thread) {
-        connection.clearCancel();
-        thread->run(
-            PString::translate("Die Linkdatenbank arbeitet", "VelkGeomCore"),
-            [&] {
-                done = work(connection);
-                failure = done ? LinkDbError() : connection.error();
-                notices = connection.takeNotices();
-                open = connection.isOpen();
-                pending = connection.isPending();
-            },
-            [this] { connection.cancel(); });
-    } else {
-        failure.text = LinkDbConnection::notConnected();
-    }
-    for (const QString &notice : std::as_const(notices))
-        PMessage::LogToWindow(notice);
-    if (done)
-        return true;
-    {
-        const std::lock_guard lock(mutex);
-        error = failure;
-    }
-    if (failure.isSet() && !failure.cancelled)
-        PMessage::LogToWindow(describe(failure));
-    return false;
-}
-
-bool PLinkDbC::Private::change(const Work &statements)
-{
-    return work([&](LinkDbConnection &on) { return on.changeAll([&] { return statements(on); }); });
-}
-
-QStringList PLinkDbC::Private::groupsOf(LinkDbConnection &on) const
-{
-    LinkDbConnection::Result found;
-    QStringList names;
-    if (on.select(QStringLiteral(
-                      "SELECT g.group_name FROM linkdb_group g WHERE NOT EXISTS (SELECT 1 FROM "
-                      "linkdb_group_member m WHERE m.group_name = g.group_name) OR EXISTS "
-                      "(SELECT 1 FROM linkdb_group_member m WHERE m.group_name = g.group_name "
-                      "AND m.user_name = %1)")
-                      .arg(on.literal(user)),
-                  found)) {
-        for (const QVariantList &row : std::as_const(found.rows))
-            names.append(row.first().toString());
-    }
-    names.sort();
-    return names;
-}
-
-bool PLinkDbC::Private::readGroup(LinkDbConnection &on, const QString &name)
-{
-    if (!groupsOf(on).contains(name)) {
-        return on.error().isSet()
-                   ? false
-                   : on.fail(
-                         PString::translate("Die Gruppe \"%1\" gibt es in der Linkdatenbank nicht, "
-                                            "oder %2 gehört nicht zu ihr",
-                                            "VelkGeomCore")
-                             .arg(name, user));
-    }
-    LinkDbConnection::Result found;
-    if (!on.select(
-            QStringLiteral("SELECT key_name, key_value FROM linkdb_group_key WHERE group_name = ") +
-                on.literal(name),
-            found))
-        return false;
-    const std::lock_guard lock(mutex);
-    group = name;
-    groupKeys.clear();
-    for (const QVariantList &row : std::as_const(found.rows))
-        groupKeys.insert(row.at(0).toString(), row.at(1).toString());
-    return true;
-}
 
 PLinkDbC::PLinkDbC()
     : d(std::make_unique<Private>())
@@ -130,8 +36,7 @@ PLinkDbC::PLinkDbC()
 
 PLinkDbC::~PLinkDbC()
 {
-    if (d->thread)
-        close();
+    close();
 }
 
 PRefPtr<PLinkDbC> PLinkDbC::instance()
@@ -149,45 +54,87 @@ void PLinkDbC::setInstance(const PRefPtr<PLinkDbC> &linkDb)
 
 bool PLinkDbC::open(const LinkDbSettings &settings, const QString &password)
 {
-    if (d->thread && !close())
+    if (!close())
         return false;
-    if (!d->thread)
-        d->thread.emplace();
     {
         const std::lock_guard lock(d->mutex);
+        if (d->isStopped)
+            return false;
+        d->link = {std::make_shared<LinkDbThread>(), std::make_shared<LinkDbConnection>(),
+                   settings.kind == LinkDbSettings::Kind::PostgreSQL,
+                   std::chrono::seconds(std::min(settings.connectSeconds, mostPatience))};
         d->settings = settings;
         d->password = password;
     }
-    return d->work([&](LinkDbConnection &connection) {
+    struct Found
+    {
+        QString user;
+        Private::Group group;
+        bool hasGroup = false;
+    };
+    const auto found = std::make_shared<Found>();
+    const auto connect = [found, settings, password,
+                          former = currentGroup()](LinkDbConnection &connection) {
         if (!connection.open(settings, password))
             return false;
-        {
-            const std::lock_guard lock(d->mutex);
-            d->user = connection.userName();
-        }
-        const QStringList names = d->groupsOf(connection);
-        const QString former = currentGroup();
+        found->user = connection.userName();
+        const QStringList names = Private::groupsOf(connection, found->user);
+        found->hasGroup = !names.isEmpty();
         if (names.isEmpty() ||
-            d->readGroup(connection, names.contains(former) ? former : names.first()))
+            Private::readGroup(connection, found->user,
+                               names.contains(former) ? former : names.first(), found->group))
             return true;
         const LinkDbError error = connection.error();
         connection.close();
         return connection.fail(error.text, error.statement, error.lost);
-    });
+    };
+    if (!d->work(connect))
+        return false;
+    {
+        const std::lock_guard lock(d->mutex);
+        d->user = found->user;
+    }
+    if (found->hasGroup)
+        d->setGroup(found->group);
+    return true;
 }
 
 bool PLinkDbC::close()
 {
-    if (!d->thread)
+    if (!d->current().thread)
         return true;
-    const bool done = d->work([](LinkDbConnection &connection) {
-        const bool committed = connection.commit();
-        const LinkDbError error = connection.error();
-        connection.close();
-        return committed || connection.fail(error.text, error.statement, error.lost);
-    });
-    d->thread.reset();
+    bool done = true;
+    if (d->pending || d->hasLost)
+        done = d->work([](LinkDbConnection &connection) { return connection.commit(); },
+                       Private::Stake::Commit);
+    Private::Link link;
+    {
+        const std::lock_guard lock(d->mutex);
+        link = std::exchange(d->link, {});
+    }
+    d->open = false;
+    d->pending = false;
+    d->hasLost = false;
+    link.thread->post([connection = std::exchange(link.connection, {})] { connection->close(); });
+    link.thread->stop();
     return done;
+}
+
+void PLinkDbC::stop()
+{
+    std::shared_ptr<LinkDbThread> thread;
+    {
+        const std::lock_guard lock(d->mutex);
+        d->isStopped = true;
+        thread = d->link.thread;
+    }
+    if (thread)
+        thread->stop();
+}
+
+bool PLinkDbC::isThreadLeft()
+{
+    return LinkDbThread::isAnyLeft();
 }
 
 bool PLinkDbC::isOpen() const
@@ -212,14 +159,16 @@ bool PLinkDbC::login(const QString &user, const QString &password)
     const LinkDbSettings former = settings();
     const QString formerPassword = d->password;
     if (former.kind == LinkDbSettings::Kind::SQLite && isOpen()) {
-        return d->work([&](LinkDbConnection &connection) {
+        const bool done = d->work([user](LinkDbConnection &connection) {
             if (!connection.commit())
                 return false;
             connection.setUserName(user);
-            const std::lock_guard lock(d->mutex);
-            d->user = user;
             return true;
         });
+        const std::lock_guard lock(d->mutex);
+        if (done)
+            d->user = user;
+        return done;
     }
     if (!commit())
         return false;
@@ -236,12 +185,12 @@ bool PLinkDbC::login(const QString &user, const QString &password)
 
 QStringList PLinkDbC::groups()
 {
-    QStringList names;
-    d->work([&](LinkDbConnection &connection) {
-        names = d->groupsOf(connection);
+    const auto names = std::make_shared<QStringList>();
+    const bool done = d->work([names, user = userName()](LinkDbConnection &connection) {
+        *names = Private::groupsOf(connection, user);
         return !connection.error().isSet();
     });
-    return names;
+    return done ? *names : QStringList();
 }
 
 QString PLinkDbC::currentGroup() const
@@ -252,7 +201,13 @@ QString PLinkDbC::currentGroup() const
 
 bool PLinkDbC::changeGroup(const QString &group)
 {
-    return d->work([&](LinkDbConnection &connection) { return d->readGroup(connection, group); });
+    const auto read = std::make_shared<Private::Group>();
+    const bool done = d->work([read, group, user = userName()](LinkDbConnection &connection) {
+        return Private::readGroup(connection, user, group, *read);
+    });
+    if (done)
+        d->setGroup(*read);
+    return done;
 }
 
 QString PLinkDbC::groupInformation(const QString &key) const
@@ -263,7 +218,7 @@ QString PLinkDbC::groupInformation(const QString &key) const
 
 bool PLinkDbC::setGroupInformation(const QString &group, const QString &key, const QString &value)
 {
-    const bool done = d->change([&](LinkDbConnection &connection) {
+    const bool done = d->change([group, key, value](LinkDbConnection &connection) {
         const QString name = connection.literal(group);
         return connection.run(QStringLiteral("DELETE FROM linkdb_group_key WHERE group_name = ") +
                               name + QStringLiteral(" AND key_name = ") +
@@ -323,7 +278,7 @@ void PLinkDbC::showLastError()
 {
     const LinkDbError error = lastError();
     if (error.isSet())
-        PMessage::Show(describe(error), PMsgDlgMode::Error);
+        PMessage::Show(Private::describe(error), PMsgDlgMode::Error);
 }
 
 LinkDbError PLinkDbC::lastError() const

@@ -23,7 +23,8 @@ class IndexTreeC;
 ///
 /// Every operation may be called on any thread and waits for its end, with a progress that can be
 /// cancelled if that takes longer than a moment. While a progress is shown in a program with
-/// windows, events are processed.
+/// windows, events are processed. A server that does not answer is given up at once while it is
+/// connected to, and some seconds after the user has cancelled else: the connection counts as lost.
 class VELKGEOMCORE_EXPORT PLinkDbC : public PRefObject
 {
 public:
@@ -46,6 +47,12 @@ public:
     /// Commits what is pending. False if that failed; it is closed all the same.
     bool close();
     [[nodiscard]] bool isOpen() const;
+    /// Any thread: what runs is given up, also if the server does not answer, and nothing is begun
+    /// any more; pending changes are lost. For one that goes.
+    void stop();
+    /// A thread that was given up still waits for a server. For the end of a program, which such a
+    /// thread must not survive.
+    [[nodiscard]] static bool isThreadLeft();
     [[nodiscard]] LinkDbSettings settings() const;
     /// Name that the database knows the user by; for a file that of the account, or of log-in.
     [[nodiscard]] QString userName() const;

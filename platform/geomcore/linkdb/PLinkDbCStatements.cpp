@@ -44,27 +44,30 @@ private:
 PRefPtr<PLinkDbQueryI> PLinkDbC::executeSelectStatement(const QString &sql)
 {
     logStatement(sql);
-    LinkDbConnection::Result result;
-    const bool done =
-        d->work([&](LinkDbConnection &connection) { return connection.select(sql, result); });
-    return new LinkDbQuery(done, std::move(result));
+    const auto result = std::make_shared<LinkDbConnection::Result>();
+    const bool done = d->work(
+        [sql, result](LinkDbConnection &connection) { return connection.select(sql, *result); });
+    // One that was given up may still be filled.
+    return new LinkDbQuery(done, done ? std::move(*result) : LinkDbConnection::Result());
 }
 
 int PLinkDbC::executeCountStatement(const QString &sql) const
 {
     logStatement(sql);
-    LinkDbConnection::Result result;
-    if (!d->work([&](LinkDbConnection &connection) { return connection.select(sql, result); }))
+    const auto result = std::make_shared<LinkDbConnection::Result>();
+    if (!d->work([sql, result](LinkDbConnection &connection) {
+            return connection.select(sql, *result);
+        }))
         return -1;
     bool isNumber = false;
-    const int count = result.rows.value(0).value(0).toInt(&isNumber);
+    const int count = result->rows.value(0).value(0).toInt(&isNumber);
     return isNumber ? count : -1;
 }
 
 bool PLinkDbC::executeInsertStatement(const QString &sql) const
 {
     logStatement(sql);
-    return d->change([&](LinkDbConnection &connection) {
+    return d->change([sql](LinkDbConnection &connection) {
         return LinkDbDeletedRows::note(connection, sql) && connection.run(sql);
     });
 }
@@ -72,7 +75,8 @@ bool PLinkDbC::executeInsertStatement(const QString &sql) const
 bool PLinkDbC::commit()
 {
     logStatement(QStringLiteral("COMMIT"));
-    return d->work([](LinkDbConnection &connection) { return connection.commit(); });
+    return d->work([](LinkDbConnection &connection) { return connection.commit(); },
+                   Private::Stake::Commit);
 }
 
 bool PLinkDbC::rollback()
@@ -88,17 +92,24 @@ bool PLinkDbC::isPending() const
 
 PLinkDbRecordC PLinkDbC::createRecord(const PString &table)
 {
-    QStringList columns;
-    d->work([&](LinkDbConnection &connection) { return connection.tableColumns(table, columns); });
-    return PLinkDbRecordC(std::make_shared<LinkDbColumns>(columns));
+    const auto columns = std::make_shared<QStringList>();
+    const bool done = d->work([table, columns](LinkDbConnection &connection) {
+        return connection.tableColumns(table, *columns);
+    });
+    return PLinkDbRecordC(std::make_shared<LinkDbColumns>(done ? *columns : QStringList()));
 }
 
 QString PLinkDbC::createSqlStatement(const PString &table, const PLinkDbRecordC &record,
                                      bool update)
 {
-    QStringList names;
-    QStringList values;
-    d->work([&](LinkDbConnection &connection) {
+    struct Parts
+    {
+        QStringList names;
+        QStringList values;
+    };
+    const auto parts = std::make_shared<Parts>();
+    const auto collect = [parts, table, record, update](LinkDbConnection &connection) {
+        auto &[names, values] = *parts;
         QStringList columns;
         if (!connection.tableColumns(table, columns))
             return false;
@@ -116,9 +127,10 @@ QString PLinkDbC::createSqlStatement(const PString &table, const PLinkDbRecordC 
             values.prepend(connection.literal(QUuid::createUuid().toString(QUuid::WithoutBraces)));
         }
         return true;
-    });
-    if (names.isEmpty())
+    };
+    if (!d->work(collect) || parts->names.isEmpty())
         return {};
+    const auto &[names, values] = *parts;
     if (!update)
         return QStringLiteral("INSERT INTO ") + table + QStringLiteral(" (") +
                names.join(QLatin1String(", ")) + QStringLiteral(") VALUES (") +
@@ -136,13 +148,14 @@ QString PLinkDbC::literal(const QVariant &value) const
     // The others want the connection's thread.
     if (const std::optional<QString> plain = LinkDbConnection::plainLiteral(value))
         return *plain;
-    QString text;
-    if (d->thread)
-        d->thread->run(
-            {}, [&] { text = d->connection.literal(value); }, [] {});
-    else
-        text = d->connection.literal(value);
-    return text;
+    const auto text = std::make_shared<QString>();
+    const Private::Link link = d->current();
+    if (link.thread &&
+        link.thread->run(
+            {}, [text, value, connection = link.connection] { *text = connection->literal(value); },
+            [](auto, bool isStopped) { return isStopped; }))
+        return *text;
+    return LinkDbConnection().literal(value);
 }
 
 QString PLinkDbC::identifier(const QString &name) const

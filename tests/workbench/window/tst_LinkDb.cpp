@@ -18,11 +18,14 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTreeWidget>
+
+#include <thread>
 
 namespace {
 
@@ -60,6 +63,9 @@ private Q_SLOTS:
     void showsDocumentsOfTheLine();
     void provesNumbers_data() { databases(); }
     void provesNumbers();
+    void goesAtOnceWhileAServerDoesNotAnswer_data();
+    void goesAtOnceWhileAServerDoesNotAnswer();
+    void takesAnotherWhileAServerDoesNotAnswer();
 
 private:
     static void databases()
@@ -417,6 +423,69 @@ void tst_LinkDb::provesNumbers()
     QCOMPARE(list->topLevelItem(0)->child(0)->text(1), din933 + ":99999");
     Q_EMIT dialog->lineWanted(din933, 3);
     QCOMPARE(fixture.window->editor()->currentLine(), 3);
+}
+
+void tst_LinkDb::goesAtOnceWhileAServerDoesNotAnswer_data()
+{
+    QTest::addColumn<bool>("isConnected");
+    QTest::newRow("connecting") << false;
+    QTest::newRow("reading in the background") << true;
+}
+
+void tst_LinkDb::goesAtOnceWhileAServerDoesNotAnswer()
+{
+    QFETCH(bool, isConnected);
+    if (!m_server)
+        m_server = std::make_unique<PostgresServer>();
+    QVERIFY2(m_server->isRunning(), qPrintable(m_server->problem()));
+    const QString address = m_server->newDatabase();
+    WindowFixture fixture;
+    std::jthread reads;
+    if (isConnected) {
+        setAddress(fixture, address);
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.window->linkDb()->state(), LinkDbHost::Connected, 20'000);
+    }
+    m_server->halt();
+    if (isConnected) {
+        reads = std::jthread([linkDb = PLinkDbC::instance()] {
+            (void)linkDb->executeCountStatement("SELECT COUNT(*) FROM plm_document");
+        });
+    } else {
+        setAddress(fixture, address);
+        QCOMPARE(fixture.window->linkDb()->state(), LinkDbHost::Connecting);
+    }
+    QTest::qWait(500);
+    QElapsedTimer time;
+    time.start();
+    fixture.closeWindow();
+    if (isConnected)
+        reads.join();
+    QVERIFY2(time.elapsed() < 8000, qPrintable(QString::number(time.elapsed())));
+    const bool isLeft = PLinkDbC::isThreadLeft();
+    m_server->resume();
+    QVERIFY(isLeft);
+    QVERIFY(!PLinkDbC::instance()->isOpen());
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
+}
+
+void tst_LinkDb::takesAnotherWhileAServerDoesNotAnswer()
+{
+    if (!m_server)
+        m_server = std::make_unique<PostgresServer>();
+    QVERIFY2(m_server->isRunning(), qPrintable(m_server->problem()));
+    const QString address = m_server->newDatabase();
+    const WindowFixture fixture;
+    m_server->halt();
+    setAddress(fixture, address);
+    QTest::qWait(100);
+    QElapsedTimer time;
+    time.start();
+    connectFile(fixture);
+    QVERIFY2(time.elapsed() < 8000, qPrintable(QString::number(time.elapsed())));
+    m_server->resume();
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
+    QCOMPARE(fixture.window->linkDb()->state(), LinkDbHost::Connected);
+    QVERIFY(PLinkDbC::instance()->isOpen());
 }
 
 QTEST_MAIN(tst_LinkDb)
