@@ -1361,14 +1361,6 @@ Please choose another file.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Under this name the journal says who deleted something.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;User:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Password:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Please choose another file.</translation>
     <message>
         <source>Warnung: </source>
         <translation>Warning: </translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;User:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Password:</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Line: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Name and password hold until the program ends and are not stored.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;User:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Password:</translation>
     </message>
 </context>
 <context>

@@ -1,15 +1,11 @@
 #pragma once
 
+#include "LoginDialog.h"
+
 #include <geomcore/repository/RepositoryClient.h>
 
-#include <QDialog>
-
-QT_BEGIN_NAMESPACE
-class QLineEdit;
-QT_END_NAMESPACE
-
 /// Asks who reads a repository.
-class RepositoryLoginDialog : public QDialog
+class RepositoryLoginDialog : public LoginDialog
 {
     Q_OBJECT
 
@@ -19,8 +15,4 @@ public:
                           QWidget *parent);
 
     [[nodiscard]] RepositoryLogin login() const;
-
-private:
-    QLineEdit *const m_user;
-    QLineEdit *const m_password;
 };
