@@ -19,5 +19,5 @@ gui.linkDbIface = createObject("tmvtools.linkdb");
 const dialog = gui.createPdmDocViewDialog();
 dialog.ParentWindow = workbench.window;
 dialog.VelkTab = workbench.table;
-const result = dialog.ShowDialog(workbench.project, workbench.line, 0);
+const result = dialog.ShowDialog(workbench.projectFile, workbench.line, 0);
 print("closed with " + result + (dialog.Modified ? ", documents were changed" : ""));

@@ -25,6 +25,13 @@ QString prxWorkbenchC::project() const
     return m_window ? m_window->editor()->currentPath() : QString();
 }
 
+QString prxWorkbenchC::projectFile() const
+{
+    const QString path = project();
+    return path.isEmpty() ? QString()
+                          : m_window->desk()->document()->catalogRoots().source + u'/' + path;
+}
+
 int prxWorkbenchC::line() const
 {
     return m_window ? m_window->editor()->currentLine() : -1;
@@ -69,6 +76,7 @@ const proxyMemberDescListS *prxWorkbenchC::getStaticProxyTypeInfo()
     static const proxyMemberDescS members[] = {
         proxyPropertyRead<&Self::mappingFile>("mappingFile"),
         proxyPropertyRead<&Self::project>("project"),
+        proxyPropertyRead<&Self::projectFile>("projectFile"),
         proxyPropertyRead<&Self::line>("line"),
         proxyPropertyRead<&Self::table>("table"),
         proxyMethod<&Self::selectProject>("selectProject"),

@@ -24,6 +24,8 @@ public:
     [[nodiscard]] QString mappingFile() const;
     /// Source path of the selected project; empty without one.
     [[nodiscard]] QString project() const;
+    /// In the old release; its version and its documents are looked up by it.
+    [[nodiscard]] QString projectFile() const;
     /// Number of the selected line; -1 if there is none, or several.
     [[nodiscard]] int line() const;
     /// The old table as it is shown; null if no project is open.

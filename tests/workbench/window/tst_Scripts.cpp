@@ -3,10 +3,12 @@
 
 #include <geomcore/erp/ErpNumberLayer.h>
 #include <geomcore/linkdb/PLinkDbC.h>
+#include <geomcore/project/readProjectVersion.h>
 #include <TestPaths.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
 #include <workbench/window/EditorArea.h>
+#include <workbench/window/LinkDbHost.h>
 #include <workbench/window/LogWindow.h>
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/ScriptDesk.h>
@@ -22,6 +24,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include <sys/stat.h>
 
@@ -286,7 +289,23 @@ void tst_Scripts::editorKeepsFiles()
 
 void tst_Scripts::documentsOfALine()
 {
-    const PRefPtr<PLinkDbC> linkDb = connectLinkDb();
+    WorkbenchSettings::Values values = m_fixture->settings->values();
+    values.linkDb = "sqlite:" + m_fixture->directory.filePath("links.db");
+    m_fixture->settings->setValues(values);
+    QTRY_COMPARE(m_fixture->window->linkDb()->state(), LinkDbHost::Connected);
+    const PRefPtr<PLinkDbC> linkDb = PLinkDbC::instance();
+    // Of the old release; the new one's project has another version.
+    const QString file = WindowFixture::roots().source + u'/' + project;
+    for (const QString &version : {QString(readProjectVersion(file)), QString("of another")}) {
+        PLinkDbRecordC record = linkDb->createRecord("plm_document");
+        record.setValue("PRJ_PATH", project);
+        record.setValue("VERSION", version);
+        record.setValue("LINE_ID", 3);
+        record.setValue("LINE_SUBID", 0);
+        record.setValue("PDMID1", version);
+        QVERIFY(linkDb->executeInsertStatement(
+            linkDb->createSqlStatement("plm_document", record, false)));
+    }
     ScriptEditor *const editor = m_fixture->window->scripts()->showEditor();
     QTRY_COMPARE(QApplication::activeWindow(), editor);
     QVERIFY(editor->openFile(VELK_SOURCE_DIR "/examples/scripts/documents-of-line.js"));
@@ -297,11 +316,14 @@ void tst_Scripts::documentsOfALine()
     ModalScript user;
     user.then([&user](QWidget *dialog) {
         user.seen << QString::fromLatin1(dialog->metaObject()->className());
+        const auto *const list = dialog->findChild<QTreeWidget *>("tvDocuments");
+        for (int row = 0; row < list->topLevelItemCount(); ++row)
+            user.seen << list->topLevelItem(row)->text(0);
         QTest::keyClick(dialog, Qt::Key_Escape);
     });
     QTest::mouseClick(run, Qt::LeftButton);
     QVERIFY(user.isDone());
-    QCOMPARE(user.seen, QStringList{"DocumentListDialogC"});
+    QCOMPARE(user.seen, (QStringList{"DocumentListDialogC", readProjectVersion(file)}));
     QCOMPARE(editor->message(), QString("Fertig"));
     QCOMPARE(lastLine(), QString("closed with 0"));
 }
