@@ -483,7 +483,7 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
     </message>
     <message>
         <source>Wert</source>
-        <translation>hodnota</translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

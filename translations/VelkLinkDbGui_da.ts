@@ -483,7 +483,7 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
     </message>
     <message>
         <source>Wert</source>
-        <translation>værdi</translation>
+        <translation>Værdi</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -483,7 +483,7 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     </message>
     <message>
         <source>Wert</source>
-        <translation>value</translation>
+        <translation>Value</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

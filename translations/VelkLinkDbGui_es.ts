@@ -483,7 +483,7 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Wert</source>
-        <translation>valor</translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

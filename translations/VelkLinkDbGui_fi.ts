@@ -483,7 +483,7 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
     </message>
     <message>
         <source>Wert</source>
-        <translation>arvo</translation>
+        <translation>Arvo</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -483,7 +483,7 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     </message>
     <message>
         <source>Wert</source>
-        <translation>valeur</translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

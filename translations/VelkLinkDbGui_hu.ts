@@ -483,7 +483,7 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
     </message>
     <message>
         <source>Wert</source>
-        <translation>érték</translation>
+        <translation>Érték</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

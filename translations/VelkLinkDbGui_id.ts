@@ -483,7 +483,7 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
     </message>
     <message>
         <source>Wert</source>
-        <translation>nilai</translation>
+        <translation>Nilai</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -483,7 +483,7 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
     </message>
     <message>
         <source>Wert</source>
-        <translation>valore</translation>
+        <translation>Valore</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -483,7 +483,7 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
     </message>
     <message>
         <source>Wert</source>
-        <translation>verdi</translation>
+        <translation>Verdi</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

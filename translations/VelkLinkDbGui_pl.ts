@@ -483,7 +483,7 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     </message>
     <message>
         <source>Wert</source>
-        <translation>wartość</translation>
+        <translation>Wartość</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -483,7 +483,7 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
     </message>
     <message>
         <source>Wert</source>
-        <translation>valor</translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -483,7 +483,7 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
     </message>
     <message>
         <source>Wert</source>
-        <translation>значение</translation>
+        <translation>Значение</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

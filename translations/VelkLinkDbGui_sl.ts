@@ -483,7 +483,7 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
     </message>
     <message>
         <source>Wert</source>
-        <translation>vrednost</translation>
+        <translation>Vrednost</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

@@ -483,7 +483,7 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
     </message>
     <message>
         <source>Wert</source>
-        <translation>värde</translation>
+        <translation>Värde</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>

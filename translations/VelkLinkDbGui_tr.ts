@@ -483,7 +483,7 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
     </message>
     <message>
         <source>Wert</source>
-        <translation>değer</translation>
+        <translation>Değer</translation>
     </message>
     <message>
         <source>Wertebereichsvariablen auswählen</source>
