@@ -100,6 +100,8 @@ void tst_CatalogMappingWidget::buildTargetPath_data()
                                           << "";
     QTest::newRow("place holder") << false << "c%1t/%2.prj"
                                   << "svn://c%1t/trunk/catalog/%2.prj";
+    QTest::newRow("place holder in the name") << false << "cat/%1.prj"
+                                              << "svn://cat/trunk/catalog/%1.prj";
 }
 
 void tst_CatalogMappingWidget::buildTargetPath()

@@ -4,6 +4,7 @@
 #include <mapping/data/ApplicationHandlerI.h>
 #include <mapping/data/ReleaseMappingHandler.h>
 
+#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -511,10 +512,28 @@ private Q_SLOTS:
         MappingFile expected;
         expected.setRelease(handler.getCatalogMapping().lastRelease());
         QCOMPARE(readFile(path), expected.toByteArray());
-        QVERIFY(readFile(path).contains("\n       [1,5,0]") == false);
         QVERIFY(readFile(path).contains("\n       [1,1,0]\n"));
         QVERIFY(handler.commitModifications());
         QCOMPARE(readFile(path), expected.toByteArray());
+    }
+
+    void commitWritesTheFileItself()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath("m.json");
+        ReleaseMappingHandler handler(release({mapping("cat/a.prj", {{1, 0}})}), "", path);
+        QVERIFY(handler.commitModifications());
+        const QString sameFile = dir.filePath("link");
+        QCOMPARE(::link(qPrintable(path), qPrintable(sameFile)), 0);
+        const QByteArray before = readFile(path);
+        handler.updateMapping(mapping("cat/b.prj", {{1, 0}}));
+        QCOMPARE(readFile(path), before);
+        QVERIFY(handler.commitModifications());
+        // Neither renamed over it nor a copy beside it: the host does that.
+        QVERIFY(readFile(path) != before);
+        QCOMPARE(readFile(sameFile), readFile(path));
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
+                 (QStringList{"link", "m.json"}));
     }
 
     void commitKeepsOtherDates()

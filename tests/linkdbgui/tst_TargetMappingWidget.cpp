@@ -15,6 +15,7 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStandardItemModel>
 #include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -209,6 +210,18 @@ void tst_TargetMappingWidget::withoutCallback()
         button->click();
     // The records are exchanged all the same.
     QCOMPARE(targetPaths(params.projectMapping), QStringLiteral("new/b.prj new/a.prj"));
+    // Nobody is told of lists that were stored, either.
+    for (const char *slot : {"onDeleteVarMapping", "onDeleteConditionClicked"}) {
+        const char *const list = slot[8] == 'V' ? "variableView" : "conditionView";
+        auto *const model =
+            qobject_cast<QStandardItemModel *>(widget.findChild<QTableView *>(list)->model());
+        QVERIFY(model);
+        model->appendRow({new QStandardItem, new QStandardItem("x"), new QStandardItem});
+        const QModelIndex last = model->index(model->rowCount() - 1, 0);
+        const int rows = model->rowCount();
+        QVERIFY(QMetaObject::invokeMethod(&widget, slot, Q_ARG(QModelIndex, last), Q_ARG(int, 0)));
+        QCOMPARE(model->rowCount(), rows - 1);
+    }
 }
 
 void tst_TargetMappingWidget::assignEqualLine()
@@ -239,7 +252,7 @@ void tst_TargetMappingWidget::assignByKeyboard()
         QAbstractItemView *const grid = dialog->findChild<VkTableView *>()->grid();
         grid->setFocus();
         QTest::keyClick(grid, Qt::Key_Down);
-        dialog->accept();
+        QTest::keyClick(dialog, Qt::Key_Return);
         if (dialog->isVisible())
             dialog->reject();
     });
