@@ -262,7 +262,7 @@ void MainWindow::onLineKindsChanged()
     const OpenLines::Kinds kinds = m_states->kinds();
     m_lines->setKinds(kinds);
     m_editor->setLineKinds(kinds);
-    if (!kinds || m_editor->shownLines().size() > 0)
+    if (!kinds || !m_editor->shownLines().isEmpty())
         return;
     const QString next = PCommandKeys::instance().keyText(QStringLiteral("goNext"));
     m_status->showNote(tr("Hier ist keine solche Zeile. %1 geht zur nächsten.").arg(next));
