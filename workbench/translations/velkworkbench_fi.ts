@@ -3852,7 +3852,7 @@ Rivi: %2
     </message>
     <message>
         <source>&amp;Aktualisieren</source>
-        <translation>Päi&amp;vitä</translation>
+        <translation>Päivi&amp;tä</translation>
     </message>
     <message>
         <source>Übernimmt, was andere veröffentlicht haben</source>

@@ -1751,7 +1751,7 @@ Välj en annan fil.</translation>
     </message>
     <message>
         <source>Nur &amp;Zeilen</source>
-        <translation>&amp;Bara rader</translation>
+        <translation>Bara &amp;rader</translation>
     </message>
     <message>
         <source>&amp;Hilfe</source>

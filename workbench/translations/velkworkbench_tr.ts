@@ -3789,7 +3789,7 @@ Satır: %2
     </message>
     <message>
         <source>&amp;Aktualisieren</source>
-        <translation>&amp;Yenile</translation>
+        <translation>Ye&amp;nile</translation>
     </message>
     <message>
         <source>Übernimmt, was andere veröffentlicht haben</source>
@@ -3797,7 +3797,7 @@ Satır: %2
     </message>
     <message>
         <source>&amp;Veröffentlichen</source>
-        <translation>Yayı&amp;mla</translation>
+        <translation>&amp;Yayımla</translation>
     </message>
     <message>
         <source>Gibt die eigenen Änderungen an die anderen weiter</source>
@@ -3813,7 +3813,7 @@ Satır: %2
     </message>
     <message>
         <source>&amp;Wer arbeitet woran</source>
-        <translation>Kim &amp;ne üzerinde çalışıyor</translation>
+        <translation>Ki&amp;m ne üzerinde çalışıyor</translation>
     </message>
     <message>
         <source>Zeigt, wer das Mapping offen hat und welche Ordner wem gehören</source>
