@@ -1382,14 +1382,6 @@ Zvolte jiný soubor.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Pod tímto jménem je v protokolu uvedeno, kdo něco smazal.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Uživatel:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Heslo:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1639,6 +1631,17 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Kopírovat všechna hlášení</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Uživatel:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Heslo:</translation>
     </message>
 </context>
 <context>
@@ -2971,14 +2974,6 @@ Projekt: %1
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Jméno a heslo platí do konce programu a neukládají se.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Uživatel:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Heslo:</translation>
     </message>
 </context>
 <context>

@@ -1361,14 +1361,6 @@ Vælg en anden fil.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Under dette navn står der i protokollen, hvem der har slettet noget.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Bruger:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Adgangskode:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Vælg en anden fil.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Kopiér alle meddelelser</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Bruger:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Adgangskode:</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Linje: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Navn og adgangskode gælder, indtil programmet afsluttes, og gemmes ikke.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Bruger:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Adgangskode:</translation>
     </message>
 </context>
 <context>

@@ -1361,14 +1361,6 @@ Elija otro archivo.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Con este nombre consta en el registro quién borró algo.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Usuario:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Contraseña:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Elija otro archivo.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Copiar todos los mensajes</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Usuario:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Contraseña:</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Línea: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>El nombre y la contraseña valen hasta que termine el programa y no se guardan.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Usuario:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Contraseña:</translation>
     </message>
 </context>
 <context>

@@ -1361,14 +1361,6 @@ Valitse toinen tiedosto.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Tällä nimellä lokissa lukee, kuka on poistanut jotain.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Käyttäjä:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Salasana:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Kopioi kaikki ilmoitukset</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Käyttäjä:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Salasana:</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Rivi: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Nimi ja salasana ovat voimassa ohjelman loppuun asti, eikä niitä tallenneta.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Käyttäjä:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Salasana:</translation>
     </message>
 </context>
 <context>

@@ -1361,14 +1361,6 @@ Choisissez un autre fichier.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Sous ce nom, le journal indique qui a supprimé quelque chose.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Utilisateur :</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Mot de passe :</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Copier tous les messages</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Utilisateur :</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Mot de passe :</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Ligne : %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Le nom et le mot de passe valent jusqu&apos;à la fin du programme et ne sont pas enregistrés.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Utilisateur :</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Mot de passe :</translation>
     </message>
 </context>
 <context>

@@ -1340,14 +1340,6 @@ Válasszon másik fájlt.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>A napló ezen a néven tartalmazza, hogy ki törölt valamit.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Felhasználó:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Jelszó:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1595,6 +1587,17 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Minden üzenet másolása</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Felhasználó:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Jelszó:</translation>
     </message>
 </context>
 <context>
@@ -2883,14 +2886,6 @@ Sor: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>A név és a jelszó a program végéig érvényes, és nem kerül mentésre.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Felhasználó:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Jelszó:</translation>
     </message>
 </context>
 <context>

@@ -1340,14 +1340,6 @@ Harap pilih berkas lain.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Dengan nama ini, catatan menyebutkan siapa yang menghapus sesuatu.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Pengguna:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Kata sandi:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1595,6 +1587,17 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Salin semua pesan</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Pengguna:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Kata sandi:</translation>
     </message>
 </context>
 <context>
@@ -2883,14 +2886,6 @@ Baris: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Nama dan kata sandi berlaku sampai program berakhir dan tidak disimpan.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Pengguna:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Kata sandi:</translation>
     </message>
 </context>
 <context>

@@ -1361,14 +1361,6 @@ Scegliere un altro file.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Con questo nome il registro indica chi ha eliminato qualcosa.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Utente:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Password:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Scegliere un altro file.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Copia tutti i messaggi</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Utente:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Password:</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Riga: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Nome e password valgono fino alla chiusura del programma e non vengono salvati.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Utente:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Password:</translation>
     </message>
 </context>
 <context>

@@ -1340,14 +1340,6 @@ Bitte eine andere Datei wählen.</source>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>この名前で、誰が削除したかが記録に残ります。</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>ユーザー(&amp;U):</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>パスワード(&amp;P):</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1595,6 +1587,17 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>すべてのメッセージをコピー</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>ユーザー(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>パスワード(&amp;P):</translation>
     </message>
 </context>
 <context>
@@ -2883,14 +2886,6 @@ Zeile: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>名前とパスワードはプログラムの終了まで有効で、保存されません。</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>ユーザー(&amp;U):</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>パスワード(&amp;P):</translation>
     </message>
 </context>
 <context>

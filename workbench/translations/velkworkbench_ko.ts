@@ -1340,14 +1340,6 @@ Bitte eine andere Datei wählen.</source>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>누가 무엇을 삭제했는지 이 이름으로 기록에 남습니다.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>사용자(&amp;U):</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>암호(&amp;P):</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1595,6 +1587,17 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>모든 메시지 복사</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>사용자(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>암호(&amp;P):</translation>
     </message>
 </context>
 <context>
@@ -2883,14 +2886,6 @@ Zeile: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>이름과 암호는 프로그램이 끝날 때까지 유효하며 저장되지 않습니다.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>사용자(&amp;U):</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>암호(&amp;P):</translation>
     </message>
 </context>
 <context>

@@ -1361,14 +1361,6 @@ Velg en annen fil.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Under dette navnet står det i protokollen hvem som har slettet noe.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Bruker:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Passord:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Velg en annen fil.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Kopier alle meldinger</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Bruker:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Passord:</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Linje: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Navn og passord gjelder til programmet avsluttes og lagres ikke.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Bruker:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Passord:</translation>
     </message>
 </context>
 <context>

@@ -1382,14 +1382,6 @@ Wybierz inny plik.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Pod tą nazwą protokół podaje, kto coś usunął.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Użytkownik:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Hasło:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1639,6 +1631,17 @@ Wybierz inny plik.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Kopiuj wszystkie komunikaty</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Użytkownik:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Hasło:</translation>
     </message>
 </context>
 <context>
@@ -2971,14 +2974,6 @@ Wiersz: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Nazwa i hasło obowiązują do końca programu i nie są zapisywane.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Użytkownik:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Hasło:</translation>
     </message>
 </context>
 <context>

@@ -1361,14 +1361,6 @@ Escolha outro ficheiro.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Com este nome o registo indica quem eliminou algo.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Utilizador:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Palavra-passe:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Copiar todas as mensagens</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Utilizador:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Palavra-passe:</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Linha: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>O nome e a palavra-passe valem até ao fim do programa e não são guardados.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Utilizador:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Palavra-passe:</translation>
     </message>
 </context>
 <context>

@@ -1382,14 +1382,6 @@ Bitte eine andere Datei wählen.</source>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Под этим именем в протоколе указано, кто что-либо удалил.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Пользователь:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>Па&amp;роль:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1639,6 +1631,17 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Копировать все сообщения</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Пользователь:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>Па&amp;роль:</translation>
     </message>
 </context>
 <context>
@@ -2971,14 +2974,6 @@ Zeile: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Имя и пароль действуют до завершения программы и не сохраняются.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Пользователь:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>Па&amp;роль:</translation>
     </message>
 </context>
 <context>

@@ -1403,14 +1403,6 @@ Izberite drugo datoteko.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Pod tem imenom je v zapisniku navedeno, kdo je kaj izbrisal.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Uporabnik:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Geslo:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1661,6 +1653,17 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Kopiraj vsa sporočila</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Uporabnik:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Geslo:</translation>
     </message>
 </context>
 <context>
@@ -3015,14 +3018,6 @@ Vrstica: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Ime in geslo veljata do konca programa in se ne shranita.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Uporabnik:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Geslo:</translation>
     </message>
 </context>
 <context>

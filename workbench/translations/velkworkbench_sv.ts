@@ -1361,14 +1361,6 @@ Välj en annan fil.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Under detta namn står i protokollet vem som raderat något.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Användare:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Lösenord:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1617,6 +1609,17 @@ Välj en annan fil.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Kopiera alla meddelanden</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Användare:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Lösenord:</translation>
     </message>
 </context>
 <context>
@@ -2927,14 +2930,6 @@ Rad: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Namn och lösenord gäller tills programmet avslutas och sparas inte.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Användare:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Lösenord:</translation>
     </message>
 </context>
 <context>

@@ -1340,14 +1340,6 @@ Lütfen başka bir dosya seçin.</translation>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>Bir şeyi kimin sildiği kayıtta bu adla yazar.</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Kullanıcı:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Parola:</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1595,6 +1587,17 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>Tüm iletileri kopyala</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>&amp;Kullanıcı:</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>&amp;Parola:</translation>
     </message>
 </context>
 <context>
@@ -2883,14 +2886,6 @@ Satır: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>Ad ve parola programın sonuna kadar geçerlidir ve kaydedilmez.</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>&amp;Kullanıcı:</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>&amp;Parola:</translation>
     </message>
 </context>
 <context>

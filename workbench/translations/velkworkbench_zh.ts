@@ -1340,14 +1340,6 @@ Bitte eine andere Datei wählen.</source>
         <source>Unter diesem Namen steht im Protokoll, wer etwas gelöscht hat.</source>
         <translation>记录中以此名称注明谁删除了内容。</translation>
     </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>用户(&amp;U)：</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>密码(&amp;P)：</translation>
-    </message>
 </context>
 <context>
     <name>LinkListDialog</name>
@@ -1595,6 +1587,17 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Alle Meldungen kopieren</source>
         <translation>复制所有消息</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>&amp;Benutzer:</source>
+        <translation>用户(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>&amp;Kennwort:</source>
+        <translation>密码(&amp;P)：</translation>
     </message>
 </context>
 <context>
@@ -2883,14 +2886,6 @@ Zeile: %2
     <message>
         <source>Name und Kennwort gelten bis zum Ende des Programms und werden nicht gespeichert.</source>
         <translation>名称和密码在程序结束前有效，且不会保存。</translation>
-    </message>
-    <message>
-        <source>&amp;Benutzer:</source>
-        <translation>用户(&amp;U)：</translation>
-    </message>
-    <message>
-        <source>&amp;Kennwort:</source>
-        <translation>密码(&amp;P)：</translation>
     </message>
 </context>
 <context>
