@@ -3,10 +3,14 @@
 #include "EveryWindow.h"
 #include "WindowFixture.h"
 
+#include <workbench/start/EditorLanguages.h>
+#include <workbench/window/MainWindow.h>
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <QAccessible>
 #include <QDockWidget>
+#include <QMenu>
+#include <QSet>
 
 class tst_EveryDialog : public QObject
 {
@@ -19,6 +23,7 @@ private Q_SLOTS:
     void keysAreMarkedOnce() { check(&ControlCheck::mnemonics); }
     void keysAreMarkedOnceInEnglish_data() { EveryWindow::addRows(); }
     void keysAreMarkedOnceInEnglish() { check(&ControlCheck::mnemonics, "en"); }
+    void mainWindowMarksKeysOnceInEveryLanguage();
     void keysLeadToOnePlace_data() { EveryWindow::addRows(); }
     void keysLeadToOnePlace() { check(&ControlCheck::keys); }
     void fitsASmallScreen_data();
@@ -43,6 +48,28 @@ private:
         QVERIFY(looked);
     }
 };
+
+/// The window takes the texts of each language as it is chosen.
+void tst_EveryDialog::mainWindowMarksKeysOnceInEveryLanguage()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    const QStringList languages = EditorLanguages::all();
+    QSet<QString> titles;
+    for (const QString &language : languages) {
+        WorkbenchSettings::Values values = fixture.settings->values();
+        values.language = language;
+        fixture.settings->setValues(values);
+        QApplication::processEvents();
+        titles << fixture.window->findChild<QMenu *>("reviewMenu")->title().remove('&');
+        const QStringList faults = ControlCheck::mnemonics(*fixture.window);
+        QVERIFY2(faults.isEmpty(), qPrintable(language + ": " + faults.join('\n')));
+    }
+    QVERIFY(titles.size() > languages.size() / 2);
+    WorkbenchSettings::Values values = fixture.settings->values();
+    values.language = "de";
+    fixture.settings->setValues(values);
+}
 
 void tst_EveryDialog::fitsASmallScreen_data()
 {
