@@ -51,7 +51,7 @@ bool readSets(const QString &folder, std::vector<SampleSet> &sets)
         return sets.back().read(folder + "/old", folder + "/new", folder + "/truth.csv");
     }
     bool any = false;
-    for (const QString &year : {"2021", "2022"}) {
+    for (const char *year : {"2021", "2022"}) {
         const QString truth = folder + "/truth-" + year + "-to-2026.csv";
         if (!QFile::exists(truth))
             continue;

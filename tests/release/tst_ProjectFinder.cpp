@@ -50,6 +50,7 @@ private Q_SLOTS:
     void finds_data();
     void finds();
     void manyProjectsWithTheSameLines();
+    void longerNames();
     void searchesDoNotDisturbEachOther();
     void foldedNames_data();
     void foldedNames();
@@ -125,8 +126,35 @@ void tst_ProjectFinder::finds_data()
     QTest::newRow("merged") << bolts(1, 6) << none << Release{{"new/a/all.prj", bolts()}}
                             << QStringList{"new/a/all.prj"};
     QTest::newRow("copied, the one of the likelier name first")
+        << bolts() << none << Release{{"new/a/boat.prj", bolts()}, {"new/a/abolt.prj", bolts()}}
+        << QStringList{"new/a/abolt.prj", "new/a/boat.prj"};
+    QTest::newRow("copied, one with a longer name")
         << bolts() << none << Release{{"new/a/boat.prj", bolts()}, {"new/a/bolt2.prj", bolts()}}
-        << QStringList{"new/a/bolt2.prj", "new/a/boat.prj"};
+        << QStringList{"new/a/bolt2.prj"};
+    QTest::newRow("split, the parts have longer names")
+        << bolts() << none
+        << Release{{"new/b/bolt-long.prj", bolts(1, 5)},
+                   {"new/b/bolt-short.prj", bolts(6, 7)},
+                   {"new/b/all.prj", bolts()}}
+        << QStringList{"new/b/bolt-short.prj", "new/b/bolt-long.prj"};
+    QTest::newRow("longer names in the same folder, all lines changed")
+        << bolts() << none
+        << Release{{"new/a/bolt-x.prj", "size,s,k;N1,0.1,0.2"},
+                   {"new/b/bolt-y.prj", "size,s,k;N2,0.1,0.2"},
+                   {"new/a/bolt-z.prj", "size;N3"}}
+        << QStringList{"new/a/bolt-x.prj"};
+    QTest::newRow("longer names elsewhere, without the lines")
+        << bolts() << none << Release{{"new/b/bolt-x.prj", bolts(50)}, {"new/b/screw.prj", bolts()}}
+        << QStringList{"new/b/screw.prj"};
+    QTest::newRow("renamed, and one of two variables too")
+        << QByteArray("size,p;M1,3;M2,4;M3,5;M4,7") << none
+        << Release{{"new/a/pitch.prj", "size,coarse,fine;M1,3,1;M2,4,1;M3,5,2;M4,7,;M5,8,"}}
+        << QStringList{"new/a/pitch.prj"};
+    QTest::newRow("found by its name, others under no other variables")
+        << QByteArray("size,p;M1,3;M2,4;M3,5;M4,7") << none
+        << Release{{"new/a/bolt.prj", "size,p;N1,3"},
+                   {"new/a/pitch.prj", "size,coarse;M1,3;M2,4;M3,5;M4,7"}}
+        << QStringList{"new/a/bolt.prj"};
     QTest::newRow("half as good as the best")
         << bolts() << none << Release{{"new/a/p.prj", bolts(1, 8)}, {"new/a/q.prj", bolts()}}
         << QStringList{"new/a/q.prj"};
@@ -185,6 +213,20 @@ void tst_ProjectFinder::manyProjectsWithTheSameLines()
     const LineCells old = cellsOf(bolts(), names);
     QVERIFY2(ProjectFinder(index).find("old/a/bolt.prj", old).empty(), "common lines say nothing");
     QCOMPARE(ProjectFinder(index).find("old/b/copy7.prj", old), std::vector<int>{7});
+}
+
+void tst_ProjectFinder::longerNames()
+{
+    VariableNames names;
+    ReleaseIndex index;
+    for (const char *path : {"new/a/din931.prj", "new/a/DIN 931-b.prj", "new/a/din9311.prj",
+                             "new/a/din93.prj", "new/b/din931a.prj", "new/a/din932.prj"})
+        index.add(path, LineCells());
+    index.finish();
+    QCOMPARE(index.withNameBegin("din931"), (std::vector<int>{1, 4}));
+    QCOMPARE(index.withNameBegin("din"), (std::vector<int>{0, 1, 2, 3, 4, 5}));
+    QCOMPARE(index.withNameBegin("din931b"), std::vector<int>());
+    QCOMPARE(index.withNameBegin(""), std::vector<int>());
 }
 
 void tst_ProjectFinder::searchesDoNotDisturbEachOther()

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void mapsEachOldProject();
     void linesOfOtherProjects_data();
     void linesOfOtherProjects();
+    void dissolvedTable();
     void recordsVersionsAndDates();
     void givenDatesWin();
     void datesCompareInUtc();
@@ -127,6 +128,21 @@ void tst_ReleaseMappingBuilder::linesOfOtherProjects()
     ReleaseMappingBuilder builder(releases.input());
     QCOMPARE(builder.build(), Outcome::Complete);
     QCOMPARE(told(builder.release()), QStringList({expected, "old/a/stud.prj: new/a/stud.prj"}));
+}
+
+/// A table whose lines stand in one that had them before, and, one variable renamed, in a new one.
+void tst_ReleaseMappingBuilder::dissolvedTable()
+{
+    const QByteArray pitches = "size,p;M1,3;M2,4;M3,5;M4,7";
+    Releases releases;
+    releases.source.add("a/pitch", pitches);
+    releases.source.add("a/tap", "size,p;M1,3;M2,4;M3,5;M4,7;M6,8");
+    releases.target.add("a/tap", "size,p;M1,3;M2,4;M3,5;M4,7;M6,8");
+    releases.target.add("b/threads", "size,coarse,fine;M1,3,1;M2,4,1;M3,5,2;M4,7,;M5,8,;M6,8,");
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(told(builder.release()),
+             QStringList({"old/a/pitch.prj: new/b/threads.prj", "old/a/tap.prj: new/a/tap.prj"}));
 }
 
 void tst_ReleaseMappingBuilder::recordsVersionsAndDates()

@@ -75,6 +75,30 @@ LineCells::LineCells(const VKTab::TableData &table, VariableNames &names)
     readCells(table, columns);
 }
 
+LineCells LineCells::renamed(const std::vector<std::pair<int, int>> &names) const
+{
+    std::vector<std::pair<int, int>> columns;
+    for (size_t column = 0; column < m_variables.size(); ++column) {
+        const auto name =
+            std::ranges::find(names, m_variables[column], &std::pair<int, int>::first);
+        columns.emplace_back(name == names.end() ? m_variables[column] : name->second, int(column));
+    }
+    std::ranges::sort(columns);
+    LineCells other;
+    other.m_rowCount = m_rowCount;
+    for (size_t column = 0; column < columns.size(); ++column) {
+        other.m_variables.push_back(columns[column].first);
+        if (std::ranges::count(m_keyColumns, columns[column].second))
+            other.m_keyColumns.push_back(int(column));
+    }
+    other.m_cells.reserve(m_cells.size());
+    for (int row = 0; row < m_rowCount; ++row) {
+        for (const auto &[variable, column] : columns)
+            other.m_cells.push_back(cell(row, column));
+    }
+    return other;
+}
+
 void LineCells::readCells(const VKTab::TableData &table, const std::vector<int> &columns)
 {
     const auto &fields = table.descriptor().fields;

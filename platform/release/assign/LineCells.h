@@ -4,6 +4,7 @@
 
 #include <QtGlobal>
 
+#include <utility>
 #include <vector>
 
 namespace VKTab {
@@ -23,6 +24,10 @@ public:
     LineCells() = default;
     /// Reads the table once; \a names numbers the variables alike for all tables of a comparison.
     LineCells(const VKTab::TableData &table, VariableNames &names);
+
+    /// The same lines with other names of some variables: numbers of them, from and to, none of
+    /// which the table has already.
+    [[nodiscard]] LineCells renamed(const std::vector<std::pair<int, int>> &names) const;
 
     [[nodiscard]] int rowCount() const { return m_rowCount; }
     /// Numbers of the variables in ascending order: the columns here.

@@ -3,9 +3,11 @@
 #include "LineCells.h"
 #include "ProjectName.h"
 #include "ReleaseIndex.h"
+#include "RuleProposals.h"
 #include "TableMatch.h"
 
 #include <algorithm>
+#include <memory>
 #include <numeric>
 #include <optional>
 #include <tuple>
@@ -27,10 +29,17 @@ struct Candidate
     double likeness = 0;
     TableMatch match;
     double score = 0;
+    std::shared_ptr<const LineCells> renamed; ///< What match compares, if not the lines themselves.
 
     [[nodiscard]] auto rank() const { return std::tuple(-score, -likeness, table); }
 };
 using Candidates = std::vector<Candidate>;
+
+QString folderInCatalog(const QString &projectPath)
+{
+    const QString path = pathInCatalog(projectPath);
+    return path.left(path.lastIndexOf(u'/') + 1);
+}
 
 /// One search.
 class Search
@@ -62,8 +71,11 @@ private:
     [[nodiscard]] Candidate candidate(int table) const
     {
         return {table, nameLikeness(m_name, m_index.name(table)),
-                TableMatch(m_cells, m_index.table(table))};
+                TableMatch(m_cells, m_index.table(table)), 0, nullptr};
     }
+
+    /// The same table, if it is related under the new names of some variables.
+    [[nodiscard]] std::optional<Candidate> renamedCandidate(const Candidate &former) const;
 
     /// Takes the lines that this table has out of the rest.
     void takeFound(const TableMatch &match)
@@ -80,6 +92,8 @@ private:
     }
 
     void addNamed();
+    [[nodiscard]] Candidates partsByName() const;
+    [[nodiscard]] Candidates ranked(const std::vector<int> &tables) const;
     void searchRest(bool named);
     [[nodiscard]] Candidates related(bool named) const;
     void addSimilar(Candidates &candidates);
@@ -101,17 +115,43 @@ void Search::addNamed()
         m_found = {same};
         return;
     }
-    const std::vector<int> tables = m_index.withName(m_name);
+    const Candidates candidates = ranked(m_index.withName(m_name));
+    if (candidates.empty()) {
+        for (const Candidate &part : partsByName())
+            m_found.push_back(part.table);
+    }
+    for (const Candidate &named : candidates) {
+        if (m_found.empty() || named.match.anyFound())
+            m_found.push_back(named.table);
+    }
+}
+
+Candidates Search::partsByName() const
+{
+    Candidates parts = ranked(m_index.withNameBegin(m_name));
+    if (parts.size() > MaxParts)
+        parts.erase(parts.begin() + MaxParts, parts.end());
+    std::vector<int> rest = m_allRows;
+    for (const Candidate &part : parts)
+        std::erase_if(rest, [&part](int row) { return part.match.isHeld(row); });
+    if (2 * rest.size() <= m_allRows.size())
+        return parts;
+    const QString folder = folderInCatalog(m_path);
+    std::erase_if(parts, [&](const Candidate &part) {
+        return folderInCatalog(m_index.path(part.table)) != folder || !part.match.isRelated();
+    });
+    return parts;
+}
+
+Candidates Search::ranked(const std::vector<int> &tables) const
+{
     Candidates candidates;
     for (const int table : tables) {
         candidates.push_back(candidate(table));
         candidates.back().score = candidates.back().match.score(m_allRows);
     }
     std::ranges::sort(candidates, {}, &Candidate::rank);
-    for (const Candidate &named : candidates) {
-        if (m_found.empty() || named.match.anyFound())
-            m_found.push_back(named.table);
-    }
+    return candidates;
 }
 
 void Search::searchRest(bool named)
@@ -125,7 +165,8 @@ void Search::searchRest(bool named)
 }
 
 /// Tables that share enough variables. If none of them has all lines, near lines count too, unless
-/// the project was found by its name: then others matter for equal lines alone.
+/// the project was found by its name: then others matter for equal lines alone, and under no
+/// other names of variables.
 Candidates Search::related(bool named) const
 {
     Candidates candidates;
@@ -134,14 +175,29 @@ Candidates Search::related(bool named) const
         if (std::ranges::count(m_found, table))
             continue;
         Candidate related = candidate(table);
-        if (!related.match.isRelated())
-            continue;
+        if (!related.match.isRelated()) {
+            auto renamed = named ? std::nullopt : renamedCandidate(related);
+            if (!renamed)
+                continue;
+            related = std::move(*renamed);
+        }
         complete = complete || related.match.heldCount(m_rest) == int(m_rest.size());
         candidates.push_back(std::move(related));
     }
     if (!complete)
         std::ranges::for_each(candidates, [](Candidate &c) { c.match.findNearLines(); });
     return candidates;
+}
+
+std::optional<Candidate> Search::renamedCandidate(const Candidate &former) const
+{
+    const LineCells &target = m_index.table(former.table);
+    if (former.match.commonCount() == 0 ||
+        former.match.commonCount() == int(m_cells.variables().size()))
+        return std::nullopt;
+    const auto lines = std::make_shared<const LineCells>(RuleProposals::renamed(m_cells, target));
+    Candidate renamed{former.table, former.likeness, TableMatch(*lines, target), 0, lines};
+    return renamed.match.isRelated() ? std::optional(std::move(renamed)) : std::nullopt;
 }
 
 void Search::addSimilar(Candidates &candidates)

@@ -24,9 +24,12 @@ public:
     /// Numbers of the tables in the index, best first:
     /// 1. the project with the same path below its catalog;
     /// 2. without one, those with the same name but for case and separators;
+    ///    without one, those whose names begin so, if they hold half of the lines together or lie
+    ///    in the same folder with the same variables;
     /// 3. without any of these, the projects that hold half of the lines, and those half as good
-    ///    as the best of them; then, as for a project that was split, the ones that hold most of
-    ///    the rest, as long as they hold an eighth of all lines;
+    ///    as the best of them, also with other names of some variables; then, as for a project that
+    ///    was split, the ones that hold most of the rest, as long as they hold an eighth of all
+    ///    lines;
     /// 4. projects that alone in the release have lines equal to those that none of the above has.
     ///    A line whose key one of the above has was changed, not moved, and is not looked for.
     [[nodiscard]] std::vector<int> find(const QString &projectPath, const LineCells &cells) const;

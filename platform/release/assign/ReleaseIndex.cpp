@@ -3,6 +3,7 @@
 #include "ProjectName.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace VelkRelease {
@@ -53,6 +54,9 @@ void ReleaseIndex::finish()
     std::ranges::sort(m_values);
     std::ranges::sort(m_rows);
     std::ranges::sort(m_wholes);
+    m_sortedNames.resize(m_tables.size());
+    std::iota(m_sortedNames.begin(), m_sortedNames.end(), 0);
+    std::ranges::stable_sort(m_sortedNames, {}, [this](int table) { return m_names[table]; });
 }
 
 void ReleaseIndex::addPostings(int table, std::vector<quint64> &values, std::vector<quint64> &rows)
@@ -85,6 +89,21 @@ std::vector<int> ReleaseIndex::withName(const QString &foldedName) const
     const auto [begin, end] = m_byName.equal_range(foldedName);
     for (auto it = begin; it != end; ++it)
         tables.push_back(*it);
+    std::ranges::sort(tables);
+    return tables;
+}
+
+std::vector<int> ReleaseIndex::withNameBegin(const QString &foldedName) const
+{
+    std::vector<int> tables;
+    if (foldedName.isEmpty())
+        return tables;
+    auto at = std::ranges::upper_bound(m_sortedNames, foldedName, {},
+                                       [this](int table) { return m_names[table]; });
+    for (; at != m_sortedNames.end() && m_names[*at].startsWith(foldedName); ++at) {
+        if (!foldedName.back().isDigit() || !m_names[*at][foldedName.size()].isDigit())
+            tables.push_back(*at);
+    }
     std::ranges::sort(tables);
     return tables;
 }

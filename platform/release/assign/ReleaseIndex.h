@@ -19,7 +19,7 @@ class VELKRELEASE_EXPORT ReleaseIndex
 public:
     /// \a projectPath relative to the catalog root. Gives the number of the table, from 0.
     int add(const QString &projectPath, LineCells cells);
-    /// Until then holders() finds nothing.
+    /// Until then holders() and withNameBegin() find nothing.
     void finish();
 
     [[nodiscard]] int count() const { return int(m_tables.size()); }
@@ -31,6 +31,10 @@ public:
     [[nodiscard]] int withPath(const QString &pathInCatalog) const;
     /// Tables whose project has that folded name, in ascending order.
     [[nodiscard]] std::vector<int> withName(const QString &foldedName) const;
+
+    /// Tables whose project has a longer name that begins so, in ascending order. A number that
+    /// goes on is another number.
+    [[nodiscard]] std::vector<int> withNameBegin(const QString &foldedName) const;
 
     /// Tables that hold values of these lines, those that hold most of them first, \a limit at
     /// most. Values and lines that more than CommonLimit tables hold count for nothing; a table
@@ -53,6 +57,7 @@ private:
     QStringList m_names;
     QHash<QString, int> m_byPath;
     QMultiHash<QString, int> m_byName;
+    std::vector<int> m_sortedNames; ///< Tables by their names.
     Postings m_values;
     Postings m_rows;
     Postings m_wholes;

@@ -240,6 +240,15 @@ std::vector<RuleProposals::Rename> RuleProposals::findRenames(const LineCells &t
     return renames;
 }
 
+LineCells RuleProposals::renamed(const LineCells &source, const LineCells &target)
+{
+    std::vector<std::pair<int, int>> names;
+    const RuleProposals proposals(source, {&target});
+    for (const Rename &rename : proposals.renames(0))
+        names.emplace_back(rename.source, rename.target);
+    return source.renamed(names);
+}
+
 /// How well the lines are parted among the targets by the values of a column.
 struct RuleProposals::Parting
 {

@@ -41,6 +41,8 @@ public:
     {
         return m_renames[size_t(target)];
     }
+    /// The lines of \a source with those variables under their names in \a target.
+    [[nodiscard]] static LineCells renamed(const LineCells &source, const LineCells &target);
     /// A variable that no target has, and each value of which belongs to one target: that one holds
     /// the lines with the value. Nothing if values would fit another target nearly as well.
     [[nodiscard]] Split split() const;

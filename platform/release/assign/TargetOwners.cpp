@@ -2,6 +2,7 @@
 
 #include "LineCells.h"
 #include "ProjectName.h"
+#include "RuleProposals.h"
 #include "TableMatch.h"
 
 #include <algorithm>
@@ -29,7 +30,24 @@ std::vector<int> TargetOwners::withoutOthers(int source) const
     const auto gone = std::remove_if(tables.begin() + 1, tables.end(),
                                      [&](int table) { return !hasOwnLine(source, table); });
     tables.erase(gone, tables.end());
+    const bool another = std::any_of(tables.begin() + 1, tables.end(),
+                                     [&](int table) { return holdsMost(source, table); });
+    const QString &name = m_targets[size_t(tables.front())].name;
+    if (another && !name.startsWith(m_sources[size_t(source)].name) &&
+        !hasOwnLine(source, tables.front()))
+        tables.erase(tables.begin());
     return tables;
+}
+
+bool TargetOwners::holdsMost(int source, int target) const
+{
+    const LineCells &cells = *m_targets[size_t(target)].cells;
+    const LineCells lines = RuleProposals::renamed(*m_sources[size_t(source)].cells, cells);
+    const TableMatch match(lines, cells);
+    int held = 0;
+    for (int row = 0; row < lines.rowCount(); ++row)
+        held += match.isHeld(row) ? 1 : 0;
+    return 2 * held > lines.rowCount();
 }
 
 bool TargetOwners::hasOwnLine(int source, int target) const

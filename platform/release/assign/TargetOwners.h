@@ -27,13 +27,15 @@ public:
     TargetOwners(const std::vector<Table> &sources, const std::vector<Table> &targets,
                  const std::vector<std::vector<int>> &found);
 
-    /// Those of found that have a line of the project that no owner of theirs has had before; the
-    /// best one stays in any case, and so do those whose name is at least as near to the project's
-    /// as to the owner's. Any thread.
+    /// Those of found that have a line of the project that no owner of theirs has had before, and
+    /// those whose name is at least as near to the project's as to the owner's. The best one stays
+    /// in any case, unless it has another name and another of these holds most lines, whatever the
+    /// variables are called. Any thread.
     [[nodiscard]] std::vector<int> withoutOthers(int source) const;
 
 private:
     [[nodiscard]] bool hasOwnLine(int source, int target) const;
+    [[nodiscard]] bool holdsMost(int source, int target) const;
 
     const std::vector<Table> &m_sources;
     const std::vector<Table> &m_targets;
