@@ -23,6 +23,9 @@ constexpr size_t MaxSimilar = 4;
 /// So many projects of kind 3 are given.
 constexpr size_t MaxParts = 8;
 
+/// So much more often a table has the lines that moved there than those that did not.
+constexpr double ReceivedMore = 2;
+
 struct Candidate
 {
     int table = 0;
@@ -83,6 +86,17 @@ private:
         std::erase_if(m_rest, [&match](int row) {
             return match.isEqual(row) || match.isHeld(row) || match.hasKey(row);
         });
+    }
+
+    /// Whether a table has lines of the rest more often than those that others have: one that has
+    /// both alike has standard lines by itself, and nothing moved there.
+    [[nodiscard]] bool receives(const Candidate &candidate) const
+    {
+        const int rest = int(m_rest.size());
+        const int others = m_cells.rowCount() - rest;
+        const int ofRest = candidate.match.heldCount(m_rest);
+        const int ofOthers = candidate.match.heldCount(m_allRows) - ofRest;
+        return (ofRest + 0.5) / (rest + 1) >= ReceivedMore * (ofOthers + 0.5) / (others + 1);
     }
 
     void add(const Candidate &found)
@@ -236,6 +250,7 @@ void Search::addOnlyHolders(Candidates &candidates)
         return std::ranges::count(m_found, c.table);
     };
     std::erase_if(candidates, given);
+    std::erase_if(candidates, [this](const Candidate &c) { return !receives(c); });
     for (Candidate &holder : candidates)
         holder.score = 0;
     for (const int row : m_rest) {
@@ -246,7 +261,9 @@ void Search::addOnlyHolders(Candidates &candidates)
             ++std::ranges::find_if(candidates, holds)->score;
     }
     std::ranges::sort(candidates, {}, &Candidate::rank);
-    for (size_t i = 0; i < candidates.size() && i < MaxSimilar && candidates[i].score > 0; ++i)
+    // Of so few projects each has its part; a line that stands somewhere else by chance is none.
+    const double fewest = std::max(1.0, double(m_rest.size()) / MaxSimilar);
+    for (size_t i = 0; i < candidates.size() && i < MaxSimilar && candidates[i].score >= fewest; ++i)
         m_found.push_back(candidates[i].table);
 }
 
