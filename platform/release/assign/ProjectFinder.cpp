@@ -24,7 +24,7 @@ constexpr size_t MaxSimilar = 4;
 constexpr size_t MaxParts = 8;
 
 /// So much more often a table has the lines that moved there than those that did not.
-constexpr double ReceivedMore = 2;
+constexpr double ReceivedMore = 4;
 
 struct Candidate
 {
@@ -88,10 +88,11 @@ private:
         });
     }
 
-    /// Whether a table has lines of the rest more often than those that others have: one that has
-    /// both alike has standard lines by itself, and nothing moved there.
-    [[nodiscard]] bool receives(const Candidate &candidate) const
+    /// Whether a table has lines of the rest much more often than those that others have, equal or
+    /// nearly so: one that has both alike has standard lines by itself, and nothing moved there.
+    [[nodiscard]] bool receives(Candidate candidate) const
     {
+        candidate.match.findNearLines();
         const int rest = int(m_rest.size());
         const int others = m_cells.rowCount() - rest;
         const int ofRest = candidate.match.heldCount(m_rest);
@@ -250,7 +251,6 @@ void Search::addOnlyHolders(Candidates &candidates)
         return std::ranges::count(m_found, c.table);
     };
     std::erase_if(candidates, given);
-    std::erase_if(candidates, [this](const Candidate &c) { return !receives(c); });
     for (Candidate &holder : candidates)
         holder.score = 0;
     for (const int row : m_rest) {
@@ -263,7 +263,8 @@ void Search::addOnlyHolders(Candidates &candidates)
     std::ranges::sort(candidates, {}, &Candidate::rank);
     // Of so few projects each has its part; a line that stands somewhere else by chance is none.
     const double fewest = std::max(1.0, double(m_rest.size()) / MaxSimilar);
-    for (size_t i = 0; i < candidates.size() && i < MaxSimilar && candidates[i].score >= fewest; ++i)
+    std::erase_if(candidates, [&](const Candidate &c) { return c.score < fewest || !receives(c); });
+    for (size_t i = 0; i < candidates.size() && i < MaxSimilar; ++i)
         m_found.push_back(candidates[i].table);
 }
 
