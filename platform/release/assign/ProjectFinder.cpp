@@ -7,6 +7,7 @@
 #include "TableMatch.h"
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <numeric>
 #include <optional>
@@ -112,6 +113,7 @@ private:
     void searchRest(bool named);
     [[nodiscard]] Candidates related(bool named) const;
     void addSimilar(Candidates &candidates);
+    [[nodiscard]] double chanceOf(const Candidate &candidate) const;
     void addParts(Candidates &candidates);
     void addOnlyHolders(Candidates &candidates);
 
@@ -220,16 +222,33 @@ void Search::addSimilar(Candidates &candidates)
     for (Candidate &similar : candidates)
         similar.score = similar.match.score(m_allRows);
     std::ranges::sort(candidates, {}, &Candidate::rank);
-    std::optional<double> best;
-    for (const Candidate &similar : candidates) {
-        if (m_found.size() == MaxSimilar || similar.score < best.value_or(0) / 2)
-            break;
-        if (2 * similar.match.heldCount(m_allRows) < m_cells.rowCount())
-            continue;
-        if (!best)
-            best = similar.score;
-        add(similar);
+    std::vector<const Candidate *> similar;
+    for (const Candidate &candidate : candidates) {
+        if (2 * candidate.match.heldCount(m_allRows) >= m_cells.rowCount())
+            similar.push_back(&candidate);
     }
+    if (similar.empty())
+        return;
+    const double best = similar.front()->score;
+    const double least = best * (1 - chanceOf(*similar.front()));
+    const auto end = std::ranges::partition_point(
+        similar, [least](const Candidate *c) { return c->score >= least; });
+    std::stable_sort(similar.begin(), end, [](const Candidate *a, const Candidate *b) {
+        return a->likeness > b->likeness;
+    });
+    for (const Candidate *candidate : similar) {
+        if (m_found.size() < MaxSimilar && candidate->score >= best / 2)
+            add(*candidate);
+    }
+}
+
+/// By which part of itself the number of lines that a table holds may be another by chance: one
+/// standard deviation. Nothing if it holds all.
+double Search::chanceOf(const Candidate &candidate) const
+{
+    const double count = m_cells.rowCount();
+    const double share = candidate.match.heldCount(m_allRows) / count;
+    return std::sqrt((1 - share) / (share * count));
 }
 
 void Search::addParts(Candidates &candidates)
