@@ -249,8 +249,10 @@ void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled)
         for (size_t place = 0; place < count; ++place)
             filled.chances[place].add(number(place));
     }
-    for (size_t place = 0; place < filled.chances.size(); ++place)
-        filled.chances[place].finish(m_tables.values, isKey(target, filled.hasSourceName, place));
+    for (size_t place = 0; place < filled.chances.size(); ++place) {
+        filled.keys.push_back(isKey(target, filled.hasSourceName, place) ? 1 : 0);
+        filled.chances[place].finish(m_tables.values, filled.keys[place] != 0);
+    }
 }
 
 const Plan::LinePlanner::Line *LinePlan::line(int sourceRow) const

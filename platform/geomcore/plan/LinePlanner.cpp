@@ -56,10 +56,44 @@ void LinePlanner::run()
 {
     if (m_tables.openLines.empty() || m_nodeCount == 0)
         return;
+    learnInRounds();
+    if (!onlyKeysAgree() || isCanceled())
+        return;
+    auto other = std::make_unique<LinePlanner>(m_tables);
+    other->m_prior = m_prior;
+    other->m_isCanceled = m_isCanceled;
+    other->m_beginsByKeys = false;
+    other->learnInRounds();
+    if (other->m_explained > m_explained)
+        m_other = std::move(other);
+}
+
+/// Of the values of other variables most are not the same in the likely pairs.
+bool LinePlanner::onlyKeysAgree() const
+{
+    std::vector<char> isKey(m_counts.size(), 0);
+    for (const PlanTarget &target : m_tables.targets) {
+        for (size_t place = 0; place < target.variables.size(); ++place)
+            isKey[size_t(target.variables[place])] |= target.keys[place];
+    }
+    double same = 0;
+    double all = 0;
+    bool any = false;
+    for (size_t v = 0; v < m_counts.size(); ++v) {
+        any = any || isKey[v];
+        same += isKey[v] ? 0 : m_counts[v].ways[int(Way::Same)];
+        all += isKey[v] ? 0 : m_counts[v].total();
+    }
+    return any && 2 * same < all;
+}
+
+void LinePlanner::learnInRounds()
+{
     findCandidates();
     m_rates = m_prior;
     learnTargets(std::vector<double>(m_tables.targets.size(), 0));
     for (int round = 0; round < Rounds && !isCanceled(); ++round) {
+        m_withKeys = m_beginsByKeys || round > 0;
         findPlaces(round == 0);
         makeEdges();
         if (round == 0)
@@ -157,7 +191,7 @@ void LinePlanner::addEdges(size_t line, int t, const std::vector<int> &rows)
         if (known)
             continue;
         PlanEdge edge{t, row, node, 0, 0};
-        edge.weight = prior + evidence.weight(target, line, size_t(row), own(line, node)) +
+        edge.weight = prior + evidence.weight(target, line, size_t(row), own(line, node), m_withKeys) +
                       places.weight(m_tables.openLines[line], target.openRows[size_t(row)]);
         edges.push_back(edge);
     }
@@ -253,6 +287,8 @@ void LinePlanner::choose()
     std::vector<std::vector<int>> places(m_edges.size());
     for (size_t line = 0; line < m_edges.size(); ++line) {
         if (pairs[line] >= 0)
+            m_explained += m_edges[line][size_t(pairs[line])].weight;
+        if (pairs[line] >= 0)
             taken[size_t(m_edges[line][size_t(pairs[line])].node)] = 1;
     }
     for (size_t line = 0; line < m_edges.size(); ++line) {
@@ -286,6 +322,8 @@ void LinePlanner::choose()
 
 CellEvidence LinePlanner::cell(const PlanEdge &edge, size_t line, size_t place) const
 {
+    if (m_other)
+        return m_other->cell(edge, line, place);
     const PairEvidence evidence(m_tables, m_rates, m_changes);
     return evidence.cell(m_tables.targets[size_t(edge.target)], line, size_t(edge.row), place,
                          own(line, edge.node));

@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace Plan {
@@ -34,7 +35,7 @@ public:
         double noSuccessor = 1;
     };
     /// By open line.
-    [[nodiscard]] const std::vector<Line> &lines() const { return m_lines; }
+    [[nodiscard]] const std::vector<Line> &lines() const { return best().m_lines; }
     /// Number of an open row among those of all tables.
     [[nodiscard]] int nodeOf(int target, int row) const
     {
@@ -43,11 +44,17 @@ public:
     /// How one variable of a candidate compares, with what was learned.
     [[nodiscard]] CellEvidence cell(const PlanEdge &edge, size_t line, size_t place) const;
     /// What was seen, by variable.
-    [[nodiscard]] const std::vector<RateCounts> &counts() const { return m_counts; }
+    [[nodiscard]] const std::vector<RateCounts> &counts() const { return best().m_counts; }
 
     static constexpr size_t MaxCandidates = 5;
 
 private:
+    /// What is learned depends on where it begins: if a key was renumbered, its values meet by
+    /// chance, and nothing else does. Then what is learned without the keys at first may explain
+    /// the tables better.
+    [[nodiscard]] const LinePlanner &best() const { return m_other ? *m_other : *this; }
+    void learnInRounds();
+    [[nodiscard]] bool onlyKeysAgree() const;
     void findCandidates();
     void findPlaces(bool first);
     void makeEdges();
@@ -77,6 +84,10 @@ private:
     EdgeLists m_edges;
     EdgeLists m_learned; ///< The edges that m_changes was learned from, with what they added.
     std::vector<Line> m_lines;
+    double m_explained = 0;    ///< Sum of the weights of the assigned pairs.
+    bool m_beginsByKeys = true;
+    bool m_withKeys = true; ///< In this round.
+    std::unique_ptr<LinePlanner> m_other;
     std::function<bool()> m_isCanceled;
     mutable std::atomic<bool> m_wasCanceled = false;
 };

@@ -86,12 +86,15 @@ CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t ro
     return evidence;
 }
 
-double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, double own) const
+double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, double own,
+                            bool withKeys) const
 {
     double sum = 0;
     double nearest = 0;
     bool hasCommon = false;
     for (size_t place = 0; place < target.variables.size(); ++place) {
+        if (!withKeys && target.keys[place])
+            continue;
         const CellEvidence evidence = cell(target, line, row, place, own);
         sum += evidence.weight;
         const auto &ways = evidence.ways;

@@ -33,9 +33,9 @@ public:
     /// \a own is what the pair itself has added to the changes.
     [[nodiscard]] CellEvidence cell(const PlanTarget &target, size_t line, size_t row, size_t place,
                                     double own) const;
-    /// Sum of the weights over all variables.
-    [[nodiscard]] double weight(const PlanTarget &target, size_t line, size_t row,
-                                double own) const;
+    /// Sum of the weights over all variables, or over those that are no keys.
+    [[nodiscard]] double weight(const PlanTarget &target, size_t line, size_t row, double own,
+                                bool withKeys = true) const;
     /// Adds what the pair shows, with its probability. False if it is no model for others, so that
     /// it has added nothing to the changes.
     bool count(const PlanTarget &target, const PlanEdge &edge, size_t line, double own,

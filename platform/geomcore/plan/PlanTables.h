@@ -40,6 +40,7 @@ struct PlanTarget
     bool hasSourceName = false; ///< It is called as the source is, so most lines will be here.
     std::vector<int> openRows;  ///< Ascending.
     std::vector<int> variables; ///< Numbers of the variables that both have, alike in all targets.
+    std::vector<char> keys;     ///< By place in variables: it is meant to tell lines apart.
     CellMatrix lines;           ///< By open source line.
     CellMatrix rows;            ///< By open row.
     std::vector<char> takes;    ///< By open source line: whether the conditions hold.
