@@ -162,6 +162,27 @@ void tst_ProjectFinder::finds_data()
         << bolts() << key
         << Release{{"new/a/bolt.prj", bolts(1, 10)}, {"new/a/big.prj", bolts(11, 2)}}
         << QStringList{"new/a/bolt.prj", "new/a/big.prj"};
+    QTest::newRow("one of many lines of the rest is elsewhere by chance")
+        << bolts() << key
+        << Release{{"new/a/bolt.prj", bolts(1, 6)}, {"new/a/big.prj", bolts(11, 1)}}
+        << QStringList{"new/a/bolt.prj"};
+    QTest::newRow("a project that has the others as well has the rest by itself")
+        << bolts() << key
+        << Release{{"new/a/bolt.prj", bolts(1, 10)}, {"new/a/big.prj", bolts(4, 9)}}
+        << QStringList{"new/a/bolt.prj"};
+    QTest::newRow("also if it has the others but for one value")
+        << bolts() << key
+        << Release{{"new/a/bolt.prj", bolts(1, 10)},
+                   {"new/a/big.prj", otherBolts(1, 10) + lines(11, 2)}}
+        << QStringList{"new/a/bolt.prj"};
+    QTest::newRow("one equal line, and no other project")
+        << bolts() << key << Release{{"new/a/big.prj", "size,s,k;M1,3,1;X,1,1;Y,2,2"}}
+        << QStringList{"new/a/big.prj"};
+    QTest::newRow("alike but for chance, the likelier name first")
+        << bolts() << none
+        << Release{{"new/a/rivet.prj", bolts(1, 11)},
+                   {"new/a/abolt.prj", bolts(2, 10) + lines(20, 2)}}
+        << QStringList{"new/a/abolt.prj", "new/a/rivet.prj"};
     QTest::newRow("rest in two projects alike is not looked for")
         << bolts() << key
         << Release{{"new/a/bolt.prj", bolts(1, 10)},

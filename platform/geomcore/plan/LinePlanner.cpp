@@ -191,7 +191,8 @@ void LinePlanner::addEdges(size_t line, int t, const std::vector<int> &rows)
         if (known)
             continue;
         PlanEdge edge{t, row, node, 0, 0};
-        edge.weight = prior + evidence.weight(target, line, size_t(row), own(line, node), m_withKeys) +
+        edge.weight = prior +
+                      evidence.weight(target, line, size_t(row), own(line, node), m_withKeys) +
                       places.weight(m_tables.openLines[line], target.openRows[size_t(row)]);
         edges.push_back(edge);
     }

@@ -84,7 +84,7 @@ private:
     EdgeLists m_edges;
     EdgeLists m_learned; ///< The edges that m_changes was learned from, with what they added.
     std::vector<Line> m_lines;
-    double m_explained = 0;    ///< Sum of the weights of the assigned pairs.
+    double m_explained = 0; ///< Sum of the weights of the assigned pairs.
     bool m_beginsByKeys = true;
     bool m_withKeys = true; ///< In this round.
     std::unique_ptr<LinePlanner> m_other;

@@ -93,6 +93,8 @@ private:
     /// nearly so: one that has both alike has standard lines by itself, and nothing moved there.
     [[nodiscard]] bool receives(Candidate candidate) const
     {
+        if (m_rest.size() == m_allRows.size())
+            return true;
         candidate.match.findNearLines();
         const int rest = int(m_rest.size());
         const int others = m_cells.rowCount() - rest;
@@ -280,9 +282,14 @@ void Search::addOnlyHolders(Candidates &candidates)
             ++std::ranges::find_if(candidates, holds)->score;
     }
     std::ranges::sort(candidates, {}, &Candidate::rank);
-    // Of so few projects each has its part; a line that stands somewhere else by chance is none.
-    const double fewest = std::max(1.0, double(m_rest.size()) / MaxSimilar);
-    std::erase_if(candidates, [&](const Candidate &c) { return c.score < fewest || !receives(c); });
+    std::erase_if(candidates, [](const Candidate &c) { return c.score == 0; });
+    if (!m_found.empty()) {
+        // Of so few projects each has its part; a line that stands somewhere else by chance is
+        // none.
+        const double fewest = double(m_rest.size()) / MaxSimilar;
+        std::erase_if(candidates,
+                      [&](const Candidate &c) { return c.score < fewest || !receives(c); });
+    }
     for (size_t i = 0; i < candidates.size() && i < MaxSimilar; ++i)
         m_found.push_back(candidates[i].table);
 }
