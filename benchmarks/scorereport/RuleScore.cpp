@@ -24,6 +24,10 @@ QString tableName(const QString &projectPath)
     return projectPath.mid(begin, projectPath.lastIndexOf('.') - begin);
 }
 
+/// What becomes of an open line: its proposal is right or wrong; it has none, and no successor or
+/// one.
+enum class Open { Right, Wrong, Expired, NotFound };
+
 class Scorer
 {
 public:
@@ -66,7 +70,8 @@ public:
             addLine(mapper, content, {source, line}, mapping, reference.value(line));
     }
     /// One decision for each pattern that is right in all its lines; of another one, one for each
-    /// project in which it is; one for each other open line.
+    /// project in which it is. Lines without a proposal are confirmed as expired together, in a
+    /// project none of which has a successor; one for each other open line.
     void addDecisions(const VelkRelease::DifferencePatterns &patterns)
     {
         for (int pattern = 0; pattern < patterns.count(); ++pattern) {
@@ -77,7 +82,7 @@ public:
                     continue;
                 auto &[lines, right] = projects[place.project];
                 ++lines;
-                right += open->second ? 1 : 0;
+                right += open->second == Open::Right ? 1 : 0;
                 m_open.erase(open);
             }
             int decisions = 0;
@@ -89,7 +94,18 @@ public:
             }
             m_score.decisions += allRight ? std::min(1, decisions) : decisions;
         }
-        m_score.decisions += int(m_open.size());
+        std::map<int, std::pair<int, int>> expired; // lines without a proposal, and gone ones
+        for (const auto &[place, state] : m_open) {
+            if (state != Open::Expired && state != Open::NotFound) {
+                ++m_score.decisions;
+                continue;
+            }
+            auto &[lines, gone] = expired[place.first];
+            ++lines;
+            gone += state == Open::Expired ? 1 : 0;
+        }
+        for (const auto &[project, counts] : expired)
+            m_score.decisions += counts.first == counts.second ? 1 : counts.first;
     }
     /// Lines of tables without a mapping.
     void addRest()
@@ -135,7 +151,9 @@ private:
         addCandidates(all, *entry);
         if (!mapped) {
             ++m_score.open;
-            m_open[{m_position, line.second}] = right;
+            const Open proposed = right ? Open::Right : Open::Wrong;
+            const Open alone = gone ? Open::Expired : Open::NotFound;
+            m_open[{m_position, line.second}] = found ? proposed : alone;
         }
         if (right == gone || (gone && found))
             m_score.misses << QStringLiteral("%1:%2 -> %3:%4, %5 (%6)")
@@ -164,7 +182,7 @@ private:
     const QString m_sourceRoot;
     QHash<TruthFile::Place, bool> m_seen;
     int m_position = 0;
-    std::map<std::pair<int, int>, bool> m_open; ///< By mapping and line: proposed rightly.
+    std::map<std::pair<int, int>, Open> m_open; ///< By mapping and line.
     RuleScore m_score;
 };
 

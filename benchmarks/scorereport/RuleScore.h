@@ -34,8 +34,10 @@ struct RuleScore
     int proposedWrong = 0; ///< Known lines with another proposal.
     int gone = 0;
     int goneProposed = 0;
-    int open = 0;      ///< Lines that are not Mapped: decisions one by one.
-    int decisions = 0; ///< With one decision for each pattern, or project of it, that is right.
+    int open = 0; ///< Lines that are not Mapped: decisions one by one.
+    /// With one decision for each pattern, or project of it, that is right, and one for the lines
+    /// of a project that are gone.
+    int decisions = 0;
     int referenceBest = 0;
     int referenceGone = 0; ///< Gone lines for which the reference has a line.
     Calibration calibration;

@@ -4,6 +4,10 @@
 
 #include <QTest>
 
+#include <array>
+#include <cmath>
+#include <random>
+
 using Outcome = ComparedVariableC::Outcome;
 
 namespace {
@@ -49,6 +53,9 @@ private Q_SLOTS:
     void families();
     void replacementIsTold();
     void goneLinesHaveNoProposal();
+    void renumberedKey();
+    void probabilitiesHold_data();
+    void probabilitiesHold();
     void orderOfCallsDoesNotMatter();
     void numberOfThreadsDoesNotMatter();
     void probabilitiesAddUp();
@@ -239,6 +246,103 @@ void tst_PrjMapperCandidates::goneLinesHaveNoProposal()
             line % 5 == 0 ? QStringLiteral("none") : QStringLiteral("0:%1").arg(line - line / 5);
         QCOMPARE(fixture.proposal(line), expected);
     }
+}
+
+/// Each key is that of another line now, and nothing else has changed.
+void tst_PrjMapperCandidates::renumberedKey()
+{
+    QByteArray source = "D,s:n,t:n\n";
+    QByteArray target = source;
+    for (int i = 1; i <= 12; ++i) {
+        const QByteArray rest =
+            ',' + QByteArray::number(3 * i * i) + ',' + QByteArray::number(i + 5) + '\n';
+        source += "M" + QByteArray::number(i) + rest;
+        target += "M" + QByteArray::number(2 * i) + rest;
+    }
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    for (int line = 1; line <= 12; ++line)
+        QCOMPARE(fixture.proposal(line), QStringLiteral("0:%1").arg(line));
+}
+
+void tst_PrjMapperCandidates::probabilitiesHold_data()
+{
+    QTest::addColumn<int>("removed"); // one of so many lines, 0: none
+    QTest::addColumn<bool>("withKey");
+    QTest::newRow("all lines there") << 0 << true;
+    QTest::newRow("all lines there, without key") << 0 << false;
+    QTest::newRow("a fifth gone") << 5 << true;
+    QTest::newRow("a fifth gone, without key") << 5 << false;
+}
+
+/// Of candidates that are said to be right with a probability, about so many are: families of
+/// sizes whose measures were measured anew, with another wording, some values gone.
+void tst_PrjMapperCandidates::probabilitiesHold()
+{
+    QFETCH(int, removed);
+    QFETCH(bool, withKey);
+    std::mt19937 random(7);
+    const auto oneOf = [&random](unsigned count) {
+        return int(random() % count);
+    };
+    constexpr int Lines = 200;
+    QByteArray source = withKey ? "D,kind,s:n,t:n,u:n\n" : "kind,s:n,t:n,u:n\n";
+    QByteArray target = source;
+    QList<int> truth;
+    for (int i = 0; i < Lines; ++i) {
+        const QByteArray key = withKey ? 'K' + QByteArray::number(1000 + i) + ',' : QByteArray();
+        const QByteArray kind = "kind " + QByteArray::number(i / 20);
+        const int s = 5 * (i % 20) + oneOf(3);
+        const int t = 10 + oneOf(withKey ? 40 : 12);
+        source += key + kind + ',' + QByteArray::number(s) + ',' + QByteArray::number(t) + ',' +
+                  QByteArray::number(oneOf(9)) + '\n';
+        const bool gone = removed > 0 && oneOf(unsigned(removed)) == 0;
+        truth.append(gone ? -1 : int(target.count('\n')));
+        if (!gone)
+            target += key + "type " + QByteArray::number(i / 20) + ',' +
+                      QByteArray::number(s + (oneOf(4) == 0 ? 1 : 0)) + ',' +
+                      (oneOf(10) == 0 ? QByteArray() : QByteArray::number(t)) + ',' +
+                      QByteArray::number(oneOf(9)) + '\n';
+    }
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    std::array<double, 10> said{};
+    std::array<double, 10> right{};
+    int count = 0;
+    int best = 0;
+    int goneProposed = 0;
+    for (int line = 1; line <= Lines; ++line) {
+        const LineCandidatesC found = fixture.mapper.candidates(line, fixture.varset(line));
+        const int partner = truth[line - 1];
+        for (const LineCandidateC &candidate : found.candidates) {
+            const auto at = size_t(std::min(9, int(10 * candidate.probability)));
+            said[at] += candidate.probability;
+            right[at] += candidate.lineId == VKTab::LineId(partner) ? 1 : 0;
+            ++count;
+        }
+        if (found.candidates.isEmpty())
+            continue;
+        best += found.candidates.first().lineId == VKTab::LineId(partner) ? 1 : 0;
+        goneProposed += partner < 0 && found.candidates.first().probability >=
+                                           LineCandidatesC::ProposedProbability
+                            ? 1
+                            : 0;
+    }
+    double distance = 0;
+    for (size_t at = 0; at < said.size(); ++at)
+        distance += std::abs(said[at] - right[at]);
+    const auto gone = int(truth.count(-1));
+    qInfo("error %.4f, best %d of %d, gone %d, proposed %d", distance / count, best, Lines - gone,
+          gone, goneProposed);
+    QVERIFY(distance <= (withKey ? 0.03 : 0.06) * count);
+    QVERIFY(best >= (withKey ? 0.985 : 0.85) * (Lines - gone));
+    QVERIFY(goneProposed <= (withKey ? 0.05 : 0.15) * gone);
 }
 
 void tst_PrjMapperCandidates::orderOfCallsDoesNotMatter()

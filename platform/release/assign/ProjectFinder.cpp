@@ -283,13 +283,8 @@ void Search::addOnlyHolders(Candidates &candidates)
     }
     std::ranges::sort(candidates, {}, &Candidate::rank);
     std::erase_if(candidates, [](const Candidate &c) { return c.score == 0; });
-    if (!m_found.empty()) {
-        // Of so few projects each has its part; a line that stands somewhere else by chance is
-        // none.
-        const double fewest = double(m_rest.size()) / MaxSimilar;
-        std::erase_if(candidates,
-                      [&](const Candidate &c) { return c.score < fewest || !receives(c); });
-    }
+    if (!m_found.empty())
+        std::erase_if(candidates, [this](const Candidate &c) { return !receives(c); });
     for (size_t i = 0; i < candidates.size() && i < MaxSimilar; ++i)
         m_found.push_back(candidates[i].table);
 }
