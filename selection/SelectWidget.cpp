@@ -13,9 +13,13 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int selectableRole = 33;
+/// Many files may be written one after another.
+constexpr int changedDelay = 100;
 
 QString widgetText(const char *text)
 {
@@ -68,6 +72,41 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     connect(treeView->selectionModel(),
             SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), this,
             SIGNAL(selectionChanged(QItemSelection, QItemSelection)));
+    changedTimer.setSingleShot(true);
+    changedTimer.setInterval(changedDelay);
+    connect(&changedTimer, &QTimer::timeout, this, &SelectWidget::readChanged);
+    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, [this](const QString &path) {
+        changed.insert(path);
+        changedTimer.start();
+    });
+    connect(treeView, &QTreeView::expanded, this,
+            [this](const QModelIndex &index) { watch(proxyModel->mapToSource(index)); });
+    watch(QModelIndex());
+}
+
+void SelectWidget::watch(const QModelIndex &directory)
+{
+    const auto *const item =
+        dynamic_cast<const IndexTreeDisplayItemC *>(treeModel->getDisplayItem(directory).get());
+    const QString path =
+        item ? item->node()->file() : IndexTreeC::instance()->catalogRoot().native();
+    // One that cannot be watched, on some file servers, stays as it was read.
+    if (!watched.contains(path) && watcher.addPath(path))
+        watched.insert(path, directory);
+}
+
+void SelectWidget::readChanged()
+{
+    for (const QString &path : std::exchange(changed, {})) {
+        const auto directory = watched.constFind(path);
+        if (directory == watched.constEnd())
+            continue;
+        const bool isRoot = path == IndexTreeC::instance()->catalogRoot().native();
+        if (isRoot || directory->isValid())
+            treeModel->readAgain(*directory);
+        else
+            watched.erase(directory);
+    }
 }
 
 SelectWidget::~SelectWidget() = default;

@@ -3,7 +3,12 @@
 #include <core/text/PRefPtr.h>
 #include <geomcore/index/IndexTreeDisplayItemI.h>
 
+#include <QFileSystemWatcher>
+#include <QHash>
 #include <QItemSelection>
+#include <QPersistentModelIndex>
+#include <QSet>
+#include <QTimer>
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -16,7 +21,8 @@ class IndexTreeFilterProxyModelC;
 class IndexTreeModelC;
 class IndexTreeModelColumnC;
 
-/// The catalog index as a tree in which a project is picked.
+/// The catalog index as a tree in which a project is picked. Directories that are open follow what
+/// comes and goes on the disk.
 class SelectWidget : public QWidget
 {
     Q_OBJECT
@@ -44,9 +50,16 @@ public Q_SLOTS:
     void onSwitchFilenameView();
 
 private:
+    void watch(const QModelIndex &directory);
+    void readChanged();
+
     QCheckBox *fileNameBox;
     QTreeView *treeView;
     IndexTreeModelC *treeModel;
     IndexTreeFilterProxyModelC *proxyModel;
     PRefPtr<IndexTreeModelColumnC> nameColumn;
+    QFileSystemWatcher watcher;
+    QHash<QString, QPersistentModelIndex> watched; ///< rows of the tree's model by directory
+    QSet<QString> changed;
+    QTimer changedTimer;
 };

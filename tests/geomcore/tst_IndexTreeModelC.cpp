@@ -144,6 +144,54 @@ private Q_SLOTS:
         QVERIFY(!model.canFetchMore(first));
     }
 
+    void readsAgain()
+    {
+        const IndexTreeFolder folder({"std/b.prj", "std/d.prj", "std/nuts/a.prj", "old/x.prj"});
+        Chain chain(folder.tree());
+        chain.model.readAgain(chain.model.index(1, 0)); // nothing was read yet
+        QVERIFY(chain.model.canFetchMore(chain.model.index(1, 0)));
+        const QAbstractItemModelTester sourceTester(
+            &chain.model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const QAbstractItemModelTester proxyTester(
+            &chain.proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(rowsOf(chain.proxy), QString("old(x.prj) std(nuts(a.prj) b.prj d.prj)"));
+        const QPersistentModelIndex b = chain.model.index(PString("cat/std/b.prj"), 0);
+        const QPersistentModelIndex nut = chain.model.index(PString("cat/std/nuts/a.prj"), 0);
+        const QPersistentModelIndex gone = chain.model.index(PString("cat/std/d.prj"), 0);
+        folder.add("std/a.prj", {});
+        folder.add("std/c.prj", {});
+        folder.add("std/nuts/z.prj", {});
+        QVERIFY(QFile::remove(folder.root() + "/std/d.prj"));
+        const QSignalSpy inserted(&chain.model, &QAbstractItemModel::rowsInserted);
+        chain.model.readAgain(chain.model.index(PString("cat/std"), 0));
+        QCOMPARE(inserted.size(), 2);
+        QCOMPARE(rowsOf(chain.proxy), QString("old(x.prj) std(nuts(a.prj) a.prj b.prj c.prj)"));
+        QVERIFY(b.isValid() && nut.isValid() && !gone.isValid());
+        QCOMPARE(b.row(), 2);
+        QVERIFY(QDir(folder.root() + "/old").removeRecursively());
+        folder.add("std/b.prj", "Bolt");
+        chain.model.readAgain(QModelIndex());
+        chain.model.readAgain(chain.model.index(PString("cat/std/nuts"), 0));
+        chain.model.readAgain(chain.model.index(PString("cat/std"), 0));
+        QCOMPARE(rowsOf(chain.proxy), QString("std(nuts(a.prj z.prj) a.prj b.prj c.prj)"));
+        chain.column->addRole(Qt::DisplayRole, DisplayIndexC(6));
+        QCOMPARE(b.data().toString(), QString("Bolt"));
+    }
+
+    void projectAfterADirectoryOfItsName()
+    {
+        const IndexTreeFolder folder({"std/a.prj/inner.prj"});
+        Chain chain(folder.tree());
+        QCOMPARE(rowsOf(chain.proxy), QString("std(a.prj(inner.prj))"));
+        QVERIFY(QDir(folder.root() + "/std/a.prj").removeRecursively());
+        folder.add("std/a.prj", {});
+        chain.model.readAgain(chain.model.index(PString("cat/std"), 0));
+        folder.add("std/screws/s.prj", {});
+        chain.model.readAgain(chain.model.index(PString("cat/std"), 0));
+        QCOMPARE(rowsOf(chain.proxy), QString("std(screws(s.prj) a.prj)"));
+        QVERIFY(!chain.model.hasChildren(chain.model.index(PString("cat/std/a.prj"), 0)));
+    }
+
     void proxyOpensNothing()
     {
         int reads = 0;

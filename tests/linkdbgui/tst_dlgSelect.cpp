@@ -33,6 +33,7 @@ private Q_SLOTS:
     void filter();
     void fileNameBox();
     void emptyTree();
+    void openDirectoriesFollowTheDisk();
     void modelsUnderTester();
 
     void dialogLayout();
@@ -199,6 +200,24 @@ void tst_dlgSelect::emptyTree()
     widget.getFileNameBox()->setChecked(false);
     widget.getFileNameBox()->setChecked(true);
     QVERIFY(!widget.selectedItem());
+}
+
+void tst_dlgSelect::openDirectoriesFollowTheDisk()
+{
+    const SelectionFixture fixture(paths);
+    SelectWidget widget(false, false, nullptr);
+    widget.show();
+    QTreeView *const tree = treeOf(widget);
+    clickRow(tree, "cat10/m/b.prj");
+    fixture.folder.add("cat10/m/ab.prj", {});
+    fixture.folder.add("cat8/y.prj", {});
+    QVERIFY(QFile::remove(fixture.folder.root() + "/cat10/z.prj"));
+    QTRY_COMPARE(rowsOf(*tree->model()),
+                 QString("cat10(m(a.prj ab.prj b.prj)) cat8(y.prj) cat9(x.prj)"));
+    QCOMPARE(pathOf(widget.selectedItem()), QString("cat10/m/b.prj"));
+    QVERIFY(QDir(fixture.folder.root() + "/cat10").removeRecursively());
+    QTRY_COMPARE(rowsOf(*tree->model()), QString("cat8(y.prj) cat9(x.prj)"));
+    QVERIFY(!pathOf(widget.selectedItem()).startsWith("cat10"));
 }
 
 void tst_dlgSelect::modelsUnderTester()

@@ -4,8 +4,20 @@
 #include "IndexTreeDisplayItemC.h"
 #include "IndexTreeErpSourceI.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <optional>
+
+namespace {
+
+/// By which a row is known again: a project may follow a directory of its name.
+QString keyOf(const IndexTreeDisplayItemI &item)
+{
+    return (item.canSelect() ? u'p' : u'd') + item.data(DisplayIndexC::FileName).toString();
+}
+
+} // namespace
 
 struct IndexTreeModelC::Row
 {
@@ -125,6 +137,50 @@ void IndexTreeModelC::updateData(const QModelIndex &first, const QModelIndex &la
     const Row &parent = *rowOf(first.parent());
     for (int place = first.row(); place <= last.row(); ++place)
         announceBelow(*parent.children[size_t(place)]);
+}
+
+void IndexTreeModelC::renumber(Row &parent)
+{
+    for (size_t place = 0; place < parent.children.size(); ++place) {
+        parent.children[place]->place = int(place);
+        parent.children[place]->parent = &parent;
+    }
+}
+
+void IndexTreeModelC::readAgain(const QModelIndex &directory)
+{
+    Row &parent = *rowOf(directory);
+    if (!parent.isRead || !parent.item || parent.item->canSelect())
+        return;
+    std::vector<std::unique_ptr<Row>> fresh = readChildren(parent);
+    QHash<QString, Row *> byKey;
+    for (const std::unique_ptr<Row> &row : fresh)
+        byKey.insert(keyOf(*row->item), row.get());
+    const QModelIndex index = indexOf(parent, 0);
+    for (size_t place = parent.children.size(); place-- > 0;) {
+        if (byKey.contains(keyOf(*parent.children[place]->item)))
+            continue;
+        beginRemoveRows(index, int(place), int(place));
+        parent.children.erase(parent.children.begin() + qsizetype(place));
+        renumber(parent);
+        endRemoveRows();
+    }
+    // Both are in one order, so what is not there at its place is new.
+    for (size_t place = 0; place < fresh.size(); ++place) {
+        if (place < parent.children.size() &&
+            keyOf(*parent.children[place]->item) == keyOf(*fresh[place]->item)) {
+            parent.children[place]->item = fresh[place]->item;
+            parent.children[place]->hasChildren.reset();
+            continue;
+        }
+        beginInsertRows(index, int(place), int(place));
+        parent.children.insert(parent.children.begin() + qsizetype(place), std::move(fresh[place]));
+        renumber(parent);
+        endInsertRows();
+    }
+    if (!parent.children.empty() && !m_columns.isEmpty())
+        Q_EMIT dataChanged(indexOf(*parent.children.front(), 0),
+                           indexOf(*parent.children.back(), int(m_columns.size()) - 1));
 }
 
 void IndexTreeModelC::announceBelow(const Row &row)

@@ -8,8 +8,8 @@
 #include <memory>
 
 /// The items below a root item as an item model; the root itself has no index. The first level is
-/// read at construction, each further one when a view opens it (fetchMore()) and not again. Without
-/// a column the model is empty. GUI thread only.
+/// read at construction, each further one when a view opens it (fetchMore()), and again by
+/// readAgain() only. Without a column the model is empty. GUI thread only.
 class VELKGEOMCORE_EXPORT IndexTreeModelC : public QAbstractItemModel
 {
     Q_OBJECT
@@ -34,6 +34,10 @@ public:
     /// is to be asked for anew. What was not read yet stays so. Does nothing if one of both is not
     /// valid.
     void updateData(const QModelIndex &first, const QModelIndex &last);
+
+    /// Brings the rows of a directory up to date with what is there now: rows come and go, the
+    /// others stay with all that was read below them. Does nothing if it was not read yet.
+    void readAgain(const QModelIndex &directory);
 
     [[nodiscard]] QModelIndex index(int row, int column,
                                     const QModelIndex &parent = QModelIndex()) const override;
@@ -60,6 +64,7 @@ private:
     [[nodiscard]] std::vector<std::unique_ptr<Row>> readChildren(Row &parent) const;
     void prefetchErpMarks(const std::vector<std::unique_ptr<Row>> &rows) const;
     void announceBelow(const Row &row);
+    static void renumber(Row &parent);
 
     std::unique_ptr<Row> m_root;
     QList<PRefPtr<IndexTreeModelColumnC>> m_columns;
