@@ -115,6 +115,7 @@ private Q_SLOTS:
     void otherFilesAreNotItsOwn();
     void theCacheIsBounded();
     void whoWasUsedStays();
+    void aTenthMoreGoes();
     void severalThreads();
     void withoutClient();
     void whatTheClientIsTold();
@@ -504,6 +505,30 @@ void tst_CatalogRepository::whoWasUsedStays()
     QVERIFY(next.has("key", 7, "cat/c"));
     QVERIFY(!QFileInfo::exists(m_dir->filePath("bounded/key/7/cat/b")));
     QVERIFY(!next.has("key", 8, "cat/a"));
+}
+
+void tst_CatalogRepository::aTenthMoreGoes()
+{
+    RepositoryCache cache(m_dir->filePath("bounded"), 1000);
+    const auto put = [&](const QString &path) {
+        const QString work = cache.workDirectory("key");
+        QVERIFY(QDir().mkpath(work));
+        QFile file(work + "/f");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(QByteArray(50, 'x')), 50);
+        file.close();
+        QString problem;
+        QVERIFY2(cache.take("key", 7, path, work, problem), qPrintable(problem));
+    };
+    const QDir done(m_dir->filePath("bounded/key/done"));
+    for (int i = 0; i < 20; ++i)
+        put(QString("cat/%1").arg(i));
+    QCOMPARE(done.entryList(QDir::Files).size(), 20);
+    put("cat/20");
+    QCOMPARE(done.entryList(QDir::Files).size(), 18); // 900 of 1000 bytes
+    QVERIFY(cache.has("key", 7, "cat/20"));
+    put("cat/21");
+    QCOMPARE(done.entryList(QDir::Files).size(), 19);
 }
 
 void tst_CatalogRepository::severalThreads()

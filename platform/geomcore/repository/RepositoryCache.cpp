@@ -14,6 +14,9 @@
 
 namespace {
 
+/// This part of the bound is free after directories had to go.
+constexpr qint64 Spared = 10;
+
 QString hashOf(const QString &text)
 {
     return QString::fromLatin1(
@@ -157,7 +160,9 @@ QList<RepositoryCache::Entry> RepositoryCache::entries() const
     return all;
 }
 
-/// A directory counts as gone before its files go: who breaks off leaves none that looks whole.
+/// A tenth more goes than has to: counting reads a mark for each directory, which is not to happen
+/// at every directory that is fetched. A directory counts as gone before its files go: who breaks
+/// off leaves none that looks whole.
 void RepositoryCache::shrink(const QString &kept)
 {
     if (m_size >= 0 && m_size <= m_limit)
@@ -168,8 +173,9 @@ void RepositoryCache::shrink(const QString &kept)
         m_size += entry.bytes;
     std::sort(all.begin(), all.end(),
               [](const Entry &a, const Entry &b) { return a.used < b.used; });
+    const qint64 wanted = m_size > m_limit ? m_limit - m_limit / Spared : m_limit;
     for (const Entry &entry : std::as_const(all)) {
-        if (m_size <= m_limit)
+        if (m_size <= wanted)
             return;
         if (entry.done == kept || !QFile::remove(entry.done))
             continue;

@@ -20,7 +20,7 @@ class VELKGEOMCORE_EXPORT RepositoryCache
 {
 public:
     /// When more than \a limit bytes are there, the directories that were not used for the longest
-    /// time go.
+    /// time go until a tenth of that is free.
     RepositoryCache(QString directory, qint64 limit);
 
     /// A directory that is a catalog root: below it, by its name, lies the catalog.
