@@ -145,6 +145,12 @@ void tst_RuleProposals::split_data()
     QTest::newRow("half of the lines are gone")
         << QByteArray("form,d;A,1;A,2;B,3;B,4") << QByteArrayList{"d;1;9;10;11", "d;3;12;13;14"}
         << "";
+    QTest::newRow("one variable changed in all lines")
+        << forms << QByteArrayList{"d,k;1,50;2,60;3,70", "d,k;2,61;3,71;4,81"} << "form: 0|3";
+    QTest::newRow("one variable changed in many lines")
+        << forms << QByteArrayList{"d,k;1,5;2,60;3,70", "d,k;2,61;3,7;4,81"} << "form: 0|3";
+    QTest::newRow("everything changed")
+        << forms << QByteArrayList{"d,k;11,50;12,60;13,70", "d,k;12,61;13,71;14,81"} << "";
     // Each value stands in one line, so it would be a list of the lines and no rule.
     QTest::newRow("too many values")
         << QByteArray("n,d;a,1;b,2;c,3;d,4;e,5;f,6;g,7;h,8;i,9;j,10;k,11;l,12;m,13")

@@ -164,6 +164,26 @@ double likeness(const LineCells &source, const LineCells &target, const ColumnPa
     return both.size() < 3 ? 0 : share;
 }
 
+/// The columns without those in which many lines of the target have a value that the source never
+/// has: there the lines changed, and what is left tells where they went.
+std::vector<ColumnPair> unchangedColumns(const LineCells &source, const LineCells &target,
+                                         const std::vector<ColumnPair> &columns)
+{
+    std::vector<ColumnPair> unchanged;
+    for (const ColumnPair &pair : columns) {
+        const std::vector<quint32> known = sortedValues(source, pair.first);
+        int strange = 0;
+        for (int row = 0; row < target.rowCount(); ++row) {
+            const quint32 value = target.cell(row, pair.second);
+            if (value != 0 && !std::binary_search(known.begin(), known.end(), value))
+                ++strange;
+        }
+        if (strange <= (1 - MostLines) * target.rowCount())
+            unchanged.push_back(pair);
+    }
+    return unchanged;
+}
+
 struct PairCandidate
 {
     ColumnPair columns;
@@ -286,6 +306,7 @@ RuleProposals::Parting RuleProposals::part(int column) const
         for (const Rename &rename : m_renames[t])
             columns.emplace_back(columnOf(m_source, rename.source),
                                  columnOf(*m_targets[t], rename.target));
+        columns = unchangedColumns(m_source, *m_targets[t], columns);
         std::unordered_map<quint64, std::vector<int>> rows;
         for (int row = 0; row < m_targets[t]->rowCount(); ++row)
             rows[keyOf(*m_targets[t], row, seconds(columns))].push_back(row);

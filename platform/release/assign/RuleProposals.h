@@ -44,7 +44,8 @@ public:
     /// The lines of \a source with those variables under their names in \a target.
     [[nodiscard]] static LineCells renamed(const LineCells &source, const LineCells &target);
     /// A variable that no target has, and each value of which belongs to one target: that one holds
-    /// the lines with the value. Nothing if values would fit another target nearly as well.
+    /// the lines with the value, compared in what did not change in most lines. Nothing if values
+    /// would fit another target nearly as well.
     [[nodiscard]] Split split() const;
 
 private:
