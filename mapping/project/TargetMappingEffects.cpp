@@ -1,6 +1,7 @@
 // The part of TargetMappingWidget that tells, while a condition or formula is being written, what
 // it would mean, and that offers a condition for the selected lines.
 #include "RuleEffectLabel.h"
+#include "TargetItemRole.h"
 #include "TargetMappingParamSet.h"
 #include "TargetMappingWidget.h"
 
@@ -9,12 +10,15 @@
 #include <formula/DlgFormulaEditor.h>
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/binding/VarsetValueMappingC.h>
+#include <geomcore/binding/VarsetVarMappingC.h>
 #include <release/decide/CommonValues.h>
 
-#include <QLayout>
+#include <QComboBox>
+#include <QFrame>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStandardItemModel>
+#include <QVBoxLayout>
 
 #include <memory>
 
@@ -73,17 +77,58 @@ std::optional<PrjMappingTargetC> TargetMappingWidget::withFormula(int row,
     if (!params)
         return std::nullopt;
     const PStringMessageImpl capture(PMsgReply::Cancel, false);
+    return withModifier(row, VarsetValueMappingC::create(text, sourceVariables, targetVariables));
+}
+
+std::optional<PrjMappingTargetC> TargetMappingWidget::withVariables(int row, const QString &source,
+                                                                    const QString &targetName) const
+{
+    if (!params || source.isEmpty() || targetName.isEmpty())
+        return std::nullopt;
+    const PStringMessageImpl capture(PMsgReply::Cancel, false);
+    return withModifier(row, std::make_unique<VarsetVarMappingC>(source, targetName).release());
+}
+
+std::optional<PrjMappingTargetC>
+TargetMappingWidget::withModifier(int row, const VarsetModifierI *made) const
+{
+    if (!made)
+        return std::nullopt;
     PrjMappingTargetC target = params->projectMapping.findTarget(index);
     target.clearModifier();
-    for (int i = 0; i < variableModel->rowCount(); ++i) {
-        const VarsetModifierI *const made =
-            i == row ? VarsetValueMappingC::create(text, sourceVariables, targetVariables)
-                     : makeModifier(i);
-        if (!made && i == row)
-            return std::nullopt;
-        target.addModifier(made);
-    }
+    for (int i = 0; i < variableModel->rowCount(); ++i)
+        target.addModifier(i == row ? made : makeModifier(i));
     return target;
+}
+
+void TargetMappingWidget::watchBox(QComboBox *box, const QModelIndex &cell)
+{
+    auto *const frame = new QFrame(box, Qt::ToolTip);
+    frame->setObjectName(QStringLiteral("ruleEffectOfBox"));
+    frame->setFrameStyle(QFrame::Box);
+    auto *const layout = new QVBoxLayout(frame);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    auto *const label = new RuleEffectLabel(params->projectMapping, index, sourceContent, frame);
+    label->setWordWrap(false); // a window of its own is as wide as the text
+    layout->addWidget(label);
+    const QPersistentModelIndex at(cell);
+    const auto tell = [this, box, frame, label, at](int entry) {
+        const QString name = box->itemData(entry, VariableNameRole).toString();
+        const QModelIndex source = variableModel->index(at.row(), 2);
+        const QModelIndex targetName = variableModel->index(at.row(), 1);
+        const bool isPlain =
+            !source.data(FormulaRole).toBool() && !source.data(IgnoredRole).toBool();
+        std::optional<PrjMappingTargetC> changed;
+        if (at.isValid() && at.column() == 2)
+            changed = withVariables(at.row(), name, targetName.data().toString());
+        else if (at.isValid() && isPlain)
+            changed = withVariables(at.row(), source.data().toString(), name);
+        label->setChangedTarget(changed);
+        frame->setVisible(changed.has_value());
+        frame->move(box->mapToGlobal(QPoint(0, -frame->sizeHint().height())));
+    };
+    connect(box, &QComboBox::highlighted, label, tell);
+    connect(box, &QComboBox::currentIndexChanged, label, tell);
 }
 
 void TargetMappingWidget::offerCondition(DlgFormulaEditor *dialog)

@@ -188,4 +188,8 @@ void TargetMappingWidget::addDelegates()
     values->onFormulaOpened = [this](DlgFormulaEditor *dialog, int row) {
         watchFormula(dialog, row);
     };
+    targets->onBoxOpened = [this](QComboBox *box, const QModelIndex &cell) {
+        watchBox(box, cell);
+    };
+    values->onBoxOpened = targets->onBoxOpened;
 }

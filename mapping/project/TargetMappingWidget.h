@@ -16,6 +16,7 @@
 #include <optional>
 
 QT_BEGIN_NAMESPACE
+class QComboBox;
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
@@ -121,6 +122,8 @@ private:
     /// lines. The row is that of the condition or mapping; the next one for a new condition.
     void watchCondition(DlgFormulaEditor *dialog, int row);
     void watchFormula(DlgFormulaEditor *dialog, int row);
+    /// Tells above the box of a mapping's cell what the variable under the mouse would mean.
+    void watchBox(QComboBox *box, const QModelIndex &cell);
     using ChangedTarget = std::function<std::optional<PrjMappingTargetC>(const QString &)>;
     void watch(DlgFormulaEditor *dialog, const ChangedTarget &changedTarget);
     void offerCondition(DlgFormulaEditor *dialog);
@@ -128,6 +131,12 @@ private:
     [[nodiscard]] std::optional<PrjMappingTargetC> withCondition(int row,
                                                                  const QString &text) const;
     [[nodiscard]] std::optional<PrjMappingTargetC> withFormula(int row, const QString &text) const;
+    /// The target with that mapping between plain variables in that row; none if one is missing.
+    [[nodiscard]] std::optional<PrjMappingTargetC> withVariables(int row, const QString &source,
+                                                                 const QString &targetName) const;
+    /// The target with \a made, which may be null, in that row.
+    [[nodiscard]] std::optional<PrjMappingTargetC> withModifier(int row,
+                                                                const VarsetModifierI *made) const;
     /// A menu with "Kopieren" if a cell is under it and "Einfügen" if there is something to paste.
     void showCopyMenu(QTableView *view, const QPoint &pos, const char *copySlot,
                       const char *pasteSlot, bool canPaste);

@@ -104,6 +104,8 @@ QWidget *VariableListDelegate::createEditor(QWidget *parent,
         box->addItem(var.getName());
         box->setItemData(box->count() - 1, var.getName(), VariableNameRole);
     }
+    if (onBoxOpened)
+        onBoxOpened(box, index);
     return box;
 }
 

@@ -10,6 +10,7 @@
 #include <memory>
 
 QT_BEGIN_NAMESPACE
+class QComboBox;
 class QStandardItemModel;
 class QTextDocument;
 QT_END_NAMESPACE
@@ -44,6 +45,8 @@ public:
     std::function<void()> onChanged; ///< called after an edit; may be empty
     /// Called with each formula editor and the row that it is for, before it is shown; may be empty
     std::function<void(DlgFormulaEditor *, int)> onFormulaOpened;
+    /// Called with the box of a cell when it is made; may be empty.
+    std::function<void(QComboBox *, const QModelIndex &)> onBoxOpened;
     VKTab::ContentRef content; ///< whose variables are offered
     bool showFormulaItem;
     bool showIgnoreItem = false;

@@ -8,12 +8,15 @@
 #include <geomcoregui/table/VkTableView.h>
 #include <release/effect/RuleEffect.h>
 
+#include <QComboBox>
+#include <QPointer>
+
 namespace {
 
 const QString Effect = QStringLiteral("Zeilen: %1 von 3 · offene, die zugewiesen würden: %2 · "
                                       "bestätigte, die nicht mehr passten: %3");
 
-QLabel *effectOf(const DlgFormulaEditor *dialog)
+QLabel *effectOf(const QWidget *dialog)
 {
     return dialog->findChild<QLabel *>("ruleEffect");
 }
@@ -36,6 +39,8 @@ private Q_SLOTS:
     void newCondition();
     void changedCondition();
     void formula();
+    void variable();
+    void variableOfTheTarget();
     void offer();
     void offerBehindAText();
     void noOffer();
@@ -158,6 +163,46 @@ void tst_RuleEffectLabel::formula()
     editor.answerFormula(QString());
     editor.chooseEntry(editor.variables(), "Formel...", false);
     QTRY_COMPARE(editor.formulas, 1);
+}
+
+void tst_RuleEffectLabel::variable()
+{
+    TargetLists editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addRename(mapping, 0, "k", "k");
+    enter(mapping, 0, 1, 1, PRJMAPPING::Verified);
+    editor.load(mapping);
+    editor.edit(editor.variables(), 0, 2);
+    QComboBox *const box = TargetLists::box(editor.variables());
+    QVERIFY(box);
+    auto *const frame = box->findChild<QWidget *>("ruleEffectOfBox");
+    QVERIFY(frame && frame->isVisible());
+    QTRY_COMPARE(effectOf(frame)->text(), Effect.arg("3", "1", "0"));
+    Q_EMIT box->highlighted(box->findText("D"));
+    QVERIFY(frame->isVisible());
+    QTRY_COMPARE(effectOf(frame)->text(), Effect.arg("3", "0", "1 (1)"));
+    Q_EMIT box->highlighted(box->findText("k"));
+    QTRY_COMPARE(effectOf(frame)->text(), Effect.arg("3", "1", "0"));
+    Q_EMIT box->highlighted(0); // a formula tells in its own dialog
+    QVERIFY(!frame->isVisible());
+    QTest::keyClick(box, Qt::Key_Down);
+    const QPointer<QWidget> shown(frame);
+    QTest::keyClick(box, Qt::Key_Return);
+    QTRY_VERIFY(!shown);
+}
+
+void tst_RuleEffectLabel::variableOfTheTarget()
+{
+    TargetLists editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addRename(mapping, 0, "k", "k");
+    enter(mapping, 0, 1, 1, PRJMAPPING::Verified);
+    editor.load(mapping);
+    editor.edit(editor.variables(), 0, 1);
+    QComboBox *const box = TargetLists::box(editor.variables());
+    auto *const frame = box->findChild<QWidget *>("ruleEffectOfBox");
+    Q_EMIT box->highlighted(box->findText("D"));
+    QTRY_COMPARE(effectOf(frame)->text(), Effect.arg("3", "0", "1 (1)"));
 }
 
 namespace {
