@@ -649,6 +649,38 @@ private Q_SLOTS:
         QCOMPARE(file.toByteArray(), bytes);
     }
 
+    void strangeReleaseOfOthersPasses_data()
+    {
+        QTest::addColumn<QByteArray>("strange");
+        QTest::newRow("number beyond a double") << QByteArray("{\"a\": [1e999, -1E+9999]}");
+        QTest::newRow("half a surrogate pair") << QByteArray("{\"\\ud800\": \"\\udc00x\"}");
+        QTest::newRow("deep nesting") << QByteArray(2000, '[') + QByteArray(2000, ']');
+        QTest::newRow("a text with brackets") << QByteArray("[1e999, \"}],\\\"{\"]");
+    }
+    void strangeReleaseOfOthersPasses()
+    {
+        QFETCH(QByteArray, strange);
+        MappingFile all;
+        all.setRelease(sampleRelease("2022", 2));
+        QByteArray bytes = all.toByteArray();
+        bytes.insert(2, " \"1999\": " + strange + ",\n");
+        MappingFile file;
+        QString error;
+        QVERIFY2(file.parse(bytes, "2022", &error), qPrintable(error));
+        QCOMPARE(file.sourceDates(), QStringList({"1999", "2022"}));
+        QCOMPARE(file.release("2022").countMappings(), all.release("2022").countMappings());
+        QCOMPARE(file.toByteArray(), bytes);
+        // The same after it where the wanted one stands first; what is no JSON stays a fault.
+        bytes = all.toByteArray();
+        bytes.insert(bytes.lastIndexOf('}') - 1, ",\n \"1999\": " + strange);
+        QVERIFY2(file.parse(bytes, "2022", &error), qPrintable(error));
+        QCOMPARE(file.toByteArray(), bytes);
+        QVERIFY(!file.parse(bytes, "1999"));
+        QVERIFY(!file.parse(bytes, QString()));
+        QVERIFY(!file.parse(bytes + '}', "2022"));
+        QVERIFY(file.contains("2022")); // as before
+    }
+
     void readTellsTheFile()
     {
         QTemporaryDir dir;

@@ -5,6 +5,7 @@
 
 #include <core/json/JsonText.h>
 
+#include <QBuffer>
 #include <QHash>
 #include <QIODevice>
 
@@ -12,6 +13,7 @@
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -292,6 +294,53 @@ QByteArray valueText(QIODevice &file, const Extent &extent)
     return JsonText::trimmed(behindName.sliced(1)).toByteArray(); // behind the colon
 }
 
+/// The text with the values of all members but one blanked out; \a values takes them. Empty if it
+/// is no object by grammar.
+QByteArray blankedOthers(const QByteArray &json, const QString &kept,
+                         QHash<QString, QByteArray> &values)
+{
+    const QByteArrayView object = JsonText::trimmed(json);
+    if (!JsonText::check(json, nullptr) || !object.startsWith('{'))
+        return {};
+    QByteArray blanked = json;
+    for (JsonText::Walker walker(object); walker.next();) {
+        const QString name = JsonText::unquoted(walker.quotedName());
+        if (name == kept)
+            continue;
+        const QByteArrayView value = walker.value();
+        values.insert(name, value.toByteArray());
+        char *const text = blanked.data() + (value.data() - json.constData());
+        std::fill_n(text, value.size(), ' ');
+        *text = '0';
+    }
+    return blanked;
+}
+
+/// Reads a file in which a release that is not wanted holds what is JSON, but beyond what the
+/// reader knows: numbers of any size, halves of surrogate pairs, deep nesting.
+bool readWithoutOthers(const QByteArray &json, const QString &sourceDate,
+                       QList<MappingFileMember> &members, QStringList &notes)
+{
+    QHash<QString, QByteArray> values;
+    QByteArray blanked = blankedOthers(json, sourceDate, values);
+    if (blanked.isEmpty())
+        return false;
+    QBuffer buffer(&blanked);
+    buffer.open(QIODevice::ReadOnly);
+    JsonDeviceStream stream(buffer);
+    FileEvents events(WantedMembers::Named, sourceDate, stream);
+    QString what;
+    if (parse(stream, events, blanked.size(), what) >= 0)
+        return false;
+    members = events.members();
+    for (MappingFileMember &member : members) {
+        if (!member.isRecords)
+            member.text = values.value(member.sourceDate);
+    }
+    notes = events.notes();
+    return true;
+}
+
 } // namespace
 
 bool readRelease(const QByteArray &json, ReleaseMappingC &release, QString *error)
@@ -315,7 +364,11 @@ bool readMappingFile(QIODevice &file, WantedMembers wanted, const QString &sourc
     const qsizetype offset = parse(stream, events, file.size(), what);
     if (offset >= 0) {
         file.seek(0);
-        return report(error, file.read(offset), offset, what);
+        const QByteArray json = file.readAll();
+        return (wanted == WantedMembers::Named &&
+                readWithoutOthers(json, sourceDate, members, notes)) ||
+               report(error, QByteArrayView(json).first(std::min(offset, json.size())), offset,
+                      what);
     }
     QList<MappingFileMember> found = events.members();
     for (MappingFileMember &member : found) {
