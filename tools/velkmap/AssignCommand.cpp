@@ -5,14 +5,20 @@
 #include "ReleaseFile.h"
 #include "TerminalProgress.h"
 
+#include <core/files/DurableFile.h>
 #include <core/parallel/WorkerPool.h>
+#include <geomcore/csv/csvCell.h>
 #include <geomcore/index/IndexTreeC.h>
+#include <geomcore/records/MappingFile.h>
 #include <release/assign/AssignmentPart.h>
 #include <release/assign/ReleaseAssigner.h>
+#include <release/chain/carryDecisions.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QTextStream>
 
+#include <algorithm>
 #include <optional>
 
 namespace velkmap {
@@ -36,6 +42,13 @@ void addAssignOptions(CommandLine &line)
                      "are of about the same size; the mapping stays as it is.");
     line.addOptional("out", "PART", "Where the share goes, for velkmap join.");
     line.addFlag("force", "Works out anew what nobody has confirmed.");
+    line.addOptional("former", "FILE",
+                     "Mapping file with what was confirmed for the same old release when it led\n"
+                     "to an earlier new one. Lines that are not certain take that over: as\n"
+                     "proposal, or as assigned where the earlier line has one equal line now.");
+    line.addOptional("former-target", "ROOT",
+                     "Directory that holds the earlier new release's catalog; for --former.");
+    line.addOptional("carried", "FILE", "CSV file to write: the lines that took something over.");
     line.addAllowed();
     line.addOptional("jobs", "N", "Threads that work at once; by default one per processor.", "0");
 }
@@ -78,6 +91,7 @@ public:
     {
         m_assigner.setProjects(line.values("project"));
         m_assigner.setForce(line.isSet("force"));
+        m_targetRoot = line.value("target");
     }
 
     /// Says what cannot work at all.
@@ -87,11 +101,22 @@ public:
     ExitStatus runShare(const CommandLine &line, const VelkRelease::ShareNumber &number,
                         const ReleaseMappingC &before);
 
+    /// What is carried over from an earlier mapping; says what cannot work.
+    std::optional<ExitStatus> takeFormer(const CommandLine &line, const ReleaseMappingC &release);
+
 private:
     [[nodiscard]] bool assign(ReleaseMappingC &release);
+    /// False if something could not be read.
+    [[nodiscard]] bool carryOver(ReleaseMappingC &release);
+    [[nodiscard]] ExitStatus writeCarried() const;
     void tell(const VelkRelease::ReleaseAssigner::Progress &progress, TerminalProgress &terminal);
 
     VelkRelease::ReleaseAssigner m_assigner;
+    std::optional<ReleaseMappingC> m_former;
+    QString m_formerRoot;
+    QString m_targetRoot;
+    QString m_carriedFile;
+    std::vector<VelkRelease::CarriedLine> m_carried;
     VelkRelease::ReleaseAssigner::Progress m_reached;
     bool m_toldInterrupt = false;
     QTextStream &m_out;
@@ -131,17 +156,96 @@ bool AssignRun::assign(ReleaseMappingC &release)
     return m_assigner.run(release, InterruptGuard::isRequested());
 }
 
+std::optional<ExitStatus> AssignRun::takeFormer(const CommandLine &line,
+                                                const ReleaseMappingC &release)
+{
+    if (!line.isSet("former")) {
+        if (line.isSet("former-target") || line.isSet("carried"))
+            return line.wrongUsage("--former-target and --carried belong to --former", m_err);
+        return std::nullopt;
+    }
+    if (!line.isSet("former-target"))
+        return line.wrongUsage("--former needs --former-target", m_err);
+    if (line.isSet("shard"))
+        return line.wrongUsage("--former does not go with --shard: use it when all parts are "
+                               "joined",
+                               m_err);
+    m_formerRoot = line.value("former-target");
+    if (!isDirectory(m_formerRoot, m_err))
+        return ExitStatus::InputUnreadable;
+    const QString path = QDir::cleanPath(line.value("former"));
+    const QString date = release.getSourceDate();
+    MappingFile file;
+    QString error;
+    if (!file.read(path, date, &error)) {
+        m_err << "velkmap assign: " << error << '\n';
+        return ExitStatus::InputUnreadable;
+    }
+    if (!file.contains(date) || file.release(date).getTargetDate() == release.getTargetDate()) {
+        m_err << "velkmap assign: " << path << " has no mapping from " << date
+              << " to another release than " << release.getTargetDate() << '\n';
+        return ExitStatus::InputUnreadable;
+    }
+    m_former = file.release(date);
+    m_carriedFile = line.value("carried");
+    return std::nullopt;
+}
+
+bool AssignRun::carryOver(ReleaseMappingC &release)
+{
+    const std::atomic<bool> &cancelled = InterruptGuard::isRequested();
+    if (!m_former || cancelled)
+        return true;
+    QStringList errors;
+    const ReleaseMappingC following = VelkRelease::followingRelease(
+        *m_former, m_formerRoot, release, m_targetRoot, cancelled, errors);
+    for (const QString &error : errors)
+        m_err << "velkmap assign: " << error << '\n';
+    m_carried = VelkRelease::carryDecisions(release, *m_former, following);
+    m_reached.counts = {};
+    for (const int position : m_assigner.donePositions())
+        m_reached.counts.add(release.mappingAt(position).lineCounts());
+    return errors.isEmpty();
+}
+
+ExitStatus AssignRun::writeCarried() const
+{
+    if (!m_former)
+        return ExitStatus::Done;
+    const auto certain =
+        std::count_if(m_carried.begin(), m_carried.end(),
+                      [](const VelkRelease::CarriedLine &line) { return line.isCertain; });
+    m_out << m_carried.size() << " lines take over what was confirmed for "
+          << m_former->getTargetDate() << ": " << certain << " assigned, "
+          << qint64(m_carried.size()) - certain << " proposed\n";
+    if (m_carriedFile.isEmpty())
+        return ExitStatus::Done;
+    QByteArray csv = "source project,source line,target project,target line,state\n";
+    for (const VelkRelease::CarriedLine &line : m_carried)
+        csv += csvCell(line.project) + ',' + QByteArray::number(line.line) + ',' +
+               csvCell(line.target) + ',' + QByteArray::number(line.targetLine) +
+               (line.isCertain ? ",assigned\n" : ",proposed\n");
+    QString error;
+    if (DurableFile::write(m_carriedFile, csv, &error))
+        return ExitStatus::Done;
+    m_err << "velkmap assign: " << error << '\n';
+    return ExitStatus::ResultUnwritable;
+}
+
 ExitStatus AssignRun::run(ReleaseFile &file)
 {
     const InterruptGuard guard; // until the result is written
     ReleaseMappingC release = file.release();
-    const bool allRead = assign(release);
+    bool allRead = assign(release);
     for (const QString &error : m_assigner.errors())
         m_err << "velkmap assign: " << error << '\n';
+    allRead = carryOver(release) && allRead;
     if (const ExitStatus written = file.write(release, m_err); written != ExitStatus::Done)
         return written;
     m_out << m_reached.projects << " of " << m_reached.totalProjects << " projects with "
           << sumText(m_reached.counts) << '\n';
+    if (const ExitStatus written = writeCarried(); written != ExitStatus::Done)
+        return written;
     warnIfNothingFits(m_reached.counts, m_err);
     if (InterruptGuard::isRequested() && m_reached.projects < m_reached.totalProjects) {
         m_err << "velkmap assign: interrupted after " << m_reached.projects
@@ -230,6 +334,8 @@ ExitStatus runAssign(const QStringList &arguments, QTextStream &out, QTextStream
     WorkerPool::instance().setThreads(jobs);
     AssignRun run(line, out, err);
     if (const auto failed = run.check(line, file.release()))
+        return *failed;
+    if (const auto failed = run.takeFormer(line, file.release()))
         return *failed;
     return share.isValid() ? run.runShare(line, share, file.release()) : run.run(file);
 }
