@@ -3364,6 +3364,18 @@ Projekt: %1
         <source>Hoher Kontrast</source>
         <translation>Vysoký kontrast</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Na každém řádku jedna složka, ze které se smí číst to, co soubory katalogu uvádějí mimo katalogy.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Povolené složky:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Povolené složky: „%1“ není složka s úplnou cestou.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3315,6 +3315,18 @@ Linje: %2
         <source>Hoher Kontrast</source>
         <translation>Høj kontrast</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>En mappe pr. linje, hvorfra der må læses, hvad filer i et katalog nævner uden for katalogerne.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Tilladte mapper:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Tilladte mapper: &quot;%1&quot; er ikke en mappe med fuld sti.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3315,6 +3315,18 @@ Line: %2
         <source>Hoher Kontrast</source>
         <translation>High contrast</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>A folder a line, from which may be read what files of a catalog name outside of the catalogs.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Allowed folders:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Allowed folders: &quot;%1&quot; is no folder with a complete path.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

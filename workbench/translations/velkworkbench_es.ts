@@ -3315,6 +3315,18 @@ Línea: %2
         <source>Hoher Kontrast</source>
         <translation>Alto contraste</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Una carpeta por línea, de la que se puede leer lo que los archivos de un catálogo nombran fuera de los catálogos.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Carpetas permitidas:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Carpetas permitidas: &quot;%1&quot; no es una carpeta con ruta completa.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3315,6 +3315,18 @@ Rivi: %2
         <source>Hoher Kontrast</source>
         <translation>Suuri kontrasti</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Yksi kansio riviä kohti; siitä saa lukea sen, mihin luettelon tiedostot viittaavat luetteloiden ulkopuolella.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Sallitut kansiot:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Sallitut kansiot: &quot;%1&quot; ei ole kansio, jolla on täydellinen polku.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3315,6 +3315,18 @@ Ligne : %2
         <source>Hoher Kontrast</source>
         <translation>Contraste élevé</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Un dossier par ligne, dans lequel peut être lu ce que les fichiers d&apos;un catalogue nomment hors des catalogues.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Dossiers autorisés :</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Dossiers autorisés : « %1 » n&apos;est pas un dossier avec un chemin complet.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

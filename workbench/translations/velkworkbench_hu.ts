@@ -3266,6 +3266,18 @@ Sor: %2
         <source>Hoher Kontrast</source>
         <translation>Nagy kontraszt</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Soronként egy mappa, amelyből olvasható, amit egy katalógus fájljai a katalógusokon kívül megneveznek.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Engedélyezett mappák:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Engedélyezett mappák: „%1” nem teljes elérési utú mappa.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3266,6 +3266,18 @@ Baris: %2
         <source>Hoher Kontrast</source>
         <translation>Kontras tinggi</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Satu folder per baris, dari mana boleh dibaca apa yang disebut file katalog di luar katalog.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Folder yang diizinkan:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Folder yang diizinkan: &quot;%1&quot; bukan folder dengan jalur lengkap.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

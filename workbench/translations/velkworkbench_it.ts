@@ -3315,6 +3315,18 @@ Riga: %2
         <source>Hoher Kontrast</source>
         <translation>Contrasto elevato</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Una cartella per riga, da cui può essere letto ciò che i file di un catalogo nominano fuori dai cataloghi.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Cartelle consentite:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Cartelle consentite: &quot;%1&quot; non è una cartella con percorso completo.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

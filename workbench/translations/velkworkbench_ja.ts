@@ -3266,6 +3266,18 @@ Zeile: %2
         <source>Hoher Kontrast</source>
         <translation>ハイコントラスト</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>1 行に 1 フォルダー。カタログのファイルがカタログの外で指すものを、ここから読み取れます。</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>許可するフォルダー:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>許可するフォルダー: &quot;%1&quot; は完全なパスのフォルダーではありません。</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

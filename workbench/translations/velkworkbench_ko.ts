@@ -3266,6 +3266,18 @@ Zeile: %2
         <source>Hoher Kontrast</source>
         <translation>고대비</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>한 줄에 폴더 하나. 카탈로그의 파일이 카탈로그 밖에서 가리키는 것을 이 폴더에서 읽을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>허용된 폴더:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>허용된 폴더: &quot;%1&quot;은(는) 전체 경로의 폴더가 아닙니다.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3315,6 +3315,18 @@ Linje: %2
         <source>Hoher Kontrast</source>
         <translation>Høy kontrast</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Én mappe per linje, der det kan leses det filer i en katalog nevner utenfor katalogene.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Tillatte mapper:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Tillatte mapper: &quot;%1&quot; er ikke en mappe med fullstendig sti.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3364,6 +3364,18 @@ Wiersz: %2
         <source>Hoher Kontrast</source>
         <translation>Wysoki kontrast</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Jeden folder w wierszu, z którego wolno czytać to, co pliki katalogu wskazują poza katalogami.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Dozwolone foldery:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Dozwolone foldery: „%1” nie jest folderem o pełnej ścieżce.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3315,6 +3315,18 @@ Linha: %2
         <source>Hoher Kontrast</source>
         <translation>Alto contraste</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Uma pasta por linha, da qual pode ser lido o que os ficheiros de um catálogo indicam fora dos catálogos.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Pastas permitidas:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Pastas permitidas: &quot;%1&quot; não é uma pasta com caminho completo.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

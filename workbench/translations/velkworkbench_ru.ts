@@ -3364,6 +3364,18 @@ Zeile: %2
         <source>Hoher Kontrast</source>
         <translation>Высокая контрастность</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>По одной папке в строке; из неё можно читать то, что файлы каталога называют вне каталогов.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Разрешённые папки:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Разрешённые папки: «%1» — не папка с полным путём.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

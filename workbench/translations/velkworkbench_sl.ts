@@ -3413,6 +3413,18 @@ Vrstica: %2
         <source>Hoher Kontrast</source>
         <translation>Visok kontrast</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Ena mapa na vrstico, iz katere se sme brati, kar datoteke kataloga navajajo zunaj katalogov.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Dovoljene mape:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Dovoljene mape: »%1« ni mapa s polno potjo.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3315,6 +3315,18 @@ Rad: %2
         <source>Hoher Kontrast</source>
         <translation>Hög kontrast</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>En mapp per rad, därifrån får läsas det som filer i en katalog anger utanför katalogerna.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>Tillåtna mappar:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>Tillåtna mappar: &quot;%1&quot; är ingen mapp med fullständig sökväg.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

@@ -3266,6 +3266,18 @@ Satır: %2
         <source>Hoher Kontrast</source>
         <translation>Yüksek karşıtlık</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>Her satırda bir klasör; katalog dosyalarının kataloglar dışında andığı şeyler buradan okunabilir.</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>İzin verilen klasörler:</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>İzin verilen klasörler: &quot;%1&quot; tam yolu olan bir klasör değil.</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

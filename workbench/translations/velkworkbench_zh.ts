@@ -3266,6 +3266,18 @@ Zeile: %2
         <source>Hoher Kontrast</source>
         <translation>高对比度</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>每行一个文件夹；目录文件在目录之外引用的内容可以从中读取。</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>允许的文件夹：</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>允许的文件夹：“%1”不是具有完整路径的文件夹。</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

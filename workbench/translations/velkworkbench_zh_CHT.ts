@@ -3266,6 +3266,18 @@ Zeile: %2
         <source>Hoher Kontrast</source>
         <translation>高對比</translation>
     </message>
+    <message>
+        <source>Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines Katalogs außerhalb der Kataloge nennen.</source>
+        <translation>每行一個資料夾；型錄檔案在型錄之外引用的內容可以從中讀取。</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner:</source>
+        <translation>允許的資料夾：</translation>
+    </message>
+    <message>
+        <source>Erlaubte Ordner: &quot;%1&quot; ist kein Ordner mit vollständigem Pfad.</source>
+        <translation>允許的資料夾：「%1」不是具有完整路徑的資料夾。</translation>
+    </message>
 </context>
 <context>
     <name>ShareCommands</name>

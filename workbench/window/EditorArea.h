@@ -33,6 +33,7 @@ public:
     /// Target projects are read from repositories instead of the directory of the new release. An
     /// editor that is open is made anew.
     void setRemoteTargets(bool remote);
+    [[nodiscard]] bool hasRemoteTargets() const { return m_remoteTargets; }
     [[nodiscard]] bool isOpen() const { return m_editor != nullptr; }
 
     /// Source path of the selected project; empty if there is none.

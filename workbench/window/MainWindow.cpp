@@ -35,6 +35,7 @@
 #include <geomcore/erp/ErpNumberColumn.h>
 #include <geomcore/erp/LinkDbErpNumbers.h>
 #include <geomcore/index/IndexTreeC.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <gui/application/PApplication.h>
 #include <gui/application/PCommandKeys.h>
 #include <gui/progress/DefaultObserverDelegate.h>
@@ -332,6 +333,7 @@ void MainWindow::applySettings()
     ApplicationTheme::setColours(values.theme);
     ApplicationTheme::setFontPercent(values.fontPercent);
     m_desk->document()->setAutosaveInterval(values.autosaveMinutes * 60);
+    CatalogPlaces::instance().setAllowed(values.allowedPlaces);
     m_remote->apply(values.repository);
     m_linkDb->apply(values.linkDb, m_settings->linkDbGroup());
     m_editor->setRemoteTargets(values.repository.isUsed);

@@ -141,7 +141,8 @@ void MainWindow::checkValueRanges()
 
 void MainWindow::showTargetProject(const QString &targetPath)
 {
-    const PPathName path(CatalogMappingWidget::buildTargetPath(true, targetPath));
+    const PPathName path(
+        CatalogMappingWidget::buildTargetPath(!m_editor->hasRemoteTargets(), targetPath));
     if (!path.exists(false)) {
         PMessage::Show(tr("Das Zielprojekt %1 gibt es nicht.").arg(targetPath),
                        PMsgDlgMode::Warning);

@@ -4,6 +4,7 @@
 
 #include <geomcore/repository/CatalogRepository.h>
 
+#include <QCoreApplication>
 #include <QThread>
 
 RemoteCatalogs::RemoteCatalogs(const QString &cacheDirectory, QWidget *window)
@@ -40,14 +41,19 @@ void RemoteCatalogs::apply(const RepositorySettings &settings)
     options.servers = settings.serversByCatalog();
     options.revision = settings.revision;
     const QPointer<RemoteCatalogs> self(this);
+    // Only this thread may ask whether the window is still there, whichever reads.
+    QThread *const own = thread();
     options.tell = [self](const QString &text) {
-        if (self)
-            Q_EMIT self->told(text);
+        const auto emitTold = [self, text] {
+            if (self)
+                Q_EMIT self->told(text);
+        };
+        QMetaObject::invokeMethod(QCoreApplication::instance(), emitTold);
     };
-    options.askForLogin = [self](const QString &url,
-                                 const QString &answer) -> std::optional<RepositoryLogin> {
+    options.askForLogin = [self, own](const QString &url,
+                                      const QString &answer) -> std::optional<RepositoryLogin> {
         // A worker that waited for the dialog could be waited for by the window.
-        if (!self || QThread::currentThread() != self->thread())
+        if (QThread::currentThread() != own || !self)
             return {};
         RepositoryLoginDialog dialog(url, answer, self->m_user, self->m_window);
         if (dialog.exec() != QDialog::Accepted || !self)

@@ -27,7 +27,7 @@ public:
     void refresh();
 
 Q_SIGNALS:
-    /// From any thread: something that does not stop the work.
+    /// Something that does not stop the work; what another thread met comes with the next events.
     void told(const QString &text);
 
 private:

@@ -10,12 +10,20 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
+
+namespace {
+
+constexpr int shownPlaces = 2;
+
+} // namespace
 
 SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values, const QString &linkDbFile,
                                QWidget *parent)
@@ -27,6 +35,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values, const QS
     , m_autosave(new QSpinBox(this))
     , m_goesOn(
           new QCheckBox(tr("Nach einer Entscheidung weiter zur nä&chsten offenen Zeile"), this))
+    , m_allowed(new QPlainTextEdit(this))
     , m_repository(new RepositoryBox(values.repository, this))
     , m_linkDb(new LinkDbBox(values.linkDb, linkDbFile, this))
     , m_problem(new QLabel(this))
@@ -57,6 +66,14 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values, const QS
     m_autosave->setValue(values.autosaveMinutes);
     m_goesOn->setObjectName("goesOn");
     m_goesOn->setChecked(values.goesOn);
+    m_allowed->setObjectName("allowedPlaces");
+    m_allowed->setPlainText(values.allowedPlaces.join(u'\n'));
+    m_allowed->setToolTip(tr("Je Zeile ein Ordner, aus dem gelesen werden darf, was Dateien eines "
+                             "Katalogs außerhalb der Kataloge nennen."));
+    m_allowed->setTabChangesFocus(true);
+    m_allowed->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_allowed->setFixedHeight(m_allowed->fontMetrics().lineSpacing() * shownPlaces +
+                              m_allowed->fontMetrics().height() + 2 * m_allowed->frameWidth());
     m_problem->setObjectName("problem");
     m_problem->setWordWrap(true);
     m_problem->setTextFormat(Qt::PlainText);
@@ -68,6 +85,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values, const QS
     form->addRow(tr("Sch&riftgröße:"), m_font);
     form->addRow(tr("Sicherungs&kopie alle:"), m_autosave);
     form->addRow(m_goesOn);
+    form->addRow(tr("Erlaubte Ordner:"), m_allowed);
     layout->addLayout(form);
     layout->addWidget(m_repository);
     layout->addWidget(m_linkDb);
@@ -80,6 +98,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings::Values &values, const QS
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_repository, &RepositoryBox::changed, this, &SettingsDialog::check);
+    connect(m_allowed, &QPlainTextEdit::textChanged, this, &SettingsDialog::check);
     connect(m_linkDb, &LinkDbBox::changed, this, &SettingsDialog::check);
     check();
     PApplication::setupWindow(this);
@@ -99,6 +118,7 @@ WorkbenchSettings::Values SettingsDialog::values() const
     values.autosaveMinutes = m_autosave->value();
     values.goesOn = m_goesOn->isChecked();
     values.keys = m_keys;
+    values.allowedPlaces = allowedPlaces();
     values.repository = m_repository->settings();
     values.linkDb = m_linkDb->address();
     return values;
@@ -134,8 +154,22 @@ bool SettingsDialog::focusField(const QString &name)
     return true;
 }
 
+QStringList SettingsDialog::allowedPlaces() const
+{
+    QStringList places;
+    for (const QString &line : m_allowed->toPlainText().split(u'\n')) {
+        if (!line.trimmed().isEmpty())
+            places.append(line.trimmed());
+    }
+    return places;
+}
+
 QString SettingsDialog::problem() const
 {
+    for (const QString &place : allowedPlaces()) {
+        if (!QFileInfo(place).isAbsolute() || !QFileInfo(place).isDir())
+            return tr("Erlaubte Ordner: \"%1\" ist kein Ordner mit vollständigem Pfad.").arg(place);
+    }
     const QString ofRepository = m_repository->problem();
     return ofRepository.isEmpty() ? m_linkDb->problem() : ofRepository;
 }

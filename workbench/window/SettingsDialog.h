@@ -8,6 +8,7 @@ QT_BEGIN_NAMESPACE
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QPlainTextEdit;
 class QPushButton;
 class QSpinBox;
 QT_END_NAMESPACE
@@ -42,6 +43,7 @@ public:
 
 private:
     void check();
+    [[nodiscard]] QStringList allowedPlaces() const;
     [[nodiscard]] QString problem() const;
 
     const PCommandKeys::Choice m_keys; ///< not changed here
@@ -50,6 +52,7 @@ private:
     QSpinBox *const m_font;
     QSpinBox *const m_autosave;
     QCheckBox *const m_goesOn;
+    QPlainTextEdit *const m_allowed;
     RepositoryBox *const m_repository;
     LinkDbBox *const m_linkDb;
     QLabel *const m_problem;

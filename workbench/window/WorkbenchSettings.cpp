@@ -44,6 +44,7 @@ void WorkbenchSettings::read()
     m_values.goesOn = m_store.value("Settings/goesOn", standard.goesOn).toBool();
     m_values.keys = readKeys();
     m_values.repository = readRepository();
+    m_values.allowedPlaces = m_store.value("Settings/allowedPlaces").toStringList();
     m_values.linkDb = m_store.value("LinkDb/address").toString();
 }
 
@@ -126,6 +127,7 @@ void WorkbenchSettings::writeValues()
     m_store.setValue("Settings/goesOn", m_values.goesOn);
     writeKeys();
     const RepositorySettings &repository = m_values.repository;
+    m_store.setValue("Settings/allowedPlaces", m_values.allowedPlaces);
     m_store.setValue("LinkDb/address", m_values.linkDb);
     m_store.setValue("Repository/use", repository.isUsed);
     m_store.setValue("Repository/servers", repository.servers);

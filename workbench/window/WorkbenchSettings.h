@@ -25,7 +25,8 @@ public:
         bool goesOn = true;        ///< to the next open line after a decision
         PCommandKeys::Choice keys; ///< of commands that have other keys than the standard ones
         RepositorySettings repository;
-        QString linkDb; ///< address as LinkDbSettings has it; empty: none is used
+        QStringList allowedPlaces; ///< native; beside the catalogs, what their files may name
+        QString linkDb;            ///< address as LinkDbSettings has it; empty: none is used
 
         friend bool operator==(const Values &, const Values &) = default;
     };

@@ -2,6 +2,7 @@
 
 #include <core/message/PMessage.h>
 #include <core/message/PScriptedMessageSink.h>
+#include <geomcore/project/CatalogPlaces.h>
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <workbench/window/DocumentDesk.h>
@@ -9,6 +10,7 @@
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/PartView.h>
 #include <workbench/window/StatusArea.h>
+#include <workbench/window/WorkbenchSettings.h>
 
 #include <QDir>
 #include <QFile>
@@ -45,6 +47,7 @@ private Q_SLOTS:
     void findsAndFilters();
     void oneViewForAProject();
     void closesWithTheDocument();
+    void placesOfTheSettingsMayBeRead();
     void missingProject();
     void unreadableTable();
     void hostilePath();
@@ -115,6 +118,21 @@ void tst_PartView::closesWithTheDocument()
     Q_EMIT fixture.window->editor()->targetProjectWanted(Target);
     QVERIFY(fixture.window->desk()->close());
     QTRY_COMPARE(partViews(fixture).size(), 0);
+}
+
+void tst_PartView::placesOfTheSettingsMayBeRead()
+{
+    WindowFixture fixture;
+    const QTemporaryDir elsewhere;
+    const QString file = elsewhere.filePath("a.prj");
+    QVERIFY(!CatalogPlaces::instance().refusalOfTarget(file).isEmpty());
+    WorkbenchSettings::Values values = fixture.settings->values();
+    values.allowedPlaces = QStringList{elsewhere.path()};
+    fixture.settings->setValues(values);
+    QCOMPARE(CatalogPlaces::instance().refusalOfTarget(file), QString());
+    values.allowedPlaces.clear();
+    fixture.settings->setValues(values);
+    QVERIFY(!CatalogPlaces::instance().refusalOfTarget(file).isEmpty());
 }
 
 void tst_PartView::missingProject()

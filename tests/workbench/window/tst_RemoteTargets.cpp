@@ -6,6 +6,7 @@
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/LogWindow.h>
 #include <workbench/window/MainWindow.h>
+#include <workbench/window/PartView.h>
 #include <workbench/window/RepositoryBox.h>
 #include <workbench/window/RepositoryLoginDialog.h>
 #include <workbench/window/SettingsDialog.h>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void targetsComeFromTheRepository();
+    void partViewShowsTheRepositorys();
     void isSwitchedByTheSettings();
     void refreshAsksForWhatIsNew();
     void aServerThatIsGoneIsTold();
@@ -105,6 +107,17 @@ void tst_RemoteTargets::targetsComeFromTheRepository()
     QVERIFY(fetched().contains("iso4762.prj"));
     const QString log = m_fixture->window->log()->text();
     QVERIFY2(!log.contains("svn://") && !log.contains("iso4762"), qPrintable(log));
+}
+
+void tst_RemoteTargets::partViewShowsTheRepositorys()
+{
+    m_fixture->settings->setValues(remote());
+    open();
+    Q_EMIT m_fixture->window->editor()->targetProjectWanted(project);
+    const QList<PartView *> views = m_fixture->window->findChildren<PartView *>();
+    QCOMPARE(views.size(), 1);
+    const QString file = views.first()->findChild<QLabel *>("file")->text();
+    QVERIFY2(file.startsWith(m_fixture->settings->repositoryCache()), qPrintable(file));
 }
 
 void tst_RemoteTargets::isSwitchedByTheSettings()

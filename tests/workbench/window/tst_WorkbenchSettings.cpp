@@ -2,7 +2,10 @@
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <QComboBox>
+#include <QFile>
 #include <QGroupBox>
+#include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -33,6 +36,7 @@ private Q_SLOTS:
         values.theme = "dark";
         values.fontPercent = 125;
         values.autosaveMinutes = 0;
+        values.allowedPlaces = QStringList{"/a b", "/c;d, \"e\""};
         values.keys["goNext"] = QKeySequence("Ctrl+Down");
         values.keys["lineConfirm"] = QKeySequence();
         {
@@ -134,6 +138,31 @@ private Q_SLOTS:
         values.fontPercent = 150;
         values.autosaveMinutes = 0;
         QCOMPARE(dialog.values(), values);
+    }
+
+    void allowedPlaces()
+    {
+        WorkbenchSettings::Values values;
+        values.allowedPlaces = QStringList{m_directory.path()};
+        SettingsDialog dialog(values, QString(), nullptr);
+        QCOMPARE(dialog.values(), values);
+        auto *const places = dialog.findChild<QPlainTextEdit *>("allowedPlaces");
+        const auto *const ok = dialog.findChild<QPushButton *>("ok");
+        QVERIFY(ok->isEnabled());
+        for (const QString &wrong :
+             {QString("relative"), m_directory.filePath("none"), m_directory.filePath("file")}) {
+            QFile(m_directory.filePath("file")).open(QIODevice::WriteOnly);
+            places->setPlainText(m_directory.path() + '\n' + wrong);
+            QVERIFY(!ok->isEnabled());
+            QCOMPARE(dialog.findChild<QLabel *>("problem")->text(),
+                     "Erlaubte Ordner: \"" + wrong + "\" ist kein Ordner mit vollständigem Pfad.");
+        }
+        places->setPlainText("\n " + m_directory.path() + " \n\n");
+        QVERIFY(ok->isEnabled());
+        QCOMPARE(dialog.values().allowedPlaces, QStringList(m_directory.path()));
+        places->clear();
+        QVERIFY(ok->isEnabled());
+        QVERIFY(dialog.values().allowedPlaces.isEmpty());
     }
 
     void dialogTellsItsFields()
