@@ -438,6 +438,12 @@ void tst_SearchWidget::fullTextConditionIsTheWords()
     QCOMPARE(query().text, QString("din"));
     type("iso");
     QCOMPARE(query().text, QString("iso")); // not both
+    const PRefPtr<IndexTreeKeySearchC> words(new IndexTreeKeySearchC(IndexTreeC::instance()));
+    words->setKeyWord("4014");
+    request->addSearchClass(words);
+    top->setRequestData(request);
+    QCOMPARE(child<QLineEdit>("searchWords")->text(), QString("4014 din"));
+    QCOMPARE(query().text, QString("4014 din")); // each once
     const auto *const search = dynamic_cast<IndexTreeVarSearchC *>(
         top->getRequestData()->getSearchClassByName(IndexTreeVarSearchC::searchName(), true).get());
     QVERIFY(search);
@@ -609,6 +615,11 @@ void tst_SearchWidget::keyboardAlone()
     while (!view->hasFocus())
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QCOMPARE(view->getSelectedItems().size(), 1);
+    // The mouse selects what it hits, and nothing else.
+    words->setFocus();
+    view->clearSelection();
+    view->setFocus(Qt::MouseFocusReason);
+    QCOMPARE(view->getSelectedItems().size(), 0);
 }
 
 void tst_SearchWidget::recentWords()

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void addTarget();
     void addTargetWithoutRelease();
     void addSameTargetTwice();
+    void addFirstTargetTwice();
     void addTargetCancelled();
     void removeFirstTarget();
     void removeLastTarget();
@@ -292,6 +293,19 @@ void tst_ProjectMappingWidget::addSameTargetTwice()
     QCOMPARE(panelPaths(&editor.widget),
              QStringLiteral("new/b.prj new/a.prj new/b.prj new/b.prj new/c.prj"));
     QCOMPARE(editor.places(), QStringLiteral("0v 1^v 2^v 3^v 4^"));
+}
+
+void tst_ProjectMappingWidget::addFirstTargetTwice()
+{
+    Editor editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/b.prj", "new/a.prj"});
+    addCondition(mapping, 0, "k .LT. 9");
+    editor.load(mapping, CatalogMappingC());
+    editor.answerProjectDialog("new/b.prj");
+    QTest::mouseClick(editor.widget.findChild<QPushButton *>("addTargetButton"), Qt::LeftButton);
+    QCOMPARE(targetPaths(editor.announced()), QStringLiteral("new/b.prj new/b.prj new/a.prj"));
+    QVERIFY(editor.announced().findTarget(0).getConditions().isEmpty()); // the new one
+    QCOMPARE(editor.announced().findTarget(1).getConditions().size(), 1);
 }
 
 void tst_ProjectMappingWidget::addTargetCancelled()

@@ -149,6 +149,8 @@ void tst_TargetMappingEdits::editCondition()
     } else {
         editor.conditions()->setFocus();
         editor.conditions()->setCurrentIndex(editor.conditions()->model()->index(1, 1));
+        QTest::keyClick(editor.conditions(), Qt::Key(key), Qt::ShiftModifier);
+        QCOMPARE(editor.formulas, 0); // other keys' business
         QTest::keyClick(editor.conditions(), Qt::Key(key));
     }
     QCOMPARE(editor.formulas, 1);

@@ -382,6 +382,9 @@ void tst_dlgSelect::preselect()
     // Done once.
     clickRow(treeOf(dialog), "cat9");
     QCOMPARE(pathOf(widget->selectedItem()), QString("cat9"));
+    QString name("empty");
+    widget->preselect(name);
+    QVERIFY(name.isEmpty());
 }
 
 void tst_dlgSelect::preselectUnknown_data()
