@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>%1 Zeilen</source>
-        <translation>%1 líneas</translation>
+        <translation>%1 filas</translation>
     </message>
     <message>
         <source>%1 von %2 Projekten</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>1 Zeile</source>
-        <translation>1 línea</translation>
+        <translation>1 fila</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>

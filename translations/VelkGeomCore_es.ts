@@ -5,7 +5,7 @@
     <name>VelkGeomCore</name>
     <message>
         <source>  Zeile %1</source>
-        <translation>  Línea %1</translation>
+        <translation>  Fila %1</translation>
     </message>
     <message>
         <source>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</source>
@@ -47,9 +47,9 @@
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
   Projekt: %1
   Zeile: %2</source>
-        <translation>Otro proyecto de destino también tiene una línea con estos valores.
+        <translation>Otro proyecto de destino también tiene una fila con estos valores.
   Proyecto: %1
-  Línea: %2</translation>
+  Fila: %2</translation>
     </message>
     <message>
         <source>Das Programm %1 für das Katalog-Repository kann nicht gestartet werden: %2</source>
@@ -267,7 +267,7 @@
     </message>
     <message>
         <source>Die Zielzeile ist schon für eine andere Zeile bestätigt.</source>
-        <translation>La línea de destino ya está confirmada para otra línea.</translation>
+        <translation>La fila de destino ya está confirmada para otra fila.</translation>
     </message>
     <message>
         <source>Die gelöschte Zeile %1 steht nicht mehr im Protokoll der Linkdatenbank; sie ist wohl schon wiederhergestellt</source>
@@ -284,16 +284,16 @@
     <message>
         <source>Die meisten Zeilen haben im Zielprojekt andere Werte.
   Zielprojekt: %1</source>
-        <translation>La mayoría de las líneas tiene otros valores en el proyecto de destino.
+        <translation>La mayoría de las filas tiene otros valores en el proyecto de destino.
   Proyecto de destino: %1</translation>
     </message>
     <message>
         <source>Die zugeordnete Zeile gibt es in der Zieltabelle nicht.
   Projekt: %1
   Zeile: %2</source>
-        <translation>La línea asignada no existe en la tabla de destino.
+        <translation>La fila asignada no existe en la tabla de destino.
   Proyecto: %1
-  Línea: %2</translation>
+  Fila: %2</translation>
     </message>
     <message>
         <source>Die Änderungen sind mit der Verbindung zur Linkdatenbank verloren gegangen; sie sind zu wiederholen</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>Keine Zeile der Ziele passt zu dieser.</source>
-        <translation>Ninguna línea de los destinos corresponde a esta.</translation>
+        <translation>Ninguna fila de los destinos corresponde a esta.</translation>
     </message>
     <message>
         <source>Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
-        <translation>Igual solo por condiciones o asignaciones de variables propuestas. Valen en cuanto se confirme una línea del destino.</translation>
+        <translation>Igual solo por condiciones o correspondencias de variables propuestas. Valen en cuanto se confirme una fila del destino.</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>
@@ -417,11 +417,11 @@
     </message>
     <message>
         <source>Weitere Zeilen der Quelltabelle haben diese Werte.</source>
-        <translation>Otras líneas de la tabla de origen tienen estos valores.</translation>
+        <translation>Otras filas de la tabla de origen tienen estos valores.</translation>
     </message>
     <message>
         <source>Weitere Zeilen der Zieltabelle haben diese Werte.</source>
-        <translation>Otras líneas de la tabla de destino tienen estos valores.</translation>
+        <translation>Otras filas de la tabla de destino tienen estos valores.</translation>
     </message>
     <message>
         <source>Wert</source>
@@ -470,7 +470,7 @@
     <message>
         <source>Zu wenige Werte der Zeile haben eine Entsprechung in der Zieltabelle.
   Ohne Entsprechung: %1</source>
-        <translation>Muy pocos valores de la línea tienen equivalente en la tabla de destino.
+        <translation>Muy pocos valores de la fila tienen equivalente en la tabla de destino.
   Sin equivalente: %1</translation>
     </message>
     <message>
@@ -515,7 +515,7 @@
     </message>
     <message>
         <source>so in %1 weiteren Zeilen</source>
-        <translation>así en otras %1 líneas</translation>
+        <translation>así en otras %1 filas</translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

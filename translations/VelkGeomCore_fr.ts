@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
-        <translation>Identique seulement grâce à des conditions ou des affectations de variables proposées. Elles valent dès qu’une ligne de la cible est confirmée.</translation>
+        <translation>Identique seulement grâce à des conditions ou des correspondances de variables proposées. Elles valent dès qu’une ligne de la cible est confirmée.</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>

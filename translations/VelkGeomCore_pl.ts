@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>Nur wegen vorgeschlagener Bedingungen oder Variablenzuordnungen gleich. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
-        <translation>Równe tylko dzięki zaproponowanym warunkom lub przypisaniom zmiennych. Obowiązują, gdy jeden wiersz celu zostanie potwierdzony.</translation>
+        <translation>Równe tylko dzięki zaproponowanym warunkom lub mapowaniom zmiennych. Obowiązują, gdy jeden wiersz celu zostanie potwierdzony.</translation>
     </message>
     <message>
         <source>Ob es den Wert gibt: eine leere Zelle hat keinen. Steht, wo ein Vergleich stehen kann.</source>

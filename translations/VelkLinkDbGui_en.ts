@@ -13,15 +13,15 @@
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
-        <translation>&lt;br /&gt;The line was marked as expired.</translation>
+        <translation>&lt;br /&gt;The line was marked as discontinued.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
-        <translation>&lt;br /&gt;The line was assigned anew. The line newly assigned does not exist (locally).</translation>
+        <translation>&lt;br /&gt;The line was assigned again. The line newly assigned does not exist (locally).</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
-        <translation>&lt;br /&gt;This line was marked as expired.</translation>
+        <translation>&lt;br /&gt;This line was marked as discontinued.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
@@ -225,7 +225,7 @@ Really go on?</translation>
     </message>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
-        <translation>The lines were not assigned anew and stay as they are. These target projects cannot be read: %1</translation>
+        <translation>The lines were not assigned again and stay as they are. These target projects cannot be read: %1</translation>
     </message>
     <message>
         <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
@@ -233,7 +233,7 @@ Really go on?</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation>This line has expired. The modeller has confirmed this</translation>
+        <translation>This line is discontinued. The modeller has confirmed this</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
@@ -475,11 +475,11 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     </message>
     <message>
         <source>Vorzugsreihen  ein und ausschalten</source>
-        <translation>Switch preferred ranges on and off</translation>
+        <translation>Switch preferred series on and off</translation>
     </message>
     <message>
         <source>Vorzugsreihen An/Aus</source>
-        <translation>Preferred ranges on/off</translation>
+        <translation>Preferred series on/off</translation>
     </message>
     <message>
         <source>Wert</source>
@@ -531,7 +531,7 @@ The assignment must be changed by 'Edit value range assignment'</translation>
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
-        <translation>Lines are being assigned anew</translation>
+        <translation>Lines are being assigned again</translation>
     </message>
     <message>
         <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>

@@ -13,19 +13,19 @@
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
-        <translation>&lt;br /&gt;La línea se marcó como caducada.</translation>
+        <translation>&lt;br /&gt;La fila se marcó como descatalogada.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
-        <translation>&lt;br /&gt;La línea se reasignó. La línea asignada de nuevo no existe (localmente).</translation>
+        <translation>&lt;br /&gt;La fila se reasignó. La fila asignada de nuevo no existe (localmente).</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
-        <translation>&lt;br /&gt;Esta línea se marcó como caducada.</translation>
+        <translation>&lt;br /&gt;Esta fila se marcó como descatalogada.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
-        <translation>&lt;br /&gt;Esta línea se asignó a la línea&lt;br /&gt;%1 del proyecto %2.</translation>
+        <translation>&lt;br /&gt;Esta fila se asignó a la fila&lt;br /&gt;%1 del proyecto %2.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Neue Zuordnung: &lt;br /&gt;%3 des Projektes %4 &lt;br /&gt;.</source>
@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>Aktuell markierte Zeile zuordnen</source>
-        <translation>Asignar la línea seleccionada</translation>
+        <translation>Asignar la fila seleccionada</translation>
     </message>
     <message>
         <source>Aktuell zugeordnete Zeile</source>
-        <translation>Línea asignada actualmente</translation>
+        <translation>Fila asignada actualmente</translation>
     </message>
     <message>
         <source>Alle Zuordnungen bestätigen</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Aufgelöste Wertebereiche für diese Zeile zuordnen</source>
-        <translation>Asignar los rangos de valores resueltos de esta línea</translation>
+        <translation>Asignar los rangos de valores resueltos de esta fila</translation>
     </message>
     <message>
         <source>Aufgelöste Wertebereiche zuordnen</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Automatisch zugeordnete Zeilen</source>
-        <translation>Líneas asignadas automáticamente</translation>
+        <translation>Filas asignadas automáticamente</translation>
     </message>
     <message>
         <source>Baum gefiltert darstellen</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Bedingung für die markierte Zeile generieren und in die Zwischenablage kopieren</source>
-        <translation>Generar una condición para la línea seleccionada y copiarla al portapapeles</translation>
+        <translation>Generar una condición para la fila seleccionada y copiarla al portapapeles</translation>
     </message>
     <message>
         <source>Bedingung hinzufügen</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
-        <translation>Las condiciones y asignaciones de variables son propuestas. Valen en cuanto se confirme una línea del destino.</translation>
+        <translation>Las condiciones y correspondencias de variables son propuestas. Valen en cuanto se confirme una fila del destino.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -221,11 +221,11 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Die Zeile %1 wurde geändert.</source>
-        <translation>Se cambió la línea %1.</translation>
+        <translation>Se cambió la fila %1.</translation>
     </message>
     <message>
         <source>Die Zeilen wurden nicht neu zugewiesen und bleiben, wie sie sind. Diese Zielprojekte können nicht gelesen werden: %1</source>
-        <translation>Las líneas no se han vuelto a asignar y quedan como están. No se pueden leer estos proyectos de destino: %1</translation>
+        <translation>Las filas no se han vuelto a asignar y quedan como están. No se pueden leer estos proyectos de destino: %1</translation>
     </message>
     <message>
         <source>DieVariable %1 existiert nicht in der Quelltabelle</source>
@@ -233,15 +233,15 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation>Esta línea ha caducado. El modelador lo ha confirmado</translation>
+        <translation>Esta fila está descatalogada. El modelador lo ha confirmado</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
-        <translation>Esta línea no se pudo asignar</translation>
+        <translation>Esta fila no se pudo asignar</translation>
     </message>
     <message>
         <source>Diese Zeile wurde automatisch zugeordnet. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation>Esta línea se asignó automáticamente. La asignación debe confirmarse o corregirse</translation>
+        <translation>Esta fila se asignó automáticamente. La asignación debe confirmarse o corregirse</translation>
     </message>
     <message>
         <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
@@ -249,7 +249,7 @@ Wirklich fortfahren?</source>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
-        <translation>Asignar este proyecto a la línea seleccionada</translation>
+        <translation>Asignar este proyecto a la fila seleccionada</translation>
     </message>
     <message>
         <source>Dokument-Liste</source>
@@ -270,7 +270,7 @@ Wirklich fortfahren?</source>
     <message>
         <source>Es existiert eine Wertebereichszuordnung für diese Zeile.
 Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</source>
-        <translation>Hay una asignación de rango de valores para esta línea.
+        <translation>Hay una asignación de rango de valores para esta fila.
 La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</translation>
     </message>
     <message>
@@ -283,7 +283,7 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Es existiert mindestens eine nicht zugeordnete Zeile.</source>
-        <translation>Hay al menos una línea sin asignar.</translation>
+        <translation>Hay al menos una fila sin asignar.</translation>
     </message>
     <message>
         <source>Es existiert mindestens eine unbestätigte Änderung.</source>
@@ -310,7 +310,7 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     <message>
         <source>Fehler beim Kopieren der Variablenzuordnung.
 %1</source>
-        <translation>Error al copiar la asignación de variables.
+        <translation>Error al copiar la correspondencia de variables.
 %1</translation>
     </message>
     <message>
@@ -323,11 +323,11 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Für diese Zeile besteht ein Konflikt. Die Zuordnung muss bestätigt oder korrigiert werden</source>
-        <translation>Hay un conflicto en esta línea. La asignación debe confirmarse o corregirse</translation>
+        <translation>Hay un conflicto en esta fila. La asignación debe confirmarse o corregirse</translation>
     </message>
     <message>
         <source>Gesamtanzahl Zeilen</source>
-        <translation>Número total de líneas</translation>
+        <translation>Número total de filas</translation>
     </message>
     <message>
         <source>Gruppe auswählen</source>
@@ -391,7 +391,7 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Nicht gefundene Zeilen</source>
-        <translation>Líneas no encontradas</translation>
+        <translation>Filas no encontradas</translation>
     </message>
     <message>
         <source>Normbezeichnung</source>
@@ -403,11 +403,11 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Nur Zeilen anzeigen, die mehrfach zugeordnet sind</source>
-        <translation>Mostrar solo líneas asignadas varias veces</translation>
+        <translation>Mostrar solo filas asignadas varias veces</translation>
     </message>
     <message>
         <source>Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind</source>
-        <translation>Mostrar solo líneas de la tabla original asignadas a esta línea</translation>
+        <translation>Mostrar solo filas de la tabla original asignadas a esta fila</translation>
     </message>
     <message>
         <source>Pfad:</source>
@@ -443,7 +443,7 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Tabellenzeile auswählen</source>
-        <translation>Seleccionar línea de la tabla</translation>
+        <translation>Seleccionar fila de la tabla</translation>
     </message>
     <message>
         <source>Variable</source>
@@ -459,7 +459,7 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Variablenzuordnung hinzufügen</source>
-        <translation>Añadir asignación de variable</translation>
+        <translation>Añadir correspondencia de variables</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>
@@ -503,43 +503,43 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Zeige nur Projekte mit nicht zugeordneten Zeilen</source>
-        <translation>Mostrar solo proyectos con líneas sin asignar</translation>
+        <translation>Mostrar solo proyectos con filas sin asignar</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit unvollständigen Mappings</source>
-        <translation>Mostrar solo proyectos con correspondencias incompletas</translation>
+        <translation>Mostrar solo proyectos con mapeos incompletos</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit zugeordneten Zeilen</source>
-        <translation>Mostrar solo proyectos con líneas asignadas</translation>
+        <translation>Mostrar solo proyectos con filas asignadas</translation>
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Quellprojekt)</source>
-        <translation>Mostrar solo líneas sin asignar (proyecto de origen)</translation>
+        <translation>Mostrar solo filas sin asignar (proyecto de origen)</translation>
     </message>
     <message>
         <source>Zeige nur nicht zugewiesene Zeilen (Zielprojekt)</source>
-        <translation>Mostrar solo líneas sin asignar (proyecto de destino)</translation>
+        <translation>Mostrar solo filas sin asignar (proyecto de destino)</translation>
     </message>
     <message>
         <source>Zeile mit LineID %1 wird zugeordnet...</source>
-        <translation>Asignando la línea con LineID %1...</translation>
+        <translation>Asignando la fila con LineID %1...</translation>
     </message>
     <message>
         <source>Zeilen erneut zuweisen</source>
-        <translation>Volver a asignar las líneas</translation>
+        <translation>Volver a asignar las filas</translation>
     </message>
     <message>
         <source>Zeilen werden neu zugewiesen</source>
-        <translation>Reasignando las líneas</translation>
+        <translation>Reasignando las filas</translation>
     </message>
     <message>
         <source>Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, die nicht mehr passten: %4</source>
-        <translation>Líneas: %1 de %2 · abiertas que se asignarían: %3 · confirmadas que ya no encajarían: %4</translation>
+        <translation>Filas: %1 de %2 · abiertas que se asignarían: %3 · confirmadas que ya no encajarían: %4</translation>
     </message>
     <message>
         <source>Zeilennummer</source>
-        <translation>Número de línea</translation>
+        <translation>Número de fila</translation>
     </message>
     <message>
         <source>Zielprojekt</source>
@@ -575,11 +575,11 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben</source>
-        <translation>Anular la asignación de esta línea</translation>
+        <translation>Anular la asignación de esta fila</translation>
     </message>
     <message>
         <source>Zuordnung dieser Zeile aufheben und bestätigen</source>
-        <translation>Anular la asignación de esta línea y confirmar</translation>
+        <translation>Anular la asignación de esta fila y confirmar</translation>
     </message>
     <message>
         <source>Zuordnung löschen</source>

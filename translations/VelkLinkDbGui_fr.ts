@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde als ausgelaufen markiert.</source>
-        <translation>&lt;br /&gt;La ligne a été marquée comme supprimée du programme.</translation>
+        <translation>&lt;br /&gt;La ligne a été marquée comme retirée du catalogue.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Die Zeile wurde neu zugewiesen. Die neu zugewiesene Zeile existiert (lokal) nicht.</source>
@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde als ausgelaufen markiert.</source>
-        <translation>&lt;br /&gt;Cette ligne a été marquée comme supprimée du programme.</translation>
+        <translation>&lt;br /&gt;Cette ligne a été marquée comme retirée du catalogue.</translation>
     </message>
     <message>
         <source>&lt;br /&gt;Diese Zeile wurde der Zeile&lt;br /&gt;%1 des Projektes %2 zugewiesen.</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
-        <translation>Les conditions et les affectations de variables sont proposées. Elles valent dès qu’une ligne de la cible est confirmée.</translation>
+        <translation>Les conditions et les correspondances de variables sont proposées. Elles valent dès qu’une ligne de la cible est confirmée.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -233,7 +233,7 @@ Vraiment continuer ?</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation>Cette ligne est supprimée du programme. Le modeleur l'a confirmé</translation>
+        <translation>Cette ligne est retirée du catalogue. Le modélisateur l'a confirmé</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
@@ -245,7 +245,7 @@ Vraiment continuer ?</translation>
     </message>
     <message>
         <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
-        <translation>Le modeleur a confirmé cette affectation</translation>
+        <translation>Le modélisateur a confirmé cette affectation</translation>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
@@ -310,7 +310,7 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     <message>
         <source>Fehler beim Kopieren der Variablenzuordnung.
 %1</source>
-        <translation>Erreur lors de la copie de l’affectation de variable.
+        <translation>Erreur lors de la copie de la correspondance de variables.
 %1</translation>
     </message>
     <message>
@@ -459,7 +459,7 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     </message>
     <message>
         <source>Variablenzuordnung hinzufügen</source>
-        <translation>Ajouter une affectation de variable</translation>
+        <translation>Ajouter une correspondance de variables</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>
@@ -507,7 +507,7 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
     </message>
     <message>
         <source>Zeige nur Projekte mit unvollständigen Mappings</source>
-        <translation>N'afficher que les projets avec des correspondances incomplètes</translation>
+        <translation>N'afficher que les projets avec des mappings incomplets</translation>
     </message>
     <message>
         <source>Zeige nur Projekte mit zugeordneten Zeilen</source>

@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>Beantragen einer ERP-Nummer per Mail</source>
-        <translation>Zamów numer ERP pocztą</translation>
+        <translation>Zamów numer ERP e-mailem</translation>
     </message>
     <message>
         <source>Bearbeiten...</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Bedingungen und Variablenzuordnungen sind vorgeschlagen. Sie gelten, sobald eine Zeile des Ziels bestätigt ist.</source>
-        <translation>Warunki i przypisania zmiennych są propozycją. Obowiązują, gdy jeden wiersz celu zostanie potwierdzony.</translation>
+        <translation>Warunki i mapowania zmiennych są propozycją. Obowiązują, gdy jeden wiersz celu zostanie potwierdzony.</translation>
     </message>
     <message>
         <source>Benutzer authentifizieren/wechseln</source>
@@ -233,7 +233,7 @@ Naprawdę kontynuować?</translation>
     </message>
     <message>
         <source>Diese Zeile ist ausgelaufen. Dies wurde vom Modellierer bestätigt</source>
-        <translation>Ten wiersz został wycofany. Potwierdził to modelarz</translation>
+        <translation>Ten wiersz został wycofany. Potwierdził to konstruktor</translation>
     </message>
     <message>
         <source>Diese Zeile konnte nicht zugeordnet werden</source>
@@ -245,7 +245,7 @@ Naprawdę kontynuować?</translation>
     </message>
     <message>
         <source>Diese Zuordnung wurde vom Modellierer bestätigt</source>
-        <translation>Modelarz potwierdził to przypisanie</translation>
+        <translation>Konstruktor potwierdził to przypisanie</translation>
     </message>
     <message>
         <source>Dieses Projekt der aktuell selektierten Zeile zuweisen</source>
@@ -310,7 +310,7 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     <message>
         <source>Fehler beim Kopieren der Variablenzuordnung.
 %1</source>
-        <translation>Błąd podczas kopiowania przypisania zmiennej.
+        <translation>Błąd podczas kopiowania mapowania zmiennych.
 %1</translation>
     </message>
     <message>
@@ -459,7 +459,7 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
     </message>
     <message>
         <source>Variablenzuordnung hinzufügen</source>
-        <translation>Dodaj przypisanie zmiennej</translation>
+        <translation>Dodaj mapowanie zmiennych</translation>
     </message>
     <message>
         <source>Versteckte Spalten anzeigen</source>

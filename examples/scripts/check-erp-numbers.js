@@ -20,7 +20,7 @@ for (let i = 0; i < mapping.projectCount; ++i) {
         else if (project.isOpenAt(row))
             tell(place + " - the line is open");
         else if (project.targetLineAt(row) < 0)
-            tell(place + " - the line has expired");
+            tell(place + " - the line is discontinued");
         for (const number of numbers.numbersOf(line).split("; ")) {
             if (number in lineOf)
                 tell(place + " - line " + lineOf[number] + " has it, too");

@@ -134,7 +134,7 @@ void tst_DocumentFile::cannotRead()
     const DocumentFile::Reading reading = read();
     QCOMPARE(reading.result, OpenResult::Unreadable);
     QVERIFY(!reading.release);
-    QVERIFY2(reading.errorText.startsWith("Die Zuordnungsdatei " + m_file +
+    QVERIFY2(reading.errorText.startsWith("Die Mapping-Datei " + m_file +
                                           " kann nicht gelesen werden (") &&
                  reading.errorText.endsWith(").\nBitte eine andere Datei wählen."),
              qPrintable(reading.errorText));

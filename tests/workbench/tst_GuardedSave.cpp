@@ -286,7 +286,7 @@ void tst_GuardedSave::unreadableFilesAreKept()
     SessionFixture::setContent(m_file, content);
     SaveOutcome outcome = m_document->save();
     QCOMPARE(outcome.result, SaveResult::Unreadable);
-    QVERIFY(outcome.text.contains(QStringLiteral("keine lesbare Zuordnungsdatei")));
+    QVERIFY(outcome.text.contains(QStringLiteral("keine lesbare Mapping-Datei")));
     QCOMPARE(SessionFixture::content(m_file), content);
 
     SaveOptions options;

@@ -362,7 +362,7 @@ void tst_SessionRecovery::aForeignChangeSinceThen()
     QCOMPARE(open(), MappingDocument::OpenResult::Opened);
     QCOMPARE(problems.size(), 1);
     QVERIFY(problems.first().first().toString().contains(
-        QStringLiteral("passt nicht zur Zuordnungsdatei")));
+        QStringLiteral("passt nicht zur Mapping-Datei")));
     QCOMPARE(names(QStringLiteral("release.json.journal.alt-*")).size(), 1);
 }
 

@@ -224,7 +224,7 @@ void tst_StepTexts::notices_data()
     QTest::newRow("condition dropped")
         << with({c, QStringLiteral("B.EQ.1")}, {}) << with({c}, {})
         << QList<int>{ChangeNotice::ConditionDropped}
-        << QStringLiteral("Eine Bedingung des Zielprojekts new/t.prj in cat/a.prj ist entfallen.");
+        << QStringLiteral("Eine Bedingung des Zielprojekts new/t.prj in cat/a.prj wurde entfernt.");
     QTest::newRow("condition added") << with({}, {}) << with({c}, {}) << QList<int>{} << QString();
     QTest::newRow("modifier dropped")
         << with({}, {a, b}) << with({}, {a})

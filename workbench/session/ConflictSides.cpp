@@ -46,7 +46,7 @@ QString ConflictSides::stateText(const LineStanding &standing)
     case LineWay::Assigned:
         return tr("automatisch zugeordnet");
     case LineWay::ToCheck:
-        return tr("zu überprüfen");
+        return tr("zu prüfen");
     case LineWay::Confirmed:
         return tr("bestätigt");
     case LineWay::Removed:

@@ -61,10 +61,10 @@ DocumentFile::Reading DocumentFile::read(const QString &path, const QString &dat
         reading.result = OpenResult::Unreadable;
         reading.errorText =
             OwnFile::place(backup) == OwnFile::Place::RegularFile
-                ? tr("Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).\nBitte eine andere "
+                ? tr("Die Mapping-Datei %1 kann nicht gelesen werden (%2).\nBitte eine andere "
                      "Datei wählen oder die Sicherungskopie %3 zurückkopieren.")
                       .arg(path, cause, QFileInfo(backup).fileName())
-                : tr("Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).\nBitte eine andere "
+                : tr("Die Mapping-Datei %1 kann nicht gelesen werden (%2).\nBitte eine andere "
                      "Datei wählen.")
                       .arg(path, cause);
     } else if (!reading.release) {

@@ -121,12 +121,12 @@ bool GuardedSave::examineUnreadable(const QString &error, const SaveOptions &opt
     if (!options.overUnreadable)
         return end(SaveResult::Unreadable,
                    (m_outcome.fromBackup.isEmpty()
-                        ? tr("%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts "
+                        ? tr("%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts "
                              "geschrieben. Beim Speichern wird die vorhandene Datei unter einem "
                              "Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur "
                              "diesen Stand enthält.")
                               .arg(m_file, error)
-                        : tr("%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts "
+                        : tr("%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts "
                              "geschrieben. Beim Speichern wird die vorhandene Datei unter einem "
                              "Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen "
                              "Stände kommen aus der Sicherung %3: %4.")

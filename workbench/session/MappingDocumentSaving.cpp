@@ -9,7 +9,7 @@ std::optional<SaveOutcome> MappingDocumentPrivate::refuseSaving() const
     SaveOutcome outcome;
     outcome.result = SaveResult::ReadOnly;
     if (!isOpen) {
-        outcome.text = MappingDocument::tr("Es ist keine Zuordnungsdatei geöffnet.");
+        outcome.text = MappingDocument::tr("Es ist keine Mapping-Datei geöffnet.");
         return outcome;
     }
     if (m_saving) {

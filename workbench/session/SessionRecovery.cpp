@@ -302,7 +302,7 @@ QString SessionRecovery::damageText() const
     if (lost == 0 && m_session.isKnown)
         return tr("Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.")
             .arg(journal);
-    return tr("Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 "
+    return tr("Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 "
               "spätere Änderungen fehlen; das Journal wird aufgehoben.")
         .arg(journal, QString::number(lost));
 }

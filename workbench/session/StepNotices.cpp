@@ -104,11 +104,11 @@ private:
         const TargetHead &after = pair.headAfter;
         if (after.conditions.size() < before.conditions.size())
             add(ChangeNotice::ConditionDropped,
-                tr("Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.")
+                tr("Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.")
                     .arg(after.path, path));
         if (after.modifiers.size() < before.modifiers.size())
             add(ChangeNotice::ModifierDropped,
-                tr("Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.")
+                tr("Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.")
                     .arg(after.path, path));
         if (after.modifiers != before.modifiers && pair.lines.empty())
             m_remapDue = true;

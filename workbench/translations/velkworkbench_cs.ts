@@ -324,7 +324,7 @@ Jiné: %2</translation>
         <translation>přiřazeno automaticky</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>ke kontrole</translation>
     </message>
     <message>
@@ -591,13 +591,13 @@ Jiné: %2</translation>
         <translation>Čte se %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Mapovací soubor %1 nelze přečíst (%2).
 Zvolte jiný soubor nebo obnovte záložní kopii %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Mapovací soubor %1 nelze přečíst (%2).
 Zvolte jiný soubor.</translation>
@@ -693,11 +693,11 @@ Zvolte jiný soubor.</translation>
         <translation>%1 nelze přečíst (%2). Nic nebylo zapsáno. Uložte pod jiným názvem.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 není čitelný mapovací soubor (%2). Nic nebylo zapsáno. Při uložení se stávající soubor zachová pod názvem s časovým razítkem a vytvoří se nový, který obsahuje jen tuto verzi.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 není čitelný mapovací soubor (%2). Nic nebylo zapsáno. Při uložení se stávající soubor zachová pod názvem s časovým razítkem a vytvoří se nový. Ostatní verze pocházejí ze zálohy %3: %4.</translation>
     </message>
     <message>
@@ -1655,7 +1655,7 @@ Zvolte jiný soubor.</translation>
         <translation>Čísla ERP nelze přečíst. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Řádky přiřazeny znovu: žádná změna</translation>
     </message>
     <message>
@@ -1846,7 +1846,7 @@ Zvolte jiný soubor.</translation>
         <translation>Žurnál %1 nelze vytvořit (%2). Po pádu by byly změny ztraceny: ukládejte často.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Není otevřen žádný mapovací soubor.</translation>
     </message>
     <message>
@@ -2541,12 +2541,12 @@ Projekt: %1
         <translation>Potvrzené</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Ke kontrole</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Nenalezeno</translation>
+        <source>Ohne Ziel</source>
+        <translation>Bez cíle</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3310,7 +3310,7 @@ Projekt: %1
         <translation>Konec žurnálu %1 není čitelný. Poslední změna může chybět.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Žurnál %1 je poškozen nebo se nehodí k mapovacímu souboru. Chybí nejméně %2 pozdějších změn; žurnál se zachová.</translation>
     </message>
 </context>
@@ -3610,11 +3610,11 @@ Projekt: %1
         <translation>V %1 zůstávají ignorované proměnné: %2. Chcete-li některou znovu přiřadit, zvolte &quot;Vzorec...&quot; nebo řádek smažte a zadejte znovu.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Odpadla podmínka cílového projektu %1 v %2.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Odpadlo mapování proměnných cílového projektu %1 v %2.</translation>
     </message>
     <message numerus="yes">
@@ -3993,7 +3993,7 @@ Projekt: %1
         <translation>Vezme zpět poslední krok</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>Zno&amp;vu</translation>
     </message>
     <message>

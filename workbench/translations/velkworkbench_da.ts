@@ -308,7 +308,7 @@ Anden: %2</translation>
         <translation>automatisk tildelt</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>skal kontrolleres</translation>
     </message>
     <message>
@@ -572,13 +572,13 @@ Anden: %2</translation>
         <translation>%1 læses</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Mappingfilen %1 kan ikke læses (%2).
 Vælg en anden fil, eller kopiér sikkerhedskopien %3 tilbage.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Mappingfilen %1 kan ikke læses (%2).
 Vælg en anden fil.</translation>
@@ -674,11 +674,11 @@ Vælg en anden fil.</translation>
         <translation>%1 kan ikke læses (%2). Intet blev skrevet. Gem under et andet navn.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 er ikke en læsbar mappingfil (%2). Intet blev skrevet. Når der gemmes, beholdes den eksisterende fil under et navn med tidsstempel, og der oprettes en ny, som kun indeholder denne udgave.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 er ikke en læsbar mappingfil (%2). Intet blev skrevet. Når der gemmes, beholdes den eksisterende fil under et navn med tidsstempel, og der oprettes en ny. De andre udgaver kommer fra sikkerhedskopien %3: %4.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@ Vælg en anden fil.</translation>
         <translation>ERP-numrene kan ikke læses. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Linjer tildelt igen: ingen ændring</translation>
     </message>
     <message>
@@ -1821,7 +1821,7 @@ Vælg en anden fil.</translation>
         <translation>Journalen %1 kan ikke oprettes (%2). Efter et nedbrud ville ændringerne være tabt: gem ofte.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Ingen mappingfil er åben.</translation>
     </message>
     <message>
@@ -2499,12 +2499,12 @@ Linje: %2
         <translation>Bekræftet</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Skal kontrolleres</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Ikke fundet</translation>
+        <source>Ohne Ziel</source>
+        <translation>Uden mål</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3261,7 +3261,7 @@ Linje: %2
         <translation>Slutningen af journalen %1 er ikke læsbar. Den seneste ændring kan mangle.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Journalen %1 er beskadiget eller passer ikke til mappingfilen. Mindst %2 senere ændringer mangler; journalen beholdes.</translation>
     </message>
 </context>
@@ -3560,11 +3560,11 @@ Linje: %2
         <translation>I %1 forbliver variabler ignoreret: %2. For at tilknytte en af dem igen, vælg &quot;Formel...&quot;, eller slet linjen og indtast den på ny.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>En betingelse for målprojektet %1 i %2 er bortfaldet.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>En variabeltilknytning for målprojektet %1 i %2 er bortfaldet.</translation>
     </message>
     <message numerus="yes">
@@ -3930,7 +3930,7 @@ Linje: %2
         <translation>Fortryder det seneste trin</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>Ge&amp;ntag</translation>
     </message>
     <message>

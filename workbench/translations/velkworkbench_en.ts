@@ -17,8 +17,8 @@
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Confirm that %n line has expired?</numerusform>
-            <numerusform>Confirm that %n lines have expired?</numerusform>
+            <numerusform>Confirm that %n line is discontinued?</numerusform>
+            <numerusform>Confirm that %n lines are discontinued?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -31,8 +31,8 @@
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Remove the assignment of %n line and confirm that it has expired?</numerusform>
-            <numerusform>Remove the assignment of %n lines and confirm that they have expired?</numerusform>
+            <numerusform>Remove the assignment of %n line and confirm that it is discontinued?</numerusform>
+            <numerusform>Remove the assignment of %n lines and confirm that they are discontinued?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -87,8 +87,8 @@
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n line confirmed to have expired.</numerusform>
-            <numerusform>%n lines confirmed to have expired.</numerusform>
+            <numerusform>%n line confirmed to be discontinued.</numerusform>
+            <numerusform>%n lines confirmed to be discontinued.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -101,8 +101,8 @@
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Assignment of %n line removed, confirmed to have expired.</numerusform>
-            <numerusform>Assignment of %n lines removed, confirmed to have expired.</numerusform>
+            <numerusform>Assignment of %n line removed, confirmed to be discontinued.</numerusform>
+            <numerusform>Assignment of %n lines removed, confirmed to be discontinued.</numerusform>
         </translation>
     </message>
 </context>
@@ -259,7 +259,7 @@ Theirs: %2</translation>
     </message>
     <message>
         <source>Neu entscheiden</source>
-        <translation>Decide anew</translation>
+        <translation>Decide again</translation>
     </message>
 </context>
 <context>
@@ -308,7 +308,7 @@ Theirs: %2</translation>
         <translation>assigned by the program</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>to be checked</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@ Theirs: %2</translation>
     </message>
     <message>
         <source>als ausgelaufen bestätigt</source>
-        <translation>confirmed as expired</translation>
+        <translation>confirmed as discontinued</translation>
     </message>
     <message>
         <source>nicht bekannt</source>
@@ -504,7 +504,7 @@ Theirs: %2</translation>
     </message>
     <message>
         <source>Kopie behalten und &amp;neu schreiben</source>
-        <translation>Keep a copy and write &amp;anew</translation>
+        <translation>Keep a copy and write &amp;again</translation>
     </message>
     <message>
         <source>Nur &amp;lesen</source>
@@ -572,13 +572,13 @@ Theirs: %2</translation>
         <translation>Reading %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>The mapping file %1 cannot be read (%2).
 Please choose another file or copy the backup %3 back.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>The mapping file %1 cannot be read (%2).
 Please choose another file.</translation>
@@ -625,7 +625,7 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
-        <translation>Nothing can be made in the folder of %1 (%2). Nothing was written. Please choose another folder.</translation>
+        <translation>Nothing can be created in the folder of %1 (%2). Nothing was written. Please choose another folder.</translation>
     </message>
 </context>
 <context>
@@ -662,11 +662,11 @@ Please choose another file.</translation>
         <translation>%1 is no regular file and cannot serve as a lock. Nothing was written. Please remove what stands there.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 is no readable mapping file (%2). Nothing was written. When saving, the present file is kept under a name with a time stamp, and a new one is made that holds this release only.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 is no readable mapping file (%2). Nothing was written. When saving, the present file is kept under a name with a time stamp, and a new one is made. The other releases come from the backup %3: %4.</translation>
     </message>
     <message>
@@ -695,11 +695,11 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts geschrieben.</source>
-        <translation>%1 was deleted or renamed since it was opened. Saving makes the file anew with this release only (%2). Nothing was written yet.</translation>
+        <translation>%1 was deleted or renamed since it was opened. Saving creates the file again with this release only (%2). Nothing was written yet.</translation>
     </message>
     <message>
         <source>%1 wurde seit dem Öffnen von jemand anderem geändert, auch dieser Stand (%2). Beim Speichern gehen dessen Änderungen an diesem Stand verloren. Es wurde noch nichts geschrieben: trotzdem speichern, unter einem anderen Namen speichern oder die Datei neu öffnen.</source>
-        <translation>%1 was changed by somebody else since it was opened, this release (%2) too. Saving loses their changes to this release. Nothing was written yet: save all the same, save under another name, or open the file anew.</translation>
+        <translation>%1 was changed by somebody else since it was opened, this release (%2) too. Saving loses their changes to this release. Nothing was written yet: save all the same, save under another name, or open the file again.</translation>
     </message>
     <message>
         <source>%1 wurde seit dem Öffnen von jemand anderem geändert, dieser Stand (%2) aber nicht. Beim Speichern bleiben die anderen Stände, wie sie jetzt in der Datei sind. Es wurde noch nichts geschrieben.</source>
@@ -711,11 +711,11 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
-        <translation>The backup %1 could not be made (%2). Nothing was written. Please make room or save under another name.</translation>
+        <translation>The backup %1 could not be created (%2). Nothing was written. Please make room or save under another name.</translation>
     </message>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.</source>
-        <translation>Nothing can be made in the folder of %1 (%2). Nothing was written. Please make room or save under another name.</translation>
+        <translation>Nothing can be created in the folder of %1 (%2). Nothing was written. Please make room or save under another name.</translation>
     </message>
     <message>
         <source>die Datei konnte nicht vollständig geschrieben werden</source>
@@ -811,7 +811,7 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>&amp;Neu lesen</source>
-        <translation>&amp;Read anew</translation>
+        <translation>&amp;Read again</translation>
     </message>
     <message>
         <source>Als &amp;CSV speichern...</source>
@@ -932,7 +932,7 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Zuordnung aufheben und als ausgelaufen bestätigen</source>
-        <translation>Remove assignment and confirm as expired</translation>
+        <translation>Remove assignment and confirm as discontinued</translation>
     </message>
     <message>
         <source>Wertebereichszuordnung bearbeiten</source>
@@ -1050,7 +1050,7 @@ Please choose another file.</translation>
     <name>LegendDialog</name>
     <message>
         <source>Ausgelaufen: bestätigt, dass es keine Zuordnung gibt</source>
-        <translation>Expired: confirmed to have no assignment</translation>
+        <translation>Discontinued: confirmed to have no assignment</translation>
     </message>
     <message>
         <source>Bestätigt: die Zuordnung ist entschieden</source>
@@ -1227,11 +1227,11 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Ausgelaufen</source>
-        <translation>Expired</translation>
+        <translation>Discontinued</translation>
     </message>
     <message>
         <source>Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre Projekte</source>
-        <translation>Show only lines that are confirmed as expired, and their projects</translation>
+        <translation>Show only lines that are confirmed as discontinued, and their projects</translation>
     </message>
 </context>
 <context>
@@ -1465,11 +1465,11 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Zeile ausgelaufen oder nicht da</source>
-        <translation>Line expired or not there</translation>
+        <translation>Line discontinued or not there</translation>
     </message>
     <message>
         <source>als ausgelaufen bestätigt</source>
-        <translation>confirmed as expired</translation>
+        <translation>confirmed as discontinued</translation>
     </message>
     <message>
         <source>das Projekt hat sie nicht</source>
@@ -1725,7 +1725,7 @@ Please choose another file.</translation>
         <translation>Assign the lines of the whole catalog?</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Lines assigned again: no change</translation>
     </message>
     <message>
@@ -1770,7 +1770,7 @@ Please choose another file.</translation>
     </message>
     <message>
         <source>Links die alte Tabelle, rechts die neue. %1 bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, %2 hebt auf, %3 bestätigt, dass die Zeile ausgelaufen ist.</source>
-        <translation>On the left the old table, on the right the new one. %1 confirms the assignment or assigns the line selected on the right, %2 removes it, %3 confirms that the line has expired.</translation>
+        <translation>On the left the old table, on the right the new one. %1 confirms the assignment or assigns the line selected on the right, %2 removes it, %3 confirms that the line is discontinued.</translation>
     </message>
 </context>
 <context>
@@ -1796,7 +1796,7 @@ Please choose another file.</translation>
         <translation>The change was not taken over. %1</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>No mapping file is open.</translation>
     </message>
     <message>
@@ -1852,8 +1852,8 @@ Please choose another file.</translation>
     <message numerus="yes">
         <source>%n Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n conflict: to be decided anew</numerusform>
-            <numerusform>%n conflicts: to be decided anew</numerusform>
+            <numerusform>%n conflict: to be decided again</numerusform>
+            <numerusform>%n conflicts: to be decided again</numerusform>
         </translation>
     </message>
 </context>
@@ -2495,8 +2495,8 @@ Line: %2
         <translation>With &amp;later changes (%1)</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Not found</translation>
+        <source>Ohne Ziel</source>
+        <translation>Without target</translation>
     </message>
     <message>
         <source>Projekte</source>
@@ -2519,7 +2519,7 @@ Line: %2
         <translation>Lines</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>To check</translation>
     </message>
 </context>
@@ -3249,7 +3249,7 @@ Line: %2
         <translation>The end of the journal %1 cannot be read. The last change may be missing.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>The journal %1 is damaged or does not fit the mapping file. At least %2 later changes are missing; the journal is kept.</translation>
     </message>
     <message>
@@ -3549,22 +3549,22 @@ Line: %2
         <translation>The change in %1 takes effect only when the lines are assigned again. Only what is confirmed survives that.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>A condition of the target project %1 in %2 was dropped.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>A variable mapping of the target project %1 in %2 was dropped.</translation>
     </message>
     <message>
         <source>In %1 bleiben Variablen ignoriert: %2. Um eine davon wieder zuzuordnen, &quot;Formel...&quot; wählen oder die Zeile löschen und neu eingeben.</source>
-        <translation>Variables stay ignored in %1: %2. To map one of them again, choose &quot;Formula...&quot; or delete the row and enter it anew.</translation>
+        <translation>Variables stay ignored in %1: %2. To map one of them again, choose &quot;Formula...&quot; or delete the row and enter it again.</translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n line in %1 was confirmed to have expired and is not any more: %2</numerusform>
-            <numerusform>%n lines in %1 were confirmed to have expired and are not any more: %2</numerusform>
+            <numerusform>%n line in %1 was confirmed to be discontinued and is not any more: %2</numerusform>
+            <numerusform>%n lines in %1 were confirmed to be discontinued and are not any more: %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3641,8 +3641,8 @@ Line: %2
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n line confirmed to have expired</numerusform>
-            <numerusform>%n lines confirmed to have expired</numerusform>
+            <numerusform>%n line confirmed to be discontinued</numerusform>
+            <numerusform>%n lines confirmed to be discontinued</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3694,11 +3694,11 @@ Line: %2
     </message>
     <message>
         <source>Zeile %1 als ausgelaufen bestätigt (vorher %2)</source>
-        <translation>line %1 confirmed to have expired (was %2)</translation>
+        <translation>line %1 confirmed to be discontinued (was %2)</translation>
     </message>
     <message>
         <source>Zeile %1 als ausgelaufen bestätigt</source>
-        <translation>line %1 confirmed to have expired</translation>
+        <translation>line %1 confirmed to be discontinued</translation>
     </message>
     <message>
         <source>Zuordnung von Zeile %1 aufgehoben (vorher %2)</source>
@@ -3743,11 +3743,11 @@ Line: %2
     </message>
     <message>
         <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht gibt. Bitte berichtigen oder neu auflösen.</source>
-        <translation>%1, line %2: the value range assignment names line %3, which %4 does not have. Please correct it or resolve it anew.</translation>
+        <translation>%1, line %2: the value range assignment names line %3, which %4 does not have. Please correct it or resolve it again.</translation>
     </message>
     <message>
         <source>%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form {NAME=WERT} -&gt; Zeilennummer: &quot;%4&quot;. Bitte berichtigen oder neu auflösen.</source>
-        <translation>%1, line %2: row %3 of the value range assignment is not of the form {NAME=VALUE} -&gt; line number: &quot;%4&quot;. Please correct it or resolve it anew.</translation>
+        <translation>%1, line %2: row %3 of the value range assignment is not of the form {NAME=VALUE} -&gt; line number: &quot;%4&quot;. Please correct it or resolve it again.</translation>
     </message>
     <message>
         <source>%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte prüfen (%3).</source>
@@ -3780,7 +3780,7 @@ Line: %2
     <name>WelcomePage</name>
     <message>
         <source>Ein Katalog ist neu erschienen, und jede Zeile des alten Stands muss auf eine Zeile des neuen übertragen werden. Das Programm schlägt vor, Sie prüfen und bestätigen.</source>
-        <translation>A catalog was released anew, and every line of the old release has to be carried over to a line of the new one. The program proposes, you check and confirm.</translation>
+        <translation>A catalog was released again, and every line of the old release has to be carried over to a line of the new one. The program proposes, you check and confirm.</translation>
     </message>
     <message>
         <source>Katalogstände abgleichen</source>
@@ -3838,7 +3838,7 @@ Line: %2
         <translation>&amp;Previous open line</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>&amp;Redo</translation>
     </message>
     <message>
@@ -3847,7 +3847,7 @@ Line: %2
     </message>
     <message>
         <source>Baut die Anzeige neu auf: Baum, Statistik, Tabellen von der Platte</source>
-        <translation>Makes the display anew: tree, statistics, tables from the disk</translation>
+        <translation>Reloads tree, statistics and tables from the disk</translation>
     </message>
     <message>
         <source>Beendet das Programm</source>
@@ -3855,7 +3855,7 @@ Line: %2
     </message>
     <message>
         <source>Die markierten oder alle gezeigten Zeilen sind ausgelaufen: hebt auf und bestätigt in einem Schritt</source>
-        <translation>The selected lines, or all that are shown, have expired: removes and confirms in one step</translation>
+        <translation>The selected lines, or all that are shown, are discontinued: removes and confirms in one step</translation>
     </message>
     <message>
         <source>Führt den zurückgenommenen Schritt wieder aus</source>
@@ -3959,11 +3959,11 @@ Line: %2
     </message>
     <message>
         <source>Zeilen ohne Ziel als aus&amp;gelaufen bestätigen...</source>
-        <translation>Confirm Lines without Target as E&amp;xpired...</translation>
+        <translation>Confirm Lines without Target as Dis&amp;continued...amp;Discontinued...</translation>
     </message>
     <message>
         <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>
-        <translation>Confirms that those of the selected lines, or all shown, that have no target have expired</translation>
+        <translation>Confirms that those of the selected lines, or all shown, that have no target are discontinued</translation>
     </message>
     <message>
         <source>&amp;Muster der Unterschiede</source>
@@ -4159,7 +4159,7 @@ Line: %2
     </message>
     <message>
         <source>Konflikt: neu entscheiden</source>
-        <translation>Conflict: decide anew</translation>
+        <translation>Conflict: decide again</translation>
     </message>
     <message>
         <source>Na&amp;chbarschaft</source>

@@ -308,7 +308,7 @@ Ajena: %2</translation>
         <translation>asignada automáticamente</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>por comprobar</translation>
     </message>
     <message>
@@ -572,13 +572,13 @@ Ajena: %2</translation>
         <translation>Leyendo %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>No se puede leer el archivo de mapeo %1 (%2).
 Elija otro archivo o recupere la copia de seguridad %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>No se puede leer el archivo de mapeo %1 (%2).
 Elija otro archivo.</translation>
@@ -674,11 +674,11 @@ Elija otro archivo.</translation>
         <translation>No se puede leer %1 (%2). No se escribió nada. Guarde con otro nombre.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 no es un archivo de mapeo legible (%2). No se escribió nada. Al guardar, el archivo existente se conserva con un nombre con fecha y hora y se crea uno nuevo que solo contiene esta versión.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 no es un archivo de mapeo legible (%2). No se escribió nada. Al guardar, el archivo existente se conserva con un nombre con fecha y hora y se crea uno nuevo. Las demás versiones vienen de la copia de seguridad %3: %4.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@ Elija otro archivo.</translation>
         <translation>No se pueden leer los números ERP. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Líneas asignadas de nuevo: ningún cambio</translation>
     </message>
     <message>
@@ -1821,7 +1821,7 @@ Elija otro archivo.</translation>
         <translation>No se puede crear el diario %1 (%2). Tras un fallo se perderían los cambios: guarde a menudo.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>No hay ningún archivo de mapeo abierto.</translation>
     </message>
     <message>
@@ -2499,12 +2499,12 @@ Línea: %2
         <translation>Confirmada</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Por comprobar</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>No encontrado</translation>
+        <source>Ohne Ziel</source>
+        <translation>Sin destino</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3261,7 +3261,7 @@ Línea: %2
         <translation>El final del diario %1 no es legible. Puede faltar el último cambio.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>El diario %1 está dañado o no corresponde al archivo de mapeo. Faltan al menos %2 cambios posteriores; el diario se conserva.</translation>
     </message>
 </context>
@@ -3560,11 +3560,11 @@ Línea: %2
         <translation>En %1 quedan variables ignoradas: %2. Para volver a asignar una de ellas, elija &quot;Fórmula...&quot; o borre la fila e introdúzcala de nuevo.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Ha desaparecido una condición del proyecto de destino %1 en %2.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Ha desaparecido una correspondencia de variables del proyecto de destino %1 en %2.</translation>
     </message>
     <message numerus="yes">
@@ -3930,7 +3930,7 @@ Línea: %2
         <translation>Deshace el último paso</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>&amp;Rehacer</translation>
     </message>
     <message>

@@ -308,7 +308,7 @@ Toisen: %2</translation>
         <translation>automaattisesti kohdistettu</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>tarkistettava</translation>
     </message>
     <message>
@@ -572,13 +572,13 @@ Toisen: %2</translation>
         <translation>Luetaan: %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Kohdistustiedostoa %1 ei voi lukea (%2).
 Valitse toinen tiedosto tai palauta varmuuskopio %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Kohdistustiedostoa %1 ei voi lukea (%2).
 Valitse toinen tiedosto.</translation>
@@ -674,11 +674,11 @@ Valitse toinen tiedosto.</translation>
         <translation>Tiedostoa %1 ei voi lukea (%2). Mitään ei kirjoitettu. Tallenna toisella nimellä.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 ei ole luettava kohdistustiedosto (%2). Mitään ei kirjoitettu. Tallennettaessa nykyinen tiedosto säilytetään aikaleimatulla nimellä ja luodaan uusi, joka sisältää vain tämän version.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 ei ole luettava kohdistustiedosto (%2). Mitään ei kirjoitettu. Tallennettaessa nykyinen tiedosto säilytetään aikaleimatulla nimellä ja luodaan uusi. Muut versiot otetaan varmuuskopiosta %3: %4.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@ Valitse toinen tiedosto.</translation>
         <translation>ERP-numeroita ei voi lukea. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Rivit kohdistettu uudelleen: ei muutoksia</translation>
     </message>
     <message>
@@ -1821,7 +1821,7 @@ Valitse toinen tiedosto.</translation>
         <translation>Päiväkirjaa %1 ei voi luoda (%2). Kaatumisen jälkeen muutokset menetettäisiin: tallenna usein.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Kohdistustiedostoa ei ole avattu.</translation>
     </message>
     <message>
@@ -2499,12 +2499,12 @@ Rivi: %2
         <translation>Vahvistettu</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Tarkistettava</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Ei löytynyt</translation>
+        <source>Ohne Ziel</source>
+        <translation>Ilman kohdetta</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3261,7 +3261,7 @@ Rivi: %2
         <translation>Päiväkirjan %1 loppua ei voi lukea. Viimeinen muutos saattaa puuttua.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Päiväkirja %1 on vaurioitunut tai ei sovi kohdistustiedostoon. Vähintään %2 myöhempää muutosta puuttuu; päiväkirja säilytetään.</translation>
     </message>
 </context>
@@ -3560,11 +3560,11 @@ Rivi: %2
         <translation>Projektissa %1 muuttujat jäävät ohitetuiksi: %2. Kohdista jokin niistä uudelleen valitsemalla &quot;Kaava...&quot; tai poista rivi ja syötä se uudelleen.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Kohdeprojektin %1 ehto projektissa %2 on poistunut.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Kohdeprojektin %1 muuttujien kohdistus projektissa %2 on poistunut.</translation>
     </message>
     <message numerus="yes">
@@ -3930,7 +3930,7 @@ Rivi: %2
         <translation>Kumoaa viimeisen vaiheen</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>Tee &amp;uudelleen</translation>
     </message>
     <message>

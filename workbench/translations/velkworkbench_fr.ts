@@ -308,7 +308,7 @@ L&apos;autre : %2</translation>
         <translation>affectée automatiquement</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>à vérifier</translation>
     </message>
     <message>
@@ -572,13 +572,13 @@ L&apos;autre : %2</translation>
         <translation>Lecture de %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Le fichier de mapping %1 ne peut pas être lu (%2).
 Choisissez un autre fichier ou rétablissez la copie de sauvegarde %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Le fichier de mapping %1 ne peut pas être lu (%2).
 Choisissez un autre fichier.</translation>
@@ -674,11 +674,11 @@ Choisissez un autre fichier.</translation>
         <translation>%1 ne peut pas être lu (%2). Rien n&apos;a été écrit. Enregistrez sous un autre nom.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 n&apos;est pas un fichier de mapping lisible (%2). Rien n&apos;a été écrit. À l&apos;enregistrement, le fichier existant est conservé sous un nom horodaté et un nouveau fichier est créé, qui ne contient que cette version.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 n&apos;est pas un fichier de mapping lisible (%2). Rien n&apos;a été écrit. À l&apos;enregistrement, le fichier existant est conservé sous un nom horodaté et un nouveau fichier est créé. Les autres versions proviennent de la sauvegarde %3 : %4.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@ Choisissez un autre fichier.</translation>
         <translation>Les numéros ERP ne peuvent pas être lus. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Lignes affectées de nouveau : aucune modification</translation>
     </message>
     <message>
@@ -1821,7 +1821,7 @@ Choisissez un autre fichier.</translation>
         <translation>Le journal %1 ne peut pas être créé (%2). Après une panne, les modifications seraient perdues : enregistrez souvent.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Aucun fichier de mapping n&apos;est ouvert.</translation>
     </message>
     <message>
@@ -2499,12 +2499,12 @@ Ligne : %2
         <translation>Confirmée</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>À vérifier</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Introuvable</translation>
+        <source>Ohne Ziel</source>
+        <translation>Sans cible</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3261,7 +3261,7 @@ Ligne : %2
         <translation>La fin du journal %1 n&apos;est pas lisible. La dernière modification peut manquer.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Le journal %1 est endommagé ou ne correspond pas au fichier de mapping. Au moins %2 modifications ultérieures manquent ; le journal est conservé.</translation>
     </message>
 </context>
@@ -3560,11 +3560,11 @@ Ligne : %2
         <translation>Dans %1, des variables restent ignorées : %2. Pour en affecter une de nouveau, choisissez « Formule... » ou supprimez la ligne et saisissez-la de nouveau.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Une condition du projet cible %1 dans %2 a disparu.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Une correspondance de variables du projet cible %1 dans %2 a disparu.</translation>
     </message>
     <message numerus="yes">
@@ -3930,7 +3930,7 @@ Ligne : %2
         <translation>Annule la dernière étape</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>Ré&amp;tablir</translation>
     </message>
     <message>

@@ -292,7 +292,7 @@ Másik: %2</translation>
         <translation>automatikusan hozzárendelve</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>ellenőrizendő</translation>
     </message>
     <message>
@@ -553,13 +553,13 @@ Másik: %2</translation>
         <translation>%1 olvasása</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>A(z) %1 leképezésfájl nem olvasható (%2).
 Válasszon másik fájlt, vagy másolja vissza a(z) %3 biztonsági másolatot.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>A(z) %1 leképezésfájl nem olvasható (%2).
 Válasszon másik fájlt.</translation>
@@ -655,11 +655,11 @@ Válasszon másik fájlt.</translation>
         <translation>A(z) %1 nem olvasható (%2). Semmi sem lett kiírva. Mentsen más néven.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>A(z) %1 nem olvasható leképezésfájl (%2). Semmi sem lett kiírva. Mentéskor a meglévő fájl időbélyeges néven megmarad, és új fájl jön létre, amely csak ezt a verziót tartalmazza.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>A(z) %1 nem olvasható leképezésfájl (%2). Semmi sem lett kiírva. Mentéskor a meglévő fájl időbélyeges néven megmarad, és új fájl jön létre. A többi verzió a(z) %3 biztonsági mentésből származik: %4.</translation>
     </message>
     <message>
@@ -1611,7 +1611,7 @@ Válasszon másik fájlt.</translation>
         <translation>Az ERP-számok nem olvashatók. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Sorok újra hozzárendelve: nincs változás</translation>
     </message>
     <message>
@@ -1796,7 +1796,7 @@ Válasszon másik fájlt.</translation>
         <translation>A(z) %1 napló nem hozható létre (%2). Összeomlás után a módosítások elvesznének: mentsen gyakran.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Nincs megnyitva leképezésfájl.</translation>
     </message>
     <message>
@@ -2457,12 +2457,12 @@ Sor: %2
         <translation>Megerősített</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Ellenőrizendő</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Nem található</translation>
+        <source>Ohne Ziel</source>
+        <translation>Cél nélkül</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3212,7 +3212,7 @@ Sor: %2
         <translation>A(z) %1 napló vége nem olvasható. Az utolsó módosítás hiányozhat.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>A(z) %1 napló sérült vagy nem illik a leképezésfájlhoz. Legalább %2 későbbi módosítás hiányzik; a napló megmarad.</translation>
     </message>
 </context>
@@ -3510,11 +3510,11 @@ Sor: %2
         <translation>Itt: %1 változók figyelmen kívül maradnak: %2. Ha egyiküket újra hozzá szeretné rendelni, válassza a &quot;Képlet...&quot; parancsot, vagy törölje a sort, és adja meg újra.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>A(z) %1 célprojekt egy feltétele megszűnt itt: %2.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>A(z) %1 célprojekt egy változóleképezése megszűnt itt: %2.</translation>
     </message>
     <message numerus="yes">
@@ -3867,7 +3867,7 @@ Sor: %2
         <translation>Visszavonja az utolsó lépést</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>&amp;Ismét</translation>
     </message>
     <message>

@@ -292,7 +292,7 @@ Milik pihak lain: %2</translation>
         <translation>ditetapkan otomatis</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>perlu diperiksa</translation>
     </message>
     <message>
@@ -553,13 +553,13 @@ Milik pihak lain: %2</translation>
         <translation>Membaca %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Berkas pemetaan %1 tidak dapat dibaca (%2).
 Harap pilih berkas lain atau salin kembali cadangan %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Berkas pemetaan %1 tidak dapat dibaca (%2).
 Harap pilih berkas lain.</translation>
@@ -655,11 +655,11 @@ Harap pilih berkas lain.</translation>
         <translation>%1 tidak dapat dibaca (%2). Tidak ada yang ditulis. Harap simpan dengan nama lain.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 bukan berkas pemetaan yang dapat dibaca (%2). Tidak ada yang ditulis. Saat menyimpan, berkas yang ada dipertahankan dengan nama bercap waktu dan dibuat berkas baru yang hanya berisi rilis ini.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 bukan berkas pemetaan yang dapat dibaca (%2). Tidak ada yang ditulis. Saat menyimpan, berkas yang ada dipertahankan dengan nama bercap waktu dan dibuat berkas baru. Rilis lainnya berasal dari cadangan %3: %4.</translation>
     </message>
     <message>
@@ -1611,7 +1611,7 @@ Harap pilih berkas lain.</translation>
         <translation>Nomor ERP tidak dapat dibaca. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Baris ditetapkan ulang: tidak ada perubahan</translation>
     </message>
     <message>
@@ -1796,7 +1796,7 @@ Harap pilih berkas lain.</translation>
         <translation>Jurnal %1 tidak dapat dibuat (%2). Bila program mogok, perubahan akan hilang: harap sering menyimpan.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Tidak ada berkas pemetaan yang terbuka.</translation>
     </message>
     <message>
@@ -2457,12 +2457,12 @@ Baris: %2
         <translation>Dikonfirmasi</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Perlu diperiksa</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Tidak ditemukan</translation>
+        <source>Ohne Ziel</source>
+        <translation>Tanpa target</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3212,7 +3212,7 @@ Baris: %2
         <translation>Akhir jurnal %1 tidak terbaca. Perubahan terakhir mungkin hilang.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Jurnal %1 rusak atau tidak cocok dengan berkas pemetaan. Sedikitnya %2 perubahan berikutnya hilang; jurnal dipertahankan.</translation>
     </message>
 </context>
@@ -3510,11 +3510,11 @@ Baris: %2
         <translation>Di %1 ada variabel yang tetap diabaikan: %2. Untuk memetakan salah satunya lagi, pilih &quot;Rumus...&quot; atau hapus baris dan masukkan lagi.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Sebuah syarat proyek target %1 di %2 gugur.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Sebuah pemetaan variabel proyek target %1 di %2 gugur.</translation>
     </message>
     <message numerus="yes">
@@ -3867,7 +3867,7 @@ Baris: %2
         <translation>Mengurungkan langkah terakhir</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>U&amp;langi</translation>
     </message>
     <message>

@@ -308,7 +308,7 @@ Altra: %2</translation>
         <translation>assegnata automaticamente</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>da verificare</translation>
     </message>
     <message>
@@ -572,13 +572,13 @@ Altra: %2</translation>
         <translation>Lettura di %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Impossibile leggere il file di mappatura %1 (%2).
 Scegliere un altro file o ripristinare la copia di sicurezza %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Impossibile leggere il file di mappatura %1 (%2).
 Scegliere un altro file.</translation>
@@ -674,11 +674,11 @@ Scegliere un altro file.</translation>
         <translation>Impossibile leggere %1 (%2). Non è stato scritto nulla. Salvare con un altro nome.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 non è un file di mappatura leggibile (%2). Non è stato scritto nulla. Al salvataggio il file esistente viene conservato con un nome con data e ora e ne viene creato uno nuovo che contiene solo questa versione.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 non è un file di mappatura leggibile (%2). Non è stato scritto nulla. Al salvataggio il file esistente viene conservato con un nome con data e ora e ne viene creato uno nuovo. Le altre versioni provengono dalla copia di sicurezza %3: %4.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@ Scegliere un altro file.</translation>
         <translation>Impossibile leggere i numeri ERP. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Righe assegnate di nuovo: nessuna modifica</translation>
     </message>
     <message>
@@ -1821,7 +1821,7 @@ Scegliere un altro file.</translation>
         <translation>Impossibile creare il giornale %1 (%2). Dopo un arresto anomalo le modifiche andrebbero perse: salvare spesso.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Nessun file di mappatura è aperto.</translation>
     </message>
     <message>
@@ -2499,12 +2499,12 @@ Riga: %2
         <translation>Confermata</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Da verificare</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Non trovato</translation>
+        <source>Ohne Ziel</source>
+        <translation>Senza destinazione</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3261,7 +3261,7 @@ Riga: %2
         <translation>La fine del giornale %1 non è leggibile. L&apos;ultima modifica può mancare.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Il giornale %1 è danneggiato o non corrisponde al file di mappatura. Mancano almeno %2 modifiche successive; il giornale viene conservato.</translation>
     </message>
 </context>
@@ -3560,11 +3560,11 @@ Riga: %2
         <translation>In %1 restano ignorate delle variabili: %2. Per assegnarne di nuovo una, scegliere &quot;Formula...&quot; o eliminare la riga e reinserirla.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Una condizione del progetto di destinazione %1 in %2 è venuta meno.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Una corrispondenza delle variabili del progetto di destinazione %1 in %2 è venuta meno.</translation>
     </message>
     <message numerus="yes">
@@ -3930,7 +3930,7 @@ Riga: %2
         <translation>Annulla l&apos;ultimo passo</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>&amp;Ripeti</translation>
     </message>
     <message>

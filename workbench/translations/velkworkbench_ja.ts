@@ -292,7 +292,7 @@ Andere: %2</source>
         <translation>自動で割り当て済み</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>要確認</translation>
     </message>
     <message>
@@ -553,13 +553,13 @@ Andere: %2</source>
         <translation>%1 を読み込み中</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>マッピングファイル %1 を読み取れません (%2)。
 別のファイルを選ぶか、バックアップ %3 を元に戻してください。</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>マッピングファイル %1 を読み取れません (%2)。
 別のファイルを選んでください。</translation>
@@ -655,11 +655,11 @@ Bitte eine andere Datei wählen.</source>
         <translation>%1 を読み取れません (%2)。何も書き込まれていません。別の名前で保存してください。</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 は読み取れるマッピングファイルではありません (%2)。何も書き込まれていません。保存すると、既存のファイルは日時付きの名前で残され、このリリースだけを含む新しいファイルが作成されます。</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 は読み取れるマッピングファイルではありません (%2)。何も書き込まれていません。保存すると、既存のファイルは日時付きの名前で残され、新しいファイルが作成されます。ほかのリリースはバックアップ %3 から取られます: %4。</translation>
     </message>
     <message>
@@ -1611,7 +1611,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>ERP番号を読み取れません。%1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>行を割り当て直しました: 変更なし</translation>
     </message>
     <message>
@@ -1796,7 +1796,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>ジャーナル %1 を作成できません (%2)。異常終了すると変更が失われます。こまめに保存してください。</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>マッピングファイルが開いていません。</translation>
     </message>
     <message>
@@ -2457,12 +2457,12 @@ Zeile: %2
         <translation>確認済み</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>要確認</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>見つかりません</translation>
+        <source>Ohne Ziel</source>
+        <translation>対象なし</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3212,7 +3212,7 @@ Zeile: %2
         <translation>ジャーナル %1 の末尾を読み取れません。最後の変更が欠けている可能性があります。</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>ジャーナル %1 は破損しているか、マッピングファイルに合いません。以後の変更が少なくとも %2 件欠けています。ジャーナルは保管されます。</translation>
     </message>
 </context>
@@ -3510,11 +3510,11 @@ Zeile: %2
         <translation>%1 で無視されたままの変数: %2。いずれかを再び対応付けるには、&quot;式...&quot; を選ぶか、行を削除して入力し直してください。</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2 の対象プロジェクト %1 の条件がなくなりました。</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2 の対象プロジェクト %1 の変数の対応付けがなくなりました。</translation>
     </message>
     <message numerus="yes">
@@ -3867,7 +3867,7 @@ Zeile: %2
         <translation>最後の操作を元に戻します</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>やり直す(&amp;R)</translation>
     </message>
     <message>

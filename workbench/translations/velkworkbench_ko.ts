@@ -292,7 +292,7 @@ Andere: %2</source>
         <translation>자동 할당됨</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>검토 필요</translation>
     </message>
     <message>
@@ -553,13 +553,13 @@ Andere: %2</source>
         <translation>%1 읽는 중</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>매핑 파일 %1을(를) 읽을 수 없습니다(%2).
 다른 파일을 선택하거나 백업 %3을(를) 다시 복사하세요.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>매핑 파일 %1을(를) 읽을 수 없습니다(%2).
 다른 파일을 선택하세요.</translation>
@@ -655,11 +655,11 @@ Bitte eine andere Datei wählen.</source>
         <translation>%1을(를) 읽을 수 없습니다(%2). 아무것도 쓰지 않았습니다. 다른 이름으로 저장하세요.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1은(는) 읽을 수 있는 매핑 파일이 아닙니다(%2). 아무것도 쓰지 않았습니다. 저장하면 기존 파일은 시간이 표시된 이름으로 보관되고 이 릴리스만 있는 새 파일이 만들어집니다.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1은(는) 읽을 수 있는 매핑 파일이 아닙니다(%2). 아무것도 쓰지 않았습니다. 저장하면 기존 파일은 시간이 표시된 이름으로 보관되고 새 파일이 만들어집니다. 다른 릴리스는 백업 %3에서 가져옵니다: %4.</translation>
     </message>
     <message>
@@ -1611,7 +1611,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>ERP 번호를 읽을 수 없습니다. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>행을 다시 할당함: 변경 없음</translation>
     </message>
     <message>
@@ -1796,7 +1796,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>저널 %1을(를) 만들 수 없습니다(%2). 비정상 종료되면 변경 사항을 잃게 됩니다. 자주 저장하세요.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>열려 있는 매핑 파일이 없습니다.</translation>
     </message>
     <message>
@@ -2457,12 +2457,12 @@ Zeile: %2
         <translation>확인됨</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>검토 필요</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>찾을 수 없음</translation>
+        <source>Ohne Ziel</source>
+        <translation>대상 없음</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3212,7 +3212,7 @@ Zeile: %2
         <translation>저널 %1의 끝을 읽을 수 없습니다. 마지막 변경이 없을 수 있습니다.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>저널 %1이(가) 손상되었거나 매핑 파일과 맞지 않습니다. 이후 변경이 적어도 %2개 없습니다. 저널은 보관됩니다.</translation>
     </message>
 </context>
@@ -3510,11 +3510,11 @@ Zeile: %2
         <translation>%1에서 무시된 채로 남는 변수: %2. 그중 하나를 다시 매핑하려면 &quot;수식...&quot;을 선택하거나 행을 삭제하고 다시 입력하세요.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2의 대상 프로젝트 %1의 조건이 없어졌습니다.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2의 대상 프로젝트 %1의 변수 매핑이 없어졌습니다.</translation>
     </message>
     <message numerus="yes">
@@ -3867,7 +3867,7 @@ Zeile: %2
         <translation>마지막 단계를 취소합니다</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>다시 실행(&amp;R)</translation>
     </message>
     <message>

@@ -308,7 +308,7 @@ Annen: %2</translation>
         <translation>automatisk tilordnet</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>skal kontrolleres</translation>
     </message>
     <message>
@@ -572,13 +572,13 @@ Annen: %2</translation>
         <translation>%1 leses</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Mappingfilen %1 kan ikke leses (%2).
 Velg en annen fil eller kopier sikkerhetskopien %3 tilbake.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Mappingfilen %1 kan ikke leses (%2).
 Velg en annen fil.</translation>
@@ -674,11 +674,11 @@ Velg en annen fil.</translation>
         <translation>%1 kan ikke leses (%2). Ingenting ble skrevet. Lagre under et annet navn.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 er ingen lesbar mappingfil (%2). Ingenting ble skrevet. Ved lagring beholdes den eksisterende filen under et navn med tidsstempel, og det opprettes en ny som bare inneholder denne utgaven.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 er ingen lesbar mappingfil (%2). Ingenting ble skrevet. Ved lagring beholdes den eksisterende filen under et navn med tidsstempel, og det opprettes en ny. De andre utgavene kommer fra sikkerhetskopien %3: %4.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@ Velg en annen fil.</translation>
         <translation>ERP-numrene kan ikke leses. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Linjer tilordnet på nytt: ingen endring</translation>
     </message>
     <message>
@@ -1821,7 +1821,7 @@ Velg en annen fil.</translation>
         <translation>Journalen %1 kan ikke opprettes (%2). Etter et krasj ville endringene være tapt: lagre ofte.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Ingen mappingfil er åpen.</translation>
     </message>
     <message>
@@ -2499,12 +2499,12 @@ Linje: %2
         <translation>Bekreftet</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Skal kontrolleres</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Ikke funnet</translation>
+        <source>Ohne Ziel</source>
+        <translation>Uten mål</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3261,7 +3261,7 @@ Linje: %2
         <translation>Slutten av journalen %1 er ikke lesbar. Den siste endringen kan mangle.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Journalen %1 er skadet eller passer ikke til mappingfilen. Minst %2 senere endringer mangler; journalen beholdes.</translation>
     </message>
 </context>
@@ -3560,11 +3560,11 @@ Linje: %2
         <translation>I %1 forblir variabler ignorert: %2. For å tilordne en av dem igjen, velg &quot;Formel...&quot; eller slett linjen og skriv den inn på nytt.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>En betingelse for målprosjektet %1 i %2 er falt bort.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>En variabeltilordning for målprosjektet %1 i %2 er falt bort.</translation>
     </message>
     <message numerus="yes">
@@ -3930,7 +3930,7 @@ Linje: %2
         <translation>Angrer det siste trinnet</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>Gjør &amp;om</translation>
     </message>
     <message>

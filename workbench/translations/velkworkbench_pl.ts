@@ -324,7 +324,7 @@ Inna: %2</translation>
         <translation>przypisany automatycznie</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>do sprawdzenia</translation>
     </message>
     <message>
@@ -591,13 +591,13 @@ Inna: %2</translation>
         <translation>Odczyt %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Nie można odczytać pliku mapowania %1 (%2).
 Wybierz inny plik albo przywróć kopię zapasową %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Nie można odczytać pliku mapowania %1 (%2).
 Wybierz inny plik.</translation>
@@ -693,11 +693,11 @@ Wybierz inny plik.</translation>
         <translation>Nie można odczytać %1 (%2). Nic nie zapisano. Zapisz pod inną nazwą.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 nie jest czytelnym plikiem mapowania (%2). Nic nie zapisano. Przy zapisie istniejący plik zostanie zachowany pod nazwą ze znacznikiem czasu i powstanie nowy, który zawiera tylko tę wersję.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 nie jest czytelnym plikiem mapowania (%2). Nic nie zapisano. Przy zapisie istniejący plik zostanie zachowany pod nazwą ze znacznikiem czasu i powstanie nowy. Pozostałe wersje pochodzą z kopii zapasowej %3: %4.</translation>
     </message>
     <message>
@@ -1655,7 +1655,7 @@ Wybierz inny plik.</translation>
         <translation>Nie można odczytać numerów ERP. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Wiersze przypisane ponownie: bez zmian</translation>
     </message>
     <message>
@@ -1846,7 +1846,7 @@ Wybierz inny plik.</translation>
         <translation>Nie można utworzyć dziennika %1 (%2). Po awarii zmiany byłyby utracone: zapisuj często.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Nie jest otwarty żaden plik mapowania.</translation>
     </message>
     <message>
@@ -2541,12 +2541,12 @@ Wiersz: %2
         <translation>Potwierdzony</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Do sprawdzenia</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Nie znaleziono</translation>
+        <source>Ohne Ziel</source>
+        <translation>Bez celu</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3310,7 +3310,7 @@ Wiersz: %2
         <translation>Koniec dziennika %1 jest nieczytelny. Może brakować ostatniej zmiany.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Dziennik %1 jest uszkodzony lub nie pasuje do pliku mapowania. Brakuje co najmniej późniejszych zmian: %2; dziennik zostaje zachowany.</translation>
     </message>
 </context>
@@ -3610,11 +3610,11 @@ Wiersz: %2
         <translation>W %1 zmienne pozostają ignorowane: %2. Aby znów przypisać jedną z nich, wybierz &quot;Formuła...&quot; albo usuń wiersz i wpisz go od nowa.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Odpadł warunek projektu docelowego %1 w %2.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Odpadło mapowanie zmiennych projektu docelowego %1 w %2.</translation>
     </message>
     <message numerus="yes">
@@ -3993,7 +3993,7 @@ Wiersz: %2
         <translation>Cofa ostatni krok</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>Po&amp;nów</translation>
     </message>
     <message>

@@ -308,7 +308,7 @@ Outra: %2</translation>
         <translation>atribuída automaticamente</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>a verificar</translation>
     </message>
     <message>
@@ -572,13 +572,13 @@ Outra: %2</translation>
         <translation>A ler %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Não é possível ler o ficheiro de mapeamento %1 (%2).
 Escolha outro ficheiro ou reponha a cópia de segurança %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Não é possível ler o ficheiro de mapeamento %1 (%2).
 Escolha outro ficheiro.</translation>
@@ -674,11 +674,11 @@ Escolha outro ficheiro.</translation>
         <translation>Não é possível ler %1 (%2). Nada foi escrito. Guarde com outro nome.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 não é um ficheiro de mapeamento legível (%2). Nada foi escrito. Ao guardar, o ficheiro existente é conservado com um nome com data e hora e é criado um novo que só contém esta versão.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 não é um ficheiro de mapeamento legível (%2). Nada foi escrito. Ao guardar, o ficheiro existente é conservado com um nome com data e hora e é criado um novo. As outras versões vêm da cópia de segurança %3: %4.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@ Escolha outro ficheiro.</translation>
         <translation>Não é possível ler os números ERP. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Linhas atribuídas de novo: nenhuma alteração</translation>
     </message>
     <message>
@@ -1821,7 +1821,7 @@ Escolha outro ficheiro.</translation>
         <translation>Não é possível criar o diário %1 (%2). Após uma falha, as alterações perder-se-iam: guarde com frequência.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Nenhum ficheiro de mapeamento está aberto.</translation>
     </message>
     <message>
@@ -2499,12 +2499,12 @@ Linha: %2
         <translation>Confirmada</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>A verificar</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Não encontrado</translation>
+        <source>Ohne Ziel</source>
+        <translation>Sem destino</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3261,7 +3261,7 @@ Linha: %2
         <translation>O fim do diário %1 não é legível. A última alteração pode faltar.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>O diário %1 está danificado ou não corresponde ao ficheiro de mapeamento. Faltam pelo menos %2 alterações posteriores; o diário é conservado.</translation>
     </message>
 </context>
@@ -3560,11 +3560,11 @@ Linha: %2
         <translation>Em %1 ficam variáveis ignoradas: %2. Para voltar a atribuir uma delas, escolha &quot;Fórmula...&quot; ou elimine a linha e introduza-a de novo.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Uma condição do projeto de destino %1 em %2 desapareceu.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Uma correspondência de variáveis do projeto de destino %1 em %2 desapareceu.</translation>
     </message>
     <message numerus="yes">
@@ -3930,7 +3930,7 @@ Linha: %2
         <translation>Anula o último passo</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>&amp;Refazer</translation>
     </message>
     <message>

@@ -324,7 +324,7 @@ Andere: %2</source>
         <translation>назначена автоматически</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>требует проверки</translation>
     </message>
     <message>
@@ -591,13 +591,13 @@ Andere: %2</source>
         <translation>Чтение %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Файл сопоставления %1 не удаётся прочитать (%2).
 Выберите другой файл или верните резервную копию %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Файл сопоставления %1 не удаётся прочитать (%2).
 Выберите другой файл.</translation>
@@ -693,11 +693,11 @@ Bitte eine andere Datei wählen.</source>
         <translation>%1 не удаётся прочитать (%2). Ничего не записано. Сохраните под другим именем.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 не является читаемым файлом сопоставления (%2). Ничего не записано. При сохранении имеющийся файл останется под именем с меткой времени, и будет создан новый, содержащий только этот выпуск.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 не является читаемым файлом сопоставления (%2). Ничего не записано. При сохранении имеющийся файл останется под именем с меткой времени, и будет создан новый. Остальные выпуски берутся из резервной копии %3: %4.</translation>
     </message>
     <message>
@@ -1655,7 +1655,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>Номера ERP не удаётся прочитать. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Строки назначены заново: без изменений</translation>
     </message>
     <message>
@@ -1846,7 +1846,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>Журнал %1 не удаётся создать (%2). После сбоя изменения были бы потеряны: сохраняйте чаще.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Файл сопоставления не открыт.</translation>
     </message>
     <message>
@@ -2541,12 +2541,12 @@ Zeile: %2
         <translation>Подтверждена</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Требует проверки</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Не найдено</translation>
+        <source>Ohne Ziel</source>
+        <translation>Без цели</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3310,7 +3310,7 @@ Zeile: %2
         <translation>Конец журнала %1 нечитаем. Последнего изменения может не быть.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Журнал %1 повреждён или не подходит к файлу сопоставления. Не хватает более поздних изменений: не менее %2; журнал сохраняется.</translation>
     </message>
 </context>
@@ -3610,11 +3610,11 @@ Zeile: %2
         <translation>В %1 остаются игнорируемые переменные: %2. Чтобы снова сопоставить одну из них, выберите &quot;Формула...&quot; или удалите строку и введите её заново.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Условие целевого проекта %1 в %2 отпало.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Сопоставление переменных целевого проекта %1 в %2 отпало.</translation>
     </message>
     <message numerus="yes">
@@ -3993,7 +3993,7 @@ Zeile: %2
         <translation>Отменяет последний шаг</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>По&amp;вторить</translation>
     </message>
     <message>

@@ -340,7 +340,7 @@ Druga: %2</translation>
         <translation>samodejno dodeljena</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>za pregled</translation>
     </message>
     <message>
@@ -610,13 +610,13 @@ Druga: %2</translation>
         <translation>Branje %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Datoteke preslikav %1 ni mogoče prebrati (%2).
 Izberite drugo datoteko ali obnovite varnostno kopijo %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Datoteke preslikav %1 ni mogoče prebrati (%2).
 Izberite drugo datoteko.</translation>
@@ -712,11 +712,11 @@ Izberite drugo datoteko.</translation>
         <translation>%1 ni mogoče prebrati (%2). Nič ni bilo zapisano. Shranite pod drugim imenom.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 ni berljiva datoteka preslikav (%2). Nič ni bilo zapisano. Ob shranjevanju se obstoječa datoteka ohrani pod imenom s časovnim žigom in ustvari se nova, ki vsebuje samo to izdajo.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 ni berljiva datoteka preslikav (%2). Nič ni bilo zapisano. Ob shranjevanju se obstoječa datoteka ohrani pod imenom s časovnim žigom in ustvari se nova. Druge izdaje so iz varnostne kopije %3: %4.</translation>
     </message>
     <message>
@@ -1677,7 +1677,7 @@ Izberite drugo datoteko.</translation>
         <translation>Številk ERP ni mogoče prebrati. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Vrstice znova dodeljene: brez sprememb</translation>
     </message>
     <message>
@@ -1871,7 +1871,7 @@ Izberite drugo datoteko.</translation>
         <translation>Dnevnika %1 ni mogoče ustvariti (%2). Po sesutju bi bile spremembe izgubljene: pogosto shranjujte.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Nobena datoteka preslikav ni odprta.</translation>
     </message>
     <message>
@@ -2583,12 +2583,12 @@ Vrstica: %2
         <translation>Potrjena</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Za pregled</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Ni najdeno</translation>
+        <source>Ohne Ziel</source>
+        <translation>Brez cilja</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3359,7 +3359,7 @@ Vrstica: %2
         <translation>Konec dnevnika %1 ni berljiv. Zadnja sprememba morda manjka.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Dnevnik %1 je poškodovan ali ne ustreza datoteki preslikav. Manjka vsaj %2 poznejših sprememb; dnevnik se ohrani.</translation>
     </message>
 </context>
@@ -3660,11 +3660,11 @@ Vrstica: %2
         <translation>V %1 ostajajo prezrte spremenljivke: %2. Če želite katero znova preslikati, izberite &quot;Formula...&quot; ali pa vrstico izbrišite in jo vnesite na novo.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Pogoj ciljnega projekta %1 v %2 je odpadel.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Preslikava spremenljivk ciljnega projekta %1 v %2 je odpadla.</translation>
     </message>
     <message numerus="yes">
@@ -4056,7 +4056,7 @@ Vrstica: %2
         <translation>Razveljavi zadnji korak</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>&amp;Uveljavi</translation>
     </message>
     <message>

@@ -308,7 +308,7 @@ Annat: %2</translation>
         <translation>automatiskt tilldelad</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>att kontrollera</translation>
     </message>
     <message>
@@ -572,13 +572,13 @@ Annat: %2</translation>
         <translation>%1 läses</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>Mappningsfilen %1 kan inte läsas (%2).
 Välj en annan fil eller kopiera tillbaka säkerhetskopian %3.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>Mappningsfilen %1 kan inte läsas (%2).
 Välj en annan fil.</translation>
@@ -674,11 +674,11 @@ Välj en annan fil.</translation>
         <translation>%1 kan inte läsas (%2). Inget skrevs. Spara under ett annat namn.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 är ingen läsbar mappningsfil (%2). Inget skrevs. När du sparar behålls den befintliga filen under ett namn med tidsstämpel och en ny skapas som bara innehåller denna utgåva.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 är ingen läsbar mappningsfil (%2). Inget skrevs. När du sparar behålls den befintliga filen under ett namn med tidsstämpel och en ny skapas. De andra utgåvorna kommer från säkerhetskopian %3: %4.</translation>
     </message>
     <message>
@@ -1633,7 +1633,7 @@ Välj en annan fil.</translation>
         <translation>ERP-numren kan inte läsas. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Rader tilldelade på nytt: ingen ändring</translation>
     </message>
     <message>
@@ -1821,7 +1821,7 @@ Välj en annan fil.</translation>
         <translation>Journalen %1 kan inte skapas (%2). Efter en krasch skulle ändringarna vara förlorade: spara ofta.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Ingen mappningsfil är öppen.</translation>
     </message>
     <message>
@@ -2499,12 +2499,12 @@ Rad: %2
         <translation>Bekräftad</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Att kontrollera</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Hittades inte</translation>
+        <source>Ohne Ziel</source>
+        <translation>Utan mål</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3261,7 +3261,7 @@ Rad: %2
         <translation>Slutet av journalen %1 är inte läsbart. Den senaste ändringen kan saknas.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>Journalen %1 är skadad eller passar inte till mappningsfilen. Minst %2 senare ändringar saknas; journalen behålls.</translation>
     </message>
 </context>
@@ -3560,11 +3560,11 @@ Rad: %2
         <translation>I %1 förblir variabler ignorerade: %2. För att mappa en av dem igen, välj &quot;Formel...&quot; eller radera raden och ange den på nytt.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>Ett villkor för målprojektet %1 i %2 har fallit bort.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>En variabelmappning för målprojektet %1 i %2 har fallit bort.</translation>
     </message>
     <message numerus="yes">
@@ -3930,7 +3930,7 @@ Rad: %2
         <translation>Ångrar det senaste steget</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>&amp;Gör om</translation>
     </message>
     <message>

@@ -292,7 +292,7 @@ Diğer: %2</translation>
         <translation>otomatik atandı</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>denetlenecek</translation>
     </message>
     <message>
@@ -553,13 +553,13 @@ Diğer: %2</translation>
         <translation>%1 okunuyor</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>%1 eşleme dosyası okunamıyor (%2).
 Lütfen başka bir dosya seçin veya %3 yedeğini geri kopyalayın.</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>%1 eşleme dosyası okunamıyor (%2).
 Lütfen başka bir dosya seçin.</translation>
@@ -655,11 +655,11 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>%1 okunamıyor (%2). Hiçbir şey yazılmadı. Lütfen başka bir adla kaydedin.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 okunabilir bir eşleme dosyası değil (%2). Hiçbir şey yazılmadı. Kaydederken var olan dosya zaman damgalı bir adla saklanır ve yalnızca bu sürümü içeren yeni bir dosya oluşturulur.</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 okunabilir bir eşleme dosyası değil (%2). Hiçbir şey yazılmadı. Kaydederken var olan dosya zaman damgalı bir adla saklanır ve yeni bir dosya oluşturulur. Diğer sürümler %3 yedeğinden gelir: %4.</translation>
     </message>
     <message>
@@ -1611,7 +1611,7 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>ERP numaraları okunamıyor. %1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>Satırlar yeniden atandı: değişiklik yok</translation>
     </message>
     <message>
@@ -1796,7 +1796,7 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>%1 günlüğü oluşturulamıyor (%2). Bir çökmeden sonra değişiklikler kaybolurdu: lütfen sık sık kaydedin.</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>Açık eşleme dosyası yok.</translation>
     </message>
     <message>
@@ -2457,12 +2457,12 @@ Satır: %2
         <translation>Onaylandı</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>Denetlenecek</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>Bulunamadı</translation>
+        <source>Ohne Ziel</source>
+        <translation>Hedefsiz</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3212,7 +3212,7 @@ Satır: %2
         <translation>%1 günlüğünün sonu okunamıyor. Son değişiklik eksik olabilir.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>%1 günlüğü hasarlı veya eşleme dosyasına uymuyor. Sonraki en az %2 değişiklik eksik; günlük saklanır.</translation>
     </message>
 </context>
@@ -3510,11 +3510,11 @@ Satır: %2
         <translation>%1 içinde değişkenler yok sayılmaya devam ediyor: %2. Bunlardan birini yeniden eşlemek için &quot;Formül...&quot; seçin veya satırı silip yeniden girin.</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2 içindeki %1 hedef projesinin bir koşulu düştü.</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2 içindeki %1 hedef projesinin bir değişken eşlemesi düştü.</translation>
     </message>
     <message numerus="yes">
@@ -3867,7 +3867,7 @@ Satır: %2
         <translation>Son adımı geri alır</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>&amp;Yinele</translation>
     </message>
     <message>

@@ -292,7 +292,7 @@ Andere: %2</source>
         <translation>自动分配</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>待检查</translation>
     </message>
     <message>
@@ -553,13 +553,13 @@ Andere: %2</source>
         <translation>正在读取 %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>无法读取映射文件 %1 (%2)。
 请选择其他文件，或将备份 %3 复制回来。</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>无法读取映射文件 %1 (%2)。
 请选择其他文件。</translation>
@@ -655,11 +655,11 @@ Bitte eine andere Datei wählen.</source>
         <translation>无法读取 %1 (%2)。未写入任何内容。请用其他名称保存。</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 不是可读的映射文件 (%2)。未写入任何内容。保存时，现有文件会以带时间戳的名称保留，并新建一个只包含此版本的文件。</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 不是可读的映射文件 (%2)。未写入任何内容。保存时，现有文件会以带时间戳的名称保留，并新建一个文件。其他版本取自备份 %3：%4。</translation>
     </message>
     <message>
@@ -1611,7 +1611,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>无法读取 ERP 编号。%1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>已重新分配行：没有更改</translation>
     </message>
     <message>
@@ -1796,7 +1796,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>无法创建日志 %1 (%2)。崩溃后更改将会丢失：请经常保存。</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>没有打开的映射文件。</translation>
     </message>
     <message>
@@ -2457,12 +2457,12 @@ Zeile: %2
         <translation>已确认</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>待检查</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>未找到</translation>
+        <source>Ohne Ziel</source>
+        <translation>无目标</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3212,7 +3212,7 @@ Zeile: %2
         <translation>日志 %1 的末尾无法读取。可能缺少最后一次更改。</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>日志 %1 已损坏，或与映射文件不符。至少缺少之后的 %2 项更改；日志将保留。</translation>
     </message>
 </context>
@@ -3510,11 +3510,11 @@ Zeile: %2
         <translation>%1 中仍被忽略的变量：%2。要重新映射其中某个变量，请选择 &quot;公式...&quot;，或删除该行并重新输入。</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2 中目标项目 %1 的一个条件已失效。</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2 中目标项目 %1 的一个变量映射已失效。</translation>
     </message>
     <message numerus="yes">
@@ -3867,7 +3867,7 @@ Zeile: %2
         <translation>撤销最后一个步骤</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>重做(&amp;R)</translation>
     </message>
     <message>

@@ -292,7 +292,7 @@ Andere: %2</source>
         <translation>自動指派</translation>
     </message>
     <message>
-        <source>zu überprüfen</source>
+        <source>zu prüfen</source>
         <translation>待檢查</translation>
     </message>
     <message>
@@ -553,13 +553,13 @@ Andere: %2</source>
         <translation>正在讀取 %1</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen oder die Sicherungskopie %3 zurückkopieren.</source>
         <translation>無法讀取對應檔 %1 (%2)。
 請選擇其他檔案，或將備份 %3 複製回來。</translation>
     </message>
     <message>
-        <source>Die Zuordnungsdatei %1 kann nicht gelesen werden (%2).
+        <source>Die Mapping-Datei %1 kann nicht gelesen werden (%2).
 Bitte eine andere Datei wählen.</source>
         <translation>無法讀取對應檔 %1 (%2)。
 請選擇其他檔案。</translation>
@@ -655,11 +655,11 @@ Bitte eine andere Datei wählen.</source>
         <translation>無法讀取 %1 (%2)。未寫入任何內容。請以其他名稱儲存。</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur diesen Stand enthält.</source>
         <translation>%1 不是可讀的對應檔 (%2)。未寫入任何內容。儲存時，現有檔案會以附時間戳記的名稱保留，並新建一個只包含此版本的檔案。</translation>
     </message>
     <message>
-        <source>%1 ist keine lesbare Zuordnungsdatei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
+        <source>%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts geschrieben. Beim Speichern wird die vorhandene Datei unter einem Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen Stände kommen aus der Sicherung %3: %4.</source>
         <translation>%1 不是可讀的對應檔 (%2)。未寫入任何內容。儲存時，現有檔案會以附時間戳記的名稱保留，並新建一個檔案。其他版本取自備份 %3：%4。</translation>
     </message>
     <message>
@@ -1611,7 +1611,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>無法讀取 ERP 編號。%1</translation>
     </message>
     <message>
-        <source>Zeilen neu zugewiesen: keine Änderung</source>
+        <source>Zeilen neu zugeordnet: keine Änderung</source>
         <translation>已重新指派列：沒有變更</translation>
     </message>
     <message>
@@ -1796,7 +1796,7 @@ Bitte eine andere Datei wählen.</source>
         <translation>無法建立日誌 %1 (%2)。當機後變更將會遺失：請經常儲存。</translation>
     </message>
     <message>
-        <source>Es ist keine Zuordnungsdatei geöffnet.</source>
+        <source>Es ist keine Mapping-Datei geöffnet.</source>
         <translation>沒有開啟的對應檔。</translation>
     </message>
     <message>
@@ -2457,12 +2457,12 @@ Zeile: %2
         <translation>已確認</translation>
     </message>
     <message>
-        <source>Zu überprüfen</source>
+        <source>Zu prüfen</source>
         <translation>待檢查</translation>
     </message>
     <message>
-        <source>Nicht gefunden</source>
-        <translation>找不到</translation>
+        <source>Ohne Ziel</source>
+        <translation>無目標</translation>
     </message>
     <message>
         <source>Der gespeicherte Stand ist jünger als alles, was wiederhergestellt werden kann.</source>
@@ -3212,7 +3212,7 @@ Zeile: %2
         <translation>日誌 %1 的結尾無法讀取。可能缺少最後一次變更。</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Zuordnungsdatei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
         <translation>日誌 %1 已損壞，或與對應檔不符。至少缺少之後的 %2 項變更；日誌將保留。</translation>
     </message>
 </context>
@@ -3510,11 +3510,11 @@ Zeile: %2
         <translation>%1 中仍被忽略的變數：%2。要重新對應其中某個變數，請選擇 &quot;公式...&quot;，或刪除該列並重新輸入。</translation>
     </message>
     <message>
-        <source>Eine Bedingung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Bedingung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2 中目標專案 %1 的一個條件已失效。</translation>
     </message>
     <message>
-        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 ist entfallen.</source>
+        <source>Eine Variablenzuordnung des Zielprojekts %1 in %2 wurde entfernt.</source>
         <translation>%2 中目標專案 %1 的一個變數對應已失效。</translation>
     </message>
     <message numerus="yes">
@@ -3867,7 +3867,7 @@ Zeile: %2
         <translation>復原最後一個步驟</translation>
     </message>
     <message>
-        <source>&amp;Wiederherstellen</source>
+        <source>&amp;Wiederholen</source>
         <translation>重做(&amp;R)</translation>
     </message>
     <message>

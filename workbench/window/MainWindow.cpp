@@ -179,7 +179,7 @@ void MainWindow::connectParts()
     });
     // What changed, if anything did, is told at the end of the step, over this.
     connect(m_editor, &EditorArea::linesReassigned, this,
-            [this] { m_status->showNote(tr("Zeilen neu zugewiesen: keine Änderung")); });
+            [this] { m_status->showNote(tr("Zeilen neu zugeordnet: keine Änderung")); });
     m_counterTimer->setSingleShot(true);
     m_counterTimer->setInterval(30);
     connect(m_counterTimer, &QTimer::timeout, this, &MainWindow::updateCounter);

@@ -79,8 +79,8 @@ RecoveryDialog::RecoveryDialog(const QString &file, const RecoveryOffer &offer, 
     addCount(tr("Projekte"), saved.projects, found.projects, "projects");
     addCount(tr("Zeilen"), saved.counts.lines(), found.counts.lines(), "lines");
     addCount(tr("Bestätigt"), saved.counts.verified(), found.counts.verified(), "verified");
-    addCount(tr("Zu überprüfen"), saved.counts.toCheck(), found.counts.toCheck(), "toCheck");
-    addCount(tr("Nicht gefunden"), saved.counts.notFound(), found.counts.notFound(), "notFound");
+    addCount(tr("Zu prüfen"), saved.counts.toCheck(), found.counts.toCheck(), "toCheck");
+    addCount(tr("Ohne Ziel"), saved.counts.notFound(), found.counts.notFound(), "notFound");
     layout->addLayout(grid);
     addNotes(offer);
     addButtons(offer);

@@ -81,7 +81,7 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
     {"editUndo", QT_TRANSLATE_NOOP("WorkbenchActions", "&Rückgängig"),
      QT_TRANSLATE_NOOP("WorkbenchActions", "Nimmt den letzten Schritt zurück"), "Ctrl+Z", "undo",
      true, true},
-    {"editRedo", QT_TRANSLATE_NOOP("WorkbenchActions", "&Wiederherstellen"),
+    {"editRedo", QT_TRANSLATE_NOOP("WorkbenchActions", "&Wiederholen"),
      QT_TRANSLATE_NOOP("WorkbenchActions", "Führt den zurückgenommenen Schritt wieder aus"),
      "Ctrl+Shift+Z", "redo", true, true},
     {"linesConfirm", QT_TRANSLATE_NOOP("WorkbenchActions", "Zeilen &bestätigen..."),

@@ -91,7 +91,7 @@ private Q_SLOTS:
         QTRY_COMPARE(fixture.action("editUndo")->text(), QStringLiteral("&Rückgängig"));
         QVERIFY(!fixture.action("editUndo")->isEnabled());
         QCOMPARE(fixture.action("editRedo")->text(),
-                 "&Wiederherstellen: Zeile 3 → 2 bestätigt in " + path);
+                 "&Wiederholen: Zeile 3 → 2 bestätigt in " + path);
         QCOMPARE(fixture.window->editor()->currentPath(), path);
         QCOMPARE(fixture.window->editor()->currentLine(), line + 1); // V went on
         fixture.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);

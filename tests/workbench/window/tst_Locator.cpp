@@ -310,9 +310,9 @@ void tst_Locator::runsACommand()
                       QPoint(20, 5));
     QTRY_VERIFY(log->isChecked());
     // With its key; what cannot be done now cannot be chosen.
-    LocatorDialog *const other = locate("wiederherst");
+    LocatorDialog *const other = locate("wiederhol");
     QVERIFY(other);
-    QCOMPARE(rows(other).value(0), QString("Wiederherstellen|Ctrl+Shift+Z|Befehl"));
+    QCOMPARE(rows(other).value(0), QString("Wiederholen|Ctrl+Shift+Z|Befehl"));
     QTest::keyClick(other->findChild<QLineEdit *>("locatorInput"), Qt::Key_Return);
     QVERIFY(other->isVisible());
 }

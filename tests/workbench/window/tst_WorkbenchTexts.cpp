@@ -5,6 +5,7 @@
 #include <workbench/window/QtTexts.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -51,6 +52,22 @@ QString faultOf(const QString &source, const QString &translation)
     return {};
 }
 
+/// Sources, or translations with all their forms.
+QStringList textsOf(const QString &catalog, bool sources)
+{
+    QFile file(catalog);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QXmlStreamReader xml(&file);
+    QStringList texts;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == QLatin1String(sources ? "source" : "translation"))
+            texts += xml.readElementText(QXmlStreamReader::IncludeChildElements);
+    }
+    return texts;
+}
+
 } // namespace
 
 class tst_WorkbenchTexts : public QObject
@@ -90,6 +107,51 @@ private Q_SLOTS:
 
     void everyTextKeepsItsPlaces_data();
     void everyTextKeepsItsPlaces();
+
+    /// docs/glossary.md: one thing has one word. The German texts of the editor's widgets are as
+    /// they are; those of the workbench are looked at.
+    void wordsAreThoseOfTheGlossary_data()
+    {
+        QTest::addColumn<QString>("catalogs");
+        QTest::addColumn<bool>("sources");
+        QTest::addColumn<QString>("forbidden");
+        QTest::newRow("German") << "workbench/translations/velkworkbench_en.ts" << true
+                                << "Zuordnungsdatei|entfallen|überprüfen|nicht zugeordnet|"
+                                   "(?<!erneut )zugewiesen|(?<!erneut )zuweisen|nicht gefundene";
+        const QString english = "\\bexpired?\\b|preferred range|\\banew\\b|\\bmakes? the\\b";
+        QTest::newRow("English") << "translations/*_en.ts" << false << english;
+        QTest::newRow("English of the workbench")
+            << "workbench/translations/velkworkbench_en.ts" << false << english;
+        QTest::newRow("Spanish") << "translations/*_es.ts" << false
+                                 << "caducad|líneas? (?!%1, carácter)|mapeo de variables|"
+                                    "asignaci(ón|ones) de variable";
+        QTest::newRow("Polish") << "translations/*_pl.ts" << false
+                                << "pocztą|modelarz|przypisani\\w+ zmienn";
+        QTest::newRow("French") << "translations/*_fr.ts" << false
+                                << "modeleur|du programme\\.|supprimée du programme|"
+                                   "affectations? de variable";
+    }
+    void wordsAreThoseOfTheGlossary()
+    {
+        QFETCH(QString, catalogs);
+        QFETCH(bool, sources);
+        QFETCH(QString, forbidden);
+        const QRegularExpression wrong(forbidden,
+                                       QRegularExpression::CaseInsensitiveOption |
+                                           QRegularExpression::UseUnicodePropertiesOption);
+        QVERIFY2(wrong.isValid(), qPrintable(wrong.errorString()));
+        const QFileInfo pattern(QStringLiteral(VELK_SOURCE_DIR "/") + catalogs);
+        const QFileInfoList files = pattern.dir().entryInfoList({pattern.fileName()});
+        QVERIFY(!files.isEmpty());
+        QStringList faults;
+        for (const QFileInfo &file : files) {
+            for (const QString &text : textsOf(file.filePath(), sources)) {
+                if (wrong.match(QString(text).remove(u'&')).hasMatch())
+                    faults += text;
+            }
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
 
     void textsAreFoundAtRunTime_data()
     {
