@@ -2,10 +2,12 @@
 
 #include <geomcore/records/MappingFile.h>
 #include <TestPaths.h>
+#include <tools/velkmap/Commands.h>
 #include <tools/velkmap/ExitStatus.h>
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -24,6 +26,8 @@ private Q_SLOTS:
     void unwritableOutput();
     void twoWriters();
     void manySearches();
+    void manualPageHasEveryCommand();
+    void completionKnowsEveryCommand();
 
 private:
     struct Result
@@ -178,6 +182,45 @@ void tst_VelkmapProgram::manySearches()
     QCOMPARE(after.status, 0);
     QCOMPARE(after.err, QString());
     QCOMPARE(after.out.count("  ("), 2);
+}
+
+void tst_VelkmapProgram::manualPageHasEveryCommand()
+{
+    const Result page =
+        run(QStringLiteral(VELK_SOURCE_DIR "/packaging/velkmap-commands"), {m_program});
+    QCOMPARE(page.status, 0);
+    for (const velkmap::Command &command : velkmap::commands()) {
+        const qsizetype begin = page.out.indexOf(".SS \"velkmap " + command.name + "\"\n");
+        QVERIFY2(begin >= 0, qPrintable(command.name));
+        const qsizetype end = page.out.indexOf("\n.SS", begin);
+        const QString part = page.out.mid(begin, end - begin);
+        QVERIFY2(part.contains("\nUsage: velkmap " + command.name), qPrintable(part));
+        QVERIFY2(part.contains("\\-\\-help"), qPrintable(part));
+        QVERIFY2(part.count(".nf") == part.count(".fi"), qPrintable(part));
+    }
+}
+
+void tst_VelkmapProgram::completionKnowsEveryCommand()
+{
+    const auto complete = [this](const QString &words, int word) {
+        const QString script =
+            QStringLiteral("PATH=%1:$PATH; . %2; COMP_WORDS=(velkmap %3); COMP_CWORD=%4; _velkmap; "
+                           "echo \"${COMPREPLY[*]}\"")
+                .arg(QFileInfo(m_program).path(),
+                     QStringLiteral(VELK_SOURCE_DIR "/packaging/completion.bash"), words)
+                .arg(word);
+        return run("bash", {"-c", script}).out.trimmed().split(u' ');
+    };
+    QStringList names{"--help", "--version"};
+    for (const velkmap::Command &command : velkmap::commands()) {
+        names += command.name;
+        const QStringList options = complete(command.name + " --", 2);
+        QVERIFY2(options.size() >= 2 && options.contains("--help"), qPrintable(command.name));
+    }
+    QStringList found = complete("''", 1);
+    found.sort();
+    names.sort();
+    QCOMPARE(found, names);
 }
 
 QTEST_GUILESS_MAIN(tst_VelkmapProgram)

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void cleanup();
 
     void savesAndKeepsTheFormerFile();
+    void keepsThreeFormerFiles();
     void savingTellsThatNothingIsChangedAnyMore();
     void savesANewFile();
     void keepsOtherReleasesByteForByte();
@@ -152,7 +153,32 @@ void tst_GuardedSave::savesAndKeepsTheFormerFile()
     m_document->close();
     QCOMPARE(names(),
              QStringList({QStringLiteral("release.json"), QStringLiteral("release.json.bak"),
+                          QStringLiteral("release.json.bak.2"),
                           QStringLiteral("release.json.journal")}));
+    QCOMPARE(SessionFixture::content(m_file + QStringLiteral(".bak.2")), before);
+}
+
+void tst_GuardedSave::keepsThreeFormerFiles()
+{
+    QList<QByteArray> versions{SessionFixture::content(m_file)};
+    openAndChange();
+    for (int line = 3; line < 8; ++line) {
+        m_document->updateMapping(
+            SessionFixture::withState(m_document->mapping(firstProject()), {line}, 2));
+        QCOMPARE(m_document->save().result, SaveResult::Saved);
+        versions.prepend(SessionFixture::content(m_file));
+    }
+    m_document->close();
+    QCOMPARE(GuardedSave::Backups, 3);
+    for (int age = 1; age <= 3; ++age)
+        QCOMPARE(SessionFixture::content(GuardedSave::backupFile(m_file, age)), versions.at(age));
+    QVERIFY(!QFile::exists(GuardedSave::backupFile(m_file, 4)));
+    // What stands in the way of an older one stops nothing.
+    QVERIFY(QFile::remove(GuardedSave::backupFile(m_file, 2)));
+    QVERIFY(QDir().mkdir(GuardedSave::backupFile(m_file, 2)));
+    openAndChange();
+    QCOMPARE(m_document->save().result, SaveResult::Saved);
+    QCOMPARE(SessionFixture::content(GuardedSave::backupFile(m_file)), versions.first());
 }
 
 void tst_GuardedSave::savingTellsThatNothingIsChangedAnyMore()

@@ -50,9 +50,10 @@ SaveOutcome GuardedSave::run(const ReleaseMappingC &release, const Commit &commi
     return m_outcome;
 }
 
-QString GuardedSave::backupFile(const QString &mappingFile)
+QString GuardedSave::backupFile(const QString &mappingFile, int age)
 {
-    return mappingFile + QStringLiteral(".bak");
+    const QString newest = mappingFile + QStringLiteral(".bak");
+    return age < 2 ? newest : newest + u'.' + QString::number(age);
 }
 
 QString GuardedSave::lockFile(const QString &mappingFile)
@@ -253,6 +254,7 @@ bool GuardedSave::keepFormer()
 {
     if (!m_readable)
         return true;
+    keepOlder();
     const QString backup = backupFile(m_file);
     QString cause;
     if (!OwnFile::keep(m_file, backup, &cause))
@@ -262,6 +264,17 @@ bool GuardedSave::keepFormer()
                        .arg(backup, cause));
     m_outcome.backupFile = backup;
     return true;
+}
+
+/// Each gets the next name; none is missing at any time. The newest one alone is promised, so what
+/// fails here stops nothing.
+void GuardedSave::keepOlder() const
+{
+    for (int age = Backups - 1; age > 0; --age) {
+        const QString backup = backupFile(m_file, age);
+        if (OwnFile::place(backup) == OwnFile::Place::RegularFile)
+            (void)OwnFile::keep(backup, backupFile(m_file, age + 1));
+    }
 }
 
 bool GuardedSave::putInPlace()

@@ -36,7 +36,10 @@ public:
     /// The file after a successful run().
     [[nodiscard]] const FileState &savedState() const { return m_saved; }
 
-    [[nodiscard]] static QString backupFile(const QString &mappingFile);
+    /// What the file was before the last saving, and with a larger \a age before the ones before
+    /// that, up to Backups.
+    [[nodiscard]] static QString backupFile(const QString &mappingFile, int age = 1);
+    static constexpr int Backups = 3;
     /// Held while saving.
     [[nodiscard]] static QString lockFile(const QString &mappingFile);
     /// What is being written; what a program that was killed left of it goes with the next saving.
@@ -54,6 +57,7 @@ private:
     [[nodiscard]] QByteArray expectedContent() const;
     [[nodiscard]] QString check(const QByteArray &written) const;
     [[nodiscard]] bool keepFormer();
+    void keepOlder() const;
     [[nodiscard]] bool putInPlace();
     [[nodiscard]] bool end(SaveResult result, const QString &text);
     [[nodiscard]] QString date() const { return m_release.getSourceDate(); }

@@ -3492,7 +3492,7 @@ Line: %2
     </message>
     <message>
         <source>Die Verwaltung der Arbeitskopie war beschädigt und wurde neu geholt; die frühere ist %1.</source>
-        <translation>The store of the working copy was damaged and was fetched anew; the former one is %1.</translation>
+        <translation>The store of the working copy was damaged and was fetched again; the former one is %1.</translation>
     </message>
     <message>
         <source>Etwas Abgebrochenes wurde in Ordnung gebracht.</source>
@@ -3540,6 +3540,10 @@ Line: %2
     <message>
         <source>Fortschritt</source>
         <translation>Progress</translation>
+    </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Errors and warnings: %1</translation>
     </message>
 </context>
 <context>
@@ -3959,7 +3963,7 @@ Line: %2
     </message>
     <message>
         <source>Zeilen ohne Ziel als aus&amp;gelaufen bestätigen...</source>
-        <translation>Confirm Lines without Target as Dis&amp;continued...amp;Discontinued...</translation>
+        <translation>Confirm Lines without Target as Discontinu&amp;ed...</translation>
     </message>
     <message>
         <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>

@@ -39,6 +39,7 @@ void LogWindow::addMessage(Severity severity, const QString &text)
     m_text->add(QTime::currentTime().toString("HH:mm:ss  ") + mark + text.trimmed(), ink);
     if (severity == Severity::Information)
         return;
+    Q_EMIT problemAdded();
     show();
     raise();
 }

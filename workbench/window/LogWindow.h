@@ -24,6 +24,10 @@ public:
     void addMessage(Severity severity, const QString &text);
     [[nodiscard]] QString text() const;
 
+Q_SIGNALS:
+    /// An error or warning was added.
+    void problemAdded();
+
 protected:
     void changeEvent(QEvent *event) override;
 

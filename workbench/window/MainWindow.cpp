@@ -88,6 +88,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     tabifyDockWidget(m_log, m_scripts->console());
     m_scripts->console()->hide();
     setStatusBar(m_status);
+    connect(m_log, &LogWindow::problemAdded, m_status->progress(), &StatusProgress::countProblem);
     m_welcome = new WelcomePage({m_actions->action(WorkbenchActions::OpenFile),
                                  m_actions->action(WorkbenchActions::NewMapping),
                                  m_actions->action(WorkbenchActions::OpenExample)},

@@ -28,18 +28,21 @@ StatusProgress::StatusProgress(QWidget *parent)
     , m_text(new QLabel(this))
     , m_bar(new QProgressBar(this))
     , m_details(new QLabel(this))
+    , m_problems(new QLabel(this))
     , m_cancel(new QToolButton(this))
 {
     setObjectName("statusProgress");
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    for (QWidget *const part : std::initializer_list<QWidget *>{m_text, m_bar, m_details, m_cancel})
+    for (QWidget *const part :
+         std::initializer_list<QWidget *>{m_text, m_bar, m_details, m_problems, m_cancel})
         layout->addWidget(part);
     m_bar->setObjectName("progressBar");
     m_bar->setFixedWidth(160);
     m_bar->setTextVisible(false);
     m_text->setObjectName("progressText");
     m_details->setObjectName("progressDetails");
+    m_problems->setObjectName("progressProblems");
     m_cancel->setObjectName("progressCancel");
     connect(m_cancel, &QToolButton::clicked, this, [this] {
         for (const PProgressInfo &info : std::as_const(m_running)) {
@@ -54,8 +57,11 @@ StatusProgress::StatusProgress(QWidget *parent)
 
 void StatusProgress::showProgress(const QList<PProgressInfo> &running)
 {
-    if (m_running.isEmpty())
+    if (m_running.isEmpty()) {
         m_cancel->setEnabled(true);
+        m_problemCount = 0;
+        showProblems();
+    }
     m_running = running;
     setVisible(!running.isEmpty());
     if (running.isEmpty())
@@ -68,6 +74,20 @@ void StatusProgress::showProgress(const QList<PProgressInfo> &running)
     m_cancel->setVisible(std::ranges::any_of(running, &PProgressInfo::cancellable));
 }
 
+void StatusProgress::countProblem()
+{
+    if (m_running.isEmpty())
+        return;
+    ++m_problemCount;
+    showProblems();
+}
+
+void StatusProgress::showProblems()
+{
+    m_problems->setVisible(m_problemCount > 0);
+    m_problems->setText(tr("Fehler und Warnungen: %1").arg(m_problemCount));
+}
+
 bool StatusProgress::owns(const QWidget *widget) const
 {
     return widget == m_cancel;
@@ -76,6 +96,7 @@ bool StatusProgress::owns(const QWidget *widget) const
 void StatusProgress::retranslate()
 {
     m_bar->setAccessibleName(tr("Fortschritt"));
+    showProblems();
     m_cancel->setText(tr("Abbrechen"));
     m_cancel->setToolTip(tr("Bricht die laufende Arbeit ab; was fertig ist, bleibt"));
 }

@@ -21,18 +21,23 @@ public:
     void showProgress(const QList<PProgressInfo> &running);
     /// The button, for work that lets input to it pass.
     [[nodiscard]] bool owns(const QWidget *widget) const;
+    /// Errors and warnings are counted as long as work runs.
+    void countProblem();
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void retranslate();
+    void showProblems();
 
     QLabel *const m_text;
     QProgressBar *const m_bar;
     QLabel *const m_details;
+    QLabel *const m_problems;
     QToolButton *const m_cancel;
     QList<PProgressInfo> m_running;
+    int m_problemCount = 0;
 };
 
 /// Hands progress to a StatusProgress, which may go first.

@@ -42,8 +42,11 @@ private Q_SLOTS:
     {
         QMainWindow window;
         LogWindow log(&window);
+        const QSignalSpy problems(&log, &LogWindow::problemAdded);
         log.addMessage(LogWindow::Severity::Information, "first");
+        QCOMPARE(problems.size(), 0);
         log.addMessage(LogWindow::Severity::Warning, " second\n");
+        QCOMPARE(problems.size(), 1);
         const QStringList lines = log.text().split('\n');
         QCOMPARE(lines.size(), 2);
         QVERIFY(lines.first().endsWith("  first"));
@@ -231,11 +234,20 @@ private Q_SLOTS:
             QVERIFY(!cancel->isHidden());
             QVERIFY(part->owns(cancel));
             QVERIFY(!part->owns(part));
+            auto *const problems = part->findChild<QLabel *>("progressProblems");
+            QVERIFY(problems->isHidden());
+            part->countProblem();
+            part->countProblem();
+            QVERIFY(!problems->isHidden());
+            QCOMPARE(problems->text(), QStringLiteral("Fehler und Warnungen: 2"));
             QTest::mouseClick(cancel, Qt::LeftButton);
             QVERIFY(progress.isCanceled());
             QVERIFY(!cancel->isEnabled());
         }
         QVERIFY(part->isHidden());
+        part->countProblem(); // of no work
+        part->showProgress({PProgressInfo()});
+        QVERIFY(part->findChild<QLabel *>("progressProblems")->isHidden());
         DefaultObserverDelegate::setDisplay(nullptr);
         DefaultObserverDelegate::setTimes(500, 100);
     }
