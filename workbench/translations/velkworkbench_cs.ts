@@ -3590,6 +3590,10 @@ Projekt: %1
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Přeruší probíhající práci; co je hotové, zůstane</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Chyby a varování: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

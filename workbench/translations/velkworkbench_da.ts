@@ -3541,6 +3541,10 @@ Linje: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Afbryder det igangværende arbejde; det, der er færdigt, bliver</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Fejl og advarsler: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

@@ -3541,6 +3541,10 @@ Línea: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Cancela el trabajo en curso; lo terminado se queda</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Errores y avisos: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

@@ -3541,6 +3541,10 @@ Rivi: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Keskeyttää käynnissä olevan työn; valmis säilyy</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Virheet ja varoitukset: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

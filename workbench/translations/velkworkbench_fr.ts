@@ -3541,6 +3541,10 @@ Ligne : %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Interrompt le travail en cours ; ce qui est terminé reste</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Erreurs et avertissements : %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

@@ -3492,6 +3492,10 @@ Sor: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Megszakítja a futó munkát; ami kész, megmarad</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Hibák és figyelmeztetések: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

@@ -3492,6 +3492,10 @@ Baris: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Membatalkan pekerjaan yang berjalan; yang sudah selesai tetap ada</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Kesalahan dan peringatan: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

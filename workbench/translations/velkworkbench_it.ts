@@ -3541,6 +3541,10 @@ Riga: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Interrompe il lavoro in corso; ciò che è pronto resta</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Errori e avvisi: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

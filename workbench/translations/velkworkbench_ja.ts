@@ -3492,6 +3492,10 @@ Zeile: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>実行中の作業を中止します。完了した分は残ります</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>エラーと警告: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

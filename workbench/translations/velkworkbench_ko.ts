@@ -3492,6 +3492,10 @@ Zeile: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>진행 중인 작업을 중단합니다. 완료된 것은 유지됩니다</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>오류 및 경고: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

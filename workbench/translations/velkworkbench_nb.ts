@@ -3541,6 +3541,10 @@ Linje: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Avbryter arbeidet som pågår; det som er ferdig, blir</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Feil og advarsler: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

@@ -3590,6 +3590,10 @@ Wiersz: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Przerywa bieżącą pracę; to, co gotowe, pozostaje</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Błędy i ostrzeżenia: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

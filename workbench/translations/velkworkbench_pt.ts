@@ -3541,6 +3541,10 @@ Linha: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Cancela o trabalho em curso; o que está pronto fica</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Erros e avisos: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

@@ -3590,6 +3590,10 @@ Zeile: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Прерывает текущую работу; готовое остаётся</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Ошибки и предупреждения: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

@@ -3639,6 +3639,10 @@ Vrstica: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Prekine tekoče delo; kar je končano, ostane</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Napake in opozorila: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

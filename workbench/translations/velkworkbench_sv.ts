@@ -3541,6 +3541,10 @@ Rad: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Avbryter det pågående arbetet; det som är klart blir kvar</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Fel och varningar: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

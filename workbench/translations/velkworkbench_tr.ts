@@ -3492,6 +3492,10 @@ Satır: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>Süren işi iptal eder; bitmiş olan kalır</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>Hatalar ve uyarılar: %1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>

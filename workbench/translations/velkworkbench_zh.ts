@@ -3492,6 +3492,10 @@ Zeile: %2
         <source>Bricht die laufende Arbeit ab; was fertig ist, bleibt</source>
         <translation>取消正在进行的工作；已完成的部分保留</translation>
     </message>
+    <message>
+        <source>Fehler und Warnungen: %1</source>
+        <translation>错误和警告：%1</translation>
+    </message>
 </context>
 <context>
     <name>StepNotices</name>
