@@ -1,6 +1,7 @@
 #include "ReviewWork.h"
 
 #include "MappingDocument.h"
+#include "TargetHead.h"
 
 #include <geomcore/records/LineTable.h>
 
@@ -19,6 +20,31 @@ namespace {
 
 constexpr qint64 TellEvery = 100; // milliseconds
 
+constexpr int RefreshAfter = 1500; // milliseconds without a decision
+
+/// Where the line is assigned to, as target and target line; -1 if nowhere.
+std::pair<int, int> assignmentOf(const PrjMappingC &mapping, int line)
+{
+    for (int i = 0; i < mapping.countTargets(); ++i) {
+        const LineTable::Iterator entry = mapping.targetAt(i).lines().find(line);
+        if (entry && entry.targetLine() != -1)
+            return {i, entry.targetLine()};
+    }
+    return {-1, -1};
+}
+
+/// The mappings differ in their lines alone.
+bool haveSameRules(const PrjMappingC &a, const PrjMappingC &b)
+{
+    if (a.countTargets() != b.countTargets())
+        return false;
+    for (int i = 0; i < a.countTargets(); ++i) {
+        if (!TargetHead::equal(a.targetAt(i), b.targetAt(i)))
+            return false;
+    }
+    return true;
+}
+
 bool isConfirmed(const PrjMappingC &mapping, int line)
 {
     for (int i = 0; i < mapping.countTargets(); ++i) {
@@ -35,35 +61,62 @@ bool isConfirmed(const PrjMappingC &mapping, int line)
 struct ReviewWork::Comparer
 {
     ProjectId project;
-    PrjMappingC mapping;
+    PrjMappingC mapping; ///< that candidates and probabilities are of
     ReleaseMappingC head;
     QString sourceRoot;
     std::mutex mutex;
+    std::atomic<bool> ended = false; ///< nobody waits for an answer
     std::unique_ptr<LineComparer> comparer;
 
-    [[nodiscard]] LineExplanation explain(int line)
+    /// \a current: the mapping as it is now, with other lines perhaps.
+    [[nodiscard]] LineExplanation explain(int line, const PrjMappingC &current)
     {
         const std::lock_guard lock(mutex);
         if (!comparer)
-            comparer = std::make_unique<LineComparer>(sourceRoot, mapping, head);
+            comparer = std::make_unique<LineComparer>(sourceRoot, mapping, head, &ended);
         LineExplanation explanation;
         explanation.line = {project, line};
-        explanation.isConfirmed = isConfirmed(mapping, line);
+        explanation.isConfirmed = isConfirmed(current, line);
         explanation.errors = comparer->errors();
         explanation.isRead = comparer->hasLine(line);
         if (!explanation.isRead)
             return explanation;
         explanation.designation = comparer->designation(line);
-        explanation.assigned = comparer->assigned(line);
         explanation.candidates = comparer->candidates(line);
+        const auto [target, targetLine] = assignmentOf(current, line);
+        explanation.assigned = assignmentOf(mapping, line) == std::pair(target, targetLine)
+                                   ? comparer->assigned(line)
+                                   : pairOf(explanation.candidates, line, target, targetLine);
         return explanation;
+    }
+
+private:
+    /// Of a line that has gone elsewhere since.
+    [[nodiscard]] std::optional<LineComparer::Pair> pairOf(const LineCandidatesC &candidates,
+                                                           int line, int target, int targetLine)
+    {
+        if (targetLine == -1)
+            return std::nullopt;
+        LineComparer::Pair pair{
+            target, targetLine, 0, {}, comparer->compared(line, target, targetLine, true)};
+        for (const LineCandidateC &candidate : candidates.candidates) {
+            if (candidate.targetIndex == target && candidate.lineId.value(0) == targetLine) {
+                pair.probability = candidate.probability;
+                pair.reason = candidate.explanation;
+            }
+        }
+        return pair;
     }
 };
 
 ReviewWork::ReviewWork(MappingDocument *document, QObject *parent)
     : QObject(parent)
     , m_document(document)
+    , m_refresh(new QTimer(this))
 {
+    m_refresh->setSingleShot(true);
+    m_refresh->setInterval(RefreshAfter);
+    connect(m_refresh, &QTimer::timeout, this, &ReviewWork::refreshComparer);
     connect(document, &MappingDocument::mappingChanged, this, &ReviewWork::onMappingChanged);
     connect(document, &MappingDocument::releaseReplaced, this, &ReviewWork::readAnew);
     connect(document, &MappingDocument::aboutToClose, this, &ReviewWork::stop);
@@ -72,6 +125,7 @@ ReviewWork::ReviewWork(MappingDocument *document, QObject *parent)
 
 ReviewWork::~ReviewWork()
 {
+    dropComparer();
     for (const std::shared_ptr<Job> &job : m_jobs)
         job->cancelled = true;
     m_jobs.clear(); // waits for their ends
@@ -90,7 +144,7 @@ void ReviewWork::setWanted(bool wanted)
 
 void ReviewWork::readAnew()
 {
-    m_comparer.reset();
+    dropComparer();
     if (m_wanted)
         start();
 }
@@ -102,7 +156,7 @@ void ReviewWork::stop()
             (*job)->cancelled = true;
         job->reset();
     }
-    m_comparer.reset();
+    dropComparer();
     m_hasPatterns = false;
     m_patterns = DifferencePatterns();
     if (std::exchange(m_isReading, false))
@@ -161,8 +215,12 @@ void ReviewWork::takePatterns(DifferencePatterns &&patterns)
 
 void ReviewWork::onMappingChanged(const ProjectId &project)
 {
-    if (m_comparer && m_comparer->project == project)
-        m_comparer.reset();
+    if (m_comparer && m_comparer->project == project) {
+        if (haveSameRules(m_comparer->mapping, m_document->mapping(project)))
+            m_refresh->start();
+        else
+            dropComparer();
+    }
     if (!m_wanted || !m_hasPatterns)
         return;
     const int position = positionOf(project);
@@ -171,6 +229,53 @@ void ReviewWork::onMappingChanged(const ProjectId &project)
     m_patterns.setMapping(position, m_document->mapping(project));
     tellChange();
     readPending();
+}
+
+void ReviewWork::dropComparer()
+{
+    m_refresh->stop();
+    if (m_refreshing)
+        m_refreshing->cancelled = true;
+    m_refreshing.reset();
+    for (std::shared_ptr<Comparer> *comparer : {&m_comparer, &m_fresh}) {
+        if (*comparer)
+            (*comparer)->ended = true;
+        comparer->reset();
+    }
+}
+
+std::shared_ptr<ReviewWork::Comparer> ReviewWork::makeComparer(const ProjectId &project) const
+{
+    auto comparer = std::make_shared<Comparer>();
+    comparer->project = project;
+    comparer->mapping = m_document->mapping(project);
+    comparer->head = m_document->release().head();
+    comparer->sourceRoot = m_document->catalogRoots().source;
+    return comparer;
+}
+
+/// Works out anew what the decisions changed, while the former answers still serve.
+void ReviewWork::refreshComparer()
+{
+    if (!m_comparer || m_asked.project != m_comparer->project)
+        return;
+    if (m_fresh)
+        m_fresh->ended = true;
+    if (m_refreshing)
+        m_refreshing->cancelled = true;
+    m_fresh = makeComparer(m_asked.project);
+    m_refreshing = run([this, fresh = m_fresh, asked = m_asked](Job &job) {
+        const LineExplanation explanation = fresh->explain(asked.line, fresh->mapping);
+        post(job, [this, fresh, explanation] {
+            m_refreshing.reset();
+            m_fresh.reset();
+            m_comparer = fresh;
+            if (m_asked == explanation.line)
+                Q_EMIT explained(explanation);
+            else
+                explain(m_asked);
+        });
+    });
 }
 
 /// Once for all projects of a step.
@@ -236,19 +341,18 @@ void ReviewWork::explain(const LineRef &line)
     if (m_explaining)
         m_explaining->cancelled = true;
     m_explaining.reset();
+    m_asked = line;
     if (!line.isValid() || !m_document->isOpen())
         return;
     if (!m_comparer || m_comparer->project != line.project) {
-        m_comparer = std::make_shared<Comparer>();
-        m_comparer->project = line.project;
-        m_comparer->mapping = m_document->mapping(line.project);
-        m_comparer->head = m_document->release().head();
-        m_comparer->sourceRoot = m_document->catalogRoots().source;
+        dropComparer();
+        m_comparer = makeComparer(line.project);
     }
-    m_explaining = run([this, comparer = m_comparer, line](Job &job) {
+    const PrjMappingC current = m_document->mapping(line.project);
+    m_explaining = run([this, comparer = m_comparer, line, current](Job &job) {
         if (job.cancelled)
             return;
-        const LineExplanation explanation = comparer->explain(line.line);
+        const LineExplanation explanation = comparer->explain(line.line, current);
         post(job, [this, explanation] {
             m_explaining.reset();
             Q_EMIT explained(explanation);
@@ -291,6 +395,7 @@ void ReviewWork::post(Job &job, const std::function<void()> &take)
 void ReviewWork::reap()
 {
     std::erase_if(m_jobs, [this](const std::shared_ptr<Job> &job) {
-        return job->done && job != m_reading && job != m_pending && job != m_explaining;
+        return job->done && job != m_reading && job != m_pending && job != m_explaining &&
+               job != m_refreshing;
     });
 }

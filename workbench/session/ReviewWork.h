@@ -14,6 +14,10 @@
 
 class MappingDocument;
 
+QT_BEGIN_NAMESPACE
+class QTimer;
+QT_END_NAMESPACE
+
 /// What is known of one line of the open document.
 struct LineExplanation
 {
@@ -28,7 +32,8 @@ struct LineExplanation
 
 /// Keeps the difference patterns of the open document up to date, and explains single lines. Tables
 /// are read on other threads; what is known at the moment can be asked for at any time. Decisions
-/// are taken in at once, at the cost of what they change. GUI thread.
+/// are taken in at once, at the cost of what they change; the candidates of other lines are those
+/// from before until nobody has decided for a moment, and are worked out anew then. GUI thread.
 class ReviewWork : public QObject
 {
     Q_OBJECT
@@ -59,7 +64,8 @@ public:
     [[nodiscard]] LineRef lineAt(const Place &place) const;
     [[nodiscard]] Place placeOf(const LineRef &line) const;
 
-    /// explained() follows, unless another line is asked for before.
+    /// explained() follows, unless another line is asked for before; once more when what is known
+    /// of the line was brought up to date.
     void explain(const LineRef &line);
 
 Q_SIGNALS:
@@ -82,6 +88,9 @@ private:
 
     void start();
     void stop();
+    void dropComparer();
+    [[nodiscard]] std::shared_ptr<Comparer> makeComparer(const ProjectId &project) const;
+    void refreshComparer();
     void onMappingChanged(const ProjectId &project);
     void readPending();
     void tellChange();
@@ -102,7 +111,11 @@ private:
     std::shared_ptr<Job> m_reading;
     std::shared_ptr<Job> m_pending;
     std::shared_ptr<Job> m_explaining;
+    std::shared_ptr<Job> m_refreshing;
     std::shared_ptr<Comparer> m_comparer; ///< of the project that was explained last
+    std::shared_ptr<Comparer> m_fresh;    ///< the same after what was decided, being read
+    LineRef m_asked;                      ///< that was to be explained last
+    QTimer *const m_refresh;
     quint64 m_lastJob = 0;
     std::list<std::shared_ptr<Job>> m_jobs; ///< those that have not ended
 };

@@ -93,7 +93,7 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
      QT_TRANSLATE_NOOP("WorkbenchActions", "Zeilen ohne Ziel als aus&gelaufen bestätigen..."),
      QT_TRANSLATE_NOOP("WorkbenchActions", "Bestätigt von den markierten oder allen gezeigten "
                                            "Zeilen die ohne Ziel als ausgelaufen"),
-     "", "", true, true},
+     "Ctrl+Shift+E", "", true, true},
     {"linesRemove", QT_TRANSLATE_NOOP("WorkbenchActions", "Zuordnungen &aufheben..."),
      QT_TRANSLATE_NOOP(
          "WorkbenchActions",

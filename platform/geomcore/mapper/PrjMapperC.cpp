@@ -108,11 +108,11 @@ bool PrjMapperC::hasEqualValues(const PrjMapperLineC &line, const VKTab::LineVie
 }
 
 QList<ComparedVariableC> PrjMapperC::compareLine(const PrjMapperLineC &line,
-                                                 const VKTab::LineView &view)
+                                                 const VKTab::LineView &view, bool withPlan)
 {
     d->adoptNode();
     Varset converted;
-    return d->compareLine(line, d->input(line.getSourceLineId(), view, converted));
+    return d->compareLine(line, d->input(line.getSourceLineId(), view, converted), withPlan);
 }
 
 PrjMapperC::Varset PrjMapperC::updateVarset(const PrjMapperLineC &line, const Varset &varset,

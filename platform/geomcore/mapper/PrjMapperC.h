@@ -81,9 +81,10 @@ public:
 
     /// How the values of the source line, as its target sees them, stand to those of the target
     /// line that it is assigned to, whether that is a candidate or not. Empty if it is not found,
-    /// or the target's table cannot be read or does not have the line.
-    [[nodiscard]] QList<ComparedVariableC> compareLine(const PrjMapperLineC &line,
-                                                       const VKTab::LineView &view);
+    /// or the target's table cannot be read or does not have the line. Which values are replaced
+    /// comes from a plan over the whole table; whoever needs only the values does without.
+    [[nodiscard]] QList<ComparedVariableC>
+    compareLine(const PrjMapperLineC &line, const VKTab::LineView &view, bool withPlan = true);
 
     /// Whether some target has, for some combination of the source line's ranges, a line with equal
     /// values, as far as its conditions hold: createLine proposes such a one for that combination.

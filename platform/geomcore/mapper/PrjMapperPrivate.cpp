@@ -410,7 +410,7 @@ bool PrjMapperPrivate::hasEqualValues(const PrjMapperLineC &line, const LineInpu
 }
 
 QList<ComparedVariableC> PrjMapperPrivate::compareLine(const PrjMapperLineC &line,
-                                                       const LineInput &input)
+                                                       const LineInput &input, bool withPlan)
 {
     if (!line.isValid() || !line.isFound())
         return {};
@@ -422,7 +422,7 @@ QList<ComparedVariableC> PrjMapperPrivate::compareLine(const PrjMapperLineC &lin
         return {};
     target->takeValues(input, m_values);
     Mapper::CellJudge judge;
-    const bool own = bound.targets == m_targets.get();
+    const bool own = withPlan && bound.targets == m_targets.get();
     const Mapper::LinePlan *whole = own ? plan(input) : nullptr;
     const auto edge =
         whole ? whole->edgeFor(input.row, target->index(), row) : std::optional<Plan::PlanEdge>();

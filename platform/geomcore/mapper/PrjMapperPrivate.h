@@ -66,8 +66,8 @@ public:
                               CheckModeFlags mode);
     [[nodiscard]] bool hasEqualValues(const PrjMapperLineC &line, const Mapper::LineInput &input);
 
-    [[nodiscard]] QList<ComparedVariableC> compareLine(const PrjMapperLineC &line,
-                                                       const Mapper::LineInput &input);
+    [[nodiscard]] QList<ComparedVariableC>
+    compareLine(const PrjMapperLineC &line, const Mapper::LineInput &input, bool withPlan);
 
     /// Ranges of the source table that conditions of the line's mapping read.
     [[nodiscard]] QStringList rangesFor(const PrjMapperLineC &line)

@@ -110,7 +110,7 @@ QList<ComparedVariableC> LineComparer::compared(int line)
     if (!hasLine(line))
         return {};
     const VKTab::LineView view = d->view(line);
-    return d->part->mapper().compareLine(d->part->mapper().findLine(line, view), view);
+    return d->part->mapper().compareLine(d->part->mapper().findLine(line, view), view, false);
 }
 
 std::vector<int> LineComparer::lines() const
@@ -142,7 +142,7 @@ std::vector<int> LineComparer::targetLines(int target) const
     return lines;
 }
 
-QList<ComparedVariableC> LineComparer::compared(int line, int target, int targetLine)
+QList<ComparedVariableC> LineComparer::compared(int line, int target, int targetLine, bool withPlan)
 {
     if (!hasLine(line))
         return {};
@@ -153,7 +153,7 @@ QList<ComparedVariableC> LineComparer::compared(int line, int target, int target
     place.setTargetLineId(targetLine);
     PrjMapperLineC assigned;
     assigned.addMapping(place, d->mapping);
-    return d->part->mapper().compareLine(assigned, d->view(line));
+    return d->part->mapper().compareLine(assigned, d->view(line), withPlan);
 }
 
 LineCandidatesC LineComparer::candidates(int line)

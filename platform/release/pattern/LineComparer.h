@@ -54,11 +54,13 @@ public:
     /// Nothing if the line is not assigned, or one of the tables does not have it.
     [[nodiscard]] std::optional<Pair> assigned(int line);
     /// The variables of the line and of the one that it is assigned to, whatever the candidates;
-    /// empty where assigned() gives nothing.
+    /// empty where assigned() gives nothing. No value counts as replaced.
     [[nodiscard]] QList<ComparedVariableC> compared(int line);
     /// The variables of the line and of any line of a target of the mapping; empty if one of the
-    /// tables cannot be read or does not have its line.
-    [[nodiscard]] QList<ComparedVariableC> compared(int line, int target, int targetLine);
+    /// tables cannot be read or does not have its line. Without the plan of the table no value
+    /// counts as replaced, and it costs what the line has.
+    [[nodiscard]] QList<ComparedVariableC> compared(int line, int target, int targetLine,
+                                                    bool withPlan = false);
     [[nodiscard]] LineCandidatesC candidates(int line);
     /// Which values of the line's ranges have a new line; empty if none are divided.
     [[nodiscard]] RangeCoverage coverage(int line) const;

@@ -31,6 +31,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTreeView>
@@ -117,6 +118,7 @@ private Q_SLOTS:
     void leastSureFirst();
     void differencesOfTheLineInSight();
     void candidateByKey();
+    void explanationFollowsDecisions();
     void acceptedBySample();
     void firstWrongOneSplits();
     void selectedLinesBySample();
@@ -348,6 +350,41 @@ void tst_Review::candidateByKey()
     fixture.explain();
     fixture.press(Qt::Key_5);
     QCOMPARE(fixture.confirmedLines(), confirmed);
+}
+
+/// The table is not worked out anew for the line that comes next, only when the user pauses.
+void tst_Review::explanationFollowsDecisions()
+{
+    ReviewFixture fixture;
+    fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+    fixture.choose("Werkstoff: FP → FKM");
+    fixture.explain();
+    const LineRef line = fixture.here();
+    const auto head = [&] {
+        return fixture.window->findChild<QLabel *>("DifferenceHead")->text();
+    };
+    const auto tells = [&](const LineRef &ref, const QString &what) {
+        return head().startsWith(ref.project.path + ':' + QString::number(ref.line)) &&
+               head().contains(what);
+    };
+    QVERIFY2(tells(line, "ersetzt"), qPrintable(head()));
+    QSignalSpy explained(fixture.review()->work(), &ReviewWork::explained);
+    fixture.press(Qt::Key_V);
+    const LineRef next = fixture.here();
+    QVERIFY(next != line);
+    QVERIFY(QTest::qWaitFor([&] { return tells(next, "ersetzt"); }, 10000));
+    // The decided line says so, with what it was decided on.
+    const auto told = explained.size();
+    QVERIFY(fixture.window->editor()->goTo(line));
+    QVERIFY(QTest::qWaitFor([&] { return tells(line, "Bestätigt."); }, 20000));
+    QVERIFY(explained.size() > told);
+    const QAbstractItemModel *const table =
+        fixture.window->findChild<QTableView *>("DifferenceTable")->model();
+    QCOMPARE(table->index(0, 0).data().toString(), "Werkstoff");
+    // Undone, it is a proposal again.
+    fixture.press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(fixture.window->editor()->goTo(line));
+    QVERIFY(QTest::qWaitFor([&] { return tells(line, "ersetzt"); }, 20000));
 }
 
 namespace {
