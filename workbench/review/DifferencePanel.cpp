@@ -3,6 +3,7 @@
 #include "CandidateModel.h"
 #include "DifferenceDelegate.h"
 #include "DifferenceModel.h"
+#include "PairModel.h"
 #include "PatternText.h"
 
 #include <workbench/session/ReviewWork.h>
@@ -19,6 +20,7 @@ DifferencePanel::DifferencePanel(QWidget *parent)
     : QDockWidget(parent)
     , m_differences(new DifferenceModel(this))
     , m_candidates(new CandidateModel(this))
+    , m_pairs(new PairModel(this))
 {
     setObjectName("DifferencePanel");
     auto *const content = new QWidget(this);
@@ -47,10 +49,26 @@ DifferencePanel::DifferencePanel(QWidget *parent)
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_several = new QTableView(content);
+    m_several->setObjectName("PairTable");
+    m_several->setModel(m_pairs);
+    m_several->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_several->setWordWrap(false);
+    m_several->verticalHeader()->hide();
+    m_several->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_several->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    m_several->horizontalHeader()->setStretchLastSection(true);
+    m_several->horizontalHeader()->resizeSection(PairModel::OldLine,
+                                                 30 * fontMetrics().averageCharWidth());
+    m_several->horizontalHeader()->resizeSection(PairModel::NewLine,
+                                                 30 * fontMetrics().averageCharWidth());
+    m_several->hide();
+    m_single = panes;
     panes->setStretchFactor(0, 1);
     panes->setStretchFactor(1, 1);
     layout->addWidget(m_head);
     layout->addWidget(panes, 1);
+    layout->addWidget(m_several, 1);
     setWidget(content);
     connect(m_list, &QTreeView::activated, this,
             [this](const QModelIndex &index) { Q_EMIT candidateChosen(index.row() + 1); });
@@ -61,11 +79,11 @@ DifferencePanel::~DifferencePanel() = default;
 
 void DifferencePanel::show(const LineExplanation &explanation)
 {
+    clear();
     QString head = explanation.line.project.path + u':' + QString::number(explanation.line.line);
     if (!explanation.designation.isEmpty())
         head += QStringLiteral("  ") + explanation.designation;
     if (!explanation.isRead) {
-        clear();
         m_head->setText(head + u'\n' +
                         (explanation.errors.isEmpty() ? tr("Die Tabelle hat die Zeile nicht.")
                                                       : explanation.errors.join(u'\n')));
@@ -92,8 +110,27 @@ void DifferencePanel::show(const LineExplanation &explanation)
     m_values->scrollToTop();
 }
 
+void DifferencePanel::show(const LinePairs &pairs)
+{
+    clear();
+    m_single->hide();
+    m_several->show();
+    QString head = pairs.project.path + QStringLiteral(": ") +
+                   tr("%n Zeile(n)", nullptr, int(pairs.lines.size()));
+    if (pairs.lines.size() > qsizetype(pairs.rows.size()))
+        head += QStringLiteral(", ") + tr("verglichen: die ersten %1").arg(pairs.rows.size());
+    const QString common = PatternText::of(pairs.common);
+    m_head->setText(head + u'\n' +
+                    (common.isEmpty() ? tr("Keine gemeinsamen Unterschiede.")
+                                      : tr("Gemeinsam: %1").arg(common)));
+    m_pairs->setPairs(pairs);
+}
+
 void DifferencePanel::clear()
 {
+    m_several->hide();
+    m_single->show();
+    m_pairs->setPairs({});
     m_head->clear();
     m_differences->setVariables({});
     m_candidates->clear();
@@ -117,6 +154,8 @@ void DifferencePanel::retranslate()
     setWindowTitle(tr("Alt und neu"));
     m_values->setAccessibleName(windowTitle());
     m_list->setAccessibleName(tr("Kandidaten"));
+    m_several->setAccessibleName(tr("Markierte Zeilen"));
+    m_pairs->retranslate();
     m_differences->retranslate();
     m_candidates->retranslate();
 }

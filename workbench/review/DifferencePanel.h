@@ -7,6 +7,8 @@
 class CandidateModel;
 class DifferenceModel;
 struct LineExplanation;
+struct LinePairs;
+class PairModel;
 
 QT_BEGIN_NAMESPACE
 class QLabel;
@@ -25,6 +27,8 @@ public:
     ~DifferencePanel() override;
 
     void show(const LineExplanation &explanation);
+    /// Several lines: what they have in common, and each with what it has besides.
+    void show(const LinePairs &pairs);
     /// No line, or one of which nothing is known yet.
     void clear();
     /// The candidate of a key, from 1; null if there is none.
@@ -41,7 +45,10 @@ protected:
 private:
     DifferenceModel *const m_differences;
     CandidateModel *const m_candidates;
+    PairModel *const m_pairs;
     QLabel *m_head = nullptr;
     QTableView *m_values = nullptr;
+    QTableView *m_several = nullptr; ///< in the place of the others while several lines are shown
     QTreeView *m_list = nullptr;
+    QWidget *m_single = nullptr; ///< tables of one line
 };

@@ -4,6 +4,7 @@
 #include "TargetHead.h"
 
 #include <geomcore/records/LineTable.h>
+#include <release/pattern/CommonChanges.h>
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -88,6 +89,49 @@ struct ReviewWork::Comparer
                                    ? comparer->assigned(line)
                                    : pairOf(explanation.candidates, line, target, targetLine);
         return explanation;
+    }
+
+    [[nodiscard]] LinePairs pair(const QList<int> &lines, const PrjMappingC &current,
+                                 const std::atomic<bool> &cancelled)
+    {
+        const std::lock_guard lock(mutex);
+        if (!comparer)
+            comparer = std::make_unique<LineComparer>(sourceRoot, mapping, head, &ended);
+        LinePairs pairs;
+        pairs.project = project;
+        pairs.lines = lines;
+        std::vector<OpenPair> compared;
+        for (const int line : lines.first(std::min(lines.size(), qsizetype(LinePairs::MaxLines)))) {
+            if (cancelled)
+                break;
+            const auto [target, targetLine] = assignmentOf(current, line);
+            OpenPair pair{line, target, targetLine, 0, {}, false, {}};
+            if (targetLine != -1) {
+                for (const ComparedVariableC &variable :
+                     comparer->compared(line, target, targetLine)) {
+                    pair.comparable = true;
+                    if (variable.outcome != ComparedVariableC::Equal)
+                        pair.values.push_back(
+                            {variable.name, variable.oldValue, variable.newValue});
+                }
+            }
+            LinePairs::Row row{line, comparer->designation(line), {}, -1, {}};
+            if (pair.comparable) {
+                row.targetPath = current.targetAt(target).getTargetPath();
+                row.targetLine = targetLine;
+                compared.push_back(std::move(pair));
+            }
+            pairs.rows.push_back(std::move(row));
+        }
+        const auto changes =
+            VelkRelease::CommonChanges::of(compared, project.path, head.getReplacements());
+        auto next = changes.ofPairs.begin();
+        for (LinePairs::Row &row : pairs.rows) {
+            if (row.targetLine != -1)
+                row.changes = *next++;
+        }
+        pairs.common = changes.common;
+        return pairs;
     }
 
 private:
@@ -356,6 +400,28 @@ void ReviewWork::explain(const LineRef &line)
         post(job, [this, explanation] {
             m_explaining.reset();
             Q_EMIT explained(explanation);
+        });
+    });
+}
+
+void ReviewWork::pair(const ProjectId &project, const QList<int> &lines)
+{
+    if (m_explaining)
+        m_explaining->cancelled = true;
+    m_explaining.reset();
+    m_asked = LineRef();
+    if (!project.isValid() || lines.isEmpty() || !m_document->isOpen())
+        return;
+    if (!m_comparer || m_comparer->project != project) {
+        dropComparer();
+        m_comparer = makeComparer(project);
+    }
+    const PrjMappingC current = m_document->mapping(project);
+    m_explaining = run([this, comparer = m_comparer, lines, current](Job &job) {
+        const LinePairs pairs = comparer->pair(lines, current, job.cancelled);
+        post(job, [this, pairs] {
+            m_explaining.reset();
+            Q_EMIT paired(pairs);
         });
     });
 }

@@ -30,6 +30,26 @@ struct LineExplanation
     QStringList errors;
 };
 
+/// What several lines of a project differ in from the lines that they are assigned to.
+struct LinePairs
+{
+    struct Row
+    {
+        int line = -1;
+        QString designation;
+        QString targetPath;
+        int targetLine = -1; ///< -1: without target, or it cannot be read
+        QList<VelkRelease::ValueChange> changes;
+    };
+    /// More lines are not compared.
+    static constexpr int MaxLines = 1000;
+
+    ProjectId project;
+    QList<int> lines; ///< that were asked for
+    std::vector<Row> rows;
+    QList<VelkRelease::ValueChange> common; ///< of all lines with a target
+};
+
 /// Keeps the difference patterns of the open document up to date, and explains single lines. Tables
 /// are read on other threads; what is known at the moment can be asked for at any time. Decisions
 /// are taken in at once, at the cost of what they change; the candidates of other lines are those
@@ -67,6 +87,9 @@ public:
     /// explained() follows, unless another line is asked for before; once more when what is known
     /// of the line was brought up to date.
     void explain(const LineRef &line);
+    /// paired() follows, unless other lines are asked for before. The first lines only, if there
+    /// are too many.
+    void pair(const ProjectId &project, const QList<int> &lines);
 
 Q_SIGNALS:
     /// There are others, with other numbers.
@@ -75,6 +98,7 @@ Q_SIGNALS:
     void patternsChanged();
     void readingChanged();
     void explained(const LineExplanation &explanation);
+    void paired(const LinePairs &pairs);
 
 private:
     struct Job

@@ -460,6 +460,30 @@ Jiné: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Přiřazeno s jistotou.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n řádek</numerusform>
+            <numerusform>%n řádky</numerusform>
+            <numerusform>%n řádků</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>porovnáno: prvních %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Žádné společné rozdíly.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Společné: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Vybrané řádky</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2129,6 +2153,25 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>na jeho místě je něco jiného než běžný soubor</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>bez cíle</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Starý řádek</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Nový řádek</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Další rozdíly</translation>
     </message>
 </context>
 <context>

@@ -133,6 +133,16 @@
     </message>
 </context>
 <context>
+    <name>DifferencePanel</name>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DocumentDesk</name>
     <message numerus="yes">
         <source>%1: %n Zeile(n)</source>

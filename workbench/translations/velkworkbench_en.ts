@@ -443,6 +443,29 @@ Theirs: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Assigned with certainty.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>compared: the first %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>No differences in common.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>In common: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Selected lines</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2098,6 +2121,25 @@ Please choose another file.</translation>
     <message>
         <source>die Datei wird größer, als hier erlaubt ist</source>
         <translation>the file gets larger than is allowed here</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>no target</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Old line</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>New line</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Other differences</translation>
     </message>
 </context>
 <context>

@@ -443,6 +443,29 @@ Ajena: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Asignada con certeza.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n línea</numerusform>
+            <numerusform>%n líneas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>comparadas: las primeras %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Ninguna diferencia en común.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>En común: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Líneas seleccionadas</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2098,6 +2121,25 @@ Elija otro archivo.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>en su lugar hay algo que no es un archivo normal</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>sin destino</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Línea antigua</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Línea nueva</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Otras diferencias</translation>
     </message>
 </context>
 <context>

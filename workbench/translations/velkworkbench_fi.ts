@@ -443,6 +443,29 @@ Toisen: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Varmasti kohdistettu.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n rivi</numerusform>
+            <numerusform>%n riviä</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>verrattu: ensimmäiset %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Ei yhteisiä eroja.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Yhteistä: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Valitut rivit</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2098,6 +2121,25 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>sen paikalla on jotain muuta kuin tavallinen tiedosto</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>ilman kohdetta</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Vanha rivi</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Uusi rivi</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Muut erot</translation>
     </message>
 </context>
 <context>

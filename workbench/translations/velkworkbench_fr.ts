@@ -443,6 +443,29 @@ L&apos;autre : %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Affectée avec certitude.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>comparées : les %1 premières</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Aucune différence commune.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>En commun : %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Lignes sélectionnées</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2098,6 +2121,25 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>à sa place se trouve autre chose qu&apos;un fichier ordinaire</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>sans cible</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Ancienne ligne</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Nouvelle ligne</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Autres différences</translation>
     </message>
 </context>
 <context>

@@ -426,6 +426,28 @@ Másik: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Biztosan hozzárendelve.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n sor</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>összehasonlítva: az első %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Nincs közös eltérés.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Közös: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Kijelölt sorok</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2067,6 +2089,25 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>a helyén nem közönséges fájl van</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>cél nélkül</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Régi sor</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Új sor</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>További eltérések</translation>
     </message>
 </context>
 <context>

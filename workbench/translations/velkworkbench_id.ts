@@ -426,6 +426,28 @@ Milik pihak lain: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Ditetapkan dengan pasti.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n baris</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>dibandingkan: %1 yang pertama</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Tidak ada perbedaan yang sama.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Kesamaan: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Baris yang dipilih</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2067,6 +2089,25 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>di tempatnya ada sesuatu yang bukan berkas biasa</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>tanpa target</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Baris lama</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Baris baru</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Perbedaan lain</translation>
     </message>
 </context>
 <context>

@@ -443,6 +443,29 @@ Altra: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Assegnata con certezza.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n riga</numerusform>
+            <numerusform>%n righe</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>confrontate: le prime %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Nessuna differenza in comune.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>In comune: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Righe selezionate</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2098,6 +2121,25 @@ Scegliere un altro file.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>al suo posto c&apos;è qualcosa che non è un file normale</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>senza destinazione</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Vecchia riga</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Nuova riga</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Altre differenze</translation>
     </message>
 </context>
 <context>

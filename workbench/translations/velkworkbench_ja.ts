@@ -426,6 +426,28 @@ Andere: %2</source>
         <source>Sicher zugeordnet.</source>
         <translation>確実に割り当て済み。</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n 行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>比較済み: 最初の %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>共通の相違はありません。</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>共通: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>選択した行</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2067,6 +2089,25 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>その場所に通常のファイルではないものがあります</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>対象なし</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>旧行</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>新しい行</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>その他の相違</translation>
     </message>
 </context>
 <context>

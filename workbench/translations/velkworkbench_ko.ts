@@ -426,6 +426,28 @@ Andere: %2</source>
         <source>Sicher zugeordnet.</source>
         <translation>확실하게 할당됨.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n개 행</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>비교함: 처음 %1개</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>공통된 차이가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>공통: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>선택한 행</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2067,6 +2089,25 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>그 자리에 일반 파일이 아닌 것이 있습니다</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>대상 없음</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>이전 행</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>새 행</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>그 밖의 차이</translation>
     </message>
 </context>
 <context>

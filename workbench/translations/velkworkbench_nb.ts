@@ -443,6 +443,29 @@ Annen: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Sikkert tilordnet.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n linje</numerusform>
+            <numerusform>%n linjer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>sammenlignet: de første %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Ingen felles forskjeller.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Felles: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Merkede linjer</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2098,6 +2121,25 @@ Velg en annen fil.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>på plassen dens er det noe annet enn en vanlig fil</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>uten mål</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Gammel linje</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Ny linje</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Andre forskjeller</translation>
     </message>
 </context>
 <context>

@@ -460,6 +460,30 @@ Inna: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Przypisany na pewno.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n wiersz</numerusform>
+            <numerusform>%n wiersze</numerusform>
+            <numerusform>%n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>porównano: pierwsze %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Brak wspólnych różnic.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Wspólne: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Zaznaczone wiersze</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2129,6 +2153,25 @@ Wybierz inny plik.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>w jego miejscu jest coś innego niż zwykły plik</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>bez celu</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Stary wiersz</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Nowy wiersz</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Inne różnice</translation>
     </message>
 </context>
 <context>

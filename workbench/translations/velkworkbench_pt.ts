@@ -443,6 +443,29 @@ Outra: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Atribuída com certeza.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n linha</numerusform>
+            <numerusform>%n linhas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>comparadas: as primeiras %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Nenhuma diferença em comum.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Em comum: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Linhas selecionadas</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2098,6 +2121,25 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>no seu lugar está algo que não é um ficheiro normal</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>sem destino</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Linha antiga</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Nova linha</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Outras diferenças</translation>
     </message>
 </context>
 <context>

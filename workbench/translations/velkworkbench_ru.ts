@@ -460,6 +460,30 @@ Andere: %2</source>
         <source>Sicher zugeordnet.</source>
         <translation>Надёжно назначена.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n строка</numerusform>
+            <numerusform>%n строки</numerusform>
+            <numerusform>%n строк</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>сравнены: первые %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Общих различий нет.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Общее: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Выделенные строки</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2129,6 +2153,25 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>на его месте находится не обычный файл</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>без цели</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Старая строка</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Новая строка</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Другие различия</translation>
     </message>
 </context>
 <context>

@@ -477,6 +477,31 @@ Druga: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Zanesljivo dodeljena.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n vrstica</numerusform>
+            <numerusform>%n vrstici</numerusform>
+            <numerusform>%n vrstice</numerusform>
+            <numerusform>%n vrstic</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>primerjanih: prvih %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Ni skupnih razlik.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Skupno: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Izbrane vrstice</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2160,6 +2185,25 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>na njenem mestu je nekaj drugega kot navadna datoteka</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>brez cilja</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Stara vrstica</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Nova vrstica</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Druge razlike</translation>
     </message>
 </context>
 <context>

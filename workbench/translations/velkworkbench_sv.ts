@@ -443,6 +443,29 @@ Annat: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Säkert tilldelad.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n rad</numerusform>
+            <numerusform>%n rader</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>jämförda: de första %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Inga gemensamma skillnader.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Gemensamt: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Markerade rader</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2098,6 +2121,25 @@ Välj en annan fil.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>på dess plats finns något annat än en vanlig fil</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>utan mål</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Gammal rad</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Ny rad</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Övriga skillnader</translation>
     </message>
 </context>
 <context>

@@ -426,6 +426,28 @@ Diğer: %2</translation>
         <source>Sicher zugeordnet.</source>
         <translation>Kesin atandı.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n satır</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>karşılaştırılan: ilk %1</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>Ortak fark yok.</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>Ortak: %1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>Seçili satırlar</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2067,6 +2089,25 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>onun yerinde sıradan bir dosyadan başka bir şey var</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>hedefsiz</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>Eski satır</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>Yeni satır</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>Diğer farklar</translation>
     </message>
 </context>
 <context>

@@ -426,6 +426,28 @@ Andere: %2</source>
         <source>Sicher zugeordnet.</source>
         <translation>可靠分配。</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n 行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>已比较：前 %1 行</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>没有共同的差异。</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>共同点：%1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>选中的行</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2067,6 +2089,25 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>该位置上不是普通文件</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>无目标</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>旧行</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>新行</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>其他差异</translation>
     </message>
 </context>
 <context>

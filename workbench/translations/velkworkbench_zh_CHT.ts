@@ -426,6 +426,28 @@ Andere: %2</source>
         <source>Sicher zugeordnet.</source>
         <translation>可靠指派。</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n 列</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>verglichen: die ersten %1</source>
+        <translation>已比較：前 %1 行</translation>
+    </message>
+    <message>
+        <source>Keine gemeinsamen Unterschiede.</source>
+        <translation>沒有共同的差異。</translation>
+    </message>
+    <message>
+        <source>Gemeinsam: %1</source>
+        <translation>共同點：%1</translation>
+    </message>
+    <message>
+        <source>Markierte Zeilen</source>
+        <translation>選取的行</translation>
+    </message>
 </context>
 <context>
     <name>DocumentDesk</name>
@@ -2067,6 +2089,25 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>an ihrer Stelle steht etwas anderes als eine gewöhnliche Datei</source>
         <translation>該位置上不是一般檔案</translation>
+    </message>
+</context>
+<context>
+    <name>PairModel</name>
+    <message>
+        <source>ohne Ziel</source>
+        <translation>無目標</translation>
+    </message>
+    <message>
+        <source>Alte Zeile</source>
+        <translation>舊列</translation>
+    </message>
+    <message>
+        <source>Neue Zeile</source>
+        <translation>新列</translation>
+    </message>
+    <message>
+        <source>Weitere Unterschiede</source>
+        <translation>其他差異</translation>
     </message>
 </context>
 <context>

@@ -39,6 +39,7 @@ ReviewCommands::ReviewCommands(MappingDocument *document, EditorArea *editor, Li
     });
     connect(m_panel, &DifferencePanel::candidateChosen, this, &ReviewCommands::takeCandidate);
     connect(m_work, &ReviewWork::explained, this, &ReviewCommands::showExplanation);
+    connect(m_work, &ReviewWork::paired, this, &ReviewCommands::showPairs);
     connect(editor, &EditorArea::linesSelected, this, &ReviewCommands::explainCurrent);
     connect(editor, &EditorArea::projectSelected, this, &ReviewCommands::explainCurrent);
     connect(editor, &EditorArea::lineChoiceDropped, this, [this] { m_dock->choose(-1); });
@@ -289,6 +290,11 @@ void ReviewCommands::explainCurrent()
     const LineRef line = here();
     if (line == m_explained && line.isValid())
         return;
+    if (const QList<int> several = m_editor->selectedLines(); several.size() > 1) {
+        m_explained = LineRef();
+        m_work->pair(m_editor->currentProject(), several);
+        return;
+    }
     if (!line.isValid()) {
         m_explained = LineRef();
         m_panel->clear();
@@ -302,6 +308,12 @@ void ReviewCommands::showExplanation(const LineExplanation &explanation)
         return;
     m_explained = explanation.line;
     m_panel->show(explanation);
+}
+
+void ReviewCommands::showPairs(const LinePairs &pairs)
+{
+    if (pairs.project == m_editor->currentProject() && pairs.lines == m_editor->selectedLines())
+        m_panel->show(pairs);
 }
 
 void ReviewCommands::editReplacements()

@@ -84,6 +84,7 @@ private:
     void goTo(const Place &place);
     void explainCurrent();
     void showExplanation(const LineExplanation &explanation);
+    void showPairs(const LinePairs &pairs);
     [[nodiscard]] LineRef here() const;
     [[nodiscard]] bool isTold(const std::vector<Place> &places) const;
     [[nodiscard]] int doubtfulIn(const std::vector<Place> &places) const;

@@ -117,6 +117,7 @@ private Q_SLOTS:
     void walksThePattern();
     void leastSureFirst();
     void differencesOfTheLineInSight();
+    void severalLinesAsPairs();
     void candidateByKey();
     void explanationFollowsDecisions();
     void acceptedBySample();
@@ -350,6 +351,35 @@ void tst_Review::candidateByKey()
     fixture.explain();
     fixture.press(Qt::Key_5);
     QCOMPARE(fixture.confirmedLines(), confirmed);
+}
+
+void tst_Review::severalLinesAsPairs()
+{
+    ReviewFixture fixture;
+    fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+    auto *const table = fixture.window->findChild<QTableView *>("PairTable");
+    const QAbstractItemModelTester tester(table->model(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 54}));
+    QVERIFY(table->isHidden());
+    fixture.press(Qt::Key_Down, Qt::ShiftModifier);
+    fixture.press(Qt::Key_Down, Qt::ShiftModifier);
+    QVERIFY(QTest::qWaitFor([&] { return table->model()->rowCount() == 3; }, 20000));
+    QVERIFY(table->isVisible());
+    QVERIFY(!fixture.window->findChild<QTableView *>("DifferenceTable")->isVisible());
+    const auto head = [&] {
+        return fixture.window->findChild<QLabel *>("DifferenceHead")->text();
+    };
+    QCOMPARE(head(), din933 + ": 3 Zeilen\nGemeinsam: s: 17 → 16; e: 18.9 → 17.77");
+    QVERIFY(table->model()->index(0, 0).data().toString().startsWith("54  "));
+    QVERIFY(table->model()->index(2, 1).data().toString().contains(".prj:"));
+    // Nothing besides what all have.
+    QCOMPARE(table->model()->index(1, 2).data().toString(), QString());
+    // One line again.
+    fixture.press(Qt::Key_Down);
+    QVERIFY(QTest::qWaitFor([&] { return table->isHidden(); }, 20000));
+    fixture.explain();
+    QVERIFY2(head().startsWith(din933 + ":57"), qPrintable(head()));
 }
 
 /// The table is not worked out anew for the line that comes next, only when the user pauses.
