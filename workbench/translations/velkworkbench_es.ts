@@ -10,29 +10,29 @@
     <message numerus="yes">
         <source>%n Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>¿Confirmar %n línea?</numerusform>
-            <numerusform>¿Confirmar %n líneas?</numerusform>
+            <numerusform>¿Confirmar %n fila?</numerusform>
+            <numerusform>¿Confirmar %n filas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>¿Confirmar %n línea como caducada?</numerusform>
-            <numerusform>¿Confirmar %n líneas como caducadas?</numerusform>
+            <numerusform>¿Confirmar %n fila como descatalogada?</numerusform>
+            <numerusform>¿Confirmar %n filas como descatalogadas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>¿Quitar la asignación de %n línea?</numerusform>
-            <numerusform>¿Quitar la asignación de %n líneas?</numerusform>
+            <numerusform>¿Quitar la asignación de %n fila?</numerusform>
+            <numerusform>¿Quitar la asignación de %n filas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>¿Quitar la asignación de %n línea y confirmarla como caducada?</numerusform>
-            <numerusform>¿Quitar la asignación de %n líneas y confirmarlas como caducadas?</numerusform>
+            <numerusform>¿Quitar la asignación de %n fila y confirmarla como descatalogada?</numerusform>
+            <numerusform>¿Quitar la asignación de %n filas y confirmarlas como descatalogadas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -52,57 +52,57 @@
     <message numerus="yes">
         <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n línea sin destino queda sin confirmar.</numerusform>
-            <numerusform>%n líneas sin destino quedan sin confirmar.</numerusform>
+            <numerusform>%n fila sin destino queda sin confirmar.</numerusform>
+            <numerusform>%n filas sin destino quedan sin confirmar.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n línea queda como está.</numerusform>
-            <numerusform>%n líneas quedan como están.</numerusform>
+            <numerusform>%n fila queda como está.</numerusform>
+            <numerusform>%n filas quedan como están.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n línea en conflicto no se cambia.</numerusform>
-            <numerusform>%n líneas en conflicto no se cambian.</numerusform>
+            <numerusform>%n fila en conflicto no se cambia.</numerusform>
+            <numerusform>%n filas en conflicto no se cambian.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n línea no figura en ningún proyecto de destino.</numerusform>
-            <numerusform>%n líneas no figuran en ningún proyecto de destino.</numerusform>
+            <numerusform>%n fila no figura en ningún proyecto de destino.</numerusform>
+            <numerusform>%n filas no figuran en ningún proyecto de destino.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n línea confirmada.</numerusform>
-            <numerusform>%n líneas confirmadas.</numerusform>
+            <numerusform>%n fila confirmada.</numerusform>
+            <numerusform>%n filas confirmadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n línea confirmada como caducada.</numerusform>
-            <numerusform>%n líneas confirmadas como caducadas.</numerusform>
+            <numerusform>%n fila confirmada como descatalogada.</numerusform>
+            <numerusform>%n filas confirmadas como descatalogadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Quitada la asignación de %n línea.</numerusform>
-            <numerusform>Quitada la asignación de %n líneas.</numerusform>
+            <numerusform>Quitada la asignación de %n fila.</numerusform>
+            <numerusform>Quitada la asignación de %n filas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Quitada la asignación de %n línea, confirmada como caducada.</numerusform>
-            <numerusform>Quitada la asignación de %n líneas, confirmadas como caducadas.</numerusform>
+            <numerusform>Quitada la asignación de %n fila, confirmada como descatalogada.</numerusform>
+            <numerusform>Quitada la asignación de %n filas, confirmadas como descatalogadas.</numerusform>
         </translation>
     </message>
 </context>
@@ -122,7 +122,7 @@
     </message>
     <message>
         <source>Neue Zeile</source>
-        <translation>Línea nueva</translation>
+        <translation>Fila nueva</translation>
     </message>
     <message>
         <source>Grund</source>
@@ -176,11 +176,11 @@
     <name>ConflictCommands</name>
     <message>
         <source>Die Zeile %1 in %2 kann nicht gezeigt werden</source>
-        <translation>No se puede mostrar la línea %1 de %2</translation>
+        <translation>No se puede mostrar la fila %1 de %2</translation>
     </message>
     <message>
         <source>Keine Zeile ist in Konflikt</source>
-        <translation>Ninguna línea está en conflicto</translation>
+        <translation>Ninguna fila está en conflicto</translation>
     </message>
     <message>
         <source>Alle Konflikte sind entschieden; nun speichern</source>
@@ -193,8 +193,8 @@
     <message numerus="yes">
         <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n línea de %1 se contradice del mismo modo. ¿Vale la decisión para todas?</numerusform>
-            <numerusform>%n líneas de %1 se contradicen del mismo modo. ¿Vale la decisión para todas?</numerusform>
+            <numerusform>%n fila de %1 se contradice del mismo modo. ¿Vale la decisión para todas?</numerusform>
+            <numerusform>%n filas de %1 se contradicen del mismo modo. ¿Vale la decisión para todas?</numerusform>
         </translation>
     </message>
     <message>
@@ -209,22 +209,22 @@ Ajena: %2</translation>
     </message>
     <message>
         <source>&amp;Zeile für Zeile</source>
-        <translation>&amp;Línea por línea</translation>
+        <translation>&amp;Fila por fila</translation>
     </message>
     <message>
         <source>Die Zeile ist in keinem Konflikt</source>
-        <translation>La línea no está en ningún conflicto</translation>
+        <translation>La fila no está en ningún conflicto</translation>
     </message>
     <message>
         <source>Die eigene Entscheidung ist nicht bekannt: die Zeile war schon beim Öffnen in Konflikt</source>
-        <translation>No se conoce la decisión propia: la línea ya estaba en conflicto al abrir</translation>
+        <translation>No se conoce la decisión propia: la fila ya estaba en conflicto al abrir</translation>
     </message>
 </context>
 <context>
     <name>ConflictDock</name>
     <message>
         <source>Keine Zeile ist in Konflikt.</source>
-        <translation>Ninguna línea está en conflicto.</translation>
+        <translation>Ninguna fila está en conflicto.</translation>
     </message>
     <message>
         <source>Alle Konflikte sind entschieden.</source>
@@ -237,8 +237,8 @@ Ajena: %2</translation>
     <message numerus="yes">
         <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n línea más se contradice como esta.</numerusform>
-            <numerusform>%n líneas más se contradicen como esta.</numerusform>
+            <numerusform>%n fila más se contradice como esta.</numerusform>
+            <numerusform>%n filas más se contradicen como esta.</numerusform>
         </translation>
     </message>
     <message>
@@ -286,7 +286,7 @@ Ajena: %2</translation>
     </message>
     <message>
         <source>Zeile</source>
-        <translation>Línea</translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>Eigene Entscheidung</source>
@@ -321,7 +321,7 @@ Ajena: %2</translation>
     </message>
     <message>
         <source>als ausgelaufen bestätigt</source>
-        <translation>confirmada como caducada</translation>
+        <translation>confirmada como descatalogada</translation>
     </message>
     <message>
         <source>nicht bekannt</source>
@@ -329,7 +329,7 @@ Ajena: %2</translation>
     </message>
     <message>
         <source>%1, Zeile %2, %3</source>
-        <translation>%1, línea %2, %3</translation>
+        <translation>%1, fila %2, %3</translation>
     </message>
     <message>
         <source>Zustand</source>
@@ -341,7 +341,7 @@ Ajena: %2</translation>
     </message>
     <message>
         <source>Zielzeile</source>
-        <translation>Línea de destino</translation>
+        <translation>Fila de destino</translation>
     </message>
     <message>
         <source>Wertebereiche</source>
@@ -352,7 +352,7 @@ Ajena: %2</translation>
     <name>ConflictSidesModel</name>
     <message>
         <source>Alte Zeile</source>
-        <translation>Línea antigua</translation>
+        <translation>Fila antigua</translation>
     </message>
     <message>
         <source>Vorher</source>
@@ -380,8 +380,8 @@ Ajena: %2</translation>
     <message numerus="yes">
         <source>ersetzt wie in %n weiteren Zeile(n)</source>
         <translation>
-            <numerusform>sustituido como en %n línea más</numerusform>
-            <numerusform>sustituido como en %n líneas más</numerusform>
+            <numerusform>sustituido como en %n fila más</numerusform>
+            <numerusform>sustituido como en %n filas más</numerusform>
         </translation>
     </message>
     <message>
@@ -394,11 +394,11 @@ Ajena: %2</translation>
     </message>
     <message>
         <source>nur in der neuen Zeile</source>
-        <translation>solo en la línea nueva</translation>
+        <translation>solo en la fila nueva</translation>
     </message>
     <message>
         <source>nur in der alten Zeile</source>
-        <translation>solo en la línea antigua</translation>
+        <translation>solo en la fila antigua</translation>
     </message>
     <message>
         <source>Variable</source>
@@ -417,7 +417,7 @@ Ajena: %2</translation>
     <name>DifferencePanel</name>
     <message>
         <source>Die Tabelle hat die Zeile nicht.</source>
-        <translation>La tabla no tiene la línea.</translation>
+        <translation>La tabla no tiene la fila.</translation>
     </message>
     <message>
         <source>Ohne Ziel. %1</source>
@@ -425,7 +425,7 @@ Ajena: %2</translation>
     </message>
     <message>
         <source>Die zugeordnete Zeile ist keiner der Kandidaten.</source>
-        <translation>La línea asignada no es ninguna de las candidatas.</translation>
+        <translation>La fila asignada no es ninguna de las candidatas.</translation>
     </message>
     <message>
         <source>Alt und neu</source>
@@ -532,8 +532,8 @@ Ajena: %2</translation>
     <message numerus="yes">
         <source>%1: %n Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n línea</numerusform>
-            <numerusform>%1: %n líneas</numerusform>
+            <numerusform>%1: %n fila</numerusform>
+            <numerusform>%1: %n filas</numerusform>
         </translation>
     </message>
     <message>
@@ -543,8 +543,8 @@ Ajena: %2</translation>
     <message numerus="yes">
         <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Aún hay %n línea en conflicto, en estos proyectos:</numerusform>
-            <numerusform>Aún hay %n líneas en conflicto, en estos proyectos:</numerusform>
+            <numerusform>Aún hay %n fila en conflicto, en estos proyectos:</numerusform>
+            <numerusform>Aún hay %n filas en conflicto, en estos proyectos:</numerusform>
         </translation>
     </message>
     <message>
@@ -792,17 +792,17 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zur letzten Entscheidung oder zu den gewählten Zeilen, etwa warum es keinen Nachfolger gibt</source>
-        <translation>Para la última decisión o para las líneas seleccionadas, por ejemplo por qué no hay sucesora</translation>
+        <translation>Para la última decisión o para las filas seleccionadas, por ejemplo por qué no hay sucesora</translation>
     </message>
     <message>
         <source>Zeile %1 in %2</source>
-        <translation>Línea %1 en %2</translation>
+        <translation>Fila %1 en %2</translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n línea en %1</numerusform>
-            <numerusform>%n líneas en %1</numerusform>
+            <numerusform>%n fila en %1</numerusform>
+            <numerusform>%n filas en %1</numerusform>
         </translation>
     </message>
     <message>
@@ -818,7 +818,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Gewählte Zeile</source>
-        <translation>Línea seleccionada</translation>
+        <translation>Fila seleccionada</translation>
     </message>
     <message>
         <source>Gewähltes Projekt</source>
@@ -881,7 +881,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeile</source>
-        <translation>Línea</translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>Bisher</source>
@@ -924,7 +924,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Aus jeder CSV-Datei wird ein Projekt mit seiner Tabelle am selben Ort im Katalog. Wer die Tabellen wieder importiert, behält die Nummern der Zeilen.</source>
-        <translation>De cada archivo CSV se hace un proyecto con su tabla en el mismo lugar del catálogo. Quien importa de nuevo las tablas conserva los números de las líneas.</translation>
+        <translation>De cada archivo CSV se hace un proyecto con su tabla en el mismo lugar del catálogo. Quien importa de nuevo las tablas conserva los números de las filas.</translation>
     </message>
     <message>
         <source>&amp;Importieren</source>
@@ -947,15 +947,15 @@ Elija otro archivo.</translation>
     <name>KeyedActions</name>
     <message>
         <source>Zeile bestätigen oder gewählte Zeile zuordnen</source>
-        <translation>Confirmar la línea o asignar la línea seleccionada</translation>
+        <translation>Confirmar la fila o asignar la fila seleccionada</translation>
     </message>
     <message>
         <source>Zuordnung der Zeile aufheben</source>
-        <translation>Quitar la asignación de la línea</translation>
+        <translation>Quitar la asignación de la fila</translation>
     </message>
     <message>
         <source>Zuordnung aufheben und als ausgelaufen bestätigen</source>
-        <translation>Quitar la asignación y confirmar como caducada</translation>
+        <translation>Quitar la asignación y confirmar como descatalogada</translation>
     </message>
     <message>
         <source>Wertebereichszuordnung bearbeiten</source>
@@ -963,7 +963,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Bedingung aus der Zeile kopieren</source>
-        <translation>Copiar la condición de la línea</translation>
+        <translation>Copiar la condición de la fila</translation>
     </message>
     <message>
         <source>Ganzes Projekt bestätigen</source>
@@ -987,7 +987,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeilen kopieren</source>
-        <translation>Copiar líneas</translation>
+        <translation>Copiar filas</translation>
     </message>
     <message>
         <source>Tabelle größer</source>
@@ -1089,7 +1089,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Ausgelaufen: bestätigt, dass es keine Zuordnung gibt</source>
-        <translation>Caducada: confirmado que no hay asignación</translation>
+        <translation>Descatalogada: confirmado que no hay asignación</translation>
     </message>
     <message>
         <source>Konflikt mit der Änderung eines anderen</source>
@@ -1101,11 +1101,11 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Wertebereichszuordnungen der Zeile</source>
-        <translation>Asignaciones de rangos de valores de la línea</translation>
+        <translation>Asignaciones de rangos de valores de la fila</translation>
     </message>
     <message>
         <source>In der Zieltabelle: die zugeordnete Zeile</source>
-        <translation>En la tabla de destino: la línea asignada</translation>
+        <translation>En la tabla de destino: la fila asignada</translation>
     </message>
     <message>
         <source>Legende</source>
@@ -1129,8 +1129,8 @@ Elija otro archivo.</translation>
     <message numerus="yes">
         <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
         <translation>
-            <numerusform>Aquí, dentro del filtro, está todo hecho; fuera queda aún %n línea abierta.</numerusform>
-            <numerusform>Aquí, dentro del filtro, está todo hecho; fuera quedan aún %n líneas abiertas.</numerusform>
+            <numerusform>Aquí, dentro del filtro, está todo hecho; fuera queda aún %n fila abierta.</numerusform>
+            <numerusform>Aquí, dentro del filtro, está todo hecho; fuera quedan aún %n filas abiertas.</numerusform>
         </translation>
     </message>
     <message>
@@ -1147,19 +1147,19 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Keine Zeile ist in einem der gewählten Zustände</source>
-        <translation>Ninguna línea está en uno de los estados elegidos</translation>
+        <translation>Ninguna fila está en uno de los estados elegidos</translation>
     </message>
     <message>
         <source>Keine Zeile braucht mehr eine Entscheidung</source>
-        <translation>Ninguna línea necesita ya una decisión</translation>
+        <translation>Ninguna fila necesita ya una decisión</translation>
     </message>
     <message>
         <source>Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen</source>
-        <translation>No se puede mostrar ninguna de las líneas abiertas; faltan sus tablas</translation>
+        <translation>No se puede mostrar ninguna de las filas abiertas; faltan sus tablas</translation>
     </message>
     <message>
         <source>Gehe zu Zeile</source>
-        <translation>Ir a la línea</translation>
+        <translation>Ir a la fila</translation>
     </message>
     <message>
         <source>Nummer oder Normbezeichnung:</source>
@@ -1175,7 +1175,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Keine Zeile mit „%1“ in diesem Projekt</source>
-        <translation>No hay ninguna línea con «%1» en este proyecto</translation>
+        <translation>No hay ninguna fila con «%1» en este proyecto</translation>
     </message>
     <message>
         <source>Treffer %1 von %2</source>
@@ -1191,15 +1191,15 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Gemeint sind die markierten Zeilen.</source>
-        <translation>Se trata de las líneas seleccionadas.</translation>
+        <translation>Se trata de las filas seleccionadas.</translation>
     </message>
     <message>
         <source>Gemeint sind alle Zeilen des Projekts.</source>
-        <translation>Se trata de todas las líneas del proyecto.</translation>
+        <translation>Se trata de todas las filas del proyecto.</translation>
     </message>
     <message>
         <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Se trata de las %1 líneas mostradas de las %2 del proyecto.</translation>
+        <translation>Se trata de las %1 filas mostradas de las %2 del proyecto.</translation>
     </message>
     <message>
         <source>Filter: %1.</source>
@@ -1214,7 +1214,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Nur Zeilen im Konflikt mit der Änderung eines anderen zeigen, und ihre Projekte</source>
-        <translation>Mostrar solo las líneas en conflicto con el cambio de otra persona, y sus proyectos</translation>
+        <translation>Mostrar solo las filas en conflicto con el cambio de otra persona, y sus proyectos</translation>
     </message>
     <message>
         <source>Zu prüfen</source>
@@ -1222,7 +1222,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Nur Zeilen mit einem Vorschlag zeigen, der bestätigt oder korrigiert werden muss, und ihre Projekte</source>
-        <translation>Mostrar solo las líneas con una propuesta que hay que confirmar o corregir, y sus proyectos</translation>
+        <translation>Mostrar solo las filas con una propuesta que hay que confirmar o corregir, y sus proyectos</translation>
     </message>
     <message>
         <source>Ohne Ziel</source>
@@ -1230,7 +1230,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Nur Zeilen zeigen, für die nichts gefunden ist, und ihre Projekte</source>
-        <translation>Mostrar solo las líneas para las que no se encontró nada, y sus proyectos</translation>
+        <translation>Mostrar solo las filas para las que no se encontró nada, y sus proyectos</translation>
     </message>
     <message>
         <source>Automatisch</source>
@@ -1238,7 +1238,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Nur Zeilen zeigen, die eindeutig gleich sind und vom Programm zugeordnet wurden, und ihre Projekte</source>
-        <translation>Mostrar solo las líneas inequívocamente iguales que asignó el programa, y sus proyectos</translation>
+        <translation>Mostrar solo las filas inequívocamente iguales que asignó el programa, y sus proyectos</translation>
     </message>
     <message>
         <source>Bestätigt</source>
@@ -1246,15 +1246,15 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Nur Zeilen mit bestätigter Zuordnung zeigen, und ihre Projekte</source>
-        <translation>Mostrar solo las líneas con asignación confirmada, y sus proyectos</translation>
+        <translation>Mostrar solo las filas con asignación confirmada, y sus proyectos</translation>
     </message>
     <message>
         <source>Ausgelaufen</source>
-        <translation>Caducada</translation>
+        <translation>Descatalogada</translation>
     </message>
     <message>
         <source>Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre Projekte</source>
-        <translation>Mostrar solo las líneas confirmadas como caducadas, y sus proyectos</translation>
+        <translation>Mostrar solo las filas confirmadas como descatalogadas, y sus proyectos</translation>
     </message>
 </context>
 <context>
@@ -1352,7 +1352,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeile %1 von %2 steht nicht in diesem Mapping.</source>
-        <translation>La línea %1 de %2 no está en este mapeo.</translation>
+        <translation>La fila %1 de %2 no está en este mapeo.</translation>
     </message>
     <message>
         <source>Nummern der Linkdatenbank werden geprüft</source>
@@ -1405,7 +1405,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeile</source>
-        <translation>Línea</translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>Bezeichnung</source>
@@ -1413,15 +1413,15 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeile &amp;zeigen</source>
-        <translation>&amp;Mostrar línea</translation>
+        <translation>&amp;Mostrar fila</translation>
     </message>
     <message>
         <source>Mit anderer Zeile &amp;verknüpfen...</source>
-        <translation>&amp;Enlazar con otra línea...</translation>
+        <translation>&amp;Enlazar con otra fila...</translation>
     </message>
     <message>
         <source>Wählen Sie danach Projekt und Zeile und senden Sie die Auswahl mit &quot;Auswahl an Linkmanager&quot;.</source>
-        <translation>Elija después proyecto y línea y envíe la selección con «Selección al gestor de enlaces».</translation>
+        <translation>Elija después proyecto y fila y envíe la selección con «Selección al gestor de enlaces».</translation>
     </message>
     <message>
         <source>Zuletzt &amp;Gelöschtes...</source>
@@ -1468,7 +1468,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeile</source>
-        <translation>Línea</translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>Befund</source>
@@ -1488,11 +1488,11 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeile ausgelaufen oder nicht da</source>
-        <translation>Línea caducada o inexistente</translation>
+        <translation>Fila descatalogada o inexistente</translation>
     </message>
     <message>
         <source>als ausgelaufen bestätigt</source>
-        <translation>confirmada como caducada</translation>
+        <translation>confirmada como descatalogada</translation>
     </message>
     <message>
         <source>das Projekt hat sie nicht</source>
@@ -1500,7 +1500,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Von mehreren Zeilen beansprucht</source>
-        <translation>Reclamado por varias líneas</translation>
+        <translation>Reclamado por varias filas</translation>
     </message>
     <message>
         <source>nahe Zahl</source>
@@ -1532,7 +1532,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Offene Zeilen mit Nummern</source>
-        <translation>Líneas abiertas con números</translation>
+        <translation>Filas abiertas con números</translation>
     </message>
     <message>
         <source>Nummern: %1</source>
@@ -1547,7 +1547,7 @@ Elija otro archivo.</translation>
     <name>LocatorDesk</name>
     <message>
         <source>Die Zeile %1 gibt es in %2 nicht.</source>
-        <translation>La línea %1 no existe en %2.</translation>
+        <translation>La fila %1 no existe en %2.</translation>
     </message>
     <message>
         <source>Das Projekt %1 kann nicht gezeigt werden.</source>
@@ -1562,7 +1562,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Projekt, Zeile, Befehl oder Einstellung</source>
-        <translation>Proyecto, línea, comando o ajuste</translation>
+        <translation>Proyecto, fila, comando o ajuste</translation>
     </message>
     <message>
         <source>Gefunden</source>
@@ -1570,7 +1570,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Teile der Wörter genügen; eine Zahl dahinter meint eine Zeile.</source>
-        <translation>Bastan partes de las palabras; un número detrás indica una línea.</translation>
+        <translation>Bastan partes de las palabras; un número detrás indica una fila.</translation>
     </message>
     <message>
         <source>Nichts gefunden</source>
@@ -1592,11 +1592,11 @@ Elija otro archivo.</translation>
     <name>LocatorModel</name>
     <message>
         <source>Zeile %1</source>
-        <translation>Línea %1</translation>
+        <translation>Fila %1</translation>
     </message>
     <message>
         <source>Zeile</source>
-        <translation>Línea</translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>Projekt</source>
@@ -1657,11 +1657,11 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeilen neu zugeordnet: keine Änderung</source>
-        <translation>Líneas asignadas de nuevo: ningún cambio</translation>
+        <translation>Filas asignadas de nuevo: ningún cambio</translation>
     </message>
     <message>
         <source>Hier ist keine solche Zeile. %1 geht zur nächsten.</source>
-        <translation>Aquí no hay ninguna línea así. %1 va a la siguiente.</translation>
+        <translation>Aquí no hay ninguna fila así. %1 va a la siguiente.</translation>
     </message>
     <message>
         <source>schreibgeschützt</source>
@@ -1673,7 +1673,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Links steht der alte Katalogstand. Die Bilder zeigen, wo noch etwas zu entscheiden ist. Wählen Sie ein Projekt, um seine Zeilen zu sehen.</source>
-        <translation>A la izquierda está la versión antigua del catálogo. Los iconos muestran dónde queda algo por decidir. Seleccione un proyecto para ver sus líneas.</translation>
+        <translation>A la izquierda está la versión antigua del catálogo. Los iconos muestran dónde queda algo por decidir. Seleccione un proyecto para ver sus filas.</translation>
     </message>
     <message>
         <source>Die Ziele</source>
@@ -1681,15 +1681,15 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Hier stehen die Projekte des neuen Stands, die Zeilen übernehmen können, mit Bedingungen und Variablenzuordnungen.</source>
-        <translation>Aquí están los proyectos de la versión nueva que pueden recibir líneas, con condiciones y correspondencias de variables.</translation>
+        <translation>Aquí están los proyectos de la versión nueva que pueden recibir filas, con condiciones y correspondencias de variables.</translation>
     </message>
     <message>
         <source>Die Zeilen</source>
-        <translation>Las líneas</translation>
+        <translation>Las filas</translation>
     </message>
     <message>
         <source>Links die alte Tabelle, rechts die neue. %1 bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, %2 hebt auf, %3 bestätigt, dass die Zeile ausgelaufen ist.</source>
-        <translation>A la izquierda la tabla antigua, a la derecha la nueva. %1 confirma la asignación o asigna la línea seleccionada a la derecha, %2 la quita, %3 confirma que la línea ha caducado.</translation>
+        <translation>A la izquierda la tabla antigua, a la derecha la nueva. %1 confirma la asignación o asigna la fila seleccionada a la derecha, %2 la quita, %3 confirma que la fila está descatalogada.</translation>
     </message>
     <message>
         <source>Was noch offen ist</source>
@@ -1697,7 +1697,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Der Zähler sagt, wie viele Zeilen eine Entscheidung brauchen. %1 geht zur nächsten, auch im nächsten Projekt.</source>
-        <translation>El contador indica cuántas líneas necesitan una decisión. %1 va a la siguiente, también en el siguiente proyecto.</translation>
+        <translation>El contador indica cuántas filas necesitan una decisión. %1 va a la siguiente, también en el siguiente proyecto.</translation>
     </message>
     <message>
         <source>Nichts geht verloren</source>
@@ -1709,7 +1709,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeilen des ganzen Katalogs zuordnen?</source>
-        <translation>¿Asignar las líneas de todo el catálogo?</translation>
+        <translation>¿Asignar las filas de todo el catálogo?</translation>
     </message>
     <message>
         <source>Bestätigtes bleibt in jedem Fall. Der Schritt kann zurückgenommen werden.</source>
@@ -1717,7 +1717,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Nur &amp;Zeilen ohne Zuordnung</source>
-        <translation>&amp;Solo líneas sin asignación</translation>
+        <translation>&amp;Solo filas sin asignación</translation>
     </message>
     <message>
         <source>Alles &amp;Unbestätigte neu</source>
@@ -1777,7 +1777,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Nur &amp;Zeilen</source>
-        <translation>&amp;Solo líneas</translation>
+        <translation>&amp;Solo filas</translation>
     </message>
     <message>
         <source>&amp;Hilfe</source>
@@ -1789,7 +1789,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zustände der Zeilen</source>
-        <translation>Estados de las líneas</translation>
+        <translation>Estados de las filas</translation>
     </message>
     <message>
         <source>Werkzeuge</source>
@@ -1896,15 +1896,15 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeilen werden zugeordnet</source>
-        <translation>Asignando líneas</translation>
+        <translation>Asignando filas</translation>
     </message>
     <message>
         <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Cancelado: %1 de %2 proyectos con %3 líneas, de ellas %4 asignadas, %5 por comprobar, %6 sin destino</translation>
+        <translation>Cancelado: %1 de %2 proyectos con %3 filas, de ellas %4 asignadas, %5 por comprobar, %6 sin destino</translation>
     </message>
     <message>
         <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 de %2 proyectos con %3 líneas, de ellas %4 asignadas, %5 por comprobar, %6 sin destino</translation>
+        <translation>%1 de %2 proyectos con %3 filas, de ellas %4 asignadas, %5 por comprobar, %6 sin destino</translation>
     </message>
 </context>
 <context>
@@ -1919,15 +1919,15 @@ Elija otro archivo.</translation>
     <message numerus="yes">
         <source>%n Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n línea la decidieron ambas partes igual.</numerusform>
-            <numerusform>%n líneas las decidieron ambas partes igual.</numerusform>
+            <numerusform>%n fila la decidieron ambas partes igual.</numerusform>
+            <numerusform>%n filas las decidieron ambas partes igual.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n línea se decidió de forma distinta y está marcada como conflicto.</numerusform>
-            <numerusform>%n líneas se decidieron de forma distinta y están marcadas como conflicto.</numerusform>
+            <numerusform>%n fila se decidió de forma distinta y está marcada como conflicto.</numerusform>
+            <numerusform>%n filas se decidieron de forma distinta y están marcadas como conflicto.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1942,7 +1942,7 @@ Elija otro archivo.</translation>
     <name>NeighbourCommands</name>
     <message>
         <source>Die Zeile %1 kann nicht gezeigt werden</source>
-        <translation>No se puede mostrar la línea %1</translation>
+        <translation>No se puede mostrar la fila %1</translation>
     </message>
     <message>
         <source>Es ist keine Fundstelle gewählt</source>
@@ -1962,8 +1962,8 @@ Elija otro archivo.</translation>
     <message numerus="yes">
         <source>%n zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n línea asignada revisada</numerusform>
-            <numerusform>%n líneas asignadas revisadas</numerusform>
+            <numerusform>%n fila asignada revisada</numerusform>
+            <numerusform>%n filas asignadas revisadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1982,23 +1982,23 @@ Elija otro archivo.</translation>
     <name>NeighbourModel</name>
     <message>
         <source>Zeilen %1 bis %2 sind um %3 verschoben</source>
-        <translation>Las líneas %1 a %2 están desplazadas en %3</translation>
+        <translation>Las filas %1 a %2 están desplazadas en %3</translation>
     </message>
     <message>
         <source>Zeilen %1 und %2 sind vertauscht</source>
-        <translation>Las líneas %1 y %2 están intercambiadas</translation>
+        <translation>Las filas %1 y %2 están intercambiadas</translation>
     </message>
     <message>
         <source>Zeile %1 liegt um %2 daneben</source>
-        <translation>La línea %1 está desviada en %2</translation>
+        <translation>La fila %1 está desviada en %2</translation>
     </message>
     <message>
         <source>Zeile %1 hat die Zielzeile einer anderen</source>
-        <translation>La línea %1 tiene la línea de destino de otra</translation>
+        <translation>La fila %1 tiene la fila de destino de otra</translation>
     </message>
     <message>
         <source>Zeile %1 ist übersprungen</source>
-        <translation>La línea %1 está saltada</translation>
+        <translation>La fila %1 está saltada</translation>
     </message>
     <message>
         <source>offen</source>
@@ -2033,7 +2033,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>&amp;Zeilen gleich zuordnen</source>
-        <translation>Asignar &amp;las líneas enseguida</translation>
+        <translation>Asignar &amp;las filas enseguida</translation>
     </message>
     <message>
         <source>Neues Mapping</source>
@@ -2170,7 +2170,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeilen:</source>
-        <translation>Líneas:</translation>
+        <translation>Filas:</translation>
     </message>
     <message>
         <source>Datei:</source>
@@ -2202,8 +2202,8 @@ Elija otro archivo.</translation>
     <message numerus="yes">
         <source>%n offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n línea abierta con propuesta</numerusform>
-            <numerusform>%n líneas abiertas con propuesta</numerusform>
+            <numerusform>%n fila abierta con propuesta</numerusform>
+            <numerusform>%n filas abiertas con propuesta</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2223,8 +2223,8 @@ Elija otro archivo.</translation>
     <message numerus="yes">
         <source>Gewählt: %n Zeile(n)</source>
         <translation>
-            <numerusform>Elegida: %n línea</numerusform>
-            <numerusform>Elegidas: %n líneas</numerusform>
+            <numerusform>Elegida: %n fila</numerusform>
+            <numerusform>Elegidas: %n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2236,7 +2236,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Unterschiede der offenen Zeilen</source>
-        <translation>Diferencias de las líneas abiertas</translation>
+        <translation>Diferencias de las filas abiertas</translation>
     </message>
     <message numerus="yes">
         <source>in %n Projekt(en)</source>
@@ -2251,8 +2251,8 @@ Elija otro archivo.</translation>
     <message numerus="yes">
         <source>%n Zeile(n)</source>
         <translation>
-            <numerusform>%n línea</numerusform>
-            <numerusform>%n líneas</numerusform>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2265,8 +2265,8 @@ Elija otro archivo.</translation>
     <message numerus="yes">
         <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n línea más tiene estas y otras diferencias</numerusform>
-            <numerusform>%n líneas más tienen estas y otras diferencias</numerusform>
+            <numerusform>%n fila más tiene estas y otras diferencias</numerusform>
+            <numerusform>%n filas más tienen estas y otras diferencias</numerusform>
         </translation>
     </message>
     <message>
@@ -2275,7 +2275,7 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>Zeilen</source>
-        <translation>Líneas</translation>
+        <translation>Filas</translation>
     </message>
     <message>
         <source>Projekte</source>
@@ -2357,11 +2357,11 @@ Elija otro archivo.</translation>
     </message>
     <message>
         <source>nicht verfügbar: es ist keine Zeile gewählt</source>
-        <translation>no disponible: no hay ninguna línea seleccionada</translation>
+        <translation>no disponible: no hay ninguna fila seleccionada</translation>
     </message>
     <message>
         <source>ERP-Nummer für %1, Zeile %2</source>
-        <translation>Número ERP para %1, línea %2</translation>
+        <translation>Número ERP para %1, fila %2</translation>
     </message>
     <message>
         <source>Bitte eine ERP-Nummer vergeben.
@@ -2372,7 +2372,7 @@ Zeile: %2
         <translation>Por favor, asignen un número ERP.
 
 Proyecto: %1
-Línea: %2
+Fila: %2
 </translation>
     </message>
     <message>
@@ -2419,13 +2419,13 @@ Línea: %2
     <name>RangeCommands</name>
     <message>
         <source>Zeile %1: %2</source>
-        <translation>Línea %1: %2</translation>
+        <translation>Fila %1: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n línea está confirmada aunque hay valores de su rango sin línea nueva.</numerusform>
-            <numerusform>%n líneas están confirmadas aunque hay valores de sus rangos sin línea nueva.</numerusform>
+            <numerusform>%n fila está confirmada aunque hay valores de su rango sin fila nueva.</numerusform>
+            <numerusform>%n filas están confirmadas aunque hay valores de sus rangos sin fila nueva.</numerusform>
         </translation>
     </message>
     <message>
@@ -2442,13 +2442,13 @@ Línea: %2
     <message numerus="yes">
         <source>%1: %n Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n línea</numerusform>
-            <numerusform>%1: %n líneas</numerusform>
+            <numerusform>%1: %n fila</numerusform>
+            <numerusform>%1: %n filas</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
-        <translation>La línea no tiene asignación de rangos de valores.</translation>
+        <translation>La fila no tiene asignación de rangos de valores.</translation>
     </message>
     <message>
         <source>%1: %2 von %3 Werten zugeordnet</source>
@@ -2468,7 +2468,7 @@ Línea: %2
     </message>
     <message>
         <source>Wertebereich der Zeile</source>
-        <translation>Rango de valores de la línea</translation>
+        <translation>Rango de valores de la fila</translation>
     </message>
 </context>
 <context>
@@ -2514,7 +2514,7 @@ Línea: %2
     </message>
     <message>
         <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>De %1 hay trabajo que no se guardó: %2 pasos con %3 líneas en %4 proyectos, el último «%5». Es de %6.</translation>
+        <translation>De %1 hay trabajo que no se guardó: %2 pasos con %3 filas en %4 proyectos, el último «%5». Es de %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2534,7 +2534,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeilen</source>
-        <translation>Líneas</translation>
+        <translation>Filas</translation>
     </message>
     <message>
         <source>Bestätigt</source>
@@ -2573,7 +2573,7 @@ Línea: %2
     </message>
     <message>
         <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tablas con %2 líneas: %3 nuevas, %4 cambiadas, %5 sin cambios, %6 no importadas</translation>
+        <translation>%1 tablas con %2 filas: %3 nuevas, %4 cambiadas, %5 sin cambios, %6 no importadas</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2597,7 +2597,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeilen exportieren</source>
-        <translation>Exportar líneas</translation>
+        <translation>Exportar filas</translation>
     </message>
     <message>
         <source>Tabellen (*.csv);;Alle Dateien (*)</source>
@@ -2605,7 +2605,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeilen werden exportiert</source>
-        <translation>Exportando líneas</translation>
+        <translation>Exportando filas</translation>
     </message>
     <message>
         <source>Abgebrochen, es wurde nichts exportiert</source>
@@ -2613,7 +2613,7 @@ Línea: %2
     </message>
     <message>
         <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 líneas exportadas a %2</translation>
+        <translation>%1 filas exportadas a %2</translation>
     </message>
     <message>
         <source>Bericht schreiben</source>
@@ -2685,15 +2685,15 @@ Línea: %2
     <message numerus="yes">
         <source>%n Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n línea a favor</numerusform>
-            <numerusform>%n líneas a favor</numerusform>
+            <numerusform>%n fila a favor</numerusform>
+            <numerusform>%n filas a favor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n línea en contra</numerusform>
-            <numerusform>%n líneas en contra</numerusform>
+            <numerusform>%n fila en contra</numerusform>
+            <numerusform>%n filas en contra</numerusform>
         </translation>
     </message>
 </context>
@@ -2713,11 +2713,11 @@ Línea: %2
     </message>
     <message>
         <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Resuelto: %1 de %2 líneas; abiertas: %3.</translation>
+        <translation>Resuelto: %1 de %2 filas; abiertas: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
-        <translation>Situación de las líneas</translation>
+        <translation>Situación de las filas</translation>
     </message>
     <message>
         <source>Nach Ordnern, mit allem darunter</source>
@@ -2729,11 +2729,11 @@ Línea: %2
     </message>
     <message>
         <source>Warum Zeilen offen sind</source>
-        <translation>Por qué hay líneas abiertas</translation>
+        <translation>Por qué hay filas abiertas</translation>
     </message>
     <message>
         <source>Worin sich offene Zeilen von ihren Vorschlägen unterscheiden</source>
-        <translation>En qué se diferencian las líneas abiertas de sus propuestas</translation>
+        <translation>En qué se diferencian las filas abiertas de sus propuestas</translation>
     </message>
     <message>
         <source>Stichproben</source>
@@ -2745,11 +2745,11 @@ Línea: %2
     </message>
     <message>
         <source>Offene Zeilen</source>
-        <translation>Líneas abiertas</translation>
+        <translation>Filas abiertas</translation>
     </message>
     <message>
         <source>Zeilen ohne Nachfolger</source>
-        <translation>Líneas sin sucesora</translation>
+        <translation>Filas sin sucesora</translation>
     </message>
     <message>
         <source>Was nicht gelesen werden konnte</source>
@@ -2757,7 +2757,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeilen</source>
-        <translation>Líneas</translation>
+        <translation>Filas</translation>
     </message>
     <message>
         <source>Bestätigt</source>
@@ -2765,7 +2765,7 @@ Línea: %2
     </message>
     <message>
         <source>Als ausgelaufen bestätigt</source>
-        <translation>Confirmadas como caducadas</translation>
+        <translation>Confirmadas como descatalogadas</translation>
     </message>
     <message>
         <source>Sicher zugeordnet</source>
@@ -2793,7 +2793,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeile</source>
-        <translation>Línea</translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>Bezeichnung</source>
@@ -2897,7 +2897,7 @@ Línea: %2
     </message>
     <message>
         <source>mehrere Zeilen sind gleich</source>
-        <translation>varias líneas son iguales</translation>
+        <translation>varias filas son iguales</translation>
     </message>
     <message>
         <source>zu unähnlich</source>
@@ -2978,11 +2978,11 @@ Línea: %2
     <name>ReviewCommands</name>
     <message>
         <source>Die Zeile %1 kann nicht gezeigt werden</source>
-        <translation>No se puede mostrar la línea %1</translation>
+        <translation>No se puede mostrar la fila %1</translation>
     </message>
     <message>
         <source>Keine Zeile mehr offen</source>
-        <translation>Ya no hay ninguna línea abierta</translation>
+        <translation>Ya no hay ninguna fila abierta</translation>
     </message>
     <message>
         <source>Die Tabellen sind noch nicht verglichen</source>
@@ -2991,35 +2991,35 @@ Línea: %2
     <message numerus="yes">
         <source>Von vorn: %n Zeile(n) offen</source>
         <translation>
-            <numerusform>Desde el principio: %n línea abierta</numerusform>
-            <numerusform>Desde el principio: %n líneas abiertas</numerusform>
+            <numerusform>Desde el principio: %n fila abierta</numerusform>
+            <numerusform>Desde el principio: %n filas abiertas</numerusform>
         </translation>
     </message>
     <message>
         <source>Offene Zeilen kommen nach ihrer Unsicherheit</source>
-        <translation>Las líneas abiertas vienen por su incertidumbre</translation>
+        <translation>Las filas abiertas vienen por su incertidumbre</translation>
     </message>
     <message>
         <source>Offene Zeilen kommen nach ihrem Ort</source>
-        <translation>Las líneas abiertas vienen por su lugar</translation>
+        <translation>Las filas abiertas vienen por su lugar</translation>
     </message>
     <message>
         <source>Die Zeile gehört nicht zum gewählten Muster</source>
-        <translation>La línea no pertenece al patrón elegido</translation>
+        <translation>La fila no pertenece al patrón elegido</translation>
     </message>
     <message>
         <source>Zeile %1 herausgenommen</source>
-        <translation>Línea %1 excluida</translation>
+        <translation>Fila %1 excluida</translation>
     </message>
     <message>
         <source>Es ist kein Muster gewählt, oder alle Zeilen sind entschieden</source>
-        <translation>No hay ningún patrón elegido, o todas sus líneas están decididas</translation>
+        <translation>No hay ningún patrón elegido, o todas sus filas están decididas</translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n)</source>
         <translation>
-            <numerusform>%n línea</numerusform>
-            <numerusform>%n líneas</numerusform>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3040,8 +3040,8 @@ Línea: %2
     <message numerus="yes">
         <source>%n Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n línea confirmada</numerusform>
-            <numerusform>%n líneas confirmadas</numerusform>
+            <numerusform>%n fila confirmada</numerusform>
+            <numerusform>%n filas confirmadas</numerusform>
         </translation>
     </message>
     <message>
@@ -3050,7 +3050,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeile %1 → %2 bestätigt</source>
-        <translation>Línea %1 → %2 confirmada</translation>
+        <translation>Fila %1 → %2 confirmada</translation>
     </message>
     <message>
         <source>Ersetzungen vereinbart: %1</source>
@@ -3058,7 +3058,7 @@ Línea: %2
     </message>
     <message>
         <source>Wählen Sie ein Muster, oder markieren Sie offene Zeilen</source>
-        <translation>Elija un patrón o seleccione líneas abiertas</translation>
+        <translation>Elija un patrón o seleccione filas abiertas</translation>
     </message>
     <message>
         <source>Stichprobe</source>
@@ -3066,7 +3066,7 @@ Línea: %2
     </message>
     <message>
         <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Tantas de %1 líneas se sortean y se evalúan una a una. %2 correctas indican con un 95 % de certeza que menos del 5 % son erróneas, %3 correctas, menos del 1 %.</translation>
+        <translation>Tantas de %1 filas se sortean y se evalúan una a una. %2 correctas indican con un 95 % de certeza que menos del 5 % son erróneas, %3 correctas, menos del 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3074,7 +3074,7 @@ Línea: %2
     </message>
     <message>
         <source>Stichprobe, Zeile %1 von %2: + richtig, − falsch</source>
-        <translation>Muestra, línea %1 de %2: + correcta, − errónea</translation>
+        <translation>Muestra, fila %1 de %2: + correcta, − errónea</translation>
     </message>
     <message>
         <source>Es läuft keine Stichprobe</source>
@@ -3082,7 +3082,7 @@ Línea: %2
     </message>
     <message>
         <source>Die Zeilen der Stichprobe sind alle schon entschieden</source>
-        <translation>Todas las líneas de la muestra están ya decididas</translation>
+        <translation>Todas las filas de la muestra están ya decididas</translation>
     </message>
     <message>
         <source>%1 von %2 richtig</source>
@@ -3094,7 +3094,7 @@ Línea: %2
     </message>
     <message>
         <source>alle Zeilen beurteilt</source>
-        <translation>todas las líneas evaluadas</translation>
+        <translation>todas las filas evaluadas</translation>
     </message>
     <message>
         <source>mit 95 % Sicherheit weniger als %1 % falsch</source>
@@ -3114,11 +3114,11 @@ Línea: %2
     </message>
     <message>
         <source>Zeile %1 ist falsch: die Stichprobe ist zu Ende</source>
-        <translation>La línea %1 es errónea: la muestra ha terminado</translation>
+        <translation>La fila %1 es errónea: la muestra ha terminado</translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>La línea %1 de %2 es errónea. El conjunto se ha dividido por diferencias; ¿con qué parte se sigue?</translation>
+        <translation>La fila %1 de %2 es errónea. El conjunto se ha dividido por diferencias; ¿con qué parte se sigue?</translation>
     </message>
     <message>
         <source>&amp;Weiter</source>
@@ -3126,7 +3126,7 @@ Línea: %2
     </message>
     <message>
         <source>&amp;Falsche Zeile ansehen</source>
-        <translation>&amp;Ver la línea errónea</translation>
+        <translation>&amp;Ver la fila errónea</translation>
     </message>
     <message numerus="yes">
         <source>%n davon ist/sind unsicher.</source>
@@ -3195,7 +3195,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeile %1: %2</source>
-        <translation>Línea %1: %2</translation>
+        <translation>Fila %1: %2</translation>
     </message>
 </context>
 <context>
@@ -3311,7 +3311,7 @@ Línea: %2
     <name>SettingsDialog</name>
     <message>
         <source>Nach einer Entscheidung weiter zur nä&amp;chsten offenen Zeile</source>
-        <translation>Tras una decisión, pasar a la si&amp;guiente línea abierta</translation>
+        <translation>Tras una decisión, pasar a la siguiente &amp;fila abierta</translation>
     </message>
     <message>
         <source>Einstellungen</source>
@@ -3386,7 +3386,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeilen in Konflikt werden nicht veröffentlicht: %1.</source>
-        <translation>Las líneas en conflicto no se publican: %1.</translation>
+        <translation>Las filas en conflicto no se publican: %1.</translation>
     </message>
     <message>
         <source>Es gibt Änderungen in Ordnern anderer: %1.</source>
@@ -3558,11 +3558,11 @@ Línea: %2
     <message>
         <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
         <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Abiertas: &lt;a href=&quot;next&quot;&gt;%1 líneas&lt;/a&gt; en %2 proyectos</translation>
+        <translation>Abiertas: &lt;a href=&quot;next&quot;&gt;%1 filas&lt;/a&gt; en %2 proyectos</translation>
     </message>
     <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
-        <translation>Líneas que aún necesitan una decisión</translation>
+        <translation>Filas que aún necesitan una decisión</translation>
     </message>
     <message>
         <source>Schreibgeschützt</source>
@@ -3592,13 +3592,13 @@ Línea: %2
     <name>StepNotices</name>
     <message>
         <source>Die Änderung in %1 wirkt erst, wenn die Zeilen erneut zugewiesen werden. Dabei bleibt nur erhalten, was bestätigt ist.</source>
-        <translation>El cambio en %1 solo surte efecto cuando las líneas se asignan de nuevo. Entonces solo se conserva lo confirmado.</translation>
+        <translation>El cambio en %1 solo surte efecto cuando las filas se asignan de nuevo. Entonces solo se conserva lo confirmado.</translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n línea en %1 estaba confirmada como caducada y ya no lo está: %2</numerusform>
-            <numerusform>%n líneas en %1 estaban confirmadas como caducadas y ya no lo están: %2</numerusform>
+            <numerusform>%n fila en %1 estaba confirmada como descatalogada y ya no lo está: %2</numerusform>
+            <numerusform>%n filas en %1 estaban confirmadas como descatalogadas y ya no lo están: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -3616,15 +3616,15 @@ Línea: %2
     <message numerus="yes">
         <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Línea %1 → %2 en %3: la línea de destino la tiene también %n línea más: %4</numerusform>
-            <numerusform>Línea %1 → %2 en %3: la línea de destino la tienen también %n líneas más: %4</numerusform>
+            <numerusform>Fila %1 → %2 en %3: la fila de destino la tiene también %n fila más: %4</numerusform>
+            <numerusform>Fila %1 → %2 en %3: la fila de destino la tienen también %n filas más: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n línea en %1 comparte su línea de destino con otras recién asignadas: %2</numerusform>
-            <numerusform>%n líneas en %1 comparten su línea de destino con otras recién asignadas: %2</numerusform>
+            <numerusform>%n fila en %1 comparte su fila de destino con otras recién asignadas: %2</numerusform>
+            <numerusform>%n filas en %1 comparten su fila de destino con otras recién asignadas: %2</numerusform>
         </translation>
     </message>
 </context>
@@ -3640,59 +3640,59 @@ Línea: %2
     <message numerus="yes">
         <source>%n Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n línea confirmada</numerusform>
-            <numerusform>%n líneas confirmadas</numerusform>
+            <numerusform>%n fila confirmada</numerusform>
+            <numerusform>%n filas confirmadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n línea confirmada como caducada</numerusform>
-            <numerusform>%n líneas confirmadas como caducadas</numerusform>
+            <numerusform>%n fila confirmada como descatalogada</numerusform>
+            <numerusform>%n filas confirmadas como descatalogadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n línea asignada</numerusform>
-            <numerusform>%n líneas asignadas</numerusform>
+            <numerusform>%n fila asignada</numerusform>
+            <numerusform>%n filas asignadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>quitada la asignación de %n línea</numerusform>
-            <numerusform>quitada la asignación de %n líneas</numerusform>
+            <numerusform>quitada la asignación de %n fila</numerusform>
+            <numerusform>quitada la asignación de %n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
         <translation>
-            <numerusform>cambiada la asignación de rangos de valores de %n línea</numerusform>
-            <numerusform>cambiada la asignación de rangos de valores de %n líneas</numerusform>
+            <numerusform>cambiada la asignación de rangos de valores de %n fila</numerusform>
+            <numerusform>cambiada la asignación de rangos de valores de %n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Konflikt von %n Zeile(n) gelöst</source>
         <translation>
-            <numerusform>resuelto el conflicto de %n línea</numerusform>
-            <numerusform>resuelto el conflicto de %n líneas</numerusform>
+            <numerusform>resuelto el conflicto de %n fila</numerusform>
+            <numerusform>resuelto el conflicto de %n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n línea cambiada</numerusform>
-            <numerusform>%n líneas cambiadas</numerusform>
+            <numerusform>%n fila cambiada</numerusform>
+            <numerusform>%n filas cambiadas</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 → %2 bestätigt</source>
-        <translation>línea %1 → %2 confirmada</translation>
+        <translation>fila %1 → %2 confirmada</translation>
     </message>
     <message>
         <source>Zeile %1 → %2 zugeordnet</source>
-        <translation>línea %1 → %2 asignada</translation>
+        <translation>fila %1 → %2 asignada</translation>
     </message>
     <message>
         <source>%1 (vorher %2)</source>
@@ -3700,15 +3700,15 @@ Línea: %2
     </message>
     <message>
         <source>Zeile %1 als ausgelaufen bestätigt (vorher %2)</source>
-        <translation>línea %1 confirmada como caducada (antes %2)</translation>
+        <translation>fila %1 confirmada como descatalogada (antes %2)</translation>
     </message>
     <message>
         <source>Zeile %1 als ausgelaufen bestätigt</source>
-        <translation>línea %1 confirmada como caducada</translation>
+        <translation>fila %1 confirmada como descatalogada</translation>
     </message>
     <message>
         <source>Zuordnung von Zeile %1 aufgehoben (vorher %2)</source>
-        <translation>quitada la asignación de la línea %1 (antes %2)</translation>
+        <translation>quitada la asignación de la fila %1 (antes %2)</translation>
     </message>
     <message>
         <source>Projekt hinzugefügt</source>
@@ -3781,15 +3781,15 @@ Línea: %2
     <name>ValueRangeCheck</name>
     <message>
         <source>%1, Zeile %2: Reihe %3 der Wertebereichszuordnung hat nicht die Form {NAME=WERT} -&gt; Zeilennummer: &quot;%4&quot;. Bitte berichtigen oder neu auflösen.</source>
-        <translation>%1, línea %2: la fila %3 de la asignación de rangos de valores no tiene la forma {NAME=VALOR} -&gt; número de línea: &quot;%4&quot;. Corríjala o resuélvala de nuevo.</translation>
+        <translation>%1, fila %2: la fila %3 de la asignación de rangos de valores no tiene la forma {NAME=VALOR} -&gt; número de fila: &quot;%4&quot;. Corríjala o resuélvala de nuevo.</translation>
     </message>
     <message>
         <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, aber die Zeile hat kein Zielprojekt. Bitte zuordnen oder den Text leeren.</source>
-        <translation>%1, línea %2: la asignación de rangos de valores nombra la línea %3, pero la línea no tiene proyecto de destino. Asígnela o vacíe el texto.</translation>
+        <translation>%1, fila %2: la asignación de rangos de valores nombra la fila %3, pero la fila no tiene proyecto de destino. Asígnela o vacíe el texto.</translation>
     </message>
     <message>
         <source>%1, Zeile %2: Die Wertebereichszuordnung nennt Zeile %3, die es in %4 nicht gibt. Bitte berichtigen oder neu auflösen.</source>
-        <translation>%1, línea %2: la asignación de rangos de valores nombra la línea %3, que no existe en %4. Corríjala o resuélvala de nuevo.</translation>
+        <translation>%1, fila %2: la asignación de rangos de valores nombra la fila %3, que no existe en %4. Corríjala o resuélvala de nuevo.</translation>
     </message>
     <message>
         <source>%1: Die Tabelle des Zielprojekts %2 kann nicht gelesen werden, seine Wertebereichszuordnungen sind ungeprüft. Bitte das Verzeichnis der Zielprojekte prüfen (%3).</source>
@@ -3830,7 +3830,7 @@ Línea: %2
     </message>
     <message>
         <source>Ein Katalog ist neu erschienen, und jede Zeile des alten Stands muss auf eine Zeile des neuen übertragen werden. Das Programm schlägt vor, Sie prüfen und bestätigen.</source>
-        <translation>Ha salido una nueva versión de un catálogo y cada línea de la antigua debe pasar a una línea de la nueva. El programa propone, usted comprueba y confirma.</translation>
+        <translation>Ha salido una nueva versión de un catálogo y cada fila de la antigua debe pasar a una fila de la nueva. El programa propone, usted comprueba y confirma.</translation>
     </message>
     <message>
         <source>Zuletzt geöffnet:</source>
@@ -3945,19 +3945,19 @@ Línea: %2
     </message>
     <message>
         <source>Zeilen e&amp;xportieren...</source>
-        <translation>Exportar &amp;líneas...</translation>
+        <translation>Exportar &amp;filas...</translation>
     </message>
     <message>
         <source>Schreibt alle Zeilen des Stands mit ihren Zuordnungen in eine CSV-Datei</source>
-        <translation>Escribe todas las líneas de la versión con sus asignaciones en un archivo CSV</translation>
+        <translation>Escribe todas las filas de la versión con sus asignaciones en un archivo CSV</translation>
     </message>
     <message>
         <source>Be&amp;richt...</source>
-        <translation>In&amp;forme...</translation>
+        <translation>Inf&amp;orme...</translation>
     </message>
     <message>
         <source>Schreibt als PDF oder HTML, wie weit der Stand ist und warum Zeilen offen sind</source>
-        <translation>Escribe en PDF o HTML hasta dónde ha llegado la versión y por qué hay líneas abiertas</translation>
+        <translation>Escribe en PDF o HTML hasta dónde ha llegado la versión y por qué hay filas abiertas</translation>
     </message>
     <message>
         <source>&amp;Beenden</source>
@@ -3985,19 +3985,19 @@ Línea: %2
     </message>
     <message>
         <source>Zeilen &amp;bestätigen...</source>
-        <translation>Confirmar &amp;líneas...</translation>
+        <translation>Confirmar &amp;filas...</translation>
     </message>
     <message>
         <source>Bestätigt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt</source>
-        <translation>Confirma en un paso la asignación de las líneas seleccionadas o de todas las mostradas</translation>
+        <translation>Confirma en un paso la asignación de las filas seleccionadas o de todas las mostradas</translation>
     </message>
     <message>
         <source>Zeilen ohne Ziel als aus&amp;gelaufen bestätigen...</source>
-        <translation>Confirmar líneas &amp;sin destino como caducadas...</translation>
+        <translation>Confirmar filas &amp;sin destino como descatalogadas...</translation>
     </message>
     <message>
         <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>
-        <translation>Confirma como caducadas las que no tienen destino de las líneas seleccionadas o de todas las mostradas</translation>
+        <translation>Confirma como descatalogadas las que no tienen destino de las filas seleccionadas o de todas las mostradas</translation>
     </message>
     <message>
         <source>Zuordnungen &amp;aufheben...</source>
@@ -4005,7 +4005,7 @@ Línea: %2
     </message>
     <message>
         <source>Hebt die Zuordnung der markierten oder aller gezeigten Zeilen in einem Schritt auf</source>
-        <translation>Quita en un paso la asignación de las líneas seleccionadas o de todas las mostradas</translation>
+        <translation>Quita en un paso la asignación de las filas seleccionadas o de todas las mostradas</translation>
     </message>
     <message>
         <source>Zuordnungen aufheben und bestä&amp;tigen...</source>
@@ -4013,7 +4013,7 @@ Línea: %2
     </message>
     <message>
         <source>Die markierten oder alle gezeigten Zeilen sind ausgelaufen: hebt auf und bestätigt in einem Schritt</source>
-        <translation>Las líneas seleccionadas, o todas las mostradas, han caducado: quita y confirma en un paso</translation>
+        <translation>Las filas seleccionadas, o todas las mostradas, están descatalogadas: quita y confirma en un paso</translation>
     </message>
     <message>
         <source>Alle Projekte &amp;zuordnen...</source>
@@ -4021,7 +4021,7 @@ Línea: %2
     </message>
     <message>
         <source>Sucht für alle Zeilen des Katalogs Zuordnungen; Bestätigtes bleibt</source>
-        <translation>Busca asignaciones para todas las líneas del catálogo; lo confirmado se queda</translation>
+        <translation>Busca asignaciones para todas las filas del catálogo; lo confirmado se queda</translation>
     </message>
     <message>
         <source>Wertebereichszuordnungen &amp;prüfen</source>
@@ -4049,27 +4049,27 @@ Línea: %2
     </message>
     <message>
         <source>&amp;Nächste offene Zeile</source>
-        <translation>&amp;Siguiente línea abierta</translation>
+        <translation>&amp;Siguiente fila abierta</translation>
     </message>
     <message>
         <source>Geht zur nächsten Zeile, die eine Entscheidung braucht, auch im nächsten Projekt</source>
-        <translation>Va a la siguiente línea que necesita una decisión, también en el siguiente proyecto</translation>
+        <translation>Va a la siguiente fila que necesita una decisión, también en el siguiente proyecto</translation>
     </message>
     <message>
         <source>&amp;Vorige offene Zeile</source>
-        <translation>Línea &amp;abierta anterior</translation>
+        <translation>Fila &amp;abierta anterior</translation>
     </message>
     <message>
         <source>Geht zur vorigen Zeile, die eine Entscheidung braucht, auch im vorigen Projekt</source>
-        <translation>Va a la línea anterior que necesita una decisión, también en el proyecto anterior</translation>
+        <translation>Va a la fila anterior que necesita una decisión, también en el proyecto anterior</translation>
     </message>
     <message>
         <source>&amp;Gehe zu Zeile...</source>
-        <translation>Ir a &amp;la línea...</translation>
+        <translation>Ir a la &amp;fila...</translation>
     </message>
     <message>
         <source>Sucht eine Zeile des Projekts nach Nummer oder Bezeichnung</source>
-        <translation>Busca una línea del proyecto por número o designación</translation>
+        <translation>Busca una fila del proyecto por número o designación</translation>
     </message>
     <message>
         <source>&amp;Andere Tabelle</source>
@@ -4085,7 +4085,7 @@ Línea: %2
     </message>
     <message>
         <source>Findet Projekte, Zeilen, Befehle und Einstellungen nach Teilen der Wörter</source>
-        <translation>Encuentra proyectos, líneas, comandos y ajustes por partes de las palabras</translation>
+        <translation>Encuentra proyectos, filas, comandos y ajustes por partes de las palabras</translation>
     </message>
     <message>
         <source>&amp;Muster der Unterschiede</source>
@@ -4093,7 +4093,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeigt, worin sich die offenen Zeilen von ihren Vorschlägen unterscheiden</source>
-        <translation>Muestra en qué se diferencian las líneas abiertas de sus propuestas</translation>
+        <translation>Muestra en qué se diferencian las filas abiertas de sus propuestas</translation>
     </message>
     <message>
         <source>&amp;Alt und neu</source>
@@ -4101,7 +4101,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeigt alte und neue Werte der Zeile nebeneinander, und ihre Kandidaten</source>
-        <translation>Muestra los valores antiguos y nuevos de la línea uno al lado del otro, y sus candidatas</translation>
+        <translation>Muestra los valores antiguos y nuevos de la fila uno al lado del otro, y sus candidatas</translation>
     </message>
     <message>
         <source>Muster &amp;bestätigen...</source>
@@ -4109,31 +4109,31 @@ Línea: %2
     </message>
     <message>
         <source>Bestätigt alle Zeilen des gewählten Musters in einem Schritt</source>
-        <translation>Confirma en un paso todas las líneas del patrón elegido</translation>
+        <translation>Confirma en un paso todas las filas del patrón elegido</translation>
     </message>
     <message>
         <source>Zeile &amp;herausnehmen</source>
-        <translation>&amp;Excluir línea</translation>
+        <translation>&amp;Excluir fila</translation>
     </message>
     <message>
         <source>Die Zeile wird nicht mit den anderen des Musters bestätigt</source>
-        <translation>La línea no se confirma con las demás del patrón</translation>
+        <translation>La fila no se confirma con las demás del patrón</translation>
     </message>
     <message>
         <source>&amp;Nächste Zeile des Musters</source>
-        <translation>&amp;Siguiente línea del patrón</translation>
+        <translation>&amp;Siguiente fila del patrón</translation>
     </message>
     <message>
         <source>Geht zur nächsten offenen Zeile des gewählten Musters</source>
-        <translation>Va a la siguiente línea abierta del patrón elegido</translation>
+        <translation>Va a la siguiente fila abierta del patrón elegido</translation>
     </message>
     <message>
         <source>&amp;Vorige Zeile des Musters</source>
-        <translation>&amp;Línea anterior del patrón</translation>
+        <translation>&amp;Fila anterior del patrón</translation>
     </message>
     <message>
         <source>Geht zur vorigen offenen Zeile des gewählten Musters</source>
-        <translation>Va a la línea abierta anterior del patrón elegido</translation>
+        <translation>Va a la fila abierta anterior del patrón elegido</translation>
     </message>
     <message>
         <source>Nächstes Mus&amp;ter</source>
@@ -4145,11 +4145,11 @@ Línea: %2
     </message>
     <message>
         <source>&amp;Unsicherste zuerst</source>
-        <translation>Primero las &amp;más inciertas</translation>
+        <translation>Primero &amp;las más inciertas</translation>
     </message>
     <message>
         <source>Offene Zeilen kommen nach der Gefahr eines Irrtums statt nach ihrem Ort</source>
-        <translation>Las líneas abiertas vienen por el riesgo de error y no por su lugar</translation>
+        <translation>Las filas abiertas vienen por el riesgo de error y no por su lugar</translation>
     </message>
     <message>
         <source>Na&amp;chbarschaft</source>
@@ -4157,11 +4157,11 @@ Línea: %2
     </message>
     <message>
         <source>Zeigt, wo Zuordnungen benachbarter Zeilen nicht zueinander passen</source>
-        <translation>Muestra dónde no concuerdan las asignaciones de líneas vecinas</translation>
+        <translation>Muestra dónde no concuerdan las asignaciones de filas vecinas</translation>
     </message>
     <message>
         <source>&amp;Zeilen zurechtrücken</source>
-        <translation>Rec&amp;olocar líneas</translation>
+        <translation>&amp;Recolocar filas</translation>
     </message>
     <message>
         <source>Behebt die gewählte Fundstelle der Nachbarschaft in einem Schritt</source>
@@ -4177,11 +4177,11 @@ Línea: %2
     </message>
     <message>
         <source>&amp;Stichprobe...</source>
-        <translation>Muest&amp;ra...</translation>
+        <translation>&amp;Muestra...</translation>
     </message>
     <message>
         <source>Zieht Zeilen des gewählten Musters oder der markierten Zeilen, die einzeln beurteilt werden</source>
-        <translation>Sortea líneas del patrón elegido o de las líneas seleccionadas para evaluarlas una a una</translation>
+        <translation>Sortea filas del patrón elegido o de las filas seleccionadas para evaluarlas una a una</translation>
     </message>
     <message>
         <source>Stichprobe: &amp;richtig</source>
@@ -4189,7 +4189,7 @@ Línea: %2
     </message>
     <message>
         <source>Die gezeigte Zeile der Stichprobe ist richtig zugeordnet</source>
-        <translation>La línea mostrada de la muestra está bien asignada</translation>
+        <translation>La fila mostrada de la muestra está bien asignada</translation>
     </message>
     <message>
         <source>Stichprobe: &amp;falsch</source>
@@ -4197,7 +4197,7 @@ Línea: %2
     </message>
     <message>
         <source>Die gezeigte Zeile der Stichprobe ist falsch zugeordnet; die Stichprobe endet</source>
-        <translation>La línea mostrada de la muestra está mal asignada; la muestra termina</translation>
+        <translation>La fila mostrada de la muestra está mal asignada; la muestra termina</translation>
     </message>
     <message>
         <source>Kandidat &amp;1</source>
@@ -4205,7 +4205,7 @@ Línea: %2
     </message>
     <message>
         <source>Ordnet der Zeile diesen Kandidaten zu und bestätigt ihn</source>
-        <translation>Asigna esta candidata a la línea y la confirma</translation>
+        <translation>Asigna esta candidata a la fila y la confirma</translation>
     </message>
     <message>
         <source>Kandidat &amp;2</source>
@@ -4225,19 +4225,19 @@ Línea: %2
     </message>
     <message>
         <source>Wertebereich der Zeile</source>
-        <translation>Rango de valores de la línea</translation>
+        <translation>Rango de valores de la fila</translation>
     </message>
     <message>
         <source>Zeigt, welche Werte des alten Bereichs neue Zeilen haben</source>
-        <translation>Muestra qué valores del rango antiguo tienen líneas nuevas</translation>
+        <translation>Muestra qué valores del rango antiguo tienen filas nuevas</translation>
     </message>
     <message>
         <source>&amp;Konflikte</source>
-        <translation>Con&amp;flictos</translation>
+        <translation>C&amp;onflictos</translation>
     </message>
     <message>
         <source>Zeigt die Zeilen, die zwei Seiten verschieden entschieden haben</source>
-        <translation>Muestra las líneas que dos partes decidieron de forma distinta</translation>
+        <translation>Muestra las filas que dos partes decidieron de forma distinta</translation>
     </message>
     <message>
         <source>Nächster offener Konflikt</source>
@@ -4245,7 +4245,7 @@ Línea: %2
     </message>
     <message>
         <source>Geht zur nächsten Zeile, deren Konflikt noch offen ist</source>
-        <translation>Va a la siguiente línea cuyo conflicto sigue pendiente</translation>
+        <translation>Va a la siguiente fila cuyo conflicto sigue pendiente</translation>
     </message>
     <message>
         <source>Konflikt: eigene Entscheidung</source>
@@ -4269,7 +4269,7 @@ Línea: %2
     </message>
     <message>
         <source>Keine der Entscheidungen gilt; die Zeile ist wieder ohne Ziel</source>
-        <translation>No vale ninguna de las decisiones; la línea queda de nuevo sin destino</translation>
+        <translation>No vale ninguna de las decisiones; la fila queda de nuevo sin destino</translation>
     </message>
     <message>
         <source>Baut die Anzeige neu auf: Baum, Statistik, Tabellen von der Platte</source>
@@ -4297,7 +4297,7 @@ Línea: %2
     </message>
     <message>
         <source>Zeigt den Hinweis dort, wo die Tasten hingehen: in einer Tabelle, warum die Zeile ihren Zustand hat</source>
-        <translation>Muestra la indicación allí adonde van las teclas: en una tabla, por qué la línea tiene su estado</translation>
+        <translation>Muestra la indicación allí adonde van las teclas: en una tabla, por qué la fila tiene su estado</translation>
     </message>
     <message>
         <source>&amp;Rundgang</source>

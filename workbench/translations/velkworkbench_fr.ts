@@ -17,8 +17,8 @@
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Confirmer %n ligne comme supprimée du programme ?</numerusform>
-            <numerusform>Confirmer %n lignes comme supprimées du programme ?</numerusform>
+            <numerusform>Confirmer %n ligne comme retirée du catalogue ?</numerusform>
+            <numerusform>Confirmer %n lignes comme retirées du catalogue ?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -31,8 +31,8 @@
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Annuler l&apos;affectation de %n ligne et la confirmer comme supprimée du programme ?</numerusform>
-            <numerusform>Annuler l&apos;affectation de %n lignes et les confirmer comme supprimées du programme ?</numerusform>
+            <numerusform>Annuler l&apos;affectation de %n ligne et la confirmer comme retirée du catalogue ?</numerusform>
+            <numerusform>Annuler l&apos;affectation de %n lignes et les confirmer comme retirées du catalogue ?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -87,8 +87,8 @@
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n ligne confirmée comme supprimée du programme.</numerusform>
-            <numerusform>%n lignes confirmées comme supprimées du programme.</numerusform>
+            <numerusform>%n ligne confirmée comme retirée du catalogue.</numerusform>
+            <numerusform>%n lignes confirmées comme retirées du catalogue.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -101,8 +101,8 @@
     <message numerus="yes">
         <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Affectation de %n ligne annulée, confirmée comme supprimée du programme.</numerusform>
-            <numerusform>Affectation de %n lignes annulée, confirmées comme supprimées du programme.</numerusform>
+            <numerusform>Affectation de %n ligne annulée, confirmée comme retirée du catalogue.</numerusform>
+            <numerusform>Affectation de %n lignes annulée, confirmées comme retirées du catalogue.</numerusform>
         </translation>
     </message>
 </context>
@@ -321,7 +321,7 @@ L&apos;autre : %2</translation>
     </message>
     <message>
         <source>als ausgelaufen bestätigt</source>
-        <translation>confirmée comme supprimée du programme</translation>
+        <translation>confirmée comme retirée du catalogue</translation>
     </message>
     <message>
         <source>nicht bekannt</source>
@@ -955,7 +955,7 @@ Choisissez un autre fichier.</translation>
     </message>
     <message>
         <source>Zuordnung aufheben und als ausgelaufen bestätigen</source>
-        <translation>Annuler l&apos;affectation et confirmer comme supprimée du programme</translation>
+        <translation>Annuler l&apos;affectation et confirmer comme retirée du catalogue</translation>
     </message>
     <message>
         <source>Wertebereichszuordnung bearbeiten</source>
@@ -1089,7 +1089,7 @@ Choisissez un autre fichier.</translation>
     </message>
     <message>
         <source>Ausgelaufen: bestätigt, dass es keine Zuordnung gibt</source>
-        <translation>Supprimée du programme : il est confirmé qu&apos;il n&apos;y a pas d&apos;affectation</translation>
+        <translation>Retirée du catalogue : il est confirmé qu&apos;il n&apos;y a pas d&apos;affectation</translation>
     </message>
     <message>
         <source>Konflikt mit der Änderung eines anderen</source>
@@ -1250,11 +1250,11 @@ Choisissez un autre fichier.</translation>
     </message>
     <message>
         <source>Ausgelaufen</source>
-        <translation>Supprimée du programme</translation>
+        <translation>Retirée du catalogue</translation>
     </message>
     <message>
         <source>Nur Zeilen zeigen, die als ausgelaufen bestätigt sind, und ihre Projekte</source>
-        <translation>Afficher seulement les lignes confirmées comme supprimées du programme, et leurs projets</translation>
+        <translation>Afficher seulement les lignes confirmées comme retirées du catalogue, et leurs projets</translation>
     </message>
 </context>
 <context>
@@ -1488,11 +1488,11 @@ Choisissez un autre fichier.</translation>
     </message>
     <message>
         <source>Zeile ausgelaufen oder nicht da</source>
-        <translation>Ligne supprimée du programme ou absente</translation>
+        <translation>Ligne retirée du catalogue ou absente</translation>
     </message>
     <message>
         <source>als ausgelaufen bestätigt</source>
-        <translation>confirmée comme supprimée du programme</translation>
+        <translation>confirmée comme retirée du catalogue</translation>
     </message>
     <message>
         <source>das Projekt hat sie nicht</source>
@@ -1689,7 +1689,7 @@ Choisissez un autre fichier.</translation>
     </message>
     <message>
         <source>Links die alte Tabelle, rechts die neue. %1 bestätigt die Zuordnung oder ordnet die rechts gewählte Zeile zu, %2 hebt auf, %3 bestätigt, dass die Zeile ausgelaufen ist.</source>
-        <translation>À gauche l&apos;ancienne table, à droite la nouvelle. %1 confirme l&apos;affectation ou affecte la ligne choisie à droite, %2 l&apos;annule, %3 confirme que la ligne est supprimée du programme.</translation>
+        <translation>À gauche l&apos;ancienne table, à droite la nouvelle. %1 confirme l&apos;affectation ou affecte la ligne choisie à droite, %2 l&apos;annule, %3 confirme que la ligne est retirée du catalogue.</translation>
     </message>
     <message>
         <source>Was noch offen ist</source>
@@ -2765,7 +2765,7 @@ Ligne : %2
     </message>
     <message>
         <source>Als ausgelaufen bestätigt</source>
-        <translation>Confirmées comme supprimées du programme</translation>
+        <translation>Confirmées comme retirées du catalogue</translation>
     </message>
     <message>
         <source>Sicher zugeordnet</source>
@@ -3597,8 +3597,8 @@ Ligne : %2
     <message numerus="yes">
         <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n ligne dans %1 était confirmée comme supprimée du programme et ne l&apos;est plus : %2</numerusform>
-            <numerusform>%n lignes dans %1 étaient confirmées comme supprimées du programme et ne le sont plus : %2</numerusform>
+            <numerusform>%n ligne dans %1 était confirmée comme retirée du catalogue et ne l&apos;est plus : %2</numerusform>
+            <numerusform>%n lignes dans %1 étaient confirmées comme retirées du catalogue et ne le sont plus : %2</numerusform>
         </translation>
     </message>
     <message>
@@ -3647,8 +3647,8 @@ Ligne : %2
     <message numerus="yes">
         <source>%n Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n ligne confirmée comme supprimée du programme</numerusform>
-            <numerusform>%n lignes confirmées comme supprimées du programme</numerusform>
+            <numerusform>%n ligne confirmée comme retirée du catalogue</numerusform>
+            <numerusform>%n lignes confirmées comme retirées du catalogue</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3700,11 +3700,11 @@ Ligne : %2
     </message>
     <message>
         <source>Zeile %1 als ausgelaufen bestätigt (vorher %2)</source>
-        <translation>ligne %1 confirmée comme supprimée du programme (auparavant %2)</translation>
+        <translation>ligne %1 confirmée comme retirée du catalogue (auparavant %2)</translation>
     </message>
     <message>
         <source>Zeile %1 als ausgelaufen bestätigt</source>
-        <translation>ligne %1 confirmée comme supprimée du programme</translation>
+        <translation>ligne %1 confirmée comme retirée du catalogue</translation>
     </message>
     <message>
         <source>Zuordnung von Zeile %1 aufgehoben (vorher %2)</source>
@@ -3993,11 +3993,11 @@ Ligne : %2
     </message>
     <message>
         <source>Zeilen ohne Ziel als aus&amp;gelaufen bestätigen...</source>
-        <translation>Confirmer les lignes sans cible comme supprimées du &amp;programme...</translation>
+        <translation>Confirmer les lignes sans cible comme retirées &amp;du catalogue...</translation>
     </message>
     <message>
         <source>Bestätigt von den markierten oder allen gezeigten Zeilen die ohne Ziel als ausgelaufen</source>
-        <translation>Parmi les lignes sélectionnées ou toutes celles affichées, confirme celles sans cible comme supprimées du programme</translation>
+        <translation>Parmi les lignes sélectionnées ou toutes celles affichées, confirme celles sans cible comme retirées du catalogue</translation>
     </message>
     <message>
         <source>Zuordnungen &amp;aufheben...</source>
@@ -4013,7 +4013,7 @@ Ligne : %2
     </message>
     <message>
         <source>Die markierten oder alle gezeigten Zeilen sind ausgelaufen: hebt auf und bestätigt in einem Schritt</source>
-        <translation>Les lignes sélectionnées, ou toutes celles affichées, sont supprimées du programme : annule et confirme en une étape</translation>
+        <translation>Les lignes sélectionnées, ou toutes celles affichées, sont retirées du catalogue : annule et confirme en une étape</translation>
     </message>
     <message>
         <source>Alle Projekte &amp;zuordnen...</source>
@@ -4025,7 +4025,7 @@ Ligne : %2
     </message>
     <message>
         <source>Wertebereichszuordnungen &amp;prüfen</source>
-        <translation>Vérifier les affectations &amp;de plages de valeurs</translation>
+        <translation>Vérifier les affectations de &amp;plages de valeurs</translation>
     </message>
     <message>
         <source>Vergleicht alle Wertebereichstexte mit den Tabellen der Zielprojekte</source>
