@@ -22,9 +22,9 @@ void DesignationLabel::setComparison(Comparison comparison)
 
 QString DesignationLabel::shownText() const
 {
-    const QString plain = Qt::mightBeRichText(text())
-                              ? QTextDocumentFragment::fromHtml(text()).toPlainText()
-                              : text();
+    QString plain = Qt::mightBeRichText(text())
+                        ? QTextDocumentFragment::fromHtml(text()).toPlainText()
+                        : text();
     switch (m_comparison) {
     case Equal:
         return QStringLiteral("= ") + plain;
