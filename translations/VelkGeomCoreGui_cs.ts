@@ -100,6 +100,10 @@
         <translation>Filtr</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Zrušit ukotvení</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funkce</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Sloupec doprava</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Ukotvit sloupce až sem</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Ophæv fastgørelse</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funktioner</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Kolonne mod højre</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Fastgør kolonner hertil</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Fixierung aufheben</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funktionen</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Spalte nach rechts</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Spalten bis hier fixieren</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Unfreeze columns</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Functions</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Move column right</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Freeze columns up to here</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Filtro</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Quitar la fijación</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funciones</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Mover columna a la derecha</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Fijar columnas hasta aquí</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Suodatin</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Poista kiinnitys</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funktiot</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Siirrä saraketta oikealle</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Kiinnitä sarakkeet tähän asti</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

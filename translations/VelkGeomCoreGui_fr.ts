@@ -100,6 +100,10 @@
         <translation>Filtre</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Libérer les colonnes</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Fonctions</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Déplacer la colonne à droite</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Figer les colonnes jusqu’ici</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

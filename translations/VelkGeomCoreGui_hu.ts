@@ -100,6 +100,10 @@
         <translation>Szűrő</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Rögzítés feloldása</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Függvények</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Oszlop jobbra</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Oszlopok rögzítése idáig</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

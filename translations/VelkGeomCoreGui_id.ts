@@ -100,6 +100,10 @@
         <translation>Saringan</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Batalkan pembekuan</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Fungsi</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Kolom ke kanan</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Bekukan kolom sampai sini</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Filtro</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Sblocca le colonne</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funzioni</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Sposta colonna a destra</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Blocca le colonne fino a qui</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>フィルター</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>列の固定を解除</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>関数</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>列を右へ</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>ここまでの列を固定</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>필터</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>열 고정 해제</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>함수</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>열을 오른쪽으로</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>여기까지 열 고정</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Opphev frysing</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funksjoner</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Kolonne mot høyre</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Frys kolonner hit</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

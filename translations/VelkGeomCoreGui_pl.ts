@@ -100,6 +100,10 @@
         <translation>Filtr</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Odblokuj kolumny</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funkcje</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Kolumna w prawo</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Zablokuj kolumny do tego miejsca</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

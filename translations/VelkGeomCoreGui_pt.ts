@@ -100,6 +100,10 @@
         <translation>Filtro</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Liberar colunas</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funções</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Mover coluna para a direita</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Fixar colunas até aqui</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Фильтр</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Снять закрепление</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Функции</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Столбец вправо</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Закрепить столбцы до этого места</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

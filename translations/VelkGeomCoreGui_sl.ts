@@ -100,6 +100,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Odmrzni stolpce</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funkcije</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Stolpec v desno</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Zamrzni stolpce do sem</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Lås upp kolumner</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>Funktioner</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Kolumn åt höger</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Lås kolumner hit</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>Süzgeç</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>Dondurmayı kaldır</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>İşlevler</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>Sütunu sağa taşı</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>Sütunları buraya kadar dondur</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -100,6 +100,10 @@
         <translation>筛选</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>取消冻结</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>函数</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>列右移</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>冻结到此列</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

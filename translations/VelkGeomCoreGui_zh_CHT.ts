@@ -100,6 +100,10 @@
         <translation>篩選</translation>
     </message>
     <message>
+        <source>Fixierung aufheben</source>
+        <translation>取消凍結</translation>
+    </message>
+    <message>
         <source>Funktionen</source>
         <translation>函數</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Spalte nach rechts</source>
         <translation>欄右移</translation>
+    </message>
+    <message>
+        <source>Spalten bis hier fixieren</source>
+        <translation>凍結到此欄</translation>
     </message>
     <message>
         <source>Spaltenbreiten anpassen</source>

@@ -5,6 +5,7 @@
 #include <gui/application/PApplication.h>
 
 #include <QDialogButtonBox>
+#include <QItemSelectionModel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -26,6 +27,12 @@ TableLineSelectionDialog::TableLineSelectionDialog(const VKTab::ContentRef &tabl
         buttonBox->button(QDialogButtonBox::Ok)->setEnabled(VKTab::LineId(line).isValid());
         return 0;
     });
+    // A hit of the search selects a line without a click.
+    connect(tableView->grid()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] {
+                if (content.getSelection().isValid())
+                    buttonBox->button(QDialogButtonBox::Ok)->setEnabled(true);
+            });
     tableView->setHeaderVisible(false);
     buttonBox->button(QDialogButtonBox::Ok)->setEnabled(false);
     connect(buttonBox, SIGNAL(accepted()), this, SLOT(accept()));

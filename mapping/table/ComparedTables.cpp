@@ -23,14 +23,22 @@ QModelIndex cellOf(const VkTableView &view, const VKTab::LineId &line, const QSt
     return row < 0 || column < 0 ? QModelIndex() : view.model()->index(row, column);
 }
 
-/// The first column of a variable that begins in sight.
-QString firstVariable(const VkTableView &view)
+bool isFrozen(const VkTableView &view, const QString &variable)
+{
+    const VKTab::Var var = view.getTable().getVar(variable);
+    return var.isValid() && view.isFrozen(view.model()->columnOf(var.getVarId()));
+}
+
+/// The first column of a variable that begins in sight, among those that scroll in both.
+QString firstVariable(const VkTableView &view, const VkTableView &other)
 {
     const VkTableModel &model = *view.model();
     for (int column = model.statusColumnCount(); column < model.columnCount(); ++column) {
         const QRect area = view.grid()->visualRect(model.index(0, column));
-        if (area.isValid() && area.left() >= 0)
-            return model.variable(column).getName();
+        const QString name = model.variable(column).getName();
+        if (area.isValid() && area.left() >= view.frozenWidth() && !isFrozen(view, name) &&
+            !isFrozen(other, name))
+            return name;
     }
     return {};
 }
@@ -57,6 +65,9 @@ ComparedTables::ComparedTables(VkTableView *source, VkTableView *target, QObject
 void ComparedTables::setOn(bool on)
 {
     m_isOn = on;
+    // What tells a line from others stays in sight.
+    m_source->setFreezesFirst(on);
+    m_target->setFreezesFirst(on);
     if (!on)
         clear();
 }
@@ -149,7 +160,7 @@ void ComparedTables::followSideways(VkTableView *moved, VkTableView *other)
 {
     if (!m_isOn || m_follows || !m_targetLine.isValid())
         return;
-    const QString name = firstVariable(*moved);
+    const QString name = firstVariable(*moved, *other);
     const QModelIndex from = cellOf(*moved, moved == m_source ? m_sourceLine : m_targetLine, name);
     const QModelIndex to = cellOf(*other, other == m_source ? m_sourceLine : m_targetLine, name);
     if (!from.isValid() || !to.isValid())

@@ -16,6 +16,9 @@
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/application/PApplication.h>
 
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <functional>
@@ -32,6 +35,7 @@ private Q_SLOTS:
     void placeIsKept_data();
     void placeIsKept();
     void tableWithoutTopology();
+    void aHitOfTheSearchCanBeTaken();
     void worksByKeyboardAndScreenReader_data();
     void worksByKeyboardAndScreenReader();
 };
@@ -76,6 +80,25 @@ void tst_EditorDialogs::tableWithoutTopology()
     QVERIFY(!view->isHeaderVisible());
     QVERIFY(view->model()->columnOf(table.getVar(u"k").getVarId()) >= 0);
     QCOMPARE(view->model()->columnOf(table.getVar(u"T").getVarId()), -1);
+}
+
+void tst_EditorDialogs::aHitOfTheSearchCanBeTaken()
+{
+    const TestCatalog catalog;
+    catalog.write("new/a.prj", "k:n,T\n5,left\n6,right\n");
+    TableLineSelectionDialog dialog(catalog.read("new/a.prj"), nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    const auto *const ok = dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+    QVERIFY(!ok->isEnabled());
+    auto *const view = dialog.findChild<VkTableView *>();
+    QTest::keyClick(view->grid(), Qt::Key_F, Qt::ControlModifier);
+    auto *const field = view->findChild<QWidget *>("findBar")->findChild<QLineEdit *>();
+    QTest::keyClicks(field, "right");
+    QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(ok->isEnabled());
+    dialog.accept();
+    QCOMPARE(dialog.selectedLine().value(0), 2);
 }
 
 void tst_EditorDialogs::worksByKeyboardAndScreenReader_data()

@@ -3,6 +3,7 @@
 
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/ReleaseChanges.h>
+#include <workbench/session/UndoHistory.h>
 
 #include <mapping/data/CatalogMappingHandlerI.h>
 
@@ -41,7 +42,7 @@ private Q_SLOTS:
     void explicitStepsBeginAnew();
     void undoAndRedo();
     void undoForgetsWhatWasUndoneAtTheNextChange();
-    void undoLimit();
+    void oldStepsKeepOnlyWhatTheyChanged();
     void undoReachesTheSavedState();
     void nothingChangedIsNoStep();
     void changesThatCancelOutAreNoStep();
@@ -187,17 +188,23 @@ void tst_MappingDocumentSteps::undoForgetsWhatWasUndoneAtTheNextChange()
     QCOMPARE(m_document->undoTexts().size(), 1);
 }
 
-void tst_MappingDocumentSteps::undoLimit()
+void tst_MappingDocumentSteps::oldStepsKeepOnlyWhatTheyChanged()
 {
     open();
-    m_document->setUndoLimit(2);
+    const QByteArray before = SessionFixture::bytes(m_document->release());
+    m_document->setKeptStates(2);
     for (int line = 1; line <= 4; ++line)
         change(SessionFixture::withState(m_document->mapping(id(Path)), {line}, 2));
-    QCOMPARE(m_document->undoTexts().size(), 2);
-    m_document->undo();
-    m_document->undo();
-    QCOMPARE(m_document->counts().verified(), 2);
-    QVERIFY(m_document->isModified()); // what was opened cannot be reached any more
+    QVERIFY(m_document->steps().at(1).changes.isEmpty());
+    QVERIFY(!m_document->steps().at(2).changes.isEmpty());
+    const QByteArray after = SessionFixture::bytes(m_document->release());
+    while (m_document->canUndo())
+        m_document->undo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), before);
+    QVERIFY(!m_document->isModified());
+    while (m_document->canRedo())
+        m_document->redo();
+    QCOMPARE(SessionFixture::bytes(m_document->release()), after);
 }
 
 void tst_MappingDocumentSteps::undoReachesTheSavedState()

@@ -70,7 +70,6 @@ private Q_SLOTS:
     void cutNesting();
     void theGivenTextCounts();
     void marksAreNoStep();
-    void marksReachWhatUndoRemembers();
     void marksBesideAChangeAreAStep();
     void changesAtTheCallersWordAreNoStep();
     void aReleaseIsReplaced();
@@ -258,20 +257,6 @@ void tst_StepRecorder::marksAreNoStep()
     QVERIFY(!m_steps->history().isClean());
     QVERIFY(m_steps->closeJournal(true));
     QCOMPARE(records(), QStringLiteral("change 1"));
-}
-
-void tst_StepRecorder::marksReachWhatUndoRemembers()
-{
-    const PrjMappingC before = project("a.prj");
-    const PrjMappingC after = project("a.prj", {1});
-    m_steps->note(before, after, true);
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).kind, Kind::Step);
-    m_steps->note(after, marked(after, 3), true);
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).kind, Kind::ConflictsMarked);
-    const UndoStep &step = m_steps->history().undoStep();
-    QVERIFY(step.changes.first().before.findTarget(0).getLineConflicted(3));
-    QVERIFY(step.changes.first().after.findTarget(0).getLineConflicted(3));
-    QVERIFY(!step.changes.first().before.findTarget(0).getLineConflicted(1));
 }
 
 void tst_StepRecorder::marksBesideAChangeAreAStep()

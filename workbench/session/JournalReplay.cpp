@@ -16,18 +16,6 @@ bool applyRow(ReleaseMappingC &release, const QByteArray &row)
     return change && applyChange(release, *change);
 }
 
-QList<AgreedReplacement> replacementsOf(const PJsonValue &list)
-{
-    QList<AgreedReplacement> replacements;
-    for (int i = 0; i < list.size(); ++i) {
-        const PJsonValue row = list.at(i);
-        if (row.size() == 6)
-            replacements.append({row.at(0).toText(), row.at(1).toText(), row.at(2).toText(),
-                                 row.at(3).toText(), row.at(4).toText(), row.at(5).toText()});
-    }
-    return replacements;
-}
-
 int firstGap(const JournalReader::Session &session, int from)
 {
     const auto gap = std::find_if(session.gaps.begin(), session.gaps.end(),
@@ -51,8 +39,8 @@ JournalReplay JournalReplay::run(const JournalReader::Session &session, const Re
             result.release.setTargetDate(
                 JournalReader::parse(row).value(QStringLiteral("after")).toText());
         if (JournalReader::isKind(row, "replacements"))
-            result.release.setReplacements(
-                replacementsOf(JournalReader::parse(row).value(QStringLiteral("after"))));
+            result.release.setReplacements(JournalText::readReplacements(
+                JournalReader::parse(row).value(QStringLiteral("after"))));
         if (!JournalReader::isKind(row, "change"))
             continue;
         const bool fits = applyRow(result.release, row);

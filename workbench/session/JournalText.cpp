@@ -200,3 +200,28 @@ std::optional<MappingDifference> JournalText::readChange(const PJsonValue &recor
     }
     return result;
 }
+
+PJsonValue JournalText::writeReplacements(const QList<AgreedReplacement> &replacements)
+{
+    PJsonValue list(PJsonValue::Array);
+    for (const AgreedReplacement &agreed : replacements) {
+        PJsonValue row(PJsonValue::Array);
+        for (const QString &text : {agreed.folder, agreed.variable, agreed.before, agreed.after,
+                                    agreed.factor, agreed.offset})
+            row.append(PJsonValue(text));
+        list.append(row);
+    }
+    return list;
+}
+
+QList<AgreedReplacement> JournalText::readReplacements(const PJsonValue &list)
+{
+    QList<AgreedReplacement> replacements;
+    for (int i = 0; i < list.size(); ++i) {
+        const PJsonValue row = list.at(i);
+        if (row.size() == 6)
+            replacements.append({row.at(0).toText(), row.at(1).toText(), row.at(2).toText(),
+                                 row.at(3).toText(), row.at(4).toText(), row.at(5).toText()});
+    }
+    return replacements;
+}

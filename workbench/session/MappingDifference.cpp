@@ -1,6 +1,7 @@
 #include "MappingDifference.h"
 
 #include <algorithm>
+#include <utility>
 
 using TargetPair = MappingDifference::TargetPair;
 
@@ -163,4 +164,28 @@ std::optional<PrjMappingC> MappingDifference::applied(const PrjMappingC &before)
         return std::nullopt;
     after.setMappingState(stateAfter);
     return after;
+}
+
+MappingDifference MappingDifference::reversed() const
+{
+    MappingDifference result = *this;
+    std::swap(result.project.tabVersion, result.tabVersionAfter);
+    std::swap(result.validBefore, result.validAfter);
+    std::swap(result.stateBefore, result.stateAfter);
+    for (TargetPair &pair : result.targets) {
+        std::swap(pair.before, pair.after);
+        std::swap(pair.headBefore, pair.headAfter);
+        pair.stillIgnored.clear();
+        for (LineDifference &line : pair.lines) {
+            std::swap(line.inBefore, line.inAfter);
+            std::swap(line.before, line.after);
+        }
+    }
+    std::ranges::sort(result.targets, [](const TargetPair &a, const TargetPair &b) {
+        const bool isGone = a.after < 0;
+        if (isGone != (b.after < 0))
+            return !isGone;
+        return isGone ? a.before < b.before : a.after < b.after;
+    });
+    return result;
 }

@@ -41,6 +41,9 @@ public:
     /// was taken from, as far as it touches it.
     [[nodiscard]] std::optional<PrjMappingC> applied(const PrjMappingC &before) const;
 
+    /// What makes the earlier state of the later one.
+    [[nodiscard]] MappingDifference reversed() const;
+
     /// Of the mapping before; table version of the mapping after in `tabVersionAfter`.
     ProjectId project;
     QString tabVersionAfter;

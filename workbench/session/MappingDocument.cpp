@@ -9,6 +9,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 MappingDocument::MappingDocument(QSettings *settings, QObject *parent)
     : QObject(parent)
     , d(new MappingDocumentPrivate(this, settings))
@@ -241,10 +243,34 @@ QStringList MappingDocument::undoTexts() const
     return d->steps.history().texts();
 }
 
-void MappingDocument::setUndoLimit(int steps)
+void MappingDocument::setKeptStates(int steps)
 {
-    d->steps.history().setLimit(steps);
-    Q_EMIT undoChanged();
+    d->steps.history().setKeptStates(steps);
+}
+
+const UndoHistory &MappingDocument::steps() const
+{
+    return d->steps.history();
+}
+
+StepPlan MappingDocument::planStep(int index) const
+{
+    return d->plan({index});
+}
+
+StepPlan MappingDocument::planUndoTo(int index) const
+{
+    QList<int> all = d->steps.history().appliedAfter(index);
+    std::ranges::reverse(all);
+    return d->plan(all << index);
+}
+
+bool MappingDocument::moveSteps(const StepPlan &plan)
+{
+    if (!plan.fits || d->steps.isNested() || !d->isEditable())
+        return false;
+    d->finishStep();
+    return std::ranges::all_of(plan.steps, [this](int index) { return d->moveStep(index); });
 }
 
 bool MappingDocument::isModified() const

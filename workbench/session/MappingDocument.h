@@ -18,6 +18,19 @@ class CatalogMappingHandlerI;
 class PJsonValue;
 class MappingDocumentPrivate;
 class QSettings;
+class UndoHistory;
+
+/// How a step is taken back, or taken again.
+struct StepPlan
+{
+    bool fits = false;
+    /// In the order in which they have to be moved, the step itself last: taking one back takes
+    /// those back before that build on it, taking one again those again on which it builds.
+    QList<int> steps;
+    /// If it does not fit: steps that count and hold other values. None: what stands in the way was
+    /// changed by other means.
+    QList<int> inTheWay;
+};
 
 /// One release of a mapping file while it is being edited: working copy, undo stack, journal,
 /// autosave, lock, paths. Every change of a mapping comes in through updateMapping(), be it by the
@@ -149,8 +162,18 @@ public:
     [[nodiscard]] QString redoText() const;
     /// Oldest first.
     [[nodiscard]] QStringList undoTexts() const;
-    /// Steps beyond are forgotten, the oldest first; 1000 at first.
-    void setUndoLimit(int steps);
+    /// Of older steps only what they changed is kept, which is smaller and slower to undo; 1000 at
+    /// first.
+    void setKeptStates(int steps);
+    /// All steps that are known, those of former sessions and those that were taken back included.
+    [[nodiscard]] const UndoHistory &steps() const;
+    /// What taking a step back, or again, asks for.
+    [[nodiscard]] StepPlan planStep(int index) const;
+    /// The same of a step that counts and all that took effect later.
+    [[nodiscard]] StepPlan planUndoTo(int index) const;
+    /// Does what the plan says, one step after another. False, and nothing changed, if it does not
+    /// fit.
+    bool moveSteps(const StepPlan &plan);
 
     /// There is something to save.
     [[nodiscard]] bool isModified() const;

@@ -45,7 +45,7 @@ MergeOutcome MappingDocumentPrivate::mergeFile(const VelkRelease::MergeResult *k
     result.release = merged;
     file.setKnown(reading.content.state, *reading.release);
     mergeState = MergeState(result);
-    steps.history().clear();
+    steps.noteMerged();
     steps.noteSaved(reading.content.state.hash);
     outcome.merged = true;
     outcome.text = MergeState::text(result);

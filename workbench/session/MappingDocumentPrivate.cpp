@@ -1,6 +1,7 @@
 #include "MappingDocumentPrivate.h"
 
 #include "CatalogRootMemory.h"
+#include "PastSteps.h"
 #include "ReleaseChanges.h"
 
 #include <core/message/PMessage.h>
@@ -87,7 +88,7 @@ OpenResult MappingDocumentPrivate::openNew(const ReleaseMappingC &release, const
     const FileContent content = FileContent::of(canonical);
     const bool isTaken = DocumentFile::datesIn(content, nullptr).contains(release.getSourceDate());
     file.setKnown(isTaken ? FileState() : content.state, ReleaseMappingC());
-    const OpenResult result = begin(release, name);
+    const OpenResult result = begin(release, name, true);
     steps.history().markDirty();
     tellModified();
     autosave();
@@ -160,6 +161,7 @@ void MappingDocumentPrivate::pushRecovery(const SessionRecovery &recovery)
     step.lines = recovery.offer().changedLines;
     step.releaseBefore = recovery.savedRelease();
     step.releaseAfter = release();
+    steps.sign(step);
     if (recovery.offer().saved.available) {
         steps.journalRelease(recovery.savedRelease(), release());
         steps.history().push(step);
@@ -172,7 +174,8 @@ void MappingDocumentPrivate::pushRecovery(const SessionRecovery &recovery)
     autosave();
 }
 
-OpenResult MappingDocumentPrivate::begin(const ReleaseMappingC &release, const QString &name)
+OpenResult MappingDocumentPrivate::begin(const ReleaseMappingC &release, const QString &name,
+                                         bool isNew)
 {
     rootName = name.isEmpty()
                    ? QStringLiteral("%1 → %2").arg(release.getSourceDate(), release.getTargetDate())
@@ -183,8 +186,14 @@ OpenResult MappingDocumentPrivate::begin(const ReleaseMappingC &release, const Q
     steps.reset();
     isOpen = true;
     adoptRelease(release);
+    if (isEditable() && !isNew)
+        PastSteps::read(file.path(), release.getSourceDate(), steps.history());
+    steps.history().markClean();
+    passOvertaken();
     if (isEditable())
         beginJournal();
+    if (isNew)
+        steps.noteMade();
     startAutosave();
     Q_EMIT q->opened();
     for (const QString &text : {std::exchange(m_lostText, QString()), file.warning()}) {

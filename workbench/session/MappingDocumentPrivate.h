@@ -2,6 +2,7 @@
 
 #include "DocumentFile.h"
 #include "MappingDocument.h"
+#include "StepMove.h"
 #include "StepRecorder.h"
 
 #include <core/text/PPrivateData.h>
@@ -33,6 +34,9 @@ public:
     void replaceRelease(const ReleaseMappingC &release);
     void finishStep();
     void move(StepRecorder::Origin direction);
+    /// Takes the step back, or again; false, and nothing changed, if it does not fit.
+    bool moveStep(int index);
+    [[nodiscard]] StepPlan plan(const QList<int> &wanted) const;
     [[nodiscard]] bool isModified() const;
     void tellModified();
 
@@ -70,7 +74,8 @@ private:
                                                             const ReleaseMappingC &recovered,
                                                             const QString &name);
     void pushRecovery(const SessionRecovery &recovery);
-    MappingDocument::OpenResult begin(const ReleaseMappingC &release, const QString &name);
+    MappingDocument::OpenResult begin(const ReleaseMappingC &release, const QString &name,
+                                      bool isNew = false);
     void beginJournal();
     void tellJournal();
     void adoptRelease(const ReleaseMappingC &release);
@@ -79,7 +84,9 @@ private:
     [[nodiscard]] PrjMappingC find(const PrjMappingC &like) const;
     void store(const PrjMappingC &mapping, const PrjMappingC &before);
     void applyRelease(const ReleaseMappingC &release);
-    void applyChanges(const UndoStep &step, bool back);
+    void applyMove(const StepMove &move);
+    [[nodiscard]] bool planStep(int index, ReleaseMappingC &standing, StepPlan &plan) const;
+    void passOvertaken();
     void invalidateNodes(const QString &sourcePath) const;
     void tellMarks(const StepRecorder::Finished &done);
     void tellStep(const UndoStep &step);

@@ -1,7 +1,9 @@
 #include "MappingDocumentPrivate.h"
 
 #include "ReleaseChanges.h"
+#include "StepPlaces.h"
 
+#include <algorithm>
 #include <utility>
 
 using Origin = StepRecorder::Origin;
@@ -105,7 +107,7 @@ void MappingDocumentPrivate::finishStep()
 
 void MappingDocumentPrivate::tellMarks(const Finished &done)
 {
-    steps.journalStep(MappingDocument::tr("Konflikte markiert"), Origin::Edit);
+    steps.journalStep(MappingDocument::tr("Konflikte markiert"), Origin::Mark);
     for (const ProjectId &project : done.changed)
         Q_EMIT q->mappingChanged(project);
     Q_EMIT q->countsChanged();
@@ -125,60 +127,123 @@ void MappingDocumentPrivate::tellStep(const UndoStep &step)
 
 void MappingDocumentPrivate::move(Origin direction)
 {
-    const bool back = direction == Origin::Undo;
-    UndoHistory &history = steps.history();
     if (steps.isNested() || !isEditable())
         return;
     finishStep();
-    if (back ? !history.canUndo() : !history.canRedo())
+    const UndoHistory &history = steps.history();
+    const int index = direction == Origin::Undo ? history.nextUndo() : history.nextRedo();
+    if (index < 0)
         return;
-    const UndoStep step = back ? history.undoStep() : history.redoStep();
+    const StepPlan plan = this->plan({index});
+    if (plan.fits && plan.steps == QList<int>{index} && moveStep(index))
+        return;
+    Q_EMIT q->problemOccurred(
+        MappingDocument::tr("„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste "
+                            "der Schritte sagt, was entgegensteht.")
+            .arg(history.at(index).text));
+}
+
+bool MappingDocumentPrivate::moveStep(int index)
+{
+    UndoHistory &history = steps.history();
+    const UndoStep step = history.at(index);
+    const bool back = step.state == UndoStep::State::Applied;
+    const StepMove move(release(), step, back);
+    if (!move.fits())
+        return false;
     steps.beginMove();
-    if (step.releaseBefore) {
-        const ReleaseMappingC to = back ? *step.releaseBefore : *step.releaseAfter;
-        steps.journalRelease(release(), to);
-        applyRelease(to);
-    } else {
-        applyChanges(step, back);
-    }
+    applyMove(move);
     if (back)
-        history.stepBack();
+        history.noteUndone(index);
     else
-        history.stepForward();
+        history.noteRedone(index);
+    passOvertaken();
     UndoStep told = step;
+    told.changes = move.changes();
     told.text =
         (back ? MappingDocument::tr("Rückgängig: %1") : MappingDocument::tr("Wiederholt: %1"))
             .arg(step.text);
-    steps.journalStep(told.text, direction);
+    told.lines = qMax(step.lines, 0);
+    steps.journalStep(told.text, back ? Origin::Undo : Origin::Redo, step.key);
     tellStep(told);
-    for (const MappingChangePair &change : step.changes)
+    for (const MappingChangePair &change : std::as_const(told.changes))
         Q_EMIT q->reselectRequested(
             ProjectId::of(change.after.isValid() ? change.after : change.before));
+    return true;
 }
 
 /// Writes the older or newer records back. A record that came or went, or whose table version
-/// changed, cannot be replaced in place: then the release is made anew without it first.
-void MappingDocumentPrivate::applyChanges(const UndoStep &step, bool back)
+/// changed, cannot be replaced in place: then the release is another one.
+void MappingDocumentPrivate::applyMove(const StepMove &move)
 {
-    bool replaced = false;
-    for (const MappingChangePair &change : step.changes) {
-        const PrjMappingC &from = back ? change.after : change.before;
-        const PrjMappingC &to = back ? change.before : change.after;
-        steps.journalDifference(from, to);
-        if (from.isValid() && to.isValid() && from.getTabVersion() == to.getTabVersion()) {
-            store(to, from);
-            invalidateNodes(to.getSourcePath());
-            continue;
-        }
-        ReleaseMappingC changed =
-            from.isValid() ? withoutMapping(release(), ProjectId::of(from)) : release();
-        if (to.isValid())
-            changed.addMapping(to);
-        adoptRelease(changed);
-        replaced = true;
+    if (move.changesRelease()) {
+        steps.journalRelease(release(), move.result());
+        applyRelease(move.result());
+        return;
     }
-    if (replaced)
-        Q_EMIT q->releaseReplaced();
+    for (const MappingChangePair &change : move.changes()) {
+        steps.journalDifference(change.before, change.after);
+        store(change.after, change.before);
+        invalidateNodes(change.after.getSourcePath());
+    }
+}
+
+/// Undo leads to no step of a former session whose work was replaced by other means since.
+void MappingDocumentPrivate::passOvertaken()
+{
+    UndoHistory &history = steps.history();
+    for (int next = history.nextUndo(); next >= 0; next = history.nextUndo()) {
+        const UndoStep &step = history.at(next);
+        if (step.rows.isEmpty() || StepMove(release(), step, true).fits())
+            return;
+        history.noteOvertaken(next);
+    }
+}
+
+StepPlan MappingDocumentPrivate::plan(const QList<int> &wanted) const
+{
+    StepPlan plan;
+    ReleaseMappingC standing = release();
+    plan.fits = std::ranges::all_of(wanted, [&](int index) {
+        return plan.steps.contains(index) || planStep(index, standing, plan);
+    });
+    return plan;
+}
+
+/// What stands in the way comes first, the latest before the others.
+bool MappingDocumentPrivate::planStep(int index, ReleaseMappingC &standing, StepPlan &plan) const
+{
+    const UndoHistory &history = steps.history();
+    const UndoStep &step = history.at(index);
+    const bool back = step.state == UndoStep::State::Applied;
+    const QList<int> others = back ? history.appliedAfter(index) : history.undoneBefore(index);
+    std::optional<StepPlaces> places;
+    if (back && !others.isEmpty())
+        places.emplace(step.allChanges());
+    for (;;) {
+        const StepMove move(standing, step, back);
+        const auto isInTheWay = [&](int other) {
+            if (plan.steps.contains(other))
+                return false;
+            const StepChanges changes = history.at(other).allChanges();
+            return (places && places->isTouchedBy(changes)) || move.isBlockedBy(changes);
+        };
+        const auto other = std::find_if(others.crbegin(), others.crend(), isInTheWay);
+        if (other == others.crend() && move.fits()) {
+            standing = move.result();
+            plan.steps.append(index);
+            return true;
+        }
+        if (other == others.crend()) {
+            for (int later = index + 1; later < history.count() && !back; ++later) {
+                if (history.at(later).state == UndoStep::State::Applied && isInTheWay(later))
+                    plan.inTheWay.append(later);
+            }
+            return false;
+        }
+        if (!planStep(*other, standing, plan))
+            return false;
+    }
 }
 
 void MappingDocumentPrivate::invalidateNodes(const QString &sourcePath) const

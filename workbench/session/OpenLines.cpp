@@ -5,6 +5,7 @@
 
 #include <geomcore/table/Content.h>
 #include <mapping/data/CatalogMappingHandlerI.h>
+#include <release/review/LineFilter.h>
 
 #include <algorithm>
 #include <array>
@@ -22,13 +23,7 @@ constexpr std::array SearchOrder{OpenLines::Conflict, OpenLines::ToCheck,   Open
 
 OpenLines::Kind kindOfEntry(int targetLine, PRJMAPPING::CheckState state, bool conflict)
 {
-    if (conflict)
-        return OpenLines::Conflict;
-    if (state == PRJMAPPING::Verified)
-        return targetLine == -1 ? OpenLines::Expired : OpenLines::Confirmed;
-    if (targetLine == -1)
-        return OpenLines::NotFound;
-    return state == PRJMAPPING::Mapped ? OpenLines::Proposed : OpenLines::ToCheck;
+    return OpenLines::Kind(1U << unsigned(VelkRelease::lineState(targetLine, state, conflict)));
 }
 
 OpenLines::Kind kindOfEntry(const LineTable::Iterator &entry)
@@ -234,6 +229,12 @@ OpenLines::Found OpenLines::previous(const LineRef &from, const Shown &shown,
                                      std::optional<Kind> among) const
 {
     return seek(from, shown, among, false);
+}
+
+ProjectId OpenLines::nextProject(const ProjectId &from, bool forward) const
+{
+    return order().next(from, forward,
+                        [this](const ProjectId &project) { return count(project) > 0; });
 }
 
 /// Behind a line of a kind: the rest of the kind, then the kinds that follow. From elsewhere: the

@@ -85,6 +85,9 @@ public:
     [[nodiscard]] Found previous(const LineRef &from) const { return previous(from, Shown()); }
     [[nodiscard]] Found previous(const LineRef &from, const Shown &shown,
                                  std::optional<Kind> among = {}) const;
+    /// The next project behind or before this one, in the order of the tree and round its end, that
+    /// has lines of these kinds; not valid if no other has.
+    [[nodiscard]] ProjectId nextProject(const ProjectId &from, bool forward) const;
     /// The kind of a line, the first one of several; nothing if no target has the line.
     [[nodiscard]] std::optional<Kind> kindOf(const LineRef &line) const;
 

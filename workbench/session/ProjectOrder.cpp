@@ -26,3 +26,16 @@ int ProjectOrder::positionOf(const ProjectId &project) const
 {
     return m_positions.value({project.path, project.version}, -1);
 }
+
+ProjectId ProjectOrder::next(const ProjectId &from, bool forward,
+                             const std::function<bool(const ProjectId &)> &isWanted) const
+{
+    const int known = positionOf(from);
+    const int start = known >= 0 ? known : forward ? -1 : size();
+    for (int step = 1; step <= size(); ++step) {
+        const int at = ((forward ? start + step : start - step) % size() + size()) % size();
+        if (at != known && isWanted(m_projects[at]))
+            return m_projects[at];
+    }
+    return {};
+}

@@ -1,5 +1,7 @@
 #include "StepRecorder.h"
 
+#include "JournalText.h"
+#include "PastSteps.h"
 #include "ReleaseChanges.h"
 #include "StepNotices.h"
 #include "StepSummary.h"
@@ -20,24 +22,12 @@ QString nameOf(StepRecorder::Origin origin)
         return QStringLiteral("undo");
     case StepRecorder::Origin::Redo:
         return QStringLiteral("redo");
+    case StepRecorder::Origin::Mark:
+        return QStringLiteral("mark");
     case StepRecorder::Origin::Recovery:
         break;
     }
     return QStringLiteral("recover");
-}
-
-/// A text row for each field of a replacement, in their order.
-PJsonValue toJson(const QList<AgreedReplacement> &replacements)
-{
-    PJsonValue list(PJsonValue::Array);
-    for (const AgreedReplacement &agreed : replacements) {
-        PJsonValue row(PJsonValue::Array);
-        for (const QString &text : {agreed.folder, agreed.variable, agreed.before, agreed.after,
-                                    agreed.factor, agreed.offset})
-            row.append(PJsonValue(text));
-        list.append(row);
-    }
-    return list;
 }
 
 } // namespace
@@ -66,8 +56,22 @@ void StepRecorder::writeOpening(const Opening &opening)
     opened[QStringLiteral("sourceDate")] = PJsonValue(opening.sourceDate);
     opened[QStringLiteral("targetDate")] = PJsonValue(opening.targetDate);
     opened[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(opening.fileHash));
+    m_opening = opened.toByteArray(true);
     m_journal.append(opened);
     m_journal.sync();
+}
+
+void StepRecorder::sign(UndoStep &step) const
+{
+    step.key = PastSteps::key(m_opening, m_step);
+    step.time = QDateTime::currentDateTimeUtc();
+    step.author = EditLock::self().user;
+}
+
+void StepRecorder::noteMerged()
+{
+    m_history.dropUnsaved();
+    m_journal.append(record("merged"));
 }
 
 bool StepRecorder::closeJournal(bool modified)
@@ -166,10 +170,9 @@ StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now, bool onl
     if (summarise(done, now, result) || onlyMarks) {
         result.kind = Finished::Kind::ConflictsMarked;
         m_history.markDirty();
-        for (const MappingChangePair &change : done.changes)
-            m_history.markConflicts(change.after);
     } else if (!result.step.changes.isEmpty() || result.step.releaseBefore) {
         result.kind = Finished::Kind::Step;
+        sign(result.step);
         journalStep(result.step.text, Origin::Edit);
         m_history.push(result.step);
     }
@@ -222,8 +225,8 @@ void StepRecorder::journalRelease(const ReleaseMappingC &before, const ReleaseMa
         m_journal.append(difference, m_step);
     if (before.getReplacements() != after.getReplacements()) {
         PJsonValue json = record("replacements");
-        json[QStringLiteral("before")] = toJson(before.getReplacements());
-        json[QStringLiteral("after")] = toJson(after.getReplacements());
+        json[QStringLiteral("before")] = JournalText::writeReplacements(before.getReplacements());
+        json[QStringLiteral("after")] = JournalText::writeReplacements(after.getReplacements());
         m_journal.append(json);
     }
     if (before.getTargetDate() == after.getTargetDate())
@@ -234,12 +237,14 @@ void StepRecorder::journalRelease(const ReleaseMappingC &before, const ReleaseMa
     m_journal.append(json);
 }
 
-void StepRecorder::journalStep(const QString &text, Origin origin)
+void StepRecorder::journalStep(const QString &text, Origin origin, const QString &of)
 {
     PJsonValue json = record("step");
     json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
     json[QStringLiteral("origin")] = PJsonValue(nameOf(origin));
     json[QStringLiteral("text")] = PJsonValue(text);
+    if (!of.isEmpty())
+        json[QStringLiteral("of")] = PJsonValue(of);
     m_journal.append(json);
     m_journal.flush();
 }

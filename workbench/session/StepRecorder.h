@@ -4,13 +4,13 @@
 #include "SessionTypes.h"
 #include "UndoHistory.h"
 
+#include <core/json/PJsonValue.h>
+
 #include <QHash>
 #include <QPair>
 #include <QSet>
 
 #include <optional>
-
-class PJsonValue;
 
 /// Gathers changes until a step is complete, writes them into the journal as they come, and keeps
 /// the steps for undo and redo. Knows nothing of handler, file or signals.
@@ -23,6 +23,7 @@ public:
         Undo,
         Redo,
         Recovery,
+        Mark, ///< conflicts were marked: no step of undo
     };
     /// What a session begins with.
     struct Opening
@@ -80,7 +81,15 @@ public:
     void beginMove() { ++m_step; }
     void journalDifference(const PrjMappingC &before, const PrjMappingC &after);
     void journalRelease(const ReleaseMappingC &before, const ReleaseMappingC &after);
-    void journalStep(const QString &text, Origin origin);
+    /// \a of: the key of the step that undo or redo is about.
+    void journalStep(const QString &text, Origin origin, const QString &of = QString());
+    /// The release was made anew: steps of former ones under this name do not count.
+    void noteMade() { m_journal.append(record("made")); }
+    /// The release was merged with what others saved: what was not saved here is not what the steps
+    /// say any more.
+    void noteMerged();
+    /// Fills in whose step it is and when: the one in the making.
+    void sign(UndoStep &step) const;
     /// Writes down what is no change of the release. \a record is an object; it gets kind and time.
     void journalNote(const char *kind, const PJsonValue &note);
 
@@ -111,6 +120,7 @@ private:
                                  Finished &result) const;
 
     JournalFile m_journal;
+    QByteArray m_opening; ///< record of this session
     UndoHistory m_history;
     Pending m_pending;
     int m_step = 0;

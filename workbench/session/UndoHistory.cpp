@@ -1,86 +1,125 @@
 #include "UndoHistory.h"
 
-namespace {
-
-QList<int> conflictedLines(const PrjMappingC &mapping)
-{
-    QList<int> lines;
-    for (int i = 0; i < mapping.countTargets(); ++i) {
-        if (mapping.targetAt(i).lineCounts().conflicts() == 0)
-            continue;
-        for (const LineTable::Iterator &line : mapping.targetAt(i).lines()) {
-            if (line.conflict())
-                lines += line.sourceLine();
-        }
-    }
-    return lines;
-}
-
-void mark(PrjMappingC &mapping, const PrjMappingC &like, const QList<int> &lines)
-{
-    if (mapping.getSourcePath() != like.getSourcePath() ||
-        mapping.getSourceVersion() != like.getSourceVersion())
-        return;
-    for (int i = 0; i < mapping.countTargets(); ++i) {
-        PrjMappingTargetC target = mapping.findTarget(i);
-        for (int line : lines)
-            target.setLineConflicted(line, true);
-        mapping.updateTarget(i, target);
-    }
-}
-
-} // namespace
+#include <algorithm>
 
 void UndoHistory::push(const UndoStep &step)
 {
-    if (m_clean > m_position)
-        m_clean = -1;
-    m_steps.resize(m_position);
+    m_undone.clear();
+    m_applied.append(count());
+    toggleUnsaved(count());
     m_steps.append(step);
-    ++m_position;
-    trim();
+    setKeptStates(int(m_keptStates));
+}
+
+void UndoHistory::addPast(const UndoStep &step)
+{
+    m_undone.clear();
+    m_applied.append(count());
+    m_steps.append(step);
+}
+
+int UndoHistory::find(const QString &key) const
+{
+    for (int index = count() - 1; index >= 0; --index) {
+        if (m_steps[index].key == key)
+            return index;
+    }
+    return -1;
+}
+
+int UndoHistory::nextUndo() const
+{
+    const auto own = std::find_if(m_applied.crbegin(), m_applied.crend(),
+                                  [this](int index) { return m_steps[index].isOwn; });
+    return own == m_applied.crend() ? -1 : *own;
+}
+
+void UndoHistory::noteUndone(int index)
+{
+    if (!m_applied.removeOne(index))
+        return;
+    m_steps[index].state = UndoStep::State::Undone;
+    m_undone.append(index);
+    toggleUnsaved(index);
+}
+
+void UndoHistory::noteRedone(int index)
+{
+    if (m_steps[index].state == UndoStep::State::Applied)
+        return;
+    m_steps[index].state = UndoStep::State::Applied;
+    m_undone.removeOne(index);
+    m_applied.append(index);
+    toggleUnsaved(index);
+}
+
+void UndoHistory::noteOvertaken(int index)
+{
+    m_steps[index].state = UndoStep::State::Overtaken;
+    m_applied.removeOne(index);
+    m_undone.removeOne(index);
+}
+
+QList<int> UndoHistory::appliedAfter(int index) const
+{
+    return m_applied.mid(m_applied.indexOf(index) + 1);
+}
+
+QList<int> UndoHistory::undoneBefore(int index) const
+{
+    QList<int> result;
+    for (int other = 0; other < index; ++other) {
+        if (m_steps[other].state == UndoStep::State::Undone)
+            result.append(other);
+    }
+    return result;
 }
 
 QStringList UndoHistory::texts() const
 {
     QStringList result;
-    for (qsizetype i = 0; i < m_position; ++i)
-        result += m_steps[i].text;
+    for (const int index : m_applied)
+        result += m_steps[index].text;
     return result;
 }
 
 void UndoHistory::clear()
 {
-    m_steps.clear();
-    m_position = 0;
-    m_clean = 0;
+    *this = UndoHistory();
 }
 
-void UndoHistory::setLimit(int steps)
+void UndoHistory::setKeptStates(int steps)
 {
-    m_limit = qMax(steps, 1);
-    trim();
+    m_keptStates = qMax(steps, 1);
+    for (; m_letGo < m_steps.size() - m_keptStates; ++m_letGo)
+        m_steps[m_letGo].letStatesGo();
 }
 
-void UndoHistory::trim()
+void UndoHistory::toggleUnsaved(int index)
 {
-    const qsizetype surplus = qMin(m_steps.size() - m_limit, m_position);
-    if (surplus <= 0)
-        return;
-    m_steps.remove(0, surplus);
-    m_position -= surplus;
-    m_clean = m_clean < surplus ? -1 : m_clean - surplus;
+    if (!m_unsaved.remove(index))
+        m_unsaved.insert(index);
 }
 
-void UndoHistory::markConflicts(const PrjMappingC &marked)
+void UndoHistory::markClean()
 {
-    const QList<int> lines = conflictedLines(marked);
-    if (lines.isEmpty())
-        return;
+    m_dirty = false;
+    m_unsaved.clear();
+    m_saved = {m_steps.size(), m_applied, m_undone};
+}
+
+void UndoHistory::dropUnsaved()
+{
+    m_steps.resize(m_saved.steps);
+    m_letGo = qMin(m_letGo, m_saved.steps);
+    m_applied = m_saved.applied;
+    m_undone = m_saved.undone;
     for (UndoStep &step : m_steps) {
-        for (MappingChangePair &change : step.changes) {
-            mark(change.before, marked, lines);
-            mark(change.after, marked, lines);
-        }
+        if (step.state != UndoStep::State::Overtaken)
+            step.state = UndoStep::State::Undone;
     }
+    for (const int index : std::as_const(m_applied))
+        m_steps[index].state = UndoStep::State::Applied;
+    m_unsaved.clear();
+    m_dirty = false;
 }

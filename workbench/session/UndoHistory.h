@@ -1,64 +1,78 @@
 #pragma once
 
-#include <geomcore/records/ReleaseMappingC.h>
+#include "UndoStep.h"
 
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
-#include <optional>
-
-/// A mapping before and after a step; not valid where the release did not know it.
-struct MappingChangePair
-{
-    PrjMappingC before;
-    PrjMappingC after;
-};
-
-/// One user action.
-struct UndoStep
-{
-    QString text;
-    int lines = 0;
-    QList<MappingChangePair> changes;
-    /// Set if the step replaced the whole release; then there are no changes.
-    std::optional<ReleaseMappingC> releaseBefore;
-    std::optional<ReleaseMappingC> releaseAfter;
-};
-
-/// Steps that can be undone and redone. The records share what they have in common, so a step
-/// costs what it changed.
+/// All steps, in the order in which they were made, those that were taken back included, and which
+/// of them count. None is ever forgotten: a new step after some that were taken back leaves these
+/// in the list, and only redo does not lead to them any more. The states of the last ones share
+/// what they have in common; of older ones only what changed is kept.
 class UndoHistory
 {
 public:
+    /// What was made just now.
     void push(const UndoStep &step);
-    [[nodiscard]] bool canUndo() const { return m_position > 0; }
-    [[nodiscard]] bool canRedo() const { return m_position < m_steps.size(); }
-    /// The step to be undone or redone next, and the move over it. There must be one.
-    [[nodiscard]] const UndoStep &undoStep() const { return m_steps[m_position - 1]; }
-    [[nodiscard]] const UndoStep &redoStep() const { return m_steps[m_position]; }
-    void stepBack() { --m_position; }
-    void stepForward() { ++m_position; }
-    /// Oldest first, without those that were undone.
+    /// A step of a former session, of which nothing is unsaved.
+    void addPast(const UndoStep &step);
+
+    [[nodiscard]] int count() const { return int(m_steps.size()); }
+    [[nodiscard]] const UndoStep &at(int index) const { return m_steps[index]; }
+    [[nodiscard]] int find(const QString &key) const;
+    /// Of a step of a former session.
+    void setLines(int index, int lines) { m_steps[index].lines = lines; }
+
+    /// The step to be undone or redone next, -1 if there is none. What others did is not undone by
+    /// this way, only when it is chosen.
+    [[nodiscard]] int nextUndo() const;
+    [[nodiscard]] int nextRedo() const { return m_undone.isEmpty() ? -1 : m_undone.last(); }
+    [[nodiscard]] bool canUndo() const { return nextUndo() >= 0; }
+    [[nodiscard]] bool canRedo() const { return nextRedo() >= 0; }
+    /// There must be one.
+    [[nodiscard]] const UndoStep &undoStep() const { return m_steps[nextUndo()]; }
+    [[nodiscard]] const UndoStep &redoStep() const { return m_steps[nextRedo()]; }
+    /// Any step was taken back or again.
+    void noteUndone(int index);
+    void noteRedone(int index);
+    void noteOvertaken(int index);
+    /// Steps that took effect later than this one, in that order.
+    [[nodiscard]] QList<int> appliedAfter(int index) const;
+    /// Steps that were made before this one and taken back, in the order in which they were made.
+    [[nodiscard]] QList<int> undoneBefore(int index) const;
+    /// In the order in which they took effect, without those that were taken back.
     [[nodiscard]] QStringList texts() const;
 
     void clear();
-    void setLimit(int steps);
+    /// So many steps keep their states.
+    void setKeptStates(int steps);
 
     /// What is now is what is in the file.
-    void markClean() { m_clean = m_position; }
+    void markClean();
     /// No way of undo leads to what is in the file.
-    void markDirty() { m_clean = -1; }
-    [[nodiscard]] bool isClean() const { return m_clean == m_position; }
-
-    /// Sets the conflict marks of lines in all remembered states of the mapping.
-    void markConflicts(const PrjMappingC &marked);
+    void markDirty() { m_dirty = true; }
+    [[nodiscard]] bool isClean() const { return !m_dirty && m_unsaved.isEmpty(); }
+    /// Goes back to what was when markClean() was called last, as at the end of a session that
+    /// discarded the rest: steps since are forgotten.
+    void dropUnsaved();
 
 private:
-    void trim();
+    struct Standing
+    {
+        qsizetype steps = 0;
+        QList<int> applied;
+        QList<int> undone;
+    };
+    void toggleUnsaved(int index);
 
     QList<UndoStep> m_steps;
-    qsizetype m_position = 0;
-    qsizetype m_clean = 0;
-    qsizetype m_limit = 1000;
+    QList<int> m_applied; ///< in the order in which they took effect
+    QList<int> m_undone;  ///< what redo leads to, the next one last
+    QSet<int> m_unsaved;  ///< whose effect differs from what is in the file
+    Standing m_saved;
+    bool m_dirty = false;
+    qsizetype m_keptStates = 1000;
+    qsizetype m_letGo = 0; ///< so many of the first steps have no states
 };

@@ -699,6 +699,144 @@ Zvolte jiný soubor.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Filtr je zrušen: projekt v něm nemá žádný řádek</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Dosaženo konce, pokračuje se od začátku</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Dosaženo začátku, pokračuje se od konce</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Ve filtru už není žádný řádek</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>nahrazený text</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>přepočtené číslo</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>blízké číslo</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>jiné číslo</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>jiné znění</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>jiný zápis</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Hodnota jen v novém</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Hodnota jen ve starém</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>nelze porovnat</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Stav</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Proč otevřené</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Druh rozdílu</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Rozdíl ve sloupci</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Naposledy rozhodl</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>nikdo</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(nic z toho)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>ne vybrané</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Čtou se tabulky...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n řádek</numerusform>
+            <numerusform>%n řádky</numerusform>
+            <numerusform>%n řádků</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>v %n projektu</numerusform>
+            <numerusform>ve %n projektech</numerusform>
+            <numerusform>v %n projektech</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Bez filtru: všechny řádky</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Nečitelné tabulky: %n</numerusform>
+            <numerusform>Nečitelné tabulky: %n</numerusform>
+            <numerusform>Nečitelné tabulky: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtr přes všechny řádky</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Hodnota</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Řádky</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>Zrušit &amp;filtr</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1226,6 +1364,10 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filtr: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Žádný jiný projekt takové řádky nemá</translation>
     </message>
 </context>
 <context>
@@ -1904,6 +2046,10 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Provedeno znovu: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>„%1“ už neodpovídá tomu, co se potom změnilo. Seznam kroků říká, co tomu brání.</translation>
     </message>
 </context>
 <context>
@@ -3618,6 +3764,19 @@ Projekt: %1
         <source>Schreibgeschützt</source>
         <translation>Jen pro čtení</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filtr: žádný řádek</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filtr: &lt;a href=&quot;next&quot;&gt;%1 řádků&lt;/a&gt; v %2 projektech</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Řádky, které ukazuje filtr přes všechny řádky</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3636,6 +3795,136 @@ Projekt: %1
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Chyby a varování: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Kroky</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Hledat kdo, co nebo řádky</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>Z&amp;pět až sem</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Vezme zpět tento a všechny pozdější platné kroky</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Na řá&amp;dek</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Zavřít</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Vzít zpět se závislými (%n)</numerusform>
+            <numerusform>&amp;Vzít zpět se závislými (%n)</numerusform>
+            <numerusform>&amp;Vzít zpět se závislými (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Vzít zpět jen tento</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Znovu provést s dřívějšími (%n)</numerusform>
+            <numerusform>&amp;Znovu provést s dřívějšími (%n)</numerusform>
+            <numerusform>&amp;Znovu provést s dřívějšími (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Znovu provést</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Zatím žádný krok</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Žádný jiný krok na něm nezávisí.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Krok lze samostatně znovu provést.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Na tom staví: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Staví na: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Brání tomu, protože rozhodly jinak: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Nyní je tam něco jiného, o čem nerozhodl žádný krok tohoto seznamu, například jiný program. Krokem už nelze pohnout.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>a další: %n</numerusform>
+            <numerusform>a další: %n</numerusform>
+            <numerusform>a další: %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 v %n projektu</numerusform>
+            <numerusform>%1 ve %n projektech</numerusform>
+            <numerusform>%1 v %n projektech</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>platí</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>vzato zpět</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>překonáno</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Stav k</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kdo</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Řádky</translation>
     </message>
 </context>
 <context>
@@ -4378,6 +4667,38 @@ Projekt: %1
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Verze a adresáře</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Kroky...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Vypíše všechny kroky, i z dřívějších relací, a jednotlivé vezme zpět</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Další projekt s otevřenými řádky</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Přejde na další projekt, kde je o čem rozhodnout</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Předchozí projekt s otevřenými řádky</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Přejde na předchozí projekt, kde je o čem rozhodnout</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtr přes všechny řádky</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Vybere řádky všech projektů podle stavu, důvodu, rozdílu a osoby; F8 jimi prochází</translation>
     </message>
 </context>
 </TS>

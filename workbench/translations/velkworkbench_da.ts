@@ -679,6 +679,141 @@ Vælg en anden fil.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Filteret er ophævet: projektet har ingen linje i det</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Slutningen er nået, fortsætter fra begyndelsen</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Begyndelsen er nået, fortsætter fra slutningen</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Der er ingen linje tilbage i filteret</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>erstattet tekst</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>omregnet tal</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>tal tæt på</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>andet tal</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>anden ordlyd</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>anden skrivemåde</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Værdi kun i ny</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Værdi kun i gammel</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>kan ikke sammenlignes</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Tilstand</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Hvorfor åben</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Forskellens art</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Forskel i kolonnen</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Sidst besluttet af</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>ingen</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(intet af dette)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>ikke de valgte</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Tabellerne læses...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n linje</numerusform>
+            <numerusform>%n linjer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %n projekter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Intet filter: alle linjer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Ulæselige tabeller: %n</numerusform>
+            <numerusform>Ulæselige tabeller: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter over alle linjer</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Værdi</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Linjer</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Ophæv filter</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Vælg en anden fil.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Intet andet projekt har sådanne linjer</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Vælg en anden fil.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Gentaget: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>“%1” passer ikke længere til det, der siden er ændret. Listen over trin siger, hvad der står i vejen.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Linje: %2
         <source>Schreibgeschützt</source>
         <translation>Skrivebeskyttet</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filter: ingen linje</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 linjer&lt;/a&gt; i %2 projekter</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Linjer, som filteret over alle linjer viser</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Linje: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Fejl og advarsler: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Trin</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Søg hvem, hvad eller linjer</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Tilbage hertil</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Tager dette og alle senere gældende trin tilbage</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Til l&amp;injen</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>Lu&amp;k</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Tag tilbage med afhængige (%n)</numerusform>
+            <numerusform>&amp;Tag tilbage med afhængige (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Tag kun dette tilbage</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Udfør igen med tidligere (%n)</numerusform>
+            <numerusform>&amp;Udfør igen med tidligere (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Udfør igen</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Intet trin endnu</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Intet andet trin afhænger af det.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Trinnet kan udføres igen for sig selv.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Bygger på det: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Det bygger på: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>I vejen, fordi de besluttede andet: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Der står nu noget andet, som intet trin på listen har besluttet, fx fra et andet program. Trinnet kan ikke længere flyttes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>og %n mere</numerusform>
+            <numerusform>og %n mere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 i %n projekt</numerusform>
+            <numerusform>%1 i %n projekter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>gælder</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>taget tilbage</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>overhalet</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Pr.</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Tid</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Hvem</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Hvad</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Linjer</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Linje: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Version og mapper</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Trin...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Viser alle trin, også fra tidligere sessioner, og tager enkelte tilbage</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Næste projekt med åbne linjer</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Går til det næste projekt, hvor noget skal besluttes</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Forrige projekt med åbne linjer</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Går til det forrige projekt, hvor noget skal besluttes</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter over alle linjer</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Vælger linjer i alle projekter efter tilstand, grund, forskel og person; F8 går gennem dem</translation>
     </message>
 </context>
 </TS>

@@ -160,6 +160,30 @@
     </message>
 </context>
 <context>
+    <name>FilterDock</name>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n Projekt</numerusform>
+            <numerusform>in %n Projekten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>%n Tabelle nicht lesbar</numerusform>
+            <numerusform>%n Tabellen nicht lesbar</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>HistoryCommands</name>
     <message numerus="yes">
         <source>%n Zeile(n) in %1</source>
@@ -402,6 +426,40 @@
         <translation>
             <numerusform>%n davon ist unsicher.</numerusform>
             <numerusform>%n davon sind unsicher.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>Mit %n abhängigen &amp;zurücknehmen</numerusform>
+            <numerusform>Mit %n abhängigen &amp;zurücknehmen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>Mit %n früheren &amp;wieder ausführen</numerusform>
+            <numerusform>Mit %n früheren &amp;wieder ausführen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 in %n Projekt</numerusform>
+            <numerusform>%1 in %n Projekten</numerusform>
         </translation>
     </message>
 </context>

@@ -679,6 +679,141 @@ Please choose another file.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>The filter is taken away: the project has no line in it</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Reached the end, going on from the top</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Reached the top, going on from the end</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>No line is left in the filter</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>replaced text</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>number converted</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>number close by</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>other number</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>other wording</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>other notation</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>value only new</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>value only old</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>cannot be compared</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Why open</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Kind of difference</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Difference in column</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Decided last by</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>nobody</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(none of these)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>not the chosen ones</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Reading the tables...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n project</numerusform>
+            <numerusform>in %n projects</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>No filter: all lines</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>%n table cannot be read</numerusform>
+            <numerusform>%n tables cannot be read</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter over All Lines</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Clear Filter</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Please choose another file.</translation>
     <message>
         <source>Keine Zeile ist in einem der gewählten Zustände</source>
         <translation>No line is in one of the chosen states</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>No other project has such lines</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Please choose another file.</translation>
             <numerusform>%n conflict: to be decided again</numerusform>
             <numerusform>%n conflicts: to be decided again</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>“%1” does not fit what was changed since. The list of steps tells what stands in the way.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Line: %2
         <source>rückgängig</source>
         <translation>undo</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filter: no line</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 lines&lt;/a&gt; in %2 projects</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Lines that the filter over all lines shows</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Line: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Errors and warnings: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Steps</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Search who, what or lines</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Back to here</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Takes back this step and all later ones that count</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>&amp;Go to Line</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Take Back with %n Dependent</numerusform>
+            <numerusform>&amp;Take Back with %n Dependents</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Take Back Only This One</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Do Again with %n Earlier One</numerusform>
+            <numerusform>&amp;Do Again with %n Earlier Ones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Do Again</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>No step yet</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>No other step depends on it.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>The step can be done again by itself.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>What builds on it: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>It builds on: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>In the way, because they decided otherwise: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Something else stands there now that no step of this list decided, such as another program&apos;s work. The step cannot be moved any more.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 in %n project</numerusform>
+            <numerusform>%1 in %n projects</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>counts</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>taken back</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>overtaken</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Who</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Lines</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Line: %2
     <message>
         <source>Öffnet das Handbuch an der Stelle, um die es geht</source>
         <translation>Opens the manual at the place for where you are</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>S&amp;teps...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Lists all steps, those of former sessions too, and takes any of them back</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter over All Lines</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Chooses lines of all projects by state, reason, difference and person; F8 walks them</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Next Project with Open Lines</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Goes to the next project in which something is to be decided</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Previous Project with Open Lines</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Goes to the previous project in which something is to be decided</translation>
     </message>
 </context>
 </TS>

@@ -679,6 +679,141 @@ Elija otro archivo.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>El filtro se ha quitado: el proyecto no tiene ninguna fila en él</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Se llegó al final, se sigue desde el principio</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Se llegó al principio, se sigue desde el final</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>No queda ninguna fila en el filtro</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>texto sustituido</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>número convertido</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>número cercano</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>otro número</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>otra redacción</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>otra grafía</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Valor solo en la nueva</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Valor solo en la antigua</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>no comparable</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Por qué está abierta</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Tipo de diferencia</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Diferencia en la columna</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Última decisión de</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>nadie</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(nada de esto)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>no los elegidos</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Leyendo las tablas...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n línea</numerusform>
+            <numerusform>%n líneas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>en %n proyecto</numerusform>
+            <numerusform>en %n proyectos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Sin filtro: todas las filas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Tablas ilegibles: %n</numerusform>
+            <numerusform>Tablas ilegibles: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtro sobre todas las filas</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Quitar filtro</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Elija otro archivo.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filtro: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Ningún otro proyecto tiene filas así</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Elija otro archivo.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Rehecho: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>«%1» ya no encaja con lo que se cambió después. La lista de pasos dice qué lo impide.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Fila: %2
         <source>Schreibgeschützt</source>
         <translation>Solo lectura</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filtro: ninguna fila</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filtro: &lt;a href=&quot;next&quot;&gt;%1 filas&lt;/a&gt; en %2 proyectos</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Filas que muestra el filtro sobre todas las filas</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Fila: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Errores y avisos: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Pasos</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Buscar quién, qué o filas</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Volver hasta aquí</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Deshace este paso y todos los posteriores vigentes</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Ir a la f&amp;ila</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Deshacer con los dependientes (%n)</numerusform>
+            <numerusform>&amp;Deshacer con los dependientes (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Deshacer solo este</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Rehacer con los anteriores (%n)</numerusform>
+            <numerusform>&amp;Rehacer con los anteriores (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Aún no hay pasos</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Ningún otro paso depende de él.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>El paso puede rehacerse por sí solo.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Se basan en él: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Se basa en: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Lo impiden, porque decidieron otra cosa: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Ahora hay algo distinto que ningún paso de esta lista decidió, por ejemplo de otro programa. El paso ya no puede moverse.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 en %n proyecto</numerusform>
+            <numerusform>%1 en %n proyectos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>vigente</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>deshecho</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>superado</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Quién</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Líneas</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Fila: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Versión y directorios</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>P&amp;asos...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Muestra todos los pasos, también de sesiones anteriores, y deshace cualquiera</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Siguiente proyecto con filas abiertas</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Va al siguiente proyecto en el que hay algo que decidir</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Proyecto anterior con filas abiertas</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Va al proyecto anterior en el que hay algo que decidir</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtro sobre todas las filas</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Elige filas de todos los proyectos por estado, motivo, diferencia y persona; F8 las recorre</translation>
     </message>
 </context>
 </TS>

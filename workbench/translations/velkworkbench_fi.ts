@@ -679,6 +679,141 @@ Valitse toinen tiedosto.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Suodatin on poistettu: projektilla ei ole siinä rivejä</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Loppu saavutettu, jatketaan alusta</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Alku saavutettu, jatketaan lopusta</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Suodattimessa ei ole enää rivejä</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>korvattu teksti</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>muunnettu luku</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>lähellä oleva luku</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>toinen luku</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>toinen sanamuoto</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>toinen kirjoitusasu</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Arvo vain uudessa</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Arvo vain vanhassa</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>ei vertailtavissa</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Tila</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Miksi avoin</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Eron laji</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Ero sarakkeessa</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Viimeksi päättänyt</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>ei kukaan</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(ei mitään näistä)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>ei valitut</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Tauluja luetaan...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n rivi</numerusform>
+            <numerusform>%n riviä</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projektissa</numerusform>
+            <numerusform>%n projektissa</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Ei suodatinta: kaikki rivit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Lukukelvottomia tauluja: %n</numerusform>
+            <numerusform>Lukukelvottomia tauluja: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Suodatin kaikille riveille</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Arvo</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Rivit</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Poista suodatin</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Suodatin: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Missään muussa projektissa ei ole tällaisia rivejä</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Tehty uudelleen: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>”%1” ei enää sovi siihen, mitä sen jälkeen muutettiin. Vaiheiden luettelo kertoo, mikä on esteenä.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Rivi: %2
         <source>Schreibgeschützt</source>
         <translation>Kirjoitussuojattu</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Suodatin: ei rivejä</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Suodatin: &lt;a href=&quot;next&quot;&gt;%1 riviä&lt;/a&gt; %2 projektissa</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Rivit, jotka suodatin kaikille riveille näyttää</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Rivi: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Virheet ja varoitukset: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Vaiheet</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Hae kuka, mitä tai rivejä</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Takaisin tähän asti</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Peruu tämän ja kaikki myöhemmät voimassa olevat vaiheet</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Siirry r&amp;iville</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Sulje</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Peru riippuvien kanssa (%n)</numerusform>
+            <numerusform>&amp;Peru riippuvien kanssa (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Peru vain tämä</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>T&amp;ee uudelleen aiempien kanssa (%n)</numerusform>
+            <numerusform>T&amp;ee uudelleen aiempien kanssa (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>T&amp;ee uudelleen</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Ei vielä vaiheita</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Mikään muu vaihe ei riipu siitä.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Vaiheen voi tehdä uudelleen yksinään.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Sen varaan rakentuvat: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Se rakentuu: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Esteenä, koska ne päättivät toisin: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Siinä on nyt jotain muuta, mitä mikään luettelon vaihe ei päättänyt, esimerkiksi toisen ohjelman jälki. Vaihetta ei voi enää siirtää.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>ja %n muuta</numerusform>
+            <numerusform>ja %n muuta</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1, %n projektissa</numerusform>
+            <numerusform>%1, %n projektissa</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>voimassa</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>peruttu</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>ohitettu</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Ajankohta</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Aika</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kuka</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Mitä</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Rivit</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Rivi: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Versio ja hakemistot</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Vaiheet...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Luettelee kaikki vaiheet, myös aiempien istuntojen, ja peruu yksittäisiä</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Seuraava projekti, jossa avoimia rivejä</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Siirtyy seuraavaan projektiin, jossa on päätettävää</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Edellinen projekti, jossa avoimia rivejä</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Siirtyy edelliseen projektiin, jossa on päätettävää</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Suodatin kaikille riveille</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Valitsee kaikkien projektien rivejä tilan, syyn, eron ja henkilön mukaan; F8 käy ne läpi</translation>
     </message>
 </context>
 </TS>

@@ -679,6 +679,141 @@ Choisissez un autre fichier.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Le filtre est levé : le projet n’y a aucune ligne</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Fin atteinte, reprise depuis le début</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Début atteint, reprise depuis la fin</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Il ne reste aucune ligne dans le filtre</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>texte remplacé</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>nombre converti</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>nombre proche</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>autre nombre</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>autre formulation</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>autre graphie</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Valeur seulement nouvelle</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Valeur seulement ancienne</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>non comparable</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Pourquoi ouverte</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Type de différence</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Différence dans la colonne</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Décidé en dernier par</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>personne</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(rien de cela)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>pas les valeurs choisies</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Lecture des tables...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>dans %n projet</numerusform>
+            <numerusform>dans %n projets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Aucun filtre : toutes les lignes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Tables illisibles : %n</numerusform>
+            <numerusform>Tables illisibles : %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtre sur toutes les lignes</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Lever le filtre</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filtre : %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Aucun autre projet n’a de telles lignes</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Rétabli : %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>« %1 » ne convient plus à ce qui a été changé depuis. La liste des étapes dit ce qui s’y oppose.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Ligne : %2
         <source>Schreibgeschützt</source>
         <translation>Lecture seule</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filtre : aucune ligne</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filtre : &lt;a href=&quot;next&quot;&gt;%1 lignes&lt;/a&gt; dans %2 projets</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Lignes que montre le filtre sur toutes les lignes</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Ligne : %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Erreurs et avertissements : %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Étapes</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Chercher qui, quoi ou lignes</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Revenir jusqu’ici</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Annule cette étape et toutes les suivantes en vigueur</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Aller à la l&amp;igne</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Annuler avec les dépendantes (%n)</numerusform>
+            <numerusform>&amp;Annuler avec les dépendantes (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Annuler seulement celle-ci</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>Re&amp;faire avec les précédentes (%n)</numerusform>
+            <numerusform>Re&amp;faire avec les précédentes (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>Re&amp;faire</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Encore aucune étape</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Aucune autre étape n’en dépend.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>L’étape peut être refaite seule.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>S’appuient dessus : %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Elle s’appuie sur : %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>S’y opposent, car ils ont décidé autrement : %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Il y a maintenant autre chose, qu’aucune étape de cette liste n’a décidé, par exemple un autre programme. L’étape ne peut plus être déplacée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>et %n de plus</numerusform>
+            <numerusform>et %n de plus</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 dans %n projet</numerusform>
+            <numerusform>%1 dans %n projets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>en vigueur</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>annulée</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>dépassée</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>État du</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Qui</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Lignes</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Ligne : %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Version et répertoires</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>É&amp;tapes...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Liste toutes les étapes, y compris des sessions passées, et en annule une seule</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Projet suivant avec des lignes ouvertes</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Va au projet suivant où il reste à décider</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Projet précédent avec des lignes ouvertes</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Va au projet précédent où il reste à décider</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtre sur toutes les lignes</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Choisit les lignes de tous les projets par état, raison, différence et personne ; F8 les parcourt</translation>
     </message>
 </context>
 </TS>

@@ -659,6 +659,138 @@ Válasszon másik fájlt.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>A szűrő megszűnt: a projektnek nincs benne sora</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Elérte a végét, folytatás az elejétől</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Elérte az elejét, folytatás a végétől</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Nincs több sor a szűrőben</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>lecserélt szöveg</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>átszámított szám</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>közeli szám</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>másik szám</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>más szöveg</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>más írásmód</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Érték csak az újban</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Érték csak a régiben</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>nem hasonlítható össze</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Állapot</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Miért nyitott</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Az eltérés fajtája</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Eltérés az oszlopban</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Utoljára döntött</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>senki</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(egyik sem)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>nem a kiválasztottak</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>A táblák olvasása...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n sor</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projektben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Nincs szűrő: minden sor</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Olvashatatlan táblák: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Szűrő az összes sorra</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Érték</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Sorok</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>Szűrő &amp;törlése</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1182,6 +1314,10 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Szűrő: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Más projektnek nincs ilyen sora</translation>
     </message>
 </context>
 <context>
@@ -1852,6 +1988,10 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Ismét végrehajtva: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>„%1” már nem illik ahhoz, ami azóta változott. A lépések listája megmondja, mi áll útban.</translation>
     </message>
 </context>
 <context>
@@ -3518,6 +3658,19 @@ Sor: %2
         <source>Schreibgeschützt</source>
         <translation>Írásvédett</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Szűrő: egy sor sem</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Szűrő: &lt;a href=&quot;next&quot;&gt;%1 sor&lt;/a&gt; %2 projektben</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Sorok, amelyeket az összes sorra vonatkozó szűrő mutat</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3536,6 +3689,128 @@ Sor: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Hibák és figyelmeztetések: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Lépések</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Ki, mi vagy sorok keresése</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Vissza idáig</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Visszavonja ezt és minden későbbi érvényes lépést</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Ugrás a s&amp;orra</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Bezárás</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Visszavonás a ráépülőkkel (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Csak ennek visszavonása</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>Ú&amp;jra a korábbiakkal (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>Ú&amp;jra végrehajtás</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Még nincs lépés</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Más lépés nem függ tőle.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>A lépés önmagában újra végrehajtható.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Erre épülnek: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Erre épül: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Útban vannak, mert másképp döntöttek: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Most valami más áll ott, amiről e lista egyik lépése sem döntött, például egy másik programé. A lépés már nem mozgatható.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>és még %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1, %n projektben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>érvényes</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>visszavonva</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>túlhaladott</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Időpont</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Idő</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Ki</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Mit</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Sorok</translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4525,38 @@ Sor: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Verzió és könyvtárak</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Lépések...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Felsorolja az összes lépést, a korábbi munkamenetekét is, és egyenként visszavonja</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Következő projekt nyitott sorokkal</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>A következő projektre lép, ahol dönteni kell</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Előző projekt nyitott sorokkal</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Az előző projektre lép, ahol dönteni kell</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Szűrő az összes sorra</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Az összes projekt sorait választja állapot, ok, eltérés és személy szerint; az F8 végigmegy rajtuk</translation>
     </message>
 </context>
 </TS>

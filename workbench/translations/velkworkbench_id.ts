@@ -659,6 +659,138 @@ Harap pilih berkas lain.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Filter dihapus: proyek tidak punya baris di dalamnya</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Sudah sampai akhir, lanjut dari awal</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Sudah sampai awal, lanjut dari akhir</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Tidak ada baris tersisa dalam filter</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>teks diganti</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>angka dikonversi</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>angka berdekatan</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>angka lain</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>susunan kata lain</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>ejaan lain</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Nilai hanya di baru</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Nilai hanya di lama</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>tidak dapat dibandingkan</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Keadaan</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Mengapa terbuka</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Jenis perbedaan</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Perbedaan di kolom</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Terakhir diputuskan oleh</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>tidak seorang pun</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(tidak ada)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>bukan yang dipilih</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Membaca tabel...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n baris</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>di %n proyek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Tanpa filter: semua baris</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Tabel tak terbaca: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter semua baris</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Nilai</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Baris</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Hapus filter</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1182,6 +1314,10 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Saringan: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Tidak ada proyek lain dengan baris seperti itu</translation>
     </message>
 </context>
 <context>
@@ -1852,6 +1988,10 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Diulangi: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>“%1” tidak cocok lagi dengan yang diubah sesudahnya. Daftar langkah menunjukkan apa yang menghalangi.</translation>
     </message>
 </context>
 <context>
@@ -3518,6 +3658,19 @@ Baris: %2
         <source>Schreibgeschützt</source>
         <translation>Hanya baca</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filter: tidak ada baris</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 baris&lt;/a&gt; dalam %2 proyek</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Baris yang ditampilkan filter semua baris</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3536,6 +3689,128 @@ Baris: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Kesalahan dan peringatan: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Langkah</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Cari siapa, apa atau baris</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Kembali sampai sini</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Membatalkan langkah ini dan semua langkah sesudahnya yang berlaku</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Ke b&amp;aris</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Tutup</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Batalkan bersama yang bergantung (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Batalkan yang ini saja</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Ulangi bersama yang sebelumnya (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Ulangi</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Belum ada langkah</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Tidak ada langkah lain yang bergantung padanya.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Langkah ini dapat diulangi sendiri.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Yang bergantung padanya: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Bergantung pada: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Menghalangi, karena memutuskan lain: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Sekarang ada hal lain di sana yang tidak diputuskan langkah mana pun dalam daftar ini, misalnya oleh program lain. Langkah tidak dapat dipindahkan lagi.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>dan %n lagi</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 di %n proyek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>berlaku</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>dibatalkan</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>terlampaui</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Per tanggal</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Waktu</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Siapa</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Apa</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Baris</translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4525,38 @@ Baris: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Versi dan direktori</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Langkah...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Menampilkan semua langkah, juga dari sesi lama, dan membatalkan satu per satu</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Proyek berikutnya dengan baris terbuka</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Ke proyek berikutnya yang perlu keputusan</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Proyek sebelumnya dengan baris terbuka</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Ke proyek sebelumnya yang perlu keputusan</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter semua baris</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Memilih baris semua proyek menurut status, alasan, perbedaan dan orang; F8 menelusurinya</translation>
     </message>
 </context>
 </TS>

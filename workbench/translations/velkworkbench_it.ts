@@ -679,6 +679,141 @@ Scegliere un altro file.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Il filtro è tolto: il progetto non vi ha righe</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Raggiunta la fine, si continua dall&apos;inizio</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Raggiunto l&apos;inizio, si continua dalla fine</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Nessuna riga rimane nel filtro</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>testo sostituito</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>numero convertito</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>numero vicino</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>altro numero</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>altra formulazione</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>altra grafia</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Valore solo nella nuova</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Valore solo nella vecchia</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>non confrontabile</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Perché aperta</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Tipo di differenza</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Differenza nella colonna</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Deciso per ultimo da</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(niente di questo)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>non quelli scelti</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Lettura delle tabelle...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n riga</numerusform>
+            <numerusform>%n righe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n progetto</numerusform>
+            <numerusform>in %n progetti</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Nessun filtro: tutte le righe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Tabelle illeggibili: %n</numerusform>
+            <numerusform>Tabelle illeggibili: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtro su tutte le righe</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Righe</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Togli filtro</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Scegliere un altro file.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filtro: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Nessun altro progetto ha righe simili</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Scegliere un altro file.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Ripetuto: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>“%1” non si adatta più a ciò che è cambiato dopo. L’elenco dei passi dice che cosa lo impedisce.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Riga: %2
         <source>Schreibgeschützt</source>
         <translation>Sola lettura</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filtro: nessuna riga</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filtro: &lt;a href=&quot;next&quot;&gt;%1 righe&lt;/a&gt; in %2 progetti</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Righe che il filtro su tutte le righe mostra</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Riga: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Errori e avvisi: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Passi</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Cerca chi, cosa o righe</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Indietro fin qui</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Annulla questo passo e tutti i successivi validi</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Vai alla r&amp;iga</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Annulla con i dipendenti (%n)</numerusform>
+            <numerusform>&amp;Annulla con i dipendenti (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Annulla solo questo</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Ripeti con i precedenti (%n)</numerusform>
+            <numerusform>&amp;Ripeti con i precedenti (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Ancora nessun passo</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Nessun altro passo ne dipende.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Il passo può essere ripetuto da solo.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Si basano su di esso: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Si basa su: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Lo impediscono, perché hanno deciso altro: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Ora c’è altro, che nessun passo di questo elenco ha deciso, per esempio un altro programma. Il passo non si può più spostare.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>e altri %n</numerusform>
+            <numerusform>e altri %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 in %n progetto</numerusform>
+            <numerusform>%1 in %n progetti</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>valido</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>annullato</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>superato</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Chi</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Cosa</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Righe</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Riga: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Versione e directory</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>Pa&amp;ssi...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Elenca tutti i passi, anche delle sessioni precedenti, e ne annulla singoli</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Progetto successivo con righe aperte</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Va al prossimo progetto in cui c’è da decidere</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Progetto precedente con righe aperte</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Va al progetto precedente in cui c’è da decidere</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtro su tutte le righe</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Sceglie righe di tutti i progetti per stato, motivo, differenza e persona; F8 le percorre</translation>
     </message>
 </context>
 </TS>

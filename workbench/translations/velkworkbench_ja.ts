@@ -659,6 +659,138 @@ Bitte eine andere Datei wählen.</source>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>フィルターを解除しました：このプロジェクトに該当行はありません</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>末尾に達したため、先頭から続けます</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>先頭に達したため、末尾から続けます</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>フィルターに残る行はありません</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>置換された文字列</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>換算された数値</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>近い数値</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>別の数値</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>別の表現</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>別の表記</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>新のみの値</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>旧のみの値</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>比較不可</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>未決の理由</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>違いの種類</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>列の違い</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>最後に決めた人</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>（該当なし）</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>選択以外</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>表を読み込んでいます...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n 行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n 件のプロジェクト</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>フィルターなし：全行</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>読めない表：%n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>全行のフィルター</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>フィルターを解除(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1182,6 +1314,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter: %1.</source>
         <translation>フィルター: %1。</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>ほかのプロジェクトにそのような行はありません</translation>
     </message>
 </context>
 <context>
@@ -1852,6 +1988,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Wiederholt: %1</source>
         <translation>やり直しました: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>「%1」はその後の変更に合いません。ステップの一覧に妨げの内容が示されます。</translation>
     </message>
 </context>
 <context>
@@ -3518,6 +3658,19 @@ Zeile: %2
         <source>Schreibgeschützt</source>
         <translation>読み取り専用</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>フィルター：行なし</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>フィルター：&lt;a href=&quot;next&quot;&gt;%1 行&lt;/a&gt;、%2 プロジェクト</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>全行のフィルターが示す行</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3536,6 +3689,128 @@ Zeile: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>エラーと警告: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>ステップ</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>人、内容、行を検索</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>ここまで戻す(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>このステップと、その後の有効な全ステップを取り消します</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>行へ移動(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>依存する %n 件とともに取り消す(&amp;T)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>これだけ取り消す(&amp;T)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>以前の %n 件とともにやり直す(&amp;D)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>やり直す(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>ステップはまだありません</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>ほかのステップは依存していません。</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>このステップだけをやり直せます。</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>これに依存するもの：%1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>依存先：%1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>別の決定をしたため妨げているもの：%1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>この一覧のどのステップでも決めていない別の内容がそこにあります（別のプログラムなど）。このステップはもう動かせません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>ほか %n 件</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1、%n 件のプロジェクト</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>取り消し済み</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>上書き済み</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>時点</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>人</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>行</translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4525,38 @@ Zeile: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>バージョンとディレクトリ</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>ステップ(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>以前のセッションも含む全ステップを一覧し、個別に取り消します</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>未決の行がある次のプロジェクト</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>決定が必要な次のプロジェクトへ移動します</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>未決の行がある前のプロジェクト</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>決定が必要な前のプロジェクトへ移動します</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>全行のフィルター</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>状態、理由、違い、人で全プロジェクトの行を選びます。F8 で順に移動します</translation>
     </message>
 </context>
 </TS>

@@ -659,6 +659,138 @@ Bitte eine andere Datei wählen.</source>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>필터를 해제했습니다: 프로젝트에 해당 행이 없습니다</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>끝에 도달하여 처음부터 계속합니다</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>처음에 도달하여 끝에서 계속합니다</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>필터에 남은 행이 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>바뀐 텍스트</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>환산된 숫자</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>가까운 숫자</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>다른 숫자</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>다른 문구</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>다른 표기</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>새것에만 있는 값</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>이전에만 있는 값</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>비교 불가</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>미결 이유</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>차이의 종류</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>열의 차이</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>마지막 결정자</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(해당 없음)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>선택하지 않은 것</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>표를 읽는 중...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n개 행</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>프로젝트 %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>필터 없음: 모든 행</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>읽을 수 없는 표: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>모든 행의 필터</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>값</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>행</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>필터 해제(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1182,6 +1314,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter: %1.</source>
         <translation>필터: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>다른 프로젝트에는 그런 행이 없습니다</translation>
     </message>
 </context>
 <context>
@@ -1852,6 +1988,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Wiederholt: %1</source>
         <translation>다시 실행: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>“%1”은(는) 이후의 변경과 맞지 않습니다. 단계 목록에서 방해 요인을 볼 수 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -3518,6 +3658,19 @@ Zeile: %2
         <source>Schreibgeschützt</source>
         <translation>읽기 전용</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>필터: 행 없음</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>필터: &lt;a href=&quot;next&quot;&gt;%1개 행&lt;/a&gt;, %2개 프로젝트</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>모든 행의 필터가 보여주는 행</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3536,6 +3689,128 @@ Zeile: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>오류 및 경고: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>단계</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>사람, 내용 또는 행 검색</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>여기까지 되돌리기(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>이 단계와 이후의 유효한 모든 단계를 취소합니다</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>행으로 이동(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>닫기(&amp;C)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>의존하는 %n개와 함께 취소(&amp;T)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>이것만 취소(&amp;T)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>이전 %n개와 함께 다시 실행(&amp;D)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>다시 실행(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>아직 단계 없음</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>다른 단계가 의존하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>이 단계만 다시 실행할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>이에 의존하는 단계: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>의존 대상: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>다르게 결정하여 방해하는 단계: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>이 목록의 어느 단계도 결정하지 않은 다른 내용이 있습니다(예: 다른 프로그램). 이 단계는 더 이상 움직일 수 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>외 %n개</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1, 프로젝트 %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>유효</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>대체됨</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>기준</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>사람</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>내용</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>행</translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4525,38 @@ Zeile: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>버전과 디렉터리</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>단계(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>이전 세션을 포함한 모든 단계를 나열하고 하나씩 취소합니다</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>미결 행이 있는 다음 프로젝트</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>결정할 것이 있는 다음 프로젝트로 이동</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>미결 행이 있는 이전 프로젝트</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>결정할 것이 있는 이전 프로젝트로 이동</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>모든 행의 필터</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>상태, 이유, 차이, 사람별로 모든 프로젝트의 행을 선택합니다. F8로 이동합니다</translation>
     </message>
 </context>
 </TS>

@@ -679,6 +679,141 @@ Velg en annen fil.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Filteret er fjernet: prosjektet har ingen linje i det</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Slutten er nådd, fortsetter fra begynnelsen</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Begynnelsen er nådd, fortsetter fra slutten</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Ingen linje er igjen i filteret</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>erstattet tekst</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>omregnet tall</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>tall i nærheten</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>annet tall</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>annen ordlyd</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>annen skrivemåte</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Verdi bare i ny</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Verdi bare i gammel</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>kan ikke sammenlignes</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Tilstand</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Hvorfor åpen</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Type forskjell</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Forskjell i kolonnen</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Sist bestemt av</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>ingen</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(ingen av disse)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>ikke de valgte</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Leser tabellene...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n linje</numerusform>
+            <numerusform>%n linjer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n prosjekt</numerusform>
+            <numerusform>i %n prosjekter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Ikke noe filter: alle linjer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Uleselige tabeller: %n</numerusform>
+            <numerusform>Uleselige tabeller: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter over alle linjer</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Verdi</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Linjer</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Fjern filter</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Velg en annen fil.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Ingen andre prosjekter har slike linjer</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Velg en annen fil.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Gjort om igjen: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>«%1» passer ikke lenger til det som er endret siden. Listen over trinn sier hva som står i veien.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Linje: %2
         <source>Schreibgeschützt</source>
         <translation>Skrivebeskyttet</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filter: ingen linje</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 linjer&lt;/a&gt; i %2 prosjekter</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Linjer som filteret over alle linjer viser</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Linje: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Feil og advarsler: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Trinn</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Søk hvem, hva eller linjer</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Tilbake hit</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Tar tilbake dette og alle senere gjeldende trinn</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Til l&amp;injen</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>Lu&amp;kk</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Ta tilbake med avhengige (%n)</numerusform>
+            <numerusform>&amp;Ta tilbake med avhengige (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Ta bare dette tilbake</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Gjør igjen med tidligere (%n)</numerusform>
+            <numerusform>&amp;Gjør igjen med tidligere (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Gjør igjen</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Ingen trinn ennå</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Ingen andre trinn avhenger av det.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Trinnet kan gjøres igjen for seg selv.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Bygger på dette: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Det bygger på: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>I veien, fordi de bestemte noe annet: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Nå står det noe annet der som intet trinn i listen bestemte, for eksempel fra et annet program. Trinnet kan ikke flyttes lenger.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>og %n til</numerusform>
+            <numerusform>og %n til</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 i %n prosjekt</numerusform>
+            <numerusform>%1 i %n prosjekter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>gjelder</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>tatt tilbake</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>forbigått</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Per</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Tid</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Hvem</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Hva</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Linjer</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Linje: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Versjon og mapper</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Trinn...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Viser alle trinn, også fra tidligere økter, og tar enkelte tilbake</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Neste prosjekt med åpne linjer</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Går til neste prosjekt der noe skal bestemmes</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Forrige prosjekt med åpne linjer</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Går til forrige prosjekt der noe skal bestemmes</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter over alle linjer</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Velger linjer i alle prosjekter etter tilstand, grunn, forskjell og person; F8 går gjennom dem</translation>
     </message>
 </context>
 </TS>

@@ -699,6 +699,144 @@ Wybierz inny plik.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Filtr zdjęto: projekt nie ma w nim wiersza</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Osiągnięto koniec, dalej od początku</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Osiągnięto początek, dalej od końca</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>W filtrze nie ma już wierszy</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>zastąpiony tekst</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>przeliczona liczba</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>bliska liczba</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>inna liczba</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>inne brzmienie</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>inna pisownia</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Wartość tylko w nowym</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Wartość tylko w starym</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>nieporównywalne</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Dlaczego otwarty</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Rodzaj różnicy</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Różnica w kolumnie</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Ostatnio zdecydował</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>nikt</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(żadne z nich)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>nie wybrane</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Odczyt tabel...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n wiersz</numerusform>
+            <numerusform>%n wiersze</numerusform>
+            <numerusform>%n wierszy</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>w %n projekcie</numerusform>
+            <numerusform>w %n projektach</numerusform>
+            <numerusform>w %n projektach</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Bez filtra: wszystkie wiersze</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Nieczytelne tabele: %n</numerusform>
+            <numerusform>Nieczytelne tabele: %n</numerusform>
+            <numerusform>Nieczytelne tabele: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtr wszystkich wierszy</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Wartość</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Wiersze</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Zdejmij filtr</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1226,6 +1364,10 @@ Wybierz inny plik.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filtr: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Żaden inny projekt nie ma takich wierszy</translation>
     </message>
 </context>
 <context>
@@ -1904,6 +2046,10 @@ Wybierz inny plik.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Ponowiono: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>„%1” nie pasuje już do tego, co zmieniono później. Lista kroków mówi, co stoi na przeszkodzie.</translation>
     </message>
 </context>
 <context>
@@ -3618,6 +3764,19 @@ Wiersz: %2
         <source>Schreibgeschützt</source>
         <translation>Tylko do odczytu</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filtr: brak wierszy</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filtr: &lt;a href=&quot;next&quot;&gt;%1 wierszy&lt;/a&gt; w %2 projektach</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Wiersze pokazywane przez filtr wszystkich wierszy</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3636,6 +3795,136 @@ Wiersz: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Błędy i ostrzeżenia: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Kroki</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Szukaj kto, co lub wiersze</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Cofnij dotąd</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Cofa ten krok i wszystkie późniejsze obowiązujące</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Do w&amp;iersza</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>Za&amp;mknij</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Cofnij z zależnymi (%n)</numerusform>
+            <numerusform>&amp;Cofnij z zależnymi (%n)</numerusform>
+            <numerusform>&amp;Cofnij z zależnymi (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Cofnij tylko ten</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%n)</numerusform>
+            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%n)</numerusform>
+            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Wykonaj ponownie</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Jeszcze brak kroków</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Żaden inny krok od niego nie zależy.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Krok można wykonać ponownie osobno.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Na tym się opierają: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Opiera się na: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Stoją na przeszkodzie, bo zdecydowały inaczej: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Jest tam teraz coś innego, o czym nie zdecydował żaden krok tej listy, na przykład z innego programu. Kroku nie można już przesunąć.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 w %n projekcie</numerusform>
+            <numerusform>%1 w %n projektach</numerusform>
+            <numerusform>%1 w %n projektach</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>obowiązuje</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>cofnięty</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>nieaktualny</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Stan na</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kto</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Wiersze</translation>
     </message>
 </context>
 <context>
@@ -4378,6 +4667,38 @@ Wiersz: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Wersja i foldery</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Kroki...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Pokazuje wszystkie kroki, także z dawnych sesji, i cofa pojedyncze</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Następny projekt z otwartymi wierszami</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Przechodzi do następnego projektu wymagającego decyzji</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Poprzedni projekt z otwartymi wierszami</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Przechodzi do poprzedniego projektu wymagającego decyzji</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtr wszystkich wierszy</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Wybiera wiersze wszystkich projektów według stanu, powodu, różnicy i osoby; F8 przechodzi po nich</translation>
     </message>
 </context>
 </TS>

@@ -679,6 +679,141 @@ Escolha outro ficheiro.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>O filtro foi retirado: o projeto não tem nele nenhuma linha</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Chegou ao fim, continua a partir do início</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Chegou ao início, continua a partir do fim</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Não resta nenhuma linha no filtro</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>texto substituído</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>número convertido</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>número próximo</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>outro número</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>outra redação</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>outra grafia</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Valor só na nova</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Valor só na antiga</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>não comparável</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Porque está aberta</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Tipo de diferença</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Diferença na coluna</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Decidido por último por</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>ninguém</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(nada disto)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>não os escolhidos</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>A ler as tabelas...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n linha</numerusform>
+            <numerusform>%n linhas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>em %n projeto</numerusform>
+            <numerusform>em %n projetos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Sem filtro: todas as linhas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Tabelas ilegíveis: %n</numerusform>
+            <numerusform>Tabelas ilegíveis: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtro sobre todas as linhas</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Linhas</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Retirar filtro</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filtro: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Nenhum outro projeto tem linhas assim</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Refeito: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>“%1” já não se ajusta ao que mudou depois. A lista de passos diz o que o impede.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Linha: %2
         <source>Schreibgeschützt</source>
         <translation>Só leitura</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filtro: nenhuma linha</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filtro: &lt;a href=&quot;next&quot;&gt;%1 linhas&lt;/a&gt; em %2 projetos</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Linhas que o filtro sobre todas as linhas mostra</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Linha: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Erros e avisos: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Passos</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Procurar quem, o quê ou linhas</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Voltar até aqui</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Anula este passo e todos os posteriores em vigor</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Ir para a l&amp;inha</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Anular com os dependentes (%n)</numerusform>
+            <numerusform>&amp;Anular com os dependentes (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Anular só este</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Refazer com os anteriores (%n)</numerusform>
+            <numerusform>&amp;Refazer com os anteriores (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Ainda nenhum passo</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Nenhum outro passo depende dele.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>O passo pode ser refeito por si só.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Baseiam-se nele: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Baseia-se em: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Impedem-no, porque decidiram de outro modo: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Agora está lá outra coisa que nenhum passo desta lista decidiu, por exemplo de outro programa. O passo já não pode ser movido.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>e mais %n</numerusform>
+            <numerusform>e mais %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 em %n projeto</numerusform>
+            <numerusform>%1 em %n projetos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>em vigor</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>anulado</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>ultrapassado</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Quem</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>O quê</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Linhas</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Linha: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Versão e diretórios</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>Pa&amp;ssos...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Mostra todos os passos, também de sessões anteriores, e anula qualquer um</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Projeto seguinte com linhas abertas</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Vai para o projeto seguinte em que há algo a decidir</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Projeto anterior com linhas abertas</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Vai para o projeto anterior em que há algo a decidir</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filtro sobre todas as linhas</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Escolhe linhas de todos os projetos por estado, motivo, diferença e pessoa; F8 percorre-as</translation>
     </message>
 </context>
 </TS>

@@ -699,6 +699,144 @@ Bitte eine andere Datei wählen.</source>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Фильтр снят: в проекте нет подходящих строк</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Достигнут конец, продолжение с начала</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Достигнуто начало, продолжение с конца</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>В фильтре не осталось строк</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>заменённый текст</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>пересчитанное число</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>близкое число</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>другое число</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>другая формулировка</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>другое написание</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Значение только в новой</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Значение только в старой</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>несравнимо</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Почему открыта</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Вид различия</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Различие в столбце</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Последним решил</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>никто</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(ничего из этого)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>не выбранные</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Чтение таблиц...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n строка</numerusform>
+            <numerusform>%n строки</numerusform>
+            <numerusform>%n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>в %n проекте</numerusform>
+            <numerusform>в %n проектах</numerusform>
+            <numerusform>в %n проектах</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Без фильтра: все строки</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Нечитаемых таблиц: %n</numerusform>
+            <numerusform>Нечитаемых таблиц: %n</numerusform>
+            <numerusform>Нечитаемых таблиц: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Фильтр по всем строкам</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Строки</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Снять фильтр</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1226,6 +1364,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter: %1.</source>
         <translation>Фильтр: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>В других проектах таких строк нет</translation>
     </message>
 </context>
 <context>
@@ -1904,6 +2046,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Повторено: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>«%1» больше не подходит к тому, что изменено позже. Список шагов показывает, что мешает.</translation>
     </message>
 </context>
 <context>
@@ -3618,6 +3764,19 @@ Zeile: %2
         <source>Schreibgeschützt</source>
         <translation>Только для чтения</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Фильтр: нет строк</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Фильтр: &lt;a href=&quot;next&quot;&gt;строк: %1&lt;/a&gt;, проектов: %2</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Строки, которые показывает фильтр по всем строкам</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3636,6 +3795,136 @@ Zeile: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Ошибки и предупреждения: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Шаги</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Искать кто, что или строки</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Вернуть до этого места</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Отменяет этот и все последующие действующие шаги</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>К с&amp;троке</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Отменить с зависимыми (%n)</numerusform>
+            <numerusform>&amp;Отменить с зависимыми (%n)</numerusform>
+            <numerusform>&amp;Отменить с зависимыми (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Отменить только этот</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Повторить с более ранними (%n)</numerusform>
+            <numerusform>&amp;Повторить с более ранними (%n)</numerusform>
+            <numerusform>&amp;Повторить с более ранними (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Шагов пока нет</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Другие шаги от него не зависят.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Шаг можно повторить отдельно.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>На нём основаны: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Он основан на: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Мешают, так как решили иначе: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Теперь там стоит другое, чего не решал ни один шаг этого списка, например другая программа. Шаг больше нельзя переместить.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 в %n проекте</numerusform>
+            <numerusform>%1 в %n проектах</numerusform>
+            <numerusform>%1 в %n проектах</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>действует</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>отменён</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>устарел</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>По состоянию на</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Кто</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Строки</translation>
     </message>
 </context>
 <context>
@@ -4378,6 +4667,38 @@ Zeile: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Версия и папки</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Шаги...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Показывает все шаги, включая прошлые сеансы, и отменяет отдельные</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Следующий проект с открытыми строками</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Переходит к следующему проекту, где нужно решение</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Предыдущий проект с открытыми строками</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Переходит к предыдущему проекту, где нужно решение</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Фильтр по всем строкам</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Выбирает строки всех проектов по состоянию, причине, различию и автору; F8 проходит по ним</translation>
     </message>
 </context>
 </TS>

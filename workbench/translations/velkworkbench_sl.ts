@@ -719,6 +719,147 @@ Izberite drugo datoteko.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Filter je odstranjen: projekt v njem nima vrstic</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Dosežen konec, nadaljevanje od začetka</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Dosežen začetek, nadaljevanje od konca</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>V filtru ni več vrstic</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>zamenjano besedilo</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>preračunano število</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>bližnje število</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>drugo število</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>drugo besedilo</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>drug zapis</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Vrednost samo v novi</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Vrednost samo v stari</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>ni primerljivo</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Stanje</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Zakaj odprta</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Vrsta razlike</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Razlika v stolpcu</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Nazadnje odločil</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>nihče</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(nič od tega)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>ne izbrane</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Branje tabel...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n vrstica</numerusform>
+            <numerusform>%n vrstici</numerusform>
+            <numerusform>%n vrstice</numerusform>
+            <numerusform>%n vrstic</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>v %n projektu</numerusform>
+            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %n projektih</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Brez filtra: vse vrstice</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Neberljive tabele: %n</numerusform>
+            <numerusform>Neberljive tabele: %n</numerusform>
+            <numerusform>Neberljive tabele: %n</numerusform>
+            <numerusform>Neberljive tabele: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter prek vseh vrstic</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Vrednost</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Vrstice</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Odstrani filter</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1248,6 +1389,10 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Noben drug projekt nima takih vrstic</translation>
     </message>
 </context>
 <context>
@@ -1930,6 +2075,10 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Ponovljeno: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>»%1« ne ustreza več temu, kar je bilo pozneje spremenjeno. Seznam korakov pove, kaj ovira.</translation>
     </message>
 </context>
 <context>
@@ -3668,6 +3817,19 @@ Vrstica: %2
         <source>Schreibgeschützt</source>
         <translation>Samo za branje</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filter: nobena vrstica</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 vrstic&lt;/a&gt; v %2 projektih</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Vrstice, ki jih kaže filter prek vseh vrstic</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3686,6 +3848,140 @@ Vrstica: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Napake in opozorila: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Koraki</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Išči kdo, kaj ali vrstice</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Nazaj do sem</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Razveljavi ta in vse poznejše veljavne korake</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Na v&amp;rstico</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Zapri</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Razveljavi z odvisnimi (%n)</numerusform>
+            <numerusform>&amp;Razveljavi z odvisnimi (%n)</numerusform>
+            <numerusform>&amp;Razveljavi z odvisnimi (%n)</numerusform>
+            <numerusform>&amp;Razveljavi z odvisnimi (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Razveljavi samo tega</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Ponovi s prejšnjimi (%n)</numerusform>
+            <numerusform>&amp;Ponovi s prejšnjimi (%n)</numerusform>
+            <numerusform>&amp;Ponovi s prejšnjimi (%n)</numerusform>
+            <numerusform>&amp;Ponovi s prejšnjimi (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Ponovi</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Še ni korakov</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Noben drug korak ni odvisen od njega.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Korak je mogoče ponoviti samostojno.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Na tem temeljijo: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Temelji na: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Ovirajo, ker so odločili drugače: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Tam je zdaj nekaj drugega, o čemer ni odločil noben korak tega seznama, na primer drug program. Koraka ni več mogoče premakniti.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>in še %n</numerusform>
+            <numerusform>in še %n</numerusform>
+            <numerusform>in še %n</numerusform>
+            <numerusform>in še %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 v %n projektu</numerusform>
+            <numerusform>%1 v %n projektih</numerusform>
+            <numerusform>%1 v %n projektih</numerusform>
+            <numerusform>%1 v %n projektih</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>velja</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>razveljavljen</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>prehiten</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Na dan</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kdo</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Kaj</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Vrstice</translation>
     </message>
 </context>
 <context>
@@ -4442,6 +4738,38 @@ Vrstica: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Različica in imeniki</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Koraki...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Našteje vse korake, tudi prejšnjih sej, in razveljavi posamezne</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Naslednji projekt z odprtimi vrsticami</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Gre na naslednji projekt, kjer je treba odločiti</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Prejšnji projekt z odprtimi vrsticami</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Gre na prejšnji projekt, kjer je treba odločiti</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter prek vseh vrstic</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Izbere vrstice vseh projektov po stanju, razlogu, razliki in osebi; F8 gre po njih</translation>
     </message>
 </context>
 </TS>

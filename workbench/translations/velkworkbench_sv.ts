@@ -679,6 +679,141 @@ Välj en annan fil.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Filtret är borttaget: projektet har ingen rad i det</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Slutet nått, fortsätter från början</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Början nådd, fortsätter från slutet</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Ingen rad är kvar i filtret</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>ersatt text</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>omräknat tal</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>tal nära</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>annat tal</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>annan ordalydelse</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>annat skrivsätt</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Värde bara i ny</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Värde bara i gammal</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>kan inte jämföras</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Tillstånd</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Varför öppen</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Typ av skillnad</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Skillnad i kolumnen</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Senast beslutat av</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>ingen</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(inget av detta)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>inte de valda</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Läser tabellerna...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n rad</numerusform>
+            <numerusform>%n rader</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %n projekt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Inget filter: alla rader</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Oläsliga tabeller: %n</numerusform>
+            <numerusform>Oläsliga tabeller: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter över alla rader</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Värde</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Rader</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>&amp;Ta bort filter</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1204,6 +1339,10 @@ Välj en annan fil.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Inget annat projekt har sådana rader</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +2017,10 @@ Välj en annan fil.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Gjort om: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>”%1” passar inte längre till det som ändrats sedan. Listan över steg säger vad som står i vägen.</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3711,19 @@ Rad: %2
         <source>Schreibgeschützt</source>
         <translation>Skrivskyddad</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filter: ingen rad</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 rader&lt;/a&gt; i %2 projekt</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Rader som filtret över alla rader visar</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3586,6 +3742,132 @@ Rad: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Fel och varningar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Steg</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Sök vem, vad eller rader</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Tillbaka hit</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Tar tillbaka detta och alla senare gällande steg</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Till r&amp;aden</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>S&amp;täng</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>&amp;Ta tillbaka med beroende (%n)</numerusform>
+            <numerusform>&amp;Ta tillbaka med beroende (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>&amp;Ta bara tillbaka detta</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>&amp;Gör om med tidigare (%n)</numerusform>
+            <numerusform>&amp;Gör om med tidigare (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Gör om</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Inget steg ännu</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Inget annat steg beror på det.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Steget kan göras om för sig.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Bygger på det: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Det bygger på: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>I vägen, eftersom de beslutade annat: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Där står nu något annat som inget steg i listan har beslutat, till exempel från ett annat program. Steget kan inte längre flyttas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>och %n till</numerusform>
+            <numerusform>och %n till</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1 i %n projekt</numerusform>
+            <numerusform>%1 i %n projekt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>gäller</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>tillbakataget</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>passerat</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Per</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Tid</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Vem</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Vad</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Rader</translation>
     </message>
 </context>
 <context>
@@ -4314,6 +4596,38 @@ Rad: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Version och mappar</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>&amp;Steg...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Listar alla steg, även från tidigare sessioner, och tar tillbaka enstaka</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Nästa projekt med öppna rader</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Går till nästa projekt där något ska beslutas</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Föregående projekt med öppna rader</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Går till föregående projekt där något ska beslutas</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Filter över alla rader</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Väljer rader i alla projekt efter tillstånd, skäl, skillnad och person; F8 går igenom dem</translation>
     </message>
 </context>
 </TS>

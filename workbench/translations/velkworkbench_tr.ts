@@ -659,6 +659,138 @@ Lütfen başka bir dosya seçin.</translation>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>Filtre kaldırıldı: projede uygun satır yok</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>Sona ulaşıldı, baştan devam ediliyor</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>Başa ulaşıldı, sondan devam ediliyor</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>Filtrede satır kalmadı</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>değiştirilen metin</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>dönüştürülmüş sayı</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>yakın sayı</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>başka sayı</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>başka ifade</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>başka yazım</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>Yalnız yenide değer</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>Yalnız eskide değer</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>karşılaştırılamaz</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>Durum</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>Neden açık</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>Fark türü</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>Sütundaki fark</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>Son karar veren</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>hiç kimse</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>(hiçbiri)</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>seçilenler hariç</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>Tablolar okunuyor...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n satır</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projede</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>Filtre yok: tüm satırlar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>Okunamayan tablolar: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Tüm satırlarda filtre</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Değer</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Satırlar</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>Filtreyi &amp;kaldır</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1182,6 +1314,10 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>Filter: %1.</source>
         <translation>Süzgeç: %1.</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>Başka hiçbir projede böyle satır yok</translation>
     </message>
 </context>
 <context>
@@ -1852,6 +1988,10 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>Wiederholt: %1</source>
         <translation>Yinelendi: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>“%1” sonradan değişenlere artık uymuyor. Adım listesi neyin engel olduğunu gösterir.</translation>
     </message>
 </context>
 <context>
@@ -3518,6 +3658,19 @@ Satır: %2
         <source>Schreibgeschützt</source>
         <translation>Salt okunur</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>Filtre: satır yok</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>Filtre: %2 projede &lt;a href=&quot;next&quot;&gt;%1 satır&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>Tüm satırlardaki filtrenin gösterdiği satırlar</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3536,6 +3689,128 @@ Satır: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>Hatalar ve uyarılar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Adımlar</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>Kim, ne veya satır ara</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>&amp;Buraya kadar geri al</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>Bu adımı ve sonraki tüm geçerli adımları geri alır</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>Satıra g&amp;it</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Kapat</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>Bağımlılarla &amp;geri al (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>Yalnız bunu &amp;geri al</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>Öncekilerle &amp;yeniden yap (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>&amp;Yeniden yap</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>Henüz adım yok</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>Başka hiçbir adım buna bağlı değil.</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>Adım tek başına yeniden yapılabilir.</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>Buna dayananlar: %1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>Dayandığı: %1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>Başka karar verdikleri için engel olanlar: %1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>Orada şimdi bu listedeki hiçbir adımın karar vermediği başka bir şey var, örneğin başka bir programdan. Adım artık taşınamaz.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>ve %n tane daha</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1, %n projede</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>geçerli</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>geri alındı</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>aşıldı</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Tarih</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Zaman</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>Kim</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>Ne</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>Satırlar</translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4525,38 @@ Satır: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>Sürüm ve dizinler</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>Adım&amp;lar...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>Önceki oturumlar dahil tüm adımları listeler ve tek tek geri alır</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>Açık satırlı sonraki proje</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Karar gereken sonraki projeye gider</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>Açık satırlı önceki proje</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>Karar gereken önceki projeye gider</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>Tüm satırlarda filtre</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>Tüm projelerin satırlarını durum, neden, fark ve kişiye göre seçer; F8 aralarında gezer</translation>
     </message>
 </context>
 </TS>

@@ -659,6 +659,138 @@ Bitte eine andere Datei wählen.</source>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>筛选已取消：该项目中没有符合的行</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>已到末尾，从开头继续</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>已到开头，从末尾继续</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>筛选中没有剩余的行</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>替换的文本</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>换算的数</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>相近的数</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>不同的数字</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>措辞不同</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>写法不同</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>仅新表有值</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>仅旧表有值</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>无法比较</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>为何未决</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>差异类型</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>列中的差异</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>最后决定者</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>无人</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>（无）</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>非所选</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>正在读取表...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n 行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>涉及 %n 个项目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>无筛选：所有行</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>无法读取的表：%n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>所有行的筛选</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>取消筛选(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1182,6 +1314,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter: %1.</source>
         <translation>筛选：%1。</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>没有其他项目有这样的行</translation>
     </message>
 </context>
 <context>
@@ -1852,6 +1988,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Wiederholt: %1</source>
         <translation>已重做：%1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>“%1”与之后的更改不再相符。步骤列表会说明阻碍所在。</translation>
     </message>
 </context>
 <context>
@@ -3518,6 +3658,19 @@ Zeile: %2
         <source>Schreibgeschützt</source>
         <translation>只读</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>筛选：没有行</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>筛选：%2 个项目中 &lt;a href=&quot;next&quot;&gt;%1 行&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>所有行的筛选所显示的行</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3536,6 +3689,128 @@ Zeile: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>错误和警告：%1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>搜索人、内容或行</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>撤回到此处(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>撤销此步骤及之后所有有效步骤</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>转到行(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>连同 %n 个依赖步骤撤销(&amp;T)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>只撤销这一步(&amp;T)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>连同 %n 个更早步骤重做(&amp;D)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>重做(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>还没有步骤</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>没有其他步骤依赖它。</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>该步骤可以单独重做。</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>依赖于它的步骤：%1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>它依赖于：%1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>因作出其他决定而阻碍：%1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>那里现在是此列表中任何步骤都未决定的其他内容，例如来自其他程序。该步骤无法再移动。</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>及另外 %n 个</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1，%n 个项目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>有效</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>已撤销</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>已被取代</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>截至</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>人员</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>行</translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4525,38 @@ Zeile: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>版本和文件夹</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>步骤(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>列出所有步骤（包括以前会话的），并可单独撤销</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>下一个有未决行的项目</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>转到下一个需要决定的项目</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>上一个有未决行的项目</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>转到上一个需要决定的项目</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>所有行的筛选</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>按状态、原因、差异和人员选择所有项目的行；F8 逐行浏览</translation>
     </message>
 </context>
 </TS>

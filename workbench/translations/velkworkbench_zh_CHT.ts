@@ -659,6 +659,138 @@ Bitte eine andere Datei wählen.</source>
     </message>
 </context>
 <context>
+    <name>FilterCommands</name>
+    <message>
+        <source>Der Filter ist aufgehoben: das Projekt hat keine Zeile darin</source>
+        <translation>篩選已取消：該專案中沒有符合的列</translation>
+    </message>
+    <message>
+        <source>Am Ende angekommen, weiter von vorn</source>
+        <translation>已到結尾，從開頭繼續</translation>
+    </message>
+    <message>
+        <source>Am Anfang angekommen, weiter von hinten</source>
+        <translation>已到開頭，從結尾繼續</translation>
+    </message>
+    <message>
+        <source>Keine Zeile ist mehr im Filter</source>
+        <translation>篩選中沒有剩餘的列</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDock</name>
+    <message>
+        <source>ersetzter Text</source>
+        <translation>取代的文字</translation>
+    </message>
+    <message>
+        <source>Zahl umgerechnet</source>
+        <translation>換算的數</translation>
+    </message>
+    <message>
+        <source>Zahl nahebei</source>
+        <translation>相近的數</translation>
+    </message>
+    <message>
+        <source>andere Zahl</source>
+        <translation>不同的數字</translation>
+    </message>
+    <message>
+        <source>anderer Wortlaut</source>
+        <translation>措辭不同</translation>
+    </message>
+    <message>
+        <source>andere Schreibweise</source>
+        <translation>寫法不同</translation>
+    </message>
+    <message>
+        <source>Wert nur neu</source>
+        <translation>僅新表有值</translation>
+    </message>
+    <message>
+        <source>Wert nur alt</source>
+        <translation>僅舊表有值</translation>
+    </message>
+    <message>
+        <source>nicht vergleichbar</source>
+        <translation>無法比較</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>Warum offen</source>
+        <translation>為何未決</translation>
+    </message>
+    <message>
+        <source>Art des Unterschieds</source>
+        <translation>差異類型</translation>
+    </message>
+    <message>
+        <source>Unterschied in der Spalte</source>
+        <translation>欄中的差異</translation>
+    </message>
+    <message>
+        <source>Zuletzt entschieden von</source>
+        <translation>最後決定者</translation>
+    </message>
+    <message>
+        <source>niemand</source>
+        <translation>無人</translation>
+    </message>
+    <message>
+        <source>(nichts davon)</source>
+        <translation>（無）</translation>
+    </message>
+    <message>
+        <source>nicht die gewählten</source>
+        <translation>非所選</translation>
+    </message>
+    <message>
+        <source>Die Tabellen werden gelesen...</source>
+        <translation>正在讀取表...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n)</source>
+        <translation>
+            <numerusform>%n 列</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>涉及 %n 個專案</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Filter: alle Zeilen</source>
+        <translation>無篩選：所有列</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Tabelle(n) nicht lesbar</source>
+        <translation>
+            <numerusform>無法讀取的表：%n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>所有列的篩選</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Filter au&amp;fheben</source>
+        <translation>取消篩選(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>GuardedSave</name>
     <message>
         <source>%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. Es wurde nichts geschrieben. Bitte entfernen, was dort steht.</source>
@@ -1182,6 +1314,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter: %1.</source>
         <translation>篩選：%1。</translation>
+    </message>
+    <message>
+        <source>Kein anderes Projekt hat solche Zeilen</source>
+        <translation>沒有其他專案有這樣的列</translation>
     </message>
 </context>
 <context>
@@ -1852,6 +1988,10 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Wiederholt: %1</source>
         <translation>已重做：%1</translation>
+    </message>
+    <message>
+        <source>„%1“ passt nicht mehr zu dem, was danach geändert wurde. Die Liste der Schritte sagt, was entgegensteht.</source>
+        <translation>「%1」與之後的變更不再相符。步驟清單會說明阻礙所在。</translation>
     </message>
 </context>
 <context>
@@ -3518,6 +3658,19 @@ Zeile: %2
         <source>Schreibgeschützt</source>
         <translation>唯讀</translation>
     </message>
+    <message>
+        <source>Filter: keine Zeile</source>
+        <translation>篩選：沒有列</translation>
+    </message>
+    <message>
+        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
+        <extracomment>Number of lines, number of projects.</extracomment>
+        <translation>篩選：%2 個專案中 &lt;a href=&quot;next&quot;&gt;%1 列&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
+        <translation>所有列的篩選所顯示的列</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>
@@ -3536,6 +3689,128 @@ Zeile: %2
     <message>
         <source>Fehler und Warnungen: %1</source>
         <translation>錯誤和警告：%1</translation>
+    </message>
+</context>
+<context>
+    <name>StepListDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>步驟</translation>
+    </message>
+    <message>
+        <source>Wer, was oder Zeilen suchen</source>
+        <translation>搜尋人、內容或列</translation>
+    </message>
+    <message>
+        <source>&amp;Bis hier zurücknehmen</source>
+        <translation>撤回到此處(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
+        <translation>復原此步驟及之後所有有效步驟</translation>
+    </message>
+    <message>
+        <source>Zur Z&amp;eile</source>
+        <translation>移至列(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <translation>
+            <numerusform>連同 %n 個依賴步驟復原(&amp;T)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nur diesen &amp;zurücknehmen</source>
+        <translation>只復原這一步(&amp;T)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <translation>
+            <numerusform>連同 %n 個更早步驟重做(&amp;D)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Wieder ausführen</source>
+        <translation>重做(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Noch kein Schritt</source>
+        <translation>還沒有步驟</translation>
+    </message>
+    <message>
+        <source>Kein anderer Schritt hängt davon ab.</source>
+        <translation>沒有其他步驟依賴它。</translation>
+    </message>
+    <message>
+        <source>Der Schritt kann für sich wieder ausgeführt werden.</source>
+        <translation>該步驟可以單獨重做。</translation>
+    </message>
+    <message>
+        <source>Darauf bauen auf: %1</source>
+        <translation>依賴於它的步驟：%1</translation>
+    </message>
+    <message>
+        <source>Er baut auf: %1</source>
+        <translation>它依賴於：%1</translation>
+    </message>
+    <message>
+        <source>Dem stehen entgegen, weil sie etwas anderes entschieden haben: %1</source>
+        <translation>因作出其他決定而阻礙：%1</translation>
+    </message>
+    <message>
+        <source>Dort steht jetzt etwas anderes, das in keinem Schritt dieser Liste entschieden wurde, etwa von einem anderen Programm. Der Schritt lässt sich nicht mehr bewegen.</source>
+        <translation>那裡現在是此清單中任何步驟都未決定的其他內容，例如來自其他程式。該步驟無法再移動。</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %n weitere</source>
+        <translation>
+            <numerusform>及另外 %n 個</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StepListModel</name>
+    <message numerus="yes">
+        <source>%1 in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%1，%n 個專案</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>gilt</source>
+        <translation>有效</translation>
+    </message>
+    <message>
+        <source>zurückgenommen</source>
+        <translation>已復原</translation>
+    </message>
+    <message>
+        <source>überholt</source>
+        <translation>已被取代</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>截至</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>Wer</source>
+        <translation>人員</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>內容</translation>
+    </message>
+    <message>
+        <source>Zeilen</source>
+        <translation>列</translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4525,38 @@ Zeile: %2
     <message>
         <source>Version und Verzeichnisse</source>
         <translation>版本和資料夾</translation>
+    </message>
+    <message>
+        <source>Schr&amp;itte...</source>
+        <translation>步驟(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>
+        <translation>列出所有步驟（包括以前工作階段的），並可單獨復原</translation>
+    </message>
+    <message>
+        <source>Nächstes Projekt mit offenen Zeilen</source>
+        <translation>下一個有未決列的專案</translation>
+    </message>
+    <message>
+        <source>Geht zum nächsten Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>移至下一個需要決定的專案</translation>
+    </message>
+    <message>
+        <source>Voriges Projekt mit offenen Zeilen</source>
+        <translation>上一個有未決列的專案</translation>
+    </message>
+    <message>
+        <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
+        <translation>移至上一個需要決定的專案</translation>
+    </message>
+    <message>
+        <source>Filter über alle Zeilen</source>
+        <translation>所有列的篩選</translation>
+    </message>
+    <message>
+        <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
+        <translation>按狀態、原因、差異和人員選擇所有專案的列；F8 逐列瀏覽</translation>
     </message>
 </context>
 </TS>

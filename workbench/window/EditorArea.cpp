@@ -52,12 +52,15 @@ void EditorArea::rebuild()
     const int line = currentLine();
     const QStringList open = m_editor->expandedDirectories();
     const bool onlyOpen = m_editor->onlyOpenProjects();
+    const bool hadKeys = window()->focusWidget() && m_editor->isAncestorOf(window()->focusWidget());
     close();
     make();
     m_editor->expandDirectories(open);
     m_editor->setOnlyOpenProjects(onlyOpen);
     if (goToProject(project.path, project.version) && line >= 0)
         selectLine(line);
+    if (hadKeys)
+        m_editor->focusLines();
 }
 
 void EditorArea::setRemoteTargets(bool remote)

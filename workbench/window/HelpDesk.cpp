@@ -35,6 +35,8 @@ constexpr std::array topicRows{
     TopicRow{"LinkProofDialog", "manual/database.md"},
     TopicRow{"LinkDbLoginDialog", "manual/database.md"},
     TopicRow{"DocumentListDialogC", "manual/database.md"},
+    TopicRow{"StepListDialog", "manual.md#steps"},
+    TopicRow{"FilterDock", "manual.md#a-filter-over-all-lines"},
     TopicRow{"HistoryDialog", "manual.md#who-when-why"},
     TopicRow{"RecoveryDialog", "manual.md#what-the-program-protects"},
     TopicRow{"TableMappingWidget", "manual.md#decide-line-by-line"},

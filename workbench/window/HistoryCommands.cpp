@@ -3,6 +3,7 @@
 #include "EditorArea.h"
 #include "HistoryDialog.h"
 #include "ReasonDialog.h"
+#include "StepListDialog.h"
 
 #include <core/json/PJsonValue.h>
 #include <workbench/session/MappingDocument.h>
@@ -29,11 +30,18 @@ HistoryCommands::HistoryCommands(MappingDocument *document, EditorArea *editor, 
     connect(document, &MappingDocument::closed, this, [this] {
         m_decided = Lines();
         delete m_dialog;
+        delete m_steps;
         update();
     });
     window->installEventFilter(this);
     retranslate();
     update();
+}
+
+/// The list looks into the document, which goes before the window.
+HistoryCommands::~HistoryCommands()
+{
+    delete m_steps;
 }
 
 bool HistoryCommands::eventFilter(QObject *watched, QEvent *event)
@@ -70,11 +78,27 @@ void HistoryCommands::showHistory()
     m_dialog = new HistoryDialog(m_document->mappingFile(),
                                  {m_editor->currentProject(), m_editor->currentLine()}, m_window);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(m_dialog, &HistoryDialog::lineWanted, this, [this](const QString &path, int line) {
-        if (m_editor->isOpen() && m_editor->selectProject(path))
-            m_editor->selectLine(line);
-    });
+    connect(m_dialog, &HistoryDialog::lineWanted, this, &HistoryCommands::goTo);
     m_dialog->show();
+}
+
+void HistoryCommands::goTo(const QString &path, int line)
+{
+    if (m_editor->isOpen() && m_editor->selectProject(path) && line >= 0)
+        m_editor->selectLine(line);
+}
+
+void HistoryCommands::showSteps()
+{
+    m_document->finishStep();
+    if (!m_steps) {
+        m_steps = new StepListDialog(m_document, m_window);
+        m_steps->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_steps, &StepListDialog::lineWanted, this, &HistoryCommands::goTo);
+    }
+    m_steps->show();
+    m_steps->raise();
+    m_steps->activateWindow();
 }
 
 HistoryCommands::Lines HistoryCommands::selected() const

@@ -8,6 +8,7 @@
 class EditorArea;
 class HistoryDialog;
 class MappingDocument;
+class StepListDialog;
 
 QT_BEGIN_NAMESPACE
 class QAction;
@@ -21,8 +22,11 @@ class HistoryCommands : public QObject
 
 public:
     HistoryCommands(MappingDocument *document, EditorArea *editor, QWidget *window);
+    ~HistoryCommands() override;
 
     [[nodiscard]] QAction *showAction() const { return m_show; }
+    /// The list of steps, to take any of them back.
+    void showSteps();
     [[nodiscard]] QAction *reasonAction() const { return m_reason; }
 
 Q_SIGNALS:
@@ -35,6 +39,7 @@ private:
     void retranslate();
     void update();
     void showHistory();
+    void goTo(const QString &path, int line);
     /// Lines of one project.
     struct Lines
     {
@@ -55,6 +60,7 @@ private:
     QAction *const m_show;
     QAction *const m_reason;
     QPointer<HistoryDialog> m_dialog;
+    QPointer<StepListDialog> m_steps;
     Lines m_decided;
     QString m_lastReason;
 };

@@ -60,6 +60,26 @@ void LineCommands::goPrevious()
     go(false);
 }
 
+void LineCommands::goProject(bool forward)
+{
+    const ProjectId here = m_editor->currentProject();
+    const ProjectId next =
+        m_projects ? m_projects(here, forward) : walk().nextProject(here, forward);
+    if (!next.isValid() || !m_editor->selectProject(next.path))
+        return Q_EMIT noted(tr("Kein anderes Projekt hat solche Zeilen"));
+    if (m_projects)
+        return m_order(true);
+    const OpenLines::Shown shown = m_editor->shown();
+    for (int row = 0; row < shown.rows; ++row) {
+        const LineRef line{shown.project, shown.lineAt(row)};
+        const std::optional<OpenLines::Kind> kind = walk().kindOf(line);
+        if (kind && walk().kinds().testFlag(*kind)) {
+            m_editor->goTo(line);
+            return;
+        }
+    }
+}
+
 void LineCommands::go(bool forward)
 {
     if (m_order)

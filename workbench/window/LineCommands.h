@@ -26,6 +26,8 @@ public:
 
     void goNext();
     void goPrevious();
+    /// The next project that has lines to go to, at its first such line.
+    void goProject(bool forward);
     /// Asks for number or designation.
     void jumpByDialog();
     /// Lines of the selected project that a text names: the first one is selected, or the next one
@@ -43,6 +45,9 @@ public:
     void onDecided(const QString &step = QString());
     /// Another order of open lines: goNext() and goPrevious() call it. Empty: their own.
     void setOrder(const Order &order) { m_order = order; }
+    /// The same of projects for goProject().
+    using Projects = std::function<ProjectId(const ProjectId &from, bool forward)>;
+    void setProjects(const Projects &projects) { m_projects = projects; }
     /// Says of a condition on the selected line that was put on the clipboard whether it can be
     /// used as it is.
     void tellCondition(const QString &condition);
@@ -76,6 +81,7 @@ private:
     OpenLines::Kinds m_kinds;
     Order m_order;
     Order m_decisionOrder;
+    Projects m_projects;
     bool m_goesOn = false;
     OpenLines::Found m_last; ///< where the last walk ended
     QString m_lastText;      ///< of the last jump

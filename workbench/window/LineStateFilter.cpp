@@ -84,6 +84,13 @@ OpenLines::Kinds LineStateFilter::kinds() const
     return kinds;
 }
 
+void LineStateFilter::setKinds(OpenLines::Kinds kinds)
+{
+    const QSignalBlocker silent(this);
+    for (qsizetype i = 0; i < m_actions.size(); ++i)
+        m_actions[i]->setChecked(kinds.testFlag(stateRows[size_t(i)].kind));
+}
+
 void LineStateFilter::clear()
 {
     const OpenLines::Kinds before = kinds();

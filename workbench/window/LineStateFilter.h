@@ -27,6 +27,8 @@ public:
     void fill(QToolBar *bar) const;
 
     [[nodiscard]] OpenLines::Kinds kinds() const;
+    /// Sets the switches; nothing is told.
+    void setKinds(OpenLines::Kinds kinds);
     /// All switches off.
     void clear();
     /// \a countOf gives the lines of a state.

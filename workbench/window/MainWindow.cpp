@@ -4,6 +4,7 @@
 #include "ConflictCommands.h"
 #include "DocumentDesk.h"
 #include "EditorArea.h"
+#include "FilterCommands.h"
 #include "HelpDesk.h"
 #include "HistoryCommands.h"
 #include "KeyedActions.h"
@@ -40,9 +41,11 @@
 #include <gui/application/PCommandKeys.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <workbench/script/ScriptConsole.h>
+#include <workbench/session/UndoHistory.h>
 
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMenu>
 #include <QStackedWidget>
 #include <QTimer>
@@ -65,6 +68,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_release(new ReleaseCommands(m_desk->document(), settings->store(), this))
     , m_ranges(new RangeCommands(m_desk->document(), m_editor, this))
     , m_states(new LineStateFilter(this))
+    , m_filters(new FilterCommands(m_desk->document(), m_editor, m_lines, m_states, settings, this))
     , m_remote(new RemoteCatalogs(settings->repositoryCache(), this))
     , m_linkDb(new LinkDbHost(plugin, this))
     , m_linkDbCommands(new LinkDbCommands(m_linkDb, m_editor, m_desk, this))
@@ -132,6 +136,7 @@ MainWindow::~MainWindow()
     delete m_conflicts;
     delete m_review;
     delete m_neighbours;
+    delete m_filters;
     delete m_lines;
     delete m_desk;
     delete m_linkDbCommands;
@@ -164,7 +169,9 @@ void MainWindow::connectParts()
     connect(m_editor, &EditorArea::targetProjectWanted, this, &MainWindow::showTargetProject);
     connect(m_editor, &EditorArea::conditionCopied, m_lines, &LineCommands::tellCondition);
     connect(m_states, &LineStateFilter::kindsChanged, this, &MainWindow::onLineKindsChanged);
-    connect(m_editor, &EditorArea::lineKindsDropped, m_states, &LineStateFilter::clear);
+    connect(m_filters, &FilterCommands::noted, this, note);
+    connect(m_filters, &FilterCommands::numbersChanged, m_counterTimer,
+            qOverload<>(&QTimer::start));
     connect(m_remote, &RemoteCatalogs::told, this,
             [this](const QString &text) { m_log->addMessage(LogWindow::Severity::Warning, text); });
     connect(m_linkDb, &LinkDbHost::groupChanged, m_settings, &WorkbenchSettings::setLinkDbGroup);
@@ -262,8 +269,6 @@ void MainWindow::onStepDone(const QString &text, int)
 void MainWindow::onLineKindsChanged()
 {
     const OpenLines::Kinds kinds = m_states->kinds();
-    m_lines->setKinds(kinds);
-    m_editor->setLineKinds(kinds);
     if (!kinds || !m_editor->shownLines().isEmpty())
         return;
     const QString next = PCommandKeys::instance().keyText(QStringLiteral("goNext"));
@@ -312,15 +317,27 @@ void MainWindow::updateCounter()
     const OpenLines &open = m_lines->openLines();
     if (!m_desk->document()->isOpen())
         return m_status->setOpenLines(-1, 0);
-    m_status->setOpenLines(open.count(), open.projectCount());
+    if (m_filters->work()->isActive() && m_filters->work()->asksForMore()) {
+        const FilterWork::Numbers numbers = m_filters->work()->numbers();
+        m_status->setFilteredLines(numbers.lines, numbers.projects);
+    } else {
+        m_status->setOpenLines(open.count(), open.projectCount());
+    }
     m_states->setCounts([&open](OpenLines::Kind kind) { return open.countOf(kind); });
 }
 
 void MainWindow::updateUndo()
 {
     const MappingDocument *const document = m_desk->document();
-    m_actions->setUndoTexts(document->canUndo() ? document->undoText() : QString(),
-                            document->canRedo() ? document->redoText() : QString());
+    QString undo = document->undoText();
+    // What another session did is not taken back unaware.
+    if (document->canUndo() && !document->steps().undoStep().rows.isEmpty()) {
+        const UndoStep &step = document->steps().undoStep();
+        undo = QStringLiteral("%1 (%2, %3)")
+                   .arg(undo, step.author,
+                        QLocale().toString(step.time.toLocalTime(), QLocale::ShortFormat));
+    }
+    m_actions->setUndoTexts(undo, document->canRedo() ? document->redoText() : QString());
     if (!document->canUndo())
         m_status->dropUndo();
 }

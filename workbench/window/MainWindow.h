@@ -10,6 +10,7 @@ class ConflictCommands;
 class DocumentDesk;
 class EditorArea;
 class ErpNumberColumn;
+class FilterCommands;
 class HelpDesk;
 class KeyedActions;
 class HistoryCommands;
@@ -56,6 +57,7 @@ public:
     [[nodiscard]] LineCommands *lines() const { return m_lines; }
     [[nodiscard]] ReviewCommands *review() const { return m_review; }
     [[nodiscard]] NeighbourCommands *neighbours() const { return m_neighbours; }
+    [[nodiscard]] FilterCommands *filters() const { return m_filters; }
     [[nodiscard]] ReleaseCommands *releases() const { return m_release; }
     [[nodiscard]] ConflictCommands *conflicts() const { return m_conflicts; }
     [[nodiscard]] ShareCommands *share() const { return m_share; }
@@ -125,6 +127,7 @@ private:
     ReleaseCommands *const m_release;
     RangeCommands *const m_ranges;
     LineStateFilter *const m_states;
+    FilterCommands *const m_filters;
     RemoteCatalogs *const m_remote;
     LinkDbHost *const m_linkDb;
     LinkDbCommands *const m_linkDbCommands;

@@ -75,19 +75,21 @@ void MainWindow::buildMenus()
           WorkbenchActions::WriteReport, Separator, WorkbenchActions::Quit});
     QMenu *const edit = addMenu("editMenu");
     fill(edit, m_actions,
-         {WorkbenchActions::Undo, WorkbenchActions::Redo, Separator, WorkbenchActions::ConfirmLines,
-          WorkbenchActions::ConfirmExpiredLines, WorkbenchActions::RemoveLines,
-          WorkbenchActions::RemoveConfirmLines, Separator, WorkbenchActions::AssignAll,
-          WorkbenchActions::CheckValueRanges});
+         {WorkbenchActions::Undo, WorkbenchActions::Redo, WorkbenchActions::Steps, Separator,
+          WorkbenchActions::ConfirmLines, WorkbenchActions::ConfirmExpiredLines,
+          WorkbenchActions::RemoveLines, WorkbenchActions::RemoveConfirmLines, Separator,
+          WorkbenchActions::AssignAll, WorkbenchActions::CheckValueRanges});
     edit->addActions({m_history->reasonAction(), m_linkDbCommands->proofAction()});
     fill(edit, m_actions,
          {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings});
     fill(addMenu("goMenu"), m_actions,
-         {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::JumpToLine,
+         {WorkbenchActions::NextOpen, WorkbenchActions::PreviousOpen, WorkbenchActions::NextProject,
+          WorkbenchActions::PreviousProject, WorkbenchActions::JumpToLine,
           WorkbenchActions::OtherTable, Separator, WorkbenchActions::Locate});
     fill(addMenu("reviewMenu"), m_actions,
          {WorkbenchActions::ReviewPatterns,
           WorkbenchActions::ReviewDifferences,
+          WorkbenchActions::FilterLines,
           Separator,
           WorkbenchActions::ConfirmPattern,
           WorkbenchActions::TakeOutLine,
@@ -198,6 +200,7 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::Quit, [this] { close(); });
     connectTo(WorkbenchActions::Undo, [this] { m_desk->document()->undo(); });
     connectTo(WorkbenchActions::Redo, [this] { m_desk->document()->redo(); });
+    connectTo(WorkbenchActions::Steps, [this] { m_history->showSteps(); });
     connectTo(WorkbenchActions::ConfirmLines, onMany(BulkOperation::Confirm));
     connectTo(WorkbenchActions::ConfirmExpiredLines, onMany(BulkOperation::ConfirmExpired));
     connectTo(WorkbenchActions::RemoveLines, onMany(BulkOperation::Remove));
@@ -214,6 +217,8 @@ void MainWindow::connectCommands()
     connect(m_locator, &LocatorDesk::settingChosen, this, &MainWindow::editSettings);
     connectTo(WorkbenchActions::NextOpen, [this] { m_lines->goNext(); });
     connectTo(WorkbenchActions::PreviousOpen, [this] { m_lines->goPrevious(); });
+    connectTo(WorkbenchActions::NextProject, [this] { m_lines->goProject(true); });
+    connectTo(WorkbenchActions::PreviousProject, [this] { m_lines->goProject(false); });
     connectTo(WorkbenchActions::JumpToLine, [this] { m_lines->jumpByDialog(); });
     connectTo(WorkbenchActions::OtherTable, [this] { m_editor->editor()->focusOtherTable(); });
     connectTo(WorkbenchActions::ShowReason, [this] {

@@ -1,5 +1,6 @@
 #include "ConflictCommands.h"
 #include "DocumentDesk.h"
+#include "FilterCommands.h"
 #include "MainWindow.h"
 #include "NeighbourCommands.h"
 #include "RangeCommands.h"
@@ -10,6 +11,7 @@
 
 #include <workbench/review/ConflictDock.h>
 #include <workbench/review/DifferencePanel.h>
+#include <workbench/review/FilterDock.h>
 #include <workbench/review/NeighbourDock.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/session/MappingDocument.h>
@@ -30,6 +32,8 @@ void MainWindow::addReview()
     m_review->panel()->hide();
     tabifyDockWidget(m_review->dock(), m_neighbours->dock());
     m_neighbours->dock()->hide();
+    tabifyDockWidget(m_review->dock(), m_filters->dock());
+    m_filters->dock()->hide();
     // Until the user wants other sizes.
     resizeDocks({m_review->dock()}, {460}, Qt::Horizontal);
     resizeDocks({m_review->panel()}, {240}, Qt::Vertical);
@@ -41,6 +45,12 @@ void MainWindow::connectReview()
         connect(m_actions->action(command), &QAction::triggered, this, slot);
     };
     connectTo(WorkbenchActions::ReviewPatterns, [this] { m_review->showPatterns(); });
+    connectTo(WorkbenchActions::FilterLines, [this] { m_filters->showFilter(); });
+    // A pattern's lines take the place of the filter's, as long as it is chosen.
+    connect(m_review->dock(), &PatternDock::chosenChanged, this, [this](int pattern) {
+        if (pattern < 0)
+            m_filters->apply();
+    });
     connectTo(WorkbenchActions::ReviewDifferences, [this] {
         m_review->showDifferences();
         // At first it takes what it gets, which is half of the window.

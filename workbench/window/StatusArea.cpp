@@ -70,6 +70,7 @@ void StatusArea::writeNote()
 
 void StatusArea::setOpenLines(int lines, int projects)
 {
+    m_isFiltered = false;
     m_lines = lines;
     m_projects = projects;
     m_open->setVisible(lines >= 0);
@@ -83,6 +84,22 @@ void StatusArea::setOpenLines(int lines, int projects)
     m_open->setToolTip(tr("Zeilen, die noch eine Entscheidung brauchen"));
 }
 
+void StatusArea::setFilteredLines(int lines, int projects)
+{
+    m_isFiltered = true;
+    m_lines = lines;
+    m_projects = projects;
+    m_open->show();
+    if (lines == 0) {
+        m_open->setText(tr("Filter: keine Zeile"));
+    } else {
+        //: Number of lines, number of projects.
+        m_open->setText(tr("Filter: <a href=\"next\">%1 Zeilen</a> in %2 Projekten")
+                            .arg(grouped(lines), grouped(projects)));
+    }
+    m_open->setToolTip(tr("Zeilen, die der Filter über alle Zeilen zeigt"));
+}
+
 void StatusArea::setReadOnly(const QString &reason)
 {
     m_readOnlyReason = reason;
@@ -94,7 +111,10 @@ void StatusArea::setReadOnly(const QString &reason)
 void StatusArea::retranslate()
 {
     writeNote();
-    setOpenLines(m_lines, m_projects);
+    if (m_isFiltered)
+        setFilteredLines(m_lines, m_projects);
+    else
+        setOpenLines(m_lines, m_projects);
     setReadOnly(m_readOnlyReason);
 }
 

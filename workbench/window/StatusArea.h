@@ -21,6 +21,8 @@ public:
     void dropUndo();
     /// Lines that need a decision and the projects that have them; negative: nothing is open.
     void setOpenLines(int lines, int projects);
+    /// The same of the lines that the filter over all lines accepts.
+    void setFilteredLines(int lines, int projects);
     /// Empty: the file can be changed.
     void setReadOnly(const QString &reason);
     [[nodiscard]] StatusProgress *progress() const { return m_progress; }
@@ -48,4 +50,5 @@ private:
     bool m_undoable = false;
     int m_lines = -1;
     int m_projects = 0;
+    bool m_isFiltered = false;
 };

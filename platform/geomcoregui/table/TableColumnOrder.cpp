@@ -13,6 +13,8 @@ namespace {
 
 const QString hiddenSection = QStringLiteral("HiddenColumns");
 const QString orderSection = QStringLiteral("ColumnOrder");
+const QString frozenSection = QStringLiteral("FrozenColumns");
+const QString noFrozen = QStringLiteral("-"); // no column is called so: names are encoded
 
 QStringList readNames(const QString &section, const QString &key)
 {
@@ -51,6 +53,10 @@ void TableColumnOrder::load()
     m_key = TableColumnNames::ofTable(*m_model);
     m_hidden = m_key.isEmpty() ? QStringList() : readNames(hiddenSection, m_key);
     m_order = m_key.isEmpty() ? QStringList() : readNames(orderSection, m_key);
+    m_frozen.clear();
+    if (!m_key.isEmpty())
+        m_frozen =
+            PApplication::getAppConfig()->getItemValue(m_key, frozenSection, m_frozen).GetString();
 }
 
 void TableColumnOrder::apply()
@@ -73,6 +79,53 @@ void TableColumnOrder::apply()
         if (from != visual)
             header->moveSection(from, visual);
     }
+    applyFrozen();
+}
+
+void TableColumnOrder::setFreezesFirst(bool freezes)
+{
+    m_freezesFirst = freezes;
+    applyFrozen();
+}
+
+void TableColumnOrder::applyFrozen()
+{
+    const QHeaderView *const header = m_grid->horizontalHeader();
+    QList<int> columns;
+    bool isComplete = m_frozen == noFrozen || (m_frozen.isEmpty() && !m_freezesFirst);
+    for (int visual = 0; visual < m_model->columnCount() && !isComplete; ++visual) {
+        const int column = header->logicalIndex(visual);
+        columns += column;
+        isComplete = m_frozen.isEmpty()
+                         ? column >= m_model->statusColumnCount() && !m_grid->isColumnHidden(column)
+                         : TableColumnNames::encoded(
+                               TableColumnNames::ofColumn(*m_model, column)) == m_frozen;
+    }
+    // The one that the user chose is gone.
+    if (!isComplete)
+        columns.clear();
+    m_grid->setFrozenColumns(columns);
+}
+
+bool TableColumnOrder::hasFrozen() const
+{
+    return !m_grid->frozenColumns().isEmpty();
+}
+
+void TableColumnOrder::freezeUpTo(int column)
+{
+    if (column < 0 || column >= m_model->columnCount())
+        return;
+    m_frozen = TableColumnNames::encoded(TableColumnNames::ofColumn(*m_model, column));
+    store();
+    applyFrozen();
+}
+
+void TableColumnOrder::freezeNone()
+{
+    m_frozen = noFrozen;
+    store();
+    applyFrozen();
 }
 
 void TableColumnOrder::onMoved()
@@ -84,6 +137,7 @@ void TableColumnOrder::onMoved()
     for (int visual = 0; visual < m_model->columnCount(); ++visual)
         m_order += TableColumnNames::ofColumn(*m_model, header->logicalIndex(visual));
     store();
+    applyFrozen();
 }
 
 void TableColumnOrder::store() const
@@ -92,6 +146,7 @@ void TableColumnOrder::store() const
         return;
     writeNames(hiddenSection, m_key, m_hidden);
     writeNames(orderSection, m_key, m_order);
+    PApplication::getAppConfig()->SetValue(m_key, frozenSection, m_frozen);
 }
 
 bool TableColumnOrder::canHide(int column) const

@@ -6,8 +6,8 @@
 class TableGrid;
 class VkTableModel;
 
-/// Which columns of a grid a user hides and in which order they stand, kept in the application's
-/// configuration by table. Columns are called by TableColumnNames.
+/// Which columns of a grid a user hides, in which order they stand and which stay in sight, kept in
+/// the application's configuration by table. Columns are called by TableColumnNames.
 class TableColumnOrder : public QObject
 {
     Q_OBJECT
@@ -30,6 +30,16 @@ public:
     void move(int column, int step);
     [[nodiscard]] bool canMove(int column, int step) const;
 
+    /// Without a choice of the user icons and the first column stay while others scroll.
+    void setFreezesFirst(bool freezes);
+    /// All up to this column stay.
+    void freezeUpTo(int column);
+    /// All columns scroll.
+    void freezeNone();
+    [[nodiscard]] bool hasFrozen() const;
+    /// Tells the grid, after columns came, went or moved.
+    void applyFrozen();
+
 Q_SIGNALS:
     void hiddenChanged();
 
@@ -44,4 +54,6 @@ private:
     QString m_key; ///< of the choices
     QStringList m_hidden;
     QStringList m_order; ///< empty: as the table has it
+    bool m_freezesFirst = false;
+    QString m_frozen; ///< the last one that stays; empty: no choice was made
 };

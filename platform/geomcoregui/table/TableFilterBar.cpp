@@ -8,6 +8,9 @@
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 
+#include <gui/application/PCommandKeys.h>
+
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -25,6 +28,17 @@ constexpr char variableProperty[] = "variable";
 int variableOf(const QLineEdit *edit)
 {
     return edit->property(variableProperty).toInt();
+}
+
+/// Commands of the table that mean the same in a field.
+bool isOfTable(const QKeyEvent &key)
+{
+    const PCommandKeys &keys = PCommandKeys::instance();
+    const auto isPressed = [&](const char *command) {
+        return keys.isPressed(QLatin1String(command), key);
+    };
+    return isPressed("tableFind") || isPressed("tableFindNext") || isPressed("tableFindPrevious") ||
+           isPressed("tableFilter");
 }
 
 } // namespace
@@ -154,10 +168,17 @@ void TableFilterBar::place()
     m_clear->raise();
     for (int column = m_model->statusColumnCount(); column < m_model->columnCount(); ++column) {
         if (QLineEdit *const edit = editOf(column)) {
-            edit->setGeometry(begin + header->sectionViewportPosition(column), 0,
-                              header->sectionSize(column), height());
+            edit->setGeometry(begin + m_grid->columnPlace(column), 0, header->sectionSize(column),
+                              height());
         }
     }
+    // Those of columns that stay lie over the others.
+    for (const int column : m_grid->frozenColumns()) {
+        QLineEdit *const edit = column < m_model->statusColumnCount() ? nullptr : editOf(column);
+        if (edit)
+            edit->raise();
+    }
+    m_clear->raise();
 }
 
 void TableFilterBar::warm(const QLineEdit *edit) const
@@ -177,9 +198,15 @@ bool TableFilterBar::eventFilter(QObject *object, QEvent *event)
         if (m_model->rowCount() > 0)
             m_grid->scrollTo(m_model->index(std::max(0, m_grid->rowAt(0)), column));
     }
-    if (!edit || event->type() != QEvent::KeyPress)
+    if (!edit || (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride))
         return QWidget::eventFilter(object, event);
     const auto *const key = static_cast<QKeyEvent *>(event);
+    if (isOfTable(*key)) {
+        QCoreApplication::sendEvent(m_grid, event);
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(object, event);
     if (key->key() == Qt::Key_Escape && !edit->text().isEmpty()) {
         edit->clear();
         return true;

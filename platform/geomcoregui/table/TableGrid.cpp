@@ -1,5 +1,6 @@
 #include "TableGrid.h"
 
+#include "FrozenHeader.h"
 #include "TableDelegate.h"
 #include "VkTableModel.h"
 
@@ -7,6 +8,8 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -46,6 +49,160 @@ void TableGrid::setMarkedCells(const VKTab::LineId &line, const QSet<int> &varia
 {
     m_delegate->setMarkedCells(line, variables);
     viewport()->update();
+}
+
+void TableGrid::setFrozenColumns(const QList<int> &columns)
+{
+    m_frozen = columns;
+    if (!m_frozen.isEmpty() && !m_frozenHeader)
+        m_frozenHeader = new FrozenHeader(this);
+    updateGeometries();
+    viewport()->update();
+}
+
+QList<int> TableGrid::frozenColumns() const
+{
+    QList<int> columns;
+    int width = 0;
+    for (const int column : m_frozen) {
+        width += columnWidth(column); // 0 if it is hidden
+        if (width > viewport()->width() / 2)
+            break;
+        columns += column;
+    }
+    return columns;
+}
+
+int TableGrid::frozenWidth() const
+{
+    int width = 0;
+    for (const int column : frozenColumns())
+        width += columnWidth(column);
+    return width;
+}
+
+int TableGrid::columnPlace(int column) const
+{
+    int place = 0;
+    for (const int frozen : frozenColumns()) {
+        if (frozen == column)
+            return place;
+        place += columnWidth(frozen);
+    }
+    return columnViewportPosition(column);
+}
+
+bool TableGrid::isScrolled() const
+{
+    return !m_frozen.isEmpty() && horizontalScrollBar()->value() > 0;
+}
+
+QModelIndex TableGrid::indexAt(const QPoint &position) const
+{
+    if (!isScrolled() || position.x() < 0 || position.x() >= frozenWidth())
+        return QTableView::indexAt(position);
+    const int row = rowAt(position.y());
+    for (const int column : frozenColumns()) {
+        if (row >= 0 && columnWidth(column) > 0 &&
+            position.x() < columnPlace(column) + columnWidth(column))
+            return model()->index(row, column, rootIndex());
+    }
+    return {};
+}
+
+QRect TableGrid::visualRect(const QModelIndex &index) const
+{
+    QRect place = QTableView::visualRect(index);
+    if (index.isValid() && isScrolled() && frozenColumns().contains(index.column()))
+        place.moveLeft(columnPlace(index.column()));
+    return place;
+}
+
+void TableGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    const int before = horizontalScrollBar()->value();
+    QTableView::scrollTo(index, hint);
+    if (m_frozen.isEmpty() || !index.isValid())
+        return;
+    if (frozenColumns().contains(index.column())) {
+        horizontalScrollBar()->setValue(before);
+        return;
+    }
+    // What stays where it is must not lie over it.
+    const int under = frozenWidth() - columnViewportPosition(index.column());
+    if (under > 0)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - under);
+}
+
+void TableGrid::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    if (m_frozen.isEmpty() || dx == 0)
+        return;
+    viewport()->update(); // a part of what was there stays
+    updateGeometries();
+}
+
+void TableGrid::updateGeometries()
+{
+    QTableView::updateGeometries();
+    if (m_frozenHeader)
+        m_frozenHeader->place(isScrolled() ? frozenColumns() : QList<int>());
+}
+
+void TableGrid::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (!isScrolled())
+        return;
+    QPainter painter(viewport());
+    const QRect frozen(0, 0, frozenWidth(), viewport()->height());
+    painter.setClipRect(frozen);
+    paintFrozen(painter, frozen & event->rect());
+}
+
+void TableGrid::paintFrozen(QPainter &painter, const QRect &exposed)
+{
+    if (exposed.isEmpty())
+        return;
+    painter.fillRect(exposed, palette().brush(QPalette::Base));
+    const int first = rowAt(exposed.top());
+    const QList<int> columns = frozenColumns();
+    for (int row = first; row >= 0 && row < model()->rowCount(); ++row) {
+        const int top = rowViewportPosition(row);
+        if (top > exposed.bottom())
+            break;
+        for (const int column : columns) {
+            const QRect place(columnPlace(column), top, columnWidth(column), rowHeight(row));
+            if (!place.isEmpty())
+                paintFrozenCell(painter, model()->index(row, column, rootIndex()), place);
+        }
+    }
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.drawLine(frozenWidth() - 1, exposed.top(), frozenWidth() - 1, exposed.bottom());
+}
+
+/// As the view itself does it.
+void TableGrid::paintFrozenCell(QPainter &painter, const QModelIndex &index, const QRect &place)
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const bool selected = selectionModel()->isSelected(index);
+    option.rect = place.adjusted(0, 0, showGrid() ? -1 : 0, showGrid() ? -1 : 0);
+    option.state.setFlag(QStyle::State_Selected, selected);
+    option.state.setFlag(QStyle::State_HasFocus, hasFocus() && index == currentIndex());
+    if (!isActiveWindow())
+        option.palette.setCurrentColorGroup(QPalette::Inactive);
+    if (alternatingRowColors() && index.row() % 2 == 1)
+        option.features |= QStyleOptionViewItem::Alternate;
+    style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &option, &painter, this);
+    itemDelegate()->paint(&painter, option, index);
+    if (!showGrid())
+        return;
+    const int hint = style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this);
+    painter.setPen(QColor::fromRgba(static_cast<QRgb>(hint)));
+    painter.drawLine(place.bottomLeft(), place.bottomRight());
+    painter.drawLine(place.topRight(), place.bottomRight());
 }
 
 void TableGrid::keyboardSearch(const QString &) {}

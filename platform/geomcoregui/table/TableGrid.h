@@ -5,6 +5,7 @@
 #include <QSet>
 #include <QTableView>
 
+class FrozenHeader;
 class TableDelegate;
 
 /// The grid of a table view: rows of one height, whole lines selected, and what a mouse or a key
@@ -21,6 +22,19 @@ public:
     void setMarkedText(const QString &text);
     /// Cells of a line that differ from something, by the numbers of their variables.
     void setMarkedCells(const VKTab::LineId &line, const QSet<int> &variables);
+    /// These columns, in this order the first ones that are shown, stay where they are while the
+    /// others scroll; none: all scroll. Where they would take more than half of the width only the
+    /// first of them stay.
+    void setFrozenColumns(const QList<int> &columns);
+    /// Those that stay now.
+    [[nodiscard]] QList<int> frozenColumns() const;
+    [[nodiscard]] int frozenWidth() const;
+    /// Where a column begins in the viewport, frozen or not.
+    [[nodiscard]] int columnPlace(int column) const;
+
+    [[nodiscard]] QModelIndex indexAt(const QPoint &position) const override;
+    [[nodiscard]] QRect visualRect(const QModelIndex &index) const override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
     /// Letters belong to the shortcuts of the window; finding has its bar.
     void keyboardSearch(const QString &text) override;
 
@@ -42,6 +56,9 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void updateGeometries() override;
     bool viewportEvent(QEvent *event) override;
     /// Ctrl+Home and Ctrl+End select the first and the last line, with Shift all lines up to there.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
@@ -57,7 +74,13 @@ private:
     [[nodiscard]] bool staysOnUnselectedLine(const QKeyEvent &event) const;
     void announceClick(const QModelIndex &index, const QMouseEvent &event);
 
+    [[nodiscard]] bool isScrolled() const;
+    void paintFrozen(QPainter &painter, const QRect &exposed);
+    void paintFrozenCell(QPainter &painter, const QModelIndex &index, const QRect &place);
+
     TableDelegate *m_delegate;
+    QList<int> m_frozen;
+    FrozenHeader *m_frozenHeader = nullptr; ///< over the beginning of the header
     QPersistentModelIndex m_pressed;
     bool m_pressedBelow = false;
     int m_wheelRest = 0; // eighths of a degree that make no step yet

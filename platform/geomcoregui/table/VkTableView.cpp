@@ -1,5 +1,6 @@
 #include "VkTableView.h"
 
+#include "TableColumnOrder.h"
 #include "TableFilterBar.h"
 #include "TableFindBar.h"
 #include "TableGrid.h"
@@ -148,6 +149,21 @@ void VkTableView::copySelection() const
 void VkTableView::showFindBar()
 {
     d->findBar->open();
+}
+
+void VkTableView::setFreezesFirst(bool freezes)
+{
+    d->columnOrder->setFreezesFirst(freezes);
+}
+
+bool VkTableView::isFrozen(int column) const
+{
+    return d->grid->frozenColumns().contains(column);
+}
+
+int VkTableView::frozenWidth() const
+{
+    return d->grid->frozenWidth();
 }
 
 void VkTableView::setFiltersKept(bool kept)

@@ -17,8 +17,8 @@ class VkTableViewPrivate;
 /// Ctrl+Minus and Ctrl+0 zoom, Space or Enter on an icon clicks it.
 ///
 /// Widths that a user gives to columns are kept in the application's configuration, by table and
-/// variable, and so are their order and which of them are hidden. The object names are "grid",
-/// "findBar", "filterBar" and "tableTitle".
+/// variable, and so are their order, which of them are hidden and which stay while others scroll.
+/// The object names are "grid", "findBar", "filterBar" and "tableTitle".
 class VELKGEOMCOREGUI_EXPORT VkTableView : public QWidget, public VkTableViewBase
 {
     Q_OBJECT
@@ -86,6 +86,12 @@ public:
     /// Quick filters and the order of rows are kept in the application's configuration, by table,
     /// and come back with it. Not at first.
     void setFiltersKept(bool kept);
+    /// Columns with icons and the first one of the values stay in sight while the others scroll,
+    /// unless the user froze others of this table. Not at first.
+    void setFreezesFirst(bool freezes);
+    [[nodiscard]] bool isFrozen(int column) const;
+    /// Of the columns that stay, in pixels from the left of the grid's viewport.
+    [[nodiscard]] int frozenWidth() const;
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -91,6 +91,10 @@ void VkTableViewPrivate::addColumnRows(QMenu *menu, int column)
         [this, column] { columnOrder->move(column, 1); });
     row("hideColumn", tableText("Spalte ausblenden"), columnOrder->canHide(column),
         [this, column] { columnOrder->hide(column); });
+    row("freezeColumns", tableText("Spalten bis hier fixieren"), column >= 0,
+        [this, column] { columnOrder->freezeUpTo(column); });
+    row("freezeNone", tableText("Fixierung aufheben"), columnOrder->hasFrozen(),
+        [this] { columnOrder->freezeNone(); });
     row("showColumns", tableText("Alle Spalten einblenden"), !columnOrder->hidden().isEmpty(),
         [this] { columnOrder->showAll(); });
 }

@@ -113,10 +113,13 @@ void VkTableViewPrivate::connectGrid()
                          header->viewport()->mapToGlobal(position));
             });
     connect(model, &QAbstractItemModel::modelReset, this, &VkTableViewPrivate::onModelReset);
-    connect(model, &VkTableModel::statusColumnCameIntoUse, this,
-            [this] { widths->showUsedColumns(); });
+    connect(model, &VkTableModel::statusColumnCameIntoUse, this, [this] {
+        widths->showUsedColumns();
+        columnOrder->applyFrozen();
+    });
     connect(columnOrder, &TableColumnOrder::hiddenChanged, this, [this] {
         widths->showUsedColumns();
+        columnOrder->applyFrozen();
         filterBar->retranslate();
     });
     connect(grid, &TableGrid::cellClicked, this, &VkTableViewPrivate::onCellClicked);
@@ -143,6 +146,7 @@ void VkTableViewPrivate::setTable(const VKTab::ContentRef &table)
     columnOrder->load();
     columnOrder->apply();
     widths->apply();
+    columnOrder->applyFrozen();
     takeFilters();
     showTitle();
 }

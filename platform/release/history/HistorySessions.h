@@ -1,5 +1,7 @@
 #pragma once
 
+#include <release/VelkReleaseGlobal.h>
+
 #include <QByteArray>
 #include <QHash>
 #include <QList>
@@ -10,7 +12,7 @@ namespace VelkRelease {
 
 /// The rows of several journals by session. Sessions that begin with the same record are one, and a
 /// record that another file has, too, counts once, so that copies of a journal add nothing.
-class HistorySessions
+class VELKRELEASE_EXPORT HistorySessions
 {
 public:
     struct Session

@@ -33,6 +33,7 @@
 #include <workbench/window/RepositoryLoginDialog.h>
 #include <workbench/window/ReviewCommands.h>
 #include <workbench/window/SettingsDialog.h>
+#include <workbench/window/StepListDialog.h>
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <QAction>
@@ -145,6 +146,10 @@ void EveryWindow::addRows()
         auto *const help = new HelpWindow(nullptr);
         help->showTopic("manual/tour.md");
         return help;
+    });
+    QTest::newRow("steps") << byHand([](WindowFixture &fixture) {
+        fixture.open(fixture.mappingFile());
+        return new StepListDialog(fixture.window->desk()->document(), nullptr);
     });
     QTest::newRow("legend") << byHand([](WindowFixture &) { return new LegendDialog(nullptr); });
     QTest::newRow("login") << byHand([](WindowFixture &) {

@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QToolTip>
@@ -61,6 +62,47 @@ private Q_SLOTS:
         // A key for each line, a step of its own each.
         QCOMPARE(fixture.confirmedLines(), before + 10);
         QCOMPARE(fixture.window->desk()->document()->undoTexts().size(), 10);
+    }
+
+    void keysStayInTheTableWhenAllIsReadAnew()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_F5);
+        QCOMPARE(QApplication::focusWidget(), fixture.sourceView()->grid());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(fixture.sourceView()->findChild<QWidget *>("filterBar")->isVisible());
+        // In the row of filters its keys mean the same.
+        auto *const edit =
+            fixture.sourceView()->findChild<QWidget *>("filterBar")->findChild<QLineEdit *>();
+        edit->setFocus();
+        QTest::keyClick(edit, Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(fixture.sourceView()->findChild<QWidget *>("findBar")->isVisible());
+        edit->setFocus();
+        QTest::keyClick(edit, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(!fixture.sourceView()->findChild<QWidget *>("filterBar")->isVisible());
+    }
+
+    void fromProjectToProject()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        const EditorArea *const editor = fixture.window->editor();
+        const OpenLines &open = fixture.window->lines()->openLines();
+        QSet<QString> seen;
+        for (int i = 0; i < open.projectCount(); ++i) {
+            fixture.press(Qt::Key_F8, Qt::ControlModifier);
+            QVERIFY(open.count(editor->currentProject()) > 0);
+            QVERIFY2(editor->currentLine() >= 0, qPrintable(editor->currentPath()));
+            seen.insert(editor->currentPath());
+        }
+        QCOMPARE(seen.size(), open.projectCount());
+        const QString last = editor->currentPath();
+        fixture.press(Qt::Key_F8, Qt::ControlModifier);
+        fixture.press(Qt::Key_F8, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(editor->currentPath(), last);
     }
 
     void theStatusBarStillTellsTheDecision()

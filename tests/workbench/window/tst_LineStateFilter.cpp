@@ -324,7 +324,9 @@ void tst_LineStateFilter::goesWithTheDocument()
     QVERIFY(fixture.window->desk()->close());
     QVERIFY(!fixture.action("stateToCheck")->isChecked());
     QVERIFY(!fixture.action("stateToCheck")->isEnabled());
+    // The choice is kept for the next one.
     fixture.open(file);
+    QVERIFY(fixture.action("stateToCheck")->isChecked());
     QVERIFY(fixture.window->editor()->selectProject(equal));
     QVERIFY(!fixture.window->editor()->shownLines().isEmpty());
 }

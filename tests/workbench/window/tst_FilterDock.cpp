@@ -1,0 +1,269 @@
+#include "WindowFixture.h"
+
+#include <workbench/review/FilterDock.h>
+#include <workbench/session/FilterWork.h>
+#include <workbench/session/MappingDocument.h>
+#include <workbench/session/OpenLines.h>
+#include <workbench/window/DocumentDesk.h>
+#include <workbench/window/EditorArea.h>
+#include <workbench/window/FilterCommands.h>
+#include <workbench/window/MainWindow.h>
+#include <workbench/window/StatusArea.h>
+#include <workbench/window/WorkbenchSettings.h>
+
+#include <mapping/view/CatalogMappingWidget.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+using VelkRelease::LineFilter;
+using VelkRelease::LineTrait;
+
+namespace {
+
+const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
+
+} // namespace
+
+/// The filter over all lines of a release, by keys and mouse.
+class tst_FilterDock : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reasonsWithNumbers();
+    void treeTableAndCounterFollow();
+    void combinedAndNot();
+    void walksTheFilter();
+    void byWhom();
+    void statesAreTheSwitches();
+    void nothingFits();
+    void isKept();
+    void givesWay();
+
+private:
+    static FilterCommands *filters(const WindowFixture &fixture)
+    {
+        return fixture.window->filters();
+    }
+    static void show(WindowFixture &fixture)
+    {
+        fixture.open(fixture.mappingFile());
+        fixture.press(Qt::Key_L, Qt::ControlModifier);
+        QTRY_VERIFY(filters(fixture)->work()->isKnown());
+    }
+    static QTreeWidget *list(const WindowFixture &fixture)
+    {
+        return fixture.window->findChild<QTreeWidget *>("FilterList");
+    }
+    static QTreeWidgetItem *item(const WindowFixture &fixture, LineTrait trait, const QString &text)
+    {
+        QTreeWidgetItem *const group = list(fixture)->topLevelItem(int(trait));
+        for (int i = 0; i < group->childCount(); ++i) {
+            if (group->child(i)->text(0) == text)
+                return group->child(i);
+        }
+        return nullptr;
+    }
+    /// By keyboard.
+    static void tick(const WindowFixture &fixture, LineTrait trait, const QString &text)
+    {
+        QTreeWidgetItem *const found = item(fixture, trait, text);
+        QVERIFY2(found, qPrintable(text));
+        list(fixture)->setFocus();
+        list(fixture)->setCurrentItem(found);
+        QTest::keyClick(list(fixture), Qt::Key_Space);
+        QCoreApplication::processEvents();
+    }
+    static int number(const WindowFixture &fixture, LineTrait trait, const QString &text)
+    {
+        const QTreeWidgetItem *const found = item(fixture, trait, text);
+        return found ? QLocale().toInt(found->text(1)) : -1;
+    }
+    static QString counter(const WindowFixture &fixture)
+    {
+        return fixture.window->status()->findChild<QLabel *>("statusOpen")->text();
+    }
+    /// All lines of the release that the filter accepts.
+    static int hits(const WindowFixture &fixture)
+    {
+        return filters(fixture)->work()->numbers().lines;
+    }
+};
+
+void tst_FilterDock::reasonsWithNumbers()
+{
+    WindowFixture fixture;
+    show(fixture);
+    QCOMPARE(fixture.window->findChild<QLabel *>("FilterSum")->text(), "Kein Filter: alle Zeilen");
+    // All open lines have one reason.
+    const OpenLines open(fixture.window->desk()->document());
+    int sum = 0;
+    const QTreeWidgetItem *const reasons = list(fixture)->topLevelItem(int(LineTrait::Reason));
+    for (int i = 1; i < reasons->childCount(); ++i) {
+        if (reasons->child(i)->text(0) != "(nichts davon)")
+            sum += QLocale().toInt(reasons->child(i)->text(1));
+    }
+    QCOMPARE(sum, open.count());
+    QCOMPARE(number(fixture, LineTrait::State, "Zu prüfen"), open.countOf(OpenLines::ToCheck));
+    QCOMPARE(number(fixture, LineTrait::State, "Ohne Ziel"), open.countOf(OpenLines::NotFound));
+}
+
+void tst_FilterDock::treeTableAndCounterFollow()
+{
+    WindowFixture fixture;
+    show(fixture);
+    const int unlike = number(fixture, LineTrait::Reason, "zu unähnlich");
+    QVERIFY(unlike > 0);
+    tick(fixture, LineTrait::Reason, "zu unähnlich");
+    QCOMPARE(hits(fixture), unlike);
+    const FilterWork::Numbers numbers = filters(fixture)->work()->numbers();
+    QTRY_VERIFY2(
+        counter(fixture).startsWith("Filter: ") &&
+            counter(fixture).contains(QStringLiteral(">%1 Zeilen<").arg(unlike)) &&
+            counter(fixture).contains(QStringLiteral("in %1 Projekten").arg(numbers.projects)),
+        qPrintable(counter(fixture)));
+    // The projects that are shown are those that have any, with their lines alone.
+    const auto chosen = filters(fixture)->work()->lines();
+    for (auto project = chosen.cbegin(); project != chosen.cend(); ++project) {
+        QVERIFY(fixture.window->editor()->selectProject(project.key().path));
+        QList<int> shown = fixture.window->editor()->shownLines();
+        std::ranges::sort(shown);
+        QCOMPARE(std::vector<int>(shown.begin(), shown.end()), project.value());
+    }
+    QTest::mouseClick(fixture.window->findChild<QPushButton *>("FilterClear"), Qt::LeftButton);
+    QTRY_VERIFY(counter(fixture).startsWith("Offen: "));
+    QVERIFY(!fixture.window->editor()->editor()->linesAreFiltered());
+}
+
+void tst_FilterDock::combinedAndNot()
+{
+    WindowFixture fixture;
+    show(fixture);
+    tick(fixture, LineTrait::State, "Zu prüfen");
+    const int toCheck = hits(fixture);
+    const QTreeWidgetItem *const columns = list(fixture)->topLevelItem(int(LineTrait::Column));
+    QVERIFY(columns->childCount() > 1);
+    const QString column = columns->child(1)->text(0);
+    const int differing = number(fixture, LineTrait::Column, column);
+    QVERIFY(differing > 0 && differing < toCheck);
+    tick(fixture, LineTrait::Column, column);
+    QCOMPARE(hits(fixture), differing);
+    tick(fixture, LineTrait::Column, "nicht die gewählten");
+    QCOMPARE(hits(fixture), toCheck - differing);
+}
+
+void tst_FilterDock::walksTheFilter()
+{
+    WindowFixture fixture;
+    show(fixture);
+    tick(fixture, LineTrait::Reason, "zu unähnlich");
+    const int lines = hits(fixture);
+    QSet<QPair<QString, int>> seen;
+    for (int i = 0; i < lines; ++i) {
+        fixture.press(Qt::Key_F8);
+        const EditorArea *const editor = fixture.window->editor();
+        QVERIFY(
+            filters(fixture)->work()->accepts({editor->currentProject(), editor->currentLine()}));
+        seen.insert({editor->currentPath(), editor->currentLine()});
+    }
+    QCOMPARE(seen.size(), lines);
+    // A decision takes its line out, and leads to the next one.
+    const LineRef first{fixture.window->editor()->currentProject(),
+                        fixture.window->editor()->currentLine()};
+    fixture.press(Qt::Key_X, Qt::ControlModifier);
+    QTRY_COMPARE(hits(fixture), lines - 1);
+    QVERIFY(!filters(fixture)->work()->accepts(first));
+    fixture.press(Qt::Key_F8, Qt::ShiftModifier);
+    const EditorArea *const editor = fixture.window->editor();
+    QVERIFY(filters(fixture)->work()->accepts({editor->currentProject(), editor->currentLine()}));
+}
+
+void tst_FilterDock::byWhom()
+{
+    WindowFixture fixture;
+    show(fixture);
+    QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+    fixture.press(Qt::Key_V);
+    QTRY_COMPARE(fixture.confirmedLines(), 1);
+    const QTreeWidgetItem *const authors = list(fixture)->topLevelItem(int(LineTrait::Author));
+    QTRY_COMPARE(authors->childCount(), 3); // "not", nobody, and who
+    const QString self = authors->child(1)->text(0) == "niemand" ? authors->child(2)->text(0)
+                                                                 : authors->child(1)->text(0);
+    tick(fixture, LineTrait::Author, self);
+    QCOMPARE(hits(fixture), 1);
+    QVERIFY(fixture.window->editor()->selectProject(din933));
+    QCOMPARE(fixture.window->editor()->shownLines(), QList<int>{3});
+}
+
+/// One choice in two places.
+void tst_FilterDock::statesAreTheSwitches()
+{
+    WindowFixture fixture;
+    show(fixture);
+    fixture.action("stateNotFound")->trigger();
+    QCOMPARE(item(fixture, LineTrait::State, "Ohne Ziel")->checkState(0), Qt::Checked);
+    tick(fixture, LineTrait::State, "Ohne Ziel");
+    QVERIFY(!fixture.action("stateNotFound")->isChecked());
+    tick(fixture, LineTrait::State, "Zu prüfen");
+    QVERIFY(fixture.action("stateToCheck")->isChecked());
+    QCOMPARE(fixture.window->editor()->lineKinds(), OpenLines::Kinds(OpenLines::ToCheck));
+    tick(fixture, LineTrait::State, "nicht die gewählten");
+    QVERIFY(!fixture.action("stateToCheck")->isChecked());
+    QCOMPARE(fixture.window->editor()->lineKinds(), OpenLines::Kinds());
+    QVERIFY(fixture.window->editor()->editor()->linesAreFiltered() ||
+            fixture.window->editor()->currentPath().isEmpty());
+}
+
+void tst_FilterDock::nothingFits()
+{
+    WindowFixture fixture;
+    show(fixture);
+    QVERIFY(fixture.window->editor()->selectProject(din933));
+    LineFilter filter;
+    filter.of(LineTrait::Author) = {{"nobody of this name"}, false};
+    filters(fixture)->work()->setFilter(filter);
+    QVERIFY(fixture.window->editor()->shownLines().isEmpty());
+    QTRY_COMPARE(counter(fixture), "Filter: keine Zeile");
+    fixture.press(Qt::Key_F8);
+    QCOMPARE(fixture.window->status()->note(), "Keine Zeile ist mehr im Filter");
+    // It can be taken away where it stands.
+    tick(fixture, LineTrait::Author, "nobody of this name");
+    QVERIFY(!fixture.window->editor()->shownLines().isEmpty());
+}
+
+void tst_FilterDock::isKept()
+{
+    WindowFixture fixture;
+    show(fixture);
+    tick(fixture, LineTrait::Reason, "zu unähnlich");
+    const int lines = hits(fixture);
+    const QString file = fixture.window->desk()->document()->mappingFile();
+    fixture.closeWindow();
+    fixture.makeWindow();
+    fixture.open(file);
+    QTRY_VERIFY(filters(fixture)->work()->isActive());
+    QCOMPARE(hits(fixture), lines);
+    QTRY_VERIFY(counter(fixture).startsWith("Filter: "));
+}
+
+/// A project without such a line is wanted all the same.
+void tst_FilterDock::givesWay()
+{
+    WindowFixture fixture;
+    show(fixture);
+    LineFilter filter;
+    filter.of(LineTrait::Author) = {{"nobody of this name"}, false};
+    filters(fixture)->work()->setFilter(filter);
+    QVERIFY(fixture.window->editor()->selectProject(din933));
+    QVERIFY(filters(fixture)->work()->filter().isEmpty());
+    QVERIFY(!fixture.window->editor()->shownLines().isEmpty());
+    QCOMPARE(fixture.window->status()->note(),
+             "Der Filter ist aufgehoben: das Projekt hat keine Zeile darin");
+}
+
+QTEST_MAIN(tst_FilterDock)
+#include "tst_FilterDock.moc"
