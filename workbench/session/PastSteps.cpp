@@ -178,7 +178,8 @@ void PastSteps::read(const QString &mappingFile, const QString &sourceDate, Undo
     const auto add = [&all](const HistorySessions &sessions, bool isAdopted) {
         for (const HistorySessions::Session &session : sessions.sessions()) {
             if (!session.opening.isEmpty())
-                all.push_back({stampOf(JournalReader::parse(session.opening)), &session, isAdopted});
+                all.push_back(
+                    {stampOf(JournalReader::parse(session.opening)), &session, isAdopted});
         }
     };
     add(own, false);
