@@ -4669,8 +4669,8 @@ Projekt: %1
         <translation>Verze a adresáře</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Kroky...</translation>
+        <source>Schritte...</source>
+        <translation>Kroky...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

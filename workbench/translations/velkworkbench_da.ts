@@ -4598,8 +4598,8 @@ Linje: %2
         <translation>Version og mapper</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Trin...</translation>
+        <source>Schritte...</source>
+        <translation>Trin...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4598,8 +4598,8 @@ Line: %2
         <translation>Opens the manual at the place for where you are</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>S&amp;teps...</translation>
+        <source>Schritte...</source>
+        <translation>Steps...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

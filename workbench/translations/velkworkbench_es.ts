@@ -4598,8 +4598,8 @@ Fila: %2
         <translation>Versión y directorios</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>P&amp;asos...</translation>
+        <source>Schritte...</source>
+        <translation>Pasos...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4598,8 +4598,8 @@ Rivi: %2
         <translation>Versio ja hakemistot</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Vaiheet...</translation>
+        <source>Schritte...</source>
+        <translation>Vaiheet...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4598,8 +4598,8 @@ Ligne : %2
         <translation>Version et répertoires</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>É&amp;tapes...</translation>
+        <source>Schritte...</source>
+        <translation>Étapes...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

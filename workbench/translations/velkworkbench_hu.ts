@@ -4527,8 +4527,8 @@ Sor: %2
         <translation>Verzió és könyvtárak</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Lépések...</translation>
+        <source>Schritte...</source>
+        <translation>Lépések...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

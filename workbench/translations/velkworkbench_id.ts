@@ -4527,8 +4527,8 @@ Baris: %2
         <translation>Versi dan direktori</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Langkah...</translation>
+        <source>Schritte...</source>
+        <translation>Langkah...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4598,8 +4598,8 @@ Riga: %2
         <translation>Versione e directory</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>Pa&amp;ssi...</translation>
+        <source>Schritte...</source>
+        <translation>Passi...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

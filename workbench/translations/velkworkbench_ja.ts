@@ -4527,8 +4527,8 @@ Zeile: %2
         <translation>バージョンとディレクトリ</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>ステップ(&amp;S)...</translation>
+        <source>Schritte...</source>
+        <translation>ステップ...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

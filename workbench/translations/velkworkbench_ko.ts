@@ -4527,8 +4527,8 @@ Zeile: %2
         <translation>버전과 디렉터리</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>단계(&amp;S)...</translation>
+        <source>Schritte...</source>
+        <translation>단계...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

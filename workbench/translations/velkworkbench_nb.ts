@@ -4598,8 +4598,8 @@ Linje: %2
         <translation>Versjon og mapper</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Trinn...</translation>
+        <source>Schritte...</source>
+        <translation>Trinn...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4669,8 +4669,8 @@ Wiersz: %2
         <translation>Wersja i foldery</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Kroki...</translation>
+        <source>Schritte...</source>
+        <translation>Kroki...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

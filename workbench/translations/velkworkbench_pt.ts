@@ -4598,8 +4598,8 @@ Linha: %2
         <translation>Versão e diretórios</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>Pa&amp;ssos...</translation>
+        <source>Schritte...</source>
+        <translation>Passos...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

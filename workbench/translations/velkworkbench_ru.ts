@@ -4669,8 +4669,8 @@ Zeile: %2
         <translation>Версия и папки</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Шаги...</translation>
+        <source>Schritte...</source>
+        <translation>Шаги...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4740,8 +4740,8 @@ Vrstica: %2
         <translation>Različica in imeniki</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Koraki...</translation>
+        <source>Schritte...</source>
+        <translation>Koraki...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

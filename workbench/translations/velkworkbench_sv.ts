@@ -4598,8 +4598,8 @@ Rad: %2
         <translation>Version och mappar</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>&amp;Steg...</translation>
+        <source>Schritte...</source>
+        <translation>Steg...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4527,8 +4527,8 @@ Satır: %2
         <translation>Sürüm ve dizinler</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>Adım&amp;lar...</translation>
+        <source>Schritte...</source>
+        <translation>Adımlar...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4527,8 +4527,8 @@ Zeile: %2
         <translation>版本和文件夹</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>步骤(&amp;S)...</translation>
+        <source>Schritte...</source>
+        <translation>步骤...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -4527,8 +4527,8 @@ Zeile: %2
         <translation>版本和資料夾</translation>
     </message>
     <message>
-        <source>Schr&amp;itte...</source>
-        <translation>步驟(&amp;S)...</translation>
+        <source>Schritte...</source>
+        <translation>步驟...</translation>
     </message>
     <message>
         <source>Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne zurück</source>

@@ -84,7 +84,7 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
     {"editRedo", QT_TRANSLATE_NOOP("WorkbenchActions", "&Wiederholen"),
      QT_TRANSLATE_NOOP("WorkbenchActions", "Führt den zurückgenommenen Schritt wieder aus"),
      "Ctrl+Shift+Z", "redo", true, true},
-    {"editSteps", QT_TRANSLATE_NOOP("WorkbenchActions", "Schr&itte..."),
+    {"editSteps", QT_TRANSLATE_NOOP("WorkbenchActions", "Schritte..."),
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Listet alle Schritte auf, auch die früherer Sitzungen, und nimmt einzelne "
                        "zurück"),
