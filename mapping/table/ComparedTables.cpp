@@ -35,7 +35,7 @@ QString firstVariable(const VkTableView &view, const VkTableView &other)
     const VkTableModel &model = *view.model();
     for (int column = model.statusColumnCount(); column < model.columnCount(); ++column) {
         const QRect area = view.grid()->visualRect(model.index(0, column));
-        const QString name = model.variable(column).getName();
+        QString name = model.variable(column).getName();
         if (area.isValid() && area.left() >= view.frozenWidth() && !isFrozen(view, name) &&
             !isFrozen(other, name))
             return name;
@@ -108,7 +108,7 @@ QStringList ComparedTables::differingVariables(const QHash<QString, MapVarValueC
     const QHash<QString, MapVarValueC> stored = createVarsetFromVKTable(line, {});
     const VkTableModel &model = *m_target->model();
     for (int column = model.statusColumnCount(); column < model.columnCount(); ++column) {
-        const QString name = model.variable(column).getName();
+        QString name = model.variable(column).getName();
         const auto value = values.constFind(name);
         const auto own = stored.constFind(name);
         if (value == values.cend() || own == stored.cend())

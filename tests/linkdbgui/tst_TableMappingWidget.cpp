@@ -9,6 +9,7 @@
 
 #include <QDialog>
 #include <QDir>
+#include <QImage>
 #include <QLabel>
 #include <QLayout>
 #include <QMenu>
@@ -456,13 +457,20 @@ void tst_TableMappingWidget::designationsFollowThePalette()
     f->catalog.write("old/a.prj", "D\nM8\n", [](auto &table) { table.lineDesignation = "{D}"; });
     f->load();
     f->select(1);
-    const QLabel *const label = f->label("sourceDesignationLabel");
+    QLabel *const label = f->label("sourceDesignationLabel");
     QVERIFY(!label->text().isEmpty());
-    QVERIFY(!label->autoFillBackground());
-    f->widget->setPalette(QPalette(QColor(40, 40, 40)));
-    QVERIFY(label->autoFillBackground());
-    f->widget->setPalette(QPalette(QColor(240, 240, 240)));
-    QVERIFY(!label->autoFillBackground());
+    for (const QColor &ground : {QColor(40, 40, 40), QColor(240, 240, 240)}) {
+        f->widget->setPalette(QPalette(ground));
+        QCOMPARE(label->palette().color(QPalette::Window), ground);
+        label->resize(label->sizeHint());
+        const QImage shown = label->grab().toImage();
+        int contrast = 0;
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x)
+                contrast = qMax(contrast, qAbs(qGray(shown.pixel(x, y)) - qGray(ground.rgb())));
+        }
+        QVERIFY2(contrast > 60, qPrintable(QString::number(contrast)));
+    }
 }
 
 QTEST_MAIN(tst_TableMappingWidget)
