@@ -1,5 +1,6 @@
 #include "NeighbourWork.h"
 
+#include "assignmentOf.h"
 #include "MappingDocument.h"
 
 #include <core/parallel/WorkerPool.h>
@@ -9,17 +10,6 @@
 using VelkRelease::NeighbourFinding;
 
 namespace {
-
-/// Where the line is assigned to, as target and target line.
-std::pair<int, int> assignmentOf(const PrjMappingC &mapping, int line)
-{
-    for (int i = 0; i < mapping.countTargets(); ++i) {
-        const LineTable::Iterator entry = mapping.targetAt(i).lines().find(line);
-        if (entry && entry.targetLine() != -1)
-            return {i, entry.targetLine()};
-    }
-    return {-1, -1};
-}
 
 bool isTouched(const NeighbourFinding &finding, const PrjMappingC &before, const PrjMappingC &after)
 {

@@ -1,5 +1,6 @@
 #include "ReviewWork.h"
 
+#include "assignmentOf.h"
 #include "MappingDocument.h"
 #include "TargetHead.h"
 
@@ -22,17 +23,6 @@ namespace {
 constexpr qint64 TellEvery = 100; // milliseconds
 
 constexpr int RefreshAfter = 1500; // milliseconds without a decision
-
-/// Where the line is assigned to, as target and target line; -1 if nowhere.
-std::pair<int, int> assignmentOf(const PrjMappingC &mapping, int line)
-{
-    for (int i = 0; i < mapping.countTargets(); ++i) {
-        const LineTable::Iterator entry = mapping.targetAt(i).lines().find(line);
-        if (entry && entry.targetLine() != -1)
-            return {i, entry.targetLine()};
-    }
-    return {-1, -1};
-}
 
 /// The mappings differ in their lines alone.
 bool haveSameRules(const PrjMappingC &a, const PrjMappingC &b)
