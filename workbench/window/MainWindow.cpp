@@ -123,6 +123,8 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
 MainWindow::~MainWindow()
 {
     DefaultObserverDelegate::setDisplay(nullptr);
+    // While all is there that its views ask when they go out of sight.
+    hide();
     // The editor's handler speaks to the document, and both to the log window.
     IndexTreeC::instance()->setErpSource({});
     m_linkDb->leave(); // before what reads numbers is waited for
