@@ -70,7 +70,7 @@ void ConflictCommands::goNext()
 
 std::vector<int> ConflictCommands::askFor(int place)
 {
-    const std::vector<int> alike = m_list->openAlike(place);
+    std::vector<int> alike = m_list->openAlike(place);
     const int group = m_list->at(place).group;
     if (alike.size() < 2 || m_list->at(place).outcome != ConflictEntry::Open ||
         m_oneByOne.contains(group))
