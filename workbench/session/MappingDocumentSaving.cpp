@@ -35,7 +35,7 @@ SaveOutcome MappingDocumentPrivate::save(const SaveOptions &options)
     }
     m_saving = true;
     const auto done = qScopeGuard([this] { m_saving = false; });
-    const SaveOutcome outcome = file.save(release(), rootName, options);
+    SaveOutcome outcome = file.save(release(), rootName, options);
     if (outcome.result == SaveResult::Saved)
         noteSaved();
     return outcome;
@@ -52,7 +52,7 @@ SaveOutcome MappingDocumentPrivate::saveAs(const QString &path, const SaveOption
     m_saving = true;
     const auto done = qScopeGuard([this] { m_saving = false; });
     const QString former = file.path();
-    const SaveOutcome outcome = file.saveAs(target, release(), rootName, options);
+    SaveOutcome outcome = file.saveAs(target, release(), rootName, options);
     if (outcome.result != SaveResult::Saved)
         return outcome;
     // The former file stays as it was saved last.
