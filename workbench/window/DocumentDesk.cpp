@@ -289,7 +289,7 @@ SaveOutcome DocumentDesk::write(const QString &file, const SaveOptions &options)
 {
     DefaultObserverDelegate display;
     display.activate(PProgressObserverBase::Thread);
-    const SaveOutcome outcome =
+    SaveOutcome outcome =
         file.isEmpty() ? m_document->save(options) : m_document->saveAs(file, options);
     display.deactivate();
     return outcome;

@@ -86,8 +86,10 @@ void HelpDesk::showFor(const QWidget *widget)
 /// Above a modal dialog, or it could not be used beside that.
 void HelpDesk::open(QWidget *above, const QString &topic)
 {
-    if (m_help && m_help->parentWidget() != above)
-        delete m_help;
+    if (m_help && m_help->parentWidget() != above) {
+        delete m_help.data();
+        m_help.clear();
+    }
     if (!m_help)
         m_help = new HelpWindow(above);
     m_help->showTopic(topic);
