@@ -111,28 +111,9 @@ private Q_SLOTS:
         if (qEnvironmentVariableIsSet("LOCPATH"))
             QVERIFY(ForeignLocale::isThere());
     }
-    void otherLocales_data()
-    {
-        QTest::addColumn<QString>("zone");
-        QTest::addColumn<QString>("locale");
-        QTest::newRow("German") << "Europe/Berlin"
-                                << "de_DE.UTF-8";
-        QTest::newRow("Arabic digits") << "Asia/Kathmandu"
-                                       << "ar_EG.UTF-8";
-        QTest::newRow("plain") << "America/St_Johns"
-                               << "C";
-    }
+    void otherLocales_data() { ForeignLocale::addRows(); }
     /// Runs the tests of texts again in such an environment.
-    void otherLocales()
-    {
-        QFETCH(QString, zone);
-        QFETCH(QString, locale);
-        QByteArray output;
-        const ForeignLocale foreign(zone, locale);
-        const int status = foreign.run(QCoreApplication::applicationFilePath(),
-                                       {"foreignLocaleIsThere", "time", "details"}, &output);
-        QVERIFY2(status == 0, output.constData());
-    }
+    void otherLocales() { ForeignLocale::runAgain({"time", "details"}); }
     void showsARowForEachProgress()
     {
         ProgressDisplay display;

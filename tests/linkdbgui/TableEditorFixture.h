@@ -33,6 +33,11 @@ struct TableEditorFixture
     TableEditorFixture();
     ~TableEditorFixture();
 
+    /// The projects of three lines each that many tests use, two lines assigned. \a edit is for the
+    /// old one.
+    void writeThreeLines(const TestCatalog::Edit &edit = {});
+    /// A project of five bolts with two targets and one line without any.
+    void writeBolts();
     /// Reads "old/a.prj" and shows it with the mapping.
     void load();
     void load(const VKTab::ContentRef &table);
@@ -53,6 +58,10 @@ struct TableEditorFixture
     /// came. The caller closes it.
     [[nodiscard]] QMenu *openMenu(VkTableView *view, int line) const;
     [[nodiscard]] static QAction *rowOf(QMenu *menu, const QString &text);
+    /// Chooses a row of the context menu.
+    void menuRow(VkTableView *view, int line, const QString &text) const;
+    /// Clicks at the box of a check box.
+    void tick(const char *name) const;
 
     [[nodiscard]] QPushButton *button(const char *name) const;
     [[nodiscard]] QCheckBox *box(const char *name) const;
@@ -126,6 +135,34 @@ inline VKTab::ContentRef TableEditorFixture::read(const QString &project) const
     return catalog.read(project);
 }
 
+inline void TableEditorFixture::writeThreeLines(const TestCatalog::Edit &edit)
+{
+    catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\n", edit);
+    catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n");
+    enter(mapping, 0, 1, 3, PRJMAPPING::Mapped);
+    enter(mapping, 0, 2, 2, PRJMAPPING::ToCheck);
+}
+
+inline void TableEditorFixture::writeBolts()
+{
+    const auto norm = [](const QString &number) {
+        return [number](VKTab::TableDescriptor &table) {
+            table.normNumber = number;
+            table.lineNormNumber = number + "-{D}";
+            table.lineDesignation = "Bolt {D}";
+        };
+    };
+    catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\nM11,8\nM12,9\n", norm("DIN 1"));
+    catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\nM20,1\n", norm("ISO 1"));
+    catalog.write("new/b.prj", "D,k:n\nM11,8\nM30,1\n", norm("ISO 2"));
+    mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj", ""});
+    enter(mapping, 0, 1, 3, PRJMAPPING::Mapped);
+    enter(mapping, 0, 2, 2, PRJMAPPING::ToCheck);
+    enter(mapping, 0, 3, 1, PRJMAPPING::Verified);
+    enter(mapping, 1, 4, 1, PRJMAPPING::Mapped);
+    enter(mapping, 2, 5, -1, PRJMAPPING::Mapped);
+}
+
 inline void TableEditorFixture::load()
 {
     load(read("old/a.prj"));
@@ -192,6 +229,22 @@ inline QAction *TableEditorFixture::rowOf(QMenu *menu, const QString &text)
             return row;
     }
     return nullptr;
+}
+
+inline void TableEditorFixture::menuRow(VkTableView *view, int line, const QString &text) const
+{
+    QMenu *const menu = openMenu(view, line);
+    QVERIFY(menu);
+    QAction *const row = rowOf(menu, text);
+    QVERIFY(row);
+    row->trigger();
+    menu->close();
+}
+
+inline void TableEditorFixture::tick(const char *name) const
+{
+    QTest::mouseClick(box(name), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(8, box(name)->height() / 2));
 }
 
 inline QPushButton *TableEditorFixture::button(const char *name) const

@@ -1,4 +1,4 @@
-#include "TableEditorFixture.h"
+#include "SilentTableEditor.h"
 
 #include <mapping/project/ProjectMappingWidget.h>
 
@@ -14,14 +14,14 @@ using PRJMAPPING::ToCheck;
 using PRJMAPPING::Verified;
 using VKTab::LineId;
 
-class tst_LineMappingActions : public QObject
+class tst_LineMappingActions : public QObject, private SilentTableEditor
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { QDir::setSearchPaths("bitmaps", {":/hostbitmaps"}); }
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void confirmByKey();
     void keyActsAtOnce();
@@ -59,36 +59,13 @@ private Q_SLOTS:
     void receiverClosesTheWidget();
 
 private:
-    [[nodiscard]] QString entries() const { return entriesOf(f->current()); }
     void conflict(int line)
     {
         PrjMappingTargetC target = f->mapping.findTarget(0);
         target.setLineConflicted(line, true);
         f->mapping.updateTarget(0, target);
     }
-
-    std::unique_ptr<TableEditorFixture> f;
-    std::shared_ptr<PScriptedMessageSink> m_messages;
-    std::unique_ptr<PMessageSinkScope> m_scope;
 };
-
-void tst_LineMappingActions::cleanup()
-{
-    f.reset();
-    m_scope.reset();
-    QCOMPARE(m_messages->texts(), QStringList()); // no action shows a message
-}
-
-void tst_LineMappingActions::init()
-{
-    m_messages = std::make_shared<PScriptedMessageSink>();
-    m_scope = std::make_unique<PMessageSinkScope>(m_messages);
-    f = std::make_unique<TableEditorFixture>();
-    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\n");
-    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n");
-    enter(f->mapping, 0, 1, 3, Mapped);
-    enter(f->mapping, 0, 2, 2, ToCheck);
-}
 
 void tst_LineMappingActions::confirmByKey()
 {

@@ -1,4 +1,4 @@
-#include "TableEditorFixture.h"
+#include "SilentTableEditor.h"
 
 #include <mapping/project/ProjectMappingWidget.h>
 
@@ -110,14 +110,14 @@ private:
 
 } // namespace
 
-class tst_LineReassignment : public QObject
+class tst_LineReassignment : public QObject, private SilentTableEditor
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { QDir::setSearchPaths("bitmaps", {":/hostbitmaps"}); }
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void remap_data();
     void remap();
@@ -129,32 +129,7 @@ private Q_SLOTS:
     void remapShowsItsProgress();
     void remapStepsAfterTheWork();
     void remapInAWidgetThatGoes();
-
-private:
-    [[nodiscard]] QString entries() const { return entriesOf(f->current()); }
-
-    std::unique_ptr<TableEditorFixture> f;
-    std::shared_ptr<PScriptedMessageSink> m_messages;
-    std::unique_ptr<PMessageSinkScope> m_scope;
 };
-
-void tst_LineReassignment::cleanup()
-{
-    f.reset();
-    m_scope.reset();
-    QCOMPARE(m_messages->texts(), QStringList()); // no action shows a message
-}
-
-void tst_LineReassignment::init()
-{
-    m_messages = std::make_shared<PScriptedMessageSink>();
-    m_scope = std::make_unique<PMessageSinkScope>(m_messages);
-    f = std::make_unique<TableEditorFixture>();
-    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\n");
-    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n");
-    enter(f->mapping, 0, 1, 3, Mapped);
-    enter(f->mapping, 0, 2, 2, ToCheck);
-}
 
 void tst_LineReassignment::remap_data()
 {

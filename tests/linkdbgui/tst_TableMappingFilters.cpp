@@ -41,12 +41,6 @@ private Q_SLOTS:
     void hiddenColumnsAreToldToTheTables();
 
 private:
-    void menuRow(VkTableView *view, int line, const QString &text) const;
-    void tick(const char *name) const
-    {
-        QTest::mouseClick(f->box(name), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(8, f->box(name)->height() / 2));
-    }
     [[nodiscard]] QString visible(VkTableView *view) const
     {
         return TableEditorFixture::visibleLines(view->getTable());
@@ -58,32 +52,7 @@ private:
 void tst_TableMappingFilters::init()
 {
     f = std::make_unique<TableEditorFixture>();
-    const auto norm = [](const QString &number) {
-        return [number](VKTab::TableDescriptor &table) {
-            table.normNumber = number;
-            table.lineNormNumber = number + "-{D}";
-            table.lineDesignation = "Bolt {D}";
-        };
-    };
-    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\nM11,8\nM12,9\n", norm("DIN 1"));
-    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\nM20,1\n", norm("ISO 1"));
-    f->catalog.write("new/b.prj", "D,k:n\nM11,8\nM30,1\n", norm("ISO 2"));
-    f->mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj", ""});
-    enter(f->mapping, 0, 1, 3, Mapped);
-    enter(f->mapping, 0, 2, 2, ToCheck);
-    enter(f->mapping, 0, 3, 1, Verified);
-    enter(f->mapping, 1, 4, 1, Mapped);
-    enter(f->mapping, 2, 5, -1, Mapped);
-}
-
-void tst_TableMappingFilters::menuRow(VkTableView *view, int line, const QString &text) const
-{
-    QMenu *const menu = f->openMenu(view, line);
-    QVERIFY(menu);
-    QAction *const row = TableEditorFixture::rowOf(menu, text);
-    QVERIFY(row);
-    row->trigger();
-    menu->close();
+    f->writeBolts();
 }
 
 void tst_TableMappingFilters::filterNotMappedLines()
@@ -93,10 +62,10 @@ void tst_TableMappingFilters::filterNotMappedLines()
     f->mapping.updateTarget(0, target);
     f->load();
     QCOMPARE(f->states(), QString("- C Conflicted - N"));
-    tick("chkFilterSource");
+    f->tick("chkFilterSource");
     QCOMPARE(visible(f->source), QString("2 5"));
     QCOMPARE(f->source->model()->rowCount(), 2);
-    tick("chkFilterSource");
+    f->tick("chkFilterSource");
     QCOMPARE(visible(f->source), QString("1 2 3 4 5"));
 }
 
@@ -104,7 +73,7 @@ void tst_TableMappingFilters::filterNotMappedLinesWithoutAny()
 {
     f->mapping.verifyAll();
     f->load();
-    tick("chkFilterSource");
+    f->tick("chkFilterSource");
     QCOMPARE(visible(f->source), QString());
     QCOMPARE(f->source->model()->rowCount(), 0);
 }
@@ -113,13 +82,13 @@ void tst_TableMappingFilters::filterTargetLines()
 {
     f->load();
     f->select(1);
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     QCOMPARE(visible(f->target), QString("4"));
     f->select(2);
     QCOMPARE(visible(f->target), QString("4"));
     f->select(4);
     QCOMPARE(visible(f->target), QString("2"));
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     QCOMPARE(visible(f->target), QString("1 2"));
 }
 
@@ -127,7 +96,7 @@ void tst_TableMappingFilters::filterTargetLinesFollowsTheMapping()
 {
     f->load();
     f->select(1);
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     QCOMPARE(visible(f->target), QString("4"));
     f->click(f->target, 4);
     f->press(Qt::Key_V);
@@ -146,7 +115,7 @@ void tst_TableMappingFilters::filterTargetLinesOfAChangedFile()
 {
     f->load();
     f->select(1);
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     QCOMPARE(visible(f->target), QString("4"));
     f->select(5); // no target
     f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\nM20,1\nM30,2\n");
@@ -159,7 +128,7 @@ void tst_TableMappingFilters::filterTargetLinesWithoutAny()
     enter(f->mapping, 0, 9, 4, Mapped);
     f->load();
     f->select(1);
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     QCOMPARE(visible(f->target), QString());
 }
 
@@ -171,7 +140,7 @@ void tst_TableMappingFilters::filterTargetLinesOfAllItsTargets()
     enter(f->mapping, 1, 2, 4, Mapped);
     f->load();
     f->select(1);
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     QCOMPARE(visible(f->target), QString("1 2"));
 }
 
@@ -199,9 +168,9 @@ void tst_TableMappingFilters::boxTakesItsFilterBack()
     enter(f->mapping, 0, 9, 2, Mapped);
     f->load();
     f->select(1);
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     QCOMPARE(visible(f->target), QString("4"));
-    menuRow(f->target, 4, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
+    f->menuRow(f->target, 4, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
     QCOMPARE(visible(f->target), QString("2"));
     f->select(3);
     QCOMPARE(visible(f->target), QString("4"));
@@ -270,7 +239,7 @@ void tst_TableMappingFilters::filterTargetTable()
     f->mapping.removeTarget(1);
     f->load();
     f->select(1);
-    menuRow(f->target, 3, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
+    f->menuRow(f->target, 3, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
     QCOMPARE(visible(f->target), QString("2"));
 }
 
@@ -278,7 +247,7 @@ void tst_TableMappingFilters::filterTargetTableWithoutAny()
 {
     f->load();
     f->select(1);
-    menuRow(f->target, 3, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
+    f->menuRow(f->target, 3, "Nur Zeilen anzeigen, die mehrfach zugeordnet sind");
     QCOMPARE(visible(f->target), QString("1 2 3 4"));
 }
 
@@ -287,8 +256,8 @@ void tst_TableMappingFilters::filterSourceTable()
     enter(f->mapping, 0, 3, 2, Verified);
     f->load();
     f->select(2);
-    menuRow(f->target, 2,
-            "Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind");
+    f->menuRow(f->target, 2,
+               "Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind");
     QCOMPARE(visible(f->source), QString("2 3"));
 }
 
@@ -297,8 +266,8 @@ void tst_TableMappingFilters::filterSourceTableWithoutAny()
     f->load();
     f->select(2);
     f->click(f->target, 4);
-    menuRow(f->target, 4,
-            "Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind");
+    f->menuRow(f->target, 4,
+               "Nur Zeilen der Originaltabelle anzeigen, die dieser Zeile zugeordnet sind");
     QCOMPARE(visible(f->source), QString("1 2 3 4 5"));
 }
 
@@ -316,12 +285,12 @@ void tst_TableMappingFilters::hiddenColumns()
         return view->model()->columnOf(view->getTable().getVar(u"k").getVarId()) >= 0;
     };
     QVERIFY(!isShown(f->source) && !isShown(f->target));
-    tick("chkShowHiddenCols");
+    f->tick("chkShowHiddenCols");
     QVERIFY(isShown(f->source) && isShown(f->target));
     QCOMPARE(f->targetTable().getSelection(), LineId(3));
     f->select(4); // a table that is read later
     QVERIFY(isShown(f->target));
-    tick("chkShowHiddenCols");
+    f->tick("chkShowHiddenCols");
     QVERIFY(!isShown(f->source) && !isShown(f->target));
 }
 
@@ -337,7 +306,7 @@ void tst_TableMappingFilters::hiddenColumnsAreToldToTheTables()
         f->sourceTable().signalConnect().connectSignalInvalidated(note);
     const boost::signals2::scoped_connection target =
         f->targetTable().signalConnect().connectSignalInvalidated(note);
-    tick("chkShowHiddenCols");
+    f->tick("chkShowHiddenCols");
     QCOMPARE(heard, QList<VKTab::Content::InvalidateFlags>(2, VKTab::Content::InvalidateColumns));
 }
 

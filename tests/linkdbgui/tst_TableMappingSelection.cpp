@@ -69,12 +69,6 @@ private Q_SLOTS:
     void labelsFollowTheTargetSelection();
 
 private:
-    void menuRow(VkTableView *view, int line, const QString &text) const;
-    void tick(const char *name) const
-    {
-        QTest::mouseClick(f->box(name), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(8, f->box(name)->height() / 2));
-    }
     [[nodiscard]] QString visible(VkTableView *view) const
     {
         return TableEditorFixture::visibleLines(view->getTable());
@@ -86,32 +80,7 @@ private:
 void tst_TableMappingSelection::init()
 {
     f = std::make_unique<TableEditorFixture>();
-    const auto norm = [](const QString &number) {
-        return [number](VKTab::TableDescriptor &table) {
-            table.normNumber = number;
-            table.lineNormNumber = number + "-{D}";
-            table.lineDesignation = "Bolt {D}";
-        };
-    };
-    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\nM11,8\nM12,9\n", norm("DIN 1"));
-    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\nM20,1\n", norm("ISO 1"));
-    f->catalog.write("new/b.prj", "D,k:n\nM11,8\nM30,1\n", norm("ISO 2"));
-    f->mapping = mappingOf("old/a.prj", {"new/a.prj", "new/b.prj", ""});
-    enter(f->mapping, 0, 1, 3, Mapped);
-    enter(f->mapping, 0, 2, 2, ToCheck);
-    enter(f->mapping, 0, 3, 1, Verified);
-    enter(f->mapping, 1, 4, 1, Mapped);
-    enter(f->mapping, 2, 5, -1, Mapped);
-}
-
-void tst_TableMappingSelection::menuRow(VkTableView *view, int line, const QString &text) const
-{
-    QMenu *const menu = f->openMenu(view, line);
-    QVERIFY(menu);
-    QAction *const row = TableEditorFixture::rowOf(menu, text);
-    QVERIFY(row);
-    row->trigger();
-    menu->close();
+    f->writeBolts();
 }
 
 void tst_TableMappingSelection::selectedLineShowsItsTarget()
@@ -353,9 +322,9 @@ void tst_TableMappingSelection::formerTablesAreLetGo()
 {
     f->load();
     f->select(1);
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     const std::weak_ptr<const VKTab::TableData> target = f->targetTable().getTableData();
-    tick("chkFilterTarget");
+    f->tick("chkFilterTarget");
     f->select(4);
     QVERIFY(target.expired());
     const std::weak_ptr<const VKTab::TableData> source = f->sourceTable().getTableData();

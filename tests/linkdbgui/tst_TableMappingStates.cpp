@@ -54,16 +54,13 @@ private:
 void tst_TableMappingStates::init()
 {
     f = std::make_unique<TableEditorFixture>();
-    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\n", [](auto &table) {
+    f->writeThreeLines([](auto &table) {
         table.normNumber = "DIN 1";
         table.lineDesignation = "DIN 1 - {D}";
         table.filterConditions = {{"PRJLINECOND", "k .LT. 6", {}},
                                   {"BYPRJ", "k .LT. 7", {}},
                                   {"OTHER", "k .LT. 100", {}}};
     });
-    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n");
-    enter(f->mapping, 0, 1, 3, Mapped);
-    enter(f->mapping, 0, 2, 2, ToCheck);
 }
 
 void tst_TableMappingStates::states_data()

@@ -1,4 +1,4 @@
-#include "TableEditorFixture.h"
+#include "SilentTableEditor.h"
 
 #include <core/message/PScriptedMessageSink.h>
 #include <geomcore/table/BaseLayer.h>
@@ -26,14 +26,14 @@ constexpr const char *removeVerifyText = "Zuordnung dieser Zeile aufheben und be
 
 } // namespace
 
-class tst_TableMenus : public QObject
+class tst_TableMenus : public QObject, private SilentTableEditor
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { QDir::setSearchPaths("bitmaps", {":/hostbitmaps"}); }
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void sourceMenu();
     void sourceMenuIcons();
@@ -51,34 +51,10 @@ private Q_SLOTS:
     void iconOfUnknownKey();
 
 private:
-    [[nodiscard]] QString entries() const { return entriesOf(f->current()); }
-
     /// A line whose condition does not hold for 20, with columns hidden as wanted.
     void loadFailingLine(const TestCatalog::Edit &edit = {},
                          const QString &condition = "L .LT. 15");
-
-    std::unique_ptr<TableEditorFixture> f;
-    std::shared_ptr<PScriptedMessageSink> m_messages;
-    std::unique_ptr<PMessageSinkScope> m_scope;
 };
-
-void tst_TableMenus::cleanup()
-{
-    f.reset();
-    m_scope.reset();
-    QCOMPARE(m_messages->texts(), QStringList()); // no action shows a message
-}
-
-void tst_TableMenus::init()
-{
-    m_messages = std::make_shared<PScriptedMessageSink>();
-    m_scope = std::make_unique<PMessageSinkScope>(m_messages);
-    f = std::make_unique<TableEditorFixture>();
-    f->catalog.write("old/a.prj", "D,k:n\nM8,5\nM9,6\nM10,7\n");
-    f->catalog.write("new/a.prj", "D,k:n\nM10,7\nM9,66\nM8,5\n");
-    enter(f->mapping, 0, 1, 3, Mapped);
-    enter(f->mapping, 0, 2, 2, ToCheck);
-}
 
 void tst_TableMenus::sourceMenuIcons()
 {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <clocale>
 
@@ -35,6 +37,32 @@ public:
         process.waitForFinished(-1);
         *output = process.readAllStandardOutput();
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    }
+
+    /// Rows with the zones and locales that tests run again in.
+    static void addRows()
+    {
+        QTest::addColumn<QString>("zone");
+        QTest::addColumn<QString>("locale");
+        QTest::newRow("German") << "Europe/Berlin"
+                                << "de_DE.UTF-8";
+        QTest::newRow("Arabic digits") << "Asia/Kathmandu"
+                                       << "ar_EG.UTF-8";
+        QTest::newRow("plain") << "America/St_Johns"
+                               << "C";
+    }
+
+    /// Runs these functions of the running test again in the environment of the current row, after
+    /// one that makes sure of it.
+    static void runAgain(const QStringList &functions)
+    {
+        QFETCH(QString, zone);
+        QFETCH(QString, locale);
+        QByteArray output;
+        const ForeignLocale foreign(zone, locale);
+        const int status = foreign.run(QCoreApplication::applicationFilePath(),
+                                       QStringList("foreignLocaleIsThere") + functions, &output);
+        QVERIFY2(status == 0, output.constData());
     }
 
     /// In that process: the C library knows the locale, and a German one has a decimal comma.

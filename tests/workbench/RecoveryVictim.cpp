@@ -12,11 +12,6 @@
 
 namespace {
 
-ProjectId id(const char *path)
-{
-    return {QString::fromLatin1(path), SessionFixture::Version, QStringLiteral("t1")};
-}
-
 /// What the program does that is killed then.
 class Victim
 {
@@ -60,13 +55,13 @@ private:
     void confirm(const QList<int> &lines)
     {
         m_document.updateMapping(
-            SessionFixture::withState(m_document.mapping(id("cat/a.prj")), lines, 2));
+            SessionFixture::withState(m_document.mapping(projectId("cat/a.prj")), lines, 2));
         QCoreApplication::processEvents();
     }
 
     void changeTargets()
     {
-        PrjMappingC mapping = m_document.mapping(id("cat/screws/b.prj"));
+        PrjMappingC mapping = m_document.mapping(projectId("cat/screws/b.prj"));
         PrjMappingTargetC target;
         target.setTargetPath(QStringLiteral("new/ü.prj"));
         target.setValid(true);
@@ -92,7 +87,7 @@ private:
         for (int round = 0; round < 60; ++round) {
             for (int line = 1; line <= 10; ++line)
                 m_document.updateMapping(SessionFixture::withState(
-                    m_document.mapping(id("cat/a.prj")), {line}, round % 2 == 0 ? 2 : 1));
+                    m_document.mapping(projectId("cat/a.prj")), {line}, round % 2 == 0 ? 2 : 1));
         }
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <workbench/session/SessionTypes.h>
+
 #include <geomcore/records/ReleaseMappingC.h>
 
 #include <QList>
@@ -53,3 +55,9 @@ public:
 private:
     QTemporaryDir m_folder;
 };
+
+/// Identity of a project of these releases.
+inline ProjectId projectId(const QString &path)
+{
+    return {path, SessionFixture::Version, QStringLiteral("t1")};
+}

@@ -1,8 +1,7 @@
 #include "../support/SizeLimit.h"
-#include "SessionFixture.h"
+#include "SessionDocument.h"
 
 #include <workbench/session/JournalReader.h>
-#include <workbench/session/MappingDocument.h>
 
 #include <geomcore/records/MappingFile.h>
 #include <mapping/data/CatalogMappingHandlerI.h>
@@ -23,20 +22,15 @@ using Handler = std::unique_ptr<CatalogMappingHandlerI>;
 
 const QString Path = QStringLiteral("cat/a.prj");
 
-ProjectId id(const QString &path)
-{
-    return {path, SessionFixture::Version, QStringLiteral("t1")};
-}
-
 } // namespace
 
-class tst_MappingDocument : public QObject
+class tst_MappingDocument : public QObject, private SessionDocument
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void opensARelease();
     void opensTheLastReleaseUnlessAskedForAnother();
@@ -60,41 +54,7 @@ private Q_SLOTS:
     void journalCostsWhatChanged();
     void aFullDiskIsTold();
     void autosaves();
-
-private:
-    MappingDocument &open(MappingDocument::Access access = MappingDocument::Access::ReadWrite);
-    void change(const PrjMappingC &mapping);
-
-    std::unique_ptr<SessionFixture> m_files;
-    std::unique_ptr<MappingDocument> m_document;
-    QString m_file;
 };
-
-void tst_MappingDocument::init()
-{
-    m_files = std::make_unique<SessionFixture>();
-    m_document = std::make_unique<MappingDocument>();
-    m_file = m_files->write();
-}
-
-void tst_MappingDocument::cleanup()
-{
-    m_document.reset();
-    m_files.reset();
-}
-
-MappingDocument &tst_MappingDocument::open(MappingDocument::Access access)
-{
-    m_document->open({m_file, {}, {}, access, MappingDocument::Recovery::Ask});
-    return *m_document;
-}
-
-/// One user action.
-void tst_MappingDocument::change(const PrjMappingC &mapping)
-{
-    m_document->updateMapping(mapping);
-    QCoreApplication::processEvents();
-}
 
 void tst_MappingDocument::opensARelease()
 {
@@ -175,8 +135,8 @@ void tst_MappingDocument::refusesWhatItCannotRead()
 void tst_MappingDocument::staysOpenIfAnotherCannotBeRead()
 {
     QCOMPARE(m_document->open({m_file, {}, {}, {}, {}}), MappingDocument::OpenResult::Opened);
-    m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(id(QStringLiteral("cat/a.prj"))), {1}, 2));
+    m_document->updateMapping(SessionFixture::withState(
+        m_document->mapping(projectId(QStringLiteral("cat/a.prj"))), {1}, 2));
     const QString other = m_files->path(QStringLiteral("other.json"));
     SessionFixture::setContent(other, "{\"2022");
     QSignalSpy closing(m_document.get(), &MappingDocument::aboutToClose);
@@ -203,7 +163,7 @@ void tst_MappingDocument::survivesItsFolder()
     QCOMPARE(m_document->open({file, {}, {}, {}, {}}), MappingDocument::OpenResult::Opened);
     const auto confirm = [this](int line) {
         m_document->updateMapping(SessionFixture::withState(
-            m_document->mapping(id(QStringLiteral("cat/a.prj"))), {line}, 2));
+            m_document->mapping(projectId(QStringLiteral("cat/a.prj"))), {line}, 2));
         m_document->finishStep();
     };
     confirm(1);
@@ -252,8 +212,8 @@ void tst_MappingDocument::whatStandsInTheWay()
     if (isLock)
         QVERIFY2(m_document->readOnlyText().contains(QStringLiteral("gewöhnliche Datei")),
                  qPrintable(m_document->readOnlyText()));
-    m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(id(QStringLiteral("cat/a.prj"))), {1}, 2));
+    m_document->updateMapping(SessionFixture::withState(
+        m_document->mapping(projectId(QStringLiteral("cat/a.prj"))), {1}, 2));
     m_document->finishStep();
     m_document->autosave();
     QCOMPARE(m_document->save().result, isLock ? SaveResult::ReadOnly : SaveResult::Saved);
@@ -300,7 +260,7 @@ void tst_MappingDocument::handlerGoesTheDocumentsWay()
     QCOMPARE(handler->countLines(), 30);
     QCOMPARE(handler->countToCheck(), 30);
     const PrjMappingC confirmed =
-        SessionFixture::withState(m_document->mapping(id(Path)), {1, 2}, 2);
+        SessionFixture::withState(m_document->mapping(projectId(Path)), {1, 2}, 2);
     handler->updateMapping(confirmed);
     QCOMPARE(handler->countVerified(), 2);
     QVERIFY(m_document->isModified());
@@ -320,24 +280,25 @@ void tst_MappingDocument::theEditorHearsOfTheHostsChanges()
     open();
     const Handler handler(m_document->createHandler());
     QSignalSpy reselect(m_document.get(), &MappingDocument::reselectRequested);
-    handler->updateMapping(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    handler->updateMapping(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     m_document->finishStep();
     QCOMPARE(reselect.size(), 0);
     for (const char *path : {"cat/a.prj", "cat/screws/b.prj", "cat/a.prj"})
-        m_document->updateMapping(
-            SessionFixture::withState(m_document->mapping(id(QString::fromLatin1(path))), {4}, 2));
+        m_document->updateMapping(SessionFixture::withState(
+            m_document->mapping(projectId(QString::fromLatin1(path))), {4}, 2));
     QCOMPARE(reselect.size(), 0);
     m_document->finishStep();
     QCOMPARE(reselect.size(), 2);
-    QCOMPARE(reselect[0].first().value<ProjectId>(), id(Path));
-    QCOMPARE(reselect[1].first().value<ProjectId>(), id(QStringLiteral("cat/screws/b.prj")));
+    QCOMPARE(reselect[0].first().value<ProjectId>(), projectId(Path));
+    QCOMPARE(reselect[1].first().value<ProjectId>(), projectId(QStringLiteral("cat/screws/b.prj")));
 }
 
 void tst_MappingDocument::handlerOutlivesTheDocument()
 {
     open();
     const Handler handler(m_document->createHandler());
-    const PrjMappingC confirmed = SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2);
+    const PrjMappingC confirmed =
+        SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2);
     m_document.reset();
     handler->updateMapping(confirmed);
     QCOMPARE(handler->countVerified(), 0);
@@ -366,14 +327,14 @@ void tst_MappingDocument::readOnlyRefusesChanges()
     QVERIFY(m_document->isReadOnly());
     QVERIFY(!QFile::exists(m_document->journalFile()));
     QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
-    const PrjMappingC mapping = m_document->mapping(id(Path));
+    const PrjMappingC mapping = m_document->mapping(projectId(Path));
     m_document->updateMapping(SessionFixture::withState(mapping, {1}, 2));
     m_document->updateMapping(SessionFixture::withState(mapping, {2}, 2));
     QSignalSpy reselect(m_document.get(), &MappingDocument::reselectRequested);
     QCOMPARE(problems.size(), 0); // not in the middle of the editor's work
     QCoreApplication::processEvents();
     QCOMPARE(reselect.size(), 1); // so that the editor shows what is stored
-    QCOMPARE(reselect.first().first().value<ProjectId>(), id(Path));
+    QCOMPARE(reselect.first().first().value<ProjectId>(), projectId(Path));
     QCOMPARE(problems.size(), 1);
     QVERIFY(problems.first().first().toString().contains(QStringLiteral("nicht übernommen")));
     QCOMPARE(m_document->counts().verified(), 0);
@@ -432,7 +393,7 @@ void tst_MappingDocument::newReleaseIsModified()
 void tst_MappingDocument::journalTellsWhatHappened()
 {
     open();
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     m_document->undo();
     m_document->redo();
     const QString journal = m_document->journalFile();
@@ -465,8 +426,8 @@ void tst_MappingDocument::journalCostsWhatChanged()
     m_files->addRelease(m_file, large);
     open();
     const qint64 before = QFile(m_document->journalFile()).size();
-    change(SessionFixture::withState(m_document->mapping(id(QStringLiteral("cat/large.prj"))),
-                                     {25000}, 2));
+    change(SessionFixture::withState(
+        m_document->mapping(projectId(QStringLiteral("cat/large.prj"))), {25000}, 2));
     const qint64 oneLine = QFile(m_document->journalFile()).size() - before;
     QVERIFY2(oneLine < 1000, qPrintable(QString::number(oneLine)));
 }
@@ -477,8 +438,8 @@ void tst_MappingDocument::aFullDiskIsTold()
     QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
     {
         const SizeLimit limit(QFile(m_document->journalFile()).size() + 20);
-        change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
-        change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+        change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
+        change(SessionFixture::withState(m_document->mapping(projectId(Path)), {2}, 2));
         QCOMPARE(problems.size(), 1); // not for every change
         QVERIFY(problems[0].first().toString().contains(m_document->journalFile()));
         m_document->autosave();
@@ -488,7 +449,7 @@ void tst_MappingDocument::aFullDiskIsTold()
         QVERIFY(!QFile::exists(m_document->autosaveFile()));
         QVERIFY(!m_document->lastAutosave().isValid());
     }
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {3}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {3}, 2));
     JournalReader reader;
     QVERIFY(reader.read(m_document->journalFile()));
     QCOMPARE(JournalReader::steps(reader.sessions().first()).size(), 3);
@@ -503,7 +464,7 @@ void tst_MappingDocument::autosaves()
     QCOMPARE(done.size(), 0);
     QCOMPARE(m_document->autosaveInterval(), 180);
     m_document->setAutosaveInterval(1);
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     QTRY_COMPARE_WITH_TIMEOUT(done.size(), 1, 30000);
     QCOMPARE(done.first().first().toString(), m_document->autosaveFile());
     MappingFile side;
@@ -514,13 +475,13 @@ void tst_MappingDocument::autosaves()
     // Another opening goes on with the interval.
     m_document->close();
     open();
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {5}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {5}, 2));
     QTRY_COMPARE_WITH_TIMEOUT(done.size(), 2, 30000);
     done.removeLast();
     m_document->setAutosaveInterval(0);
     m_document->autosave(); // nothing new
     QCOMPARE(done.size(), 1);
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {2}, 2));
     m_document->autosave();
     QCOMPARE(done.size(), 2);
     QVERIFY(m_document->isModified());

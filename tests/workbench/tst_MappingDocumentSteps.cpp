@@ -1,7 +1,6 @@
 #include "../support/SizeLimit.h"
-#include "SessionFixture.h"
+#include "SessionDocument.h"
 
-#include <workbench/session/MappingDocument.h>
 #include <workbench/session/ReleaseChanges.h>
 #include <workbench/session/UndoHistory.h>
 
@@ -21,20 +20,15 @@ using Handler = std::unique_ptr<CatalogMappingHandlerI>;
 
 const QString Path = QStringLiteral("cat/a.prj");
 
-ProjectId id(const QString &path)
-{
-    return {path, SessionFixture::Version, QStringLiteral("t1")};
-}
-
 } // namespace
 
-class tst_MappingDocumentSteps : public QObject
+class tst_MappingDocumentSteps : public QObject, private SessionDocument
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void oneTurnIsOneStep();
     void eachTurnIsAStep();
@@ -52,47 +46,13 @@ private Q_SLOTS:
     void markingConflictsIsNoStep();
     void replacesTheRelease();
     void countsFollowEveryChange();
-
-private:
-    MappingDocument &open(MappingDocument::Access access = MappingDocument::Access::ReadWrite);
-    void change(const PrjMappingC &mapping);
-
-    std::unique_ptr<SessionFixture> m_files;
-    std::unique_ptr<MappingDocument> m_document;
-    QString m_file;
 };
-
-void tst_MappingDocumentSteps::init()
-{
-    m_files = std::make_unique<SessionFixture>();
-    m_document = std::make_unique<MappingDocument>();
-    m_file = m_files->write();
-}
-
-void tst_MappingDocumentSteps::cleanup()
-{
-    m_document.reset();
-    m_files.reset();
-}
-
-MappingDocument &tst_MappingDocumentSteps::open(MappingDocument::Access access)
-{
-    m_document->open({m_file, {}, {}, access, MappingDocument::Recovery::Ask});
-    return *m_document;
-}
-
-/// One user action.
-void tst_MappingDocumentSteps::change(const PrjMappingC &mapping)
-{
-    m_document->updateMapping(mapping);
-    QCoreApplication::processEvents();
-}
 
 void tst_MappingDocumentSteps::oneTurnIsOneStep()
 {
     open();
     QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
-    PrjMappingC mapping = m_document->mapping(id(Path));
+    PrjMappingC mapping = m_document->mapping(projectId(Path));
     for (int line = 1; line <= 3; ++line) {
         mapping = SessionFixture::withState(mapping, {line}, 2);
         m_document->updateMapping(mapping);
@@ -110,8 +70,8 @@ void tst_MappingDocumentSteps::oneTurnIsOneStep()
 void tst_MappingDocumentSteps::eachTurnIsAStep()
 {
     open();
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {2}, 2));
     QCOMPARE(m_document->undoTexts().size(), 2);
 }
 
@@ -119,9 +79,9 @@ void tst_MappingDocumentSteps::explicitStepsKeepTogether()
 {
     open();
     m_document->beginStep(QStringLiteral("Alles"));
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     m_document->beginStep(QStringLiteral("innen"));
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {2}, 2));
     m_document->endStep();
     QVERIFY(!m_document->canUndo());
     m_document->undo();
@@ -136,9 +96,11 @@ void tst_MappingDocumentSteps::explicitStepsKeepTogether()
 void tst_MappingDocumentSteps::explicitStepsBeginAnew()
 {
     open();
-    m_document->updateMapping(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     m_document->beginStep(QStringLiteral("Alles"));
-    m_document->updateMapping(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    m_document->updateMapping(
+        SessionFixture::withState(m_document->mapping(projectId(Path)), {2}, 2));
     m_document->endStep();
     QCOMPARE(m_document->undoTexts().size(), 2);
     QCOMPARE(m_document->undoTexts().last(), QStringLiteral("Alles"));
@@ -150,7 +112,7 @@ void tst_MappingDocumentSteps::undoAndRedo()
 {
     open();
     const QByteArray before = SessionFixture::bytes(m_document->release());
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1, 2, 3}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1, 2, 3}, 2));
     const QByteArray after = SessionFixture::bytes(m_document->release());
     QSignalSpy reselect(m_document.get(), &MappingDocument::reselectRequested);
     QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
@@ -159,7 +121,7 @@ void tst_MappingDocumentSteps::undoAndRedo()
     m_document->undo();
     QCOMPARE(SessionFixture::bytes(m_document->release()), before);
     QCOMPARE(reselect.size(), 1);
-    QCOMPARE(reselect.first().first().value<ProjectId>(), id(Path));
+    QCOMPARE(reselect.first().first().value<ProjectId>(), projectId(Path));
     QCOMPARE(done.first().at(0).toString(),
              QStringLiteral("Rückgängig: 3 Zeilen bestätigt in cat/a.prj"));
     QCOMPARE(modified.size(), 1);
@@ -181,9 +143,9 @@ void tst_MappingDocumentSteps::undoAndRedo()
 void tst_MappingDocumentSteps::undoForgetsWhatWasUndoneAtTheNextChange()
 {
     open();
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     m_document->undo();
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {2}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {2}, 2));
     QVERIFY(!m_document->canRedo());
     QCOMPARE(m_document->undoTexts().size(), 1);
 }
@@ -194,7 +156,7 @@ void tst_MappingDocumentSteps::oldStepsKeepOnlyWhatTheyChanged()
     const QByteArray before = SessionFixture::bytes(m_document->release());
     m_document->setKeptStates(2);
     for (int line = 1; line <= 4; ++line)
-        change(SessionFixture::withState(m_document->mapping(id(Path)), {line}, 2));
+        change(SessionFixture::withState(m_document->mapping(projectId(Path)), {line}, 2));
     QVERIFY(m_document->steps().at(1).changes.isEmpty());
     QVERIFY(!m_document->steps().at(2).changes.isEmpty());
     const QByteArray after = SessionFixture::bytes(m_document->release());
@@ -210,7 +172,7 @@ void tst_MappingDocumentSteps::oldStepsKeepOnlyWhatTheyChanged()
 void tst_MappingDocumentSteps::undoReachesTheSavedState()
 {
     open();
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     QCOMPARE(m_document->save().result, SaveResult::Saved);
     QVERIFY(!m_document->isModified());
     m_document->undo();
@@ -218,7 +180,7 @@ void tst_MappingDocumentSteps::undoReachesTheSavedState()
     m_document->redo();
     QVERIFY(!m_document->isModified());
     m_document->undo();
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {5}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {5}, 2));
     QVERIFY(m_document->isModified());
     m_document->undo();
     QVERIFY(m_document->isModified()); // the saved state was undone and forgotten
@@ -229,7 +191,7 @@ void tst_MappingDocumentSteps::nothingChangedIsNoStep()
     open();
     const qint64 size = QFile(m_document->journalFile()).size();
     QSignalSpy done(m_document.get(), &MappingDocument::stepDone);
-    change(m_document->mapping(id(Path)));
+    change(m_document->mapping(projectId(Path)));
     QVERIFY(!m_document->canUndo());
     QVERIFY(!m_document->isModified());
     QCOMPARE(done.size(), 0);
@@ -239,7 +201,7 @@ void tst_MappingDocumentSteps::nothingChangedIsNoStep()
 void tst_MappingDocumentSteps::changesThatCancelOutAreNoStep()
 {
     open();
-    const PrjMappingC mapping = m_document->mapping(id(Path));
+    const PrjMappingC mapping = m_document->mapping(projectId(Path));
     m_document->updateMapping(SessionFixture::withState(mapping, {1}, 2));
     change(mapping);
     QVERIFY(!m_document->canUndo());
@@ -269,13 +231,13 @@ void tst_MappingDocumentSteps::tableVersionCanBeUndone()
 {
     open();
     const QByteArray before = SessionFixture::bytes(m_document->release());
-    PrjMappingC mapping = m_document->mapping(id(Path));
+    PrjMappingC mapping = m_document->mapping(projectId(Path));
     mapping.setTabVersion(QString()); // matches any, so the stored one is replaced
     change(mapping);
     QCOMPARE(m_document->release().countMappings(), 3);
     m_document->undo();
     QCOMPARE(m_document->release().countMappings(), 3);
-    QCOMPARE(m_document->mapping(id(Path)).getTabVersion(), QStringLiteral("t1"));
+    QCOMPARE(m_document->mapping(projectId(Path)).getTabVersion(), QStringLiteral("t1"));
     QCOMPARE(countLines(m_document->release()), m_document->counts());
     Q_UNUSED(before)
 }
@@ -288,7 +250,7 @@ void tst_MappingDocumentSteps::directoriesShowUndoneStates()
     QCOMPARE(screws->getName(), QStringLiteral("screws"));
     QVERIFY(!screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
     const QString path = QStringLiteral("cat/screws/b.prj");
-    change(SessionFixture::withState(m_document->mapping(id(path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(path)), {1}, 2));
     screws->invalidateState(); // as the editor does after its own change
     QVERIFY(screws->getMappingState().testFlag(PRJMAPPING::StateVerified));
     m_document->undo();
@@ -300,9 +262,9 @@ void tst_MappingDocumentSteps::directoriesShowUndoneStates()
 void tst_MappingDocumentSteps::markingConflictsIsNoStep()
 {
     open();
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     const auto marked = [this](int line) {
-        PrjMappingC mapping = m_document->mapping(id(Path));
+        PrjMappingC mapping = m_document->mapping(projectId(Path));
         PrjMappingTargetC target = mapping.findTarget(0);
         target.setLineConflicted(line, true);
         mapping.updateTarget(0, target);
@@ -313,8 +275,8 @@ void tst_MappingDocumentSteps::markingConflictsIsNoStep()
     QCOMPARE(m_document->undoTexts(),
              QStringList(QStringLiteral("Zeile 1 → 1 bestätigt in cat/a.prj")));
     m_document->undo();
-    const PrjMappingTargetC target = m_document->mapping(id(Path)).findTarget(0);
-    QCOMPARE(m_document->conflictedProjects(), QList<ProjectId>{id(Path)});
+    const PrjMappingTargetC target = m_document->mapping(projectId(Path)).findTarget(0);
+    QCOMPARE(m_document->conflictedProjects(), QList<ProjectId>{projectId(Path)});
     QVERIFY(target.getLineConflicted(3));
     QVERIFY(target.getLineConflicted(4));
     QCOMPARE(target.getMappedLine(1).getState(), PRJMAPPING::ToCheck);
@@ -348,7 +310,7 @@ void tst_MappingDocumentSteps::countsFollowEveryChange()
 {
     open();
     QSignalSpy counts(m_document.get(), &MappingDocument::countsChanged);
-    change(SessionFixture::withState(m_document->mapping(id(Path)), {1, 2}, 2));
+    change(SessionFixture::withState(m_document->mapping(projectId(Path)), {1, 2}, 2));
     QCOMPARE(counts.size(), 1);
     QCOMPARE(m_document->counts(), countLines(m_document->release()));
     change(SessionFixture::plainMapping(Path, 3, 1));

@@ -11,14 +11,9 @@
 
 namespace {
 
-ProjectId id(const QString &path)
-{
-    return {path, SessionFixture::Version, QStringLiteral("t1")};
-}
-
 LineRef ref(const char *path, int line)
 {
-    return {id(QString::fromLatin1(path)), line};
+    return {projectId(QString::fromLatin1(path)), line};
 }
 
 const char A[] = "z.prj";            // in the root, behind all directories
@@ -123,8 +118,8 @@ void tst_OpenLines::startsWithoutAPlace()
     const OpenLines lines(m_document.get());
     QCOMPARE(lines.next(LineRef()).line, ref(B, 3));
     QCOMPARE(lines.previous(LineRef()).line, ref(A, 7));
-    QCOMPARE(lines.next({id(QString::fromLatin1(A)), -1}).line, ref(A, 7));
-    QCOMPARE(lines.previous({id(QString::fromLatin1(B)), -1}).line, ref(B, 12));
+    QCOMPARE(lines.next({projectId(QString::fromLatin1(A)), -1}).line, ref(A, 7));
+    QCOMPARE(lines.previous({projectId(QString::fromLatin1(B)), -1}).line, ref(B, 12));
     QCOMPARE(lines.next(ref("gone.prj", 5)).line, ref(B, 3));
 }
 
@@ -188,7 +183,7 @@ void tst_OpenLines::kinds()
     if (kinds != int(open.kinds()))
         open.setKinds(OpenLines::Kinds(kinds));
     QCOMPARE(open.count(), int(lines.size()));
-    QCOMPARE(open.count(id(QString::fromLatin1(A))), int(lines.size()));
+    QCOMPARE(open.count(projectId(QString::fromLatin1(A))), int(lines.size()));
     QCOMPARE(open.projectCount(), lines.isEmpty() ? 0 : 1);
     LineRef at;
     for (int line : lines) {
@@ -322,7 +317,7 @@ void tst_OpenLines::conflictsComeFirst()
     QCOMPARE(open.count(), 5);
     QCOMPARE(open.countOf(OpenLines::Conflict), 2);
     QCOMPARE(open.countOf(OpenLines::ToCheck), 3);
-    QCOMPARE(open.count(id(QString::fromLatin1(D))), 3);
+    QCOMPARE(open.count(projectId(QString::fromLatin1(D))), 3);
     // Though they are confirmed, and although the other project comes first.
     OpenLines::Found at;
     for (const LineRef &expected : {ref(D, 2), ref(D, 5), ref(B, 3), ref(D, 3), ref(A, 7)}) {
@@ -353,7 +348,7 @@ void tst_OpenLines::goesOnWhereItWas()
     OpenLines::Found at = open.next(open.next({}).line);
     QCOMPARE(at.line, ref(A, 4));
     m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(id(QString::fromLatin1(A))), {4}, 2));
+        SessionFixture::withState(m_document->mapping(projectId(QString::fromLatin1(A))), {4}, 2));
     m_document->finishStep();
     QCOMPARE(open.next(at.line, OpenLines::Shown(), at.kind).line, ref(A, 6));
     QCOMPARE(open.next(at.line).line, ref(A, 1));
@@ -365,7 +360,7 @@ void tst_OpenLines::staysWithinTheFilter()
     const OpenLines lines(m_document.get());
     const QList<int> rows{14, 3, 5, 2};
     OpenLines::Shown shown;
-    shown.project = id(QString::fromLatin1(D));
+    shown.project = projectId(QString::fromLatin1(D));
     shown.rows = int(rows.size());
     shown.isFiltered = true;
     shown.lineAt = [&](int row) {

@@ -1,5 +1,5 @@
+#include "RecoveryFixture.h"
 #include "RecoveryVictim.h"
-#include "SessionFixture.h"
 
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/SessionRecovery.h>
@@ -15,20 +15,15 @@ namespace {
 
 const QString Date = QStringLiteral("2022-01-01");
 
-ProjectId id(const char *path)
-{
-    return {QString::fromLatin1(path), SessionFixture::Version, QStringLiteral("t1")};
-}
-
 } // namespace
 
-class tst_RecoveryAfterDamage : public QObject
+class tst_RecoveryAfterDamage : public QObject, private RecoveryFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void damagedJournals_data();
     void damagedJournals();
@@ -43,61 +38,7 @@ private Q_SLOTS:
     void laterChangesThatDoNotFitAreCounted();
     void onlyLaterChangesAreOfferedToo();
     void anUnreadableJournalIsTold();
-
-private:
-    void kill(const QStringList &deeds);
-    void start(QProcess &process, const QStringList &deeds) const;
-    [[nodiscard]] MappingDocument::OpenResult
-    open(MappingDocument::Recovery recovery = MappingDocument::Recovery::Ask);
-    [[nodiscard]] QStringList names(const QString &filter) const;
-
-    std::unique_ptr<SessionFixture> m_files;
-    std::unique_ptr<MappingDocument> m_document;
-    QString m_file;
 };
-
-void tst_RecoveryAfterDamage::init()
-{
-    m_files = std::make_unique<SessionFixture>();
-    m_document = std::make_unique<MappingDocument>();
-    m_file = m_files->write();
-}
-
-void tst_RecoveryAfterDamage::cleanup()
-{
-    m_document.reset();
-    m_files.reset();
-}
-
-void tst_RecoveryAfterDamage::start(QProcess &process, const QStringList &deeds) const
-{
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(),
-                  QStringList{QStringLiteral("--victim"), m_file} + deeds);
-    QVERIFY(process.waitForStarted());
-    QVERIFY(process.waitForReadyRead());
-    QCOMPARE(process.readAllStandardOutput(), QByteArray("ready\n"));
-}
-
-/// Another program does these things and is killed.
-void tst_RecoveryAfterDamage::kill(const QStringList &deeds)
-{
-    QProcess process;
-    start(process, deeds);
-    process.kill();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
-}
-
-MappingDocument::OpenResult tst_RecoveryAfterDamage::open(MappingDocument::Recovery recovery)
-{
-    return m_document->open({m_file, {}, {}, {}, recovery});
-}
-
-QStringList tst_RecoveryAfterDamage::names(const QString &filter) const
-{
-    return QDir(m_files->path(QString())).entryList({filter}, QDir::Files, QDir::Name);
-}
 
 void tst_RecoveryAfterDamage::damagedJournals_data()
 {
@@ -158,7 +99,8 @@ void tst_RecoveryAfterDamage::damageAnywhere()
     QList<qsizetype> ends{SessionFixture::content(journal).size()};
     for (int line = 1; line <= 6; ++line) {
         PrjMappingC mapping = SessionFixture::withState(
-            m_document->mapping(id(line % 2 == 0 ? "cat/a.prj" : "cat/screws/b.prj")), {line}, 2);
+            m_document->mapping(projectId(line % 2 == 0 ? "cat/a.prj" : "cat/screws/b.prj")),
+            {line}, 2);
         if (line == 4)
             mapping.addTarget(QStringLiteral("new/u.prj"), QString());
         m_document->updateMapping(mapping);
@@ -231,7 +173,7 @@ void tst_RecoveryAfterDamage::aDamagedOpeningHidesNothing()
     const QByteArray before = SessionFixture::content(journal);
     QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
     m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(id("cat/a.prj")), {1, 2}, 2));
+        SessionFixture::withState(m_document->mapping(projectId("cat/a.prj")), {1, 2}, 2));
     m_document->finishStep();
     QByteArray now = SessionFixture::content(journal);
     m_document->close();
@@ -279,7 +221,7 @@ void tst_RecoveryAfterDamage::laterChangesAreOfferedApart()
     for (int line = 1; line <= 10; ++line) {
         for (const char *path : {"cat/a.prj", "cat/screws/b.prj"}) {
             m_document->updateMapping(
-                SessionFixture::withState(m_document->mapping(id(path)), {line}, 2));
+                SessionFixture::withState(m_document->mapping(projectId(path)), {line}, 2));
             m_document->finishStep();
         }
     }
@@ -311,7 +253,7 @@ void tst_RecoveryAfterDamage::laterChangesThatDoNotFitAreCounted()
     QCOMPARE(open(), MappingDocument::OpenResult::Opened);
     const auto confirm = [this](const char *path, int line, int state) {
         m_document->updateMapping(
-            SessionFixture::withState(m_document->mapping(id(path)), {line}, state));
+            SessionFixture::withState(m_document->mapping(projectId(path)), {line}, state));
         m_document->finishStep();
     };
     confirm("cat/a.prj", 1, 2);
@@ -338,7 +280,7 @@ void tst_RecoveryAfterDamage::onlyLaterChangesAreOfferedToo()
     QCOMPARE(open(), MappingDocument::OpenResult::Opened);
     const auto confirm = [this](const char *path, int line, int state) {
         m_document->updateMapping(
-            SessionFixture::withState(m_document->mapping(id(path)), {line}, state));
+            SessionFixture::withState(m_document->mapping(projectId(path)), {line}, state));
         m_document->finishStep();
     };
     confirm("cat/a.prj", 1, 2);

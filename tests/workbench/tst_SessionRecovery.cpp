@@ -1,5 +1,5 @@
+#include "RecoveryFixture.h"
 #include "RecoveryVictim.h"
-#include "SessionFixture.h"
 
 #include <workbench/session/MappingDocument.h>
 
@@ -17,20 +17,15 @@ namespace {
 
 const QString Date = QStringLiteral("2022-01-01");
 
-ProjectId id(const char *path)
-{
-    return {QString::fromLatin1(path), SessionFixture::Version, QStringLiteral("t1")};
-}
-
 } // namespace
 
-class tst_SessionRecovery : public QObject
+class tst_SessionRecovery : public QObject, private RecoveryFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void bothVersionsAreOffered();
     void theRecoveredVersion_data();
@@ -53,61 +48,7 @@ private Q_SLOTS:
     void readOnlyDoesNotAsk();
     void theSavedVersionMayBeNewer();
     void otherReleasesComeFromTheBackup();
-
-private:
-    void kill(const QStringList &deeds);
-    void start(QProcess &process, const QStringList &deeds) const;
-    [[nodiscard]] MappingDocument::OpenResult
-    open(MappingDocument::Recovery recovery = MappingDocument::Recovery::Ask);
-    [[nodiscard]] QStringList names(const QString &filter) const;
-
-    std::unique_ptr<SessionFixture> m_files;
-    std::unique_ptr<MappingDocument> m_document;
-    QString m_file;
 };
-
-void tst_SessionRecovery::init()
-{
-    m_files = std::make_unique<SessionFixture>();
-    m_document = std::make_unique<MappingDocument>();
-    m_file = m_files->write();
-}
-
-void tst_SessionRecovery::cleanup()
-{
-    m_document.reset();
-    m_files.reset();
-}
-
-void tst_SessionRecovery::start(QProcess &process, const QStringList &deeds) const
-{
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(),
-                  QStringList{QStringLiteral("--victim"), m_file} + deeds);
-    QVERIFY(process.waitForStarted());
-    QVERIFY(process.waitForReadyRead());
-    QCOMPARE(process.readAllStandardOutput(), QByteArray("ready\n"));
-}
-
-/// Another program does these things and is killed.
-void tst_SessionRecovery::kill(const QStringList &deeds)
-{
-    QProcess process;
-    start(process, deeds);
-    process.kill();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
-}
-
-MappingDocument::OpenResult tst_SessionRecovery::open(MappingDocument::Recovery recovery)
-{
-    return m_document->open({m_file, {}, {}, {}, recovery});
-}
-
-QStringList tst_SessionRecovery::names(const QString &filter) const
-{
-    return QDir(m_files->path(QString())).entryList({filter}, QDir::Files, QDir::Name);
-}
 
 void tst_SessionRecovery::bothVersionsAreOffered()
 {
@@ -462,7 +403,7 @@ void tst_SessionRecovery::otherReleasesComeFromTheBackup()
     m_files->addRelease(m_file, other);
     QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
     m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(id("cat/a.prj")), {1}, 2));
+        SessionFixture::withState(m_document->mapping(projectId("cat/a.prj")), {1}, 2));
     m_document->finishStep();
     const QByteArray journal = SessionFixture::content(m_document->journalFile());
     const QString journalFile = m_document->journalFile();

@@ -23,11 +23,6 @@ using OpenResult = MappingDocument::OpenResult;
 
 const QString Date = QStringLiteral("2022-01-01");
 
-ProjectId id(const QString &path)
-{
-    return {path, SessionFixture::Version, QStringLiteral("t1")};
-}
-
 /// Opens a file as soon as nobody else edits it.
 bool openForEditing(MappingDocument &document, const QString &file)
 {
@@ -44,7 +39,7 @@ bool openForEditing(MappingDocument &document, const QString &file)
 
 void confirm(MappingDocument &document, const QString &path, int line)
 {
-    document.updateMapping(SessionFixture::withState(document.mapping(id(path)), {line}, 2));
+    document.updateMapping(SessionFixture::withState(document.mapping(projectId(path)), {line}, 2));
     document.finishStep();
 }
 

@@ -21,11 +21,6 @@ using State = UndoStep::State;
 const QString Path = QStringLiteral("cat/a.prj");
 const QString Other = QStringLiteral("cat/screws/b.prj");
 
-ProjectId id(const QString &path)
-{
-    return {path, SessionFixture::Version, QStringLiteral("t1")};
-}
-
 } // namespace
 
 /// The steps of a mapping file over its sessions, and taking back any of them.
@@ -99,13 +94,13 @@ MappingDocument &tst_StepHistory::open(const QString &date)
 void tst_StepHistory::confirm(const QList<int> &lines, const QString &path, int state)
 {
     m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(id(path)), lines, state));
+        SessionFixture::withState(m_document->mapping(projectId(path)), lines, state));
     m_document->finishStep();
 }
 
 void tst_StepHistory::setTarget(int line, int targetLine)
 {
-    PrjMappingC mapping = m_document->mapping(id(Path));
+    PrjMappingC mapping = m_document->mapping(projectId(Path));
     PrjMappingTargetC target = mapping.findTarget(0);
     target.addLineId(line, targetLine, PRJMAPPING::Verified, QString());
     mapping.updateTarget(0, target);
@@ -115,12 +110,12 @@ void tst_StepHistory::setTarget(int line, int targetLine)
 
 int tst_StepHistory::targetOf(int line) const
 {
-    return m_document->mapping(id(Path)).findTarget(0).getMappedLine(line).getTargetLineId();
+    return m_document->mapping(projectId(Path)).findTarget(0).getMappedLine(line).getTargetLineId();
 }
 
 int tst_StepHistory::stateOf(int line, const QString &path) const
 {
-    return m_document->mapping(id(path)).findTarget(0).getMappedLine(line).getState();
+    return m_document->mapping(projectId(path)).findTarget(0).getMappedLine(line).getState();
 }
 
 /// "+" counts, "-" was taken back, "!" was overtaken.
@@ -157,7 +152,7 @@ void tst_StepHistory::survivesARestart()
     QSignalSpy shown(m_document.get(), &MappingDocument::reselectRequested);
     m_document->undo();
     QCOMPARE(shown.size(), 1);
-    QCOMPARE(shown.first().first().value<ProjectId>(), id(Other));
+    QCOMPARE(shown.first().first().value<ProjectId>(), projectId(Other));
     m_document->undo();
     m_document->undo();
     QCOMPARE(SessionFixture::bytes(m_document->release()), first);
@@ -264,7 +259,7 @@ void tst_StepHistory::othersAreNotUndoneByTheWay()
     {
         MappingDocument theirs;
         theirs.open({copy, {}, {}, {}, {}});
-        theirs.updateMapping(SessionFixture::withState(theirs.mapping(id(Other)), {7}, 2));
+        theirs.updateMapping(SessionFixture::withState(theirs.mapping(projectId(Other)), {7}, 2));
         theirs.finishStep();
         QCOMPARE(theirs.save().result, SaveResult::Saved);
     }
@@ -441,7 +436,7 @@ void tst_StepHistory::branchThatIsInTheWay()
 void tst_StepHistory::targetsInTheMiddle()
 {
     const auto add = [this](const QString &path, int at, int line) {
-        PrjMappingC mapping = m_document->mapping(id(Path));
+        PrjMappingC mapping = m_document->mapping(projectId(Path));
         PrjMappingTargetC target;
         target.setTargetPath(path);
         target.setValid(true);
@@ -453,7 +448,7 @@ void tst_StepHistory::targetsInTheMiddle()
     };
     const auto paths = [this] {
         QStringList list;
-        const PrjMappingC mapping = m_document->mapping(id(Path));
+        const PrjMappingC mapping = m_document->mapping(projectId(Path));
         for (int i = 0; i < mapping.countTargets(); ++i)
             list += mapping.targetAt(i).getTargetPath();
         return list;
@@ -461,7 +456,7 @@ void tst_StepHistory::targetsInTheMiddle()
     add("new/u.prj", 0, 20); // 0
     confirm({1}, Other);     // 1
     add("new/v.prj", 0, 0);  // 2
-    PrjMappingC mapping = m_document->mapping(id(Path));
+    PrjMappingC mapping = m_document->mapping(projectId(Path));
     PrjMappingTargetC target = mapping.findTarget(2);
     QCOMPARE(target.getTargetPath(), "new/t.prj");
     target.addLineId(2, 9, PRJMAPPING::Verified, QString());
@@ -479,7 +474,7 @@ void tst_StepHistory::targetsInTheMiddle()
     QCOMPARE(paths(), QStringList({"new/u.prj", "new/t.prj"}));
     QCOMPARE(targetOf(20), 3);
     // A line that came into the target later stands in the way of its going.
-    mapping = m_document->mapping(id(Path));
+    mapping = m_document->mapping(projectId(Path));
     target = mapping.findTarget(0);
     target.addLineId(21, 4, PRJMAPPING::Verified, QString());
     mapping.updateTarget(0, target);
@@ -495,11 +490,11 @@ void tst_StepHistory::projectsInTheMiddle()
     confirm({1});
     QCOMPARE(m_document->planStep(0).steps, QList<int>{0});
     m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(id("cat/new.prj")), {2}, 2));
+        SessionFixture::withState(m_document->mapping(projectId("cat/new.prj")), {2}, 2));
     m_document->finishStep();
     QCOMPARE(m_document->planStep(0).steps, QList<int>({2, 0}));
     QVERIFY(move(0));
-    QVERIFY(!m_document->mapping(id("cat/new.prj")).isValid());
+    QVERIFY(!m_document->mapping(projectId("cat/new.prj")).isValid());
     QCOMPARE(stateOf(1), 2);
     QCOMPARE(m_document->counts().lines(), 30);
 }
@@ -509,13 +504,13 @@ void tst_StepHistory::conflictMarksStay()
 {
     confirm({1});
     confirm({2});
-    PrjMappingC mapping = m_document->mapping(id(Path));
+    PrjMappingC mapping = m_document->mapping(projectId(Path));
     PrjMappingTargetC target = mapping.findTarget(0);
     target.setLineConflicted(1, true);
     mapping.updateTarget(0, target);
     m_document->updateWithoutStep([&] { m_document->updateMapping(mapping); });
     QVERIFY(move(0));
-    QVERIFY(m_document->mapping(id(Path)).findTarget(0).getLineConflicted(1));
+    QVERIFY(m_document->mapping(projectId(Path)).findTarget(0).getLineConflicted(1));
     QCOMPARE(stateOf(1), 0);
     save();
     open();

@@ -14,11 +14,6 @@ namespace {
 
 const QString Path = QStringLiteral("cat/a.prj");
 
-ProjectId id(const QString &path)
-{
-    return {path, SessionFixture::Version, QStringLiteral("t1")};
-}
-
 PrjMappingTargetC realTarget(const QString &path)
 {
     PrjMappingTargetC target;
@@ -186,10 +181,12 @@ void tst_StepTexts::stepTexts()
     change(after);
     QCOMPARE(m_document->undoText(), text);
     m_document->undo();
-    QCOMPARE(SessionFixture::bytes(m_document->mapping(id(Path))), SessionFixture::bytes(before));
+    QCOMPARE(SessionFixture::bytes(m_document->mapping(projectId(Path))),
+             SessionFixture::bytes(before));
     QCOMPARE(m_document->redoText(), text);
     m_document->redo();
-    QCOMPARE(SessionFixture::bytes(m_document->mapping(id(Path))), SessionFixture::bytes(after));
+    QCOMPARE(SessionFixture::bytes(m_document->mapping(projectId(Path))),
+             SessionFixture::bytes(after));
 }
 
 void tst_StepTexts::textOverSeveralProjects()
@@ -197,7 +194,7 @@ void tst_StepTexts::textOverSeveralProjects()
     open();
     for (const char *path : {"cat/a.prj", "cat/screws/b.prj"})
         m_document->updateMapping(SessionFixture::withState(
-            m_document->mapping(id(QString::fromLatin1(path))), {1, 2}, 2));
+            m_document->mapping(projectId(QString::fromLatin1(path))), {1, 2}, 2));
     m_document->finishStep();
     QCOMPARE(m_document->undoText(), QStringLiteral("4 Zeilen bestätigt in 2 Projekten"));
 }
@@ -266,7 +263,7 @@ void tst_StepTexts::notices()
     QString text;
     for (const QList<QVariant> &arguments : raised) {
         const auto notice = arguments.first().value<ChangeNotice>();
-        QCOMPARE(notice.project, id(Path));
+        QCOMPARE(notice.project, projectId(Path));
         found += notice.kind;
         text += notice.text;
     }
@@ -329,7 +326,7 @@ void tst_StepTexts::stillIgnoredVariablesAreTold()
              qPrintable(notice.text));
     QCOMPARE(m_document->undoTexts().size(), 1);
     raised.clear();
-    change(m_document->mapping(id(Path)));
+    change(m_document->mapping(projectId(Path)));
     QCOMPARE(raised.size(), 0);
 }
 

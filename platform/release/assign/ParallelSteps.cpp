@@ -17,4 +17,21 @@ bool runParallelSteps(int count, const std::function<void(int)> &step, PProgress
     });
 }
 
+bool runParallelSteps(int count, const std::function<void(int)> &step,
+                      const std::atomic<bool> &cancelled, const std::function<void(int)> &tell)
+{
+    const bool done = WorkerPool::instance().run(
+        count,
+        [&](int i) {
+            if (!cancelled.load(std::memory_order_relaxed))
+                step(i);
+        },
+        [&](int made) {
+            if (tell)
+                tell(made);
+            return !cancelled.load(std::memory_order_relaxed);
+        });
+    return done && !cancelled.load();
+}
+
 } // namespace VelkRelease

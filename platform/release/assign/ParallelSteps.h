@@ -2,6 +2,7 @@
 
 #include <release/VelkReleaseGlobal.h>
 
+#include <atomic>
 #include <functional>
 
 class PProgress;
@@ -13,5 +14,12 @@ namespace VelkRelease {
 /// nothing. False if the progress was cancelled: then steps may not have been made.
 [[nodiscard]] VELKRELEASE_EXPORT bool
 runParallelSteps(int count, const std::function<void(int)> &step, PProgress &progress);
+
+/// The same for work that another thread breaks off by \a cancelled; \a tell, where there is one,
+/// is called on the calling thread with the number of steps made so far.
+[[nodiscard]] VELKRELEASE_EXPORT bool runParallelSteps(int count,
+                                                       const std::function<void(int)> &step,
+                                                       const std::atomic<bool> &cancelled,
+                                                       const std::function<void(int)> &tell = {});
 
 } // namespace VelkRelease

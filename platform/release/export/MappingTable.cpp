@@ -1,8 +1,8 @@
 #include "MappingTable.h"
 
-#include <core/parallel/WorkerPool.h>
 #include <geomcore/csv/csvCell.h>
 #include <geomcore/records/MappingRows.h>
+#include <release/assign/ParallelSteps.h>
 #include <release/pattern/OpenPairs.h>
 
 namespace VelkRelease {
@@ -63,7 +63,7 @@ std::optional<LineReasonColumn> lineReasons(const ReleaseMappingC &release,
 {
     LineReasonColumn reasons(size_t(release.countMappings()));
     std::vector<QStringList> texts(reasons.size());
-    const bool done = WorkerPool::instance().run(
+    const bool done = runParallelSteps(
         release.countMappings(),
         [&](int i) {
             const PrjMappingC mapping = release.mappingAt(i);
@@ -74,12 +74,8 @@ std::optional<LineReasonColumn> lineReasons(const ReleaseMappingC &release,
                     reasons[size_t(i)].insert(pair.line, {pair.probability, pair.reason});
             }
         },
-        [&](int steps) {
-            if (tell)
-                tell(steps);
-            return !cancelled.load(std::memory_order_relaxed);
-        });
-    if (!done || cancelled.load())
+        cancelled, tell);
+    if (!done)
         return std::nullopt;
     for (const QStringList &some : texts)
         errors += some;

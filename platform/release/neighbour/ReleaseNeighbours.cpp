@@ -1,7 +1,7 @@
 #include "ReleaseNeighbours.h"
 
-#include <core/parallel/WorkerPool.h>
 #include <geomcore/records/LineTable.h>
+#include <release/assign/ParallelSteps.h>
 #include <release/decide/LineEdits.h>
 #include <release/pattern/LineComparer.h>
 
@@ -144,21 +144,17 @@ std::optional<ReleaseNeighbours> ReleaseNeighbours::compute(const QString &sourc
         QStringList errors;
     };
     std::vector<Read> reads(std::size_t(release.countMappings()));
-    const bool done = WorkerPool::instance().run(
+    const bool done = runParallelSteps(
         release.countMappings(),
         [&](int i) {
-            if (cancelled.load(std::memory_order_relaxed) || (wanted && !wanted(i)))
+            if (wanted && !wanted(i))
                 return;
             Read &read = reads[std::size_t(i)];
             read.findings = readNeighbours(sourceRoot, release.mappingAt(i), release, read.lines,
                                            read.errors, &cancelled);
         },
-        [&](int steps) {
-            if (tell)
-                tell(steps);
-            return !cancelled.load(std::memory_order_relaxed);
-        });
-    if (!done || cancelled.load())
+        cancelled, tell);
+    if (!done)
         return std::nullopt;
     ReleaseNeighbours neighbours;
     for (std::size_t i = 0; i < reads.size(); ++i) {

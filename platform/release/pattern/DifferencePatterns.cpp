@@ -1,7 +1,7 @@
 #include "DifferencePatterns.h"
 
-#include <core/parallel/WorkerPool.h>
 #include <geomcore/records/LineTable.h>
+#include <release/assign/ParallelSteps.h>
 
 #include <algorithm>
 #include <cmath>
@@ -85,22 +85,18 @@ std::optional<DifferencePatterns> DifferencePatterns::compute(
     const std::function<bool(int)> &wanted, const std::function<void(int)> &tell)
 {
     std::vector<Read> pairs(size_t(release.countMappings()));
-    const bool done = WorkerPool::instance().run(
+    const bool done = runParallelSteps(
         release.countMappings(),
         [&](int i) {
-            if (cancelled.load(std::memory_order_relaxed) || (wanted && !wanted(i)))
+            if (wanted && !wanted(i))
                 return;
             const PrjMappingC mapping = release.mappingAt(i);
             Read &read = pairs[size_t(i)];
             read.pairs = readOpenPairs(sourceRoot, mapping, release, openProposals(mapping),
                                        read.errors, &cancelled);
         },
-        [&](int steps) {
-            if (tell)
-                tell(steps);
-            return !cancelled.load(std::memory_order_relaxed);
-        });
-    if (!done || cancelled.load())
+        cancelled, tell);
+    if (!done)
         return std::nullopt;
     return DifferencePatterns(release, pairs);
 }
