@@ -1,12 +1,11 @@
 #include "../support/SizeLimit.h"
 #include "AsNobody.h"
-#include "SessionFixture.h"
+#include "SaveFixture.h"
 
 #include <workbench/session/GuardedSave.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <geomcore/records/MappingFile.h>
-#include <mapping/data/ReleaseMappingHandler.h>
 
 #include <QDir>
 #include <QFile>
@@ -14,42 +13,17 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <memory>
-
 #include <cerrno>
 #include <sys/stat.h>
 
-namespace {
-
-const QString Date = QStringLiteral("2022-01-01");
-
-ProjectId firstProject()
-{
-    return {QStringLiteral("cat/a.prj"), SessionFixture::Version, QStringLiteral("t1")};
-}
-
-ReleaseMappingC changedRelease()
-{
-    ReleaseMappingC release = SessionFixture::sampleRelease();
-    release.addMapping(SessionFixture::withState(release.mappingAt(0), {1}, 2));
-    return release;
-}
-
-/// As the document does it.
-bool commitTo(const QString &copy)
-{
-    return ReleaseMappingHandler(changedRelease(), QString(), copy).commitModifications();
-}
-
-} // namespace
-
-class tst_GuardedSave : public QObject
+/// Saving a file that others may have changed, and what is kept of it.
+class tst_GuardedSave : public QObject, protected SaveFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { setUp(); }
+    void cleanup() { clear(); }
 
     void savesAndKeepsTheFormerFile();
     void keepsThreeFormerFiles();
@@ -65,17 +39,6 @@ private Q_SLOTS:
     void unreadableFilesAreKept();
     void somebodyIsSaving();
     void aLostReleaseIsAFailure();
-    void failuresAreUndone_data();
-    void failuresAreUndone();
-    void aFailedNewFileIsRemoved();
-    void theFileIsNeverOpenedForWriting();
-    void aFullDiskIsTold();
-    void whatStandsInTheWay_data();
-    void whatStandsInTheWay();
-    void aPipeIsNoMappingFile();
-    void theFolderIsGone();
-    void anUnfinishedCopyIsOfNoConsequence();
-    void aChangeWhileWriting();
     void otherReleasesComeFromTheBackup();
     void keepsTheRightsOfTheFile();
     void aFullDisk();
@@ -85,51 +48,7 @@ private Q_SLOTS:
     void savesIntoAnotherMappingFile();
     void doesNotSaveIntoAFileThatIsBeingEdited();
     void linksStayLinks();
-
-private:
-    void openAndChange();
-    [[nodiscard]] SaveOutcome saveWith(const GuardedSave::Commit &commit,
-                                       const SaveOptions &options = {});
-    [[nodiscard]] QStringList names() const;
-
-    std::unique_ptr<SessionFixture> m_files;
-    std::unique_ptr<MappingDocument> m_document;
-    QString m_file;
 };
-
-void tst_GuardedSave::init()
-{
-    m_files = std::make_unique<SessionFixture>();
-    m_document = std::make_unique<MappingDocument>();
-    m_file = m_files->write();
-}
-
-void tst_GuardedSave::cleanup()
-{
-    m_document.reset();
-    m_files.reset();
-}
-
-void tst_GuardedSave::openAndChange()
-{
-    QCOMPARE(m_document->open({m_file, Date, {}, {}, {}}), MappingDocument::OpenResult::Opened);
-    m_document->updateMapping(
-        SessionFixture::withState(m_document->mapping(firstProject()), {1, 2}, 2));
-    m_document->finishStep();
-}
-
-/// Saves the sample release, one line confirmed, by a function of the test's own.
-SaveOutcome tst_GuardedSave::saveWith(const GuardedSave::Commit &commit, const SaveOptions &options)
-{
-    const ReleaseMappingC release = changedRelease();
-    GuardedSave guard(m_file, FileState::of(m_file), SessionFixture::sampleRelease());
-    return guard.run(release, commit, options);
-}
-
-QStringList tst_GuardedSave::names() const
-{
-    return QDir(m_files->path(QString())).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-}
 
 void tst_GuardedSave::savesAndKeepsTheFormerFile()
 {
@@ -359,171 +278,6 @@ void tst_GuardedSave::aLostReleaseIsAFailure()
                  qPrintable(outcome.text));
         QCOMPARE(SessionFixture::content(m_file), before);
     }
-}
-
-void tst_GuardedSave::failuresAreUndone_data()
-{
-    QTest::addColumn<QByteArray>("written");
-    QTest::addColumn<bool>("result");
-    QTest::addColumn<QString>("part");
-    QTest::newRow("says that it failed")
-        << QByteArray("{\"2022") << false << QStringLiteral("nicht vollständig geschrieben");
-    QTest::newRow("half a file") << QByteArray("{\"2022") << true << QStringLiteral("nicht lesbar");
-    QTest::newRow("another content")
-        << QByteArray("{\"2022-01-01\":{\"sourceDate\":\"2022-01-01\",\"targetDate\":\"\"}}")
-        << true << QStringLiteral("enthält nicht, was gespeichert werden sollte");
-    QTest::newRow("nothing") << QByteArray() << true << QStringLiteral("nicht lesbar");
-}
-
-void tst_GuardedSave::failuresAreUndone()
-{
-    QFETCH(QByteArray, written);
-    QFETCH(bool, result);
-    QFETCH(QString, part);
-    const QByteArray before = SessionFixture::content(m_file);
-    const SaveOutcome outcome = saveWith([&](const QString &copy) {
-        SessionFixture::setContent(copy, written);
-        return result;
-    });
-    QCOMPARE(outcome.result, SaveResult::WriteFailed);
-    QVERIFY2(outcome.text.contains(part), qPrintable(outcome.text));
-    QVERIFY(outcome.text.startsWith(m_file + QStringLiteral(" wurde nicht gespeichert:")));
-    QVERIFY(outcome.text.contains(QStringLiteral("Die Datei ist unverändert")));
-    QCOMPARE(SessionFixture::content(m_file), before);
-    QCOMPARE(names(), QStringList(QStringLiteral("release.json")));
-}
-
-void tst_GuardedSave::aFailedNewFileIsRemoved()
-{
-    QVERIFY(QFile::remove(m_file));
-    const SaveOutcome outcome = saveWith([&](const QString &copy) {
-        SessionFixture::setContent(copy, "{");
-        return false;
-    });
-    QCOMPARE(outcome.result, SaveResult::WriteFailed);
-    QVERIFY(!QFile::exists(m_file));
-    QVERIFY(names().isEmpty());
-}
-
-/// Whatever happens while it is being written, the file is there whole.
-void tst_GuardedSave::theFileIsNeverOpenedForWriting()
-{
-    m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2020-01-01")));
-    const QByteArray before = SessionFixture::content(m_file);
-    QFile former(m_file);
-    QVERIFY(former.open(QIODevice::ReadOnly));
-    const SaveOutcome outcome = saveWith([&](const QString &copy) {
-        return SessionFixture::content(m_file) == before && commitTo(copy) &&
-               SessionFixture::content(m_file) == before;
-    });
-    QCOMPARE(outcome.result, SaveResult::Saved);
-    // Another file has taken its place.
-    QCOMPARE(former.readAll(), before);
-    QVERIFY(SessionFixture::content(m_file) != before);
-    QCOMPARE(SessionFixture::content(outcome.backupFile), before);
-}
-
-void tst_GuardedSave::aFullDiskIsTold()
-{
-    const QByteArray before = SessionFixture::content(m_file);
-    SessionFixture::setContent(GuardedSave::backupFile(m_file), "former");
-    SaveOutcome outcome;
-    {
-        const SizeLimit limit(before.size() / 2);
-        outcome = saveWith(commitTo);
-    }
-    QCOMPARE(outcome.result, SaveResult::WriteFailed);
-    QVERIFY2(outcome.text.contains(OwnFile::causeOf(EFBIG)), qPrintable(outcome.text));
-    QCOMPARE(OwnFile::causeOf(ENOSPC), QStringLiteral("der Datenträger ist voll"));
-    QCOMPARE(SessionFixture::content(m_file), before);
-    QCOMPARE(SessionFixture::content(GuardedSave::backupFile(m_file)), QByteArray("former"));
-    QCOMPARE(names(),
-             QStringList({QStringLiteral("release.json"), QStringLiteral("release.json.bak")}));
-}
-
-void tst_GuardedSave::whatStandsInTheWay_data()
-{
-    QTest::addColumn<QString>("suffix");
-    QTest::addColumn<QString>("thing");
-    for (const char *suffix : {".lock", ".neu", ".bak", ".bak.part"}) {
-        for (const char *thing : {"link", "dangling", "pipe", "folder"})
-            QTest::addRow("%s at %s", thing, suffix)
-                << QString::fromLatin1(suffix) << QString::fromLatin1(thing);
-    }
-}
-
-/// Nothing of ours is written through a link or into a pipe, and nobody waits for one.
-void tst_GuardedSave::whatStandsInTheWay()
-{
-    QFETCH(QString, suffix);
-    QFETCH(QString, thing);
-    const QByteArray before = SessionFixture::content(m_file);
-    const QString victim = m_files->path(QStringLiteral("victim"));
-    if (thing != u"dangling")
-        SessionFixture::setContent(victim, "precious");
-    const QString name = m_file + suffix;
-    if (thing == u"pipe")
-        QCOMPARE(::mkfifo(qPrintable(name), 0600), 0);
-    else if (thing == u"folder")
-        QVERIFY(QDir().mkpath(name + QStringLiteral("/full")));
-    else
-        QVERIFY(QFile::link(victim, name));
-    SaveOutcome outcome = saveWith(commitTo);
-    QVERIFY(outcome.result == SaveResult::WriteFailed ||
-            outcome.result == SaveResult::BackupFailed);
-    QVERIFY2(outcome.text.contains(QStringLiteral("gewöhnliche Datei")), qPrintable(outcome.text));
-    QCOMPARE(SessionFixture::content(m_file), before);
-    QCOMPARE(QFile::exists(victim), thing != u"dangling");
-    if (thing != u"dangling")
-        QCOMPARE(SessionFixture::content(victim), QByteArray("precious"));
-    QCOMPARE(OwnFile::place(name), OwnFile::Place::Other);
-    QVERIFY(QFile::remove(name) || QDir(name).removeRecursively());
-    outcome = saveWith(commitTo);
-    QVERIFY2(outcome.result == SaveResult::Saved, qPrintable(outcome.text));
-}
-
-void tst_GuardedSave::aPipeIsNoMappingFile()
-{
-    QVERIFY(QFile::remove(m_file));
-    QCOMPARE(::mkfifo(qPrintable(m_file), 0600), 0);
-    QCOMPARE(saveWith(commitTo).result, SaveResult::WriteFailed);
-    QCOMPARE(OwnFile::place(m_file), OwnFile::Place::Other);
-}
-
-void tst_GuardedSave::theFolderIsGone()
-{
-    const QString folder = m_files->path(QStringLiteral("gone"));
-    QVERIFY(QDir().mkpath(folder));
-    m_file = folder + QStringLiteral("/release.json");
-    const SaveOutcome outcome = saveWith(
-        [&](const QString &copy) { return QDir(folder).removeRecursively() && commitTo(copy); });
-    QCOMPARE(outcome.result, SaveResult::WriteFailed);
-    QVERIFY2(outcome.text.contains(OwnFile::causeOf(ENOENT)), qPrintable(outcome.text));
-    QCOMPARE(saveWith(commitTo).result, SaveResult::WriteFailed);
-}
-
-/// A program that was killed while it was writing.
-void tst_GuardedSave::anUnfinishedCopyIsOfNoConsequence()
-{
-    SessionFixture::setContent(GuardedSave::copyFile(m_file), "{\"2022-01-01\":{\"sou");
-    SessionFixture::setContent(GuardedSave::backupFile(m_file) + QStringLiteral(".part"), "{");
-    QCOMPARE(saveWith(commitTo).result, SaveResult::Saved);
-    QCOMPARE(names(),
-             QStringList({QStringLiteral("release.json"), QStringLiteral("release.json.bak")}));
-}
-
-void tst_GuardedSave::aChangeWhileWriting()
-{
-    QByteArray theirs;
-    const SaveOutcome outcome = saveWith([&](const QString &copy) {
-        m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2030-01-01")));
-        theirs = SessionFixture::content(m_file);
-        return commitTo(copy);
-    });
-    QCOMPARE(outcome.result, SaveResult::ForeignChange);
-    QVERIFY2(outcome.text.contains(QStringLiteral("während")), qPrintable(outcome.text));
-    QCOMPARE(SessionFixture::content(m_file), theirs);
-    QVERIFY(!names().contains(QStringLiteral("release.json.neu")));
 }
 
 void tst_GuardedSave::otherReleasesComeFromTheBackup()
