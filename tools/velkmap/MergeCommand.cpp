@@ -4,12 +4,16 @@
 #include "MergeReport.h"
 #include "ReleaseFile.h"
 
+#include <core/parallel/WorkerPool.h>
+#include <geomcore/records/KnownRows.h>
 #include <release/history/DecisionHistory.h>
 #include <release/merge/mergeFiles.h>
 #include <release/merge/SameLines.h>
 
 #include <QFileInfo>
 #include <QTextStream>
+
+#include <array>
 
 namespace velkmap {
 
@@ -29,28 +33,51 @@ struct Input
 };
 
 /// An empty file holds no release; so version control names a file that was not there.
-std::optional<ExitStatus> readFile(const QString &path, MappingFile &file, QTextStream &err)
+bool isEmptyFile(const QString &path)
 {
     const QFileInfo info(path);
-    if (info.isFile() && info.size() == 0)
-        return std::nullopt;
+    return info.isFile() && info.size() == 0;
+}
+
+/// One of the three files while it is read.
+struct Side
+{
+    QString path;
+    MappingFile &file;
     QString error;
-    if (!file.read(path, QString(), &error)) {
-        err << "velkmap merge: " << error << "; nothing was written\n";
+    bool isRead = false;
+};
+
+std::optional<ExitStatus> tellReading(const Side &side, QTextStream &err)
+{
+    if (!side.isRead) {
+        err << "velkmap merge: " << side.error << "; nothing was written\n";
         return ExitStatus::InputUnreadable;
     }
-    for (const QString &note : file.notes())
-        err << "velkmap merge: " << path << ": " << note << '\n';
+    for (const QString &note : side.file.notes())
+        err << "velkmap merge: " << side.path << ": " << note << '\n';
     return std::nullopt;
 }
 
+/// Both sides were made of the base, so they say mostly what it says.
 std::optional<ExitStatus> readInput(const CommandLine &line, Input &input, QTextStream &err)
 {
-    if (const auto failed = readFile(line.value("base"), input.base, err))
+    KnownRows rows;
+    Side base{line.value("base"), input.base, {}};
+    base.isRead = isEmptyFile(base.path) || base.file.readNoting(base.path, rows, &base.error);
+    if (const auto failed = tellReading(base, err))
         return failed;
-    if (const auto failed = readFile(line.value("ours"), input.ours, err))
-        return failed;
-    return readFile(line.value("theirs"), input.theirs, err);
+    std::array<Side, 2> sides = {Side{line.value("ours"), input.ours, {}},
+                                 Side{line.value("theirs"), input.theirs, {}}};
+    WorkerPool::instance().run(int(sides.size()), [&](int i) {
+        Side &side = sides[size_t(i)];
+        side.isRead = isEmptyFile(side.path) || side.file.readBeside(side.path, rows, &side.error);
+    });
+    for (const Side &side : sides) {
+        if (const auto failed = tellReading(side, err))
+            return failed;
+    }
+    return std::nullopt;
 }
 
 ExitStatus write(const CommandLine &line, const VelkRelease::MergedFile &merged, QTextStream &err)

@@ -12,7 +12,8 @@ public:
     void add(int targetLine, int state, bool conflict, int factor = 1)
     {
         m_entries[slot(targetLine, state)] += factor;
-        m_conflicts[slot(targetLine, state)] += conflict ? factor : 0;
+        if (conflict) // hardly any is
+            m_conflicts[slot(targetLine, state)] += factor;
     }
     void add(const LineCounts &other, int factor = 1)
     {

@@ -260,25 +260,72 @@ LineTable::Page &LineTable::writablePage(const Place &place)
     return *ref.page;
 }
 
-void LineTable::append(const Row &row, const ExtendedTextPtr &extended)
+bool LineTable::lastPageIsFull() const
 {
-    if (isEmpty() || m_chunks.back().chunk->pages.size() == ChunkPages) {
-        const bool lastIsFull =
-            isEmpty() || m_chunks.back().chunk->pages.back().page->rows.size() == PageRows;
-        if (lastIsFull)
-            m_chunks.push_back({row.sourceLine, QExplicitlySharedDataPointer<Chunk>(new Chunk)});
-    }
+    return m_chunks.back().chunk->pages.back().page->rows.size() == PageRows;
+}
+
+LineTable::Page &LineTable::lastPageWithRoom(int firstLine)
+{
+    if (isEmpty() || (m_chunks.back().chunk->pages.size() == ChunkPages && lastPageIsFull()))
+        m_chunks.push_back({firstLine, QExplicitlySharedDataPointer<Chunk>(new Chunk)});
     Chunk &chunk = writableChunk(m_chunks.size() - 1);
     if (chunk.pages.empty() || chunk.pages.back().page->rows.size() == PageRows)
-        chunk.pages.push_back(newPage(row.sourceLine));
+        chunk.pages.push_back(newPage(firstLine));
     PageRef &ref = chunk.pages.back();
     ref.page.detach();
-    Page &page = *ref.page;
+    return *ref.page;
+}
+
+void LineTable::append(const Row &row, const ExtendedTextPtr &extended)
+{
+    Page &page = lastPageWithRoom(row.sourceLine);
     page.rows.push_back(row);
     if (!page.extended.empty())
         page.extended.emplace_back();
     setExtended(page, page.rows.size() - 1, extended);
     count(m_counts, row, 1);
+}
+
+void LineTable::append(Iterator &from, int count)
+{
+    Q_ASSERT(count == 0 || isBeyondLast(from.sourceLine()));
+    while (count > 0) {
+        const PageRef &source = (*from.m_chunks)[from.m_chunk].chunk->pages[from.m_page];
+        const std::vector<Row> &rows = source.page->rows;
+        if (from.m_row == rows.data() && count >= int(rows.size()) &&
+            (isEmpty() || lastPageIsFull())) {
+            appendPage(source);
+            count -= int(rows.size());
+            from.goToNextPage();
+        } else {
+            count -= appendPart(from, count);
+        }
+    }
+}
+
+int LineTable::appendPart(Iterator &from, int most)
+{
+    Page &page = lastPageWithRoom(from.sourceLine());
+    const std::size_t size = std::min(
+        {std::size_t(most), std::size_t(from.m_pageEnd - from.m_row), PageRows - page.rows.size()});
+    const std::size_t before = page.rows.size();
+    const Row *const end = from.m_row + size;
+    page.rows.reserve(PageRows);
+    page.rows.insert(page.rows.end(), from.m_row, end);
+    if (!page.extended.empty())
+        page.extended.resize(page.rows.size());
+    for (std::size_t i = 0; from.m_extended && i < size; ++i) {
+        if (from.m_extended[i])
+            setExtended(page, before + i, from.m_extended[i]);
+    }
+    for (const Row *row = from.m_row; row != end; ++row)
+        count(m_counts, *row, 1);
+    if (end == from.m_pageEnd)
+        from.goToNextPage();
+    else
+        from.goTo(size);
+    return int(size);
 }
 
 void LineTable::insert(Place place, const Row &row, const ExtendedTextPtr &extended)

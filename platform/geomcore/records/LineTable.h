@@ -35,6 +35,7 @@ class VELKGEOMCORE_EXPORT LineTable
         int targetLine;
         quint32 packed; ///< state * 2 + conflict
 
+        friend bool operator==(const Row &, const Row &) = default;
         [[nodiscard]] PRJMAPPING::CheckState state() const
         {
             return PRJMAPPING::CheckState(packed >> 1U);
@@ -99,10 +100,8 @@ public:
         Iterator &operator++()
         {
             m_extended += m_extended ? 1 : 0;
-            if (++m_row == m_pageEnd) {
-                ++m_page;
-                enterPage();
-            }
+            if (++m_row == m_pageEnd)
+                goToNextPage();
             return *this;
         }
         Iterator operator++(int)
@@ -150,6 +149,11 @@ public:
             m_pageEnd = m_row + page.rows.size();
             m_extended = page.extended.empty() ? nullptr : page.extended.data();
         }
+        void goToNextPage()
+        {
+            ++m_page;
+            enterPage();
+        }
         void goTo(std::size_t row)
         {
             m_extended += m_extended ? std::ptrdiff_t(row) : 0;
@@ -160,6 +164,8 @@ public:
         void seekText();
         /// Goes behind all that both have ahead in common. False if there is nothing.
         static bool skipShared(Iterator &a, Iterator &b);
+        /// The same for rows of the two pages without texts.
+        static bool skipSameRows(Iterator &a, Iterator &b);
 
         const std::vector<ChunkRef> *m_chunks = nullptr;
         std::size_t m_chunk = 0;
@@ -228,6 +234,9 @@ public:
     void set(int sourceLine, const PrjMappingTargetLineC &line);
     void set(int sourceLine, int targetLine, PRJMAPPING::CheckState state, bool conflict,
              const ExtendedTextPtr &extended);
+    /// Adds \a count entries of another table from \a from on, which goes behind them. They stand
+    /// behind all that are there. Pages that are taken as a whole are shared.
+    void append(Iterator &from, int count);
     /// Does nothing for an unknown id.
     void setConflict(int sourceLine, bool conflict);
     /// False for an unknown id.
@@ -281,6 +290,9 @@ private:
     Page &writablePage(const Place &place);
     Chunk &writableChunk(std::size_t chunk);
     void append(const Row &row, const ExtendedTextPtr &extended);
+    [[nodiscard]] int appendPart(Iterator &from, int most);
+    [[nodiscard]] bool lastPageIsFull() const;
+    [[nodiscard]] Page &lastPageWithRoom(int firstLine);
     void appendPage(const PageRef &page);
     void appendRows(const LineTable &from, qint64 after, int last);
     void insert(Place place, const Row &row, const ExtendedTextPtr &extended);

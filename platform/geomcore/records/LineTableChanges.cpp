@@ -59,13 +59,27 @@ bool LineTable::Iterator::skipShared(Iterator &a, Iterator &b)
     return true;
 }
 
+bool LineTable::Iterator::skipSameRows(Iterator &a, Iterator &b)
+{
+    if (!a || !b || a.m_extended || b.m_extended)
+        return false;
+    const auto most = std::min(a.m_pageEnd - a.m_row, b.m_pageEnd - b.m_row);
+    const auto same = std::mismatch(a.m_row, a.m_row + most, b.m_row).first - a.m_row;
+    for (Iterator *at : {&a, &b}) {
+        at->m_row += same;
+        if (at->m_row == at->m_pageEnd)
+            at->goToNextPage();
+    }
+    return same > 0;
+}
+
 template<class Visit>
 void LineTable::walkDifferences(const LineTable &before, const LineTable &after, Visit visit)
 {
     Iterator a = before.begin();
     Iterator b = after.begin();
     while (a || b) {
-        if (Iterator::skipShared(a, b))
+        if (Iterator::skipShared(a, b) || Iterator::skipSameRows(a, b))
             continue;
         const bool inBefore = a && (!b || a.sourceLine() <= b.sourceLine());
         const bool inAfter = b && (!a || b.sourceLine() <= a.sourceLine());
@@ -111,7 +125,7 @@ bool LineTable::isSame(const LineTable &a, const LineTable &b)
     Iterator x = a.begin();
     Iterator y = b.begin();
     while (x && y) {
-        if (Iterator::skipShared(x, y))
+        if (Iterator::skipShared(x, y) || Iterator::skipSameRows(x, y))
             continue;
         if (x.sourceLine() != y.sourceLine() || !areSame(x, y))
             return false;

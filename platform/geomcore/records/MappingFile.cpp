@@ -1,5 +1,6 @@
 #include "MappingFile.h"
 
+#include "KnownRows.h"
 #include "ReleaseReader.h"
 #include "ReleaseWriter.h"
 
@@ -37,6 +38,26 @@ bool report(QString *error, const QString &path, const QString &what)
     return false;
 }
 
+bool openFile(QFile &file, const QString &nativePath, QString *error)
+{
+    const QFileInfo info(nativePath);
+    if (info.exists() && !info.isFile()) // asked first: opening a pipe waits for its other end
+        return report(error, nativePath, QStringLiteral("It is no regular file."));
+    file.setFileName(nativePath);
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
+           report(error, nativePath, file.errorString());
+}
+
+/// \a what is wrong with the content of a file that was opened, unless reading it failed.
+bool reportReading(QString *error, const QFile &file, const QString &what)
+{
+    if (file.error() != QFileDevice::NoError)
+        return report(error, file.fileName(), file.errorString());
+    if (error)
+        *error = QStringLiteral("%1, %2").arg(file.fileName(), what);
+    return false;
+}
+
 WantedMembers wantedOf(const QString &sourceDate)
 {
     return sourceDate.isEmpty() ? WantedMembers::All : WantedMembers::Named;
@@ -71,20 +92,36 @@ MappingFile::~MappingFile() = default;
 
 bool MappingFile::read(const QString &nativePath, const QString &sourceDate, QString *error)
 {
-    const QFileInfo info(nativePath);
-    if (info.exists() && !info.isFile()) // asked first: opening a pipe waits for its other end
-        return report(error, nativePath, QStringLiteral("It is no regular file."));
-    QFile file(nativePath);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return report(error, nativePath, file.errorString());
+    QFile file;
     QString what;
-    if (readMappingFile(file, wantedOf(sourceDate), sourceDate, d->members, d->notes, &what))
-        return true;
-    if (file.error() != QFileDevice::NoError)
-        return report(error, nativePath, file.errorString());
-    if (error)
-        *error = QStringLiteral("%1, %2").arg(nativePath, what);
-    return false;
+    return openFile(file, nativePath, error) &&
+           (readMappingFile(file, wantedOf(sourceDate), sourceDate, d->members, d->notes, &what) ||
+            reportReading(error, file, what));
+}
+
+bool MappingFile::readNoting(const QString &nativePath, KnownRows &rows, QString *error)
+{
+    QFile file;
+    if (!openFile(file, nativePath, error))
+        return false;
+    rows.begin(file.readAll());
+    QBuffer buffer;
+    buffer.setData(rows.json());
+    QString what;
+    return (file.error() == QFileDevice::NoError && buffer.open(QIODevice::ReadOnly) &&
+            readMappingFile(buffer, WantedMembers::All, {}, d->members, d->notes, &what,
+                            {&rows, nullptr})) ||
+           reportReading(error, file, what);
+}
+
+bool MappingFile::readBeside(const QString &nativePath, const KnownRows &rows, QString *error)
+{
+    QFile file;
+    QString what;
+    return openFile(file, nativePath, error) &&
+           (readMappingFile(file, WantedMembers::All, {}, d->members, d->notes, &what,
+                            {nullptr, &rows}) ||
+            reportReading(error, file, what));
 }
 
 bool MappingFile::parse(const QByteArray &json, const QString &sourceDate, QString *error)

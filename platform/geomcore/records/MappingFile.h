@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+class KnownRows;
 class MappingFileData;
 
 /// A mapping file: one JSON object with a member for each release, named by its source date. Reads
@@ -29,6 +30,13 @@ public:
     /// the file does not hold is no error.
     [[nodiscard]] bool read(const QString &nativePath, const QString &sourceDate = QString(),
                             QString *error = nullptr);
+    /// The same with all releases; \a rows takes what other files are read beside, and the text of
+    /// the file.
+    [[nodiscard]] bool readNoting(const QString &nativePath, KnownRows &rows,
+                                  QString *error = nullptr);
+    /// The same beside the rows of another file that says mostly the same.
+    [[nodiscard]] bool readBeside(const QString &nativePath, const KnownRows &rows,
+                                  QString *error = nullptr);
     /// The same with the bytes of a file; \a error names no file.
     [[nodiscard]] bool parse(const QByteArray &json, const QString &sourceDate = QString(),
                              QString *error = nullptr);

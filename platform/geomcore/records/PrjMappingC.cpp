@@ -78,8 +78,10 @@ void PrjMappingData::updateState()
 }
 
 PrjMappingC::PrjMappingC()
-    : d(new PrjMappingData)
 {
+    // Many are made only to be passed or replaced.
+    static const QSharedDataPointer<PrjMappingData> empty(new PrjMappingData);
+    d = empty;
 }
 
 PrjMappingC::PrjMappingC(const PrjMappingC &) = default;

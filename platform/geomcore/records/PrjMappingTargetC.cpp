@@ -43,8 +43,10 @@ bool allHold(const std::vector<std::shared_ptr<const VarsetConditionI>> &conditi
 } // namespace
 
 PrjMappingTargetC::PrjMappingTargetC()
-    : d(new PrjMappingTargetData)
 {
+    // Many are made only to be passed or replaced.
+    static const QSharedDataPointer<PrjMappingTargetData> empty(new PrjMappingTargetData);
+    d = empty;
 }
 
 PrjMappingTargetC::PrjMappingTargetC(const PrjMappingTargetC &) = default;
@@ -142,6 +144,11 @@ void PrjMappingTargetC::addLineId(int sourceLineId, int targetLineId, PRJMAPPING
 void PrjMappingTargetC::setMappedLine(int sourceLineId, const PrjMappingTargetLineC &line)
 {
     d->lines.set(sourceLineId, line);
+}
+
+void PrjMappingTargetC::appendMappedLines(LineTable::Iterator &from, int count)
+{
+    d->lines.append(from, count);
 }
 
 void PrjMappingTargetC::removeLineId(int sourceLineId)

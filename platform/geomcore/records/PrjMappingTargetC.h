@@ -60,6 +60,9 @@ public:
                    const QString &extended);
     /// As addLineId, with the conflict flag of \a line.
     void setMappedLine(int sourceLineId, const PrjMappingTargetLineC &line);
+    /// So many entries of another target that stand behind all of this one; \a from goes behind
+    /// them.
+    void appendMappedLines(LineTable::Iterator &from, int count);
     void removeLineId(int sourceLineId);
     /// All entries at once.
     void setLines(const LineTable &lines);

@@ -414,6 +414,7 @@ void ReleaseBuilder::enterArray()
         break;
     default:
         m_target.clearLines(false);
+        m_ascending = true;
         break;
     }
     m_key = NoKey;
@@ -530,6 +531,19 @@ bool ReleaseBuilder::row(int sourceLine, int targetLine, int state)
     return addRow(ExtendedTextPtr(), false);
 }
 
+void ReleaseBuilder::rows(LineTable::Iterator &from, int count)
+{
+    m_target.appendMappedLines(from, count);
+    m_element += count;
+    m_lastLine = std::prev(lines().end()).sourceLine();
+}
+
+QString ReleaseBuilder::targetName() const
+{
+    return m_mapping.getSourcePath() + u'\n' + QString::number(m_targets.size()) + u'\n' +
+           m_target.getTargetPath();
+}
+
 bool ReleaseBuilder::endRow()
 {
     ExtendedTextPtr extended;
@@ -544,8 +558,10 @@ bool ReleaseBuilder::addRow(const ExtendedTextPtr &extended, bool conflict)
     if (m_column < 3 || m_row[0] < 0 || m_row[1] < -1 || m_row[2] < 0)
         return fail(rowLayout());
     const LineTable &lines = m_target.lines();
-    if (!lines.isEmpty() && m_row[0] <= m_lastLine && lines.contains(m_row[0]))
+    const bool ascends = lines.isEmpty() || m_row[0] > m_lastLine;
+    if (!ascends && lines.contains(m_row[0]))
         return fail(QStringLiteral("names source line %1 once more").arg(m_row[0]));
+    m_ascending = m_ascending && ascends;
     m_lastLine = m_row[0];
     const auto state = PRJMAPPING::CheckState(m_row[2]);
     m_target.setMappedLine(m_row[0], PrjMappingTargetLineC(m_row[1], state, conflict, extended));

@@ -48,6 +48,15 @@ public:
     [[nodiscard]] bool isAmongLines() const { return m_place == Lines && m_passedOver == 0; }
     /// A whole row of three numbers; only where isAmongLines().
     bool row(int sourceLine, int targetLine, int state);
+    /// So many rows that stand behind all that were read, as they are in another release; \a from
+    /// goes behind them. Only where isAmongLines() and linesAscend().
+    void rows(LineTable::Iterator &from, int count);
+    /// Whether the rows of the target stood there in ascending order up to now.
+    [[nodiscard]] bool linesAscend() const { return m_ascending; }
+    [[nodiscard]] int lastLine() const { return m_lastLine; }
+    [[nodiscard]] const LineTable &lines() const { return m_target.lines(); }
+    /// Tells the target that is being read from others, as far as it has been read.
+    [[nodiscard]] QString targetName() const;
 
 private:
     enum Place {
@@ -124,6 +133,7 @@ private:
 
     int m_element = -1; ///< index of the condition, modifier or row
     int m_lastLine = 0;
+    bool m_ascending = true; ///< the lines of this target
     std::array<int, 3> m_row{};
     unsigned m_column = 0;
     QString m_extended;

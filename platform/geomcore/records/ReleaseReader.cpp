@@ -1,6 +1,7 @@
 #include "ReleaseReader.h"
 
 #include "JsonDeviceStream.h"
+#include "KnownRows.h"
 #include "ReleaseBuilder.h"
 
 #include <core/json/JsonText.h>
@@ -106,6 +107,11 @@ public:
     {
     }
 
+    /// Notes where rows stand; the stream is over its text.
+    void note(KnownRows &rows) { m_noted = &rows; }
+    /// Reads beside these rows.
+    void readBeside(const KnownRows &rows) { m_known = &rows; }
+
     bool Null() { return m_reading ? m_builder.anythingElse() : plainValue(); }
     bool Bool(bool flag) { return m_reading ? m_builder.boolean(flag) : plainValue(); }
     bool Int(int number) { return integer(number); }
@@ -120,11 +126,22 @@ public:
     }
     bool StartObject() { return m_reading ? m_builder.startObject() : open(); }
     bool EndObject(Size) { return m_reading ? endOfRelease() : close(); }
-    bool StartArray() { return m_reading ? m_builder.startArray() : m_depth > 0 && open(); }
+    bool StartArray()
+    {
+        if (!m_reading)
+            return m_depth > 0 && open();
+        if (!m_builder.startArray())
+            return false;
+        if (m_builder.isAmongLines())
+            beginLines();
+        return true;
+    }
     bool EndArray(Size)
     {
         if (!m_reading)
             return close();
+        if (m_builder.isAmongLines())
+            endLines();
         return m_builder.endArray() && (!m_builder.isAmongLines() || takeRows());
     }
     bool Key(const char *text, Size size, bool)
@@ -170,6 +187,20 @@ private:
             m_extents[m_name].to = qsizetype(m_stream.Tell());
     }
 
+    void beginLines()
+    {
+        m_linesBegin = qsizetype(m_stream.Tell());
+        m_beside = RowsBeside(m_known ? m_known->find(nameOfTarget()) : nullptr);
+    }
+    void endLines()
+    {
+        // Tell() is behind the bracket.
+        if (m_noted && m_builder.linesAscend())
+            m_noted->add(nameOfTarget(), m_linesBegin, qsizetype(m_stream.Tell()) - 1,
+                         m_builder.lines());
+    }
+    [[nodiscard]] QString nameOfTarget() const { return m_name + u'\n' + m_builder.targetName(); }
+
     /// Behind a row: takes those of the rows that follow which are nothing but three numbers, far
     /// quicker than event by event. All else is left to the reader.
     bool takeRows()
@@ -178,11 +209,23 @@ private:
         const char *at = m_stream.aheadBegin();
         const char *const end = m_stream.aheadEnd();
         bool good = true;
-        while (good && end && takeRow(at, end, row))
+        while (good && end) {
+            takeKnownRows(at, end);
+            if (!takeRow(at, end, row))
+                break;
             good = m_builder.row(row[0], row[1], row[2]);
+        }
         if (at != m_stream.aheadBegin())
             m_stream.skipTo(at);
         return good;
+    }
+
+    void takeKnownRows(const char *&at, const char *end)
+    {
+        if (!m_known || !m_builder.linesAscend())
+            return;
+        if (const int count = m_beside.take(at, end, m_builder.lastLine()))
+            m_builder.rows(m_beside.first(), count);
     }
 
     void beginMember(const QString &name)
@@ -248,6 +291,10 @@ private:
     QStringList m_notes;
     QStringList m_lastNotes; ///< of the release that may still turn out not to be the last one
     ReleaseBuilder m_builder;
+    KnownRows *m_noted = nullptr;
+    const KnownRows *m_known = nullptr;
+    RowsBeside m_beside;
+    qsizetype m_linesBegin = 0; ///< behind the bracket
     QString m_name;
     QString m_message;
     bool m_reading = false;
@@ -356,10 +403,15 @@ bool readRelease(const QByteArray &json, ReleaseMappingC &release, QString *erro
 }
 
 bool readMappingFile(QIODevice &file, WantedMembers wanted, const QString &sourceDate,
-                     QList<MappingFileMember> &members, QStringList &notes, QString *error)
+                     QList<MappingFileMember> &members, QStringList &notes, QString *error,
+                     const RowsOfFiles &rows)
 {
     JsonDeviceStream stream(file);
     FileEvents events(wanted, sourceDate, stream);
+    if (rows.noted)
+        events.note(*rows.noted);
+    if (rows.known)
+        events.readBeside(*rows.known);
     QString what;
     const qsizetype offset = parse(stream, events, file.size(), what);
     if (offset >= 0) {

@@ -5,6 +5,7 @@
 #include "MergeTypes.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace VelkRelease {
@@ -69,14 +70,19 @@ private:
     /// A change of a line by one side, as the change maps have them.
     [[nodiscard]] MappingChange lineChange(int line, Side side, int type) const;
     [[nodiscard]] MappingChange headChange(int slot, Side side, int type) const;
-    void tellLocal(const MappingChange &change);
-    void tellOnline(const MappingChange &change);
+    void tellLocal(MappingChange change);
+    void tellOnline(MappingChange change);
+    void tell(MappingChangeMap &map, std::optional<MappingChangeMap::const_iterator> &last,
+              MappingChange &change) const;
     void addClash(MergeClash::Kind kind, const QString &target = {}, bool removedByOurs = false);
 
     std::array<const PrjMappingC *, 3> m_sides;
     const MergeOptions &m_options;
     QPair<QString, QString> m_key;
     MergeResult *m_result = nullptr;
+    /// The changes of this project that were told last; the next ones come before them.
+    std::optional<MappingChangeMap::const_iterator> m_lastLocal;
+    std::optional<MappingChangeMap::const_iterator> m_lastOnline;
 
     PrjMappingC m_merged; ///< without its targets until they are arranged
     std::vector<ThreePlaces> m_slots;

@@ -163,18 +163,24 @@ MappingChange ProjectMerge::headChange(int slot, Side side, int type) const
     return change;
 }
 
-void ProjectMerge::tellLocal(const MappingChange &change)
+void ProjectMerge::tellLocal(MappingChange change)
 {
-    MappingChange &told = *m_result->local.insert(m_key, change);
-    told.text1 = m_options.author;
-    told.text2 = m_options.time;
+    tell(m_result->local, m_lastLocal, change);
 }
 
-void ProjectMerge::tellOnline(const MappingChange &change)
+void ProjectMerge::tellOnline(MappingChange change)
 {
-    MappingChange &told = *m_result->online.insert(m_key, change);
-    told.text1 = m_options.author;
-    told.text2 = m_options.time;
+    tell(m_result->online, m_lastOnline, change);
+}
+
+void ProjectMerge::tell(MappingChangeMap &map,
+                        std::optional<MappingChangeMap::const_iterator> &last,
+                        MappingChange &change) const
+{
+    change.text1 = m_options.author;
+    change.text2 = m_options.time;
+    // What was inserted last stands first under its key; told where, the map need not look for it.
+    last = last ? map.insert(*last, m_key, change) : map.insert(m_key, change);
 }
 
 void ProjectMerge::addClash(MergeClash::Kind kind, const QString &target, bool removedByOurs)
