@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Změny se zapisují do databáze odkazů</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>podobné: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Änderungen werden in die Linkdatenbank geschrieben</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>ähnlich: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Changes are being written to the link database</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>similar: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Se escriben los cambios en la base de enlaces</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>parecido: %1</translation>
     </message>

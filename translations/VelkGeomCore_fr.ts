@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Écriture des modifications dans la base de liens</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>semblable : %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>A változások írása a hivatkozási adatbázisba</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>hasonló: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Perubahan sedang ditulis ke basis data tautan</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>mirip: %1</translation>
     </message>

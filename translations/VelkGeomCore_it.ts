@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Scrittura delle modifiche nel database dei collegamenti</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>simile: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>変更をリンクデータベースに書き込んでいます</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>類似: %1</translation>
     </message>

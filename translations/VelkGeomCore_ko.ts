@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>변경 사항을 링크 데이터베이스에 쓰는 중입니다</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>비슷함: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Endringer skrives til linkdatabasen</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>lignende: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Zmiany są zapisywane w bazie łączy</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>podobne: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>As alterações estão a ser escritas na base de ligações</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>semelhante: %1</translation>
     </message>

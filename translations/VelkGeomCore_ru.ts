@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Изменения записываются в базу связей</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>похоже: %1</translation>
     </message>

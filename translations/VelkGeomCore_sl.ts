@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Spremembe se zapisujejo v zbirko povezav</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>podobno: %1</translation>
     </message>

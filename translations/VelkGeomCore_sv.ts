@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Ändringar skrivs till länkdatabasen</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>liknande: %1</translation>
     </message>

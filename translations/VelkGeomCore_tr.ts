@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>Değişiklikler bağlantı veritabanına yazılıyor</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>benzer: %1</translation>
     </message>

@@ -530,6 +530,10 @@
         <translation>y, x</translation>
     </message>
     <message>
+        <source>Änderungen werden in die Linkdatenbank geschrieben</source>
+        <translation>正在将更改写入链接数据库</translation>
+    </message>
+    <message>
         <source>ähnlich: %1</source>
         <translation>相近：%1</translation>
     </message>

@@ -11,6 +11,19 @@
 
 namespace {
 
+/// Hears once it is told to.
+class Listener : public PProgressObserverBase
+{
+public:
+    ~Listener() override { deactivate(); }
+
+    void progressStarted(const PProgressInfo & /*info*/) override { hears = true; }
+    void progressChanged(const PProgressInfo & /*info*/) override {}
+    void progressDone(const PProgressInfo & /*info*/) override {}
+
+    bool hears = false;
+};
+
 class Recorder : public PProgressObserverBase
 {
 public:
@@ -95,6 +108,30 @@ private Q_SLOTS:
         const PProgress progress(from, to, step, false, indeterminate);
         QTEST(progress.total(), "total");
         QCOMPARE(progress.isIndeterminate(), progress.total() < 0);
+    }
+    void waitsHaveAnObserverIfThereIsNone()
+    {
+        QVERIFY(!PProgressObserverBase::ofWait());
+        PProgressObserverBase::setMakerForWaits([]() -> std::unique_ptr<PProgressObserverBase> {
+            return std::make_unique<Listener>();
+        });
+        {
+            const auto observer = PProgressObserverBase::ofWait();
+            QVERIFY(observer && observer->isActive());
+            QVERIFY(!PProgressObserverBase::ofWait());
+            PProgress progress(0, 2);
+            progress.nextStep();
+            QVERIFY(static_cast<Listener *>(observer.get())->hears);
+            bool isAlone = false;
+            std::jthread([&] { isAlone = PProgressObserverBase::ofWait() != nullptr; }).join();
+            QVERIFY(isAlone);
+        }
+        {
+            const Recorder recorder;
+            QVERIFY(!PProgressObserverBase::ofWait());
+        }
+        PProgressObserverBase::setMakerForWaits(nullptr);
+        QVERIFY(!PProgressObserverBase::ofWait());
     }
     void countsWithoutAnObserver()
     {

@@ -1526,6 +1526,10 @@ Zvolte jiný soubor.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Čísla se nepodařilo zkontrolovat.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Změny v databázi odkazů jsou možná ztraceny.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -1501,6 +1501,10 @@ Vælg en anden fil.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Numrene kunne ikke kontrolleres.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Ændringer i linkdatabasen er måske gået tabt.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

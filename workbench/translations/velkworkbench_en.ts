@@ -1501,6 +1501,10 @@ Please choose another file.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>The numbers could not be proved.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Changes in the link database may be lost.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -1501,6 +1501,10 @@ Elija otro archivo.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>No se pudieron comprobar los números.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Quizá se hayan perdido cambios en la base de enlaces.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -1501,6 +1501,10 @@ Valitse toinen tiedosto.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Numeroita ei voitu tarkistaa.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Linkkitietokannan muutoksia on ehkä kadonnut.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -1501,6 +1501,10 @@ Choisissez un autre fichier.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Les numéros n&apos;ont pas pu être vérifiés.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Des modifications dans la base de liens sont peut-être perdues.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

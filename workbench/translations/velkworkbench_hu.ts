@@ -1476,6 +1476,10 @@ Válasszon másik fájlt.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>A számokat nem sikerült ellenőrizni.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>A hivatkozási adatbázis módosításai talán elvesztek.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -1476,6 +1476,10 @@ Harap pilih berkas lain.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Nomor tidak dapat diperiksa.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Perubahan dalam basis data tautan mungkin hilang.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

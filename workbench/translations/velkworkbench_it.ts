@@ -1501,6 +1501,10 @@ Scegliere un altro file.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Impossibile verificare i numeri.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Le modifiche nel database dei collegamenti sono forse perse.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

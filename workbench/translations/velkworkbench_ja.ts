@@ -1476,6 +1476,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>番号を検査できませんでした。</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>リンクデータベースの変更が失われた可能性があります。</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -1476,6 +1476,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>번호를 검사할 수 없었습니다.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>링크 데이터베이스의 변경 사항이 손실되었을 수 있습니다.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -1501,6 +1501,10 @@ Velg en annen fil.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Numrene kunne ikke kontrolleres.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Endringer i linkdatabasen kan være tapt.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

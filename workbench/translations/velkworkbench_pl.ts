@@ -1526,6 +1526,10 @@ Wybierz inny plik.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Nie udało się sprawdzić numerów.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Zmiany w bazie łączy mogły zostać utracone.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

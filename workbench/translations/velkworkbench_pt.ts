@@ -1501,6 +1501,10 @@ Escolha outro ficheiro.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Não foi possível verificar os números.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>As alterações na base de ligações podem ter-se perdido.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

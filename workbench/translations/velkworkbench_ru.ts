@@ -1526,6 +1526,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Номера не удалось проверить.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Изменения в базе связей, возможно, потеряны.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -1551,6 +1551,10 @@ Izberite drugo datoteko.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Številk ni bilo mogoče preveriti.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Spremembe v zbirki povezav so morda izgubljene.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

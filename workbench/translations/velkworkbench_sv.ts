@@ -1501,6 +1501,10 @@ Välj en annan fil.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Numren kunde inte kontrolleras.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Ändringar i länkdatabasen kan ha gått förlorade.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

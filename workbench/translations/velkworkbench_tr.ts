@@ -1476,6 +1476,10 @@ Lütfen başka bir dosya seçin.</translation>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>Numaralar denetlenemedi.</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>Bağlantı veritabanındaki değişiklikler kaybolmuş olabilir.</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

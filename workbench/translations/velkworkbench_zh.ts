@@ -1476,6 +1476,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>无法检查编号。</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>链接数据库中的更改可能已丢失。</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

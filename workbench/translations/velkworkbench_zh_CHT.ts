@@ -1476,6 +1476,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Nummern konnten nicht geprüft werden.</source>
         <translation>無法檢查編號。</translation>
     </message>
+    <message>
+        <source>Änderungen in der Linkdatenbank sind vielleicht verloren.</source>
+        <translation>連結資料庫中的變更可能已遺失。</translation>
+    </message>
 </context>
 <context>
     <name>LinkDbHost</name>

@@ -120,6 +120,14 @@ void LinkDbCommands::showDocuments()
     LineDocuments::show(m_editor, m_desk->document()->catalogRoots().source, *m_host);
 }
 
+void LinkDbCommands::leave()
+{
+    const QString lost = m_host->leave();
+    if (!lost.isEmpty())
+        Question::tell(m_window, tr("Änderungen in der Linkdatenbank sind vielleicht verloren."),
+                       lost);
+}
+
 void LinkDbCommands::proveNumbers()
 {
     const MappingDocument *const document = m_desk->document();

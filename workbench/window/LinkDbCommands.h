@@ -34,6 +34,9 @@ public:
     [[nodiscard]] bool isAwaiting() const;
     void showDocuments();
     void proveNumbers();
+    /// For a window that closes: is without a database, and tells which changes may be lost by
+    /// that.
+    void leave();
 
     /// For the menu; enabled while a database is connected and a document is open.
     [[nodiscard]] QAction *proofAction() const { return m_proofAction; }

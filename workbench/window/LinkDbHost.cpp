@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 LinkDbHost::LinkDbHost(PLinkDbGuiI *plugin, QObject *parent)
     : QObject(parent)
     , m_plugin(plugin)
@@ -12,15 +14,15 @@ LinkDbHost::LinkDbHost(PLinkDbGuiI *plugin, QObject *parent)
 
 LinkDbHost::~LinkDbHost()
 {
-    leave();
+    static_cast<void>(leave());
 }
 
-void LinkDbHost::leave()
+QString LinkDbHost::leave()
 {
     giveUpAttempt();
-    close();
     m_state = NotSet;
     m_address.clear();
+    return close();
 }
 
 /// An attempt that is under way is of no use any more.
@@ -53,15 +55,20 @@ void LinkDbHost::setState(State state, const QString &problem)
     Q_EMIT changed();
 }
 
-void LinkDbHost::close()
+/// Why pending changes may be lost, or nothing.
+QString LinkDbHost::close()
 {
-    if (!m_linkDb)
-        return;
+    const PRefPtr<PLinkDbC> linkDb = std::exchange(m_linkDb, {});
+    if (!linkDb)
+        return {};
     PLinkDbC::setInstance(nullptr);
-    if (!m_linkDb->isPending()) // what reads in the background is of no use any more
-        m_linkDb->stop();
-    m_linkDb->close();
-    m_linkDb = nullptr;
+    const bool isPending = linkDb->isPending();
+    if (!isPending) // what reads in the background is of no use any more
+        linkDb->stop();
+    if (linkDb->close() || !isPending)
+        return {};
+    linkDb->showLastError();
+    return linkDb->lastError().text;
 }
 
 void LinkDbHost::apply(const QString &address, const QString &group)
@@ -91,8 +98,8 @@ void LinkDbHost::login(const QString &user, const QString &password)
         Q_EMIT changed();
         return;
     }
-    if (m_linkDb)
-        m_linkDb->commit();
+    if (m_linkDb && !m_linkDb->commit())
+        m_linkDb->showLastError();
     LinkDbSettings settings = m_settings;
     settings.user = user;
     connectTo(settings, password);

@@ -22,8 +22,9 @@ public:
     ~LinkDbHost() override;
 
     /// Commits what is pending and is without a connection from now on. Does not wait for a server
-    /// that does not answer, unless changes are pending.
-    void leave();
+    /// that does not answer, unless changes are pending; then the user can break the wait off.
+    /// Why pending changes may be lost, or nothing.
+    [[nodiscard]] QString leave();
 
     /// Connects to another database, or to none for an empty address. \a group is chosen if the
     /// user may choose it. Nothing happens for the same address.
@@ -54,7 +55,7 @@ Q_SIGNALS:
 private:
     void connectTo(const LinkDbSettings &settings, const QString &password);
     void onConnected(int attempt, const PRefPtr<PLinkDbC> &linkDb, bool good);
-    void close();
+    QString close();
     void giveUpAttempt();
     void setState(State state, const QString &problem = {});
 

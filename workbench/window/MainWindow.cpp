@@ -85,6 +85,9 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     setObjectName("MainWindow");
     DefaultObserverDelegate::setDisplay(
         std::make_shared<StatusProgressDisplay>(m_status->progress()));
+    PProgressObserverBase::setMakerForWaits([]() -> std::unique_ptr<PProgressObserverBase> {
+        return std::make_unique<DefaultObserverDelegate>();
+    });
     addDockWidget(Qt::BottomDockWidgetArea, m_log);
     m_log->hide();
     addReview();
@@ -127,7 +130,7 @@ MainWindow::~MainWindow()
     hide();
     // The editor's handler speaks to the document, and both to the log window.
     IndexTreeC::instance()->setErpSource({});
-    m_linkDb->leave(); // before what reads numbers is waited for
+    static_cast<void>(m_linkDb->leave()); // before what reads numbers is waited for
     delete m_erpNumbers;
     delete m_locator;
     delete m_scripts;
@@ -384,5 +387,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
     m_settings->setSessionFile(open);
     m_settings->setState("window", saveState());
     PApplication::saveWindow(this);
+    m_linkDbCommands->leave(); // while the user sees what still has to be written
     event->accept();
 }

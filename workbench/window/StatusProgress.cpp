@@ -2,6 +2,7 @@
 
 #include <gui/progress/ProgressText.h>
 
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,6 +10,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -19,6 +21,14 @@ int partOf(const PProgressInfo &info)
     return info.total > 0
                ? int(std::clamp(double(info.count) / double(info.total), 0.0, 1.0) * Parts)
                : 0;
+}
+
+bool canBeReached(const QWidget *widget)
+{
+    if (!widget || !widget->window()->isVisible())
+        return false;
+    const QWidget *const modal = QApplication::activeModalWidget();
+    return !modal || modal == widget->window();
 }
 
 } // namespace
@@ -117,11 +127,15 @@ StatusProgressDisplay::~StatusProgressDisplay() = default;
 
 void StatusProgressDisplay::showProgress(const QList<PProgressInfo> &running)
 {
-    if (m_widget)
+    if (!std::exchange(m_shown, !running.isEmpty())) // where it began it stays
+        m_inWindow = !canBeReached(m_widget);
+    if (m_inWindow)
+        m_window.showProgress(running);
+    else if (m_widget)
         m_widget->showProgress(running);
 }
 
 bool StatusProgressDisplay::acceptsInput(const QWidget *widget) const
 {
-    return m_widget && m_widget->owns(widget);
+    return m_window.acceptsInput(widget) || (m_widget && m_widget->owns(widget));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <gui/progress/ProgressDisplayI.h>
+#include <gui/progress/ProgressDisplay.h>
 
 #include <QPointer>
 #include <QWidget>
@@ -40,7 +40,8 @@ private:
     int m_problemCount = 0;
 };
 
-/// Hands progress to a StatusProgress, which may go first.
+/// Hands progress to a StatusProgress, which may go first. Where a click cannot reach that, because
+/// a dialog is open or its window is not shown, progress has a small window of its own.
 class StatusProgressDisplay : public ProgressDisplayI
 {
 public:
@@ -52,4 +53,7 @@ public:
 
 private:
     const QPointer<StatusProgress> m_widget;
+    ProgressDisplay m_window;
+    bool m_inWindow = false;
+    bool m_shown = false;
 };

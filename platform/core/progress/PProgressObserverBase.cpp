@@ -2,6 +2,14 @@
 
 #include "PProgressObserverNode.h"
 
+#include <atomic>
+
+namespace {
+
+std::atomic<PProgressObserverBase::Maker> makerForWaits = nullptr;
+
+} // namespace
+
 PProgressObserverBase::PProgressObserverBase() = default;
 
 PProgressObserverBase::~PProgressObserverBase()
@@ -38,4 +46,19 @@ void PProgressObserverBase::progressText(const PProgressInfo &info)
 std::shared_ptr<PProgressObserverNode> PProgressObserverBase::outer() const
 {
     return m_node ? m_node->outer() : nullptr;
+}
+
+void PProgressObserverBase::setMakerForWaits(Maker maker)
+{
+    makerForWaits = maker;
+}
+
+std::unique_ptr<PProgressObserverBase> PProgressObserverBase::ofWait()
+{
+    const Maker maker = makerForWaits;
+    if (!maker || PProgressObserverNode::current())
+        return nullptr;
+    std::unique_ptr<PProgressObserverBase> observer = maker();
+    observer->activate(Thread);
+    return observer;
 }

@@ -36,6 +36,13 @@ public:
     virtual void deactivate();
     [[nodiscard]] bool isActive() const { return m_node != nullptr; }
 
+    using Maker = std::unique_ptr<PProgressObserverBase> (*)();
+    /// What ofWait() takes; null for nothing, as at first. For a program with windows. Any thread.
+    static void setMakerForWaits(Maker maker);
+    /// An observer, active on this thread, for somebody who has begun to wait and tells so by a
+    /// progress: null if one is active already. It is to end after the progress.
+    [[nodiscard]] static std::unique_ptr<PProgressObserverBase> ofWait();
+
     virtual void progressStarted(const PProgressInfo &info) = 0;
     virtual void progressChanged(const PProgressInfo &info) = 0;
     /// The text has changed; progressChanged() unless overridden.

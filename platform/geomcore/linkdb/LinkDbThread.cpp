@@ -1,6 +1,7 @@
 #include "LinkDbThread.h"
 
 #include <core/progress/PProgress.h>
+#include <core/progress/PProgressObserverBase.h>
 
 #include <atomic>
 #include <condition_variable>
@@ -118,6 +119,7 @@ bool LinkDbThread::run(const QString &text, const Job &job, const Cancel &cancel
         isOver())
         return *done;
     lock.unlock();
+    const std::unique_ptr<PProgressObserverBase> display = PProgressObserverBase::ofWait();
     PProgress progress(0, 0, 1, true, true);
     progress.setText(text);
     std::optional<Clock::time_point> first;

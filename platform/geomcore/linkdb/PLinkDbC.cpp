@@ -25,7 +25,7 @@ Instance &theInstance()
 }
 
 /// Of a user who has cancelled, in seconds.
-constexpr int mostPatience = 5;
+constexpr int mostPatience = 2;
 
 } // namespace
 

@@ -51,7 +51,10 @@ bool PLinkDbC::Private::work(const Work &work, Stake stake)
     } else {
         on.connection->clearCancel();
         const bool isOver = on.thread->run(
-            PString::translate("Die Linkdatenbank arbeitet", "VelkGeomCore"),
+            stake == Stake::Commit
+                ? PString::translate("Änderungen werden in die Linkdatenbank geschrieben",
+                                     "VelkGeomCore")
+                : PString::translate("Die Linkdatenbank arbeitet", "VelkGeomCore"),
             [work, outcome, connection = on.connection] {
                 outcome->done = work(*connection);
                 outcome->failure = outcome->done ? LinkDbError() : connection->error();

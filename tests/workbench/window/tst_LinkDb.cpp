@@ -6,16 +6,19 @@
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/linkdb/LinkDbDeletedRows.h>
 #include <geomcore/linkdb/PLinkDbQueryCacheC.h>
+#include <geomcore/project/readProjectVersion.h>
 #include <gui/application/PApplicationPool.h>
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/LinkDbBox.h>
 #include <workbench/window/LinkDbHost.h>
 #include <workbench/window/LinkListDialog.h>
 #include <workbench/window/LinkProofDialog.h>
+#include <workbench/window/LogWindow.h>
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/SettingsDialog.h>
 #include <workbench/window/WorkbenchSettings.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -35,6 +38,35 @@ QAction *pooled(const char *name)
 {
     return PApplicationPool::instance().action(QLatin1String(name));
 }
+
+/// Clicks each button that cancels a progress, once it is there, as a user would.
+class Canceller
+{
+public:
+    Canceller()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
+        m_timer.start(20);
+    }
+    /// "window: text" of those progresses.
+    [[nodiscard]] const QStringList &clicked() const { return m_clicked; }
+
+private:
+    void look()
+    {
+        for (const QWidget *const top : QApplication::topLevelWidgets()) {
+            auto *const button = top->findChild<QAbstractButton *>("progressCancel");
+            const auto *const text = top->findChild<QLabel *>("progressText");
+            if (!button || !text || !button->isVisible() || !button->isEnabled())
+                continue;
+            m_clicked.append(top->objectName() + ": " + text->text());
+            QTest::mouseClick(button, Qt::LeftButton);
+        }
+    }
+
+    QTimer m_timer;
+    QStringList m_clicked;
+};
 
 } // namespace
 
@@ -66,8 +98,13 @@ private Q_SLOTS:
     void goesAtOnceWhileAServerDoesNotAnswer_data();
     void goesAtOnceWhileAServerDoesNotAnswer();
     void takesAnotherWhileAServerDoesNotAnswer();
+    void unansweredCommitOfTheDialogCanBeCancelled();
+    void unansweredStatementOfTheDialogCanBeCancelled();
+    void closingWithChangesCanBeCancelled();
 
 private:
+    /// A window whose line 3 has the document "N1" on a server of this test.
+    void connectWithDocument(WindowFixture &fixture);
     static void databases()
     {
         QTest::addColumn<bool>("onServer");
@@ -486,6 +523,101 @@ void tst_LinkDb::takesAnotherWhileAServerDoesNotAnswer()
     QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
     QCOMPARE(fixture.window->linkDb()->state(), LinkDbHost::Connected);
     QVERIFY(PLinkDbC::instance()->isOpen());
+}
+
+void tst_LinkDb::connectWithDocument(WindowFixture &fixture)
+{
+    fixture.open(fixture.mappingFile());
+    if (!m_server)
+        m_server = std::make_unique<PostgresServer>();
+    QVERIFY2(m_server->isRunning(), qPrintable(m_server->problem()));
+    setAddress(fixture, m_server->newDatabase());
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->linkDb()->state(), LinkDbHost::Connected, 20'000);
+    addDocument(fixture, "N1", 3);
+    const QString version = readProjectVersion(WindowFixture::roots().source + '/' + din933);
+    const PRefPtr<PLinkDbC> linkDb = PLinkDbC::instance();
+    QVERIFY(linkDb->executeInsertStatement("UPDATE plm_document SET VERSION = " +
+                                           linkDb->literal(version)) &&
+            linkDb->commit());
+    QVERIFY(fixture.window->editor()->selectProject(din933));
+    QVERIFY(fixture.window->editor()->selectLine(3));
+    QTRY_VERIFY(pooled("LinkDbAddToDb")->isEnabled());
+}
+
+void tst_LinkDb::unansweredCommitOfTheDialogCanBeCancelled()
+{
+    WindowFixture fixture;
+    connectWithDocument(fixture);
+    ModalScript script;
+    bool isPending = false;
+    script.then([&](QWidget *dialog) {
+        auto *const list = dialog->findChild<QTreeWidget *>("tvDocuments");
+        list->setCurrentItem(list->topLevelItem(0));
+        QTest::mouseClick(dialog->findChild<QPushButton *>("btnDelete"), Qt::LeftButton);
+        isPending = PLinkDbC::instance()->isPending();
+        m_server->halt();
+        static_cast<QDialog *>(dialog)->accept();
+    });
+    Canceller canceller;
+    pooled("LinkDbAddToDb")->trigger();
+    m_server->resume();
+    QVERIFY(script.isDone());
+    QVERIFY(isPending);
+    // In the window's own bar.
+    QCOMPARE(canceller.clicked(), QStringList{"MainWindow: Änderungen werden in die Linkdatenbank "
+                                              "geschrieben"});
+    QVERIFY(!PLinkDbC::instance()->isPending());
+    const QString log = fixture.window->findChild<LogWindow *>()->text();
+    QVERIFY2(log.contains("ungewiss"), qPrintable(log));
+    QVERIFY(PLinkDbC::instance()->commit()); // takes the connection up again
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
+}
+
+void tst_LinkDb::unansweredStatementOfTheDialogCanBeCancelled()
+{
+    WindowFixture fixture;
+    connectWithDocument(fixture);
+    ModalScript script;
+    Canceller canceller;
+    script.then([&](QWidget *dialog) {
+        auto *const list = dialog->findChild<QTreeWidget *>("tvDocuments");
+        list->setCurrentItem(list->topLevelItem(0));
+        m_server->halt();
+        QTest::mouseClick(dialog->findChild<QPushButton *>("btnDelete"), Qt::LeftButton);
+        m_server->resume();
+        static_cast<QDialog *>(dialog)->reject();
+    });
+    pooled("LinkDbAddToDb")->trigger();
+    QVERIFY(script.isDone());
+    // The dialog bars the window's bar.
+    QVERIFY(!canceller.clicked().isEmpty());
+    QCOMPARE(canceller.clicked().first(), "ProgressWindow: Die Linkdatenbank arbeitet");
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
+}
+
+void tst_LinkDb::closingWithChangesCanBeCancelled()
+{
+    WindowFixture fixture;
+    connectWithDocument(fixture);
+    QVERIFY(PLinkDbC::instance()->executeInsertStatement("DELETE FROM plm_document"));
+    m_server->halt();
+    ModalScript script;
+    script.then([&](QWidget *dialog) {
+        script.note(dialog);
+        static_cast<QDialog *>(dialog)->accept();
+    });
+    Canceller canceller;
+    QVERIFY(fixture.window->close());
+    QVERIFY(script.isDone());
+    QCOMPARE(script.texts,
+             QStringList{"Änderungen in der Linkdatenbank sind vielleicht verloren."});
+    QCOMPARE(canceller.clicked(), QStringList{"MainWindow: Änderungen werden in die Linkdatenbank "
+                                              "geschrieben"});
+    QVERIFY(!fixture.window->isVisible());
+    const bool isLeft = PLinkDbC::isThreadLeft();
+    m_server->resume();
+    QVERIFY(isLeft);
+    QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);
 }
 
 QTEST_MAIN(tst_LinkDb)

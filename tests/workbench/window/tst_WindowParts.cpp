@@ -17,6 +17,7 @@
 #include <geomcore/index/IndexTreeC.h>
 
 #include <QAction>
+#include <QDialog>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -250,6 +251,55 @@ private Q_SLOTS:
         QVERIFY(part->findChild<QLabel *>("progressProblems")->isHidden());
         DefaultObserverDelegate::setDisplay(nullptr);
         DefaultObserverDelegate::setTimes(500, 100);
+    }
+
+    void progressOutOfReachHasAWindow_data()
+    {
+        QTest::addColumn<bool>("isShown");
+        QTest::addColumn<bool>("underADialog");
+        QTest::addColumn<bool>("inWindow");
+        QTest::newRow("in sight") << true << false << false;
+        QTest::newRow("hidden") << false << false << true;
+        QTest::newRow("barred by a dialog") << true << true << true;
+    }
+    void progressOutOfReachHasAWindow()
+    {
+        QFETCH(bool, isShown);
+        QFETCH(bool, underADialog);
+        QFETCH(bool, inWindow);
+        StatusArea status(nullptr);
+        status.setVisible(isShown);
+        StatusProgress *const part = status.progress();
+        StatusProgressDisplay display(part);
+        const auto window = [] {
+            QPointer<QWidget> found;
+            for (QWidget *const each : QApplication::topLevelWidgets()) {
+                if (each->objectName() == u"ProgressWindow")
+                    found = each;
+            }
+            return found;
+        };
+        QDialog dialog;
+        dialog.setModal(true);
+        if (underADialog)
+            dialog.show();
+        PProgressInfo info;
+        info.cancellable = true;
+        display.showProgress({info});
+        QCOMPARE(window() != nullptr, inWindow);
+        QCOMPARE(part->isHidden(), inWindow);
+        if (inWindow) {
+            auto *const cancel = window()->findChild<QPushButton *>("progressCancel");
+            QVERIFY(display.acceptsInput(cancel));
+        }
+        QVERIFY(display.acceptsInput(part->findChild<QToolButton *>("progressCancel")));
+        // It stays where it began.
+        dialog.setVisible(!underADialog);
+        display.showProgress({info});
+        QCOMPARE(window() != nullptr, inWindow);
+        display.showProgress({});
+        QVERIFY(!window());
+        QVERIFY(part->isHidden());
     }
 
     void progressWithoutCancelHasNoButton()
