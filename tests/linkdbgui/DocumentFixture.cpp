@@ -319,36 +319,47 @@ void DocumentFixture::execute(const QString &sql) const
 
 void DocumentFixture::refuseDeletion(const QString &geoId) const
 {
+    refuseDeletes(QStringLiteral("plm_document"), QStringLiteral("OLD.GEO_ID = '%1'").arg(geoId));
+}
+
+void DocumentFixture::refuseUnlinking() const
+{
+    refuseDeletes(QStringLiteral("plm_hierarchy"), QStringLiteral("OLD.CHILD IS NOT NULL"));
+}
+
+void DocumentFixture::refuseDeletes(const QString &name, const QString &condition) const
+{
     if (!isOnServer()) {
-        execute(QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON plm_document WHEN "
-                               "OLD.GEO_ID = '%1' BEGIN SELECT RAISE(ABORT, 'refused'); END")
-                    .arg(geoId));
+        execute(QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON %1 WHEN %2 BEGIN SELECT "
+                               "RAISE(ABORT, 'refused'); END")
+                    .arg(name, condition));
         return;
     }
     execute(QStringLiteral("CREATE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
                            "RAISE 'refused'; END $$"));
-    execute(QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON plm_document FOR EACH ROW WHEN "
-                           "(OLD.GEO_ID = '%1') EXECUTE FUNCTION refuse()")
-                .arg(geoId));
+    execute(QStringLiteral("CREATE TRIGGER refuse BEFORE DELETE ON %1 FOR EACH ROW WHEN (%2) "
+                           "EXECUTE FUNCTION refuse()")
+                .arg(name, condition));
 }
 
-void DocumentFixture::refuseCommits() const
+void DocumentFixture::refuseCommits(const QStringList &events) const
 {
     execute(QStringLiteral("CREATE TABLE known(id TEXT PRIMARY KEY)"));
     execute(QStringLiteral("CREATE TABLE late(id TEXT REFERENCES known(id) DEFERRABLE INITIALLY "
                            "DEFERRED)"));
     if (!isOnServer()) {
         QVERIFY(linkDb->executeSelectStatement("PRAGMA foreign_keys = ON")->isValid());
-        for (const QString &event : {QStringLiteral("INSERT"), QStringLiteral("UPDATE")})
+        for (const QString &event : events)
             execute(QStringLiteral("CREATE TRIGGER late_%1 AFTER %1 ON plm_document BEGIN INSERT "
-                                   "INTO late VALUES(NEW.PDMID1); END")
+                                   "INTO late VALUES('unknown'); END")
                         .arg(event));
         return;
     }
     execute(QStringLiteral("CREATE FUNCTION note() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
-                           "INSERT INTO late VALUES(NEW.PDMID1); RETURN NEW; END $$"));
-    execute(QStringLiteral("CREATE TRIGGER late AFTER INSERT OR UPDATE ON plm_document FOR EACH "
-                           "ROW EXECUTE FUNCTION note()"));
+                           "INSERT INTO late VALUES('unknown'); RETURN NULL; END $$"));
+    execute(QStringLiteral("CREATE TRIGGER late AFTER %1 ON plm_document FOR EACH ROW EXECUTE "
+                           "FUNCTION note()")
+                .arg(events.join(QLatin1String(" OR "))));
 }
 
 void DocumentFixture::setKey(const QString &key, const QString &value) const

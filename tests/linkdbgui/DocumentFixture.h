@@ -116,8 +116,10 @@ public:
     void execute(const QString &sql) const;
     /// The database refuses to delete that document.
     void refuseDeletion(const QString &geoId) const;
-    /// The database takes new documents and changes of them, and refuses to commit these.
-    void refuseCommits() const;
+    /// The database refuses to delete a row of the hierarchy.
+    void refuseUnlinking() const;
+    /// The database does that with documents, and refuses to commit it.
+    void refuseCommits(const QStringList &events) const;
     void setKey(const QString &key, const QString &value) const;
     /// First column of a SELECT; forgets the log.
     [[nodiscard]] QStringList column(const QString &sql) const;
@@ -142,6 +144,7 @@ public:
 
 private:
     void writeTable(const QString &pool);
+    void refuseDeletes(const QString &name, const QString &condition) const;
 
     const PMessageSinkScope m_scope{messages};
     PPathName m_formerRoot;

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void oneLevelOnly();
     void assemblyFails();
     void childFails();
+    void hierarchyFails();
+    void commitsFail();
     void childWithoutRecord();
     void oddKeys_data();
     void oddKeys();
@@ -287,6 +289,52 @@ void tst_DocumentDeletion::childFails()
     // Nothing is said, and the child has lost its link.
     QCOMPARE(fixture.messages->texts(), QStringList{question});
     QCOMPARE(idsOf(*dialog), QStringList{"b"});
+    QCOMPARE(fixture.hierarchy(), QStringList());
+}
+
+void tst_DocumentDeletion::hierarchyFails()
+{
+    const DocumentFixture fixture;
+    for (const char *id : {"a", "b", "c"})
+        fixture.insert(id);
+    fixture.join("a", "b");
+    fixture.join("top", "c");
+    fixture.refuseUnlinking();
+    const auto dialog = fixture.showDialog();
+    // Records go all the same, and nothing is said.
+    remove(fixture, *dialog, "c");
+    QCOMPARE(withoutLoading(fixture.log.takeStatements()).mid(2),
+             (QStringList{"DELETE FROM plm_hierarchy WHERE CHILD = 'c'", "COMMIT",
+                          "DELETE FROM plm_document WHERE GEO_ID = 'c'"}));
+    QVERIFY(dialog->isModified());
+    remove(fixture, *dialog, "a", {PMsgReply::Yes});
+    QCOMPARE(withoutLoading(fixture.log.takeStatements()).last(5),
+             (QStringList{"SELECT COUNT(*) FROM plm_hierarchy WHERE Child = 'b'",
+                          "DELETE FROM plm_hierarchy WHERE Parent = 'a' AND Child = 'b'", "COMMIT",
+                          "DELETE FROM plm_document WHERE GEO_ID = 'b'", "COMMIT"}));
+    QCOMPARE(fixture.messages->texts(), QStringList{question});
+    QCOMPARE(fixture.documents(), QStringList());
+    QCOMPARE(fixture.hierarchy(), (QStringList{"a>b", "top>c"}));
+}
+
+void tst_DocumentDeletion::commitsFail()
+{
+    const DocumentFixture fixture;
+    fixture.insert("a");
+    fixture.insert("b");
+    fixture.join("a", "b");
+    fixture.refuseCommits({"DELETE"});
+    const auto dialog = fixture.showDialog();
+    remove(fixture, *dialog, "a", {PMsgReply::Yes});
+    // All goes on as if they had been done.
+    QCOMPARE(withoutLoading(fixture.log.takeStatements()).mid(1),
+             (QStringList{"DELETE FROM plm_document WHERE GEO_ID = 'a'", "COMMIT",
+                          "SELECT CHILD FROM plm_hierarchy WHERE Parent = 'a'",
+                          "SELECT COUNT(*) FROM plm_hierarchy WHERE Child = 'b'",
+                          "DELETE FROM plm_hierarchy WHERE Parent = 'a' AND Child = 'b'", "COMMIT",
+                          "DELETE FROM plm_document WHERE GEO_ID = 'b'", "COMMIT"}));
+    QCOMPARE(fixture.messages->texts(), QStringList{question});
+    QCOMPARE(fixture.documents(), (QStringList{"a", "b"}));
     QCOMPARE(fixture.hierarchy(), QStringList());
 }
 

@@ -1,6 +1,7 @@
 #include "DocumentFixture.h"
 
 #include <geomcore/binding/VarsetCreate.h>
+#include <geomcore/linkdb/LinkDbSettings.h>
 #include <geomcore/project/readProjectVersion.h>
 #include <geomcore/table/ErpLayer.h>
 #include <geomcore/value/LangThreadSettings.h>
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void statement_data();
     void statement();
     void poolAndPath();
+    void databaseOfTheMoment();
     void keyIsNotTheFirstColumn();
     void conditionCannotEscape();
     void emptyPathKeepsTheList();
@@ -301,6 +303,35 @@ void tst_DocumentListDialog::poolAndPath()
     QCOMPARE(ids, (QStringList{"g1", "g2"}));
     // Without a table there is no pool.
     QCOMPARE(idsOf(*fixture.showDialog(false)), QStringList{"g1"});
+}
+
+void tst_DocumentListDialog::databaseOfTheMoment()
+{
+    const DocumentFixture fixture;
+    fixture.insert("g1");
+    const PRefPtr<PLinkDbC> other(new PLinkDbC);
+    QVERIFY(other->open(LinkDbSettings::fromText(fixture.folder.filePath("other.db"))));
+    QVERIFY(other->executeInsertStatement("INSERT INTO plm_document(GEO_ID, PRJ_PATH, VERSION, "
+                                          "LINE_ID, LINE_SUBID) VALUES('g2', 'cat/a.prj', 'v1', 1, "
+                                          "0)") &&
+            other->commit());
+    PLinkDbC::setInstance(fixture.linkDb);
+    DocumentListDialogC dialog(nullptr, {});
+    dialog.setIndexTree(fixture.linkDb->getIndexTree());
+    dialog.setLinkDbIface(ProxyPtrT<prxLinkDbIfaceC>(new prxLinkDbIfaceC)); // of the process
+    dialog.initDialog(fixture.path, 1, 0);
+    dialog.show();
+    QCOMPARE(idsOf(dialog), QStringList{"g1"});
+    // It is asked for anew by each statement.
+    PLinkDbC::setInstance(other);
+    dialog.initDialog(fixture.path, 1, 0);
+    QCOMPARE(idsOf(dialog), QStringList{"g2"});
+    clickDocument(dialog, 0);
+    clickButton(dialog, "btnDelete");
+    QVERIFY(other->isPending());
+    PLinkDbC::setInstance(nullptr);
+    QCOMPARE(other->executeCountStatement("SELECT COUNT(*) FROM plm_document"), 0);
+    QCOMPARE(fixture.documents(), QStringList{"g1"});
 }
 
 void tst_DocumentListDialog::keyIsNotTheFirstColumn()

@@ -71,6 +71,7 @@ private Q_SLOTS:
     void commitFails();
     void nothingToWrite();
     void edits();
+    void firstOfSeveralIsEdited();
     void editNeedsASelection();
     void editWithCallback_data();
     void editWithCallback();
@@ -490,7 +491,7 @@ void tst_DocumentRecords::commitFails()
     const DocumentFixture fixture;
     fixture.setKey("PDM_EDIT_COLUMNS", "PDMID1");
     fixture.insert("g1", {{"PDMID1", "P-1"}, {"XVARSET", lineOne}});
-    fixture.refuseCommits();
+    fixture.refuseCommits({"INSERT", "UPDATE"});
     const auto dialog = fixture.showDialog();
     dialog->setCreateCallback(passing(), "run");
     const QList<std::pair<const char *, QString>> ways = {
@@ -566,6 +567,22 @@ void tst_DocumentRecords::edits()
              QStringList{"P-2"});
     QVERIFY(dialog->isModified());
     QVERIFY(!fixture.linkDb->isPending());
+}
+
+void tst_DocumentRecords::firstOfSeveralIsEdited()
+{
+    const DocumentFixture fixture;
+    fixture.execute("DROP TABLE plm_document");
+    fixture.execute("CREATE TABLE plm_document(GEO_ID TEXT, PRJ_PATH TEXT, VERSION TEXT, LINE_ID "
+                    "INTEGER, LINE_SUBID INTEGER, PDMID1 TEXT, CADSYSTEM TEXT, PDMSYSTEM TEXT)");
+    fixture.insert("g1", {{"PDMID1", "P-1"}});
+    fixture.insert("g1", {{"PDMID1", "P-2"}});
+    const auto dialog = fixture.showDialog();
+    clickDocument(*dialog, 1);
+    QString shown;
+    inNextForm([&](NewRecordDialogC &form) { shown = textIn(form, "PDMID1"); }, false);
+    clickButton(*dialog, "btnEdit");
+    QCOMPARE(shown, QString("P-1"));
 }
 
 void tst_DocumentRecords::editNeedsASelection()
