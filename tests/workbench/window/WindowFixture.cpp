@@ -1,6 +1,7 @@
 #include "WindowFixture.h"
 
 #include <core/config/PConfigInst.h>
+#include <core/message/PScriptedMessageSink.h>
 #include <core/plugin/PTranslateManager.h>
 #include <geomcore/records/MappingFile.h>
 #include <geomcoregui/table/VkTableView.h>
@@ -23,6 +24,8 @@ namespace {
 const QByteArray &exampleMapping()
 {
     static const QByteArray bytes = [] {
+        // A window that is there already would show what is found on the way.
+        const PMessageSinkScope silence(std::make_shared<PScriptedMessageSink>());
         const CatalogRoots roots = WindowFixture::roots();
         MappingMaker maker;
         const bool made = maker.make({.sourceRoot = roots.source,
