@@ -70,19 +70,21 @@ public:
             addLine(mapper, content, {source, line}, mapping, reference.value(line));
     }
     /// One decision for each pattern that is right in all its lines; of another one, one for each
-    /// project in which it is. Lines without a proposal are confirmed as expired together, in a
-    /// project none of which has a successor; one for each other open line.
+    /// project in which it is. A pattern without successor is right where no line has one. What is
+    /// in no pattern is confirmed as expired together, in a project none of which has a successor;
+    /// one for each other open line.
     void addDecisions(const VelkRelease::DifferencePatterns &patterns)
     {
         for (int pattern = 0; pattern < patterns.count(); ++pattern) {
             std::map<int, std::pair<int, int>> projects; // all lines, and right ones
+            const Open wanted = patterns.gone(pattern) ? Open::Expired : Open::Right;
             for (const auto &place : patterns.places(pattern)) {
                 const auto open = m_open.find({place.project, place.line});
                 if (open == m_open.end())
                     continue;
                 auto &[lines, right] = projects[place.project];
                 ++lines;
-                right += open->second == Open::Right ? 1 : 0;
+                right += open->second == wanted ? 1 : 0;
                 m_open.erase(open);
             }
             int decisions = 0;

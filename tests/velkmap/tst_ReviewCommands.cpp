@@ -11,6 +11,10 @@
 #include <QTest>
 #include <QTextStream>
 
+#include <rapidjson/document.h>
+#include <rapidjson/schema.h>
+#include <TestPaths.h>
+
 using PRJMAPPING::Mapped;
 using PRJMAPPING::ToCheck;
 using PRJMAPPING::Verified;
@@ -26,6 +30,7 @@ private Q_SLOTS:
     void review();
     void reviewOfOneProject();
     void reviewAsJson();
+    void goneLines();
     void neighbours();
     void agreedReplacements();
     void unreadableTable();
@@ -43,6 +48,7 @@ private Q_SLOTS:
 private:
     ExitStatus run(const QStringList &arguments);
     [[nodiscard]] QStringList places() const;
+    [[nodiscard]] static bool fitsSchema(const QByteArray &json);
     void writeMapping(const QList<AgreedReplacement> &replacements = {}) const;
     [[nodiscard]] QString path(const QString &name) const { return m_directory->filePath(name); }
 
@@ -103,7 +109,7 @@ void tst_ReviewCommands::review()
     QCOMPARE(run(QStringList("review") + places()), ExitStatus::Done);
     QCOMPARE(m_err, QString());
     const QStringList rows = m_out.split('\n');
-    QCOMPARE(rows.size(), 8);
+    QCOMPARE(rows.size(), 12);
     QCOMPARE(rows[0], "     lines  projects  probability  exceptions  differences");
     QVERIFY2(rows[1].startsWith("         3         2 "), qPrintable(rows[1]));
     QVERIFY2(rows[1].endsWith("           1  W: St37 → S235"), qPrintable(rows[1]));
@@ -111,8 +117,14 @@ void tst_ReviewCommands::review()
     QVERIFY2(rows[3].endsWith("           0  W: St37 → S235; L: other number"),
              qPrintable(rows[3]));
     QCOMPARE(rows[4].trimmed(), "cat/a.prj:3");
-    QCOMPARE(rows[5], "4 open lines with a proposal differ in 2 ways");
-    QCOMPARE(rows[6],
+    QCOMPARE(rows[5], "     lines  projects  probability  exceptions  without a successor");
+    QVERIFY2(rows[6].startsWith("         1         1 ") &&
+                 rows[6].contains("no similar line: cat"),
+             qPrintable(rows[6]));
+    QCOMPARE(rows[7].trimmed(), "cat/b.prj:2");
+    QCOMPARE(rows[8], "4 open lines with a proposal differ in 2 ways");
+    QCOMPARE(rows[9], "1 open lines have no successor, in 1 groups");
+    QCOMPARE(rows[10],
              "5 assigned lines were looked at beside their neighbours, 0 places do not fit");
 }
 
@@ -122,7 +134,8 @@ void tst_ReviewCommands::reviewOfOneProject()
              ExitStatus::Done);
     // A single line makes no family.
     QVERIFY2(m_out.contains("W: other wording"), qPrintable(m_out));
-    QVERIFY(m_out.contains("\n1 open lines with a proposal differ in 1 ways\n1 assigned lines "));
+    QVERIFY(m_out.contains(
+        "\n1 open lines with a proposal differ in 1 ways\n1 open lines have no successor, "));
 }
 
 void tst_ReviewCommands::reviewAsJson()
@@ -148,6 +161,72 @@ void tst_ReviewCommands::reviewAsJson()
     QCOMPARE(change["after"].toString(), "S235");
     QCOMPARE(change["agreed"].toBool(), false);
     QCOMPARE(all["agreed"].toArray().size(), 0);
+    QCOMPARE(all["goneLines"].toInt(), 1);
+    const QJsonObject gone = all["gone"][0].toObject();
+    QCOMPARE(gone["kind"].toString(), "unlike");
+    QCOMPARE(gone["place"].toString(), "cat");
+    QCOMPARE(gone["examples"][0].toString(), "cat/b.prj:2");
+    QVERIFY(fitsSchema(m_out.toUtf8()));
+    QVERIFY(!fitsSchema(m_out.toUtf8().replace("\"unlike\"", "\"other\"")));
+}
+
+/// All groups of lines without a successor, by the tables.
+void tst_ReviewCommands::goneLines()
+{
+    const TestCatalog old(path("r1"));
+    const TestCatalog now(path("r2"));
+    old.write("cat/c.prj", "Name,W,L:n\nN1,St37,10\nN2,CuZn,20\nN3,CuZn,30\nN4,CuZn,40.0\n");
+    now.write("cat/c.prj", "Name,W,L:n\nN1,St37,10\nN8,St37,40\n");
+    old.write("cat/d.prj", "Name\nN1\nN2\n");
+    for (const char *name : {"cat/e/a.prj", "cat/e/b.prj", "cat/f.prj"})
+        old.write(name, "Name\nN1\n");
+    PrjMappingC part = mappingOf("cat/c.prj", {"cat/c.prj", ""});
+    enter(part, 0, 1, 1, Mapped);
+    for (const int line : {2, 3, 4})
+        enter(part, 1, line, -1, ToCheck);
+    PrjMappingC vanished = mappingOf("cat/d.prj", {"cat/dropped.prj"});
+    enter(vanished, 0, 1, 1, ToCheck);
+    enter(vanished, 0, 2, 2, ToCheck);
+    ReleaseMappingC release;
+    release.setSourceDate("2021-01-01T00:00:00Z");
+    release.setTargetDate("2022-01-01T00:00:00Z");
+    release.addMapping(part);
+    release.addMapping(vanished);
+    for (const char *name : {"cat/e/a.prj", "cat/e/b.prj", "cat/f.prj"}) {
+        PrjMappingC whole = mappingOf(name, {""});
+        enter(whole, 0, 1, -1, ToCheck);
+        release.addMapping(whole);
+    }
+    MappingFile file;
+    file.setRelease(release);
+    QVERIFY(file.write(path("m.json")));
+    (void)run(QStringList("review") + places() + QStringList{"--json"});
+    QVERIFY2(fitsSchema(m_out.toUtf8()), qPrintable(m_out));
+    const QJsonObject all = QJsonDocument::fromJson(m_out.toUtf8()).object();
+    QCOMPARE(all["openLines"].toInt(), 0);
+    QCOMPARE(all["goneLines"].toInt(), 8);
+    QStringList groups;
+    const QJsonArray gone = all["gone"].toArray();
+    for (const QJsonValue &group : gone)
+        groups << group["text"].toString().remove("in doubt: ") + '|' +
+                      QString::number(group["lines"].toInt());
+    QCOMPARE(groups, (QStringList{"W: CuZn is gone|3", "target project is gone: cat/dropped.prj|2",
+                                  "whole folder without target: cat/e|2",
+                                  "whole project without target: cat/f.prj|1"}));
+}
+
+/// What the command prints is described for machines.
+bool tst_ReviewCommands::fitsSchema(const QByteArray &json)
+{
+    QFile file(QStringLiteral(VELK_SOURCE_DIR "/docs/schema/review.schema.json"));
+    rapidjson::Document schema;
+    if (!file.open(QIODevice::ReadOnly) || schema.Parse(file.readAll().constData()).HasParseError())
+        return false;
+    const rapidjson::SchemaDocument compiled(schema);
+    rapidjson::Document document;
+    document.Parse(json.constData());
+    rapidjson::SchemaValidator validator(compiled);
+    return !document.HasParseError() && document.Accept(validator);
 }
 
 void tst_ReviewCommands::neighbours()
@@ -170,10 +249,10 @@ void tst_ReviewCommands::neighbours()
     QVERIFY(file.write(path("m.json")));
     QCOMPARE(run(QStringList("review") + places()), ExitStatus::Done);
     const QStringList rows = m_out.split('\n');
-    QCOMPARE(rows[6], "cat/c.prj: lines 10 to 14 are shifted, 1 line too far down; mended: "
-                      "10 → 10, 11 → 11, 12 → 12, ...");
-    QCOMPARE(rows[7], "cat/c.prj: lines 20 and 21 are swapped; mended: 20 → 20, 21 → 21");
-    QCOMPARE(rows[8],
+    QCOMPARE(rows[10], "cat/c.prj: lines 10 to 14 are shifted, 1 line too far down; mended: "
+                       "10 → 10, 11 → 11, 12 → 12, ...");
+    QCOMPARE(rows[11], "cat/c.prj: lines 20 and 21 are swapped; mended: 20 → 20, 21 → 21");
+    QCOMPARE(rows[12],
              "35 assigned lines were looked at beside their neighbours, 2 places do not fit");
     QCOMPARE(run(QStringList("review") + places() + QStringList{"--json"}), ExitStatus::Done);
     const QJsonObject all = QJsonDocument::fromJson(m_out.toUtf8()).object();

@@ -29,10 +29,11 @@ constexpr int Examples = 3;
 constexpr const char *ReviewDescription =
     "Groups the open lines of a release mapping by how they differ from the lines that are\n"
     "proposed for them: lines, projects, mean probability, exceptions (lines with the same\n"
-    "differences and others besides), three examples. Changes nothing. Then what was agreed\n"
-    "to about values, with the lines that support it and those that do not. Then where the\n"
-    "assignments of neighbours do not fit each other (lines that are shifted, swapped,\n"
-    "skipped, taken twice), with what would mend it.";
+    "differences and others besides), three examples. Then those without a successor by what\n"
+    "they have in common: a folder, a project, a value that no new line has. Changes nothing.\n"
+    "Then what was agreed to about values, with the lines that support it and those that do\n"
+    "not. Then where the assignments of neighbours do not fit each other (lines that are\n"
+    "shifted, swapped, skipped, taken twice), with what would mend it.";
 
 /// What the command tells.
 struct ReviewReport
@@ -43,15 +44,30 @@ struct ReviewReport
     QList<ReplacementEvidence> evidence; ///< of the release's replacements
 };
 
+QString doubtText(const DifferencePatterns &patterns, int pattern, const QString &text)
+{
+    return patterns.isDoubtful(pattern) ? QStringLiteral("in doubt: ") + text : text;
+}
+
+const VelkRelease::GoneGroup::Words &goneWords()
+{
+    static const VelkRelease::GoneGroup::Words words{
+        "whole folder without target: %1", "whole project without target: %1",
+        "target project is gone: %1", "%1: %2 is gone", "no similar line: %1"};
+    return words;
+}
+
 QString patternText(const DifferencePatterns &patterns, int pattern)
 {
+    if (const auto &gone = patterns.gone(pattern))
+        return doubtText(patterns, pattern, gone->text(goneWords()));
     if (!patterns.isComparable(pattern))
         return QStringLiteral("cannot be compared");
     QStringList texts;
     for (const ValueChange &change : patterns.changes(pattern))
         texts << change.text(changeWords());
-    const QString text = texts.isEmpty() ? QStringLiteral("no difference") : texts.join("; ");
-    return patterns.isDoubtful(pattern) ? QStringLiteral("in doubt: ") + text : text;
+    return doubtText(patterns, pattern,
+                     texts.isEmpty() ? QStringLiteral("no difference") : texts.join("; "));
 }
 
 QString placeText(const ReleaseMappingC &release, const DifferencePatterns::Place &place)
@@ -122,12 +138,12 @@ void writeNeighbours(const ReviewReport &report, QTextStream &out)
         << report.neighbours.places.size() << " places do not fit\n";
 }
 
-void writeTable(const ReviewReport &report, QTextStream &out)
+void writePatterns(const ReviewReport &report, const std::vector<int> &ranked, const char *head,
+                   QTextStream &out)
 {
     const DifferencePatterns &patterns = report.patterns;
-    const std::vector<int> ranked = patterns.ranked();
     if (!ranked.empty())
-        out << "     lines  projects  probability  exceptions  differences\n";
+        out << "     lines  projects  probability  exceptions  " << head << '\n';
     for (const int pattern : ranked) {
         const DifferencePatterns::Numbers numbers = patterns.numbers(pattern);
         out << QString::number(numbers.lines).rightJustified(10)
@@ -140,6 +156,15 @@ void writeTable(const ReviewReport &report, QTextStream &out)
             examples << placeText(report.release, place);
         out << QString(47, u' ') << examples.join(", ") << '\n';
     }
+}
+
+void writeTable(const ReviewReport &report, QTextStream &out)
+{
+    const DifferencePatterns &patterns = report.patterns;
+    const std::vector<int> ranked = patterns.ranked();
+    const std::vector<int> gone = patterns.rankedGone();
+    writePatterns(report, ranked, "differences", out);
+    writePatterns(report, gone, "without a successor", out);
     for (qsizetype i = 0; i < report.evidence.size(); ++i) {
         const AgreedReplacement replacement = report.release.getReplacements().at(i);
         out << "agreed" << (replacement.folder.isEmpty() ? QString() : " in " + replacement.folder)
@@ -148,6 +173,9 @@ void writeTable(const ReviewReport &report, QTextStream &out)
     }
     out << patterns.openLines() << " open lines with a proposal differ in " << ranked.size()
         << " ways\n";
+    if (!gone.empty())
+        out << patterns.goneLines() << " open lines have no successor, in " << gone.size()
+            << " groups\n";
     writeNeighbours(report, out);
 }
 
@@ -218,6 +246,32 @@ void writePattern(JsonWriter &json, const ReviewReport &report, int pattern)
     json.endObject();
 }
 
+void writeGone(JsonWriter &json, const ReviewReport &report, int pattern)
+{
+    const DifferencePatterns::Numbers numbers = report.patterns.numbers(pattern);
+    const VelkRelease::GoneGroup &group = *report.patterns.gone(pattern);
+    json.beginObject();
+    writeText(json, "text", patternText(report.patterns, pattern));
+    writeText(json, "kind", group.key());
+    if (group.kind == VelkRelease::GoneGroup::Value) {
+        writeText(json, "variable", group.variable);
+        writeText(json, "value", group.value);
+    } else {
+        writeText(json, "place", group.place);
+    }
+    json.key("doubtful");
+    json.value(report.patterns.isDoubtful(pattern));
+    json.key("lines");
+    json.value(numbers.lines);
+    json.key("projects");
+    json.value(numbers.projects);
+    json.key("probability");
+    json.value(rounded(numbers.probability));
+    json.key("examples");
+    writePlaces(json, report.release, report.patterns.places(pattern, Examples));
+    json.endObject();
+}
+
 void writeNeighbours(JsonWriter &json, const ReviewReport &report)
 {
     static constexpr const char *kinds[] = {"shifted", "swapped", "misplaced", "takenTwice",
@@ -267,6 +321,13 @@ void writeJson(const ReviewReport &report, QTextStream &out)
     json.beginArray();
     for (const int pattern : report.patterns.ranked())
         writePattern(json, report, pattern);
+    json.endArray();
+    json.key("goneLines");
+    json.value(report.patterns.goneLines());
+    json.key("gone");
+    json.beginArray();
+    for (const int pattern : report.patterns.rankedGone())
+        writeGone(json, report, pattern);
     json.endArray();
     json.key("agreed");
     json.beginArray();

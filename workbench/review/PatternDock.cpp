@@ -127,7 +127,10 @@ void PatternDock::writeSum()
     if (m_work->hasPatterns()) {
         const int pending = m_work->patterns().pendingLines();
         texts += tr("%n offene Zeile(n) mit Vorschlag", nullptr, m_work->patterns().openLines()) +
-                 u' ' + tr("in %n Muster(n)", nullptr, m_model->rowCount());
+                 u' ' + tr("in %n Muster(n)", nullptr, int(m_work->patterns().ranked().size()));
+        if (const int gone = m_work->patterns().goneLines(); gone > 0)
+            texts += tr("%n offene Zeile(n) ohne Nachfolger", nullptr, gone) + u' ' +
+                     tr("in %n Muster(n)", nullptr, int(m_work->patterns().rankedGone().size()));
         if (pending > 0)
             texts += tr("%n davon wird/werden noch verglichen", nullptr, pending);
     }

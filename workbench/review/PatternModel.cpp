@@ -17,7 +17,7 @@ void PatternModel::setPatterns(const VelkRelease::DifferencePatterns *patterns)
     m_patterns = patterns;
     m_rows.clear();
     if (patterns) {
-        for (const int pattern : patterns->ranked())
+        for (const int pattern : rankedPatterns())
             m_rows.push_back(rowFor(pattern));
     }
     endResetModel();
@@ -45,7 +45,7 @@ void PatternModel::update()
     for (const Row &row : m_rows)
         known.push_back(row.pattern);
     std::sort(known.begin(), known.end());
-    for (const int pattern : m_patterns->ranked()) {
+    for (const int pattern : rankedPatterns()) {
         if (std::binary_search(known.begin(), known.end(), pattern))
             continue;
         const int at = int(m_rows.size());
@@ -53,6 +53,15 @@ void PatternModel::update()
         m_rows.push_back(rowFor(pattern));
         endInsertRows();
     }
+}
+
+/// Those without a successor come last.
+std::vector<int> PatternModel::rankedPatterns() const
+{
+    std::vector<int> ranked = m_patterns->ranked();
+    const std::vector<int> gone = m_patterns->rankedGone();
+    ranked.insert(ranked.end(), gone.begin(), gone.end());
+    return ranked;
 }
 
 PatternModel::Row PatternModel::rowFor(int pattern) const

@@ -9,7 +9,8 @@ namespace VelkRelease {
 class DifferencePatterns;
 }
 
-/// The difference patterns that have open lines, one a row. The order is that of the lines when
+/// The difference patterns that have open lines, one a row, behind them those of lines without a
+/// successor. The order is that of the lines when
 /// the patterns were made and stays until they are made anew, so that no row moves away under the
 /// hand; rows whose last line is decided go.
 class PatternModel : public QAbstractTableModel
@@ -53,6 +54,7 @@ private:
 
         friend bool operator==(const Row &, const Row &) = default;
     };
+    [[nodiscard]] std::vector<int> rankedPatterns() const;
     [[nodiscard]] Row rowFor(int pattern) const;
     [[nodiscard]] QString text(const Row &row, int column) const;
     [[nodiscard]] QString toolTip(const Row &row) const;

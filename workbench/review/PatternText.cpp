@@ -17,6 +17,15 @@ VelkRelease::ValueChange::Words words()
             QCoreApplication::translate("PatternText", "andere Schreibweise")};
 }
 
+VelkRelease::GoneGroup::Words goneWords()
+{
+    return {QCoreApplication::translate("PatternText", "ganzer Ordner ohne Ziel: %1"),
+            QCoreApplication::translate("PatternText", "ganzes Projekt ohne Ziel: %1"),
+            QCoreApplication::translate("PatternText", "Zielprojekt gibt es nicht mehr: %1"),
+            QCoreApplication::translate("PatternText", "%1: %2 gibt es nicht mehr"),
+            QCoreApplication::translate("PatternText", "keine ähnliche Zeile: %1")};
+}
+
 QString of(const QList<VelkRelease::ValueChange> &changes)
 {
     QStringList texts;
@@ -29,7 +38,8 @@ QString of(const VelkRelease::DifferencePatterns &patterns, int pattern)
 {
     if (!patterns.isComparable(pattern))
         return QCoreApplication::translate("PatternText", "nicht zu vergleichen");
-    QString text = of(patterns.changes(pattern));
+    const std::optional<VelkRelease::GoneGroup> &gone = patterns.gone(pattern);
+    QString text = gone ? gone->text(goneWords()) : of(patterns.changes(pattern));
     if (text.isEmpty())
         text = QCoreApplication::translate("PatternText", "kein Unterschied");
     return patterns.isDoubtful(pattern)

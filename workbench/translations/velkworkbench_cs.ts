@@ -2433,6 +2433,14 @@ Zvolte jiný soubor.</translation>
             <numerusform>v %n projektech</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n otevřený řádek bez nástupce</numerusform>
+            <numerusform>%n otevřené řádky bez nástupce</numerusform>
+            <numerusform>%n otevřených řádků bez nástupce</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2518,6 +2526,26 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>nejisté: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>celá složka bez cíle: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>celý projekt bez cíle: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>cílový projekt už neexistuje: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 už neexistuje</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>žádný podobný řádek: %1</translation>
     </message>
 </context>
 <context>
@@ -3338,6 +3366,22 @@ Projekt: %1
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Všechny vzory jsou vyřízeny</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>v %n projektu</numerusform>
+            <numerusform>ve %n projektech</numerusform>
+            <numerusform>v %n projektech</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n řádek potvrzen jako neplatný</numerusform>
+            <numerusform>%n řádky potvrzeny jako neplatné</numerusform>
+            <numerusform>%n řádků potvrzeno jako neplatné</numerusform>
+        </translation>
     </message>
 </context>
 <context>

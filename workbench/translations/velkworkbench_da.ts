@@ -2392,6 +2392,13 @@ Vælg en anden fil.</translation>
             <numerusform>i %n projekter</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n åben linje uden efterfølger</numerusform>
+            <numerusform>%n åbne linjer uden efterfølger</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Vælg en anden fil.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>usikkert: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>hel mappe uden mål: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>helt projekt uden mål: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>målprojektet findes ikke mere: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 findes ikke mere</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>ingen lignende linje: %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Linje: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Alle mønstre er færdige</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %n projekter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n linje bekræftet som udgået</numerusform>
+            <numerusform>%n linjer bekræftet som udgået</numerusform>
+        </translation>
     </message>
 </context>
 <context>

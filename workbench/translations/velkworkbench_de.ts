@@ -329,6 +329,13 @@
             <numerusform>in %n Projekten</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n offene Zeile ohne Nachfolger</numerusform>
+            <numerusform>%n offene Zeilen ohne Nachfolger</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -426,6 +433,20 @@
         <translation>
             <numerusform>%n davon ist unsicher.</numerusform>
             <numerusform>%n davon sind unsicher.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n Projekt</numerusform>
+            <numerusform>in %n Projekten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n Zeile als ausgelaufen bestätigt</numerusform>
+            <numerusform>%n Zeilen als ausgelaufen bestätigt</numerusform>
         </translation>
     </message>
 </context>

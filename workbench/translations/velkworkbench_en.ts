@@ -2392,6 +2392,13 @@ Please choose another file.</translation>
             <numerusform>in %n projects</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n open line without successor</numerusform>
+            <numerusform>%n open lines without successor</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Please choose another file.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>in doubt: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>whole folder without target: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>whole project without target: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>target project is gone: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 is gone</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>no similar line: %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Line: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>All patterns are done</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n project</numerusform>
+            <numerusform>in %n projects</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n line confirmed to be discontinued</numerusform>
+            <numerusform>%n lines confirmed to be discontinued</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2392,6 +2392,13 @@ Elija otro archivo.</translation>
             <numerusform>en %n proyectos</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n fila abierta sin sucesora</numerusform>
+            <numerusform>%n filas abiertas sin sucesora</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Elija otro archivo.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>dudoso: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>carpeta completa sin destino: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>proyecto completo sin destino: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>el proyecto de destino ya no existe: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 ya no existe</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>ninguna fila parecida: %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Fila: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Todos los patrones están resueltos</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>en %n proyecto</numerusform>
+            <numerusform>en %n proyectos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n fila confirmada como descatalogada</numerusform>
+            <numerusform>%n filas confirmadas como descatalogadas</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2392,6 +2392,13 @@ Valitse toinen tiedosto.</translation>
             <numerusform>%n projektissa</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n avoin rivi ilman seuraajaa</numerusform>
+            <numerusform>%n avointa riviä ilman seuraajaa</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>epävarma: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>koko kansio ilman kohdetta: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>koko projekti ilman kohdetta: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>kohdeprojektia ei ole enää: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 ei ole enää olemassa</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>ei samankaltaista riviä: %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Rivi: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Kaikki mallit on käsitelty</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projektissa</numerusform>
+            <numerusform>%n projektissa</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n rivi vahvistettu poistuneeksi</numerusform>
+            <numerusform>%n riviä vahvistettu poistuneiksi</numerusform>
+        </translation>
     </message>
 </context>
 <context>

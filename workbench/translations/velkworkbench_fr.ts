@@ -2392,6 +2392,13 @@ Choisissez un autre fichier.</translation>
             <numerusform>dans %n projets</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n ligne ouverte sans successeur</numerusform>
+            <numerusform>%n lignes ouvertes sans successeur</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>incertain : %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>dossier entier sans cible : %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>projet entier sans cible : %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>le projet cible n&apos;existe plus : %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1 : %2 n&apos;existe plus</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>aucune ligne semblable : %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Ligne : %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Tous les motifs sont traités</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>dans %n projet</numerusform>
+            <numerusform>dans %n projets</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n ligne confirmée comme retirée du catalogue</numerusform>
+            <numerusform>%n lignes confirmées comme retirées du catalogue</numerusform>
+        </translation>
     </message>
 </context>
 <context>

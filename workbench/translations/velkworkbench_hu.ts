@@ -2351,6 +2351,12 @@ Válasszon másik fájlt.</translation>
             <numerusform>%n projektben</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n nyitott sor utód nélkül</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2430,6 +2436,26 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>bizonytalan: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>az egész mappa cél nélkül: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>az egész projekt cél nélkül: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>a célprojekt már nincs meg: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 már nincs</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>nincs hasonló sor: %1</translation>
     </message>
 </context>
 <context>
@@ -3232,6 +3258,18 @@ Sor: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Minden minta kész</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projektben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n sor megszűntként megerősítve</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2351,6 +2351,12 @@ Harap pilih berkas lain.</translation>
             <numerusform>di %n proyek</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n baris terbuka tanpa penerus</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2430,6 +2436,26 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>tidak pasti: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>seluruh folder tanpa tujuan: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>seluruh proyek tanpa tujuan: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>proyek tujuan tidak ada lagi: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 tidak ada lagi</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>tidak ada baris serupa: %1</translation>
     </message>
 </context>
 <context>
@@ -3232,6 +3258,18 @@ Baris: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Semua pola sudah selesai</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>di %n proyek</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n baris dikonfirmasi sebagai tidak berlaku</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2392,6 +2392,13 @@ Scegliere un altro file.</translation>
             <numerusform>in %n progetti</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n riga aperta senza successore</numerusform>
+            <numerusform>%n righe aperte senza successore</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Scegliere un altro file.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>incerto: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>intera cartella senza destinazione: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>intero progetto senza destinazione: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>il progetto di destinazione non esiste più: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 non esiste più</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>nessuna riga simile: %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Riga: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Tutti gli schemi sono completati</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>in %n progetto</numerusform>
+            <numerusform>in %n progetti</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n riga confermata come fuori produzione</numerusform>
+            <numerusform>%n righe confermate come fuori produzione</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2351,6 +2351,12 @@ Bitte eine andere Datei wählen.</source>
             <numerusform>%n 件のプロジェクト</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>後継のない未決定の %n 行</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2430,6 +2436,26 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>unsicher: %1</source>
         <translation>不確か: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>フォルダー全体に対象なし: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>プロジェクト全体に対象なし: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>対象プロジェクトはもうありません: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 はもうありません</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>類似する行なし: %1</translation>
     </message>
 </context>
 <context>
@@ -3232,6 +3258,18 @@ Zeile: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>すべてのパターンが完了しました</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n 件のプロジェクト</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n 行を廃止として確認</numerusform>
+        </translation>
     </message>
 </context>
 <context>

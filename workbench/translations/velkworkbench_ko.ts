@@ -2351,6 +2351,12 @@ Bitte eine andere Datei wählen.</source>
             <numerusform>프로젝트 %n개</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>후속이 없는 미결 행 %n개</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2430,6 +2436,26 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>unsicher: %1</source>
         <translation>불확실: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>폴더 전체에 대상 없음: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>프로젝트 전체에 대상 없음: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>대상 프로젝트가 더 이상 없음: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2이(가) 더 이상 없음</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>비슷한 행 없음: %1</translation>
     </message>
 </context>
 <context>
@@ -3232,6 +3258,18 @@ Zeile: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>모든 패턴이 완료되었습니다</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>프로젝트 %n개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n개 행을 단종으로 확인함</numerusform>
+        </translation>
     </message>
 </context>
 <context>

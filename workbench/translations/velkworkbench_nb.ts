@@ -2392,6 +2392,13 @@ Velg en annen fil.</translation>
             <numerusform>i %n prosjekter</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n åpen linje uten etterfølger</numerusform>
+            <numerusform>%n åpne linjer uten etterfølger</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Velg en annen fil.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>usikkert: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>hel mappe uten mål: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>helt prosjekt uten mål: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>målprosjektet finnes ikke lenger: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 finnes ikke lenger</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>ingen lignende linje: %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Linje: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Alle mønstre er ferdige</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n prosjekt</numerusform>
+            <numerusform>i %n prosjekter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n linje bekreftet som utgått</numerusform>
+            <numerusform>%n linjer bekreftet som utgått</numerusform>
+        </translation>
     </message>
 </context>
 <context>

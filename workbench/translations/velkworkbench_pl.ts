@@ -2433,6 +2433,14 @@ Wybierz inny plik.</translation>
             <numerusform>w %n projektach</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n otwarty wiersz bez następcy</numerusform>
+            <numerusform>%n otwarte wiersze bez następcy</numerusform>
+            <numerusform>%n otwartych wierszy bez następcy</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2518,6 +2526,26 @@ Wybierz inny plik.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>niepewne: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>cały folder bez celu: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>cały projekt bez celu: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>projekt docelowy już nie istnieje: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 już nie istnieje</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>brak podobnego wiersza: %1</translation>
     </message>
 </context>
 <context>
@@ -3338,6 +3366,22 @@ Wiersz: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Wszystkie wzorce są załatwione</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>w %n projekcie</numerusform>
+            <numerusform>w %n projektach</numerusform>
+            <numerusform>w %n projektach</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>potwierdzono %n wiersz jako wycofany</numerusform>
+            <numerusform>potwierdzono %n wiersze jako wycofane</numerusform>
+            <numerusform>potwierdzono %n wierszy jako wycofane</numerusform>
+        </translation>
     </message>
 </context>
 <context>

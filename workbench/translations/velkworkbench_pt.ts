@@ -2392,6 +2392,13 @@ Escolha outro ficheiro.</translation>
             <numerusform>em %n projetos</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n linha em aberto sem sucessora</numerusform>
+            <numerusform>%n linhas em aberto sem sucessora</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>incerto: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>pasta inteira sem destino: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>projeto inteiro sem destino: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>o projeto de destino já não existe: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 já não existe</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>nenhuma linha semelhante: %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Linha: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Todos os padrões estão resolvidos</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>em %n projeto</numerusform>
+            <numerusform>em %n projetos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n linha confirmada como descontinuada</numerusform>
+            <numerusform>%n linhas confirmadas como descontinuadas</numerusform>
+        </translation>
     </message>
 </context>
 <context>

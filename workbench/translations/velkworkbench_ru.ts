@@ -2433,6 +2433,14 @@ Bitte eine andere Datei wählen.</source>
             <numerusform>в %n проектах</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n открытая строка без преемника</numerusform>
+            <numerusform>%n открытые строки без преемника</numerusform>
+            <numerusform>%n открытых строк без преемника</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2518,6 +2526,26 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>unsicher: %1</source>
         <translation>сомнительно: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>вся папка без цели: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>весь проект без цели: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>целевого проекта больше нет: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 больше нет</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>нет похожей строки: %1</translation>
     </message>
 </context>
 <context>
@@ -3338,6 +3366,22 @@ Zeile: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Все шаблоны обработаны</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>в %n проекте</numerusform>
+            <numerusform>в %n проектах</numerusform>
+            <numerusform>в %n проектах</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n строка подтверждена как снятая с производства</numerusform>
+            <numerusform>%n строки подтверждены как снятые с производства</numerusform>
+            <numerusform>%n строк подтверждено как снятые с производства</numerusform>
+        </translation>
     </message>
 </context>
 <context>

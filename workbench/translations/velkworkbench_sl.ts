@@ -2474,6 +2474,15 @@ Izberite drugo datoteko.</translation>
             <numerusform>v %n projektih</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n odprta vrstica brez naslednika</numerusform>
+            <numerusform>%n odprti vrstici brez naslednika</numerusform>
+            <numerusform>%n odprte vrstice brez naslednika</numerusform>
+            <numerusform>%n odprtih vrstic brez naslednika</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2562,6 +2571,26 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>negotovo: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>cela mapa brez cilja: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>cel projekt brez cilja: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>ciljni projekt ne obstaja več: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 ne obstaja več</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>ni podobne vrstice: %1</translation>
     </message>
 </context>
 <context>
@@ -3391,6 +3420,24 @@ Vrstica: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Vsi vzorci so opravljeni</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>v %n projektu</numerusform>
+            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %n projektih</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n vrstica potrjena kot opuščena</numerusform>
+            <numerusform>%n vrstici potrjeni kot opuščeni</numerusform>
+            <numerusform>%n vrstice potrjene kot opuščene</numerusform>
+            <numerusform>%n vrstic potrjenih kot opuščenih</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2392,6 +2392,13 @@ Välj en annan fil.</translation>
             <numerusform>i %n projekt</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n öppen rad utan efterföljare</numerusform>
+            <numerusform>%n öppna rader utan efterföljare</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2474,6 +2481,26 @@ Välj en annan fil.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>osäkert: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>hel mapp utan mål: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>helt projekt utan mål: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>målprojektet finns inte längre: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 finns inte längre</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>ingen liknande rad: %1</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3312,20 @@ Rad: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Alla mönster är klara</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %n projekt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n rad bekräftad som utgången</numerusform>
+            <numerusform>%n rader bekräftade som utgångna</numerusform>
+        </translation>
     </message>
 </context>
 <context>

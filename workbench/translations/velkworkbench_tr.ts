@@ -2351,6 +2351,12 @@ Lütfen başka bir dosya seçin.</translation>
             <numerusform>%n projede</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>Ardılı olmayan %n açık satır</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2430,6 +2436,26 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>unsicher: %1</source>
         <translation>belirsiz: %1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>tüm klasör hedefsiz: %1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>tüm proje hedefsiz: %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>hedef proje artık yok: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1: %2 artık yok</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>benzer satır yok: %1</translation>
     </message>
 </context>
 <context>
@@ -3232,6 +3258,18 @@ Satır: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>Tüm örüntüler tamamlandı</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>%n projede</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>%n satır kaldırılmış olarak onaylandı</numerusform>
+        </translation>
     </message>
 </context>
 <context>

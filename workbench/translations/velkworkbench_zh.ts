@@ -2351,6 +2351,12 @@ Bitte eine andere Datei wählen.</source>
             <numerusform>涉及 %n 个项目</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n 个没有后继的未决行</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2430,6 +2436,26 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>unsicher: %1</source>
         <translation>不确定：%1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>整个文件夹没有目标：%1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>整个项目没有目标：%1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>目标项目已不存在：%1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1：%2 已不存在</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>没有相似的行：%1</translation>
     </message>
 </context>
 <context>
@@ -3232,6 +3258,18 @@ Zeile: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>所有模式都已处理完</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>涉及 %n 个项目</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>已将 %n 行确认为停用</numerusform>
+        </translation>
     </message>
 </context>
 <context>

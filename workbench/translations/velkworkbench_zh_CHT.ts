@@ -2351,6 +2351,12 @@ Bitte eine andere Datei wählen.</source>
             <numerusform>涉及 %n 個專案</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <translation>
+            <numerusform>%n 個沒有後繼的未決列</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PatternModel</name>
@@ -2430,6 +2436,26 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>unsicher: %1</source>
         <translation>不確定：%1</translation>
+    </message>
+    <message>
+        <source>ganzer Ordner ohne Ziel: %1</source>
+        <translation>整個資料夾沒有目標：%1</translation>
+    </message>
+    <message>
+        <source>ganzes Projekt ohne Ziel: %1</source>
+        <translation>整個專案沒有目標：%1</translation>
+    </message>
+    <message>
+        <source>Zielprojekt gibt es nicht mehr: %1</source>
+        <translation>目標專案已不存在：%1</translation>
+    </message>
+    <message>
+        <source>%1: %2 gibt es nicht mehr</source>
+        <translation>%1：%2 已不存在</translation>
+    </message>
+    <message>
+        <source>keine ähnliche Zeile: %1</source>
+        <translation>沒有相似的列：%1</translation>
     </message>
 </context>
 <context>
@@ -3232,6 +3258,18 @@ Zeile: %2
     <message>
         <source>Alle Muster sind erledigt</source>
         <translation>所有模式都已處理完</translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n Projekt(en)</source>
+        <translation>
+            <numerusform>涉及 %n 個專案</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <translation>
+            <numerusform>已將 %n 列確認為停用</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,7 @@ ReasonDialog::ReasonDialog(const QStringList &lines, const QString &last, QWidge
     m_lines->setEnabled(lines.size() > 1);
     m_reason->setObjectName("reason");
     m_reason->setEditable(true);
+    m_reason->setCompleter(nullptr); // it would take the first Enter for itself
     m_reason->addItems(reasons());
     m_reason->setCurrentText(last.isEmpty() ? reasons().value(0) : last);
     auto *buttons = new QDialogButtonBox(this);

@@ -197,7 +197,8 @@ void ReviewCommands::confirmAll()
         return Q_EMIT noted(tr("Es ist kein Muster gewählt, oder alle Zeilen sind entschieden"));
     const QString pattern =
         m_dock->chosen() < 0 ? QString() : PatternText::of(m_work->patterns(), m_dock->chosen());
-    if ((doubtfulIn(places) > 0 || !isTold(places)) && !ask(places, pattern))
+    const bool asksReason = !goneOf(places).isEmpty();
+    if (!asksReason && (doubtfulIn(places) > 0 || !isTold(places)) && !ask(places, pattern))
         return;
     confirm(places, pattern, QString());
 }
@@ -240,18 +241,29 @@ bool ReviewCommands::ask(const std::vector<Place> &places, const QString &detail
 void ReviewCommands::confirm(const std::vector<Place> &places, const QString &details,
                              const QString &stepText)
 {
+    const QList<Place> gone = goneOf(places);
+    if (!gone.isEmpty() && !askReason(places, details))
+        return;
+    const int count = int(places.size());
+    const QString decided = gone.size() == count
+                                ? tr("%n Zeile(n) als ausgelaufen bestätigt", nullptr, count)
+                                : tr("%n Zeile(n) bestätigt", nullptr, count);
+    const QString text =
+        (stepText.isEmpty() ? decided + QStringLiteral(": ") + details : stepText) +
+        (gone.isEmpty() ? QString() : QStringLiteral(" (") + m_reason + u')');
+    const std::set<Place> without(gone.begin(), gone.end());
     std::map<int, QList<int>> byProject;
-    for (const Place &place : places)
-        byProject[place.project].append(place.line);
-    const QString text = stepText.isEmpty()
-                             ? tr("%n Zeile(n) bestätigt", nullptr, int(places.size())) +
-                                   QStringLiteral(": ") + details
-                             : stepText;
+    for (const Place &place : places) {
+        if (!without.contains(place))
+            byProject[place.project].append(place.line);
+    }
     m_document->beginStep(text);
+    confirmGone(gone);
     for (const auto &[position, lines] : byProject)
         (void)BulkOperation(*m_document, m_work->projectAt(position), lines)
             .run(BulkOperation::Confirm);
     m_document->endStep();
+    noteReason(gone);
     const bool ended = lines().empty() && !goOn() && m_goesOn;
     Q_EMIT done(ended ? text + QStringLiteral(" · ") + tr("Alle Muster sind erledigt") : text);
 }

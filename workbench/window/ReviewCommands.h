@@ -42,7 +42,8 @@ public:
     void showPatterns();
     void showDifferences();
     /// Asks first if lines of the set are in doubt, or if the list does not tell their number;
-    /// then goes on to the next pattern.
+    /// then goes on to the next pattern. Of lines without a successor that is confirmed, for a
+    /// reason that is asked for.
     void confirmAll();
     /// The line in sight is not confirmed with the others of the set.
     void takeOut();
@@ -90,6 +91,11 @@ private:
     [[nodiscard]] int doubtfulIn(const std::vector<Place> &places) const;
     [[nodiscard]] bool ask(const std::vector<Place> &places, const QString &details) const;
     void confirm(const std::vector<Place> &places, const QString &details, const QString &stepText);
+    /// Those of which the list says that they have no successor.
+    [[nodiscard]] QList<Place> goneOf(const std::vector<Place> &places) const;
+    [[nodiscard]] bool askReason(const std::vector<Place> &places, const QString &details);
+    void confirmGone(const QList<Place> &places);
+    void noteReason(const QList<Place> &places) const;
     [[nodiscard]] bool goOn();
     void goToSample();
     void endSample();
@@ -110,4 +116,5 @@ private:
     LineRef m_explained; ///< that the panel shows
     std::optional<VelkRelease::SampleAcceptance> m_sample;
     quint64 m_seed = 0;
+    QString m_reason; ///< why lines have no successor, as it was given last
 };

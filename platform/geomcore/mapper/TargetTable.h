@@ -7,6 +7,7 @@
 #include <geomcore/table/Content.h>
 #include <geomcore/table/LineIndex.h>
 #include <geomcore/table/LineSet.h>
+#include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <QHash>
 
@@ -44,7 +45,8 @@ public:
     [[nodiscard]] bool isEverythingShown() const { return !m_shown; }
     /// The cell's bytes without blanks around; what a computed variable gives. Empty for no value.
     /// Points into the table or into \a scratch.
-    [[nodiscard]] std::string_view text(int row, int variable, std::string &scratch) const;
+    [[nodiscard]] VELKGEOMCORE_EXPORT std::string_view text(int row, int variable,
+                                                            std::string &scratch) const;
 
     /// A row split once, to take several texts from. Reused from row to row.
     struct Row

@@ -28,6 +28,12 @@ int numberFor(QHash<QString, int> &numbers, const QString &name, int next)
     return known != numbers.cend() ? *known : *numbers.insert(name, next);
 }
 
+/// Nobody has to be sure that what is not there any more is gone.
+double probabilityOf(const OpenPair &pair)
+{
+    return pair.gone && pair.gone->isTableGone ? 1 : pair.probability;
+}
+
 bool contains(const std::vector<int> &all, const std::vector<int> &some)
 {
     return std::includes(all.begin(), all.end(), some.begin(), some.end());
@@ -67,12 +73,16 @@ bool haveSameTargets(const PrjMappingC &a, const PrjMappingC &b)
 DifferencePatterns::DifferencePatterns(const ReleaseMappingC &release,
                                        const std::vector<Read> &pairs)
     : m_families(release.getReplacements())
+    , m_goneFamilies(release)
 {
     m_projects.resize(pairs.size());
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         m_projects[i].mapping = release.mappingAt(int(i));
         m_families.count(pairs[i].pairs);
+        m_goneFamilies.count(pairs[i].pairs, m_projects[i].mapping);
     }
+    for (std::size_t i = 0; i < pairs.size(); ++i)
+        m_goneFamilies.choose(pairs[i].pairs, m_projects[i].mapping);
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         for (const OpenPair &pair : pairs[i].pairs)
             enter(m_projects[i], int(i), pair);
@@ -92,8 +102,11 @@ std::optional<DifferencePatterns> DifferencePatterns::compute(
                 return;
             const PrjMappingC mapping = release.mappingAt(i);
             Read &read = pairs[size_t(i)];
-            read.pairs = readOpenPairs(sourceRoot, mapping, release, openProposals(mapping),
-                                       read.errors, &cancelled);
+            std::vector<OpenProposal> lines = openProposals(mapping);
+            for (const int line : linesWithoutProposal(mapping))
+                lines.push_back({line, -1, -1});
+            read.pairs =
+                readOpenPairs(sourceRoot, mapping, release, lines, read.errors, &cancelled);
         },
         cancelled, tell);
     if (!done)
@@ -101,9 +114,9 @@ std::optional<DifferencePatterns> DifferencePatterns::compute(
     return DifferencePatterns(release, pairs);
 }
 
-int DifferencePatterns::patternFor(const OpenPair &pair, const QString &sourcePath)
+/// Ascending.
+std::vector<int> DifferencePatterns::changeIds(const QList<ValueChange> &changes)
 {
-    const QList<ValueChange> changes = m_families.changesOf(pair, sourcePath);
     std::vector<int> ids;
     ids.reserve(size_t(changes.size()));
     for (const ValueChange &change : changes) {
@@ -113,6 +126,15 @@ int DifferencePatterns::patternFor(const OpenPair &pair, const QString &sourcePa
         ids.push_back(id);
     }
     std::sort(ids.begin(), ids.end());
+    return ids;
+}
+
+int DifferencePatterns::patternFor(const OpenPair &pair, const PrjMappingC &mapping)
+{
+    if (pair.gone)
+        return goneFor(pair, mapping);
+    const QList<ValueChange> changes = m_families.changesOf(pair, mapping.getSourcePath());
+    const std::vector<int> ids = changeIds(changes);
     const bool doubtful = pair.comparable && pair.probability < SureFrom;
     QString name = !pair.comparable ? QStringLiteral("-")
                    : doubtful       ? QStringLiteral("?")
@@ -123,12 +145,32 @@ int DifferencePatterns::patternFor(const OpenPair &pair, const QString &sourcePa
     const int pattern = numberFor(m_patternOf, name, next);
     if (pattern < next)
         return pattern;
-    m_patterns.push_back({changes, pair.comparable, doubtful, {}, 0, 0, {}});
+    m_patterns.push_back({changes, pair.comparable, doubtful, {}, {}, 0, 0, {}});
     m_changesOf.push_back(ids);
     noteLarger(next);
     for (const int id : ids)
         m_having[size_t(id)].push_back(next);
     return next;
+}
+
+int DifferencePatterns::goneFor(const OpenPair &pair, const PrjMappingC &mapping)
+{
+    const GoneGroup group = m_goneFamilies.groupOf(pair, mapping);
+    const bool doubtful = probabilityOf(pair) < SureFrom;
+    const QString name = QStringList{QStringLiteral("gone"),
+                                     doubtful ? QStringLiteral("?") : QString(),
+                                     group.key(),
+                                     group.place,
+                                     group.variable,
+                                     group.value}
+                             .join(QChar(0x1f));
+    const int next = count();
+    const int pattern = numberFor(m_patternOf, name, next);
+    if (pattern == next) {
+        m_patterns.push_back({{}, true, doubtful, group, {}, 0, 0, {}});
+        m_changesOf.emplace_back();
+    }
+    return pattern;
 }
 
 /// Finds the patterns that have all changes of a new one, and those all of whose changes it has.
@@ -156,8 +198,8 @@ void DifferencePatterns::enter(Project &project, int position, const OpenPair &p
     Known &known = project.lines[pair.line];
     known.target = pair.target;
     known.targetLine = pair.targetLine;
-    known.pattern = patternFor(pair, project.mapping.getSourcePath());
-    known.probability = pair.probability;
+    known.pattern = patternFor(pair, project.mapping);
+    known.probability = probabilityOf(pair);
     known.open = false;
     setOpen(project, position, pair.line, known, true);
 }
@@ -172,9 +214,10 @@ void DifferencePatterns::setOpen(Project &project, int position, int line, Known
     if (known.pattern < 0) {
         project.pending += step;
         m_pendingLines += step;
+        m_pendingGone += known.targetLine == -1 ? step : 0;
         return;
     }
-    m_openLines += step;
+    (m_patterns[size_t(known.pattern)].gone ? m_goneLines : m_openLines) += step;
     Pattern &pattern = m_patterns[size_t(known.pattern)];
     pattern.lines += step;
     pattern.sum += step * qint64(std::llround(known.probability * ProbabilitySteps));
@@ -199,7 +242,9 @@ void DifferencePatterns::setMapping(int position, const PrjMappingC &mapping)
     project.mapping = mapping;
     const bool kept = haveSameTargets(before, mapping);
     for (const int line : changedLines(before, mapping)) {
-        const OpenProposal proposal = openProposal(mapping, line);
+        OpenProposal proposal = openProposal(mapping, line);
+        if (proposal.line < 0 && isWithoutProposal(mapping, line))
+            proposal.line = line;
         const auto found = project.lines.find(line);
         const bool isKnown = found != project.lines.end();
         if (proposal.line < 0) {
@@ -262,11 +307,11 @@ DifferencePatterns::Numbers DifferencePatterns::numbers(int index) const
     return numbers;
 }
 
-std::vector<int> DifferencePatterns::ranked() const
+std::vector<int> DifferencePatterns::ranked(bool gone) const
 {
     std::vector<int> ranked;
     for (int i = 0; i < count(); ++i) {
-        if (m_patterns[size_t(i)].lines > 0)
+        if (m_patterns[size_t(i)].lines > 0 && m_patterns[size_t(i)].gone.has_value() == gone)
             ranked.push_back(i);
     }
     std::stable_sort(ranked.begin(), ranked.end(), [this](int a, int b) {
@@ -335,6 +380,8 @@ std::vector<DifferencePatterns::Place> DifferencePatterns::leastSure() const
     std::vector<std::pair<double, Place>> sorted;
     sorted.reserve(size_t(m_openLines));
     for (const Pattern &pattern : m_patterns) {
+        if (pattern.gone)
+            continue;
         for (const auto &[project, lines] : pattern.open) {
             for (const auto &[line, probability] : lines)
                 sorted.push_back({probability, {project, line}});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ChangeFamilies.h"
+#include "GoneFamilies.h"
 
 #include <geomcore/records/ReleaseMappingC.h>
 
@@ -17,8 +18,9 @@ namespace VelkRelease {
 
 /// The open lines of a release by how they differ from the lines that are proposed for them: lines
 /// with the same changes of the same variables are one pattern, whatever their projects; those of
-/// which the program is not sure are one of their own. Every open line with a proposal is in
-/// exactly one pattern, or still to be compared.
+/// which the program is not sure are one of their own. Open lines without a successor are patterns
+/// too, by what these lines have in common. Every open line without a conflict is in exactly one
+/// pattern, or still to be compared.
 ///
 /// What the changes are called is settled when the patterns are made, by all lines that were open
 /// then. Decisions take lines out of their pattern, and undo brings them back; another proposal of
@@ -71,7 +73,8 @@ public:
 
     /// A project's mapping is another one now. Costs what differs between both.
     void setMapping(int project, const PrjMappingC &mapping);
-    /// Lines whose proposal has not been compared yet, in the order of the projects.
+    /// Lines that have not been compared yet, in the order of the projects; those without a
+    /// proposal have no target line.
     [[nodiscard]] std::vector<std::pair<int, std::vector<OpenProposal>>> pending() const;
     [[nodiscard]] int pendingLines() const { return m_pendingLines; }
     /// Enters what was read of pending lines. What is no longer proposed is passed over.
@@ -93,9 +96,17 @@ public:
     {
         return m_patterns[size_t(pattern)].doubtful;
     }
+    /// What its lines, which have no successor, have in common; nothing of lines with a proposal.
+    [[nodiscard]] const std::optional<GoneGroup> &gone(int pattern) const
+    {
+        return m_patterns[size_t(pattern)].gone;
+    }
+    /// The probability is that of the proposals, or that there is no successor.
     [[nodiscard]] Numbers numbers(int pattern) const;
-    /// Patterns that have lines, those of most lines first.
-    [[nodiscard]] std::vector<int> ranked() const;
+    /// Patterns with a proposal that have lines, those of most lines first.
+    [[nodiscard]] std::vector<int> ranked() const { return ranked(false); }
+    /// The same of those without a successor.
+    [[nodiscard]] std::vector<int> rankedGone() const { return ranked(true); }
     /// At most \a most open lines of a pattern, in the order of release and lines.
     [[nodiscard]] std::vector<Place> places(int pattern, int most = -1) const;
     /// Those of one project.
@@ -105,9 +116,11 @@ public:
     [[nodiscard]] int patternOf(const Place &place) const;
     /// Of an open line that was compared; nothing for others.
     [[nodiscard]] std::optional<double> probability(const Place &place) const;
-    /// Open lines in all patterns and pending ones.
-    [[nodiscard]] int openLines() const { return m_openLines + m_pendingLines; }
-    /// All open lines that were compared, the least probable first.
+    /// Open lines with a proposal in all patterns, and pending ones.
+    [[nodiscard]] int openLines() const { return m_openLines + m_pendingLines - m_pendingGone; }
+    /// The same of those without a successor.
+    [[nodiscard]] int goneLines() const { return m_goneLines + m_pendingGone; }
+    /// All open lines with a proposal that were compared, the least probable first.
     [[nodiscard]] std::vector<Place> leastSure() const;
     /// What could not be read, in the order of the release.
     [[nodiscard]] const QStringList &errors() const { return m_errors; }
@@ -132,6 +145,7 @@ private:
         QList<ValueChange> changes;
         bool comparable = true;
         bool doubtful = false;
+        std::optional<GoneGroup> gone;
         std::map<int, std::map<int, double>> open; ///< probability of lines, by project
         int lines = 0;
         /// Of the probabilities, in whole steps, so that it does not depend on the order in which
@@ -140,12 +154,16 @@ private:
         std::vector<int> larger; ///< patterns with all these changes and others
     };
 
-    [[nodiscard]] int patternFor(const OpenPair &pair, const QString &sourcePath);
+    [[nodiscard]] std::vector<int> ranked(bool gone) const;
+    [[nodiscard]] int patternFor(const OpenPair &pair, const PrjMappingC &mapping);
+    [[nodiscard]] int goneFor(const OpenPair &pair, const PrjMappingC &mapping);
+    [[nodiscard]] std::vector<int> changeIds(const QList<ValueChange> &changes);
     void noteLarger(int pattern);
     void enter(Project &project, int position, const OpenPair &pair);
     void setOpen(Project &project, int position, int line, Known &known, bool open);
 
     ChangeFamilies m_families;
+    GoneFamilies m_goneFamilies;
     std::vector<Project> m_projects;
     std::vector<Pattern> m_patterns;
     QHash<QString, int> m_patternOf;           ///< by a name of all changes
@@ -153,7 +171,9 @@ private:
     std::vector<std::vector<int>> m_changesOf; ///< of each pattern, ascending
     std::vector<std::vector<int>> m_having;    ///< patterns that have a change
     int m_openLines = 0;
+    int m_goneLines = 0;
     int m_pendingLines = 0;
+    int m_pendingGone = 0; ///< of these, without a proposal
     QStringList m_errors;
 };
 

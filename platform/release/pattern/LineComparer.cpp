@@ -1,5 +1,7 @@
 #include "LineComparer.h"
 
+#include "LostValues.h"
+
 #include <core/message/PStringMessageImpl.h>
 #include <core/text/PPathName.h>
 #include <geomcore/index/IndexTreeC.h>
@@ -22,6 +24,7 @@ struct LineComparer::Private
     QStringList errors;
     std::unique_ptr<TargetGuard> targets;
     std::unique_ptr<LinePart> part;
+    std::unique_ptr<LostValues> lost; ///< made at the first need
 
     [[nodiscard]] VKTab::LineView view(int line) const
     {
@@ -159,6 +162,20 @@ QList<ComparedVariableC> LineComparer::compared(int line, int target, int target
 LineCandidatesC LineComparer::candidates(int line)
 {
     return hasLine(line) ? d->part->mapper().candidates(line, d->view(line)) : LineCandidatesC();
+}
+
+std::vector<LostValue> LineComparer::lostValues(int line)
+{
+    if (!hasLine(line))
+        return {};
+    if (!d->lost)
+        d->lost = std::make_unique<LostValues>(d->table, d->mapping);
+    return d->lost->of(line);
+}
+
+QStringList LineComparer::unreadableTargets() const
+{
+    return d->targets ? d->targets->unreadable() : QStringList();
 }
 
 RangeCoverage LineComparer::coverage(int line) const

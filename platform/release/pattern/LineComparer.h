@@ -1,6 +1,6 @@
 #pragma once
 
-#include <release/VelkReleaseGlobal.h>
+#include "OpenPairs.h"
 
 #include <geomcore/mapper/LineCandidatesC.h>
 #include <geomcore/records/ReleaseMappingC.h>
@@ -62,6 +62,10 @@ public:
     [[nodiscard]] QList<ComparedVariableC> compared(int line, int target, int targetLine,
                                                     bool withPlan = false);
     [[nodiscard]] LineCandidatesC candidates(int line);
+    /// Values of the line that neither a line of the targets has nor one that is assigned.
+    [[nodiscard]] std::vector<LostValue> lostValues(int line);
+    /// Target paths of those that cannot be read.
+    [[nodiscard]] QStringList unreadableTargets() const;
     /// Which values of the line's ranges have a new line; empty if none are divided.
     [[nodiscard]] RangeCoverage coverage(int line) const;
 

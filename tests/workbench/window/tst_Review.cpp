@@ -16,6 +16,7 @@
 #include <workbench/window/LineCommands.h>
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/NeighbourCommands.h>
+#include <workbench/window/ReasonDialog.h>
 #include <workbench/window/ReviewCommands.h>
 #include <workbench/window/StatusArea.h>
 #include <workbench/window/WorkbenchSettings.h>
@@ -23,6 +24,7 @@
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>
 #include <release/decide/LineEdits.h>
+#include <release/history/DecisionHistory.h>
 #include <release/history/SampleHistory.h>
 
 #include <QAbstractItemModelTester>
@@ -110,6 +112,7 @@ private Q_SLOTS:
     void numbersAddUp();
     void choosingFiltersTreeAndTable();
     void confirmsAllInOneStep();
+    void confirmsLinesWithoutSuccessor();
     void asksForLinesInDoubt();
     void staysWhereTheUserWants();
     void lastLineLeadsToTheNextPattern();
@@ -135,10 +138,18 @@ void tst_Review::numbersAddUp()
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
     const int open = fixture.window->lines()->openLines().countOf(OpenLines::ToCheck);
     QVERIFY(open > 0);
-    QCOMPARE(fixture.model()->lineCount(), open);
-    QVERIFY2(fixture.sum().contains(QString("%1 offene Zeilen mit Vorschlag in %2 Mustern")
+    const auto &patterns = fixture.review()->work()->patterns();
+    const int gone = fixture.window->lines()->openLines().countOf(OpenLines::NotFound);
+    QVERIFY(gone > 0);
+    QCOMPARE(fixture.model()->lineCount(), open + gone);
+    QCOMPARE(fixture.model()->rowCount(),
+             int(patterns.ranked().size() + patterns.rankedGone().size()));
+    QVERIFY2(fixture.sum().contains(QString("%1 offene Zeilen mit Vorschlag in %2 Mustern\n"
+                                            "%3 offene Zeilen ohne Nachfolger in %4 Mustern")
                                         .arg(open)
-                                        .arg(fixture.model()->rowCount())),
+                                        .arg(patterns.ranked().size())
+                                        .arg(gone)
+                                        .arg(patterns.rankedGone().size())),
              qPrintable(fixture.sum()));
     // The keys are with the list.
     QCOMPARE(QApplication::focusWidget(), fixture.list());
@@ -194,6 +205,58 @@ void tst_Review::confirmsAllInOneStep()
     QCOMPARE(fixture.confirmedLines(), confirmed);
     QCOMPARE(fixture.model()->lineCount(), open);
     QVERIFY(fixture.model()->rowOf(pattern) >= 0);
+}
+
+/// No successor: with a reason, in one step, and the journal says who, why and for which lines.
+void tst_Review::confirmsLinesWithoutSuccessor()
+{
+    ReviewFixture fixture;
+    const QString washers = QStringLiteral("standardparts/washers/din127.prj");
+    fixture.choose("ganzes Projekt ohne Ziel: " + washers);
+    QCOMPARE(fixture.here().project.path, washers);
+    const int pattern = fixture.review()->dock()->chosen();
+    const int lines = fixture.linesIn(fixture.model()->rowOf(pattern));
+    const int confirmed = fixture.confirmedLines();
+    // Nothing without a reason.
+    ModalScript script;
+    script.then([&script](QWidget *dialog) {
+        script.note(dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(script.seen, QStringList{"ReasonDialog"});
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+    QVERIFY(!fixture.document()->canUndo());
+    QString told;
+    script.then([&told](QWidget *dialog) {
+        told = dialog->findChild<QComboBox *>("lines")->currentText();
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Down);
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    });
+    fixture.press(Qt::Key_Return, Qt::ControlModifier);
+    QVERIFY2(told.startsWith(QString("%1 Zeilen in 1 Projekt").arg(lines)), qPrintable(told));
+    QCOMPARE(fixture.confirmedLines(), confirmed + lines);
+    QCOMPARE(fixture.model()->rowOf(pattern), -1);
+    QVERIFY(fixture.review()->dock()->chosen() >= 0);
+    const QString reason = ReasonDialog::reasons().at(1);
+    QVERIFY2(fixture.document()->undoText().contains(
+                 QString("%1 Zeilen als ausgelaufen bestätigt").arg(lines)) &&
+                 fixture.document()->undoText().contains(reason),
+             qPrintable(fixture.document()->undoText()));
+    VelkRelease::DecisionHistory history;
+    QString error;
+    QVERIFY2(history.read(fixture.document()->mappingFile(), &error), qPrintable(error));
+    const auto decisions = history.of(washers, -1);
+    QCOMPARE(decisions.size(), lines);
+    for (const VelkRelease::DecisionHistory::Decision &decision : decisions) {
+        QCOMPARE(decision.reason, reason);
+        QVERIFY(!decision.author.isEmpty());
+    }
+    // One step takes all of them back.
+    QCOMPARE(fixture.document()->undoTexts().size(), 1);
+    fixture.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(fixture.confirmedLines(), confirmed);
+    QCOMPARE(fixture.linesIn(fixture.model()->rowOf(pattern)), lines);
 }
 
 /// Nobody confirms by one key what the program is not sure of.
