@@ -10,6 +10,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QLabel>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -37,6 +38,7 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     : QWidget(parent)
     , fileNameBox(new QCheckBox(widgetText("Dateinamen statt Beschreibungen anzeigen"), this))
     , treeView(new QTreeView(this))
+    , problemLabel(new QLabel(this))
     , treeModel(new IndexTreeModelC(rootItem(), treeView))
     , proxyModel(new IndexTreeFilterProxyModelC(treeView))
 {
@@ -47,6 +49,11 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     fileNameBox->setChecked(true);
     layout->addWidget(fileNameBox);
     layout->addWidget(treeView);
+    problemLabel->setObjectName(QStringLiteral("catalogProblem"));
+    problemLabel->setTextFormat(Qt::PlainText);
+    problemLabel->setWordWrap(true);
+    problemLabel->hide();
+    layout->addWidget(problemLabel);
     connect(fileNameBox, SIGNAL(toggled(bool)), this, SLOT(onSwitchFilenameView()));
 
     nameColumn = new IndexTreeModelColumnC(PString(), widgetText("Name"), DisplayIndexC(2));
@@ -72,6 +79,14 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     connect(treeView->selectionModel(),
             SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), this,
             SIGNAL(selectionChanged(QItemSelection, QItemSelection)));
+    connect(treeModel, &IndexTreeModelC::readingFailed, this, [this](const QString &problem) {
+        problemLabel->setText(problem);
+        problemLabel->show();
+    });
+    connect(treeModel, &IndexTreeModelC::rowsInserted, problemLabel, &QLabel::hide);
+    connect(treeView, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
+        treeModel->tryAgain(proxyModel->mapToSource(index));
+    });
     changedTimer.setSingleShot(true);
     changedTimer.setInterval(changedDelay);
     connect(&changedTimer, &QTimer::timeout, this, &SelectWidget::readChanged);
@@ -88,6 +103,8 @@ void SelectWidget::watch(const QModelIndex &directory)
 {
     const auto *const item =
         dynamic_cast<const IndexTreeDisplayItemC *>(treeModel->getDisplayItem(directory).get());
+    if (item ? item->node()->isRemote() : IndexTreeC::instance()->repository() != nullptr)
+        return; // it stays in one revision
     const QString path =
         item ? item->node()->file() : IndexTreeC::instance()->catalogRoot().native();
     // One that cannot be watched, on some file servers, stays as it was read.

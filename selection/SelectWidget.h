@@ -14,6 +14,7 @@
 QT_BEGIN_NAMESPACE
 class QAbstractButton;
 class QCheckBox;
+class QLabel;
 class QTreeView;
 QT_END_NAMESPACE
 
@@ -22,7 +23,7 @@ class IndexTreeModelC;
 class IndexTreeModelColumnC;
 
 /// The catalog index as a tree in which a project is picked. Directories that are open follow what
-/// comes and goes on the disk.
+/// comes and goes on the disk; those of a repository stay as they were read.
 class SelectWidget : public QWidget
 {
     Q_OBJECT
@@ -55,6 +56,7 @@ private:
 
     QCheckBox *fileNameBox;
     QTreeView *treeView;
+    QLabel *problemLabel; ///< why a directory cannot be opened
     IndexTreeModelC *treeModel;
     IndexTreeFilterProxyModelC *proxyModel;
     PRefPtr<IndexTreeModelColumnC> nameColumn;

@@ -37,7 +37,7 @@ public:
     Outcome waitForUpdate()
     {
         if (updated.isEmpty() && !updated.wait(20000))
-            return {Outcome::Failed, 0, 0, 0, 0, {}, "no signal"};
+            return {Outcome::Failed, 0, 0, 0, 0, {}, "no signal", {}};
         return updated.takeFirst().at(0).value<Outcome>();
     }
     CatalogSearchResult waitForSearch(int number)

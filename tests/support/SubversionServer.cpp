@@ -91,6 +91,14 @@ bool SubversionServer::commitLink(const QString &name, const QString &target)
            run("svn", {"commit", "-q", "-m", "link", copy});
 }
 
+bool SubversionServer::remove(const QString &name)
+{
+    const QString copy = m_directory.filePath("copy");
+    return run("svn", {"update", "-q", copy}) &&
+           run("svn", {"remove", "-q", copy + u'/' + name + u'@'}) &&
+           run("svn", {"commit", "-q", "-m", "gone", copy});
+}
+
 bool SubversionServer::demandLogin(const QString &user, const QString &password)
 {
     const QString conf = m_directory.filePath("repository/conf/");

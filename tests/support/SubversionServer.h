@@ -22,6 +22,8 @@ public:
     /// Makes the content of a directory that of "trunk/catalog" in a new revision, as far as files
     /// are new or differ.
     bool commit(const QString &directory);
+    /// Takes a file or directory out in a new revision.
+    bool remove(const QString &name);
     /// Adds an entry that becomes a link to \a target in an export.
     bool commitLink(const QString &name, const QString &target);
     /// Nobody may read any more but this one. Takes effect at once.

@@ -2,6 +2,7 @@
 
 #include "RepositoryLoginDialog.h"
 
+#include <geomcore/index/IndexTreeC.h>
 #include <geomcore/repository/CatalogRepository.h>
 
 #include <QCoreApplication>
@@ -23,6 +24,8 @@ void RemoteCatalogs::close()
 {
     if (m_repository && AddressedFiles::installed() == m_repository)
         AddressedFiles::install(nullptr);
+    if (m_repository && IndexTreeC::instance()->repository() == m_repository)
+        IndexTreeC::instance()->setRepository(nullptr);
     m_repository.reset();
 }
 
@@ -63,6 +66,7 @@ void RemoteCatalogs::apply(const RepositorySettings &settings)
     };
     m_repository = std::make_shared<CatalogRepository>(std::move(options));
     AddressedFiles::install(m_repository);
+    IndexTreeC::instance()->setRepository(m_repository);
 }
 
 void RemoteCatalogs::refresh()

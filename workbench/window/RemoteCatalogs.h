@@ -10,7 +10,8 @@
 
 class CatalogRepository;
 
-/// Has the process read target projects from the catalogs' repositories while the settings want it.
+/// Has the process read target projects, the index tree and the search from the catalogs'
+/// repositories while the settings want it.
 /// GUI thread.
 class RemoteCatalogs : public QObject
 {

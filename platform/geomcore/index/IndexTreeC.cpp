@@ -16,6 +16,7 @@ struct IndexTreeC::Private
     bool isProcessTree = false;
     mutable std::mutex lock;
     PPathName root;
+    std::shared_ptr<CatalogRepository> repository;
     std::shared_ptr<IndexTreeErpSourceI> erpSource;
     IndexTreeIconTableC icons;
 };
@@ -73,8 +74,22 @@ PPathName IndexTreeC::compatiblePathToResolvedPath(const PPathName &path) const
     return absolute ? path : joined;
 }
 
+void IndexTreeC::setRepository(const std::shared_ptr<CatalogRepository> &repository)
+{
+    const std::scoped_lock guard(d->lock);
+    d->repository = repository;
+}
+
+std::shared_ptr<CatalogRepository> IndexTreeC::repository() const
+{
+    const std::scoped_lock guard(d->lock);
+    return d->repository;
+}
+
 PRefPtr<IndexTreeNodeC> IndexTreeC::getRoot() const
 {
+    if (const auto remote = repository())
+        return new IndexTreeNodeC(remote, {}, IndexTreeNodeC::Root);
     return new IndexTreeNodeC(catalogRoot(), {}, IndexTreeNodeC::Root);
 }
 

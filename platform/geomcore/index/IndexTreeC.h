@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class CatalogRepository;
 class IndexTreeErpSourceI;
 
 /// The catalogs below one root directory. Every operation may be called on any thread unless
@@ -35,6 +36,11 @@ public:
     /// paths that begin with a reference and addresses come back as they are; an empty path stays
     /// empty. Whether the file exists is the caller's to ask.
     [[nodiscard]] PPathName compatiblePathToResolvedPath(const PPathName &path) const;
+
+    /// With one, the nodes of the tree are those of the catalogs in repositories, not those of the
+    /// directories below the catalog root; paths of files are not concerned. None with null.
+    void setRepository(const std::shared_ptr<CatalogRepository> &repository);
+    [[nodiscard]] std::shared_ptr<CatalogRepository> repository() const;
 
     /// The node above all catalogs; it is there whether the catalog root is or not.
     [[nodiscard]] PRefPtr<IndexTreeNodeC> getRoot() const;

@@ -25,6 +25,8 @@ struct IndexTreeModelC::Row
     Row *parent = nullptr; // null for the root
     int place = 0;
     bool isRead = false;
+    bool isReading = false; // what waits for a server may have other events delivered
+    bool hasFailed = false;
     std::optional<bool> hasChildren; // known while nothing was read
     std::vector<std::unique_ptr<Row>> children;
 };
@@ -153,6 +155,10 @@ void IndexTreeModelC::readAgain(const QModelIndex &directory)
     if (!parent.isRead || !parent.item || parent.item->canSelect())
         return;
     std::vector<std::unique_ptr<Row>> fresh = readChildren(parent);
+    if (const QString problem = problemOf(parent); !problem.isEmpty()) {
+        Q_EMIT readingFailed(problem);
+        return;
+    }
     QHash<QString, Row *> byKey;
     for (const std::unique_ptr<Row> &row : fresh)
         byKey.insert(keyOf(*row->item), row.get());
@@ -232,7 +238,20 @@ bool IndexTreeModelC::hasChildren(const QModelIndex &parent) const
 
 bool IndexTreeModelC::canFetchMore(const QModelIndex &parent) const
 {
-    return parent.column() <= 0 && !m_columns.isEmpty() && !rowOf(parent)->isRead;
+    const Row &row = *rowOf(parent);
+    return parent.column() <= 0 && !m_columns.isEmpty() && !row.isRead && !row.isReading &&
+           !row.hasFailed;
+}
+
+QString IndexTreeModelC::problemOf(const Row &row)
+{
+    const auto *const item = dynamic_cast<const IndexTreeDisplayItemC *>(row.item.get());
+    return item ? item->node()->problem() : QString();
+}
+
+void IndexTreeModelC::tryAgain(const QModelIndex &directory)
+{
+    rowOf(directory)->hasFailed = false;
 }
 
 void IndexTreeModelC::fetchMore(const QModelIndex &parent)
@@ -240,10 +259,20 @@ void IndexTreeModelC::fetchMore(const QModelIndex &parent)
     if (!canFetchMore(parent))
         return;
     Row &row = *rowOf(parent);
+    row.isReading = true;
     std::vector<std::unique_ptr<Row>> children = readChildren(row);
-    row.isRead = true;
-    if (children.empty())
+    row.isReading = false;
+    const QString problem = problemOf(row);
+    row.hasFailed = !problem.isEmpty();
+    if (row.hasFailed) {
+        Q_EMIT readingFailed(problem);
         return;
+    }
+    row.isRead = true;
+    if (children.empty()) {
+        row.hasChildren = false;
+        return;
+    }
     beginInsertRows(parent, 0, int(children.size()) - 1);
     row.children = std::move(children);
     endInsertRows();

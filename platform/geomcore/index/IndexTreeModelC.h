@@ -35,6 +35,9 @@ public:
     /// valid.
     void updateData(const QModelIndex &first, const QModelIndex &last);
 
+    /// A directory that could not be read is read once more when a view opens it.
+    void tryAgain(const QModelIndex &directory);
+
     /// Brings the rows of a directory up to date with what is there now: rows come and go, the
     /// others stay with all that was read below them. Does nothing if it was not read yet.
     void readAgain(const QModelIndex &directory);
@@ -56,12 +59,17 @@ public:
     /// Items that can be selected never have children.
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
 
+Q_SIGNALS:
+    /// A directory that was to be opened could not be read.
+    void readingFailed(const QString &problem);
+
 private:
     struct Row;
 
     [[nodiscard]] Row *rowOf(const QModelIndex &index) const;
     [[nodiscard]] QModelIndex indexOf(const Row &row, int column) const;
     [[nodiscard]] std::vector<std::unique_ptr<Row>> readChildren(Row &parent) const;
+    [[nodiscard]] static QString problemOf(const Row &row);
     void prefetchErpMarks(const std::vector<std::unique_ptr<Row>> &rows) const;
     void announceBelow(const Row &row);
     static void renumber(Row &parent);

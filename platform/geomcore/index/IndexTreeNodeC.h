@@ -6,12 +6,18 @@
 
 #include <QList>
 
+#include <memory>
 #include <mutex>
 #include <optional>
+#include <vector>
+
+class CatalogRepository;
+struct CatalogEntry;
 
 /// A place in the index tree: its root, a directory (a catalog is one) or a project. A node says
-/// where it is and asks the disk when it is asked; it keeps nothing of what lies below it, so two
-/// nodes of one place are alike and equal only by their paths. Any thread.
+/// where it is and asks the disk, or the catalog's repository, when it is asked; it keeps nothing
+/// of what lies below it, so two nodes of one place are alike and equal only by their paths. Any
+/// thread.
 class VELKGEOMCORE_EXPORT IndexTreeNodeC : public PRefObject
 {
 public:
@@ -20,7 +26,15 @@ public:
     /// \a catalogPath begins with the catalog's name; empty for the root. Whether it is there is
     /// the caller's to know.
     IndexTreeNodeC(const PPathName &catalogRoot, const QString &catalogPath, Kind kind);
+    /// A place in catalogs of repositories. Never null.
+    IndexTreeNodeC(const std::shared_ptr<CatalogRepository> &repository, const QString &catalogPath,
+                   Kind kind);
     ~IndexTreeNodeC() override;
+
+    /// Whether children() and description() may ask a server, and wait for it.
+    [[nodiscard]] bool isRemote() const { return m_repository != nullptr; }
+    /// Why the last children() of this object gave nothing; empty if it was told what is there.
+    [[nodiscard]] QString problem() const;
 
     [[nodiscard]] Kind kind() const { return m_kind; }
     [[nodiscard]] bool isProject() const { return m_kind == Project; }
@@ -32,7 +46,8 @@ public:
     [[nodiscard]] QString treePath() const;
     /// The last component; empty for the root.
     [[nodiscard]] QString name() const;
-    /// Native path of the file or directory.
+    /// Native path of the file or directory; for what lies in a repository that of its place in the
+    /// cache.
     [[nodiscard]] QString file() const;
     /// What a project says of itself (its lexeme NAME), read from its file at the first call; the
     /// name for directories and for projects that say nothing.
@@ -40,7 +55,8 @@ public:
 
     /// Null for the root.
     [[nodiscard]] PRefPtr<IndexTreeNodeC> parent() const;
-    /// Whether there is a directory or project below; looks only until it finds one.
+    /// Whether there is a directory or project below; looks only until it finds one. A directory of
+    /// a repository counts as one that has as long as nobody read it.
     [[nodiscard]] bool hasChildren() const;
     /// Directories, then projects, each ordered by name as people do; read anew at each call. Empty
     /// for a directory that cannot be read. Below the root are directories only. Hidden entries,
@@ -51,10 +67,18 @@ public:
 
 private:
     [[nodiscard]] QString pathOf(const QString &name) const;
+    [[nodiscard]] PRefPtr<IndexTreeNodeC> made(const QString &path, Kind kind) const;
+    /// Of a place below the root: name of the catalog, and the path below that.
+    [[nodiscard]] QString catalogName() const;
+    [[nodiscard]] QString pathBelowCatalog() const;
+    [[nodiscard]] std::vector<CatalogEntry> remoteEntries() const;
+    [[nodiscard]] bool hasRemoteEntries() const;
 
+    const std::shared_ptr<CatalogRepository> m_repository;
     const PPathName m_root;
     const QString m_path;
     const Kind m_kind;
-    mutable std::mutex m_lock; // guards m_description
+    mutable std::mutex m_lock; // guards the next two
+    mutable QString m_problem;
     mutable std::optional<QString> m_description;
 };

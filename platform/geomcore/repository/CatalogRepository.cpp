@@ -1,9 +1,12 @@
 #include "CatalogRepository.h"
 
+#include "repositoryProblems.h"
+
 #include <core/text/PString.h>
 #include <geomcore/project/CatalogPlaces.h>
 
 #include <QDir>
+#include <QUrl>
 
 namespace {
 
@@ -18,18 +21,13 @@ QDeadlineTimer retryAfter(RepositoryAnswer::Kind kind)
     return QDeadlineTimer(kind == RepositoryAnswer::Cancelled ? 0 : pauseMs);
 }
 
-QString noAnswer(const QString &url, const QString &text)
-{
-    return PString::translate("Das Repository %1 antwortet nicht: %2", "VelkGeomCore")
-        .arg(url, text);
-}
-
 } // namespace
 
 CatalogRepository::CatalogRepository(Options options)
     : m_options(std::move(options))
     , m_cache(QDir::cleanPath(QDir().absoluteFilePath(m_options.cacheDirectory)),
               m_options.cacheBytes)
+    , m_mirror(m_cache.directory() + QStringLiteral("/mirror"), m_options.cacheBytes)
 {
 }
 
@@ -49,6 +47,8 @@ bool CatalogRepository::provide(const QString &file, QString &problem)
     if (!file.startsWith(m_cache.directory() + u'/'))
         return true;
     const QString clean = QDir::cleanPath(file);
+    if (clean.startsWith(m_cache.directory() + QStringLiteral("/mirror/")))
+        return true; // nothing is fetched to there: not to wait for others
     const std::scoped_lock guard(m_lock);
     const CatalogPtr catalog = ownerOf(clean);
     if (!catalog)
@@ -62,17 +62,27 @@ bool CatalogRepository::provide(const QString &file, QString &problem)
     const QString path = clean.mid(root, end - root);
     if (path != catalog->folder && !path.startsWith(catalog->folder + u'/'))
         return true;
-    if (m_cache.has(catalog->key, catalog->revision, path))
+    return isKept(*catalog, path, problem);
+}
+
+/// Whether a directory of files, or of a list, is in the cache now; has it fetched if not.
+bool CatalogRepository::isKept(const Catalog &catalog, const QString &place, QString &problem)
+{
+    if (m_cache.has(catalog.key, catalog.revision, place))
         return true;
-    const Missing known = m_missing.value(clean.left(end), {{}, QDeadlineTimer(0)});
+    const QString name = m_cache.rootOf(catalog.key, catalog.revision) + u'/' + place;
+    const Missing known = m_missing.value(name, {{}, QDeadlineTimer(0)});
     if (!known.until.hasExpired()) {
         problem = known.problem;
         return false;
     }
-    const RepositoryAnswer::Kind kind = fetch(*catalog, path, problem);
+    const RepositoryAnswer::Kind kind =
+        place.startsWith(RepositoryCache::listPlace())
+            ? fetchList(catalog, place.mid(RepositoryCache::listPlace().size()), problem)
+            : fetch(catalog, place, problem);
     if (kind == RepositoryAnswer::Done)
         return true;
-    m_missing.insert(clean.left(end), {problem, retryAfter(kind)});
+    m_missing.insert(name, {problem, retryAfter(kind)});
     return false;
 }
 
@@ -94,34 +104,46 @@ CatalogRepository::CatalogPtr CatalogRepository::seen(const QString &name)
 {
     if (CatalogPtr known = m_catalogs.value(name))
         return known;
-    auto catalog = std::make_shared<Catalog>();
+    CatalogPtr catalog = described(name);
     m_catalogs.insert(name, catalog);
-    catalog->name = name;
-    catalog->url = repositoryUrlOf(name, m_options.servers.value(name));
-    catalog->key = RepositoryCache::keyOf(catalog->url.isEmpty() ? name : catalog->url);
-    catalog->folder = RepositoryCache::folderName(name);
     findRevision(*catalog);
-    const QString root = m_cache.rootOf(catalog->key, catalog->revision);
-    m_roots.insert(root, name);
-    CatalogPlaces::instance().addRoot(PPathName(root));
+    enterRoot(*catalog);
     return catalog;
+}
+
+QString CatalogRepository::urlOf(const QString &name) const
+{
+    return repositoryUrlOf(name, m_options.servers.value(name));
+}
+
+CatalogRepository::CatalogPtr CatalogRepository::described(const QString &name) const
+{
+    auto catalog = std::make_shared<Catalog>();
+    catalog->name = name;
+    catalog->url = urlOf(name);
+    catalog->key = RepositoryCache::keyOf(catalog->url.isEmpty() ? name : catalog->url);
+    catalog->folder = folderOf(name);
+    return catalog;
+}
+
+void CatalogRepository::enterRoot(const Catalog &catalog)
+{
+    const QString root = m_cache.rootOf(catalog.key, catalog.revision);
+    m_roots.insert(root, catalog.name);
+    CatalogPlaces::instance().addRoot(PPathName(root));
 }
 
 void CatalogRepository::findRevision(Catalog &catalog)
 {
     if (catalog.url.isEmpty()) {
-        catalog.problem =
-            PString::translate("Für den Katalog \"%1\" ist kein Repository eingestellt; aus seinem "
-                               "Namen wird keine Adresse",
-                               "VelkGeomCore")
-                .arg(catalog.name);
+        catalog.problem = repositoryNoServer(catalog.name);
         return;
     }
     if (m_options.revision >= 0) {
         catalog.revision = m_options.revision;
         return;
     }
-    catalog.problem = noAnswer(catalog.url, QString()); // for who asks meanwhile
+    catalog.problem = repositoryNoAnswer(catalog.url, QString()); // for who asks meanwhile
     const RepositoryAnswer answer = asked(catalog.url, [&catalog](const RepositoryClient &client) {
         return client.lastRevision(catalog.url);
     });
@@ -133,7 +155,7 @@ void CatalogRepository::findRevision(Catalog &catalog)
         m_cache.setLastRevision(catalog.key, revision);
         return;
     }
-    catalog.problem = noAnswer(catalog.url, answer.text);
+    catalog.problem = repositoryNoAnswer(catalog.url, answer.text);
     const std::optional<qint64> last = m_cache.lastRevision(catalog.key);
     if (!last)
         return;
@@ -163,44 +185,30 @@ RepositoryAnswer::Kind CatalogRepository::fetch(const Catalog &catalog, const QS
     const RepositoryAnswer answer = asked(url, [&](const RepositoryClient &client) {
         return client.exportFiles(url, catalog.revision, work);
     });
-    switch (answer.kind) {
-    case RepositoryAnswer::Done:
+    if (answer.isDone())
         return m_cache.take(catalog.key, catalog.revision, path, work, problem)
                    ? RepositoryAnswer::Done
                    : RepositoryAnswer::Failed;
-    case RepositoryAnswer::NotThere:
-        problem = PString::translate("%1 gibt es in Revision %2 nicht", "VelkGeomCore")
-                      .arg(url, QString::number(catalog.revision));
-        break;
-    case RepositoryAnswer::NoServer:
-        problem = noAnswer(url, answer.text);
-        break;
-    case RepositoryAnswer::LoginNeeded:
-        problem =
-            PString::translate("Das Repository %1 verlangt eine Anmeldung: %2", "VelkGeomCore")
-                .arg(url, answer.text);
-        break;
-    case RepositoryAnswer::Cancelled:
-    case RepositoryAnswer::OutOfDate:
-    case RepositoryAnswer::InUse:
-    case RepositoryAnswer::Damaged:
-    case RepositoryAnswer::Failed:
-        problem = answer.text;
-        break;
-    }
+    problem = repositoryProblem(answer, url, catalog.revision);
     QDir(work).removeRecursively();
     return answer.kind;
 }
 
-template<typename Call>
-RepositoryAnswer CatalogRepository::asked(const QString &url, Call call)
+RepositoryClient CatalogRepository::client() const
 {
     RepositoryClient client(m_options.client, m_cache.directory() + QStringLiteral("/client"),
                             m_options.silence);
+    if (m_login)
+        client.setLogin(*m_login);
+    return client;
+}
+
+RepositoryAnswer
+CatalogRepository::asked(const QString &url,
+                         const std::function<RepositoryAnswer(const RepositoryClient &)> &call)
+{
     for (int attempt = 0;; ++attempt) {
-        if (m_login)
-            client.setLogin(*m_login);
-        RepositoryAnswer answer = call(client);
+        RepositoryAnswer answer = call(client());
         if (answer.kind != RepositoryAnswer::LoginNeeded || attempt == loginAttempts ||
             !m_options.askForLogin)
             return answer;
@@ -208,4 +216,83 @@ RepositoryAnswer CatalogRepository::asked(const QString &url, Call call)
         if (!m_login)
             return answer;
     }
+}
+
+QString CatalogRepository::folderOf(const QString &catalog)
+{
+    return RepositoryCache::folderName(catalog);
+}
+
+QString CatalogRepository::catalogOf(const QString &folder)
+{
+    return QUrl::fromPercentEncoding(folder.toUtf8());
+}
+
+QString CatalogRepository::mirrorRoot() const
+{
+    return m_mirror.root();
+}
+
+/// Asks the server without the lock, under which the window's thread may want to read.
+CatalogRepository::CatalogPtr CatalogRepository::seenInBackground(const QString &name,
+                                                                  const RepositoryClient &client)
+{
+    CatalogPtr catalog;
+    {
+        const std::scoped_lock guard(m_lock);
+        if (CatalogPtr known = m_catalogs.value(name); known && known->revision >= 0)
+            return known;
+        catalog = described(name);
+        catalog->revision = m_options.revision;
+    }
+    if (catalog->url.isEmpty()) {
+        catalog->problem = repositoryNoServer(name);
+        return catalog;
+    }
+    if (catalog->revision < 0) {
+        const RepositoryAnswer answer = client.lastRevision(catalog->url);
+        bool isNumber = false;
+        catalog->revision = answer.text.toLongLong(&isNumber);
+        if (!answer.isDone() || !isNumber) {
+            catalog->revision = -1;
+            catalog->problem = repositoryProblem(answer, catalog->url, -1);
+            return catalog;
+        }
+    }
+    const std::scoped_lock guard(m_lock);
+    if (CatalogPtr known = m_catalogs.value(name); known && known->revision >= 0)
+        return known; // somebody was quicker
+    m_catalogs.insert(name, catalog);
+    m_cache.setLastRevision(catalog->key, catalog->revision);
+    enterRoot(*catalog);
+    return catalog;
+}
+
+QStringList CatalogRepository::updateMirror(const std::function<bool()> &goOn)
+{
+    QStringList problems;
+    QStringList folders;
+    const QStringList names = catalogs();
+    for (const QString &name : names)
+        folders.append(folderOf(name));
+    m_mirror.keepOnly(folders);
+    RepositoryClient quiet = [this] {
+        const std::scoped_lock guard(m_lock);
+        return client();
+    }();
+    quiet.setGoOn([&goOn] { return !goOn || goOn(); });
+    for (const QString &name : names) {
+        if (goOn && !goOn())
+            break;
+        const CatalogPtr catalog = seenInBackground(name, quiet);
+        if (catalog->revision < 0) {
+            problems.append(catalog->problem);
+            continue;
+        }
+        const RepositoryAnswer answer =
+            m_mirror.update({catalog->folder, catalog->url, catalog->revision}, quiet, goOn);
+        if (!answer.isDone() && answer.kind != RepositoryAnswer::Cancelled)
+            problems.append(repositoryProblem(answer, catalog->url, catalog->revision));
+    }
+    return problems;
 }

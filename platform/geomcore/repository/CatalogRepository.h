@@ -1,8 +1,10 @@
 #pragma once
 
+#include "CatalogMirror.h"
 #include "RepositoryAddress.h"
 #include "RepositoryCache.h"
 #include "RepositoryClient.h"
+#include "RepositoryListing.h"
 
 #include <core/file/AddressedFiles.h>
 
@@ -15,7 +17,8 @@
 
 /// Catalogs in Subversion repositories, for addresses "svn://CATALOG/trunk/catalog/PATH". A file is
 /// read from a cache on the disk, to which the files of its directory are brought when one of them
-/// is asked for. All of a catalog is seen in one revision until refresh().
+/// is asked for; so are the lists of what its directories have. All of a catalog is seen in one
+/// revision until refresh(). For the search there are copies of whole catalogs beside.
 ///
 /// A server that does not answer hinders nobody who reads what the cache has. Waiting can be
 /// cancelled by the progress that is told meanwhile. Operations may be called on any thread; calls
@@ -26,7 +29,7 @@ public:
     struct Options
     {
         QString cacheDirectory;
-        qint64 cacheBytes = qint64(1) << 30;
+        qint64 cacheBytes = qint64(1) << 30; ///< as much again for the copies of whole catalogs
         std::chrono::milliseconds silence{30000}; ///< after which a server counts as gone
         /// URL "svn://SERVER[:PORT][/PATH]" of the repositories by catalog; else the catalog's name
         /// is the server's.
@@ -45,6 +48,29 @@ public:
     /// Asks the server for the catalog's revision if that is not known. Empty for other addresses.
     [[nodiscard]] QString fileOf(const QString &address) override;
     [[nodiscard]] bool provide(const QString &file, QString &problem) override;
+
+    /// Names of the catalogs: those that have a server by the options, those that were asked for,
+    /// and those that there are copies of. Asks no server.
+    [[nodiscard]] QStringList catalogs() const;
+    /// What a directory of a catalog has; an empty \a path is that of the catalog. Nothing if that
+    /// cannot be told, with the reason in \a problem. Asks the server, and waits for it, for what
+    /// was not asked for in that revision before.
+    [[nodiscard]] std::optional<RepositoryListing> list(const QString &catalog, const QString &path,
+                                                        QString &problem);
+    /// The same as far as it is known without a server.
+    [[nodiscard]] std::optional<RepositoryListing> known(const QString &catalog,
+                                                         const QString &path);
+
+    /// Directory of the copies of whole catalogs, each below the folderOf() its name; made if it
+    /// is missing.
+    [[nodiscard]] QString mirrorRoot() const;
+    [[nodiscard]] static QString folderOf(const QString &catalog);
+    [[nodiscard]] static QString catalogOf(const QString &folder);
+    /// Brings the copies of all catalogs to the revisions in which these are seen. Returns what
+    /// stands against that for some of them; then their copies stay as they are. For a thread in
+    /// the background: nobody is asked for a login but an earlier one is used, no progress is
+    /// told, and \a goOn ends it by false. Who reads files meanwhile does not wait for it.
+    [[nodiscard]] QStringList updateMirror(const std::function<bool()> &goOn);
 
     /// Revision in which a catalog is seen; -1 while it is not known.
     [[nodiscard]] qint64 revisionOf(const QString &catalog) const;
@@ -73,18 +99,29 @@ private:
     };
 
     [[nodiscard]] CatalogPtr seen(const QString &name);
+    [[nodiscard]] CatalogPtr described(const QString &name) const;
+    [[nodiscard]] CatalogPtr seenInBackground(const QString &name, const RepositoryClient &client);
+    [[nodiscard]] QString urlOf(const QString &name) const;
     void findRevision(Catalog &catalog);
+    void enterRoot(const Catalog &catalog);
+    [[nodiscard]] std::optional<RepositoryListing> listed(const Catalog &catalog,
+                                                          const QString &path);
+    [[nodiscard]] bool isKept(const Catalog &catalog, const QString &place, QString &problem);
+    [[nodiscard]] RepositoryAnswer::Kind fetchList(const Catalog &catalog, const QString &path,
+                                                   QString &problem);
+    [[nodiscard]] RepositoryClient client() const;
     [[nodiscard]] CatalogPtr ownerOf(const QString &file);
     [[nodiscard]] RepositoryAnswer::Kind fetch(const Catalog &catalog, const QString &path,
                                                QString &problem);
-    template<typename Call>
-    RepositoryAnswer asked(const QString &url, Call call);
+    RepositoryAnswer asked(const QString &url,
+                           const std::function<RepositoryAnswer(const RepositoryClient &)> &call);
 
     const Options m_options;
     /// Guards all that follows. The display of a progress may deliver events by which its thread
     /// asks for another file.
     mutable std::recursive_mutex m_lock;
     RepositoryCache m_cache;
+    CatalogMirror m_mirror;                ///< has a lock of its own
     QHash<QString, CatalogPtr> m_catalogs; ///< by name
     QHash<QString, QString> m_roots;       ///< name by catalog root in the cache
     QHash<QString, Missing> m_missing;

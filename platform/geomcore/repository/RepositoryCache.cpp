@@ -63,6 +63,12 @@ QString RepositoryCache::folderName(const QString &catalog)
     return name.startsWith(u'.') ? QStringLiteral("%2E") + name.mid(1) : name;
 }
 
+const QString &RepositoryCache::listPlace()
+{
+    static const QString place = QStringLiteral(".list/");
+    return place;
+}
+
 std::optional<qint64> RepositoryCache::lastRevision(const QString &key) const
 {
     QFile file(m_directory + u'/' + key + QStringLiteral("/revision"));
@@ -100,6 +106,13 @@ bool RepositoryCache::has(const QString &key, qint64 revision, const QString &pa
         touch(done);
     }
     return true;
+}
+
+void RepositoryCache::forget(const QString &key, qint64 revision, const QString &path)
+{
+    const QString done = doneFile(key, revision, path);
+    QFile::remove(done);
+    m_seen.remove(done);
 }
 
 QString RepositoryCache::workDirectory(const QString &key) const

@@ -12,6 +12,7 @@
 ///
 ///     KEY/revision                 the last revision that was used, a number
 ///     KEY/REVISION/CATALOG/...     the files of the directories that were fetched
+///     KEY/REVISION/.list/CATALOG/...  the same of what is known about them, one file each
 ///     KEY/done/REVISION-HASH       one for each of these: its files' bytes, a space and its path
 ///
 /// KEY is made of the repository's URL, HASH of the path; CATALOG is the catalog's name. Several
@@ -29,11 +30,17 @@ public:
     /// A name of a catalog as that of a directory.
     [[nodiscard]] static QString folderName(const QString &catalog);
 
+    /// ".list/": below it, hidden in a catalog root, what is known about directories.
+    [[nodiscard]] static const QString &listPlace();
+
     [[nodiscard]] std::optional<qint64> lastRevision(const QString &key) const;
     void setLastRevision(const QString &key, qint64 revision) const;
 
-    /// Whether the files of a directory are there; \a path begins with the catalog's folder.
+    /// Whether the files of a directory are there; \a path begins with the
+    /// catalog's folder, or with ".list/" and that.
     [[nodiscard]] bool has(const QString &key, qint64 revision, const QString &path);
+    /// Has a directory count as not there.
+    void forget(const QString &key, qint64 revision, const QString &path);
     /// A name for a directory beside the others that is not yet there.
     [[nodiscard]] QString workDirectory(const QString &key) const;
     /// Takes the regular files of \a fetched, links left out, and removes it. False with the

@@ -8,6 +8,9 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include <optional>
+#include <utility>
+
 #ifdef Q_OS_LINUX
 #include <csignal>
 #include <sys/prctl.h>
@@ -78,6 +81,12 @@ QStringList loginArguments(const RepositoryLogin &login)
     return {QStringLiteral("--username"), login.user, QStringLiteral("--password-from-stdin")};
 }
 
+RepositoryAnswer cancelled(const QString &text)
+{
+    return {RepositoryAnswer::Cancelled,
+            PString::translate("Abgebrochen: %1", "VelkGeomCore").arg(text)};
+}
+
 } // namespace
 
 RepositoryClient::RepositoryClient(QString program, QString configDirectory,
@@ -106,10 +115,46 @@ RepositoryAnswer RepositoryClient::exportFiles(const QString &url, qint64 revisi
                url);
 }
 
-RepositoryAnswer RepositoryClient::run(const QStringList &arguments, const QString &text) const
+RepositoryAnswer RepositoryClient::list(const QString &url, qint64 revision) const
 {
-    PProgress progress(0, 0, 1, true, true);
-    progress.setText(text);
+    const QString number = QString::number(revision);
+    return run({QStringLiteral("list"), QStringLiteral("--xml"), QStringLiteral("-r"), number,
+                url + u'@' + number},
+               url);
+}
+
+RepositoryAnswer RepositoryClient::exportAll(const QString &url, qint64 revision,
+                                             const QString &directory, const Listen &listen) const
+{
+    const QString number = QString::number(revision);
+    return run({QStringLiteral("export"), QStringLiteral("--ignore-externals"),
+                QStringLiteral("-r"), number, url + u'@' + number, directory},
+               url, listen);
+}
+
+RepositoryAnswer RepositoryClient::changes(const QString &url, qint64 from, qint64 to) const
+{
+    return run({QStringLiteral("diff"), QStringLiteral("--summarize"), QStringLiteral("--xml"),
+                QStringLiteral("--old"), url + u'@' + QString::number(from),
+                QStringLiteral("--new"), url + u'@' + QString::number(to)},
+               url);
+}
+
+RepositoryAnswer RepositoryClient::run(const QStringList &arguments, const QString &text,
+                                       const Listen &listen) const
+{
+    std::optional<PProgress> progress;
+    if (!listen && !m_goOn) {
+        progress.emplace(0, 0, 1, true, true);
+        progress->setText(text);
+    }
+    const auto goesOn = [&](QByteArray &output) {
+        if (progress) {
+            progress->nextStep();
+            return !progress->isCanceled();
+        }
+        return (!m_goOn || m_goOn()) && (!listen || listen(std::exchange(output, {})));
+    };
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
@@ -148,21 +193,22 @@ RepositoryAnswer RepositoryClient::run(const QStringList &arguments, const QStri
         errors += process.readAllStandardError();
         if (output.size() + errors.size() > heard)
             silence.restart();
-        progress.nextStep();
+        const bool wanted = goesOn(output);
         const bool silent = std::chrono::milliseconds(silence.elapsed()) > m_silence;
-        if (!silent && !progress.isCanceled())
+        if (!silent && wanted)
             continue;
         process.kill();
         process.waitForFinished();
         if (!silent)
-            return {RepositoryAnswer::Cancelled,
-                    PString::translate("Abgebrochen: %1", "VelkGeomCore").arg(text)};
+            return cancelled(text);
         return {RepositoryAnswer::NoServer,
                 PString::translate("Keine Antwort von %1 in %2 s", "VelkGeomCore")
                     .arg(text, QString::number(double(m_silence.count()) / 1000))};
     }
     output += process.readAllStandardOutput();
     errors += process.readAllStandardError();
+    if (listen && !listen(std::exchange(output, {})))
+        return cancelled(text);
     if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
         return {RepositoryAnswer::Done, QString::fromUtf8(output).trimmed()};
     const QString problem = QString::fromUtf8(errors).trimmed();

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <functional>
 
 /// Who reads a repository. Kept in memory alone.
 struct RepositoryLogin
@@ -47,19 +48,33 @@ public:
     RepositoryClient(QString program, QString configDirectory, std::chrono::milliseconds silence);
 
     void setLogin(const RepositoryLogin &login) { m_login = login; }
+    /// For work that nobody watches: no progress is told, and \a goOn ends the client by false.
+    void setGoOn(std::function<bool()> goOn) { m_goOn = std::move(goOn); }
 
     /// The last revision in which anything at or below the URL changed.
     [[nodiscard]] RepositoryAnswer lastRevision(const QString &url) const;
+    /// Entries of a directory in a revision, as the client's XML.
+    [[nodiscard]] RepositoryAnswer list(const QString &url, qint64 revision) const;
     /// Writes the files of a directory, without its subdirectories, into \a directory, which is not
     /// yet there. Externals are left out.
     [[nodiscard]] RepositoryAnswer exportFiles(const QString &url, qint64 revision,
                                                const QString &directory) const;
-    /// Any other operation; \a text is shown while it runs.
-    [[nodiscard]] RepositoryAnswer run(const QStringList &arguments, const QString &text) const;
+    /// Gets what the client wrote since the last call, at least every 50 ms; false ends the client.
+    using Listen = std::function<bool(const QByteArray &)>;
+    /// The same with all below; \a listen gets a line "A    PATH" for each entry.
+    [[nodiscard]] RepositoryAnswer exportAll(const QString &url, qint64 revision,
+                                             const QString &directory, const Listen &listen) const;
+    /// What differs between two revisions at and below the URL, as the client's XML.
+    [[nodiscard]] RepositoryAnswer changes(const QString &url, qint64 from, qint64 to) const;
+    /// Any other operation; \a text is shown while it runs. With \a listen no progress is told,
+    /// and the answer has no text of its own when it is done.
+    [[nodiscard]] RepositoryAnswer run(const QStringList &arguments, const QString &text,
+                                       const Listen &listen = {}) const;
 
 private:
     QString m_program;
     QString m_configDirectory;
     std::chrono::milliseconds m_silence;
     RepositoryLogin m_login;
+    std::function<bool()> m_goOn;
 };

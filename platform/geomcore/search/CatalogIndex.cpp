@@ -45,6 +45,7 @@ struct CatalogIndex::Private
 
     const QString indexFile;
     const QString root;
+    Bring bring;
 
     std::thread updateThread;
     bool isUpdating = false;
@@ -83,6 +84,11 @@ CatalogIndex::~CatalogIndex()
         if (thread->joinable())
             thread->join();
     }
+}
+
+void CatalogIndex::setBring(Bring bring)
+{
+    d->bring = std::move(bring);
 }
 
 QString CatalogIndex::standardFile(const QString &catalogRoot)
@@ -145,8 +151,12 @@ CatalogIndexOutcome CatalogIndex::Private::runUpdate(bool anew,
     CatalogIndexUpdate update(indexFile, root);
     if (anew)
         update.setMakesAnew();
+    QStringList outdated;
+    if (bring)
+        outdated = bring([&tell] { return tell(0, 0); });
     CatalogIndexOutcome quick = runOnce(update, CatalogIndexUpdate::Directories, tell);
-    if (quick.state != CatalogIndexOutcome::Done)
+    quick.outdated = outdated;
+    if (quick.state != CatalogIndexOutcome::Done || bring)
         return quick;
     return sum(quick, runOnce(update, CatalogIndexUpdate::Files, tell));
 }

@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 /// The index of a catalog root for a program with an event loop: brought up to date and searched on
@@ -20,6 +21,12 @@ public:
     /// "$TORMEVA_DATA".
     CatalogIndex(const QString &indexFile, const QString &catalogRoot, QObject *parent = nullptr);
     ~CatalogIndex() override;
+
+    /// Catalogs that come from elsewhere: \a bring is called on the update's thread before each
+    /// update, makes the files below the catalog root those that are wanted, and returns what
+    /// stands against that. Files that are written into are then not looked for. Before update().
+    using Bring = std::function<QStringList(const std::function<bool()> &goOn)>;
+    void setBring(Bring bring);
 
     /// A file of the root's own in the user's cache, for programs that have no place for it.
     [[nodiscard]] static QString standardFile(const QString &catalogRoot);

@@ -26,6 +26,7 @@ struct CatalogIndexOutcome
     int projects = 0;       ///< In the index now.
     QStringList unreadable; ///< Directories that cannot be read; what is known of them stays.
     QString errorText;
+    QStringList outdated; ///< Why some of the catalogs may have become others since they were read.
 };
 Q_DECLARE_METATYPE(CatalogIndexOutcome)
 

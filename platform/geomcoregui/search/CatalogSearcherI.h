@@ -29,6 +29,9 @@ Q_SIGNALS:
     void searchFinished(int token, const CatalogSearchResult &result);
     /// Of \a total projects, 0 if their number is not known yet.
     void updateProgress(int done, int total);
+    /// Before updateFinished(): why some of the catalogs may be others than the index has them; a
+    /// line for each, empty if they are not.
+    void catalogsOutdated(const QString &problem);
     /// An empty text if the index is up to date.
     void updateFinished(const QString &error);
 };

@@ -3,6 +3,7 @@
 #include "searchText.h"
 
 #include <geomcore/index/IndexTreeC.h>
+#include <geomcore/repository/CatalogRepository.h>
 #include <geomcore/search/CatalogIndex.h>
 #include <geomcore/search/CatalogSearchQuery.h>
 
@@ -26,30 +27,44 @@ QString errorOf(const CatalogIndexOutcome &outcome)
     return {};
 }
 
+QString rootOf(const std::shared_ptr<CatalogRepository> &repository)
+{
+    return repository ? repository->mirrorRoot()
+                      : QString(IndexTreeC::instance()->catalogRoot().text());
+}
+
 } // namespace
 
 IndexSearcher::IndexSearcher(QObject *parent)
     : CatalogSearcherI(parent)
-    , m_index(std::make_unique<CatalogIndex>(CatalogIndex::standardFile(root()), root()))
+    , m_repository(IndexTreeC::instance()->repository())
+    , m_index(std::make_unique<CatalogIndex>(CatalogIndex::standardFile(rootOf(m_repository)),
+                                             rootOf(m_repository)))
 {
+    if (m_repository)
+        m_index->setBring([repository = m_repository](const std::function<bool()> &goOn) {
+            return repository->updateMirror(goOn);
+        });
     connect(m_index.get(), &CatalogIndex::searchFinished, this, &CatalogSearcherI::searchFinished);
     connect(m_index.get(), &CatalogIndex::updateProgress, this, &CatalogSearcherI::updateProgress);
-    connect(
-        m_index.get(), &CatalogIndex::updateFinished, this,
-        [this](const CatalogIndexOutcome &outcome) { Q_EMIT updateFinished(errorOf(outcome)); });
+    connect(m_index.get(), &CatalogIndex::updateFinished, this,
+            [this](const CatalogIndexOutcome &outcome) {
+                Q_EMIT catalogsOutdated(outcome.outdated.join(u'\n'));
+                Q_EMIT updateFinished(errorOf(outcome));
+            });
 }
 
 IndexSearcher::~IndexSearcher() = default;
-
-QString IndexSearcher::root()
-{
-    return IndexTreeC::instance()->catalogRoot().text();
-}
 
 int IndexSearcher::search(const CatalogSearchQuery &query)
 {
     CatalogSearchQuery limited = query;
     limited.lineMilliseconds = lineMilliseconds;
+    for (QString &path : limited.below) {
+        const QString catalog = path.section(u'/', 0, 0);
+        if (m_repository)
+            path.replace(0, catalog.size(), CatalogRepository::folderOf(catalog));
+    }
     return m_index->search(limited);
 }
 

@@ -5,8 +5,10 @@
 #include <memory>
 
 class CatalogIndex;
+class CatalogRepository;
 
-/// Searches in the persistent index of the catalogs of the process's tree.
+/// Searches in the persistent index of the catalogs of the process's tree; of catalogs in
+/// repositories, in that of their copies, which each update brings up to date first.
 class IndexSearcher : public CatalogSearcherI
 {
     Q_OBJECT
@@ -21,7 +23,6 @@ public:
     [[nodiscard]] bool isUpdating() const override;
 
 private:
-    [[nodiscard]] static QString root();
-
+    const std::shared_ptr<CatalogRepository> m_repository;
     const std::unique_ptr<CatalogIndex> m_index;
 };

@@ -27,12 +27,17 @@ SearchWidgetPrivate::SearchWidgetPrivate(SearchWidget *owner, const QStringList 
     , m_group(group)
     , m_searcher(group ? group->searcher() : nullptr)
     , m_status(new QLabel(owner))
+    , m_outdated(new QLabel(owner))
     , m_progress(new QProgressBar(owner))
     , m_again(new QPushButton(searchText("Erneut versuchen"), owner))
 {
     m_status->setObjectName(QStringLiteral("searchStatus"));
     m_status->setTextFormat(Qt::PlainText);
     m_status->setWordWrap(true);
+    m_outdated->setObjectName(QStringLiteral("searchOutdated"));
+    m_outdated->setTextFormat(Qt::PlainText);
+    m_outdated->setWordWrap(true);
+    m_outdated->hide();
     m_progress->setObjectName(QStringLiteral("searchProgress"));
     m_progress->setAccessibleName(searchText("Aufbau des Suchindex"));
     m_again->setObjectName(QStringLiteral("searchAgain"));
@@ -45,6 +50,7 @@ SearchWidgetPrivate::SearchWidgetPrivate(SearchWidget *owner, const QStringList 
     auto *const layout = new QVBoxLayout(owner);
     layout->addWidget(top);
     layout->addWidget(view, 1);
+    layout->addWidget(m_outdated);
     layout->addLayout(row);
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseInMilliseconds);
@@ -87,6 +93,8 @@ void SearchWidgetPrivate::connectSearcher()
         [this](int token, const CatalogSearchResult &result) { onFinished(token, result); });
     QObject::connect(m_searcher, &CatalogSearcherI::updateProgress, q,
                      [this](int done, int total) { onProgress(done, total); });
+    QObject::connect(m_searcher, &CatalogSearcherI::catalogsOutdated, q,
+                     [this](const QString &problem) { showOutdated(problem); });
     QObject::connect(m_searcher, &CatalogSearcherI::updateFinished, q,
                      [this](const QString &error) { onUpdated(error); });
     QObject::connect(view, &QAbstractItemView::clicked, q, [this] { rememberWords(); });
@@ -112,7 +120,7 @@ void SearchWidgetPrivate::searchOnceMore()
 {
     m_isSearching = false;
     m_waitsForIndex = false;
-    m_again->hide();
+    m_again->setVisible(m_outdated->isVisibleTo(q));
     if (!m_searcher)
         return showText(searchText("Die Suche steht nicht zur Verfügung."), true);
     if (m_query.isEmpty()) {
@@ -204,6 +212,14 @@ void SearchWidgetPrivate::onProgress(int done, int total)
     const QFontMetrics font = m_progress->fontMetrics();
     m_progress->setMinimumWidth(font.horizontalAdvance(text.arg(total).arg(total)) +
                                 2 * font.height());
+}
+
+void SearchWidgetPrivate::showOutdated(const QString &problem)
+{
+    m_outdated->setText(
+        searchText("Gesucht wird in dem, was auf dieser Maschine liegt.\n%1").arg(problem));
+    m_outdated->setVisible(!problem.isEmpty());
+    m_again->setVisible(!problem.isEmpty());
 }
 
 /// The catalogs may say something else now: what is wanted is looked for once more.

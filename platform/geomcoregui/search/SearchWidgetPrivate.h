@@ -41,6 +41,7 @@ private:
     void onFinished(int token, const CatalogSearchResult &result);
     void onProgress(int done, int total);
     void onUpdated(const QString &error);
+    void showOutdated(const QString &problem);
     void showState(const CatalogSearchResult &result);
     void showText(const QString &text, bool inView);
     void showProgress(bool visible);
@@ -50,6 +51,7 @@ private:
     FileTreeGroup *const m_group;
     QPointer<CatalogSearcherI> m_searcher;
     QLabel *const m_status;
+    QLabel *const m_outdated;
     QProgressBar *const m_progress;
     QPushButton *const m_again;
     QTimer m_pause;

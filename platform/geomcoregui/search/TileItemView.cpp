@@ -7,10 +7,28 @@
 #include <core/text/PString.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/index/IndexTreeDisplayItemC.h>
+#include <geomcore/repository/CatalogRepository.h>
 
 #include <QPainter>
 
 #include <algorithm>
+
+namespace {
+
+/// Of a repository no server is asked whether the project is there.
+PRefPtr<IndexTreeNodeC> nodeOf(const QString &path)
+{
+    const auto repository = IndexTreeC::instance()->repository();
+    if (!repository)
+        return IndexTreeC::instance()->findNodeByTreePath(PString(QStringLiteral("cat/") + path),
+                                                          PString());
+    const QString folder = path.section(u'/', 0, 0);
+    return new IndexTreeNodeC(repository,
+                              CatalogRepository::catalogOf(folder) + path.mid(folder.size()),
+                              IndexTreeNodeC::Project);
+}
+
+} // namespace
 
 TileItemView::TileItemView(QWidget *parent)
     : ItemViewBase(parent)
@@ -51,8 +69,7 @@ QList<PRefPtr<IndexTreeDisplayItemI>> TileItemView::getSelectedItems() const
     std::sort(selected.begin(), selected.end());
     QList<PRefPtr<IndexTreeDisplayItemI>> items;
     for (const QModelIndex &index : std::as_const(selected)) {
-        const PString path(QStringLiteral("cat/") + m_hits->hit(index)->path);
-        if (const auto node = IndexTreeC::instance()->findNodeByTreePath(path, PString()))
+        if (const auto node = nodeOf(m_hits->hit(index)->path))
             items.append(IndexTreeDisplayItemC::createFromNode(node));
     }
     return items;

@@ -13,7 +13,11 @@
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <core/file/AddressedFiles.h>
+#include <geomcore/index/DisplayIndexC.h>
+#include <geomcore/index/IndexTreeC.h>
+#include <geomcoregui/search/TileItemView.h>
 #include <mapping/view/CatalogMappingWidget.h>
+#include <selection/dlgSearchSelect.h>
 
 #include <QAction>
 #include <QDirIterator>
@@ -22,7 +26,9 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTest>
+#include <QTreeView>
 
 /// The workbench with the example's new release in a repository.
 class tst_RemoteTargets : public QObject
@@ -37,6 +43,9 @@ private Q_SLOTS:
     void partViewShowsTheRepositorys();
     void isSwitchedByTheSettings();
     void refreshAsksForWhatIsNew();
+    void searchFindsProjectsOfTheRepository();
+    void aProjectIsPickedInTheTree();
+    void searchWithoutServer();
     void aServerThatIsGoneIsTold();
     void asksForALogin();
     void aLoginMayBeRefused();
@@ -48,6 +57,8 @@ private:
     [[nodiscard]] WorkbenchSettings::Values remote(bool isUsed = true) const;
     [[nodiscard]] QStringList fetched() const;
     void open();
+    /// Types words in the dialog and waits for what is found.
+    static bool find(dlgSearchSelect &dialog, const QString &words);
 
     static constexpr const char *project = "standardparts/screws/iso4762.prj";
     std::unique_ptr<SubversionServer> m_server;
@@ -152,6 +163,104 @@ void tst_RemoteTargets::refreshAsksForWhatIsNew()
     QVERIFY2(m_server->commit(files.path()), qPrintable(m_server->problem()));
     m_fixture->press(Qt::Key_F5);
     QVERIFY(fetched().size() > before); // the new revision lies beside the former one
+}
+
+bool tst_RemoteTargets::find(dlgSearchSelect &dialog, const QString &words)
+{
+    dialog.setCloseAfterSelect(true);
+    dialog.show();
+    auto *const field = dialog.findChild<QLineEdit *>("searchWords");
+    QTest::keyClicks(field, words);
+    QTest::keyClick(field, Qt::Key_Return);
+    auto *const view = dialog.findChild<TileItemView *>("searchResults");
+    return QTest::qWaitFor([view] { return view->model()->rowCount() > 0; }, 20000);
+}
+
+void tst_RemoteTargets::searchFindsProjectsOfTheRepository()
+{
+    m_fixture->settings->setValues(remote());
+    m_fixture->open(m_fixture->mappingFile());
+    dlgSearchSelect dialog(nullptr, false, true);
+    QVERIFY(find(dialog, "screws/iso4762"));
+    auto *const view = dialog.findChild<TileItemView *>("searchResults");
+    QCOMPARE(view->model()->rowCount(), 1);
+    m_server->stop(); // what was found needs no server to be chosen
+    QTest::keyClick(dialog.findChild<QLineEdit *>("searchWords"), Qt::Key_Down);
+    QTest::mouseClick(dialog.findChild<QPushButton *>("selectButton"), Qt::LeftButton);
+    QVERIFY(dialog.getSelectedItem());
+    QVERIFY(m_server->start());
+    const DisplayIndexC path(DisplayIndexC::Path, DisplayIndexC::CatalogRelative);
+    QCOMPARE(dialog.getSelectedItem()->data(path).toString(), project);
+    Q_EMIT m_fixture->window->editor()->targetProjectWanted(project);
+    const auto *const part = m_fixture->window->findChild<PartView *>();
+    QVERIFY(part);
+    const QString file = part->findChild<QLabel *>("file")->text();
+    QVERIFY2(file.startsWith(m_fixture->settings->repositoryCache()), qPrintable(file));
+}
+
+void tst_RemoteTargets::aProjectIsPickedInTheTree()
+{
+    m_fixture->settings->setValues(remote());
+    m_fixture->open(m_fixture->mappingFile());
+    dlgSearchSelect dialog(nullptr, false, true);
+    dialog.show();
+    auto *const tabs = dialog.findChild<QTabWidget *>();
+    tabs->setCurrentIndex(1);
+    auto *const tree = dialog.findChild<QTreeView *>("catalogIndexTree");
+    auto *const problem = dialog.findChild<QLabel *>("catalogProblem");
+    tree->setFocus();
+    tree->setCurrentIndex(tree->model()->index(0, 0));
+    QCOMPARE(tree->currentIndex().data().toString(), "standardparts");
+    // A server that is gone is told below the tree; opening it once more tries again.
+    m_server->stop();
+    QTest::keyClick(tree, Qt::Key_Right);
+    QVERIFY(problem->isVisibleTo(&dialog));
+    QVERIFY2(problem->text().contains(m_server->url() + "/trunk/catalog antwortet nicht"),
+             qPrintable(problem->text()));
+    QVERIFY(m_server->start());
+    m_fixture->press(Qt::Key_F5);
+    QTest::keyClick(tree, Qt::Key_Left);
+    QTest::keyClick(tree, Qt::Key_Right);
+    QVERIFY(!problem->isVisibleTo(&dialog));
+    tree->keyboardSearch("screws");
+    QTest::keyClick(tree, Qt::Key_Right);
+    tree->keyboardSearch("iso4762");
+    QTest::mouseClick(dialog.findChild<QPushButton *>("selectButton"), Qt::LeftButton);
+    QVERIFY(dialog.getSelectedItem());
+    const DisplayIndexC path(DisplayIndexC::Path, DisplayIndexC::CatalogRelative);
+    QCOMPARE(dialog.getSelectedItem()->data(path).toString(), project);
+    // Without the setting the tree is that of the directory again.
+    QVERIFY(IndexTreeC::instance()->getRoot()->isRemote());
+    m_fixture->settings->setValues(remote(false));
+    QVERIFY(!IndexTreeC::instance()->getRoot()->isRemote());
+}
+
+void tst_RemoteTargets::searchWithoutServer()
+{
+    m_fixture->settings->setValues(remote());
+    m_fixture->open(m_fixture->mappingFile());
+    {
+        dlgSearchSelect dialog(nullptr, false, true);
+        QVERIFY(find(dialog, "iso4762"));
+        const auto *const outdated = dialog.findChild<QLabel *>("searchOutdated");
+        QVERIFY(!outdated->isVisibleTo(&dialog));
+    }
+    m_server->stop();
+    m_fixture->press(Qt::Key_F5);
+    dlgSearchSelect dialog(nullptr, false, true);
+    QVERIFY(find(dialog, "iso4762"));
+    const auto *const outdated = dialog.findChild<QLabel *>("searchOutdated");
+    const auto *const again = dialog.findChild<QPushButton *>("searchAgain");
+    QTRY_VERIFY(outdated->isVisibleTo(&dialog));
+    QVERIFY2(outdated->text().startsWith("Gesucht wird in dem, was auf dieser Maschine liegt.\n"
+                                         "Das Repository " +
+                                         m_server->url()),
+             qPrintable(outdated->text()));
+    QVERIFY(again->isVisibleTo(&dialog));
+    QVERIFY(m_server->start());
+    QTest::mouseClick(again, Qt::LeftButton);
+    QTRY_VERIFY(!outdated->isVisibleTo(&dialog));
+    QVERIFY(!again->isVisibleTo(&dialog));
 }
 
 void tst_RemoteTargets::aServerThatIsGoneIsTold()
