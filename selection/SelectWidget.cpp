@@ -38,7 +38,6 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     : QWidget(parent)
     , fileNameBox(new QCheckBox(widgetText("Dateinamen statt Beschreibungen anzeigen"), this))
     , treeView(new QTreeView(this))
-    , problemLabel(new QLabel(this))
     , treeModel(new IndexTreeModelC(rootItem(), treeView))
     , proxyModel(new IndexTreeFilterProxyModelC(treeView))
 {
@@ -49,11 +48,6 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     fileNameBox->setChecked(true);
     layout->addWidget(fileNameBox);
     layout->addWidget(treeView);
-    problemLabel->setObjectName(QStringLiteral("catalogProblem"));
-    problemLabel->setTextFormat(Qt::PlainText);
-    problemLabel->setWordWrap(true);
-    problemLabel->hide();
-    layout->addWidget(problemLabel);
     connect(fileNameBox, SIGNAL(toggled(bool)), this, SLOT(onSwitchFilenameView()));
 
     nameColumn = new IndexTreeModelColumnC(PString(), widgetText("Name"), DisplayIndexC(2));
@@ -79,11 +73,8 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     connect(treeView->selectionModel(),
             SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), this,
             SIGNAL(selectionChanged(QItemSelection, QItemSelection)));
-    connect(treeModel, &IndexTreeModelC::readingFailed, this, [this](const QString &problem) {
-        problemLabel->setText(problem);
-        problemLabel->show();
-    });
-    connect(treeModel, &IndexTreeModelC::rowsInserted, problemLabel, &QLabel::hide);
+    connect(treeModel, &IndexTreeModelC::readingFailed, this, &SelectWidget::showProblem);
+    connect(treeModel, &IndexTreeModelC::rowsInserted, this, [this] { showProblem(QString()); });
     connect(treeView, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
         treeModel->tryAgain(proxyModel->mapToSource(index));
     });
@@ -97,6 +88,22 @@ SelectWidget::SelectWidget(bool erpIcons, bool unfiltered, QWidget *parent)
     connect(treeView, &QTreeView::expanded, this,
             [this](const QModelIndex &index) { watch(proxyModel->mapToSource(index)); });
     watch(QModelIndex());
+}
+
+/// Below the tree, as long as nothing else is read. There is no place for it until it is needed.
+void SelectWidget::showProblem(const QString &problem)
+{
+    if (!problemLabel && problem.isEmpty())
+        return;
+    if (!problemLabel) {
+        problemLabel = new QLabel(this);
+        problemLabel->setObjectName(QStringLiteral("catalogProblem"));
+        problemLabel->setTextFormat(Qt::PlainText);
+        problemLabel->setWordWrap(true);
+        layout()->addWidget(problemLabel);
+    }
+    problemLabel->setText(problem);
+    problemLabel->setVisible(!problem.isEmpty());
 }
 
 void SelectWidget::watch(const QModelIndex &directory)

@@ -51,12 +51,13 @@ public Q_SLOTS:
     void onSwitchFilenameView();
 
 private:
+    void showProblem(const QString &problem);
     void watch(const QModelIndex &directory);
     void readChanged();
 
     QCheckBox *fileNameBox;
     QTreeView *treeView;
-    QLabel *problemLabel; ///< why a directory cannot be opened
+    QLabel *problemLabel = nullptr; ///< why a directory cannot be opened
     IndexTreeModelC *treeModel;
     IndexTreeFilterProxyModelC *proxyModel;
     PRefPtr<IndexTreeModelColumnC> nameColumn;

@@ -112,6 +112,12 @@
         <translation>Nalezené projekty</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Prohledává se to, co je na tomto počítači.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Hledat v tabulce</translation>
     </message>

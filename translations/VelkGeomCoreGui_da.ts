@@ -112,6 +112,12 @@
         <translation>Fundne projekter</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Der søges i det, der ligger på denne maskine.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Søg i tabellen</translation>
     </message>

@@ -112,6 +112,12 @@
         <translation>Gefundene Projekte</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>In der Tabelle suchen</translation>
     </message>

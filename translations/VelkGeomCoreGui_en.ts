@@ -112,6 +112,12 @@
         <translation>Projects found</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>What is on this machine is searched.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Find in table</translation>
     </message>

@@ -112,6 +112,12 @@
         <translation>Proyectos encontrados</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Se busca en lo que hay en este equipo.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Buscar en la tabla</translation>
     </message>

@@ -112,6 +112,12 @@
         <translation>Löydetyt projektit</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Haku kohdistuu siihen, mikä on tällä koneella.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Etsi taulukosta</translation>
     </message>

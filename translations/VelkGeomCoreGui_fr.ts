@@ -112,6 +112,12 @@
         <translation>Projets trouvés</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>La recherche porte sur ce qui se trouve sur cette machine.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Rechercher dans la table</translation>
     </message>

@@ -112,6 +112,12 @@
         <translation>Talált projektek</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>A keresés az ezen a gépen lévő adatokban folyik.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Keresés a táblázatban</translation>
     </message>

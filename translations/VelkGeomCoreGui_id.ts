@@ -112,6 +112,12 @@
         <translation>Proyek yang ditemukan</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Yang dicari adalah yang ada di mesin ini.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Cari di tabel</translation>
     </message>

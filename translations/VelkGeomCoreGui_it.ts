@@ -112,6 +112,12 @@
         <translation>Progetti trovati</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>La ricerca avviene in ciò che si trova su questo computer.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Cercare nella tabella</translation>
     </message>

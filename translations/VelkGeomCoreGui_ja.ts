@@ -112,6 +112,12 @@
         <translation>見つかったプロジェクト</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>このコンピューターにあるものを検索しています。
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>テーブル内を検索</translation>
     </message>

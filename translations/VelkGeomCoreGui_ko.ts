@@ -112,6 +112,12 @@
         <translation>찾은 프로젝트</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>이 컴퓨터에 있는 내용에서 검색합니다.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>테이블에서 찾기</translation>
     </message>

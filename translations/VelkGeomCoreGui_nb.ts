@@ -112,6 +112,12 @@
         <translation>Prosjekter funnet</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Det søkes i det som ligger på denne maskinen.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Søk i tabellen</translation>
     </message>

@@ -112,6 +112,12 @@
         <translation>Znalezione projekty</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Przeszukiwane jest to, co znajduje się na tym komputerze.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Szukaj w tabeli</translation>
     </message>

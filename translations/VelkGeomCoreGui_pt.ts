@@ -112,6 +112,12 @@
         <translation>Projetos encontrados</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Pesquisa-se no que está nesta máquina.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Procurar na tabela</translation>
     </message>

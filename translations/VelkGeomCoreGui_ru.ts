@@ -112,6 +112,12 @@
         <translation>Найденные проекты</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Поиск ведётся в том, что есть на этом компьютере.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Найти в таблице</translation>
     </message>

@@ -112,6 +112,12 @@
         <translation>Najdeni projekti</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Išče se po tem, kar je na tem računalniku.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Išči v tabeli</translation>
     </message>

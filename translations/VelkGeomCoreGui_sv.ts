@@ -112,6 +112,12 @@
         <translation>Hittade projekt</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Sökningen sker i det som finns på den här datorn.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Sök i tabellen</translation>
     </message>

@@ -112,6 +112,12 @@
         <translation>Bulunan projeler</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>Bu makinede bulunanlarda aranıyor.
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>Tabloda ara</translation>
     </message>

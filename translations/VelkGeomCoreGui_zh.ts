@@ -112,6 +112,12 @@
         <translation>找到的项目</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>正在搜索本机上的内容。
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>在表中查找</translation>
     </message>

@@ -112,6 +112,12 @@
         <translation>找到的專案</translation>
     </message>
     <message>
+        <source>Gesucht wird in dem, was auf dieser Maschine liegt.
+%1</source>
+        <translation>正在搜尋本機上的內容。
+%1</translation>
+    </message>
+    <message>
         <source>In der Tabelle suchen</source>
         <translation>在表格中尋找</translation>
     </message>

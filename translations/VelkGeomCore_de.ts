@@ -84,6 +84,10 @@
         <translation>Der Betrag: die Zahl ohne Vorzeichen.</translation>
     </message>
     <message>
+        <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
+        <translation>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</translation>
+    </message>
+    <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
         <translation>Der Kosinus eines Winkels in Grad.</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>The absolute value: the number without its sign.</translation>
     </message>
     <message>
+        <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
+        <translation>The catalog %1 does not fit into the cache of %2 MB; the search does not know it</translation>
+    </message>
+    <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
         <translation>The cosine of an angle in degrees.</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>The absolute value: the number without its sign.</translation>
     </message>
     <message>
+        <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
+        <translation>카탈로그 %1이(가) %2MB 캐시에 들어가지 않아 검색에 포함되지 않습니다</translation>
+    </message>
+    <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
         <translation>The cosine of an angle in degrees.</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>The absolute value: the number without its sign.</translation>
     </message>
     <message>
+        <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
+        <translation>目錄 %1 無法放入 %2 MB 的快取；搜尋不包含它</translation>
+    </message>
+    <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
         <translation>The cosine of an angle in degrees.</translation>
     </message>

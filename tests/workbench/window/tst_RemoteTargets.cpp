@@ -207,14 +207,14 @@ void tst_RemoteTargets::aProjectIsPickedInTheTree()
     auto *const tabs = dialog.findChild<QTabWidget *>();
     tabs->setCurrentIndex(1);
     auto *const tree = dialog.findChild<QTreeView *>("catalogIndexTree");
-    auto *const problem = dialog.findChild<QLabel *>("catalogProblem");
     tree->setFocus();
     tree->setCurrentIndex(tree->model()->index(0, 0));
     QCOMPARE(tree->currentIndex().data().toString(), "standardparts");
     // A server that is gone is told below the tree; opening it once more tries again.
     m_server->stop();
     QTest::keyClick(tree, Qt::Key_Right);
-    QVERIFY(problem->isVisibleTo(&dialog));
+    const auto *const problem = dialog.findChild<QLabel *>("catalogProblem");
+    QVERIFY(problem && problem->isVisibleTo(&dialog));
     QVERIFY2(problem->text().contains(m_server->url() + "/trunk/catalog antwortet nicht"),
              qPrintable(problem->text()));
     QVERIFY(m_server->start());
@@ -224,6 +224,7 @@ void tst_RemoteTargets::aProjectIsPickedInTheTree()
     QVERIFY(!problem->isVisibleTo(&dialog));
     tree->keyboardSearch("screws");
     QTest::keyClick(tree, Qt::Key_Right);
+    tree->keyboardSearch(QString()); // begins anew
     tree->keyboardSearch("iso4762");
     QTest::mouseClick(dialog.findChild<QPushButton *>("selectButton"), Qt::LeftButton);
     QVERIFY(dialog.getSelectedItem());
@@ -258,7 +259,7 @@ void tst_RemoteTargets::searchWithoutServer()
              qPrintable(outdated->text()));
     QVERIFY(again->isVisibleTo(&dialog));
     QVERIFY(m_server->start());
-    QTest::mouseClick(again, Qt::LeftButton);
+    QTest::mouseClick(dialog.findChild<QPushButton *>("searchAgain"), Qt::LeftButton);
     QTRY_VERIFY(!outdated->isVisibleTo(&dialog));
     QVERIFY(!again->isVisibleTo(&dialog));
 }
