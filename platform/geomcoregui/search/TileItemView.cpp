@@ -16,7 +16,7 @@
 namespace {
 
 /// Of a repository no server is asked whether the project is there.
-PRefPtr<IndexTreeNodeC> nodeOf(const QString &path)
+PRefPtr<IndexTreeNodeC> projectNode(const QString &path)
 {
     const auto repository = IndexTreeC::instance()->repository();
     if (!repository)
@@ -69,7 +69,7 @@ QList<PRefPtr<IndexTreeDisplayItemI>> TileItemView::getSelectedItems() const
     std::sort(selected.begin(), selected.end());
     QList<PRefPtr<IndexTreeDisplayItemI>> items;
     for (const QModelIndex &index : std::as_const(selected)) {
-        if (const auto node = nodeOf(m_hits->hit(index)->path))
+        if (const auto node = projectNode(m_hits->hit(index)->path))
             items.append(IndexTreeDisplayItemC::createFromNode(node));
     }
     return items;
