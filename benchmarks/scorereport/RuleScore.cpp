@@ -24,6 +24,19 @@ QString tableName(const QString &projectPath)
     return projectPath.mid(begin, projectPath.lastIndexOf('.') - begin);
 }
 
+QString textOf(const VelkRelease::DifferencePatterns &patterns, int pattern)
+{
+    QStringList texts;
+    for (const VelkRelease::ValueChange &change : patterns.changes(pattern))
+        texts << change.text({"near", "other number", "wording", "added", "missing", "notation",
+                              "project", "another name", "changed", "and further usual ones"});
+    if (!patterns.isComparable(pattern))
+        texts << "not comparable";
+    if (patterns.isDoubtful(pattern))
+        texts << "in doubt";
+    return texts.isEmpty() ? "no difference" : texts.join("; ");
+}
+
 /// What becomes of an open line: its proposal is right or wrong; it has none, and no successor or
 /// one.
 enum class Open { Right, Wrong, Expired, NotFound };
@@ -87,27 +100,47 @@ public:
                 right += open->second == wanted ? 1 : 0;
                 m_open.erase(open);
             }
+            if (projects.empty())
+                continue;
             int decisions = 0;
+            int all = 0;
+            int wrong = 0;
             bool allRight = true;
             for (const auto &[project, counts] : projects) {
                 const bool isRight = counts.first == counts.second;
                 decisions += isRight ? 1 : counts.first;
                 allRight = allRight && isRight;
+                all += counts.first;
+                wrong += counts.first - counts.second;
             }
-            m_score.decisions += allRight ? std::min(1, decisions) : decisions;
+            decisions = allRight ? std::min(1, decisions) : decisions;
+            m_score.decisions += decisions;
+            m_score.decided << QStringLiteral("%1 for %2 lines, %3 wrong, in %4 projects: %5")
+                                   .arg(decisions)
+                                   .arg(all)
+                                   .arg(wrong)
+                                   .arg(projects.size())
+                                   .arg(textOf(patterns, pattern));
         }
         std::map<int, std::pair<int, int>> expired; // lines without a proposal, and gone ones
         for (const auto &[place, state] : m_open) {
             if (state != Open::Expired && state != Open::NotFound) {
                 ++m_score.decisions;
+                m_score.decided << "1 for a proposal without a pattern";
                 continue;
             }
             auto &[lines, gone] = expired[place.first];
             ++lines;
             gone += state == Open::Expired ? 1 : 0;
         }
-        for (const auto &[project, counts] : expired)
-            m_score.decisions += counts.first == counts.second ? 1 : counts.first;
+        for (const auto &[project, counts] : expired) {
+            const int decisions = counts.first == counts.second ? 1 : counts.first;
+            m_score.decisions += decisions;
+            m_score.decided << QStringLiteral("%1 for %2 lines without a proposal, %3 gone")
+                                   .arg(decisions)
+                                   .arg(counts.first)
+                                   .arg(counts.second);
+        }
     }
     /// Lines of tables without a mapping.
     void addRest()

@@ -1,7 +1,7 @@
 // How well the program finds the new lines of old lines, on releases of real tables with a file
 // that tells where each line went, as they are and disturbed as catalogs are.
 //
-//     scorereport [--misses] [--only NAME] FOLDER...
+//     scorereport [--misses] [--decisions] [--only NAME] FOLDER...
 //
 // A folder has old, new and truth.csv, or release-2021, release-2022, release-2026 and
 // truth-YEAR-to-2026.csv. Every set is measured with and without its first columns, which are
@@ -26,6 +26,7 @@ namespace {
 struct Options
 {
     bool misses = false;
+    bool decisions = false;
     QString only;
     QStringList folders;
 };
@@ -158,6 +159,10 @@ private:
             if (m_options.misses)
                 m_out << "    " << miss << '\n';
         }
+        for (const QString &decided : score.decided) {
+            if (m_options.decisions)
+                m_out << "    " << decided << '\n';
+        }
         m_out.flush();
         m_calibration.add(score.calibration);
         m_known += score.known;
@@ -184,6 +189,8 @@ Options optionsFrom(QStringList arguments)
         const QString argument = arguments.takeFirst();
         if (argument == "--misses")
             options.misses = true;
+        else if (argument == "--decisions")
+            options.decisions = true;
         else if (argument == "--only" && !arguments.isEmpty())
             options.only = arguments.takeFirst();
         else
@@ -206,7 +213,8 @@ int main(int argc, char **argv)
         }
     }
     if (sets.empty()) {
-        QTextStream(stderr) << "Usage: scorereport [--misses] [--only NAME] FOLDER...\n";
+        QTextStream(stderr)
+            << "Usage: scorereport [--misses] [--decisions] [--only NAME] FOLDER...\n";
         return 1;
     }
     Report report(options);

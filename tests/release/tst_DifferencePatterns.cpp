@@ -17,7 +17,8 @@ using Place = DifferencePatterns::Place;
 
 namespace {
 
-const ValueChange::Words words{"near", "other", "wording", "added", "missing", "spelling"};
+const ValueChange::Words words{"near",     "other",   "wording",     "added",   "missing",
+                               "spelling", "project", "another one", "changed", "and usual ones"};
 
 QString textOf(const DifferencePatterns &patterns, int pattern)
 {
@@ -85,6 +86,9 @@ private Q_SLOTS:
     void agreedReplacementIsAFamily();
     void linesAndExceptionsAddUp();
     void linesInDoubtAreTheirOwn();
+    void namesOfProjectsAreADifference();
+    void longListIsShortened_data();
+    void longListIsShortened();
     void decisionsTakeLinesOut();
     void otherProposalIsPending();
     void leastSureFirst();
@@ -289,6 +293,105 @@ void tst_DifferencePatterns::linesInDoubtAreTheirOwn()
                                  "L: 1 → 900|1 lines, 1 projects, 0 exceptions",
                                  "? L: 1 → 900|1 lines, 1 projects, 0 exceptions",
                                  "?|1 lines, 1 projects, 0 exceptions"}));
+}
+
+/// What there is to look at where nothing else differs. Other differences say more than the name.
+void tst_DifferencePatterns::namesOfProjectsAreADifference()
+{
+    QList<PrjMappingC> mappings;
+    std::vector<DifferencePatterns::Read> reads;
+    const auto add = [&](const QString &source, const QString &target, const QStringList &values) {
+        PrjMappingC mapping = mappingOf(source, {target});
+        enter(mapping, 0, 1, 1, ToCheck);
+        mappings << mapping;
+        reads.push_back({{pairOf(1, values)}, {}});
+    };
+    add("cat/a/iso4014head.prj", "cat/b/ISO4014def.prj", {});
+    add("cat/a/iso4017head.prj", "cat/b/ISO4017def.prj", {});
+    add("cat/a/pins.prj", "cat/b/bolts.prj", {});
+    add("cat/a/keys.prj", "cat/b/rings.prj", {});
+    add("cat/a/DIN 931.prj", "cat/b/din931.prj", {});
+    add("cat/a/nuts.prj", "cat/b/ISO4032head.prj", {"W=a>b"});
+    reads.push_back({{OpenPair{1, 0, 1, 1, {}, false, {}}}, {}});
+    mappings << mappingOf("cat/a/unread.prj", {"cat/b/other.prj"});
+    const DifferencePatterns found(releaseOf(mappings), reads);
+    QStringList texts;
+    for (const QString &text : textsOf(found))
+        texts << text.left(text.indexOf(','));
+    QCOMPARE(texts, (QStringList{"project: head \u2192 def|2 lines", "project: another one|2 lines",
+                                 "|1 lines", "W: wording|1 lines", "?|1 lines"}));
+}
+
+void tst_DifferencePatterns::longListIsShortened_data()
+{
+    QTest::addColumn<QList<QStringList>>("kinds"); // count, then values; "?" for doubt
+    QTest::addColumn<QStringList>("patterns");
+    using Kinds = QList<QStringList>;
+    const QStringList many{"60", "A=x%1>y%1%2"};
+    const QString most = "A: wording|60 lines";
+    QTest::newRow("small family has many lines without its name")
+        << Kinds{many, {"3", "A=p>q"}} << QStringList{"A: wording|63 lines"};
+    QTest::newRow("family of five keeps its name")
+        << Kinds{many, {"5", "A=p>q"}} << QStringList{most, "A: p \u2192 q|5 lines"};
+    QTest::newRow("usual changes are shown by the one that most lines have")
+        << Kinds{many,
+                 {"10", "B=1%1>900%2"},
+                 {"2", "A=x%1>y%1%2", "B=1%1>900%2"},
+                 {"10", "C=>v%1"},
+                 {"1", "C=>v%1", "A=x%1>y%1%2"}}
+        << QStringList{most, "B: other|10 lines", "C: added|10 lines",
+                       "A: wording; and usual ones|3 lines"};
+    QTest::newRow("nobody else is shown so")
+        << Kinds{many, {"10", "B=1%1>900%2"}, {"2", "A=x%1>y%1%2", "B=1%1>900%2"}}
+        << QStringList{most, "B: other|10 lines", "A: wording; B: other|2 lines"};
+    QTest::newRow("unusual ones by the columns")
+        << Kinds{many, {"2", "D=v%1>"}, {"1", "D=1>90%2"}, {"1", "D=>3", "A=x%1>y%1%2"}}
+        << QStringList{most, "D: changed|3 lines", "D: added; A: wording|1 lines"};
+    QTest::newRow("doubt is kept apart")
+        << Kinds{many, {"1", "A=x%1>y%1%2", "?"}, {"1", "D=>3", "?"}, {"1", "D=4>", "?"}}
+        << QStringList{most, "A: wording|1 lines", "D: added|1 lines", "D: missing|1 lines"};
+    QTest::newRow("few lines are shown as they are")
+        << Kinds{{"40", "A=x%1>y%1%2"}, {"2", "A=p>q"}, {"1", "D=>3"}, {"1", "D=4>"}}
+        << QStringList{"A: wording|40 lines", "A: p \u2192 q|2 lines", "D: added|1 lines",
+                       "D: missing|1 lines"};
+}
+
+void tst_DifferencePatterns::longListIsShortened()
+{
+    QFETCH(QList<QStringList>, kinds);
+    QFETCH(QStringList, patterns);
+    DifferencePatterns::Read read;
+    for (const QStringList &kind : std::as_const(kinds)) {
+        for (int i = 0; i < kind.front().toInt(); ++i) {
+            const int line = int(read.pairs.size()) + 1;
+            QStringList values = kind.mid(1);
+            const bool doubt = values.removeAll("?") > 0;
+            for (QString &value : values)
+                value.replace("%1", QString::number(line)).replace("%2", QString::number(line * 7));
+            read.pairs.push_back(pairOf(line, values, doubt ? 0.5 : 0.95));
+        }
+    }
+    const int lines = int(read.pairs.size());
+    DifferencePatterns found(releaseOf({proposed("a.prj", lines)}), {read});
+    QStringList texts;
+    for (const QString &text : textsOf(found))
+        texts << text.left(text.indexOf(','));
+    QCOMPARE(texts, patterns);
+    QCOMPARE(found.openLines(), lines);
+    // Whatever a line is shown by, it has all of its changes.
+    for (const OpenPair &pair : read.pairs)
+        QCOMPARE(found.changesAt({0, pair.line}).size(), qsizetype(pair.values.size()));
+    // What is read anew is shown as before.
+    PrjMappingC mapping = proposed("a.prj", lines);
+    enter(mapping, 0, lines, lines + 1, ToCheck);
+    found.setMapping(0, mapping);
+    OpenPair again = read.pairs.back();
+    again.targetLine = lines + 1;
+    found.add(0, {again});
+    texts.clear();
+    for (const QString &text : textsOf(found))
+        texts << text.left(text.indexOf(','));
+    QCOMPARE(texts, patterns);
 }
 
 void tst_DifferencePatterns::decisionsTakeLinesOut()

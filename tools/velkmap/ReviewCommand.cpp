@@ -193,12 +193,14 @@ void writeText(JsonWriter &json, std::string_view name, const QString &text)
 void writeChange(JsonWriter &json, const ValueChange &change)
 {
     static constexpr const char *kinds[] = {"replacement", "numberMap", "nearNumber", "otherNumber",
-                                            "wording",     "notation",  "added",      "missing"};
+                                            "wording",     "notation",  "added",      "missing",
+                                            "project",     "changed",   "further"};
     json.beginObject();
     writeText(json, "variable", change.variable);
     json.key("kind");
     json.value(kinds[change.kind]);
-    if (change.kind == ValueChange::Replacement) {
+    const bool isRename = change.kind == ValueChange::Project && change.before != change.after;
+    if (change.kind == ValueChange::Replacement || isRename) {
         writeText(json, "before", change.before);
         writeText(json, "after", change.after);
     } else if (change.kind == ValueChange::NumberMap) {
@@ -352,8 +354,11 @@ void writeJson(const ReviewReport &report, QTextStream &out)
 
 const ValueChange::Words &changeWords()
 {
-    static const ValueChange::Words words{"near number", "other number",  "other wording",
-                                          "value added", "value missing", "other spelling"};
+    static const ValueChange::Words words{"near number",    "other number",
+                                          "other wording",  "value added",
+                                          "value missing",  "other spelling",
+                                          "project's name", "another one",
+                                          "another value",  "and others that many lines have"};
     return words;
 }
 

@@ -14,7 +14,11 @@ VelkRelease::ValueChange::Words words()
             QCoreApplication::translate("PatternText", "anderer Wortlaut"),
             QCoreApplication::translate("PatternText", "Wert hinzugekommen"),
             QCoreApplication::translate("PatternText", "Wert fehlt"),
-            QCoreApplication::translate("PatternText", "andere Schreibweise")};
+            QCoreApplication::translate("PatternText", "andere Schreibweise"),
+            QCoreApplication::translate("PatternText", "Projektname"),
+            QCoreApplication::translate("PatternText", "ein anderer"),
+            QCoreApplication::translate("PatternText", "anderer Wert"),
+            QCoreApplication::translate("PatternText", "und weitere, die viele Zeilen haben")};
 }
 
 VelkRelease::GoneGroup::Words goneWords()

@@ -72,6 +72,16 @@ bool isNear(double a, double b)
     return std::abs(a - b) <= NearRange * std::max(std::abs(a), std::abs(b));
 }
 
+/// Without regard to families.
+ValueChange::Kind kindOf(const OpenPair::Value &value)
+{
+    const auto before = numberOf(value.before);
+    const auto after = numberOf(value.after);
+    if (!before || !after)
+        return ValueChange::Wording;
+    return isNear(*before, *after) ? ValueChange::NearNumber : ValueChange::OtherNumber;
+}
+
 } // namespace
 
 /// A place where a value differs, with the families that it may be of, the more special ones first.
@@ -245,15 +255,17 @@ void ChangeFamilies::addChanges(const OpenPair::Value &value, const QString &sou
         }
         found.append(*family);
     }
-    if (found.isEmpty()) {
-        const auto before = numberOf(value.before);
-        const auto after = numberOf(value.after);
-        const ValueChange::Kind kind = !before || !after         ? ValueChange::Wording
-                                       : isNear(*before, *after) ? ValueChange::NearNumber
-                                                                 : ValueChange::OtherNumber;
-        found.append(plainChange(value.variable, kind));
-    }
+    if (found.isEmpty())
+        found.append(plainChange(value.variable, kindOf(value)));
     changes.append(found);
+}
+
+ValueChange ChangeFamilies::plain(const ValueChange &change, const OpenPair &pair)
+{
+    if (change.kind != ValueChange::Replacement && change.kind != ValueChange::NumberMap)
+        return change;
+    const auto value = std::ranges::find(pair.values, change.variable, &OpenPair::Value::variable);
+    return value == pair.values.end() ? change : plainChange(change.variable, kindOf(*value));
 }
 
 QList<ValueChange> ChangeFamilies::changesOf(const OpenPair &pair, const QString &sourcePath) const

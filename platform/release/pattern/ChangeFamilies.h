@@ -27,6 +27,10 @@ public:
     [[nodiscard]] QList<ValueChange> changesOf(const OpenPair &pair,
                                                const QString &sourcePath) const;
 
+    /// The change of a pair by what kind of difference it is, whatever the family. Others as they
+    /// are.
+    [[nodiscard]] static ValueChange plain(const ValueChange &change, const OpenPair &pair);
+
 private:
     struct Part;
     /// The number map of a variable that most lines support.

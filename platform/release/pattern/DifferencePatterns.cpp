@@ -12,15 +12,6 @@ namespace {
 
 constexpr double ProbabilitySteps = 1e9;
 
-/// Names a change exactly, for look-ups only.
-QString lookUpName(const ValueChange &change)
-{
-    constexpr QChar Between(0x1f);
-    return change.variable + Between + QString::number(int(change.kind)) + Between + change.before +
-           Between + change.after + Between + QString::number(change.factor, 'g', 17) + Between +
-           QString::number(change.offset, 'g', 17) + (change.agreed ? u'+' : u'-');
-}
-
 /// The number of a name; \a next if the name is new.
 int numberFor(QHash<QString, int> &numbers, const QString &name, int next)
 {
@@ -32,6 +23,11 @@ int numberFor(QHash<QString, int> &numbers, const QString &name, int next)
 double probabilityOf(const OpenPair &pair)
 {
     return pair.gone && pair.gone->isTableGone ? 1 : pair.probability;
+}
+
+bool isSure(const OpenPair &pair)
+{
+    return pair.comparable && !pair.gone && pair.probability >= DifferencePatterns::SureFrom;
 }
 
 bool contains(const std::vector<int> &all, const std::vector<int> &some)
@@ -72,20 +68,34 @@ bool haveSameTargets(const PrjMappingC &a, const PrjMappingC &b)
 
 DifferencePatterns::DifferencePatterns(const ReleaseMappingC &release,
                                        const std::vector<Read> &pairs)
-    : m_families(release.getReplacements())
+    : m_groups(release.getReplacements())
     , m_goneFamilies(release)
 {
     m_projects.resize(pairs.size());
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         m_projects[i].mapping = release.mappingAt(int(i));
-        m_families.count(pairs[i].pairs);
         m_goneFamilies.count(pairs[i].pairs, m_projects[i].mapping);
+        m_groups.count(pairs[i].pairs, m_projects[i].mapping);
+    }
+    std::vector<std::vector<QList<ValueChange>>> own(pairs.size());
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        for (const OpenPair &pair : pairs[i].pairs) {
+            own[i].push_back(m_groups.ownOf(pair, m_projects[i].mapping));
+            if (isSure(pair))
+                m_groups.countTogether(own[i].back(), pair);
+        }
     }
     for (std::size_t i = 0; i < pairs.size(); ++i)
         m_goneFamilies.choose(pairs[i].pairs, m_projects[i].mapping);
     for (std::size_t i = 0; i < pairs.size(); ++i) {
-        for (const OpenPair &pair : pairs[i].pairs)
-            enter(m_projects[i], int(i), pair);
+        for (std::size_t j = 0; j < own[i].size(); ++j) {
+            if (isSure(pairs[i].pairs[j]))
+                m_groups.countShown(own[i][j], pairs[i].pairs[j]);
+        }
+    }
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        for (std::size_t j = 0; j < own[i].size(); ++j)
+            enter(m_projects[i], int(i), pairs[i].pairs[j], own[i][j]);
         m_errors += pairs[i].errors;
     }
 }
@@ -120,7 +130,7 @@ std::vector<int> DifferencePatterns::changeIds(const QList<ValueChange> &changes
     std::vector<int> ids;
     ids.reserve(size_t(changes.size()));
     for (const ValueChange &change : changes) {
-        const int id = numberFor(m_changeOf, lookUpName(change), int(m_having.size()));
+        const int id = numberFor(m_changeOf, change.lookUpName(), int(m_having.size()));
         if (size_t(id) == m_having.size())
             m_having.emplace_back();
         ids.push_back(id);
@@ -129,11 +139,8 @@ std::vector<int> DifferencePatterns::changeIds(const QList<ValueChange> &changes
     return ids;
 }
 
-int DifferencePatterns::patternFor(const OpenPair &pair, const PrjMappingC &mapping)
+int DifferencePatterns::patternFor(const OpenPair &pair, const QList<ValueChange> &changes)
 {
-    if (pair.gone)
-        return goneFor(pair, mapping);
-    const QList<ValueChange> changes = m_families.changesOf(pair, mapping.getSourcePath());
     const std::vector<int> ids = changeIds(changes);
     const bool doubtful = pair.comparable && pair.probability < SureFrom;
     QString name = !pair.comparable ? QStringLiteral("-")
@@ -193,12 +200,18 @@ void DifferencePatterns::noteLarger(int pattern)
     }
 }
 
-void DifferencePatterns::enter(Project &project, int position, const OpenPair &pair)
+void DifferencePatterns::enter(Project &project, int position, const OpenPair &pair,
+                               const QList<ValueChange> &own)
 {
     Known &known = project.lines[pair.line];
     known.target = pair.target;
     known.targetLine = pair.targetLine;
-    known.pattern = patternFor(pair, project.mapping);
+    const QList<ValueChange> shown = isSure(pair) ? m_groups.shownFor(own, pair) : own;
+    known.pattern = pair.gone ? goneFor(pair, project.mapping) : patternFor(pair, shown);
+    if (shown == own)
+        m_own.erase({position, pair.line});
+    else
+        m_own[{position, pair.line}] = own;
     known.probability = probabilityOf(pair);
     known.open = false;
     setOpen(project, position, pair.line, known, true);
@@ -292,7 +305,7 @@ void DifferencePatterns::add(int position, const std::vector<OpenPair> &pairs)
             found->second.target != pair.target || found->second.targetLine != pair.targetLine)
             continue;
         setOpen(project, position, pair.line, found->second, false);
-        enter(project, position, pair);
+        enter(project, position, pair, m_groups.ownOf(pair, project.mapping));
     }
 }
 
@@ -366,6 +379,15 @@ int DifferencePatterns::patternOf(const Place &place) const
     const auto &lines = m_projects[size_t(place.project)].lines;
     const auto found = lines.find(place.line);
     return found == lines.end() || !found->second.open ? -1 : found->second.pattern;
+}
+
+QList<ValueChange> DifferencePatterns::changesAt(const Place &place) const
+{
+    const auto own = m_own.find(place);
+    if (own != m_own.end())
+        return own->second;
+    const int pattern = patternOf(place);
+    return pattern < 0 ? QList<ValueChange>() : changes(pattern);
 }
 
 std::optional<double> DifferencePatterns::probability(const Place &place) const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ChangeFamilies.h"
+#include "ChangeGroups.h"
 #include "GoneFamilies.h"
 
 #include <geomcore/records/ReleaseMappingC.h>
@@ -42,7 +42,7 @@ public:
         int lines = 0;
         int projects = 0;
         double probability = 0; ///< mean of the lines
-        int exceptions = 0;     ///< lines of other patterns with these changes and more besides
+        int exceptions = 0;     ///< lines of patterns named by these changes and more besides
 
         friend bool operator==(const Numbers &, const Numbers &) = default;
     };
@@ -114,6 +114,8 @@ public:
     [[nodiscard]] std::vector<Place> exceptions(int pattern, int most = -1) const;
     /// The pattern of an open line, -1 if it has none.
     [[nodiscard]] int patternOf(const Place &place) const;
+    /// All changes of an open line that was compared, also those that its pattern does not name.
+    [[nodiscard]] QList<ValueChange> changesAt(const Place &place) const;
     /// Of an open line that was compared; nothing for others.
     [[nodiscard]] std::optional<double> probability(const Place &place) const;
     /// Open lines with a proposal in all patterns, and pending ones.
@@ -155,14 +157,14 @@ private:
     };
 
     [[nodiscard]] std::vector<int> ranked(bool gone) const;
-    [[nodiscard]] int patternFor(const OpenPair &pair, const PrjMappingC &mapping);
+    [[nodiscard]] int patternFor(const OpenPair &pair, const QList<ValueChange> &changes);
     [[nodiscard]] int goneFor(const OpenPair &pair, const PrjMappingC &mapping);
     [[nodiscard]] std::vector<int> changeIds(const QList<ValueChange> &changes);
     void noteLarger(int pattern);
-    void enter(Project &project, int position, const OpenPair &pair);
+    void enter(Project &project, int position, const OpenPair &pair, const QList<ValueChange> &own);
     void setOpen(Project &project, int position, int line, Known &known, bool open);
 
-    ChangeFamilies m_families;
+    ChangeGroups m_groups;
     GoneFamilies m_goneFamilies;
     std::vector<Project> m_projects;
     std::vector<Pattern> m_patterns;
@@ -170,6 +172,8 @@ private:
     QHash<QString, int> m_changeOf;            ///< by a name of one change
     std::vector<std::vector<int>> m_changesOf; ///< of each pattern, ascending
     std::vector<std::vector<int>> m_having;    ///< patterns that have a change
+    /// Changes of lines that are shown by others, with all of theirs.
+    std::map<Place, QList<ValueChange>> m_own;
     int m_openLines = 0;
     int m_goneLines = 0;
     int m_pendingLines = 0;

@@ -52,10 +52,26 @@ QString ValueChange::text(const Words &words) const
         return head + words.notation;
     case Added:
         return head + words.added;
+    case Project:
+        return words.project + QStringLiteral(": ") +
+               (before == after ? words.otherName
+                                : shown(before) + QStringLiteral(" \u2192 ") + shown(after));
+    case Changed:
+        return head + words.changed;
+    case Further:
+        return words.further;
     case Missing:
         break;
     }
     return head + words.missing;
+}
+
+QString ValueChange::lookUpName() const
+{
+    constexpr QChar Between(0x1f);
+    return variable + Between + QString::number(int(kind)) + Between + before + Between + after +
+           Between + QString::number(factor, 'g', 17) + Between + QString::number(offset, 'g', 17) +
+           (agreed ? u'+' : u'-');
 }
 
 } // namespace VelkRelease

@@ -18,6 +18,10 @@ struct VELKRELEASE_EXPORT ValueChange
         Notation, ///< the same text but for blanks and capitals
         Added,    ///< only the new line has a value
         Missing,  ///< only the old line has one
+        Project,  ///< nothing differs but the projects' names: `before` became `after`, if that
+                  ///< is a family; no variable
+        Changed,  ///< any of these, in lines that have not enough in common for more
+        Further,  ///< beside another one: further changes that many lines have; no variable
     };
     /// Words for what has no notation of its own.
     struct Words
@@ -28,6 +32,10 @@ struct VELKRELEASE_EXPORT ValueChange
         QString added;
         QString missing;
         QString notation;
+        QString project = {};   ///< "Project"
+        QString otherName = {}; ///< of the project
+        QString changed = {};
+        QString further = {};
     };
 
     QString variable; ///< by its name in the new table
@@ -40,6 +48,9 @@ struct VELKRELEASE_EXPORT ValueChange
 
     /// "MATERIAL: St37-2 → S235JR", "L: × 0.5 + 1", "NOTE: " and a word.
     [[nodiscard]] QString text(const Words &words) const;
+
+    /// Names a change exactly, for look-ups only.
+    [[nodiscard]] QString lookUpName() const;
 
     friend bool operator==(const ValueChange &, const ValueChange &) = default;
 };

@@ -12,6 +12,7 @@ namespace VelkRelease {
 
 namespace {
 
+/// Empty for what is no difference of a value.
 QString changeKey(ValueChange::Kind kind)
 {
     switch (kind) {
@@ -30,9 +31,13 @@ QString changeKey(ValueChange::Kind kind)
     case ValueChange::Added:
         return QStringLiteral("added");
     case ValueChange::Missing:
+        return QStringLiteral("missing");
+    case ValueChange::Project:
+    case ValueChange::Changed:
+    case ValueChange::Further:
         break;
     }
-    return QStringLiteral("missing");
+    return {};
 }
 
 } // namespace
@@ -162,27 +167,39 @@ void LineTraits::addReasons(Project &project, const ProjectOpenReasons &reasons)
 
 void LineTraits::addDifferences(const DifferencePatterns &patterns)
 {
-    for (const int pattern : patterns.ranked()) {
+    std::vector<std::pair<QList<ValueChange>, std::array<quint16, 2>>> known; // of one pattern
+    const auto setsOf = [&](const QList<ValueChange> &changes, bool comparable) {
+        const auto same = std::ranges::find(known, changes, [](const auto &k) { return k.first; });
+        if (same != known.end())
+            return same->second;
         QStringList kinds;
         QStringList columns;
-        for (const ValueChange &change : patterns.changes(pattern)) {
-            kinds += changeKey(change.kind);
+        for (const ValueChange &change : changes) {
+            const QString key = changeKey(change.kind);
+            if (key.isEmpty())
+                continue;
+            kinds += key;
             columns += change.variable;
         }
-        if (!patterns.isComparable(pattern))
+        if (!comparable)
             kinds += QStringLiteral("incomparable");
         for (QStringList *const list : {&kinds, &columns}) {
             list->removeDuplicates();
             list->sort();
         }
-        const quint16 kindSet = setOf(LineTrait::Difference, kinds);
-        const quint16 columnSet = setOf(LineTrait::Column, columns);
+        known.push_back(
+            {changes, {setOf(LineTrait::Difference, kinds), setOf(LineTrait::Column, columns)}});
+        return known.back().second;
+    };
+    for (const int pattern : patterns.ranked()) {
+        known.clear();
         for (const DifferencePatterns::Place &place : patterns.places(pattern)) {
             Row *const row = find(m_projects[std::size_t(place.project)], place.line);
             if (!row)
                 continue;
-            row->sets[std::size_t(LineTrait::Difference)] = kindSet;
-            row->sets[std::size_t(LineTrait::Column)] = columnSet;
+            const auto sets = setsOf(patterns.changesAt(place), patterns.isComparable(pattern));
+            row->sets[std::size_t(LineTrait::Difference)] = sets[0];
+            row->sets[std::size_t(LineTrait::Column)] = sets[1];
         }
     }
 }
