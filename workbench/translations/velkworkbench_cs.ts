@@ -2547,6 +2547,22 @@ Zvolte jiný soubor.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>žádný podobný řádek: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>název projektu</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>jiný</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>jiná hodnota</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>a další, které má mnoho řádků</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2502,6 +2502,22 @@ Vælg en anden fil.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>ingen lignende linje: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>projektnavn</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>et andet</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>anden værdi</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>og andre, som mange linjer har</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2502,6 +2502,22 @@ Please choose another file.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>no similar line: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>project name</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>another one</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>another value</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>and others that many lines have</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

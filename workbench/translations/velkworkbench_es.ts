@@ -2502,6 +2502,22 @@ Elija otro archivo.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>ninguna fila parecida: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>nombre del proyecto</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>otro</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>otro valor</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>y otras que tienen muchas líneas</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

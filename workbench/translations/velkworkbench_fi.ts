@@ -2502,6 +2502,22 @@ Valitse toinen tiedosto.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>ei samankaltaista riviä: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>projektin nimi</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>toinen</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>toinen arvo</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>ja muita, joita on monilla riveillä</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2502,6 +2502,22 @@ Choisissez un autre fichier.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>aucune ligne semblable : %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>nom du projet</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>un autre</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>autre valeur</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>et d’autres que beaucoup de lignes ont</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

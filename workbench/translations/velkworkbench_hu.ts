@@ -2457,6 +2457,22 @@ Válasszon másik fájlt.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>nincs hasonló sor: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>projekt neve</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>másik</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>más érték</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>és továbbiak, amelyek sok sorban vannak</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2457,6 +2457,22 @@ Harap pilih berkas lain.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>tidak ada baris serupa: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>nama proyek</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>yang lain</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>nilai lain</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>dan lainnya yang dimiliki banyak baris</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2502,6 +2502,22 @@ Scegliere un altro file.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>nessuna riga simile: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>nome del progetto</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>un altro</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>altro valore</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>e altre che hanno molte righe</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

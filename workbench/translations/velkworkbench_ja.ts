@@ -2457,6 +2457,22 @@ Bitte eine andere Datei wählen.</source>
         <source>keine ähnliche Zeile: %1</source>
         <translation>類似する行なし: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>プロジェクト名</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>別の名前</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>別の値</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>ほか、多くの行に共通するもの</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

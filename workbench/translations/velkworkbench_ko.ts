@@ -2457,6 +2457,22 @@ Bitte eine andere Datei wählen.</source>
         <source>keine ähnliche Zeile: %1</source>
         <translation>비슷한 행 없음: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>프로젝트 이름</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>다른 이름</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>다른 값</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>그 밖에 많은 행에 있는 것</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2502,6 +2502,22 @@ Velg en annen fil.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>ingen lignende linje: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>prosjektnavn</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>et annet</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>annen verdi</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>og andre som mange linjer har</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

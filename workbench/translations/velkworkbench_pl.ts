@@ -2547,6 +2547,22 @@ Wybierz inny plik.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>brak podobnego wiersza: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>nazwa projektu</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>inna</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>inna wartość</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>i inne, które ma wiele wierszy</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2502,6 +2502,22 @@ Escolha outro ficheiro.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>nenhuma linha semelhante: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>nome do projeto</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>outro</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>outro valor</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>e outras que muitas linhas têm</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

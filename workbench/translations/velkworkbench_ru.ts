@@ -2547,6 +2547,22 @@ Bitte eine andere Datei wählen.</source>
         <source>keine ähnliche Zeile: %1</source>
         <translation>нет похожей строки: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>имя проекта</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>другое</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>другое значение</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>и другие, которые есть у многих строк</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

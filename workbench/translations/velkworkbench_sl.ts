@@ -2592,6 +2592,22 @@ Izberite drugo datoteko.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>ni podobne vrstice: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>ime projekta</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>drugo</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>druga vrednost</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>in druge, ki jih ima veliko vrstic</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2502,6 +2502,22 @@ Välj en annan fil.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>ingen liknande rad: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>projektnamn</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>ett annat</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>annat värde</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>och andra som många rader har</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

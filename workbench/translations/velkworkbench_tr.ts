@@ -2457,6 +2457,22 @@ Lütfen başka bir dosya seçin.</translation>
         <source>keine ähnliche Zeile: %1</source>
         <translation>benzer satır yok: %1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>proje adı</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>başka bir ad</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>başka değer</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>ve birçok satırda olan diğerleri</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -2457,6 +2457,22 @@ Bitte eine andere Datei wählen.</source>
         <source>keine ähnliche Zeile: %1</source>
         <translation>没有相似的行：%1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>项目名称</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>另一个</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>其他值</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>以及许多行都有的其他差异</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

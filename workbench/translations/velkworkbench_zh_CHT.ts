@@ -2457,6 +2457,22 @@ Bitte eine andere Datei wählen.</source>
         <source>keine ähnliche Zeile: %1</source>
         <translation>沒有相似的列：%1</translation>
     </message>
+    <message>
+        <source>Projektname</source>
+        <translation>專案名稱</translation>
+    </message>
+    <message>
+        <source>ein anderer</source>
+        <translation>另一個</translation>
+    </message>
+    <message>
+        <source>anderer Wert</source>
+        <translation>其他值</translation>
+    </message>
+    <message>
+        <source>und weitere, die viele Zeilen haben</source>
+        <translation>以及許多列都有的其他差異</translation>
+    </message>
 </context>
 <context>
     <name>PluginActions</name>

@@ -38,7 +38,7 @@ ValueChange changeOf(const QString &variable, ValueChange::Kind kind)
 }
 
 /// The file's name without its ending, in small letters.
-QString nameOf(const QString &path)
+QString projectName(const QString &path)
 {
     const QString file = path.mid(path.lastIndexOf(u'/') + 1);
     return file.left(file.lastIndexOf(u'.')).toLower();
@@ -54,7 +54,7 @@ std::optional<ValueChange> projectChange(const OpenPair &pair, const PrjMappingC
     if (Mapper::nameRank(source, target) != Mapper::NameRank::Other)
         return std::nullopt;
     ValueChange change = changeOf({}, ValueChange::Project);
-    const std::vector<CellPart> parts = differingParts(nameOf(source), nameOf(target));
+    const std::vector<CellPart> parts = differingParts(projectName(source), projectName(target));
     if (parts.size() == 1) {
         change.before = parts.front().before;
         change.after = parts.front().after;
