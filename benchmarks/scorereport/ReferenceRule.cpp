@@ -133,7 +133,7 @@ private:
 
     double common(const Target &target, int a, int b, size_t column) const
     {
-        const std::vector<int> &tokens = m_values.value(a).distinct;
+        const std::span<const int> tokens = m_values.value(a).distinct;
         double sum = 0;
         for (const int token : m_values.value(b).distinct) {
             if (std::binary_search(tokens.begin(), tokens.end(), token))

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <numeric>
 
 namespace Plan {
@@ -11,28 +10,48 @@ CandidateLists::CandidateLists(const PlanTables &tables, const PlanTarget &targe
     : m_tables(tables)
     , m_target(target)
 {
-    if (int(target.openRows.size()) <= FewRows)
+    const size_t rows = target.openRows.size();
+    if (int(rows) <= FewRows)
         return;
-    for (size_t row = 0; row < target.openRows.size(); ++row) {
-        for (size_t place = 0; place < target.variables.size(); ++place) {
-            const int value = target.rows.at(row, place);
-            if (value == CellValues::NoValue)
-                continue;
-            m_lists[key(place, value, false)].push_back(int(row));
-            const std::vector<int> &tokens = tables.values.value(value).distinct;
-            for (size_t i = 0; i < tokens.size() && tokens.size() > 1; ++i)
-                m_lists[key(place, tokens[i], true)].push_back(int(row));
-        }
+    size_t entries = 0;
+    for (size_t row = 0; row < rows; ++row)
+        forEachKey(row, [&](std::uint64_t key) {
+            m_counts.add(key, 1);
+            ++entries;
+        });
+    size_t end = 0;
+    m_counts.forEach([&](std::uint64_t key, double count) {
+        m_ends.add(key, double(end));
+        end += size_t(count);
+    });
+    m_rows.resize(entries);
+    for (size_t row = 0; row < rows; ++row)
+        forEachKey(row, [&](std::uint64_t key) {
+            m_rows[size_t(m_ends.of(key))] = int(row);
+            m_ends.add(key, 1);
+        });
+}
+
+template<class Take>
+void CandidateLists::forEachKey(size_t row, Take take) const
+{
+    for (size_t place = 0; place < m_target.variables.size(); ++place) {
+        const int value = m_target.rows.at(row, place);
+        if (value == CellValues::NoValue)
+            continue;
+        take(key(place, value, false));
+        const std::span<const int> tokens = m_tables.values.value(value).distinct;
+        for (size_t i = 0; i < tokens.size() && tokens.size() > 1; ++i)
+            take(key(place, tokens[i], true));
     }
 }
 
-std::vector<const std::vector<int> *> CandidateLists::listsOf(size_t line) const
+std::vector<CandidateLists::List> CandidateLists::listsOf(size_t line) const
 {
-    std::vector<const std::vector<int> *> lists;
-    const auto add = [&](long long wanted) {
-        const auto found = m_lists.find(wanted);
-        if (found != m_lists.end())
-            lists.push_back(&found->second);
+    std::vector<List> lists;
+    const auto add = [&](std::uint64_t wanted) {
+        if (const auto count = size_t(m_counts.of(wanted)); count > 0)
+            lists.push_back(List(m_rows).subspan(size_t(m_ends.of(wanted)) - count, count));
     };
     for (size_t place = 0; place < m_target.variables.size(); ++place) {
         const int value = m_target.lines.at(line, place);
@@ -43,7 +62,7 @@ std::vector<const std::vector<int> *> CandidateLists::listsOf(size_t line) const
             add(key(place, token, true));
     }
     std::stable_sort(lists.begin(), lists.end(),
-                     [](const auto *a, const auto *b) { return a->size() < b->size(); });
+                     [](List a, List b) { return a.size() < b.size(); });
     return lists;
 }
 
@@ -55,20 +74,25 @@ std::vector<int> CandidateLists::find(size_t line) const
         std::iota(all.begin(), all.end(), 0);
         return all;
     }
-    std::map<int, double> votes;
-    size_t walked = 0;
-    for (const std::vector<int> *list : listsOf(line)) {
-        walked += list->size();
-        if (walked > MaxWalked)
+    std::vector<std::pair<int, double>> votes;
+    for (const List list : listsOf(line)) {
+        if (votes.size() + list.size() > MaxWalked)
             break;
-        const double weight = std::log(double(count) / double(list->size()));
-        for (const int row : *list)
-            votes[row] += weight;
+        const double weight = std::log(double(count) / double(list.size()));
+        for (const int row : list)
+            votes.emplace_back(row, weight);
     }
+    // Sums in the order of the lists, so that they are the same everywhere.
+    std::stable_sort(votes.begin(), votes.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
     std::vector<std::pair<double, int>> best;
-    best.reserve(votes.size());
-    for (const auto &[row, weight] : votes)
+    for (size_t i = 0; i < votes.size();) {
+        const int row = votes[i].first;
+        double weight = 0;
+        for (; i < votes.size() && votes[i].first == row; ++i)
+            weight += votes[i].second;
         best.emplace_back(-weight, row);
+    }
     if (int(best.size()) > MaxRows) {
         std::nth_element(best.begin(), best.begin() + MaxRows, best.end());
         best.resize(MaxRows);

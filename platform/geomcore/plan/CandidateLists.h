@@ -1,8 +1,10 @@
 #pragma once
 
+#include "KeyWeights.h"
 #include "PlanTables.h"
 
-#include <unordered_map>
+#include <cstdint>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -24,16 +26,21 @@ public:
 private:
     static constexpr int MaxWalked = 1024;
 
-    [[nodiscard]] std::vector<const std::vector<int> *> listsOf(size_t line) const;
-    [[nodiscard]] static long long key(size_t place, int number, bool token)
+    using List = std::span<const int>;
+    [[nodiscard]] std::vector<List> listsOf(size_t line) const;
+    /// Never 0.
+    [[nodiscard]] static std::uint64_t key(size_t place, int number, bool token)
     {
-        return ((static_cast<long long>(number) * 2 + (token ? 1 : 0)) << 12) +
-               static_cast<long long>(place);
+        return ((std::uint64_t(number) * 2 + (token ? 1 : 0) + 1) << 12) + std::uint64_t(place);
     }
+    template<class Take>
+    void forEachKey(size_t row, Take take) const;
 
     const PlanTables &m_tables;
     const PlanTarget &m_target;
-    std::unordered_map<long long, std::vector<int>> m_lists;
+    KeyWeights m_ends;       ///< By key: end of its rows.
+    KeyWeights m_counts;     ///< By key: how many.
+    std::vector<int> m_rows; ///< Of all lists.
 };
 
 } // namespace Plan

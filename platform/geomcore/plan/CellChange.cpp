@@ -2,6 +2,8 @@
 
 #include "CellValues.h"
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <optional>
@@ -16,7 +18,7 @@ std::uint64_t mixed(std::uint64_t hash, std::uint64_t value)
     return hash ^ (hash >> 29);
 }
 
-std::uint64_t hashOf(const std::vector<int> &tokens, size_t begin, size_t end)
+std::uint64_t hashOf(std::span<const int> tokens, size_t begin, size_t end)
 {
     std::uint64_t hash = 0x51ed270b;
     for (size_t i = begin; i < end; ++i)
@@ -24,18 +26,41 @@ std::uint64_t hashOf(const std::vector<int> &tokens, size_t begin, size_t end)
     return hash;
 }
 
+/// The power of ten that makes a number one of four digits before the point.
+double scaleOf(double number)
+{
+    static const auto powers = [] {
+        std::array<double, 24> all{};
+        for (size_t i = 0; i < all.size(); ++i)
+            all[i] = std::pow(10.0, double(i) - 8);
+        return all;
+    }();
+    static const auto scales = [] {
+        std::array<double, 24> all{};
+        for (size_t i = 0; i < all.size(); ++i)
+            all[i] = std::pow(10.0, 3 - (double(i) - 8));
+        return all;
+    }();
+    // Measures have such sizes; a search in a few powers is faster than a logarithm.
+    if (number < powers.front() || number >= powers.back())
+        return std::pow(10.0, 3 - std::floor(std::log10(number)));
+    const auto above = std::upper_bound(powers.begin(), powers.end(), number);
+    const auto exponent = int(above - powers.begin()) - 1 - 8;
+    return scales[size_t(exponent + 8)];
+}
+
 /// The same for numbers that agree in four digits: values are rounded after they were converted.
 std::uint64_t roundedBits(double number)
 {
     if (number == 0)
         return 0;
-    const double scale = std::pow(10.0, 3 - std::floor(std::log10(std::abs(number))));
+    const double scale = scaleOf(std::abs(number));
     return std::bit_cast<std::uint64_t>(std::round(number * scale) / scale);
 }
 
 /// The factor between all tokens that differ, if these are numbers and have one in common.
-std::optional<double> commonFactor(const CellValues &values, const std::vector<int> &a,
-                                   const std::vector<int> &b)
+std::optional<double> commonFactor(const CellValues &values, std::span<const int> a,
+                                   std::span<const int> b)
 {
     std::optional<double> factor;
     for (size_t i = 0; i < a.size(); ++i) {
@@ -66,8 +91,8 @@ std::uint64_t keyOf(std::uint64_t a, std::uint64_t b, std::uint64_t c, std::uint
 CellChange changeBetween(const CellValues &values, int variable, int oldValue, int newValue)
 {
     const auto v = std::uint64_t(variable);
-    const std::vector<int> &a = values.value(oldValue).tokens;
-    const std::vector<int> &b = values.value(newValue).tokens;
+    const std::span<const int> a = values.value(oldValue).tokens;
+    const std::span<const int> b = values.value(newValue).tokens;
     CellChange change;
     change.keys[CellChange::Whole] = keyOf(v, 1, std::uint64_t(oldValue), std::uint64_t(newValue));
     size_t begin = 0;

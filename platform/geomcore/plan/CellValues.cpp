@@ -10,6 +10,9 @@ using VKTab::CanonicalNumber;
 
 namespace {
 
+/// More than a value has.
+constexpr size_t TokensInBlock = 16'384;
+
 bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
@@ -65,24 +68,36 @@ int CellValues::number(std::string_view text, char decimalChar)
     if (!isNew)
         return place->second;
     Value value;
+    std::vector<int> tokens;
     if (parsed) {
         value.isNumber = true;
         value.number = parsed->toDouble();
-        value.tokens.push_back(token(key, {value.number, true}));
+        tokens.push_back(token(key, {value.number, true}));
     } else {
-        tokenize(text, value);
+        tokenize(text, tokens);
     }
-    value.distinct = value.tokens;
-    std::sort(value.distinct.begin(), value.distinct.end());
-    value.distinct.erase(std::unique(value.distinct.begin(), value.distinct.end()),
-                         value.distinct.end());
-    m_values.push_back(std::move(value));
+    value.tokens = kept(tokens);
+    std::vector<int> distinct = std::move(tokens);
+    std::sort(distinct.begin(), distinct.end());
+    distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
+    const bool isSame = std::ranges::equal(value.tokens, distinct);
+    value.distinct = isSame ? value.tokens : kept(distinct);
+    m_values.push_back(value);
     return place->second;
 }
 
-void CellValues::tokenize(std::string_view text, Value &value)
+std::span<const int> CellValues::kept(const std::vector<int> &list)
 {
-    for (size_t i = 0; i < text.size() && int(value.tokens.size()) < MaxTokens;) {
+    if (m_kept.empty() || m_kept.back().capacity() - m_kept.back().size() < list.size())
+        m_kept.emplace_back().reserve(TokensInBlock);
+    std::vector<int> &block = m_kept.back();
+    block.insert(block.end(), list.begin(), list.end());
+    return std::span(block).last(list.size());
+}
+
+void CellValues::tokenize(std::string_view text, std::vector<int> &tokens)
+{
+    for (size_t i = 0; i < text.size() && int(tokens.size()) < MaxTokens;) {
         size_t end = i + 1;
         if (isDigit(text[i])) {
             end = endOfNumber(text, i);
@@ -90,13 +105,13 @@ void CellValues::tokenize(std::string_view text, Value &value)
             const auto parsed = CanonicalNumber::parse(digits);
             const std::string key =
                 parsed ? '\x01' + std::to_string(parsed->packed()) : std::string(digits);
-            value.tokens.push_back(token(key, {parsed ? parsed->toDouble() : 0, bool(parsed)}));
+            tokens.push_back(token(key, {parsed ? parsed->toDouble() : 0, bool(parsed)}));
         } else if (isLetter(text[i])) {
             while (end < text.size() && isLetter(text[end]))
                 ++end;
-            value.tokens.push_back(token(lowered(text.substr(i, end - i)), {}));
+            tokens.push_back(token(lowered(text.substr(i, end - i)), {}));
         } else if (static_cast<unsigned char>(text[i]) > ' ') {
-            value.tokens.push_back(token(std::string(1, text[i]), {}));
+            tokens.push_back(token(std::string(1, text[i]), {}));
         }
         i = end;
     }

@@ -2,6 +2,8 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
+#include <deque>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -21,13 +23,15 @@ public:
 
     struct Value
     {
-        std::vector<int> tokens;   ///< In written order.
-        std::vector<int> distinct; ///< Sorted, each once.
+        std::span<const int> tokens;   ///< In written order.
+        std::span<const int> distinct; ///< Sorted, each once.
         double number = 0;
         bool isNumber = false;
     };
 
     CellValues();
+    CellValues(const CellValues &) = delete;
+    CellValues &operator=(const CellValues &) = delete;
 
     /// An empty text is NoValue.
     [[nodiscard]] int number(std::string_view text, char decimalChar);
@@ -44,12 +48,15 @@ private:
         bool isNumber = false;
     };
 
-    void tokenize(std::string_view text, Value &value);
+    void tokenize(std::string_view text, std::vector<int> &tokens);
+    /// Where the list stays.
+    [[nodiscard]] std::span<const int> kept(const std::vector<int> &list);
     int token(std::string text, const Token &token);
 
     std::unordered_map<std::string, int> m_numbers;
     std::unordered_map<std::string, int> m_tokenNumbers;
     std::vector<Value> m_values;
+    std::deque<std::vector<int>> m_kept; ///< Token lists of all values, in blocks.
     std::vector<Token> m_tokens;
 };
 

@@ -19,7 +19,7 @@ std::uint64_t applicableKey(int variable, std::uint64_t kind, int number)
 
 bool hasNumber(const CellValues &values, int value)
 {
-    const std::vector<int> &tokens = values.value(value).tokens;
+    const std::span<const int> tokens = values.value(value).tokens;
     return std::any_of(tokens.begin(), tokens.end(),
                        [&](int token) { return values.isNumberToken(token); });
 }
@@ -56,7 +56,7 @@ double ChangeMemory::applicable(const CellValues &values, int variable, int oldV
     if (kind == CellChange::Factor || kind == CellChange::Offset)
         return m_weights.of(applicableKey(variable, OfNumbers, 0));
     double least = m_weights.of(applicableKey(variable, OfAll, 0));
-    const std::vector<int> &tokens = values.value(oldValue).tokens;
+    const std::span<const int> tokens = values.value(oldValue).tokens;
     for (int i = change.middleBegin; i < change.middleEnd; ++i)
         least = std::min(least, m_weights.of(applicableKey(variable, OfToken, tokens[size_t(i)])));
     return least;

@@ -20,7 +20,12 @@ void ColumnChance::finish(const CellValues &values, bool isKey)
 {
     int single = 0;
     std::unordered_map<int, int> tokens;
-    for (const auto &[number, count] : m_counts) {
+    std::vector<std::pair<int, int>> counts;
+    m_counts.forEach([&counts](std::uint64_t key, double weight) {
+        counts.emplace_back(int(key - 1), int(weight));
+    });
+    std::sort(counts.begin(), counts.end());
+    for (const auto &[number, count] : counts) {
         m_lineCount += count;
         if (number == CellValues::NoValue)
             continue;
@@ -63,9 +68,7 @@ double ColumnChance::missing() const
 
 double ColumnChance::share(int value) const
 {
-    const auto found = m_counts.find(value);
-    return m_known * ((found == m_counts.end() ? 0 : found->second) + 0.5) /
-           (m_valueCount + m_further);
+    return m_known * (m_counts.of(std::uint64_t(value) + 1) + 0.5) / (m_valueCount + m_further);
 }
 
 double ColumnChance::nearShare(double number, double other) const

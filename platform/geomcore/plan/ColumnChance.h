@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KeyWeights.h"
+
 #include <unordered_map>
 #include <vector>
 
@@ -12,7 +14,7 @@ class CellValues;
 class ColumnChance
 {
 public:
-    void add(int value) { ++m_counts[value]; }
+    void add(int value) { m_counts.add(std::uint64_t(value) + 1, 1); }
     /// To be called when all values are in. \a isKey: the values are meant to
     /// tell lines apart, also from those of other tables, and numbers are no measures.
     void finish(const CellValues &values, bool isKey);
@@ -50,7 +52,7 @@ public:
 private:
     void finishTokens(const CellValues &values, const std::unordered_map<int, int> &counts);
 
-    std::unordered_map<int, int> m_counts;
+    KeyWeights m_counts; ///< By value, from 1 on.
     std::vector<int> m_tokenPlaces; ///< By token: place in m_tokenChances; 0: it does not occur.
     std::vector<TokenChance> m_tokenChances = std::vector<TokenChance>(1);
     std::vector<double> m_numbers; ///< Sorted.

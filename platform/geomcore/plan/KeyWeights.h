@@ -7,7 +7,7 @@
 namespace Plan {
 
 /// A weight for each of many keys, in one block with open addressing: look-ups wait for memory, and
-/// a table of nodes would let them wait twice. Keys are spread evenly and never 0.
+/// a table of nodes would let them wait twice. Keys are never 0.
 class KeyWeights
 {
 public:
@@ -26,6 +26,15 @@ public:
         return m_slots.empty() ? 0 : m_slots[placeOf(key)].weight;
     }
     [[nodiscard]] bool isEmpty() const { return m_count == 0; }
+    /// Calls \a take with each key and its weight, in no order that means anything.
+    template<class Take>
+    void forEach(Take take) const
+    {
+        for (const Slot &slot : m_slots) {
+            if (slot.key != 0)
+                take(slot.key, slot.weight);
+        }
+    }
     void clear()
     {
         m_slots.clear();
@@ -43,7 +52,7 @@ private:
     [[nodiscard]] size_t placeOf(std::uint64_t key) const
     {
         const size_t mask = m_slots.size() - 1;
-        size_t place = size_t(key ^ (key >> 32)) & mask;
+        size_t place = size_t((key * 0x9e3779b97f4a7c15ULL) >> 32) & mask;
         while (m_slots[place].key != 0 && m_slots[place].key != key)
             place = (place + 1) & mask;
         return place;

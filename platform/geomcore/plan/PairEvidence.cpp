@@ -19,8 +19,8 @@ double PairEvidence::nearRatio(const ColumnChance &chance, int oldValue, int new
 double PairEvidence::alikeRatio(const ColumnChance &chance, const VariableRates &rates,
                                 int oldValue, int newValue) const
 {
-    const std::vector<int> &a = m_tables.values.value(oldValue).distinct;
-    const std::vector<int> &b = m_tables.values.value(newValue).distinct;
+    const std::span<const int> a = m_tables.values.value(oldValue).distinct;
+    const std::span<const int> b = m_tables.values.value(newValue).distinct;
     // A token of the old text stays or does not; further ones come as they come in any text of the
     // column, but more seldom, so that the common ones which a text does without count for it.
     double sum = (1 - rates.adds) * chance.meanTokens();
@@ -121,8 +121,8 @@ bool PairEvidence::hasCommonValue(const PlanTarget &target, size_t line, size_t 
 void PairEvidence::countTokens(const ColumnChance &chance, int oldValue, int newValue,
                                double weight, RateCounts &seen) const
 {
-    const std::vector<int> &tokens = m_tables.values.value(oldValue).distinct;
-    const std::vector<int> &others = m_tables.values.value(newValue).distinct;
+    const std::span<const int> tokens = m_tables.values.value(oldValue).distinct;
+    const std::span<const int> others = m_tables.values.value(newValue).distinct;
     double staying = 0;
     double expected = chance.meanTokens();
     for (const int token : tokens) {
