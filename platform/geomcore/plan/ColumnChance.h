@@ -52,7 +52,7 @@ public:
 private:
     void finishTokens(const CellValues &values, const std::unordered_map<int, int> &counts);
 
-    KeyWeights m_counts; ///< By value, from 1 on.
+    KeyWeights m_counts;            ///< By value, from 1 on.
     std::vector<int> m_tokenPlaces; ///< By token: place in m_tokenChances; 0: it does not occur.
     std::vector<TokenChance> m_tokenChances = std::vector<TokenChance>(1);
     std::vector<double> m_numbers; ///< Sorted.

@@ -24,6 +24,12 @@ constexpr double AssumedGone = 0.1;
 constexpr double AssumedNamed = 0.9;
 /// Candidates of a line, of all targets together, that are kept after the first round.
 constexpr size_t KeptEdges = 12;
+/// Candidates that are so far behind the best one of their line after the first round are not kept:
+/// what is learned later hardly moves a weight so far.
+constexpr double FarBehind = 25;
+/// Lines with a candidate that is so probable are looked for only just where their neighbours put
+/// them.
+constexpr double Certain = 0.9999;
 /// Lines that a thread takes at once.
 constexpr size_t LinesAtOnce = 64;
 /// Pairs below are not learned from.
@@ -142,8 +148,12 @@ void LinePlanner::keepBest()
     for (std::vector<std::vector<int>> &found : m_found)
         found.assign(m_edges.size(), {});
     for (size_t line = 0; line < m_edges.size(); ++line) {
-        if (m_edges[line].size() > KeptEdges)
-            m_edges[line].resize(KeptEdges);
+        std::vector<PlanEdge> &edges = m_edges[line];
+        size_t kept = 0;
+        while (kept < std::min(edges.size(), KeptEdges) &&
+               edges[kept].weight >= edges.front().weight - FarBehind)
+            ++kept;
+        edges.resize(kept);
         for (const PlanEdge &edge : m_edges[line])
             m_found[size_t(edge.target)][line].push_back(edge.row);
     }
@@ -205,17 +215,22 @@ void LinePlanner::makeEdges()
 
 void LinePlanner::makeEdges(size_t line)
 {
+    const std::vector<PlanEdge> &former = m_edges[line];
+    const bool isFound = std::any_of(former.begin(), former.end(), [](const PlanEdge &edge) {
+        return edge.probability >= Certain;
+    });
     m_edges[line].clear();
     for (size_t t = 0; t < m_tables.targets.size(); ++t) {
         const PlanTarget &target = m_tables.targets[t];
         if (!target.takes[line])
             continue;
         std::vector<int> rows = m_found[t][line];
+        const int around = isFound ? 0 : AroundPlace;
         const PlaceEvidence::Places at = m_places[t].places(m_tables.openLines[line]);
         for (const int place : {at.fromAbove, at.fromBelow}) {
-            auto row = std::lower_bound(target.openRows.begin(), target.openRows.end(),
-                                        place - AroundPlace);
-            for (; row != target.openRows.end() && *row <= place + AroundPlace; ++row)
+            auto row =
+                std::lower_bound(target.openRows.begin(), target.openRows.end(), place - around);
+            for (; row != target.openRows.end() && *row <= place + around; ++row)
                 rows.push_back(int(row - target.openRows.begin()));
         }
         std::sort(rows.begin(), rows.end());
