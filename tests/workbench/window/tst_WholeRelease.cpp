@@ -1,7 +1,9 @@
 // A release settled to its end by keys alone, as a modeller would; what it costs is counted.
+#include "../../support/TestCatalog.h"
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
+#include <core/message/PScriptedMessageSink.h>
 #include <geomcore/records/MappingFile.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <workbench/review/NeighbourDock.h>
@@ -12,6 +14,7 @@
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/LineCommands.h>
 #include <workbench/window/MainWindow.h>
+#include <workbench/window/MappingMaker.h>
 #include <workbench/window/NeighbourCommands.h>
 #include <workbench/window/ReviewCommands.h>
 
@@ -25,6 +28,11 @@ class Modeller : public WindowFixture
 {
 public:
     Modeller() { open(mappingFile()); }
+    Modeller(const QString &file, const CatalogRoots &roots)
+    {
+        window->desk()->open({.file = file, .roots = roots});
+        QApplication::processEvents();
+    }
 
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
@@ -55,28 +63,97 @@ private:
     int m_decisions = 0;
 };
 
-} // namespace
-
-class tst_WholeRelease : public QObject
+/// A catalog in two releases, made by rules: tables of a folder change alike, as they do between
+/// two editions of a standard, and what became of each line is known.
+class MadeRelease
 {
-    Q_OBJECT
+public:
+    static constexpr int Tables = 10; ///< of each folder
+    static constexpr int Lines = 80;  ///< of each table
 
-private Q_SLOTS:
-    void settledByKeys();
-    void aHundredDecisions();
+    explicit MadeRelease(const QString &directory)
+        : m_old(directory + QStringLiteral("/old"))
+        , m_now(directory + QStringLiteral("/now"))
+    {
+        for (int folder = 0; folder < 7; ++folder) {
+            for (int table = 0; table < Tables; ++table)
+                addTable(folder, table);
+        }
+        const PMessageSinkScope silence(std::make_shared<PScriptedMessageSink>());
+        MappingMaker maker;
+        QVERIFY(maker.make({.sourceRoot = m_old.root(),
+                            .targetRoot = m_now.root(),
+                            .sourceCatalog = "parts",
+                            .targetCatalog = "parts"}));
+        MappingFile mapping;
+        mapping.setRelease(maker.release());
+        QVERIFY(mapping.write(file()));
+    }
+
+    [[nodiscard]] QString file() const { return m_old.root() + QStringLiteral("/../m.json"); }
+    [[nodiscard]] CatalogRoots roots() const { return {m_old.root(), m_now.root()}; }
+    /// Of the line, -1: it has no successor.
+    [[nodiscard]] int successor(const QString &project, int line) const
+    {
+        return m_successors.value(project).value(line - 1, -1);
+    }
+
+private:
+    void addTable(int folder, int table)
+    {
+        const QString path = QStringLiteral("parts/f%1/t%2").arg(folder).arg(table);
+        const int number = folder * Tables + table;
+        const bool isTableGone = folder == 6 || (folder == 5 && table > 7);
+        QByteArray old = "Name,Werkstoff,L,D,Text";
+        QByteArray now = old;
+        int rows = 0;
+        QList<int> &successors = m_successors[path + QStringLiteral(".prj")];
+        for (int i = 0; i < Lines; ++i) {
+            const QByteArray name = 'T' + QByteArray::number(number) + '-';
+            const QByteArray series = QByteArray::number(100 + i);
+            const int length = 20 + i * 4 + number % 7;
+            const int diameter = (isTableGone ? 600 : 3) + (i + number) % 17;
+            const bool isGone = isTableGone || (folder == 5 && i % 2 == 1);
+            old += ';' + rowOf(name + (folder == 2 ? "S07B " : "") + series,
+                               isGone        ? "Cu"
+                               : folder == 1 ? "St37-2"
+                                             : "8.8",
+                               length, diameter, folder == 4 ? "verzinkt" : "blank");
+            successors.append(isGone ? -1 : ++rows);
+            if (isGone)
+                continue;
+            // In each table of the first folder some lines are given another surface.
+            const QByteArray surface = folder == 4                 ? "galvanisch Zn"
+                                       : folder == 0 && i % 25 < 2 ? "E" + QByteArray::number(table)
+                                                                   : "blank";
+            now += ';' + rowOf(name + (folder == 2 ? "S7B " : "") + series,
+                               folder == 1 ? "S235JR" : "8.8", folder == 3 ? length / 2 : length,
+                               diameter, surface);
+        }
+        m_old.add(path, old, {"Name"}, "2021-05-01T10:00:00Z");
+        if (rows > 0)
+            m_now.add(path, now, {"Name"}, "2022-05-01T10:00:00Z");
+    }
+    [[nodiscard]] static QByteArray rowOf(const QByteArray &name, const QByteArray &material,
+                                          int length, int diameter, const QByteArray &text)
+    {
+        return name + ',' + material + ',' + QByteArray::number(length) + ',' +
+               QByteArray::number(diameter) + ',' + text;
+    }
+
+    const TestCatalog m_old;
+    const TestCatalog m_now;
+    QHash<QString, QList<int>> m_successors;
 };
 
-void tst_WholeRelease::settledByKeys()
+/// All patterns, the largest first, by keys alone; those in doubt line by line.
+void settlePatterns(Modeller &modeller)
 {
-    Modeller modeller;
-    const int open = modeller.openLines();
-    QVERIFY(open > 300);
     modeller.key(Qt::Key_F7);
     QVERIFY(QTest::qWaitFor([&] { return modeller.review()->work()->hasPatterns(); }, 20000));
     QCoreApplication::processEvents();
     modeller.key(Qt::Key_Return);
     ModalScript script;
-    // Whole patterns; those in doubt are left for a look at each line.
     const ReviewWork *const work = modeller.review()->work();
     for (int chosen = modeller.review()->dock()->chosen(); chosen >= 0;
          chosen = modeller.review()->dock()->chosen()) {
@@ -98,13 +175,33 @@ void tst_WholeRelease::settledByKeys()
             QVERIFY(modeller.decide(Qt::Key_V));
     }
     QVERIFY(script.isDone());
+    QCOMPARE(modeller.openLines(), 0);
+}
+
+} // namespace
+
+class tst_WholeRelease : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void settledByKeys();
+    void thousandsOfOpenLines();
+    void aHundredDecisions();
+};
+
+void tst_WholeRelease::settledByKeys()
+{
+    Modeller modeller;
+    const int open = modeller.openLines();
+    QVERIFY(open > 300);
+    settlePatterns(modeller);
     // Nobody's assignments contradict those of their neighbours.
     modeller.key(Qt::Key_F7, Qt::ControlModifier);
     const NeighbourWork *const neighbours = modeller.window->neighbours()->work();
     QVERIFY(QTest::qWaitFor(
         [&] { return !neighbours->isReading() && neighbours->checkedLines() > 0; }, 20000));
     QCOMPARE(neighbours->places().size(), 0U);
-    QCOMPARE(modeller.openLines(), 0);
     qInfo("%d open lines: %d decisions, %d keys", open, modeller.decisions(), modeller.keys());
     QVERIFY(modeller.decisions() < open / 5);
     QVERIFY(modeller.keys() < modeller.decisions() * 2);
@@ -119,6 +216,43 @@ void tst_WholeRelease::settledByKeys()
                 QVERIFY(entry.state() != PRJMAPPING::ToCheck);
         }
     }
+}
+
+/// A few decisions for thousands of lines, and every one of them right.
+void tst_WholeRelease::thousandsOfOpenLines()
+{
+    const QTemporaryDir directory;
+    const MadeRelease made(directory.path());
+    int open = 0;
+    {
+        Modeller modeller(made.file(), made.roots());
+        open = modeller.openLines();
+        QVERIFY2(open >= 3500, qPrintable(QString::number(open)));
+        settlePatterns(modeller);
+        qInfo("%d open lines: %d decisions, %d keys", open, modeller.decisions(), modeller.keys());
+        QVERIFY(modeller.decisions() < 200);
+        QVERIFY(modeller.keys() < 2 * modeller.decisions() + 10);
+        modeller.key(Qt::Key_S, Qt::ControlModifier);
+    }
+    MappingFile file;
+    QVERIFY(file.read(made.file()));
+    const ReleaseMappingC saved = file.releases().last();
+    int lines = 0;
+    int confirmed = 0;
+    for (int i = 0; i < saved.countMappings(); ++i) {
+        const PrjMappingC mapping = saved.mappingAt(i);
+        for (int target = 0; target < mapping.countTargets(); ++target) {
+            for (const LineTable::Iterator &entry : mapping.targetAt(target).lines()) {
+                ++lines;
+                confirmed += entry.state() == PRJMAPPING::Verified ? 1 : 0;
+                QVERIFY(entry.state() != PRJMAPPING::ToCheck);
+                QCOMPARE(entry.targetLine(),
+                         made.successor(mapping.getSourcePath(), entry.sourceLine()));
+            }
+        }
+    }
+    QCOMPARE(lines, 7 * MadeRelease::Tables * MadeRelease::Lines);
+    QCOMPARE(confirmed, open);
 }
 
 void tst_WholeRelease::aHundredDecisions()
