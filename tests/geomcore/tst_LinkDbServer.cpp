@@ -360,6 +360,17 @@ void tst_LinkDbServer::lostWhileIdle()
     QVERIFY(insert(*linkDb, "a"));
     QVERIFY(linkDb->commit());
     QCOMPARE(documents(*linkDb), 1);
+    // What was settled before is not lost with it.
+    QVERIFY(insert(*linkDb, "b"));
+    QVERIFY(linkDb->rollback());
+    for (const int expected : {1, 2}) {
+        m_server->endConnections();
+        m_sink->logged.clear();
+        QCOMPARE(documents(*linkDb), expected);
+        QVERIFY(!m_sink->logged.at(0).contains("Anweisungen"));
+        QVERIFY(linkDb->commit());
+        QVERIFY(insert(*linkDb, QString::number(expected)) && linkDb->commit());
+    }
 }
 
 void tst_LinkDbServer::lostWithChanges()

@@ -67,6 +67,7 @@ private Q_SLOTS:
     void commitsNothingByItself();
     void failedStatementGoesAlone_data() { databases(); }
     void failedStatementGoesAlone();
+    void connectionLostInAStatement();
     void writersDoNotBlockEachOther_data() { databases(); }
     void writersDoNotBlockEachOther();
     void lostChangesAreMadeAgain();
@@ -238,7 +239,9 @@ void tst_PLinkDbC::buildsStatements()
         "insert into plm_document (\"geo_id\", \"line_id\", \"pdmsystem\", \"pdmid1\") "
         "values ('"));
     QVERIFY(statement(false) != statement(false));
+    QVERIFY(!linkDb->lastError().isSet());
     QCOMPARE(linkDb->createSqlStatement("no_table", record, false), "");
+    QCOMPARE(linkDb->lastError().text, "Die Tabelle no_table gibt es in der Linkdatenbank nicht");
 }
 
 void tst_PLinkDbC::keepsHostileTexts_data()
@@ -356,6 +359,21 @@ void tst_PLinkDbC::failedStatementGoesAlone()
     // One that fails as the first leaves no transaction behind.
     QVERIFY(!linkDb->executeInsertStatement("DELETE FROM no_table"));
     QVERIFY(!linkDb->isPending());
+}
+
+void tst_PLinkDbC::connectionLostInAStatement()
+{
+    const PRefPtr<PLinkDbC> linkDb(new PLinkDbC);
+    QVERIFY(linkDb->open(LinkDbSettings::fromText(m_server->newDatabase())));
+    QVERIFY(linkDb->executeInsertStatement("INSERT INTO plm_document(GEO_ID) VALUES('a')"));
+    // Between the savepoint and its release.
+    QVERIFY(!linkDb->executeInsertStatement("SELECT pg_terminate_backend(pg_backend_pid())"));
+    QVERIFY(linkDb->lastError().lost);
+    QVERIFY(!linkDb->isPending());
+    QVERIFY(!linkDb->commit());
+    QCOMPARE(linkDb->executeCountStatement("SELECT COUNT(*) FROM plm_document"), 0);
+    // No number is none.
+    QCOMPARE(linkDb->executeCountStatement("SELECT 'x'"), -1);
 }
 
 void tst_PLinkDbC::writersDoNotBlockEachOther()

@@ -228,6 +228,15 @@ void typeInto(const QWidget &form, const QString &label, const QString &text)
         QTest::keyClicks(edit, text);
 }
 
+QString boxTexts(const QWidget &form, const char *label)
+{
+    const auto *const box = qobject_cast<QComboBox *>(fieldOf(form, label));
+    QStringList texts;
+    for (int i = 0; i < box->count(); ++i)
+        texts.append(box->itemText(i));
+    return texts.join(u'|') + u':' + box->currentText();
+}
+
 QStringList labelsOf(const QWidget &form)
 {
     const auto *const grid = form.findChild<QGridLayout *>(QStringLiteral("gridLayout"));

@@ -92,6 +92,8 @@ void inNextForm(const std::function<void(NewRecordDialogC &)> &fill, bool accept
 /// Field of the record form by its label.
 [[nodiscard]] QWidget *fieldOf(const QWidget &form, const QString &label);
 void typeInto(const QWidget &form, const QString &label, const QString &text);
+/// "a|b:a": what the box of that label offers, and what it holds.
+[[nodiscard]] QString boxTexts(const QWidget &form, const char *label);
 /// Labels of the form from top to bottom.
 [[nodiscard]] QStringList labelsOf(const QWidget &form);
 

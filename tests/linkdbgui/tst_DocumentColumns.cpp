@@ -51,6 +51,7 @@ private Q_SLOTS:
     void templateWithoutAVarset();
     void blankBeforeAName();
     void varsetIsKnownByItsName();
+    void varsetInTheFirstColumn();
     void fewerColumnsLater();
     void state();
     void placeIsKept();
@@ -300,6 +301,19 @@ void tst_DocumentColumns::varsetIsKnownByItsName()
     QCOMPARE(selectedIds(*dialog), QStringList{"g1"});
     dialog->accept();
     QCOMPARE(QString(dialog->getXVarset()), lineOne);
+}
+
+void tst_DocumentColumns::varsetInTheFirstColumn()
+{
+    const DocumentFixture fixture;
+    fixture.setKey("PDM_COLUMNS", "XVARSET");
+    fixture.insert("g1", {{"XVARSET", lineOne}});
+    const auto dialog = fixture.showDialog();
+    QCOMPARE(selectedIds(*dialog), QStringList{"g1"});
+    QCOMPARE(widgetOf<QTreeWidget>(*dialog, "tvVarset")->topLevelItemCount(), 3);
+    dialog->accept();
+    QCOMPARE(QString(dialog->getXVarset()), lineOne);
+    QVERIFY(!dialog->isVarsetModified());
 }
 
 void tst_DocumentColumns::fewerColumnsLater()

@@ -23,7 +23,7 @@ struct VELKGEOMCORE_EXPORT LinkDbSettings
     QString user;          ///< empty: the name of the account
     QString sslMode;       ///< empty: "prefer"
     bool readOnly = false; ///< nothing is written, no tables are made; not part of the text
-    int connectSeconds = 10; ///< until a server that does not answer is given up; at most 5 if the
+    int connectSeconds = 10; ///< until a server that does not answer is given up; at most 2 if the
                              ///< user has cancelled
 
     /// Of another kind than None if the text names a database; otherwise \a problem says why not.
