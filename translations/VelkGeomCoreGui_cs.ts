@@ -338,6 +338,10 @@
         <translation>a další: %1</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>a dalších %1 řádků</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>nerovno</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>og %1 mere</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>og %1 linjer mere</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>forskellig fra</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>und %1 weitere</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>und %1 weitere Zeilen</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>ungleich</translation>
     </message>

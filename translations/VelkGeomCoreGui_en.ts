@@ -338,6 +338,10 @@
         <translation>and %1 more</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>and %1 more lines</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>not equal to</translation>
     </message>

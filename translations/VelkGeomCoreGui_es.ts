@@ -338,6 +338,10 @@
         <translation>y %1 más</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>y %1 filas más</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>distinto de</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>ja %1 muuta</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>ja %1 riviä lisää</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>eri suuri kuin</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>et %1 autres</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>et %1 lignes de plus</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>différent de</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>és még %1</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>és további %1 sor</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>nem egyenlő</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>dan %1 lainnya</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>dan %1 baris lagi</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>tidak sama dengan</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>e altre %1</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>e altre %1 righe</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>diverso da</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>他 %1 件</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>ほか %1 行</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>等しくない</translation>
     </message>

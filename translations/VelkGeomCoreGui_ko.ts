@@ -338,6 +338,10 @@
         <translation>외 %1개</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>외 %1행</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>같지 않음</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>og %1 til</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>og %1 linjer til</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>ulik</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>i jeszcze: %1</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>i %1 wierszy więcej</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>różne</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>e mais %1</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>e mais %1 linhas</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>diferente de</translation>
     </message>

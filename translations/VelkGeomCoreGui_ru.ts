@@ -338,6 +338,10 @@
         <translation>и ещё %1</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>и ещё строк: %1</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>не равно</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>in še %1</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>in še %1 vrstic</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>ni enako</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>och %1 till</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>och %1 rader till</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>skild från</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>ve %1 tane daha</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>ve %1 satır daha</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>eşit değil</translation>
     </message>

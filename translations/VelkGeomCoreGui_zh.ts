@@ -338,6 +338,10 @@
         <translation>还有 %1 个</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>还有 %1 行</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>不等于</translation>
     </message>

@@ -338,6 +338,10 @@
         <translation>還有 %1 個</translation>
     </message>
     <message>
+        <source>und %1 weitere Zeilen</source>
+        <translation>還有 %1 行</translation>
+    </message>
+    <message>
         <source>ungleich</source>
         <translation>不等於</translation>
     </message>

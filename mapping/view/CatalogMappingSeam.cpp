@@ -71,6 +71,14 @@ void CatalogMappingWidget::focusOtherTable()
                                                 QItemSelectionModel::NoUpdate);
 }
 
+const VkTableView *CatalogMappingWidget::tableInSight() const
+{
+    const VkTableView *const target = d->tableWidget->targetView();
+    const VkTableView *const table =
+        target->isAncestorOf(QApplication::focusWidget()) ? target : d->tableWidget->sourceView();
+    return table->getTable().isValid() ? table : nullptr;
+}
+
 int CatalogMappingWidget::shownLineCount() const
 {
     return sourceTable().isValid() ? d->tableWidget->sourceView()->model()->rowCount() : 0;

@@ -18,6 +18,7 @@ QT_END_NAMESPACE
 class ApplicationHandlerI;
 class CatalogMappingHandlerI;
 class CatalogMappingWidgetPrivate;
+class VkTableView;
 
 /// The mapping editor: on the left the catalog as a tree with filters and statistics, on the right
 /// conflicts, targets and tables of the selected project. Every change of a mapping goes to the
@@ -83,6 +84,9 @@ public:
     /// The keys go to the target table if the source table has them, else to the source table. A
     /// table without a selected line gets a current one, which selects nothing.
     void focusOtherTable();
+    /// The target table if the keys go to it, else the source table: for printing it. Null if it
+    /// shows no table.
+    [[nodiscard]] const VkTableView *tableInSight() const;
     /// Rows of the source table that are shown, all filters applied; 0 if no table is.
     [[nodiscard]] int shownLineCount() const;
     /// The line in a row, from 0, in display order; -1 for a row out of range.

@@ -2624,6 +2624,41 @@ Projekt: %1
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Není vidět žádná tabulka, kterou by bylo možné vytisknout</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Zpráva</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Tisk: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 bylo předáno tiskárně</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 vytištěno do %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 se nepodařilo vytisknout.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Tiskárna nepřijímá stránky.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 nelze zapsat.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2875,6 +2910,14 @@ Projekt: %1
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Zpráva zapsána do %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Zrušeno, zpráva nebyla vytvořena</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Strana %1 z %2</translation>
     </message>
 </context>
 <context>
@@ -4763,6 +4806,22 @@ Projekt: %1
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Vybere řádky všech projektů podle stavu, důvodu, rozdílu a osoby; F8 jimi prochází</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>&amp;Tisk...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Ukáže stránky viditelné tabulky a vytiskne je</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Ukáže stránky zprávy a vytiskne je</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Vytisknout zprávu...</translation>
     </message>
 </context>
 </TS>

@@ -2579,6 +2579,41 @@ Line: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>There is no table in sight that could be printed</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Report</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Print: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 was given to the printer</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 printed into %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 could not be printed.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>The printer takes no pages.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 cannot be written.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>&amp;Ja</source>
@@ -2828,6 +2863,14 @@ Line: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Report written to %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Cancelled, no report was made</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Page %1 of %2</translation>
     </message>
 </context>
 <context>
@@ -4689,6 +4732,22 @@ Line: %2
     <message>
         <source>Geht zum vorigen Projekt, in dem etwas zu entscheiden ist</source>
         <translation>Goes to the previous project in which something is to be decided</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>Prin&amp;t...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Shows the pages of the table in sight, and prints them</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Shows the pages of the report, and prints them</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Print report...</translation>
     </message>
 </context>
 </TS>

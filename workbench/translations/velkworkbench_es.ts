@@ -2579,6 +2579,41 @@ Fila: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>No hay ninguna tabla a la vista que se pueda imprimir</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Imprimir: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 se ha enviado a la impresora</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 impreso en %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>No se ha podido imprimir %1.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>La impresora no acepta páginas.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>No se puede escribir %1.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2828,6 +2863,14 @@ Fila: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Informe escrito en %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Cancelado, no se ha creado ningún informe</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Página %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -4689,6 +4732,22 @@ Fila: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Elige filas de todos los proyectos por estado, motivo, diferencia y persona; F8 las recorre</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>Im&amp;primir...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Muestra las páginas de la tabla a la vista y las imprime</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Muestra las páginas del informe y las imprime</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Imprimir el informe...</translation>
     </message>
 </context>
 </TS>

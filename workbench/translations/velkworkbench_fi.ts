@@ -2579,6 +2579,41 @@ Rivi: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Näkyvissä ei ole taulukkoa, jonka voisi tulostaa</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Raportti</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Tulosta: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 on lähetetty tulostimelle</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 tulostettu tiedostoon %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>Kohdetta %1 ei voitu tulostaa.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Tulostin ei ota vastaan sivuja.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>Tiedostoa %1 ei voi kirjoittaa.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2828,6 +2863,14 @@ Rivi: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Raportti kirjoitettu tiedostoon %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Keskeytetty, raporttia ei tehty</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Sivu %1/%2</translation>
     </message>
 </context>
 <context>
@@ -4689,6 +4732,22 @@ Rivi: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Valitsee kaikkien projektien rivejä tilan, syyn, eron ja henkilön mukaan; F8 käy ne läpi</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>Tul&amp;osta...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Näyttää näkyvissä olevan taulukon sivut ja tulostaa ne</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Näyttää raportin sivut ja tulostaa ne</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Tulosta raportti...</translation>
     </message>
 </context>
 </TS>

@@ -2579,6 +2579,41 @@ Ligne : %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Aucune table visible ne peut être imprimée</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Imprimer : %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 a été envoyé à l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 imprimé dans %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 n&apos;a pas pu être imprimé.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>L&apos;imprimante n&apos;accepte pas de pages.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 ne peut pas être écrit.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2828,6 +2863,14 @@ Ligne : %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Rapport écrit dans %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Annulé, aucun rapport n&apos;a été créé</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Page %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -4689,6 +4732,22 @@ Ligne : %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Choisit les lignes de tous les projets par état, raison, différence et personne ; F8 les parcourt</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>I&amp;mprimer...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Montre les pages de la table visible et les imprime</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Montre les pages du rapport et les imprime</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Imprimer le rapport...</translation>
     </message>
 </context>
 </TS>

@@ -2534,6 +2534,41 @@ Sor: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Nem látható nyomtatható táblázat</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Jelentés</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Nyomtatás: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 a nyomtatóra került</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 kinyomtatva ide: %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 nem nyomtatható ki.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>A nyomtató nem fogad oldalakat.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>A(z) %1 nem írható.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2781,6 +2816,14 @@ Sor: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Jelentés kiírva ide: %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Megszakítva, nem készült jelentés</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>%1. oldal, összesen %2</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +4658,22 @@ Sor: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Az összes projekt sorait választja állapot, ok, eltérés és személy szerint; az F8 végigmegy rajtuk</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>N&amp;yomtatás...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Megmutatja a látható táblázat oldalait, és kinyomtatja őket</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Megmutatja a jelentés oldalait, és kinyomtatja őket</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Jelentés nyomtatása...</translation>
     </message>
 </context>
 </TS>

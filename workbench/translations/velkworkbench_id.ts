@@ -2534,6 +2534,41 @@ Baris: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Tidak ada tabel yang tampak untuk dicetak</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Laporan</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Cetak: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 telah dikirim ke pencetak</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 dicetak ke %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 tidak dapat dicetak.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Pencetak tidak menerima halaman.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 tidak dapat ditulis.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2781,6 +2816,14 @@ Baris: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Laporan ditulis ke %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Dibatalkan, tidak ada laporan yang dibuat</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Halaman %1 dari %2</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +4658,22 @@ Baris: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Memilih baris semua proyek menurut status, alasan, perbedaan dan orang; F8 menelusurinya</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>Cetak halama&amp;n...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Menampilkan halaman tabel yang tampak dan mencetaknya</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Menampilkan halaman laporan dan mencetaknya</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Cetak laporan...</translation>
     </message>
 </context>
 </TS>

@@ -2579,6 +2579,41 @@ Riga: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Non è visibile alcuna tabella da stampare</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Rapporto</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Stampa: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 è stato inviato alla stampante</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 stampato in %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>Impossibile stampare %1.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>La stampante non accetta pagine.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>Impossibile scrivere %1.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2828,6 +2863,14 @@ Riga: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Rapporto scritto in %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Annullato, nessun rapporto creato</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Pagina %1 di %2</translation>
     </message>
 </context>
 <context>
@@ -4689,6 +4732,22 @@ Riga: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Sceglie righe di tutti i progetti per stato, motivo, differenza e persona; F8 le percorre</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>&amp;Stampa...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Mostra le pagine della tabella visibile e le stampa</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Mostra le pagine del rapporto e le stampa</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Stampa rapporto...</translation>
     </message>
 </context>
 </TS>

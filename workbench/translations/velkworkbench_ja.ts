@@ -2534,6 +2534,41 @@ Zeile: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>印刷できる表が表示されていません</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>印刷: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 をプリンターに送りました</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 を %2 に印刷しました</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 を印刷できませんでした。</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>プリンターがページを受け付けません。</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 に書き込めません。</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2781,6 +2816,14 @@ Zeile: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>レポートを %1 に書き込みました</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>中止しました。レポートは作成されていません</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>%1 / %2 ページ</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +4658,22 @@ Zeile: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>状態、理由、違い、人で全プロジェクトの行を選びます。F8 で順に移動します</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>印刷(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>表示中の表のページを表示し、印刷します</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>レポートのページを表示し、印刷します</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>レポートを印刷...</translation>
     </message>
 </context>
 </TS>

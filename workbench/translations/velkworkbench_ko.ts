@@ -2534,6 +2534,41 @@ Zeile: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>인쇄할 수 있는 표가 표시되어 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>보고서</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>인쇄: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1을(를) 프린터로 보냈습니다</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1을(를) %2에 인쇄했습니다</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1을(를) 인쇄할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>프린터가 페이지를 받지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1을(를) 쓸 수 없습니다.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2781,6 +2816,14 @@ Zeile: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>보고서를 %1에 썼습니다</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>취소됨, 보고서가 만들어지지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>%1/%2쪽</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +4658,22 @@ Zeile: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>상태, 이유, 차이, 사람별로 모든 프로젝트의 행을 선택합니다. F8로 이동합니다</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>인쇄(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>표시된 표의 쪽을 보여 주고 인쇄합니다</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>보고서의 쪽을 보여 주고 인쇄합니다</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>보고서 인쇄...</translation>
     </message>
 </context>
 </TS>

@@ -2579,6 +2579,41 @@ Linje: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Det vises ingen tabell som kan skrives ut</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Skriv ut: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 er sendt til skriveren</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 skrevet ut til %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 kunne ikke skrives ut.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Skriveren tar ikke imot sider.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 kan ikke skrives.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2828,6 +2863,14 @@ Linje: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Rapport skrevet til %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Avbrutt, ingen rapport ble laget</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Side %1 av %2</translation>
     </message>
 </context>
 <context>
@@ -4689,6 +4732,22 @@ Linje: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Velger linjer i alle prosjekter etter tilstand, grunn, forskjell og person; F8 går gjennom dem</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>Skri&amp;v ut...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Viser sidene av tabellen som vises, og skriver dem ut</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Viser rapportens sider og skriver dem ut</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Skriv ut rapport...</translation>
     </message>
 </context>
 </TS>

@@ -2624,6 +2624,41 @@ Wiersz: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Nie widać żadnej tabeli do wydrukowania</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Raport</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Drukuj: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 przekazano do drukarki</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 wydrukowano do %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>Nie udało się wydrukować %1.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Drukarka nie przyjmuje stron.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>Nie można zapisać %1.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2875,6 +2910,14 @@ Wiersz: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Raport zapisano w %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Przerwano, nie utworzono raportu</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Strona %1 z %2</translation>
     </message>
 </context>
 <context>
@@ -4763,6 +4806,22 @@ Wiersz: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Wybiera wiersze wszystkich projektów według stanu, powodu, różnicy i osoby; F8 przechodzi po nich</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>&amp;Drukuj...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Pokazuje strony widocznej tabeli i drukuje je</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Pokazuje strony raportu i drukuje je</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Drukuj raport...</translation>
     </message>
 </context>
 </TS>

@@ -2579,6 +2579,41 @@ Linha: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Não há nenhuma tabela à vista que possa ser impressa</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Relatório</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Imprimir: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 foi enviado para a impressora</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 impresso em %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>Não foi possível imprimir %1.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>A impressora não aceita páginas.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>Não é possível escrever %1.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2828,6 +2863,14 @@ Linha: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Relatório escrito em %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Cancelado, não foi criado nenhum relatório</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Página %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -4689,6 +4732,22 @@ Linha: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Escolhe linhas de todos os projetos por estado, motivo, diferença e pessoa; F8 percorre-as</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>I&amp;mprimir...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Mostra as páginas da tabela à vista e imprime-as</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Mostra as páginas do relatório e imprime-as</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Imprimir o relatório...</translation>
     </message>
 </context>
 </TS>

@@ -2624,6 +2624,41 @@ Zeile: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Нет видимой таблицы, которую можно напечатать</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Отчёт</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Печать: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 передано на принтер</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 напечатано в %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>Не удалось напечатать %1.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Принтер не принимает страницы.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 не удаётся записать.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2875,6 +2910,14 @@ Zeile: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Отчёт записан в %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Отменено, отчёт не создан</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Страница %1 из %2</translation>
     </message>
 </context>
 <context>
@@ -4763,6 +4806,22 @@ Zeile: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Выбирает строки всех проектов по состоянию, причине, различию и автору; F8 проходит по ним</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>П&amp;ечать...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Показывает страницы видимой таблицы и печатает их</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Показывает страницы отчёта и печатает их</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Печать отчёта...</translation>
     </message>
 </context>
 </TS>

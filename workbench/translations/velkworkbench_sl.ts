@@ -2669,6 +2669,41 @@ Vrstica: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Ni vidne tabele, ki bi jo bilo mogoče natisniti</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Poročilo</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Natisni: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 je poslano tiskalniku</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 natisnjeno v %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 ni bilo mogoče natisniti.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Tiskalnik ne sprejema strani.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 ni mogoče zapisati.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2922,6 +2957,14 @@ Vrstica: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Poročilo zapisano v %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Preklicano, poročilo ni bilo izdelano</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Stran %1 od %2</translation>
     </message>
 </context>
 <context>
@@ -4837,6 +4880,22 @@ Vrstica: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Izbere vrstice vseh projektov po stanju, razlogu, razliki in osebi; F8 gre po njih</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>N&amp;atisni...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Pokaže strani vidne tabele in jih natisne</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Pokaže strani poročila in jih natisne</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Natisni poročilo...</translation>
     </message>
 </context>
 </TS>

@@ -2579,6 +2579,41 @@ Rad: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Ingen tabell syns som kan skrivas ut</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Skriv ut: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 har skickats till skrivaren</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 utskrivet till %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 kunde inte skrivas ut.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Skrivaren tar inte emot sidor.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 kan inte skrivas.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2828,6 +2863,14 @@ Rad: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Rapporten skriven till %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>Avbrutet, ingen rapport skapades</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Sida %1 av %2</translation>
     </message>
 </context>
 <context>
@@ -4689,6 +4732,22 @@ Rad: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Väljer rader i alla projekt efter tillstånd, skäl, skillnad och person; F8 går igenom dem</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>Skri&amp;v ut...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Visar sidorna av tabellen som syns och skriver ut dem</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Visar rapportens sidor och skriver ut dem</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Skriv ut rapport...</translation>
     </message>
 </context>
 </TS>

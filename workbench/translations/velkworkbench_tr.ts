@@ -2534,6 +2534,41 @@ Satır: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>Yazdırılabilecek bir tablo görünmüyor</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>Rapor</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>Yazdır: %1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 yazıcıya gönderildi</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1, %2 dosyasına yazdırıldı</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>%1 yazdırılamadı.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>Yazıcı sayfa kabul etmiyor.</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>%1 yazılamıyor.</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2781,6 +2816,14 @@ Satır: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>Rapor %1 dosyasına yazıldı</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>İptal edildi, rapor oluşturulmadı</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Sayfa %1 / %2</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +4658,22 @@ Satır: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>Tüm projelerin satırlarını durum, neden, fark ve kişiye göre seçer; F8 aralarında gezer</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>Ya&amp;zdır...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>Görünen tablonun sayfalarını gösterir ve yazdırır</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>Raporun sayfalarını gösterir ve yazdırır</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>Raporu yazdır...</translation>
     </message>
 </context>
 </TS>

@@ -2534,6 +2534,41 @@ Zeile: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>没有可打印的表格显示</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>打印：%1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 已发送到打印机</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 已打印到 %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>无法打印 %1。</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>打印机不接受页面。</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>无法写入 %1。</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2781,6 +2816,14 @@ Zeile: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>报告已写入 %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>已取消，未生成报告</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +4658,22 @@ Zeile: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>按状态、原因、差异和人员选择所有项目的行；F8 逐行浏览</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>打印(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>显示当前表格的页面并打印</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>显示报告的页面并打印</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>打印报告...</translation>
     </message>
 </context>
 </TS>

@@ -2534,6 +2534,41 @@ Zeile: %2
     </message>
 </context>
 <context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Es ist keine Tabelle zu sehen, die gedruckt werden kann</source>
+        <translation>沒有可列印的表格顯示</translation>
+    </message>
+    <message>
+        <source>Bericht</source>
+        <translation>報告</translation>
+    </message>
+    <message>
+        <source>Drucken: %1</source>
+        <translation>列印：%1</translation>
+    </message>
+    <message>
+        <source>%1 wurde an den Drucker gegeben</source>
+        <translation>%1 已傳送到印表機</translation>
+    </message>
+    <message>
+        <source>%1 nach %2 gedruckt</source>
+        <translation>%1 已列印到 %2</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gedruckt werden.</source>
+        <translation>無法列印 %1。</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>印表機不接受頁面。</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht geschrieben werden.</source>
+        <translation>無法寫入 %1。</translation>
+    </message>
+</context>
+<context>
     <name>Question</name>
     <message>
         <source>Frage</source>
@@ -2781,6 +2816,14 @@ Zeile: %2
     <message>
         <source>Bericht nach %1 geschrieben</source>
         <translation>報告已寫入 %1</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde kein Bericht erstellt</source>
+        <translation>已取消，未產生報告</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>第 %1 頁，共 %2 頁</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +4658,22 @@ Zeile: %2
     <message>
         <source>Wählt Zeilen aller Projekte nach Zustand, Grund, Unterschied und Bearbeiter; F8 geht durch sie</source>
         <translation>按狀態、原因、差異和人員選擇所有專案的列；F8 逐列瀏覽</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>列印(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
+        <translation>顯示目前表格的頁面並列印</translation>
+    </message>
+    <message>
+        <source>Zeigt die Seiten des Berichts und druckt sie</source>
+        <translation>顯示報告的頁面並列印</translation>
+    </message>
+    <message>
+        <source>Bericht drucken...</source>
+        <translation>列印報告...</translation>
     </message>
 </context>
 </TS>

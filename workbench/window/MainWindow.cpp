@@ -17,6 +17,7 @@
 #include "NeighbourCommands.h"
 #include "PartView.h"
 #include "PluginActions.h"
+#include "PrintCommands.h"
 #include "QtTexts.h"
 #include "Question.h"
 #include "RangeCommands.h"
@@ -66,6 +67,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_conflicts(new ConflictCommands(m_desk->document(), m_editor, this))
     , m_share(new ShareCommands(m_desk, m_editor, this))
     , m_release(new ReleaseCommands(m_desk->document(), settings->store(), this))
+    , m_print(new PrintCommands(m_editor, m_release, this))
     , m_ranges(new RangeCommands(m_desk->document(), m_editor, this))
     , m_states(new LineStateFilter(this))
     , m_filters(new FilterCommands(m_desk->document(), m_editor, m_lines, m_states, settings, this))
@@ -165,6 +167,7 @@ void MainWindow::connectParts()
     connect(m_history, &HistoryCommands::noted, this, note);
     m_release->setLanguage(m_language);
     connect(m_release, &ReleaseCommands::noted, this, note);
+    connect(m_print, &PrintCommands::noted, this, note);
     connect(m_lines, &LineCommands::done, this, [this](const QString &text) {
         m_status->showNote(text, m_desk->document()->canUndo());
     });

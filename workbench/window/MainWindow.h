@@ -24,6 +24,7 @@ class NeighbourCommands;
 class PLinkDbGuiI;
 class PluginActions;
 class PMessageSinkScope;
+class PrintCommands;
 class RangeCommands;
 class ReleaseCommands;
 class RemoteCatalogs;
@@ -125,6 +126,7 @@ private:
     ConflictCommands *const m_conflicts;
     ShareCommands *const m_share;
     ReleaseCommands *const m_release;
+    PrintCommands *const m_print;
     RangeCommands *const m_ranges;
     LineStateFilter *const m_states;
     FilterCommands *const m_filters;

@@ -12,6 +12,7 @@
 #include "LocatorDesk.h"
 #include "LogWindow.h"
 #include "PluginActions.h"
+#include "PrintCommands.h"
 #include "ReleaseCommands.h"
 #include "RemoteCatalogs.h"
 #include "ScriptDesk.h"
@@ -72,7 +73,8 @@ void MainWindow::buildMenus()
           WorkbenchActions::ShareWho});
     fill(file, m_actions,
          {Separator, WorkbenchActions::ImportTables, WorkbenchActions::ExportLines,
-          WorkbenchActions::WriteReport, Separator, WorkbenchActions::Quit});
+          WorkbenchActions::WriteReport, Separator, WorkbenchActions::PrintTable,
+          WorkbenchActions::PrintReport, Separator, WorkbenchActions::Quit});
     QMenu *const edit = addMenu("editMenu");
     fill(edit, m_actions,
          {WorkbenchActions::Undo, WorkbenchActions::Redo, WorkbenchActions::Steps, Separator,
@@ -197,6 +199,8 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::ImportTables, [this] { m_release->importByDialog(); });
     connectTo(WorkbenchActions::ExportLines, [this] { m_release->exportByDialog(); });
     connectTo(WorkbenchActions::WriteReport, [this] { m_release->reportByDialog(); });
+    connectTo(WorkbenchActions::PrintTable, [this] { m_print->printTable(); });
+    connectTo(WorkbenchActions::PrintReport, [this] { m_print->printReport(); });
     connectTo(WorkbenchActions::Quit, [this] { close(); });
     connectTo(WorkbenchActions::Undo, [this] { m_desk->document()->undo(); });
     connectTo(WorkbenchActions::Redo, [this] { m_desk->document()->redo(); });

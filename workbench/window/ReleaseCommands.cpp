@@ -239,26 +239,51 @@ std::optional<VelkRelease::ReleaseReport> ReleaseCommands::makeReport() const
     return report;
 }
 
+std::optional<QString> ReleaseCommands::reportPage(int mostRows)
+{
+    const auto report = makeReport();
+    if (!report)
+        return std::nullopt;
+    tellErrors(report->errors);
+    VelkRelease::ReportForm form = ReportTexts::form(EditorLanguages::localeOf(m_language));
+    form.mostRows = mostRows;
+    return reportHtml(*report, form);
+}
+
+std::optional<QString> ReleaseCommands::reportForPaper()
+{
+    const auto page = reportPage(PaperRows);
+    if (!page)
+        Q_EMIT noted(tr("Abgebrochen, es wurde kein Bericht erstellt"));
+    return page;
+}
+
+PageHead ReleaseCommands::pageHead(const QStringList &more) const
+{
+    const ReleaseMappingC release = m_document->release();
+    const VelkRelease::ReportForm form = ReportTexts::form(EditorLanguages::localeOf(m_language));
+    const QStringList texts{QFileInfo(m_document->mappingFile()).fileName(),
+                            form.text(VelkRelease::ReportText::Releases)
+                                .arg(release.getSourceDate(), release.getTargetDate())};
+    return {(texts + more).join(QStringLiteral(" \u2013 ")), tr("Seite %1 von %2")};
+}
+
 bool ReleaseCommands::writeReport(const QString &file)
 {
     QSaveFile output(file);
     if (!begin(output))
         return false;
-    const auto report = makeReport();
-    if (!report) {
+    const bool isPaper = file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive);
+    const auto page = reportPage(isPaper ? PaperRows : -1);
+    if (!page) {
         Q_EMIT noted(tr("Abgebrochen, es wurde kein Bericht geschrieben"));
         return false;
     }
-    tellErrors(report->errors);
-    VelkRelease::ReportForm form = ReportTexts::form(EditorLanguages::localeOf(m_language));
-    QByteArray bytes;
-    if (file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
-        form.mostRows = PaperRows;
-        BackgroundWork::run(tr("Seiten werden gesetzt"), [&] {
-            bytes = PdfPages::ofHtml(reportHtml(*report, form), report->name);
-        });
-    } else {
-        bytes = reportHtml(*report, form).toUtf8();
+    QByteArray bytes = page->toUtf8();
+    if (isPaper) {
+        const QString name = QFileInfo(m_document->mappingFile()).fileName();
+        BackgroundWork::run(tr("Seiten werden gesetzt"),
+                            [&] { bytes = PdfPages::ofHtml(*page, name, pageHead()); });
     }
     if (!finish(output, bytes))
         return false;

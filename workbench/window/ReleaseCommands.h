@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gui/print/PrintedPages.h>
 #include <release/import/FolderImport.h>
 #include <release/report/ReleaseReport.h>
 
@@ -39,6 +40,10 @@ public:
     /// A PDF file for a name that ends with ".pdf", else HTML. \a language is that of the editor.
     /// False if there is none now.
     bool writeReport(const QString &file);
+    /// A page of HTML with lists as long as anybody reads on paper. Nothing if it was cancelled.
+    [[nodiscard]] std::optional<QString> reportForPaper();
+    /// What stands above each page on paper: mapping and release, then \a more.
+    [[nodiscard]] PageHead pageHead(const QStringList &more = {}) const;
     void setLanguage(const QString &language) { m_language = language; }
 
 Q_SIGNALS:
@@ -52,6 +57,7 @@ private:
     [[nodiscard]] bool finish(QSaveFile &file, const QByteArray &bytes);
     [[nodiscard]] bool tellUnwritable(const QString &file, const QString &cause);
     [[nodiscard]] std::optional<VelkRelease::ReleaseReport> makeReport() const;
+    [[nodiscard]] std::optional<QString> reportPage(int mostRows);
     void tellImport(VelkRelease::FolderImport::Outcome outcome,
                     const VelkRelease::FolderImport &import);
 

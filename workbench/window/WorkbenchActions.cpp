@@ -76,6 +76,13 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
                        "Schreibt als PDF oder HTML, wie weit der Stand ist und warum Zeilen offen "
                        "sind"),
      "", "", true, false},
+    {"filePrint", QT_TRANSLATE_NOOP("WorkbenchActions", "&Drucken..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie"),
+     "Ctrl+P", "", true, false},
+    {"filePrintReport", QT_TRANSLATE_NOOP("WorkbenchActions", "Bericht drucken..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions", "Zeigt die Seiten des Berichts und druckt sie"), "", "",
+     true, false},
     {"fileQuit", QT_TRANSLATE_NOOP("WorkbenchActions", "&Beenden"),
      QT_TRANSLATE_NOOP("WorkbenchActions", "Beendet das Programm"), "Ctrl+Q", "", false, false},
     {"editUndo", QT_TRANSLATE_NOOP("WorkbenchActions", "&Rückgängig"),

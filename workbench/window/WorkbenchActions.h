@@ -28,6 +28,8 @@ public:
         ImportTables,
         ExportLines,
         WriteReport,
+        PrintTable,
+        PrintReport,
         Quit,
         Undo,
         Redo,

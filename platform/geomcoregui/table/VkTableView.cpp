@@ -1,5 +1,6 @@
 #include "VkTableView.h"
 
+#include "TableBar.h"
 #include "TableColumnOrder.h"
 #include "TableFilterBar.h"
 #include "TableFindBar.h"
@@ -8,7 +9,10 @@
 #include "VkTableModel.h"
 #include "VkTableViewPrivate.h"
 
+#include <gui/print/TablePages.h>
+
 #include <QEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 
@@ -144,6 +148,22 @@ boost::signals2::connection VkTableView::connectIconClicked(const IconClickedSlo
 void VkTableView::copySelection() const
 {
     d->copy();
+}
+
+QString VkTableView::title() const
+{
+    return d->title->text();
+}
+
+bool VkTableView::print(QPagedPaintDevice &device, const PageHead &head) const
+{
+    return TablePages(device, *d->grid,
+                      {.textRole = VkTableModel::WholeTextRole,
+                       .repeated = int(d->grid->frozenColumns().size()),
+                       .mostRows = PrintedRows,
+                       .more = tableText("und %1 weitere Zeilen")},
+                      head)
+        .print();
 }
 
 void VkTableView::showFindBar()

@@ -8,8 +8,13 @@
 
 #include <memory>
 
+QT_BEGIN_NAMESPACE
+class QPagedPaintDevice;
+QT_END_NAMESPACE
+
 class VkTableModel;
 class VkTableViewPrivate;
+struct PageHead;
 
 /// View of a table: a grid with an icon column for each status key, a find bar (Ctrl+F) and a row
 /// of quick filters (Ctrl+Shift+F). The table's selected line and the view's follow each other.
@@ -30,6 +35,7 @@ public:
 
     static constexpr double MinZoomFactor = 0.5;
     static constexpr double MaxZoomFactor = 4.0;
+    static constexpr int PrintedRows = 10'000;
 
     explicit VkTableView(QWidget *parent = nullptr);
     ~VkTableView() override;
@@ -81,6 +87,12 @@ public:
     /// Copies the selected lines with the captions of the columns, as text separated by tabs and as
     /// HTML. Nothing happens without a selected line.
     void copySelection() const;
+    /// Norm number and designation of the table, as they stand above it; empty without a table.
+    [[nodiscard]] QString title() const;
+    /// Puts the rows that are shown, with the columns as they stand, onto pages of paper: see
+    /// TablePages, which repeats columns that stay in sight. Behind PrintedRows rows the others are
+    /// only counted. False if the device cannot be painted on.
+    [[nodiscard]] bool print(QPagedPaintDevice &device, const PageHead &head) const;
     void showFindBar();
     void showFilterBar(bool show);
     /// Quick filters and the order of rows are kept in the application's configuration, by table,

@@ -1,8 +1,9 @@
 #include "PdfPages.h"
 
+#include "HtmlPages.h"
+
 #include <QBuffer>
 #include <QPdfWriter>
-#include <QTextDocument>
 #include <QThread>
 
 #include <memory>
@@ -10,9 +11,9 @@
 namespace {
 
 constexpr int dotsPerInch = 300;
-constexpr qreal fontPoints = 8;
+constexpr qreal marginMillimeters = 15;
 
-QByteArray makePages(const QString &html, const QString &title)
+QByteArray makePages(const QString &html, const QString &title, const PageHead &head)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -21,24 +22,20 @@ QByteArray makePages(const QString &html, const QString &title)
     writer.setTitle(title);
     writer.setResolution(dotsPerInch);
     writer.setPageSize(QPageSize(QPageSize::A4));
-    // The document keeps a margin of its own and puts the page number into it.
-    writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-    QTextDocument document;
-    QFont font = document.defaultFont();
-    font.setPointSizeF(fontPoints);
-    document.setDefaultFont(font);
-    document.setHtml(html);
-    document.print(&writer);
-    return bytes;
+    writer.setPageMargins(
+        QMarginsF(marginMillimeters, marginMillimeters, marginMillimeters, marginMillimeters),
+        QPageLayout::Millimeter);
+    return HtmlPages(writer, html, head).print() ? bytes : QByteArray();
 }
 
 } // namespace
 
 /// The layout of a document starts timers, which other threads than Qt's own do not have.
-QByteArray PdfPages::ofHtml(const QString &html, const QString &title)
+QByteArray PdfPages::ofHtml(const QString &html, const QString &title, const PageHead &head)
 {
     QByteArray bytes;
-    const std::unique_ptr<QThread> thread(QThread::create([&] { bytes = makePages(html, title); }));
+    const std::unique_ptr<QThread> thread(
+        QThread::create([&] { bytes = makePages(html, title, head); }));
     thread->start();
     thread->wait();
     return bytes;

@@ -10,16 +10,23 @@
 #include <release/export/MappingTable.h>
 #include <workbench/review/ReportTexts.h>
 #include <workbench/window/DocumentDesk.h>
+#include <workbench/window/EditorArea.h>
 #include <workbench/window/LogWindow.h>
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/ReleaseCommands.h>
+#include <workbench/window/StatusArea.h>
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <QAction>
+#include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QSet>
 #include <QSettings>
 #include <QSignalSpy>
@@ -62,11 +69,20 @@ class tst_ReleaseCommands : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        qputenv("CUPS_SERVER", "/no such socket");
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
     void everyTextIsThere();
     void menu();
     void report();
     void paper();
     void reportByMenu();
+    void printsTheTable();
+    void printsTheReport();
+    void nothingToPrint();
+    void paperThatCannotBeWritten();
     void exportsLines();
     void cancelled_data();
     void cancelled();
@@ -75,6 +91,31 @@ private Q_SLOTS:
     void importFaults();
     void importByMenu();
 };
+
+/// Answers the preview and the dialog behind its print button, which always offers a file.
+void printInto(ModalScript &script, const QString &file, const std::function<void()> &look = {})
+{
+    script.then([&script, look](QWidget *dialog) {
+        script.note(dialog);
+        if (look)
+            look();
+        const QList<QAction *> actions = dialog->findChildren<QAction *>();
+        const auto print = std::ranges::find_if(actions, [](const QAction *action) {
+            return action->objectName() == "printAction" || action->text() == "Print";
+        });
+        QVERIFY(print != actions.end());
+        // The next dialog is answered only behind this one's answer.
+        QTimer::singleShot(0, *print, &QAction::trigger);
+    });
+    script.then([file](QWidget *dialog) {
+        auto *const print = qobject_cast<QPrintDialog *>(dialog);
+        QVERIFY(print);
+        auto *const printers = print->findChild<QComboBox *>("printers");
+        printers->setCurrentIndex(printers->findText("PDF", Qt::MatchContains));
+        print->findChild<QLineEdit *>("filename")->setText(file);
+        static_cast<QDialog *>(print)->accept();
+    });
+}
 
 /// Each number of the report has a text of its own, in both languages.
 void tst_ReleaseCommands::everyTextIsThere()
@@ -177,6 +218,93 @@ void tst_ReleaseCommands::reportByMenu()
     QCOMPARE(script.seen, QStringList{"ReportFileDialog"});
     QVERIFY(contentOf(file).startsWith("<!DOCTYPE html>"));
     QCOMPARE(fixture.settings->store()->value("Report/folder").toString(), QFileInfo(file).path());
+}
+
+void tst_ReleaseCommands::printsTheTable()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    QVERIFY(fixture.window->editor()->selectProject("standardparts/screws/din933.prj"));
+    const QString file = fixture.directory.filePath("table.pdf");
+    ModalScript script;
+    printInto(script, file, [&] {
+        const auto *const preview = QApplication::activeModalWidget();
+        QCOMPARE(preview->windowTitle(), "Drucken: standardparts/screws/din933.prj");
+        const auto *const pages = preview->findChild<QPrintPreviewWidget *>();
+        QTRY_VERIFY(pages->pageCount() > 0);
+        QCOMPARE(pages->orientation(), QPageLayout::Landscape);
+    });
+    fixture.press(Qt::Key_P, Qt::ControlModifier);
+    QCOMPARE(script.seen, QStringList{"PrintPreview"});
+    QVERIFY(script.isDone());
+    const QByteArray bytes = contentOf(file);
+    QVERIFY(bytes.startsWith("%PDF-"));
+    QVERIFY(bytes.count("/Type /Page\n") >= 1);
+    QCOMPARE(fixture.window->status()->note(),
+             "standardparts/screws/din933.prj nach " + file + " gedruckt");
+}
+
+void tst_ReleaseCommands::printsTheReport()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    const QString file = fixture.directory.filePath("report.pdf");
+    int pages = 0;
+    ModalScript script;
+    printInto(script, file, [&] {
+        const auto *const preview =
+            QApplication::activeModalWidget()->findChild<QPrintPreviewWidget *>();
+        QTRY_VERIFY(preview->pageCount() > 5);
+        QCOMPARE(preview->orientation(), QPageLayout::Portrait);
+        pages = preview->pageCount();
+    });
+    fixture.action("filePrintReport")->trigger();
+    QVERIFY(script.isDone());
+    QCOMPARE(contentOf(file).count("/Type /Page\n"), pages);
+    const PageHead head = fixture.window->releases()->pageHead({"more"});
+    QVERIFY2(head.text.startsWith("m.json – ") && head.text.endsWith(" – more"),
+             qPrintable(head.text));
+    QCOMPARE(head.number, "Seite %1 von %2");
+}
+
+void tst_ReleaseCommands::nothingToPrint()
+{
+    WindowFixture fixture;
+    QVERIFY(!fixture.action("filePrint")->isEnabled());
+    QVERIFY(!fixture.action("filePrintReport")->isEnabled());
+    // A table that cannot be read.
+    fixture.open(fixture.mappingFile());
+    QVERIFY(fixture.window->editor()->selectProject("standardparts/plugs/din908.prj"));
+    fixture.action("filePrint")->trigger();
+    QCOMPARE(fixture.window->status()->note(),
+             "Es ist keine Tabelle zu sehen, die gedruckt werden kann");
+}
+
+void tst_ReleaseCommands::paperThatCannotBeWritten()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    QVERIFY(fixture.window->editor()->selectProject("standardparts/screws/din933.prj"));
+    const QString file = fixture.directory.filePath("folder.pdf");
+    QVERIFY(QDir().mkpath(file));
+    ModalScript script;
+    script.then([&](QWidget *dialog) {
+        auto *const preview = qobject_cast<QPrintPreviewDialog *>(dialog);
+        QVERIFY(preview);
+        preview->printer()->setOutputFileName(file + "/no such folder/table.pdf");
+        const auto *const pages = preview->findChild<QPrintPreviewWidget *>();
+        QVERIFY(pages);
+        QMetaObject::invokeMethod(const_cast<QPrintPreviewWidget *>(pages), "print");
+        preview->accept();
+    });
+    script.then([&](QWidget *dialog) {
+        script.note(dialog);
+        dialog->close();
+    });
+    fixture.action("filePrint")->trigger();
+    QVERIFY(script.isDone());
+    QVERIFY2(script.texts.join(' ').contains("konnte nicht gedruckt werden"),
+             qPrintable(script.texts.join(' ')));
 }
 
 void tst_ReleaseCommands::exportsLines()
