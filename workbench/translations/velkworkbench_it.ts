@@ -4735,7 +4735,7 @@ Riga: %2
     </message>
     <message>
         <source>&amp;Drucken...</source>
-        <translation>&amp;Stampa...</translation>
+        <translation>Sta&amp;mpa...</translation>
     </message>
     <message>
         <source>Zeigt die Seiten der Tabelle, die zu sehen ist, und druckt sie</source>
