@@ -20,7 +20,7 @@
 namespace {
 
 /// Of more directories with changed files than these all of a catalog comes anew: that is one call.
-constexpr qsizetype MostDirectories = 500;
+constexpr qsizetype MostDirectories = 200;
 
 RepositoryAnswer failed(const QString &text)
 {

@@ -225,6 +225,9 @@ bool CatalogIndexFile::makeSchema()
         if (!run(QLatin1String(statement)))
             return false;
     }
+    // More is gathered in memory before a part of the word index is written: fewer parts to merge.
+    if (!run(QStringLiteral("INSERT INTO words(words, rank) VALUES('hashsize', 16777216)")))
+        return false;
     QSqlQuery root = prepared(QStringLiteral("INSERT INTO meta VALUES('root', ?)"));
     root.addBindValue(m_root);
     return run(root) && run(QStringLiteral("COMMIT"));

@@ -19,7 +19,9 @@
 namespace {
 
 /// So many projects are read and written in one transaction.
-constexpr size_t BatchSize = 1024;
+constexpr size_t BatchSize = 4096;
+/// So many are read in one step: threads that take steps one by one wait for each other.
+constexpr size_t ReadInOneStep = 8;
 /// After so many the caller is told, and may break off.
 constexpr size_t TellEvery = 64;
 
@@ -201,11 +203,15 @@ bool CatalogIndexUpdate::Private::readBatch(const CatalogScan &scan, size_t begi
         }
         return true;
     };
-    const auto read = [&](int i) {
-        projects[size_t(i)] = IndexedProject::read(root, all[begin + size_t(i)].path);
-        areRead[size_t(i)] = true;
+    const auto read = [&](int step) {
+        const size_t first = size_t(step) * ReadInOneStep;
+        for (size_t i = first; i < std::min(first + ReadInOneStep, projects.size()); ++i) {
+            projects[i] = IndexedProject::read(root, all[begin + i].path);
+            areRead[i] = true;
+        }
     };
-    (void)WorkerPool::instance().run(int(projects.size()), read, writeThoseRead);
+    const size_t steps = (projects.size() + ReadInOneStep - 1) / ReadInOneStep;
+    (void)WorkerPool::instance().run(int(steps), read, writeThoseRead);
     return !failed && file.run(QStringLiteral("COMMIT"));
 }
 

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -16,7 +17,7 @@ constexpr size_t LookedAtOnce = 4096;
 constexpr size_t LookedInOneStep = 64;
 
 /// The files of a project as the index has them, from a column of the query on. A name alone lies
-/// beside the project: located() makes a path of it.
+/// beside the project.
 IndexedFiles filesAt(const QSqlQuery &query, int at)
 {
     const auto stamp = [&query](int column) {
@@ -30,13 +31,9 @@ IndexedFiles filesAt(const QSqlQuery &query, int at)
             stamp(at + 6)};
 }
 
-IndexedFiles located(IndexedFiles files, const QString &directory)
+QString nameOf(const QString &path)
 {
-    for (QString *const file : {&files.descriptor, &files.lines}) {
-        if (!file->isEmpty() && !file->contains(u'/') && !file->contains(u'\\'))
-            *file = directory + QDir::separator() + *file;
-    }
-    return files;
+    return path.mid(path.lastIndexOf(u'/') + 1);
 }
 
 const char *const FileColumns = "time, size, table_file, table_time, table_size, lines_file,"
@@ -178,13 +175,13 @@ bool CatalogScan::compareProjects(const Directory &directory, QSet<QString> foun
     query.addBindValue(directory.id);
     if (!m_file.run(query))
         return false;
-    const QString native = nativeOf(directory.path);
+    const DirectoryStamps stamps(nativeOf(directory.path));
     while (query.next()) {
         const qint64 id = query.value(0).toLongLong();
         const QString path = query.value(1).toString();
         if (!found.remove(path))
             m_gone.push_back(id);
-        else if (!located(filesAt(query, 2), native).areUnchanged(nativeOf(path)))
+        else if (!filesAt(query, 2).areUnchanged(nameOf(path), stamps))
             m_work.push_back({path, directory.id, id});
     }
     QStringList added(found.cbegin(), found.cend());
@@ -217,11 +214,12 @@ void CatalogScan::lookAtFiles()
     std::vector<char> changed(m_kept.size(), 0);
     const auto look = [&](int step) {
         const size_t begin = size_t(step) * LookedInOneStep;
+        std::optional<DirectoryStamps> stamps;
         for (size_t i = begin; i < std::min(begin + LookedInOneStep, m_kept.size()); ++i) {
             const Kept &kept = m_kept[i];
-            changed[i] =
-                located(kept.files, kept.directory).areUnchanged(nativeOf(kept.project.path)) ? 0
-                                                                                              : 1;
+            if (!stamps || stamps->directory() != kept.directory)
+                stamps.emplace(kept.directory);
+            changed[i] = kept.files.areUnchanged(nameOf(kept.project.path), *stamps) ? 0 : 1;
         }
     };
     WorkerPool::instance().run(int((m_kept.size() + LookedInOneStep - 1) / LookedInOneStep), look);

@@ -21,3 +21,21 @@ struct FileStamp
 
     friend bool operator==(const FileStamp &, const FileStamp &) = default;
 };
+
+/// Stamps of the files of one directory, which costs less than asking by whole paths.
+class DirectoryStamps
+{
+public:
+    /// \a directory: native path.
+    explicit DirectoryStamps(const QString &directory);
+    ~DirectoryStamps();
+    Q_DISABLE_COPY_MOVE(DirectoryStamps)
+
+    [[nodiscard]] const QString &directory() const { return m_directory; }
+    /// Of a name in the directory, or of a path.
+    [[nodiscard]] FileStamp of(const QString &file) const;
+
+private:
+    const QString m_directory;
+    int m_handle = -1;
+};

@@ -240,11 +240,11 @@ void readTable(IndexedProject &project, const QString &projectFile)
 
 } // namespace
 
-bool IndexedFiles::areUnchanged(const QString &projectFile) const
+bool IndexedFiles::areUnchanged(const QString &projectName, const DirectoryStamps &beside) const
 {
-    return FileStamp::of(projectFile) == project &&
-           (descriptor.isEmpty() || FileStamp::of(descriptor) == descriptorStamp) &&
-           (lines.isEmpty() || FileStamp::of(lines) == linesStamp);
+    return beside.of(projectName) == project &&
+           (descriptor.isEmpty() || beside.of(descriptor) == descriptorStamp) &&
+           (lines.isEmpty() || beside.of(lines) == linesStamp);
 }
 
 IndexedProject IndexedProject::read(const QString &root, const QString &catalogPath)

@@ -17,8 +17,10 @@ struct IndexedFiles
     QString lines; ///< Native path of the CSV file.
     FileStamp linesStamp;
 
-    /// Whether all of them are as they were. \a projectFile: native path of the project.
-    [[nodiscard]] bool areUnchanged(const QString &projectFile) const;
+    /// Whether all of them are as they were; descriptor and lines may be names that lie beside the
+    /// project. \a projectName: the project's in its directory.
+    [[nodiscard]] bool areUnchanged(const QString &projectName,
+                                    const DirectoryStamps &beside) const;
 };
 
 /// The values of one column of a project's table.
