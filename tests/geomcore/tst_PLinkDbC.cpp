@@ -367,7 +367,9 @@ void tst_PLinkDbC::connectionLostInAStatement()
     QVERIFY(linkDb->open(LinkDbSettings::fromText(m_server->newDatabase())));
     QVERIFY(linkDb->executeInsertStatement("INSERT INTO plm_document(GEO_ID) VALUES('a')"));
     // Between the savepoint and its release.
-    QVERIFY(!linkDb->executeInsertStatement("SELECT pg_terminate_backend(pg_backend_pid())"));
+    QVERIFY(!linkDb->executeInsertStatement(
+        "DO $$ BEGIN PERFORM pg_terminate_backend(pg_backend_pid()); PERFORM pg_sleep(20); END "
+        "$$"));
     QVERIFY(linkDb->lastError().lost);
     QVERIFY(!linkDb->isPending());
     QVERIFY(!linkDb->commit());
