@@ -42,7 +42,7 @@ struct RuleScore
     int referenceGone = 0; ///< Gone lines for which the reference has a line.
     Calibration calibration;
     QStringList decided; ///< What was decided, and for how many lines.
-    QStringList misses; ///< Known lines without the right proposal, gone lines with one.
+    QStringList misses;  ///< Known lines without the right proposal, gone lines with one.
     QString error;
 
     /// \a sourceRoot and \a targetRoot hold the imported catalogs of \a set.
