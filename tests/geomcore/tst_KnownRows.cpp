@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int Lines = 9000;
+constexpr int Lines = 4000;
 
 PrjMappingTargetC targetOf(const QString &path, int lines, int step = 1)
 {
@@ -137,7 +137,7 @@ private Q_SLOTS:
         const QByteArray base = bytesOf(baseRelease());
         QTest::newRow("nothing changed") << base;
         QTest::newRow("one line") << edited([](PrjMappingTargetC &target) {
-            target.addLineId(8000, 17, PRJMAPPING::Verified, QString());
+            target.addLineId(5000, 17, PRJMAPPING::Verified, QString());
         });
         QTest::newRow("first line gone")
             << edited([](PrjMappingTargetC &target) { target.removeLineId(2); });
@@ -162,7 +162,7 @@ private Q_SLOTS:
             for (int line = Lines; line <= 2 * Lines; ++line)
                 target.removeLineId(line);
         });
-        for (quint32 seed = 0; seed < 20; ++seed)
+        for (quint32 seed = 0; seed < 8; ++seed)
             QTest::addRow("random %u", seed)
                 << edited([seed](PrjMappingTargetC &target) { randomEdits(target, seed); });
 
@@ -181,9 +181,9 @@ private Q_SLOTS:
         QTest::newRow("a row behind its place")
             << descending.replace(row, 4, "[3,").replace("[22,", "[21,");
         QByteArray broken = base;
-        QTest::newRow("a row that is none") << broken.replace("[9000,", "[9000;");
+        QTest::newRow("a row that is none") << broken.replace("[4000,", "[9000;");
         QByteArray twice = base;
-        QTest::newRow("a row once more") << twice.replace("[9002,", "[9000,");
+        QTest::newRow("a row once more") << twice.replace("[4002,", "[4000,");
         QTest::newRow("cut off") << base.first(base.size() / 2);
     }
     void readsTheSame()
@@ -200,7 +200,7 @@ private Q_SLOTS:
     void rowsOutOfOrderAreNotNoted()
     {
         QByteArray json = bytesOf(baseRelease());
-        json.replace(json.indexOf("[20,"), 4, "[19999,");
+        json.replace(json.indexOf("[20,"), 4, "[7999,");
         const QTemporaryDir folder;
         const QString path = folder.filePath("base.json");
         writeFile(path, json);

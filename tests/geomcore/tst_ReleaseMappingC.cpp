@@ -51,6 +51,45 @@ private Q_SLOTS:
         QCOMPARE(release.getMappingState().toInt(), 0);
     }
 
+    // A document takes the kept text, and of nothing but the release as it was.
+    void keptTextIsThatOfTheRelease()
+    {
+        QRandomGenerator random(7);
+        const ReleaseMappingC release = RecordSamples::randomRelease(random, "2022");
+        const auto bytes = [](const ReleaseMappingC &of, bool compact, bool headsOnly = false) {
+            PJsonValue value;
+            of.toJson(value, headsOnly);
+            PJsonValue document(PJsonValue::Object);
+            document["2022"] = value;
+            PJsonValue deeper(PJsonValue::Object);
+            deeper["in"] = document;
+            return document.toByteArray(compact) + deeper.toByteArray(compact) +
+                   value.toByteArray(compact);
+        };
+        const QByteArray plain = bytes(release, false);
+        const QByteArray compact = bytes(release, true);
+        const QByteArray heads = bytes(release, false, true);
+        ReleaseMappingC changed = release;
+        changed.setTargetDate("2030");
+        const QByteArray other = bytes(changed, false);
+        QVERIFY(other != plain);
+
+        ReleaseMappingC own = release;
+        auto text = own.keepText();
+        QCOMPARE(bytes(own, false), plain);
+        QCOMPARE(bytes(release, false), plain);
+        QCOMPARE(bytes(own, true), compact);
+        QCOMPARE(bytes(own, false, true), heads);
+        own.setTargetDate("2030");
+        QCOMPARE(bytes(own, false), other);
+        QCOMPARE(bytes(release, false), plain);
+        PJsonValue document(PJsonValue::Object);
+        release.toJson(document["2022"], false);
+        text.reset();
+        QCOMPARE(bytes(release, false), plain);
+        QVERIFY(document.toByteArray(false) == plain.first(document.toByteArray(false).size()));
+    }
+
     void findMapping_data()
     {
         QTest::addColumn<QString>("path");

@@ -319,6 +319,9 @@ void tst_SharingFaults::storeDamaged_data()
     QTest::addColumn<int>("status");
     QTest::newRow("texts are gone") << "gone" << 0;
     QTest::newRow("other texts") << "other" << 0;
+    QTest::newRow("database empty") << "empty" << 0;
+    QTest::newRow("database torn") << "torn" << 0;
+    QTest::newRow("no database") << "missing" << 0;
     QTest::newRow("nothing is known") << "unknown" << 3;
 }
 
@@ -360,8 +363,15 @@ void tst_SharingFaults::storeDamaged()
         else
             QVERIFY(QFile::resize(file, 3));
     }
+    const QString database = copy + "/.svn/wc.db";
+    if (damage == "empty" || damage == "unknown")
+        QVERIFY(QFile::resize(database, 0));
+    if (damage == "torn")
+        QVERIFY(QFile::resize(database, 20000));
+    if (damage == "missing")
+        QVERIFY(QFile::remove(database));
     if (damage == "unknown")
-        QVERIFY(QFile::resize(copy + "/.svn/wc.db", 0));
+        QVERIFY(QFile::remove(copy + "/.svn/velk-origin.json"));
     QCOMPARE(velkmap({"publish", "--mapping", mine("anna")}), status);
     QCOMPARE(bytes(notes.fileName()), "second");
     QCOMPARE(lineIn(mine("anna"), Bolts, 1), 5);

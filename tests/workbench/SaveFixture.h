@@ -62,7 +62,7 @@ protected:
                                        const SaveOptions &options = {})
     {
         const ReleaseMappingC release = changedRelease();
-        GuardedSave guard(m_file, FileState::of(m_file), SessionFixture::sampleRelease());
+        GuardedSave guard(m_file, {FileState::of(m_file), SessionFixture::sampleRelease()});
         return guard.run(release, commit, options);
     }
 

@@ -1,7 +1,6 @@
 #include "DocumentFile.h"
 
 #include "BackgroundWork.h"
-#include "GuardedSave.h"
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>
@@ -38,6 +37,7 @@ QString readRelease(DocumentFile::Reading &reading, QStringList &dates)
         reading.date = dates.value(dates.size() - 1);
     if (dates.contains(reading.date))
         reading.release = mappings.release(reading.date);
+    reading.isAlone = dates.size() == 1;
     return QString();
 }
 
@@ -115,8 +115,7 @@ void DocumentFile::leave()
     m_path.clear();
     m_readOnly = ReadOnlyReason::None;
     m_otherOwner = SessionOwner();
-    m_known = FileState();
-    m_loaded = ReleaseMappingC();
+    m_known = KnownFile();
 }
 
 void DocumentFile::takeLock(MappingDocument::Access access)
@@ -212,20 +211,10 @@ SessionRecovery DocumentFile::findRecovery(const FileContent &content) const
     return *recovery;
 }
 
-void DocumentFile::setKnown(const FileState &state, const ReleaseMappingC &release)
-{
-    m_known = state;
-    m_loaded = release;
-}
-
 SaveOutcome DocumentFile::save(const ReleaseMappingC &release, const QString &rootName,
                                const SaveOptions &options)
 {
-    FileState saved;
-    SaveOutcome outcome = run(m_path, m_known, m_loaded, release, rootName, options, saved);
-    if (outcome.result == SaveResult::Saved)
-        setKnown(saved, release);
-    return outcome;
+    return run(m_path, m_known, release, rootName, options);
 }
 
 SaveOutcome DocumentFile::saveAs(const QString &path, const ReleaseMappingC &release,
@@ -240,21 +229,21 @@ SaveOutcome DocumentFile::saveAs(const QString &path, const ReleaseMappingC &rel
         outcome.text = lockText(lock, taken, path);
         return outcome;
     }
-    FileState saved;
-    outcome = run(path, FileState::of(path), ReleaseMappingC(), release, rootName, options, saved);
+    KnownFile known{FileState::of(path), {}};
+    outcome = run(path, known, release, rootName, options);
     if (outcome.result != SaveResult::Saved)
         return outcome;
     lock.release();
     moveTo(path, MappingDocument::Access::ReadWrite);
-    setKnown(saved, release);
+    setKnown(known);
     return outcome;
 }
 
-SaveOutcome DocumentFile::run(const QString &path, const FileState &known,
-                              const ReleaseMappingC &loaded, const ReleaseMappingC &release,
-                              const QString &rootName, const SaveOptions &options, FileState &saved)
+/// \a known becomes what was saved.
+SaveOutcome DocumentFile::run(const QString &path, KnownFile &known, const ReleaseMappingC &release,
+                              const QString &rootName, const SaveOptions &options)
 {
-    GuardedSave guard(path, known, loaded);
+    GuardedSave guard(path, known);
     SaveOutcome outcome;
     BackgroundWork::run(tr("%1 wird gespeichert").arg(QFileInfo(path).fileName()), [&] {
         const auto commit = [&](const QString &copy) {
@@ -262,7 +251,8 @@ SaveOutcome DocumentFile::run(const QString &path, const FileState &known,
         };
         outcome = guard.run(release, commit, options);
     });
-    saved = guard.savedState();
+    if (outcome.result == SaveResult::Saved)
+        known = guard.saved();
     return outcome;
 }
 

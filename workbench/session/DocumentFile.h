@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GuardedSave.h"
 #include "MappingDocument.h"
 #include "OwnFile.h"
 #include "SessionRecovery.h"
@@ -25,7 +26,9 @@ public:
         FileContent content;
         QString date; ///< of the release
         std::optional<ReleaseMappingC> release;
-        QStringList notes; ///< what was put right while reading
+        bool isAlone = false; ///< the file holds no other release
+        QStringList notes;    ///< what was put right while reading
+        [[nodiscard]] KnownFile known() const { return {content.state, *release, isAlone}; }
         MappingDocument::OpenResult result = MappingDocument::OpenResult::Opened;
         QString errorText; ///< unless there is a release
     };
@@ -58,10 +61,10 @@ public:
     /// What a session that was not closed left.
     [[nodiscard]] SessionRecovery findRecovery(const FileContent &content) const;
 
-    [[nodiscard]] const FileState &known() const { return m_known; }
-    [[nodiscard]] const ReleaseMappingC &loaded() const { return m_loaded; }
+    [[nodiscard]] const FileState &known() const { return m_known.state; }
+    [[nodiscard]] const ReleaseMappingC &loaded() const { return m_known.release; }
     /// The file as it is, with the release in it as it was read or saved.
-    void setKnown(const FileState &state, const ReleaseMappingC &release);
+    void setKnown(const KnownFile &known) { m_known = known; }
 
     [[nodiscard]] SaveOutcome save(const ReleaseMappingC &release, const QString &rootName,
                                    const SaveOptions &options);
@@ -78,10 +81,9 @@ public:
                                           const QString &path);
 
 private:
-    [[nodiscard]] static SaveOutcome run(const QString &path, const FileState &known,
-                                         const ReleaseMappingC &loaded,
+    [[nodiscard]] static SaveOutcome run(const QString &path, KnownFile &known,
                                          const ReleaseMappingC &release, const QString &rootName,
-                                         const SaveOptions &options, FileState &saved);
+                                         const SaveOptions &options);
     void takeLock(MappingDocument::Access access);
 
     QString m_path;
@@ -90,6 +92,5 @@ private:
     MappingDocument::ReadOnlyReason m_readOnly = MappingDocument::ReadOnlyReason::None;
     QString m_readOnlyCause;
     SessionOwner m_otherOwner;
-    FileState m_known;        ///< the file as it was read or saved last
-    ReleaseMappingC m_loaded; ///< the release in it
+    KnownFile m_known;
 };

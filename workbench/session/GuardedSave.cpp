@@ -1,5 +1,7 @@
 #include "GuardedSave.h"
 
+#include "ReadBack.h"
+
 #include <geomcore/records/MappingFile.h>
 
 #include <QFile>
@@ -30,10 +32,9 @@ PJsonValue valueOf(const ReleaseMappingC &release)
 
 } // namespace
 
-GuardedSave::GuardedSave(const QString &file, const FileState &known, const ReleaseMappingC &loaded)
+GuardedSave::GuardedSave(const QString &file, const KnownFile &known)
     : m_file(file)
     , m_known(known)
-    , m_loaded(loaded)
 {
 }
 
@@ -42,8 +43,13 @@ SaveOutcome GuardedSave::run(const ReleaseMappingC &release, const Commit &commi
 {
     m_outcome = SaveOutcome();
     m_release = release;
+    // Written into the copy and compared with what was written there.
+    const auto text = std::async(std::launch::async, [this] { return m_release.keepText(); });
     QLockFile lock(lockFile(m_file));
-    if (!takeLock(lock) || !examine(options) || !write(commit))
+    if (!takeLock(lock) || !examine(options))
+        return m_outcome;
+    text.wait();
+    if (!write(commit))
         return m_outcome;
     if (!keepFormer() || !putInPlace())
         OwnFile::remove(copyFile(m_file));
@@ -88,11 +94,23 @@ bool GuardedSave::takeLock(QLockFile &lock)
                    .arg(m_file, fault));
 }
 
+/// Whether the file is still the known one, with this release alone: then there is nothing in it
+/// that would have to be read.
+bool GuardedSave::isAsKnown()
+{
+    if (!m_known.isAlone || m_known.release.getSourceDate() != date())
+        return false;
+    m_before = FileContent::withoutBytes(m_file);
+    return m_before.error.isEmpty() && m_before.state.sameContent(m_known.state);
+}
+
 bool GuardedSave::examine(const SaveOptions &options)
 {
-    m_before = FileContent::of(m_file);
     m_members = PJsonValue(PJsonValue::Object);
-    m_readable = false;
+    m_readable = isAsKnown();
+    if (m_readable)
+        return true;
+    m_before = FileContent::of(m_file);
     if (!m_before.error.isEmpty())
         return end(SaveResult::WriteFailed,
                    tr("%1 kann nicht gelesen werden (%2). Es wurde nichts geschrieben. Bitte unter "
@@ -105,7 +123,7 @@ bool GuardedSave::examine(const SaveOptions &options)
         if (!m_readable)
             return examineUnreadable(error, options);
     }
-    return m_before.state.sameContent(m_known) || options.overForeignChange ||
+    return m_before.state.sameContent(m_known.state) || options.overForeignChange ||
            reportForeignChange();
 }
 
@@ -154,8 +172,8 @@ bool GuardedSave::reportForeignChange()
                        .arg(m_file, date()));
     MappingFile there;
     m_outcome.onlyOtherReleases =
-        there.parse(m_before.bytes, date()) &&
-        valueOf(there.release(date())).toByteArray(true) == valueOf(m_loaded).toByteArray(true);
+        there.parse(m_before.bytes, date()) && valueOf(there.release(date())).toByteArray(true) ==
+                                                   valueOf(m_known.release).toByteArray(true);
     return end(
         SaveResult::ForeignChange,
         (m_outcome.onlyOtherReleases
@@ -196,8 +214,6 @@ bool GuardedSave::write(const Commit &commit)
 QString GuardedSave::fillCopy(const Commit &commit)
 {
     const QString copy = copyFile(m_file);
-    std::future<QByteArray> expected =
-        std::async(std::launch::async, [this] { return expectedContent(); });
     // This release's former text would be read for nothing; its place among the others counts.
     PJsonValue others = m_members;
     if (others.contains(date()))
@@ -206,30 +222,45 @@ QString GuardedSave::fillCopy(const Commit &commit)
     if (!OwnFile::remove(copy, &error) ||
         !OwnFile::create(copy, others.toByteArray(false), m_file, &error))
         return error;
-    const bool committed = commit(copy);
-    const QByteArray wanted = expected.get();
-    if (!committed) {
+    if (!commit(copy)) {
         // The function does not say why; trying the same does.
-        const bool fits = OwnFile::replace(copy, wanted, &error);
+        const bool fits = OwnFile::replace(copy, expected().toByteArray(false), &error);
         return fits ? tr("die Datei konnte nicht vollständig geschrieben werden") : error;
+    }
+    const QString fault = readBack(copy);
+    return fault.isEmpty() && !OwnFile::syncPath(copy, &error) ? error : fault;
+}
+
+/// What the file should hold afterwards.
+PJsonValue GuardedSave::expected() const
+{
+    PJsonValue document = m_members;
+    document[date()] = valueOf(m_release);
+    return document;
+}
+
+/// What is wrong with the copy, or nothing: then it is noted as saved.
+QString GuardedSave::readBack(const QString &copy)
+{
+    QFile file;
+    QString error;
+    if (!OwnFile::open(file, copy, QIODevice::ReadOnly | QIODevice::Unbuffered, &error))
+        return error;
+    ReadBack comparison(file);
+    m_saved.state.exists = true;
+    m_saved.release = m_release;
+    m_saved.isAlone = expected().size() == 1;
+    if (expected().writeTo(comparison, false) && comparison.isSame()) {
+        m_saved.state.size = comparison.readSize();
+        m_saved.state.hash = comparison.hash();
+        return QString();
     }
     const std::optional<QByteArray> written = OwnFile::read(copy, &error);
     if (!written)
         return error;
-    const QString fault = *written == wanted ? QString() : check(*written);
-    if (!fault.isEmpty() || !OwnFile::syncPath(copy, &error))
-        return fault.isEmpty() ? error : fault;
-    m_saved.exists = true;
-    m_saved.size = written->size();
-    m_saved.hash = FileState::hashOf(*written);
-    return QString();
-}
-
-QByteArray GuardedSave::expectedContent() const
-{
-    PJsonValue document = m_members;
-    document[date()] = valueOf(m_release);
-    return document.toByteArray(false);
+    m_saved.state.size = written->size();
+    m_saved.state.hash = FileState::hashOf(*written);
+    return check(*written);
 }
 
 /// What is wrong with a content that differs from what was expected in more than its form.
@@ -293,7 +324,7 @@ bool GuardedSave::putInPlace()
                       "sind weiterhin geöffnet. Bitte unter einem anderen Namen speichern.")
                        .arg(m_file, error));
     OwnFile::syncFolder(m_file);
-    m_saved.time = QDateTime::currentDateTimeUtc();
+    m_saved.state.time = QDateTime::currentDateTimeUtc();
     return true;
 }
 

@@ -14,6 +14,14 @@
 
 class QLockFile;
 
+/// A mapping file as it was read or saved last.
+struct KnownFile
+{
+    FileState state;
+    ReleaseMappingC release; ///< the one that is edited; without dates: it was not there
+    bool isAlone = false;    ///< the file was in order and held no other release
+};
+
 /// Puts a release into its mapping file by way of a function that may leave what it writes damaged.
 /// It writes into a copy beside the file, which is compared with what should be there and then
 /// takes the file's place: the mapping file is the former or the new one at any time. Around that a
@@ -27,14 +35,13 @@ public:
     /// false if it noticed that it failed.
     using Commit = std::function<bool(const QString &copy)>;
 
-    /// \a file is the mapping file, \a known its state when it was read or saved last, \a loaded
-    /// the release as it was there then (not valid dates: it was not there).
-    GuardedSave(const QString &file, const FileState &known, const ReleaseMappingC &loaded);
+    /// \a file is the mapping file, \a known what it was when it was read or saved last.
+    GuardedSave(const QString &file, const KnownFile &known);
 
     [[nodiscard]] SaveOutcome run(const ReleaseMappingC &release, const Commit &commit,
                                   const SaveOptions &options);
     /// The file after a successful run().
-    [[nodiscard]] const FileState &savedState() const { return m_saved; }
+    [[nodiscard]] const KnownFile &saved() const { return m_saved; }
 
     /// What the file was before the last saving, and with a larger \a age before the ones before
     /// that, up to Backups.
@@ -50,11 +57,13 @@ public:
 private:
     [[nodiscard]] bool takeLock(QLockFile &lock);
     [[nodiscard]] bool examine(const SaveOptions &options);
+    [[nodiscard]] bool isAsKnown();
     [[nodiscard]] bool examineUnreadable(const QString &error, const SaveOptions &options);
     [[nodiscard]] bool reportForeignChange();
     [[nodiscard]] bool write(const Commit &commit);
     [[nodiscard]] QString fillCopy(const Commit &commit);
-    [[nodiscard]] QByteArray expectedContent() const;
+    [[nodiscard]] PJsonValue expected() const;
+    [[nodiscard]] QString readBack(const QString &copy);
     [[nodiscard]] QString check(const QByteArray &written) const;
     [[nodiscard]] bool keepFormer();
     void keepOlder() const;
@@ -63,12 +72,11 @@ private:
     [[nodiscard]] QString date() const { return m_release.getSourceDate(); }
 
     const QString m_file;
-    const FileState m_known;
-    const ReleaseMappingC m_loaded;
+    const KnownFile m_known;
     ReleaseMappingC m_release;
     PJsonValue m_members; ///< of the file, or of the backup if the file cannot be read
-    FileContent m_before;
+    FileContent m_before; ///< without its bytes if it is as known
     bool m_readable = false;
-    FileState m_saved;
+    KnownFile m_saved;
     SaveOutcome m_outcome;
 };

@@ -43,7 +43,7 @@ MergeOutcome MappingDocumentPrivate::mergeFile(const VelkRelease::MergeResult *k
     if (known)
         result = *known;
     result.release = merged;
-    file.setKnown(reading.content.state, *reading.release);
+    file.setKnown(reading.known());
     mergeState = MergeState(result);
     steps.noteMerged();
     steps.noteSaved(reading.content.state.hash);

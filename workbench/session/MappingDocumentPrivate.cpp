@@ -69,7 +69,7 @@ OpenResult MappingDocumentPrivate::open(const MappingDocument::OpenRequest &requ
         (void)SessionRecovery::putAside(path);
     for (const QString &note : std::as_const(reading.notes))
         PMessage::LogToWindow(path + QStringLiteral(": ") + note);
-    file.setKnown(reading.content.state, *reading.release);
+    file.setKnown(reading.known());
     return begin(*reading.release, request.rootName);
 }
 
@@ -87,7 +87,7 @@ OpenResult MappingDocumentPrivate::openNew(const ReleaseMappingC &release, const
     // A release of this date that is there already counts as somebody else's.
     const FileContent content = FileContent::of(canonical);
     const bool isTaken = DocumentFile::datesIn(content, nullptr).contains(release.getSourceDate());
-    file.setKnown(isTaken ? FileState() : content.state, ReleaseMappingC());
+    file.setKnown({isTaken ? FileState() : content.state, {}});
     const OpenResult result = begin(release, name, true);
     steps.history().markDirty();
     tellModified();
@@ -136,9 +136,9 @@ OpenResult MappingDocumentPrivate::openRecovered(const SessionRecovery &recovery
 {
     // Saving over what somebody else did since must be asked for.
     if (recovery.fitsSavedFile())
-        file.setKnown(recovery.savedState(), recovery.savedRelease());
+        file.setKnown({recovery.savedState(), recovery.savedRelease()});
     else
-        file.setKnown(FileState(), ReleaseMappingC());
+        file.setKnown({});
     // The side file gets all that is recovered before the journal goes.
     QString error;
     if (!file.autosave(recovered, &error))

@@ -1,11 +1,14 @@
 #include "OwnFile.h"
 
+#include <core/files/ContentHash.h>
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
 #include <cstdio>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -85,6 +88,18 @@ bool writeAll(int file, QByteArrayView content)
 bool syncDescriptor(int file)
 {
     return ::fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
+}
+
+/// What is to be known before reading: what changes meanwhile is a change.
+FileContent begun(const QString &path)
+{
+    FileContent content;
+    content.state.exists = OwnFile::place(path) != OwnFile::Place::Free;
+    if (!content.state.exists)
+        return content;
+    content.stamp = OwnFile::stamp(path);
+    content.state.time = QFileInfo(path).lastModified().toUTC();
+    return content;
 }
 
 } // namespace
@@ -322,18 +337,35 @@ QString OwnFile::folderFault(const QString &path)
 
 FileContent FileContent::of(const QString &path)
 {
-    FileContent content;
-    content.state.exists = OwnFile::place(path) != OwnFile::Place::Free;
+    FileContent content = begun(path);
     if (!content.state.exists)
         return content;
-    // Before reading: what changes meanwhile is a change.
-    content.stamp = OwnFile::stamp(path);
-    content.state.time = QFileInfo(path).lastModified().toUTC();
     const std::optional<QByteArray> bytes = OwnFile::read(path, &content.error);
     if (!bytes)
         return content;
     content.bytes = *bytes;
     content.state.size = bytes->size();
     content.state.hash = FileState::hashOf(*bytes);
+    return content;
+}
+
+FileContent FileContent::withoutBytes(const QString &path)
+{
+    FileContent content = begun(path);
+    QFile file;
+    if (!content.state.exists ||
+        !OwnFile::open(file, path, QIODevice::ReadOnly | QIODevice::Unbuffered, &content.error))
+        return content;
+    std::vector<char> piece(std::size_t(256) * 1024);
+    ContentHash hash;
+    qint64 size = 0;
+    while ((size = file.read(piece.data(), qint64(piece.size()))) > 0) {
+        hash.add(QByteArrayView(piece.data(), size));
+        content.state.size += size;
+    }
+    if (file.error() != QFileDevice::NoError)
+        content.error = file.errorString();
+    else
+        content.state.hash = hash.result();
     return content;
 }

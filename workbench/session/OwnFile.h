@@ -80,4 +80,6 @@ struct FileContent
     QString error; ///< German; empty if it was read or is not there
 
     [[nodiscard]] static FileContent of(const QString &path);
+    /// The same without the bytes, which costs a fraction of that.
+    [[nodiscard]] static FileContent withoutBytes(const QString &path);
 };

@@ -2,14 +2,47 @@
 
 #include "MappingList.h"
 #include "ReleaseReader.h"
+#include "ReleaseText.h"
 #include "ReleaseWriter.h"
 
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
 
+#include <mutex>
+
+namespace {
+
+/// The text that somebody keeps of a release; a copy that will be changed has none. Any thread.
+class KeptText
+{
+public:
+    KeptText() = default;
+    KeptText(const KeptText &) {}
+    KeptText &operator=(const KeptText &) = delete;
+    ~KeptText() = default;
+
+    [[nodiscard]] std::shared_ptr<const ReleaseText> get() const
+    {
+        const std::lock_guard guard(m_mutex);
+        return m_text.lock();
+    }
+    void set(const std::shared_ptr<const ReleaseText> &text)
+    {
+        const std::lock_guard guard(m_mutex);
+        m_text = text;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::weak_ptr<const ReleaseText> m_text;
+};
+
+} // namespace
+
 class ReleaseMappingData : public QSharedData
 {
 public:
+    mutable KeptText text;
     QString sourceDate;
     QString targetDate;
     QList<AgreedReplacement> replacements;
@@ -132,9 +165,23 @@ PRJMAPPING::MappingState ReleaseMappingC::getMappingState() const
 
 void ReleaseMappingC::toJson(PJsonValue &out, bool headsOnly) const
 {
-    out = PJsonValue::fromWriter(PJsonValue::Object, [copy = *this, headsOnly](JsonWriter &writer) {
-        writeRelease(writer, copy, headsOnly);
-    });
+    const std::shared_ptr<const ReleaseText> text = headsOnly ? nullptr : d->text.get();
+    const auto write = [copy = *this, headsOnly, text](JsonWriter &writer) {
+        const bool fits =
+            text && writer.layout() == JsonWriter::Indented && writer.level() == ReleaseText::Level;
+        if (fits)
+            writer.written(text->text());
+        else
+            writeRelease(writer, copy, headsOnly);
+    };
+    out = PJsonValue::fromWriter(PJsonValue::Object, write);
+}
+
+std::shared_ptr<const ReleaseText> ReleaseMappingC::keepText() const
+{
+    auto text = std::make_shared<const ReleaseText>(*this);
+    d->text.set(text);
+    return text;
 }
 
 bool ReleaseMappingC::fromJson(const PJsonValue &in, QString *error)

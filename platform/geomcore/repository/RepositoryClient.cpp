@@ -27,7 +27,8 @@ bool isDamaged(const QString &errors)
 {
     static const QRegularExpression marks(
         QStringLiteral("E155016|E155017|E200014|E235000|E155010: Pristine|"
-                       "\\.svn/pristine/.*No such file|sqlite\\[S(11|26)\\]"));
+                       "\\.svn/pristine/.*No such file|sqlite\\[S(11|26)\\]|"
+                       "sqlite\\[S1\\]: no such table"));
     return marks.match(errors).hasMatch();
 }
 

@@ -2,10 +2,13 @@
 
 #include <core/files/DurableFile.h>
 
+#include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLockFile>
 #include <QThread>
 #include <QXmlStreamReader>
@@ -82,6 +85,24 @@ bool isStoreOpen(const QString &root)
     return false;
 }
 
+const QString urlKey = QStringLiteral("url");
+const QString depthKey = QStringLiteral("depth");
+const QString oldestKey = QStringLiteral("oldest");
+const QString checkoutKey = QStringLiteral("checkout");
+
+/// Beside the store's database; the client leaves there what it does not know.
+QString originFile(const QString &root)
+{
+    return root + QStringLiteral("/.svn/velk-origin.json");
+}
+
+QJsonObject notedOrigin(const QString &root)
+{
+    QFile file(originFile(root));
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                          : QJsonObject();
+}
+
 /// A name with "@" would be taken for one with a revision.
 QString peg(const QString &path)
 {
@@ -140,15 +161,55 @@ RepositoryAnswer SubversionPlace::svn(const QStringList &arguments)
     return answer;
 }
 
+/// As the store itself tells it. False if it cannot.
+bool SubversionPlace::originOf(const QString &root, Origin &origin)
+{
+    Entry top;
+    if (!entry(root, top).isDone() || top.root.isEmpty() ||
+        !oldestRevision(top.root, origin.oldest))
+        return false;
+    origin.root = top.root;
+    origin.url = top.url;
+    origin.depth = top.depth;
+    origin.checkout = top.checkout;
+    return true;
+}
+
+/// For the day on which the store's database cannot be read any more.
+void SubversionPlace::noteOrigin()
+{
+    const QString root = workingCopy(QFileInfo(file()).absolutePath());
+    const QJsonObject known = notedOrigin(root);
+    Entry top;
+    // An older revision that was the oldest one does as well.
+    if (!entry(root, top).isDone() || (known.value(urlKey).toString() == top.url &&
+                                       known.value(checkoutKey).toString() == top.checkout))
+        return;
+    Origin origin;
+    if (!originOf(root, origin))
+        return;
+    const QJsonObject noted{{urlKey, origin.url},
+                            {depthKey, origin.depth},
+                            {oldestKey, origin.oldest},
+                            {checkoutKey, origin.checkout}};
+    // Without it all goes on as it would.
+    (void)DurableFile::write(originFile(root), QJsonDocument(noted).toJson());
+}
+
 /// At the oldest revision of the former store, and from there on: at a newer one, files that only
 /// are older would look as if they had been changed back here.
 bool SubversionPlace::makeStoreAnew()
 {
-    Entry top;
-    QString oldest;
-    if (!entry(workingCopy(QFileInfo(file()).absolutePath()), top).isDone() || top.root.isEmpty() ||
-        !oldestRevision(top.root, oldest))
-        return false;
+    const QString root = workingCopy(QFileInfo(file()).absolutePath());
+    Origin top;
+    const bool isTold = originOf(root, top);
+    if (!isTold) {
+        const QJsonObject noted = notedOrigin(root);
+        top = {root, noted.value(urlKey).toString(), noted.value(depthKey).toString(),
+               noted.value(oldestKey).toString(), noted.value(checkoutKey).toString()};
+        if (top.url.isEmpty() || top.oldest.isEmpty())
+            return false;
+    }
     const QString store = top.root + QStringLiteral("/.svn");
     const QString former = DurableFile::stampedName(store, QStringLiteral("damaged"));
     if (!QDir().rename(store, former))
@@ -157,16 +218,44 @@ bool SubversionPlace::makeStoreAnew()
     const QString quiet = QStringLiteral("-q");
     const QString at = QStringLiteral("-r");
     if (withoutWaiting({QStringLiteral("checkout"), quiet, force, QStringLiteral("--depth"),
-                        top.depth, at, oldest, peg(top.url), top.root})
+                        top.depth, at, top.oldest, peg(top.url), top.root})
             .isDone() &&
         withoutWaiting({QStringLiteral("update"), quiet, force, at, top.checkout, peg(top.root)})
-            .isDone()) {
+            .isDone() &&
+        (isTold || bringUpToDate(top.root, former))) {
         addRepair({ShareRepair::StoreAnew, former});
         return true;
     }
     if (QDir(store).removeRecursively())
         QDir().rename(former, store);
     return false;
+}
+
+/// What was noted of a working copy may be older than it: then a file that only is older than the
+/// newest one looks as if it had been changed. The former store has its text, if nobody did.
+bool SubversionPlace::bringUpToDate(const QString &root, const QString &formerStore) const
+{
+    if (!withoutWaiting(
+             {QStringLiteral("update"), QStringLiteral("-q"), QStringLiteral("--force"), peg(root)})
+             .isDone())
+        return false;
+    const RepositoryAnswer status =
+        withoutWaiting({QStringLiteral("status"), QStringLiteral("-q"), peg(root)});
+    for (const QString &row : status.text.split(u'\n')) {
+        constexpr int Columns = 8;
+        const QString path = row.mid(Columns);
+        QFile changed(path);
+        QCryptographicHash hash(QCryptographicHash::Sha1); // as the store names its texts
+        if (!row.startsWith(u'M') || !changed.open(QIODevice::ReadOnly) || !hash.addData(&changed))
+            continue;
+        const QString name = QString::fromLatin1(hash.result().toHex());
+        const QString text =
+            QStringLiteral("%1/pristine/%2/%3.svn-base").arg(formerStore, name.left(2), name);
+        if (QFile::exists(text) &&
+            !withoutWaiting({QStringLiteral("revert"), QStringLiteral("-q"), peg(path)}).isDone())
+            return false;
+    }
+    return status.isDone();
 }
 
 /// An update that found the damage has set the folder's revision already, but not that of files.
@@ -275,6 +364,8 @@ ShareAnswer SubversionPlace::fetchRevision(QString &found)
         return answerOf(answer);
     ShareAnswer answer = revision(found);
     m_isFetched = answer.isDone();
+    if (m_isFetched)
+        noteOrigin();
     return answer;
 }
 

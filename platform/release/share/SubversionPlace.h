@@ -35,12 +35,24 @@ private:
         QString revision; ///< that last changed it; empty if it was never committed
         QString depth;
     };
+    /// What the working copy is of, as far as a store has to be made anew from it.
+    struct Origin
+    {
+        QString root;
+        QString url;
+        QString depth;
+        QString oldest;   ///< revision of a file
+        QString checkout; ///< revision as the working copy was brought up to date
+    };
 
     /// Runs the client, again after what could be put right.
     [[nodiscard]] RepositoryAnswer svn(const QStringList &arguments);
     [[nodiscard]] RepositoryAnswer withoutWaiting(const QStringList &arguments) const;
     [[nodiscard]] RepositoryAnswer afterOthers(const QStringList &arguments);
     [[nodiscard]] bool makeStoreAnew();
+    void noteOrigin();
+    [[nodiscard]] bool bringUpToDate(const QString &root, const QString &formerStore) const;
+    [[nodiscard]] bool originOf(const QString &root, Origin &origin);
     [[nodiscard]] bool oldestRevision(const QString &root, QString &oldest) const;
     [[nodiscard]] RepositoryAnswer entry(const QString &path, Entry &entry);
     [[nodiscard]] ShareAnswer revision(QString &revision);

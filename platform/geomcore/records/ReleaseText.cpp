@@ -1,0 +1,22 @@
+#include "ReleaseText.h"
+
+#include "ReleaseWriter.h"
+
+#include <core/json/JsonWriter.h>
+
+namespace {
+
+QByteArray textOf(const ReleaseMappingC &release)
+{
+    JsonWriter writer(JsonWriter::Indented, ReleaseText::Level);
+    writeRelease(writer, release, false);
+    return writer.take();
+}
+
+} // namespace
+
+ReleaseText::ReleaseText(const ReleaseMappingC &release)
+    : m_release(release)
+    , m_text(textOf(release))
+{
+}
