@@ -213,7 +213,7 @@ void tst_DocumentFile::holdsTheLock()
     QCOMPARE(file.warning(), QString());
     EditLock other;
     QCOMPARE(other.take(m_file), EditLock::HeldByOther);
-    file.setKnown(FileState::of(m_file), confirmed({1}));
+    file.setKnown({FileState::of(m_file), confirmed({1})});
     file.leave();
     QVERIFY(!file.isEditable());
     QCOMPARE(file.path(), QString());
@@ -346,7 +346,7 @@ void tst_DocumentFile::saves()
     DocumentFile file;
     file.moveTo(m_file, Access::ReadWrite);
     const DocumentFile::Reading reading = read();
-    file.setKnown(reading.content.state, *reading.release);
+    file.setKnown(reading.known());
     const SaveOutcome outcome = file.save(confirmed({1, 2}), QStringLiteral("root"), {});
     QCOMPARE(outcome.result, SaveResult::Saved);
     QCOMPARE(SessionFixture::bytes(releaseIn(m_file)), SessionFixture::bytes(confirmed({1, 2})));
@@ -361,7 +361,7 @@ void tst_DocumentFile::keepsWhatIsKnownIfSavingFails()
     DocumentFile file;
     file.moveTo(m_file, Access::ReadWrite);
     const DocumentFile::Reading reading = read();
-    file.setKnown(reading.content.state, *reading.release);
+    file.setKnown(reading.known());
     MappingFile foreign;
     foreign.setRelease(confirmed({9}));
     QVERIFY(foreign.write(m_file));

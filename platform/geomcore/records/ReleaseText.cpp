@@ -6,7 +6,7 @@
 
 namespace {
 
-QByteArray textOf(const ReleaseMappingC &release)
+QByteArray writtenText(const ReleaseMappingC &release)
 {
     JsonWriter writer(JsonWriter::Indented, ReleaseText::Level);
     writeRelease(writer, release, false);
@@ -17,6 +17,6 @@ QByteArray textOf(const ReleaseMappingC &release)
 
 ReleaseText::ReleaseText(const ReleaseMappingC &release)
     : m_release(release)
-    , m_text(textOf(release))
+    , m_text(writtenText(release))
 {
 }
