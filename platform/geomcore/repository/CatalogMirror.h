@@ -12,6 +12,7 @@ class QDir;
 /// see all of a catalog: the search. On the disk:
 ///
 ///     catalogs/FOLDER/...  all files of a catalog but links
+///     catalogs.index       the search's index of them, not this class's
 ///     state/FOLDER         JSON: the URL, the revision, the bytes of the files; while the copy is
 ///                          brought to another revision, that
 ///     work/                what is being fetched

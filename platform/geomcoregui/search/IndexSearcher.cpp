@@ -33,13 +33,19 @@ QString rootOf(const std::shared_ptr<CatalogRepository> &repository)
                       : QString(IndexTreeC::instance()->catalogRoot().text());
 }
 
+/// That of copies lies beside them.
+QString indexOf(const std::shared_ptr<CatalogRepository> &repository)
+{
+    return repository ? repository->mirrorRoot() + QStringLiteral(".index")
+                      : CatalogIndex::standardFile(rootOf(repository));
+}
+
 } // namespace
 
 IndexSearcher::IndexSearcher(QObject *parent)
     : CatalogSearcherI(parent)
     , m_repository(IndexTreeC::instance()->repository())
-    , m_index(std::make_unique<CatalogIndex>(CatalogIndex::standardFile(rootOf(m_repository)),
-                                             rootOf(m_repository)))
+    , m_index(std::make_unique<CatalogIndex>(indexOf(m_repository), rootOf(m_repository)))
 {
     if (m_repository)
         m_index->setBring([repository = m_repository](const std::function<bool()> &goOn) {
