@@ -67,4 +67,8 @@ foreach(package velkworkbench:programs libvelk0:libraries libvelk-dev:developmen
   install(FILES "${CMAKE_CURRENT_SOURCE_DIR}/copyright"
           DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${name}" COMPONENT ${component})
 endforeach()
+# Every file in a package has the time of the release, so that two builds give the same bytes.
+configure_file("${CMAKE_CURRENT_SOURCE_DIR}/PackageTimes.cmake.in"
+               "${CMAKE_CURRENT_BINARY_DIR}/PackageTimes.cmake" @ONLY)
+set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_BINARY_DIR}/PackageTimes.cmake")
 include(CPack)
