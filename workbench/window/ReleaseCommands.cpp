@@ -252,7 +252,7 @@ std::optional<QString> ReleaseCommands::reportPage(int mostRows)
 
 std::optional<QString> ReleaseCommands::reportForPaper()
 {
-    const auto page = reportPage(PaperRows);
+    auto page = reportPage(PaperRows);
     if (!page)
         Q_EMIT noted(tr("Abgebrochen, es wurde kein Bericht erstellt"));
     return page;

@@ -2,6 +2,7 @@
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
+#include <core/files/EditLock.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <TestPaths.h>
 #include <workbench/locator/LocatorDialog.h>
@@ -12,6 +13,7 @@
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/HelpWindow.h>
 #include <workbench/window/HistoryDialog.h>
+#include <workbench/window/HistoryModel.h>
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/ReviewCommands.h>
 #include <workbench/window/StatusArea.h>
@@ -19,6 +21,7 @@
 #include <geomcore/records/ReleaseMappingC.h>
 
 #include <QAction>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QHeaderView>
@@ -243,6 +246,16 @@ void tst_Tour::byKeysAlone()
     // Save, and hand on.
     tour.key(Qt::Key_S, Qt::ControlModifier);
     QTRY_VERIFY(!tour.document()->isModified());
+    tour.action("showHistory")->trigger();
+    auto *const history = tour.window->findChild<HistoryDialog *>();
+    QVERIFY(history && history->isVisible());
+    history->findChild<QComboBox *>("scope")->setCurrentIndex(HistoryDialog::OfAll);
+    // The thirty lines of the pattern, and who decided on them.
+    const QAbstractItemModel *const decisions =
+        history->findChild<QTreeView *>("decisions")->model();
+    QVERIFY2(decisions->rowCount() >= 30, qPrintable(QString::number(decisions->rowCount())));
+    QCOMPARE(decisions->index(0, HistoryModel::Author).data().toString(), EditLock::self().user);
+    history->close();
     tour.action("helpContents")->trigger();
     QTRY_VERIFY(tour.window->findChild<HelpWindow *>());
 
