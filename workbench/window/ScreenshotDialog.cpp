@@ -6,6 +6,8 @@
 #include "KeysDialog.h"
 #include "LinkDbHost.h"
 #include "MainWindow.h"
+#include "NeighbourCommands.h"
+#include "ReviewCommands.h"
 #include "ScriptDesk.h"
 #include "WorkbenchActions.h"
 
@@ -15,6 +17,9 @@
 #include <gui/application/PApplicationPool.h>
 #include <selection/dlgSearchSelect.h>
 #include <workbench/locator/LocatorDialog.h>
+#include <workbench/review/PatternDock.h>
+#include <workbench/review/PatternText.h>
+#include <workbench/session/NeighbourWork.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
 
@@ -26,6 +31,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include <functional>
+
 namespace {
 
 /// For the check while typing, or for the search and its index.
@@ -35,6 +42,7 @@ constexpr QSize formulaSize(560, 260);
 constexpr QSize searchSize(640, 520);
 constexpr int linksMilliseconds = 100;
 constexpr int dialogMilliseconds = 400;
+constexpr int reviewMilliseconds = 10000;
 constexpr QSize scriptSize(760, 420);
 constexpr QSize locatorSize(640, 320);
 constexpr QSize keysSize(640, 420);
@@ -157,6 +165,62 @@ QPixmap manualPicture(const QString &topic)
     return help.showTopic(topic) ? grabLater(help, helpSize, dialogMilliseconds) : QPixmap();
 }
 
+/// Returns when \a isDone, or after some seconds.
+void waitUntil(const std::function<bool()> &isDone)
+{
+    QEventLoop loop;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (isDone())
+            loop.quit();
+    });
+    look.start(dialogMilliseconds / 10);
+    QTimer::singleShot(reviewMilliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// The question of a sample over the window, taken while its own loop runs.
+QPixmap samplePicture(MainWindow &window)
+{
+    QPixmap picture;
+    QTimer::singleShot(dialogMilliseconds, qApp, [&picture, &window] {
+        auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        picture = pictureAbove(window, *dialog, dialog->size());
+        dialog->reject();
+    });
+    window.commands()->action(WorkbenchActions::StartSample)->trigger();
+    return picture;
+}
+
+/// The list of patterns with the first row whose text begins with \a row chosen, and the
+/// differences of its first line; or the list of neighbours.
+QPixmap reviewPicture(const QString &name, const QString &row, MainWindow &window)
+{
+    if (name == QLatin1String("neighbours")) {
+        window.commands()->action(WorkbenchActions::Neighbours)->trigger();
+        const NeighbourWork *const work = window.neighbours()->work();
+        waitUntil([work] { return !work->isReading() && work->checkedLines() > 0; });
+        return window.grab();
+    }
+    window.commands()->action(WorkbenchActions::ReviewPatterns)->trigger();
+    const ReviewWork *const work = window.review()->work();
+    waitUntil([work] { return work->hasPatterns(); });
+    for (const int pattern : work->patterns().ranked()) {
+        if (!PatternText::of(work->patterns(), pattern).startsWith(row))
+            continue;
+        window.review()->dock()->choose(pattern);
+        break;
+    }
+    if (name == QLatin1String("sample"))
+        return samplePicture(window);
+    window.commands()->action(WorkbenchActions::ReviewDifferences)->trigger();
+    const auto *const candidates = window.findChild<QTreeView *>("CandidateList");
+    waitUntil([candidates] { return candidates && candidates->model()->rowCount() > 0; });
+    return window.grab();
+}
+
 } // namespace
 
 QPixmap ScreenshotDialog::take(const QString &name, const QString &text, MainWindow &window)
@@ -173,6 +237,8 @@ QPixmap ScreenshotDialog::take(const QString &name, const QString &text, MainWin
         return keysPicture(text, window);
     if (name == QLatin1String("manual"))
         return manualPicture(text);
+    if (QStringList{"review", "sample", "neighbours"}.contains(name))
+        return reviewPicture(name, text, window);
     const bool isOfLinkDb = QStringList{"links", "proof", "documents"}.contains(name);
     return isOfLinkDb ? ofLinkDb(name, text, window) : QPixmap();
 }

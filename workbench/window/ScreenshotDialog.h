@@ -9,7 +9,8 @@ class MainWindow;
 /// statement over the variables of the open project, or words to search for in its catalog;
 /// "links", "proof" or, of the selected line, "documents" over the link database whose address the
 /// text is; "script" with the file that it is, which runs; "locator" and "keys" with words to look
-/// for; "manual" at a topic.
+/// for; "manual" at a topic; "review" and "sample" with the beginning of a difference pattern;
+/// "neighbours".
 class ScreenshotDialog
 {
 public:
