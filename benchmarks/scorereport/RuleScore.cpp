@@ -12,8 +12,10 @@
 #include <geomcore/table/TableData.h>
 #include <release/pattern/DifferencePatterns.h>
 
+#include <algorithm>
 #include <atomic>
 #include <map>
+#include <set>
 
 namespace {
 
@@ -83,12 +85,16 @@ public:
             addLine(mapper, content, {source, line}, mapping, reference.value(line));
     }
     /// One decision for each pattern that is right in all its lines; of another one, one for each
-    /// project in which it is. A pattern without successor is right where no line has one. What is
-    /// in no pattern is confirmed as expired together, in a project none of which has a successor;
-    /// one for each other open line.
+    /// project in which it is. A pattern without successor is right where no line has one. In a
+    /// project none of whose lines without a proposal has a successor, these are confirmed as
+    /// expired together; one for each other open line.
     void addDecisions(const VelkRelease::DifferencePatterns &patterns)
     {
+        const std::set<int> goneProjects = projectsOfGoneLines();
         for (int pattern = 0; pattern < patterns.count(); ++pattern) {
+            // One decision on the project takes its other groups too.
+            if (patterns.gone(pattern) && isWithin(patterns.places(pattern), goneProjects))
+                continue;
             std::map<int, std::pair<int, int>> projects; // all lines, and right ones
             const Open wanted = patterns.gone(pattern) ? Open::Expired : Open::Right;
             for (const auto &place : patterns.places(pattern)) {
@@ -141,6 +147,30 @@ public:
                                    .arg(counts.first)
                                    .arg(counts.second);
         }
+    }
+    /// Projects in which all lines without a proposal are gone.
+    [[nodiscard]] std::set<int> projectsOfGoneLines() const
+    {
+        std::set<int> projects;
+        std::set<int> others;
+        for (const auto &[place, state] : m_open) {
+            if (state == Open::Expired)
+                projects.insert(place.first);
+            else if (state == Open::NotFound)
+                others.insert(place.first);
+        }
+        for (const int project : others)
+            projects.erase(project);
+        return projects;
+    }
+    /// Whether the places are all in one of these projects.
+    template<class Places>
+    [[nodiscard]] static bool isWithin(const Places &places, const std::set<int> &projects)
+    {
+        return !places.empty() && projects.contains(places.front().project) &&
+               std::all_of(places.begin(), places.end(), [&](const auto &place) {
+                   return place.project == places.front().project;
+               });
     }
     /// Lines of tables without a mapping.
     void addRest()
