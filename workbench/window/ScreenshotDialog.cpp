@@ -19,9 +19,9 @@
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternText.h>
-#include <workbench/session/NeighbourWork.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
+#include <workbench/session/NeighbourWork.h>
 
 #include <QAction>
 #include <QApplication>

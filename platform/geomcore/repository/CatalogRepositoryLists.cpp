@@ -18,9 +18,8 @@ const QString listFile = QStringLiteral("/.entries");
 
 QStringList CatalogRepository::catalogs() const
 {
-    const QStringList copied = m_mirror.folders([this](const QString &folder) {
-        return urlOf(catalogOf(folder));
-    });
+    const QStringList copied =
+        m_mirror.folders([this](const QString &folder) { return urlOf(catalogOf(folder)); });
     QSet<QString> names;
     for (const QString &folder : copied)
         names.insert(catalogOf(folder));
