@@ -38,7 +38,7 @@ PatternDock::PatternDock(ReviewWork *work, QWidget *parent)
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_list->header()->setSectionResizeMode(PatternModel::Changes, QHeaderView::Stretch);
     m_list->header()->setMinimumSectionSize(40);
-    m_list->setTextElideMode(Qt::ElideRight);
+    m_list->setTextElideMode(Qt::ElideMiddle);
     // Else nothing of the differences is seen.
     content->setMinimumWidth(30 * fontMetrics().averageCharWidth());
     m_list->installEventFilter(this);

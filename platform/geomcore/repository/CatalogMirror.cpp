@@ -101,7 +101,7 @@ CatalogMirror::CatalogMirror(QString directory, qint64 limit)
 
 QString CatalogMirror::root() const
 {
-    const QString path = m_directory + QStringLiteral("/catalogs");
+    QString path = m_directory + QStringLiteral("/catalogs");
     QDir().mkpath(path);
     return path;
 }
@@ -221,7 +221,7 @@ RepositoryAnswer CatalogMirror::update(const Wanted &wanted, const RepositoryCli
         // What was changed on the way to there might not differ from what is wanted now.
         Wanted half = wanted;
         half.revision = state->target;
-        const RepositoryAnswer answer = fetchChanges(half, *state, client, goOn);
+        RepositoryAnswer answer = fetchChanges(half, *state, client, goOn);
         if (!answer.isDone())
             return answer;
         state = stateOf(wanted.folder);
@@ -268,7 +268,7 @@ RepositoryAnswer CatalogMirror::fetchAll(const Wanted &wanted, const RepositoryC
 RepositoryAnswer CatalogMirror::fetchChanges(const Wanted &wanted, State state,
                                              const RepositoryClient &client, const GoOn &goOn) const
 {
-    const RepositoryAnswer told = client.changes(wanted.url, state.revision, wanted.revision);
+    RepositoryAnswer told = client.changes(wanted.url, state.revision, wanted.revision);
     if (told.kind == RepositoryAnswer::NotThere)
         return fetchAll(wanted, client, goOn); // the old revision is gone: another repository
     if (!told.isDone())
@@ -304,7 +304,7 @@ RepositoryAnswer CatalogMirror::fetchChanges(const Wanted &wanted, State state,
     }
     for (auto directory = files.cbegin(); directory != files.cend(); ++directory) {
         const QString work = workDirectory();
-        const RepositoryAnswer answer = client.exportFiles(
+        RepositoryAnswer answer = client.exportFiles(
             repositoryUrlBelow(wanted.url, directory.key()), wanted.revision, work);
         bool isMoved = true;
         for (const QString &name : answer.isDone() ? *directory : QStringList()) {
