@@ -810,7 +810,7 @@ Scegliere un altro file.</translation>
     </message>
     <message>
         <source>Filter au&amp;fheben</source>
-        <translation>&amp;Togli filtro</translation>
+        <translation>To&amp;gli filtro</translation>
     </message>
 </context>
 <context>

@@ -810,7 +810,7 @@ Velg en annen fil.</translation>
     </message>
     <message>
         <source>Filter au&amp;fheben</source>
-        <translation>&amp;Fjern filter</translation>
+        <translation>Fjer&amp;n filter</translation>
     </message>
 </context>
 <context>

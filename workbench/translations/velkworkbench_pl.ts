@@ -833,7 +833,7 @@ Wybierz inny plik.</translation>
     </message>
     <message>
         <source>Filter au&amp;fheben</source>
-        <translation>&amp;Zdejmij filtr</translation>
+        <translation>Z&amp;dejmij filtr</translation>
     </message>
 </context>
 <context>

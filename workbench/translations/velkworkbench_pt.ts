@@ -810,7 +810,7 @@ Escolha outro ficheiro.</translation>
     </message>
     <message>
         <source>Filter au&amp;fheben</source>
-        <translation>&amp;Retirar filtro</translation>
+        <translation>Re&amp;tirar filtro</translation>
     </message>
 </context>
 <context>

@@ -833,7 +833,7 @@ Bitte eine andere Datei wählen.</source>
     </message>
     <message>
         <source>Filter au&amp;fheben</source>
-        <translation>&amp;Снять фильтр</translation>
+        <translation>С&amp;нять фильтр</translation>
     </message>
 </context>
 <context>

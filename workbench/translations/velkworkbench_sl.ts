@@ -856,7 +856,7 @@ Izberite drugo datoteko.</translation>
     </message>
     <message>
         <source>Filter au&amp;fheben</source>
-        <translation>&amp;Odstrani filter</translation>
+        <translation>Od&amp;strani filter</translation>
     </message>
 </context>
 <context>

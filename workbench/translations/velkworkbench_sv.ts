@@ -810,7 +810,7 @@ Välj en annan fil.</translation>
     </message>
     <message>
         <source>Filter au&amp;fheben</source>
-        <translation>&amp;Ta bort filter</translation>
+        <translation>Ta &amp;bort filter</translation>
     </message>
 </context>
 <context>
