@@ -13,7 +13,6 @@
 
 namespace Mapper {
 
-using VKTab::FieldKind;
 using VKTab::LineIndex;
 using VKTab::LineSet;
 using VKTab::LineView;
@@ -99,6 +98,7 @@ std::shared_ptr<const LineIndex> TargetTable::lineIndex(const std::vector<int> &
 {
     return m_indexes.get(variables, [&] {
         std::vector<LineIndex::Key> keys;
+        keys.reserve(variables.size());
         for (int variable : variables) {
             keys.push_back({m_variables[size_t(variable)].column, VKTab::CompareMode::Number});
         }

@@ -45,8 +45,7 @@ double scaleOf(double number)
     if (number < powers.front() || number >= powers.back())
         return std::pow(10.0, 3 - std::floor(std::log10(number)));
     const auto above = std::upper_bound(powers.begin(), powers.end(), number);
-    const auto exponent = int(above - powers.begin()) - 1 - 8;
-    return scales[size_t(exponent + 8)];
+    return scales[size_t(above - powers.begin()) - 1];
 }
 
 /// The same for numbers that agree in four digits: values are rounded after they were converted.

@@ -21,6 +21,7 @@ void ColumnChance::finish(const CellValues &values, bool isKey)
     int single = 0;
     std::unordered_map<int, int> tokens;
     std::vector<std::pair<int, int>> counts;
+    std::vector<std::pair<double, int>> numbers;
     m_counts.forEach([&counts](std::uint64_t key, double weight) {
         counts.emplace_back(int(key - 1), int(weight));
     });
@@ -36,13 +37,27 @@ void ColumnChance::finish(const CellValues &values, bool isKey)
         for (const int token : value.distinct)
             tokens[token] += count;
         if (value.isNumber)
-            m_numbers.insert(m_numbers.end(), size_t(count), value.number);
+            numbers.emplace_back(value.number, count);
     }
     m_meanTokens /= std::max(1, m_valueCount);
-    std::sort(m_numbers.begin(), m_numbers.end());
+    finishNumbers(std::move(numbers));
     m_further = isKey ? LinesOfKey : 1;
     m_known = 1 - double(single) / (m_valueCount + 1);
     finishTokens(values, tokens);
+}
+
+void ColumnChance::finishNumbers(std::vector<std::pair<double, int>> counts)
+{
+    std::sort(counts.begin(), counts.end());
+    m_numbers.reserve(counts.size());
+    m_below.reserve(counts.size() + 1);
+    for (const auto &[number, count] : counts) {
+        if (m_numbers.empty() || m_numbers.back() != number) {
+            m_numbers.push_back(number);
+            m_below.push_back(m_below.back());
+        }
+        m_below.back() += count;
+    }
 }
 
 void ColumnChance::finishTokens(const CellValues &values,
@@ -76,10 +91,12 @@ double ColumnChance::nearShare(double number, double other) const
     const double distance = std::abs(other - number);
     const auto first = std::lower_bound(m_numbers.begin(), m_numbers.end(), number - distance);
     const auto last = std::upper_bound(first, m_numbers.end(), number + distance);
+    const int near =
+        m_below[size_t(last - m_numbers.begin())] - m_below[size_t(first - m_numbers.begin())];
     const double part = distance / std::max(std::abs(number), std::abs(other));
     // One of them is the other number itself, which counts half.
-    const double seen = std::max(0.0, double(last - first) - 1) + 0.5;
-    return (seen + FewNumbers * std::min(1.0, part)) / (double(m_numbers.size()) + FewNumbers);
+    const double seen = std::max(0.0, double(near) - 1) + 0.5;
+    return (seen + FewNumbers * std::min(1.0, part)) / (double(numberCount()) + FewNumbers);
 }
 
 } // namespace Plan

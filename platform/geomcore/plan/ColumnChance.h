@@ -3,6 +3,7 @@
 #include "KeyWeights.h"
 
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace Plan {
@@ -47,15 +48,17 @@ public:
     /// Share of the numbers that are at least as near to \a number as \a other is. As long as there
     /// are few numbers, it is the part of the larger one by which the two differ.
     [[nodiscard]] double nearShare(double number, double other) const;
-    [[nodiscard]] int numberCount() const { return int(m_numbers.size()); }
+    [[nodiscard]] int numberCount() const { return m_below.back(); }
 
 private:
+    void finishNumbers(std::vector<std::pair<double, int>> counts);
     void finishTokens(const CellValues &values, const std::unordered_map<int, int> &counts);
 
     KeyWeights m_counts;            ///< By value, from 1 on.
     std::vector<int> m_tokenPlaces; ///< By token: place in m_tokenChances; 0: it does not occur.
     std::vector<TokenChance> m_tokenChances = std::vector<TokenChance>(1);
-    std::vector<double> m_numbers; ///< Sorted.
+    std::vector<double> m_numbers; ///< Sorted, each once.
+    std::vector<int> m_below{0};   ///< By number: lines with a smaller one; at the end all.
     double m_meanTokens = 0;
     double m_known = 1; ///< Share of the values of further lines that are among these.
     int m_further = 1;  ///< Lines that are counted as if they had other values.

@@ -5,6 +5,20 @@
 
 namespace Plan {
 
+namespace {
+
+/// Of sorted numbers.
+bool haveCommon(std::span<const int> a, std::span<const int> b)
+{
+    auto i = a.begin();
+    auto j = b.begin();
+    while (i != a.end() && j != b.end() && *i != *j)
+        ++(*i < *j ? i : j);
+    return i != a.end() && j != b.end();
+}
+
+} // namespace
+
 double PairEvidence::nearRatio(const ColumnChance &chance, int oldValue, int newValue) const
 {
     const CellValues::Value &a = m_tables.values.value(oldValue);
@@ -21,10 +35,11 @@ double PairEvidence::alikeRatio(const ColumnChance &chance, const VariableRates 
 {
     const std::span<const int> a = m_tables.values.value(oldValue).distinct;
     const std::span<const int> b = m_tables.values.value(newValue).distinct;
+    if (!haveCommon(a, b))
+        return 0;
     // A token of the old text stays or does not; further ones come as they come in any text of the
     // column, but more seldom, so that the common ones which a text does without count for it.
     double sum = (1 - rates.adds) * chance.meanTokens();
-    bool any = false;
     const double added = std::log(rates.adds);
     const double stays = std::log(rates.stays);
     const double goes = std::log(1 - rates.stays);
@@ -39,12 +54,11 @@ double PairEvidence::alikeRatio(const ColumnChance &chance, const VariableRates 
             sum += goes - token.logWithout;
         else
             sum += onlyNew ? added : stays - token.logShare;
-        any = any || (!onlyOld && !onlyNew);
         i += onlyNew ? 0 : 1;
         j += onlyOld ? 0 : 1;
     }
     // No value says more than that it is this one of all.
-    return any ? std::min(std::exp(sum), 1 / chance.share(newValue)) : 0;
+    return std::min(std::exp(sum), 1 / chance.share(newValue));
 }
 
 CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t row, size_t place,
