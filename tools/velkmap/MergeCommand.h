@@ -2,6 +2,8 @@
 
 #include "ExitStatus.h"
 
+#include <QStringList>
+
 QT_BEGIN_NAMESPACE
 class QTextStream;
 QT_END_NAMESPACE
