@@ -196,11 +196,14 @@ void tst_CatalogMirror::goesOnAfterABreak()
 
 void tst_CatalogMirror::linksAreLeftOut()
 {
-    QVERIFY(m_fixture->server.commitLink("out.prj", "/etc/hostname"));
+    const QString outside = m_fixture->place.filePath("outside.txt");
+    QFile file(outside);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(m_fixture->server.commitLink("out.prj", outside));
     QCOMPARE(update(), QStringList());
     QVERIFY(!QFileInfo(copy("out.prj")).isSymLink());
     QVERIFY(QFile::exists(copy("screws/a.prj")));
-    QVERIFY(m_fixture->server.commitLink("later.prj", "/etc/hostname"));
+    QVERIFY(m_fixture->server.commitLink("later.prj", outside));
     m_repository->refresh();
     QCOMPARE(update(), QStringList());
     QVERIFY(!QFileInfo(copy("later.prj")).isSymLink());

@@ -1,30 +1,19 @@
 #pragma once
 
-#include "ViewTables.h"
+#include "ScrewsFixture.h"
 
 #include <geomcore/table/FilterByLineId.h>
 #include <geomcoregui/table/VkTableModel.h>
 
 #include <QAbstractItemModelTester>
-#include <QImage>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
 
 /// A model over the screws, looked after by Qt's own tester.
-class ModelFixture
+class ModelFixture : protected ScrewsFixture
 {
 protected:
-    /// The image of states; once for all tests.
-    void makeImage()
-    {
-        m_image = m_dir.filePath("state.png");
-        QImage image(16, 16, QImage::Format_ARGB32);
-        image.fill(Qt::red);
-        QVERIFY(image.save(m_image));
-    }
-
     void makeModel()
     {
         m_table = TestTables::screws();
@@ -63,8 +52,5 @@ protected:
         m_table.invalidate(VKTab::Content::InvalidateFilter, true);
     }
 
-    QTemporaryDir m_dir;
-    QString m_image;
-    VKTab::ContentRef m_table;
     std::unique_ptr<VkTableModel> m_model;
 };

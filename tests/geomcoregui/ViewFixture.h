@@ -1,32 +1,21 @@
 #pragma once
 
-#include "ViewTables.h"
+#include "ScrewsFixture.h"
 
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QImage>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
 
 /// A view over the screws, and how a user meets it: mouse, keys, menus.
-class ViewFixture
+class ViewFixture : protected ScrewsFixture
 {
 protected:
-    /// The image of states; once for all tests.
-    void makeImage()
-    {
-        m_image = m_dir.filePath("state.png");
-        QImage image(16, 16, QImage::Format_ARGB32);
-        image.fill(Qt::red);
-        QVERIFY(image.save(m_image));
-    }
-
     void makeView()
     {
         m_table = TestTables::screws();
@@ -77,8 +66,5 @@ protected:
         return m_view->findChild<Widget *>(QString::fromLatin1(name));
     }
 
-    QTemporaryDir m_dir;
-    QString m_image;
-    VKTab::ContentRef m_table;
     std::unique_ptr<VkTableView> m_view;
 };

@@ -221,6 +221,16 @@ void writePlaces(JsonWriter &json, const ReleaseMappingC &release,
     json.endArray();
 }
 
+void writeNumbers(JsonWriter &json, const DifferencePatterns::Numbers &numbers)
+{
+    json.key("lines");
+    json.value(numbers.lines);
+    json.key("projects");
+    json.value(numbers.projects);
+    json.key("probability");
+    json.value(rounded(numbers.probability));
+}
+
 void writePattern(JsonWriter &json, const ReviewReport &report, int pattern)
 {
     const DifferencePatterns::Numbers numbers = report.patterns.numbers(pattern);
@@ -235,12 +245,7 @@ void writePattern(JsonWriter &json, const ReviewReport &report, int pattern)
     for (const ValueChange &change : report.patterns.changes(pattern))
         writeChange(json, change);
     json.endArray();
-    json.key("lines");
-    json.value(numbers.lines);
-    json.key("projects");
-    json.value(numbers.projects);
-    json.key("probability");
-    json.value(rounded(numbers.probability));
+    writeNumbers(json, numbers);
     json.key("exceptions");
     json.value(numbers.exceptions);
     json.key("examples");
@@ -263,12 +268,7 @@ void writeGone(JsonWriter &json, const ReviewReport &report, int pattern)
     }
     json.key("doubtful");
     json.value(report.patterns.isDoubtful(pattern));
-    json.key("lines");
-    json.value(numbers.lines);
-    json.key("projects");
-    json.value(numbers.projects);
-    json.key("probability");
-    json.value(rounded(numbers.probability));
+    writeNumbers(json, numbers);
     json.key("examples");
     writePlaces(json, report.release, report.patterns.places(pattern, Examples));
     json.endObject();

@@ -1,108 +1,17 @@
-#include "ModalScript.h"
-#include "WindowFixture.h"
+#include "ReviewFixture.h"
 
-#include <geomcoregui/table/VkTableView.h>
-#include <mapping/view/CatalogMappingWidget.h>
-#include <workbench/review/CandidateModel.h>
-#include <workbench/review/DifferencePanel.h>
-#include <workbench/review/NeighbourDock.h>
-#include <workbench/review/PatternDock.h>
-#include <workbench/review/PatternModel.h>
-#include <workbench/session/JournalReader.h>
-#include <workbench/session/JournalReplay.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LineCommands.h>
-#include <workbench/window/MainWindow.h>
-#include <workbench/window/NeighbourCommands.h>
 #include <workbench/window/ReasonDialog.h>
 #include <workbench/window/ReviewCommands.h>
-#include <workbench/window/StatusArea.h>
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <core/json/PJsonValue.h>
-#include <geomcore/records/MappingFile.h>
-#include <release/decide/LineEdits.h>
 #include <release/history/DecisionHistory.h>
-#include <release/history/SampleHistory.h>
 
 #include <QAbstractItemModelTester>
-#include <QAction>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QSignalSpy>
-#include <QSpinBox>
 #include <QTableView>
-#include <QTreeView>
-
-namespace {
-
-const QString seals = QStringLiteral("standardparts/seals/din3760.prj");
-const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
-
-/// A workbench with the list of patterns open and read.
-class ReviewFixture : public WindowFixture
-{
-public:
-    ReviewFixture()
-    {
-        open(mappingFile());
-        press(Qt::Key_F7);
-        waitForPatterns();
-    }
-
-    void waitForPatterns() const
-    {
-        QVERIFY(QTest::qWaitFor([this] { return review()->work()->hasPatterns(); }, 20000));
-        QCoreApplication::processEvents();
-    }
-    [[nodiscard]] ReviewCommands *review() const { return window->review(); }
-    [[nodiscard]] MappingDocument *document() const { return window->desk()->document(); }
-    [[nodiscard]] QTreeView *list() const { return window->findChild<QTreeView *>("PatternList"); }
-    [[nodiscard]] const PatternModel *model() const
-    {
-        return static_cast<const PatternModel *>(list()->model());
-    }
-    /// The row whose text begins so.
-    [[nodiscard]] int rowOf(const QString &text) const
-    {
-        for (int row = 0; row < model()->rowCount(); ++row) {
-            if (model()->index(row, 0).data().toString().startsWith(text))
-                return row;
-        }
-        return -1;
-    }
-    void choose(const QString &text)
-    {
-        const int row = rowOf(text);
-        QVERIFY2(row >= 0, qPrintable(text));
-        list()->setFocus();
-        list()->setCurrentIndex(model()->index(row, 0));
-        press(Qt::Key_Return);
-    }
-    [[nodiscard]] int linesIn(int row) const
-    {
-        return model()->index(row, PatternModel::Lines).data(PatternModel::ValueRole).toInt();
-    }
-    [[nodiscard]] QString sum() const { return window->findChild<QLabel *>("PatternSum")->text(); }
-    [[nodiscard]] LineRef here() const
-    {
-        return {window->editor()->currentProject(), window->editor()->currentLine()};
-    }
-    void explain() const
-    {
-        QVERIFY(QTest::qWaitFor(
-            [this] {
-                return window->findChild<QTreeView *>("CandidateList")->model()->rowCount() > 0;
-            },
-            10000));
-    }
-};
-
-} // namespace
 
 class tst_Review : public QObject
 {
@@ -123,12 +32,7 @@ private Q_SLOTS:
     void severalLinesAsPairs();
     void candidateByKey();
     void explanationFollowsDecisions();
-    void acceptedBySample();
-    void firstWrongOneSplits();
-    void selectedLinesBySample();
-    void agreedReplacement();
     void followsTheDocument();
-    void neighboursAreMendedInOneStep();
 };
 
 void tst_Review::numbersAddUp()
@@ -480,188 +384,6 @@ void tst_Review::explanationFollowsDecisions()
     QVERIFY(QTest::qWaitFor([&] { return tells(line, "ersetzt"); }, 20000));
 }
 
-namespace {
-
-/// Draws that many lines.
-void draw(ModalScript &script, int count)
-{
-    script.then([count](QWidget *dialog) {
-        auto *const box = dialog->findChild<QSpinBox *>();
-        box->selectAll();
-        QTest::keyClicks(box, QString::number(count));
-        QTest::keyClick(box, Qt::Key_Return);
-    });
-}
-
-/// The records of a kind in the journal.
-QList<PJsonValue> recordsOf(const MappingDocument &document, const char *kind)
-{
-    JournalReader reader;
-    QString error;
-    QList<PJsonValue> records;
-    if (!reader.read(document.journalFile(), &error))
-        return records;
-    for (const QByteArray &row : reader.sessions().last().records) {
-        if (JournalReader::isKind(row, kind))
-            records += JournalReader::parse(row);
-    }
-    return records;
-}
-
-} // namespace
-
-void tst_Review::acceptedBySample()
-{
-    ReviewFixture fixture;
-    fixture.choose("Werkstoff: FP → FKM");
-    const int lines = int(fixture.review()->lines().size());
-    const int confirmed = fixture.confirmedLines();
-    ModalScript script;
-    draw(script, 59);
-    fixture.press(Qt::Key_T, Qt::ControlModifier);
-    QVERIFY(script.isDone());
-    QVERIFY(fixture.review()->sample());
-    QCOMPARE(fixture.review()->sample()->drawn().size(), 59U);
-    script.thenClick("answerAccept");
-    for (int i = 0; i < 59; ++i)
-        fixture.press(Qt::Key_Plus);
-    QVERIFY(script.isDone());
-    QCOMPARE(fixture.confirmedLines(), confirmed + lines);
-    QVERIFY2(fixture.document()->undoText().contains(
-                 "59 von 59 richtig, mit 95 % Sicherheit weniger als 5.0 % falsch"),
-             qPrintable(fixture.document()->undoText()));
-    const QList<PJsonValue> records = recordsOf(*fixture.document(), "sample");
-    QCOMPARE(records.size(), 1);
-    const PJsonValue note = records.first().value("note");
-    QCOMPARE(note.value("drawn").size(), 59);
-    QVERIFY(note.value("drawn").at(0).toText().startsWith(seals + ':'));
-    QCOMPARE(note.value("right").toInt(), 59);
-    QCOMPARE(note.value("lines").toInt(), lines);
-    QVERIFY(!note.value("judge").toText().isEmpty());
-    QVERIFY(note.value("bound").toText().startsWith("0.049"));
-    QVERIFY(!records.first().value("time").toText().isEmpty());
-    // As a report reads it.
-    QString error;
-    const auto samples = VelkRelease::readJudgedSamples(fixture.document()->mappingFile(), &error);
-    QVERIFY2(samples, qPrintable(error));
-    QCOMPARE(samples->size(), 1U);
-    QCOMPARE(samples->front().release, fixture.document()->release().getSourceDate());
-    QCOMPARE(samples->front().judge, note.value("judge").toText());
-    QCOMPARE(samples->front().lines, lines);
-    QCOMPARE(samples->front().drawn.size(), 59);
-    QCOMPARE(samples->front().drawn.first(), note.value("drawn").at(0).toText());
-    QCOMPARE(samples->front().judged, 59);
-    QCOMPARE(samples->front().right, 59);
-    QCOMPARE(samples->front().certainty, 0.95);
-    QVERIFY(std::abs(samples->front().bound.value() - 0.04951) < 1e-4);
-    QVERIFY(samples->front().time.isValid());
-    fixture.press(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(fixture.confirmedLines(), confirmed);
-}
-
-void tst_Review::firstWrongOneSplits()
-{
-    ReviewFixture fixture;
-    fixture.choose("kein Unterschied");
-    const int confirmed = fixture.confirmedLines();
-    ModalScript script;
-    draw(script, 20);
-    fixture.press(Qt::Key_T, Qt::ControlModifier);
-    fixture.press(Qt::Key_Plus);
-    const LineRef wrong = fixture.here();
-    QStringList parts;
-    script.then([&parts](QWidget *dialog) {
-        auto *const list = dialog->findChild<QListView *>();
-        for (int row = 0; row < list->model()->rowCount(); ++row)
-            parts << list->model()->index(row, 0).data().toString();
-        list->setFocus();
-        list->setCurrentIndex(list->model()->index(1, 0));
-        QTest::keyClick(list, Qt::Key_Return);
-    });
-    fixture.press(Qt::Key_Minus);
-    QVERIFY(script.isDone());
-    QVERIFY(!fixture.review()->sample());
-    QCOMPARE(fixture.confirmedLines(), confirmed);
-    // One pattern falls apart by projects.
-    QVERIFY2(parts.size() > 2, qPrintable(parts.join('\n')));
-    QCOMPARE(parts.filter("dort war die falsche").size(), 1);
-    const std::vector<ReviewCommands::Place> rest = fixture.review()->lines();
-    QVERIFY(!rest.empty());
-    for (const ReviewCommands::Place &place : rest)
-        QVERIFY(fixture.review()->work()->lineAt(place) != wrong);
-    QVERIFY2(parts[1].startsWith(fixture.here().project.path), qPrintable(parts[1]));
-    const PJsonValue note = recordsOf(*fixture.document(), "sample").first().value("note");
-    QCOMPARE(note.value("judged").toInt(), 2);
-    QCOMPARE(note.value("right").toInt(), 1);
-    QVERIFY(!note.contains("bound"));
-    QString error;
-    const auto samples = VelkRelease::readJudgedSamples(fixture.document()->mappingFile(), &error);
-    QVERIFY(samples && samples->size() == 1);
-    QVERIFY(!samples->front().bound);
-    QCOMPARE(samples->front().drawn.size(), 2);
-}
-
-void tst_Review::selectedLinesBySample()
-{
-    ReviewFixture fixture;
-    QVERIFY(fixture.window->editor()->selectProject(din933));
-    fixture.sourceView()->setFocus();
-    fixture.press(Qt::Key_A, Qt::ControlModifier);
-    ModalScript script;
-    draw(script, 2);
-    fixture.press(Qt::Key_T, Qt::ControlModifier);
-    QVERIFY(fixture.review()->sample());
-    QCOMPARE(fixture.review()->sample()->drawn().size(), 2U);
-    QVERIFY(fixture.review()->sample()->lines().size() > 40);
-    // Who looks elsewhere judges nothing.
-    fixture.window->editor()->selectLine(1);
-    const int judged = fixture.review()->sample()->judged();
-    if (fixture.review()->work()->placeOf(fixture.here()) !=
-        fixture.review()->sample()->current()) {
-        fixture.press(Qt::Key_Plus);
-        QCOMPARE(fixture.review()->sample()->judged(), judged);
-    }
-}
-
-void tst_Review::agreedReplacement()
-{
-    ReviewFixture fixture;
-    fixture.choose("Werkstoff: FP → FKM");
-    ModalScript script;
-    QString evidence;
-    script.then([&evidence](QWidget *dialog) {
-        auto *const list = dialog->findChild<QListWidget *>("ReplacementList");
-        QCOMPARE(list->count(), 1);
-        QTest::mouseClick(dialog->findChild<QPushButton *>("evidenceButton"), Qt::LeftButton);
-        evidence = dialog->findChild<QLabel *>("ReplacementEvidence")->text();
-        QTest::mouseClick(dialog->findChild<QPushButton *>("agreeButton"), Qt::LeftButton);
-        QTest::mouseClick(dialog->findChild<QPushButton *>("acceptButton"), Qt::LeftButton);
-    });
-    fixture.press(Qt::Key_E, Qt::ControlModifier);
-    QVERIFY(script.isDone());
-    QVERIFY2(evidence.startsWith("69 Zeilen dafür, "), qPrintable(evidence));
-    const QList<AgreedReplacement> agreed = fixture.document()->release().getReplacements();
-    QCOMPARE(agreed, (QList<AgreedReplacement>{{{}, "Werkstoff", "FP", "FKM", {}, {}}}));
-    fixture.waitForPatterns();
-    QVERIFY(QTest::qWaitFor([&] { return !fixture.review()->work()->isReading(); }, 20000));
-    const int pattern = fixture.model()->patternAt(fixture.rowOf("Werkstoff: FP → FKM"));
-    QVERIFY(fixture.review()->work()->patterns().changes(pattern).first().agreed);
-    // Kept in the file, in the journal, and one step of undo.
-    QVERIFY(fixture.document()->save().result == SaveResult::Saved);
-    MappingFile file;
-    QVERIFY(file.read(fixture.document()->mappingFile()));
-    QCOMPARE(file.releases().last().getReplacements(), agreed);
-    JournalReader reader;
-    QVERIFY(reader.read(fixture.document()->journalFile(), nullptr));
-    const JournalReplay replay = JournalReplay::run(reader.sessions().last(), ReleaseMappingC(), 0,
-                                                    JournalReplay::Extent::Unbroken);
-    QCOMPARE(replay.release.getReplacements(), agreed);
-    fixture.document()->undo();
-    QVERIFY(fixture.document()->release().getReplacements().isEmpty());
-    fixture.document()->redo();
-    QCOMPARE(fixture.document()->release().getReplacements(), agreed);
-}
-
 void tst_Review::followsTheDocument()
 {
     ReviewFixture fixture;
@@ -675,77 +397,6 @@ void tst_Review::followsTheDocument()
     // Closed while it reads.
     fixture.review()->work()->readAnew();
     fixture.closeWindow();
-}
-
-void tst_Review::neighboursAreMendedInOneStep()
-{
-    WindowFixture fixture;
-    fixture.open(fixture.mappingFile());
-    MappingDocument *const document = fixture.window->desk()->document();
-    const NeighbourWork *const work = fixture.window->neighbours()->work();
-    const auto isChecked = [&] {
-        return !work->isReading() && work->checkedLines() > 0;
-    };
-    QVERIFY(fixture.window->neighbours()->dock()->isHidden());
-    fixture.press(Qt::Key_F7, Qt::ControlModifier);
-    auto *const list = fixture.window->findChild<QTreeView *>("NeighbourList");
-    const QAbstractItemModelTester tester(list->model(),
-                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
-    QCOMPARE(QApplication::focusWidget(), list);
-    QVERIFY(QTest::qWaitFor(isChecked, 20000));
-    const int before = list->model()->rowCount();
-    // Ten lines of a project are moved one line on.
-    QVERIFY(fixture.window->editor()->selectProject(din933));
-    const ProjectId project = fixture.window->editor()->currentProject();
-    const PrjMappingC right = document->mapping(project);
-    VelkRelease::LineEdits edits(right);
-    const LineTable &lines = right.targetAt(0).lines();
-    LineTable::Iterator entry = lines.begin();
-    std::advance(entry, 10);
-    const int first = entry.sourceLine();
-    int last = first;
-    for (int i = 0; i < 10; ++i) {
-        last = entry.sourceLine();
-        const LineTable::Iterator next = std::next(entry);
-        edits.assign(last, 0, next.targetLine(), PRJMAPPING::Verified);
-        entry = next;
-    }
-    document->updateMapping(edits.mapping());
-    QVERIFY(QTest::qWaitFor([&] { return list->model()->rowCount() > before; }, 20000));
-    QVERIFY(QTest::qWaitFor(isChecked, 20000));
-    const QString text = QString("Zeilen %1 bis %2 sind um 1 verschoben").arg(first).arg(last);
-    int row = 0;
-    while (row < list->model()->rowCount() && list->model()->index(row, 0).data() != text)
-        ++row;
-    QVERIFY2(row < list->model()->rowCount(), qPrintable(text));
-    QVERIFY2(fixture.window->findChild<QLabel *>("NeighbourSum")
-                 ->text()
-                 .endsWith(QString("%1 Fundstelle%2").arg(before + 1).arg(before == 0 ? "" : "n")),
-             qPrintable(fixture.window->findChild<QLabel *>("NeighbourSum")->text()));
-    list->setFocus();
-    list->setCurrentIndex(list->model()->index(row, 0));
-    fixture.press(Qt::Key_Return);
-    QCOMPARE(fixture.window->editor()->currentLine(), first);
-    const PrjMappingC shifted = document->mapping(project);
-    const int steps = int(document->undoTexts().size());
-    fixture.press(Qt::Key_M, Qt::ControlModifier);
-    QCOMPARE(document->mapping(project).targetAt(0).getMappedLine(first).getTargetLineId(),
-             right.targetAt(0).getMappedLine(first).getTargetLineId());
-    QCOMPARE(document->mapping(project).targetAt(0).getMappedLine(last).getTargetLineId(),
-             right.targetAt(0).getMappedLine(last).getTargetLineId());
-    // Gone at once, and a single step.
-    QCOMPARE(list->model()->rowCount(), before);
-    QCOMPARE(document->undoTexts().size(), steps + 1);
-    QVERIFY2(document->undoText().startsWith("Behoben: " + text), qPrintable(document->undoText()));
-    QVERIFY(QTest::qWaitFor(isChecked, 20000));
-    QCOMPARE(list->model()->rowCount(), before);
-    fixture.press(Qt::Key_Z, Qt::ControlModifier);
-    QVERIFY(LineTable::isSame(document->mapping(project).targetAt(0).lines(),
-                              shifted.targetAt(0).lines()));
-    QVERIFY(QTest::qWaitFor([&] { return list->model()->rowCount() == before + 1; }, 20000));
-    // Closed while it looks.
-    document->close();
-    QCOMPARE(list->model()->rowCount(), 0);
 }
 
 QTEST_MAIN(tst_Review)
