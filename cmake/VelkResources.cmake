@@ -44,7 +44,8 @@ function(velk_library_catalogs library)
   velk_catalogs(catalogs ${library} "${CMAKE_SOURCE_DIR}/translations" "${output}" ${VELK_LANGUAGES})
   list(TRANSFORM catalogs PREPEND "${output}/")
   qt_add_resources(${library} ${library}Translations PREFIX /translations BASE "${output}"
-                   FILES ${catalogs})
+                   FILES ${catalogs}
+                   OPTIONS --format-version 1) # has no times of files: two builds give the same bytes
 endfunction()
 
 # velk_resource_list(FILE [PREFIX FOLDER NAME...]...): writes a resource list with the files NAME of

@@ -221,10 +221,24 @@ private:
             m_open[{m_position, line.second}] = found ? proposed : alone;
         }
         if (right == gone || (gone && found))
-            m_score.misses << QStringLiteral("%1:%2 -> %3:%4, %5 (%6)")
+            m_score.misses << QStringLiteral("%1:%2 -> %3:%4, %5 (%6), %7")
                                   .arg(line.first, QString::number(line.second), assigned.first,
                                        QString::number(assigned.second), all.explanation,
-                                       QString::number(all.noSuccessor, 'f', 2));
+                                       QString::number(all.noSuccessor, 'f', 2),
+                                       expected(*entry, mapping));
+    }
+
+    /// Where the line went, and whether that is among the targets at all.
+    static QString expected(const TruthFile::Entry &entry, const PrjMappingC &mapping)
+    {
+        QStringList targets;
+        for (const PrjMappingTargetC &target : mapping.getTargets())
+            targets << tableName(target.getTargetPath());
+        QStringList texts;
+        for (const auto &[table, line] : entry.places)
+            texts << QStringLiteral("%1:%2%3").arg(table, QString::number(line),
+                                                   targets.contains(table) ? "" : ", no target");
+        return texts.isEmpty() ? QStringLiteral("gone") : texts.join("; ");
     }
 
     void addCandidates(const LineCandidatesC &all, const TruthFile::Entry &entry)

@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTableView>
 
@@ -22,7 +23,8 @@ QIcon deleteIcon()
     return QIcon(QStringLiteral("bitmaps:indextree/state_deleted.png"));
 }
 
-/// As high as its rows, and without any as high as its header.
+/// As high as its rows, and without any as high as its header, with a bar that scrolls aside where
+/// it needs one.
 class TargetList : public QTableView
 {
 public:
@@ -37,8 +39,9 @@ public:
 private:
     [[nodiscard]] int contentHeight() const
     {
+        const QScrollBar *const bar = horizontalScrollBar();
         return horizontalHeader()->sizeHint().height() + verticalHeader()->length() +
-               2 * frameWidth();
+               2 * frameWidth() + (bar->maximum() > 0 ? bar->sizeHint().height() : 0);
     }
 };
 
@@ -109,6 +112,8 @@ QTableView *TargetMappingWidget::addList(const char *name, QStandardItemModel *&
     view->setTabKeyNavigation(false); // Tab goes on to the next list
     model = new QStandardItemModel(0, int(headers.size()), view);
     model->setHorizontalHeaderLabels(headers);
+    for (int column = 1; column < headers.size(); ++column)
+        model->setHeaderData(column, Qt::Horizontal, headers[column], Qt::ToolTipRole);
     view->setModel(model);
     auto *const header = new PButtonHeaderView(QSize(24, 24), Qt::Horizontal, view);
     view->setHorizontalHeader(header);

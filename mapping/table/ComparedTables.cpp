@@ -6,6 +6,7 @@
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
+#include <QEvent>
 #include <QScopeGuard>
 #include <QScrollBar>
 #include <QTableView>
@@ -60,6 +61,19 @@ ComparedTables::ComparedTables(VkTableView *source, VkTableView *target, QObject
     };
     follow(source, target, m_sourceHeight);
     follow(target, source, m_targetHeight);
+    source->grid()->installEventFilter(this);
+    target->grid()->installEventFilter(this);
+}
+
+bool ComparedTables::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_isOn && event->type() == QEvent::FontChange) {
+        if (watched == m_source->grid())
+            m_target->setZoomFactor(m_source->getZoomFactor());
+        else
+            m_source->setZoomFactor(m_target->getZoomFactor());
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void ComparedTables::setOn(bool on)

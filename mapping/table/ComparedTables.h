@@ -12,7 +12,7 @@ class VkTableView;
 
 /// Source and target table as they are compared: the pair of lines stands at one height with the
 /// cells that differ marked, and while it does, the tables scroll together, sideways by the columns
-/// that both have. Does nothing until it is switched on.
+/// that both have. Their text has one size. Does nothing until it is switched on.
 class ComparedTables : public QObject
 {
     Q_OBJECT
@@ -28,6 +28,9 @@ public:
               const QHash<QString, MapVarValueC> &values);
     /// There is no pair.
     void clear();
+
+    /// Whoever of the two was zoomed, the other one follows.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     [[nodiscard]] QStringList differingVariables(const QHash<QString, MapVarValueC> &values) const;

@@ -1,6 +1,6 @@
 #include "MappedTargetLines.h"
 
-#include "MappingDifference.h"
+#include "changedSourceLines.h"
 
 bool MappedTargetLines::update(const PrjMappingC &mapping, const QList<int> &targets)
 {

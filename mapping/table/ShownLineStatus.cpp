@@ -1,7 +1,7 @@
 #include "ShownLineStatus.h"
 
+#include "changedSourceLines.h"
 #include "LineStates.h"
-#include "MappingDifference.h"
 #include "TableMappingWidgetPrivate.h"
 
 #include <geomcore/table/BaseLayer.h>

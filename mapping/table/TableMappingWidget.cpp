@@ -3,6 +3,7 @@
 #include "ComparedTables.h"
 #include "TableMappingWidgetPrivate.h"
 
+#include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QCheckBox>
@@ -81,6 +82,17 @@ void TableMappingWidget::setComparing(bool on)
 {
     d->compared->setOn(on);
     d->showSourceLine(d->sourceTable.getSelection());
+}
+
+void TableMappingWidget::setLineRemarks(
+    const std::function<QString(const PrjMappingC &mapping, int line)> &remarks)
+{
+    VkTableModel::LineRemarks ofLines;
+    if (remarks)
+        ofLines = [this, remarks](const VKTab::LineId &line) {
+            return remarks(d->mapping, line.value(0));
+        };
+    d->sourceView->model()->setLineRemarks(ofLines);
 }
 
 void TableMappingWidget::setConditionListener(

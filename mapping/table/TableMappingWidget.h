@@ -50,6 +50,9 @@ public:
     /// The selected line and its target line are compared: cells that differ are marked, both lines
     /// stand at one height, and the tables scroll together. Off at first.
     void setComparing(bool on);
+    /// See CatalogMappingWidget::setLineRemarks().
+    void
+    setLineRemarks(const std::function<QString(const PrjMappingC &mapping, int line)> &remarks);
     /// Takes the filter by state away, and the one set from the menu.
     void showAllLines();
     /// In place of such filters: only these source lines, ascending by number.

@@ -148,6 +148,12 @@ void CatalogMappingWidget::setComparing(bool on)
     d->tableWidget->setComparing(on);
 }
 
+void CatalogMappingWidget::setLineRemarks(
+    const std::function<QString(const PrjMappingC &mapping, int line)> &remarks)
+{
+    d->tableWidget->setLineRemarks(remarks);
+}
+
 void CatalogMappingWidget::showAllLines()
 {
     if (sourceTable().isValid())

@@ -115,6 +115,11 @@ public:
     void showOnlyLines(const std::vector<int> &lines);
     /// See TableMappingWidget::setComparing().
     void setComparing(bool on);
+    /// What the source table says of lines beside what the mapping does, with a mark at the number
+    /// of the line; plain text, empty: nothing. Asked at any time; given again when it would say
+    /// something else.
+    void
+    setLineRemarks(const std::function<QString(const PrjMappingC &mapping, int line)> &remarks);
     /// The source table shows all lines again that the filters of columns leave.
     void showAllLines();
     /// For the tables that are shown now.

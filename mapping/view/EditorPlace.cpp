@@ -69,5 +69,8 @@ bool EditorPlace::selectLine(int line) const
         return false;
     if (!table.isLineVisible(id))
         m_tables->showAllLines();
+    // The current one of several selected lines is to stand alone, which is news to who listens.
+    if (table.getSelection() == id && selectedLines().size() > 1)
+        table.setSelection(VKTab::LineId(), false);
     return table.setSelection(id, true);
 }

@@ -21,11 +21,16 @@ struct MapperFixture
     }
 
     /// Hands table and mapping to the mapper, to be called when the mapping is complete.
-    QFlags<PRJMAPPING::MappingState_> start()
+    QFlags<PRJMAPPING::MappingState_> start(const QList<AgreedReplacement> &agreed = {})
     {
         mapper.setCreatorMode(true);
         mapper.setSourceTable(source);
-        return mapper.findMapping("old/a.prj", "v1", catalogOf(mapping));
+        ReleaseMappingC release;
+        release.setReplacements(agreed);
+        release.addMapping(mapping);
+        CatalogMappingC catalog;
+        catalog.addRelease(release);
+        return mapper.findMapping("old/a.prj", "v1", catalog);
     }
 
     [[nodiscard]] Varset varset(int line) const

@@ -52,6 +52,9 @@ private Q_SLOTS:
     void families_data();
     void families();
     void replacementIsTold();
+    void agreedReplacements_data();
+    void agreedReplacements();
+    void agreedReplacementIsTold();
     void goneLinesHaveNoProposal();
     void renumberedKey();
     void probabilitiesHold_data();
@@ -183,6 +186,16 @@ void tst_PrjMapperCandidates::families_data()
     row("a column is reworded", plain, [number](int i) {
         return "S0" + number(i) + "B," + number(7 * i * i + 1) + ",type no. " + number(i % 3 + 100);
     });
+    // Only the last value stays, and two lines have it: by itself no pair is likely.
+    row(
+        "nearly all is another at once",
+        [number](int i) {
+            return "M" + number(i + 2) + ',' + number(i + 1) + ',' + number((i + 1) / 2 * 5);
+        },
+        [number](int i) {
+            return "MX" + number(i + 2) + ',' + QByteArray::number((i + 1) / 25.4, 'g', 6) + ',' +
+                   number((i + 1) / 2 * 5);
+        });
     row("numbers have another unit", plain, [number](int i) {
         return "S0" + number(i) + "B," + QByteArray::number(7 * i * i / 25.4, 'g', 6) + ",kind " +
                number(i % 3);
@@ -225,6 +238,72 @@ void tst_PrjMapperCandidates::replacementIsTold()
     QCOMPARE(best.variables[2].supports, 5);
     QCOMPARE(best.explanation,
              QString("gleich: D, s; ersetzt: material St37-2 → S235JR (so in 5 weiteren Zeilen)"));
+}
+
+void tst_PrjMapperCandidates::agreedReplacements_data()
+{
+    QTest::addColumn<QList<AgreedReplacement>>("agreed");
+    QTest::addColumn<QString>("proposals"); // of lines 1 to 4
+    using List = QList<AgreedReplacement>;
+    const auto texts = [](const char *folder, const char *variable = "material") {
+        List list;
+        for (const auto &[before, after] : {std::pair("St37", "S235"), std::pair("C45", "1.0503"),
+                                            std::pair("A2", "304"), std::pair("A4", "316")})
+            list += AgreedReplacement{folder, variable, before, after, {}, {}};
+        return list;
+    };
+    const QString all = "0:4 0:3 0:2 0:1";
+    const QString none = "none none none none";
+    QTest::newRow("nothing") << List() << none;
+    QTest::newRow("for the release") << texts("") << all;
+    QTest::newRow("for its folder") << texts("old") << all;
+    QTest::newRow("for the project") << texts("old/a.prj") << all;
+    QTest::newRow("for another folder") << texts("ol") << none;
+    QTest::newRow("for another project") << texts("old/b.prj") << none;
+    QTest::newRow("about another variable") << texts("", "D") << none;
+}
+
+/// Nothing else tells which line has become which.
+void tst_PrjMapperCandidates::agreedReplacements()
+{
+    QFETCH(QList<AgreedReplacement>, agreed);
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,material\nk,St37 zn\nl,C45 zn\nm,A2 zn\nn,A4 zn\n");
+    catalog.write("new/a.prj", "D,material\n17,316 zn\n18,304 zn\n19,1.0503 zn\n20,S235 zn\n");
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start(agreed);
+    QStringList proposals;
+    for (int line = 1; line <= 4; ++line)
+        proposals += fixture.proposal(line);
+    QTEST(proposals.join(' '), "proposals");
+}
+
+void tst_PrjMapperCandidates::agreedReplacementIsTold()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,L:n,W\nk,10,St37\nl,25,C45\nm,70,C45\n");
+    catalog.write("new/a.prj", "D,L:n,W\n17,7,C45\n18,1,S235\n19,2.5,C45\n");
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start({{"", "L", {}, {}, "0.1", "0"}, {"", "W", "St37", "S235", {}, {}}});
+    const LineCandidatesC found = fixture.mapper.candidates(1, fixture.varset(1));
+    QVERIFY(!found.candidates.isEmpty());
+    const LineCandidateC &best = found.candidates.first();
+    QCOMPARE(best.lineId, VKTab::LineId(2));
+    QCOMPARE(outcomes(best), (QList{Outcome::Different, Outcome::Replaced, Outcome::Replaced}));
+    QCOMPARE(best.variables[1].supports, 0);
+    QVERIFY2(best.explanation.contains("ersetzt: L 10 → 1, W St37 → S235"),
+             qPrintable(best.explanation));
+    // Numbers too, which nothing else says of these lines.
+    for (const int line : {2, 3}) {
+        const LineCandidatesC other = fixture.mapper.candidates(line, fixture.varset(line));
+        QVERIFY(!other.candidates.isEmpty());
+        QCOMPARE(other.candidates.first().lineId, VKTab::LineId(line == 2 ? 3 : 1));
+    }
+    // Withdrawn: another plan.
+    fixture.start();
+    const LineCandidatesC without = fixture.mapper.candidates(1, fixture.varset(1));
+    QVERIFY(without.candidates.isEmpty() ||
+            !outcomes(without.candidates.first()).contains(Outcome::Replaced));
 }
 
 void tst_PrjMapperCandidates::goneLinesHaveNoProposal()

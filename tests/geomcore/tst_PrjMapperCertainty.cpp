@@ -37,6 +37,11 @@ private Q_SLOTS:
     void combinationOfAnotherTarget();
     void overlappingRanges();
     void sameRangesBehindOthers();
+    void agreementOfTheTables_data();
+    void agreementOfTheTables();
+    void equalLinesArePairedOff_data();
+    void equalLinesArePairedOff();
+    void hiddenLinesAreNotPairedOff();
     void messages_data();
     void messages();
 };
@@ -345,6 +350,15 @@ void tst_PrjMapperCertainty::combinations_data()
         << QByteArray("D,L:r\nM8,20;10\n") << QByteArray("D,L:n\nM8,10\nM8,20\n") << false;
     QTest::newRow("one line of the target")
         << QByteArray("D,L:r\nM8,20;10\n") << QByteArray("D,L:r\nM8,10;20\n") << true;
+    QTest::newRow("a line counts once, however many combinations")
+        << QByteArray("D,L:r\nM8,10;20\n")
+        << QByteArray("D,L:r\nM8,10;20\nX1,7\nX2,8\nX3,9\nX4,7\n") << true;
+    QByteArray many;
+    for (int i = 1; i <= 1100; ++i)
+        many += (i == 1 ? "" : ";") + QByteArray::number(i);
+    QTest::newRow("many combinations") << "D,L:r\nM8," + many + '\n'
+                                       << "D,L:r\nM8," + many + '\n'
+                                       << true;
     QTest::newRow("more combinations than are looked at")
         << QByteArray("D,L:r,W:r\nM8,20;1001..1400/1,1..400/1\n") << QByteArray("D,L:n\nM8,20\n")
         << false;
@@ -420,6 +434,67 @@ void tst_PrjMapperCertainty::sameRangesBehindOthers()
         target += "M8,10;20;" + QByteArray::number(i) + '\n';
     Case test("D,L:r\nM8,10;20\n", {{"new/a.prj", target + "M8,10;20\n"}});
     QCOMPARE(test.proposals(), QStringList{"0:31"});
+}
+
+void tst_PrjMapperCertainty::agreementOfTheTables_data()
+{
+    QTest::addColumn<int>("equal");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("less than half of the lines are equal") << 9 << "0:1";
+    QTest::newRow("more than half") << 11 << "0:1 ok";
+}
+
+void tst_PrjMapperCertainty::agreementOfTheTables()
+{
+    QFETCH(int, equal);
+    // An empty first cell: nothing tells which of the others belong together.
+    QByteArray source = "a:n,b:n\n";
+    QByteArray target = source;
+    for (int i = 1; i <= 20; ++i) {
+        source += (i == 20 ? QByteArray() : QByteArray::number(i)) + ",7\n";
+        target += (i == 20 ? QByteArray() : QByteArray::number(i)) + (i <= equal ? ",7\n" : ",\n");
+    }
+    Case test(source, {{"new/a.prj", target}});
+    QTEST(test.proposals().first(), "expected");
+}
+
+void tst_PrjMapperCertainty::equalLinesArePairedOff_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<int>("equal");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("each takes the next")
+        << QByteArray("D,k:n\nM8,5\nM8,5\nM8,5\n") << 3 << QStringList{"0:1", "0:2", "0:3"};
+    QTest::newRow("behind another line")
+        << QByteArray("D,k:n\nM8,5\nX,1\nM8,5\n") << 50 << QStringList{"0:1", "0:51", "0:52"};
+}
+
+/// Equal lines on both sides, on either side of a line "X".
+void tst_PrjMapperCertainty::equalLinesArePairedOff()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(int, equal);
+    const QByteArray lines = QByteArray("M8,5\n").repeated(equal);
+    Case test(source, {{"new/a.prj", "D,k:n\n" + lines + "X,1\n" + lines}});
+    QStringList expected = test.proposals();
+    for (QString &proposal : expected)
+        proposal = proposal.section(u' ', 0, 0);
+    QTEST(expected, "expected");
+}
+
+void tst_PrjMapperCertainty::hiddenLinesAreNotPairedOff()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n\nM8,5\nM8,5\n");
+    catalog.write("new/a.prj", "D,k:n,g:n\nM8,5,1\nM8,5,2\nM8,5,1\n",
+                  [](VKTab::TableDescriptor &table) {
+                      table.filterConditions.append({"PRJLINECOND", "g .EQ. 1", {}});
+                  });
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    fixture.mapper.setCreatorMode(false);
+    QCOMPARE(fixture.proposal(1), "0:1");
+    QCOMPARE(fixture.proposal(2), "0:3");
 }
 
 void tst_PrjMapperCertainty::messages_data()

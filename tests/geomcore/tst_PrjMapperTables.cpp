@@ -1,6 +1,10 @@
 #include "MapperFixture.h"
 
 #include <core/message/PMessageSink.h>
+#include <geomcore/mapper/TargetTable.h>
+#include <geomcore/mapper/TargetTables.h>
+#include <geomcore/table/ModifyLayer.h>
+#include <geomcore/table/TableData.h>
 
 #include <QDateTime>
 #include <QFile>
@@ -52,16 +56,23 @@ private Q_SLOTS:
     void writtenTableIsReadAnew();
     void writtenTableOfTheSameSizeIsReadAnew();
     void writtenTableOfTheSameTimeIsReadAnew();
+    void writtenTableOfTheFutureIsReadAnew();
     void conditionsTellJoinsApart();
+    void rangesTellJoinsApart();
+    void hiddenLinesTellJoinsApart();
+    void confirmedLinesTellPlansApart();
+    void changedCellsTellTablesApart();
     void writtenProjectIsReadAnew();
     void tableThatAppears();
     void openTableStaysWithItsMapper();
+    void readersShareTheTable();
     void failureIsToldOnce();
     void otherSourceTable();
     void manyTables();
     void severalThreads();
     void endedJoinIsNotKept_data();
     void endedJoinIsNotKept();
+    void endedPlanIsNotKept();
 };
 
 void tst_PrjMapperTables::writtenTableIsReadAnew()
@@ -107,6 +118,25 @@ void tst_PrjMapperTables::writtenTableOfTheSameTimeIsReadAnew()
     QCOMPARE(proposal(catalog), "0:3 ok");
 }
 
+/// Who writes while it is read may do so without a later time.
+void tst_PrjMapperTables::writtenTableOfTheFutureIsReadAnew()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("new/a.prj", table);
+    const QDateTime time = QDateTime::currentDateTime().addSecs(3600);
+    const auto setTime = [&] {
+        QFile file(catalog.file("new/a.csv"));
+        return file.open(QIODevice::ReadWrite) &&
+               file.setFileTime(time, QFileDevice::FileModificationTime);
+    };
+    QVERIFY(setTime());
+    QCOMPARE(proposal(catalog), "0:1 ok");
+    catalog.writeFile("new/a.csv", "D,k\nM9,6\nM8,5\n");
+    QVERIFY(setTime());
+    QCOMPARE(proposal(catalog), "0:2 ok");
+}
+
 void tst_PrjMapperTables::conditionsTellJoinsApart()
 {
     const TestCatalog catalog;
@@ -126,6 +156,83 @@ void tst_PrjMapperTables::conditionsTellJoinsApart()
     QVERIFY2(!proposed(QString()), "two source lines for one target line");
     QVERIFY2(proposed("g .EQ. 1"), "the other one is not for this target");
     QVERIFY(!proposed(QString()));
+}
+
+void tst_PrjMapperTables::rangesTellJoinsApart()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,L:r\nM8,10;20\n");
+    catalog.write("new/a.prj", "D,L:n\nM8,20\n");
+    catalog.write("new/b.prj", "D,L:n\nX,1\n");
+    const VKTab::Content source = catalog.read("old/a.prj");
+    const auto hasEqual = [&](bool conditional) {
+        MapperFixture fixture(catalog, {"new/a.prj", "new/b.prj"});
+        fixture.source = source;
+        if (conditional) // at the other target, and the first one's combinations are walked too
+            addCondition(fixture.mapping, 1, "L .GT. 15");
+        fixture.start();
+        return fixture.mapper.hasEqualLine(1);
+    };
+    QVERIFY(!hasEqual(false));
+    QVERIFY(hasEqual(true));
+    QVERIFY(!hasEqual(false));
+}
+
+void tst_PrjMapperTables::hiddenLinesTellJoinsApart()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("new/a.prj", table, [](VKTab::TableDescriptor &descriptor) {
+        descriptor.filterConditions.append({"PRJLINECOND", "k .GT. 5", {}});
+    });
+    const VKTab::Content source = catalog.read("old/a.prj");
+    const auto hasEqual = [&](bool creator) {
+        MapperFixture fixture(catalog, {"new/a.prj"});
+        fixture.source = source;
+        fixture.start();
+        fixture.mapper.setCreatorMode(creator);
+        return fixture.mapper.hasEqualLine(1);
+    };
+    QVERIFY(hasEqual(true));
+    QVERIFY(!hasEqual(false));
+    QVERIFY(hasEqual(true));
+}
+
+void tst_PrjMapperTables::confirmedLinesTellPlansApart()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n,l:n\nM8,5,1\nM9,6,2\nM10,7,3\n");
+    catalog.write("new/a.prj", "D,k:n,l:n\nM8,5.1,1\nM9,6.1,2\nM10,7.1,3\n");
+    const VKTab::Content source = catalog.read("old/a.prj");
+    const auto proposed = [&](bool confirmed) {
+        MapperFixture fixture(catalog, {"new/a.prj"});
+        fixture.source = source;
+        if (confirmed)
+            enter(fixture.mapping, 0, 2, 1, PRJMAPPING::Verified);
+        fixture.start();
+        return fixture.proposal(1);
+    };
+    QCOMPARE(proposed(false), "0:1");
+    QVERIFY2(proposed(true) != "0:1", "another line has it");
+    QCOMPARE(proposed(false), "0:1");
+}
+
+void tst_PrjMapperTables::changedCellsTellTablesApart()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", table);
+    catalog.write("new/a.prj", table);
+    VKTab::Content source = catalog.read("old/a.prj");
+    const auto hasEqual = [&] {
+        MapperFixture fixture(catalog, {"new/a.prj"});
+        fixture.source = source;
+        fixture.start();
+        return fixture.mapper.hasEqualLine(1);
+    };
+    QVERIFY(hasEqual());
+    QVERIFY(source.getModifyLayer()->setValue(source.getVar(u"k").getVarId(), VKTab::LineId(1),
+                                              VKTab::Value("50")));
+    QVERIFY(!hasEqual());
 }
 
 void tst_PrjMapperTables::writtenProjectIsReadAnew()
@@ -166,6 +273,23 @@ void tst_PrjMapperTables::openTableStaysWithItsMapper()
     QCOMPARE(fixture.proposal(1), "0:1 ok");
     QCOMPARE(fixture.proposal(2), "0:2 ok");
     QCOMPARE(proposal(catalog), "0:2 ok");
+}
+
+void tst_PrjMapperTables::readersShareTheTable()
+{
+    const TestCatalog catalog;
+    catalog.write("new/a.prj", table);
+    for (const char *name : {"new/a.csv", "new/a.json"}) {
+        QFile file(catalog.file(name));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60),
+                                 QFileDevice::FileModificationTime));
+    }
+    const VKTab::Content shown = catalog.read("new/a.prj");
+    const auto opened = Mapper::TargetTables::instance().open(catalog.file("new/a.prj"));
+    QVERIFY(opened);
+    QCOMPARE(&opened->data(), shown.getTableData().get());
+    QCOMPARE(catalog.read("new/a.prj").getTableData(), shown.getTableData());
 }
 
 void tst_PrjMapperTables::failureIsToldOnce()
@@ -282,6 +406,23 @@ void tst_PrjMapperTables::endedJoinIsNotKept()
     second.start();
     const VKTab::LineView same(second.source, VKTab::LineId(1));
     QCOMPARE(second.mapper.createLine(1, same, false).getTargetLineId(), 1);
+}
+
+void tst_PrjMapperTables::endedPlanIsNotKept()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n,l:n\nM8,5,1\nM9,6,2\n");
+    catalog.write("new/a.prj", "D,k:n,l:n\nM8,5.1,1\nM9,6.1,2\n");
+    const VKTab::Content source = catalog.read("old/a.prj");
+    MapperFixture first(catalog, {"new/a.prj"});
+    first.source = source;
+    first.mapper.setCancellation([] { return true; });
+    first.start();
+    (void)first.create(1); // of no use
+    MapperFixture second(catalog, {"new/a.prj"});
+    second.source = source;
+    second.start();
+    QCOMPARE(second.proposal(1), "0:1");
 }
 
 QTEST_GUILESS_MAIN(tst_PrjMapperTables)

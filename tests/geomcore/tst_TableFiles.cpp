@@ -1,5 +1,9 @@
+#include <geomcore/table/FileLayer.h>
+#include <geomcore/table/OpenTables.h>
 #include <geomcore/table/TableData.h>
+#include <geomcore/table/TabReader.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -10,6 +14,15 @@
 using namespace VKTab;
 
 namespace {
+
+/// Files have been there for a while, so that no clock stands in doubt.
+void makeOld(const QString &name)
+{
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60),
+                             QFileDevice::FileModificationTime));
+}
 
 void writeFile(const QString &name, const QByteArray &bytes)
 {
@@ -32,6 +45,9 @@ private Q_SLOTS:
     void readsFiles();
     void missingFile();
     void emptyFile();
+    void heldTableIsNotReadAgain();
+    void changedTableIsReadAgain_data();
+    void changedTableIsReadAgain();
 };
 
 void tst_TableFiles::opensRegularFilesOnly()
@@ -126,6 +142,64 @@ void tst_TableFiles::emptyFile()
     QVERIFY(!result);
     QCOMPARE(result.errors.first().text,
              QStringLiteral("the file is empty; its first row must name the columns"));
+}
+
+void tst_TableFiles::heldTableIsNotReadAgain()
+{
+    const QTemporaryDir dir;
+    const QString descriptor = dir.filePath("t.json");
+    writeFile(descriptor, "{\"fields\": []}");
+    writeFile(dir.filePath("t.csv"), "D,k\nM8,5\n");
+    makeOld(descriptor);
+    makeOld(dir.filePath("t.csv"));
+    const auto first = OpenTables::instance().open(descriptor);
+    QVERIFY(first);
+    const auto second = OpenTables::instance().open(descriptor);
+    QCOMPARE(second.data, first.data);
+    TabReader reader;
+    QCOMPARE(reader.readFile(descriptor, false), 1);
+    QCOMPARE(reader.getData()->data(), first.data);
+}
+
+void tst_TableFiles::changedTableIsReadAgain_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::newRow("lines written in place") << "lines";
+    QTest::newRow("lines of the same size and time") << "same time";
+    QTest::newRow("another file of the same size and time") << "replaced";
+    QTest::newRow("descriptor") << "descriptor";
+    QTest::newRow("lines gone") << "gone";
+}
+
+void tst_TableFiles::changedTableIsReadAgain()
+{
+    QFETCH(QString, what);
+    const QTemporaryDir dir;
+    const QString descriptor = dir.filePath("t.json");
+    const QString lines = dir.filePath("t.csv");
+    writeFile(descriptor, "{\"fields\": []}");
+    writeFile(lines, "D,k\nM8,5\n");
+    makeOld(descriptor);
+    makeOld(lines);
+    const auto first = OpenTables::instance().open(descriptor);
+    QVERIFY(first);
+    const QDateTime time = QFileInfo(lines).lastModified();
+    QTest::qWait(30); // the clock of files goes on
+    if (what == "descriptor")
+        writeFile(descriptor, "{\"fields\": [{\"name\": \"k\", \"type\": \"number\"}]}");
+    if (what == "replaced" || what == "gone")
+        QVERIFY(QFile::remove(lines));
+    if (what != "descriptor" && what != "gone")
+        writeFile(lines, what == "lines" ? "D,k\nM8,5\nM9,6\n" : "D,k\nM9,6\n");
+    if (what == "same time" || what == "replaced") {
+        QFile file(lines);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+    const auto second = OpenTables::instance().open(descriptor);
+    QCOMPARE(bool(second), what != "gone");
+    QVERIFY(second.data != first.data);
+    QCOMPARE(second.errors.isEmpty(), what != "gone");
 }
 
 QTEST_GUILESS_MAIN(tst_TableFiles)

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void fittingOneColumnLeavesTheOthers();
     void tablesWithoutANameKeepNothing();
     void faultyEntriesArePassedOver();
+    void emptyFilterLeavesWidths();
 
 private:
     [[nodiscard]] int width(int column) const
@@ -196,6 +197,25 @@ void tst_TableColumnWidths::faultyEntriesArePassedOver()
     QCOMPARE(width(2), 91);
     for (int column = 3; column < 6; ++column)
         QVERIFY(width(column) > 9);
+}
+
+void tst_TableColumnWidths::emptyFilterLeavesWidths()
+{
+    VKTab::TableDescriptor descriptor;
+    descriptor.fields = {TestTables::field("A")};
+    m_grid->model.setTable(TestTables::table(descriptor, "A\nwider than its caption\n"));
+    m_widths->load();
+    m_widths->apply();
+    const int column = m_grid->model.statusColumnCount();
+    const int before = width(column);
+    QVERIFY(before > m_grid->grid->horizontalHeader()->sectionSizeHint(column));
+    const VKTab::VarId filtered = m_grid->model.variable(column).getVarId();
+    for (const char *const text : {"no line has this", ""}) {
+        m_grid->model.setQuickFilter(filtered, text);
+        QCOMPARE(m_grid->model.rowCount(), *text ? 0 : 1);
+        m_widths->apply();
+        QCOMPARE(width(column), before);
+    }
 }
 
 QTEST_MAIN(tst_TableColumnWidths)

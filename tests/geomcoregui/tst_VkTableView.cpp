@@ -9,6 +9,7 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 #include <QToolTip>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void keysSelectTheLineThatGotTheFocus_data();
     void keysSelectTheLineThatGotTheFocus();
     void tableSelectsTheViewsLine();
+    void currentLineStaysInView();
     void selectionOfTheTableIsTakenOver();
     void listenersSeeTheViewsSelection();
     void extendedSelection();
@@ -149,6 +151,26 @@ void tst_VkTableView::tableSelectsTheViewsLine()
     QCOMPARE(grid()->currentIndex().row(), 2);
     m_table.setSelection(LineId(), true);
     QVERIFY(selected().isEmpty());
+}
+
+void tst_VkTableView::currentLineStaysInView()
+{
+    const auto isInView = [this] {
+        return grid()->viewport()->rect().contains(
+            QPoint(0, grid()->visualRect(grid()->currentIndex()).center().y()));
+    };
+    const int last = m_view->model()->rowCount() - 1;
+    click(last, 3);
+    QVERIFY(isInView());
+    const int rows = grid()->viewport()->height() / grid()->rowHeight(0);
+    m_view->resize(m_view->width(), m_view->height() - (rows - 2) * grid()->rowHeight(0));
+    QVERIFY(grid()->verticalScrollBar()->maximum() > 0);
+    QVERIFY(isInView());
+    // What the user scrolled away from stays away.
+    grid()->verticalScrollBar()->setValue(0);
+    QVERIFY(!isInView());
+    m_view->resize(m_view->width(), m_view->height() - 4);
+    QCOMPARE(grid()->verticalScrollBar()->value(), 0);
 }
 
 void tst_VkTableView::selectionOfTheTableIsTakenOver()

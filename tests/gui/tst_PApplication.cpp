@@ -6,10 +6,12 @@
 #include <QAction>
 #include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <memory>
 
@@ -65,6 +67,43 @@ private Q_SLOTS:
         PApplication::setupWindow(&other);
         QCOMPARE(other.size(), before);
         QCOMPARE(PApplication::getAppConfig()->keys("Windows").size(), 1);
+    }
+
+    void fitsTheScreen()
+    {
+        const PApplication host{PRefPtr<PConfig>()};
+        QDialog dialog;
+        dialog.setObjectName("dialog");
+        dialog.resize(9000, 8000);
+        PApplication::setupWindow(&dialog);
+        QVERIFY(dialog.width() <= dialog.screen()->availableSize().width());
+        QVERIFY(dialog.height() < dialog.screen()->availableSize().height() - 30); // title
+        QVERIFY(dialog.height() > dialog.screen()->availableSize().height() / 2);
+    }
+
+    void textsOfAnotherLanguageHaveRoom()
+    {
+        const QTemporaryDir dir;
+        const PApplication host(PRefPtr<PConfig>(new PConfigInst(dir.filePath("app.cfg"), false)));
+        QSize kept;
+        for (const int words : {1, 200}) {
+            QDialog dialog;
+            dialog.setObjectName("dialog");
+            auto *const layout = new QVBoxLayout(&dialog);
+            auto *const text = new QLabel(QStringLiteral("word ").repeated(words), &dialog);
+            text->setWordWrap(true);
+            layout->addWidget(text);
+            PApplication::setupWindow(&dialog);
+            if (words > 1) {
+                QCOMPARE(dialog.width(), kept.width());
+                QVERIFY(dialog.height() > kept.height());
+                QCOMPARE(dialog.height(), layout->totalHeightForWidth(kept.width()));
+            }
+            dialog.show();
+            dialog.resize(words == 1 ? QSize(300, 60) : dialog.size());
+            kept = dialog.size();
+            PApplication::saveWindow(&dialog);
+        }
     }
 
     void keepsGeometryInTheFile()

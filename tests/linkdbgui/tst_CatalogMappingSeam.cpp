@@ -139,6 +139,11 @@ void tst_CatalogMappingSeam::tellsTheLines()
     editor.table->sourceView()->grid()->selectAll();
     QCOMPARE(editor.widget->selectedLines(), (QList<int>{1, 2, 3}));
     QCOMPARE(editor.widget->currentLine(), -1);
+    changed.clear();
+    QVERIFY(editor.widget->selectLine(2)); // the current one of them
+    QCOMPARE(editor.widget->selectedLines(), QList<int>{2});
+    QCOMPARE(editor.widget->currentLine(), 2);
+    QVERIFY(!changed.isEmpty());
 }
 
 void tst_CatalogMappingSeam::selectsAProjectPastTheFilter()

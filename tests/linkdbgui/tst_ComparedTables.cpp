@@ -1,7 +1,9 @@
 #include "TableEditorFixture.h"
 
+#include <QApplication>
 #include <QScrollBar>
 #include <QTableView>
+#include <QWheelEvent>
 
 namespace {
 
@@ -44,6 +46,7 @@ private Q_SLOTS:
     void marksNoUnits();
     void scrollTogether();
     void severalLines();
+    void zoomTogether();
 
 private:
     [[nodiscard]] static int heightOf(VkTableView *view, int line);
@@ -189,6 +192,32 @@ void tst_ComparedTables::severalLines()
     m_editor->source->setVerticalScrollPos(0);
     m_editor->source->setVerticalScrollPos(100);
     QVERIFY(!m_editor->targetTable().isValid());
+}
+
+/// By the keys and by the wheel, in either table.
+void tst_ComparedTables::zoomTogether()
+{
+    select(5);
+    VkTableView *const source = m_editor->source;
+    VkTableView *const target = m_editor->target;
+    const double before = source->getZoomFactor();
+    QTest::keyClick(source->grid(), Qt::Key_Plus, Qt::ControlModifier);
+    QVERIFY(source->getZoomFactor() > before);
+    QCOMPARE(target->getZoomFactor(), source->getZoomFactor());
+    const auto heightOfText = [](VkTableView *view) {
+        return view->grid()->fontMetrics().height();
+    };
+    QCOMPARE(heightOfText(target), heightOfText(source));
+    QWheelEvent wheel(QPointF(5, 5), target->grid()->viewport()->mapToGlobal(QPointF(5, 5)), {},
+                      {0, -2 * QWheelEvent::DefaultDeltasPerStep}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(target->grid()->viewport(), &wheel);
+    QVERIFY(target->getZoomFactor() < before);
+    QCOMPARE(source->getZoomFactor(), target->getZoomFactor());
+    m_editor->widget->setComparing(false);
+    QTest::keyClick(source->grid(), Qt::Key_0, Qt::ControlModifier);
+    QCOMPARE(source->getZoomFactor(), 1.0);
+    QVERIFY(target->getZoomFactor() < 1.0);
 }
 
 QTEST_MAIN(tst_ComparedTables)

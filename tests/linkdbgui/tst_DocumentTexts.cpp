@@ -1,6 +1,11 @@
+#include "../support/ControlCheck.h"
 #include "DocumentFixture.h"
 
+#include <core/plugin/PTranslateManager.h>
+
 #include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 
 namespace {
@@ -68,6 +73,7 @@ private Q_SLOTS:
     void placeOfTheLine();
     void columnNames_data();
     void columnNames();
+    void dialogsInEveryLanguage();
 };
 
 void tst_DocumentTexts::fields_data()
@@ -252,6 +258,45 @@ void tst_DocumentTexts::columnNames()
     QCOMPARE(fixture.messages->texts(), QStringList());
     QCOMPARE(rowsOf(documentsOf(*dialog)), QStringList{"it's"});
     QCOMPARE(fixture.documents(), QStringList{"g1"});
+}
+
+/// List and form of a line that has documents can be used by keyboard and with a screen reader, and
+/// no text of theirs is cut.
+void tst_DocumentTexts::dialogsInEveryLanguage()
+{
+    if (isOnServer())
+        return; // they look the same
+    const DocumentFixture fixture;
+    fixture.insert("first", {{"PDMID1", "P-1"}, {"CADSYSTEM", "cad"}});
+    fixture.insert("second", {{"PDMID1", "P-2"}});
+    for (const char *const key : {"PDM_ADD", "PDM_EDIT", "PDM_DELETE"})
+        fixture.setKey(key, "1");
+    const QStringList catalogs = QDir(":/translations").entryList({"VelkLinkDbGui_*.qm"});
+    QCOMPARE(catalogs.size(), 21);
+    QStringList faults;
+    for (const QString &catalog : catalogs) {
+        const QString language = QFileInfo(catalog).baseName().section('_', 1);
+        PTranslateManager::instance().setLanguage(language);
+        const auto look = [&](QWidget *dialog) {
+            const QStringList found = ControlCheck::mnemonics(*dialog) +
+                                      ControlCheck::access(*dialog) +
+                                      ControlCheck::cuts(dialog, {950, 560});
+            for (const QString &fault : found)
+                faults += language + ": " + fault;
+            ControlCheck::picture(dialog, dialog->objectName() + '-' + language);
+        };
+        const auto dialog = fixture.showDialog();
+        dialog->setCreateCallback(scriptOf([](prxDictionaryObjC &, const mzComVariantC &) {
+                                      return mzComVariantC(true);
+                                  }),
+                                  "run");
+        QCOMPARE(documentsOf(*dialog)->topLevelItemCount(), 2);
+        look(dialog.get());
+        inNextForm([&](NewRecordDialogC &form) { look(&form); }, false);
+        clickButton(*dialog, "btnCreate");
+    }
+    PTranslateManager::instance().setLanguage(QString());
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
 }
 
 QTEST_MAIN(tst_DocumentTexts)

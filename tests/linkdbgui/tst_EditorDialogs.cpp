@@ -12,11 +12,14 @@
 #include <selection/dlgSelect.h>
 
 #include <core/config/PConfigInst.h>
+#include <core/plugin/PTranslateManager.h>
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/application/PApplication.h>
 
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -38,6 +41,8 @@ private Q_SLOTS:
     void aHitOfTheSearchCanBeTaken();
     void worksByKeyboardAndScreenReader_data();
     void worksByKeyboardAndScreenReader();
+    void fitsInEveryLanguage_data() { worksByKeyboardAndScreenReader_data(); }
+    void fitsInEveryLanguage();
 };
 
 void tst_EditorDialogs::placeIsKept_data()
@@ -137,6 +142,35 @@ void tst_EditorDialogs::worksByKeyboardAndScreenReader()
     QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
     const QStringList faults = ControlCheck::mnemonics(*dialog) + ControlCheck::access(*dialog);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+}
+
+/// No text is cut on a screen of 1920 x 1200 at 200 %, title and frame left out.
+void tst_EditorDialogs::fitsInEveryLanguage()
+{
+    QFETCH(std::function<QWidget *()>, make);
+    PTranslateManager::registerLibraries();
+    QStringList faults;
+    int languages = 0;
+    const QStringList catalogs = QDir(":/translations").entryList({"VelkLinkDbGui_*.qm"});
+    for (const QString &catalog : catalogs) {
+        const QString language = QFileInfo(catalog).baseName().section('_', 1);
+        PTranslateManager::instance().setLanguage(language);
+        ++languages;
+        const QTemporaryDir folder; // sizes are kept from one dialog to the next
+        const PApplication application(
+            PRefPtr<PConfig>(new PConfigInst(folder.filePath("app.cfg"), false)));
+        const std::unique_ptr<QWidget> dialog(make());
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+        const QStringList found =
+            ControlCheck::mnemonics(*dialog) + ControlCheck::cuts(dialog.get(), {950, 560});
+        for (const QString &fault : found)
+            faults += language + ": " + fault;
+        ControlCheck::picture(dialog.get(), QTest::currentDataTag() + ('-' + language));
+    }
+    PTranslateManager::instance().setLanguage(QString());
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    QCOMPARE(languages, 21);
 }
 
 QTEST_MAIN(tst_EditorDialogs)

@@ -1,5 +1,6 @@
 #include "../support/SizeLimit.h"
 
+#include <core/message/PStringMessageImpl.h>
 #include <geomcore/records/MappingFile.h>
 #include <mapping/data/ApplicationHandlerI.h>
 #include <mapping/data/ReleaseMappingHandler.h>
@@ -614,7 +615,9 @@ private Q_SLOTS:
         const QString path = dir.filePath("m.json");
         writeFile(path, before);
         ReleaseMappingHandler handler(release({mapping("a.prj", {{1, 0}})}), "", path);
+        const PStringMessageImpl messages(PMsgReply::Cancel, false);
         QVERIFY(handler.commitModifications());
+        QCOMPARE(messages.buffer(), QString());
         MappingFile expected;
         expected.setRelease(handler.getCatalogMapping().lastRelease());
         QCOMPARE(readFile(path), expected.toByteArray());

@@ -111,6 +111,17 @@ void tst_TargetMappingLists::emptyListsTakeNoRoom()
     clickDelete(listOf(editor, "conditionView"), 0);
     QTRY_COMPARE(overhead(0), 0);
     QCOMPARE(editor.panel(0)->height(), editor.panel(1)->height());
+    // In a narrow panel a bar does not lie over the header, whose texts end in dots.
+    auto *const variables = editor.panel(1)->findChild<QTableView *>("variableView");
+    QCOMPARE(variables->horizontalHeader()->textElideMode(), Qt::ElideRight);
+    QCOMPARE(variables->model()->headerData(2, Qt::Horizontal, Qt::ToolTipRole).toString(),
+             variables->model()->headerData(2, Qt::Horizontal).toString());
+    variables->setFixedWidth(80);
+    QTRY_VERIFY(variables->horizontalScrollBar()->isVisible());
+    QTRY_VERIFY(!variables->horizontalHeader()->geometry().intersects(
+        variables->horizontalScrollBar()->parentWidget()->geometry()));
+    QTRY_VERIFY(variables->height() >= variables->horizontalHeader()->height() +
+                                           variables->horizontalScrollBar()->height());
 }
 
 void tst_TargetMappingLists::removeButtonHasAnIcon()

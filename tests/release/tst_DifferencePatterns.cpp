@@ -94,6 +94,8 @@ private Q_SLOTS:
     void leastSureFirst();
     void readFromTables();
     void evidenceOfAReplacement();
+    void appliedReplacement_data();
+    void appliedReplacement();
     void sameForAnyNumberOfJobs();
 };
 
@@ -534,6 +536,50 @@ void tst_DifferencePatterns::evidenceOfAReplacement()
     QCOMPARE(found->examples.front(), (ReplacementEvidence::Example{"old/a.prj", 1, "10", "10"}));
     const std::atomic<bool> ended = true;
     QVERIFY(!replacementEvidence(example.catalog.root(), example.release, {}, ended));
+}
+
+void tst_DifferencePatterns::appliedReplacement_data()
+{
+    QTest::addColumn<AgreedReplacement>("replacement");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("result");
+    const auto text = [](const char *before, const char *after) {
+        return AgreedReplacement{{}, "W", before, after, {}, {}};
+    };
+    const auto number = [](const char *factor, const char *offset) {
+        return AgreedReplacement{{}, "L", {}, {}, factor, offset};
+    };
+    QTest::newRow("whole value") << text("St37-2", "S235JR") << "St37-2"
+                                 << "S235JR";
+    QTest::newRow("token") << text("St37-2", "S235JR") << "St37-2 zn"
+                           << "S235JR zn";
+    QTest::newRow("each place") << text("A", "BA") << "A 2 A"
+                                << "BA 2 BA";
+    QTest::newRow("not in a word") << text("t37", "235") << "St37"
+                                   << "St37";
+    QTest::newRow("not in a number") << text("37", "40") << "137 St37"
+                                     << "137 St40";
+    QTest::newRow("to nothing") << text(" zn", "") << "St37 zn"
+                                << "St37";
+    QTest::newRow("from nothing") << text("", "x") << "St37"
+                                  << "St37";
+    QTest::newRow("case counts") << text("fp", "FKM") << "FP"
+                                 << "FP";
+    QTest::newRow("factor") << number("0.1", "0") << "70"
+                            << "7";
+    QTest::newRow("factor and offset") << number("2", "1") << "10.5"
+                                       << "22";
+    QTest::newRow("no number") << number("2", "1") << "10 mm"
+                               << "10 mm";
+    QTest::newRow("no value") << number("2", "1") << ""
+                              << "";
+}
+
+void tst_DifferencePatterns::appliedReplacement()
+{
+    QFETCH(AgreedReplacement, replacement);
+    QFETCH(QString, value);
+    QTEST(replacement.applied(value), "result");
 }
 
 void tst_DifferencePatterns::sameForAnyNumberOfJobs()

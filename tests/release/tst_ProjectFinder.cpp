@@ -49,6 +49,8 @@ class tst_ProjectFinder : public QObject
 private Q_SLOTS:
     void finds_data();
     void finds();
+    void findsByColumns_data();
+    void findsByColumns();
     void manyProjectsWithTheSameLines();
     void longerNames();
     void searchesDoNotDisturbEachOther();
@@ -143,6 +145,20 @@ void tst_ProjectFinder::finds_data()
                    {"new/b/bolt-y.prj", "size,s,k;N2,0.1,0.2"},
                    {"new/a/bolt-z.prj", "size;N3"}}
         << QStringList{"new/a/bolt-x.prj"};
+    QTest::newRow("longer names in the same folder, the only variable")
+        << QByteArray("size;M1;M2") << none
+        << Release{{"new/a/bolt-x.prj", "size;M1"}, {"new/a/bolt-y.prj", "size;M2"}}
+        << QStringList{"new/a/bolt-x.prj", "new/a/bolt-y.prj"};
+    QTest::newRow("parts elsewhere, all lines changed")
+        << bolts() << none
+        << Release{{"new/b/bolt-x.prj", "size,s,h;N1,0.1,0.2"},
+                   {"new/b/bolt-y.prj", "size,s,h;N2,0.1,0.2"}}
+        << QStringList{"new/b/bolt-x.prj", "new/b/bolt-y.prj"};
+    QTest::newRow("parts of different variables are none")
+        << bolts() << none
+        << Release{{"new/b/bolt-x.prj", "size,s,h;N1,0.1,0.2"},
+                   {"new/b/bolt-y.prj", "size,h;N2,0.1"}}
+        << none;
     QTest::newRow("longer names elsewhere, without the lines")
         << bolts() << none << Release{{"new/b/bolt-x.prj", bolts(50)}, {"new/b/screw.prj", bolts()}}
         << QStringList{"new/b/screw.prj"};
@@ -220,6 +236,72 @@ void tst_ProjectFinder::finds()
     index.finish();
     QStringList found;
     for (const int table : ProjectFinder(index).find("old/a/bolt.prj", cellsOf(old, names, key)))
+        found << index.path(table);
+    QTEST(found, "found");
+}
+
+void tst_ProjectFinder::findsByColumns_data()
+{
+    QTest::addColumn<QByteArray>("old");
+    QTest::addColumn<Release>("release");
+    QTest::addColumn<std::vector<int>>("taken"); // lines that other projects became
+    QTest::addColumn<QStringList>("found");
+    // Of three columns one is in another unit and one reworded, so that no line is held.
+    const QByteArray reworded = "size,s,k;N1,3,10;N2,5,40;N3,7,90;N4,9,160;N5,11,250";
+    const QByteArray half = "size,s;N1,3;N2,5;N3,7;N4,9;N5,11";
+    const QByteArray two = "size,s;M1,3;M2,5;M3,7;M4,9;M5,11";
+    const std::vector<int> none;
+
+    QTest::newRow("one of two columns as it was")
+        << two << Release{{"new/b/x.prj", half}} << none << QStringList{"new/b/x.prj"};
+    QTest::newRow("also in other lines")
+        << two << Release{{"new/b/x.prj", "size,s;N1,11;N2,9;N3,7;N4,5;N5,3"}} << none
+        << QStringList{"new/b/x.prj"};
+    QTest::newRow("one of three is too few")
+        << bolts(1, 5) << Release{{"new/b/x.prj", reworded}} << none << QStringList();
+    QTest::newRow("a column of two values")
+        << QByteArray("size,s;M1,3;M2,3;M3,3;M4,5")
+        << Release{{"new/b/x.prj", "size,s;N1,3;N2,3;N3,3;N4,5"}} << none << QStringList();
+    QTest::newRow("the half of a column")
+        << two << Release{{"new/b/x.prj", "size,s;M1,3;M2,5;M3,1;N4,1;N5,1"}} << none
+        << QStringList();
+    QTest::newRow("the best ones first")
+        << two
+        << Release{{"new/b/x.prj", "size,s;N1,3;N2,5;N3,7;N4,9;N5,1"},
+                   {"new/b/y.prj", half},
+                   {"new/b/z.prj", half}}
+        << none << QStringList{"new/b/y.prj", "new/b/z.prj"};
+    QTest::newRow("became another project")
+        << two << Release{{"new/b/x.prj", half}} << std::vector<int>{5} << QStringList();
+    QTest::newRow("room for half of the lines")
+        << two << Release{{"new/b/x.prj", half + ";N6,13;N7,15;N8,17"}} << std::vector<int>{5}
+        << QStringList{"new/b/x.prj"};
+    QTest::newRow("the only column with another name, in the same folder")
+        << QByteArray("p;1;1;2;3")
+        << Release{{"new/a/x.prj", "t,q;7,1;8,1;9,2;7,3;8,4"}, {"new/b/y.prj", "q;1;1;2;3"}} << none
+        << QStringList{"new/a/x.prj"};
+    QTest::newRow("a column with another name beside a reworded one, in the same folder")
+        << two << Release{{"new/a/x.prj", "size,w;N1,3;N2,5;N3,7;N4,9;N5,11;N6,13"}} << none
+        << QStringList{"new/a/x.prj"};
+}
+
+void tst_ProjectFinder::findsByColumns()
+{
+    QFETCH(QByteArray, old);
+    QFETCH(Release, release);
+    QFETCH(std::vector<int>, taken);
+    VariableNames names;
+    ReleaseIndex index;
+    std::vector<int> room;
+    for (const auto &[path, table] : release) {
+        const int number = index.add(path, cellsOf(table, names));
+        const int became = size_t(number) < taken.size() ? taken[size_t(number)] : 0;
+        room.push_back(index.table(number).rowCount() - became);
+    }
+    index.finish();
+    QStringList found;
+    const LineCells cells = cellsOf(old, names);
+    for (const int table : ProjectFinder(index).findByColumns("old/a/bolt.prj", cells, room))
         found << index.path(table);
     QTEST(found, "found");
 }

@@ -57,7 +57,10 @@ private Q_SLOTS:
     void mapsEachOldProject();
     void linesOfOtherProjects_data();
     void linesOfOtherProjects();
+    void namesakes_data();
+    void namesakes();
     void dissolvedTable();
+    void reworkedTable();
     void recordsVersionsAndDates();
     void givenDatesWin();
     void datesCompareInUtc();
@@ -130,6 +133,38 @@ void tst_ReleaseMappingBuilder::linesOfOtherProjects()
     QCOMPARE(told(builder.release()), QStringList({expected, "old/a/stud.prj: new/a/stud.prj"}));
 }
 
+void tst_ReleaseMappingBuilder::namesakes_data()
+{
+    QTest::addColumn<QByteArray>("other"); // the table of the same name elsewhere
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("nothing in common")
+        << QByteArray("size,s,k;X3,25.5,22;X4,27,22.8") << "old/b/bolt.prj:";
+    QTest::newRow("a line in common")
+        << QByteArray("size,s,k;M3,5.5,2;X4,27,22.8") << "old/b/bolt.prj: new/a/bolt.prj";
+}
+
+/// What has only its name in common with a table is not taken over by it if another project stood
+/// where that table stands.
+void tst_ReleaseMappingBuilder::namesakes()
+{
+    QFETCH(QByteArray, other);
+    QFETCH(QString, expected);
+    Releases releases;
+    releases.source.add("a/bolt", Bolts);
+    releases.source.add("b/bolt", other);
+    releases.target.add("a/bolt", Bolts);
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(told(builder.release()), QStringList({"old/a/bolt.prj: new/a/bolt.prj", expected}));
+    // A project that moved, though all of its values changed.
+    Releases moved;
+    moved.source.add("b/bolt", other);
+    moved.target.add("a/bolt", Bolts);
+    ReleaseMappingBuilder again(moved.input());
+    QCOMPARE(again.build(), Outcome::Complete);
+    QCOMPARE(told(again.release()), QStringList{"old/b/bolt.prj: new/a/bolt.prj"});
+}
+
 /// A table whose lines stand in one that had them before, and, one variable renamed, in a new one.
 void tst_ReleaseMappingBuilder::dissolvedTable()
 {
@@ -143,6 +178,22 @@ void tst_ReleaseMappingBuilder::dissolvedTable()
     QCOMPARE(builder.build(), Outcome::Complete);
     QCOMPARE(told(builder.release()),
              QStringList({"old/a/pitch.prj: new/b/threads.prj", "old/a/tap.prj: new/a/tap.prj"}));
+}
+
+/// A table whose one variable was reworded, and whose other one has another name: it is told by the
+/// values of that, before the table that only has some lines like it and had them before.
+void tst_ReleaseMappingBuilder::reworkedTable()
+{
+    Releases releases;
+    releases.source.add("a/pitch", "size,p;M1,3;M2,4;M3,5;M4,7");
+    releases.source.add("b/tap", "size,p;M1,3;M2,4;M3,8;M4,9");
+    releases.target.add("a/threads", "size,coarse;X1,3;X2,4;X3,5;X4,7;X5,8");
+    releases.target.add("b/tap", "size,p;M1,3;M2,4;M3,8;M4,9");
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(told(builder.release()),
+             QStringList({"old/a/pitch.prj: new/a/threads.prj new/b/tap.prj",
+                          "old/b/tap.prj: new/b/tap.prj"}));
 }
 
 void tst_ReleaseMappingBuilder::recordsVersionsAndDates()

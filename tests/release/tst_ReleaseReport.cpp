@@ -87,6 +87,7 @@ ReportForm form()
         case ReportText::Title:
         case ReportText::Made:
         case ReportText::More:
+        case ReportText::InDoubt:
             return name + "%1";
         case ReportText::Releases:
             return name + "%1-%2";
@@ -100,6 +101,7 @@ ReportForm form()
         return openReasonKey(reason);
     };
     form.changes = {"near", "other", "wording", "added", "missing", "spelling"};
+    form.goneGroups = {"folder %1", "project %1", "table %1", "%1 lost %2", "unlike %1"};
     form.time = [](const QDateTime &time) {
         return time.toString(Qt::ISODate);
     };
@@ -142,6 +144,7 @@ private Q_SLOTS:
     void sameForAnyNumberOfThreads();
     void page();
     void sections();
+    void openLinesAddUp();
     void nothingToTell();
     void longLists();
     void hostileTexts();
@@ -301,15 +304,18 @@ void tst_ReleaseReport::sections()
 {
     ReleaseReport report = Example().report();
     const QDateTime time(QDate(2026, 11, 22), QTime(8, 30), Qt::UTC);
-    report.samples = {{time, "anna", 300, 59, 59, 0.04951},
-                      {time, "bob", 20, 3, 2, std::nullopt},
-                      {time, "eve", 5, 5, 5, 0.0}};
+    report.samples = {
+        {time, "anna", 300, 59, 59, 0.04951, {"a.prj:3", "a.prj:17", "b<c.prj:2", "a.prj:4"}},
+        {time, "bob", 20, 3, 2, std::nullopt, {"a.prj:1"}},
+        {time, "eve", 5, 5, 5, 0.0, {}}};
+    report.carried = {{time, "anna", "f<1>.json", "2023", 40, 38}};
     report.decisions = {{time, "anna", "12 lines confirmed", "as agreed", 12}};
     const QString html = reportHtml(report, form());
     const auto body = [&](ReportText head) {
         return rowsOf(html, head).mid(1);
     };
-    QCOMPARE(rowsOf(html, ReportText::TotalHead).last(), "&lt;14&gt;|10");
+    QCOMPARE(rowsOf(html, ReportText::TotalHead).last(),
+             QString("&lt;%1&gt;|10").arg(int(ReportText::Lines)));
     QCOMPARE(body(ReportText::ReasonHead), (QStringList{"clash|2", "unlike|3", "unconfirmed|1"}));
     QCOMPARE(
         body(ReportText::FolderHead),
@@ -319,16 +325,69 @@ void tst_ReleaseReport::sections()
                           "cat/nuts/a.prj|0|0|0|2|0|0|2"}));
     QCOMPARE(
         body(ReportText::SampleHead),
-        (QStringList{
-            "2026-11-22T08:30:00Z|anna|300|59|59|5.0 %",
-            QString("2026-11-22T08:30:00Z|bob|20|3|2|&lt;%1&gt;").arg(int(ReportText::Refused)),
-            "2026-11-22T08:30:00Z|eve|5|5|5|0.0 %"}));
+        (QStringList{"2026-11-22T08:30:00Z|anna|300|59|59|5.0 %|a.prj:3, 17; b&lt;c.prj:2; a.prj:4",
+                     QString("2026-11-22T08:30:00Z|bob|20|3|2|&lt;%1&gt;|a.prj:1")
+                         .arg(int(ReportText::Refused)),
+                     "2026-11-22T08:30:00Z|eve|5|5|5|0.0 %|"}));
+    QCOMPARE(body(ReportText::CarriedHead),
+             QStringList{"2026-11-22T08:30:00Z|anna|f&lt;1&gt;.json (2023)|40|38"});
     QCOMPARE(body(ReportText::DecisionHead),
              QStringList{"2026-11-22T08:30:00Z|anna|12 lines confirmed|as agreed|12"});
     QCOMPARE(body(ReportText::OpenHead).first(), "cat/screws/a.prj:2|bolt B2 &lt;2&gt;|unlike");
     QCOMPARE(body(ReportText::GoneHead).last(), "cat/screws/b&amp;c.prj:1|bolt B1 &lt;1&gt;");
-    QCOMPARE(body(ReportText::PatternHead).size(), 2);
+    QCOMPARE(body(ReportText::PatternHead).size(), 3);
     QVERIFY(body(ReportText::PatternHead)[0].endsWith("cat/screws/a.prj:2, cat/nuts/a.prj:2"));
+}
+
+/// Each open line without a conflict is in one pattern or one group, and the sums say so.
+void tst_ReleaseReport::openLinesAddUp()
+{
+    Example example;
+    // All that went to a project that is not there any more, a whole project without target, and a
+    // value that no new line has.
+    example.catalog.write("cat/nuts/b.prj", "Name,W\nB1,CuZn\nB2,CuZn\nB3,St\nB4,St\n");
+    example.catalog.write("cat/nuts/c.prj", "Name,W\nC<1>,St\n");
+    example.catalog.write("new/b.prj", "Name,W\nB3,St\nX,Al\n");
+    PrjMappingC values = mappingOf("cat/nuts/b.prj", {"new/b.prj", "new/dropped.prj", ""});
+    enter(values, 0, 3, 1, Mapped);
+    enter(values, 1, 4, 9, ToCheck);
+    enter(values, 2, 1, -1, ToCheck);
+    enter(values, 2, 2, -1, ToCheck);
+    example.release.addMapping(values);
+    PrjMappingC whole = mappingOf("cat/nuts/c.prj", {"new/b.prj", ""});
+    enter(whole, 1, 1, -1, ToCheck);
+    example.release.addMapping(whole);
+    const ReleaseReport report = example.report();
+    const ReportNumbers &numbers = report.total.numbers;
+    QCOMPARE(textOf(numbers), "1 2 2 4 4 2 = 15");
+    const auto rowsWith = [&](int most, ReportText head) {
+        ReportForm limited = form();
+        limited.mostRows = most;
+        return rowsOf(reportHtml(report, limited), head).mid(1);
+    };
+    QStringList groups;
+    int lines = 0;
+    for (const QString &row : rowsWith(-1, ReportText::GoneGroupHead)) {
+        const QStringList cells = row.split('|');
+        groups << cells[0] + ' ' + cells[1] + ' ' + cells[2] + ' ' + cells.last();
+        lines += cells.size() == 5 ? cells[1].toInt() : 0;
+    }
+    const QString doubt = QString("&lt;%1&gt;").arg(int(ReportText::InDoubt));
+    const QString inAll = QString("&lt;%1&gt;").arg(int(ReportText::InAll));
+    QCOMPARE(groups,
+             (QStringList{"W lost CuZn 2 1 cat/nuts/b.prj:1, cat/nuts/b.prj:2",
+                          "unlike cat/screws 1 1 cat/screws/a.prj:6",
+                          "table new/dropped.prj 1 1 cat/nuts/b.prj:4",
+                          doubt + "project cat/nuts/c.prj 1 1 cat/nuts/c.prj:1", inAll + " 5  "}));
+    QCOMPARE(lines, 5);
+    QCOMPARE(report.patterns.openLines() + report.patterns.goneLines(),
+             numbers.toCheck + numbers.withoutTarget);
+    QVERIFY(rowsWith(-1, ReportText::PatternHead).last().startsWith(inAll + "|3|"));
+    // The sum of all, however few are listed.
+    const QStringList few = rowsWith(1, ReportText::GoneGroupHead);
+    QCOMPARE(few.size(), 3);
+    QVERIFY(few[1].startsWith(QString("&lt;%1&gt;").arg(int(ReportText::More))));
+    QVERIFY(few[2].startsWith(inAll + "|5|"));
 }
 
 void tst_ReleaseReport::nothingToTell()
@@ -337,8 +396,9 @@ void tst_ReleaseReport::nothingToTell()
     const QString nothing = QString("&lt;%1&gt;").arg(int(ReportText::Nothing));
     for (const ReportText head :
          {ReportText::ReasonHead, ReportText::FolderHead, ReportText::ProjectHead,
-          ReportText::PatternHead, ReportText::SampleHead, ReportText::DecisionHead,
-          ReportText::OpenHead, ReportText::GoneHead})
+          ReportText::PatternHead, ReportText::GoneGroupHead, ReportText::SampleHead,
+          ReportText::CarriedHead, ReportText::DecisionHead, ReportText::OpenHead,
+          ReportText::GoneHead})
         QCOMPARE(rowsOf(html, head).last(), nothing);
     QVERIFY(!html.contains(QString("&lt;%1&gt;").arg(int(ReportText::ErrorHead))));
 }
@@ -382,20 +442,21 @@ QByteArray session(const QByteArray &user, const QByteArray &day, const QByteArr
         R"("targets":[{"at":[0,0],"path":"new/a.prj","lines":)";
     const QByteArray time = R"("time":"2026-11-)" + day + "T08:0";
     QByteArray rows;
-    for (const QByteArray &record :
-         {R"({"kind":"opened",)" + time + R"(0:00.000Z","user":")" + user +
-              R"(","host":"h","sourceDate":")" + release + R"("})",
-          R"({"kind":"change","step":1,)" + change + "[[1,1,0,1,2],[2,2,0,2,2]]}]}",
-          R"({"kind":"step",)" + time +
-              R"(1:00.000Z","step":1,"origin":"edit","text":"two <confirmed>"})",
-          R"({"kind":"change","step":2,)" + change + "[[3,3,0,3,2]]}]}",
-          R"({"kind":"step",)" + time +
-              R"(2:00.000Z","step":2,"origin":"edit","text":"one confirmed"})",
-          R"({"kind":"reason",)" + time +
-              R"(3:00.000Z","note":{"project":"cat/a.prj","version":"v1","lines":[3],)"
-              R"("reason":"by telephone"}})",
-          R"({"kind":"sample",)" + time + R"(4:00.000Z","note":{"judge":")" + user +
-              R"(","lines":345,"judged":59,"right":59,"bound":"0.049500"}})"})
+    for (
+        const QByteArray &record :
+        {R"({"kind":"opened",)" + time + R"(0:00.000Z","user":")" + user +
+             R"(","host":"h","sourceDate":")" + release + R"("})",
+         R"({"kind":"change","step":1,)" + change + "[[1,1,0,1,2],[2,2,0,2,2]]}]}",
+         R"({"kind":"step",)" + time +
+             R"(1:00.000Z","step":1,"origin":"edit","text":"two <confirmed>"})",
+         R"({"kind":"change","step":2,)" + change + "[[3,3,0,3,2]]}]}",
+         R"({"kind":"step",)" + time +
+             R"(2:00.000Z","step":2,"origin":"edit","text":"one confirmed"})",
+         R"({"kind":"reason",)" + time +
+             R"(3:00.000Z","note":{"project":"cat/a.prj","version":"v1","lines":[3],)"
+             R"("reason":"by telephone"}})",
+         R"({"kind":"sample",)" + time + R"(4:00.000Z","note":{"judge":")" + user +
+             R"(","lines":345,"drawn":["cat/a.prj:3"],"judged":59,"right":59,"bound":"0.049500"}})"})
         rows += JournalRow::frame(record);
     return rows;
 }
@@ -416,12 +477,12 @@ void tst_ReleaseReport::history()
     ReleaseReport report;
     report.sourceDate = "v1";
     QString error;
-    QVERIFY(addHistory(report, mapping, &error));
+    QVERIFY(addHistory(report, {}, mapping, &error));
     QVERIFY(report.decisions.empty() && report.samples.empty());
     writeFile(mapping + ".journal", session("bob", "20"));
     writeFile(mapping + ".journal.alt-20261119",
               session("anna", "10") + session("eve", "11", "another"));
-    QVERIFY2(addHistory(report, mapping, &error), qPrintable(error));
+    QVERIFY2(addHistory(report, {}, mapping, &error), qPrintable(error));
     QStringList told;
     for (const ReleaseReport::Decision &decision : report.decisions)
         told << QString("%1 %2: %3 (%4) %5")
@@ -434,6 +495,7 @@ void tst_ReleaseReport::history()
     QCOMPARE(report.samples[0].judge, "anna");
     QCOMPARE(report.samples[1].judge, "bob");
     QCOMPARE(report.samples[1].lines, 345);
+    QCOMPARE(report.samples[1].drawn, QStringList{"cat/a.prj:3"});
     QCOMPARE(report.samples[1].judged, 59);
     QCOMPARE(report.samples[1].right, 59);
     QCOMPARE(report.samples[1].bound, std::optional(0.0495));
@@ -447,7 +509,7 @@ void tst_ReleaseReport::unreadableHistory()
     ReleaseReport report;
     report.sourceDate = "v1";
     QString error;
-    QVERIFY(!addHistory(report, mapping, &error));
+    QVERIFY(!addHistory(report, {}, mapping, &error));
     QVERIFY2(error.contains(".journal"), qPrintable(error));
     QVERIFY(report.decisions.empty());
 }

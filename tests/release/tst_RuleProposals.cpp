@@ -108,6 +108,15 @@ void tst_RuleProposals::renames_data()
         << "d>dd s>ss";
     QTest::newRow("same values in other lines")
         << QByteArray("d,s;1,11;2,12;3,13;4,14") << QByteArray("dd,ss;4,11;3,12;2,13;1,14") << "";
+    QTest::newRow("by the values, with further lines")
+        << QByteArray("d,s;1,11;2,12;3,13;4,14")
+        << QByteArray("dd,ss;0,10;1,11;2,12;3,13;4,14;5,15") << "d>dd s>ss";
+    QTest::newRow("by the values, another one reworded")
+        << QByteArray("d,s;1,11;2,12;3,13;4,14") << QByteArray("d,ss;a,11;b,12;c,13;d,14")
+        << "s>ss";
+    QTest::newRow("by the values, one of ten of another kept")
+        << QByteArray("d,s;1,11;2,12;3,13;4,14;5,15;6,16")
+        << QByteArray("d,ss;1,16;b,12;c,13;d,14;e,15;f,11") << "";
     QTest::newRow("nothing is gone")
         << QByteArray("a,s;1,5;2,6;3,7") << QByteArray("a,s,t;1,5,5;2,6,6;3,7,7") << "";
     QTest::newRow("no lines") << QByteArray("a,s") << QByteArray("a,w") << "";

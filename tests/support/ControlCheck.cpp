@@ -5,18 +5,25 @@
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMap>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionButton>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTextEdit>
 #include <QToolBar>
 #include <QToolButton>
@@ -69,13 +76,6 @@ private:
     QMap<QChar, QStringList> m_texts;
 };
 
-bool takesKeys(const QWidget *widget)
-{
-    while (widget && widget->focusProxy())
-        widget = widget->focusProxy();
-    return widget && widget->focusPolicy() != Qt::NoFocus;
-}
-
 /// Of one window, as its user may see it.
 QList<QWidget *> shownWidgets(const QWidget &window)
 {
@@ -106,7 +106,8 @@ void addLetters(const QWidget &widget, Letters *letters, QStringList *faults)
     } else if (const auto *const label = qobject_cast<const QLabel *>(&widget)) {
         if (label->buddy())
             letters->add(label->text());
-        if (label->buddy() && !takesKeys(label->buddy()))
+        // A label asks its buddy alone, not whom that hands the keys on to.
+        if (label->buddy() && label->buddy()->focusPolicy() == Qt::NoFocus)
             *faults += QStringLiteral("\"%1\" leads to what takes no keys").arg(label->text());
     }
 }
@@ -216,6 +217,9 @@ QStringList ControlCheck::access(const QWidget &window)
             faults += name + QStringLiteral(" has no name");
         if (access->role() == QAccessible::NoRole || access->role() == QAccessible::Client)
             faults += name + QStringLiteral(" has no role");
+        if (const auto *const view = qobject_cast<const QAbstractItemView *>(widget);
+            view && view->tabKeyNavigation())
+            faults += name + QStringLiteral(" does not let Tab go on");
         const bool reached = widget->focusPolicy() & Qt::TabFocus;
         if (!reached && !hasCommandElsewhere(*widget))
             faults += name + QStringLiteral(" is not reached by Tab");
@@ -223,6 +227,129 @@ QStringList ControlCheck::access(const QWidget &window)
                  !access->state().focusable)
             faults += name + QStringLiteral(" does not say that it takes the keys");
     }
+    return faults;
+}
+
+namespace {
+
+QSize textSize(const QWidget &widget, const QString &text)
+{
+    return widget.fontMetrics().size(Qt::TextShowMnemonic, text);
+}
+
+/// Without the frame and, with Fusion and its kin, an indicator or an arrow.
+int roomOf(const QAbstractButton &button)
+{
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    const auto element = qobject_cast<const QCheckBox *>(&button) ? QStyle::SE_CheckBoxContents
+                         : qobject_cast<const QRadioButton *>(&button)
+                             ? QStyle::SE_RadioButtonContents
+                             : QStyle::SE_PushButtonContents;
+    const int icon = button.icon().isNull() ? 0 : button.iconSize().width() + 4;
+    return button.style()->subElementRect(element, &option, &button).width() - icon;
+}
+
+bool isCut(const QLabel &label)
+{
+    if (label.text().isEmpty())
+        return false;
+    if (label.wordWrap())
+        return label.heightForWidth(label.width()) > label.height() + 1;
+    return label.sizeHint().width() > label.width() || label.sizeHint().height() > label.height();
+}
+
+bool isCut(const QComboBox &box)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    option.editable = box.isEditable();
+    const QRect field = box.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                    QStyle::SC_ComboBoxEditField, &box);
+    return !box.isEditable() && textSize(box, box.currentText()).width() > field.width();
+}
+
+/// What the widget says and has no room for; empty if there is none.
+QString cutText(const QWidget &widget)
+{
+    if (widget.inherits("ElidedCheckBox")) // shortens itself and has a tool tip
+        return {};
+    if (const auto *const label = qobject_cast<const QLabel *>(&widget))
+        return isCut(*label) ? label->text() : QString();
+    if (const auto *const tool = qobject_cast<const QToolButton *>(&widget))
+        return tool->sizeHint().width() > tool->width() ? tool->text() + u'.' : QString();
+    if (const auto *const button = qobject_cast<const QAbstractButton *>(&widget))
+        return textSize(widget, button->text()).width() > roomOf(*button) ? button->text()
+                                                                          : QString();
+    if (const auto *const group = qobject_cast<const QGroupBox *>(&widget))
+        return textSize(widget, group->title()).width() + 24 > group->width() ? group->title()
+                                                                              : QString();
+    if (const auto *const tabs = qobject_cast<const QTabBar *>(&widget);
+        tabs && !qobject_cast<const QMainWindow *>(widget.parentWidget())) // those of docks scroll
+        return tabs->sizeHint().width() > tabs->width() ? tabs->tabText(0) : QString();
+    if (const auto *const box = qobject_cast<const QComboBox *>(&widget))
+        return isCut(*box) ? box->currentText() : QString();
+    if (const auto *const edit = qobject_cast<const QLineEdit *>(&widget))
+        return textSize(widget, edit->placeholderText()).width() > edit->width() - 10
+                   ? edit->placeholderText()
+                   : QString();
+    return {};
+}
+
+/// Not all of it can be seen, and nothing scrolls to it.
+bool isBeyond(const QWidget &widget)
+{
+    const QWidget *const parent = widget.parentWidget();
+    // Of its docks, a main window keeps bars that it does not use.
+    return !isInnerPart(widget) && !widget.isWindow() &&
+           !qobject_cast<const QMainWindow *>(parent) &&
+           (isControl(widget) || qobject_cast<const QLabel *>(&widget)) &&
+           !qobject_cast<const QAbstractScrollArea *>(parent->parentWidget()) &&
+           !parent->rect().contains(widget.geometry());
+}
+
+void addCuts(const QWidget &window, QStringList *faults)
+{
+    QApplication::processEvents();
+    for (const QWidget *const widget : shownWidgets(window)) {
+        if (!widget->isVisible())
+            continue;
+        if (const QString text = cutText(*widget); !text.isEmpty())
+            *faults += QStringLiteral("%1: \"%2\" has %3 x %4 of %5 x %6")
+                           .arg(nameOf(*widget), text)
+                           .arg(widget->width())
+                           .arg(widget->height())
+                           .arg(widget->sizeHint().width())
+                           .arg(widget->sizeHint().height());
+        if (isBeyond(*widget))
+            *faults += nameOf(*widget) + QStringLiteral(" reaches beyond ") +
+                       nameOf(*widget->parentWidget());
+    }
+}
+
+} // namespace
+
+QStringList ControlCheck::cuts(QWidget *window, const QSize &room)
+{
+    QStringList faults;
+    QApplication::processEvents();
+    const QSize least = window->minimumSizeHint().expandedTo(window->minimumSize());
+    if (least.width() > room.width() || least.height() > room.height())
+        faults += QStringLiteral("%1 needs %2 x %3")
+                      .arg(nameOf(*window))
+                      .arg(least.width())
+                      .arg(least.height());
+    window->resize(window->size().boundedTo(room));
+    addCuts(*window, &faults);
+    for (QTabWidget *const tabs : window->findChildren<QTabWidget *>()) {
+        const int current = tabs->currentIndex();
+        for (int page = 0; page < tabs->count(); ++page) {
+            tabs->setCurrentIndex(page);
+            addCuts(*window, &faults);
+        }
+        tabs->setCurrentIndex(current);
+    }
+    faults.removeDuplicates();
     return faults;
 }
 

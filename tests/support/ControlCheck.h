@@ -3,6 +3,7 @@
 #include <QStringList>
 
 class QColor;
+class QSize;
 class QWidget;
 
 /// What keeps a window from being used by keyboard or with a screen reader, one text for each
@@ -17,6 +18,10 @@ public:
     [[nodiscard]] static QStringList keys(const QWidget &window);
     /// Controls without a name or role, and those that the keyboard does not reach.
     [[nodiscard]] static QStringList access(const QWidget &window);
+    /// Texts that are wider or higher than their room, controls that reach beyond it, and a window
+    /// that needs more than \a room. The window is made that small before; all pages of tabs are
+    /// looked at.
+    [[nodiscard]] static QStringList cuts(QWidget *window, const QSize &room);
     /// Texts that cannot be told from their ground: enabled ones below a contrast of 4.5.
     [[nodiscard]] static QStringList contrasts(const QWidget &window);
     /// After the recommendations for accessible pages (WCAG 2): from 1, equal, to 21.

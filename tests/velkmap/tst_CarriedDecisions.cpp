@@ -39,6 +39,7 @@ private Q_SLOTS:
     void sharedTargetLinesAreProposed();
     void missingTargetIsAdded();
     void otherVersionsStay();
+    void numbersAddUp();
     void command();
     void commandListsAndRefuses();
 
@@ -134,12 +135,14 @@ void tst_CarriedDecisions::lines()
                              [](PrjMappingTargetC &target) { target.setLineConflicted(1, true); });
     ReleaseMappingC release = releaseOf("2022", "2024", mapping);
     const auto carried = VelkRelease::carryDecisions(release, releaseOf("2022", "2023", former),
-                                                     releaseOf("2023", "2024", following));
+                                                     releaseOf("2023", "2024", following))
+                             .lines;
     QCOMPARE(entriesOf(release.mappingAt(0)), expected);
     const bool changes = expected.contains(">21/");
     QCOMPARE(carried.size(), changes ? 1U : 0U);
     if (changes) {
-        const VelkRelease::CarriedLine line{"a/x.prj", 1, "c/z.prj", 21, expected.endsWith("/1")};
+        const VelkRelease::CarriedLine line{"a/x.prj", "v1", 1,
+                                            "c/z.prj", 21,   expected.endsWith("/1")};
         QVERIFY(carried.front() == line);
         QCOMPARE(release.mappingAt(0).getNotFoundTarget(), -1); // nothing is left in it
     }
@@ -205,8 +208,38 @@ void tst_CarriedDecisions::otherVersionsStay()
     ReleaseMappingC release = releaseOf("2022", "2024", mappingOf("a/x.prj", {"c/z.prj"}));
     QVERIFY(VelkRelease::carryDecisions(release, releaseOf("2022", "2023", former),
                                         releaseOf("2023", "2024", following))
-                .empty());
+                .lines.empty());
     QCOMPARE(entriesOf(release.mappingAt(0)), QString());
+}
+
+/// A line of each kind, and one that is not confirmed.
+void tst_CarriedDecisions::numbersAddUp()
+{
+    PrjMappingC former = mappingOf("a/x.prj", {"b/y.prj", ""});
+    for (const int line : {1, 2, 3, 4, 5, 6})
+        enter(former, 0, line, 10 + line, line == 6 ? Mapped : Verified, line == 5 ? "{L=1}" : "");
+    enter(former, 1, 7, -1, Verified);
+    enter(former, 0, 8, 18, Verified);
+    former.changeTarget(0, [](PrjMappingTargetC &target) { target.setLineConflicted(8, true); });
+    PrjMappingC unknown = mappingOf("a/other.prj", {"b/y.prj"});
+    enter(unknown, 0, 1, 19, Verified);
+    PrjMappingC following = mappingOf("b/y.prj", {"c/z.prj"});
+    for (const int line : {11, 12, 13, 15, 16, 18, 19})
+        enter(following, 0, line, 10 + line, Mapped);
+    PrjMappingC mapping = mappingOf("a/x.prj", {"c/z.prj"});
+    enter(mapping, 0, 3, 40, Mapped);
+    ReleaseMappingC release = releaseOf("2022", "2024", mapping);
+    ReleaseMappingC before = releaseOf("2022", "2023", former);
+    before.addMapping(unknown);
+    const VelkRelease::CarryOutcome outcome =
+        VelkRelease::carryDecisions(release, before, releaseOf("2023", "2024", following));
+    QCOMPARE(outcome.confirmed, 8);
+    QCOMPARE(outcome.lines.size(), 3U); // 1, 2 and 5
+    QCOMPARE(outcome.settled, 1);       // 3
+    QCOMPARE(outcome.unfollowed, 1);    // 4
+    QCOMPARE(outcome.clashing, 1);      // 8
+    QCOMPARE(outcome.expired, 1);       // 7
+    QCOMPARE(outcome.unknown, 1);
 }
 
 /// Two lines that got wholly other names in the earlier release; one changed once more.
@@ -245,6 +278,7 @@ void tst_CarriedDecisions::command()
                      path("carried.csv")}),
              ExitStatus::Done);
     QCOMPARE(m_err, QString());
+    QVERIFY2(!m_out.contains("do not"), qPrintable(m_out));
     QVERIFY2(m_out.contains("2 lines take over what was confirmed for 2023"), qPrintable(m_out));
     QVERIFY2(m_out.contains(": 2 assigned, 0 proposed\n"), qPrintable(m_out));
     QVERIFY2(m_out.contains("3 lines: 3 mapped"), qPrintable(m_out));
@@ -274,6 +308,12 @@ void tst_CarriedDecisions::commandListsAndRefuses()
     QVERIFY2(m_err.contains("to another release than"), qPrintable(m_err));
     QCOMPARE(assign(former + QStringList{"--carried", path("none/c.csv")}),
              ExitStatus::ResultUnwritable);
+    // What was carried over is certain now.
+    QCOMPARE(assign(former), ExitStatus::Done);
+    QVERIFY2(m_out.contains("2 of 2 confirmed lines do not: 2 are settled already, 0 have no line "
+                            "to follow, 0 were confirmed as expired, 0 are of unknown projects, 0 "
+                            "were in conflict"),
+             qPrintable(m_out));
     QCOMPARE(entriesOf(result()), QString("0:1>3/1 0:2>2/1 0:3>1/1"));
 }
 

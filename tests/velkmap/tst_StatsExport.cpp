@@ -249,11 +249,12 @@ private Q_SLOTS:
     void reportAsPage()
     {
         const TestCatalog catalog(m_dir.filePath("report"));
-        catalog.write("cat/a.prj", "Name,D:n\nB8,8\nB9,9\nB10,10\n");
+        catalog.write("cat/a.prj", "Name,D:n\nB8,8\nB9,9\nB10,10\nXY,99\n");
         PrjMappingC mapping = mappingOf("cat/a.prj", {"cat/a.prj", ""});
         enter(mapping, 0, 1, 1, PRJMAPPING::Verified);
         enter(mapping, 0, 2, 2, PRJMAPPING::ToCheck);
         enter(mapping, 1, 3, -1, PRJMAPPING::Verified);
+        enter(mapping, 1, 4, -1, PRJMAPPING::ToCheck);
         ReleaseMappingC release;
         release.setSourceDate("v1");
         release.addMapping(mapping);
@@ -267,13 +268,14 @@ private Q_SLOTS:
         QCOMPARE(run(arguments), ExitStatus::WrongUsage); // where to?
         QCOMPARE(run(arguments + QStringList{"--out", page}), ExitStatus::Done);
         QCOMPARE(m_err, QString());
-        QCOMPARE(m_out, "settled: 2 of 3 lines; open: 1; written to " + page + '\n');
+        QCOMPARE(m_out, "settled: 2 of 4 lines; open: 2; written to " + page + '\n');
         QFile written(page);
         QVERIFY(written.open(QIODevice::ReadOnly));
         const QString html = QString::fromUtf8(written.readAll());
         for (const char *text :
-             {"<title>Mapping report: report.json</title>", "Settled: 2 of 3 lines; open: 1.",
-              "Lines without successor", "cat/a.prj:3", "equal, only not confirmed",
+             {"<title>Mapping report: report.json</title>", "Settled: 2 of 4 lines; open: 2.",
+              "Open lines without a successor", "no similar line: cat",
+              "Lines confirmed to have no successor", "cat/a.prj:3", "equal, only not confirmed",
               "Assigned with certainty", "UTC"})
             QVERIFY2(html.contains(text), text);
         QVERIFY(!html.contains("%1"));

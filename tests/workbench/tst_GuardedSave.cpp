@@ -33,7 +33,9 @@ private Q_SLOTS:
     void foreignChanges_data();
     void foreignChanges();
     void sameContentWithAnotherTimeIsNoChange();
+    void sameSizeAndTimeWithOtherContentIsAChange_data();
     void sameSizeAndTimeWithOtherContentIsAChange();
+    void knownFileIsNotReadAgain();
     void aFileThatIsGoneIsAChange();
     void unreadableFilesAreKept_data();
     void unreadableFilesAreKept();
@@ -188,9 +190,25 @@ void tst_GuardedSave::sameContentWithAnotherTimeIsNoChange()
     QCOMPARE(m_document->save().result, SaveResult::Saved);
 }
 
+void tst_GuardedSave::sameSizeAndTimeWithOtherContentIsAChange_data()
+{
+    QTest::addColumn<bool>("saved");
+    QTest::newRow("since it was opened") << false;
+    QTest::newRow("since it was saved") << true;
+}
+
 void tst_GuardedSave::sameSizeAndTimeWithOtherContentIsAChange()
 {
+    QFETCH(bool, saved);
+    QTest::qWait(50); // the file has its time for itself
     openAndChange();
+    if (saved) {
+        QCOMPARE(m_document->save().result, SaveResult::Saved);
+        QTest::qWait(50);
+        m_document->updateMapping(
+            SessionFixture::withState(m_document->mapping(firstProject()), {1}, 1));
+        m_document->finishStep();
+    }
     QFile file(m_file);
     QVERIFY(file.open(QIODevice::ReadWrite));
     const QDateTime time = file.fileTime(QFileDevice::FileModificationTime);
@@ -200,6 +218,30 @@ void tst_GuardedSave::sameSizeAndTimeWithOtherContentIsAChange()
     QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
     file.close();
     QCOMPARE(m_document->save().result, SaveResult::ForeignChange);
+}
+
+void tst_GuardedSave::knownFileIsNotReadAgain()
+{
+    QTest::qWait(50);
+    const FileContent read = FileContent::of(m_file);
+    QVERIFY(!read.identity.isEmpty());
+    FileState known = read.state;
+    known.hash = "what was read";
+    const auto hash = [&] {
+        return FileContent::withoutBytes(m_file, known, read.identity).state.hash;
+    };
+    QCOMPARE(hash(), known.hash);
+    QCOMPARE(FileContent::withoutBytes(m_file, known, {}).state.hash, read.state.hash);
+    QFile file(m_file);
+    const QFileDevice::Permissions rights = file.permissions();
+    QVERIFY(file.setPermissions(rights | QFileDevice::ExeOwner));
+    QVERIFY(file.setPermissions(rights));
+    QCOMPARE(hash(), read.state.hash); // whatever was done to it
+    // A file that was just written may get another content at the same time.
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QCOMPARE(file.write(read.bytes), read.bytes.size());
+    file.close();
+    QVERIFY(FileContent::of(m_file).identity.isEmpty());
 }
 
 void tst_GuardedSave::aFileThatIsGoneIsAChange()

@@ -508,7 +508,8 @@ void tst_StepHistory::conflictMarksStay()
     PrjMappingTargetC target = mapping.findTarget(0);
     target.setLineConflicted(1, true);
     mapping.updateTarget(0, target);
-    m_document->updateWithoutStep([&] { m_document->updateMapping(mapping); });
+    m_document->updateMapping(mapping);
+    m_document->finishStep();
     QVERIFY(move(0));
     QVERIFY(m_document->mapping(projectId(Path)).findTarget(0).getLineConflicted(1));
     QCOMPARE(stateOf(1), 0);

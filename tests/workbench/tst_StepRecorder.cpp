@@ -71,7 +71,6 @@ private Q_SLOTS:
     void theGivenTextCounts();
     void marksAreNoStep();
     void marksBesideAChangeAreAStep();
-    void changesAtTheCallersWordAreNoStep();
     void aReleaseIsReplaced();
     void singleChangesGoIntoTheReplacement();
     void aNewProjectGoesOutOfTheReplacement();
@@ -128,7 +127,7 @@ void tst_StepRecorder::nothingIsNoStep()
 {
     openJournal();
     QVERIFY(!m_steps->hasChanges());
-    const StepRecorder::Finished done = m_steps->finish(ReleaseMappingC(), false);
+    const StepRecorder::Finished done = m_steps->finish(ReleaseMappingC());
     QCOMPARE(done.kind, Kind::Nothing);
     QVERIFY(done.changed.isEmpty());
     QVERIFY(!m_steps->history().canUndo());
@@ -143,7 +142,7 @@ void tst_StepRecorder::oneStepOfOneProject()
     m_steps->note(project("a.prj"), after, true);
     QVERIFY(m_steps->hasChanges());
     QVERIFY(!m_steps->history().canUndo());
-    const StepRecorder::Finished done = m_steps->finish(releaseOf({after}), false);
+    const StepRecorder::Finished done = m_steps->finish(releaseOf({after}));
     QCOMPARE(done.kind, Kind::Step);
     QCOMPARE(done.step.text, QStringLiteral("2 Zeilen bestätigt in a.prj"));
     QCOMPARE(done.step.lines, 2);
@@ -164,7 +163,7 @@ void tst_StepRecorder::changesOfAProjectAreOne()
     m_steps->note(before, project("a.prj", {1}), true);
     m_steps->note(other, project("b.prj", {1}), true);
     m_steps->note(project("a.prj", {1}), project("a.prj", {1, 2}), true);
-    const StepRecorder::Finished done = m_steps->finish(ReleaseMappingC(), false);
+    const StepRecorder::Finished done = m_steps->finish(ReleaseMappingC());
     QCOMPARE(done.step.changes.size(), 2);
     QCOMPARE(SessionFixture::bytes(done.step.changes[0].before), SessionFixture::bytes(before));
     QCOMPARE(SessionFixture::bytes(done.step.changes[0].after),
@@ -176,7 +175,7 @@ void tst_StepRecorder::projectsComeInTheOrderOfTheirChanges()
 {
     for (const char *const path : {"c.prj", "a.prj", "b.prj", "a.prj"})
         m_steps->note(project(path), project(path, {1}), true);
-    QCOMPARE(pathsOf(m_steps->finish(ReleaseMappingC(), false).changed),
+    QCOMPARE(pathsOf(m_steps->finish(ReleaseMappingC()).changed),
              QStringList({"c.prj", "a.prj", "b.prj"}));
 }
 
@@ -185,7 +184,7 @@ void tst_StepRecorder::whatCancelsOutIsNoStep()
     openJournal();
     m_steps->note(project("a.prj"), project("a.prj", {1}), true);
     m_steps->note(project("a.prj", {1}), project("a.prj"), true);
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).kind, Kind::Nothing);
+    QCOMPARE(m_steps->finish(ReleaseMappingC()).kind, Kind::Nothing);
     QVERIFY(!m_steps->history().canUndo());
     QVERIFY(m_steps->history().isClean());
     QVERIFY(m_steps->closeJournal(false));
@@ -198,10 +197,10 @@ void tst_StepRecorder::whatTheHostChangedIsTold()
     m_steps->note(project("b.prj"), project("b.prj", {1}), false);
     m_steps->note(project("c.prj"), project("c.prj", {1}), true);
     m_steps->note(project("c.prj", {1}), project("c.prj", {1, 2}), false);
-    QCOMPARE(pathsOf(m_steps->finish(ReleaseMappingC(), false).behindEditor),
+    QCOMPARE(pathsOf(m_steps->finish(ReleaseMappingC()).behindEditor),
              QStringList({"b.prj", "c.prj"}));
     m_steps->note(project("b.prj", {1}), project("b.prj"), true);
-    QVERIFY(m_steps->finish(ReleaseMappingC(), false).behindEditor.isEmpty());
+    QVERIFY(m_steps->finish(ReleaseMappingC()).behindEditor.isEmpty());
 }
 
 void tst_StepRecorder::nestedStepsEndWithTheOutermost()
@@ -216,7 +215,7 @@ void tst_StepRecorder::nestedStepsEndWithTheOutermost()
     QVERIFY(m_steps->isNested());
     QVERIFY(m_steps->end());
     QVERIFY(!m_steps->isNested());
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).step.text, QStringLiteral("outer"));
+    QCOMPARE(m_steps->finish(ReleaseMappingC()).step.text, QStringLiteral("outer"));
 }
 
 void tst_StepRecorder::cutNesting()
@@ -233,15 +232,15 @@ void tst_StepRecorder::theGivenTextCounts()
     m_steps->begin(QString());
     m_steps->note(project("a.prj"), project("a.prj", {1, 4}), true);
     QVERIFY(m_steps->end());
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).step.text,
+    QCOMPARE(m_steps->finish(ReleaseMappingC()).step.text,
              QStringLiteral("2 Zeilen bestätigt in a.prj"));
     m_steps->begin(QStringLiteral("by the host"));
     m_steps->note(project("a.prj", {1, 4}), project("a.prj"), true);
     QVERIFY(m_steps->end());
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).step.text, QStringLiteral("by the host"));
+    QCOMPARE(m_steps->finish(ReleaseMappingC()).step.text, QStringLiteral("by the host"));
     // The text was that step's.
     m_steps->note(project("a.prj"), project("a.prj", {1, 4}), true);
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).step.text,
+    QCOMPARE(m_steps->finish(ReleaseMappingC()).step.text,
              QStringLiteral("2 Zeilen bestätigt in a.prj"));
 }
 
@@ -249,7 +248,7 @@ void tst_StepRecorder::marksAreNoStep()
 {
     openJournal();
     m_steps->note(project("a.prj"), marked(project("a.prj"), 1), true);
-    const StepRecorder::Finished done = m_steps->finish(ReleaseMappingC(), false);
+    const StepRecorder::Finished done = m_steps->finish(ReleaseMappingC());
     QCOMPARE(done.kind, Kind::ConflictsMarked);
     QCOMPARE(pathsOf(done.changed), QStringList{"a.prj"});
     QVERIFY(!m_steps->history().canUndo());
@@ -262,16 +261,7 @@ void tst_StepRecorder::marksAreNoStep()
 void tst_StepRecorder::marksBesideAChangeAreAStep()
 {
     m_steps->note(project("a.prj"), marked(project("a.prj", {1}), 3), true);
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).kind, Kind::Step);
-}
-
-void tst_StepRecorder::changesAtTheCallersWordAreNoStep()
-{
-    m_steps->note(project("a.prj"), project("a.prj", {1}), true);
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), true).kind, Kind::ConflictsMarked);
-    QVERIFY(!m_steps->history().canUndo());
-    // Without a change there is nothing to be said of it.
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), true).kind, Kind::Nothing);
+    QCOMPARE(m_steps->finish(ReleaseMappingC()).kind, Kind::Step);
 }
 
 void tst_StepRecorder::aReleaseIsReplaced()
@@ -281,7 +271,7 @@ void tst_StepRecorder::aReleaseIsReplaced()
     m_steps->begin(QStringLiteral("all"));
     m_steps->noteRelease(before, after);
     QVERIFY(m_steps->end());
-    const StepRecorder::Finished done = m_steps->finish(after, false);
+    const StepRecorder::Finished done = m_steps->finish(after);
     QCOMPARE(done.kind, Kind::Step);
     QVERIFY(done.step.changes.isEmpty());
     QCOMPARE(done.step.lines, 1);
@@ -299,8 +289,7 @@ void tst_StepRecorder::singleChangesGoIntoTheReplacement()
     m_steps->noteRelease(middle, last);
     m_steps->noteRelease(last, releaseOf({project("a.prj", {1, 2, 3})}));
     QVERIFY(m_steps->end());
-    const StepRecorder::Finished done =
-        m_steps->finish(releaseOf({project("a.prj", {1, 2, 3})}), false);
+    const StepRecorder::Finished done = m_steps->finish(releaseOf({project("a.prj", {1, 2, 3})}));
     QCOMPARE(SessionFixture::bytes(*done.step.releaseBefore),
              SessionFixture::bytes(releaseOf({project("a.prj")})));
     QCOMPARE(done.step.lines, 3);
@@ -314,7 +303,7 @@ void tst_StepRecorder::aNewProjectGoesOutOfTheReplacement()
     const ReleaseMappingC with = releaseOf({project("a.prj"), added});
     m_steps->noteRelease(with, releaseOf({project("a.prj", {1}), added}));
     QVERIFY(m_steps->end());
-    const StepRecorder::Finished done = m_steps->finish(with, false);
+    const StepRecorder::Finished done = m_steps->finish(with);
     QCOMPARE(SessionFixture::bytes(*done.step.releaseBefore),
              SessionFixture::bytes(releaseOf({project("a.prj")})));
 }
@@ -324,7 +313,7 @@ void tst_StepRecorder::numbersOfSteps()
     m_steps->note(project("a.prj"), project("a.prj", {1}), true);
     m_steps->note(project("a.prj", {1}), project("a.prj", {1, 2}), true);
     QCOMPARE(m_steps->number(), 1);
-    (void)m_steps->finish(ReleaseMappingC(), false);
+    (void)m_steps->finish(ReleaseMappingC());
     QCOMPARE(m_steps->number(), 1);
     m_steps->beginMove();
     QCOMPARE(m_steps->number(), 2);
@@ -336,7 +325,7 @@ void tst_StepRecorder::savedAndAutosaved()
 {
     openJournal();
     m_steps->note(project("a.prj"), project("a.prj", {1}), true);
-    (void)m_steps->finish(ReleaseMappingC(), false);
+    (void)m_steps->finish(ReleaseMappingC());
     QVERIFY(!m_steps->history().isClean());
     QVERIFY(!m_steps->isAutosaved());
     m_steps->noteAutosaved("a1");
@@ -344,7 +333,7 @@ void tst_StepRecorder::savedAndAutosaved()
     QVERIFY(!m_steps->history().isClean());
     m_steps->note(project("a.prj", {1}), project("a.prj", {1, 2}), true);
     QVERIFY(!m_steps->isAutosaved());
-    (void)m_steps->finish(ReleaseMappingC(), false);
+    (void)m_steps->finish(ReleaseMappingC());
     m_steps->noteSaved("b2");
     QVERIFY(m_steps->history().isClean());
     QCOMPARE(records(), QStringLiteral("change 1, step 1, autosaved 1, change 2, step 2, saved 2"));
@@ -360,7 +349,7 @@ void tst_StepRecorder::resetForgets()
     m_steps->begin(QStringLiteral("text"));
     m_steps->note(project("a.prj"), project("a.prj", {1}), true);
     QVERIFY(m_steps->end());
-    (void)m_steps->finish(ReleaseMappingC(), false);
+    (void)m_steps->finish(ReleaseMappingC());
     m_steps->noteAutosaved("a");
     m_steps->begin(QString());
     m_steps->note(project("a.prj"), project("a.prj", {1}), true);
@@ -426,7 +415,7 @@ void tst_StepRecorder::journalOfAReplacedRelease()
     const ReleaseMappingC before = releaseOf({project("a.prj"), project("b.prj")});
     ReleaseMappingC after = releaseOf({project("a.prj", {1}), project("b.prj", {2})});
     m_steps->noteRelease(before, after);
-    (void)m_steps->finish(after, false);
+    (void)m_steps->finish(after);
     QCOMPARE(records(), QStringLiteral("change 1, change 1, step 1"));
     const ReleaseMappingC former = after;
     after.setTargetDate(QStringLiteral("2027-01-01"));
@@ -463,7 +452,7 @@ void tst_StepRecorder::journalThatCannotBeOpened()
 void tst_StepRecorder::withoutAJournal()
 {
     m_steps->note(project("a.prj"), project("a.prj", {1}), true);
-    QCOMPARE(m_steps->finish(ReleaseMappingC(), false).kind, Kind::Step);
+    QCOMPARE(m_steps->finish(ReleaseMappingC()).kind, Kind::Step);
     m_steps->noteSaved("x");
     QVERIFY(m_steps->history().isClean());
     QVERIFY(!m_steps->closeJournal(false));

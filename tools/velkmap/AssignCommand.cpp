@@ -9,7 +9,6 @@
 #include <core/parallel/WorkerPool.h>
 #include <geomcore/csv/csvCell.h>
 #include <geomcore/index/IndexTreeC.h>
-#include <geomcore/records/MappingFile.h>
 #include <release/assign/AssignmentPart.h>
 #include <release/assign/ReleaseAssigner.h>
 #include <release/chain/carryDecisions.h>
@@ -116,7 +115,7 @@ private:
     QString m_formerRoot;
     QString m_targetRoot;
     QString m_carriedFile;
-    std::vector<VelkRelease::CarriedLine> m_carried;
+    VelkRelease::CarryOutcome m_carried;
     VelkRelease::ReleaseAssigner::Progress m_reached;
     bool m_toldInterrupt = false;
     QTextStream &m_out;
@@ -175,18 +174,17 @@ std::optional<ExitStatus> AssignRun::takeFormer(const CommandLine &line,
         return ExitStatus::InputUnreadable;
     const QString path = QDir::cleanPath(line.value("former"));
     const QString date = release.getSourceDate();
-    MappingFile file;
-    QString error;
-    if (!file.read(path, date, &error)) {
-        m_err << "velkmap assign: " << error << '\n';
+    const VelkRelease::FormerMapping former = VelkRelease::readFormerMapping(path, release);
+    if (former.fault == VelkRelease::FormerFault::Unreadable) {
+        m_err << "velkmap assign: " << former.error << '\n';
         return ExitStatus::InputUnreadable;
     }
-    if (!file.contains(date) || file.release(date).getTargetDate() == release.getTargetDate()) {
+    if (former.fault != VelkRelease::FormerFault::None) {
         m_err << "velkmap assign: " << path << " has no mapping from " << date
               << " to another release than " << release.getTargetDate() << '\n';
         return ExitStatus::InputUnreadable;
     }
-    m_former = file.release(date);
+    m_former = former.release;
     m_carriedFile = line.value("carried");
     return std::nullopt;
 }
@@ -197,11 +195,14 @@ bool AssignRun::carryOver(ReleaseMappingC &release)
     if (!m_former || cancelled)
         return true;
     QStringList errors;
-    const ReleaseMappingC following = VelkRelease::followingRelease(
-        *m_former, m_formerRoot, release, m_targetRoot, cancelled, errors);
+    const auto following = VelkRelease::followingRelease(
+        *m_former, release,
+        {.formerRoot = m_formerRoot, .targetRoot = m_targetRoot, .cancelled = &cancelled}, errors);
     for (const QString &error : errors)
         m_err << "velkmap assign: " << error << '\n';
-    m_carried = VelkRelease::carryDecisions(release, *m_former, following);
+    if (!following)
+        return true;
+    m_carried = VelkRelease::carryDecisions(release, *m_former, *following);
     m_reached.counts = {};
     for (const int position : m_assigner.donePositions())
         m_reached.counts.add(release.mappingAt(position).lineCounts());
@@ -212,16 +213,20 @@ ExitStatus AssignRun::writeCarried() const
 {
     if (!m_former)
         return ExitStatus::Done;
-    const auto certain =
-        std::count_if(m_carried.begin(), m_carried.end(),
-                      [](const VelkRelease::CarriedLine &line) { return line.isCertain; });
-    m_out << m_carried.size() << " lines take over what was confirmed for "
+    const VelkRelease::CarryOutcome &done = m_carried;
+    const auto certain = std::ranges::count_if(done.lines, &VelkRelease::CarriedLine::isCertain);
+    m_out << done.lines.size() << " lines take over what was confirmed for "
           << m_former->getTargetDate() << ": " << certain << " assigned, "
-          << qint64(m_carried.size()) - certain << " proposed\n";
+          << qint64(done.lines.size()) - certain << " proposed\n";
+    if (const int left = done.confirmed - int(done.lines.size()); left > 0)
+        m_out << left << " of " << done.confirmed << " confirmed lines do not: " << done.settled
+              << " are settled already, " << done.unfollowed << " have no line to follow, "
+              << done.expired << " were confirmed as expired, " << done.unknown
+              << " are of unknown projects, " << done.clashing << " were in conflict\n";
     if (m_carriedFile.isEmpty())
         return ExitStatus::Done;
     QByteArray csv = "source project,source line,target project,target line,state\n";
-    for (const VelkRelease::CarriedLine &line : m_carried)
+    for (const VelkRelease::CarriedLine &line : m_carried.lines)
         csv += csvCell(line.project) + ',' + QByteArray::number(line.line) + ',' +
                csvCell(line.target) + ',' + QByteArray::number(line.targetLine) +
                (line.isCertain ? ",assigned\n" : ",proposed\n");

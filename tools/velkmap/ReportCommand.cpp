@@ -24,7 +24,8 @@ using VelkRelease::ReportText;
 constexpr const char *ReportDescription =
     "Writes how far a release mapping is as one page of HTML: how lines stand, in all, by folder\n"
     "and by project, in numbers that add up; why lines are open; how they differ from their\n"
-    "proposals; each open line and each line without successor. The tables are read for it.";
+    "proposals, and what those without a successor have in common; each open line and each line\n"
+    "that is confirmed to have no successor. The tables are read for it.";
 
 const char *englishText(ReportText text)
 {
@@ -47,14 +48,18 @@ const char *englishText(ReportText text)
         return "Why lines are open";
     case ReportText::PatternHead:
         return "How open lines differ from their proposals";
+    case ReportText::GoneGroupHead:
+        return "Open lines without a successor";
     case ReportText::SampleHead:
         return "Samples";
+    case ReportText::CarriedHead:
+        return "Taken over from former mappings";
     case ReportText::DecisionHead:
         return "Who decided what";
     case ReportText::OpenHead:
         return "Open lines";
     case ReportText::GoneHead:
-        return "Lines without successor";
+        return "Lines confirmed to have no successor";
     case ReportText::ErrorHead:
         return "What could not be read";
     case ReportText::Lines:
@@ -83,6 +88,8 @@ const char *englishText(ReportText text)
         return "Reason";
     case ReportText::Pattern:
         return "Differences";
+    case ReportText::GoneGroup:
+        return "What they have in common";
     case ReportText::Projects:
         return "Projects";
     case ReportText::Probability:
@@ -103,6 +110,12 @@ const char *englishText(ReportText text)
         return "Right";
     case ReportText::Bound:
         return "Wrong at most (95 % certain)";
+    case ReportText::Drawn:
+        return "Lines that were judged";
+    case ReportText::Former:
+        return "Former mapping";
+    case ReportText::Standing:
+        return "Still as taken over";
     case ReportText::Refused:
         return "refused";
     case ReportText::TableError:
@@ -113,6 +126,8 @@ const char *englishText(ReportText text)
         return "no difference";
     case ReportText::InDoubt:
         return "in doubt: %1";
+    case ReportText::InAll:
+        return "in all";
     case ReportText::Nothing:
         return "none";
     case ReportText::More:
@@ -158,6 +173,7 @@ VelkRelease::ReportForm englishForm()
         return QString::fromLatin1(englishReason(reason));
     };
     form.changes = changeWords();
+    form.goneGroups = goneWords();
     form.time = [](const QDateTime &time) {
         return time.toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm 'UTC'"));
     };
@@ -191,7 +207,7 @@ ExitStatus runReport(const QStringList &arguments, QTextStream &out, QTextStream
     report->name = QFileInfo(file.path()).fileName();
     report->made = QDateTime::currentDateTimeUtc();
     QString unread;
-    if (!addHistory(*report, file.path(), &unread))
+    if (!addHistory(*report, file.release(), file.path(), &unread))
         report->errors << unread;
     for (const QString &error : report->errors)
         err << "velkmap report: " << error << '\n';

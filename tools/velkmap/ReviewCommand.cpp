@@ -19,6 +19,7 @@ namespace velkmap {
 namespace {
 
 using VelkRelease::DifferencePatterns;
+using VelkRelease::GoneGroup;
 using VelkRelease::NeighbourFinding;
 using VelkRelease::ReleaseNeighbours;
 using VelkRelease::ReplacementEvidence;
@@ -47,14 +48,6 @@ struct ReviewReport
 QString doubtText(const DifferencePatterns &patterns, int pattern, const QString &text)
 {
     return patterns.isDoubtful(pattern) ? QStringLiteral("in doubt: ") + text : text;
-}
-
-const VelkRelease::GoneGroup::Words &goneWords()
-{
-    static const VelkRelease::GoneGroup::Words words{
-        "whole folder without target: %1", "whole project without target: %1",
-        "target project is gone: %1", "%1: %2 is gone", "no similar line: %1"};
-    return words;
 }
 
 QString patternText(const DifferencePatterns &patterns, int pattern)
@@ -359,6 +352,14 @@ const ValueChange::Words &changeWords()
                                           "value missing",  "other spelling",
                                           "project's name", "another one",
                                           "another value",  "and others that many lines have"};
+    return words;
+}
+
+const GoneGroup::Words &goneWords()
+{
+    static const GoneGroup::Words words{
+        "whole folder without target: %1", "whole project without target: %1",
+        "target project is gone: %1", "%1: %2 is gone", "no similar line: %1"};
     return words;
 }
 

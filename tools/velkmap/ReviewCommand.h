@@ -2,6 +2,7 @@
 
 #include "ExitStatus.h"
 
+#include <release/pattern/GoneFamilies.h>
 #include <release/pattern/ValueChange.h>
 
 #include <QStringList>
@@ -17,5 +18,7 @@ ExitStatus runReview(const QStringList &arguments, QTextStream &out, QTextStream
 
 /// What changes without a notation of their own are called.
 [[nodiscard]] const VelkRelease::ValueChange::Words &changeWords();
+/// What lines without a successor have in common.
+[[nodiscard]] const VelkRelease::GoneGroup::Words &goneWords();
 
 } // namespace velkmap

@@ -44,6 +44,7 @@ ConflictDock::ConflictDock(ConflictList *list, QWidget *parent)
     m_values->setModel(m_sidesModel);
     m_values->setItemDelegate(new DifferenceDelegate(m_values));
     m_values->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_values->setTabKeyNavigation(false); // Tab goes on
     m_values->verticalHeader()->hide();
     m_values->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_values->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);

@@ -36,6 +36,7 @@ DifferencePanel::DifferencePanel(QWidget *parent)
     m_values->setModel(m_differences);
     m_values->setItemDelegate(new DifferenceDelegate(m_values));
     m_values->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_values->setTabKeyNavigation(false); // Tab goes on
     m_values->verticalHeader()->hide();
     m_values->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_values->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
@@ -53,6 +54,7 @@ DifferencePanel::DifferencePanel(QWidget *parent)
     m_several->setObjectName("PairTable");
     m_several->setModel(m_pairs);
     m_several->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_several->setTabKeyNavigation(false); // Tab goes on
     m_several->setWordWrap(false);
     m_several->verticalHeader()->hide();
     m_several->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

@@ -1,5 +1,6 @@
 #include "FilterDock.h"
 
+#include "groupedNumber.h"
 #include "ReportTexts.h"
 
 #include <release/review/OpenReason.h>
@@ -9,7 +10,6 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTreeWidget>
@@ -54,6 +54,7 @@ constexpr std::array<const char *, VelkRelease::LineTraitCount> groupTexts{
     QT_TRANSLATE_NOOP("FilterDock", "Art des Unterschieds"),
     QT_TRANSLATE_NOOP("FilterDock", "Unterschied in der Spalte"),
     QT_TRANSLATE_NOOP("FilterDock", "Zuletzt entschieden von"),
+    QT_TRANSLATE_NOOP("FilterDock", "Herkunft"),
 };
 
 /// Values that are always in the list, in this order.
@@ -69,6 +70,8 @@ QStringList standingValues(LineTrait trait)
     } else if (trait == LineTrait::Difference) {
         for (const ValueText &row : valueTexts)
             values += QLatin1String(row.value);
+    } else if (trait == LineTrait::Origin) {
+        values += QStringLiteral("carried");
     }
     return values;
 }
@@ -84,6 +87,8 @@ QString FilterDock::valueText(LineTrait trait, const QString &value)
         return ReportTexts::reason(VelkRelease::OpenReason(at));
     if (trait == LineTrait::Difference && at >= 0)
         return tr(valueTexts[size_t(at)].text);
+    if (trait == LineTrait::Origin && at >= 0)
+        return tr("aus einem früheren Mapping übernommen");
     if (!value.isEmpty())
         return value;
     return trait == LineTrait::Author ? tr("niemand") : tr("(nichts davon)");
@@ -182,8 +187,7 @@ void FilterDock::fillGroup(LineTrait trait)
         item->setText(0, valueText(trait, values[i]));
         item->setToolTip(0, item->text(0));
         item->setCheckState(0, choice.values.contains(values[i]) ? Qt::Checked : Qt::Unchecked);
-        item->setText(1,
-                      m_work->isKnown() ? QLocale().toString(counts.value(values[i])) : QString());
+        item->setText(1, m_work->isKnown() ? groupedNumber(counts.value(values[i])) : QString());
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     }
 }

@@ -23,10 +23,12 @@ constexpr std::array<const char *, size_t(ReportText::Count)> reportTexts = {
     QT_TRANSLATE_NOOP("ReportTexts", "Warum Zeilen offen sind"),
     QT_TRANSLATE_NOOP("ReportTexts",
                       "Worin sich offene Zeilen von ihren Vorschlägen unterscheiden"),
+    QT_TRANSLATE_NOOP("ReportTexts", "Offene Zeilen ohne Nachfolger"),
     QT_TRANSLATE_NOOP("ReportTexts", "Stichproben"),
+    QT_TRANSLATE_NOOP("ReportTexts", "Aus früheren Mappings übernommen"),
     QT_TRANSLATE_NOOP("ReportTexts", "Wer was entschieden hat"),
     QT_TRANSLATE_NOOP("ReportTexts", "Offene Zeilen"),
-    QT_TRANSLATE_NOOP("ReportTexts", "Zeilen ohne Nachfolger"),
+    QT_TRANSLATE_NOOP("ReportTexts", "Als ausgelaufen bestätigte Zeilen"),
     QT_TRANSLATE_NOOP("ReportTexts", "Was nicht gelesen werden konnte"),
     QT_TRANSLATE_NOOP("ReportTexts", "Zeilen"),
     QT_TRANSLATE_NOOP("ReportTexts", "Bestätigt"),
@@ -41,6 +43,7 @@ constexpr std::array<const char *, size_t(ReportText::Count)> reportTexts = {
     QT_TRANSLATE_NOOP("ReportTexts", "Bezeichnung"),
     QT_TRANSLATE_NOOP("ReportTexts", "Grund"),
     QT_TRANSLATE_NOOP("ReportTexts", "Unterschiede"),
+    QT_TRANSLATE_NOOP("ReportTexts", "Was sie gemeinsam haben"),
     QT_TRANSLATE_NOOP("ReportTexts", "Projekte"),
     QT_TRANSLATE_NOOP("ReportTexts", "Wahrscheinlichkeit"),
     QT_TRANSLATE_NOOP("ReportTexts", "Ausnahmen"),
@@ -51,11 +54,15 @@ constexpr std::array<const char *, size_t(ReportText::Count)> reportTexts = {
     QT_TRANSLATE_NOOP("ReportTexts", "Beurteilt"),
     QT_TRANSLATE_NOOP("ReportTexts", "Richtig"),
     QT_TRANSLATE_NOOP("ReportTexts", "Höchstens falsch (zu 95 % sicher)"),
+    QT_TRANSLATE_NOOP("ReportTexts", "Beurteilte Zeilen"),
+    QT_TRANSLATE_NOOP("ReportTexts", "Früheres Mapping"),
+    QT_TRANSLATE_NOOP("ReportTexts", "Noch wie übernommen"),
     QT_TRANSLATE_NOOP("ReportTexts", "abgelehnt"),
     QT_TRANSLATE_NOOP("ReportTexts", "Tabelle nicht lesbar"),
     QT_TRANSLATE_NOOP("ReportTexts", "nicht zu vergleichen"),
     QT_TRANSLATE_NOOP("ReportTexts", "kein Unterschied"),
     QT_TRANSLATE_NOOP("ReportTexts", "unsicher: %1"),
+    QT_TRANSLATE_NOOP("ReportTexts", "zusammen"),
     QT_TRANSLATE_NOOP("ReportTexts", "keine"),
     QT_TRANSLATE_NOOP("ReportTexts", "und %1 weitere"),
 };
@@ -88,6 +95,7 @@ VelkRelease::ReportForm form(const QLocale &locale)
     };
     form.reason = &ReportTexts::reason;
     form.changes = PatternText::words();
+    form.goneGroups = PatternText::goneWords();
     form.time = [locale](const QDateTime &time) {
         return locale.toString(time.toLocalTime(), QLocale::ShortFormat);
     };

@@ -28,7 +28,10 @@ public:
         std::optional<ReleaseMappingC> release;
         bool isAlone = false; ///< the file holds no other release
         QStringList notes;    ///< what was put right while reading
-        [[nodiscard]] KnownFile known() const { return {content.state, *release, isAlone}; }
+        [[nodiscard]] KnownFile known() const
+        {
+            return {content.state, *release, isAlone, content.identity};
+        }
         MappingDocument::OpenResult result = MappingDocument::OpenResult::Opened;
         QString errorText; ///< unless there is a release
     };

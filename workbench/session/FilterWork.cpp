@@ -44,6 +44,15 @@ void FilterWork::setFilter(const LineFilter &filter)
     Q_EMIT changed();
 }
 
+void FilterWork::setCarried(const VelkRelease::CarriedLines &carried)
+{
+    m_carried = carried;
+    if (!m_isKnown)
+        return;
+    m_traits.setCarried(carried);
+    Q_EMIT changed();
+}
+
 bool FilterWork::asksForMore() const
 {
     LineFilter more = m_filter;
@@ -116,6 +125,7 @@ void FilterWork::take(const std::shared_ptr<LineTraits> &traits, const QStringLi
     m_traits = *traits;
     m_errors = errors;
     m_isKnown = true;
+    m_traits.setCarried(m_carried);
     // What was decided meanwhile.
     const ReleaseMappingC release = m_document->release();
     for (int i = 0; i < release.countMappings(); ++i)

@@ -33,6 +33,8 @@ public:
     /// Reads what is not known yet, also for a filter that does not ask for it.
     void setWanted(bool wanted);
     void readAnew();
+    /// What was taken over from former mappings.
+    void setCarried(const VelkRelease::CarriedLines &carried);
 
     [[nodiscard]] bool isReading() const { return m_job != nullptr; }
     [[nodiscard]] bool isKnown() const { return m_isKnown; }
@@ -78,6 +80,7 @@ private:
     MappingDocument *const m_document;
     VelkRelease::LineFilter m_filter;
     VelkRelease::LineTraits m_traits;
+    VelkRelease::CarriedLines m_carried;
     QStringList m_errors;
     std::unique_ptr<Job> m_job; ///< null: nothing is being read
     int m_jobNumber = 0;

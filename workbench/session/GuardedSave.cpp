@@ -100,7 +100,7 @@ bool GuardedSave::isAsKnown()
 {
     if (!m_known.isAlone || m_known.release.getSourceDate() != date())
         return false;
-    m_before = FileContent::withoutBytes(m_file);
+    m_before = FileContent::withoutBytes(m_file, m_known.state, m_known.identity);
     return m_before.error.isEmpty() && m_before.state.sameContent(m_known.state);
 }
 
@@ -227,8 +227,13 @@ QString GuardedSave::fillCopy(const Commit &commit)
         const bool fits = OwnFile::replace(copy, expected().toByteArray(false), &error);
         return fits ? tr("die Datei konnte nicht vollständig geschrieben werden") : error;
     }
-    const QString fault = readBack(copy);
-    return fault.isEmpty() && !OwnFile::syncPath(copy, &error) ? error : fault;
+    // While it is looked at, the system puts it onto the disk.
+    auto synced = std::async(std::launch::async, [&] { return OwnFile::syncPath(copy, &error); });
+    QString fault = readBack(copy);
+    if (!synced.get() && fault.isEmpty())
+        return error;
+    m_copyIdentity = OwnFile::identity(copy);
+    return fault;
 }
 
 /// What the file should hold afterwards.
@@ -325,7 +330,19 @@ bool GuardedSave::putInPlace()
                        .arg(m_file, error));
     OwnFile::syncFolder(m_file);
     m_saved.state.time = QDateTime::currentDateTimeUtc();
+    noteIdentity();
     return true;
+}
+
+/// The renaming has changed it; anything else would be somebody who was quicker.
+void GuardedSave::noteIdentity()
+{
+    if (m_copyIdentity.isEmpty())
+        return;
+    const QByteArray identity = OwnFile::identity(m_file);
+    const QByteArray stamp = OwnFile::stamp(m_file);
+    if (!stamp.isEmpty() && identity.startsWith(stamp) && m_copyIdentity.startsWith(stamp))
+        m_saved.identity = identity;
 }
 
 bool GuardedSave::end(SaveResult result, const QString &text)

@@ -20,6 +20,7 @@ struct KnownFile
     FileState state;
     ReleaseMappingC release; ///< the one that is edited; without dates: it was not there
     bool isAlone = false;    ///< the file was in order and held no other release
+    QByteArray identity{};   ///< of the file with that state; empty if only its content tells
 };
 
 /// Puts a release into its mapping file by way of a function that may leave what it writes damaged.
@@ -68,6 +69,7 @@ private:
     [[nodiscard]] bool keepFormer();
     void keepOlder() const;
     [[nodiscard]] bool putInPlace();
+    void noteIdentity();
     [[nodiscard]] bool end(SaveResult result, const QString &text);
     [[nodiscard]] QString date() const { return m_release.getSourceDate(); }
 
@@ -77,6 +79,7 @@ private:
     PJsonValue m_members; ///< of the file, or of the backup if the file cannot be read
     FileContent m_before; ///< without its bytes if it is as known
     bool m_readable = false;
+    QByteArray m_copyIdentity; ///< of the copy that was found to be right, before its renaming
     KnownFile m_saved;
     SaveOutcome m_outcome;
 };

@@ -209,15 +209,6 @@ void MappingDocument::finishStep()
     d->finishStep();
 }
 
-void MappingDocument::updateWithoutStep(const std::function<void()> &marking)
-{
-    finishStep();
-    d->marking = true;
-    marking();
-    finishStep();
-    d->marking = false;
-}
-
 bool MappingDocument::canUndo() const
 {
     return d->steps.history().canUndo();
@@ -312,11 +303,6 @@ void MappingDocument::setAutosaveInterval(int seconds)
 {
     d->autosaveSeconds = qMax(seconds, 0);
     d->startAutosave();
-}
-
-int MappingDocument::autosaveInterval() const
-{
-    return d->autosaveSeconds;
 }
 
 QDateTime MappingDocument::lastAutosave() const

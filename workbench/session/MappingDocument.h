@@ -152,8 +152,6 @@ public:
     void endStep();
     /// Ends the step of this turn of the event loop now.
     void finishStep();
-    /// Changes by \a marking are stored and journaled, and are no step.
-    void updateWithoutStep(const std::function<void()> &marking);
 
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
@@ -198,7 +196,6 @@ public:
 
     /// 180 seconds at first; 0: never.
     void setAutosaveInterval(int seconds);
-    [[nodiscard]] int autosaveInterval() const;
     /// Not valid before the first one.
     [[nodiscard]] QDateTime lastAutosave() const;
     [[nodiscard]] QString journalFile() const;

@@ -59,7 +59,6 @@ public:
     std::shared_ptr<CatalogMappingHandlerI> handler;
     LineCounts counts;
     MergeState mergeState;
-    bool marking = false; ///< changes are no step
     int autosaveSeconds = 180;
     QDateTime lastAutosave;
 

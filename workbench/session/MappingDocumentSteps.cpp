@@ -92,7 +92,7 @@ void MappingDocumentPrivate::finishStep()
         return;
     if (!m_refused)
         m_turn.stop();
-    const Finished done = steps.finish(release(), marking);
+    const Finished done = steps.finish(release());
     if (done.kind == Finished::Kind::ConflictsMarked)
         tellMarks(done);
     else if (done.kind == Finished::Kind::Step)

@@ -35,6 +35,7 @@ public:
         Expired = 32,   ///< the user confirmed that it has none
     };
     static constexpr int AllKinds = 63;
+    static constexpr int NeedDecision = Conflict | ToCheck | NotFound;
     Q_DECLARE_FLAGS(Kinds, Kind)
 
     /// The rows of the project that is on the screen.
@@ -113,7 +114,7 @@ private:
                                                std::optional<int> from, bool forward) const;
 
     MappingDocument *const m_document;
-    Kinds m_kinds = Kinds(Conflict | ToCheck | NotFound);
+    Kinds m_kinds = Kinds(NeedDecision);
     int m_lastCount = 0;
     mutable std::unique_ptr<ProjectOrder> m_order; ///< null until it is needed
 };

@@ -3,6 +3,7 @@
 #include <core/files/ContentHash.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
@@ -90,6 +91,13 @@ bool syncDescriptor(int file)
     return ::fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
 }
 
+QByteArray stampOf(const struct stat &found)
+{
+    const qint64 parts[] = {qint64(found.st_dev), qint64(found.st_ino), qint64(found.st_size),
+                            qint64(found.st_mtim.tv_sec), qint64(found.st_mtim.tv_nsec)};
+    return QByteArray(reinterpret_cast<const char *>(parts), sizeof parts);
+}
+
 /// What is to be known before reading: what changes meanwhile is a change.
 FileContent begun(const QString &path)
 {
@@ -119,11 +127,31 @@ QByteArray OwnFile::stamp(const QString &path)
     struct stat found
     {
     };
-    if (::lstat(nativeName(path).constData(), &found) != 0)
+    return ::lstat(nativeName(path).constData(), &found) == 0 ? stampOf(found) : QByteArray();
+}
+
+QByteArray OwnFile::identity(const QFile &file)
+{
+    struct stat found
+    {
+    };
+    if (::fstat(file.handle(), &found) != 0)
         return QByteArray();
-    const qint64 parts[] = {qint64(found.st_dev), qint64(found.st_ino), qint64(found.st_size),
-                            qint64(found.st_mtim.tv_sec), qint64(found.st_mtim.tv_nsec)};
-    return QByteArray(reinterpret_cast<const char *>(parts), sizeof parts);
+    // File systems that know no fractions of a second go by two of them.
+    const qint64 tick = found.st_mtim.tv_nsec == 0 ? 2000 : 20;
+    const qint64 written =
+        qint64(found.st_mtim.tv_sec) * 1000 + qint64(found.st_mtim.tv_nsec) / 1'000'000;
+    if (written > QDateTime::currentMSecsSinceEpoch() - tick)
+        return QByteArray();
+    const qint64 changed[] = {qint64(found.st_ctim.tv_sec), qint64(found.st_ctim.tv_nsec)};
+    return stampOf(found) + QByteArray(reinterpret_cast<const char *>(changed), sizeof changed);
+}
+
+QByteArray OwnFile::identity(const QString &path)
+{
+    QFile file;
+    return open(file, path, QIODevice::ReadOnly | QIODevice::Unbuffered) ? identity(file)
+                                                                         : QByteArray();
 }
 
 QString OwnFile::causeOf(int errorNumber)
@@ -340,22 +368,32 @@ FileContent FileContent::of(const QString &path)
     FileContent content = begun(path);
     if (!content.state.exists)
         return content;
+    content.identity = OwnFile::identity(path);
     const std::optional<QByteArray> bytes = OwnFile::read(path, &content.error);
     if (!bytes)
         return content;
+    if (OwnFile::identity(path) != content.identity)
+        content.identity.clear();
     content.bytes = *bytes;
     content.state.size = bytes->size();
     content.state.hash = FileState::hashOf(*bytes);
     return content;
 }
 
-FileContent FileContent::withoutBytes(const QString &path)
+FileContent FileContent::withoutBytes(const QString &path, const FileState &known,
+                                      const QByteArray &identity)
 {
     FileContent content = begun(path);
     QFile file;
     if (!content.state.exists ||
         !OwnFile::open(file, path, QIODevice::ReadOnly | QIODevice::Unbuffered, &content.error))
         return content;
+    content.identity = OwnFile::identity(file);
+    if (!identity.isEmpty() && content.identity == identity) {
+        content.state.size = known.size;
+        content.state.hash = known.hash;
+        return content;
+    }
     std::vector<char> piece(std::size_t(256) * 1024);
     ContentHash hash;
     qint64 size = 0;

@@ -26,6 +26,12 @@ enum class Place {
 [[nodiscard]] Place place(const QString &path);
 /// Changes when another file comes to stand under the name or is written; empty if there is none.
 [[nodiscard]] QByteArray stamp(const QString &path);
+/// Begins with what stamp() gives and changes with whatever is done to the open file, to its names
+/// and rights too. Empty if it was written so shortly ago that one more change could bear the same
+/// time: then only its content tells.
+[[nodiscard]] QByteArray identity(const QFile &file);
+/// Of a file of ours by its name; empty too if it cannot be opened.
+[[nodiscard]] QByteArray identity(const QString &path);
 /// Why a system call failed: a full disk by that name.
 [[nodiscard]] QString causeOf(int errorNumber);
 
@@ -75,11 +81,14 @@ bool remove(const QString &path, QString *error = nullptr);
 struct FileContent
 {
     FileState state;
-    QByteArray stamp; ///< as it began to be read
+    QByteArray stamp;    ///< as it began to be read
+    QByteArray identity; ///< while it was read; empty if it changed meanwhile or just before
     QByteArray bytes;
     QString error; ///< German; empty if it was read or is not there
 
     [[nodiscard]] static FileContent of(const QString &path);
-    /// The same without the bytes, which costs a fraction of that.
-    [[nodiscard]] static FileContent withoutBytes(const QString &path);
+    /// The same without the bytes, which costs a fraction of that; without reading, if the file
+    /// still is the one that was read or written as \a known with that identity.
+    [[nodiscard]] static FileContent withoutBytes(const QString &path, const FileState &known,
+                                                  const QByteArray &identity);
 };

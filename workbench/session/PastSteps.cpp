@@ -128,7 +128,8 @@ void StepReader::takeStep(const PJsonValue &record)
     UndoStep step;
     step.text = text(record, "text");
     step.lines = -1;
-    step.key = PastSteps::key(m_opening, int(record.value(QStringLiteral("step")).toInt()));
+    step.key =
+        HistorySessions::stepKey(m_opening, int(record.value(QStringLiteral("step")).toInt()));
     step.time = stampOf(record);
     step.author = m_author;
     step.isOwn = !m_isAdopted && m_author == m_user;
@@ -188,10 +189,4 @@ void PastSteps::read(const QString &mappingFile, const QString &sourceDate, Undo
     StepReader reader(sourceDate, into);
     for (const Known &known : all)
         reader.read(*known.session, known.isAdopted);
-}
-
-QString PastSteps::key(const QByteArray &opening, int number)
-{
-    return QStringLiteral("%1.%2").arg(
-        QString::number(VelkRelease::JournalRow::checksum(opening), 16), QString::number(number));
 }

@@ -13,7 +13,4 @@ namespace PastSteps {
 /// cannot be read is left out.
 void read(const QString &mappingFile, const QString &sourceDate, UndoHistory &into);
 
-/// Names a step of a session by the session's first record.
-[[nodiscard]] QString key(const QByteArray &opening, int number);
-
 } // namespace PastSteps

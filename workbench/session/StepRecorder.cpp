@@ -1,13 +1,13 @@
 #include "StepRecorder.h"
 
 #include "JournalText.h"
-#include "PastSteps.h"
 #include "ReleaseChanges.h"
 #include "StepNotices.h"
 #include "StepSummary.h"
 
 #include <core/files/EditLock.h>
 #include <core/json/PJsonValue.h>
+#include <release/history/HistorySessions.h>
 
 #include <utility>
 
@@ -63,7 +63,7 @@ void StepRecorder::writeOpening(const Opening &opening)
 
 void StepRecorder::sign(UndoStep &step) const
 {
-    step.key = PastSteps::key(m_opening, m_step);
+    step.key = VelkRelease::HistorySessions::stepKey(m_opening, m_step);
     step.time = QDateTime::currentDateTimeUtc();
     step.author = EditLock::self().user;
 }
@@ -155,7 +155,7 @@ void StepRecorder::noteRelease(const ReleaseMappingC &before, const ReleaseMappi
     journalRelease(before, after);
 }
 
-StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now, bool onlyMarks)
+StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now)
 {
     Finished result;
     const Pending done = std::exchange(m_pending, Pending());
@@ -167,7 +167,7 @@ StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now, bool onl
         if (done.behindEditor.contains(project))
             result.behindEditor += project;
     }
-    if (summarise(done, now, result) || onlyMarks) {
+    if (summarise(done, now, result)) {
         result.kind = Finished::Kind::ConflictsMarked;
         m_history.markDirty();
     } else if (!result.step.changes.isEmpty() || result.step.releaseBefore) {

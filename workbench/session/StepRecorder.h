@@ -71,9 +71,8 @@ public:
     void note(const PrjMappingC &before, const PrjMappingC &after, bool byEditor);
     /// The whole release does.
     void noteRelease(const ReleaseMappingC &before, const ReleaseMappingC &after);
-    /// Puts the gathered changes into the history. \a onlyMarks: whatever they are, they are no
-    /// step.
-    [[nodiscard]] Finished finish(const ReleaseMappingC &now, bool onlyMarks);
+    /// Puts the gathered changes into the history; those that only mark conflicts are no step.
+    [[nodiscard]] Finished finish(const ReleaseMappingC &now);
 
     /// The number of the step in the making or made last.
     [[nodiscard]] int number() const { return m_step; }

@@ -144,6 +144,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 zde již rozhodnuto nebo jisté</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 bez řádku v nové verzi</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 tehdy potvrzeno jako neplatné</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 v projektech, které zde chybí</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 tam v konfliktu</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Nepřevzato: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Z %1 není co převzít.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Z %1 převzato: %2 z %3 potvrzených řádků, %4 přiřazeno s jistotou, %5 navrženo.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Soubor neobsahuje mapování z verze katalogu %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>I tento soubor vede na verzi katalogu %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Vyberte mapování, které vede ze stejné staré verze katalogu na dřívější novou.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Převzato z %1: tam potvrzeno pro verzi katalogu %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Čte se dřívější mapování</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Z %1 nelze nic převzít.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Adresář verze katalogu %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Hledají se cílové projekty</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Rozhodnutí se přebírají</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Přerušeno, nic nebylo převzato</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Rozhodnutí převzatá z %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -697,6 +776,10 @@ Zvolte jiný soubor.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Zvolit společnou kopii</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Převzít rozhodnutí z</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -834,6 +917,14 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>Zrušit &amp;filtr</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Původ</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>převzato z dřívějšího mapování</translation>
     </message>
 </context>
 <context>
@@ -3030,10 +3121,6 @@ Projekt: %1
         <translation>Otevřené řádky</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Řádky bez nástupce</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Co se nepodařilo přečíst</translation>
     </message>
@@ -3192,6 +3279,38 @@ Projekt: %1
     <message>
         <source>unsicher: %1</source>
         <translation>nejisté: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Otevřené řádky bez nástupce</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Řádky potvrzené jako neplatné</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Co mají společného</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>celkem</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Převzato z dřívějších mapování</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Dřívější mapování</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Stále jako převzaté</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Posouzené řádky</translation>
     </message>
 </context>
 <context>
@@ -4822,6 +4941,14 @@ Projekt: %1
     <message>
         <source>Bericht drucken...</source>
         <translation>Vytisknout zprávu...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Převzít rozhodnutí...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Převezme z dřívějšího mapování v jednom kroku to, co již bylo pro stejnou starou verzi potvrzeno</translation>
     </message>
 </context>
 </TS>

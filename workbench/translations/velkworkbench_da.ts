@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 allerede besluttet eller sikre her</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 uden linje i den nye udgave</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 dengang bekræftet som udgået</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 i projekter, der mangler her</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 i konflikt dér</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Ikke overtaget: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Der er intet at overtage fra %1.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Overtaget fra %1: %2 af %3 bekræftede linjer, %4 sikkert tildelt, %5 foreslået.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Filen indeholder ingen mapping fra katalogudgave %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Også denne fil fører til katalogudgave %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Vælg en mapping, der fører fra den samme gamle katalogudgave til en tidligere ny.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Overtaget fra %1: bekræftet dér for katalogudgave %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Tidligere mapping læses</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Intet kan overtages fra %1.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Mappe for katalogudgave %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Målprojekter søges</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Beslutninger overtages</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Afbrudt, intet blev overtaget</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Beslutninger overtaget fra %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -677,6 +756,10 @@ Vælg en anden fil.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Vælg den fælles kopi</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Overtag beslutninger fra</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Vælg en anden fil.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>&amp;Ophæv filter</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Oprindelse</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>overtaget fra en tidligere mapping</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Linje: %2
         <translation>Åbne linjer</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Linjer uden efterfølger</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Hvad der ikke kunne læses</translation>
     </message>
@@ -3143,6 +3230,38 @@ Linje: %2
     <message>
         <source>unsicher: %1</source>
         <translation>usikkert: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Åbne linjer uden efterfølger</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Linjer bekræftet som udgåede</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Hvad de har til fælles</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>i alt</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Overtaget fra tidligere mappinger</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Tidligere mapping</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Stadig som overtaget</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Bedømte linjer</translation>
     </message>
 </context>
 <context>
@@ -3860,7 +3979,7 @@ Linje: %2
     </message>
     <message>
         <source>&amp;Bis hier zurücknehmen</source>
-        <translation>&amp;Tilbage hertil</translation>
+        <translation>Tilbage &amp;hertil</translation>
     </message>
     <message>
         <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
@@ -4748,6 +4867,14 @@ Linje: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Udskriv rapport...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Overtag beslutninger...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Overtager i ét trin fra en tidligere mapping, hvad der allerede er bekræftet for den samme gamle udgave</translation>
     </message>
 </context>
 </TS>

@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 already decided or certain here</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 without a line in the new release</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 confirmed to have no successor then</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 in projects that are missing here</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 in conflict there</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Not taken over: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>There is nothing to take over from %1.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Taken over from %1: %2 of %3 confirmed lines, %4 assigned with certainty, %5 proposed.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>The file has no mapping from release %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>This file leads to release %1, too.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Choose a mapping that leads from the same old release to an earlier new one.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Taken over from %1: confirmed there for release %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Reading the former mapping</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Nothing can be taken over from %1.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Directory of release %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Looking for target projects</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Taking decisions over</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Cancelled, nothing was taken over</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Decisions taken over from %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>%1 ist kein Verzeichnis.</source>
@@ -677,6 +756,10 @@ Please choose another file.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Choose the shared copy</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Take decisions over from</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Please choose another file.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>&amp;Clear Filter</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Origin</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>taken over from a former mapping</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Line: %2
         <translation>Open lines</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Lines without successor</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>What could not be read</translation>
     </message>
@@ -3143,6 +3230,38 @@ Line: %2
     <message>
         <source>unsicher: %1</source>
         <translation>in doubt: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Open lines without a successor</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Lines confirmed to have no successor</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>What they have in common</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>in all</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Taken over from former mappings</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Former mapping</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Still as taken over</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Lines that were judged</translation>
     </message>
 </context>
 <context>
@@ -4748,6 +4867,14 @@ Line: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Print report...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Take decisions over...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Takes over from a former mapping what was already confirmed for the same old release, in one step</translation>
     </message>
 </context>
 </TS>

@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 ya decididas o seguras aquí</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 sin línea en la nueva versión</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 confirmadas entonces como descatalogadas</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 en proyectos que faltan aquí</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 en conflicto allí</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>No adoptadas: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>No hay nada que adoptar de %1.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Adoptadas de %1: %2 de %3 líneas confirmadas, %4 asignadas con certeza, %5 propuestas.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>El archivo no contiene ningún mapeo desde la versión del catálogo %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>También este archivo lleva a la versión del catálogo %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Elija un mapeo que lleve de la misma versión antigua del catálogo a una nueva anterior.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Adoptada de %1: confirmada allí para la versión del catálogo %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Leyendo el mapeo anterior</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>No se puede adoptar nada de %1.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Directorio de la versión del catálogo %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Buscando proyectos de destino</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Adoptando decisiones</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Cancelado, no se adoptó nada</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Decisiones adoptadas de %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -677,6 +756,10 @@ Elija otro archivo.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Elegir la copia común</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Adoptar decisiones de</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Elija otro archivo.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>&amp;Quitar filtro</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Procedencia</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>adoptadas de un mapeo anterior</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Fila: %2
         <translation>Filas abiertas</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Filas sin sucesora</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Lo que no se pudo leer</translation>
     </message>
@@ -3143,6 +3230,38 @@ Fila: %2
     <message>
         <source>unsicher: %1</source>
         <translation>dudoso: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Filas abiertas sin sucesora</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Filas confirmadas como descatalogadas</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Qué tienen en común</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>en total</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Adoptadas de mapeos anteriores</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Mapeo anterior</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Siguen como se adoptaron</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Filas evaluadas</translation>
     </message>
 </context>
 <context>
@@ -4748,6 +4867,14 @@ Fila: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Imprimir el informe...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Adoptar decisiones...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Adopta de un mapeo anterior, en un solo paso, lo que ya se confirmó para la misma versión antigua</translation>
     </message>
 </context>
 </TS>

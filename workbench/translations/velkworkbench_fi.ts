@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 täällä jo päätetty tai varma</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 ilman riviä uudessa versiossa</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 silloin vahvistettu poistuneeksi</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 projekteissa, jotka puuttuvat täältä</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 siellä ristiriidassa</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Ei otettu: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Tiedostosta %1 ei ole mitään otettavaa.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Otettu tiedostosta %1: %2 / %3 vahvistettua riviä, %4 varmasti kohdistettu, %5 ehdotettu.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Tiedostossa ei ole kohdistusta luetteloversiosta %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Myös tämä tiedosto johtaa luetteloversioon %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Valitse kohdistus, joka johtaa samasta vanhasta luetteloversiosta aiempaan uuteen.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Otettu tiedostosta %1: vahvistettu siellä luetteloversiolle %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Luetaan aiempaa kohdistusta</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Tiedostosta %1 ei voi ottaa mitään.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Luetteloversion %1 hakemisto</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Etsitään kohdeprojekteja</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Päätöksiä otetaan käyttöön</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Keskeytetty, mitään ei otettu</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Päätöksiä otettu tiedostosta %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -677,6 +756,10 @@ Valitse toinen tiedosto.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Valitse yhteinen kopio</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Ota päätökset tiedostosta</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>&amp;Poista suodatin</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Alkuperä</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>otettu aiemmasta kohdistuksesta</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Rivi: %2
         <translation>Avoimet rivit</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Rivit ilman seuraajaa</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Mitä ei voitu lukea</translation>
     </message>
@@ -3143,6 +3230,38 @@ Rivi: %2
     <message>
         <source>unsicher: %1</source>
         <translation>epävarma: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Avoimet rivit ilman seuraajaa</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Poistuneiksi vahvistetut rivit</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Mikä niille on yhteistä</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>yhteensä</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Otettu aiemmista kohdistuksista</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Aiempi kohdistus</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Yhä kuten otettu</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Arvioidut rivit</translation>
     </message>
 </context>
 <context>
@@ -4748,6 +4867,14 @@ Rivi: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Tulosta raportti...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Ota päätökset käyttöön...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Ottaa aiemmasta kohdistuksesta yhdessä vaiheessa sen, mikä samalle vanhalle versiolle on jo vahvistettu</translation>
     </message>
 </context>
 </TS>

@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 déjà décidées ou sûres ici</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 sans ligne dans la nouvelle version</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 confirmées alors comme retirées</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 dans des projets absents ici</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 en conflit là-bas</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Non reprises : %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Il n&apos;y a rien à reprendre de %1.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Reprises de %1 : %2 lignes confirmées sur %3, %4 affectées avec certitude, %5 proposées.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Le fichier ne contient aucun mapping depuis la version du catalogue %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Ce fichier mène lui aussi à la version du catalogue %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Choisissez un mapping qui mène de la même ancienne version du catalogue à une nouvelle plus ancienne.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Reprise de %1 : confirmée là pour la version du catalogue %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Lecture du mapping antérieur</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Rien ne peut être repris de %1.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Répertoire de la version du catalogue %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Recherche des projets cibles</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Reprise des décisions</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Interrompu, rien n&apos;a été repris</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Décisions reprises de %1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -677,6 +756,10 @@ Choisissez un autre fichier.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Choisir la copie commune</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Reprendre les décisions de</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>&amp;Lever le filtre</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>reprises d&apos;un mapping antérieur</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Ligne : %2
         <translation>Lignes ouvertes</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Lignes sans successeur</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Ce qui n&apos;a pas pu être lu</translation>
     </message>
@@ -3143,6 +3230,38 @@ Ligne : %2
     <message>
         <source>unsicher: %1</source>
         <translation>incertain : %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Lignes ouvertes sans successeur</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Lignes confirmées comme retirées du catalogue</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Ce qu&apos;elles ont en commun</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>au total</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Reprises de mappings antérieurs</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Mapping antérieur</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Encore telles que reprises</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Lignes jugées</translation>
     </message>
 </context>
 <context>
@@ -4748,6 +4867,14 @@ Ligne : %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Imprimer le rapport...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Reprendre des décisions...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Reprend d&apos;un mapping antérieur, en une étape, ce qui a déjà été confirmé pour la même ancienne version</translation>
     </message>
 </context>
 </TS>

@@ -116,6 +116,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 itt már eldöntött vagy biztos</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 sor nélkül az új verzióban</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 akkor megszűntként megerősítve</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 itt hiányzó projektekben</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 ott ütközésben</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Nem került át: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>A(z) %1 fájlból nincs mit átvenni.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Átvéve innen: %1: %3 megerősített sorból %2, %4 biztosan hozzárendelve, %5 javasolva.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>A fájlban nincs leképezés a(z) %1 katalógusverzióról.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Ez a fájl is a(z) %1 katalógusverzióra vezet.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Válasszon olyan leképezést, amely ugyanarról a régi katalógusverzióról egy korábbi újra vezet.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Átvéve innen: %1: ott a(z) %2 katalógusverzióhoz megerősítve</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>A korábbi leképezés olvasása</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>A(z) %1 fájlból semmi sem vehető át.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>A(z) %1 katalógusverzió könyvtára</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Célprojektek keresése</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Döntések átvétele</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Megszakítva, semmi sem került átvételre</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Átvett döntések innen: %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -657,6 +736,10 @@ Válasszon másik fájlt.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Közös másolat kiválasztása</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Döntések átvétele innen</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -788,6 +871,14 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>Szűrő &amp;törlése</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Eredet</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>korábbi leképezésből átvéve</translation>
     </message>
 </context>
 <context>
@@ -2932,10 +3023,6 @@ Sor: %2
         <translation>Nyitott sorok</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Utód nélküli sorok</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Amit nem sikerült beolvasni</translation>
     </message>
@@ -3094,6 +3181,38 @@ Sor: %2
     <message>
         <source>unsicher: %1</source>
         <translation>bizonytalan: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Nyitott sorok utód nélkül</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Megszűntként megerősített sorok</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Mi közös bennük</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>összesen</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Korábbi leképezésekből átvéve</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Korábbi leképezés</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Még az átvett állapotban</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Elbírált sorok</translation>
     </message>
 </context>
 <context>
@@ -4674,6 +4793,14 @@ Sor: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Jelentés nyomtatása...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Döntések átvétele...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Egy korábbi leképezésből egy lépésben átveszi, amit ugyanahhoz a régi verzióhoz már megerősítettek</translation>
     </message>
 </context>
 </TS>

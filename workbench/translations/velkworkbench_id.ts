@@ -116,6 +116,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 sudah diputuskan atau pasti di sini</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 tanpa baris di rilis baru</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 saat itu dikonfirmasi tidak berlaku</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 di proyek yang tidak ada di sini</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 berkonflik di sana</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Tidak diambil alih: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Tidak ada yang dapat diambil alih dari %1.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Diambil alih dari %1: %2 dari %3 baris terkonfirmasi, %4 ditetapkan dengan pasti, %5 diusulkan.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Berkas tidak memuat pemetaan dari rilis katalog %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Berkas ini juga menuju rilis katalog %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Pilih pemetaan yang menuju dari rilis katalog lama yang sama ke rilis baru yang lebih awal.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Diambil alih dari %1: dikonfirmasi di sana untuk rilis katalog %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Membaca pemetaan terdahulu</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Tidak ada yang dapat diambil alih dari %1.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Direktori rilis katalog %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Mencari proyek target</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Mengambil alih keputusan</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Dibatalkan, tidak ada yang diambil alih</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Keputusan diambil alih dari %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -657,6 +736,10 @@ Harap pilih berkas lain.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Pilih salinan bersama</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Ambil alih keputusan dari</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -788,6 +871,14 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>&amp;Hapus filter</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Asal</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>diambil alih dari pemetaan terdahulu</translation>
     </message>
 </context>
 <context>
@@ -2932,10 +3023,6 @@ Baris: %2
         <translation>Baris terbuka</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Baris tanpa penerus</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Yang tidak dapat dibaca</translation>
     </message>
@@ -3094,6 +3181,38 @@ Baris: %2
     <message>
         <source>unsicher: %1</source>
         <translation>tidak pasti: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Baris terbuka tanpa pengganti</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Baris yang dikonfirmasi tidak berlaku</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Persamaannya</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>jumlah</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Diambil alih dari pemetaan terdahulu</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Pemetaan terdahulu</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Masih seperti saat diambil alih</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Baris yang dinilai</translation>
     </message>
 </context>
 <context>
@@ -4674,6 +4793,14 @@ Baris: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Cetak laporan...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Ambil alih keputusan...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Mengambil alih dari pemetaan terdahulu, dalam satu langkah, yang sudah dikonfirmasi untuk rilis lama yang sama</translation>
     </message>
 </context>
 </TS>

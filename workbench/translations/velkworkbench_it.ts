@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 qui già decise o certe</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 senza riga nella nuova versione</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 allora confermate come fuori produzione</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 in progetti che qui mancano</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 lì in conflitto</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Non riprese: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Da %1 non c&apos;è nulla da riprendere.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Riprese da %1: %2 di %3 righe confermate, %4 assegnate con certezza, %5 proposte.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Il file non contiene alcuna mappatura dalla versione del catalogo %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Anche questo file porta alla versione del catalogo %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Scegliere una mappatura che porti dalla stessa vecchia versione del catalogo a una nuova precedente.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Ripresa da %1: lì confermata per la versione del catalogo %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Lettura della mappatura precedente</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Da %1 non si può riprendere nulla.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Directory della versione del catalogo %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Ricerca dei progetti di destinazione</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Ripresa delle decisioni</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Interrotto, non è stato ripreso nulla</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Decisioni riprese da %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -677,6 +756,10 @@ Scegliere un altro file.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Scegli la copia comune</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Riprendi le decisioni da</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Scegliere un altro file.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>To&amp;gli filtro</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Provenienza</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>riprese da una mappatura precedente</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Riga: %2
         <translation>Righe aperte</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Righe senza successore</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Ciò che non è stato possibile leggere</translation>
     </message>
@@ -3143,6 +3230,38 @@ Riga: %2
     <message>
         <source>unsicher: %1</source>
         <translation>incerto: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Righe aperte senza successore</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Righe confermate come fuori produzione</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Che cosa hanno in comune</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>in totale</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Riprese da mappature precedenti</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Mappatura precedente</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Ancora come riprese</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Righe giudicate</translation>
     </message>
 </context>
 <context>
@@ -3868,7 +3987,7 @@ Riga: %2
     </message>
     <message>
         <source>Zur Z&amp;eile</source>
-        <translation>Vai alla r&amp;iga</translation>
+        <translation>Vai alla ri&amp;ga</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -4748,6 +4867,14 @@ Riga: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Stampa rapporto...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Riprendi decisioni...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Riprende da una mappatura precedente, in un solo passo, quanto già confermato per la stessa vecchia versione</translation>
     </message>
 </context>
 </TS>

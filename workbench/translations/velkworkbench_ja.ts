@@ -116,6 +116,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>ここで決定済みまたは確実 %1</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>新リリースに行なし %1</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>当時廃止として確認済み %1</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>ここにないプロジェクト内 %1</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>そこで競合中 %1</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>引き継がれなかったもの: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>%1 から引き継ぐものはありません。</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>%1 から引き継ぎ: 確認済み %3 行のうち %2 行、確実に割り当て %4、提案 %5。</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>ファイルにカタログリリース %1 からのマッピングがありません。</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>このファイルもカタログリリース %1 に至ります。</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>同じ旧カタログリリースから、より前の新リリースに至るマッピングを選択してください。</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>%1 から引き継ぎ: そこでカタログリリース %2 に対して確認済み</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>以前のマッピングを読み込み中</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>%1 からは何も引き継げません。</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>カタログリリース %1 のディレクトリ</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>対象プロジェクトを検索中</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>決定を引き継ぎ中</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>中止しました。何も引き継がれていません</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>%1 から決定を引き継ぎ: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -657,6 +736,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Gemeinsame Kopie wählen</source>
         <translation>共有コピーを選択</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>決定の引き継ぎ元</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -788,6 +871,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>フィルターを解除(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>由来</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>以前のマッピングから引き継ぎ</translation>
     </message>
 </context>
 <context>
@@ -2932,10 +3023,6 @@ Zeile: %2
         <translation>未決定の行</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>後継のない行</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>読み取れなかったもの</translation>
     </message>
@@ -3094,6 +3181,38 @@ Zeile: %2
     <message>
         <source>unsicher: %1</source>
         <translation>不確か: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>後継のない未処理の行</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>廃止として確認済みの行</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>共通点</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>合計</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>以前のマッピングからの引き継ぎ</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>以前のマッピング</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>引き継いだまま</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>判定済みの行</translation>
     </message>
 </context>
 <context>
@@ -4674,6 +4793,14 @@ Zeile: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>レポートを印刷...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>決定を引き継ぐ...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>同じ旧リリースに対して確認済みのものを、以前のマッピングから一度に引き継ぎます</translation>
     </message>
 </context>
 </TS>

@@ -116,6 +116,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>여기서 이미 결정되었거나 확실함 %1</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>새 릴리스에 행 없음 %1</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>당시 단종으로 확인됨 %1</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>여기에 없는 프로젝트 %1</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>그곳에서 충돌 중 %1</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>가져오지 않음: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>%1에서 가져올 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>%1에서 가져옴: 확인된 행 %3개 중 %2개, 확실하게 할당됨 %4, 제안됨 %5.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>파일에 카탈로그 릴리스 %1에서 시작하는 매핑이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>이 파일도 카탈로그 릴리스 %1(으)로 이어집니다.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>같은 이전 카탈로그 릴리스에서 더 앞선 새 릴리스로 이어지는 매핑을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>%1에서 가져옴: 그곳에서 카탈로그 릴리스 %2에 대해 확인됨</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>이전 매핑을 읽는 중</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>%1에서 아무것도 가져올 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>카탈로그 릴리스 %1의 디렉터리</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>대상 프로젝트를 찾는 중</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>결정을 가져오는 중</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>중단됨, 아무것도 가져오지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>%1에서 가져온 결정: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -657,6 +736,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Gemeinsame Kopie wählen</source>
         <translation>공유 사본 선택</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>결정을 가져올 파일</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -788,6 +871,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>필터 해제(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>출처</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>이전 매핑에서 가져옴</translation>
     </message>
 </context>
 <context>
@@ -2932,10 +3023,6 @@ Zeile: %2
         <translation>미결 행</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>후속이 없는 행</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>읽을 수 없었던 것</translation>
     </message>
@@ -3094,6 +3181,38 @@ Zeile: %2
     <message>
         <source>unsicher: %1</source>
         <translation>불확실: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>후속이 없는 미결 행</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>단종으로 확인된 행</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>공통점</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>합계</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>이전 매핑에서 가져온 것</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>이전 매핑</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>아직 가져온 그대로</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>판정한 행</translation>
     </message>
 </context>
 <context>
@@ -4674,6 +4793,14 @@ Zeile: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>보고서 인쇄...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>결정 가져오기...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>같은 이전 릴리스에 대해 이미 확인된 것을 이전 매핑에서 한 단계로 가져옵니다</translation>
     </message>
 </context>
 </TS>

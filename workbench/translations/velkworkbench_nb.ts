@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 allerede avgjort eller sikre her</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 uten linje i den nye utgaven</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 den gang bekreftet som utgått</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 i prosjekter som mangler her</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 i konflikt der</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Ikke overtatt: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Det er ingenting å overta fra %1.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Overtatt fra %1: %2 av %3 bekreftede linjer, %4 sikkert tilordnet, %5 foreslått.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Filen inneholder ingen mapping fra katalogutgave %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Også denne filen fører til katalogutgave %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Velg en mapping som fører fra den samme gamle katalogutgaven til en tidligere ny.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Overtatt fra %1: bekreftet der for katalogutgave %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Tidligere mapping leses</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Ingenting kan overtas fra %1.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Mappe for katalogutgave %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Målprosjekter søkes</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Avgjørelser overtas</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Avbrutt, ingenting ble overtatt</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Avgjørelser overtatt fra %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -677,6 +756,10 @@ Velg en annen fil.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Velg den felles kopien</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Overta avgjørelser fra</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Velg en annen fil.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>Fjer&amp;n filter</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Opprinnelse</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>overtatt fra en tidligere mapping</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Linje: %2
         <translation>Åpne linjer</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Linjer uten etterfølger</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Hva som ikke kunne leses</translation>
     </message>
@@ -3143,6 +3230,38 @@ Linje: %2
     <message>
         <source>unsicher: %1</source>
         <translation>usikkert: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Åpne linjer uten etterfølger</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Linjer bekreftet som utgåtte</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Hva de har til felles</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>i alt</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Overtatt fra tidligere mappinger</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Tidligere mapping</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Fortsatt som overtatt</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Bedømte linjer</translation>
     </message>
 </context>
 <context>
@@ -3860,7 +3979,7 @@ Linje: %2
     </message>
     <message>
         <source>&amp;Bis hier zurücknehmen</source>
-        <translation>&amp;Tilbake hit</translation>
+        <translation>Tilbake &amp;hit</translation>
     </message>
     <message>
         <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
@@ -4748,6 +4867,14 @@ Linje: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Skriv ut rapport...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Overta avgjørelser...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Overtar i ett trinn fra en tidligere mapping det som allerede er bekreftet for den samme gamle utgaven</translation>
     </message>
 </context>
 </TS>

@@ -144,6 +144,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 tu już rozstrzygnięte lub pewne</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 bez wiersza w nowej wersji</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 wtedy potwierdzone jako wycofane</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 w projektach, których tu brak</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 tam w konflikcie</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Nie przejęto: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Z %1 nie ma czego przejąć.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Z %1 przejęto: %2 z %3 potwierdzonych wierszy, %4 przypisano na pewno, %5 zaproponowano.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Plik nie zawiera mapowania z wersji katalogu %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Także ten plik prowadzi do wersji katalogu %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Wybierz mapowanie, które prowadzi z tej samej starej wersji katalogu do wcześniejszej nowej.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Przejęto z %1: tam potwierdzone dla wersji katalogu %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Odczyt wcześniejszego mapowania</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Z %1 nie można nic przejąć.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Katalog wersji %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Szukanie projektów docelowych</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Przejmowanie decyzji</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Przerwano, nic nie przejęto</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Decyzje przejęte z %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -697,6 +776,10 @@ Wybierz inny plik.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Wybierz wspólną kopię</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Przejmij decyzje z</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -834,6 +917,14 @@ Wybierz inny plik.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>Z&amp;dejmij filtr</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Pochodzenie</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>przejęte z wcześniejszego mapowania</translation>
     </message>
 </context>
 <context>
@@ -3030,10 +3121,6 @@ Wiersz: %2
         <translation>Otwarte wiersze</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Wiersze bez następcy</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Czego nie udało się odczytać</translation>
     </message>
@@ -3192,6 +3279,38 @@ Wiersz: %2
     <message>
         <source>unsicher: %1</source>
         <translation>niepewne: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Otwarte wiersze bez następnika</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Wiersze potwierdzone jako wycofane</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Co mają wspólnego</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>razem</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Przejęte z wcześniejszych mapowań</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Wcześniejsze mapowanie</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Nadal jak przejęte</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Ocenione wiersze</translation>
     </message>
 </context>
 <context>
@@ -3916,7 +4035,7 @@ Wiersz: %2
     </message>
     <message>
         <source>&amp;Bis hier zurücknehmen</source>
-        <translation>&amp;Cofnij dotąd</translation>
+        <translation>Cofnij &amp;dotąd</translation>
     </message>
     <message>
         <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
@@ -4822,6 +4941,14 @@ Wiersz: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Drukuj raport...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Przejmij decyzje...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Przejmuje z wcześniejszego mapowania w jednym kroku to, co już potwierdzono dla tej samej starej wersji</translation>
     </message>
 </context>
 </TS>

@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 já decididas ou certas aqui</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 sem linha na nova versão</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 confirmadas então como descontinuadas</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 em projetos que faltam aqui</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 em conflito lá</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Não assumidas: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Não há nada a assumir de %1.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Assumidas de %1: %2 de %3 linhas confirmadas, %4 atribuídas com certeza, %5 propostas.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>O ficheiro não contém nenhum mapeamento da versão do catálogo %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Também este ficheiro leva à versão do catálogo %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Escolha um mapeamento que leve da mesma versão antiga do catálogo a uma nova anterior.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Assumida de %1: confirmada lá para a versão do catálogo %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>A ler o mapeamento anterior</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Não é possível assumir nada de %1.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Diretório da versão do catálogo %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>A procurar projetos de destino</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>A assumir decisões</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Cancelado, nada foi assumido</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Decisões assumidas de %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -677,6 +756,10 @@ Escolha outro ficheiro.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Escolher a cópia comum</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Assumir decisões de</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>Re&amp;tirar filtro</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Proveniência</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>assumidas de um mapeamento anterior</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Linha: %2
         <translation>Linhas em aberto</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Linhas sem sucessora</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>O que não foi possível ler</translation>
     </message>
@@ -3143,6 +3230,38 @@ Linha: %2
     <message>
         <source>unsicher: %1</source>
         <translation>incerto: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Linhas em aberto sem sucessora</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Linhas confirmadas como descontinuadas</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>O que têm em comum</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>no total</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Assumidas de mapeamentos anteriores</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Mapeamento anterior</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Ainda como assumidas</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Linhas avaliadas</translation>
     </message>
 </context>
 <context>
@@ -4748,6 +4867,14 @@ Linha: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Imprimir o relatório...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Assumir decisões...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Assume de um mapeamento anterior, num só passo, o que já foi confirmado para a mesma versão antiga</translation>
     </message>
 </context>
 </TS>

@@ -144,6 +144,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 здесь уже решено или надёжно</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 без строки в новом выпуске</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 тогда подтверждено как снятые с производства</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 в проектах, которых здесь нет</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 там в конфликте</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Не перенято: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Из %1 нечего перенимать.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Перенято из %1: %2 из %3 подтверждённых строк, %4 назначено надёжно, %5 предложено.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>В файле нет сопоставления с выпуска каталога %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Этот файл тоже ведёт к выпуску каталога %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Выберите сопоставление, которое ведёт от того же старого выпуска каталога к более раннему новому.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Перенято из %1: там подтверждено для выпуска каталога %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Чтение прежнего сопоставления</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Из %1 ничего нельзя перенять.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Каталог выпуска %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Поиск целевых проектов</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Решения перенимаются</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Прервано, ничего не перенято</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Решения, перенятые из %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -697,6 +776,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Выбрать общую копию</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Перенять решения из</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -834,6 +917,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>С&amp;нять фильтр</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Происхождение</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>перенято из прежнего сопоставления</translation>
     </message>
 </context>
 <context>
@@ -3030,10 +3121,6 @@ Zeile: %2
         <translation>Открытые строки</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Строки без преемника</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Что не удалось прочитать</translation>
     </message>
@@ -3192,6 +3279,38 @@ Zeile: %2
     <message>
         <source>unsicher: %1</source>
         <translation>сомнительно: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Открытые строки без преемника</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Строки, подтверждённые как снятые с производства</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Что у них общего</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>всего</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Перенято из прежних сопоставлений</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Прежнее сопоставление</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Всё ещё как перенято</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Оценённые строки</translation>
     </message>
 </context>
 <context>
@@ -4822,6 +4941,14 @@ Zeile: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Печать отчёта...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Перенять решения...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Перенимает из прежнего сопоставления одним шагом то, что уже подтверждено для того же старого выпуска</translation>
     </message>
 </context>
 </TS>

@@ -158,6 +158,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 tu že odločenih ali zanesljivih</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 brez vrstice v novi izdaji</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 takrat potrjenih kot opuščene</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 v projektih, ki tu manjkajo</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 tam v sporu</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Ni prevzeto: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Iz %1 ni ničesar za prevzeti.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Prevzeto iz %1: %2 od %3 potrjenih vrstic, %4 zanesljivo dodeljenih, %5 predlaganih.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Datoteka ne vsebuje preslikave iz izdaje kataloga %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Tudi ta datoteka vodi v izdajo kataloga %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Izberite preslikavo, ki vodi iz iste stare izdaje kataloga v zgodnejšo novo.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Prevzeto iz %1: tam potrjeno za izdajo kataloga %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Branje prejšnje preslikave</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Iz %1 ni mogoče ničesar prevzeti.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Imenik izdaje kataloga %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Iskanje ciljnih projektov</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Prevzemanje odločitev</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Prekinjeno, nič ni bilo prevzeto</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Odločitve, prevzete iz %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -717,6 +796,10 @@ Izberite drugo datoteko.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Izberi skupno kopijo</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Prevzemi odločitve iz</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -857,6 +940,14 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>Od&amp;strani filter</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Izvor</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>prevzeto iz prejšnje preslikave</translation>
     </message>
 </context>
 <context>
@@ -3079,10 +3170,6 @@ Vrstica: %2
         <translation>Odprte vrstice</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Vrstice brez naslednika</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Česa ni bilo mogoče prebrati</translation>
     </message>
@@ -3241,6 +3328,38 @@ Vrstica: %2
     <message>
         <source>unsicher: %1</source>
         <translation>negotovo: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Odprte vrstice brez naslednika</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Vrstice, potrjene kot opuščene</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Kaj imajo skupnega</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>skupaj</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Prevzeto iz prejšnjih preslikav</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Prejšnja preslikava</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Še vedno kot prevzeto</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Ocenjene vrstice</translation>
     </message>
 </context>
 <context>
@@ -3980,7 +4099,7 @@ Vrstica: %2
     </message>
     <message>
         <source>Zur Z&amp;eile</source>
-        <translation>Na v&amp;rstico</translation>
+        <translation>Na vrs&amp;tico</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -4896,6 +5015,14 @@ Vrstica: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Natisni poročilo...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Prevzemi odločitve...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Iz prejšnje preslikave v enem koraku prevzame, kar je bilo za isto staro izdajo že potrjeno</translation>
     </message>
 </context>
 </TS>

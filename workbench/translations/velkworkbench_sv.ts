@@ -130,6 +130,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 redan beslutade eller säkra här</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 utan rad i den nya utgåvan</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 då bekräftade som utgångna</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 i projekt som saknas här</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 i konflikt där</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Inte övertagna: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>Det finns inget att ta över från %1.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>Övertaget från %1: %2 av %3 bekräftade rader, %4 säkert tilldelade, %5 föreslagna.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Filen innehåller ingen mappning från katalogutgåva %1.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Även den här filen leder till katalogutgåva %1.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Välj en mappning som leder från samma gamla katalogutgåva till en tidigare ny.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>Övertagen från %1: bekräftad där för katalogutgåva %2</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Tidigare mappning läses</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>Inget kan tas över från %1.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>Katalog för katalogutgåva %1</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Målprojekt söks</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Beslut tas över</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>Avbrutet, inget togs över</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>Beslut övertagna från %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -677,6 +756,10 @@ Välj en annan fil.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Välj den gemensamma kopian</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Ta över beslut från</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -811,6 +894,14 @@ Välj en annan fil.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>Ta &amp;bort filter</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Ursprung</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>övertagna från en tidigare mappning</translation>
     </message>
 </context>
 <context>
@@ -2981,10 +3072,6 @@ Rad: %2
         <translation>Öppna rader</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Rader utan efterföljare</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Vad som inte kunde läsas</translation>
     </message>
@@ -3143,6 +3230,38 @@ Rad: %2
     <message>
         <source>unsicher: %1</source>
         <translation>osäkert: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Öppna rader utan efterföljare</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Rader bekräftade som utgångna</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Vad de har gemensamt</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>totalt</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Övertaget från tidigare mappningar</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Tidigare mappning</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Fortfarande som övertagna</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Bedömda rader</translation>
     </message>
 </context>
 <context>
@@ -3860,7 +3979,7 @@ Rad: %2
     </message>
     <message>
         <source>&amp;Bis hier zurücknehmen</source>
-        <translation>&amp;Tillbaka hit</translation>
+        <translation>Tillbaka &amp;hit</translation>
     </message>
     <message>
         <source>Nimmt diesen und alle späteren Schritte zurück, die gelten</source>
@@ -3872,7 +3991,7 @@ Rad: %2
     </message>
     <message>
         <source>&amp;Schließen</source>
-        <translation>S&amp;täng</translation>
+        <translation>&amp;Stäng</translation>
     </message>
     <message numerus="yes">
         <source>Mit %n abhängigen &amp;zurücknehmen</source>
@@ -4748,6 +4867,14 @@ Rad: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Skriv ut rapport...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Ta över beslut...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Tar i ett steg över det som redan bekräftats för samma gamla utgåva från en tidigare mappning</translation>
     </message>
 </context>
 </TS>

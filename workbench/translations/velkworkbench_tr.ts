@@ -116,6 +116,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>%1 burada zaten karara bağlandı veya kesin</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>%1 yeni sürümde satırı yok</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>%1 o zaman kaldırılmış olarak onaylandı</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>%1 burada bulunmayan projelerde</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>%1 orada çakışmada</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>Devralınmadı: %1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>%1 dosyasından devralınacak bir şey yok.</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>%1 dosyasından devralındı: onaylanan %3 satırdan %2 satır, %4 kesin atandı, %5 önerildi.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>Dosyada %1 katalog sürümünden bir eşleme yok.</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>Bu dosya da %1 katalog sürümüne götürüyor.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>Aynı eski katalog sürümünden daha önceki bir yeni sürüme götüren bir eşleme seçin.</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>%1 dosyasından devralındı: orada %2 katalog sürümü için onaylandı</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>Önceki eşleme okunuyor</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>%1 dosyasından hiçbir şey devralınamaz.</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>%1 katalog sürümünün dizini</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>Hedef projeler aranıyor</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>Kararlar devralınıyor</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>İptal edildi, hiçbir şey devralınmadı</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>%1 dosyasından devralınan kararlar: %2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -657,6 +736,10 @@ Lütfen başka bir dosya seçin.</translation>
         <source>Gemeinsame Kopie wählen</source>
         <translation>Ortak kopyayı seç</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>Kararların devralınacağı dosya</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -788,6 +871,14 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>Filtreyi &amp;kaldır</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Köken</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>önceki bir eşlemeden devralındı</translation>
     </message>
 </context>
 <context>
@@ -2932,10 +3023,6 @@ Satır: %2
         <translation>Açık satırlar</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>Ardılı olmayan satırlar</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>Okunamayanlar</translation>
     </message>
@@ -3094,6 +3181,38 @@ Satır: %2
     <message>
         <source>unsicher: %1</source>
         <translation>belirsiz: %1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>Ardılı olmayan açık satırlar</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>Kaldırıldığı onaylanan satırlar</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>Ortak yönleri</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>toplam</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>Önceki eşlemelerden devralınanlar</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>Önceki eşleme</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>Hâlâ devralındığı gibi</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>Değerlendirilen satırlar</translation>
     </message>
 </context>
 <context>
@@ -4674,6 +4793,14 @@ Satır: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>Raporu yazdır...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>Kararları devral...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>Aynı eski sürüm için zaten onaylananları önceki bir eşlemeden tek adımda devralır</translation>
     </message>
 </context>
 </TS>

@@ -116,6 +116,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>此处已决定或可靠 %1</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>新版本中没有行 %1</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>当时已确认为停用 %1</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>在此处缺少的项目中 %1</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>在那里冲突中 %1</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>未沿用：%1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>%1 中没有可沿用的内容。</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>从 %1 沿用：%3 个已确认行中的 %2 个，可靠分配 %4，建议 %5。</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>该文件没有从目录版本 %1 开始的映射。</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>该文件也指向目录版本 %1。</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>请选择从同一旧目录版本指向较早新版本的映射。</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>从 %1 沿用：在那里已针对目录版本 %2 确认</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>正在读取以前的映射</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>无法从 %1 沿用任何内容。</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>目录版本 %1 的文件夹</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>正在查找目标项目</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>正在沿用决定</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>已取消，未沿用任何内容</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>从 %1 沿用的决定：%2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -657,6 +736,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Gemeinsame Kopie wählen</source>
         <translation>选择共享副本</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>沿用决定的来源</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -788,6 +871,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>取消筛选(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>从以前的映射沿用</translation>
     </message>
 </context>
 <context>
@@ -2932,10 +3023,6 @@ Zeile: %2
         <translation>未决行</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>没有后继的行</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>无法读取的内容</translation>
     </message>
@@ -3094,6 +3181,38 @@ Zeile: %2
     <message>
         <source>unsicher: %1</source>
         <translation>不确定：%1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>没有后继的未决行</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>已确认为停用的行</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>共同点</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>从以前的映射沿用</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>以前的映射</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>仍与沿用时相同</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>已评判的行</translation>
     </message>
 </context>
 <context>
@@ -4674,6 +4793,14 @@ Zeile: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>打印报告...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>沿用决定...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>一步从以前的映射沿用已为同一旧版本确认的内容</translation>
     </message>
 </context>
 </TS>

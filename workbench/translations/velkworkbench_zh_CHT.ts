@@ -116,6 +116,85 @@
     </message>
 </context>
 <context>
+    <name>CarryCommands</name>
+    <message>
+        <source>%1 hier schon entschieden oder sicher</source>
+        <translation>此處已決定或可靠 %1</translation>
+    </message>
+    <message>
+        <source>%1 ohne Zeile im neuen Stand</source>
+        <translation>新版本中沒有列 %1</translation>
+    </message>
+    <message>
+        <source>%1 damals als ausgelaufen bestätigt</source>
+        <translation>當時已確認為停用 %1</translation>
+    </message>
+    <message>
+        <source>%1 in Projekten, die hier fehlen</source>
+        <translation>在此處缺少的專案中 %1</translation>
+    </message>
+    <message>
+        <source>%1 dort im Konflikt</source>
+        <translation>在那裡衝突中 %1</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen: %1</source>
+        <translation>未沿用：%1</translation>
+    </message>
+    <message>
+        <source>Aus %1 ist nichts zu übernehmen.</source>
+        <translation>%1 中沒有可沿用的內容。</translation>
+    </message>
+    <message>
+        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
+        <translation>從 %1 沿用：%3 個已確認列中的 %2 個，可靠指派 %4，建議 %5。</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
+        <translation>該檔案沒有從目錄版本 %1 開始的對應。</translation>
+    </message>
+    <message>
+        <source>Auch diese Datei führt zum Katalogstand %1.</source>
+        <translation>該檔案也指向目錄版本 %1。</translation>
+    </message>
+    <message>
+        <source>Wählen Sie ein Mapping, das vom selben alten Katalogstand zu einem früheren neuen führt.</source>
+        <translation>請選擇從同一舊目錄版本指向較早新版本的對應。</translation>
+    </message>
+    <message>
+        <source>Übernommen aus %1: dort für den Katalogstand %2 bestätigt</source>
+        <translation>從 %1 沿用：在那裡已針對目錄版本 %2 確認</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping wird gelesen</source>
+        <translation>正在讀取以前的對應</translation>
+    </message>
+    <message>
+        <source>Aus %1 kann nichts übernommen werden.</source>
+        <translation>無法從 %1 沿用任何內容。</translation>
+    </message>
+    <message>
+        <source>Verzeichnis des Katalogstands %1</source>
+        <translation>目錄版本 %1 的資料夾</translation>
+    </message>
+    <message>
+        <source>Zielprojekte werden gesucht</source>
+        <translation>正在尋找目標專案</translation>
+    </message>
+    <message>
+        <source>Entscheidungen werden übernommen</source>
+        <translation>正在沿用決定</translation>
+    </message>
+    <message>
+        <source>Abgebrochen, es wurde nichts übernommen</source>
+        <translation>已取消，未沿用任何內容</translation>
+    </message>
+    <message>
+        <source>Entscheidungen aus %1 übernommen: %2</source>
+        <translation>從 %1 沿用的決定：%2</translation>
+    </message>
+</context>
+<context>
     <name>CatalogRootsDialog</name>
     <message>
         <source>Verzeichnis des alten Katalogstands</source>
@@ -657,6 +736,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Gemeinsame Kopie wählen</source>
         <translation>選擇共用副本</translation>
     </message>
+    <message>
+        <source>Entscheidungen übernehmen aus</source>
+        <translation>沿用決定的來源</translation>
+    </message>
 </context>
 <context>
     <name>FilterCommands</name>
@@ -788,6 +871,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Filter au&amp;fheben</source>
         <translation>取消篩選(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>來源</translation>
+    </message>
+    <message>
+        <source>aus einem früheren Mapping übernommen</source>
+        <translation>從以前的對應沿用</translation>
     </message>
 </context>
 <context>
@@ -2932,10 +3023,6 @@ Zeile: %2
         <translation>未決列</translation>
     </message>
     <message>
-        <source>Zeilen ohne Nachfolger</source>
-        <translation>沒有後繼的列</translation>
-    </message>
-    <message>
         <source>Was nicht gelesen werden konnte</source>
         <translation>無法讀取的內容</translation>
     </message>
@@ -3094,6 +3181,38 @@ Zeile: %2
     <message>
         <source>unsicher: %1</source>
         <translation>不確定：%1</translation>
+    </message>
+    <message>
+        <source>Offene Zeilen ohne Nachfolger</source>
+        <translation>沒有後繼的未決列</translation>
+    </message>
+    <message>
+        <source>Als ausgelaufen bestätigte Zeilen</source>
+        <translation>已確認停用的列</translation>
+    </message>
+    <message>
+        <source>Was sie gemeinsam haben</source>
+        <translation>共同點</translation>
+    </message>
+    <message>
+        <source>zusammen</source>
+        <translation>合計</translation>
+    </message>
+    <message>
+        <source>Aus früheren Mappings übernommen</source>
+        <translation>從以前的對應沿用</translation>
+    </message>
+    <message>
+        <source>Früheres Mapping</source>
+        <translation>以前的對應</translation>
+    </message>
+    <message>
+        <source>Noch wie übernommen</source>
+        <translation>仍與沿用時相同</translation>
+    </message>
+    <message>
+        <source>Beurteilte Zeilen</source>
+        <translation>已評判的列</translation>
     </message>
 </context>
 <context>
@@ -4674,6 +4793,14 @@ Zeile: %2
     <message>
         <source>Bericht drucken...</source>
         <translation>列印報告...</translation>
+    </message>
+    <message>
+        <source>Entscheidungen übernehmen...</source>
+        <translation>沿用決定...</translation>
+    </message>
+    <message>
+        <source>Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon bestätigt wurde, in einem Schritt</source>
+        <translation>一步從以前的對應沿用已為同一舊版本確認的內容</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,7 @@ DirectoryEdit::DirectoryEdit(const QString &name, const QString &title, QWidget 
     m_line->setAccessibleName(title);
     m_line->setMinimumWidth(360);
     setFocusProxy(m_line);
+    setFocusPolicy(m_line->focusPolicy()); // a label leads to nothing that takes no keys itself
     auto *button = new QToolButton(this);
     button->setText(QStringLiteral("..."));
     button->setToolTip(title);

@@ -6,6 +6,7 @@
 #include "RecoveryDialog.h"
 #include "TargetRoot.h"
 #include "WorkbenchSettings.h"
+#include "wrapPrompt.h"
 
 #include <core/message/PMessage.h>
 #include <gui/progress/DefaultObserverDelegate.h>
@@ -54,6 +55,7 @@ std::optional<QString> DocumentDesk::chooseRelease(const QStringList &dates) con
     dialog.setWindowTitle(tr("Katalogstand"));
     dialog.setLabelText(
         tr("Die Datei enthält mehrere Katalogstände. Welcher soll geöffnet werden?"));
+    wrapPrompt(&dialog);
     dialog.setComboBoxItems(dates);
     dialog.setTextValue(dates.last());
     dialog.setOkButtonText(tr("Öffnen"));

@@ -83,6 +83,7 @@ void EditorArea::make()
     m_editor->setConflictedOnlineChanges(m_document->mergeState().onlineChanges());
     m_editor->setRemoteViewerMode(m_remoteTargets);
     m_editor->setComparing(true);
+    m_editor->setLineRemarks(m_remarks);
     m_layout->addWidget(m_editor);
     m_editor->restoreState(m_state);
     m_editor->expandDirectories({});
@@ -97,6 +98,13 @@ void EditorArea::make()
     filterProjects();
     m_editor->show();
     Q_EMIT editorMade();
+}
+
+void EditorArea::setLineRemarks(const LineRemarks &remarks)
+{
+    m_remarks = remarks;
+    if (m_editor)
+        m_editor->setLineRemarks(remarks);
 }
 
 VKTab::ContentRef EditorArea::sourceTable() const
@@ -118,6 +126,29 @@ ProjectId EditorArea::currentProject() const
 bool EditorArea::selectProject(const QString &sourcePath)
 {
     return m_editor && goToProject(sourcePath, QString());
+}
+
+bool EditorArea::showProject(const QString &sourcePath)
+{
+    if (!selectProject(sourcePath))
+        return false;
+    const OpenLines::Shown rows = shown();
+    int row = rows.rows;
+    for (const int line : OpenLines::linesOf(m_editor->currentProject(),
+                                             OpenLines::Kinds(OpenLines::NeedDecision))) {
+        if (const int place = rows.rowOf(line); place >= 0)
+            row = std::min(row, place);
+    }
+    if (rows.rows > 0)
+        selectLine(rows.lineAt(row < rows.rows ? row : 0));
+    focusLines();
+    return true;
+}
+
+void EditorArea::focusLines()
+{
+    if (m_editor)
+        m_editor->focusLines();
 }
 
 /// The choices of lines and kinds give way to a project that they hide.

@@ -42,6 +42,11 @@ public:
     /// Selects a project in the tree and opens the directories on the way. A filter that hides it
     /// is taken away. False if the tree does not have it.
     bool selectProject(const QString &sourcePath);
+    /// The same, and its first line that needs a decision, or else its first one, is selected and
+    /// has the keys.
+    bool showProject(const QString &sourcePath);
+    /// The keys go to the source table.
+    void focusLines();
     /// The project's mapping changed behind the editor, which shows it soon. The selected one is
     /// shown in place; it is only opened anew if more than its lines changed. Another single one is
     /// selected.
@@ -55,6 +60,11 @@ public:
     using LineChoice = QHash<ProjectId, std::vector<int>>;
     /// Shows only these lines and projects, whatever their kinds; an empty one takes that away.
     void setLineChoice(const LineChoice &choice);
+
+    /// What tables say of lines beside what the mapping does; empty: nothing. Asked at any time.
+    using LineRemarks = std::function<QString(const PrjMappingC &mapping, int line)>;
+    /// Given again when they would say something else.
+    void setLineRemarks(const LineRemarks &remarks);
 
     /// Source line ids in display order.
     [[nodiscard]] QList<int> selectedLines() const;
@@ -117,7 +127,8 @@ private:
     bool m_remoteTargets = false;
     CatalogMappingWidget *m_editor = nullptr;
     QByteArray m_state;
-    OpenLines::Kinds m_kinds;   ///< none: lines of all kinds are shown
+    OpenLines::Kinds m_kinds; ///< none: lines of all kinds are shown
+    LineRemarks m_remarks;
     LineChoice m_choice;        ///< empty: no choice
     QList<ProjectId> m_changed; ///< that showChanges() has still to show
 };

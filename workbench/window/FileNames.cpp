@@ -26,6 +26,14 @@ QString FileNames::askOpen(QWidget *parent, const QString &former)
                                         QFileInfo(former).path(), filter());
 }
 
+QString FileNames::askFormer(QWidget *parent, const QString &folder)
+{
+    QFileDialog dialog(parent, tr("Entscheidungen übernehmen aus"), folder, filter());
+    dialog.setObjectName("FormerFileDialog");
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 QString FileNames::askSave(QWidget *parent, const QString &former)
 {
     QFileDialog dialog(parent, tr("Mapping-Datei speichern"), QFileInfo(former).path(), filter());

@@ -15,6 +15,8 @@ class FileNames
 public:
     /// Beside \a former.
     [[nodiscard]] static QString askOpen(QWidget *parent, const QString &former);
+    /// A mapping that the open one follows; in the directory \a folder.
+    [[nodiscard]] static QString askFormer(QWidget *parent, const QString &folder);
     /// With the ending ".json" if none is given; an existing file is to be confirmed.
     [[nodiscard]] static QString askSave(QWidget *parent, const QString &former);
     /// \a suggested is the file's name; ".csv" as above.

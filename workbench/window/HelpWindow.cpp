@@ -17,6 +17,7 @@
 #include <QSplitter>
 #include <QTextBlock>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 namespace {
@@ -145,6 +146,7 @@ bool HelpWindow::load(const QString &topic)
     if (m_text->source() != source)
         m_text->setSource(source, QTextDocument::MarkdownResource);
     m_topic = topic;
+    showPlace();
     QTextBlock block = m_text->document()->begin();
     while (block.isValid() && !heading.isEmpty() &&
            (block.blockFormat().headingLevel() == 0 || slugOf(block.text()) != heading))
@@ -152,6 +154,19 @@ bool HelpWindow::load(const QString &topic)
     m_text->setTextCursor(QTextCursor(block.isValid() ? block : m_text->document()->begin()));
     scroll();
     return block.isValid();
+}
+
+/// In the contents; a page has its place there if its heading has none.
+void HelpWindow::showPlace()
+{
+    QTreeWidgetItem *place = nullptr;
+    for (QTreeWidgetItemIterator it(m_contents); *it; ++it) {
+        const QString topic = (*it)->data(0, topicRole).toString();
+        if (topic == m_topic || (!place && topic == m_topic.section(u'#', 0, 0)))
+            place = *it;
+    }
+    m_contents->setCurrentItem(place);
+    m_contents->scrollToItem(place);
 }
 
 void HelpWindow::scroll()

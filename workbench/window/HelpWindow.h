@@ -39,6 +39,7 @@ private:
     void fillContents();
     /// The block that was gone to stands at the top.
     void scroll();
+    void showPlace();
     [[nodiscard]] bool load(const QString &topic);
     void follow(const QUrl &link);
     void goBack();

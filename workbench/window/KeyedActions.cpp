@@ -16,6 +16,8 @@ struct NameRow
     const char *name;
 };
 
+constexpr const char *nameProperty = "commandName";
+
 constexpr std::array tableCommandNames{
     NameRow{"lineConfirm",
             QT_TRANSLATE_NOOP("KeyedActions", "Zeile bestätigen oder gewählte Zeile zuordnen")},
@@ -81,12 +83,23 @@ void KeyedActions::update()
 QString KeyedActions::nameOf(const QString &id) const
 {
     if (const QAction *const found = action(id))
-        return plain(found->text());
+        return nameOf(*found);
     const auto *const row =
         std::find_if(tableCommandNames.begin(), tableCommandNames.end(),
                      [&](const NameRow &each) { return id == QLatin1String(each.id); });
     return row == tableCommandNames.end() ? id
                                           : QCoreApplication::translate("KeyedActions", row->name);
+}
+
+QString KeyedActions::nameOf(const QAction &action)
+{
+    const QString name = action.property(nameProperty).toString();
+    return name.isEmpty() ? plain(action.text()) : name;
+}
+
+void KeyedActions::setName(QAction *action, const QString &name)
+{
+    action->setProperty(nameProperty, name);
 }
 
 QString KeyedActions::plain(const QString &text)

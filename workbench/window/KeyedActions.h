@@ -27,6 +27,10 @@ public:
     /// The name of a command, in the language of the moment: of an action, or of one that has keys
     /// in the tables.
     [[nodiscard]] QString nameOf(const QString &id) const;
+    /// Of an action, without the numbers that its text may tell.
+    [[nodiscard]] static QString nameOf(const QAction &action);
+    /// For an action whose text tells more than its name.
+    static void setName(QAction *action, const QString &name);
     /// A text without the mark of its mnemonic and without dots behind it.
     [[nodiscard]] static QString plain(const QString &text);
 

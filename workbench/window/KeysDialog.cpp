@@ -58,6 +58,11 @@ KeysDialog::KeysDialog(const PCommandKeys::Choice &choice, const Names &nameOf, 
     m_title->setBuddy(m_key);
     m_key->setObjectName("key");
     m_key->installEventFilter(this);
+    if (const auto *const field = m_key->findChild<QLineEdit *>()) {
+        constexpr int FrameAndCursor = 16;
+        m_key->setMinimumWidth(field->fontMetrics().horizontalAdvance(field->placeholderText()) +
+                               FrameAndCursor);
+    }
     m_standard->setObjectName("standardKey");
     m_none->setObjectName("noKey");
     m_standard->setAutoDefault(false);

@@ -1,5 +1,6 @@
 #include "LineStateFilter.h"
 
+#include "KeyedActions.h"
 #include "StatusArea.h"
 
 #include <QAction>
@@ -130,6 +131,7 @@ void LineStateFilter::writeTexts()
         const QString name = tr(stateRows[size_t(i)].text);
         m_actions[i]->setText(
             m_isOpen ? QStringLiteral("%1: %2").arg(name, StatusArea::grouped(m_counts[i])) : name);
+        KeyedActions::setName(m_actions[i], name);
         m_actions[i]->setToolTip(tr(stateRows[size_t(i)].tip));
         m_actions[i]->setStatusTip(m_actions[i]->toolTip());
     }

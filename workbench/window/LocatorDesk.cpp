@@ -53,7 +53,7 @@ QList<LocatorItem> LocatorDesk::commands() const
     for (const QAction *const action : actions) {
         if (action->isVisible())
             items << LocatorItem{.kind = LocatorItem::Command,
-                                 .title = KeyedActions::plain(action->text()),
+                                 .title = KeyedActions::nameOf(*action),
                                  .detail = action->shortcut().toString(QKeySequence::NativeText),
                                  .id = action->objectName(),
                                  .isEnabled = action->isEnabled()};
@@ -107,7 +107,7 @@ void LocatorDesk::goTo(const LocatorItem &item)
                     .arg(QString::number(item.line.line), item.line.project.path));
         return;
     case LocatorItem::Project:
-        if (!m_window->editor()->selectProject(item.line.project.path))
+        if (!m_window->editor()->showProject(item.line.project.path))
             m_window->status()->showNote(
                 tr("Das Projekt %1 kann nicht gezeigt werden.").arg(item.line.project.path));
         return;

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "ApplicationTheme.h"
+#include "CarryCommands.h"
 #include "ConflictCommands.h"
 #include "DocumentDesk.h"
 #include "EditorArea.h"
@@ -66,6 +67,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     , m_neighbours(new NeighbourCommands(m_desk->document(), m_editor, this))
     , m_conflicts(new ConflictCommands(m_desk->document(), m_editor, this))
     , m_share(new ShareCommands(m_desk, m_editor, this))
+    , m_carry(new CarryCommands(m_desk->document(), m_editor, settings->store(), this))
     , m_release(new ReleaseCommands(m_desk->document(), settings->store(), this))
     , m_print(new PrintCommands(m_editor, m_release, this))
     , m_ranges(new RangeCommands(m_desk->document(), m_editor, this))
@@ -123,6 +125,7 @@ MainWindow::MainWindow(WorkbenchSettings *settings, PLinkDbGuiI *plugin)
     PApplication::setupWindow(this);
     restoreState(m_settings->state("window"));
     m_editor->restoreState(m_settings->state("editor"));
+    boundDocks();
 }
 
 MainWindow::~MainWindow()
@@ -230,6 +233,8 @@ void MainWindow::onDocumentReady()
     const WorkbenchSettings::Place place = m_settings->place(document->mappingFile());
     if (m_editor->selectProject(place.project) && place.line >= 0)
         m_editor->selectLine(place.line);
+    // Else the messages have them, if there were any.
+    m_editor->focusLines();
     m_status->showNote(document->isReadOnly() ? document->readOnlyText() : QString());
     m_settings->setSessionFile(document->mappingFile());
 }

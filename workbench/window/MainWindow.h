@@ -26,6 +26,7 @@ class PluginActions;
 class PMessageSinkScope;
 class PrintCommands;
 class RangeCommands;
+class CarryCommands;
 class ReleaseCommands;
 class RemoteCatalogs;
 class ReviewCommands;
@@ -59,6 +60,7 @@ public:
     [[nodiscard]] ReviewCommands *review() const { return m_review; }
     [[nodiscard]] NeighbourCommands *neighbours() const { return m_neighbours; }
     [[nodiscard]] FilterCommands *filters() const { return m_filters; }
+    [[nodiscard]] CarryCommands *carry() const { return m_carry; }
     [[nodiscard]] ReleaseCommands *releases() const { return m_release; }
     [[nodiscard]] ConflictCommands *conflicts() const { return m_conflicts; }
     [[nodiscard]] ShareCommands *share() const { return m_share; }
@@ -87,6 +89,7 @@ private:
     void connectCommands();
     void connectParts();
     void addReview();
+    void boundDocks();
     void connectReview();
     void connectDocument();
     void retranslate();
@@ -125,6 +128,7 @@ private:
     NeighbourCommands *const m_neighbours;
     ConflictCommands *const m_conflicts;
     ShareCommands *const m_share;
+    CarryCommands *const m_carry;
     ReleaseCommands *const m_release;
     PrintCommands *const m_print;
     RangeCommands *const m_ranges;

@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "CarryCommands.h"
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "FocusHelp.h"
@@ -29,6 +30,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -80,7 +82,8 @@ void MainWindow::buildMenus()
          {WorkbenchActions::Undo, WorkbenchActions::Redo, WorkbenchActions::Steps, Separator,
           WorkbenchActions::ConfirmLines, WorkbenchActions::ConfirmExpiredLines,
           WorkbenchActions::RemoveLines, WorkbenchActions::RemoveConfirmLines, Separator,
-          WorkbenchActions::AssignAll, WorkbenchActions::CheckValueRanges});
+          WorkbenchActions::AssignAll, WorkbenchActions::CarryDecisions,
+          WorkbenchActions::CheckValueRanges});
     edit->addActions({m_history->reasonAction(), m_linkDbCommands->proofAction()});
     fill(edit, m_actions,
          {Separator, WorkbenchActions::EditScript, Separator, WorkbenchActions::Settings});
@@ -210,6 +213,7 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::RemoveLines, onMany(BulkOperation::Remove));
     connectTo(WorkbenchActions::RemoveConfirmLines, onMany(BulkOperation::RemoveAndConfirm));
     connectTo(WorkbenchActions::AssignAll, [this] { assignAll(); });
+    connectTo(WorkbenchActions::CarryDecisions, [this] { m_carry->carryByDialog(); });
     connectTo(WorkbenchActions::CheckValueRanges, [this] { checkValueRanges(); });
     connectTo(WorkbenchActions::EditScript, [this] { m_scripts->showEditor(); });
     connectTo(WorkbenchActions::Settings, [this] { editSettings(); });
@@ -278,6 +282,9 @@ void MainWindow::retranslate()
         bar->setWindowTitle(bar->objectName() == "pluginToolBar"   ? tr("Linkdatenbank")
                             : bar->objectName() == "statesToolBar" ? tr("Zustände der Zeilen")
                                                                    : tr("Werkzeuge"));
+        // What has no room is behind a button of Qt's, which has no name.
+        if (auto *const more = bar->findChild<QToolButton *>("qt_toolbar_ext_button"))
+            more->setAccessibleName(bar->windowTitle());
     }
     updateRecentFiles();
     updateTitle();

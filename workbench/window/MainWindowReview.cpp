@@ -1,10 +1,14 @@
+#include "CarryCommands.h"
 #include "ConflictCommands.h"
+#include "DockRoom.h"
 #include "DocumentDesk.h"
 #include "FilterCommands.h"
+#include "LogWindow.h"
 #include "MainWindow.h"
 #include "NeighbourCommands.h"
 #include "RangeCommands.h"
 #include "ReviewCommands.h"
+#include "ScriptDesk.h"
 #include "ShareCommands.h"
 #include "StatusArea.h"
 #include "WorkbenchActions.h"
@@ -14,6 +18,9 @@
 #include <workbench/review/FilterDock.h>
 #include <workbench/review/NeighbourDock.h>
 #include <workbench/review/PatternDock.h>
+#include <workbench/review/RangeDock.h>
+#include <workbench/script/ScriptConsole.h>
+#include <workbench/session/CarriedWork.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <QAction>
@@ -34,9 +41,19 @@ void MainWindow::addReview()
     m_neighbours->dock()->hide();
     tabifyDockWidget(m_review->dock(), m_filters->dock());
     m_filters->dock()->hide();
-    // Until the user wants other sizes.
+    // Until the user wants another size.
     resizeDocks({m_review->dock()}, {460}, Qt::Horizontal);
-    resizeDocks({m_review->panel()}, {240}, Qt::Vertical);
+}
+
+/// After the state of the last session is there.
+void MainWindow::boundDocks()
+{
+    auto *const room = new DockRoom(this);
+    room->add(m_log, 1.0 / 6);
+    room->add(m_scripts->console(), 1.0 / 4);
+    room->add(m_review->panel(), 1.0 / 4);
+    room->add(m_conflicts->dock(), 1.0 / 4);
+    room->add(m_ranges->dock(), 1.0 / 4);
 }
 
 void MainWindow::connectReview()
@@ -46,18 +63,19 @@ void MainWindow::connectReview()
     };
     connectTo(WorkbenchActions::ReviewPatterns, [this] { m_review->showPatterns(); });
     connectTo(WorkbenchActions::FilterLines, [this] { m_filters->showFilter(); });
+    connect(m_carry, &CarryCommands::noted, m_status,
+            [this](const QString &text) { m_status->showNote(text); });
+    connect(m_carry, &CarryCommands::done, m_status, [this](const QString &text) {
+        m_status->showNote(text, m_desk->document()->canUndo());
+    });
+    connect(m_carry->work(), &CarriedWork::changed, m_filters->work(),
+            [this] { m_filters->work()->setCarried(m_carry->work()->lines()); });
     // A pattern's lines take the place of the filter's, as long as it is chosen.
     connect(m_review->dock(), &PatternDock::chosenChanged, this, [this](int pattern) {
         if (pattern < 0)
             m_filters->apply();
     });
-    connectTo(WorkbenchActions::ReviewDifferences, [this] {
-        m_review->showDifferences();
-        // At first it takes what it gets, which is half of the window.
-        QDockWidget *const panel = m_review->panel();
-        if (panel->isVisible() && panel->height() > height() * 2 / 5)
-            resizeDocks({panel}, {height() / 4}, Qt::Vertical);
-    });
+    connectTo(WorkbenchActions::ReviewDifferences, [this] { m_review->showDifferences(); });
     connectTo(WorkbenchActions::ConfirmPattern, [this] { m_review->confirmAll(); });
     connectTo(WorkbenchActions::TakeOutLine, [this] { m_review->takeOut(); });
     connectTo(WorkbenchActions::NextInPattern, [this] { m_review->goNext(); });

@@ -234,7 +234,7 @@ std::optional<VelkRelease::ReleaseReport> ReleaseCommands::makeReport() const
     report->name = QFileInfo(m_document->mappingFile()).fileName();
     report->made = QDateTime::currentDateTimeUtc();
     QString error;
-    if (!addHistory(*report, m_document->mappingFile(), &error))
+    if (!addHistory(*report, release, m_document->mappingFile(), &error))
         report->errors << error;
     return report;
 }

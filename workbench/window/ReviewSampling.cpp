@@ -1,6 +1,7 @@
 #include "EditorArea.h"
 #include "Question.h"
 #include "ReviewCommands.h"
+#include "wrapPrompt.h"
 
 #include <core/files/EditLock.h>
 #include <core/json/PJsonValue.h>
@@ -10,6 +11,7 @@
 #include <workbench/session/MappingDocument.h>
 
 #include <QInputDialog>
+#include <QListView>
 #include <QLocale>
 #include <QRandomGenerator>
 
@@ -53,6 +55,7 @@ void ReviewCommands::startSample()
            "95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.")
             .arg(QString::number(set.size()), QString::number(VelkRelease::linesForBound(0.05)),
                  QString::number(VelkRelease::linesForBound(0.01))));
+    wrapPrompt(&dialog);
     dialog.setInputMode(QInputDialog::IntInput);
     dialog.setIntRange(1, int(set.size()));
     dialog.setIntValue(std::min(UsualLines, int(set.size())));
@@ -185,8 +188,11 @@ void ReviewCommands::split()
     dialog.setLabelText(tr("Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; "
                            "mit welchem Teil soll es weitergehen?")
                             .arg(QString::number(line.line), line.project.path));
+    wrapPrompt(&dialog);
     dialog.setComboBoxItems(names);
     dialog.setOption(QInputDialog::UseListViewForComboBoxItems);
+    if (auto *const list = dialog.findChild<QListView *>())
+        list->setAccessibleName(dialog.labelText());
     dialog.setOkButtonText(tr("&Weiter"));
     dialog.setCancelButtonText(tr("&Falsche Zeile ansehen"));
     if (dialog.exec() != QDialog::Accepted)

@@ -4,6 +4,7 @@
 #include "EditorArea.h"
 #include "FileNames.h"
 #include "Question.h"
+#include "wrapPrompt.h"
 
 #include <workbench/session/BackgroundWork.h>
 #include <workbench/session/MappingDocument.h>
@@ -249,6 +250,7 @@ void ShareCommands::takeFoldersByDialog()
     dialog.setLabelText(
         tr("Ordner des Katalogs, mit Kommas dazwischen; * steht für beliebige Zeichen, ? "
            "für eines. Leer gibt alle zurück:"));
+    wrapPrompt(&dialog);
     dialog.setTextValue(folders.join(QStringLiteral(", ")));
     dialog.setOkButtonText(tr("Über&nehmen"));
     dialog.setCancelButtonText(Question::cancelText());

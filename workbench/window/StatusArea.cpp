@@ -2,6 +2,8 @@
 
 #include "StatusProgress.h"
 
+#include <workbench/review/groupedNumber.h>
+
 #include <QEvent>
 #include <QLabel>
 
@@ -36,10 +38,7 @@ StatusArea::StatusArea(QWidget *parent)
 
 QString StatusArea::grouped(int number)
 {
-    QString text = QString::number(number);
-    for (qsizetype i = text.size() - 3; i > 0; i -= 3)
-        text.insert(i, QChar(0x202f));
-    return text;
+    return groupedNumber(number);
 }
 
 void StatusArea::showNote(const QString &text, bool undoable)

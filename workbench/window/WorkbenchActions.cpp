@@ -120,6 +120,11 @@ constexpr std::array<CommandRow, WorkbenchActions::CommandCount> commandRows{{
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Sucht für alle Zeilen des Katalogs Zuordnungen; Bestätigtes bleibt"),
      "", "", true, true},
+    {"carryDecisions", QT_TRANSLATE_NOOP("WorkbenchActions", "Entscheidungen übernehmen..."),
+     QT_TRANSLATE_NOOP("WorkbenchActions",
+                       "Übernimmt aus einem früheren Mapping, was für denselben alten Stand schon "
+                       "bestätigt wurde, in einem Schritt"),
+     "", "", true, true},
     {"checkRanges", QT_TRANSLATE_NOOP("WorkbenchActions", "Wertebereichszuordnungen &prüfen"),
      QT_TRANSLATE_NOOP("WorkbenchActions",
                        "Vergleicht alle Wertebereichstexte mit den Tabellen der Zielprojekte"),

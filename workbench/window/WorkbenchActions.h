@@ -39,6 +39,7 @@ public:
         RemoveLines,
         RemoveConfirmLines,
         AssignAll,
+        CarryDecisions,
         CheckValueRanges,
         EditScript,
         Settings,

@@ -1,7 +1,7 @@
 #include "ExactSearch.h"
 
+#include "ComparedRanges.h"
 #include "ElementIndex.h"
-#include "RangeCell.h"
 #include "TargetTable.h"
 
 #include <geomcore/table/LineIndex.h>

@@ -62,7 +62,9 @@ void judgeChange(ComparedVariableC &variable, const Plan::CellEvidence &evidence
     switch (Plan::Way(likeliest - evidence.ways.begin())) {
     case Plan::Way::Change:
         variable.outcome = ComparedVariableC::Replaced;
-        variable.supports = std::max(1, int(std::lround(evidence.supports)));
+        // None of what was agreed to.
+        variable.supports =
+            evidence.supports > 0 ? std::max(1, int(std::lround(evidence.supports))) : 0;
         break;
     case Plan::Way::Near:
     case Plan::Way::Alike:
@@ -79,8 +81,10 @@ void judgeChange(ComparedVariableC &variable, const Plan::CellEvidence &evidence
 bool isNear(std::string_view value, char valueDecimal, std::string_view cell, char cellDecimal)
 {
     Plan::CellValues values;
-    const Plan::CellValues::Value a = values.value(values.number(value, valueDecimal));
-    const Plan::CellValues::Value b = values.value(values.number(cell, cellDecimal));
+    const int ofValue = values.number(value, valueDecimal);
+    const int ofCell = values.number(cell, cellDecimal);
+    const Plan::CellValues::Value a = values.value(ofValue);
+    const Plan::CellValues::Value b = values.value(ofCell);
     if (a.isNumber && b.isNumber)
         return std::abs(a.number - b.number) <=
                NearPart * std::max(std::abs(a.number), std::abs(b.number));

@@ -9,6 +9,7 @@
 #include <geomcore/table/TableData.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace Mapper {
 
@@ -41,9 +42,10 @@ std::vector<std::string> namesOf(const BoundTarget &target)
 
 } // namespace
 
-LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping)
+LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed)
     : m_source(&targets.source())
     , m_walksRanges(!targets.ranges().isEmpty())
+    , m_agreed(agreed)
 {
     const int rows = source().data()->rowCount();
     m_tables.sourceRows = rows;
@@ -60,6 +62,13 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping)
     for (size_t i = 0; i < m_bound.size() && !m_tables.openLines.empty(); ++i)
         fill(*m_bound[i], m_tables.targets[i]);
     m_tables.variableCount = int(m_variableNumbers.size());
+    for (Plan::CellValues &values : m_tables.values)
+        values.finish();
+    if (!m_agreed.isEmpty()) {
+        m_isAgreed.resize(m_variableNumbers.size());
+        for (const auto &[name, number] : m_variableNumbers)
+            m_isAgreed[size_t(number)] = m_agreed.concern(name.toStdString()) ? 1 : 0;
+    }
     m_planner = std::make_unique<Plan::LinePlanner>(m_tables);
     m_planner->setCancellation([this] { return source().isCanceled(); });
     if (!m_tables.openLines.empty())
@@ -175,6 +184,7 @@ void LinePlan::fill(const BoundTarget &target, Plan::PlanTarget &filled)
     if (target.identity().designations()) // what tells the lines apart is one more variable
         filled.variables.push_back(
             m_variableNumbers.emplace(QString(), int(m_variableNumbers.size())).first->second);
+    m_tables.values.resize(m_variableNumbers.size());
     fillLines(target, filled);
     fillRows(target, filled);
 }
@@ -188,6 +198,7 @@ void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
     const std::vector<std::string> names = namesOf(target);
     TargetValues values;
     std::string meaning;
+    std::string agreed;
     for (size_t line = 0; line < open.size(); ++line) {
         if (!takes(target, open[line]))
             continue;
@@ -195,15 +206,19 @@ void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
         target.takeValues(planInput(source(), view), values);
         for (size_t place = 0; place < count; ++place) {
             const LineTexts::Value &value = values.texts.values[place];
-            const std::string_view text =
-                Plan::ValueRule::meaningOf(names[place], value.text, meaning);
-            filled.lines.set(line, place, m_tables.values.number(text, value.decimalChar));
+            const std::string_view stated =
+                m_agreed.isEmpty()
+                    ? value.text
+                    : m_agreed.meaningOf(names[place], value.text, value.decimalChar, agreed);
+            const std::string_view text = Plan::ValueRule::meaningOf(names[place], stated, meaning);
+            filled.lines.set(line, place, valuesOf(filled, place).number(text, value.decimalChar));
             // A line without a value there is like no line.
             if (!value.text.empty())
                 filled.takes[line] = 1;
         }
         if (filled.variables.size() > count)
-            filled.lines.set(line, count, m_tables.values.number(source().designation(view), '.'));
+            filled.lines.set(line, count,
+                             valuesOf(filled, count).number(source().designation(view), '.'));
     }
 }
 
@@ -230,11 +245,12 @@ void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled)
     std::string meaning;
     const auto number = [&](size_t place) {
         if (place == target.variables().size())
-            return m_tables.values.number(target.identity().designations()->textOf(split.row), '.');
+            return valuesOf(filled, place)
+                .number(target.identity().designations()->textOf(split.row), '.');
         const auto variable = size_t(target.variables()[place]);
         const std::string_view text = Plan::ValueRule::meaningOf(
             names[place], table.text(split, int(variable), scratch), meaning);
-        return m_tables.values.number(text, table.variables()[variable].decimalChar);
+        return valuesOf(filled, place).number(text, table.variables()[variable].decimalChar);
     };
     filled.rows = Plan::CellMatrix(filled.openRows.size(), count);
     for (size_t row = 0; row < filled.openRows.size(); ++row) {
@@ -251,7 +267,7 @@ void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled)
     }
     for (size_t place = 0; place < filled.chances.size(); ++place) {
         filled.keys.push_back(isKey(target, filled.hasSourceName, place) ? 1 : 0);
-        filled.chances[place].finish(m_tables.values, filled.keys[place] != 0);
+        filled.chances[place].finish(valuesOf(filled, place), filled.keys[place] != 0);
     }
 }
 
@@ -281,7 +297,12 @@ std::optional<Plan::PlanEdge> LinePlan::edgeFor(int sourceRow, int targetIndex, 
 
 Plan::CellEvidence LinePlan::cell(const Plan::PlanEdge &edge, int sourceRow, size_t place) const
 {
-    return m_planner->cell(edge, size_t(m_openOf[size_t(sourceRow)]), place);
+    Plan::CellEvidence evidence = m_planner->cell(edge, size_t(m_openOf[size_t(sourceRow)]), place);
+    const std::vector<int> &variables = m_tables.targets[size_t(edge.target)].variables;
+    if (!m_isAgreed.empty() && m_isAgreed[size_t(variables[place])]) // values that differ are asked
+        evidence.ways[int(Plan::Way::Change)] +=
+            std::exchange(evidence.ways[int(Plan::Way::Same)], 0);
+    return evidence;
 }
 
 } // namespace Mapper

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AgreedValues.h"
 #include "TargetSet.h"
 
 #include <geomcore/plan/LinePlanner.h>
@@ -17,7 +18,7 @@ class LinePlan
 {
 public:
     /// Looks at the targets and at the confirmed lines of \a mapping. The result refers to neither.
-    LinePlan(TargetSet &targets, const PrjMappingC &mapping);
+    LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed);
     ~LinePlan();
 
     /// Null for a line that is settled or not in the table.
@@ -47,6 +48,10 @@ private:
     void fill(const BoundTarget &target, Plan::PlanTarget &filled);
     void fillLines(const BoundTarget &target, Plan::PlanTarget &filled);
     void fillRows(const BoundTarget &target, Plan::PlanTarget &filled);
+    [[nodiscard]] Plan::CellValues &valuesOf(const Plan::PlanTarget &filled, size_t place)
+    {
+        return m_tables.values[size_t(filled.variables[place])];
+    }
     /// Whether the variable, or what follows the target's variables, tells lines apart.
     [[nodiscard]] static bool isKey(const BoundTarget &target, bool hasSourceName, size_t place);
     [[nodiscard]] bool takes(const BoundTarget &target, int sourceRow) const;
@@ -63,6 +68,9 @@ private:
     std::vector<int> m_openOf;                ///< By source row: number of the open line, or -1.
     std::vector<std::vector<char>> m_claimed; ///< By number of the table and row.
     std::map<QString, int> m_variableNumbers;
+    AgreedValues m_agreed;
+    /// By number of the variable, if anything was agreed to: whether it was about this one.
+    std::vector<char> m_isAgreed;
     std::unique_ptr<Plan::LinePlanner> m_planner;
     bool m_isCanceled = false;
 };

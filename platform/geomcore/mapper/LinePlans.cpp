@@ -12,9 +12,9 @@ void append(std::string &text, int number)
 }
 
 /// Everything that a plan depends on beside the tables.
-std::string signatureOf(TargetSet &targets, const PrjMappingC &mapping)
+std::string signatureOf(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed)
 {
-    std::string text;
+    std::string text = agreed.signature();
     for (int i = 0; i < targets.count(); ++i) {
         const BoundTarget *target = targets.at(i, mapping);
         const PrjMappingTargetC &entries = mapping.targetAt(i);
@@ -40,10 +40,11 @@ LinePlans &LinePlans::instance()
     return plans;
 }
 
-std::shared_ptr<const LinePlan> LinePlans::get(TargetSet &targets, const PrjMappingC &mapping)
+std::shared_ptr<const LinePlan> LinePlans::get(TargetSet &targets, const PrjMappingC &mapping,
+                                               const AgreedValues &agreed)
 {
     const auto make = [&]() -> std::shared_ptr<const LinePlan> {
-        auto plan = std::make_shared<const LinePlan>(targets, mapping);
+        auto plan = std::make_shared<const LinePlan>(targets, mapping, agreed);
         return plan->isCanceled() ? nullptr : plan;
     };
     const SourceTable &source = targets.source();
@@ -55,7 +56,7 @@ std::shared_ptr<const LinePlan> LinePlans::get(TargetSet &targets, const PrjMapp
         tables.push_back(target ? target->table() : nullptr);
     }
     const std::shared_ptr<Entry> entry =
-        entryFor(source.data(), tables, signatureOf(targets, mapping));
+        entryFor(source.data(), tables, signatureOf(targets, mapping, agreed));
     std::call_once(entry->once, [&] { entry->plan = make(); });
     if (!entry->plan)
         forget(entry);

@@ -18,8 +18,8 @@ public:
 
     /// The plan of the source table over these targets with the lines that are confirmed in
     /// \a mapping. Null if making it was cancelled.
-    [[nodiscard]] std::shared_ptr<const LinePlan> get(TargetSet &targets,
-                                                      const PrjMappingC &mapping);
+    [[nodiscard]] std::shared_ptr<const LinePlan>
+    get(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed);
 
 private:
     static constexpr size_t MaxKept = 4;

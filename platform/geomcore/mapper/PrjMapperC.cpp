@@ -53,6 +53,9 @@ QFlags<PRJMAPPING::MappingState_> PrjMapperC::findMapping(const QString &sourceP
                                     ? PrjMappingC()
                                     : releases.last().findMapping(sourcePath, sourceVersion, {});
     d->setWorking(mapping);
+    d->agreed = Mapper::AgreedValues(releases.isEmpty() ? QList<AgreedReplacement>()
+                                                        : releases.last().getReplacements(),
+                                     sourcePath);
     return mapping.isValid() ? mapping.getMappingState() | PRJMAPPING::StateUsable : MappingState();
 }
 

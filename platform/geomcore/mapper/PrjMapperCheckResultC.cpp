@@ -1,11 +1,9 @@
 #include "PrjMapperCheckResultC.h"
 
-PrjMapperCheckResultC::PrjMapperCheckResultC(bool ok, const QString &source, const QString &target,
+PrjMapperCheckResultC::PrjMapperCheckResultC(bool ok, const QString &, const QString &,
                                              const QStringList &messages,
                                              const Varset &sourceVarset, const Varset &targetVarset)
     : m_ok(ok)
-    , m_sourceText(source)
-    , m_targetText(target)
     , m_messages(messages)
     , m_sourceVarset(sourceVarset)
     , m_targetVarset(targetVarset)

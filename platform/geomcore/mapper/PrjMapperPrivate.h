@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AgreedValues.h"
 #include "LineCheck.h"
 #include "LinePlan.h"
 #include "PrjMapperC.h"
@@ -78,6 +79,7 @@ public:
     const PRefPtr<IndexTreeC> indexTree;
     PPathName sourceProject;
     Mapper::WorkingMapping working;
+    Mapper::AgreedValues agreed; ///< Of the release that the working mapping was taken from.
     MappingNodeC node;
     bool nodeHandedOut = false;
 

@@ -116,4 +116,12 @@ TargetSet::Plain *TargetSet::withoutProposals(const PrjMappingC &mapping)
     return m_plain->get();
 }
 
+bool TargetSet::haveSameProject(const BoundTarget &a, const BoundTarget &b)
+{
+    if (&a == &b || a.path() == b.path())
+        return true;
+    return a.isOpen() && b.isOpen() &&
+           (a.table() == b.table() || a.table()->data().fileName() == b.table()->data().fileName());
+}
+
 } // namespace Mapper

@@ -35,11 +35,9 @@ public:
     {
         return m_targets[size_t(target.index())].rank;
     }
-    /// Targets of the same project hold the same lines.
-    [[nodiscard]] static bool haveSameProject(const BoundTarget &a, const BoundTarget &b)
-    {
-        return &a == &b || a.path() == b.path() || (a.isOpen() && a.table() == b.table());
-    }
+    /// Targets of the same project hold the same lines, also if its file was just written, so that
+    /// it was read for each of them.
+    [[nodiscard]] static bool haveSameProject(const BoundTarget &a, const BoundTarget &b);
     static constexpr int Nobody = -1;
     static constexpr int Several = -2;
     /// The source line for which a row of the target's table is confirmed, Nobody, or Several.

@@ -14,6 +14,8 @@
 
 namespace Mapper {
 
+using VKTab::FileStamps;
+
 namespace {
 
 QStringList filesOf(const QString &projectPath, const VKTab::ProjectTable &table,
@@ -73,7 +75,7 @@ std::shared_ptr<const TargetTable> TargetTables::read(Entry &entry, const QStrin
     entry.stamps = files == before.paths() ? before : FileStamps(files);
     if (files != before.paths())
         entry.stamps.distrustSince(begin);
-    const auto table = project ? std::make_shared<const TargetTable>(content) : nullptr;
+    auto table = project ? std::make_shared<const TargetTable>(content) : nullptr;
     entry.table = table;
     return table;
 }

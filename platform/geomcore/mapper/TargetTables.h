@@ -1,8 +1,7 @@
 #pragma once
 
-#include "FileStamps.h"
-
 #include <geomcore/csv/TableError.h>
+#include <geomcore/table/FileStamps.h>
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
@@ -38,7 +37,7 @@ private:
     {
         QString path;
         std::mutex mutex; ///< Held while the table is read.
-        FileStamps stamps;
+        VKTab::FileStamps stamps;
         bool failed = false;
         std::weak_ptr<const TargetTable> table;
         std::shared_ptr<const TargetTable> kept;

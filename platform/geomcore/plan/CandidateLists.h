@@ -1,46 +1,55 @@
 #pragma once
 
-#include "KeyWeights.h"
 #include "PlanTables.h"
 
-#include <cstdint>
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <span>
-#include <utility>
 #include <vector>
 
 namespace Plan {
 
 /// Finds the open rows of a target that share rare values or tokens with a line. Work a line is
-/// bounded: lists are walked from the rarest on, and what stands in thousands of rows is not.
-class CandidateLists
+/// bounded: lists are walked from the rarest on, and what stands in thousands of rows is not. It
+/// ends as soon as one row has so much in common with the line that none which is not yet seen can
+/// come near it.
+class VELKGEOMCORE_EXPORT CandidateLists
 {
 public:
     CandidateLists(const PlanTables &tables, const PlanTarget &target);
 
-    /// Indexes of open rows, ascending, at most MaxRows.
-    [[nodiscard]] std::vector<int> find(size_t line) const;
+    struct Found
+    {
+        std::vector<int> rows;   ///< Indexes of open rows, ascending, at most MaxRows.
+        bool isFarAhead = false; ///< One of them, of all that there are.
+    };
+    [[nodiscard]] Found find(size_t line) const;
     static constexpr int MaxRows = 32;
     /// Among so few all are candidates.
     static constexpr int FewRows = 64;
-
-private:
     static constexpr int MaxWalked = 1024;
 
-    using List = std::span<const int>;
-    [[nodiscard]] std::vector<List> listsOf(size_t line) const;
-    /// Never 0.
-    [[nodiscard]] static std::uint64_t key(size_t place, int number, bool token)
+private:
+    /// The rows with a value or a token, and the logarithm of how rare that is.
+    struct List
     {
-        return ((std::uint64_t(number) * 2 + (token ? 1 : 0) + 1) << 12) + std::uint64_t(place);
-    }
+        std::span<const int> rows;
+        double weight = 0;
+        double lead = 0; ///< The same, but 0 for tokens of a value that some row has as a whole.
+        bool isKey = false;
+    };
+    /// From the rarest on.
+    void findLists(size_t line, std::vector<List> &lists) const;
     template<class Take>
-    void forEachKey(size_t row, Take take) const;
+    void forEachList(size_t row, Take take) const;
 
     const PlanTables &m_tables;
     const PlanTarget &m_target;
-    KeyWeights m_ends;       ///< By key: end of its rows.
-    KeyWeights m_counts;     ///< By key: how many.
-    std::vector<int> m_rows; ///< Of all lists.
+    /// By place: where its values begin in m_ends, and behind them its tokens.
+    std::vector<size_t> m_firstValues;
+    std::vector<size_t> m_firstTokens;
+    std::vector<int> m_ends; ///< Of a list in m_rows; it begins where the one before ends.
+    std::vector<int> m_rows;
 };
 
 } // namespace Plan

@@ -3,15 +3,14 @@
 #include <geomcore/value/CanonicalNumber.h>
 
 #include <algorithm>
+#include <limits>
+#include <optional>
 
 namespace Plan {
 
 using VKTab::CanonicalNumber;
 
 namespace {
-
-/// More than a value has.
-constexpr size_t TokensInBlock = 16'384;
 
 bool isDigit(char c)
 {
@@ -25,14 +24,12 @@ bool isLetter(char c)
            (static_cast<unsigned char>(c) >= 128);
 }
 
-std::string lowered(std::string_view text)
+void lower(std::string &text)
 {
-    std::string lower(text);
-    for (char &c : lower) {
+    for (char &c : text) {
         if (c >= 'A' && c <= 'Z')
             c = char(c - 'A' + 'a');
     }
-    return lower;
 }
 
 /// End of a number from \a begin on: digits with at most one point among them.
@@ -63,66 +60,85 @@ int CellValues::number(std::string_view text, char decimalChar)
     std::optional<CanonicalNumber> parsed;
     if (CanonicalNumber::mayBegin(text, decimalChar))
         parsed = CanonicalNumber::parse(text, decimalChar);
-    const std::string key = parsed ? '\x01' + std::to_string(parsed->packed()) : std::string(text);
-    const auto [place, isNew] = m_numbers.emplace(key, count());
-    if (!isNew)
-        return place->second;
-    Value value;
-    std::vector<int> tokens;
+    const int number = 1 + (parsed ? m_numbers.ofPacked(parsed->packed()) : m_numbers.ofText(text));
+    if (number < count())
+        return number;
+    Entry entry;
+    m_written.clear();
     if (parsed) {
-        value.isNumber = true;
-        value.number = parsed->toDouble();
-        tokens.push_back(token(key, {value.number, true}));
+        entry.isNumber = true;
+        entry.number = parsed->toDouble();
+        addPacked(parsed->packed(), entry.number);
     } else {
-        tokenize(text, tokens);
+        tokenize(text);
     }
-    value.tokens = kept(tokens);
-    std::vector<int> distinct = std::move(tokens);
-    std::sort(distinct.begin(), distinct.end());
-    distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
-    const bool isSame = std::ranges::equal(value.tokens, distinct);
-    value.distinct = isSame ? value.tokens : kept(distinct);
-    m_values.push_back(value);
-    return place->second;
+    keep(entry);
+    return number;
 }
 
-std::span<const int> CellValues::kept(const std::vector<int> &list)
+void CellValues::keep(Entry &entry)
 {
-    if (m_kept.empty() || m_kept.back().capacity() - m_kept.back().size() < list.size())
-        m_kept.emplace_back().reserve(TokensInBlock);
-    std::vector<int> &block = m_kept.back();
-    block.insert(block.end(), list.begin(), list.end());
-    return std::span(block).last(list.size());
+    entry.begin = std::uint32_t(m_lists.size());
+    entry.tokens = std::uint16_t(m_written.size());
+    entry.hasNumber = std::any_of(m_written.begin(), m_written.end(),
+                                  [this](int token) { return isNumberToken(token); });
+    m_lists.insert(m_lists.end(), m_written.begin(), m_written.end());
+    std::sort(m_written.begin(), m_written.end());
+    m_written.erase(std::unique(m_written.begin(), m_written.end()), m_written.end());
+    const std::span<const int> tokens = std::span(m_lists).last(entry.tokens);
+    if (!std::ranges::equal(tokens, m_written)) {
+        entry.more = std::uint16_t(m_written.size());
+        m_lists.insert(m_lists.end(), m_written.begin(), m_written.end());
+    }
+    m_values.push_back(entry);
 }
 
-void CellValues::tokenize(std::string_view text, std::vector<int> &tokens)
+void CellValues::tokenize(std::string_view text)
 {
-    for (size_t i = 0; i < text.size() && int(tokens.size()) < MaxTokens;) {
+    for (size_t i = 0; i < text.size() && int(m_written.size()) < MaxTokens;) {
         size_t end = i + 1;
         if (isDigit(text[i])) {
             end = endOfNumber(text, i);
             const std::string_view digits = text.substr(i, end - i);
-            const auto parsed = CanonicalNumber::parse(digits);
-            const std::string key =
-                parsed ? '\x01' + std::to_string(parsed->packed()) : std::string(digits);
-            tokens.push_back(token(key, {parsed ? parsed->toDouble() : 0, bool(parsed)}));
+            if (const auto parsed = CanonicalNumber::parse(digits))
+                addPacked(parsed->packed(), parsed->toDouble());
+            else
+                addText(digits);
         } else if (isLetter(text[i])) {
             while (end < text.size() && isLetter(text[end]))
                 ++end;
-            tokens.push_back(token(lowered(text.substr(i, end - i)), {}));
+            m_lower.assign(text, i, end - i);
+            lower(m_lower);
+            addText(m_lower);
         } else if (static_cast<unsigned char>(text[i]) > ' ') {
-            tokens.push_back(token(std::string(1, text[i]), {}));
+            addText(text.substr(i, 1));
         }
         i = end;
     }
 }
 
-int CellValues::token(std::string text, const Token &token)
+void CellValues::addText(std::string_view text)
 {
-    const auto [place, isNew] = m_tokenNumbers.emplace(std::move(text), tokenCount());
-    if (isNew)
-        m_tokens.push_back(token);
-    return place->second;
+    m_written.push_back(m_tokenNumbers.ofText(text));
+    if (m_written.back() == tokenCount())
+        m_tokens.push_back(std::numeric_limits<double>::quiet_NaN());
+}
+
+void CellValues::addPacked(std::uint64_t packed, double number)
+{
+    m_written.push_back(m_tokenNumbers.ofPacked(packed));
+    if (m_written.back() == tokenCount())
+        m_tokens.push_back(number);
+}
+
+void CellValues::finish()
+{
+    m_numbers = {};
+    m_tokenNumbers = {};
+    m_written = {};
+    m_values.shrink_to_fit();
+    m_lists.shrink_to_fit();
+    m_tokens.shrink_to_fit();
 }
 
 } // namespace Plan

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "KeyNumbers.h"
+
 #include <geomcore/VelkGeomCoreGlobal.h>
 
-#include <deque>
+#include <cmath>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace Plan {
@@ -21,43 +23,65 @@ public:
     /// Tokens of a value that are looked at.
     static constexpr int MaxTokens = 48;
 
+    /// Refers to the lists of all values: only until the next number().
     struct Value
     {
         std::span<const int> tokens;   ///< In written order.
         std::span<const int> distinct; ///< Sorted, each once.
         double number = 0;
         bool isNumber = false;
+        bool hasNumber = false; ///< Among its tokens.
     };
 
     CellValues();
-    CellValues(const CellValues &) = delete;
-    CellValues &operator=(const CellValues &) = delete;
+    CellValues(CellValues &&) = default;
+    CellValues &operator=(CellValues &&) = default;
 
     /// An empty text is NoValue.
     [[nodiscard]] int number(std::string_view text, char decimalChar);
-    [[nodiscard]] const Value &value(int number) const { return m_values[size_t(number)]; }
+    [[nodiscard]] Value value(int number) const
+    {
+        const Entry &entry = m_values[size_t(number)];
+        const std::span<const int> list(m_lists.data() + entry.begin,
+                                        size_t(entry.tokens) + entry.more);
+        return {list.first(entry.tokens), entry.more > 0 ? list.last(entry.more) : list,
+                entry.number, entry.isNumber, entry.hasNumber};
+    }
+    [[nodiscard]] bool isNumber(int number) const { return m_values[size_t(number)].isNumber; }
     [[nodiscard]] int count() const { return int(m_values.size()); }
-    [[nodiscard]] bool isNumberToken(int token) const { return m_tokens[size_t(token)].isNumber; }
-    [[nodiscard]] double tokenNumber(int token) const { return m_tokens[size_t(token)].number; }
+    [[nodiscard]] bool isNumberToken(int token) const
+    {
+        return !std::isnan(m_tokens[size_t(token)]);
+    }
+    [[nodiscard]] double tokenNumber(int token) const { return m_tokens[size_t(token)]; }
     [[nodiscard]] int tokenCount() const { return int(m_tokens.size()); }
+    /// When all values are in: what only number() needs goes.
+    void finish();
 
 private:
-    struct Token
+    struct Entry
     {
         double number = 0;
+        std::uint32_t begin = 0;  ///< Of its tokens.
+        std::uint16_t tokens = 0; ///< In written order,
+        std::uint16_t more = 0;   ///< then sorted, each once, unless these are the same.
         bool isNumber = false;
+        bool hasNumber = false;
     };
 
-    void tokenize(std::string_view text, std::vector<int> &tokens);
-    /// Where the list stays.
-    [[nodiscard]] std::span<const int> kept(const std::vector<int> &list);
-    int token(std::string text, const Token &token);
+    void tokenize(std::string_view text);
+    /// A token for m_written.
+    void addText(std::string_view text);
+    void addPacked(std::uint64_t packed, double number);
+    void keep(Entry &entry);
 
-    std::unordered_map<std::string, int> m_numbers;
-    std::unordered_map<std::string, int> m_tokenNumbers;
-    std::vector<Value> m_values;
-    std::deque<std::vector<int>> m_kept; ///< Token lists of all values, in blocks.
-    std::vector<Token> m_tokens;
+    KeyNumbers m_numbers; ///< From 0 on; values from 1.
+    KeyNumbers m_tokenNumbers;
+    std::vector<Entry> m_values;
+    std::vector<int> m_lists;
+    std::vector<double> m_tokens; ///< By token: its number, or not a number.
+    std::vector<int> m_written;   ///< Tokens of the value that is added.
+    std::string m_lower;
 };
 
 } // namespace Plan

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "KeyWeights.h"
+#include <geomcore/VelkGeomCoreGlobal.h>
 
-#include <unordered_map>
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 #include <vector>
 
@@ -12,10 +13,15 @@ class CellValues;
 
 /// How often values and tokens occur in one variable of a target's table: what a comparison would
 /// give for two lines that have nothing to do with each other.
-class ColumnChance
+class VELKGEOMCORE_EXPORT ColumnChance
 {
 public:
-    void add(int value) { m_counts.add(std::uint64_t(value) + 1, 1); }
+    void add(int value)
+    {
+        if (size_t(value) >= m_counts.size())
+            m_counts.resize(size_t(value) + 1);
+        ++m_counts[size_t(value)];
+    }
     /// To be called when all values are in. \a isKey: the values are meant to
     /// tell lines apart, also from those of other tables, and numbers are no measures.
     void finish(const CellValues &values, bool isKey);
@@ -27,7 +33,11 @@ public:
     /// one line only, further lines would mostly have texts that are not here (Good and Turing):
     /// the same text by chance is then rarer than its share. Measures meet by chance more often.
     [[nodiscard]] double missing() const;
-    [[nodiscard]] double share(int value) const;
+    [[nodiscard]] double share(int value) const
+    {
+        const int count = size_t(value) < m_counts.size() ? m_counts[size_t(value)] : 0;
+        return (count + 0.5) * m_part;
+    }
     [[nodiscard]] double tokenShare(int token) const { return tokenChance(token).share; }
     /// Share of a token with its logarithm and that of the lines without it: a comparison of long
     /// texts asks for many of them.
@@ -48,20 +58,31 @@ public:
     /// Share of the numbers that are at least as near to \a number as \a other is. As long as there
     /// are few numbers, it is the part of the larger one by which the two differ.
     [[nodiscard]] double nearShare(double number, double other) const;
+    /// The least that nearShare() gives for any two numbers.
+    [[nodiscard]] double leastNearShare() const;
     [[nodiscard]] int numberCount() const { return m_below.back(); }
 
 private:
     void finishNumbers(std::vector<std::pair<double, int>> counts);
-    void finishTokens(const CellValues &values, const std::unordered_map<int, int> &counts);
+    /// A part of the way from the least number to the greatest, with those beyond; where numbers
+    /// are spread, few share one.
+    [[nodiscard]] size_t partOf(double number) const
+    {
+        const double part = (number - m_numbers.front()) * m_partsPerUnit;
+        const auto last = double(m_partBegins.size() - 2);
+        return part > 0 ? size_t(std::min(part, last)) : 0;
+    }
+    void finishTokens(const std::vector<int> &counts);
 
-    KeyWeights m_counts;            ///< By value, from 1 on.
+    std::vector<int> m_counts;      ///< By value.
     std::vector<int> m_tokenPlaces; ///< By token: place in m_tokenChances; 0: it does not occur.
     std::vector<TokenChance> m_tokenChances = std::vector<TokenChance>(1);
     std::vector<double> m_numbers; ///< Sorted, each once.
-    std::vector<int> m_below{0};   ///< By number: lines with a smaller one; at the end all.
+    std::vector<int> m_partBegins; ///< By partOf() its first number; at the end all.
+    double m_partsPerUnit = 0;
+    std::vector<int> m_below{0}; ///< By number: lines with a smaller one; at the end all.
     double m_meanTokens = 0;
-    double m_known = 1; ///< Share of the values of further lines that are among these.
-    int m_further = 1;  ///< Lines that are counted as if they had other values.
+    double m_part = 1; ///< What a line is of all that are counted.
     int m_lineCount = 0;
     int m_valueCount = 0;
 };

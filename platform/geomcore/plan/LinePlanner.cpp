@@ -1,12 +1,13 @@
 #include "LinePlanner.h"
 
-#include "CandidateLists.h"
 #include "SparseAssignment.h"
 
 #include <core/parallel/WorkerPool.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <limits>
 #include <map>
 
 namespace Plan {
@@ -19,23 +20,30 @@ constexpr int Rounds = 5;
 /// Share of the lines that have no successor, before anything is known; it counts like
 /// VariableRates::Strength lines.
 constexpr double AssumedGone = 0.1;
+/// Share of such lines at first where a table may have changed so much that hardly a pair is likely
+/// before it is known how: as long as nothing is learned, nothing is likely.
+constexpr double HardlyGone = 0.01;
 /// Share of the lines that stay in targets of the source's name, if there are any, before anything
 /// is known.
 constexpr double AssumedNamed = 0.9;
-/// Candidates of a line, of all targets together, that are kept after the first round.
+/// Candidates of a line, of all targets together.
 constexpr size_t KeptEdges = 12;
-/// Candidates that are so far behind the best one of their line after the first round are not kept:
-/// what is learned later hardly moves a weight so far.
+/// Candidates that are so far behind the best one of their line are not looked at further: what is
+/// learned later hardly moves a weight so far.
 constexpr double FarBehind = 25;
 /// Lines with a candidate that is so probable are looked for only just where their neighbours put
 /// them.
 constexpr double Certain = 0.9999;
 /// Lines that a thread takes at once.
 constexpr size_t LinesAtOnce = 64;
+/// Lines of a kind that it is learned from.
+constexpr size_t MaxSampled = 4096;
 /// Pairs below are not learned from.
 constexpr double LeastLearned = 0.2;
 /// Pairs from here on, more probable than not, show the places of others.
 constexpr double Confident = 0.5;
+/// What is less probable is nobody's best candidate at the cost of another one.
+constexpr double LeastChosen = 1e-6;
 /// Rows around the places that neighbours suggest are candidates.
 constexpr int AroundPlace = 2;
 
@@ -43,11 +51,11 @@ constexpr int AroundPlace = 2;
 
 LinePlanner::LinePlanner(const PlanTables &tables)
     : m_tables(tables)
+    , m_standsFor(tables.openLines.size(), 1)
     , m_prior(size_t(tables.variableCount), VariableRates::assumed())
     , m_counts(size_t(tables.variableCount))
     , m_gone(AssumedGone)
     , m_edges(tables.openLines.size())
-    , m_learned(tables.openLines.size())
     , m_lines(tables.openLines.size())
 {
     std::map<int, int> offsets;
@@ -63,15 +71,42 @@ void LinePlanner::run()
     if (m_tables.openLines.empty() || m_nodeCount == 0)
         return;
     learnInRounds();
-    if (!onlyKeysAgree() || isCanceled())
+    if (isCanceled())
         return;
+    const bool otherKeys = onlyKeysAgree();
+    const bool unknown = mostAreOpen();
+    if (otherKeys)
+        learnAgain(false, AssumedGone);
+    if (unknown)
+        learnAgain(true, HardlyGone);
+}
+
+void LinePlanner::learnAgain(bool beginsByKeys, double gone)
+{
     auto other = std::make_unique<LinePlanner>(m_tables);
     other->m_prior = m_prior;
     other->m_isCanceled = m_isCanceled;
-    other->m_beginsByKeys = false;
+    other->m_beginsByKeys = beginsByKeys;
+    other->m_gone = gone;
     other->learnInRounds();
-    if (other->m_explained > m_explained)
+    if (other->m_explained > best().m_explained)
         m_other = std::move(other);
+}
+
+/// Of the lines that could have a partner less than half are likely to have one, though there is a
+/// target of the source's name.
+bool LinePlanner::mostAreOpen() const
+{
+    const auto &targets = m_tables.targets;
+    if (std::none_of(targets.begin(), targets.end(),
+                     [](const PlanTarget &target) { return target.hasSourceName; }))
+        return false;
+    double successors = 0;
+    for (const std::vector<PlanEdge> &edges : m_edges) {
+        for (const PlanEdge &edge : edges)
+            successors += edge.probability;
+    }
+    return 2 * successors < double(std::min(m_edges.size(), size_t(m_nodeCount)));
 }
 
 /// Of the values of other variables most are not the same in the likely pairs.
@@ -95,17 +130,21 @@ bool LinePlanner::onlyKeysAgree() const
 
 void LinePlanner::learnInRounds()
 {
-    findCandidates();
+    for (const PlanTarget &target : m_tables.targets)
+        m_lists.push_back(std::make_unique<CandidateLists>(m_tables, target));
     m_rates = m_prior;
     learnTargets(std::vector<double>(m_tables.targets.size(), 0));
     for (int round = 0; round < Rounds && !isCanceled(); ++round) {
+        const bool isLast = round + 1 == Rounds;
         m_withKeys = m_beginsByKeys || round > 0;
         findPlaces(round == 0);
-        makeEdges();
+        makeEdges(isLast);
         if (round == 0)
             keepBest();
         spreadProbabilities(m_edges, m_nodeCount);
-        learn();
+        if (round == 0)
+            takeSample();
+        learn(isLast);
     }
     choose();
 }
@@ -129,33 +168,43 @@ void LinePlanner::forEachLine(const std::function<void(size_t)> &work) const
     });
 }
 
-void LinePlanner::findCandidates()
-{
-    for (const PlanTarget &target : m_tables.targets) {
-        const CandidateLists lists(m_tables, target);
-        std::vector<std::vector<int>> found(m_edges.size());
-        forEachLine([&](size_t line) {
-            if (target.takes[line])
-                found[line] = lists.find(line);
-        });
-        m_found.push_back(std::move(found));
-    }
-}
-
 /// What was far behind at first is not looked at again.
 void LinePlanner::keepBest()
 {
-    for (std::vector<std::vector<int>> &found : m_found)
-        found.assign(m_edges.size(), {});
+    m_lists.clear();
+    m_found.resize(m_tables.targets.size());
+    for (LineLists<int> &found : m_found)
+        found.reserve(m_edges.size());
+    for (std::vector<PlanEdge> &edges : m_edges) {
+        std::erase_if(edges, [least = edges.empty() ? 0 : edges.front().weight - FarBehind](
+                                 const PlanEdge &edge) { return edge.weight < least; });
+        for (const PlanEdge &edge : edges)
+            m_found[size_t(edge.target)].add(edge.row);
+        for (LineLists<int> &found : m_found)
+            found.endLine();
+    }
+}
+
+bool LinePlanner::isFound(size_t line) const
+{
+    return std::any_of(m_edges[line].begin(), m_edges[line].end(),
+                       [](const PlanEdge &edge) { return edge.probability >= Certain; });
+}
+
+/// Of the lines that are found and of the others each: what the many teach, a part of them teaches
+/// as well. All lines compete in each round, those that are not looked at with what they had.
+void LinePlanner::takeSample()
+{
+    std::array<size_t, 2> counts{};
+    std::array<size_t, 2> seen{};
+    for (size_t line = 0; line < m_edges.size(); ++line)
+        ++counts[isFound(line) ? 1 : 0];
     for (size_t line = 0; line < m_edges.size(); ++line) {
-        std::vector<PlanEdge> &edges = m_edges[line];
-        size_t kept = 0;
-        while (kept < std::min(edges.size(), KeptEdges) &&
-               edges[kept].weight >= edges.front().weight - FarBehind)
-            ++kept;
-        edges.resize(kept);
-        for (const PlanEdge &edge : m_edges[line])
-            m_found[size_t(edge.target)][line].push_back(edge.row);
+        const size_t kind = isFound(line) ? 1 : 0;
+        const size_t step = (counts[kind] + MaxSampled - 1) / MaxSampled;
+        const size_t taken = (counts[kind] + step - 1) / step;
+        const bool isTaken = seen[kind]++ % step == 0;
+        m_standsFor[line] = isTaken ? float(double(counts[kind]) / double(taken)) : 0;
     }
 }
 
@@ -179,53 +228,46 @@ void LinePlanner::findPlaces(bool first)
 
 double LinePlanner::own(size_t line, int node) const
 {
-    for (const PlanEdge &edge : m_learned[line]) {
-        if (edge.node == node)
-            return edge.probability;
+    for (const Learned &learned : m_learned.of(line)) {
+        if (learned.node == node)
+            return learned.weight;
     }
     return 0;
 }
 
-void LinePlanner::addEdges(size_t line, int t, const std::vector<int> &rows)
+void LinePlanner::makeEdges(bool ofAll)
 {
-    const PlanTarget &target = m_tables.targets[size_t(t)];
-    const PairEvidence evidence(m_tables, m_rates, m_changes);
-    const PlaceEvidence &places = m_places[size_t(t)];
-    const double prior =
-        std::log((1 - m_gone) * m_shares[size_t(t)] / (m_gone * double(target.openRows.size())));
-    std::vector<PlanEdge> &edges = m_edges[line];
-    for (const int row : rows) {
-        const int node = nodeOf(t, row);
-        const bool known = std::any_of(edges.begin(), edges.end(),
-                                       [node](const PlanEdge &edge) { return edge.node == node; });
-        if (known)
-            continue;
-        PlanEdge edge{t, row, node, 0, 0};
-        edge.weight = prior +
-                      evidence.weight(target, line, size_t(row), own(line, node), m_withKeys) +
-                      places.weight(m_tables.openLines[line], target.openRows[size_t(row)]);
-        edges.push_back(edge);
-    }
-}
-
-void LinePlanner::makeEdges()
-{
-    forEachLine([this](size_t line) { makeEdges(line); });
-}
-
-void LinePlanner::makeEdges(size_t line)
-{
-    const std::vector<PlanEdge> &former = m_edges[line];
-    const bool isFound = std::any_of(former.begin(), former.end(), [](const PlanEdge &edge) {
-        return edge.probability >= Certain;
+    m_evidence = std::make_unique<PairEvidence>(m_tables, m_rates, m_changes);
+    forEachLine([this, ofAll](size_t line) {
+        if (ofAll || m_standsFor[line] > 0)
+            makeEdges(line);
     });
-    m_edges[line].clear();
+}
+
+double LinePlanner::prior(int target) const
+{
+    const auto rows = double(m_tables.targets[size_t(target)].openRows.size());
+    return std::log((1 - m_gone) * m_shares[size_t(target)] / (m_gone * rows));
+}
+
+CandidateLists::Found LinePlanner::lookedUp(size_t target, size_t line) const
+{
+    if (!m_lists.empty())
+        return m_lists[target]->find(line);
+    const std::span<const int> kept = m_found[target].of(line);
+    return {{kept.begin(), kept.end()}, isFound(line)};
+}
+
+std::vector<LinePlanner::Candidate> LinePlanner::candidatesOf(size_t line) const
+{
+    std::vector<Candidate> candidates;
     for (size_t t = 0; t < m_tables.targets.size(); ++t) {
         const PlanTarget &target = m_tables.targets[t];
         if (!target.takes[line])
             continue;
-        std::vector<int> rows = m_found[t][line];
-        const int around = isFound ? 0 : AroundPlace;
+        CandidateLists::Found found = lookedUp(t, line);
+        std::vector<int> &rows = found.rows;
+        const int around = found.isFarAhead ? 0 : AroundPlace;
         const PlaceEvidence::Places at = m_places[t].places(m_tables.openLines[line]);
         for (const int place : {at.fromAbove, at.fromBelow}) {
             auto row =
@@ -235,12 +277,55 @@ void LinePlanner::makeEdges(size_t line)
         }
         std::sort(rows.begin(), rows.end());
         rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-        addEdges(line, int(t), rows);
+        const size_t others = candidates.size(); // of targets before
+        const double before = prior(int(t));
+        for (const int row : rows) {
+            Candidate candidate{{int(t), row, nodeOf(int(t), row), 0, 0}, before};
+            if (std::any_of(
+                    candidates.begin(), candidates.begin() + std::ptrdiff_t(others),
+                    [&](const Candidate &other) { return other.edge.node == candidate.edge.node; }))
+                continue;
+            candidate.rest +=
+                m_places[t].weight(m_tables.openLines[line], target.openRows[size_t(row)]);
+            candidate.edge.weight =
+                candidate.rest + m_evidence->atMost(target, line, size_t(row), m_withKeys);
+            candidates.push_back(candidate);
+        }
     }
-    std::stable_sort(m_edges[line].begin(), m_edges[line].end(),
-                     [](const PlanEdge &a, const PlanEdge &b) { return a.weight > b.weight; });
-    if (m_edges[line].size() > CandidateLists::MaxRows)
-        m_edges[line].resize(CandidateLists::MaxRows);
+    return candidates;
+}
+
+/// In the order of what they weigh at most, so that most are seen to be far behind by that alone.
+void LinePlanner::makeEdges(size_t line)
+{
+    std::vector<Candidate> candidates = candidatesOf(line);
+    const auto isBefore = [](const PlanEdge &a, const PlanEdge &b) {
+        if (a.weight != b.weight)
+            return a.weight > b.weight;
+        return a.target != b.target ? a.target < b.target : a.row < b.row;
+    };
+    std::sort(candidates.begin(), candidates.end(),
+              [&](const Candidate &a, const Candidate &b) { return isBefore(a.edge, b.edge); });
+    std::vector<PlanEdge> edges;
+    double least = -std::numeric_limits<double>::infinity();
+    for (const Candidate &candidate : candidates) {
+        PlanEdge edge = candidate.edge;
+        if (edge.weight < least)
+            break;
+        edge.weight =
+            candidate.rest + m_evidence->weight(m_tables.targets[size_t(edge.target)], line,
+                                                size_t(edge.row), own(line, edge.node), m_withKeys,
+                                                least - candidate.rest);
+        if (edge.weight < least)
+            continue;
+        edges.insert(std::upper_bound(edges.begin(), edges.end(), edge, isBefore), edge);
+        least = std::max(least, edge.weight - FarBehind);
+        if (edges.size() > KeptEdges)
+            edges.pop_back();
+        if (edges.size() == KeptEdges)
+            least = std::max(least, edges.back().weight);
+    }
+    m_edges[line] = std::move(edges);
 }
 
 void LinePlanner::learnTargets(const std::vector<double> &lines)
@@ -264,32 +349,45 @@ void LinePlanner::learnTargets(const std::vector<double> &lines)
         share /= total;
 }
 
-void LinePlanner::learn()
+void LinePlanner::learn(bool isLast)
 {
     std::vector<RateCounts> counts(m_counts.size());
     ChangeMemory changes;
-    const PairEvidence evidence(m_tables, m_rates, m_changes);
     double gone = 0;
     std::vector<double> perTarget(m_tables.targets.size(), 0);
+    LineLists<Learned> added;
+    added.reserve(m_edges.size());
     for (size_t line = 0; line < m_edges.size(); ++line) {
+        const auto lines = double(m_standsFor[line]);
+        const double shown = isLast ? 1 : lines;
         double successor = 0;
-        std::vector<PlanEdge> learned;
         for (const PlanEdge &edge : m_edges[line]) {
             successor += edge.probability;
-            perTarget[size_t(edge.target)] += edge.probability;
-            if (edge.probability < LeastLearned)
+            perTarget[size_t(edge.target)] += lines * edge.probability;
+            if (edge.probability < LeastLearned || shown == 0)
                 continue;
             const PlanTarget &target = m_tables.targets[size_t(edge.target)];
-            if (evidence.count(target, edge, line, own(line, edge.node), counts, changes))
-                learned.push_back(edge);
+            PlanEdge seen = edge;
+            seen.probability = lines * edge.probability;
+            if (lines > 0)
+                m_evidence->count(target, seen, line, own(line, edge.node), counts);
+            seen.probability = shown * edge.probability;
+            if (m_evidence->countChanges(target, seen, line, changes))
+                added.add({edge.node, seen.probability});
         }
-        m_learned[line] = learned;
-        gone += std::max(0.0, 1 - successor);
+        added.endLine();
+        gone += lines * std::max(0.0, 1 - successor);
     }
+    m_learned = std::move(added);
     m_counts = counts;
-    m_changes = changes;
+    m_changes = std::move(changes);
+    if (isLast)
+        m_changes.finish();
+    else
+        m_changes.finish(m_tables.values);
     for (size_t v = 0; v < counts.size(); ++v)
         m_rates[v] = VariableRates::learned(counts[v], m_prior[v]);
+    m_evidence = std::make_unique<PairEvidence>(m_tables, m_rates, m_changes);
     learnTargets(perTarget);
     m_gone = (gone + VariableRates::Strength * AssumedGone) /
              (double(m_edges.size()) + VariableRates::Strength);
@@ -309,7 +407,8 @@ void LinePlanner::choose()
     }
     for (size_t line = 0; line < m_edges.size(); ++line) {
         for (int edge = 0; edge < int(m_edges[line].size()) && pairs[line] < 0; ++edge) {
-            if (taken[size_t(m_edges[line][size_t(edge)].node)])
+            const PlanEdge &candidate = m_edges[line][size_t(edge)];
+            if (taken[size_t(candidate.node)] || candidate.probability < LeastChosen)
                 continue;
             rest[line].push_back(m_edges[line][size_t(edge)]);
             places[line].push_back(edge);
@@ -340,9 +439,8 @@ CellEvidence LinePlanner::cell(const PlanEdge &edge, size_t line, size_t place) 
 {
     if (m_other)
         return m_other->cell(edge, line, place);
-    const PairEvidence evidence(m_tables, m_rates, m_changes);
-    return evidence.cell(m_tables.targets[size_t(edge.target)], line, size_t(edge.row), place,
-                         own(line, edge.node));
+    return m_evidence->cell(m_tables.targets[size_t(edge.target)], line, size_t(edge.row), place,
+                            own(line, edge.node));
 }
 
 } // namespace Plan

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "CandidateLists.h"
+#include "LineLists.h"
 #include "PairEvidence.h"
 #include "PlaceEvidence.h"
 #include "SoftAssignment.h"
+
+#include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <atomic>
 #include <functional>
@@ -15,11 +19,13 @@ namespace Plan {
 /// have become. What changed in the table as a whole is learned from the pairs that it makes
 /// likely, in a few rounds: a column that was reworded everywhere then says little, the same
 /// replacement in many lines counts nearly as equality, neighbours show the place.
-class LinePlanner
+class VELKGEOMCORE_EXPORT LinePlanner
 {
 public:
     /// The tables stay where they are.
     explicit LinePlanner(const PlanTables &tables);
+    LinePlanner(const LinePlanner &) = delete;
+    LinePlanner &operator=(const LinePlanner &) = delete;
 
     /// What pairs of other tables showed, by variable; as many as there are variables. Counts as
     /// little evidence beside that of this table.
@@ -55,15 +61,31 @@ private:
     [[nodiscard]] const LinePlanner &best() const { return m_other ? *m_other : *this; }
     void learnInRounds();
     [[nodiscard]] bool onlyKeysAgree() const;
-    void findCandidates();
+    [[nodiscard]] bool mostAreOpen() const;
+    /// From another beginning; keeps the result if it explains the tables better.
+    void learnAgain(bool beginsByKeys, double gone);
     void findPlaces(bool first);
-    void makeEdges();
+    /// Of all lines or of those that stand for them.
+    void makeEdges(bool ofAll);
     void makeEdges(size_t line);
     void keepBest();
+    [[nodiscard]] bool isFound(size_t line) const;
+    /// Of very many lines a part is enough to learn from.
+    void takeSample();
     /// Calls \a work for each open line, on all cores.
     void forEachLine(const std::function<void(size_t)> &work) const;
-    void addEdges(size_t line, int target, const std::vector<int> &rows);
-    void learn();
+    /// An edge with what it weighs at most; of that the rest is sure, what no variable says.
+    struct Candidate
+    {
+        PlanEdge edge;
+        double rest = 0;
+    };
+    /// The rows to look at, each once.
+    [[nodiscard]] std::vector<Candidate> candidatesOf(size_t line) const;
+    [[nodiscard]] CandidateLists::Found lookedUp(size_t target, size_t line) const;
+    [[nodiscard]] double prior(int target) const;
+    /// The last time no lines stand for others in the changes, which are told as they are.
+    void learn(bool isLast);
     void learnTargets(const std::vector<double> &lines);
     void choose();
     [[nodiscard]] double own(size_t line, int node) const;
@@ -73,16 +95,25 @@ private:
     const PlanTables &m_tables;
     std::vector<int> m_nodeOffsets; ///< By target.
     int m_nodeCount = 0;
-    std::vector<std::vector<std::vector<int>>> m_found; ///< By target and open line.
+    std::vector<std::unique_ptr<CandidateLists>> m_lists; ///< By target; in the first round,
+    std::vector<LineLists<int>> m_found; ///< after it what was kept, by target and open line.
+    std::vector<float> m_standsFor; ///< By open line: so many, itself included; 0: not looked at.
     std::vector<VariableRates> m_prior;
     std::vector<VariableRates> m_rates;
     std::vector<RateCounts> m_counts;
     ChangeMemory m_changes;
-    std::vector<PlaceEvidence> m_places; ///< By target.
+    std::unique_ptr<PairEvidence> m_evidence; ///< By m_rates and m_changes as they are.
+    std::vector<PlaceEvidence> m_places;      ///< By target.
     double m_gone;
     std::vector<double> m_shares; ///< By target: how many of the lines that have a successor.
     EdgeLists m_edges;
-    EdgeLists m_learned; ///< The edges that m_changes was learned from, with what they added.
+    struct Learned
+    {
+        int node = 0;
+        double weight = 0;
+    };
+    LineLists<Learned>
+        m_learned; ///< The edges that m_changes was learned from, with what they added.
     std::vector<Line> m_lines;
     double m_explained = 0; ///< Sum of the weights of the assigned pairs.
     bool m_beginsByKeys = true;

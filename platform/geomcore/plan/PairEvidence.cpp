@@ -1,7 +1,10 @@
 #include "PairEvidence.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cmath>
+#include <numbers>
 
 namespace Plan {
 
@@ -17,12 +20,93 @@ bool haveCommon(std::span<const int> a, std::span<const int> b)
     return i != a.end() && j != b.end();
 }
 
+/// At least the logarithm of a positive number, and hardly more; in a fraction of the time.
+double logAtMost(double number)
+{
+    constexpr int Bits = 6;
+    static const auto above = [] {
+        std::array<double, 1 << Bits> logs{};
+        for (size_t i = 0; i < logs.size(); ++i)
+            logs[i] = std::log1p(double(i + 1) / double(logs.size())) + 1e-12;
+        return logs;
+    }();
+    const auto bits = std::bit_cast<std::uint64_t>(number);
+    const auto exponent = int(bits >> 52) - 1023;
+    return exponent * std::numbers::ln2 + above[size_t(bits >> (52 - Bits)) % above.size()];
+}
+
 } // namespace
 
-double PairEvidence::nearRatio(const ColumnChance &chance, int oldValue, int newValue) const
+PairEvidence::PairEvidence(const PlanTables &tables, const std::vector<VariableRates> &rates,
+                           const ChangeMemory &changes)
+    : m_tables(tables)
+    , m_rates(rates)
+    , m_changes(changes)
 {
-    const CellValues::Value &a = m_tables.values.value(oldValue);
-    const CellValues::Value &b = m_tables.values.value(newValue);
+    m_weights.resize(tables.targets.size());
+    for (size_t t = 0; t < tables.targets.size(); ++t) {
+        for (size_t place = 0; place < tables.targets[t].variables.size(); ++place)
+            m_weights[t].push_back(weightsOf(tables.targets[t], place));
+    }
+}
+
+PairEvidence::PlaceWeights PairEvidence::weightsOf(const PlanTarget &target, size_t place) const
+{
+    const VariableRates &rates = m_rates[size_t(target.variables[place])];
+    const ColumnChance &chance = target.chances[place];
+    const double missing = chance.missing();
+    PlaceWeights weights;
+    weights.gained = std::log(rates.gained / (1 - missing));
+    weights.lost = std::log(rates.lost / missing);
+    weights.without = std::log((1 - rates.gained) / missing);
+    weights.bothThere = std::log((1 - rates.lost) / (1 - missing));
+    weights.change = rates.way(Way::Change) * m_changes.mostLikely(target.variables[place]);
+    weights.near =
+        rates.way(Way::Near) / (chance.leastNearShare() * std::log(2.0 * chance.numberCount() + 2));
+    return weights;
+}
+
+PairEvidence::Part PairEvidence::atMost(const PlanTarget &target, size_t place, int oldValue,
+                                        int newValue) const
+{
+    const PlaceWeights &at = weights(target, place);
+    if (oldValue == CellValues::NoValue)
+        return {newValue == CellValues::NoValue ? at.without : at.gained, Part::Known, false};
+    if (newValue == CellValues::NoValue)
+        return {at.lost, Part::Known, false};
+    const int variable = target.variables[place];
+    const VariableRates &rates = m_rates[size_t(variable)];
+    const double share = target.chances[place].share(newValue);
+    const double other = rates.way(Way::Other);
+    if (oldValue == newValue) {
+        const double same = rates.way(Way::Same) / share;
+        return {logAtMost(same + other) + at.bothThere, Part::Same, same > other};
+    }
+    const CellValues &values = m_tables.values[size_t(variable)];
+    double ratio = other + at.change / share;
+    if (values.isNumber(oldValue) && values.isNumber(newValue))
+        ratio += at.near;
+    else
+        ratio += rates.way(Way::Alike) / share;
+    return {logAtMost(ratio) + at.bothThere, Part::Differs, false};
+}
+
+double PairEvidence::atMost(const PlanTarget &target, size_t line, size_t row, bool withKeys) const
+{
+    double sum = 0;
+    for (size_t place = 0; place < target.variables.size(); ++place) {
+        if (withKeys || !target.keys[place])
+            sum += atMost(target, place, target.lines.at(line, place), target.rows.at(row, place))
+                       .weight;
+    }
+    return sum;
+}
+
+double PairEvidence::nearRatio(const CellValues &values, const ColumnChance &chance, int oldValue,
+                               int newValue) const
+{
+    const CellValues::Value a = values.value(oldValue);
+    const CellValues::Value b = values.value(newValue);
     if (!a.isNumber || !b.isNumber || a.number * b.number <= 0)
         return 0;
     // The share of numbers as near by chance is even in 0 to 1; between partners its logarithm is.
@@ -30,11 +114,11 @@ double PairEvidence::nearRatio(const ColumnChance &chance, int oldValue, int new
     return 1 / (share * std::log(2.0 * chance.numberCount() + 2));
 }
 
-double PairEvidence::alikeRatio(const ColumnChance &chance, const VariableRates &rates,
-                                int oldValue, int newValue) const
+double PairEvidence::alikeRatio(const CellValues &values, const ColumnChance &chance,
+                                const VariableRates &rates, int oldValue, int newValue) const
 {
-    const std::span<const int> a = m_tables.values.value(oldValue).distinct;
-    const std::span<const int> b = m_tables.values.value(newValue).distinct;
+    const std::span<const int> a = values.value(oldValue).distinct;
+    const std::span<const int> b = values.value(newValue).distinct;
     if (!haveCommon(a, b))
         return 0;
     // A token of the old text stays or does not; further ones come as they come in any text of the
@@ -68,16 +152,15 @@ CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t ro
     const int a = target.lines.at(line, place);
     const int b = target.rows.at(row, place);
     const int variable = target.variables[place];
+    const CellValues &values = m_tables.values[size_t(variable)];
     const VariableRates &rates = m_rates[size_t(variable)];
     const ColumnChance &chance = target.chances[place];
-    const double missing = chance.missing();
+    const PlaceWeights &at = weights(target, place);
     if (a == CellValues::NoValue || b == CellValues::NoValue) {
-        if (a != b && a == CellValues::NoValue)
-            evidence.weight = std::log(rates.gained / (1 - missing));
-        else if (a != b)
-            evidence.weight = std::log(rates.lost / missing);
+        if (a != b)
+            evidence.weight = a == CellValues::NoValue ? at.gained : at.lost;
         else
-            evidence.weight = std::log((1 - rates.gained) / missing);
+            evidence.weight = at.without;
         return evidence;
     }
     auto &ways = evidence.ways;
@@ -85,38 +168,62 @@ CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t ro
     if (a == b) {
         ways[int(Way::Same)] = rates.way(Way::Same) / chance.share(b);
     } else {
-        const ChangeMemory::Likely likely = m_changes.likely(m_tables.values, variable, a, b, own);
+        const ChangeMemory::Likely likely = m_changes.likely(values, variable, a, b, own);
         evidence.supports = likely.supports;
         ways[int(Way::Change)] = rates.way(Way::Change) * likely.share / chance.share(b);
-        ways[int(Way::Near)] = rates.way(Way::Near) * nearRatio(chance, a, b);
-        ways[int(Way::Alike)] = rates.way(Way::Alike) * alikeRatio(chance, rates, a, b);
+        ways[int(Way::Near)] = rates.way(Way::Near) * nearRatio(values, chance, a, b);
+        ways[int(Way::Alike)] = rates.way(Way::Alike) * alikeRatio(values, chance, rates, a, b);
     }
     double sum = 0;
     for (const double way : ways)
         sum += way;
     for (double &way : ways)
         way /= sum;
-    evidence.weight = std::log(sum) + std::log((1 - rates.lost) / (1 - missing));
+    evidence.weight = std::log(sum) + at.bothThere;
     return evidence;
 }
 
 double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, double own,
-                            bool withKeys) const
+                            bool withKeys, double least) const
 {
-    double sum = 0;
-    double nearest = 0;
+    // By place, first what it gives at most, then what it gives.
+    thread_local std::vector<Part> parts;
+    parts.assign(target.variables.size(), {});
+    double most = 0;
     bool hasCommon = false;
-    for (size_t place = 0; place < target.variables.size(); ++place) {
+    for (size_t place = 0; place < parts.size(); ++place) {
         if (!withKeys && target.keys[place])
             continue;
-        const CellEvidence evidence = cell(target, line, row, place, own);
-        sum += evidence.weight;
+        parts[place] =
+            atMost(target, place, target.lines.at(line, place), target.rows.at(row, place));
+        most += parts[place].weight;
+        hasCommon = hasCommon || parts[place].isCommon;
+    }
+    // Those first that may give most: it takes few of them to see that a row is no candidate.
+    double nearest = 0;
+    while (most >= least) {
+        size_t loosest = parts.size();
+        for (size_t place = 0; place < parts.size(); ++place) {
+            if (parts[place].kind == Part::Differs &&
+                (loosest == parts.size() || parts[place].weight > parts[loosest].weight))
+                loosest = place;
+        }
+        if (loosest == parts.size())
+            break;
+        const CellEvidence evidence = cell(target, line, row, loosest, own);
+        most += evidence.weight - parts[loosest].weight;
+        parts[loosest] = {evidence.weight, Part::Known, false};
         const auto &ways = evidence.ways;
-        hasCommon = hasCommon ||
-                    ways[int(Way::Same)] + ways[int(Way::Change)] + ways[int(Way::Alike)] > 0.5;
+        hasCommon = hasCommon || ways[int(Way::Change)] + ways[int(Way::Alike)] > 0.5;
         if (ways[int(Way::Near)] > 0.5)
             nearest = std::max(nearest, evidence.weight);
     }
+    if (most < least)
+        return most;
+    double sum = 0;
+    for (size_t place = 0; place < parts.size(); ++place)
+        sum += parts[place].kind == Part::Same ? cell(target, line, row, place, own).weight
+                                               : parts[place].weight;
     // Some number is always near: where nothing is the same, one says nothing.
     return hasCommon ? sum : sum - nearest;
 }
@@ -132,11 +239,11 @@ bool PairEvidence::hasCommonValue(const PlanTarget &target, size_t line, size_t 
     return false;
 }
 
-void PairEvidence::countTokens(const ColumnChance &chance, int oldValue, int newValue,
-                               double weight, RateCounts &seen) const
+void PairEvidence::countTokens(const CellValues &values, const ColumnChance &chance, int oldValue,
+                               int newValue, double weight, RateCounts &seen) const
 {
-    const std::span<const int> tokens = m_tables.values.value(oldValue).distinct;
-    const std::span<const int> others = m_tables.values.value(newValue).distinct;
+    const std::span<const int> tokens = values.value(oldValue).distinct;
+    const std::span<const int> others = values.value(newValue).distinct;
     double staying = 0;
     double expected = chance.meanTokens();
     for (const int token : tokens) {
@@ -149,18 +256,33 @@ void PairEvidence::countTokens(const ColumnChance &chance, int oldValue, int new
     seen.expected += weight * std::max(0.0, expected);
 }
 
-bool PairEvidence::count(const PlanTarget &target, const PlanEdge &edge, size_t line, double own,
-                         std::vector<RateCounts> &counts, ChangeMemory &changes) const
+bool PairEvidence::countChanges(const PlanTarget &target, const PlanEdge &edge, size_t line,
+                                ChangeMemory &changes) const
 {
     const auto row = size_t(edge.row);
-    const double probability = edge.probability;
-    // A change that nothing else speaks for is no model for others: in a series of numbers every
-    // shift looks like a rule.
-    const bool isModel = hasCommonValue(target, line, row);
+    if (!hasCommonValue(target, line, row))
+        return false;
     for (size_t place = 0; place < target.variables.size(); ++place) {
         const int a = target.lines.at(line, place);
         const int b = target.rows.at(row, place);
-        RateCounts &seen = counts[size_t(target.variables[place])];
+        const int variable = target.variables[place];
+        if (a != CellValues::NoValue && b != CellValues::NoValue)
+            changes.add(m_tables.values[size_t(variable)], variable, a, b, edge.probability);
+    }
+    return true;
+}
+
+void PairEvidence::count(const PlanTarget &target, const PlanEdge &edge, size_t line, double own,
+                         std::vector<RateCounts> &counts) const
+{
+    const auto row = size_t(edge.row);
+    const double probability = edge.probability;
+    for (size_t place = 0; place < target.variables.size(); ++place) {
+        const int a = target.lines.at(line, place);
+        const int b = target.rows.at(row, place);
+        const int variable = target.variables[place];
+        const CellValues &values = m_tables.values[size_t(variable)];
+        RateCounts &seen = counts[size_t(variable)];
         (a == CellValues::NoValue ? seen.hadNone : seen.hadValue) += probability;
         if (a == CellValues::NoValue || b == CellValues::NoValue) {
             if (a != b)
@@ -170,14 +292,11 @@ bool PairEvidence::count(const PlanTarget &target, const PlanEdge &edge, size_t 
         const CellEvidence evidence = cell(target, line, row, place, own);
         for (size_t way = 0; way < evidence.ways.size(); ++way)
             seen.ways[way] += probability * evidence.ways[way];
-        if (isModel)
-            changes.add(m_tables.values, target.variables[place], a, b, probability);
         if (a == b)
             continue;
-        countTokens(target.chances[place], a, b, probability * evidence.ways[int(Way::Alike)],
-                    seen);
+        countTokens(values, target.chances[place], a, b,
+                    probability * evidence.ways[int(Way::Alike)], seen);
     }
-    return isModel;
 }
 
 } // namespace Plan

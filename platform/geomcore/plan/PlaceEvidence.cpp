@@ -9,8 +9,10 @@ namespace Plan {
 namespace {
 
 /// Pairs that are looked at to learn from.
-constexpr int MaxLearned = 4000;
+constexpr size_t MaxLearned = 4000;
 constexpr int PlaceRounds = 6;
+/// So far most rows that are looked at are from where their neighbours put them.
+constexpr int KeptDistances = 64;
 /// As if so many pairs had shown what is assumed.
 constexpr double Strength = 4;
 
@@ -45,6 +47,8 @@ PlaceEvidence::Places PlaceEvidence::places(int sourceRow) const
 
 double PlaceEvidence::near(int distance) const
 {
+    if (size_t(distance) < m_near.size())
+        return m_near[size_t(distance)];
     return (1 - m_decay) / (1 + m_decay) * std::pow(m_decay, distance);
 }
 
@@ -62,18 +66,18 @@ void PlaceEvidence::learn()
 {
     const Kinds assumed = m_shares;
     const double assumedDecay = m_decay;
-    int known = 0;
-    for (const int partner : m_partners)
-        known += partner >= 0 ? 1 : 0;
-    const int step = known / MaxLearned + 1;
-    for (int round = 0; round < PlaceRounds && known > 0; ++round) {
+    std::vector<int> known;
+    for (int row = 0; row < int(m_partners.size()); ++row) {
+        if (m_partners[size_t(row)] >= 0)
+            known.push_back(row);
+    }
+    const size_t step = known.size() / MaxLearned + 1;
+    for (int round = 0; round < PlaceRounds && !known.empty(); ++round) {
         Kinds counts{};
         double distances = 0;
-        int seen = 0;
-        for (int row = 0; row < int(m_partners.size()); ++row) {
+        for (size_t i = 0; i < known.size(); i += step) {
+            const int row = known[i];
             const int partner = m_partners[size_t(row)];
-            if (partner < 0 || seen++ % step != 0)
-                continue;
             Kinds parts = densities(row, partner);
             double sum = 0;
             for (int kind = 0; kind < KindCount; ++kind)
@@ -97,6 +101,8 @@ void PlaceEvidence::learn()
             (distances + Strength * assumedMean) / (counts[Above] + counts[Below] + Strength);
         m_decay = (std::sqrt(1 + mean * mean) - 1) / mean;
     }
+    for (int distance = 0; distance < KeptDistances; ++distance)
+        m_near.push_back((1 - m_decay) / (1 + m_decay) * std::pow(m_decay, distance));
 }
 
 double PlaceEvidence::weight(int sourceRow, int targetRow) const

@@ -39,7 +39,8 @@ private:
     std::vector<int> m_below; ///< Likewise, or their number.
     int m_targetRows;
     Kinds m_shares{0.25, 0.25, 0.25, 0.25};
-    double m_decay = 0.5; ///< From one row to the next.
+    double m_decay = 0.5;       ///< From one row to the next.
+    std::vector<double> m_near; ///< near() of the least distances, once learned.
 };
 
 } // namespace Plan

@@ -7,7 +7,7 @@
 
 namespace Plan {
 
-/// Cells of some lines in some variables, as numbers of CellValues.
+/// Cells of some lines in some variables, as numbers of their variable's CellValues.
 class CellMatrix
 {
 public:
@@ -50,7 +50,7 @@ struct PlanTarget
 
 struct PlanTables
 {
-    CellValues values;
+    std::vector<CellValues> values; ///< By number of the variable.
     int sourceRows = 0;
     std::vector<int> openLines; ///< Rows of the source table, ascending.
     int variableCount = 0;

@@ -77,11 +77,23 @@ private:
     {
         // The line's price makes all its ways cost at least nothing.
         double lowest = 0;
+        int nearest = -1;
         const auto &list = m_edges[size_t(start)];
-        for (int edge = 0; edge < int(list.size()); ++edge)
-            lowest =
-                std::min(lowest, cost(start, edge) - m_rowPrice[size_t(list[size_t(edge)].node)]);
+        for (int edge = 0; edge < int(list.size()); ++edge) {
+            const int node = list[size_t(edge)].node;
+            const double price = cost(start, edge) - m_rowPrice[size_t(node)];
+            const bool isFirst =
+                price == lowest && nearest >= 0 && node < list[size_t(nearest)].node;
+            if (price < lowest || isFirst)
+                nearest = edge;
+            lowest = std::min(lowest, price);
+        }
         m_linePrice[size_t(start)] = lowest;
+        if (nearest >= 0 && m_lineOf[size_t(list[size_t(nearest)].node)] < 0) {
+            m_edgeOf[size_t(start)] = nearest;
+            m_lineOf[size_t(list[size_t(nearest)].node)] = start;
+            return; // nothing is cheaper than the cheapest way to a free row
+        }
         double bestEnd = -lowest; // staying alone
         int endLine = start;
         int endNode = -1;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <array>
 #include <cstddef>
 
@@ -28,7 +30,7 @@ struct RateCounts
 };
 
 /// How often each of these happens.
-struct VariableRates
+struct VELKGEOMCORE_EXPORT VariableRates
 {
     std::array<double, WayCount> ways{};
     double lost = 0;

@@ -25,6 +25,15 @@ QString realPath(const QString &path)
     }
 }
 
+/// Whether both stand in one directory and neither is a link: then a root that has one has the
+/// other, without a walk along the whole path of each root.
+bool areNeighbours(const QString &file, const QString &other)
+{
+    const QFileInfo first(QDir::cleanPath(QDir().absoluteFilePath(file)));
+    const QFileInfo second(QDir::cleanPath(QDir().absoluteFilePath(other)));
+    return first.path() == second.path() && !first.isSymLink() && !second.isSymLink();
+}
+
 bool isBelow(const QString &path, const QString &directory)
 {
     return !directory.isEmpty() &&
@@ -148,6 +157,8 @@ QString CatalogPlaces::refusal(const QString &file, const QString &namedBy) cons
         return isAnAddress(file);
     if (file.contains(QChar(u'\0')))
         return QStringLiteral("the name of the file has a NUL in it");
+    if (areNeighbours(file, namedBy))
+        return {};
     const QString real = realPath(file);
     QString root = rootOf(namedBy);
     if (root.isEmpty())

@@ -24,6 +24,12 @@ struct VELKGEOMCORE_EXPORT AgreedReplacement
     [[nodiscard]] bool isNumeric() const { return !factor.isEmpty(); }
     /// It holds for the lines of this project.
     [[nodiscard]] bool holdsIn(const QString &sourcePath) const;
+    /// Of texts: the old value has what is replaced, not inside of a word or number.
+    [[nodiscard]] bool isFoundIn(const QString &value) const;
+    /// The new value for an old one: of texts with every place replaced, of numbers, which have
+    /// \a decimalChar, for a value that is a number as a whole. The value itself if nothing of it
+    /// is meant.
+    [[nodiscard]] QString applied(const QString &value, QChar decimalChar = u'.') const;
 
     friend bool operator==(const AgreedReplacement &, const AgreedReplacement &) = default;
 };

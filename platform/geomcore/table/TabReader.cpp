@@ -1,6 +1,7 @@
 #include "TabReader.h"
 
 #include "FileLayer.h"
+#include "OpenTables.h"
 #include "TableData.h"
 
 #include <boost/make_shared.hpp>
@@ -37,7 +38,7 @@ boost::shared_ptr<FileLayer> TabReader::readLayer(const QString &nativePath)
         const auto descriptor = TableDescriptor::read(nativePath, m_errors);
         return descriptor ? boost::make_shared<FileLayer>(*descriptor) : nullptr;
     }
-    const TableReadResult result = TableData::read(nativePath);
+    const TableReadResult result = OpenTables::instance().open(nativePath);
     m_errors = result ? result.data->warnings() : result.errors;
     return result ? boost::make_shared<FileLayer>(result.data) : nullptr;
 }

@@ -68,6 +68,9 @@ TopSearchWidget::TopSearchWidget(const QStringList &searchNames, QWidget *parent
 {
     m_words->setObjectName(QStringLiteral("searchWords"));
     m_words->setPlaceholderText(searchText("Name, Norm, Bezeichnung oder Wert"));
+    constexpr int FrameAndCursor = 16;
+    m_words->setMinimumWidth(m_words->fontMetrics().horizontalAdvance(m_words->placeholderText()) +
+                             FrameAndCursor);
     m_words->setAccessibleName(searchText("Suchwörter"));
     m_words->setClearButtonEnabled(true);
     m_words->installEventFilter(this);

@@ -44,6 +44,7 @@ void TableColumnWidths::load()
 {
     store();
     m_widths.clear();
+    m_fitted.clear();
     m_key = TableColumnNames::ofTable(*m_model);
     if (m_key.isEmpty())
         return;
@@ -74,7 +75,7 @@ void TableColumnWidths::apply()
     showUsedColumns();
     for (int column = 0; column < m_model->columnCount(); ++column) {
         const auto known = m_widths.find(TableColumnNames::ofColumn(*m_model, column));
-        header->resizeSection(column, known == m_widths.end() ? neededWidth(column)
+        header->resizeSection(column, known == m_widths.end() ? fittingWidth(column)
                                                               : qRound(known->second * m_zoom));
     }
 }
@@ -113,6 +114,19 @@ void TableColumnWidths::fitAll()
 {
     for (int column = 0; column < m_model->columnCount(); ++column)
         fit(column);
+}
+
+/// Without a line the caption alone would count.
+int TableColumnWidths::fittingWidth(int column)
+{
+    const QString name = TableColumnNames::ofColumn(*m_model, column);
+    const auto fitted = m_fitted.find(name);
+    if (m_model->rowCount() == 0 && fitted != m_fitted.end())
+        return qRound(fitted->second * m_zoom);
+    const int needed = neededWidth(column);
+    if (m_model->rowCount() > 0)
+        m_fitted[name] = qRound(needed / m_zoom);
+    return needed;
 }
 
 int TableColumnWidths::neededWidth(int column) const

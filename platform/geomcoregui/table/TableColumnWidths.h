@@ -27,7 +27,7 @@ public:
     /// Reads the widths for the model's table.
     void load();
     /// Gives the columns their widths. Status columns that no line has a value in are hidden,
-    /// and what the user hides.
+    /// and what the user hides. Columns keep what they have while a filter leaves no line.
     void apply();
     /// Shows status columns that came into use, and all columns of variables.
     void showUsedColumns();
@@ -39,6 +39,7 @@ public:
 private:
     void onResized(int column, int oldSize, int newSize);
     void store();
+    [[nodiscard]] int fittingWidth(int column);
     [[nodiscard]] int neededWidth(int column) const;
 
     TableGrid *m_grid;
@@ -49,4 +50,5 @@ private:
     bool m_changed = false;
     QString m_key; // of the loaded widths
     std::map<QString, int> m_widths;
+    std::map<QString, int> m_fitted; ///< Of columns without a wish, as they were with lines.
 };

@@ -134,6 +134,18 @@ void TableGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() - under);
 }
 
+void TableGrid::resizeEvent(QResizeEvent *event)
+{
+    const QRect before = visualRect(currentIndex());
+    QTableView::resizeEvent(event);
+    if (!currentIndex().isValid() || before.top() < 0 ||
+        before.bottom() >= event->oldSize().height())
+        return;
+    const int below = visualRect(currentIndex()).bottom() + 1 - viewport()->height();
+    if (below > 0)
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + below);
+}
+
 void TableGrid::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);

@@ -59,6 +59,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
+    /// A current line that is in view stays so if the grid gets lower.
+    void resizeEvent(QResizeEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     /// Ctrl+Home and Ctrl+End select the first and the last line, with Shift all lines up to there.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,

@@ -58,6 +58,13 @@ void VkTableModel::setShowHiddenVars(bool show)
     d->takeChoice(choice);
 }
 
+void VkTableModel::setLineRemarks(const LineRemarks &remarks)
+{
+    d->remarks = remarks;
+    if (d->rows.count() > 0)
+        Q_EMIT headerDataChanged(Qt::Vertical, 0, d->rows.count() - 1);
+}
+
 void VkTableModel::setShowTopoValues(bool show)
 {
     TableColumnChoice choice = d->choice;

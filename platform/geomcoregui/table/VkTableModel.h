@@ -6,6 +6,7 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
 #include <memory>
 
 QT_BEGIN_NAMESPACE
@@ -70,6 +71,12 @@ public:
     [[nodiscard]] int columnOf(const VKTab::VarId &variable) const;
     /// Asks the handler, if there is one, with that widget.
     [[nodiscard]] QString statusToolTip(const QModelIndex &index, QWidget *widget) const;
+
+    /// What is to be said of a line beside its values, as plain text; empty: nothing. Such a line
+    /// has an asterisk behind its number, and the text in the tool tips of number and status. Set
+    /// anew when it would say something else.
+    using LineRemarks = std::function<QString(const VKTab::LineId &line)>;
+    void setLineRemarks(const LineRemarks &remarks);
 
     /// Shows only lines whose value holds the text, upper and lower case alike; "=" before it asks
     /// for the whole value, "<", "<=", ">" and ">=" for numbers. An empty text ends the filter.

@@ -51,10 +51,16 @@ QVariant VkTableModel::headerData(int section, Qt::Orientation orientation, int 
     }
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::ToolTipRole)
+        return section < d->rows.count() ? d->remark(section) : QString();
     if (role != Qt::DisplayRole)
         return {};
     const VKTab::LineId id = lineId(section);
-    return id.isValid() ? QVariant(id.value(0)) : QVariant();
+    if (!id.isValid())
+        return {};
+    if (!d->remark(section).isEmpty())
+        return QString(QString::number(id.value(0)) + u'*');
+    return id.value(0);
 }
 
 const VKTab::Line &VkTableModelPrivate::lineAt(int row) const
@@ -164,16 +170,26 @@ const VKTab::StatusValue *VkTableModelPrivate::state(int row, const TableColumn 
 QString VkTableModelPrivate::toolTip(int row, const TableColumn &column, int index,
                                      QWidget *widget) const
 {
+    QString more = remark(row).toHtmlEscaped();
     const VKTab::StatusValue *const shown = state(row, column);
     if (!shown)
-        return {};
+        return more;
+    const auto withMore = [&more](const QString &text) {
+        return text.isEmpty() || more.isEmpty() ? text + more
+                                                : text + QStringLiteral("<br />") + more;
+    };
     if (const auto &handler = shown->getToolTipHandler2()) {
         // The handler may have the model draw other lines.
         const VKTab::Line asked = table.getLine(rows.lineId(row), false);
         const VKTab::StatusValue::ToolTipHandler held = handler;
-        return held(asked, rows.placeAt(row) + 1, index, widget);
+        return withMore(held(asked, rows.placeAt(row) + 1, index, widget));
     }
-    return shown->getToolTipText();
+    return withMore(shown->getToolTipText());
+}
+
+QString VkTableModelPrivate::remark(int row) const
+{
+    return remarks ? remarks(rows.lineId(row)) : QString();
 }
 
 QIcon VkTableModelPrivate::icon(const QString &file) const

@@ -77,6 +77,7 @@ public:
     [[nodiscard]] const VKTab::StatusValue *state(int row, const TableColumn &column) const;
     [[nodiscard]] QString toolTip(int row, const TableColumn &column, int index,
                                   QWidget *widget) const;
+    [[nodiscard]] QString remark(int row) const;
     [[nodiscard]] QIcon icon(const QString &file) const;
     [[nodiscard]] QVariant columnHeader(const TableColumn &column, int role) const;
 
@@ -94,6 +95,7 @@ public:
     };
 
     VkTableModel *q;
+    VkTableModel::LineRemarks remarks; // may be empty
     VKTab::ContentRef table;
     std::shared_ptr<const VKTab::TableData> tableData; // of the rows
     TableColumnChoice choice;

@@ -129,6 +129,10 @@ void VkTableViewPrivate::connectGrid()
     connect(grid, &TableGrid::menuRequested, this, [this](int row, const QPoint &position) {
         showMenu(VkTableViewBase::PopupCells, row, grid->currentIndex().column(), position);
     });
+    // The numbers of lines got longer, or shorter; when the header itself has heard of it.
+    connect(
+        model, &VkTableModel::headerDataChanged, grid, [this] { grid->doItemsLayout(); },
+        Qt::QueuedConnection);
     connect(grid, &TableGrid::zoomRequested, this,
             [this](int steps) { setZoomFactor(zoom * std::pow(zoomStep, steps)); });
 }

@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLayout>
+#include <QScreen>
 #include <QUiLoader>
 #include <QWidget>
 
@@ -85,8 +87,18 @@ void PApplication::setupWindow(QWidget *window)
         getAppConfig()->getItemValue(window->objectName(), windowSection, QString()).GetString();
     const QByteArray geometry = QByteArray::fromBase64(stored.toLatin1());
     // Qt restores what was cut off too, to a window without extent.
-    if (geometry.size() >= window->saveGeometry().size())
+    if (geometry.size() >= window->saveGeometry().size()) {
         window->restoreGeometry(geometry);
+        // In another language or font its texts may want more rows.
+        const QLayout *const layout = window->layout();
+        if (layout && layout->hasHeightForWidth())
+            window->resize(
+                window->size().expandedTo({0, layout->totalHeightForWidth(window->width())}));
+    } else {
+        constexpr int Title = 40; // needs room too
+        window->resize(
+            window->size().boundedTo(window->screen()->availableSize() - QSize(0, Title)));
+    }
     if (window->metaObject()->indexOfMethod("restoreState(QByteArray)") < 0)
         return;
     const QString state =

@@ -17,6 +17,7 @@ PButtonHeaderView::PButtonHeaderView(const QSize &buttonSize, Qt::Orientation or
     viewport()->setMouseTracking(true);
     setStretchLastSection(true);
     setSectionsClickable(true);
+    setTextElideMode(Qt::ElideRight);
     connect(this, &QHeaderView::sectionCountChanged, this, &PButtonHeaderView::fitFirstSection);
 }
 

@@ -114,6 +114,17 @@ void LineCells::readCells(const VKTab::TableData &table, const std::vector<int> 
     }
 }
 
+std::vector<quint32> LineCells::sortedValues(int column) const
+{
+    std::vector<quint32> values;
+    for (int row = 0; row < m_rowCount; ++row) {
+        if (cell(row, column) != 0)
+            values.push_back(cell(row, column));
+    }
+    std::sort(values.begin(), values.end());
+    return values;
+}
+
 quint64 LineCells::valueHash(int row, int column) const
 {
     const quint64 hash = cell(row, column);

@@ -39,6 +39,8 @@ public:
     {
         return m_cells[size_t(row) * m_variables.size() + size_t(column)];
     }
+    /// The values of a column in ascending order, each as often as it stands there.
+    [[nodiscard]] std::vector<quint32> sortedValues(int column) const;
     /// Hash of a variable's value, 0 for "no value". The hash of a line over some of its variables
     /// is the sum of these.
     [[nodiscard]] quint64 valueHash(int row, int column) const;

@@ -27,6 +27,11 @@ constexpr size_t MaxParts = 8;
 /// So much more often a table has the lines that moved there than those that did not.
 constexpr double ReceivedMore = 4;
 
+/// Least share of a project's values that a table has to have where no line shows the way.
+constexpr double LeastColumns = 0.5;
+/// Tables with so much of the best one's share are as good.
+constexpr double AsGood = 0.9;
+
 struct Candidate
 {
     int table = 0;
@@ -38,12 +43,6 @@ struct Candidate
     [[nodiscard]] auto rank() const { return std::tuple(-score, -likeness, table); }
 };
 using Candidates = std::vector<Candidate>;
-
-QString folderInCatalog(const QString &projectPath)
-{
-    const QString path = pathInCatalog(projectPath);
-    return path.left(path.lastIndexOf(u'/') + 1);
-}
 
 /// One search.
 class Search
@@ -70,6 +69,8 @@ public:
             searchRest(named);
         return m_found;
     }
+
+    std::vector<int> runByColumns(const std::vector<int> &room) const;
 
 private:
     [[nodiscard]] Candidate candidate(int table) const
@@ -110,6 +111,7 @@ private:
     }
 
     void addNamed();
+    [[nodiscard]] bool arePartsOfOne(const Candidates &parts) const;
     [[nodiscard]] Candidates partsByName() const;
     [[nodiscard]] Candidates ranked(const std::vector<int> &tables) const;
     void searchRest(bool named);
@@ -145,6 +147,16 @@ void Search::addNamed()
     }
 }
 
+/// Several tables, all of the same variables, of which the project had some.
+bool Search::arePartsOfOne(const Candidates &parts) const
+{
+    return parts.size() > 1 && std::ranges::all_of(parts, [&](const Candidate &part) {
+               return part.match.commonCount() > 0 &&
+                      m_index.table(part.table).variables() ==
+                          m_index.table(parts.front().table).variables();
+           });
+}
+
 Candidates Search::partsByName() const
 {
     Candidates parts = ranked(m_index.withNameBegin(m_name));
@@ -153,11 +165,11 @@ Candidates Search::partsByName() const
     std::vector<int> rest = m_allRows;
     for (const Candidate &part : parts)
         std::erase_if(rest, [&part](int row) { return part.match.isHeld(row); });
-    if (2 * rest.size() <= m_allRows.size())
+    if (2 * rest.size() <= m_allRows.size() || arePartsOfOne(parts))
         return parts;
     const QString folder = folderInCatalog(m_path);
     std::erase_if(parts, [&](const Candidate &part) {
-        return folderInCatalog(m_index.path(part.table)) != folder || !part.match.isRelated();
+        return folderInCatalog(m_index.path(part.table)) != folder || !part.match.hasVariables();
     });
     return parts;
 }
@@ -211,12 +223,14 @@ Candidates Search::related(bool named) const
 std::optional<Candidate> Search::renamedCandidate(const Candidate &former) const
 {
     const LineCells &target = m_index.table(former.table);
-    if (former.match.commonCount() == 0 ||
+    const bool isNear = folderInCatalog(m_index.path(former.table)) == folderInCatalog(m_path);
+    if ((former.match.commonCount() == 0 && !isNear) ||
         former.match.commonCount() == int(m_cells.variables().size()))
         return std::nullopt;
     const auto lines = std::make_shared<const LineCells>(RuleProposals::renamed(m_cells, target));
     Candidate renamed{former.table, former.likeness, TableMatch(*lines, target), 0, lines};
-    return renamed.match.isRelated() ? std::optional(std::move(renamed)) : std::nullopt;
+    const bool isTaken = isNear ? renamed.match.hasVariables() : renamed.match.isRelated();
+    return isTaken ? std::optional(std::move(renamed)) : std::nullopt;
 }
 
 void Search::addSimilar(Candidates &candidates)
@@ -266,6 +280,37 @@ void Search::addParts(Candidates &candidates)
     }
 }
 
+std::vector<int> Search::runByColumns(const std::vector<int> &room) const
+{
+    const QString folder = folderInCatalog(m_path);
+    std::vector<int> tables = m_index.holders(m_cells, m_allRows, Compared);
+    for (const int table : m_index.inFolder(folder, Compared)) {
+        if (!std::ranges::count(tables, table))
+            tables.push_back(table);
+    }
+    std::erase_if(tables, [&](int table) { return 2 * room[size_t(table)] < m_cells.rowCount(); });
+    Candidates candidates;
+    for (const int table : tables) {
+        Candidate found = candidate(table);
+        if (!found.match.isRelated()) {
+            auto renamed = renamedCandidate(found);
+            if (!renamed)
+                continue;
+            found = std::move(*renamed);
+        }
+        found.score = found.match.columnShare();
+        if (found.score >= LeastColumns)
+            candidates.push_back(std::move(found));
+    }
+    std::ranges::sort(candidates, {}, &Candidate::rank);
+    std::vector<int> best;
+    for (const Candidate &found : candidates) {
+        if (best.size() < MaxSimilar && found.score >= candidates.front().score * AsGood)
+            best.push_back(found.table);
+    }
+    return best;
+}
+
 void Search::addOnlyHolders(Candidates &candidates)
 {
     const auto given = [this](const Candidate &c) {
@@ -294,6 +339,12 @@ void Search::addOnlyHolders(Candidates &candidates)
 std::vector<int> ProjectFinder::find(const QString &projectPath, const LineCells &cells) const
 {
     return Search(m_index, projectPath, cells).run();
+}
+
+std::vector<int> ProjectFinder::findByColumns(const QString &projectPath, const LineCells &cells,
+                                              const std::vector<int> &room) const
+{
+    return Search(m_index, projectPath, cells).runByColumns(room);
 }
 
 } // namespace VelkRelease

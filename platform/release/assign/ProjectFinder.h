@@ -24,8 +24,9 @@ public:
     /// Numbers of the tables in the index, best first:
     /// 1. the project with the same path below its catalog;
     /// 2. without one, those with the same name but for case and separators;
-    ///    without one, those whose names begin so, if they hold half of the lines together or lie
-    ///    in the same folder with the same variables;
+    ///    without one, those whose names begin so, if they hold half of the lines together, have
+    ///    all the same variables and some of the project's, or lie in the same folder with the
+    ///    project's variables;
     /// 3. without any of these, the projects that hold half of the lines, and those half as good
     ///    as the best of them, also with other names of some variables; then, as for a project that
     ///    was split, the ones that hold most of the rest, as long as they hold an eighth of all
@@ -33,6 +34,12 @@ public:
     /// 4. projects that alone in the release have lines equal to those that none of the above has.
     ///    A line whose key one of the above has was changed, not moved, and is not looked for.
     [[nodiscard]] std::vector<int> find(const QString &projectPath, const LineCells &cells) const;
+    /// For a project that has none of these: tables that have room for half of its lines, and the
+    /// values of its columns, though not in the same lines. Where some columns were reworded or
+    /// given in another unit, hardly any line is as it was. \a room: by table the lines that it
+    /// has beyond those of the projects that became it.
+    [[nodiscard]] std::vector<int> findByColumns(const QString &projectPath, const LineCells &cells,
+                                                 const std::vector<int> &room) const;
 
 private:
     const ReleaseIndex &m_index;

@@ -10,6 +10,12 @@ QString pathInCatalog(const QString &projectPath)
     return projectPath.mid(projectPath.indexOf('/') + 1);
 }
 
+QString folderInCatalog(const QString &projectPath)
+{
+    const QString path = pathInCatalog(projectPath);
+    return path.left(path.lastIndexOf('/') + 1);
+}
+
 QString foldedName(QStringView projectPath)
 {
     QStringView name = projectPath.mid(projectPath.lastIndexOf('/') + 1);

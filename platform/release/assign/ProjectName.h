@@ -11,6 +11,8 @@ namespace VelkRelease {
 
 /// The path without its first component, the catalog.
 [[nodiscard]] VELKRELEASE_EXPORT QString pathInCatalog(const QString &projectPath);
+/// The folder of a project below its catalog, with the slash at its end; empty for the catalog.
+[[nodiscard]] VELKRELEASE_EXPORT QString folderInCatalog(const QString &projectPath);
 /// The file name without extension, in lower case and without anything but letters and digits:
 /// "Bolts/DIN_931-A.prj" gives "din931a".
 [[nodiscard]] VELKRELEASE_EXPORT QString foldedName(QStringView projectPath);

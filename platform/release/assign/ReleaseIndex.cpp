@@ -42,6 +42,7 @@ int ReleaseIndex::add(const QString &projectPath, LineCells cells)
     m_names << foldedName(projectPath);
     m_byPath.insert(pathInCatalog(projectPath), number);
     m_byName.insert(m_names.last(), number);
+    m_byFolder.insert(folderInCatalog(projectPath), number);
     return number;
 }
 
@@ -89,6 +90,19 @@ std::vector<int> ReleaseIndex::withName(const QString &foldedName) const
     const auto [begin, end] = m_byName.equal_range(foldedName);
     for (auto it = begin; it != end; ++it)
         tables.push_back(*it);
+    std::ranges::sort(tables);
+    return tables;
+}
+
+std::vector<int> ReleaseIndex::inFolder(const QString &folderInCatalog, int limit) const
+{
+    std::vector<int> tables;
+    const auto [begin, end] = m_byFolder.equal_range(folderInCatalog);
+    for (auto it = begin; it != end; ++it) {
+        if (int(tables.size()) == limit)
+            return {};
+        tables.push_back(*it);
+    }
     std::ranges::sort(tables);
     return tables;
 }

@@ -36,6 +36,10 @@ public:
     /// goes on is another number.
     [[nodiscard]] std::vector<int> withNameBegin(const QString &foldedName) const;
 
+    /// Tables in a folder of the catalog, "" or one that ends with a slash, in ascending order;
+    /// none if these are more than \a limit.
+    [[nodiscard]] std::vector<int> inFolder(const QString &folderInCatalog, int limit) const;
+
     /// Tables that hold values of these lines, those that hold most of them first, \a limit at
     /// most. Values and lines that more than CommonLimit tables hold count for nothing; a table
     /// with less than a MinorShare-th of the best one's values is left out. Any thread.
@@ -57,6 +61,7 @@ private:
     QStringList m_names;
     QHash<QString, int> m_byPath;
     QMultiHash<QString, int> m_byName;
+    QMultiHash<QString, int> m_byFolder;
     std::vector<int> m_sortedNames; ///< Tables by their names.
     Postings m_values;
     Postings m_rows;

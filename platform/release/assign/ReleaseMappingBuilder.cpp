@@ -61,6 +61,7 @@ private:
     void takeMessages();
     /// By source project: the tables that can take over its lines.
     [[nodiscard]] std::vector<std::vector<int>> findTables() const;
+    void findByColumns(std::vector<std::vector<int>> &tables) const;
     [[nodiscard]] PrjMappingC mappingOf(const ReadProject &source,
                                         const std::vector<int> &tables) const;
     void addTargets(PrjMappingC &mapping, const std::vector<int> &tables) const;
@@ -157,15 +158,48 @@ std::vector<std::vector<int>> ReleaseMappingBuilder::Work::findTables() const
     std::vector<TargetOwners::Table> sources;
     sources.reserve(m_sources.size());
     for (const ReadProject &source : m_sources)
-        sources.push_back({foldedName(source.project.path), &source.cells});
+        sources.push_back(
+            {foldedName(source.project.path), pathInCatalog(source.project.path), &source.cells});
     std::vector<TargetOwners::Table> targets;
     targets.reserve(size_t(m_index.count()));
     for (int i = 0; i < m_index.count(); ++i)
-        targets.push_back({m_index.name(i), &m_index.table(i)});
+        targets.push_back({m_index.name(i), pathInCatalog(m_index.path(i)), &m_index.table(i)});
     const TargetOwners owners(sources, targets, found);
     std::vector<std::vector<int>> kept(m_sources.size());
     WorkerPool::instance().run(count, [&](int i) { kept[size_t(i)] = owners.withoutOthers(i); });
+    findByColumns(kept);
     return kept;
+}
+
+/// What other projects became has no room for one of another name: where the lines that a project
+/// has in common with such a table are all that speaks for it, tables with room come before it.
+void ReleaseMappingBuilder::Work::findByColumns(std::vector<std::vector<int>> &tables) const
+{
+    std::vector<int> room;
+    room.reserve(size_t(m_index.count()));
+    for (int table = 0; table < m_index.count(); ++table)
+        room.push_back(m_index.table(table).rowCount());
+    for (size_t i = 0; i < tables.size(); ++i) {
+        if (!tables[i].empty())
+            room[size_t(tables[i].front())] -= m_sources[i].cells.rowCount();
+    }
+    WorkerPool::instance().run(int(tables.size()), [&](int i) {
+        const ReadProject &source = m_sources[size_t(i)];
+        std::vector<int> &found = tables[size_t(i)];
+        const int rows = source.cells.rowCount();
+        const bool isNamed =
+            !found.empty() &&
+            m_index.name(found.front()).startsWith(foldedName(source.project.path));
+        if (isNamed || (!found.empty() && 2 * (room[size_t(found.front())] + rows) >= rows))
+            return;
+        std::vector<int> better =
+            ProjectFinder(m_index).findByColumns(source.project.path, source.cells, room);
+        for (const int table : found) {
+            if (!std::ranges::count(better, table))
+                better.push_back(table);
+        }
+        found = std::move(better);
+    });
 }
 
 PrjMappingC ReleaseMappingBuilder::Work::mappingOf(const ReadProject &source,

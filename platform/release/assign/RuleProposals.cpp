@@ -73,21 +73,12 @@ quint64 keyOf(const LineCells &cells, int row, const std::vector<int> &columns)
     return key;
 }
 
-std::vector<int> firsts(const std::vector<ColumnPair> &pairs)
+std::vector<int> columnsIn(const std::vector<ColumnPair> &pairs, int ColumnPair::*side)
 {
     std::vector<int> columns;
     columns.reserve(pairs.size());
     for (const ColumnPair &pair : pairs)
-        columns.push_back(pair.first);
-    return columns;
-}
-
-std::vector<int> seconds(const std::vector<ColumnPair> &pairs)
-{
-    std::vector<int> columns;
-    columns.reserve(pairs.size());
-    for (const ColumnPair &pair : pairs)
-        columns.push_back(pair.second);
+        columns.push_back(pair.*side);
     return columns;
 }
 
@@ -111,8 +102,8 @@ std::vector<std::pair<int, int>> equalRows(const LineCells &source, const LineCe
                                            const std::vector<ColumnPair> &columns)
 {
     std::vector<std::pair<int, int>> pairs;
-    const auto targets = uniqueRows(target, seconds(columns));
-    const std::vector<int> own = firsts(columns);
+    const auto targets = uniqueRows(target, columnsIn(columns, &ColumnPair::second));
+    const std::vector<int> own = columnsIn(columns, &ColumnPair::first);
     for (int row = 0; row < source.rowCount(); ++row) {
         const auto found = targets.find(keyOf(source, row, own));
         if (found != targets.end() && found->second >= 0)
@@ -139,49 +130,51 @@ double agreement(const LineCells &source, const LineCells &target,
     return several && !pairs.empty() ? double(agreeing) / double(pairs.size()) : 0;
 }
 
-std::vector<quint32> sortedValues(const LineCells &cells, int column)
-{
-    std::vector<quint32> values;
-    for (int row = 0; row < cells.rowCount(); ++row) {
-        if (cells.cell(row, column) != 0)
-            values.push_back(cells.cell(row, column));
-    }
-    std::sort(values.begin(), values.end());
-    return values;
-}
-
-/// Share of the values that both columns have, each as often as it stands there; 0 with less than
-/// three different ones.
+/// Share of the source's values that the other column has, each as often as it stands there; 0 with
+/// less than three different ones.
 double likeness(const LineCells &source, const LineCells &target, const ColumnPair &columns)
 {
-    const std::vector<quint32> a = sortedValues(source, columns.first);
-    const std::vector<quint32> b = sortedValues(target, columns.second);
+    const std::vector<quint32> a = source.sortedValues(columns.first);
+    const std::vector<quint32> b = target.sortedValues(columns.second);
     std::vector<quint32> both;
     std::set_intersection(a.begin(), a.end(), b.begin(), b.end(), std::back_inserter(both));
-    const size_t all = std::max(a.size(), b.size());
-    const double share = all == 0 ? 0 : double(both.size()) / double(all);
+    const double share = a.empty() ? 0 : double(both.size()) / double(a.size());
     both.erase(std::unique(both.begin(), both.end()), both.end());
     return both.size() < 3 ? 0 : share;
+}
+
+/// Values of a column that another one never has.
+int countStrange(const LineCells &cells, int column, const LineCells &other, int otherColumn)
+{
+    const std::vector<quint32> known = other.sortedValues(otherColumn);
+    const std::vector<quint32> values = cells.sortedValues(column);
+    return int(std::count_if(values.begin(), values.end(), [&known](quint32 value) {
+        return !std::binary_search(known.begin(), known.end(), value);
+    }));
+}
+
+/// The columns without those of which the target has hardly any value of the source: what was
+/// reworded does not tell equal lines.
+std::vector<ColumnPair> keptColumns(const LineCells &source, const LineCells &target,
+                                    std::vector<ColumnPair> columns)
+{
+    std::erase_if(columns, [&](const ColumnPair &pair) {
+        const auto count = double(source.sortedValues(pair.first).size());
+        return countStrange(source, pair.first, target, pair.second) > Agreeing * count;
+    });
+    return columns;
 }
 
 /// The columns without those in which many lines of the target have a value that the source never
 /// has: there the lines changed, and what is left tells where they went.
 std::vector<ColumnPair> unchangedColumns(const LineCells &source, const LineCells &target,
-                                         const std::vector<ColumnPair> &columns)
+                                         std::vector<ColumnPair> columns)
 {
-    std::vector<ColumnPair> unchanged;
-    for (const ColumnPair &pair : columns) {
-        const std::vector<quint32> known = sortedValues(source, pair.first);
-        int strange = 0;
-        for (int row = 0; row < target.rowCount(); ++row) {
-            const quint32 value = target.cell(row, pair.second);
-            if (value != 0 && !std::binary_search(known.begin(), known.end(), value))
-                ++strange;
-        }
-        if (strange <= (1 - MostLines) * target.rowCount())
-            unchanged.push_back(pair);
-    }
-    return unchanged;
+    std::erase_if(columns, [&](const ColumnPair &pair) {
+        return countStrange(target, pair.second, source, pair.first) >
+               (1 - MostLines) * target.rowCount();
+    });
+    return columns;
 }
 
 struct PairCandidate
@@ -210,8 +203,8 @@ std::vector<ColumnPair> clearOnes(const std::vector<PairCandidate> &candidates)
 int countHeld(const LineCells &source, const LineCells &target,
               const std::vector<ColumnPair> &columns)
 {
-    const auto targets = uniqueRows(target, seconds(columns));
-    const std::vector<int> own = firsts(columns);
+    const auto targets = uniqueRows(target, columnsIn(columns, &ColumnPair::second));
+    const std::vector<int> own = columnsIn(columns, &ColumnPair::first);
     int held = 0;
     for (int row = 0; row < source.rowCount(); ++row)
         held += targets.contains(keyOf(source, row, own)) ? 1 : 0;
@@ -247,7 +240,7 @@ std::vector<RuleProposals::Rename> RuleProposals::findRenames(const LineCells &t
                 candidates.push_back({columns, score});
         }
     }
-    std::vector<ColumnPair> all = common;
+    std::vector<ColumnPair> all = aligned ? common : keptColumns(m_source, target, common);
     std::vector<Rename> renames;
     for (const ColumnPair &columns : clearOnes(candidates)) {
         all.push_back(columns);
@@ -309,10 +302,10 @@ RuleProposals::Parting RuleProposals::part(int column) const
         columns = unchangedColumns(m_source, *m_targets[t], columns);
         std::unordered_map<quint64, std::vector<int>> rows;
         for (int row = 0; row < m_targets[t]->rowCount(); ++row)
-            rows[keyOf(*m_targets[t], row, seconds(columns))].push_back(row);
+            rows[keyOf(*m_targets[t], row, columnsIn(columns, &ColumnPair::second))].push_back(row);
         for (auto &value : holders)
             value[t].resize(size_t(m_targets[t]->rowCount()));
-        const std::vector<int> own = firsts(columns);
+        const std::vector<int> own = columnsIn(columns, &ColumnPair::first);
         for (int row = 0; row < m_source.rowCount(); ++row) {
             const quint64 key = keyOf(m_source, row, own);
             const auto found = key == 0 ? rows.end() : rows.find(key);

@@ -35,8 +35,9 @@ public:
 
     /// Variables of the source that the target lacks, each with one that the source lacks: they
     /// have the same values in the lines that are equal in all other variables that both have. If
-    /// there are too few such lines, the values of both columns must be the same ones, and then
-    /// most lines equal. In the order of the source's variables.
+    /// there are too few such lines, the new column must have the values of the old one, and then
+    /// most lines must be equal but for variables that were reworded. In the order of the source's
+    /// variables.
     [[nodiscard]] const std::vector<Rename> &renames(int target) const
     {
         return m_renames[size_t(target)];

@@ -4,10 +4,16 @@
 
 #include <algorithm>
 #include <bit>
+#include <iterator>
 
 namespace VelkRelease {
 
 namespace {
+
+/// A variable with fewer values says little about which table it is.
+constexpr size_t SeveralValues = 3;
+/// Share of a variable's values that is most of them.
+constexpr double MostOfColumn = 0.8;
 
 quint64 sumOver(const LineCells &cells, int row, const std::vector<int> &columns)
 {
@@ -154,6 +160,29 @@ void TableMatch::findNearLines()
 bool TableMatch::isRelated() const
 {
     return commonCount() >= 2 && 2 * commonCount() >= int(m_source->variables().size());
+}
+
+bool TableMatch::hasVariables() const
+{
+    return isRelated() || (commonCount() > 0 && commonCount() == int(m_source->variables().size()));
+}
+
+double TableMatch::columnShare() const
+{
+    double sum = 0;
+    double best = 0;
+    for (size_t i = 0; i < m_sourceColumns.size(); ++i) {
+        const std::vector<quint32> mine = m_source->sortedValues(m_sourceColumns[i]);
+        const std::vector<quint32> theirs = m_target->sortedValues(m_targetColumns[i]);
+        std::vector<quint32> both;
+        std::ranges::set_intersection(mine, theirs, std::back_inserter(both));
+        const double share = ratio(double(both.size()), double(mine.size()));
+        sum += share;
+        both.erase(std::unique(both.begin(), both.end()), both.end());
+        if (both.size() >= SeveralValues)
+            best = std::max(best, share);
+    }
+    return best >= MostOfColumn ? ratio(sum, double(m_source->variables().size())) : 0;
 }
 
 double TableMatch::heldShare(int sourceRow) const

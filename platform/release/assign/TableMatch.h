@@ -40,6 +40,12 @@ public:
     /// How well the target could take over these lines, 0 to 1: the share of their values that it
     /// holds, the share of its variables that the source has, the likeness of the numbers of lines.
     [[nodiscard]] double score(const std::vector<int> &sourceRows) const;
+    /// Whether the target has all variables of the source, or else half of them, two at least.
+    [[nodiscard]] bool hasVariables() const;
+    /// Share of the values of the source that the target has in the same variables, whatever the
+    /// lines: the mean over all variables of the source. 0 unless most of those are there of one
+    /// variable with several values.
+    [[nodiscard]] double columnShare() const;
     /// Whether any line has an equal line or its key in the target.
     [[nodiscard]] bool anyFound() const;
 

@@ -25,6 +25,7 @@ TargetOwners::TargetOwners(const std::vector<Table> &sources, const std::vector<
 std::vector<int> TargetOwners::withoutOthers(int source) const
 {
     std::vector<int> tables = m_found[size_t(source)];
+    std::erase_if(tables, [&](int table) { return isNamesake(source, table); });
     if (tables.size() < 2)
         return tables;
     const auto gone = std::remove_if(tables.begin() + 1, tables.end(),
@@ -37,6 +38,19 @@ std::vector<int> TargetOwners::withoutOthers(int source) const
         !hasOwnLine(source, tables.front()))
         tables.erase(tables.begin());
     return tables;
+}
+
+/// Of another project that stood there before; the two have no line in common.
+bool TargetOwners::isNamesake(int source, int target) const
+{
+    const Table &project = m_sources[size_t(source)];
+    const Table &table = m_targets[size_t(target)];
+    if (project.name != table.name || project.place == table.place)
+        return false;
+    const auto &owners = m_owners[size_t(target)];
+    return std::ranges::any_of(
+               owners, [&](int owner) { return m_sources[size_t(owner)].place == table.place; }) &&
+           !TableMatch(*project.cells, *table.cells).anyFound();
 }
 
 bool TargetOwners::holdsMost(int source, int target) const

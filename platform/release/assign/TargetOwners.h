@@ -18,7 +18,8 @@ class VELKRELEASE_EXPORT TargetOwners
 public:
     struct Table
     {
-        QString name; ///< Of the project, folded.
+        QString name;  ///< Of the project, folded.
+        QString place; ///< Its path below the catalog.
         const LineCells *cells = nullptr;
     };
     /// \a found: by source project the numbers of the tables that can take over its lines, best
@@ -30,10 +31,12 @@ public:
     /// Those of found that have a line of the project that no owner of theirs has had before, and
     /// those whose name is at least as near to the project's as to the owner's. The best one stays
     /// in any case, unless it has another name and another of these holds most lines, whatever the
-    /// variables are called. Any thread.
+    /// variables are called. One that only has the project's name does not stay if it stands where
+    /// its owner stood, and the project elsewhere. Any thread.
     [[nodiscard]] std::vector<int> withoutOthers(int source) const;
 
 private:
+    [[nodiscard]] bool isNamesake(int source, int target) const;
     [[nodiscard]] bool hasOwnLine(int source, int target) const;
     [[nodiscard]] bool holdsMost(int source, int target) const;
 

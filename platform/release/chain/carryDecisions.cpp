@@ -2,6 +2,7 @@
 
 #include "chainReleases.h"
 
+#include <geomcore/records/MappingFile.h>
 #include <release/assign/ReleaseAssigner.h>
 #include <release/assign/ReleaseMappingBuilder.h>
 
@@ -112,6 +113,29 @@ private:
     QHash<TargetLine, int> m_counts;
 };
 
+/// Everything about what was confirmed but what depends on the later release.
+void countConfirmed(const PrjMappingC &from, const ReleaseMappingC &release, CarryOutcome &outcome)
+{
+    const int position =
+        release.findPosition(from.getSourcePath(), from.getSourceVersion(), QString());
+    const PrjMappingC mapping = position < 0 ? PrjMappingC() : release.mappingAt(position);
+    for (const PrjMappingTargetC &target : from.getTargets()) {
+        for (const LineTable::Iterator &entry : target.lines()) {
+            if (entry.state() != PRJMAPPING::Verified)
+                continue;
+            ++outcome.confirmed;
+            if (entry.conflict())
+                ++outcome.clashing;
+            else if (entry.targetLine() < 0 || target.isNotFoundTarget())
+                ++outcome.expired;
+            else if (position < 0)
+                ++outcome.unknown;
+            else if (!mayBeReplaced(mapping, entry.sourceLine()))
+                ++outcome.settled;
+        }
+    }
+}
+
 /// Lines of one project that a chain proposes.
 struct Proposal
 {
@@ -138,22 +162,46 @@ void addProposals(std::vector<Proposal> &proposals, const PrjMappingC &mapping, 
 
 } // namespace
 
-ReleaseMappingC followingRelease(const ReleaseMappingC &former, const QString &formerRoot,
-                                 const ReleaseMappingC &release, const QString &targetRoot,
-                                 const std::atomic<bool> &cancelled, QStringList &errors)
+FormerMapping readFormerMapping(const QString &file, const ReleaseMappingC &release)
 {
+    FormerMapping former;
+    const QString date = release.getSourceDate();
+    MappingFile reader;
+    if (!reader.read(file, date, &former.error)) {
+        former.fault = FormerFault::Unreadable;
+    } else if (!reader.contains(date)) {
+        former.fault = FormerFault::OtherSource;
+    } else {
+        former.release = reader.release(date);
+        if (former.release.getTargetDate() == release.getTargetDate())
+            former.fault = FormerFault::SameTarget;
+    }
+    return former;
+}
+
+std::optional<ReleaseMappingC> followingRelease(const ReleaseMappingC &former,
+                                                const ReleaseMappingC &release,
+                                                const FollowingOptions &options,
+                                                QStringList &errors)
+{
+    static const std::atomic<bool> never = false;
+    const std::atomic<bool> &cancelled = options.cancelled ? *options.cancelled : never;
     const QStringList wanted = targetPaths(former);
     const QStringList catalogs = targetCatalogs(release);
     ReleaseMappingC following;
     following.setSourceDate(former.getTargetDate());
     following.setTargetDate(release.getTargetDate());
     for (const QString &catalog : targetCatalogs(former)) {
-        if (catalogs.isEmpty() || cancelled)
-            return {};
-        ReleaseMappingBuilder builder({formerRoot, targetRoot, catalog,
+        if (cancelled)
+            return std::nullopt;
+        if (catalogs.isEmpty())
+            break;
+        ReleaseMappingBuilder builder({options.formerRoot, options.targetRoot, catalog,
                                        catalogs.contains(catalog) ? catalog : catalogs.first(),
-                                       former.getTargetDate(), release.getTargetDate(), QString()});
-        (void)builder.build();
+                                       former.getTargetDate(), release.getTargetDate(),
+                                       options.progressText});
+        if (builder.build() == ReleaseMappingBuilder::Outcome::Cancelled)
+            return std::nullopt;
         errors += builder.messages();
         const ReleaseMappingC &built = builder.release();
         for (int i = 0; i < built.countMappings(); ++i) {
@@ -161,15 +209,24 @@ ReleaseMappingC followingRelease(const ReleaseMappingC &former, const QString &f
                 following.appendMapping(built.mappingAt(i));
         }
     }
-    ReleaseAssigner assigner(formerRoot);
+    ReleaseAssigner assigner(options.formerRoot);
+    assigner.setObserver([&options](const ReleaseAssigner::Progress &now) {
+        if (options.tell)
+            options.tell(now.projects, now.totalProjects);
+    });
     (void)assigner.run(following, cancelled);
     errors += assigner.errors();
-    return cancelled ? ReleaseMappingC() : following;
+    if (cancelled)
+        return std::nullopt;
+    return following;
 }
 
-std::vector<CarriedLine> carryDecisions(ReleaseMappingC &release, const ReleaseMappingC &former,
-                                        const ReleaseMappingC &following)
+CarryOutcome carryDecisions(ReleaseMappingC &release, const ReleaseMappingC &former,
+                            const ReleaseMappingC &following)
 {
+    CarryOutcome outcome;
+    for (int i = 0; i < former.countMappings(); ++i)
+        countConfirmed(former.mappingAt(i), release, outcome);
     ReleaseMappingC settled = former.head();
     for (int i = 0; i < former.countMappings(); ++i)
         settled.appendMapping(settledOf(former.mappingAt(i)));
@@ -188,8 +245,7 @@ std::vector<CarriedLine> carryDecisions(ReleaseMappingC &release, const ReleaseM
     std::stable_sort(proposals.begin(), proposals.end(), [](const Proposal &a, const Proposal &b) {
         return std::pair(a.position, a.line) < std::pair(b.position, b.line);
     });
-    std::vector<CarriedLine> carried;
-    carried.reserve(proposals.size());
+    outcome.lines.reserve(proposals.size());
     for (const Proposal &proposal : proposals) {
         PrjMappingC mapping = release.mappingAt(proposal.position);
         const int index = indexOfTarget(mapping, proposal.target);
@@ -209,10 +265,12 @@ std::vector<CarriedLine> carryDecisions(ReleaseMappingC &release, const ReleaseM
             mapping.removeTarget(notFound);
         mapping.updateMappingState();
         release.addMapping(mapping);
-        carried.push_back(
-            {mapping.getSourcePath(), proposal.line, path, proposal.targetLine, isCertain});
+        outcome.lines.push_back({mapping.getSourcePath(), mapping.getSourceVersion(), proposal.line,
+                                 path, proposal.targetLine, isCertain});
     }
-    return carried;
+    outcome.unfollowed = outcome.confirmed - int(outcome.lines.size()) - outcome.expired -
+                         outcome.clashing - outcome.unknown - outcome.settled;
+    return outcome;
 }
 
 } // namespace VelkRelease

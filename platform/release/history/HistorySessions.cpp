@@ -84,4 +84,10 @@ QByteArray HistorySessions::rowsBeyond(const HistorySessions &others) const
     return rows;
 }
 
+QString HistorySessions::stepKey(const QByteArray &opening, int number)
+{
+    return QStringLiteral("%1.%2").arg(QString::number(JournalRow::checksum(opening), 16),
+                                       QString::number(number));
+}
+
 } // namespace VelkRelease

@@ -24,6 +24,8 @@ public:
     /// False with \a error if the file cannot be read, or is none.
     [[nodiscard]] bool add(const QString &file, QString *error);
     [[nodiscard]] const QList<Session> &sessions() const { return m_sessions; }
+    /// Names a step for other records, by the first record of its session and its number there.
+    [[nodiscard]] static QString stepKey(const QByteArray &opening, int number);
     [[nodiscard]] int damagedRows() const { return m_damaged; }
     /// What these have and the others do not, as journal rows.
     [[nodiscard]] QByteArray rowsBeyond(const HistorySessions &others) const;

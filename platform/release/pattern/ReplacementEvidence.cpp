@@ -31,23 +31,6 @@ bool maps(const AgreedReplacement &replacement, QStringView before, QStringView 
     return std::abs(mapped - *to) <= 1e-9 * std::max(std::abs(mapped), std::abs(*to));
 }
 
-/// The text stands there, not inside of a word or number.
-bool hasToken(const QString &text, const QString &token)
-{
-    if (token.isEmpty())
-        return false;
-    const auto parted = [](QChar a, QChar b) {
-        return !((a.isDigit() && b.isDigit()) || (a.isLetter() && b.isLetter()));
-    };
-    for (qsizetype at = text.indexOf(token); at >= 0; at = text.indexOf(token, at + 1)) {
-        const qsizetype end = at + token.size();
-        if ((at == 0 || parted(text[at - 1], token.front())) &&
-            (end == text.size() || parted(token.back(), text[end])))
-            return true;
-    }
-    return false;
-}
-
 Verdict verdictOf(const AgreedReplacement &replacement, const ComparedVariableC &value)
 {
     const QString &before = value.oldValue;
@@ -63,8 +46,8 @@ Verdict verdictOf(const AgreedReplacement &replacement, const ComparedVariableC 
     if (supports ||
         (!replacement.isNumeric() && before == replacement.before && after == replacement.after))
         return Verdict::Supports;
-    const bool concerned = replacement.isNumeric() ? numberOf(before).has_value()
-                                                   : hasToken(before, replacement.before);
+    const bool concerned =
+        replacement.isNumeric() ? numberOf(before).has_value() : replacement.isFoundIn(before);
     return concerned ? Verdict::Contradicts : Verdict::Unconcerned;
 }
 

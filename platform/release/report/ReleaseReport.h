@@ -42,6 +42,17 @@ struct ReleaseReport
         int judged = 0;
         int right = 0;
         std::optional<double> bound; ///< share of wrong lines at most; nothing: refused
+        QStringList drawn;           ///< "cat/a.prj:17", those that were judged, in that order
+    };
+    /// Decisions that were taken over from a former mapping, and not taken back.
+    struct Carried
+    {
+        QDateTime time;
+        QString who;
+        QString former; ///< its file, without the folder
+        QString formerTarget;
+        int lines = 0;
+        int standing = 0; ///< of them, those that are still as they were taken over
     };
     /// Who decided on something: a step of the editor.
     struct Decision
@@ -64,6 +75,7 @@ struct ReleaseReport
     std::vector<OpenLine> openLines; ///< in the order of the release
     std::vector<GoneLine> goneLines; ///< those that are confirmed to have no successor
     std::vector<Sample> samples;
+    std::vector<Carried> carried;
     std::vector<Decision> decisions;
     QStringList errors; ///< what could not be read
 

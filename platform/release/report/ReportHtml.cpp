@@ -20,6 +20,23 @@ constexpr const char *style =
     "th, td { padding: 2px 6px; vertical-align: top; }\n"
     "td.n, th.n { text-align: right; }\n";
 
+/// "cat/a.prj:3, 17; cat/b.prj:2" of places that are told one after the other.
+QString placesText(const QStringList &places)
+{
+    QString text;
+    QString project;
+    for (const QString &place : places) {
+        const qsizetype colon = place.lastIndexOf(u':');
+        const QString own = place.left(colon);
+        const bool goesOn = !text.isEmpty() && own == project;
+        text += goesOn           ? QStringLiteral(", ") + place.mid(colon + 1)
+                : text.isEmpty() ? place
+                                 : QStringLiteral("; ") + place;
+        project = own;
+    }
+    return text;
+}
+
 /// Writes a report piece by piece.
 class HtmlWriter
 {
@@ -59,7 +76,12 @@ private:
     void writeNumbers(const ReportNumbers &numbers);
     void writeReasons();
     void writePatterns();
+    void writeGoneGroups();
+    void writePattern(int pattern);
+    void writeExamples(int pattern);
+    void writeSum(int lines, int columns);
     void writeSamples();
+    void writeCarried();
     void writeDecisions();
     void writeOpenLines();
     void writeGoneLines();
@@ -187,14 +209,49 @@ void HtmlWriter::writeReasons()
 
 QString HtmlWriter::patternText(int pattern) const
 {
-    if (!m_report.patterns.isComparable(pattern))
+    const DifferencePatterns &patterns = m_report.patterns;
+    if (!patterns.isComparable(pattern))
         return text(ReportText::NotComparable);
-    QStringList texts;
-    for (const ValueChange &change : m_report.patterns.changes(pattern))
-        texts << change.text(m_form.changes);
-    const QString changes =
-        texts.isEmpty() ? text(ReportText::NoDifference) : texts.join(QStringLiteral("; "));
-    return m_report.patterns.isDoubtful(pattern) ? text(ReportText::InDoubt).arg(changes) : changes;
+    QString told;
+    if (const std::optional<GoneGroup> &gone = patterns.gone(pattern)) {
+        told = gone->text(m_form.goneGroups);
+    } else {
+        QStringList texts;
+        for (const ValueChange &change : patterns.changes(pattern))
+            texts << change.text(m_form.changes);
+        told = texts.isEmpty() ? text(ReportText::NoDifference) : texts.join(QStringLiteral("; "));
+    }
+    return patterns.isDoubtful(pattern) ? text(ReportText::InDoubt).arg(told) : told;
+}
+
+/// Text, lines, projects and probability.
+void HtmlWriter::writePattern(int pattern)
+{
+    const DifferencePatterns::Numbers numbers = m_report.patterns.numbers(pattern);
+    cell(patternText(pattern));
+    number(numbers.lines);
+    number(numbers.projects);
+    number(QString::number(numbers.probability, 'f', 2));
+}
+
+void HtmlWriter::writeExamples(int pattern)
+{
+    QStringList examples;
+    for (const DifferencePatterns::Place &place : m_report.patterns.places(pattern, ExampleCount))
+        examples << m_report.placeText(place.project, place.line);
+    cell(examples.join(QStringLiteral(", ")));
+}
+
+/// Below rows whose second column says lines: of all rows, also of those that a long list leaves
+/// out.
+void HtmlWriter::writeSum(int lines, int columns)
+{
+    if (lines == 0)
+        return;
+    m_out << "<tr>";
+    cell(text(ReportText::InAll));
+    number(lines);
+    m_out << "<td colspan=\"" << columns - 2 << "\"></td></tr>\n";
 }
 
 void HtmlWriter::writePatterns()
@@ -210,18 +267,29 @@ void HtmlWriter::writePatterns()
     m_out << "</tr>\n";
     const std::vector<int> ranked = m_report.patterns.ranked();
     rows(ranked.size(), 6, [&](std::size_t i) {
-        const DifferencePatterns::Numbers numbers = m_report.patterns.numbers(ranked[i]);
-        cell(patternText(ranked[i]));
-        number(numbers.lines);
-        number(numbers.projects);
-        number(QString::number(numbers.probability, 'f', 2));
-        number(numbers.exceptions);
-        QStringList examples;
-        for (const DifferencePatterns::Place &place :
-             m_report.patterns.places(ranked[i], ExampleCount))
-            examples << m_report.placeText(place.project, place.line);
-        cell(examples.join(QStringLiteral(", ")));
+        writePattern(ranked[i]);
+        number(m_report.patterns.numbers(ranked[i]).exceptions);
+        writeExamples(ranked[i]);
     });
+    writeSum(m_report.patterns.openLines(), 6);
+    endTable();
+}
+
+void HtmlWriter::writeGoneGroups()
+{
+    heading(ReportText::GoneGroupHead);
+    beginTable();
+    m_out << "<tr>";
+    headCells({ReportText::GoneGroup});
+    headCells({ReportText::Lines, ReportText::Projects, ReportText::Probability}, true);
+    headCells({ReportText::Examples});
+    m_out << "</tr>\n";
+    const std::vector<int> ranked = m_report.patterns.rankedGone();
+    rows(ranked.size(), 5, [&](std::size_t i) {
+        writePattern(ranked[i]);
+        writeExamples(ranked[i]);
+    });
+    writeSum(m_report.patterns.goneLines(), 5);
     endTable();
 }
 
@@ -232,8 +300,9 @@ void HtmlWriter::writeSamples()
     m_out << "<tr>";
     headCells({ReportText::Time, ReportText::Who});
     headCells({ReportText::Lines, ReportText::Judged, ReportText::Right, ReportText::Bound}, true);
+    headCells({ReportText::Drawn});
     m_out << "</tr>\n";
-    rows(m_report.samples.size(), 6, [&](std::size_t i) {
+    rows(m_report.samples.size(), 7, [&](std::size_t i) {
         const ReleaseReport::Sample &sample = m_report.samples[i];
         cell(m_form.time(sample.time));
         cell(sample.judge);
@@ -244,6 +313,26 @@ void HtmlWriter::writeSamples()
         number(sample.bound ? QString::number(std::ceil(*sample.bound * 1000) / 10, 'f', 1) +
                                   QStringLiteral(" %")
                             : text(ReportText::Refused));
+        cell(placesText(sample.drawn));
+    });
+    endTable();
+}
+
+void HtmlWriter::writeCarried()
+{
+    heading(ReportText::CarriedHead);
+    beginTable();
+    m_out << "<tr>";
+    headCells({ReportText::Time, ReportText::Who, ReportText::Former});
+    headCells({ReportText::Lines, ReportText::Standing}, true);
+    m_out << "</tr>\n";
+    rows(m_report.carried.size(), 5, [&](std::size_t i) {
+        const ReleaseReport::Carried &carried = m_report.carried[i];
+        cell(m_form.time(carried.time));
+        cell(carried.who);
+        cell(QStringLiteral("%1 (%2)").arg(carried.former, carried.formerTarget));
+        number(carried.lines);
+        number(carried.standing);
     });
     endTable();
 }
@@ -318,7 +407,9 @@ QString HtmlWriter::write()
     writeParts(ReportText::FolderHead, ReportText::Folder, m_report.folders);
     writeParts(ReportText::ProjectHead, ReportText::Project, m_report.projects);
     writePatterns();
+    writeGoneGroups();
     writeSamples();
+    writeCarried();
     writeDecisions();
     writeOpenLines();
     writeGoneLines();

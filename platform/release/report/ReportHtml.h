@@ -15,7 +15,9 @@ enum class ReportText : quint8 {
     ProjectHead,
     ReasonHead,
     PatternHead,
+    GoneGroupHead,
     SampleHead,
+    CarriedHead,
     DecisionHead,
     OpenHead,
     GoneHead,
@@ -33,6 +35,7 @@ enum class ReportText : quint8 {
     Designation,
     Reason,
     Pattern,
+    GoneGroup,
     Projects,
     Probability,
     Exceptions,
@@ -43,11 +46,15 @@ enum class ReportText : quint8 {
     Judged,
     Right,
     Bound,
+    Drawn,
+    Former,        ///< a mapping from which decisions were taken over
+    Standing,      ///< lines that are still as they were taken over
     Refused,       ///< of a sample
     TableError,    ///< behind a project whose table could not be read
     NotComparable, ///< of a pattern
     NoDifference,  ///< of a pattern
-    InDoubt,       ///< "in doubt: %1", of a pattern
+    InDoubt,       ///< "in doubt: %1", of a pattern or group
+    InAll,         ///< of the row with the sum of patterns or groups
     Nothing,       ///< of a section without entries
     More,          ///< "and %1 more"
     Count
@@ -59,6 +66,7 @@ struct ReportForm
     std::function<QString(ReportText)> text;
     std::function<QString(OpenReason)> reason; ///< in a few words
     ValueChange::Words changes;
+    GoneGroup::Words goneGroups;
     /// A time for people.
     std::function<QString(const QDateTime &)> time;
     QString language = QStringLiteral("en"); ///< a BCP 47 tag

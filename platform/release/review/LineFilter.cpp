@@ -8,7 +8,7 @@ namespace VelkRelease {
 
 namespace {
 
-constexpr std::array traitNames{"state", "reason", "difference", "column", "author"};
+constexpr std::array traitNames{"state", "reason", "difference", "column", "author", "origin"};
 static_assert(traitNames.size() == LineTraitCount);
 
 } // namespace

@@ -21,8 +21,9 @@ enum class LineTrait : quint8 {
                 ///< "incomparable"; several may hold for a line
     Column,     ///< variables in which it differs from its proposal
     Author,     ///< who decided on it last
+    Origin,     ///< "carried": over from a former mapping, and still as it was carried over
 };
-inline constexpr int LineTraitCount = 5;
+inline constexpr int LineTraitCount = 6;
 
 /// What became of an entry of a line, in the order of urgency. An entry in conflict is only that.
 enum class LineState : quint8 { Conflict, ToCheck, NotFound, Proposed, Confirmed, Expired };

@@ -224,12 +224,33 @@ void LineTraits::addAuthors(const ReleaseMappingC &release, const QString &mappi
     }
 }
 
+void LineTraits::setCarried(const CarriedLines &carried)
+{
+    m_carried = carried;
+    for (Project &project : m_projects)
+        readOrigins(project);
+}
+
+/// A line that leads elsewhere by now is carried over no longer.
+void LineTraits::readOrigins(Project &project)
+{
+    for (Row &row : project.rows)
+        row.sets[std::size_t(LineTrait::Origin)] = 0;
+    const quint16 carried = setOf(LineTrait::Origin, {QStringLiteral("carried")});
+    for (const int line : m_carried.linesOf(project.mapping)) {
+        if (Row *const row = find(project, line))
+            row->sets[std::size_t(LineTrait::Origin)] = carried;
+    }
+}
+
 void LineTraits::setMapping(int position, const PrjMappingC &mapping, const QString &author)
 {
     Project &project = m_projects[std::size_t(position)];
     const PrjMappingC former = project.mapping;
     project.mapping = mapping;
     readStates(project);
+    if (!m_carried.isEmpty())
+        readOrigins(project);
     static const PrjMappingTargetC none;
     const quint16 set = setOf(LineTrait::Author, {author});
     for (int i = 0; i < qMax(former.countTargets(), mapping.countTargets()); ++i) {

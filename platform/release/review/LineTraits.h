@@ -4,6 +4,7 @@
 #include "OpenReason.h"
 
 #include <geomcore/records/ReleaseMappingC.h>
+#include <release/history/CarriedHistory.h>
 
 #include <QHash>
 
@@ -30,6 +31,8 @@ public:
                                                            const OpenReasonOptions &options,
                                                            const QString &mappingFile,
                                                            QStringList *errors);
+    /// What was taken over from former mappings; nothing at first.
+    void setCarried(const CarriedLines &carried);
     /// A project's mapping is another one now; \a author decided on the lines that differ. Costs
     /// what the project has.
     void setMapping(int project, const PrjMappingC &mapping, const QString &author);
@@ -64,6 +67,7 @@ private:
     void addDifferences(const DifferencePatterns &patterns);
     void addAuthors(const ReleaseMappingC &release, const QString &mappingFile,
                     QStringList *errors);
+    void readOrigins(Project &project);
     [[nodiscard]] quint16 setOf(LineTrait trait, const QStringList &values);
     [[nodiscard]] static Row *find(Project &project, int line);
     [[nodiscard]] Sets shown(const Row &row) const;
@@ -72,6 +76,7 @@ private:
     std::array<std::vector<QStringList>, LineTraitCount> m_sets; ///< the first is the empty one
     std::array<QHash<QStringList, quint16>, LineTraitCount> m_numbers;
     std::array<quint16, LineStateCount> m_states{}; ///< their numbers
+    CarriedLines m_carried;
 };
 
 } // namespace VelkRelease

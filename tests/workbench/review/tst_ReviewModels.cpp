@@ -48,6 +48,28 @@ DifferencePatterns samplePatterns()
              {{pairOf(1, "x", "y", 1), pairOf(2, "u", "v", 0.999)}, {}}}};
 }
 
+/// The same, and lines without a successor: two lost a value, one is alone.
+DifferencePatterns patternsWithGone()
+{
+    ReleaseMappingC release;
+    PrjMappingC mapping = proposed("cat/a.prj", 2);
+    mapping.addTarget("", QString());
+    mapping.changeTarget(1, [](PrjMappingTargetC &target) {
+        for (const int line : {3, 4, 5})
+            target.addLineId(line, -1, PRJMAPPING::ToCheck, QString());
+    });
+    release.addMapping(mapping);
+    const auto gone = [](int line, const QString &value, double probability) {
+        OpenPair pair{line, -1, -1, probability, {}, true, {}};
+        pair.gone = VelkRelease::GoneSigns{false, {{"FK", value}}};
+        return pair;
+    };
+    return {release,
+            {{{pairOf(1, "x", "y", 0.92), pairOf(2, "u", "v", 0.92), gone(3, "5.6", 0.95),
+               gone(4, "5.6", 0.99), gone(5, "4.8", 0.5)},
+              {}}}};
+}
+
 QString textOf(const QAbstractItemModel &model)
 {
     QStringList rows;
@@ -69,6 +91,7 @@ class tst_ReviewModels : public QObject
 private Q_SLOTS:
     void patterns();
     void patternsFollowDecisions();
+    void goneGroupsComeLast();
     void differences();
     void candidates();
     void marksAreSeen();
@@ -123,6 +146,38 @@ void tst_ReviewModels::patternsFollowDecisions()
     QCOMPARE(model.rowCount(), 3);
     QCOMPARE(model.lineCount(), 6);
     QCOMPARE(reset.count(), 0);
+}
+
+/// Even where they have more lines. The sum is that of both.
+void tst_ReviewModels::goneGroupsComeLast()
+{
+    DifferencePatterns patterns = patternsWithGone();
+    PatternModel model;
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setPatterns(&patterns);
+    QCOMPARE(textOf(model), "W: anderer Wortlaut|2|1|92 %|0\n"
+                            "FK: 5.6 gibt es nicht mehr|2|1|97 %|0\n"
+                            "unsicher: keine ähnliche Zeile: cat|1|1|50 %|0");
+    QCOMPARE(patterns.openLines(), 2);
+    QCOMPARE(patterns.goneLines(), 3);
+    QCOMPARE(model.lineCount(), 5);
+    QVERIFY(model.index(1, 0)
+                .data(Qt::ToolTipRole)
+                .toString()
+                .startsWith("FK: 5.6 gibt es nicht mehr\n"));
+    PrjMappingC mapping = proposed("cat/a.prj", 2);
+    mapping.addTarget("", QString());
+    mapping.changeTarget(1, [](PrjMappingTargetC &target) {
+        for (const int line : {3, 4})
+            target.addLineId(line, -1, PRJMAPPING::Verified, QString());
+        target.addLineId(5, -1, PRJMAPPING::ToCheck, QString());
+    });
+    patterns.setMapping(0, mapping);
+    model.update();
+    QCOMPARE(textOf(model), "W: anderer Wortlaut|2|1|92 %|0\n"
+                            "unsicher: keine ähnliche Zeile: cat|1|1|50 %|0");
+    QCOMPARE(model.lineCount(), 3);
 }
 
 void tst_ReviewModels::differences()

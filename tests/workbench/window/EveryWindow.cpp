@@ -6,6 +6,7 @@
 #include <formula/DlgFormulaEditor.h>
 #include <geomcore/linkdb/PLinkDbC.h>
 #include <geomcore/records/ReleaseMappingC.h>
+#include <geomcoregui/table/VkTableView.h>
 #include <selection/dlgSearchSelect.h>
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorSearch.h>
@@ -33,11 +34,14 @@
 #include <workbench/window/RepositoryLoginDialog.h>
 #include <workbench/window/ReviewCommands.h>
 #include <workbench/window/SettingsDialog.h>
+#include <workbench/window/ShareCommands.h>
 #include <workbench/window/StepListDialog.h>
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <QAction>
+#include <QDir>
 #include <QDockWidget>
+#include <QTableView>
 
 namespace {
 
@@ -45,12 +49,29 @@ const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
 
 using Show = EveryWindow::Show;
 
+void openMapping(WindowFixture &fixture)
+{
+    if (!fixture.window->desk()->document()->isOpen())
+        fixture.open(fixture.mappingFile());
+    QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+}
+
+/// Of the dialogs that open one after another when somebody does that.
+void showInTurn(const std::function<void()> &act, int dialogs,
+                const std::function<void(QWidget *, int)> &look)
+{
+    ModalScript script;
+    for (int i = 0; i < dialogs; ++i)
+        script.then([&look, i](QWidget *dialog) { look(dialog, i); });
+    act();
+    QVERIFY(script.isDone());
+}
+
 /// Of a dialog that a command opens.
 Show byCommand(const char *action)
 {
     return [action](WindowFixture &fixture, const std::function<void(QWidget *)> &look) {
-        fixture.open(fixture.mappingFile());
-        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        openMapping(fixture);
         ModalScript script;
         script.then([&](QWidget *dialog) {
             look(dialog);
@@ -71,6 +92,48 @@ Show byHand(const std::function<QWidget *(WindowFixture &)> &make)
     };
 }
 
+/// How many lines are drawn, and how to go on after a wrong one.
+void showSample(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    openMapping(fixture);
+    const ReviewWork *const work = fixture.window->review()->work();
+    if (!work->isWanted())
+        fixture.action("reviewPatterns")->trigger();
+    QVERIFY(QTest::qWaitFor([work] { return work->hasPatterns() && !work->isReading(); }, 20'000));
+    fixture.sourceView()->grid()->selectAll();
+    const auto act = [&] {
+        fixture.action("sampleStart")->trigger();
+        fixture.action("sampleWrong")->trigger();
+    };
+    showInTurn(act, 2, [&](QWidget *dialog, int turn) {
+        look(dialog);
+        if (turn == 0)
+            static_cast<QDialog *>(dialog)->accept();
+        else
+            dialog->close();
+    });
+}
+
+/// What is said without a shared copy, whose folders there are, who has it open.
+void showSharing(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    openMapping(fixture);
+    const auto show = [&](const char *action) {
+        showInTurn([&] { fixture.action(action)->trigger(); }, 1,
+                   [&](QWidget *dialog, int) {
+                       look(dialog);
+                       dialog->close();
+                   });
+    };
+    const QString folder = fixture.directory.filePath("share");
+    if (!QDir(folder).exists()) {
+        show("sharePublish");
+        QVERIFY(QDir().mkpath(folder) && fixture.window->share()->shareWith(folder + "/m.json"));
+    }
+    show("shareFolders");
+    show("shareWho");
+}
+
 RecoveryOffer fullOffer()
 {
     RecoveryOffer offer;
@@ -85,20 +148,28 @@ RecoveryOffer fullOffer()
 void EveryWindow::addRows()
 {
     QTest::addColumn<Show>("show");
-    QTest::newRow("start page") << Show(
-        [](WindowFixture &fixture, const auto &look) { look(fixture.window.get()); });
-    QTest::newRow("main window") << Show([](WindowFixture &fixture, const auto &look) {
-        fixture.open(fixture.mappingFile());
-        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+    const QList<Window> windows = all();
+    for (const Window &window : windows)
+        QTest::newRow(window.name.constData()) << window.show;
+}
+
+QList<EveryWindow::Window> EveryWindow::all()
+{
+    QList<Window> windows;
+    const auto row = [&windows](const char *name, const Show &show) {
+        windows.append({name, show});
+    };
+    row("start page", [](WindowFixture &fixture, const auto &look) { look(fixture.window.get()); });
+    row("main window", [](WindowFixture &fixture, const auto &look) {
+        openMapping(fixture);
         const auto docks = fixture.window->findChildren<QDockWidget *>();
         for (QDockWidget *const dock : docks)
             dock->show();
         QApplication::processEvents();
         look(fixture.window.get());
     });
-    QTest::newRow("review") << Show([](WindowFixture &fixture, const auto &look) {
-        fixture.open(fixture.mappingFile());
-        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+    row("review", [](WindowFixture &fixture, const auto &look) {
+        openMapping(fixture);
         fixture.action("reviewPatterns")->trigger();
         fixture.action("reviewDifferences")->trigger();
         const ReviewWork *const work = fixture.window->review()->work();
@@ -106,56 +177,64 @@ void EveryWindow::addRows()
         QApplication::processEvents();
         look(fixture.window.get());
     });
+    for (Window &window : windows)
+        window.isMainWindow = true;
     for (const char *const command : {"settings", "helpKeys", "goLine", "linesConfirm", "assignAll",
                                       "helpAbout", "reviewReplacements", "fileNew", "fileRoots"})
-        QTest::newRow(command) << byCommand(command);
-    QTest::newRow("history") << byHand([](WindowFixture &fixture) {
-        fixture.open(fixture.mappingFile());
-        return new HistoryDialog(fixture.window->desk()->document()->mappingFile(),
-                                 {{din933, {}, {}}, 3}, nullptr);
-    });
-    QTest::newRow("reason") << byHand([](WindowFixture &) {
-        return new ReasonDialog({"3  M8 x 40", "4  M8 x 45"}, "as before", nullptr);
-    });
-    QTest::newRow("import") << byHand([](WindowFixture &fixture) {
-        return new ImportDialog(fixture.settings->store(), nullptr);
-    });
-    QTest::newRow("script") << byHand(
-        [](WindowFixture &fixture) -> QWidget * { return new ScriptEditor(fixture.window.get()); });
-    QTest::newRow("links") << byHand(
-        [](WindowFixture &) { return new LinkListDialog(PLinkDbC::instance(), nullptr); });
-    QTest::newRow("proof") << byHand(
-        [](WindowFixture &) { return new LinkProofDialog(VelkRelease::LinkProof(), nullptr); });
-    QTest::newRow("database login") << byHand([](WindowFixture &) {
-        return new LinkDbLoginDialog("postgresql://db.example/links", "anna", true, nullptr);
-    });
-    QTest::newRow("formula") << byHand([](WindowFixture &) {
-        auto *const dialog = new DlgFormulaEditor({}, {}, QString(), nullptr);
-        dialog->setFormula("Dia .GE. 12 .AND. FK .EQ. 'x");
-        return dialog;
-    });
-    QTest::newRow("search") << byHand(
-        [](WindowFixture &) { return new dlgSearchSelect(nullptr, false, true); });
-    QTest::newRow("recovery") << byHand(
-        [](WindowFixture &) { return new RecoveryDialog("/d/m.json", fullOffer(), nullptr); });
-    QTest::newRow("locator") << byHand([](WindowFixture &fixture) {
-        auto *const search = new LocatorSearch(fixture.window.get());
-        return new LocatorDialog(search, nullptr);
-    });
-    QTest::newRow("manual") << byHand([](WindowFixture &) {
-        auto *const help = new HelpWindow(nullptr);
-        help->showTopic("manual/tour.md");
-        return help;
-    });
-    QTest::newRow("steps") << byHand([](WindowFixture &fixture) {
-        fixture.open(fixture.mappingFile());
-        return new StepListDialog(fixture.window->desk()->document(), nullptr);
-    });
-    QTest::newRow("legend") << byHand([](WindowFixture &) { return new LegendDialog(nullptr); });
-    QTest::newRow("login") << byHand([](WindowFixture &) {
-        return new RepositoryLoginDialog("svn://host/catalog", "refused", "me", nullptr);
-    });
-    QTest::newRow("part") << byHand([](WindowFixture &) {
-        return new PartView(din933, WindowFixture::roots().target + '/' + din933, nullptr);
-    });
+        row(command, byCommand(command));
+    row("history", byHand([](WindowFixture &fixture) {
+            openMapping(fixture);
+            return new HistoryDialog(fixture.window->desk()->document()->mappingFile(),
+                                     {{din933, {}, {}}, 3}, nullptr);
+        }));
+    row("reason", byHand([](WindowFixture &) {
+            return new ReasonDialog({"3  M8 x 40", "4  M8 x 45"}, "as before", nullptr);
+        }));
+    row("import", byHand([](WindowFixture &fixture) {
+            return new ImportDialog(fixture.settings->store(), nullptr);
+        }));
+    row("script", byHand([](WindowFixture &fixture) -> QWidget * {
+            return new ScriptEditor(fixture.window.get());
+        }));
+    row("links",
+        byHand([](WindowFixture &) { return new LinkListDialog(PLinkDbC::instance(), nullptr); }));
+    row("proof", byHand([](WindowFixture &) {
+            return new LinkProofDialog(VelkRelease::LinkProof(), nullptr);
+        }));
+    row("database login", byHand([](WindowFixture &) {
+            return new LinkDbLoginDialog("postgresql://db.example/links", "anna", true, nullptr);
+        }));
+    row("formula", byHand([](WindowFixture &) {
+            auto *const dialog = new DlgFormulaEditor({}, {}, QString(), nullptr);
+            dialog->setFormula("Dia .GE. 12 .AND. FK .EQ. 'x");
+            return dialog;
+        }));
+    row("search",
+        byHand([](WindowFixture &) { return new dlgSearchSelect(nullptr, false, true); }));
+    row("recovery", byHand([](WindowFixture &) {
+            return new RecoveryDialog("/d/m.json", fullOffer(), nullptr);
+        }));
+    row("locator", byHand([](WindowFixture &fixture) {
+            auto *const search = new LocatorSearch(fixture.window.get());
+            return new LocatorDialog(search, nullptr);
+        }));
+    row("manual", byHand([](WindowFixture &) {
+            auto *const help = new HelpWindow(nullptr);
+            help->showTopic("manual/tour.md");
+            return help;
+        }));
+    row("steps", byHand([](WindowFixture &fixture) {
+            openMapping(fixture);
+            return new StepListDialog(fixture.window->desk()->document(), nullptr);
+        }));
+    row("legend", byHand([](WindowFixture &) { return new LegendDialog(nullptr); }));
+    row("login", byHand([](WindowFixture &) {
+            return new RepositoryLoginDialog("svn://host/catalog", "refused", "me", nullptr);
+        }));
+    row("part", byHand([](WindowFixture &) {
+            return new PartView(din933, WindowFixture::roots().target + '/' + din933, nullptr);
+        }));
+    row("sample", showSample);
+    row("sharing", showSharing);
+    return windows;
 }

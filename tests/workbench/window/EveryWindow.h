@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QMetaType>
 
 #include <functional>
@@ -13,6 +14,16 @@ namespace EveryWindow {
 /// Shows a window and hands it over; modal ones are closed again.
 using Show = std::function<void(WindowFixture &, const std::function<void(QWidget *)> &look)>;
 
+struct Window
+{
+    QByteArray name;
+    Show show;
+    bool isMainWindow = false; ///< the one of the fixture, in some state
+};
+
+/// All of them. A mapping that is open already is not opened again, so that one fixture can show
+/// them one after another.
+[[nodiscard]] QList<Window> all();
 /// A row each, with the column "show".
 void addRows();
 

@@ -26,6 +26,14 @@ namespace {
 
 const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
 
+/// Digits are grouped as in the tool bar; -1 for any other sign between them.
+int numberIn(QString text)
+{
+    bool isNumber = false;
+    const int number = text.remove(QChar(0x202f)).toInt(&isNumber);
+    return isNumber ? number : -1;
+}
+
 } // namespace
 
 /// The filter over all lines of a release, by keys and mouse.
@@ -83,7 +91,7 @@ private:
     static int number(const WindowFixture &fixture, LineTrait trait, const QString &text)
     {
         const QTreeWidgetItem *const found = item(fixture, trait, text);
-        return found ? QLocale().toInt(found->text(1)) : -1;
+        return found ? numberIn(found->text(1)) : -1;
     }
     static QString counter(const WindowFixture &fixture)
     {
@@ -134,11 +142,12 @@ void tst_FilterDock::reasonsWithNumbers()
     const QTreeWidgetItem *const reasons = list(fixture)->topLevelItem(int(LineTrait::Reason));
     for (int i = 1; i < reasons->childCount(); ++i) {
         if (reasons->child(i)->text(0) != "(nichts davon)")
-            sum += QLocale().toInt(reasons->child(i)->text(1));
+            sum += numberIn(reasons->child(i)->text(1));
     }
     QCOMPARE(sum, open.count());
     QCOMPARE(number(fixture, LineTrait::State, "Zu prüfen"), open.countOf(OpenLines::ToCheck));
     QCOMPARE(number(fixture, LineTrait::State, "Ohne Ziel"), open.countOf(OpenLines::NotFound));
+    QVERIFY(number(fixture, LineTrait::State, "Automatisch") > 1000);
 }
 
 void tst_FilterDock::treeTableAndCounterFollow()

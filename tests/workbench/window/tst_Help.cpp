@@ -156,6 +156,12 @@ void tst_Help::contentsAndFind()
     contents->setFocus();
     QTest::keyClick(contents, Qt::Key_Return);
     QCOMPARE(help.topic(), QString("manual.md#the-batch-program"));
+    // The contents show where one is, also if something else led there.
+    QVERIFY(help.showTopic("manual.md#the-editor"));
+    QCOMPARE(contents->currentItem()->text(0), QString("The editor"));
+    QVERIFY(help.showTopic("glossary.md"));
+    QCOMPARE(contents->currentItem()->text(0), QString("Glossary"));
+    QVERIFY(help.showTopic("manual.md#the-batch-program"));
     auto *const find = help.findChild<QLineEdit *>("helpFind");
     auto *const text = help.findChild<QTextBrowser *>("helpText");
     QTest::keyClicks(find, "Ctrl+F7");

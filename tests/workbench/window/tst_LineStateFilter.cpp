@@ -8,6 +8,7 @@
 #include <workbench/session/MappingDocument.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
+#include <workbench/window/KeyedActions.h>
 #include <workbench/window/LineCommands.h>
 #include <workbench/window/LineStateFilter.h>
 #include <workbench/window/MainWindow.h>
@@ -162,6 +163,8 @@ void tst_LineStateFilter::numbersAreThoseOfTheRelease()
     QCOMPARE(fixture.action("stateNotFound")->text(),
              counted(fixture, "Ohne Ziel", OpenLines::NotFound));
     QCOMPARE(fixture.action("stateConfirmed")->text(), QStringLiteral("Bestätigt: 0"));
+    // Where commands are listed, numbers are no part of a name.
+    QCOMPARE(fixture.window->keyedActions()->nameOf("stateConfirmed"), QStringLiteral("Bestätigt"));
     QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
     fixture.press(Qt::Key_V);
     QTRY_COMPARE(fixture.action("stateToCheck")->text(), oneLess);

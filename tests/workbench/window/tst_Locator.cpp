@@ -3,9 +3,11 @@
 
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/application/PCommandKeys.h>
+#include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorModel.h>
 #include <workbench/locator/LocatorSearch.h>
+#include <workbench/session/OpenLines.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/KeyedActions.h>
@@ -256,6 +258,17 @@ void tst_Locator::goesToAProject()
     QTest::keyClick(dialog->findChild<QLineEdit *>("locatorInput"), Qt::Key_Return);
     QTRY_COMPARE(m_fixture->window->editor()->currentPath(), din933);
     QTRY_VERIFY(!m_fixture->window->findChild<LocatorDialog *>());
+    // Its first line that needs a decision has the keys.
+    QTRY_COMPARE(m_fixture->window->editor()->currentLine(), 1);
+    QTRY_VERIFY(
+        m_fixture->window->editor()->editor()->isAncestorOf(m_fixture->window->focusWidget()));
+    QVERIFY(m_fixture->window->editor()->showProject("standardparts/screws/iso4014.prj"));
+    const OpenLines::Shown rows = m_fixture->window->editor()->shown();
+    const PrjMappingC shown = m_fixture->window->editor()->editor()->currentProject();
+    const std::vector<int> open =
+        OpenLines::linesOf(shown, OpenLines::Kinds(OpenLines::NeedDecision));
+    QVERIFY(!open.empty() && open.front() != rows.lineAt(0));
+    QCOMPARE(m_fixture->window->editor()->currentLine(), open.front());
 }
 
 void tst_Locator::goesToALine()

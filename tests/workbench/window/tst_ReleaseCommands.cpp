@@ -156,9 +156,11 @@ void tst_ReleaseCommands::report()
     const QSignalSpy noted(commands, &ReleaseCommands::noted);
     MappingDocument *const document = fixture.window->desk()->document();
     PrjMappingC mapping = document->release().mappingAt(0);
-    PrjMappingTargetC target = mapping.targetAt(0);
-    target.addLineId(1, 1, PRJMAPPING::Verified, QString());
-    mapping.updateTarget(0, target);
+    for (int i = 0; i < mapping.countTargets(); ++i)
+        mapping.changeTarget(i, [](PrjMappingTargetC &target) { target.removeLineId(1); });
+    mapping.changeTarget(0, [](PrjMappingTargetC &target) {
+        target.addLineId(1, 1, PRJMAPPING::Verified, QString());
+    });
     document->beginStep("<Schritt & Tat>");
     document->updateMapping(mapping);
     document->endStep();
@@ -180,6 +182,18 @@ void tst_ReleaseCommands::report()
         QString("<td>Zeilen</td><td class=\"n\" align=\"right\">%1</td>").arg(counts.lines())));
     QVERIFY(html.contains("standardparts/screws/din933.prj:"));
     QVERIFY(html.contains("zu unähnlich"));
+    // Each open line is in one row of these two lists, whose sums are said.
+    const auto sumOf = [&html](const QString &head) {
+        const qsizetype list = html.indexOf("<h2>" + head + "</h2>");
+        const QString row = "<tr><td>zusammen</td><td class=\"n\" align=\"right\">";
+        const qsizetype sum = html.indexOf(row, list) + row.size();
+        return html.mid(sum, html.indexOf('<', sum) - sum).toInt();
+    };
+    QCOMPARE(sumOf("Worin sich offene Zeilen von ihren Vorschlägen unterscheiden"),
+             counts.unverified());
+    QCOMPARE(sumOf("Offene Zeilen ohne Nachfolger"), counts.unmapped());
+    QVERIFY(counts.unverified() > 0 && counts.unmapped() > 0);
+    QVERIFY(html.contains("keine ähnliche Zeile: "));
     QVERIFY(html.contains("standardparts/plugs/din908.prj (Tabelle nicht lesbar)"));
     QVERIFY(html.contains("<td>" + EditLock::self().user.toHtmlEscaped() +
                           "</td><td>&lt;Schritt &amp; Tat&gt;</td>"));

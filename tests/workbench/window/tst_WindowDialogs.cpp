@@ -135,6 +135,20 @@ private Q_SLOTS:
         QCOMPARE(file->text(), QString("/mine.json"));
     }
 
+    void lettersLeadToTheFields()
+    {
+        const WindowFixture fixture;
+        NewMappingDialog dialog(fixture.settings->store(), nullptr);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        for (const auto &[key, name] :
+             {std::pair(Qt::Key_N, "targetRoot"), std::pair(Qt::Key_A, "sourceRoot")}) {
+            QTest::keyClick(&dialog, key, Qt::AltModifier);
+            QVERIFY(dialog.focusWidget());
+            QCOMPARE(dialog.focusWidget()->objectName(), QString(name));
+        }
+    }
+
     void asksBeforeAFileIsUsedAgain()
     {
         const WindowFixture fixture;

@@ -3,6 +3,7 @@
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <gui/views/Inks.h>
 #include <workbench/window/ApplicationTheme.h>
+#include <workbench/window/DockRoom.h>
 #include <workbench/window/LegendDialog.h>
 #include <workbench/window/LogWindow.h>
 #include <workbench/window/StatusArea.h>
@@ -82,6 +83,51 @@ private Q_SLOTS:
         log->hide();
         log->addMessage(LogWindow::Severity(severity), "text");
         QTEST(log->isVisible(), "shown");
+    }
+
+    void docksBelowLeaveRoom_data()
+    {
+        QTest::addColumn<bool>("wasThere"); // with the state of the last session
+        QTest::newRow("at first") << false;
+        QTest::newRow("kept") << true;
+    }
+    void docksBelowLeaveRoom()
+    {
+        QFETCH(bool, wasThere);
+        QMainWindow window;
+        window.resize(1000, 800);
+        window.setCentralWidget(new QPlainTextEdit);
+        auto *log = new LogWindow(&window);
+        auto *panel = new QDockWidget(&window);
+        panel->setWidget(new QPlainTextEdit);
+        window.addDockWidget(Qt::BottomDockWidgetArea, log);
+        window.addDockWidget(Qt::BottomDockWidgetArea, panel);
+        panel->hide();
+        log->setVisible(wasThere);
+        DockRoom room(&window);
+        room.add(log, 1.0 / 8);
+        room.add(panel, 1.0 / 4);
+        window.show();
+        if (wasThere)
+            window.resizeDocks({log}, {300}, Qt::Vertical);
+        log->addMessage(LogWindow::Severity::Warning, "text");
+        if (wasThere) {
+            QTest::qWait(20);
+            QCOMPARE(log->height(), 300);
+            return;
+        }
+        QTRY_COMPARE(log->height(), 100);
+        // What comes beside it has its height, and half of the width.
+        panel->show();
+        QTRY_COMPARE(panel->height(), 200);
+        QTRY_COMPARE(log->height(), 200);
+        QVERIFY2(std::abs(panel->width() - 500) < 10, qPrintable(QString::number(panel->width())));
+        // From then on it is the user's.
+        window.resizeDocks({log}, {400}, Qt::Vertical);
+        log->hide();
+        log->addMessage(LogWindow::Severity::Warning, "text");
+        QTest::qWait(20);
+        QTRY_COMPARE(log->height(), 400);
     }
 
     void messagesComeFromOtherThreads()

@@ -1,4 +1,4 @@
-#include "MappingDifference.h"
+#include "changedSourceLines.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "RangeCell.h"
+#include "ComparedRanges.h"
 
 #include <geomcore/value/RangeText.h>
 

@@ -1,0 +1,70 @@
+#include "KeyNumbers.h"
+
+#include <geomcore/value/CellHash.h>
+
+#include <cstring>
+
+namespace Plan {
+
+template<class IsIt>
+size_t KeyNumbers::placeOf(const std::vector<Slot> &slots, std::uint32_t hash, IsIt isIt)
+{
+    const size_t mask = slots.size() - 1;
+    size_t place = hash & mask;
+    while (slots[place].number >= 0 && (slots[place].hash != hash || !isIt(slots[place].number)))
+        place = (place + 1) & mask;
+    return place;
+}
+
+void KeyNumbers::grow(std::vector<Slot> &slots, size_t used)
+{
+    if ((used + 1) * 3 <= slots.size() * 2)
+        return;
+    std::vector<Slot> former(slots.empty() ? 16 : slots.size() * 2);
+    former.swap(slots);
+    for (const Slot &slot : former) {
+        if (slot.number >= 0)
+            slots[placeOf(slots, slot.hash, [](int) { return false; })] = slot;
+    }
+}
+
+std::string_view KeyNumbers::textOf(int number) const
+{
+    const auto begin = size_t(m_keys[size_t(number)]);
+    std::uint32_t size = 0;
+    std::memcpy(&size, m_texts.data() + begin, sizeof size);
+    return std::string_view(m_texts).substr(begin + sizeof size, size);
+}
+
+int KeyNumbers::ofText(std::string_view text)
+{
+    grow(m_textSlots, m_textCount);
+    const auto hash = std::uint32_t(VKTab::hashBytes(text));
+    Slot &slot =
+        m_textSlots[placeOf(m_textSlots, hash, [&](int number) { return textOf(number) == text; })];
+    if (slot.number < 0) {
+        slot = {hash, count()};
+        m_keys.push_back(m_texts.size());
+        const auto size = std::uint32_t(text.size());
+        m_texts.append(reinterpret_cast<const char *>(&size), sizeof size);
+        m_texts += text;
+        ++m_textCount;
+    }
+    return slot.number;
+}
+
+int KeyNumbers::ofPacked(std::uint64_t packed)
+{
+    grow(m_packedSlots, m_keys.size() - m_textCount);
+    const auto hash = std::uint32_t(
+        VKTab::mixHash(packed ^ 0x9E3779B97F4A7C15ULL, packed + 0xD6E8FEB86659FD93ULL));
+    Slot &slot = m_packedSlots[placeOf(
+        m_packedSlots, hash, [&](int number) { return m_keys[size_t(number)] == packed; })];
+    if (slot.number < 0) {
+        slot = {hash, count()};
+        m_keys.push_back(packed);
+    }
+    return slot.number;
+}
+
+} // namespace Plan

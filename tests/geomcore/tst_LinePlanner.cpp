@@ -1,0 +1,278 @@
+#include <core/parallel/WorkerPool.h>
+#include <geomcore/plan/LinePlanner.h>
+
+#include <QTest>
+
+#include <limits>
+#include <random>
+
+using namespace Plan;
+
+namespace {
+
+using Table = std::vector<std::vector<std::string>>;
+
+/// One target, all of whose rows are open, as are all lines; the first \a keys variables are keys.
+void fill(PlanTables &tables, const Table &lines, const Table &rows, size_t keys)
+{
+    const size_t variables = lines.front().size();
+    tables.values.resize(variables);
+    tables.variableCount = int(variables);
+    tables.sourceRows = int(lines.size());
+    PlanTarget target;
+    target.rowCount = int(rows.size());
+    target.hasSourceName = true;
+    target.lines = CellMatrix(lines.size(), variables);
+    target.rows = CellMatrix(rows.size(), variables);
+    target.takes.assign(lines.size(), 1);
+    target.settled.assign(lines.size(), -1);
+    target.chances.resize(variables);
+    for (size_t v = 0; v < variables; ++v) {
+        target.variables.push_back(int(v));
+        target.keys.push_back(v < keys ? 1 : 0);
+        for (size_t line = 0; line < lines.size(); ++line)
+            target.lines.set(line, v, tables.values[v].number(lines[line][v], '.'));
+        for (size_t row = 0; row < rows.size(); ++row) {
+            target.rows.set(row, v, tables.values[v].number(rows[row][v], '.'));
+            target.chances[v].add(target.rows.at(row, v));
+        }
+        tables.values[v].finish();
+        target.chances[v].finish(tables.values[v], v < keys);
+    }
+    for (size_t line = 0; line < lines.size(); ++line)
+        tables.openLines.push_back(int(line));
+    for (size_t row = 0; row < rows.size(); ++row)
+        target.openRows.push_back(int(row));
+    tables.targets.push_back(std::move(target));
+}
+
+/// Keys, materials, measures, sizes, some of them missing.
+Table someLines(int count, unsigned seed)
+{
+    std::mt19937 random(seed);
+    const std::array<const char *, 4> materials{"St 37-2", "A2", "A4 blank", ""};
+    Table lines;
+    for (int i = 0; i < count; ++i)
+        lines.push_back(
+            {"K" + std::to_string(1000 + i), materials[random() % 4],
+             std::to_string(random() % 100'000) + "." + std::to_string(random() % 9 + 1),
+             random() % 9 == 0 ? "" : std::to_string(5 * (1 + random() % 40)),
+             "M" + std::to_string(3 + random() % 30)});
+    return lines;
+}
+
+/// Each line with a number, a size or a material of another one, and one material reworded.
+Table changed(Table lines)
+{
+    std::mt19937 random(7);
+    const size_t count = lines.size();
+    for (std::vector<std::string> &line : lines) {
+        const size_t variable = 1 + random() % 4;
+        line[variable] = lines[random() % count][variable];
+        if (line[1] == "St 37-2")
+            line[1] = "S235 JR";
+    }
+    return lines;
+}
+
+} // namespace
+
+class tst_LinePlanner : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void valuesKeepTheirNumbers();
+    void nearShareIsThatOfACount_data();
+    void nearShareIsThatOfACount();
+    void boundsHold();
+    void oneRowFarAhead();
+    void keyAloneIsNotFarAhead();
+    void partOfManyLinesTeachesAll();
+};
+
+void tst_LinePlanner::valuesKeepTheirNumbers()
+{
+    CellValues values;
+    std::vector<int> numbers;
+    for (int i = 0; i < 5000; ++i) {
+        numbers.push_back(values.number(std::to_string(i), '.'));
+        numbers.push_back(values.number("A" + std::to_string(i), '.'));
+    }
+    QCOMPARE(values.count(), 10'001);
+    for (int i = 0; i < 5000; ++i) {
+        QCOMPARE(values.number(std::to_string(i) + ".0", '.'), numbers[size_t(2 * i)]);
+        QCOMPARE(values.number("A" + std::to_string(i), '.'), numbers[size_t(2 * i + 1)]);
+    }
+    // A text's token is the number that another value is.
+    const CellValues::Value text = values.value(numbers[2 * 77 + 1]);
+    const CellValues::Value number = values.value(numbers[2 * 77]);
+    QVERIFY(text.hasNumber && !text.isNumber && number.isNumber);
+    QCOMPARE(text.tokens[1], number.tokens[0]);
+    // "b" before "a" in writing, each once and sorted beside it.
+    const CellValues::Value twice = values.value(values.number("zz b zz", '.'));
+    QCOMPARE(twice.tokens.size(), size_t(3));
+    QCOMPARE(twice.distinct.size(), size_t(2));
+    QVERIFY(twice.distinct[0] < twice.distinct[1]);
+}
+
+void tst_LinePlanner::nearShareIsThatOfACount_data()
+{
+    QTest::addColumn<double>("power");
+    QTest::newRow("even") << 1.0;
+    QTest::newRow("most of them small") << 5.0;
+    QTest::newRow("all the same") << 0.0;
+}
+
+void tst_LinePlanner::nearShareIsThatOfACount()
+{
+    QFETCH(double, power);
+    std::mt19937 random(3);
+    CellValues values;
+    ColumnChance chance;
+    std::vector<double> numbers;
+    for (int i = 0; i < 3000; ++i) {
+        const double number = std::round(std::pow(double(random() % 1000 + 1) / 10, power));
+        numbers.push_back(number);
+        chance.add(values.number(std::to_string(qint64(number)), '.'));
+    }
+    chance.finish(values, false);
+    for (int i = 0; i < 2000; ++i) {
+        const double a = numbers[random() % numbers.size()] + double(random() % 3);
+        const double b = numbers[random() % numbers.size()];
+        const double distance = std::abs(b - a);
+        const auto near = std::count_if(numbers.begin(), numbers.end(), [&](double number) {
+            return number >= a - distance && number <= a + distance;
+        });
+        const double seen = std::max(0.0, double(near) - 1) + 0.5;
+        const double part = std::min(1.0, distance / std::max(std::abs(a), std::abs(b)));
+        QCOMPARE(chance.nearShare(a, b), (seen + 8 * part) / (3000 + 8));
+        QVERIFY(chance.nearShare(a, b) >= chance.leastNearShare());
+    }
+}
+
+void tst_LinePlanner::boundsHold()
+{
+    const Table lines = someLines(90, 1);
+    PlanTables tables;
+    fill(tables, lines, changed(lines), 1);
+    const PlanTarget &target = tables.targets.front();
+    const std::vector<VariableRates> rates(5, VariableRates::assumed());
+    ChangeMemory changes;
+    for (size_t line = 0; line < 90; line += 2) {
+        for (size_t v = 0; v < 5; ++v) {
+            const int a = target.lines.at(line, v);
+            const int b = target.rows.at(line, v);
+            if (a != CellValues::NoValue && b != CellValues::NoValue)
+                changes.add(tables.values[v], int(v), a, b, 1);
+        }
+    }
+    changes.finish(tables.values);
+    QVERIFY(changes.mostLikely(1) > 0.3);
+    const PairEvidence evidence(tables, rates, changes);
+    const double none = -std::numeric_limits<double>::infinity();
+    int ended = 0;
+    for (size_t line = 0; line < 90; ++line) {
+        for (size_t row = 0; row < 90; ++row) {
+            for (const bool withKeys : {true, false}) {
+                const double whole = evidence.weight(target, line, row, 0, withKeys, none);
+                QVERIFY(evidence.atMost(target, line, row, withKeys) >= whole - 1e-9);
+                QCOMPARE(evidence.weight(target, line, row, 0, withKeys, whole), whole);
+                const double bounded = evidence.weight(target, line, row, 0, withKeys, 5);
+                QVERIFY(whole < 5 ? bounded < 5 : bounded == whole);
+                ended += bounded != whole ? 1 : 0;
+            }
+        }
+    }
+    QVERIFY(ended > 90 * 90 / 2);
+}
+
+void tst_LinePlanner::oneRowFarAhead()
+{
+    const Table rows = someLines(20'000, 2);
+    Table lines(rows.begin() + 500, rows.begin() + 510);
+    for (std::vector<std::string> &line : lines)
+        line[3] = "1000"; // no row has it
+    PlanTables tables;
+    fill(tables, lines, rows, 1);
+    const CandidateLists lists(tables, tables.targets.front());
+    for (size_t line = 0; line < lines.size(); ++line) {
+        const CandidateLists::Found found = lists.find(line);
+        QVERIFY(found.isFarAhead);
+        QVERIFY(std::binary_search(found.rows.begin(), found.rows.end(), int(500 + line)));
+        QVERIFY(found.rows.size() < size_t(CandidateLists::MaxRows));
+    }
+}
+
+/// Keys were given anew: the one of a line stands in a row that has nothing else of it.
+void tst_LinePlanner::keyAloneIsNotFarAhead()
+{
+    const Table rows = someLines(20'000, 2);
+    Table lines(rows.begin() + 500, rows.begin() + 510);
+    for (size_t line = 0; line < lines.size(); ++line)
+        lines[line][0] = rows[900 + line][0];
+    PlanTables tables;
+    fill(tables, lines, rows, 1);
+    const CandidateLists lists(tables, tables.targets.front());
+    for (size_t line = 0; line < lines.size(); ++line) {
+        const CandidateLists::Found found = lists.find(line);
+        for (const int row : {500, 900})
+            QVERIFY(std::binary_search(found.rows.begin(), found.rows.end(), row + int(line)));
+    }
+}
+
+/// More lines than are learned from: each finds its row, what is told of others counts all, and the
+/// number of threads changes nothing.
+void tst_LinePlanner::partOfManyLinesTeachesAll()
+{
+    constexpr int Count = 5200;
+    const Table lines = someLines(Count, 5);
+    Table rows = changed(lines);
+    rows.erase(rows.begin(), rows.begin() + 500); // the first lines are gone
+    PlanTables tables;
+    fill(tables, lines, rows, 1);
+    std::vector<LinePlanner::Line> former;
+    double supports = 0;
+    for (const int threads : {1, 2}) {
+        WorkerPool::instance().setThreads(threads);
+        LinePlanner planner(tables);
+        planner.run();
+        int right = 0;
+        int gone = 0;
+        supports = 0;
+        for (size_t line = 0; line < Count; ++line) {
+            const LinePlanner::Line &found = planner.lines()[line];
+            const bool isProposed =
+                !found.candidates.empty() && found.candidates.front().probability >= 0.5;
+            gone += line < 500 && !isProposed ? 1 : 0;
+            if (line < 500 || !isProposed)
+                continue;
+            right += found.candidates.front().row == int(line) - 500 ? 1 : 0;
+            if (lines[line][1] == "St 37-2" && rows[line - 500][1] == "S235 JR")
+                supports =
+                    std::max(supports, planner.cell(found.candidates.front(), line, 1).supports);
+        }
+        QCOMPARE(right, Count - 500);
+        QVERIFY(gone >= 495);
+        if (former.empty())
+            former = planner.lines();
+        for (size_t line = 0; line < Count; ++line) {
+            const LinePlanner::Line &now = planner.lines()[line];
+            QCOMPARE(now.noSuccessor, former[line].noSuccessor);
+            QCOMPARE(now.candidates.size(), former[line].candidates.size());
+            for (size_t i = 0; i < now.candidates.size(); ++i) {
+                QCOMPARE(now.candidates[i].node, former[line].candidates[i].node);
+                QCOMPARE(now.candidates[i].probability, former[line].candidates[i].probability);
+            }
+        }
+    }
+    WorkerPool::instance().setThreads(0);
+    double changedSo = 0;
+    for (size_t line = 500; line < Count; ++line)
+        changedSo += lines[line][1] == "St 37-2" && rows[line - 500][1] == "S235 JR" ? 1 : 0;
+    QVERIFY(changedSo > 400);
+    QVERIFY(std::abs(supports - (changedSo - 1)) < 0.01 * changedSo);
+}
+
+QTEST_APPLESS_MAIN(tst_LinePlanner)
+#include "tst_LinePlanner.moc"
