@@ -6,7 +6,6 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -42,15 +41,7 @@ ConflictDock::ConflictDock(ConflictList *list, QWidget *parent)
     m_values = new QTableView(panes);
     m_values->setObjectName("ConflictSides");
     m_values->setModel(m_sidesModel);
-    m_values->setItemDelegate(new DifferenceDelegate(m_values));
-    m_values->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_values->setTabKeyNavigation(false); // Tab goes on
-    m_values->verticalHeader()->hide();
-    m_values->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_values->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    m_values->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_values->horizontalHeader()->setSectionResizeMode(ConflictSidesModel::Name,
-                                                       QHeaderView::ResizeToContents);
+    DifferenceDelegate::prepare(m_values, ConflictSidesModel::Name);
     panes->setStretchFactor(0, 2);
     panes->setStretchFactor(1, 3);
     layout->addWidget(panes, 1);

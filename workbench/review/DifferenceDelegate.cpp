@@ -5,7 +5,9 @@
 #include <gui/views/Inks.h>
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QPainter>
+#include <QTableView>
 #include <QTextLayout>
 
 namespace {
@@ -58,6 +60,19 @@ QSize DifferenceDelegate::sizeHint(const QStyleOptionViewItem &option,
     QStyleOptionViewItem shown = option;
     shown.font.setBold(isBold(index));
     return QStyledItemDelegate::sizeHint(shown, index);
+}
+
+void DifferenceDelegate::prepare(QTableView *view, int nameColumn)
+{
+    view->setItemDelegate(new DifferenceDelegate(view));
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setTabKeyNavigation(false); // Tab goes on
+    QHeaderView *const rows = view->verticalHeader();
+    rows->hide();
+    rows->setSectionResizeMode(QHeaderView::Fixed);
+    rows->setDefaultSectionSize(view->fontMetrics().height() + 6);
+    view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    view->horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::ResizeToContents);
 }
 
 void DifferenceDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,

@@ -34,15 +34,7 @@ DifferencePanel::DifferencePanel(QWidget *parent)
     m_values = new QTableView(panes);
     m_values->setObjectName("DifferenceTable");
     m_values->setModel(m_differences);
-    m_values->setItemDelegate(new DifferenceDelegate(m_values));
-    m_values->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_values->setTabKeyNavigation(false); // Tab goes on
-    m_values->verticalHeader()->hide();
-    m_values->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_values->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    m_values->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_values->horizontalHeader()->setSectionResizeMode(DifferenceModel::Variable,
-                                                       QHeaderView::ResizeToContents);
+    DifferenceDelegate::prepare(m_values, DifferenceModel::Variable);
     m_list = new QTreeView(panes);
     m_list->setObjectName("CandidateList");
     m_list->setModel(m_candidates);
