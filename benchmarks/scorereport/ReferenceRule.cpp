@@ -35,9 +35,11 @@ public:
         for (size_t t = 0; t < m_targets.size(); ++t)
             takeExact(m_targets[t]);
         Plan::EdgeLists edges(m_source.lines.size());
-        for (size_t line = 0; line < edges.size(); ++line) {
-            if (m_found[line] < 0)
-                edges[line] = edgesOf(line);
+        for (size_t block = 0; block < edges.blockCount(); ++block) {
+            edges.refill(block, [this](size_t line, Plan::EdgeLists::Block &out) {
+                if (m_found[line] < 0)
+                    out.add(edgesOf(line));
+            });
         }
         const std::vector<int> chosen = Plan::assignPairs(edges, m_count, -1e6);
         QHash<int, TruthFile::Place> places;

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include <limits>
+#include <memory>
 #include <random>
 
 using namespace Plan;
@@ -158,16 +159,18 @@ void tst_LinePlanner::boundsHold()
     fill(tables, lines, changed(lines), 1);
     const PlanTarget &target = tables.targets.front();
     const std::vector<VariableRates> rates(5, VariableRates::assumed());
-    ChangeMemory changes;
-    for (size_t line = 0; line < 90; line += 2) {
-        for (size_t v = 0; v < 5; ++v) {
-            const int a = target.lines.at(line, v);
-            const int b = target.rows.at(line, v);
-            if (a != CellValues::NoValue && b != CellValues::NoValue)
-                changes.add(tables.values[v], int(v), a, b, 1);
-        }
+    ChangeMemory changes(5);
+    for (size_t v = 0; v < 5; ++v) {
+        const auto pairs = [&](const ChangeMemory::TakePair &take) {
+            for (size_t line = 0; line < 90; line += 2) {
+                const int a = target.lines.at(line, v);
+                const int b = target.rows.at(line, v);
+                if (a != CellValues::NoValue && b != CellValues::NoValue)
+                    take(a, b, 1);
+            }
+        };
+        changes.learn(tables.values[v], int(v), pairs, true);
     }
-    changes.finish(tables.values);
     QVERIFY(changes.mostLikely(1) > 0.3);
     const PairEvidence evidence(tables, rates, changes);
     const double none = -std::numeric_limits<double>::infinity();
@@ -231,17 +234,20 @@ void tst_LinePlanner::partOfManyLinesTeachesAll()
     rows.erase(rows.begin(), rows.begin() + 500); // the first lines are gone
     PlanTables tables;
     fill(tables, lines, rows, 1);
-    std::vector<LinePlanner::Line> former;
+    std::unique_ptr<LinePlanner> former;
     double supports = 0;
     for (const int threads : {1, 2}) {
         WorkerPool::instance().setThreads(threads);
-        LinePlanner planner(tables);
+        auto made = std::make_unique<LinePlanner>(tables);
+        LinePlanner &planner = *made;
         planner.run();
+        if (!former)
+            former = std::move(made);
         int right = 0;
         int gone = 0;
         supports = 0;
         for (size_t line = 0; line < Count; ++line) {
-            const LinePlanner::Line &found = planner.lines()[line];
+            const LinePlanner::Line found = planner.line(line);
             const bool isProposed =
                 !found.candidates.empty() && found.candidates.front().probability >= 0.5;
             gone += line < 500 && !isProposed ? 1 : 0;
@@ -254,15 +260,14 @@ void tst_LinePlanner::partOfManyLinesTeachesAll()
         }
         QCOMPARE(right, Count - 500);
         QVERIFY(gone >= 495);
-        if (former.empty())
-            former = planner.lines();
         for (size_t line = 0; line < Count; ++line) {
-            const LinePlanner::Line &now = planner.lines()[line];
-            QCOMPARE(now.noSuccessor, former[line].noSuccessor);
-            QCOMPARE(now.candidates.size(), former[line].candidates.size());
+            const LinePlanner::Line now = planner.line(line);
+            const LinePlanner::Line before = former->line(line);
+            QCOMPARE(now.noSuccessor, before.noSuccessor);
+            QCOMPARE(now.candidates.size(), before.candidates.size());
             for (size_t i = 0; i < now.candidates.size(); ++i) {
-                QCOMPARE(now.candidates[i].node, former[line].candidates[i].node);
-                QCOMPARE(now.candidates[i].probability, former[line].candidates[i].probability);
+                QCOMPARE(now.candidates[i].node, before.candidates[i].node);
+                QCOMPARE(now.candidates[i].probability, before.candidates[i].probability);
             }
         }
     }

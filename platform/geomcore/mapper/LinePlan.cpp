@@ -1,9 +1,11 @@
 #include "LinePlan.h"
 
+#include "CellNumbering.h"
 #include "DesignationIndex.h"
 #include "PairJoin.h"
 #include "TargetTable.h"
 
+#include <core/parallel/WorkerPool.h>
 #include <geomcore/plan/ValueRule.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
@@ -64,6 +66,8 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
     m_tables.variableCount = int(m_variableNumbers.size());
     for (Plan::CellValues &values : m_tables.values)
         values.finish();
+    for (Plan::PlanTarget &target : m_tables.targets)
+        finish(target);
     if (!m_agreed.isEmpty()) {
         m_isAgreed.resize(m_variableNumbers.size());
         for (const auto &[name, number] : m_variableNumbers)
@@ -79,6 +83,8 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
     m_claimed.clear();
     m_settledTarget = {};
     m_settledRow = {};
+    for (Plan::PlanTarget &target : m_tables.targets)
+        target.settled = {};
     m_source = nullptr;
 }
 
@@ -199,9 +205,9 @@ void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
     TargetValues values;
     std::string meaning;
     std::string agreed;
-    for (size_t line = 0; line < open.size(); ++line) {
+    const auto add = [&](size_t line, CellTexts &texts) {
         if (!takes(target, open[line]))
-            continue;
+            return;
         const VKTab::LineView view(*source().data(), open[line]);
         target.takeValues(planInput(source(), view), values);
         for (size_t place = 0; place < count; ++place) {
@@ -210,16 +216,18 @@ void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
                 m_agreed.isEmpty()
                     ? value.text
                     : m_agreed.meaningOf(names[place], value.text, value.decimalChar, agreed);
-            const std::string_view text = Plan::ValueRule::meaningOf(names[place], stated, meaning);
-            filled.lines.set(line, place, valuesOf(filled, place).number(text, value.decimalChar));
+            texts.add(Plan::ValueRule::meaningOf(names[place], stated, meaning), value.decimalChar);
             // A line without a value there is like no line.
             if (!value.text.empty())
                 filled.takes[line] = 1;
         }
         if (filled.variables.size() > count)
-            filled.lines.set(line, count,
-                             valuesOf(filled, count).number(source().designation(view), '.'));
-    }
+            texts.add(source().designation(view), '.');
+    };
+    CellNumbering(m_tables.values, filled.variables)
+        .runInOrder(open.size(), add, [&filled](size_t line, size_t place, int number) {
+            filled.lines.set(line, place, number);
+        });
 }
 
 bool LinePlan::isKey(const BoundTarget &target, bool hasSourceName, size_t place)
@@ -239,42 +247,55 @@ void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled)
 {
     const TargetTable &table = *target.table();
     const size_t count = filled.variables.size();
-    TargetTable::Row split;
     const std::vector<std::string> names = namesOf(target);
-    std::string scratch;
-    std::string meaning;
-    const auto number = [&](size_t place) {
-        if (place == target.variables().size())
-            return valuesOf(filled, place)
-                .number(target.identity().designations()->textOf(split.row), '.');
-        const auto variable = size_t(target.variables()[place]);
-        const std::string_view text = Plan::ValueRule::meaningOf(
-            names[place], table.text(split, int(variable), scratch), meaning);
-        return valuesOf(filled, place).number(text, table.variables()[variable].decimalChar);
-    };
-    filled.rows = Plan::CellMatrix(filled.openRows.size(), count);
-    for (size_t row = 0; row < filled.openRows.size(); ++row) {
-        table.split(filled.openRows[row], split);
-        for (size_t place = 0; place < count; ++place)
-            filled.rows.set(row, place, number(place));
-    }
-    filled.chances.resize(count);
-    const int step = filled.rowCount / MaxSampled + 1;
-    for (int row = 0; row < filled.rowCount; row += step) {
+    const auto add = [&](int row, CellTexts &texts) {
+        thread_local TargetTable::Row split;
+        thread_local std::string scratch;
+        thread_local std::string meaning;
         table.split(row, split);
-        for (size_t place = 0; place < count; ++place)
-            filled.chances[place].add(number(place));
-    }
-    for (size_t place = 0; place < filled.chances.size(); ++place) {
+        for (size_t place = 0; place < target.variables().size(); ++place) {
+            const auto variable = size_t(target.variables()[place]);
+            texts.add(Plan::ValueRule::meaningOf(
+                          names[place], table.text(split, int(variable), scratch), meaning),
+                      table.variables()[variable].decimalChar);
+        }
+        if (count > target.variables().size())
+            texts.add(target.identity().designations()->textOf(row), '.');
+    };
+    CellNumbering numbering(m_tables.values, filled.variables);
+    filled.rows = Plan::CellMatrix(filled.openRows.size(), count);
+    numbering.run(
+        filled.openRows.size(),
+        [&](size_t row, CellTexts &texts) { add(filled.openRows[row], texts); },
+        [&](size_t row, size_t place, int number) { filled.rows.set(row, place, number); });
+    filled.chances.resize(count);
+    const size_t step = size_t(filled.rowCount / MaxSampled + 1);
+    numbering.run((size_t(filled.rowCount) + step - 1) / step,
+                  [&](size_t i, CellTexts &texts) { add(int(i * step), texts); },
+                  [&](size_t, size_t place, int number) { filled.chances[place].add(number); });
+    for (size_t place = 0; place < count; ++place)
         filled.keys.push_back(isKey(target, filled.hasSourceName, place) ? 1 : 0);
-        filled.chances[place].finish(valuesOf(filled, place), filled.keys[place] != 0);
-    }
 }
 
-const Plan::LinePlanner::Line *LinePlan::line(int sourceRow) const
+void LinePlan::finish(Plan::PlanTarget &filled)
+{
+    std::vector<int> counts;
+    for (size_t place = 0; place < filled.variables.size(); ++place)
+        counts.push_back(valuesOf(filled, place).count());
+    filled.lines.pack(counts);
+    filled.rows.pack(counts);
+    WorkerPool::instance().run(int(filled.chances.size()), [&](int place) {
+        filled.chances[size_t(place)].finish(valuesOf(filled, size_t(place)),
+                                             filled.keys[size_t(place)] != 0);
+    });
+}
+
+std::optional<Plan::LinePlanner::Line> LinePlan::line(int sourceRow) const
 {
     const int open = sourceRow < 0 ? -1 : m_openOf[size_t(sourceRow)];
-    return open < 0 ? nullptr : &m_planner->lines()[size_t(open)];
+    if (open < 0)
+        return std::nullopt;
+    return m_planner->line(size_t(open));
 }
 
 std::optional<Plan::PlanEdge> LinePlan::edgeFor(int sourceRow, int targetIndex, int row) const

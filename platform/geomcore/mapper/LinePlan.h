@@ -21,8 +21,8 @@ public:
     LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed);
     ~LinePlan();
 
-    /// Null for a line that is settled or not in the table.
-    [[nodiscard]] const Plan::LinePlanner::Line *line(int sourceRow) const;
+    /// None for a line that is settled or not in the table.
+    [[nodiscard]] std::optional<Plan::LinePlanner::Line> line(int sourceRow) const;
     /// Index of the target in the mapping.
     [[nodiscard]] int targetOf(const Plan::PlanEdge &edge) const
     {
@@ -48,6 +48,8 @@ private:
     void fill(const BoundTarget &target, Plan::PlanTarget &filled);
     void fillLines(const BoundTarget &target, Plan::PlanTarget &filled);
     void fillRows(const BoundTarget &target, Plan::PlanTarget &filled);
+    /// When the values of all targets are numbered.
+    void finish(Plan::PlanTarget &filled);
     [[nodiscard]] Plan::CellValues &valuesOf(const Plan::PlanTarget &filled, size_t place)
     {
         return m_tables.values[size_t(filled.variables[place])];

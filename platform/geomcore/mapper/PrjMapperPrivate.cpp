@@ -223,8 +223,10 @@ const BoundTarget *PrjMapperPrivate::openTarget(int index) const
 std::vector<Plan::PlanEdge> PrjMapperPrivate::planned(const LineInput &line)
 {
     const Mapper::LinePlan *whole = plan(line);
-    const Plan::LinePlanner::Line *own = whole ? whole->line(line.row) : nullptr;
-    std::vector<Plan::PlanEdge> edges = own ? own->candidates : std::vector<Plan::PlanEdge>();
+    const auto own = whole ? whole->line(line.row) : std::nullopt;
+    std::vector<Plan::PlanEdge> edges;
+    if (own)
+        edges.assign(own->candidates.begin(), own->candidates.end());
     std::erase_if(edges, [&](const Plan::PlanEdge &edge) {
         return openTarget(whole->targetOf(edge)) == nullptr;
     });
@@ -257,7 +259,7 @@ LineCandidatesC PrjMapperPrivate::candidates(const LineInput &line)
     result.explanation = Mapper::nothingFits();
     const Proposal proposed = propose(line);
     const std::vector<Plan::PlanEdge> edges = planned(line);
-    const Plan::LinePlanner::Line *own = m_plan ? m_plan->line(line.row) : nullptr;
+    const auto own = m_plan ? m_plan->line(line.row) : std::nullopt;
     if (proposed.target && !own) {
         result.candidates.append(candidate(line, proposed, EqualProbability, nullptr));
         result.noSuccessor = 1 - EqualProbability;

@@ -2,9 +2,12 @@
 
 #include "RowVotes.h"
 
+#include <core/parallel/WorkerPool.h>
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace Plan {
 
@@ -24,67 +27,90 @@ CandidateLists::CandidateLists(const PlanTables &tables, const PlanTarget &targe
     : m_tables(tables)
     , m_target(target)
 {
-    const size_t rows = target.openRows.size();
-    if (int(rows) <= FewRows)
+    if (int(target.openRows.size()) <= FewRows)
         return;
-    size_t lists = 0;
-    for (const int variable : target.variables) {
-        const CellValues &values = tables.values[size_t(variable)];
-        m_firstValues.push_back(lists);
-        m_firstTokens.push_back(lists + size_t(values.count()));
-        lists = m_firstTokens.back() + size_t(values.tokenCount());
-    }
-    // First how many, behind the list's place, then where each begins, which filling makes its end.
-    m_ends.assign(lists + 1, 0);
-    for (size_t row = 0; row < rows; ++row)
-        forEachList(row, [this](size_t list) { ++m_ends[list + 1]; });
-    std::partial_sum(m_ends.begin(), m_ends.end(), m_ends.begin());
-    m_rows.resize(size_t(m_ends.back()));
-    for (size_t row = 0; row < rows; ++row)
-        forEachList(row, [&](size_t list) { m_rows[size_t(m_ends[list]++)] = int(row); });
+    m_places.resize(target.variables.size());
+    WorkerPool::instance().run(int(m_places.size()), [this](int place) { fill(size_t(place)); });
 }
 
-template<class Take>
-void CandidateLists::forEachList(size_t row, Take take) const
+void CandidateLists::fill(size_t place)
 {
-    for (size_t place = 0; place < m_target.variables.size(); ++place) {
+    const CellValues &values = m_tables.values[size_t(m_target.variables[place])];
+    Place &lists = m_places[place];
+    lists.values = size_t(values.count());
+    // First how many, behind the list's place, then where each begins, which filling makes its end.
+    std::vector<int> &ends = lists.ends;
+    ends.assign(lists.values + size_t(values.tokenCount()) + 1, 0);
+    forEachList(place, [&](int, size_t list) { ++ends[list + 1]; });
+    std::vector<bool> isFrequent(ends.size() - 1, false);
+    for (size_t list = 0; list < isFrequent.size(); ++list) {
+        if (ends[list + 1] <= MaxWalked)
+            continue;
+        isFrequent[list] = true;
+        lists.frequent.emplace_back(list, std::exchange(ends[list + 1], 0));
+    }
+    std::partial_sum(ends.begin(), ends.end(), ends.begin());
+    lists.rows.resize(size_t(ends.back()));
+    forEachList(place, [&](int row, size_t list) {
+        if (!isFrequent[list])
+            lists.rows[size_t(ends[list]++)] = row;
+    });
+}
+
+/// Calls \a take with each row and each list that it is in.
+template<class Take>
+void CandidateLists::forEachList(size_t place, Take take) const
+{
+    const CellValues &values = m_tables.values[size_t(m_target.variables[place])];
+    for (size_t row = 0; row < m_target.openRows.size(); ++row) {
         const int value = m_target.rows.at(row, place);
         if (value == CellValues::NoValue)
             continue;
-        take(m_firstValues[place] + size_t(value));
-        const std::span<const int> tokens =
-            m_tables.values[size_t(m_target.variables[place])].value(value).distinct;
+        take(int(row), size_t(value));
+        const std::span<const int> tokens = values.value(value).distinct;
         for (size_t i = 0; i < tokens.size() && tokens.size() > 1; ++i)
-            take(m_firstTokens[place] + size_t(tokens[i]));
+            take(int(row), m_places[place].values + size_t(tokens[i]));
     }
+}
+
+std::span<const int> CandidateLists::Place::of(size_t list) const
+{
+    const int begin = list == 0 ? 0 : ends[list - 1];
+    return std::span(rows).subspan(size_t(begin), size_t(ends[list] - begin));
+}
+
+size_t CandidateLists::Place::sizeOf(size_t list) const
+{
+    const auto found = std::lower_bound(frequent.begin(), frequent.end(), std::pair(list, 0));
+    return found != frequent.end() && found->first == list ? size_t(found->second) : 0;
 }
 
 void CandidateLists::findLists(size_t line, std::vector<List> &lists) const
 {
     lists.clear();
     const auto count = double(m_target.openRows.size());
-    const auto add = [&](size_t list, bool isKey, bool leads) {
-        const int begin = list == 0 ? 0 : m_ends[list - 1];
-        const auto size = size_t(m_ends[list] - begin);
+    const auto add = [&](const Place &place, size_t list, bool isKey, bool leads) {
+        const std::span<const int> rows = place.of(list);
+        const size_t size = rows.empty() ? place.sizeOf(list) : rows.size();
         if (size == 0)
             return false;
         const double weight = std::log(count / double(size));
-        lists.push_back(
-            {std::span(m_rows).subspan(size_t(begin), size), weight, leads ? weight : 0, isKey});
+        lists.push_back({rows, size, weight, leads ? weight : 0, isKey});
         return true;
     };
-    for (size_t place = 0; place < m_target.variables.size(); ++place) {
+    for (size_t place = 0; place < m_places.size(); ++place) {
         const int value = m_target.lines.at(line, place);
         if (value == CellValues::NoValue)
             continue;
+        const Place &at = m_places[place];
         const bool isKey = m_target.keys[place] != 0;
-        const bool isThere = add(m_firstValues[place] + size_t(value), isKey, true);
+        const bool isThere = add(at, size_t(value), isKey, true);
         const CellValues &values = m_tables.values[size_t(m_target.variables[place])];
         for (const int token : values.value(value).distinct)
-            add(m_firstTokens[place] + size_t(token), isKey, !isThere);
+            add(at, at.values + size_t(token), isKey, !isThere);
     }
     std::stable_sort(lists.begin(), lists.end(),
-                     [](const List &a, const List &b) { return a.rows.size() < b.rows.size(); });
+                     [](const List &a, const List &b) { return a.size < b.size; });
 }
 
 CandidateLists::Found CandidateLists::find(size_t line) const
@@ -112,9 +138,9 @@ CandidateLists::Found CandidateLists::find(size_t line) const
     for (const List &list : lists) {
         result.isFarAhead =
             best.lead - left.lead > FarAhead && best.beyondKeys - left.beyondKeys > AheadBeyondKeys;
-        if (result.isFarAhead || walked + list.rows.size() > MaxWalked)
+        if (result.isFarAhead || walked + list.size > MaxWalked)
             break;
-        walked += list.rows.size();
+        walked += list.size;
         left.lead -= list.lead;
         left.beyondKeys -= list.isKey ? 0 : list.lead;
         for (const int row : list.rows) {

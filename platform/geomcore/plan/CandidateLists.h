@@ -5,6 +5,7 @@
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace Plan {
@@ -30,26 +31,36 @@ public:
     static constexpr int MaxWalked = 1024;
 
 private:
+    /// The lists of one variable: of its values, behind them of its tokens.
+    struct Place
+    {
+        size_t values = 0;     ///< Number of them.
+        std::vector<int> ends; ///< Of a list in rows; it begins where the one before ends.
+        std::vector<int> rows;
+        std::vector<std::pair<size_t, int>>
+            frequent; ///< Lists too long to be walked, and how long.
+
+        [[nodiscard]] std::span<const int> of(size_t list) const;
+        [[nodiscard]] size_t sizeOf(size_t list) const;
+    };
     /// The rows with a value or a token, and the logarithm of how rare that is.
     struct List
     {
-        std::span<const int> rows;
+        std::span<const int> rows; ///< None if there are too many.
+        size_t size = 0;
         double weight = 0;
         double lead = 0; ///< The same, but 0 for tokens of a value that some row has as a whole.
         bool isKey = false;
     };
+    void fill(size_t place);
     /// From the rarest on.
     void findLists(size_t line, std::vector<List> &lists) const;
     template<class Take>
-    void forEachList(size_t row, Take take) const;
+    void forEachList(size_t place, Take take) const;
 
     const PlanTables &m_tables;
     const PlanTarget &m_target;
-    /// By place: where its values begin in m_ends, and behind them its tokens.
-    std::vector<size_t> m_firstValues;
-    std::vector<size_t> m_firstTokens;
-    std::vector<int> m_ends; ///< Of a list in m_rows; it begins where the one before ends.
-    std::vector<int> m_rows;
+    std::vector<Place> m_places; ///< By place in the target's variables.
 };
 
 } // namespace Plan

@@ -67,8 +67,7 @@ int CellValues::number(std::string_view text, char decimalChar)
     m_written.clear();
     if (parsed) {
         entry.isNumber = true;
-        entry.number = parsed->toDouble();
-        addPacked(parsed->packed(), entry.number);
+        addWhole(parsed->packed(), parsed->toDouble());
     } else {
         tokenize(text);
     }
@@ -78,17 +77,19 @@ int CellValues::number(std::string_view text, char decimalChar)
 
 void CellValues::keep(Entry &entry)
 {
-    entry.begin = std::uint32_t(m_lists.size());
-    entry.tokens = std::uint16_t(m_written.size());
+    entry.tokens = std::uint8_t(m_written.size());
     entry.hasNumber = std::any_of(m_written.begin(), m_written.end(),
                                   [this](int token) { return isNumberToken(token); });
-    m_lists.insert(m_lists.end(), m_written.begin(), m_written.end());
-    std::sort(m_written.begin(), m_written.end());
-    m_written.erase(std::unique(m_written.begin(), m_written.end()), m_written.end());
-    const std::span<const int> tokens = std::span(m_lists).last(entry.tokens);
-    if (!std::ranges::equal(tokens, m_written)) {
-        entry.more = std::uint16_t(m_written.size());
+    entry.first = entry.tokens == 1 ? m_written.front() : int(m_lists.size());
+    if (entry.tokens > 1) {
         m_lists.insert(m_lists.end(), m_written.begin(), m_written.end());
+        std::sort(m_written.begin(), m_written.end());
+        m_written.erase(std::unique(m_written.begin(), m_written.end()), m_written.end());
+        const std::span<const int> tokens = std::span(m_lists).last(entry.tokens);
+        if (!std::ranges::equal(tokens, m_written)) {
+            entry.more = std::uint8_t(m_written.size());
+            m_lists.insert(m_lists.end(), m_written.begin(), m_written.end());
+        }
     }
     m_values.push_back(entry);
 }
@@ -119,22 +120,41 @@ void CellValues::tokenize(std::string_view text)
 
 void CellValues::addText(std::string_view text)
 {
-    m_written.push_back(m_tokenNumbers.ofText(text));
-    if (m_written.back() == tokenCount())
-        m_tokens.push_back(std::numeric_limits<double>::quiet_NaN());
+    addToken(m_tokenNumbers.ofText(text), std::numeric_limits<double>::quiet_NaN());
 }
 
 void CellValues::addPacked(std::uint64_t packed, double number)
 {
-    m_written.push_back(m_tokenNumbers.ofPacked(packed));
-    if (m_written.back() == tokenCount())
+    const int value = 1 + m_numbers.findPacked(packed);
+    if (value > NoValue)
+        m_written.push_back(m_values[size_t(value)].first);
+    else
+        addToken(m_tokenNumbers.ofPacked(packed), number);
+}
+
+/// The token of a value is found by its value.
+void CellValues::addWhole(std::uint64_t packed, double number)
+{
+    const int known = m_tokenNumbers.findPacked(packed);
+    m_written.push_back(known < 0 ? tokenCount() : m_tokenOf[size_t(known)]);
+    if (known < 0)
         m_tokens.push_back(number);
+}
+
+void CellValues::addToken(int number, double value)
+{
+    if (size_t(number) == m_tokenOf.size()) {
+        m_tokenOf.push_back(tokenCount());
+        m_tokens.push_back(value);
+    }
+    m_written.push_back(m_tokenOf[size_t(number)]);
 }
 
 void CellValues::finish()
 {
     m_numbers = {};
     m_tokenNumbers = {};
+    m_tokenOf = {};
     m_written = {};
     m_values.shrink_to_fit();
     m_lists.shrink_to_fit();

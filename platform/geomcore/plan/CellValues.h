@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ public:
     /// Tokens of a value that are looked at.
     static constexpr int MaxTokens = 48;
 
-    /// Refers to the lists of all values: only until the next number().
+    /// Refers to what is kept of all values: only until the next number().
     struct Value
     {
         std::span<const int> tokens;   ///< In written order.
@@ -42,10 +43,20 @@ public:
     [[nodiscard]] Value value(int number) const
     {
         const Entry &entry = m_values[size_t(number)];
-        const std::span<const int> list(m_lists.data() + entry.begin,
+        if (entry.tokens == 1) {
+            const std::span<const int> token(&entry.first, 1);
+            return {token, token, entry.isNumber ? tokenNumber(entry.first) : 0, entry.isNumber,
+                    entry.hasNumber};
+        }
+        const std::span<const int> list(m_lists.data() + entry.first,
                                         size_t(entry.tokens) + entry.more);
-        return {list.first(entry.tokens), entry.more > 0 ? list.last(entry.more) : list,
-                entry.number, entry.isNumber, entry.hasNumber};
+        return {list.first(entry.tokens), entry.more > 0 ? list.last(entry.more) : list, 0, false,
+                entry.hasNumber};
+    }
+    /// Of a value that is one.
+    [[nodiscard]] double numberOf(int number) const
+    {
+        return tokenNumber(m_values[size_t(number)].first);
     }
     [[nodiscard]] bool isNumber(int number) const { return m_values[size_t(number)].isNumber; }
     [[nodiscard]] int count() const { return int(m_values.size()); }
@@ -59,24 +70,28 @@ public:
     void finish();
 
 private:
+    /// There is one for each of very many values.
     struct Entry
     {
-        double number = 0;
-        std::uint32_t begin = 0;  ///< Of its tokens.
-        std::uint16_t tokens = 0; ///< In written order,
-        std::uint16_t more = 0;   ///< then sorted, each once, unless these are the same.
-        bool isNumber = false;
+        int first = 0;           ///< Where its tokens begin, or a single one itself.
+        std::uint8_t tokens = 0; ///< In written order,
+        std::uint8_t more = 0;   ///< then sorted, each once, unless these are the same.
+        bool isNumber = false;   ///< Then it is its only token.
         bool hasNumber = false;
     };
+    static_assert(MaxTokens <= std::numeric_limits<std::uint8_t>::max());
 
     void tokenize(std::string_view text);
     /// A token for m_written.
     void addText(std::string_view text);
     void addPacked(std::uint64_t packed, double number);
+    void addWhole(std::uint64_t packed, double number);
+    void addToken(int number, double value);
     void keep(Entry &entry);
 
-    KeyNumbers m_numbers; ///< From 0 on; values from 1.
-    KeyNumbers m_tokenNumbers;
+    KeyNumbers m_numbers;       ///< From 0 on; values from 1.
+    KeyNumbers m_tokenNumbers;  ///< But for those that are values as well when they come.
+    std::vector<int> m_tokenOf; ///< By number there.
     std::vector<Entry> m_values;
     std::vector<int> m_lists;
     std::vector<double> m_tokens; ///< By token: its number, or not a number.

@@ -4,40 +4,43 @@
 
 namespace Plan {
 
-void ChangeMemory::add(const CellValues &values, int variable, int oldValue, int newValue,
-                       double weight)
+void ChangeMemory::learn(const CellValues &values, int variable, const Pairs &pairs,
+                         bool mostLikely)
 {
-    if (size_t(variable) >= m_variables.size())
-        m_variables.resize(size_t(variable) + 1);
     Variable &seen = m_variables[size_t(variable)];
-    if (seen.values.empty()) {
-        seen.values.resize(size_t(values.count()), 0);
-        seen.tokens.resize(size_t(values.tokenCount()), 0);
-    }
-    const CellValues::Value value = values.value(oldValue);
-    seen.all += weight;
-    seen.numbers += value.hasNumber ? weight : 0;
-    seen.values[size_t(oldValue)] += weight;
-    for (const int token : value.distinct)
-        seen.tokens[size_t(token)] += weight;
-    if (oldValue == newValue)
+    seen = {};
+    bool hasParts = false;
+    pairs([&](int oldValue, int newValue, double weight) {
+        seen.all += weight;
+        seen.numbers += values.value(oldValue).hasNumber ? weight : 0;
+        if (oldValue == newValue)
+            return;
+        const CellChange change = changeBetween(values, variable, oldValue, newValue);
+        hasParts = hasParts || change.keys[CellChange::Middle] != 0;
+        for (const std::uint64_t key : change.keys) {
+            if (key != 0)
+                seen.changes.add(key, weight);
+        }
+    });
+    if (seen.changes.isEmpty()) // then nobody asks how often values could have changed
         return;
-    m_changed.push_back({variable, oldValue, newValue});
-    for (const std::uint64_t key : changeBetween(values, variable, oldValue, newValue).keys) {
-        if (key != 0)
-            m_changes.add(key, weight);
-    }
-}
-
-void ChangeMemory::finish(const std::vector<CellValues> &values)
-{
-    for (const Pair &pair : m_changed) {
-        const Likely found =
-            likely(values[size_t(pair.variable)], pair.variable, pair.oldValue, pair.newValue, 0);
-        double &most = m_variables[size_t(pair.variable)].mostLikely;
-        most = std::max(most, found.share);
-    }
-    m_changed = {};
+    seen.values.resize(size_t(values.count()), 0);
+    seen.tokens.resize(hasParts ? size_t(values.tokenCount()) : 0, 0);
+    pairs([&](int oldValue, int, double weight) {
+        seen.values[size_t(oldValue)] += weight;
+        if (!hasParts)
+            return;
+        for (const int token : values.value(oldValue).distinct)
+            seen.tokens[size_t(token)] += weight;
+    });
+    if (!mostLikely)
+        return;
+    pairs([&](int oldValue, int newValue, double) {
+        if (oldValue != newValue) {
+            const Likely found = likely(values, variable, oldValue, newValue, 0);
+            seen.mostLikely = std::max(seen.mostLikely, found.share);
+        }
+    });
 }
 
 double ChangeMemory::applicable(const Variable &seen, const CellValues::Value &oldValue,
@@ -57,14 +60,13 @@ ChangeMemory::Likely ChangeMemory::likely(const CellValues &values, int variable
                                           int newValue, double own) const
 {
     Likely best;
-    if (m_changes.isEmpty() || size_t(variable) >= m_variables.size() ||
-        m_variables[size_t(variable)].all <= 0)
+    if (size_t(variable) >= m_variables.size() || m_variables[size_t(variable)].changes.isEmpty())
         return best;
     const Variable &seen = m_variables[size_t(variable)];
     const CellChange change = changeBetween(values, variable, oldValue, newValue);
     for (int kind = 0; kind < CellChange::KindCount; ++kind) {
         const std::uint64_t key = change.keys[kind];
-        const double supports = key == 0 ? 0 : m_changes.of(key) - own;
+        const double supports = key == 0 ? 0 : seen.changes.of(key) - own;
         if (supports <= 1e-6)
             continue;
         const double all = applicable(seen, values.value(oldValue), seen.values[size_t(oldValue)],

@@ -6,6 +6,7 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
+#include <functional>
 #include <vector>
 
 namespace Plan {
@@ -15,12 +16,18 @@ namespace Plan {
 class VELKGEOMCORE_EXPORT ChangeMemory
 {
 public:
-    /// A pair has these values in a variable; both have one.
-    void add(const CellValues &values, int variable, int oldValue, int newValue, double weight);
-    /// When all pairs are added: finds the most likely changes.
-    void finish(const std::vector<CellValues> &values);
-    /// Likewise if nobody asks for the most likely ones.
-    void finish() { m_changed = {}; }
+    explicit ChangeMemory(int variableCount = 0)
+        : m_variables(size_t(variableCount))
+    {
+    }
+
+    using TakePair = std::function<void(int oldValue, int newValue, double weight)>;
+    /// Calls its argument with the values of each pair in which both lines have one; asked more
+    /// than once, and in the same order each time.
+    using Pairs = std::function<void(const TakePair &)>;
+    /// All that is known of a variable. Of different ones on different threads at once.
+    /// \a mostLikely: mostLikely() will be asked for.
+    void learn(const CellValues &values, int variable, const Pairs &pairs, bool mostLikely);
 
     struct Likely
     {
@@ -43,22 +50,14 @@ private:
         double all = 0;
         double numbers = 0;
         double mostLikely = 0;
-        std::vector<double> values;
-        std::vector<double> tokens;
+        KeyWeights changes;
+        std::vector<double> values; ///< Empty if nothing changed,
+        std::vector<double> tokens; ///< or no part of a text.
     };
     [[nodiscard]] static double applicable(const Variable &seen, const CellValues::Value &oldValue,
                                            double ofValue, const CellChange &change,
                                            CellChange::Kind kind);
 
-    struct Pair
-    {
-        int variable;
-        int oldValue;
-        int newValue;
-    };
-
-    KeyWeights m_changes;
-    std::vector<Pair> m_changed; ///< Until finish().
     std::vector<Variable> m_variables;
 };
 

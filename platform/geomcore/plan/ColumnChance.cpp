@@ -57,6 +57,7 @@ void ColumnChance::finishNumbers(std::vector<std::pair<double, int>> counts)
         }
         m_below.back() += count;
     }
+    m_nearSpan = std::log(2.0 * numberCount() + 2);
     const size_t parts = std::min(MaxParts, m_numbers.size() / 2 + 1);
     m_partBegins.assign(parts + 1, int(m_numbers.size()));
     if (m_numbers.empty())

@@ -61,6 +61,8 @@ public:
     /// The least that nearShare() gives for any two numbers.
     [[nodiscard]] double leastNearShare() const;
     [[nodiscard]] int numberCount() const { return m_below.back(); }
+    /// About the logarithm of the greatest nearShare() divided by the least.
+    [[nodiscard]] double nearSpan() const { return m_nearSpan; }
 
 private:
     void finishNumbers(std::vector<std::pair<double, int>> counts);
@@ -81,6 +83,7 @@ private:
     std::vector<int> m_partBegins; ///< By partOf() its first number; at the end all.
     double m_partsPerUnit = 0;
     std::vector<int> m_below{0}; ///< By number: lines with a smaller one; at the end all.
+    double m_nearSpan = 0;
     double m_meanTokens = 0;
     double m_part = 1; ///< What a line is of all that are counted.
     int m_lineCount = 0;

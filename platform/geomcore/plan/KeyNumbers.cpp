@@ -53,11 +53,16 @@ int KeyNumbers::ofText(std::string_view text)
     return slot.number;
 }
 
+std::uint32_t KeyNumbers::hashOf(std::uint64_t packed)
+{
+    return std::uint32_t(
+        VKTab::mixHash(packed ^ 0x9E3779B97F4A7C15ULL, packed + 0xD6E8FEB86659FD93ULL));
+}
+
 int KeyNumbers::ofPacked(std::uint64_t packed)
 {
     grow(m_packedSlots, m_keys.size() - m_textCount);
-    const auto hash = std::uint32_t(
-        VKTab::mixHash(packed ^ 0x9E3779B97F4A7C15ULL, packed + 0xD6E8FEB86659FD93ULL));
+    const std::uint32_t hash = hashOf(packed);
     Slot &slot = m_packedSlots[placeOf(
         m_packedSlots, hash, [&](int number) { return m_keys[size_t(number)] == packed; })];
     if (slot.number < 0) {
@@ -65,6 +70,15 @@ int KeyNumbers::ofPacked(std::uint64_t packed)
         m_keys.push_back(packed);
     }
     return slot.number;
+}
+
+int KeyNumbers::findPacked(std::uint64_t packed) const
+{
+    if (m_packedSlots.empty())
+        return -1;
+    return m_packedSlots[placeOf(m_packedSlots, hashOf(packed),
+                                 [&](int number) { return m_keys[size_t(number)] == packed; })]
+        .number;
 }
 
 } // namespace Plan

@@ -18,6 +18,8 @@ public:
     [[nodiscard]] int ofText(std::string_view text);
     /// Of what a CanonicalNumber packs; a text of the same characters is something else.
     [[nodiscard]] int ofPacked(std::uint64_t packed);
+    /// The same, or -1.
+    [[nodiscard]] int findPacked(std::uint64_t packed) const;
 
 private:
     struct Slot
@@ -29,6 +31,7 @@ private:
     template<class IsIt>
     [[nodiscard]] static size_t placeOf(const std::vector<Slot> &slots, std::uint32_t hash,
                                         IsIt isIt);
+    [[nodiscard]] static std::uint32_t hashOf(std::uint64_t packed);
     /// Makes room for one more.
     static void grow(std::vector<Slot> &slots, size_t used);
     [[nodiscard]] std::string_view textOf(int number) const;

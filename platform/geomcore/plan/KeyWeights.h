@@ -13,7 +13,7 @@ class KeyWeights
 public:
     void add(std::uint64_t key, double weight)
     {
-        if ((m_count + 1) * 2 > m_slots.size())
+        if ((m_count + 1) * 3 > m_slots.size() * 2)
             grow();
         Slot &slot = m_slots[placeOf(key)];
         m_count += slot.key == 0 ? 1 : 0;
@@ -26,20 +26,6 @@ public:
         return m_slots.empty() ? 0 : m_slots[placeOf(key)].weight;
     }
     [[nodiscard]] bool isEmpty() const { return m_count == 0; }
-    /// Calls \a take with each key and its weight, in no order that means anything.
-    template<class Take>
-    void forEach(Take take) const
-    {
-        for (const Slot &slot : m_slots) {
-            if (slot.key != 0)
-                take(slot.key, slot.weight);
-        }
-    }
-    void clear()
-    {
-        m_slots.clear();
-        m_count = 0;
-    }
 
 private:
     struct Slot
@@ -67,7 +53,7 @@ private:
         }
     }
 
-    std::vector<Slot> m_slots; ///< A power of two of them, at most half in use.
+    std::vector<Slot> m_slots; ///< A power of two of them, at most two thirds in use.
     size_t m_count = 0;
 };
 

@@ -1,14 +1,14 @@
 #include "LinePlanner.h"
 
-#include "SparseAssignment.h"
+#include "SoftAssignment.h"
 
 #include <core/parallel/WorkerPool.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <map>
+#include <utility>
 
 namespace Plan {
 
@@ -26,26 +26,14 @@ constexpr double HardlyGone = 0.01;
 /// Share of the lines that stay in targets of the source's name, if there are any, before anything
 /// is known.
 constexpr double AssumedNamed = 0.9;
-/// Candidates of a line, of all targets together.
-constexpr size_t KeptEdges = 12;
-/// Candidates that are so far behind the best one of their line are not looked at further: what is
-/// learned later hardly moves a weight so far.
-constexpr double FarBehind = 25;
-/// Lines with a candidate that is so probable are looked for only just where their neighbours put
-/// them.
-constexpr double Certain = 0.9999;
-/// Lines that a thread takes at once.
-constexpr size_t LinesAtOnce = 64;
 /// Lines of a kind that it is learned from.
 constexpr size_t MaxSampled = 4096;
 /// Pairs below are not learned from.
 constexpr double LeastLearned = 0.2;
 /// Pairs from here on, more probable than not, show the places of others.
 constexpr double Confident = 0.5;
-/// What is less probable is nobody's best candidate at the cost of another one.
-constexpr double LeastChosen = 1e-6;
-/// Rows around the places that neighbours suggest are candidates.
-constexpr int AroundPlace = 2;
+/// Pairs that a thread takes at once.
+constexpr size_t PairsAtOnce = 4096;
 
 } // namespace
 
@@ -56,7 +44,6 @@ LinePlanner::LinePlanner(const PlanTables &tables)
     , m_counts(size_t(tables.variableCount))
     , m_gone(AssumedGone)
     , m_edges(tables.openLines.size())
-    , m_lines(tables.openLines.size())
 {
     std::map<int, int> offsets;
     for (const PlanTarget &target : tables.targets) {
@@ -89,7 +76,7 @@ void LinePlanner::learnAgain(bool beginsByKeys, double gone)
     other->m_beginsByKeys = beginsByKeys;
     other->m_gone = gone;
     other->learnInRounds();
-    if (other->m_explained > best().m_explained)
+    if (other->m_choice.explained > best().m_choice.explained)
         m_other = std::move(other);
 }
 
@@ -102,8 +89,8 @@ bool LinePlanner::mostAreOpen() const
                      [](const PlanTarget &target) { return target.hasSourceName; }))
         return false;
     double successors = 0;
-    for (const std::vector<PlanEdge> &edges : m_edges) {
-        for (const PlanEdge &edge : edges)
+    for (size_t line = 0; line < m_edges.size(); ++line) {
+        for (const PlanEdge &edge : std::as_const(m_edges)[line])
             successors += edge.probability;
     }
     return 2 * successors < double(std::min(m_edges.size(), size_t(m_nodeCount)));
@@ -131,7 +118,7 @@ bool LinePlanner::onlyKeysAgree() const
 void LinePlanner::learnInRounds()
 {
     for (const PlanTarget &target : m_tables.targets)
-        m_lists.push_back(std::make_unique<CandidateLists>(m_tables, target));
+        m_rows.lists.push_back(std::make_unique<CandidateLists>(m_tables, target));
     m_rates = m_prior;
     learnTargets(std::vector<double>(m_tables.targets.size(), 0));
     for (int round = 0; round < Rounds && !isCanceled(); ++round) {
@@ -139,14 +126,30 @@ void LinePlanner::learnInRounds()
         m_withKeys = m_beginsByKeys || round > 0;
         findPlaces(round == 0);
         makeEdges(isLast);
+        if (isLast)
+            freeSearch();
         if (round == 0)
-            keepBest();
+            m_rows.keep(m_edges, m_tables.targets.size());
         spreadProbabilities(m_edges, m_nodeCount);
         if (round == 0)
             takeSample();
         learn(isLast);
     }
-    choose();
+    m_choice = LineChoice::of(m_edges, m_nodeCount);
+}
+
+LinePlanner::Line LinePlanner::line(size_t line) const
+{
+    const LinePlanner &made = best();
+    if (made.m_choice.noSuccessor.empty())
+        return {};
+    return {std::as_const(made.m_edges)[line], made.m_choice.noSuccessor[line]};
+}
+
+void LinePlanner::freeSearch()
+{
+    m_rows = {};
+    m_places = {};
 }
 
 bool LinePlanner::isCanceled() const
@@ -156,41 +159,6 @@ bool LinePlanner::isCanceled() const
     return m_wasCanceled;
 }
 
-void LinePlanner::forEachLine(const std::function<void(size_t)> &work) const
-{
-    const size_t count = m_edges.size();
-    WorkerPool::instance().run(int((count + LinesAtOnce - 1) / LinesAtOnce), [&](int step) {
-        const size_t first = size_t(step) * LinesAtOnce;
-        if (isCanceled())
-            return;
-        for (size_t line = first; line < std::min(count, first + LinesAtOnce); ++line)
-            work(line);
-    });
-}
-
-/// What was far behind at first is not looked at again.
-void LinePlanner::keepBest()
-{
-    m_lists.clear();
-    m_found.resize(m_tables.targets.size());
-    for (LineLists<int> &found : m_found)
-        found.reserve(m_edges.size());
-    for (std::vector<PlanEdge> &edges : m_edges) {
-        std::erase_if(edges, [least = edges.empty() ? 0 : edges.front().weight - FarBehind](
-                                 const PlanEdge &edge) { return edge.weight < least; });
-        for (const PlanEdge &edge : edges)
-            m_found[size_t(edge.target)].add(edge.row);
-        for (LineLists<int> &found : m_found)
-            found.endLine();
-    }
-}
-
-bool LinePlanner::isFound(size_t line) const
-{
-    return std::any_of(m_edges[line].begin(), m_edges[line].end(),
-                       [](const PlanEdge &edge) { return edge.probability >= Certain; });
-}
-
 /// Of the lines that are found and of the others each: what the many teach, a part of them teaches
 /// as well. All lines compete in each round, those that are not looked at with what they had.
 void LinePlanner::takeSample()
@@ -198,9 +166,9 @@ void LinePlanner::takeSample()
     std::array<size_t, 2> counts{};
     std::array<size_t, 2> seen{};
     for (size_t line = 0; line < m_edges.size(); ++line)
-        ++counts[isFound(line) ? 1 : 0];
+        ++counts[EdgeSearch::isFound(std::as_const(m_edges)[line]) ? 1 : 0];
     for (size_t line = 0; line < m_edges.size(); ++line) {
-        const size_t kind = isFound(line) ? 1 : 0;
+        const size_t kind = EdgeSearch::isFound(std::as_const(m_edges)[line]) ? 1 : 0;
         const size_t step = (counts[kind] + MaxSampled - 1) / MaxSampled;
         const size_t taken = (counts[kind] + step - 1) / step;
         const bool isTaken = seen[kind]++ % step == 0;
@@ -215,7 +183,7 @@ void LinePlanner::findPlaces(bool first)
         const PlanTarget &target = m_tables.targets[t];
         std::vector<int> partners = target.settled;
         for (size_t line = 0; line < m_edges.size() && !first; ++line) {
-            for (const PlanEdge &edge : m_edges[line]) {
+            for (const PlanEdge &edge : std::as_const(m_edges)[line]) {
                 const bool same = m_tables.targets[size_t(edge.target)].table == target.table;
                 if (same && edge.probability >= Confident)
                     partners[size_t(m_tables.openLines[line])] = target.openRows[size_t(edge.row)];
@@ -226,106 +194,31 @@ void LinePlanner::findPlaces(bool first)
     }
 }
 
-double LinePlanner::own(size_t line, int node) const
+double LinePlanner::prior(size_t target) const
 {
-    for (const Learned &learned : m_learned.of(line)) {
-        if (learned.node == node)
-            return learned.weight;
-    }
-    return 0;
+    const auto rows = double(m_tables.targets[target].openRows.size());
+    return std::log((1 - m_gone) * m_shares[target] / (m_gone * rows));
 }
 
 void LinePlanner::makeEdges(bool ofAll)
 {
     m_evidence = std::make_unique<PairEvidence>(m_tables, m_rates, m_changes);
-    forEachLine([this, ofAll](size_t line) {
-        if (ofAll || m_standsFor[line] > 0)
-            makeEdges(line);
+    std::vector<double> priors;
+    for (size_t t = 0; t < m_tables.targets.size(); ++t)
+        priors.push_back(prior(t));
+    const EdgeSearch search({m_tables, m_nodeOffsets, m_rows, m_places, *m_evidence, m_learned,
+                             std::move(priors), m_withKeys});
+    WorkerPool::instance().run(int(m_edges.blockCount()), [&](int block) {
+        if (isCanceled())
+            return;
+        m_edges.refill(size_t(block), [&](size_t line, EdgeLists::Block &out) {
+            const std::span<const PlanEdge> before = std::as_const(m_edges)[line];
+            if (ofAll || m_standsFor[line] > 0)
+                search.find(line, EdgeSearch::isFound(before), out);
+            else
+                out.add(before);
+        });
     });
-}
-
-double LinePlanner::prior(int target) const
-{
-    const auto rows = double(m_tables.targets[size_t(target)].openRows.size());
-    return std::log((1 - m_gone) * m_shares[size_t(target)] / (m_gone * rows));
-}
-
-CandidateLists::Found LinePlanner::lookedUp(size_t target, size_t line) const
-{
-    if (!m_lists.empty())
-        return m_lists[target]->find(line);
-    const std::span<const int> kept = m_found[target].of(line);
-    return {{kept.begin(), kept.end()}, isFound(line)};
-}
-
-std::vector<LinePlanner::Candidate> LinePlanner::candidatesOf(size_t line) const
-{
-    std::vector<Candidate> candidates;
-    for (size_t t = 0; t < m_tables.targets.size(); ++t) {
-        const PlanTarget &target = m_tables.targets[t];
-        if (!target.takes[line])
-            continue;
-        CandidateLists::Found found = lookedUp(t, line);
-        std::vector<int> &rows = found.rows;
-        const int around = found.isFarAhead ? 0 : AroundPlace;
-        const PlaceEvidence::Places at = m_places[t].places(m_tables.openLines[line]);
-        for (const int place : {at.fromAbove, at.fromBelow}) {
-            auto row =
-                std::lower_bound(target.openRows.begin(), target.openRows.end(), place - around);
-            for (; row != target.openRows.end() && *row <= place + around; ++row)
-                rows.push_back(int(row - target.openRows.begin()));
-        }
-        std::sort(rows.begin(), rows.end());
-        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-        const size_t others = candidates.size(); // of targets before
-        const double before = prior(int(t));
-        for (const int row : rows) {
-            Candidate candidate{{int(t), row, nodeOf(int(t), row), 0, 0}, before};
-            if (std::any_of(
-                    candidates.begin(), candidates.begin() + std::ptrdiff_t(others),
-                    [&](const Candidate &other) { return other.edge.node == candidate.edge.node; }))
-                continue;
-            candidate.rest +=
-                m_places[t].weight(m_tables.openLines[line], target.openRows[size_t(row)]);
-            candidate.edge.weight =
-                candidate.rest + m_evidence->atMost(target, line, size_t(row), m_withKeys);
-            candidates.push_back(candidate);
-        }
-    }
-    return candidates;
-}
-
-/// In the order of what they weigh at most, so that most are seen to be far behind by that alone.
-void LinePlanner::makeEdges(size_t line)
-{
-    std::vector<Candidate> candidates = candidatesOf(line);
-    const auto isBefore = [](const PlanEdge &a, const PlanEdge &b) {
-        if (a.weight != b.weight)
-            return a.weight > b.weight;
-        return a.target != b.target ? a.target < b.target : a.row < b.row;
-    };
-    std::sort(candidates.begin(), candidates.end(),
-              [&](const Candidate &a, const Candidate &b) { return isBefore(a.edge, b.edge); });
-    std::vector<PlanEdge> edges;
-    double least = -std::numeric_limits<double>::infinity();
-    for (const Candidate &candidate : candidates) {
-        PlanEdge edge = candidate.edge;
-        if (edge.weight < least)
-            break;
-        edge.weight =
-            candidate.rest + m_evidence->weight(m_tables.targets[size_t(edge.target)], line,
-                                                size_t(edge.row), own(line, edge.node), m_withKeys,
-                                                least - candidate.rest);
-        if (edge.weight < least)
-            continue;
-        edges.insert(std::upper_bound(edges.begin(), edges.end(), edge, isBefore), edge);
-        least = std::max(least, edge.weight - FarBehind);
-        if (edges.size() > KeptEdges)
-            edges.pop_back();
-        if (edges.size() == KeptEdges)
-            least = std::max(least, edges.back().weight);
-    }
-    m_edges[line] = std::move(edges);
 }
 
 void LinePlanner::learnTargets(const std::vector<double> &lines)
@@ -349,98 +242,128 @@ void LinePlanner::learnTargets(const std::vector<double> &lines)
         share /= total;
 }
 
+std::vector<LinePlanner::Shown> LinePlanner::shownPairs(bool isLast) const
+{
+    std::vector<Shown> pairs;
+    for (size_t line = 0; line < m_edges.size(); ++line) {
+        const std::span<const PlanEdge> edges = m_edges[line];
+        for (size_t i = 0; i < edges.size() && (isLast || m_standsFor[line] > 0); ++i) {
+            if (edges[i].probability >= LeastLearned)
+                pairs.push_back({std::uint32_t(line), std::uint16_t(i), false});
+        }
+    }
+    const size_t steps = (pairs.size() + PairsAtOnce - 1) / PairsAtOnce;
+    WorkerPool::instance().run(int(steps), [&](int step) {
+        const size_t first = size_t(step) * PairsAtOnce;
+        for (size_t i = first; i < std::min(pairs.size(), first + PairsAtOnce); ++i) {
+            const PlanEdge &edge = m_edges[pairs[i].line][pairs[i].edge];
+            pairs[i].isModel = PairEvidence::hasCommonValue(m_tables.targets[size_t(edge.target)],
+                                                            pairs[i].line, size_t(edge.row));
+        }
+    });
+    return pairs;
+}
+
+template<class Take>
+void LinePlanner::forEachShown(const std::vector<Shown> &pairs, Take take) const
+{
+    for (const Shown &pair : pairs) {
+        const PlanEdge &edge = m_edges[pair.line][pair.edge];
+        take(pair, edge, m_tables.targets[size_t(edge.target)]);
+    }
+}
+
+void LinePlanner::learnRates(const std::vector<Shown> &pairs)
+{
+    WorkerPool::instance().run(int(m_counts.size()), [&](int variable) {
+        RateCounts counts;
+        forEachShown(pairs, [&](const Shown &pair, PlanEdge edge, const PlanTarget &target) {
+            edge.probability *= double(m_standsFor[pair.line]);
+            for (size_t place = 0; place < target.variables.size(); ++place) {
+                if (target.variables[place] == variable && edge.probability > 0)
+                    m_evidence->count(target, place, edge, pair.line,
+                                      ownWeight(m_learned, pair.line, edge.node), counts);
+            }
+        });
+        m_counts[size_t(variable)] = counts;
+    });
+}
+
+ChangeMemory::Pairs LinePlanner::valuesOf(const std::vector<Shown> &pairs, int variable,
+                                          bool isLast) const
+{
+    return [this, &pairs, variable, isLast](const ChangeMemory::TakePair &take) {
+        forEachShown(pairs, [&](const Shown &pair, const PlanEdge &edge, const PlanTarget &target) {
+            const double shown = isLast ? 1 : double(m_standsFor[pair.line]);
+            for (size_t place = 0; place < target.variables.size() && pair.isModel; ++place) {
+                if (target.variables[place] != variable)
+                    continue;
+                const int oldValue = target.lines.at(pair.line, place);
+                const int newValue = target.rows.at(size_t(edge.row), place);
+                if (oldValue != CellValues::NoValue && newValue != CellValues::NoValue)
+                    take(oldValue, newValue, shown * edge.probability);
+            }
+        });
+    };
+}
+
+/// What was learned before goes first: of very many pairs it is much.
+void LinePlanner::learnChanges(const std::vector<Shown> &pairs, bool isLast)
+{
+    m_evidence.reset();
+    m_changes = ChangeMemory(m_tables.variableCount);
+    WorkerPool::instance().run(m_tables.variableCount, [&](int variable) {
+        m_changes.learn(m_tables.values[size_t(variable)], variable,
+                        valuesOf(pairs, variable, isLast), !isLast);
+    });
+    m_learned = {};
+    auto pair = pairs.begin();
+    for (size_t line = 0; line < m_edges.size() && !isLast; ++line) {
+        for (; pair != pairs.end() && pair->line == line; ++pair) {
+            const PlanEdge &edge = m_edges[line][pair->edge];
+            if (pair->isModel)
+                m_learned.add({edge.node, double(m_standsFor[line]) * edge.probability});
+        }
+        m_learned.endLine();
+    }
+}
+
 void LinePlanner::learn(bool isLast)
 {
-    std::vector<RateCounts> counts(m_counts.size());
-    ChangeMemory changes;
     double gone = 0;
     std::vector<double> perTarget(m_tables.targets.size(), 0);
-    LineLists<Learned> added;
-    added.reserve(m_edges.size());
     for (size_t line = 0; line < m_edges.size(); ++line) {
         const auto lines = double(m_standsFor[line]);
-        const double shown = isLast ? 1 : lines;
         double successor = 0;
-        for (const PlanEdge &edge : m_edges[line]) {
+        for (const PlanEdge &edge : std::as_const(m_edges)[line]) {
             successor += edge.probability;
             perTarget[size_t(edge.target)] += lines * edge.probability;
-            if (edge.probability < LeastLearned || shown == 0)
-                continue;
-            const PlanTarget &target = m_tables.targets[size_t(edge.target)];
-            PlanEdge seen = edge;
-            seen.probability = lines * edge.probability;
-            if (lines > 0)
-                m_evidence->count(target, seen, line, own(line, edge.node), counts);
-            seen.probability = shown * edge.probability;
-            if (m_evidence->countChanges(target, seen, line, changes))
-                added.add({edge.node, seen.probability});
         }
-        added.endLine();
         gone += lines * std::max(0.0, 1 - successor);
     }
-    m_learned = std::move(added);
-    m_counts = counts;
-    m_changes = std::move(changes);
-    if (isLast)
-        m_changes.finish();
-    else
-        m_changes.finish(m_tables.values);
-    for (size_t v = 0; v < counts.size(); ++v)
-        m_rates[v] = VariableRates::learned(counts[v], m_prior[v]);
+    const std::vector<Shown> pairs = shownPairs(isLast);
+    learnRates(pairs);
+    learnChanges(pairs, isLast);
+    for (size_t v = 0; v < m_counts.size(); ++v)
+        m_rates[v] = VariableRates::learned(m_counts[v], m_prior[v]);
     m_evidence = std::make_unique<PairEvidence>(m_tables, m_rates, m_changes);
     learnTargets(perTarget);
     m_gone = (gone + VariableRates::Strength * AssumedGone) /
              (double(m_edges.size()) + VariableRates::Strength);
 }
 
-void LinePlanner::choose()
-{
-    const std::vector<int> pairs = assignPairs(m_edges, m_nodeCount, 0);
-    std::vector<char> taken(size_t(m_nodeCount), 0);
-    EdgeLists rest(m_edges.size());
-    std::vector<std::vector<int>> places(m_edges.size());
-    for (size_t line = 0; line < m_edges.size(); ++line) {
-        if (pairs[line] >= 0)
-            m_explained += m_edges[line][size_t(pairs[line])].weight;
-        if (pairs[line] >= 0)
-            taken[size_t(m_edges[line][size_t(pairs[line])].node)] = 1;
-    }
-    for (size_t line = 0; line < m_edges.size(); ++line) {
-        for (int edge = 0; edge < int(m_edges[line].size()) && pairs[line] < 0; ++edge) {
-            const PlanEdge &candidate = m_edges[line][size_t(edge)];
-            if (taken[size_t(candidate.node)] || candidate.probability < LeastChosen)
-                continue;
-            rest[line].push_back(m_edges[line][size_t(edge)]);
-            places[line].push_back(edge);
-        }
-    }
-    const std::vector<int> left = assignPairs(rest, m_nodeCount, -1e6);
-    for (size_t line = 0; line < m_edges.size(); ++line) {
-        const int chosen = pairs[line] >= 0
-                               ? pairs[line]
-                               : (left[line] >= 0 ? places[line][size_t(left[line])] : -1);
-        std::vector<PlanEdge> &edges = m_edges[line];
-        const int node = chosen >= 0 ? edges[size_t(chosen)].node : -1;
-        double successor = 0;
-        for (const PlanEdge &edge : edges)
-            successor += edge.probability;
-        std::stable_sort(edges.begin(), edges.end(), [node](const PlanEdge &a, const PlanEdge &b) {
-            if ((a.node == node) != (b.node == node))
-                return a.node == node;
-            return a.probability > b.probability;
-        });
-        if (edges.size() > MaxCandidates)
-            edges.resize(MaxCandidates);
-        m_lines[line] = {edges, std::clamp(1 - successor, 0.0, 1.0)};
-    }
-}
-
 CellEvidence LinePlanner::cell(const PlanEdge &edge, size_t line, size_t place) const
 {
     if (m_other)
         return m_other->cell(edge, line, place);
-    return m_evidence->cell(m_tables.targets[size_t(edge.target)], line, size_t(edge.row), place,
-                            own(line, edge.node));
+    const PlanTarget &target = m_tables.targets[size_t(edge.target)];
+    double own = 0;
+    for (const PlanEdge &candidate : m_edges[line]) {
+        if (candidate.node == edge.node && candidate.probability >= LeastLearned &&
+            PairEvidence::hasCommonValue(target, line, size_t(edge.row)))
+            own = candidate.probability;
+    }
+    return m_evidence->cell(target, line, size_t(edge.row), place, own);
 }
 
 } // namespace Plan

@@ -1,16 +1,14 @@
 #pragma once
 
-#include "CandidateLists.h"
-#include "LineLists.h"
-#include "PairEvidence.h"
-#include "PlaceEvidence.h"
-#include "SoftAssignment.h"
+#include "EdgeSearch.h"
+#include "LineChoice.h"
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace Plan {
@@ -34,14 +32,14 @@ public:
     void setCancellation(std::function<bool()> isCanceled) { m_isCanceled = std::move(isCanceled); }
     void run();
 
+    /// What was found for an open line.
     struct Line
     {
         /// Most probable first; the one that the assignment gives stands before the others.
-        std::vector<PlanEdge> candidates;
+        std::span<const PlanEdge> candidates;
         double noSuccessor = 1;
     };
-    /// By open line.
-    [[nodiscard]] const std::vector<Line> &lines() const { return best().m_lines; }
+    [[nodiscard]] Line line(size_t line) const;
     /// Number of an open row among those of all tables.
     [[nodiscard]] int nodeOf(int target, int row) const
     {
@@ -51,8 +49,6 @@ public:
     [[nodiscard]] CellEvidence cell(const PlanEdge &edge, size_t line, size_t place) const;
     /// What was seen, by variable.
     [[nodiscard]] const std::vector<RateCounts> &counts() const { return best().m_counts; }
-
-    static constexpr size_t MaxCandidates = 5;
 
 private:
     /// What is learned depends on where it begins: if a key was renumbered, its values meet by
@@ -67,36 +63,36 @@ private:
     void findPlaces(bool first);
     /// Of all lines or of those that stand for them.
     void makeEdges(bool ofAll);
-    void makeEdges(size_t line);
-    void keepBest();
-    [[nodiscard]] bool isFound(size_t line) const;
     /// Of very many lines a part is enough to learn from.
     void takeSample();
-    /// Calls \a work for each open line, on all cores.
-    void forEachLine(const std::function<void(size_t)> &work) const;
-    /// An edge with what it weighs at most; of that the rest is sure, what no variable says.
-    struct Candidate
-    {
-        PlanEdge edge;
-        double rest = 0;
-    };
-    /// The rows to look at, each once.
-    [[nodiscard]] std::vector<Candidate> candidatesOf(size_t line) const;
-    [[nodiscard]] CandidateLists::Found lookedUp(size_t target, size_t line) const;
-    [[nodiscard]] double prior(int target) const;
+    /// Once all edges are made, nothing is looked up any more.
+    void freeSearch();
+    [[nodiscard]] double prior(size_t target) const;
     /// The last time no lines stand for others in the changes, which are told as they are.
     void learn(bool isLast);
     void learnTargets(const std::vector<double> &lines);
-    void choose();
-    [[nodiscard]] double own(size_t line, int node) const;
+    /// A pair that is probable enough to learn from.
+    struct Shown
+    {
+        std::uint32_t line = 0;
+        std::uint16_t edge = 0; ///< Index among those of the line.
+        bool isModel = false;   ///< Changes are learned from it as well.
+    };
+    [[nodiscard]] std::vector<Shown> shownPairs(bool isLast) const;
+    /// Calls \a take with each of them, its edge and its target.
+    template<class Take>
+    void forEachShown(const std::vector<Shown> &pairs, Take take) const;
+    void learnRates(const std::vector<Shown> &pairs);
+    void learnChanges(const std::vector<Shown> &pairs, bool isLast);
+    [[nodiscard]] ChangeMemory::Pairs valuesOf(const std::vector<Shown> &pairs, int variable,
+                                               bool isLast) const;
     /// Once true, it is not asked again.
     [[nodiscard]] bool isCanceled() const;
 
     const PlanTables &m_tables;
     std::vector<int> m_nodeOffsets; ///< By target.
     int m_nodeCount = 0;
-    std::vector<std::unique_ptr<CandidateLists>> m_lists; ///< By target; in the first round,
-    std::vector<LineLists<int>> m_found; ///< after it what was kept, by target and open line.
+    EdgeSearch::Rows m_rows;
     std::vector<float> m_standsFor; ///< By open line: so many, itself included; 0: not looked at.
     std::vector<VariableRates> m_prior;
     std::vector<VariableRates> m_rates;
@@ -107,15 +103,9 @@ private:
     double m_gone;
     std::vector<double> m_shares; ///< By target: how many of the lines that have a successor.
     EdgeLists m_edges;
-    struct Learned
-    {
-        int node = 0;
-        double weight = 0;
-    };
-    LineLists<Learned>
-        m_learned; ///< The edges that m_changes was learned from, with what they added.
-    std::vector<Line> m_lines;
-    double m_explained = 0; ///< Sum of the weights of the assigned pairs.
+    /// What the edges have added to m_changes; after the last round the candidates say it.
+    LineLists<EdgeSearch::Learned> m_learned;
+    LineChoice m_choice;
     bool m_beginsByKeys = true;
     bool m_withKeys = true; ///< In this round.
     std::unique_ptr<LinePlanner> m_other;

@@ -61,8 +61,7 @@ PairEvidence::PlaceWeights PairEvidence::weightsOf(const PlanTarget &target, siz
     weights.without = std::log((1 - rates.gained) / missing);
     weights.bothThere = std::log((1 - rates.lost) / (1 - missing));
     weights.change = rates.way(Way::Change) * m_changes.mostLikely(target.variables[place]);
-    weights.near =
-        rates.way(Way::Near) / (chance.leastNearShare() * std::log(2.0 * chance.numberCount() + 2));
+    weights.near = rates.way(Way::Near) / (chance.leastNearShare() * chance.nearSpan());
     return weights;
 }
 
@@ -105,13 +104,14 @@ double PairEvidence::atMost(const PlanTarget &target, size_t line, size_t row, b
 double PairEvidence::nearRatio(const CellValues &values, const ColumnChance &chance, int oldValue,
                                int newValue) const
 {
-    const CellValues::Value a = values.value(oldValue);
-    const CellValues::Value b = values.value(newValue);
-    if (!a.isNumber || !b.isNumber || a.number * b.number <= 0)
+    if (!values.isNumber(oldValue) || !values.isNumber(newValue))
+        return 0;
+    const double a = values.numberOf(oldValue);
+    const double b = values.numberOf(newValue);
+    if (a * b <= 0)
         return 0;
     // The share of numbers as near by chance is even in 0 to 1; between partners its logarithm is.
-    const double share = chance.nearShare(a.number, b.number);
-    return 1 / (share * std::log(2.0 * chance.numberCount() + 2));
+    return 1 / (chance.nearShare(a, b) * chance.nearSpan());
 }
 
 double PairEvidence::alikeRatio(const CellValues &values, const ColumnChance &chance,
@@ -228,7 +228,7 @@ double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, d
     return hasCommon ? sum : sum - nearest;
 }
 
-bool PairEvidence::hasCommonValue(const PlanTarget &target, size_t line, size_t row) const
+bool PairEvidence::hasCommonValue(const PlanTarget &target, size_t line, size_t row)
 {
     for (size_t place = 0; place < target.variables.size(); ++place) {
         const int value = target.lines.at(line, place);
@@ -256,47 +256,25 @@ void PairEvidence::countTokens(const CellValues &values, const ColumnChance &cha
     seen.expected += weight * std::max(0.0, expected);
 }
 
-bool PairEvidence::countChanges(const PlanTarget &target, const PlanEdge &edge, size_t line,
-                                ChangeMemory &changes) const
-{
-    const auto row = size_t(edge.row);
-    if (!hasCommonValue(target, line, row))
-        return false;
-    for (size_t place = 0; place < target.variables.size(); ++place) {
-        const int a = target.lines.at(line, place);
-        const int b = target.rows.at(row, place);
-        const int variable = target.variables[place];
-        if (a != CellValues::NoValue && b != CellValues::NoValue)
-            changes.add(m_tables.values[size_t(variable)], variable, a, b, edge.probability);
-    }
-    return true;
-}
-
-void PairEvidence::count(const PlanTarget &target, const PlanEdge &edge, size_t line, double own,
-                         std::vector<RateCounts> &counts) const
+void PairEvidence::count(const PlanTarget &target, size_t place, const PlanEdge &edge, size_t line,
+                         double own, RateCounts &seen) const
 {
     const auto row = size_t(edge.row);
     const double probability = edge.probability;
-    for (size_t place = 0; place < target.variables.size(); ++place) {
-        const int a = target.lines.at(line, place);
-        const int b = target.rows.at(row, place);
-        const int variable = target.variables[place];
-        const CellValues &values = m_tables.values[size_t(variable)];
-        RateCounts &seen = counts[size_t(variable)];
-        (a == CellValues::NoValue ? seen.hadNone : seen.hadValue) += probability;
-        if (a == CellValues::NoValue || b == CellValues::NoValue) {
-            if (a != b)
-                (a == CellValues::NoValue ? seen.gained : seen.lost) += probability;
-            continue;
-        }
-        const CellEvidence evidence = cell(target, line, row, place, own);
-        for (size_t way = 0; way < evidence.ways.size(); ++way)
-            seen.ways[way] += probability * evidence.ways[way];
-        if (a == b)
-            continue;
-        countTokens(values, target.chances[place], a, b,
-                    probability * evidence.ways[int(Way::Alike)], seen);
+    const int a = target.lines.at(line, place);
+    const int b = target.rows.at(row, place);
+    (a == CellValues::NoValue ? seen.hadNone : seen.hadValue) += probability;
+    if (a == CellValues::NoValue || b == CellValues::NoValue) {
+        if (a != b)
+            (a == CellValues::NoValue ? seen.gained : seen.lost) += probability;
+        return;
     }
+    const CellEvidence evidence = cell(target, line, row, place, own);
+    for (size_t way = 0; way < evidence.ways.size(); ++way)
+        seen.ways[way] += probability * evidence.ways[way];
+    if (a != b)
+        countTokens(m_tables.values[size_t(target.variables[place])], target.chances[place], a, b,
+                    probability * evidence.ways[int(Way::Alike)], seen);
 }
 
 } // namespace Plan

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ChangeMemory.h"
+#include "EdgeLists.h"
 #include "PlanTables.h"
-#include "SoftAssignment.h"
 #include "VariableRates.h"
 
 #include <geomcore/VelkGeomCoreGlobal.h>
@@ -39,13 +39,13 @@ public:
     /// At least what weight() gives, from what is the same alone.
     [[nodiscard]] double atMost(const PlanTarget &target, size_t line, size_t row,
                                 bool withKeys) const;
-    /// Adds what the pair shows of the rates, with its probability.
-    void count(const PlanTarget &target, const PlanEdge &edge, size_t line, double own,
-               std::vector<RateCounts> &counts) const;
-    /// Likewise of the changes. A change that nothing else speaks for is no model for others: in a
-    /// series of numbers every shift looks like a rule. Then nothing is added, and false.
-    bool countChanges(const PlanTarget &target, const PlanEdge &edge, size_t line,
-                      ChangeMemory &changes) const;
+    /// Adds what the pair shows of the rates of the variable in this place, with its probability.
+    void count(const PlanTarget &target, size_t place, const PlanEdge &edge, size_t line,
+               double own, RateCounts &seen) const;
+    /// Whether some variable has the same value in both, one that less than half of the rows have.
+    /// A change that nothing else speaks for is no model for others: in a series of numbers every
+    /// shift looks like a rule.
+    [[nodiscard]] static bool hasCommonValue(const PlanTarget &target, size_t line, size_t row);
 
 private:
     /// What cell() gives where no two values are to be compared, and the most that two different
@@ -74,8 +74,6 @@ private:
     /// What cell() gives, or gives at most, without comparing.
     [[nodiscard]] Part atMost(const PlanTarget &target, size_t place, int oldValue,
                               int newValue) const;
-    /// Whether some variable has the same value in both, one that less than half of the rows have.
-    [[nodiscard]] bool hasCommonValue(const PlanTarget &target, size_t line, size_t row) const;
     [[nodiscard]] double alikeRatio(const CellValues &values, const ColumnChance &chance,
                                     const VariableRates &rates, int oldValue, int newValue) const;
     void countTokens(const CellValues &values, const ColumnChance &chance, int oldValue,

@@ -3,32 +3,57 @@
 #include "CellValues.h"
 #include "ColumnChance.h"
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <vector>
 
 namespace Plan {
 
-/// Cells of some lines in some variables, as numbers of their variable's CellValues.
+/// Cells of some lines in some variables, as numbers of their variable's CellValues. Those of a
+/// line lie together, each in as many bytes as it needs once all are there.
 class CellMatrix
 {
 public:
     CellMatrix() = default;
     CellMatrix(size_t lines, size_t variables)
-        : m_variables(variables)
-        , m_cells(lines * variables)
+        : m_lines(lines)
+        , m_stride(variables * sizeof(std::uint32_t))
+        , m_bytes(lines * m_stride)
     {
+        for (size_t variable = 0; variable < variables; ++variable)
+            m_columns.push_back({variable * sizeof(std::uint32_t), ~std::uint32_t(0)});
     }
     [[nodiscard]] int at(size_t line, size_t variable) const
     {
-        return m_cells[line * m_variables + variable];
+        const Column &column = m_columns[variable];
+        std::uint32_t value = 0;
+        std::memcpy(&value, m_bytes.data() + line * m_stride + column.offset, sizeof value);
+        return int(value & column.mask);
     }
+    /// Until pack().
     void set(size_t line, size_t variable, int value)
     {
-        m_cells[line * m_variables + variable] = value;
+        std::memcpy(m_bytes.data() + line * m_stride + m_columns[variable].offset, &value,
+                    sizeof value);
     }
+    /// When all are there: \a counts says for each variable how many values it has.
+    VELKGEOMCORE_EXPORT void pack(const std::vector<int> &counts);
 
 private:
-    size_t m_variables = 0;
-    std::vector<int> m_cells;
+    struct Column
+    {
+        size_t offset = 0;
+        std::uint32_t mask = 0; ///< Of the bytes from there on those that are its own.
+    };
+    static_assert(std::endian::native == std::endian::little, "the first bytes are the low ones");
+
+    size_t m_lines = 0;
+    size_t m_stride = 0;
+    std::vector<Column> m_columns;
+    std::vector<std::uint8_t> m_bytes;
 };
 
 /// One target of a mapping as a plan sees it: its open rows, those that no settled line has, and

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 namespace Plan {
 
@@ -12,14 +14,11 @@ constexpr double Precision = 1e-4;
 /// Odds beyond e to this power are as good as certain.
 constexpr double MaxWeight = 30;
 
-/// A pair, with what its two sides say of how free they are for it.
-struct Pair
+/// What the two sides of a pair say of how free they are for it.
+struct Free
 {
-    size_t line;
-    size_t node;
-    double odds;
-    double lineFree = 1;
-    double rowFree = 1;
+    double line = 1;
+    double row = 1;
 };
 
 /// Sums of parts of which one at a time is left out, also if it is nearly all of the sum.
@@ -41,47 +40,107 @@ struct SumWithout
     }
 };
 
-double propagate(std::vector<Pair> &pairs, std::vector<SumWithout> &sums, bool toRows)
+/// The pairs' odds stand in the edges as their probabilities until these are known.
+class Spreading
 {
-    std::fill(sums.begin(), sums.end(), SumWithout());
-    for (const Pair &pair : pairs)
-        sums[toRows ? pair.line : pair.node].add(pair.odds *
-                                                 (toRows ? pair.rowFree : pair.lineFree));
-    double change = 0;
-    for (Pair &pair : pairs) {
-        const double part = pair.odds * (toRows ? pair.rowFree : pair.lineFree);
-        double &free = toRows ? pair.lineFree : pair.rowFree;
-        const double now = 1 / (1 + sums[toRows ? pair.line : pair.node].without(part));
-        change = std::max(change, std::abs(now - free));
-        free = now;
+public:
+    Spreading(EdgeLists &edges, int nodeCount)
+        : m_edges(edges)
+        , m_sumOf(size_t(nodeCount), Unseen)
+    {
+        size_t pairs = 0;
+        int shared = 0;
+        for (size_t line = 0; line < edges.size(); ++line) {
+            for (PlanEdge &edge : edges[line]) {
+                edge.probability = std::exp(std::min(edge.weight, MaxWeight));
+                int &sum = m_sumOf[size_t(edge.node)];
+                if (sum < 0)
+                    sum = sum == Unseen ? Single : shared++;
+                ++pairs;
+            }
+        }
+        m_free.resize(pairs);
+        m_sums.resize(size_t(shared));
     }
-    return change;
-}
+
+    void run()
+    {
+        for (int round = 0; round < MaxRounds; ++round) {
+            const double change = tellRows();
+            if (std::max(change, tellLines()) < Precision)
+                break;
+        }
+        auto free = m_free.begin();
+        for (size_t line = 0; line < m_edges.size(); ++line) {
+            for (PlanEdge &edge : m_edges[line]) {
+                const double odds = edge.probability * free->line * free->row;
+                edge.probability = odds / (1 + odds);
+                ++free;
+            }
+        }
+    }
+
+private:
+    double tellRows()
+    {
+        double change = 0;
+        auto free = m_free.begin();
+        for (size_t line = 0; line < m_edges.size(); ++line) {
+            const std::span<const PlanEdge> edges = std::as_const(m_edges)[line];
+            SumWithout sum;
+            for (size_t i = 0; i < edges.size(); ++i)
+                sum.add(edges[i].probability * free[std::ptrdiff_t(i)].row);
+            for (const PlanEdge &edge : edges) {
+                const double now = 1 / (1 + sum.without(edge.probability * free->row));
+                change = std::max(change, std::abs(now - free->line));
+                free->line = now;
+                ++free;
+            }
+        }
+        return change;
+    }
+
+    double tellLines()
+    {
+        std::fill(m_sums.begin(), m_sums.end(), SumWithout());
+        forEachShared([](SumWithout &sum, double part, Free &) { sum.add(part); });
+        double change = 0;
+        forEachShared([&change](const SumWithout &sum, double part, Free &free) {
+            const double now = 1 / (1 + sum.without(part));
+            change = std::max(change, std::abs(now - free.row));
+            free.row = now;
+        });
+        return change;
+    }
+
+    /// Rows with a single pair are free for it whatever its line says.
+    template<class Take>
+    void forEachShared(Take take)
+    {
+        auto free = m_free.begin();
+        for (size_t block = 0; block < m_edges.blockCount(); ++block) {
+            for (const PlanEdge &edge : m_edges.ofBlock(block)) {
+                const int sum = m_sumOf[size_t(edge.node)];
+                if (sum >= 0)
+                    take(m_sums[size_t(sum)], edge.probability * free->line, *free);
+                ++free;
+            }
+        }
+    }
+
+    static constexpr int Unseen = -1;
+    static constexpr int Single = -2;
+    EdgeLists &m_edges;
+    std::vector<int> m_sumOf; ///< By node, place in m_sums of one that several lines share.
+    std::vector<SumWithout> m_sums;
+    std::vector<Free> m_free; ///< By pair, in the order of the lines.
+};
 
 } // namespace
 
 void spreadProbabilities(EdgeLists &edges, int nodeCount)
 {
-    std::vector<Pair> pairs;
-    for (size_t line = 0; line < edges.size(); ++line) {
-        for (const PlanEdge &edge : edges[line])
-            pairs.push_back({line, size_t(edge.node), std::exp(std::min(edge.weight, MaxWeight))});
-    }
-    std::vector<SumWithout> lines(edges.size());
-    std::vector<SumWithout> nodes(static_cast<size_t>(nodeCount));
-    for (int round = 0; round < MaxRounds; ++round) {
-        const double change = propagate(pairs, lines, true);
-        if (std::max(change, propagate(pairs, nodes, false)) < Precision)
-            break;
-    }
-    auto pair = pairs.begin();
-    for (std::vector<PlanEdge> &line : edges) {
-        for (PlanEdge &edge : line) {
-            const double odds = pair->odds * pair->lineFree * pair->rowFree;
-            edge.probability = odds / (1 + odds);
-            ++pair;
-        }
-    }
+    Spreading(edges, nodeCount).run();
 }
 
 } // namespace Plan

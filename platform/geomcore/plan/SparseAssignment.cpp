@@ -5,6 +5,7 @@
 #include <functional>
 #include <limits>
 #include <queue>
+#include <span>
 #include <utility>
 
 namespace Plan {
@@ -18,9 +19,12 @@ constexpr double Never = std::numeric_limits<double>::infinity();
 class Assigner
 {
 public:
-    Assigner(const EdgeLists &edges, int nodeCount, double least)
+    using Counts = std::function<bool(size_t, const PlanEdge &)>;
+
+    Assigner(const EdgeLists &edges, int nodeCount, double least, const Counts &counts)
         : m_edges(edges)
         , m_least(least)
+        , m_counts(counts)
         , m_edgeOf(edges.size(), -1)
         , m_lineOf(size_t(nodeCount), -1)
         , m_linePrice(edges.size(), 0)
@@ -47,12 +51,13 @@ private:
 
     [[nodiscard]] double cost(int line, int edge) const
     {
-        return m_least - m_edges[size_t(line)][size_t(edge)].weight;
+        const PlanEdge &pair = m_edges[size_t(line)][size_t(edge)];
+        return m_counts && !m_counts(size_t(line), pair) ? Never : m_least - pair.weight;
     }
 
     void relax(int line, double base, int skippedEdge)
     {
-        const auto &list = m_edges[size_t(line)];
+        const std::span<const PlanEdge> list = m_edges[size_t(line)];
         for (int edge = 0; edge < int(list.size()); ++edge) {
             const double price = cost(line, edge);
             if (edge == skippedEdge || price >= 0)
@@ -78,7 +83,7 @@ private:
         // The line's price makes all its ways cost at least nothing.
         double lowest = 0;
         int nearest = -1;
-        const auto &list = m_edges[size_t(start)];
+        const std::span<const PlanEdge> list = m_edges[size_t(start)];
         for (int edge = 0; edge < int(list.size()); ++edge) {
             const int node = list[size_t(edge)].node;
             const double price = cost(start, edge) - m_rowPrice[size_t(node)];
@@ -162,6 +167,7 @@ private:
 
     const EdgeLists &m_edges;
     const double m_least;
+    const Counts &m_counts;
     std::vector<int> m_edgeOf;
     std::vector<int> m_lineOf;
     std::vector<double> m_linePrice;
@@ -175,9 +181,10 @@ private:
 
 } // namespace
 
-std::vector<int> assignPairs(const EdgeLists &edges, int nodeCount, double least)
+std::vector<int> assignPairs(const EdgeLists &edges, int nodeCount, double least,
+                             const std::function<bool(size_t, const PlanEdge &)> &counts)
 {
-    return Assigner(edges, nodeCount, least).run();
+    return Assigner(edges, nodeCount, least, counts).run();
 }
 
 } // namespace Plan

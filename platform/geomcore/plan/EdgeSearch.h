@@ -1,0 +1,74 @@
+#pragma once
+
+#include "CandidateLists.h"
+#include "EdgeLists.h"
+#include "PairEvidence.h"
+#include "PlaceEvidence.h"
+
+#include <memory>
+#include <vector>
+
+namespace Plan {
+
+/// Finds for an open line the rows that it may have become, with what they weigh by what is known.
+class EdgeSearch
+{
+public:
+    /// Lines with a candidate that is so probable are looked for only just where their neighbours
+    /// put them.
+    static constexpr double Certain = 0.9999;
+    [[nodiscard]] static bool isFound(std::span<const PlanEdge> edges);
+
+    /// Where rows are looked up.
+    struct Rows
+    {
+        std::vector<std::unique_ptr<CandidateLists>> lists; ///< By target; in the first round,
+        std::vector<LineLists<int>> kept; ///< after it what was kept, by target and open line.
+
+        /// From now on only rows of \a edges are looked at.
+        void keep(const EdgeLists &edges, size_t targets);
+    };
+    /// What pairs have added to the changes that were learned, by line.
+    struct Learned
+    {
+        int node = 0;
+        double weight = 0;
+    };
+    /// All of it stays where it is, and as it is.
+    struct Known
+    {
+        const PlanTables &tables;
+        const std::vector<int> &nodeOffsets; ///< By target.
+        const Rows &rows;
+        const std::vector<PlaceEvidence> &places; ///< By target.
+        const PairEvidence &evidence;
+        const LineLists<Learned> &learned;
+        std::vector<double> priors; ///< By target: what any pair weighs.
+        bool withKeys = true;
+    };
+    explicit EdgeSearch(Known known)
+        : m_known(std::move(known))
+    {
+    }
+    /// Adds the edges of a line, the best first. \a isFound: it was so in the round before.
+    void find(size_t line, bool isFound, EdgeLists::Block &out) const;
+
+private:
+    /// An edge with what it weighs at most; of that the rest is sure, what no variable says.
+    struct Candidate
+    {
+        PlanEdge edge;
+        double rest = 0;
+    };
+    /// The rows to look at, each once.
+    void findCandidates(size_t line, bool isFound, std::vector<Candidate> &candidates) const;
+    [[nodiscard]] CandidateLists::Found lookedUp(size_t target, size_t line, bool isFound) const;
+
+    const Known m_known;
+};
+
+/// What the pair has added.
+[[nodiscard]] double ownWeight(const LineLists<EdgeSearch::Learned> &learned, size_t line,
+                               int node);
+
+} // namespace Plan

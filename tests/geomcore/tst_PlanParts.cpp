@@ -1,0 +1,270 @@
+#include <core/parallel/WorkerPool.h>
+#include <geomcore/mapper/CellNumbering.h>
+#include <geomcore/plan/CandidateLists.h>
+#include <geomcore/plan/SoftAssignment.h>
+#include <geomcore/plan/SparseAssignment.h>
+
+#include <QTest>
+
+#include <cmath>
+#include <random>
+
+using namespace Plan;
+
+namespace {
+
+/// Few of the rows have one pair only.
+EdgeLists someEdges(size_t lines, int nodes)
+{
+    EdgeLists edges(lines);
+    std::mt19937 random(4);
+    for (size_t block = 0; block < edges.blockCount(); ++block) {
+        edges.refill(block, [&](size_t line, EdgeLists::Block &out) {
+            for (int i = 0; i < int(random() % 4) && line % 9 != 0; ++i) {
+                const int node = (int(line) + int(random() % 5) * 7 + i) % nodes;
+                out.add({0, node, node, double(random() % 120) / 10 - 4, 0});
+            }
+        });
+    }
+    return edges;
+}
+
+/// By line: the probabilities after so many rounds, worked out as they are defined.
+std::vector<std::vector<double>> plainlySpread(const EdgeLists &edges, int rounds)
+{
+    struct Message
+    {
+        double line = 1;
+        double row = 1;
+    };
+    std::vector<std::vector<Message>> free(edges.size());
+    for (size_t line = 0; line < edges.size(); ++line)
+        free[line].resize(edges[line].size());
+    const auto others = [&](size_t line, size_t pair, bool ofLine) {
+        const int node = edges[line][pair].node;
+        double sum = 0;
+        for (size_t other = 0; other < edges.size(); ++other) {
+            for (size_t i = 0; i < edges[other].size(); ++i) {
+                const bool isSame = other == line && i == pair;
+                const bool isNear = ofLine ? other == line : edges[other][i].node == node;
+                if (!isSame && isNear)
+                    sum += std::exp(edges[other][i].weight) *
+                           (ofLine ? free[other][i].row : free[other][i].line);
+            }
+        }
+        return sum;
+    };
+    for (int step = 0; step < 2 * rounds; ++step) {
+        auto next = free;
+        for (size_t line = 0; line < edges.size(); ++line) {
+            for (size_t i = 0; i < edges[line].size(); ++i)
+                (step % 2 == 0 ? next[line][i].line : next[line][i].row) =
+                    1 / (1 + others(line, i, step % 2 == 0));
+        }
+        free = std::move(next);
+    }
+    std::vector<std::vector<double>> probabilities(edges.size());
+    for (size_t line = 0; line < edges.size(); ++line) {
+        for (size_t i = 0; i < edges[line].size(); ++i) {
+            const double odds =
+                std::exp(edges[line][i].weight) * free[line][i].line * free[line][i].row;
+            probabilities[line].push_back(odds / (1 + odds));
+        }
+    }
+    return probabilities;
+}
+
+} // namespace
+
+/// The parts that a plan is made of, each beside what it stands for.
+class tst_PlanParts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void packedCellsAreTheSame();
+    void numbersDoNotDependOnThreads();
+    void tokensOfNumbersAreShared();
+    void frequentValuesCount();
+    void refilledBlockLeavesOthers();
+    void probabilitiesAreSpread();
+    void onlyWhatCountsIsAssigned();
+};
+
+void tst_PlanParts::packedCellsAreTheSame()
+{
+    const std::vector<int> counts{2, 256, 257, 70'000, 1, 20'000'000};
+    constexpr size_t Lines = 500;
+    std::mt19937 random(1);
+    CellMatrix cells(Lines, counts.size());
+    std::vector<std::vector<int>> expected(Lines);
+    for (size_t line = 0; line < Lines; ++line) {
+        for (size_t v = 0; v < counts.size(); ++v) {
+            const int number = line == 0 ? counts[v] - 1 : int(random() % unsigned(counts[v]));
+            expected[line].push_back(number);
+            cells.set(line, v, number);
+        }
+    }
+    for (const bool packed : {false, true}) {
+        if (packed)
+            cells.pack(counts);
+        for (size_t line = 0; line < Lines; ++line) {
+            for (size_t v = 0; v < counts.size(); ++v)
+                QCOMPARE(cells.at(line, v), expected[line][v]);
+        }
+    }
+}
+
+/// More lines than are in hand at a time, some without cells, one variable in two places.
+void tst_PlanParts::numbersDoNotDependOnThreads()
+{
+    constexpr size_t Lines = 9000;
+    const std::vector<int> variables{1, 0, 2, 0};
+    const auto textOf = [](size_t line, size_t place) {
+        return std::to_string(line * (place + 3) % 997) + (place == 2 ? " mm" : "");
+    };
+    const auto add = [&](size_t line, Mapper::CellTexts &texts) {
+        for (size_t place = 0; place < variables.size() && line % 7 != 0; ++place)
+            texts.add(textOf(line, place), '.');
+    };
+    std::vector<CellValues> plain(3);
+    std::vector<std::vector<int>> expected(Lines, std::vector<int>(variables.size(), -1));
+    for (size_t line = 0; line < Lines; ++line) {
+        for (size_t place = 0; place < variables.size() && line % 7 != 0; ++place)
+            expected[line][place] =
+                plain[size_t(variables[place])].number(textOf(line, place), '.');
+    }
+    for (const int threads : {1, 3}) {
+        for (const bool inOrder : {false, true}) {
+            WorkerPool::instance().setThreads(threads);
+            std::vector<CellValues> values(3);
+            std::vector<std::vector<int>> numbers(Lines, std::vector<int>(variables.size(), -1));
+            const auto take = [&](size_t line, size_t place, int number) {
+                numbers[line][place] = number;
+            };
+            Mapper::CellNumbering numbering(values, variables);
+            if (inOrder)
+                numbering.runInOrder(Lines, add, take);
+            else
+                numbering.run(Lines, add, take);
+            QCOMPARE(numbers, expected);
+        }
+    }
+    WorkerPool::instance().setThreads(0);
+}
+
+/// Whichever of them comes first.
+void tst_PlanParts::tokensOfNumbersAreShared()
+{
+    CellValues values;
+    const int text = values.number("M 5 x 7", '.');
+    const int seven = values.number("7.0", '.');
+    const int nine = values.number("9", '.');
+    const int later = values.number("9 x 5", '.');
+    QCOMPARE(values.value(seven).tokens[0], values.value(text).tokens[3]);
+    QCOMPARE(values.value(later).tokens[0], values.value(nine).tokens[0]);
+    QCOMPARE(values.value(later).tokens[2], values.value(text).tokens[1]);
+    QCOMPARE(values.numberOf(seven), 7.0);
+    QCOMPARE(values.tokenCount(), 5); // m 5 x 7 9
+}
+
+/// Values that stand in too many rows to be walked may still put another row ahead.
+void tst_PlanParts::frequentValuesCount()
+{
+    constexpr size_t Rows = 8000;
+    constexpr size_t Variables = 10;
+    PlanTables tables;
+    tables.variableCount = int(Variables);
+    tables.values.resize(Variables);
+    tables.openLines = {0};
+    PlanTarget target;
+    target.rowCount = int(Rows);
+    target.takes = {1};
+    target.lines = CellMatrix(1, Variables);
+    target.rows = CellMatrix(Rows, Variables);
+    target.keys.assign(Variables, 0);
+    for (size_t v = 0; v < Variables; ++v) {
+        target.variables.push_back(int(v));
+        for (size_t row = 0; row < Rows; ++row) {
+            // Two variables tell all rows apart, of the others each has four values.
+            const std::string text = v < 2 ? std::to_string(row) : std::to_string(row % 4);
+            target.rows.set(row, v, tables.values[v].number(text, '.'));
+        }
+        target.lines.set(0, v, target.rows.at(0, v));
+    }
+    for (size_t row = 0; row < Rows; ++row)
+        target.openRows.push_back(int(row));
+    tables.targets.push_back(std::move(target));
+    const CandidateLists::Found found = CandidateLists(tables, tables.targets.front()).find(0);
+    QCOMPARE(found.rows, std::vector<int>{0});
+    // Twice log(8000) against eight times log(4).
+    QVERIFY(!found.isFarAhead);
+}
+
+void tst_PlanParts::refilledBlockLeavesOthers()
+{
+    constexpr size_t Lines = 3 * EdgeLists::LinesOfBlock - 5;
+    EdgeLists edges = someEdges(Lines, 50);
+    const EdgeLists before = edges;
+    edges.refill(1, [&](size_t line, EdgeLists::Block &out) {
+        out.add(before[line]);
+        out.add({1, int(line), 0, 0, 0});
+    });
+    edges.refill(2, [](size_t, EdgeLists::Block &) {});
+    for (size_t line = 0; line < Lines; ++line) {
+        const size_t block = line / EdgeLists::LinesOfBlock;
+        QCOMPARE(edges[line].size(), block == 2 ? 0 : before[line].size() + block);
+        if (block == 1)
+            QCOMPARE(edges[line].back().row, int(line));
+    }
+}
+
+void tst_PlanParts::probabilitiesAreSpread()
+{
+    constexpr int Nodes = 60;
+    EdgeLists edges = someEdges(150, Nodes);
+    const std::vector<std::vector<double>> expected = plainlySpread(edges, 60);
+    spreadProbabilities(edges, Nodes);
+    double most = 0;
+    for (size_t line = 0; line < edges.size(); ++line) {
+        for (size_t i = 0; i < edges[line].size(); ++i) {
+            const double probability = edges[line][i].probability;
+            QVERIFY2(std::abs(probability - expected[line][i]) < 1e-3,
+                     qPrintable(QString("line %1, pair %2").arg(line).arg(i)));
+            most = std::max(most, probability);
+        }
+    }
+    QVERIFY(most > 0.9);
+}
+
+void tst_PlanParts::onlyWhatCountsIsAssigned()
+{
+    constexpr int Nodes = 60;
+    const EdgeLists edges = someEdges(150, Nodes);
+    const auto counts = [](size_t line, const PlanEdge &edge) {
+        return line % 3 != 0 && edge.node % 5 != 0;
+    };
+    EdgeLists rest(edges.size());
+    for (size_t block = 0; block < rest.blockCount(); ++block) {
+        rest.refill(block, [&](size_t line, EdgeLists::Block &out) {
+            for (const PlanEdge &edge : edges[line]) {
+                if (counts(line, edge))
+                    out.add(edge);
+            }
+        });
+    }
+    const std::vector<int> found = assignPairs(edges, Nodes, -1e6, counts);
+    const std::vector<int> expected = assignPairs(rest, Nodes, -1e6);
+    int assigned = 0;
+    for (size_t line = 0; line < edges.size(); ++line) {
+        QCOMPARE(found[line] < 0, expected[line] < 0);
+        if (found[line] < 0)
+            continue;
+        ++assigned;
+        QCOMPARE(edges[line][size_t(found[line])].node, rest[line][size_t(expected[line])].node);
+    }
+    QVERIFY(assigned > 30);
+}
+
+QTEST_APPLESS_MAIN(tst_PlanParts)
+#include "tst_PlanParts.moc"
