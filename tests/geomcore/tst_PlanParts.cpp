@@ -140,7 +140,8 @@ void tst_PlanParts::numbersDoNotDependOnThreads()
             std::vector<CellValues> values(3);
             std::vector<std::vector<int>> numbers(Lines, std::vector<int>(variables.size(), -1));
             const auto take = [&](size_t line, size_t place, int number) {
-                numbers[line][place] = number;
+                int &taken = numbers[line][place];
+                taken = taken == -1 ? number : -2; // once
             };
             Mapper::CellNumbering numbering(values, variables);
             if (inOrder)
@@ -172,7 +173,7 @@ void tst_PlanParts::tokensOfNumbersAreShared()
 void tst_PlanParts::frequentValuesCount()
 {
     constexpr size_t Rows = 8000;
-    constexpr size_t Variables = 10;
+    constexpr size_t Variables = 13;
     PlanTables tables;
     tables.variableCount = int(Variables);
     tables.values.resize(Variables);
@@ -186,8 +187,9 @@ void tst_PlanParts::frequentValuesCount()
     for (size_t v = 0; v < Variables; ++v) {
         target.variables.push_back(int(v));
         for (size_t row = 0; row < Rows; ++row) {
-            // Two variables tell all rows apart, of the others each has four values.
-            const std::string text = v < 2 ? std::to_string(row) : std::to_string(row % 4);
+            // Two variables tell all rows apart, the third has 16 values, the others four each.
+            const size_t number = v < 2 ? row : row % (v == 2 ? 16 : 4);
+            const std::string text = std::to_string(number);
             target.rows.set(row, v, tables.values[v].number(text, '.'));
         }
         target.lines.set(0, v, target.rows.at(0, v));
@@ -196,8 +198,8 @@ void tst_PlanParts::frequentValuesCount()
         target.openRows.push_back(int(row));
     tables.targets.push_back(std::move(target));
     const CandidateLists::Found found = CandidateLists(tables, tables.targets.front()).find(0);
-    QCOMPARE(found.rows, std::vector<int>{0});
-    // Twice log(8000) against eight times log(4).
+    // Twice log(8000) against log(16) and ten times log(4).
+    QCOMPARE(int(found.rows.size()), CandidateLists::MaxRows);
     QVERIFY(!found.isFarAhead);
 }
 

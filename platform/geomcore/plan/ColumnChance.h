@@ -33,11 +33,13 @@ public:
     /// one line only, further lines would mostly have texts that are not here (Good and Turing):
     /// the same text by chance is then rarer than its share. Measures meet by chance more often.
     [[nodiscard]] double missing() const;
-    [[nodiscard]] double share(int value) const
+    [[nodiscard]] double share(int value) const { return shareOf(count(value)); }
+    /// How many lines have the value, and what share() says of one that so many have.
+    [[nodiscard]] int count(int value) const
     {
-        const int count = size_t(value) < m_counts.size() ? m_counts[size_t(value)] : 0;
-        return (count + 0.5) * m_part;
+        return size_t(value) < m_counts.size() ? m_counts[size_t(value)] : 0;
     }
+    [[nodiscard]] double shareOf(int count) const { return (count + 0.5) * m_part; }
     [[nodiscard]] double tokenShare(int token) const { return tokenChance(token).share; }
     /// Share of a token with its logarithm and that of the lines without it: a comparison of long
     /// texts asks for many of them.

@@ -10,6 +10,9 @@ namespace Plan {
 
 namespace {
 
+/// Values that so many lines have are looked up, and not worked out each time.
+constexpr size_t CountsKept = 64;
+
 /// Of sorted numbers.
 bool haveCommon(std::span<const int> a, std::span<const int> b)
 {
@@ -62,6 +65,12 @@ PairEvidence::PlaceWeights PairEvidence::weightsOf(const PlanTarget &target, siz
     weights.bothThere = std::log((1 - rates.lost) / (1 - missing));
     weights.change = rates.way(Way::Change) * m_changes.mostLikely(target.variables[place]);
     weights.near = rates.way(Way::Near) / (chance.leastNearShare() * chance.nearSpan());
+    // Few lines look at few rows.
+    const bool isMany = target.openRows.size() > CountsKept;
+    for (size_t count = 0; isMany && count < CountsKept; ++count)
+        weights.same.push_back(
+            std::log(rates.way(Way::Same) / chance.shareOf(int(count)) + rates.way(Way::Other)) +
+            weights.bothThere);
     return weights;
 }
 
@@ -145,16 +154,44 @@ double PairEvidence::alikeRatio(const CellValues &values, const ColumnChance &ch
     return std::min(std::exp(sum), 1 / chance.share(newValue));
 }
 
+double PairEvidence::sameWeight(const PlanTarget &target, size_t place, int value) const
+{
+    const PlaceWeights &at = weights(target, place);
+    const ColumnChance &chance = target.chances[place];
+    const auto count = size_t(chance.count(value));
+    if (count < at.same.size())
+        return at.same[count];
+    const VariableRates &rates = m_rates[size_t(target.variables[place])];
+    return std::log(rates.way(Way::Same) / chance.share(value) + rates.way(Way::Other)) +
+           at.bothThere;
+}
+
+double PairEvidence::compare(const PlanTarget &target, size_t place, int oldValue, int newValue,
+                             double own, CellEvidence &evidence) const
+{
+    const int variable = target.variables[place];
+    const CellValues &values = m_tables.values[size_t(variable)];
+    const VariableRates &rates = m_rates[size_t(variable)];
+    const ColumnChance &chance = target.chances[place];
+    const ChangeMemory::Likely likely = m_changes.likely(values, variable, oldValue, newValue, own);
+    evidence.supports = likely.supports;
+    auto &ways = evidence.ways;
+    ways[int(Way::Change)] = rates.way(Way::Change) * likely.share / chance.share(newValue);
+    ways[int(Way::Near)] = rates.way(Way::Near) * nearRatio(values, chance, oldValue, newValue);
+    ways[int(Way::Alike)] =
+        rates.way(Way::Alike) * alikeRatio(values, chance, rates, oldValue, newValue);
+    ways[int(Way::Other)] = rates.way(Way::Other);
+    return ways[int(Way::Change)] + ways[int(Way::Near)] + ways[int(Way::Alike)] +
+           ways[int(Way::Other)];
+}
+
 CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t row, size_t place,
                                 double own) const
 {
     CellEvidence evidence;
     const int a = target.lines.at(line, place);
     const int b = target.rows.at(row, place);
-    const int variable = target.variables[place];
-    const CellValues &values = m_tables.values[size_t(variable)];
-    const VariableRates &rates = m_rates[size_t(variable)];
-    const ColumnChance &chance = target.chances[place];
+    const VariableRates &rates = m_rates[size_t(target.variables[place])];
     const PlaceWeights &at = weights(target, place);
     if (a == CellValues::NoValue || b == CellValues::NoValue) {
         if (a != b)
@@ -164,19 +201,14 @@ CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t ro
         return evidence;
     }
     auto &ways = evidence.ways;
-    ways[int(Way::Other)] = rates.way(Way::Other);
-    if (a == b) {
-        ways[int(Way::Same)] = rates.way(Way::Same) / chance.share(b);
-    } else {
-        const ChangeMemory::Likely likely = m_changes.likely(values, variable, a, b, own);
-        evidence.supports = likely.supports;
-        ways[int(Way::Change)] = rates.way(Way::Change) * likely.share / chance.share(b);
-        ways[int(Way::Near)] = rates.way(Way::Near) * nearRatio(values, chance, a, b);
-        ways[int(Way::Alike)] = rates.way(Way::Alike) * alikeRatio(values, chance, rates, a, b);
-    }
     double sum = 0;
-    for (const double way : ways)
-        sum += way;
+    if (a == b) {
+        ways[int(Way::Same)] = rates.way(Way::Same) / target.chances[place].share(b);
+        ways[int(Way::Other)] = rates.way(Way::Other);
+        sum = ways[int(Way::Same)] + ways[int(Way::Other)];
+    } else {
+        sum = compare(target, place, a, b, own, evidence);
+    }
     for (double &way : ways)
         way /= sum;
     evidence.weight = std::log(sum) + at.bothThere;
@@ -196,6 +228,8 @@ double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, d
             continue;
         parts[place] =
             atMost(target, place, target.lines.at(line, place), target.rows.at(row, place));
+        if (parts[place].kind == Part::Same)
+            parts[place].weight = sameWeight(target, place, target.rows.at(row, place));
         most += parts[place].weight;
         hasCommon = hasCommon || parts[place].isCommon;
     }
@@ -210,20 +244,23 @@ double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, d
         }
         if (loosest == parts.size())
             break;
-        const CellEvidence evidence = cell(target, line, row, loosest, own);
-        most += evidence.weight - parts[loosest].weight;
-        parts[loosest] = {evidence.weight, Part::Known, false};
+        CellEvidence evidence;
+        const double ratio = compare(target, loosest, target.lines.at(line, loosest),
+                                     target.rows.at(row, loosest), own, evidence);
+        const double weight = std::log(ratio) + weights(target, loosest).bothThere;
+        most += weight - parts[loosest].weight;
+        parts[loosest] = {weight, Part::Known, false};
         const auto &ways = evidence.ways;
-        hasCommon = hasCommon || ways[int(Way::Change)] + ways[int(Way::Alike)] > 0.5;
-        if (ways[int(Way::Near)] > 0.5)
-            nearest = std::max(nearest, evidence.weight);
+        hasCommon =
+            hasCommon || ways[int(Way::Change)] / ratio + ways[int(Way::Alike)] / ratio > 0.5;
+        if (ways[int(Way::Near)] / ratio > 0.5)
+            nearest = std::max(nearest, weight);
     }
     if (most < least)
         return most;
     double sum = 0;
-    for (size_t place = 0; place < parts.size(); ++place)
-        sum += parts[place].kind == Part::Same ? cell(target, line, row, place, own).weight
-                                               : parts[place].weight;
+    for (const Part &part : parts)
+        sum += part.weight;
     // Some number is always near: where nothing is the same, one says nothing.
     return hasCommon ? sum : sum - nearest;
 }

@@ -58,12 +58,19 @@ private:
         double bothThere = 0;
         double change = 0; ///< To be divided by the share of the new value.
         double near = 0;
+        std::vector<double>
+            same; ///< For the same value, by how many lines have it, if they are few.
     };
     [[nodiscard]] PlaceWeights weightsOf(const PlanTarget &target, size_t place) const;
     [[nodiscard]] const PlaceWeights &weights(const PlanTarget &target, size_t place) const
     {
         return m_weights[size_t(&target - m_tables.targets.data())][place];
     }
+    [[nodiscard]] double sameWeight(const PlanTarget &target, size_t place, int value) const;
+    /// How much more often two values that differ meet in each way between lines that belong
+    /// together than by chance; the sum.
+    double compare(const PlanTarget &target, size_t place, int oldValue, int newValue, double own,
+                   CellEvidence &evidence) const;
     struct Part
     {
         enum Kind { Known, Same, Differs }; ///< The weight is at least what it is but for Known.
