@@ -113,7 +113,11 @@ void StepRecorder::noteFirst()
 void StepRecorder::note(const PrjMappingC &before, const PrjMappingC &after, bool byEditor)
 {
     noteFirst();
-    journalDifference(before, after);
+    MappingDifference difference = MappingDifference::between(before, after);
+    journal(difference);
+    m_pending.only.reset();
+    if (m_pending.changes.isEmpty())
+        m_pending.only = std::move(difference);
     gather(before, after);
     if (!byEditor)
         m_pending.behindEditor.insert(ProjectId::of(after));
@@ -158,7 +162,7 @@ void StepRecorder::noteRelease(const ReleaseMappingC &before, const ReleaseMappi
 StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now)
 {
     Finished result;
-    const Pending done = std::exchange(m_pending, Pending());
+    Pending done = std::exchange(m_pending, Pending());
     if (!done.changed)
         return result;
     for (const MappingChangePair &change : done.changes) {
@@ -180,8 +184,7 @@ StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now)
 }
 
 /// True if all that the changes do is to mark conflicts.
-bool StepRecorder::summarise(const Pending &done, const ReleaseMappingC &now,
-                             Finished &result) const
+bool StepRecorder::summarise(Pending &done, const ReleaseMappingC &now, Finished &result) const
 {
     UndoStep &step = result.step;
     StepSummary summary;
@@ -201,7 +204,8 @@ bool StepRecorder::summarise(const Pending &done, const ReleaseMappingC &now,
         if (done.releaseBefore)
             break;
         const MappingDifference difference =
-            MappingDifference::between(change.before, change.after);
+            done.only ? std::move(*done.only)
+                      : MappingDifference::between(change.before, change.after);
         result.notices += stepNotices(difference, change.after);
         add(difference);
         if (!difference.isEmpty())
@@ -214,7 +218,11 @@ bool StepRecorder::summarise(const Pending &done, const ReleaseMappingC &now,
 
 void StepRecorder::journalDifference(const PrjMappingC &before, const PrjMappingC &after)
 {
-    const MappingDifference difference = MappingDifference::between(before, after);
+    journal(MappingDifference::between(before, after));
+}
+
+void StepRecorder::journal(const MappingDifference &difference)
+{
     if (!difference.isEmpty())
         m_journal.append(difference, m_step);
 }

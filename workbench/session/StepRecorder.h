@@ -1,6 +1,7 @@
 #pragma once
 
 #include "JournalFile.h"
+#include "MappingDifference.h"
 #include "SessionTypes.h"
 #include "UndoHistory.h"
 
@@ -103,6 +104,7 @@ private:
     {
         QList<MappingChangePair> changes; ///< one for each project: first state, last state
         QHash<QPair<QString, QString>, qsizetype> index;
+        std::optional<MappingDifference> only;        ///< of the one change, until there is another
         std::optional<ReleaseMappingC> releaseBefore; ///< the whole release was replaced
         QSet<ProjectId> behindEditor;                 ///< changed by the host
         QString text;
@@ -114,9 +116,9 @@ private:
     void writeOpening(const Opening &opening);
     void noteFile(const char *kind, const QByteArray &fileHash);
     void noteFirst();
+    void journal(const MappingDifference &difference);
     void gather(const PrjMappingC &before, const PrjMappingC &after);
-    [[nodiscard]] bool summarise(const Pending &done, const ReleaseMappingC &now,
-                                 Finished &result) const;
+    [[nodiscard]] bool summarise(Pending &done, const ReleaseMappingC &now, Finished &result) const;
 
     JournalFile m_journal;
     QByteArray m_opening; ///< record of this session
