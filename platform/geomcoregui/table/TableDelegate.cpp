@@ -4,7 +4,33 @@
 
 #include <gui/views/Inks.h>
 
+#include <QApplication>
+#include <QPainter>
+
+#include <algorithm>
+
 namespace {
+
+constexpr int KeptTexts = 4000; // of some pictures of both tables
+
+/// All that the style would draw is a ground and one line of text.
+bool isPlainText(const QStyleOptionViewItem &option)
+{
+    using Option = QStyleOptionViewItem;
+    return option.widget &&
+           !(option.features & (Option::HasDecoration | Option::HasCheckIndicator)) &&
+           !(option.state & (QStyle::State_HasFocus | QStyle::State_Editing)) &&
+           option.direction == Qt::LeftToRight && option.showDecorationSelected &&
+           option.textElideMode == Qt::ElideRight && !option.text.contains(QChar::LineSeparator) &&
+           !option.text.contains(u'\t') && !option.text.isRightToLeft();
+}
+
+QPalette::ColorGroup groupOf(const QStyleOptionViewItem &option)
+{
+    if (!option.state.testFlag(QStyle::State_Enabled))
+        return QPalette::Disabled;
+    return option.state.testFlag(QStyle::State_Active) ? QPalette::Normal : QPalette::Inactive;
+}
 
 /// An icon on the full colour of a selection, tinted by the style, could hardly be told from
 /// others.
@@ -49,6 +75,7 @@ void keepTextsApart(QStyleOptionViewItem *option)
 TableDelegate::TableDelegate(QObject *parent)
     : QStyledItemDelegate(parent)
     , m_marked(QString())
+    , m_texts(KeptTexts)
 {
 }
 
@@ -85,4 +112,74 @@ void TableDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
     if (isMarkedCell(index))
         markDifference(option);
     keepTextsApart(option);
+}
+
+void TableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle &style = cell.widget ? *cell.widget->style() : *QApplication::style();
+    if (!isPlainText(cell)) {
+        style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        return;
+    }
+    painter->save();
+    painter->setClipRect(cell.rect, Qt::IntersectClip);
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    if (!cell.text.isEmpty())
+        drawText(*painter, cell);
+    painter->restore();
+}
+
+/// Where the style would draw it.
+void TableDelegate::drawText(QPainter &painter, const QStyleOptionViewItem &option) const
+{
+    const int margin =
+        option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) +
+        1;
+    const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
+    const QStaticText &text = laidOut(option, std::max(0, room.width()));
+    const QSizeF size = text.size();
+    const bool isRight = option.displayAlignment.testFlag(Qt::AlignRight);
+    const int top = QStyle::alignedRect(option.direction, option.displayAlignment,
+                                        QSize(room.width(), qRound(size.height())), room)
+                        .top();
+    painter.setFont(option.font);
+    const auto role =
+        option.state.testFlag(QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
+    painter.setPen(option.palette.color(groupOf(option), role));
+    painter.drawStaticText(QPointF(room.x() + (isRight ? room.width() - size.width() : 0.0), top),
+                           text);
+}
+
+const QStaticText &TableDelegate::laidOut(const QStyleOptionViewItem &option, int room) const
+{
+    QFont plain = option.font;
+    plain.setItalic(false);
+    plain.setUnderline(false);
+    if (plain != m_font) {
+        m_texts.clear();
+        m_font = plain;
+    }
+    const QString key = option.text + (option.font.italic() ? u'i' : u' ') +
+                        (option.font.underline() ? u'u' : u' ');
+    LaidOut *known = m_texts.object(key);
+    const bool fits =
+        known && (known->room < 0 ? known->text.size().width() <= room : known->room == room);
+    if (fits)
+        return known->text;
+    auto *const made = new LaidOut;
+    const auto layOut = [&](const QString &text) {
+        made->text.setText(text);
+        made->text.setTextFormat(Qt::PlainText);
+        made->text.prepare(QTransform(), option.font);
+    };
+    layOut(option.text);
+    if (made->text.size().width() > room) {
+        layOut(QFontMetricsF(option.font).elidedText(option.text, Qt::ElideRight, room));
+        made->room = room;
+    }
+    m_texts.insert(key, made);
+    return made->text;
 }

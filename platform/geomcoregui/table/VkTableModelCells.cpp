@@ -34,6 +34,15 @@ QVariant VkTableModel::data(const QModelIndex &index, int role) const
 {
     if (index.model() != this || index.row() >= d->rows.count())
         return {};
+    switch (role) { // asked for each cell of a picture
+    case Qt::FontRole:
+    case Qt::ForegroundRole:
+    case Qt::BackgroundRole:
+    case Qt::CheckStateRole:
+        return {};
+    default:
+        break;
+    }
     const ViewLanguage language;
     const TableColumn &column = d->columns.at(index.column());
     if (role == LineIdRole)

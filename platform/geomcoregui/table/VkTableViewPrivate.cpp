@@ -21,6 +21,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -144,7 +145,10 @@ void VkTableViewPrivate::setTable(const VKTab::ContentRef &table)
     grid->horizontalScrollBar()->setValue(0);
     grid->verticalScrollBar()->setValue(0);
     keepFilters();
-    model->setTable(table);
+    {
+        const QScopedValueRollback guard(takesTable, true);
+        model->setTable(table);
+    }
     selection->connectTable();
     widths->load();
     columnOrder->load();
@@ -238,7 +242,8 @@ void VkTableViewPrivate::onModelReset()
         const QSignalBlocker blocker(header);
         header->setSortIndicator(model->sortColumn(), model->sortOrder());
     }
-    widths->apply();
+    if (!takesTable)
+        widths->apply();
     showHits();
     grid->doItemsLayout(); // the scroll bars get their ranges
     selection->restore();

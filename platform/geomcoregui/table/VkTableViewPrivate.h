@@ -47,6 +47,7 @@ public:
     TableColumnOrder *columnOrder = nullptr;
     QLabel *hits; ///< rows that the quick filters leave
     bool filtersKept = false;
+    bool takesTable = false; ///< widths and order of the columns are still to come
     bool headerVisible = true;
     double zoom = 1;
     boost::signals2::signal<int(const VKTab::Content &, int, const QString &)> iconClicked;
