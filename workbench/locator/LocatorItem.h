@@ -5,6 +5,9 @@
 #include <QList>
 #include <QMetaType>
 #include <QString>
+#include <QStringList>
+
+#include <vector>
 
 /// Something that the locator finds and goes to.
 struct LocatorItem
@@ -18,6 +21,27 @@ struct LocatorItem
     QString id;     ///< of a command or setting
     LineRef line;   ///< without a number for a project
     bool isEnabled = true;
+};
+
+/// Lines of one project, as many as its table has.
+struct LocatorLines
+{
+    ProjectId project;
+    std::vector<int> numbers;
+    QStringList names; ///< beside the numbers; may be empty for all of them
+
+    [[nodiscard]] QString title(size_t line) const
+    {
+        const QString name = names.value(qsizetype(line));
+        return (QString::number(numbers[line]) + u' ' + name).trimmed();
+    }
+    [[nodiscard]] LocatorItem item(size_t line) const
+    {
+        return {.kind = LocatorItem::Line,
+                .title = title(line),
+                .detail = project.path,
+                .line = {project, numbers[line]}};
+    }
 };
 
 /// What was found for some words.

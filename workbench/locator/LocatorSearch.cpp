@@ -58,13 +58,66 @@ private:
     PartFinder m_finder;
 };
 
+/// Commands, settings and the lines of a table, which are taken in by the first search, on its
+/// thread.
+class ItemFinder
+{
+public:
+    ItemFinder() = default;
+    ItemFinder(const QList<LocatorItem> &items, const std::function<LocatorLines()> &lines)
+        : m_items(items)
+        , m_makeLines(lines)
+    {
+    }
+
+    [[nodiscard]] const PartFinder &finder()
+    {
+        std::call_once(m_isMade, [this] {
+            for (const LocatorItem &item : std::as_const(m_items))
+                m_finder.add(item.title);
+            if (m_makeLines)
+                m_lines = m_makeLines();
+            m_makeLines = {};
+            for (size_t line = 0; line < m_lines.numbers.size(); ++line)
+                m_finder.add(m_lines.title(line));
+        });
+        return m_finder;
+    }
+    /// An entry of the finder.
+    [[nodiscard]] LocatorItem at(int entry) const
+    {
+        return entry < m_items.size() ? m_items.at(entry)
+                                      : m_lines.item(size_t(entry) - size_t(m_items.size()));
+    }
+    /// Lines of this number, once there is the finder.
+    [[nodiscard]] QList<LocatorItem> linesOfNumber(int number) const
+    {
+        QList<LocatorItem> found;
+        for (const LocatorItem &item : m_items) {
+            if (item.kind == LocatorItem::Line && item.line.line == number)
+                found += item;
+        }
+        for (size_t line = 0; line < m_lines.numbers.size(); ++line) {
+            if (m_lines.numbers[line] == number)
+                found += m_lines.item(line);
+        }
+        return found;
+    }
+
+private:
+    QList<LocatorItem> m_items; ///< as given
+    std::function<LocatorLines()> m_makeLines;
+    std::once_flag m_isMade;
+    LocatorLines m_lines;
+    PartFinder m_finder;
+};
+
 } // namespace
 
 struct LocatorSearch::Sources
 {
     std::shared_ptr<ProjectFinder> projects;
-    QList<LocatorItem> items;
-    PartFinder itemFinder;
+    std::shared_ptr<ItemFinder> items = std::make_shared<ItemFinder>();
 
     [[nodiscard]] LocatorHits find(const QString &words,
                                    const std::function<bool()> &isStale) const;
@@ -102,16 +155,17 @@ LocatorHits LocatorSearch::Sources::find(const QString &words,
 {
     LocatorHits hits{.words = words};
     std::vector<Ranked> all;
-    const PartFinder::Hits others = itemFinder.find(words, Limit, isStale);
+    const PartFinder::Hits others = items->finder().find(words, Limit, isStale);
     // The line of that very number, before all that have the number in them.
-    const QString number = words.trimmed();
-    for (const LocatorItem &item : items) {
-        if (item.kind == LocatorItem::Line && QString::number(item.line.line) == number)
+    bool isNumber = false;
+    const int number = words.trimmed().toInt(&isNumber);
+    if (isNumber && QString::number(number) == words.trimmed()) {
+        for (const LocatorItem &item : items->linesOfNumber(number))
             all.push_back({-1, item});
     }
     const bool isNumberOfALine = !all.empty();
     for (const PartFinder::Hit &hit : others.best) {
-        const LocatorItem &item = items.at(hit.entry);
+        const LocatorItem item = items->at(hit.entry);
         if (!isNumberOfALine || item.line != all.front().item.line)
             all.push_back({hit.rank, item});
     }
@@ -174,13 +228,12 @@ void LocatorSearch::setRelease(const ReleaseMappingC &release)
     m_sources = sources;
 }
 
-void LocatorSearch::setItems(const QList<LocatorItem> &items)
+void LocatorSearch::setItems(const QList<LocatorItem> &items,
+                             const std::function<LocatorLines()> &lines)
 {
     auto sources = std::make_shared<Sources>();
     sources->projects = m_sources->projects;
-    sources->items = items;
-    for (const LocatorItem &item : items)
-        sources->itemFinder.add(item.title);
+    sources->items = std::make_shared<ItemFinder>(items, lines);
     m_sources = sources;
 }
 

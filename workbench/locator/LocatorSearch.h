@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 class PartFinder;
@@ -32,8 +33,9 @@ public:
     /// The projects of a release. Whatever became of their lines since the last call costs nothing,
     /// since paths stay.
     void setRelease(const ReleaseMappingC &release);
-    /// All else that can be found now.
-    void setItems(const QList<LocatorItem> &items);
+    /// All else that can be found now. \a lines is called once, by the first search and on its
+    /// thread.
+    void setItems(const QList<LocatorItem> &items, const std::function<LocatorLines()> &lines = {});
 
     /// found() follows. A number behind other words means a line: "din933 12" is line 12 of the
     /// projects that "din933" finds.

@@ -8,6 +8,7 @@
 #include "StatusArea.h"
 #include "WorkbenchSettings.h"
 
+#include <geomcore/value/LangThreadSettings.h>
 #include <gui/application/PCommandKeys.h>
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorSearch.h>
@@ -38,7 +39,7 @@ void LocatorDesk::open()
     m_search->setRelease(m_window->desk()->document()->isOpen()
                              ? m_window->desk()->document()->release()
                              : ReleaseMappingC());
-    m_search->setItems(lines() + commands() + settings());
+    m_search->setItems(commands() + settings(), lines());
     auto *const dialog = new LocatorDialog(m_search, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // Whatever it leads to may open dialogs of its own.
@@ -61,40 +62,45 @@ QList<LocatorItem> LocatorDesk::commands() const
     return items;
 }
 
-QList<LocatorItem> LocatorDesk::settings() const
+/// A dialog is made for its texts, which is felt: once for each language.
+QList<LocatorItem> LocatorDesk::settings()
 {
-    QList<LocatorItem> items;
+    const QString language = m_settings->values().language;
+    if (!m_settingItems.isEmpty() && m_settingLanguage == language)
+        return m_settingItems;
+    m_settingLanguage = language;
+    m_settingItems.clear();
     const SettingsDialog dialog(m_settings->values(), m_settings->linkDbFile(), nullptr);
     const QList<SettingsDialog::Field> fields = dialog.fields();
     for (const SettingsDialog::Field &field : fields)
-        items << LocatorItem{.kind = LocatorItem::Setting,
-                             .title = field.text,
-                             .detail = field.group,
-                             .id = field.name};
-    return items;
+        m_settingItems << LocatorItem{.kind = LocatorItem::Setting,
+                                      .title = field.text,
+                                      .detail = field.group,
+                                      .id = field.name};
+    return m_settingItems;
 }
 
-QList<LocatorItem> LocatorDesk::lines() const
+std::function<LocatorLines()> LocatorDesk::lines() const
 {
-    QList<LocatorItem> items;
     const VKTab::ContentRef table = m_window->editor()->sourceTable();
     if (!table.isValid())
-        return items;
-    const ProjectId project = m_window->editor()->currentProject();
-    const QList<VKTab::LineId> ids = table.getLineIdList();
-    const bool withNames = ids.size() <= MostDesignations;
-    items.reserve(ids.size());
-    for (const VKTab::LineId &id : ids) {
-        const QString name =
-            withNames
-                ? table.getLine(id, false).getValue(VKTab::LineI::NormDesignation, {}).toString()
-                : QString();
-        items << LocatorItem{.kind = LocatorItem::Line,
-                             .title = (QString::number(id.value(0)) + u' ' + name).trimmed(),
-                             .detail = project.path,
-                             .line = {project, id.value(0)}};
-    }
-    return items;
+        return {};
+    return [table, project = m_window->editor()->currentProject(),
+            language = VKTab::LangThreadSettings::language()] {
+        VKTab::LangThreadSettings ofThread;
+        ofThread.setLanguage(language);
+        LocatorLines lines;
+        lines.project = project;
+        const QList<VKTab::LineId> ids = table.getLineIdList();
+        lines.numbers.reserve(size_t(ids.size()));
+        for (const VKTab::LineId &id : ids)
+            lines.numbers.push_back(id.value(0));
+        for (qsizetype i = 0; i < ids.size() && ids.size() <= MostDesignations; ++i)
+            lines.names += table.getLine(ids.at(i), false)
+                               .getValue(VKTab::LineI::NormDesignation, {})
+                               .toString();
+        return lines;
+    };
 }
 
 void LocatorDesk::goTo(const LocatorItem &item)

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class LocatorSearch;
 class MainWindow;
 class WorkbenchSettings;
@@ -25,12 +27,14 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QList<LocatorItem> commands() const;
-    [[nodiscard]] QList<LocatorItem> settings() const;
-    /// Of the project that is shown.
-    [[nodiscard]] QList<LocatorItem> lines() const;
+    [[nodiscard]] QList<LocatorItem> settings();
+    /// What takes in those of the project that is shown; may be called on any thread.
+    [[nodiscard]] std::function<LocatorLines()> lines() const;
     void goTo(const LocatorItem &item);
 
     MainWindow *const m_window;
     WorkbenchSettings *const m_settings;
     LocatorSearch *const m_search;
+    QList<LocatorItem> m_settingItems;
+    QString m_settingLanguage; ///< of their texts
 };

@@ -24,6 +24,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 #include <QTreeView>
 #include <QTreeWidget>
 
@@ -60,6 +61,7 @@ private Q_SLOTS:
     void searchFinds_data();
     void searchFinds();
     void linesLeaveRoom();
+    void linesOfATable();
     void laterSearchOvertakes();
     void manyProjects();
     void goesToAProject();
@@ -199,6 +201,40 @@ void tst_Locator::linesLeaveRoom()
     QCOMPARE(hits.items.at(9).kind, LocatorItem::Line);
     QCOMPARE(hits.items.at(10).kind, LocatorItem::Project);
     QCOMPARE(hits.items.at(11).line.line, 11);
+}
+
+/// They may be many: taken in once, and not by the thread of the window.
+void tst_Locator::linesOfATable()
+{
+    LocatorSearch search;
+    int times = 0;
+    const QThread *thread = nullptr;
+    search.setItems({{.kind = LocatorItem::Command, .title = "m8 save", .id = "save"}}, [&] {
+        ++times;
+        thread = QThread::currentThread();
+        return LocatorLines{.project = {"here.prj", "v1", {}},
+                            .numbers = {7, 17, 70},
+                            .names = {"M8", "M10", "M8 long"}};
+    });
+    QCOMPARE(times, 0);
+    QSignalSpy found(&search, &LocatorSearch::found);
+    search.find("m8");
+    QVERIFY(found.wait());
+    const auto linesAt = [&](int at) {
+        QList<int> lines;
+        for (const LocatorItem &item : found.at(at).at(0).value<LocatorHits>().items) {
+            if (item.kind == LocatorItem::Line)
+                lines += item.line.line;
+        }
+        return lines;
+    };
+    QCOMPARE(linesAt(0), (QList<int>{7, 70}));
+    QCOMPARE(found.at(0).at(0).value<LocatorHits>().count, 3);
+    search.find("7");
+    QVERIFY(found.wait());
+    QCOMPARE(linesAt(1), (QList<int>{7, 70, 17}));
+    QCOMPARE(times, 1);
+    QVERIFY(thread != QThread::currentThread());
 }
 
 void tst_Locator::laterSearchOvertakes()
