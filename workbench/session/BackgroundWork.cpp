@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds Moment{50};
+constexpr std::chrono::milliseconds Moment{10}; // not to be felt
+constexpr std::chrono::milliseconds BetweenSteps{50};
 
 /// Ends the loop when it goes, however the work ended.
 class LoopEnd
@@ -45,8 +46,19 @@ void BackgroundWork::run(const QString &text, const std::function<void()> &work)
         progress.setText(text);
         QTimer tick;
         QObject::connect(&tick, &QTimer::timeout, &loop, [&progress] { progress.nextStep(); });
-        tick.start(Moment);
+        tick.start(BetweenSteps);
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     }
     done.get();
+}
+
+void BackgroundWork::letShow()
+{
+    if (!QCoreApplication::instance())
+        return;
+    QEventLoop loop;
+    QTimer end;
+    QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
+    end.start(1); // not before all that follows from each other is done
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
 }

@@ -12,4 +12,8 @@ namespace BackgroundWork {
 /// touch nothing that others may touch on this thread.
 void run(const QString &text, const std::function<void()> &work);
 
+/// A turn of the event loop between two pieces of work that only this thread can do: what is due is
+/// laid out and painted. Input by the user waits meanwhile, timers do not.
+void letShow();
+
 } // namespace BackgroundWork

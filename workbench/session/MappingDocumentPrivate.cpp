@@ -8,6 +8,8 @@
 #include <mapping/data/ReleaseMappingHandler.h>
 
 #include <QFileInfo>
+#include <QScopeGuard>
+#include <QThreadPool>
 
 #include <utility>
 
@@ -243,6 +245,10 @@ void MappingDocumentPrivate::close(bool tell)
         Q_EMIT q->aboutToClose();
     steps.cutNesting();
     finishStep();
+    // Behind all others that hold them: the end of many records takes long.
+    const auto end = qScopeGuard([last = std::pair(release(), file.loaded())]() mutable {
+        QThreadPool::globalInstance()->start([ended = std::move(last)] {});
+    });
     m_turn.stop();
     m_autosaveTimer.stop();
     if (steps.closeJournal(isModified()))

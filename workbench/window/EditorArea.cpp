@@ -2,10 +2,14 @@
 
 #include "TargetProjectOpener.h"
 
+#include <core/text/PPathName.h>
+#include <geomcore/table/readProjectTable.h>
 #include <mapping/view/CatalogMappingWidget.h>
+#include <workbench/session/BackgroundWork.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <QAbstractItemModel>
+#include <QCoreApplication>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -126,6 +130,55 @@ ProjectId EditorArea::currentProject() const
 bool EditorArea::selectProject(const QString &sourcePath)
 {
     return m_editor && goToProject(sourcePath, QString());
+}
+
+bool EditorArea::openProject(const QString &sourcePath, int line)
+{
+    const QPointer<CatalogMappingWidget> editor = m_editor;
+    const auto isThere = [&] {
+        return editor && editor == m_editor;
+    };
+    if (sourcePath.isEmpty() || !isThere())
+        return false;
+    BackgroundWork::letShow();
+    const QList<VKTab::ContentRef> held =
+        isThere() ? readTables(sourcePath) : QList<VKTab::ContentRef>();
+    if (!isThere())
+        return false;
+    // Laid out in one turn, painted in the next.
+    setUpdatesEnabled(false);
+    const bool isShown = selectProject(sourcePath) && (line < 0 || selectLine(line));
+    BackgroundWork::letShow();
+    setUpdatesEnabled(true);
+    return isShown && isThere();
+}
+
+/// Of a project and its targets: while they are held, whoever opens them has nothing to read.
+QList<VKTab::ContentRef> EditorArea::readTables(const QString &sourcePath) const
+{
+    const ReleaseMappingC release = m_document->release();
+    const QString file = m_sourceRoot + u'/' + sourcePath;
+    QList<VKTab::ContentRef> tables;
+    const QString text = QCoreApplication::translate("DocumentFile", "%1 wird gelesen");
+    BackgroundWork::run(text.arg(sourcePath), [&] {
+        const auto read = [&tables](const QString &project, const QString &catalogPath) {
+            VKTab::ContentRef table = VKTab::Content();
+            // Whoever opens it tells what is wrong with it.
+            (void)VKTab::readProjectTable(PPathName(project).native(), table,
+                                          {.catalogPath = catalogPath, .tells = false});
+            tables += table;
+        };
+        read(file, sourcePath);
+        for (int i = 0; i < release.countMappings() && !m_remoteTargets; ++i) {
+            const PrjMappingC mapping = release.mappingAt(i);
+            for (int t = 0; t < mapping.countTargets() && mapping.getSourcePath() == sourcePath;
+                 ++t) {
+                if (const QString path = mapping.targetAt(t).getTargetPath(); !path.isEmpty())
+                    read(CatalogMappingWidget::buildTargetPath(true, path), {});
+            }
+        }
+    });
+    return tables;
 }
 
 bool EditorArea::showProject(const QString &sourcePath)

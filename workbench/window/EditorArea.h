@@ -42,8 +42,12 @@ public:
     /// Selects a project in the tree and opens the directories on the way. A filter that hides it
     /// is taken away. False if the tree does not have it.
     bool selectProject(const QString &sourcePath);
-    /// The same, and its first line that needs a decision, or else its first one, is selected and
-    /// has the keys.
+    /// The same in turns of the event loop, without input by the user: what is there is painted,
+    /// then the project's tables are read on another thread, then it is shown. Selects the line,
+    /// unless it is -1. False also if the editor went meanwhile.
+    bool openProject(const QString &sourcePath, int line);
+    /// As selectProject(), and its first line that needs a decision, or else its first one, is
+    /// selected and has the keys.
     bool showProject(const QString &sourcePath);
     /// The keys go to the source table.
     void focusLines();
@@ -116,6 +120,7 @@ private Q_SLOTS:
 
 private:
     void make();
+    [[nodiscard]] QList<VKTab::ContentRef> readTables(const QString &sourcePath) const;
     void showChanges();
     void filterProjects();
     void filterLines();

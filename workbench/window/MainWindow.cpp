@@ -231,8 +231,7 @@ void MainWindow::onDocumentReady()
     m_pages->setCurrentWidget(m_editor);
     updateState();
     const WorkbenchSettings::Place place = m_settings->place(document->mappingFile());
-    if (m_editor->selectProject(place.project) && place.line >= 0)
-        m_editor->selectLine(place.line);
+    m_editor->openProject(place.project, place.line);
     // Else the messages have them, if there were any.
     m_editor->focusLines();
     m_status->showNote(document->isReadOnly() ? document->readOnlyText() : QString());

@@ -125,6 +125,26 @@ private Q_SLOTS:
         QCOMPARE(fixture.settings->recentFiles(), QStringList({other, file}));
     }
 
+    /// Its tree is there to be seen while the tables of its project are read.
+    void opensItsPlaceInTurns()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        const QString project = QStringLiteral("standardparts/screws/din933.prj");
+        fixture.settings->setPlace(file, {{}, project, 5});
+        bool turned = false;
+        bool turnedBefore = false;
+        QObject::connect(fixture.window->desk(), &DocumentDesk::ready,
+                         [&] { QTimer::singleShot(0, [&turned] { turned = true; }); });
+        QObject::connect(fixture.window->editor(), &EditorArea::projectSelected,
+                         [&] { turnedBefore = turned; });
+        fixture.open(file);
+        QCOMPARE(fixture.window->editor()->currentPath(), project);
+        QCOMPARE(fixture.window->editor()->currentLine(), 5);
+        QVERIFY(turnedBefore);
+        QVERIFY(fixture.window->editor()->updatesEnabled());
+    }
+
     void remembersTheCatalogs()
     {
         WindowFixture fixture;
