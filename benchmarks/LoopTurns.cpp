@@ -29,6 +29,7 @@ LoopTurns::LoopTurns()
     const auto *const loop = QAbstractEventDispatcher::instance();
     connect(loop, &QAbstractEventDispatcher::awake, this, &LoopTurns::onAwake);
     connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &LoopTurns::onWait);
+    m_cpuBegin = milliseconds(CLOCK_THREAD_CPUTIME_ID);
 }
 
 void LoopTurns::run(const std::function<void()> &work, const std::function<bool()> &isDone)
@@ -41,6 +42,7 @@ void LoopTurns::run(const std::function<void()> &work, const std::function<bool(
         if (!isDone || isDone() || sinceBegin.hasExpired(Patience))
             loop.quit();
     });
+    m_cpuBegin = milliseconds(CLOCK_THREAD_CPUTIME_ID);
     QTimer::singleShot(0, &loop, [&] {
         work();
         look.start(QuietTime);
@@ -54,16 +56,17 @@ void LoopTurns::onAwake()
         return;
     m_isAwake = true;
     m_wallBegin = milliseconds(CLOCK_MONOTONIC);
-    m_cpuBegin = milliseconds(CLOCK_THREAD_CPUTIME_ID);
 }
 
 void LoopTurns::onWait()
 {
-    if (!m_isAwake)
-        return;
+    if (m_isAwake)
+        m_wall = std::max(m_wall, milliseconds(CLOCK_MONOTONIC) - m_wallBegin);
     m_isAwake = false;
-    m_wall = std::max(m_wall, milliseconds(CLOCK_MONOTONIC) - m_wallBegin);
-    m_cpu = std::max(m_cpu, milliseconds(CLOCK_THREAD_CPUTIME_ID) - m_cpuBegin);
+    // Timers run before anybody is told of the awakening; waiting itself takes no processor time.
+    const double now = milliseconds(CLOCK_THREAD_CPUTIME_ID);
+    m_cpu = std::max(m_cpu, now - m_cpuBegin);
+    m_cpuBegin = now;
 }
 
 } // namespace velkbench

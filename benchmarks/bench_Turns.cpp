@@ -4,6 +4,7 @@
 #include "CatalogGenerator.h"
 #include "Comparison.h"
 #include "LoopTurns.h"
+#include "MappingRecords.h"
 #include "ProductRun.h"
 
 #include <workbench/review/PatternDock.h>
@@ -16,10 +17,13 @@
 #include <workbench/window/WorkbenchSettings.h>
 
 #include <core/config/PConfigInst.h>
+#include <geomcore/records/MappingFile.h>
 #include <gui/application/PApplication.h>
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeView>
@@ -36,18 +40,25 @@ const QString project = QStringLiteral("bench/p0000.prj");
 
 PLinkDbGuiI *thePlugin = nullptr;
 
-/// A catalog in two releases with a tenth of its lines changed, and a mapping file that is
-/// assigned.
+/// A catalog in two releases and the mapping file of them.
 struct Release
 {
-    Release()
+    explicit Release(const CatalogShape &shape)
     {
-        CatalogShape shape;
-        shape.lines = Lines;
-        shape.changed = 0.1;
         const auto projects = CatalogGenerator(shape).write(folder.path());
         writeEmptyMapping(projects, folder.path() / "m.json");
         runVelkmap({"assign", "--source", source(), "--target", target(), "--mapping", mapping()});
+    }
+    /// All of it in the mapping file alone, but for one table.
+    explicit Release(const ReleaseMappingC &release)
+    {
+        CatalogShape shape;
+        shape.lines = 10;
+        (void)CatalogGenerator(shape).write(folder.path());
+        MappingFile file;
+        file.setRelease(release);
+        if (!file.write(mapping()))
+            throw std::runtime_error("no mapping file");
     }
     [[nodiscard]] QString source() const { return qtPath(folder.path() / "old"); }
     [[nodiscard]] QString target() const { return qtPath(folder.path() / "new"); }
@@ -56,31 +67,82 @@ struct Release
     TemporaryFolder folder;
 };
 
+/// One project, a tenth of its lines changed.
+const Release &largeProject()
+{
+    static const Release release([] {
+        CatalogShape shape;
+        shape.lines = Lines;
+        shape.changed = 0.1;
+        return shape;
+    }());
+    return release;
+}
+
+/// 4560 changed lines in many projects.
+const Release &manyOpenLines()
+{
+    static const Release release([] {
+        CatalogShape shape;
+        shape.projects = 40;
+        shape.lines = 1140;
+        shape.changed = 0.1;
+        return shape;
+    }());
+    return release;
+}
+
+const Release &millionLines()
+{
+    static const Release release(bigRelease(1000000));
+    return release;
+}
+
+const Release &manyProjects()
+{
+    static const Release release([] {
+        ReleaseMappingC all = bigRelease(10);
+        const PrjMappingC first = all.mappingAt(0);
+        for (int i = 0; i < 100000; ++i) {
+            PrjMappingC mapping = first;
+            mapping.setSourcePath(
+                QStringLiteral("bench/d%1/din%2_%3.prj").arg(i % 97).arg(900 + i % 4200).arg(i));
+            all.addMapping(mapping);
+        }
+        return all;
+    }());
+    return release;
+}
+
 /// The workbench as its user has it, with settings of its own; all that is decided is lost.
 struct Workbench
 {
     /// With the mapping open, at the first open line.
-    static std::unique_ptr<Workbench> opened()
+    static std::unique_ptr<Workbench> opened(const Release &release = largeProject())
     {
-        auto workbench = std::make_unique<Workbench>();
+        auto workbench = std::make_unique<Workbench>(release);
         LoopTurns unmeasured;
         unmeasured.run([&] { workbench->open(); });
         unmeasured.run([&] { workbench->action("goNext")->trigger(); });
         return workbench;
     }
-    Workbench()
-        : application(PRefPtr<PConfig>(new PConfigInst(folder.filePath("windows.cfg"), false)))
+    explicit Workbench(const Release &given)
+        : release(given)
+        , application(PRefPtr<PConfig>(new PConfigInst(folder.filePath("windows.cfg"), false)))
         , settings(folder.filePath("workbench.ini"))
         , window(std::make_unique<MainWindow>(&settings, thePlugin))
     {
         window->resize(1500, 900);
         window->show();
+        LoopTurns unmeasured;
+        unmeasured.run([] {});
     }
+    /// At the place of the last session.
     void open()
     {
+        settings.setPlace(release.mapping(), {QStringLiteral("2023-01-31"), project, 1});
         window->desk()->open(
-            {.file = release().mapping(), .roots = {release().source(), release().target()}});
-        window->editor()->selectProject(project);
+            {.file = release.mapping(), .roots = {release.source(), release.target()}});
     }
     [[nodiscard]] QAction *action(const char *name) const
     {
@@ -91,12 +153,7 @@ struct Workbench
     }
     [[nodiscard]] bool hasPatterns() const { return window->review()->work()->hasPatterns(); }
 
-    static const Release &release()
-    {
-        static const Release release;
-        return release;
-    }
-
+    const Release &release;
     QTemporaryDir folder;
     PApplication application;
     WorkbenchSettings settings;
@@ -118,19 +175,120 @@ void measureTurns(benchmark::State &state, const std::function<void()> &work)
     report(state, turns);
 }
 
-void openMapping(benchmark::State &state)
+/// In a workbench of its own each time.
+void measureAnew(benchmark::State &state, const std::function<std::unique_ptr<Workbench>()> &make,
+                 const std::function<void(Workbench &)> &work,
+                 const std::function<bool(Workbench &)> &isDone = {})
 {
     double wall = 0;
     double cpu = 0;
     for (auto _ : state) {
-        Workbench workbench;
+        const std::unique_ptr<Workbench> workbench = make();
         LoopTurns turns;
-        turns.run([&] { workbench.open(); });
+        turns.run([&] { work(*workbench); }, [&] { return !isDone || isDone(*workbench); });
         wall = std::max(wall, turns.wall());
         cpu = std::max(cpu, turns.cpu());
     }
     state.counters["ms_turn"] = wall;
     state.counters["cpu_ms_turn"] = cpu;
+}
+
+void openMapping(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return std::make_unique<Workbench>(largeProject()); },
+        [](Workbench &workbench) { workbench.open(); });
+}
+
+void openManyProjects(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return std::make_unique<Workbench>(manyProjects()); },
+        [](Workbench &workbench) { workbench.open(); });
+}
+
+void closeManyProjects(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return Workbench::opened(manyProjects()); },
+        [](Workbench &workbench) { workbench.action("fileClose")->trigger(); });
+}
+
+void closeMapping(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return Workbench::opened(); },
+        [](Workbench &workbench) { workbench.action("fileClose")->trigger(); });
+}
+
+/// All 1 000 000 lines in the file, after one was confirmed.
+void saveMapping(benchmark::State &state)
+{
+    measureAnew(
+        state,
+        [] {
+            auto workbench = Workbench::opened(millionLines());
+            LoopTurns unmeasured;
+            unmeasured.run(
+                [&] { workbench->window->findChild<QPushButton *>("btnMapLine")->click(); });
+            return workbench;
+        },
+        [](Workbench &workbench) { workbench.action("fileSave")->trigger(); });
+}
+
+QDialog &locatorOf(const Workbench &workbench)
+{
+    auto *const dialog = workbench.window->findChild<QDialog *>("LocatorDialog");
+    if (!dialog)
+        throw std::runtime_error("no locator");
+    return *dialog;
+}
+
+void openLocator(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return Workbench::opened(); },
+        [](Workbench &workbench) { workbench.action("goLocate")->trigger(); });
+}
+
+/// One key after the other.
+void typeInLocator(benchmark::State &state)
+{
+    const std::unique_ptr<Workbench> workbench = Workbench::opened(manyProjects());
+    LoopTurns unmeasured;
+    unmeasured.run([&] { workbench->action("goLocate")->trigger(); });
+    auto *const input = locatorOf(*workbench).findChild<QLineEdit *>("locatorInput");
+    const QString words = QStringLiteral("din 93 d5 1");
+    measureTurns(state, [&] {
+        if (input->text() == words)
+            input->clear();
+        else
+            input->insert(words.mid(input->text().size(), 1));
+    });
+    locatorOf(*workbench).close();
+}
+
+void showDifferences(benchmark::State &state)
+{
+    const std::unique_ptr<Workbench> workbench = Workbench::opened();
+    measureTurns(state, [&] { workbench->action("reviewDifferences")->trigger(); });
+}
+
+/// With the panel of differences, which goes along.
+void nextWithDifferences(benchmark::State &state)
+{
+    const std::unique_ptr<Workbench> workbench = Workbench::opened();
+    LoopTurns unmeasured;
+    unmeasured.run([&] { workbench->action("reviewDifferences")->trigger(); });
+    measureTurns(state, [&] { workbench->action("goNext")->trigger(); });
+}
+
+void readPatternsOfManyProjects(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return Workbench::opened(manyOpenLines()); },
+        [](Workbench &workbench) { workbench.action("reviewPatterns")->trigger(); },
+        [](Workbench &workbench) { return workbench.hasPatterns(); });
 }
 
 void selectLine(benchmark::State &state)
@@ -227,6 +385,15 @@ int main(int argc, char **argv)
     velkbench::addTurns("filterByState", velkbench::filterByState, 10);
     velkbench::addTurns("readPatterns", velkbench::readPatterns, 1);
     velkbench::addTurns("choosePattern", velkbench::choosePattern, 10);
+    velkbench::addTurns("readPatternsOfManyProjects", velkbench::readPatternsOfManyProjects, 2);
+    velkbench::addTurns("showDifferences", velkbench::showDifferences, 4);
+    velkbench::addTurns("nextWithDifferences", velkbench::nextWithDifferences, 20);
+    velkbench::addTurns("openLocator", velkbench::openLocator, 3);
+    velkbench::addTurns("typeInLocator", velkbench::typeInLocator, 24);
+    velkbench::addTurns("saveMapping", velkbench::saveMapping, 2);
+    velkbench::addTurns("closeMapping", velkbench::closeMapping, 3);
+    velkbench::addTurns("openManyProjects", velkbench::openManyProjects, 2);
+    velkbench::addTurns("closeManyProjects", velkbench::closeManyProjects, 2);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
