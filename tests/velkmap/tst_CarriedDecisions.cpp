@@ -2,6 +2,8 @@
 
 #include <geomcore/records/MappingFile.h>
 #include <release/chain/carryDecisions.h>
+#include <release/history/CarriedHistory.h>
+#include <release/history/JournalRow.h>
 #include <tools/velkmap/Commands.h>
 
 #include <QFile>
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void otherVersionsStay();
     void numbersAddUp();
     void command();
+    void commandNotesIt();
     void commandListsAndRefuses();
 
 private:
@@ -288,6 +291,48 @@ void tst_CarriedDecisions::command()
     QCOMPARE(list.readAll(),
              QByteArray("source project,source line,target project,target line,state\n"
                         "cat/a.prj,1,cat/a.prj,3,assigned\ncat/a.prj,2,cat/a.prj,2,assigned\n"));
+}
+
+/// For the editor's marks and for who asks, whatever stands in the file's own journal.
+void tst_CarriedDecisions::commandNotesIt()
+{
+    writeCatalogs();
+    QCOMPARE(assign({}), ExitStatus::Done);
+    const QByteArray crashed = VelkRelease::JournalRow::frame(R"({"kind":"opened","user":"anna"})");
+    QFile journal(path("now.json.journal"));
+    QVERIFY(journal.open(QIODevice::ReadWrite) && journal.write(crashed) == crashed.size());
+    journal.close();
+    QVERIFY(QFile::link(path("now.json"), path("link.json")));
+    const QStringList arguments{
+        "assign",   "--mapping", path("link.json"),   "--source",        path("r0"), "--target",
+        path("r2"), "--former",  path("former.json"), "--former-target", path("r1")};
+    QCOMPARE(run(arguments), ExitStatus::Done);
+    QCOMPARE(m_err, QString());
+    QVERIFY(journal.open(QIODevice::ReadOnly));
+    QCOMPARE(journal.readAll(), crashed);
+
+    QString error;
+    const auto steps = VelkRelease::readCarriedSteps(path("now.json"), &error);
+    QVERIFY2(steps, qPrintable(error));
+    QCOMPARE(steps->size(), 1U);
+    QCOMPARE(steps->front().former, path("former.json"));
+    QCOMPARE(steps->front().formerTarget, "2023-05-01T10:00:00Z");
+    const QDate today = QDateTime::currentDateTimeUtc().date();
+    QVERIFY(qAbs(steps->front().time.date().daysTo(today)) <= 1);
+    MappingFile file;
+    QVERIFY(file.read(path("now.json")));
+    const ReleaseMappingC release = file.releases().value(0);
+    const VelkRelease::CarriedLines lines(*steps, release.getSourceDate());
+    QCOMPARE(lines.linesOf(release.mappingAt(0)), (std::vector<int>{1, 2}));
+
+    QCOMPARE(run({"history", "--mapping", path("now.json")}), ExitStatus::Done);
+    const QString row = " cat/a.prj:%1: nothing -> cat/a.prj:%2 (Decisions taken over from "
+                        "former.json: 2)\n";
+    QVERIFY2(m_out.contains(row.arg("1", "3")) && m_out.contains(row.arg("2", "2")),
+             qPrintable(m_out));
+    // Nothing more to take over, nothing more to note.
+    QCOMPARE(run(arguments), ExitStatus::Done);
+    QCOMPARE(VelkRelease::readCarriedSteps(path("now.json"), &error)->size(), 1U);
 }
 
 void tst_CarriedDecisions::commandListsAndRefuses()

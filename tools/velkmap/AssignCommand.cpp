@@ -12,6 +12,7 @@
 #include <release/assign/AssignmentPart.h>
 #include <release/assign/ReleaseAssigner.h>
 #include <release/chain/carryDecisions.h>
+#include <release/history/CarriedHistory.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -107,11 +108,14 @@ private:
     [[nodiscard]] bool assign(ReleaseMappingC &release);
     /// False if something could not be read.
     [[nodiscard]] bool carryOver(ReleaseMappingC &release);
-    [[nodiscard]] ExitStatus writeCarried() const;
+    /// Tells what was carried over, and notes it for the editor and for who asks for the history.
+    [[nodiscard]] ExitStatus writeCarried(const QString &mappingFile,
+                                          const ReleaseMappingC &release) const;
     void tell(const VelkRelease::ReleaseAssigner::Progress &progress, TerminalProgress &terminal);
 
     VelkRelease::ReleaseAssigner m_assigner;
     std::optional<ReleaseMappingC> m_former;
+    QString m_formerFile;
     QString m_formerRoot;
     QString m_targetRoot;
     QString m_carriedFile;
@@ -185,6 +189,7 @@ std::optional<ExitStatus> AssignRun::takeFormer(const CommandLine &line,
         return ExitStatus::InputUnreadable;
     }
     m_former = former.release;
+    m_formerFile = QFileInfo(path).absoluteFilePath();
     m_carriedFile = line.value("carried");
     return std::nullopt;
 }
@@ -209,7 +214,7 @@ bool AssignRun::carryOver(ReleaseMappingC &release)
     return errors.isEmpty();
 }
 
-ExitStatus AssignRun::writeCarried() const
+ExitStatus AssignRun::writeCarried(const QString &mappingFile, const ReleaseMappingC &release) const
 {
     if (!m_former)
         return ExitStatus::Done;
@@ -223,6 +228,14 @@ ExitStatus AssignRun::writeCarried() const
               << " are settled already, " << done.unfollowed << " have no line to follow, "
               << done.expired << " were confirmed as expired, " << done.unknown
               << " are of unknown projects, " << done.clashing << " were in conflict\n";
+    QString error;
+    if (!done.lines.empty() &&
+        !VelkRelease::writeCarriedJournal(mappingFile, release, m_formerFile,
+                                          m_former->getTargetDate(), done.lines, &error)) {
+        m_err << "velkmap assign: " << error
+              << "; the mapping is written, but not from where its lines come\n";
+        return ExitStatus::ResultUnwritable;
+    }
     if (m_carriedFile.isEmpty())
         return ExitStatus::Done;
     QByteArray csv = "source project,source line,target project,target line,state\n";
@@ -230,7 +243,6 @@ ExitStatus AssignRun::writeCarried() const
         csv += csvCell(line.project) + ',' + QByteArray::number(line.line) + ',' +
                csvCell(line.target) + ',' + QByteArray::number(line.targetLine) +
                (line.isCertain ? ",assigned\n" : ",proposed\n");
-    QString error;
     if (DurableFile::write(m_carriedFile, csv, &error))
         return ExitStatus::Done;
     m_err << "velkmap assign: " << error << '\n';
@@ -249,7 +261,9 @@ ExitStatus AssignRun::run(ReleaseFile &file)
         return written;
     m_out << m_reached.projects << " of " << m_reached.totalProjects << " projects with "
           << sumText(m_reached.counts) << '\n';
-    if (const ExitStatus written = writeCarried(); written != ExitStatus::Done)
+    if (const ExitStatus written =
+            writeCarried(QFileInfo(file.path()).canonicalFilePath(), release);
+        written != ExitStatus::Done)
         return written;
     warnIfNothingFits(m_reached.counts, m_err);
     if (InterruptGuard::isRequested() && m_reached.projects < m_reached.totalProjects) {

@@ -8,8 +8,11 @@
 #include <core/files/EditLock.h>
 #include <core/json/PJsonValue.h>
 #include <release/history/HistorySessions.h>
+#include <release/history/JournalRecord.h>
 
 #include <utility>
+
+namespace JournalRecord = VelkRelease::JournalRecord;
 
 namespace {
 
@@ -47,15 +50,8 @@ bool StepRecorder::renewJournal(const Opening &opening)
 
 void StepRecorder::writeOpening(const Opening &opening)
 {
-    PJsonValue opened = record("opened");
-    const SessionOwner self = EditLock::self();
-    opened[QStringLiteral("user")] = PJsonValue(self.user);
-    opened[QStringLiteral("host")] = PJsonValue(self.host);
-    opened[QStringLiteral("program")] = PJsonValue(self.program);
-    opened[QStringLiteral("process")] = PJsonValue::fromInt(self.process);
-    opened[QStringLiteral("sourceDate")] = PJsonValue(opening.sourceDate);
-    opened[QStringLiteral("targetDate")] = PJsonValue(opening.targetDate);
-    opened[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(opening.fileHash));
+    const PJsonValue opened =
+        JournalRecord::opened(opening.sourceDate, opening.targetDate, opening.fileHash);
     m_opening = opened.toByteArray(true);
     m_journal.append(opened);
     m_journal.sync();
@@ -68,19 +64,22 @@ void StepRecorder::sign(UndoStep &step) const
     step.author = EditLock::self().user;
 }
 
+void StepRecorder::noteMade()
+{
+    m_journal.append(JournalRecord::of("made"));
+}
+
 void StepRecorder::noteMerged()
 {
     m_history.dropUnsaved();
-    m_journal.append(record("merged"));
+    m_journal.append(JournalRecord::of("merged"));
 }
 
 bool StepRecorder::closeJournal(bool modified)
 {
     if (!m_journal.isOpen())
         return false;
-    PJsonValue closed = record("closed");
-    closed[QStringLiteral("modified")] = PJsonValue::fromBool(modified);
-    m_journal.append(closed);
+    m_journal.append(JournalRecord::closed(modified));
     m_journal.close();
     return true;
 }
@@ -232,14 +231,14 @@ void StepRecorder::journalRelease(const ReleaseMappingC &before, const ReleaseMa
     for (const MappingDifference &difference : releaseDifferences(before, after))
         m_journal.append(difference, m_step);
     if (before.getReplacements() != after.getReplacements()) {
-        PJsonValue json = record("replacements");
+        PJsonValue json = JournalRecord::of("replacements");
         json[QStringLiteral("before")] = JournalText::writeReplacements(before.getReplacements());
         json[QStringLiteral("after")] = JournalText::writeReplacements(after.getReplacements());
         m_journal.append(json);
     }
     if (before.getTargetDate() == after.getTargetDate())
         return;
-    PJsonValue json = record("targetDate");
+    PJsonValue json = JournalRecord::of("targetDate");
     json[QStringLiteral("before")] = PJsonValue(before.getTargetDate());
     json[QStringLiteral("after")] = PJsonValue(after.getTargetDate());
     m_journal.append(json);
@@ -247,10 +246,7 @@ void StepRecorder::journalRelease(const ReleaseMappingC &before, const ReleaseMa
 
 void StepRecorder::journalStep(const QString &text, Origin origin, const QString &of)
 {
-    PJsonValue json = record("step");
-    json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
-    json[QStringLiteral("origin")] = PJsonValue(nameOf(origin));
-    json[QStringLiteral("text")] = PJsonValue(text);
+    PJsonValue json = JournalRecord::step(m_step, nameOf(origin), text);
     if (!of.isEmpty())
         json[QStringLiteral("of")] = PJsonValue(of);
     m_journal.append(json);
@@ -259,9 +255,7 @@ void StepRecorder::journalStep(const QString &text, Origin origin, const QString
 
 void StepRecorder::journalNote(const char *kind, const PJsonValue &note)
 {
-    PJsonValue json = record(kind);
-    json[QStringLiteral("note")] = note;
-    m_journal.append(json);
+    m_journal.append(JournalRecord::note(kind, note));
     m_journal.flush();
 }
 
@@ -279,18 +273,6 @@ void StepRecorder::noteAutosaved(const QByteArray &fileHash)
 
 void StepRecorder::noteFile(const char *kind, const QByteArray &fileHash)
 {
-    PJsonValue json = record(kind);
-    json[QStringLiteral("step")] = PJsonValue::fromInt(m_step);
-    json[QStringLiteral("fileHash")] = PJsonValue(QString::fromLatin1(fileHash));
-    m_journal.append(json);
+    m_journal.append(JournalRecord::stored(kind, m_step, fileHash));
     m_journal.sync();
-}
-
-PJsonValue StepRecorder::record(const char *kind)
-{
-    PJsonValue json(PJsonValue::Object);
-    json[QStringLiteral("kind")] = PJsonValue(QString::fromLatin1(kind));
-    json[QStringLiteral("time")] =
-        PJsonValue(QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs));
-    return json;
 }

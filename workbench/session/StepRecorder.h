@@ -84,7 +84,7 @@ public:
     /// \a of: the key of the step that undo or redo is about.
     void journalStep(const QString &text, Origin origin, const QString &of = QString());
     /// The release was made anew: steps of former ones under this name do not count.
-    void noteMade() { m_journal.append(record("made")); }
+    void noteMade();
     /// The release was merged with what others saved: what was not saved here is not what the steps
     /// say any more.
     void noteMerged();
@@ -112,7 +112,6 @@ private:
         bool changed = false; ///< by at least one update
     };
 
-    [[nodiscard]] static PJsonValue record(const char *kind);
     void writeOpening(const Opening &opening);
     void noteFile(const char *kind, const QByteArray &fileHash);
     void noteFirst();

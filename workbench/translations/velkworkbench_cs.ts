@@ -1149,6 +1149,10 @@ Zvolte jiný soubor.</translation>
         <source>Grund</source>
         <translation>Důvod</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Převzato z %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3522,10 +3526,6 @@ Projekt: %1
         <translation>Řádek %1 je chybný: vzorek končí</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Řádek %1 v %2 je chybný. Množina je rozdělena podle rozdílů; se kterou částí pokračovat?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>Po&amp;kračovat</translation>
     </message>
@@ -3560,6 +3560,10 @@ Projekt: %1
             <numerusform>%n řádky potvrzeny jako neplatné</numerusform>
             <numerusform>%n řádků potvrzeno jako neplatné</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Řádek %1 v %2 je chybný. Množina je rozdělena; se kterou částí pokračovat?</translation>
     </message>
 </context>
 <context>

@@ -1125,6 +1125,10 @@ Vælg en anden fil.</translation>
         <source>Grund</source>
         <translation>Grund</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Overtaget fra %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Linje: %2
         <translation>Linje %1 er forkert: stikprøven er slut</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Linje %1 i %2 er forkert. Mængden er delt efter forskelle; hvilken del skal der fortsættes med?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Fortsæt</translation>
     </message>
@@ -3504,6 +3504,10 @@ Linje: %2
             <numerusform>%n linje bekræftet som udgået</numerusform>
             <numerusform>%n linjer bekræftet som udgået</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Linje %1 i %2 er forkert. Mængden er delt; hvilken del skal der fortsættes med?</translation>
     </message>
 </context>
 <context>

@@ -1125,6 +1125,10 @@ Please choose another file.</translation>
         <source>Grund</source>
         <translation>Reason</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Taken over from %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Line: %2
         <translation>Line %1 is wrong: the sample is over</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Line %1 in %2 is wrong. The set is split by its differences; with which part do you want to go on?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Go On</translation>
     </message>
@@ -3504,6 +3504,10 @@ Line: %2
             <numerusform>%n line confirmed to be discontinued</numerusform>
             <numerusform>%n lines confirmed to be discontinued</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Line %1 in %2 is wrong. The set is split; with which part do you want to go on?</translation>
     </message>
 </context>
 <context>

@@ -1125,6 +1125,10 @@ Elija otro archivo.</translation>
         <source>Grund</source>
         <translation>Motivo</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Adoptada de %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Fila: %2
         <translation>La fila %1 es errónea: la muestra ha terminado</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>La fila %1 de %2 es errónea. El conjunto se ha dividido por diferencias; ¿con qué parte se sigue?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>Co&amp;ntinuar</translation>
     </message>
@@ -3504,6 +3504,10 @@ Fila: %2
             <numerusform>%n fila confirmada como descatalogada</numerusform>
             <numerusform>%n filas confirmadas como descatalogadas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>La fila %1 de %2 es errónea. El conjunto se ha dividido; ¿con qué parte se sigue?</translation>
     </message>
 </context>
 <context>

@@ -1125,6 +1125,10 @@ Valitse toinen tiedosto.</translation>
         <source>Grund</source>
         <translation>Syy</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Otettu tiedostosta %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Rivi: %2
         <translation>Rivi %1 on väärin: otos on päättynyt</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Rivi %1 projektissa %2 on väärin. Joukko on jaettu erojen mukaan; millä osalla jatketaan?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Jatka</translation>
     </message>
@@ -3504,6 +3504,10 @@ Rivi: %2
             <numerusform>%n rivi vahvistettu poistuneeksi</numerusform>
             <numerusform>%n riviä vahvistettu poistuneiksi</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Rivi %1 projektissa %2 on väärin. Joukko on jaettu; millä osalla jatketaan?</translation>
     </message>
 </context>
 <context>

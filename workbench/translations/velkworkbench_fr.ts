@@ -1125,6 +1125,10 @@ Choisissez un autre fichier.</translation>
         <source>Grund</source>
         <translation>Raison</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Reprise de %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Ligne : %2
         <translation>La ligne %1 est fausse : l&apos;échantillon est terminé</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>La ligne %1 dans %2 est fausse. L&apos;ensemble est divisé selon les différences ; avec quelle partie faut-il continuer ?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>Co&amp;ntinuer</translation>
     </message>
@@ -3504,6 +3504,10 @@ Ligne : %2
             <numerusform>%n ligne confirmée comme retirée du catalogue</numerusform>
             <numerusform>%n lignes confirmées comme retirées du catalogue</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>La ligne %1 dans %2 est fausse. L&apos;ensemble est divisé ; avec quelle partie faut-il continuer ?</translation>
     </message>
 </context>
 <context>

@@ -1101,6 +1101,10 @@ Válasszon másik fájlt.</translation>
         <source>Grund</source>
         <translation>Ok</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Átvéve innen: %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3416,10 +3420,6 @@ Sor: %2
         <translation>A(z) %1. sor hibás: a mintavétel véget ért</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>A(z) %1. sor (%2) hibás. A halmaz a különbségek szerint fel van osztva; melyik résszel folytatódjon?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Tovább</translation>
     </message>
@@ -3448,6 +3448,10 @@ Sor: %2
         <translation>
             <numerusform>%n sor megszűntként megerősítve</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>A(z) %1. sor (%2) hibás. A halmaz fel van osztva; melyik résszel folytatódjon?</translation>
     </message>
 </context>
 <context>

@@ -1101,6 +1101,10 @@ Harap pilih berkas lain.</translation>
         <source>Grund</source>
         <translation>Alasan</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Diambil alih dari %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3416,10 +3420,6 @@ Baris: %2
         <translation>Baris %1 salah: sampel selesai</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Baris %1 di %2 salah. Himpunan dibagi menurut perbedaan; lanjut dengan bagian mana?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Lanjut</translation>
     </message>
@@ -3448,6 +3448,10 @@ Baris: %2
         <translation>
             <numerusform>%n baris dikonfirmasi sebagai tidak berlaku</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Baris %1 di %2 salah. Himpunan telah dibagi; lanjut dengan bagian mana?</translation>
     </message>
 </context>
 <context>

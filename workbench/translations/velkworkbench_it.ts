@@ -1125,6 +1125,10 @@ Scegliere un altro file.</translation>
         <source>Grund</source>
         <translation>Motivo</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Ripresa da %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Riga: %2
         <translation>La riga %1 è errata: il campione è terminato</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>La riga %1 in %2 è errata. L&apos;insieme è stato diviso secondo le differenze; con quale parte continuare?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>Co&amp;ntinua</translation>
     </message>
@@ -3504,6 +3504,10 @@ Riga: %2
             <numerusform>%n riga confermata come fuori produzione</numerusform>
             <numerusform>%n righe confermate come fuori produzione</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>La riga %1 in %2 è errata. L&apos;insieme è stato diviso; con quale parte continuare?</translation>
     </message>
 </context>
 <context>

@@ -1101,6 +1101,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Grund</source>
         <translation>理由</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>%1 から引き継ぎ</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3416,10 +3420,6 @@ Zeile: %2
         <translation>行 %1 は誤りです: 抜き取り検査を終了します</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>%2 の行 %1 は誤りです。集合は差異ごとに分けられました。どの部分で続けますか？</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>続ける(&amp;G)</translation>
     </message>
@@ -3448,6 +3448,10 @@ Zeile: %2
         <translation>
             <numerusform>%n 行を廃止として確認</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>%2 の行 %1 は誤りです。集合は分けられました。どの部分で続けますか？</translation>
     </message>
 </context>
 <context>

@@ -1101,6 +1101,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Grund</source>
         <translation>이유</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>%1에서 가져옴</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3416,10 +3420,6 @@ Zeile: %2
         <translation>행 %1이(가) 틀렸습니다: 표본이 끝났습니다</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>%2의 행 %1이(가) 틀렸습니다. 집합을 차이에 따라 나누었습니다. 어느 부분으로 계속할까요?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>계속(&amp;G)</translation>
     </message>
@@ -3448,6 +3448,10 @@ Zeile: %2
         <translation>
             <numerusform>%n개 행을 단종으로 확인함</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>%2의 행 %1이(가) 틀렸습니다. 집합을 나누었습니다. 어느 부분으로 계속할까요?</translation>
     </message>
 </context>
 <context>

@@ -1125,6 +1125,10 @@ Velg en annen fil.</translation>
         <source>Grund</source>
         <translation>Grunn</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Overtatt fra %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Linje: %2
         <translation>Linje %1 er feil: stikkprøven er slutt</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Linje %1 i %2 er feil. Mengden er delt etter forskjeller; hvilken del skal det fortsettes med?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Fortsett</translation>
     </message>
@@ -3504,6 +3504,10 @@ Linje: %2
             <numerusform>%n linje bekreftet som utgått</numerusform>
             <numerusform>%n linjer bekreftet som utgått</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Linje %1 i %2 er feil. Mengden er delt; hvilken del skal det fortsettes med?</translation>
     </message>
 </context>
 <context>

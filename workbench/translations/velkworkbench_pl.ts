@@ -1149,6 +1149,10 @@ Wybierz inny plik.</translation>
         <source>Grund</source>
         <translation>Powód</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Przejęto z %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3522,10 +3526,6 @@ Wiersz: %2
         <translation>Wiersz %1 jest błędny: próba zakończona</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Wiersz %1 w %2 jest błędny. Zbiór podzielono według różnic; z którą częścią kontynuować?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Dalej</translation>
     </message>
@@ -3560,6 +3560,10 @@ Wiersz: %2
             <numerusform>potwierdzono %n wiersze jako wycofane</numerusform>
             <numerusform>potwierdzono %n wierszy jako wycofane</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Wiersz %1 w %2 jest błędny. Zbiór podzielono; z którą częścią kontynuować?</translation>
     </message>
 </context>
 <context>

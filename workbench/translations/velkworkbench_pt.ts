@@ -1125,6 +1125,10 @@ Escolha outro ficheiro.</translation>
         <source>Grund</source>
         <translation>Motivo</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Assumida de %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Linha: %2
         <translation>A linha %1 está errada: a amostra terminou</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>A linha %1 em %2 está errada. O conjunto foi dividido por diferenças; com que parte se continua?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>Co&amp;ntinuar</translation>
     </message>
@@ -3504,6 +3504,10 @@ Linha: %2
             <numerusform>%n linha confirmada como descontinuada</numerusform>
             <numerusform>%n linhas confirmadas como descontinuadas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>A linha %1 em %2 está errada. O conjunto foi dividido; com que parte se continua?</translation>
     </message>
 </context>
 <context>

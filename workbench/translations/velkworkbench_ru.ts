@@ -1149,6 +1149,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Grund</source>
         <translation>Причина</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Перенято из %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3522,10 +3526,6 @@ Zeile: %2
         <translation>Строка %1 неверна: выборка окончена</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Строка %1 в %2 неверна. Набор разделён по различиям; с какой частью продолжить?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Далее</translation>
     </message>
@@ -3560,6 +3560,10 @@ Zeile: %2
             <numerusform>%n строки подтверждены как снятые с производства</numerusform>
             <numerusform>%n строк подтверждено как снятые с производства</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Строка %1 в %2 неверна. Набор разделён; с какой частью продолжить?</translation>
     </message>
 </context>
 <context>

@@ -1173,6 +1173,10 @@ Izberite drugo datoteko.</translation>
         <source>Grund</source>
         <translation>Razlog</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Prevzeto iz %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3575,10 +3579,6 @@ Vrstica: %2
         <translation>Vrstica %1 je napačna: naključni vzorec je končan</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Vrstica %1 v %2 je napačna. Množica je razdeljena po razlikah; s katerim delom naj se nadaljuje?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Naprej</translation>
     </message>
@@ -3616,6 +3616,10 @@ Vrstica: %2
             <numerusform>%n vrstice potrjene kot opuščene</numerusform>
             <numerusform>%n vrstic potrjenih kot opuščenih</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Vrstica %1 v %2 je napačna. Množica je razdeljena; s katerim delom naj se nadaljuje?</translation>
     </message>
 </context>
 <context>

@@ -1125,6 +1125,10 @@ Välj en annan fil.</translation>
         <source>Grund</source>
         <translation>Skäl</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>Övertagen från %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3469,10 +3473,6 @@ Rad: %2
         <translation>Rad %1 är fel: stickprovet är slut</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>Rad %1 i %2 är fel. Mängden har delats efter skillnader; med vilken del ska det fortsätta?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Fortsätt</translation>
     </message>
@@ -3504,6 +3504,10 @@ Rad: %2
             <numerusform>%n rad bekräftad som utgången</numerusform>
             <numerusform>%n rader bekräftade som utgångna</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>Rad %1 i %2 är fel. Mängden har delats; med vilken del ska det fortsätta?</translation>
     </message>
 </context>
 <context>

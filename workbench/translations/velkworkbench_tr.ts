@@ -1101,6 +1101,10 @@ Lütfen başka bir dosya seçin.</translation>
         <source>Grund</source>
         <translation>Neden</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>%1 dosyasından devralındı</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3416,10 +3420,6 @@ Satır: %2
         <translation>%1 satırı yanlış: örneklem bitti</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>%2 içindeki %1 satırı yanlış. Küme farklara göre bölündü; hangi bölümle devam edilsin?</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>&amp;Devam</translation>
     </message>
@@ -3448,6 +3448,10 @@ Satır: %2
         <translation>
             <numerusform>%n satır kaldırılmış olarak onaylandı</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>%2 içindeki %1 satırı yanlış. Küme bölündü; hangi bölümle devam edilsin?</translation>
     </message>
 </context>
 <context>

@@ -1101,6 +1101,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Grund</source>
         <translation>原因</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>从 %1 沿用</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3416,10 +3420,6 @@ Zeile: %2
         <translation>行 %1 错误：抽样结束</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>%2 中的行 %1 错误。集合已按差异拆分；要从哪一部分继续？</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>继续(&amp;G)</translation>
     </message>
@@ -3448,6 +3448,10 @@ Zeile: %2
         <translation>
             <numerusform>已将 %n 行确认为停用</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>%2 中的行 %1 错误。集合已拆分；要从哪一部分继续？</translation>
     </message>
 </context>
 <context>

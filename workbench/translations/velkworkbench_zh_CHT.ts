@@ -1101,6 +1101,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Grund</source>
         <translation>原因</translation>
     </message>
+    <message>
+        <source>Übernommen aus %1</source>
+        <translation>從 %1 沿用</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -3416,10 +3420,6 @@ Zeile: %2
         <translation>列 %1 錯誤：抽樣結束</translation>
     </message>
     <message>
-        <source>Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; mit welchem Teil soll es weitergehen?</source>
-        <translation>%2 中的列 %1 錯誤。集合已依差異拆分；要從哪一部分繼續？</translation>
-    </message>
-    <message>
         <source>&amp;Weiter</source>
         <translation>繼續(&amp;G)</translation>
     </message>
@@ -3448,6 +3448,10 @@ Zeile: %2
         <translation>
             <numerusform>已將 %n 列確認為停用</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
+        <translation>%2 中的列 %1 錯誤。集合已拆分；要從哪一部分繼續？</translation>
     </message>
 </context>
 <context>

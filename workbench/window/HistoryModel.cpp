@@ -1,5 +1,6 @@
 #include "HistoryModel.h"
 
+#include <QFileInfo>
 #include <QLocale>
 
 namespace {
@@ -11,6 +12,14 @@ QString sideText(const QList<VelkRelease::DecisionHistory::Entry> &entries)
         texts.append(entry.line < 0 ? HistoryModel::tr("kein Nachfolger")
                                     : VelkRelease::DecisionHistory::text({entry}));
     return texts.join(QStringLiteral("; "));
+}
+
+/// What the journal says was written in the language of whoever did it.
+QString actionText(const VelkRelease::DecisionHistory::Decision &decision)
+{
+    if (decision.carriedFrom.isEmpty() || decision.origin != u"edit")
+        return decision.action;
+    return HistoryModel::tr("Übernommen aus %1").arg(QFileInfo(decision.carriedFrom).fileName());
 }
 
 } // namespace
@@ -58,8 +67,8 @@ QString HistoryModel::text(const Decision &decision, int column)
     case Next:
         return sideText(decision.next);
     case Action:
-        return decision.isSaved ? decision.action
-                                : tr("%1 (nicht gespeichert)").arg(decision.action);
+        return decision.isSaved ? actionText(decision)
+                                : tr("%1 (nicht gespeichert)").arg(actionText(decision));
     default:
         return decision.reason;
     }

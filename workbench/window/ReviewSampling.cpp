@@ -14,6 +14,7 @@
 #include <QListView>
 #include <QLocale>
 #include <QRandomGenerator>
+#include <QStyle>
 
 #include <algorithm>
 #include <map>
@@ -185,14 +186,21 @@ void ReviewCommands::split()
     QInputDialog dialog(m_window);
     dialog.setObjectName("SplitDialog");
     dialog.setWindowTitle(tr("Stichprobe"));
-    dialog.setLabelText(tr("Zeile %1 in %2 ist falsch. Die Menge ist nach Unterschieden geteilt; "
-                           "mit welchem Teil soll es weitergehen?")
-                            .arg(QString::number(line.line), line.project.path));
+    dialog.setLabelText(
+        tr("Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll "
+           "es weitergehen?")
+            .arg(QString::number(line.line), line.project.path));
     wrapPrompt(&dialog);
     dialog.setComboBoxItems(names);
     dialog.setOption(QInputDialog::UseListViewForComboBoxItems);
-    if (auto *const list = dialog.findChild<QListView *>())
+    if (auto *const list = dialog.findChild<QListView *>()) {
+        constexpr int WidestLetters = 90;
         list->setAccessibleName(dialog.labelText());
+        list->setTextElideMode(Qt::ElideMiddle);
+        list->setMinimumWidth(std::min(list->sizeHintForColumn(0) + 2 * list->frameWidth() +
+                                           list->style()->pixelMetric(QStyle::PM_ScrollBarExtent),
+                                       WidestLetters * list->fontMetrics().averageCharWidth()));
+    }
     dialog.setOkButtonText(tr("&Weiter"));
     dialog.setCancelButtonText(tr("&Falsche Zeile ansehen"));
     if (dialog.exec() != QDialog::Accepted)

@@ -5,7 +5,9 @@
 #include "MainWindow.h"
 #include "ScreenshotDialog.h"
 
+#include <release/history/DecisionHistory.h>
 #include <workbench/session/CatalogRootMemory.h>
+#include <workbench/session/SessionRecovery.h>
 #include <workbench/start/StartOptions.h>
 
 #include <QApplication>
@@ -63,6 +65,12 @@ int Screenshot::take(DocumentDesk::Wish wish, QSettings *store)
         const QString copy = directory.filePath(QFileInfo(wish.file).fileName());
         if (!QFile::copy(wish.file, copy))
             return fail(Unreadable, "cannot read " + wish.file);
+        // What was noted earlier, but for what a program that runs or crashed has there.
+        const QString journal = SessionRecovery::journalFile(wish.file);
+        for (const QString &file : VelkRelease::DecisionHistory::files(wish.file)) {
+            if (file != journal)
+                QFile::copy(file, directory.filePath(QFileInfo(file).fileName()));
+        }
         const CatalogRoots known =
             CatalogRootMemory(store).roots(MappingDocument::canonicalPath(wish.file));
         if (wish.roots.source.isEmpty())

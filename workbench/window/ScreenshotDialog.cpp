@@ -1,6 +1,8 @@
 #include "ScreenshotDialog.h"
 
+#include "CarryCommands.h"
 #include "EditorArea.h"
+#include "FilterCommands.h"
 #include "HelpWindow.h"
 #include "KeyedActions.h"
 #include "KeysDialog.h"
@@ -21,6 +23,8 @@
 #include <workbench/review/PatternText.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
+#include <workbench/session/CarriedWork.h>
+#include <workbench/session/FilterWork.h>
 #include <workbench/session/NeighbourWork.h>
 
 #include <QAction>
@@ -221,6 +225,24 @@ QPixmap reviewPicture(const QString &name, const QString &row, MainWindow &windo
     return window.grab();
 }
 
+/// The lines that were taken over from a former mapping, chosen in the filter over all lines.
+QPixmap carriedPicture(MainWindow &window)
+{
+    window.commands()->action(WorkbenchActions::FilterLines)->trigger();
+    FilterWork *const filter = window.filters()->work();
+    waitUntil([&window, filter] {
+        return filter->isKnown() && !window.carry()->work()->lines().isEmpty();
+    });
+    VelkRelease::LineFilter carried;
+    carried.of(VelkRelease::LineTrait::Origin) = {{QStringLiteral("carried")}, false};
+    filter->setFilter(carried);
+    if (auto *const list = window.findChild<QTreeWidget *>("FilterList"))
+        list->scrollToBottom();
+    window.editor()->focusLines();
+    QApplication::processEvents();
+    return window.grab();
+}
+
 } // namespace
 
 QPixmap ScreenshotDialog::take(const QString &name, const QString &text, MainWindow &window)
@@ -239,6 +261,8 @@ QPixmap ScreenshotDialog::take(const QString &name, const QString &text, MainWin
         return manualPicture(text);
     if (QStringList{"review", "sample", "neighbours"}.contains(name))
         return reviewPicture(name, text, window);
+    if (name == QLatin1String("carried"))
+        return carriedPicture(window);
     const bool isOfLinkDb = QStringList{"links", "proof", "documents"}.contains(name);
     return isOfLinkDb ? ofLinkDb(name, text, window) : QPixmap();
 }

@@ -2,6 +2,12 @@
 
 #include "DecisionHistory.h"
 #include "HistorySessions.h"
+#include "JournalRecord.h"
+#include "JournalRow.h"
+
+#include <core/files/DurableFile.h>
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
@@ -22,24 +28,6 @@ struct CarryEvent
     QString undone; ///< key of a step that was taken back
     QString redone;
 };
-
-void takeLines(const PJsonValue &projects, std::vector<CarriedLine> &lines)
-{
-    for (int i = 0; i < projects.size(); ++i) {
-        const PJsonValue project = projects.at(i);
-        const PJsonValue rows = field(project, "lines");
-        CarriedLine line;
-        line.project = field(project, "path").toText();
-        line.version = field(project, "version").toText();
-        line.target = field(project, "target").toText();
-        for (int row = 0; row < rows.size(); ++row) {
-            line.line = int(rows.at(row).at(0).toInt());
-            line.targetLine = int(rows.at(row).at(1).toInt());
-            line.isCertain = rows.at(row).at(2).toInt() != 0;
-            lines.push_back(line);
-        }
-    }
-}
 
 /// Reads the records of one session.
 class CarriedReader
@@ -81,7 +69,7 @@ private:
         step.time.setTimeSpec(Qt::UTC);
         step.former = field(note, "former").toText();
         step.formerTarget = field(note, "formerTarget").toText();
-        takeLines(field(note, "projects"), step.lines);
+        step.lines = carriedLines(note);
         m_noted = step;
     }
 
@@ -142,6 +130,44 @@ PJsonValue carriedNote(const QString &formerFile, const QString &formerTarget,
     note[QStringLiteral("formerTarget")] = PJsonValue(formerTarget);
     note[QStringLiteral("projects")] = projects;
     return note;
+}
+
+std::vector<CarriedLine> carriedLines(const PJsonValue &note)
+{
+    std::vector<CarriedLine> lines;
+    const PJsonValue projects = field(note, "projects");
+    for (int i = 0; i < projects.size(); ++i) {
+        const PJsonValue project = projects.at(i);
+        const PJsonValue rows = field(project, "lines");
+        CarriedLine line;
+        line.project = field(project, "path").toText();
+        line.version = field(project, "version").toText();
+        line.target = field(project, "target").toText();
+        for (int row = 0; row < rows.size(); ++row) {
+            line.line = int(rows.at(row).at(0).toInt());
+            line.targetLine = int(rows.at(row).at(1).toInt());
+            line.isCertain = rows.at(row).at(2).toInt() != 0;
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+bool writeCarriedJournal(const QString &mappingFile, const ReleaseMappingC &release,
+                         const QString &formerFile, const QString &formerTarget,
+                         const std::vector<CarriedLine> &lines, QString *error)
+{
+    const QByteArray hash = FileState::of(mappingFile).hash;
+    const QString text = QStringLiteral("Decisions taken over from %1: %2")
+                             .arg(QFileInfo(formerFile).fileName(), QString::number(lines.size()));
+    QByteArray rows;
+    for (const PJsonValue &record :
+         {JournalRecord::opened(release.getSourceDate(), release.getTargetDate(), hash),
+          JournalRecord::note("carried", carriedNote(formerFile, formerTarget, lines)),
+          JournalRecord::step(1, QStringLiteral("edit"), text),
+          JournalRecord::stored("saved", 1, hash), JournalRecord::closed(false)})
+        rows += JournalRow::frame(record.toByteArray(true));
+    return DurableFile::write(DecisionHistory::nameAside(mappingFile), rows, error);
 }
 
 std::optional<std::vector<CarriedStep>> readCarriedSteps(const QString &mappingFile, QString *error)

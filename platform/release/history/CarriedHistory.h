@@ -29,6 +29,18 @@ struct CarriedStep
                                                         const QString &formerTarget,
                                                         const std::vector<CarriedLine> &lines);
 
+/// The lines of such a note.
+[[nodiscard]] std::vector<CarriedLine> carriedLines(const PJsonValue &note);
+
+/// Writes a journal of its own beside a mapping file, as one that was put aside: a session with
+/// one step that took \a lines over and was saved. For programs that leave the file's journal
+/// alone, since a crash may have left something in it. \a release is the one that was saved.
+/// False with \a error.
+[[nodiscard]] VELKRELEASE_EXPORT bool
+writeCarriedJournal(const QString &mappingFile, const ReleaseMappingC &release,
+                    const QString &formerFile, const QString &formerTarget,
+                    const std::vector<CarriedLine> &lines, QString *error);
+
 /// Those of all journals of a mapping file, see DecisionHistory::files(), in the order of time, but
 /// for what was taken back or discarded. Nothing with \a error if one of the files cannot be read.
 [[nodiscard]] VELKRELEASE_EXPORT std::optional<std::vector<CarriedStep>>

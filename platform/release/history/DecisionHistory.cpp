@@ -2,6 +2,7 @@
 
 #include "DecisionReader.h"
 
+#include <core/files/DurableFile.h>
 #include <geomcore/csv/csvCell.h>
 
 #include <QDir>
@@ -68,6 +69,12 @@ bool readAll(const QStringList &files, HistorySessions &sessions, QString *error
 QString DecisionHistory::adoptedFile(const QString &mappingFile)
 {
     return mappingFile + QStringLiteral(".verlauf");
+}
+
+QString DecisionHistory::nameAside(const QString &mappingFile)
+{
+    return DurableFile::stampedName(mappingFile + QStringLiteral(".journal"),
+                                    QStringLiteral("alt"));
 }
 
 QStringList DecisionHistory::files(const QString &mappingFile)

@@ -42,6 +42,7 @@ public:
         QString action;      ///< what undo says of the step
         QString origin;      ///< "edit", "undo", "redo", "recover"; "reason": a reason alone
         QString reason;
+        QString carriedFrom;  ///< file of the former mapping, if it was taken over from there
         bool isSaved = false; ///< into the mapping file
     };
 
@@ -65,6 +66,8 @@ public:
     [[nodiscard]] static QByteArray ownRows(const QString &mappingFile, QString *error);
     /// Where adopt() puts them.
     [[nodiscard]] static QString adoptedFile(const QString &mappingFile);
+    /// A name for a journal that is put aside, or was never the one of an open file.
+    [[nodiscard]] static QString nameAside(const QString &mappingFile);
     /// All files that hold decisions, the oldest first; those that are there.
     [[nodiscard]] static QStringList files(const QString &mappingFile);
 

@@ -1,5 +1,9 @@
 #include "DecisionReader.h"
 
+#include "CarriedHistory.h"
+
+#include <utility>
+
 namespace VelkRelease {
 
 namespace {
@@ -51,6 +55,8 @@ void DecisionReader::take(const PJsonValue &record)
         takeChange(record);
     } else if (kind == u"step") {
         takeStep(record);
+    } else if (kind == u"carried") {
+        m_carried = member(record, "note");
     } else if (kind == u"reason") {
         takeReason(record);
     } else if (kind == u"saved") {
@@ -116,6 +122,10 @@ void DecisionReader::takeStep(const PJsonValue &record)
     decision.time = timeOf(record);
     decision.action = member(record, "text").toText();
     decision.origin = member(record, "origin").toText();
+    const PJsonValue carried = std::exchange(m_carried, PJsonValue());
+    decision.carriedFrom = member(carried, "former").toText();
+    if (m_open.empty() && carried.isObject())
+        takeCarried(decision, carried);
     for (const auto &[key, changes] : m_open) {
         decision.path = key.path;
         decision.version = key.version;
@@ -134,6 +144,20 @@ void DecisionReader::takeStep(const PJsonValue &record)
             m_decisions.append(decision);
     }
     m_open.clear();
+}
+
+/// Of a step without changes: who wrote it knew only what came of it.
+void DecisionReader::takeCarried(Decision decision, const PJsonValue &note)
+{
+    for (const CarriedLine &line : carriedLines(note)) {
+        decision.path = line.project;
+        decision.version = line.version;
+        decision.line = line.line;
+        decision.next = {{line.target, line.targetLine,
+                          line.isCertain ? PRJMAPPING::Mapped : PRJMAPPING::ToCheck, QString(),
+                          false}};
+        m_decisions.append(decision);
+    }
 }
 
 void DecisionReader::takeReason(const PJsonValue &record)

@@ -46,6 +46,7 @@ private:
     void takeLine(const PJsonValue &line, const LineKey &project, const QString &before,
                   const QString &after);
     void takeStep(const PJsonValue &record);
+    void takeCarried(Decision decision, const PJsonValue &note);
     void takeReason(const PJsonValue &record);
     void takeEnd(bool modified);
     void note(const LineKey &key, const QString &target, const std::optional<Entry> &before,
@@ -54,6 +55,7 @@ private:
     Decision m_head; ///< what all of the session have in common
     LineChanges m_open;
     qint64 m_openStep = -1;
+    PJsonValue m_carried; ///< note for the step in the making
     QList<Decision> m_decisions;
 };
 

@@ -8,6 +8,7 @@
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/progress/DefaultObserverDelegate.h>
+#include <release/history/CarriedHistory.h>
 #include <release/history/DecisionHistory.h>
 #include <workbench/session/CarriedWork.h>
 #include <workbench/session/CatalogRootMemory.h>
@@ -18,12 +19,15 @@
 #include <workbench/window/EditorArea.h>
 #include <workbench/window/FilterCommands.h>
 #include <workbench/window/FocusHelp.h>
+#include <workbench/window/HistoryDialog.h>
+#include <workbench/window/HistoryModel.h>
 #include <workbench/window/LogWindow.h>
 #include <workbench/window/MainWindow.h>
 #include <workbench/window/ReleaseCommands.h>
 #include <workbench/window/StatusArea.h>
 #include <workbench/window/WorkbenchSettings.h>
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QFile>
 #include <QFileDialog>
@@ -101,6 +105,7 @@ private Q_SLOTS:
     void marksAndFilter();
     void undoAndReopen();
     void nothingLeft();
+    void marksOfTheOtherProgram();
 
 private:
     /// The mapping that is open, led to an earlier release with the same content; three proposals
@@ -328,6 +333,43 @@ void tst_CarryCommands::nothingLeft()
     QCOMPARE(note(), "Aus former.json ist nichts zu übernehmen. Nicht übernommen: 4 hier schon "
                      "entschieden oder sicher, 1 damals als ausgelaufen bestätigt");
     QCOMPARE(document()->steps().count(), steps);
+}
+
+/// velkmap took decisions over: the editor shows the same as if it had.
+void tst_CarryCommands::marksOfTheOtherProgram()
+{
+    m_fixture->action("fileClose")->trigger();
+    const QString file = m_fixture->directory.filePath("m.json");
+    MappingFile mapping;
+    QVERIFY(mapping.read(file));
+    ReleaseMappingC release = mapping.releases().last();
+    PrjMappingC changed = release.mappingAt(m_lines.position);
+    std::vector<VelkRelease::CarriedLine> lines;
+    for (const PrjMappingTargetC &target : changed.getTargets()) {
+        for (const int line : m_lines.open) {
+            if (const LineTable::Iterator entry = target.lines().find(line))
+                lines.push_back({changed.getSourcePath(), changed.getSourceVersion(), line,
+                                 target.getTargetPath(), entry.targetLine(), false});
+        }
+    }
+    QString error;
+    QVERIFY2(VelkRelease::writeCarriedJournal(file, release, "/maps/former.json", between, lines,
+                                              &error),
+             qPrintable(error));
+    m_fixture->open(file);
+    waitForMarks();
+    const QString remark = "Übernommen aus former.json: dort für den Katalogstand 2021-01-01 "
+                           "bestätigt";
+    for (const int line : m_lines.open)
+        QCOMPARE(commands()->remark(project(), line), remark);
+    QVERIFY(commands()->remark(project(), m_lines.certain).isEmpty());
+    QVERIFY(!document()->canUndo()); // the file holds no more than what came of it
+    HistoryDialog history(document()->mappingFile(), {ProjectId::of(project()), m_lines.open[0]},
+                          nullptr);
+    const auto *const list = history.findChild<QAbstractItemView *>();
+    QCOMPARE(list->model()->rowCount(), 1);
+    QCOMPARE(list->model()->index(0, HistoryModel::Action).data().toString(),
+             "Übernommen aus former.json");
 }
 
 void tst_CarryCommands::refused_data()
