@@ -12,6 +12,10 @@
         <translation>"%1" není adresa databáze odkazů. Možné jsou sqlite:SOUBOR a postgresql://UŽIVATEL@POČÍTAČ:PORT/DATABÁZE.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 buněk místo %2 jako v záhlaví</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 v revizi %2 neexistuje</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>dalších: %1</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 dalších chyb</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Čte se revize %2, pokud je na tomto počítači.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Není jisté, zda jsou změny potvrzeny: před opakováním se podívejte.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 buňka místo %1 jako v záhlaví</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Jiné hodnoty rozsahů patří k jinému cíli.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>začátek, konec a krok „%1“ musí být čísla nejvýše o 15 číslicích</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>Text</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>text za uzavírací uvozovkou buňky</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>text, začátek, počet</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Znak %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>řádek %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>řádek %1, sloupec %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Řádek %1, znak %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>konec</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>projekt nemá tabulku; má ji uvést jeho lexém SACHM</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>projekt nebyl načten</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>deskriptor má lineSubIdField bez lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>rozsah hodnot „%1“ pro %2 má %3 hodnot; projde se jen %4</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>uvozovky buňky netvoří páry</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>bajty nejsou UTF-8; uložte soubor jako UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>soubor je prázdný; první řádek musí pojmenovat sloupce</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>podmínku filtru „%1“ nelze rozebrat: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>vzorec vypočteného sloupce „%1“ nelze rozebrat: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>krok „%1“ není větší než 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>sloupec nemá název</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>chybí sloupec „%1“ z deskriptoru</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>chybí sloupec „%1“, který uvádí %2 v deskriptoru</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>sloupec „%1“ je tam dvakrát</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>čísla v „%1“ mají příliš mnoho číslic</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>číslo řádku %1 už má řádek %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>tyto vypočtené sloupce se navzájem potřebují: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>uvozovka uvnitř buňky, která jí nezačíná; dejte celou buňku do uvozovek a vnitřní zdvojte</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>uvozovka není uzavřena</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operátor nebo konec</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>hodnota</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>hodnota mezi středníky je prázdná</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>žádná hodnota</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>nelze přečíst: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>nelze otevřít: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>více řádků, než tabulka pojme</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>podobné: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>„%1“ končí pod svým začátkem</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>„%1“ nemá krok; zapište jako 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>„%1“ není rozsah hodnot pro %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>„%1“ není číslo řádku, tedy celé číslo od 0 do 2147483647</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1" er ikke adressen på en linkdatabase. Mulige er sqlite:FIL og postgresql://BRUGER@VÆRT:PORT/DATABASE.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 celler i stedet for %2 som i overskriften</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 findes ikke i revision %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 flere</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 fejl mere</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Revision %2 læses, så vidt den findes på denne maskine.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Det er uvist, om ændringerne er gemt: se efter, før de gentages.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 celle i stedet for %1 som i overskriften</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Andre værdier i værdiområderne hører til et andet mål.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>begyndelse, slutning og trin i "%1" skal være tal med højst 15 cifre</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>Tekst</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>tekst efter en celles afsluttende anførselstegn</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>tekst, start, antal</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Tegn %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>række %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>række %1, kolonne %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Linje %1, tegn %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>slutningen</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>projektet har ingen tabel; dets leksem SACHM skal nævne en</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>projektet blev ikke læst</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>deskriptoren har et lineSubIdField uden lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>værdiområdet "%1" for %2 har %3 værdier; kun %4 gennemløbes</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>cellens anførselstegn passer ikke sammen</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>bytes er ikke UTF-8; gem filen som UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>filen er tom; den første række skal navngive kolonnerne</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>filterbetingelsen "%1" kan ikke læses: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>formlen for den beregnede kolonne "%1" kan ikke læses: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>trinnet i "%1" er ikke større end 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>kolonnen har intet navn</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>kolonnen "%1" fra deskriptoren mangler</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>kolonnen "%1" mangler, som %2 i deskriptoren nævner</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>kolonnen "%1" findes to gange</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>tallene i "%1" har for mange cifre</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>linjenummer %1 har række %2 allerede</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>disse beregnede kolonner kræver hinanden: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>et anførselstegn i en celle, der ikke begynder med et; sæt hele cellen i anførselstegn, og fordobl dem i den</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>et anførselstegn lukkes ikke</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>en operator eller slutningen</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>en værdi</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>en værdi mellem semikolonerne er tom</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>ingen værdi</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>kan ikke læses: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>kan ikke åbnes: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>flere linjer, end en tabel kan rumme</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>lignende: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>"%1" slutter under sin begyndelse</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>"%1" har intet trin; skriv det som 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>"%1" er intet værdiområde for %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>"%1" er intet linjenummer, altså intet heltal fra 0 til 2147483647</translation>
     </message>
 </context>
 </TS>

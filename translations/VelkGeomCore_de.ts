@@ -12,6 +12,10 @@
         <translation>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 Zellen statt %2 wie in der Kopfzeile</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 gibt es in Revision %2 nicht</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 weitere</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 weitere Fehler</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 Zelle statt %1 wie in der Kopfzeile</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>Text</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>Text hinter dem schließenden Anführungszeichen einer Zelle</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>Text, Anfang, Anzahl</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Zeichen %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Zeile %1, Zeichen %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>das Ende</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>das Projekt wurde nicht gelesen</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>der Deskriptor hat ein lineSubIdField ohne lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>die Anführungszeichen der Zelle passen nicht zueinander</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>die Filterbedingung „%1“ ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>die Schrittweite von „%1“ ist nicht größer als 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>die Spalte hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>die Spalte „%1“ aus dem Deskriptor fehlt</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>die Spalte „%1“ gibt es zweimal</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>die Zahlen von „%1“ haben zu viele Ziffern</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>die Zeilennummer %1 hat schon Zeile %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>diese berechneten Spalten brauchen einander: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>ein Anführungszeichen wird nicht geschlossen</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>ein Operator oder das Ende</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>ein Wert</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>ein Wert zwischen den Semikolons ist leer</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>mehr Zeilen, als eine Tabelle fassen kann</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>ähnlich: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>„%1“ endet unter seinem Anfang</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>„%1“ ist kein Wertebereich von %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1" is no address of a link database. Possible are sqlite:FILE and postgresql://USER@HOST:PORT/DATABASE.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 cells instead of %2, as the header row has</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 does not exist in revision %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 more</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 more errors</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Revision %2 is read as far as it is on this machine.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Whether the changes were committed is not certain: look before you repeat them.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 cell instead of %1, as the header row has</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Other values of the value ranges belong to another target.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>begin, end and step of "%1" are to be numbers of at most 15 digits</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>text</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>text after the closing quote of a cell</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>text, start, count</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Character %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>row %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>row %1, column %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Line %1, character %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>the end</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>the project has no table; its lexeme SACHM is to name one</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>the project was not read</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>the descriptor has a lineSubIdField without a lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>the value range "%1" of %2 has %3 values; only %4 are walked</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>the quotes of the cell do not pair</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>the bytes are no UTF-8; save the file as UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>the file is empty; its first row must name the columns</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>the filter condition "%1" does not parse: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>the formula of the computed column "%1" does not parse: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>the step of "%1" is not above 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>the column has no name</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>the column "%1" is missing, which the descriptor has</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>the column "%1" is missing, which the descriptor's %2 names</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>the column "%1" stands twice</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>the numbers of "%1" have too many digits</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>the line id %1 is that of row %2 already</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>these computed columns need each other: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>a quote inside a cell that does not begin with one; quote the whole cell and double the quotes in it</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>a quote is left open</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>an operator or the end</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>a value</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>a value between the semicolons is empty</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>no value</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>cannot be opened: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>more lines than a table can hold</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>similar: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>"%1" ends below its begin</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>"%1" has no step; write it as 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>"%1" is no value range of %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>"%1" is no line id, which is an integer from 0 to 2147483647</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1" no es la dirección de una base de enlaces. Son posibles sqlite:ARCHIVO y postgresql://USUARIO@EQUIPO:PUERTO/BASE.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 celdas en lugar de %2, como en la cabecera</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 no existe en la revisión %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 más</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 errores más</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Se lee la revisión %2 en la medida en que está en esta máquina.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. No es seguro que los cambios se hayan confirmado: compruébelo antes de repetirlos.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 celda en lugar de %1, como en la cabecera</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Otros valores de los rangos pertenecen a otro destino.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>inicio, fin y paso de «%1» deben ser números de 15 cifras como máximo</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>texto</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>texto detrás de las comillas de cierre de una celda</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>texto, inicio, cantidad</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Carácter %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>fila %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>fila %1, columna %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Línea %1, carácter %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>el final</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>el proyecto no tiene tabla; su lexema SACHM debe indicarla</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>el proyecto no se ha leído</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>el descriptor tiene lineSubIdField sin lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>el rango «%1» de %2 tiene %3 valores; solo se recorren %4</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>las comillas de la celda no forman pares</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>los bytes no son UTF-8; guarde el archivo como UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>el archivo está vacío; su primera fila debe nombrar las columnas</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>la condición de filtro «%1» no se entiende: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>la fórmula de la columna calculada «%1» no se entiende: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>el paso de «%1» no es mayor que 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>la columna no tiene nombre</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>falta la columna «%1» del descriptor</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>falta la columna «%1» que nombra %2 en el descriptor</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>la columna «%1» aparece dos veces</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>los números de «%1» tienen demasiadas cifras</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>el número de fila %1 ya es el de la fila %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>estas columnas calculadas se necesitan entre sí: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>una comilla dentro de una celda que no empieza por comilla; ponga toda la celda entre comillas y duplique las interiores</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>unas comillas no se cierran</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>un operador o el final</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>un valor</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>un valor entre los puntos y coma está vacío</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>ningún valor</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>no se puede abrir: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>más filas de las que caben en una tabla</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>parecido: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>«%1» termina por debajo de su inicio</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>«%1» no tiene paso; escríbalo como 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>«%1» no es un rango de valores de %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>«%1» no es un número de fila, es decir, un entero de 0 a 2147483647</translation>
     </message>
 </context>
 </TS>

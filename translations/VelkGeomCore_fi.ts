@@ -12,6 +12,10 @@
         <translation>"%1" ei ole linkkitietokannan osoite. Mahdollisia ovat sqlite:TIEDOSTO ja postgresql://KÄYTTÄJÄ@KONE:PORTTI/TIETOKANTA.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 solua eikä %2 kuten otsikkorivillä</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>Kohdetta %1 ei ole versiossa %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 muuta</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 muuta virhettä</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Luetaan versio %2 siltä osin kuin se on tällä koneella.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ei ole varmaa, vahvistettiinko muutokset: tarkista ennen toistamista.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 solu eikä %1 kuten otsikkorivillä</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Arvoalueiden muut arvot kuuluvat toiseen kohteeseen.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>kohteen "%1" alun, lopun ja askeleen on oltava enintään 15-numeroisia lukuja</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>teksti</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>tekstiä solun päättävän lainausmerkin jälkeen</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>teksti, alku, määrä</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Merkki %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>rivi %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>rivi %1, sarake %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Rivi %1, merkki %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>loppu</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>projektilla ei ole taulukkoa; sen lekseemin SACHM on nimettävä sellainen</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>projektia ei luettu</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>kuvaustiedostossa on lineSubIdField ilman lineIdField-kenttää</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>muuttujan %2 arvoalueessa "%1" on %3 arvoa; vain %4 käydään läpi</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>solun lainausmerkit eivät muodosta pareja</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>tavut eivät ole UTF-8:aa; tallenna tiedosto UTF-8-muodossa</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>tiedosto on tyhjä; sen ensimmäisen rivin on nimettävä sarakkeet</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>suodatusehto "%1" ei jäsenny: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>lasketun sarakkeen "%1" kaava ei jäsenny: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>kohteen "%1" askel ei ole suurempi kuin 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>sarakkeella ei ole nimeä</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>kuvaustiedoston sarake "%1" puuttuu</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>sarake "%1", jonka kuvaustiedoston %2 nimeää, puuttuu</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>sarake "%1" esiintyy kahdesti</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>kohteen "%1" luvuissa on liian monta numeroa</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>rivinumero %1 on jo rivillä %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>nämä lasketut sarakkeet tarvitsevat toisiaan: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>lainausmerkki solussa, joka ei ala sellaisella; laita koko solu lainausmerkkeihin ja kahdenna sen sisällä olevat</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>lainausmerkkiä ei suljeta</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operaattori tai loppu</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>arvo</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>puolipisteiden välinen arvo on tyhjä</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>ei arvoa</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>ei voi lukea: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>ei voi avata: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>enemmän rivejä kuin taulukkoon mahtuu</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>samankaltainen: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>"%1" loppuu alkuaan alempana</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>"%1": askel puuttuu; kirjoita kuten 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>"%1" ei ole muuttujan %2 arvoalue: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>"%1" ei ole rivinumero eli kokonaisluku väliltä 0–2147483647</translation>
     </message>
 </context>
 </TS>

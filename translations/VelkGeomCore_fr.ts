@@ -12,6 +12,10 @@
         <translation>"%1" n'est pas l'adresse d'une base de liens. Possibles : sqlite:FICHIER et postgresql://UTILISATEUR@HÔTE:PORT/BASE.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 cellules au lieu de %2 comme dans l'en-tête</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 n'existe pas dans la révision %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 autres</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 autres erreurs</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. La révision %2 est lue dans la mesure où elle se trouve sur cette machine.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Il n'est pas certain que les modifications soient validées : vérifier avant de recommencer.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 cellule au lieu de %1 comme dans l'en-tête</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>D'autres valeurs des plages appartiennent à une autre cible.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>début, fin et pas de « %1 » doivent être des nombres d'au plus 15 chiffres</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>texte</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>du texte derrière le guillemet fermant d'une cellule</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>texte, début, longueur</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Caractère %1 : %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>ligne %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>ligne %1, colonne %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Ligne %1, caractère %2 : %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>la fin</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>le projet n'a pas de tableau ; son lexème SACHM doit en nommer un</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>le projet n'a pas été lu</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>le descripteur a un lineSubIdField sans lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>la plage « %1 » de %2 a %3 valeurs ; seules %4 sont parcourues</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>les guillemets de la cellule ne vont pas par paires</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>les octets ne sont pas de l'UTF-8 ; enregistrez le fichier en UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>le fichier est vide ; sa première ligne doit nommer les colonnes</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>la condition de filtre « %1 » ne se lit pas : %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>la formule de la colonne calculée « %1 » ne se lit pas : %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>le pas de « %1 » n'est pas supérieur à 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>la colonne n'a pas de nom</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>la colonne « %1 » du descripteur manque</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>la colonne « %1 » que nomme %2 dans le descripteur manque</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>la colonne « %1 » figure deux fois</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>les nombres de « %1 » ont trop de chiffres</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>le numéro de ligne %1 est déjà celui de la ligne %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>ces colonnes calculées ont besoin les unes des autres : %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>un guillemet dans une cellule qui ne commence pas par un guillemet ; mettez toute la cellule entre guillemets et doublez ceux qu'elle contient</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>un guillemet n'est pas fermé</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>un opérateur ou la fin</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>une valeur</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>une valeur entre les points-virgules est vide</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>aucune valeur</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>ne peut pas être ouvert : %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>plus de lignes qu'un tableau ne peut en contenir</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>semblable : %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>« %1 » finit au-dessous de son début</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>« %1 » n'a pas de pas ; écrivez-le comme 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>« %1 » n'est pas une plage de valeurs de %2 : %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>« %1 » n'est pas un numéro de ligne, c'est-à-dire un entier de 0 à 2147483647</translation>
     </message>
 </context>
 </TS>

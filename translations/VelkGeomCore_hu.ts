@@ -12,6 +12,10 @@
         <translation>"%1" nem egy hivatkozási adatbázis címe. Lehetséges: sqlite:FÁJL és postgresql://FELHASZNÁLÓ@GÉP:PORT/ADATBÁZIS.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 cella %2 helyett, ahogy a fejlécben van</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 nem létezik a(z) %2. revízióban</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>további %1</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>további %1 hiba</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. A(z) %2. revíziót olvassuk, amennyiben ezen a gépen megvan.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Bizonytalan, hogy a módosítások véglegesítve vannak-e: ismétlés előtt ellenőrizze.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 cella %1 helyett, ahogy a fejlécben van</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Az értéktartományok más értékei másik célhoz tartoznak.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>„%1” kezdete, vége és lépésköze legfeljebb 15 jegyű szám lehet</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>szöveg</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>szöveg egy cella záró idézőjele után</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>szöveg, kezdet, darab</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>%1. karakter: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>%1. sor</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>%1. sor, %2. oszlop</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>%1. sor, %2. karakter: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>a vége</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>a projektnek nincs táblázata; a SACHM lexémának kell megneveznie</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>a projekt nem lett beolvasva</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>a leíróban lineSubIdField van lineIdField nélkül</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>a(z) %2 „%1” értéktartománya %3 értékű; csak %4 lesz bejárva</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>a cella idézőjelei nem alkotnak párt</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>a bájtok nem UTF-8-ban vannak; mentse a fájlt UTF-8-ként</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>a fájl üres; első sorának meg kell neveznie az oszlopokat</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>a(z) „%1” szűrőfeltétel nem értelmezhető: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>a számított „%1” oszlop képlete nem értelmezhető: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>„%1” lépésköze nem nagyobb 0-nál</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>az oszlopnak nincs neve</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>a leíró „%1” oszlopa hiányzik</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>hiányzik a(z) „%1” oszlop, amelyet a leíró %2 mezője megnevez</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>a(z) „%1” oszlop kétszer szerepel</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>„%1” számai túl sok jegyűek</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>a(z) %1 sorszám már a(z) %2. soré</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>ezeknek a számított oszlopoknak egymásra van szükségük: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>idézőjel olyan cellában, amely nem azzal kezdődik; tegye az egész cellát idézőjelbe, és kettőzze meg a benne lévőket</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>egy idézőjel nincs lezárva</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>műveleti jel vagy a vége</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>érték</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>egy érték a pontosvesszők között üres</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>nincs érték</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>nem olvasható: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>nem nyitható meg: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>több sor, mint amennyi egy táblázatba fér</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>hasonló: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>„%1” vége kisebb a kezdeténél</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>„%1” lépésköz nélküli; írja így: 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>„%1” nem értéktartománya ennek: %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>„%1” nem sorszám, vagyis nem 0 és 2147483647 közötti egész</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1" bukan alamat basis data tautan. Yang mungkin: sqlite:BERKAS dan postgresql://PENGGUNA@HOST:PORT/BASISDATA.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 sel, bukan %2 seperti di baris kepala</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 tidak ada di revisi %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 lainnya</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 kesalahan lagi</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Revisi %2 dibaca sejauh ada di mesin ini.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Tidak pasti apakah perubahan sudah tersimpan: periksa sebelum mengulang.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 sel, bukan %1 seperti di baris kepala</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Nilai lain dari rentang nilai termasuk dalam target lain.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>awal, akhir, dan langkah "%1" harus berupa bilangan paling banyak 15 digit</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>teks</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>teks di belakang tanda kutip penutup sebuah sel</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>teks, awal, jumlah</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Karakter %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>baris %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>baris %1, kolom %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Baris %1, karakter %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>akhir</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>proyek tidak memiliki tabel; leksem SACHM harus menyebutkannya</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>proyek tidak dibaca</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>deskriptor memiliki lineSubIdField tanpa lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>rentang "%1" dari %2 memiliki %3 nilai; hanya %4 yang ditelusuri</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>tanda kutip sel tidak berpasangan</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>byte-nya bukan UTF-8; simpan berkas sebagai UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>berkas kosong; baris pertamanya harus menamai kolom</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>syarat filter "%1" tidak dapat diurai: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>rumus kolom terhitung "%1" tidak dapat diurai: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>langkah "%1" tidak lebih dari 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>kolom tidak bernama</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>kolom "%1" dari deskriptor tidak ada</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>kolom "%1" yang disebut %2 pada deskriptor tidak ada</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>kolom "%1" ada dua kali</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>bilangan "%1" terlalu banyak digit</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>nomor baris %1 sudah dipakai baris %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>kolom terhitung ini saling membutuhkan: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>tanda kutip di dalam sel yang tidak diawali dengannya; beri kutip seluruh sel dan gandakan kutip di dalamnya</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>sebuah tanda kutip tidak ditutup</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operator atau akhir</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>nilai</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>sebuah nilai di antara titik koma kosong</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>tanpa nilai</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>tidak dapat dibaca: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>tidak dapat dibuka: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>baris lebih banyak daripada yang dapat dimuat tabel</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>mirip: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>"%1" berakhir di bawah awalnya</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>"%1" tidak memiliki langkah; tulis seperti 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>"%1" bukan rentang nilai %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>"%1" bukan nomor baris, yaitu bilangan bulat dari 0 sampai 2147483647</translation>
     </message>
 </context>
 </TS>

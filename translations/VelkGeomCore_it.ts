@@ -12,6 +12,10 @@
         <translation>"%1" non è l'indirizzo di un database dei collegamenti. Possibili: sqlite:FILE e postgresql://UTENTE@HOST:PORTA/DATABASE.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 celle invece di %2 come nell'intestazione</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 non esiste nella revisione %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>altri %1</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>altri %1 errori</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Viene letta la revisione %2, per quanto si trova su questa macchina.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Non è certo che le modifiche siano state confermate: verificare prima di ripeterle.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 cella invece di %1 come nell'intestazione</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Altri valori degli intervalli appartengono a un'altra destinazione.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>inizio, fine e passo di "%1" devono essere numeri di 15 cifre al massimo</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>testo</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>testo dopo le virgolette di chiusura di una cella</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>testo, inizio, numero</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Carattere %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>riga %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>riga %1, colonna %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Riga %1, carattere %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>la fine</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>il progetto non ha una tabella; il suo lessema SACHM deve indicarla</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>il progetto non è stato letto</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>il descrittore ha un lineSubIdField senza lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>l'intervallo "%1" di %2 ha %3 valori; ne vengono percorsi solo %4</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>le virgolette della cella non sono appaiate</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>i byte non sono UTF-8; salvare il file come UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>il file è vuoto; la prima riga deve nominare le colonne</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>la condizione di filtro "%1" non è leggibile: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>la formula della colonna calcolata "%1" non è leggibile: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>il passo di "%1" non è maggiore di 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>la colonna non ha nome</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>manca la colonna "%1" del descrittore</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>manca la colonna "%1" nominata da %2 nel descrittore</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>la colonna "%1" compare due volte</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>i numeri di "%1" hanno troppe cifre</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>il numero di riga %1 è già della riga %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>queste colonne calcolate hanno bisogno l'una dell'altra: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>virgolette in una cella che non inizia con esse; mettere tutta la cella tra virgolette e raddoppiare quelle interne</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>le virgolette non vengono chiuse</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>un operatore o la fine</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>un valore</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>un valore tra i punti e virgola è vuoto</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>nessun valore</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>non si può leggere: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>non si può aprire: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>più righe di quante ne contenga una tabella</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>simile: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>"%1" finisce sotto il suo inizio</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>"%1" non ha un passo; scriverlo come 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>"%1" non è un intervallo di valori di %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>"%1" non è un numero di riga, cioè un intero da 0 a 2147483647</translation>
     </message>
 </context>
 </TS>

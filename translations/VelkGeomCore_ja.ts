@@ -12,6 +12,10 @@
         <translation>"%1" はリンクデータベースのアドレスではありません。sqlite:ファイル または postgresql://ユーザー@ホスト:ポート/データベース を使えます。</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>セルが %1 個です。見出し行は %2 個です</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 はリビジョン %2 にありません</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>ほか %1 件</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>ほかに %1 件の誤り</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1。このマシンにある範囲でリビジョン %2 を読み込みます。</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1。変更が確定されたかどうか不明です。繰り返す前に確認してください。</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>セルが 1 個です。見出し行は %1 個です</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>値範囲の他の値は別のターゲットに属しています。</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>「%1」の始点、終点、刻みは 15 桁以下の数でなければなりません</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>テキスト</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>セルの閉じ引用符の後に文字があります</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>テキスト, 開始, 文字数</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>文字 %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>%1 行目</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>%1 行目 %2 列目</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>%1 行目 %2 文字目: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>末尾</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>プロジェクトに表がありません。語彙素 SACHM で指定してください</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>プロジェクトは読み取られませんでした</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>記述子に lineIdField のない lineSubIdField があります</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>%2 の値範囲「%1」には値が %3 個あります。%4 個だけを調べます</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>セルの引用符が対になっていません</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>バイト列が UTF-8 ではありません。ファイルを UTF-8 で保存してください</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>ファイルが空です。最初の行に列名が必要です</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>フィルター条件「%1」を解釈できません: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>計算列「%1」の式を解釈できません: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>「%1」の刻みが 0 より大きくありません</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>列に名前がありません</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>記述子にある列「%1」がありません</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>記述子の %2 が指す列「%1」がありません</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>列「%1」が二つあります</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>「%1」の数の桁が多すぎます</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>行番号 %1 はすでに %2 行目にあります</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>これらの計算列は互いを必要としています: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>引用符で始まらないセルの中に引用符があります。セル全体を引用符で囲み、中の引用符を二重にしてください</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>引用符が閉じられていません</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>演算子または末尾</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>値</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>セミコロンの間の値が空です</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>値なし</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>開けません: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>表に収まる数より行が多すぎます</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>類似: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>「%1」の終点が始点より小さくなっています</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>「%1」に刻みがありません。10..50/5 のように書いてください</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>「%1」は %2 の値範囲ではありません: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>「%1」は行番号 (0 から 2147483647 の整数) ではありません</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1"은(는) 링크 데이터베이스의 주소가 아닙니다. sqlite:파일 또는 postgresql://사용자@호스트:포트/데이터베이스를 쓸 수 있습니다.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>셀이 %1개입니다. 머리글 행은 %2개입니다</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1은(는) 리비전 %2에 없습니다</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>외 %1개</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>그 밖의 오류 %1개</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. 이 컴퓨터에 있는 범위에서 리비전 %2을(를) 읽습니다.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. 변경이 확정되었는지 확실하지 않습니다. 반복하기 전에 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>셀이 1개입니다. 머리글 행은 %1개입니다</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>값 범위의 다른 값은 다른 대상에 속합니다.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>"%1"의 시작, 끝, 간격은 15자리 이하의 숫자여야 합니다</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>텍스트</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>셀의 닫는 따옴표 뒤에 텍스트가 있습니다</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>텍스트, 시작, 개수</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>문자 %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>%1행</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>%1행 %2열</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>%1행 %2번째 문자: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>끝</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>프로젝트에 표가 없습니다. 어휘소 SACHM에 지정해야 합니다</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>프로젝트를 읽지 않았습니다</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>설명자에 lineIdField 없이 lineSubIdField가 있습니다</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>%2의 값 범위 "%1"에는 값이 %3개 있습니다. %4개만 살펴봅니다</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>셀의 따옴표가 짝이 맞지 않습니다</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>바이트가 UTF-8이 아닙니다. 파일을 UTF-8로 저장하십시오</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>파일이 비어 있습니다. 첫 행에 열 이름이 있어야 합니다</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>필터 조건 "%1"을(를) 해석할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>계산 열 "%1"의 수식을 해석할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>"%1"의 간격이 0보다 크지 않습니다</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>열에 이름이 없습니다</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>설명자의 열 "%1"이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>설명자의 %2이(가) 지정한 열 "%1"이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>열 "%1"이(가) 두 번 있습니다</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>"%1"의 숫자 자릿수가 너무 많습니다</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>행 번호 %1은(는) 이미 %2행의 것입니다</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>이 계산 열들은 서로를 필요로 합니다: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>따옴표로 시작하지 않는 셀 안에 따옴표가 있습니다. 셀 전체를 따옴표로 묶고 안의 따옴표를 두 번 쓰십시오</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>따옴표가 닫히지 않았습니다</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>연산자 또는 끝</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>값</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>세미콜론 사이의 값이 비어 있습니다</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>값 없음</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>열 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>표가 담을 수 있는 것보다 행이 많습니다</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>비슷함: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>"%1"의 끝이 시작보다 작습니다</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>"%1"에 간격이 없습니다. 10..50/5처럼 쓰십시오</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>"%1"은(는) %2의 값 범위가 아닙니다: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>"%1"은(는) 행 번호(0에서 2147483647까지의 정수)가 아닙니다</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1" er ikke adressen til en linkdatabase. Mulige er sqlite:FIL og postgresql://BRUKER@VERT:PORT/DATABASE.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 celler i stedet for %2 som i overskriften</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 finnes ikke i revisjon %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 flere</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 feil til</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Revisjon %2 leses så langt den finnes på denne maskinen.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Det er uvisst om endringene er lagret: se etter før de gjentas.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 celle i stedet for %1 som i overskriften</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Andre verdier i verdiområdene hører til et annet mål.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>begynnelse, slutt og trinn i "%1" skal være tall med høyst 15 siffer</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>tekst</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>tekst etter en celles avsluttende anførselstegn</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>tekst, start, antall</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Tegn %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>rad %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>rad %1, kolonne %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Linje %1, tegn %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>slutten</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>prosjektet har ingen tabell; leksemet SACHM skal nevne en</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>prosjektet ble ikke lest</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>deskriptoren har et lineSubIdField uten lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>verdiområdet "%1" for %2 har %3 verdier; bare %4 gjennomløpes</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>cellens anførselstegn passer ikke sammen</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>bytene er ikke UTF-8; lagre filen som UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>filen er tom; den første raden skal navngi kolonnene</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>filterbetingelsen "%1" kan ikke tolkes: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>formelen for den beregnede kolonnen "%1" kan ikke tolkes: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>trinnet i "%1" er ikke større enn 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>kolonnen har ikke navn</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>kolonnen "%1" fra deskriptoren mangler</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>kolonnen "%1" mangler, som %2 i deskriptoren nevner</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>kolonnen "%1" finnes to ganger</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>tallene i "%1" har for mange siffer</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>linjenummer %1 har rad %2 allerede</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>disse beregnede kolonnene trenger hverandre: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>et anførselstegn i en celle som ikke begynner med et; sett hele cellen i anførselstegn og fordoble dem i den</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>et anførselstegn lukkes ikke</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>en operator eller slutten</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>en verdi</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>en verdi mellom semikolonene er tom</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>ingen verdi</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>kan ikke leses: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>kan ikke åpnes: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>flere linjer enn en tabell kan romme</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>lignende: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>"%1" slutter under begynnelsen</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>"%1" har ikke noe trinn; skriv det som 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>"%1" er ikke et verdiområde for %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>"%1" er ikke et linjenummer, altså et heltall fra 0 til 2147483647</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1" nie jest adresem bazy łączy. Możliwe są sqlite:PLIK i postgresql://UŻYTKOWNIK@KOMPUTER:PORT/BAZA.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 komórek zamiast %2 jak w nagłówku</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 nie istnieje w rewizji %2</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>jeszcze %1</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>jeszcze %1 błędów</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Czytana jest rewizja %2, o ile jest na tej maszynie.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Nie wiadomo, czy zmiany zostały zatwierdzone: przed powtórzeniem należy sprawdzić.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 komórka zamiast %1 jak w nagłówku</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Inne wartości zakresów należą do innego celu.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>początek, koniec i krok „%1” muszą być liczbami do 15 cyfr</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>tekst</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>tekst za zamykającym cudzysłowem komórki</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>tekst, początek, liczba</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Znak %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>wiersz %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>wiersz %1, kolumna %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Wiersz %1, znak %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>koniec</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>projekt nie ma tabeli; ma ją wskazać jego leksem SACHM</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>projekt nie został wczytany</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>deskryptor ma lineSubIdField bez lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>zakres „%1” dla %2 ma %3 wartości; przegląda się tylko %4</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>cudzysłowy komórki nie tworzą par</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>bajty nie są w UTF-8; zapisz plik jako UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>plik jest pusty; pierwszy wiersz musi nazywać kolumny</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>warunku filtra „%1” nie można odczytać: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>wzoru kolumny obliczanej „%1” nie można odczytać: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>krok „%1” nie jest większy od 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>kolumna nie ma nazwy</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>brak kolumny „%1” z deskryptora</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>brak kolumny „%1”, którą wymienia %2 w deskryptorze</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>kolumna „%1” występuje dwukrotnie</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>liczby w „%1” mają za dużo cyfr</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>numer wiersza %1 ma już wiersz %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>te kolumny obliczane potrzebują się nawzajem: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>cudzysłów w komórce, która się nim nie zaczyna; ujmij całą komórkę w cudzysłów i podwój te wewnątrz</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>cudzysłów nie jest zamknięty</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operator lub koniec</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>wartość</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>wartość między średnikami jest pusta</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>brak wartości</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>nie można odczytać: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>nie można otworzyć: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>więcej wierszy, niż mieści tabela</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>podobne: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>„%1” kończy się poniżej początku</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>„%1” nie ma kroku; zapisz jak 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>„%1” nie jest zakresem wartości %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>„%1” nie jest numerem wiersza, czyli liczbą całkowitą od 0 do 2147483647</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1" ni naslov zbirke povezav. Možna sta sqlite:DATOTEKA in postgresql://UPORABNIK@GOSTITELJ:VRATA/ZBIRKA.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>%1 celic namesto %2 kot v glavi</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 v reviziji %2 ne obstaja</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>še %1</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>še %1 napak</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Bere se revizija %2, kolikor je na tem računalniku.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ni gotovo, ali so spremembe potrjene: pred ponovitvijo preverite.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>1 celica namesto %1 kot v glavi</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Druge vrednosti razponov pripadajo drugemu cilju.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>začetek, konec in korak »%1« morajo biti števila z največ 15 števkami</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>besedilo</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>besedilo za zaključnim narekovajem celice</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>besedilo, začetek, število</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Znak %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>vrstica %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>vrstica %1, stolpec %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Vrstica %1, znak %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>konec</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>projekt nima tabele; navesti jo mora njegov leksem SACHM</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>projekt ni bil prebran</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>deskriptor ima lineSubIdField brez lineIdField</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>območje »%1« za %2 ima %3 vrednosti; pregleda se jih le %4</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>narekovaji celice se ne ujemajo</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>bajti niso UTF-8; shranite datoteko kot UTF-8</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>datoteka je prazna; prva vrstica mora poimenovati stolpce</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>pogoja filtra »%1« ni mogoče razčleniti: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>formule izračunanega stolpca »%1« ni mogoče razčleniti: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>korak »%1« ni večji od 0</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>stolpec nima imena</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>manjka stolpec »%1« iz deskriptorja</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>manjka stolpec »%1«, ki ga navaja %2 v deskriptorju</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>stolpec »%1« je naveden dvakrat</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>števila v »%1« imajo preveč števk</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>številko vrstice %1 že ima vrstica %2</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>ti izračunani stolpci potrebujejo drug drugega: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>narekovaj v celici, ki se z njim ne začne; dajte vso celico v narekovaje in podvojite notranje</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>narekovaj ni zaprt</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operator ali konec</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>vrednost</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>vrednost med podpičji je prazna</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>brez vrednosti</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>ni mogoče prebrati: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>ni mogoče odpreti: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>več vrstic, kot jih tabela lahko sprejme</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>podobno: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>»%1« se konča pod svojim začetkom</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>»%1« nima koraka; zapišite kot 10..50/5</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>»%1« ni območje vrednosti za %2: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>»%1« ni številka vrstice, torej celo število od 0 do 2147483647</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>"%1" bir bağlantı veritabanının adresi değil. Olası olanlar: sqlite:DOSYA ve postgresql://KULLANICI@SUNUCU:PORT/VERİTABANI.</translation>
     </message>
     <message>
+        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
+        <translation>başlık satırındaki gibi %2 yerine %1 hücre</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1, %2 sürümünde yok</translation>
     </message>
@@ -24,12 +28,20 @@
         <translation>%1 tane daha</translation>
     </message>
     <message>
+        <source>%1 weitere Fehler</source>
+        <translation>%1 hata daha</translation>
+    </message>
+    <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
         <translation>%1. Bu makinede bulunduğu ölçüde %2 sürümü okunuyor.</translation>
     </message>
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Değişikliklerin kaydedilip kaydedilmediği belirsiz: yinelemeden önce bakın.</translation>
+    </message>
+    <message>
+        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
+        <translation>başlık satırındaki gibi %1 yerine 1 hücre</translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Andere Werte der Wertebereiche gehören zu einem anderen Ziel.</source>
         <translation>Değer aralıklarının diğer değerleri başka bir hedefe ait.</translation>
+    </message>
+    <message>
+        <source>Anfang, Ende und Schrittweite von „%1“ müssen Zahlen mit höchstens 15 Ziffern sein</source>
+        <translation>"%1" başı, sonu ve adımı en çok 15 basamaklı sayı olmalı</translation>
     </message>
     <message>
         <source>Auch ein anderes Zielprojekt hat eine Zeile mit diesen Werten.
@@ -404,6 +420,10 @@
         <translation>metin</translation>
     </message>
     <message>
+        <source>Text hinter dem schließenden Anführungszeichen einer Zelle</source>
+        <translation>hücrenin kapanış tırnağından sonra metin var</translation>
+    </message>
+    <message>
         <source>Text, Anfang, Anzahl</source>
         <translation>metin, başlangıç, adet</translation>
     </message>
@@ -464,6 +484,14 @@
         <translation>Karakter %1: %2</translation>
     </message>
     <message>
+        <source>Zeile %1</source>
+        <translation>satır %1</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>satır %1, sütun %2</translation>
+    </message>
+    <message>
         <source>Zeile %1, Zeichen %2: %3</source>
         <translation>Satır %1, karakter %2: %3</translation>
     </message>
@@ -482,6 +510,82 @@
         <translation>son</translation>
     </message>
     <message>
+        <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
+        <translation>projenin tablosu yok; SACHM sözcük birimi birini belirtmeli</translation>
+    </message>
+    <message>
+        <source>das Projekt wurde nicht gelesen</source>
+        <translation>proje okunmadı</translation>
+    </message>
+    <message>
+        <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
+        <translation>tanımlayıcıda lineIdField olmadan lineSubIdField var</translation>
+    </message>
+    <message>
+        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
+        <translation>%2 için "%1" aralığında %3 değer var; yalnızca %4 tanesi gezilir</translation>
+    </message>
+    <message>
+        <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
+        <translation>hücrenin tırnakları eşleşmiyor</translation>
+    </message>
+    <message>
+        <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
+        <translation>baytlar UTF-8 değil; dosyayı UTF-8 olarak kaydedin</translation>
+    </message>
+    <message>
+        <source>die Datei ist leer; ihre erste Zeile muss die Spalten nennen</source>
+        <translation>dosya boş; ilk satırı sütunları adlandırmalı</translation>
+    </message>
+    <message>
+        <source>die Filterbedingung „%1“ ist nicht lesbar: %2</source>
+        <translation>"%1" süzgeç koşulu çözümlenemiyor: %2</translation>
+    </message>
+    <message>
+        <source>die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2</source>
+        <translation>hesaplanan "%1" sütununun formülü çözümlenemiyor: %2</translation>
+    </message>
+    <message>
+        <source>die Schrittweite von „%1“ ist nicht größer als 0</source>
+        <translation>"%1" adımı 0'dan büyük değil</translation>
+    </message>
+    <message>
+        <source>die Spalte hat keinen Namen</source>
+        <translation>sütunun adı yok</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ aus dem Deskriptor fehlt</source>
+        <translation>tanımlayıcıdaki "%1" sütunu eksik</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ fehlt, die %2 im Deskriptor nennt</source>
+        <translation>tanımlayıcının %2 alanında geçen "%1" sütunu eksik</translation>
+    </message>
+    <message>
+        <source>die Spalte „%1“ gibt es zweimal</source>
+        <translation>"%1" sütunu iki kez var</translation>
+    </message>
+    <message>
+        <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
+        <translation>"%1" sayıları çok fazla basamaklı</translation>
+    </message>
+    <message>
+        <source>die Zeilennummer %1 hat schon Zeile %2</source>
+        <translation>satır numarası %1 zaten %2. satırın</translation>
+    </message>
+    <message>
+        <source>diese berechneten Spalten brauchen einander: %1</source>
+        <translation>bu hesaplanan sütunlar birbirine muhtaç: %1</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin</source>
+        <translation>tırnakla başlamayan bir hücrenin içinde tırnak var; hücrenin tamamını tırnak içine alın ve içindekileri ikileyin</translation>
+    </message>
+    <message>
+        <source>ein Anführungszeichen wird nicht geschlossen</source>
+        <translation>bir tırnak kapatılmamış</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>bir işleç veya son</translation>
     </message>
@@ -492,6 +596,10 @@
     <message>
         <source>ein Wert</source>
         <translation>bir değer</translation>
+    </message>
+    <message>
+        <source>ein Wert zwischen den Semikolons ist leer</source>
+        <translation>noktalı virgüller arasındaki bir değer boş</translation>
     </message>
     <message>
         <source>eine schließende Klammer</source>
@@ -512,6 +620,18 @@
     <message>
         <source>kein Wert</source>
         <translation>değer yok</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>okunamıyor: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht öffnen: %1</source>
+        <translation>açılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>mehr Zeilen, als eine Tabelle fassen kann</source>
+        <translation>tablonun alabileceğinden fazla satır</translation>
     </message>
     <message>
         <source>ohne Gegenstück: %1</source>
@@ -540,6 +660,22 @@
     <message>
         <source>ähnlich: %1</source>
         <translation>benzer: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ endet unter seinem Anfang</source>
+        <translation>"%1" başlangıcının altında bitiyor</translation>
+    </message>
+    <message>
+        <source>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</source>
+        <translation>"%1" adımsız; 10..50/5 gibi yazın</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Wertebereich von %2: %3</source>
+        <translation>"%1", %2 için bir değer aralığı değil: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
+        <translation>"%1" bir satır numarası, yani 0 ile 2147483647 arasında bir tam sayı değil</translation>
     </message>
 </context>
 </TS>

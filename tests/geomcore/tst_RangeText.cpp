@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <geomcore/value/RangeText.h>
 
 #include <QRandomGenerator>

@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <core/message/PMessage.h>
 #include <geomcore/linkdb/PLinkDbC.h>
 #include <geomcore/project/CipVersionMgmtC.h>

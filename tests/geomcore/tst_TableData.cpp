@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <geomcore/table/TableData.h>
 #include <geomcore/value/LineId.h>
 

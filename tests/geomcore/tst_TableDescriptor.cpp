@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <geomcore/csv/TableDescriptor.h>
 #include <TestPaths.h>
 

@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <geomcore/table/FileLayer.h>
 #include <geomcore/table/OpenTables.h>
 #include <geomcore/table/TableData.h>

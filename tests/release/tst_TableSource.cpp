@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "../support/TestCatalog.h"
 #include <release/import/SourceText.h>
 #include <release/import/TableSource.h>

@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <core/parallel/WorkerPool.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcore/records/MappingFile.h>

@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "../support/TestCatalog.h"
 
 #include <core/files/EditLock.h>

@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "ImportFixture.h"
 
 #include <geomcore/project/PrjFile.h>

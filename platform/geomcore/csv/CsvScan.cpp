@@ -3,6 +3,7 @@
 #include "ByteMasks.h"
 #include "CsvCells.h"
 #include "Utf8Check.h"
+#include <core/text/PString.h>
 #include <geomcore/value/CellKey.h>
 
 #include <charconv>
@@ -68,7 +69,9 @@ void CsvScan::scanBlock(const ByteMasks &masks, int length)
     countCells(masks.commas, masks.lineFeeds, good);
     m_at += quint64(good);
     if (good < length) [[unlikely]] {
-        error(m_commas + 1, QStringLiteral("the bytes are no UTF-8; save the file as UTF-8"));
+        error(m_commas + 1,
+              PString::translate("die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8",
+                                 "VelkGeomCore"));
         m_stop = true;
     } else if (length == toQuote && !m_stop) [[unlikely]] {
         scanQuoted();
@@ -92,8 +95,10 @@ void CsvScan::scanQuoted()
 {
     if (m_at != m_rowBegin && m_bytes[m_at - 1] != ',') {
         error(m_commas + 1,
-              QStringLiteral("a quote inside a cell that does not begin with one; quote "
-                             "the whole cell and double the quotes in it"));
+              PString::translate(
+                  "ein Anführungszeichen in einer Zelle, die nicht mit einem beginnt; setzen Sie "
+                  "die ganze Zelle in Anführungszeichen und verdoppeln Sie die darin",
+                  "VelkGeomCore"));
         m_stop = true;
         return;
     }
@@ -101,17 +106,22 @@ void CsvScan::scanQuoted()
     const char *const limit = m_bytes.data() + m_bytes.size();
     const char *const end = endOfQuoted(begin, limit);
     if (!end) {
-        error(m_commas + 1, QStringLiteral("a quote is left open"));
+        error(m_commas + 1,
+              PString::translate("ein Anführungszeichen wird nicht geschlossen", "VelkGeomCore"));
         m_stop = true;
         return;
     }
     const char *bad = nullptr;
     if (!checkUtf8(begin, end, limit, &bad))
-        error(m_commas + 1, QStringLiteral("the bytes are no UTF-8; save the file as UTF-8"));
+        error(m_commas + 1,
+              PString::translate("die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8",
+                                 "VelkGeomCore"));
     const bool ends = end == limit || *end == ',' || *end == '\n' ||
                       (*end == '\r' && (end + 1 == limit || end[1] == '\n'));
     if (!ends) {
-        error(m_commas + 1, QStringLiteral("text after the closing quote of a cell"));
+        error(m_commas + 1,
+              PString::translate("Text hinter dem schließenden Anführungszeichen einer Zelle",
+                                 "VelkGeomCore"));
         m_stop = true;
     }
     m_quoteBit = QuoteBit;
@@ -121,7 +131,7 @@ void CsvScan::scanQuoted()
 void CsvScan::endRow(quint64 lineFeed)
 {
     if (rows.size() >= size_t(INT_MAX) - 2) {
-        error(0, QStringLiteral("more lines than a table can hold"));
+        error(0, PString::translate("mehr Zeilen, als eine Tabelle fassen kann", "VelkGeomCore"));
         m_stop = true;
         return;
     }
@@ -160,9 +170,10 @@ int CsvScan::readId(std::string_view row, int column)
     const auto [end, problem] = std::from_chars(cell.data(), cell.data() + cell.size(), id);
     if (problem == std::errc() && end == cell.data() + cell.size() && id >= 0)
         return id;
-    error(column + 1,
-          QStringLiteral("\"%1\" is no line id, which is an integer from 0 to 2147483647")
-              .arg(QString::fromUtf8(cell.data(), qsizetype(cell.size()))));
+    error(column + 1, PString::translate(
+                          "„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647",
+                          "VelkGeomCore")
+                          .arg(QString::fromUtf8(cell.data(), qsizetype(cell.size()))));
     return -1;
 }
 
@@ -182,10 +193,11 @@ void CsvScan::wrongCellCount()
 {
     const int found = m_commas + 1;
     error(std::min(found, m_columnCount) + 1,
-          QStringLiteral("%1 %2 instead of %3, as the header row has")
-              .arg(found)
-              .arg(found == 1 ? QStringLiteral("cell") : QStringLiteral("cells"))
-              .arg(m_columnCount));
+          found == 1 ? PString::translate("1 Zelle statt %1 wie in der Kopfzeile", "VelkGeomCore")
+                           .arg(m_columnCount)
+                     : PString::translate("%1 Zellen statt %2 wie in der Kopfzeile", "VelkGeomCore")
+                           .arg(found)
+                           .arg(m_columnCount));
 }
 
 void CsvScan::error(int column, const QString &text)

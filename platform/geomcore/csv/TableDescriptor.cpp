@@ -1,6 +1,7 @@
 #include "TableDescriptor.h"
 
 #include <core/file/openRegularFile.h>
+#include <core/text/PString.h>
 #include <geomcore/value/CellKey.h>
 
 #include <QDir>
@@ -16,12 +17,16 @@ std::optional<TableDescriptor> TableDescriptor::read(const QString &file, TableE
     QFile in(file);
     QString problem;
     if (!openRegularFile(in, problem)) {
-        errors.append({file, 0, 0, QStringLiteral("cannot be opened: ") + problem});
+        errors.append(
+            {file, 0, 0,
+             PString::translate("lässt sich nicht öffnen: %1", "VelkGeomCore").arg(problem)});
         return {};
     }
     const QByteArray json = in.readAll();
     if (in.error() != QFileDevice::NoError) {
-        errors.append({file, 0, 0, QStringLiteral("cannot be read: ") + in.errorString()});
+        errors.append({file, 0, 0,
+                       PString::translate("lässt sich nicht lesen: %1", "VelkGeomCore")
+                           .arg(in.errorString())});
         return {};
     }
     return fromJson(json, file, errors);

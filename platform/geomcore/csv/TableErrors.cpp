@@ -1,5 +1,7 @@
 #include "TableErrors.h"
 
+#include <core/text/PString.h>
+
 namespace VKTab {
 
 void TableErrors::add(const TableError &error)
@@ -14,7 +16,8 @@ TableErrorList TableErrors::list() const
 {
     TableErrorList all = m_kept;
     if (m_more > 0)
-        all.append({m_kept.last().file, 0, 0, QStringLiteral("%1 more errors").arg(m_more)});
+        all.append({m_kept.last().file, 0, 0,
+                    PString::translate("%1 weitere Fehler", "VelkGeomCore").arg(m_more)});
     return all;
 }
 

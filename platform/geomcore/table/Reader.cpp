@@ -5,6 +5,7 @@
 #include "TabOptions.h"
 #include "TabReader.h"
 
+#include <core/text/PString.h>
 #include <geomcore/csv/TableErrors.h>
 #include <geomcore/project/CatalogPlaces.h>
 
@@ -55,12 +56,16 @@ bool Reader::fill(const refHandle<PrjClass> &project, Content &content)
     if (!project || !project->isValid()) {
         const QString reason = project ? project->errorText() : QString();
         const QString path = project && reason.isEmpty() ? project->path() : QString();
-        return fail(path, reason.isEmpty() ? QStringLiteral("the project was not read") : reason);
+        return fail(path, reason.isEmpty() ? PString::translate("das Projekt wurde nicht gelesen",
+                                                                "VelkGeomCore")
+                                           : reason);
     }
     const QString table = project->tableFile();
     if (table.isEmpty())
-        return fail(project->path(),
-                    QStringLiteral("the project has no table; its lexeme SACHM is to name one"));
+        return fail(
+            project->path(),
+            PString::translate("das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen",
+                               "VelkGeomCore"));
     const QString refusal = CatalogPlaces::instance().refusal(table, project->path());
     if (!refusal.isEmpty())
         return fail(project->path(), refusal);

@@ -3,6 +3,7 @@
 #include "ComputedColumns.h"
 #include "tableExpressions.h"
 #include <core/file/openRegularFile.h>
+#include <core/text/PString.h>
 #include <geomcore/csv/CsvCells.h>
 #include <geomcore/csv/CsvScan.h>
 #include <geomcore/csv/HeaderNames.h>
@@ -60,7 +61,7 @@ bool TableDataReader::open()
     const auto file = std::make_shared<QFile>(m_table.fileName);
     QString problem;
     if (!openRegularFile(*file, problem)) {
-        error(0, 0, QStringLiteral("cannot be opened: ") + problem);
+        error(0, 0, PString::translate("lässt sich nicht öffnen: %1", "VelkGeomCore").arg(problem));
         return false;
     }
     if (const uchar *mapped = file->map(0, file->size())) {
@@ -72,7 +73,9 @@ bool TableDataReader::open()
     }
     const auto bytes = std::make_shared<const QByteArray>(file->readAll()); // of an empty file
     if (file->error() != QFileDevice::NoError) {
-        error(0, 0, QStringLiteral("cannot be read: ") + file->errorString());
+        error(0, 0,
+              PString::translate("lässt sich nicht lesen: %1", "VelkGeomCore")
+                  .arg(file->errorString()));
         return false;
     }
     m_table.bytes = bytes->constData();
@@ -103,19 +106,24 @@ bool TableDataReader::readHeader(quint64 &bodyBegin)
     const std::string_view bytes(m_table.bytes, m_table.size);
     const quint64 begin = bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0;
     if (bytes.size() == begin) {
-        error(1, 0, QStringLiteral("the file is empty; its first row must name the columns"));
+        error(1, 0,
+              PString::translate("die Datei ist leer; ihre erste Zeile muss die Spalten nennen",
+                                 "VelkGeomCore"));
         return false;
     }
     const CsvRecord header = readRecord(bytes, begin);
     const char *bad = nullptr;
     if (header.bad) {
         error(1, int(header.cells.size()) + 1,
-              QStringLiteral("the quotes of the cell do not pair"));
+              PString::translate("die Anführungszeichen der Zelle passen nicht zueinander",
+                                 "VelkGeomCore"));
         return false;
     }
     if (!checkUtf8(bytes.data() + begin, bytes.data() + header.end, bytes.data() + bytes.size(),
                    &bad)) {
-        error(1, 0, QStringLiteral("the bytes are no UTF-8; save the file as UTF-8"));
+        error(1, 0,
+              PString::translate("die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8",
+                                 "VelkGeomCore"));
         return false;
     }
     QStringList names;
@@ -137,9 +145,10 @@ void TableDataReader::fitFields(const QStringList &header)
     for (qsizetype i = 0; i < header.size(); ++i) {
         const QString &name = header.at(i);
         if (name.isEmpty())
-            error(1, int(i) + 1, QStringLiteral("the column has no name"));
+            error(1, int(i) + 1, PString::translate("die Spalte hat keinen Namen", "VelkGeomCore"));
         else if (seen.contains(name))
-            error(1, int(i) + 1, QStringLiteral("the column \"%1\" stands twice").arg(name));
+            error(1, int(i) + 1,
+                  PString::translate("die Spalte „%1“ gibt es zweimal", "VelkGeomCore").arg(name));
         seen.insert(name);
         const int index = known.indexOf(name);
         fields.append(index >= 0 ? known.fields().at(index) : TableField{.name = name});
@@ -151,7 +160,7 @@ void TableDataReader::fitFields(const QStringList &header)
             fields.append(field);
         else
             error(1, 0,
-                  QStringLiteral("the column \"%1\" is missing, which the descriptor has")
+                  PString::translate("die Spalte „%1“ aus dem Deskriptor fehlt", "VelkGeomCore")
                       .arg(field.name));
     }
     descriptor.fields = fields;
@@ -167,7 +176,9 @@ void TableDataReader::checkNames()
     (void)namedColumn(QStringLiteral("lineIdField"), descriptor.lineIdField);
     (void)namedColumn(QStringLiteral("lineSubIdField"), descriptor.lineSubIdField);
     if (descriptor.lineIdField.isEmpty() && !descriptor.lineSubIdField.isEmpty())
-        error(1, 0, QStringLiteral("the descriptor has a lineSubIdField without a lineIdField"));
+        error(1, 0,
+              PString::translate("der Deskriptor hat ein lineSubIdField ohne lineIdField",
+                                 "VelkGeomCore"));
 }
 
 int TableDataReader::namedColumn(const QString &member, const QString &name)
@@ -176,9 +187,10 @@ int TableDataReader::namedColumn(const QString &member, const QString &name)
         return -1;
     const int column = m_table.columnOf(name);
     if (column < 0)
-        error(1, 0,
-              QStringLiteral("the column \"%1\" is missing, which the descriptor's %2 names")
-                  .arg(name, member));
+        error(
+            1, 0,
+            PString::translate("die Spalte „%1“ fehlt, die %2 im Deskriptor nennt", "VelkGeomCore")
+                .arg(name, member));
     return column;
 }
 
@@ -186,12 +198,15 @@ void TableDataReader::readFormulas()
 {
     const auto computed = std::make_shared<ComputedColumns>(m_table.fields, m_table.columnCount);
     for (const ComputedColumns::Fault &fault : computed->faults())
-        descriptorWarning(QStringLiteral("formula of the computed column"), fault.column,
-                          fault.text);
+        descriptorWarning(
+            QT_TRANSLATE_NOOP("VelkGeomCore",
+                              "die Formel der berechneten Spalte „%1“ ist nicht lesbar: %2"),
+            fault.column, fault.text);
     if (!computed->cycle().isEmpty())
-        m_errors.add({m_descriptorFile.isEmpty() ? m_table.fileName : m_descriptorFile, 0, 0,
-                      QStringLiteral("these computed columns need each other: ") +
-                          shortened(computed->cycle().join(QStringLiteral(", ")))});
+        m_errors.add(
+            {m_descriptorFile.isEmpty() ? m_table.fileName : m_descriptorFile, 0, 0,
+             PString::translate("diese berechneten Spalten brauchen einander: %1", "VelkGeomCore")
+                 .arg(shortened(computed->cycle().join(QStringLiteral(", "))))});
     m_table.computed = computed;
 }
 
@@ -200,16 +215,17 @@ void TableDataReader::checkConditions()
     for (const TableFilterCondition &condition : m_table.descriptor.filterConditions) {
         const TableExpression parsed = parseCondition(condition.condition);
         if (!parsed.program)
-            descriptorWarning(QStringLiteral("filter condition"), condition.name, parsed.error);
+            descriptorWarning(
+                QT_TRANSLATE_NOOP("VelkGeomCore", "die Filterbedingung „%1“ ist nicht lesbar: %2"),
+                condition.name, parsed.error);
     }
 }
 
-void TableDataReader::descriptorWarning(const QString &what, const QString &name,
-                                        const QString &error)
+void TableDataReader::descriptorWarning(const char *text, const QString &name, const QString &error)
 {
-    m_warnings.add({m_descriptorFile.isEmpty() ? m_table.fileName : m_descriptorFile, 0, 0,
-                    QStringLiteral("the %1 \"%2\" does not parse: %3")
-                        .arg(what, shortened(name), shortened(error))});
+    m_warnings.add(
+        {m_descriptorFile.isEmpty() ? m_table.fileName : m_descriptorFile, 0, 0,
+         PString::translate(text, "VelkGeomCore").arg(shortened(name), shortened(error))});
 }
 
 bool TableDataReader::scan(quint64 bodyBegin)
@@ -285,7 +301,7 @@ void TableDataReader::duplicateId(int first, int second)
     if (m_table.lineSubNumber(size_t(second)) != 0)
         id += QLatin1Char('.') + QString::number(m_table.lineSubNumber(size_t(second)));
     error(second + 2, m_table.columnOf(m_table.descriptor.lineIdField) + 1,
-          QStringLiteral("the line id %1 is that of row %2 already")
+          PString::translate("die Zeilennummer %1 hat schon Zeile %2", "VelkGeomCore")
               .arg(id, QString::number(first + 2)));
 }
 
@@ -340,11 +356,13 @@ QString TableDataReader::rangeFault(const TableField &field, std::string_view ce
     QString problem;
     const auto range = RangeText::parse(text, field.decimalChar, &problem);
     if (!range)
-        return QStringLiteral("\"%1\" is no value range of %2: %3")
+        return PString::translate("„%1“ ist kein Wertebereich von %2: %3", "VelkGeomCore")
             .arg(shortened(text), field.name, shortened(problem));
     if (range->count() <= RangeText::MaxValues)
         return {};
-    return QStringLiteral("the value range \"%1\" of %2 has %3 values; only %4 are walked")
+    return PString::translate(
+               "der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen",
+               "VelkGeomCore")
         .arg(shortened(text), field.name, QString::number(range->count()),
              QString::number(RangeText::MaxValues));
 }

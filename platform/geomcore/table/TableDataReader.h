@@ -47,7 +47,7 @@ private:
     };
     [[nodiscard]] KnownRange &placeOf(int column, std::string_view cell);
     void error(int row, int column, const QString &text);
-    void descriptorWarning(const QString &what, const QString &name, const QString &error);
+    void descriptorWarning(const char *text, const QString &name, const QString &error);
     [[nodiscard]] TableReadResult failure() const { return {nullptr, m_errors.list()}; }
 
     TableContents m_table;

@@ -2,6 +2,8 @@
 
 #include "CanonicalNumber.h"
 
+#include <core/text/PString.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
@@ -135,28 +137,37 @@ std::optional<RangeText::Part> RangeText::parsePart(QStringView text, char decim
                                                     QString *error)
 {
     if (text.isEmpty())
-        return fail(error, QStringLiteral("a value between the semicolons is empty"));
+        return fail(
+            error, PString::translate("ein Wert zwischen den Semikolons ist leer", "VelkGeomCore"));
     const qsizetype dots = text.indexOf(QLatin1String(".."));
     if (dots < 0)
         return Part{.text = text.toString()};
     const qsizetype slash = text.indexOf(u'/', dots);
     if (slash < 0)
-        return fail(error, QStringLiteral("\"%1\" has no step; write it as 10..50/5").arg(text));
+        return fail(error,
+                    PString::translate("„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5",
+                                       "VelkGeomCore")
+                        .arg(text));
     auto from = readDecimal(text.first(dots), decimalChar);
     auto to = readDecimal(text.sliced(dots + 2, slash - dots - 2), decimalChar);
     auto step = readDecimal(text.sliced(slash + 1), decimalChar);
     if (!from || !to || !step || text.at(dots + 2) == u'.')
-        return fail(error,
-                    QStringLiteral("begin, end and step of \"%1\" are to be numbers of at most "
-                                   "15 digits")
-                        .arg(text));
+        return fail(error, PString::translate("Anfang, Ende und Schrittweite von „%1“ müssen "
+                                              "Zahlen mit höchstens 15 Ziffern sein",
+                                              "VelkGeomCore")
+                               .arg(text));
     const int scale = std::max({from->scale, to->scale, step->scale});
     if (!from->setScale(scale) || !to->setScale(scale) || !step->setScale(scale))
-        return fail(error, QStringLiteral("the numbers of \"%1\" have too many digits").arg(text));
+        return fail(error,
+                    PString::translate("die Zahlen von „%1“ haben zu viele Ziffern", "VelkGeomCore")
+                        .arg(text));
     if (step->digits <= 0)
-        return fail(error, QStringLiteral("the step of \"%1\" is not above 0").arg(text));
+        return fail(error, PString::translate("die Schrittweite von „%1“ ist nicht größer als 0",
+                                              "VelkGeomCore")
+                               .arg(text));
     if (to->digits < from->digits)
-        return fail(error, QStringLiteral("\"%1\" ends below its begin").arg(text));
+        return fail(error,
+                    PString::translate("„%1“ endet unter seinem Anfang", "VelkGeomCore").arg(text));
     const qint64 last = from->digits + (to->digits - from->digits) / step->digits * step->digits;
     return Part{text.toString(), from->digits, last, step->digits, scale};
 }

@@ -1,5 +1,6 @@
 #include "CsvRewriter.h"
 
+#include <core/text/PString.h>
 #include <geomcore/csv/CsvCells.h>
 
 #include <algorithm>
@@ -127,12 +128,14 @@ bool CsvRewriter::copyQuoted()
 {
     const size_t end = behindQuoted(m_csv, m_at);
     if (end == NotFound) {
-        m_error = QStringLiteral("a quote is left open");
+        m_error =
+            PString::translate("ein Anführungszeichen wird nicht geschlossen", "VelkGeomCore");
         return false;
     }
     const std::string_view rest = m_csv.substr(end, 2);
     if (!rest.empty() && rest.front() != m_separator && rest.front() != '\n' && rest != "\r\n") {
-        m_error = QStringLiteral("text after the closing quote of a cell");
+        m_error = PString::translate("Text hinter dem schließenden Anführungszeichen einer Zelle",
+                                     "VelkGeomCore");
         return false;
     }
     m_out += m_csv.substr(m_at, end - m_at);

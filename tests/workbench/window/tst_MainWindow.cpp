@@ -361,6 +361,10 @@ private Q_SLOTS:
         // There is something to see, and the broken table is told once.
         QVERIFY(fixture.window->editor()->currentLine() >= 0);
         QCOMPARE(fixture.window->log()->text().count("din908"), 1);
+        const QString german = "din908.csv: Zeile 17, Spalte 1: ein Anführungszeichen wird nicht "
+                               "geschlossen";
+        QVERIFY2(fixture.window->log()->text().contains(german),
+                 qPrintable(fixture.window->log()->text()));
         for (int i = 0; i < 4; ++i)
             QTest::keyClick(tour, Qt::Key_Return);
         QCOMPARE(tour->currentStep(), 4);
