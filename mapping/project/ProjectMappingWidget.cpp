@@ -59,11 +59,13 @@ void ProjectMappingWidget::setApplicationHandler(ApplicationHandlerI *applicatio
 
 void ProjectMappingWidget::setTableColumn(TableMappingWidget *widget,
                                           const std::function<VKTab::LineId()> &selectedLine,
-                                          const std::function<QList<int>()> &selectedLines)
+                                          const std::function<QList<int>()> &selectedLines,
+                                          const std::function<void()> &focusLines)
 {
     d->params.tableMappingWidget = widget;
     d->params.selectedSourceLine = selectedLine;
     d->params.selectedSourceLines = selectedLines;
+    d->params.focusSourceLines = focusLines;
 }
 
 void ProjectMappingWidget::setRemoteViewerMode(bool remote)

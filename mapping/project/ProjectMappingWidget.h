@@ -45,7 +45,7 @@ public:
     {
         setTableColumn(
             widget, [widget] { return widget->selectedSourceLine(); },
-            [widget] { return widget->selectedSourceLines(); });
+            [widget] { return widget->selectedSourceLines(); }, [widget] { widget->focusLines(); });
     }
     /// True: targets get addresses in the catalog repository, from the next project on. The library
     /// reads no repository, so they count as missing.
@@ -57,7 +57,8 @@ public:
 private:
     void setTableColumn(TableMappingWidget *widget,
                         const std::function<VKTab::LineId()> &selectedLine,
-                        const std::function<QList<int>()> &selectedLines);
+                        const std::function<QList<int>()> &selectedLines,
+                        const std::function<void()> &focusLines);
 
     friend class ProjectMappingWidgetPrivate;
     ProjectMappingWidgetPrivate *const d;

@@ -57,8 +57,13 @@ void TargetMappingWidget::onAssignTarget()
     const QPointer<TableLineSelectionDialog> dialog(
         new TableLineSelectionDialog(targetContent, this));
     const auto dropDialog = qScopeGuard([&dialog] { delete dialog; });
-    if (dialog->exec() == QDialog::Accepted && dialog)
-        assignLine(sourceLine, dialog->selectedLine());
+    const auto focusLines = params->focusSourceLines;
+    if (dialog->exec() != QDialog::Accepted || !dialog)
+        return;
+    assignLine(sourceLine, dialog->selectedLine());
+    // A key confirms what was assigned.
+    if (focusLines)
+        focusLines();
 }
 
 void TargetMappingWidget::assignLine(const VKTab::LineId &sourceLine,

@@ -28,4 +28,5 @@ struct TargetMappingParamSet
     /// Of tableMappingWidget, whose class stands above this one.
     std::function<VKTab::LineId()> selectedSourceLine;
     std::function<QList<int>()> selectedSourceLines; ///< may be empty
+    std::function<void()> focusSourceLines;          ///< may be empty
 };

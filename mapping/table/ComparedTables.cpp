@@ -141,6 +141,8 @@ void ComparedTables::align()
         return;
     const auto done = qScopeGuard([this] { m_follows = false; });
     m_follows = true;
+    // To show its line the target has moved, and the source with it.
+    bringIntoSight(*m_source, m_sourceLine);
     showFirst(*m_source, m_sourceLine);
     showFirst(*m_target, m_targetLine);
     const QAbstractItemView &left = *m_source->grid();
@@ -159,6 +161,21 @@ void ComparedTables::align()
     QScrollBar &other = *left.verticalScrollBar();
     other.setValue(other.value() + heightOf(*m_source, m_sourceLine) -
                    heightOf(*m_target, m_targetLine));
+    // In low tables that can lead out of sight, which matters more.
+    bringIntoSight(*m_source, m_sourceLine);
+    bringIntoSight(*m_target, m_targetLine);
+}
+
+void ComparedTables::bringIntoSight(const VkTableView &view, const VKTab::LineId &line)
+{
+    auto *const grid = qobject_cast<QTableView *>(view.grid());
+    const int row = view.model()->rowOf(line);
+    const int top = row < 0 ? 0 : grid->rowViewportPosition(row);
+    if (row < 0 || (top >= 0 && top + grid->rowHeight(row) <= grid->viewport()->height()))
+        return;
+    const int sideways = grid->horizontalScrollBar()->value();
+    grid->scrollTo(view.model()->index(row, 0), QAbstractItemView::PositionAtCenter);
+    grid->horizontalScrollBar()->setValue(sideways);
 }
 
 void ComparedTables::showFirst(const VkTableView &view, const VKTab::LineId &line)

@@ -35,6 +35,7 @@ public:
 private:
     [[nodiscard]] QStringList differingVariables(const QHash<QString, MapVarValueC> &values) const;
     void align();
+    static void bringIntoSight(const VkTableView &view, const VKTab::LineId &line);
     /// Without moving the table further than needed.
     void showFirst(const VkTableView &view, const VKTab::LineId &line);
     /// The other table follows sideways to the column that is the first one in sight.

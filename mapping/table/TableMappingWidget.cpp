@@ -40,6 +40,11 @@ VKTab::LineId TableMappingWidget::selectedSourceLine() const
     return d->sourceTable.isValid() ? d->sourceTable.getSelection() : VKTab::LineId();
 }
 
+void TableMappingWidget::focusLines()
+{
+    d->sourceView->grid()->setFocus(Qt::OtherFocusReason);
+}
+
 QList<int> TableMappingWidget::selectedSourceLines() const
 {
     QList<int> lines;

@@ -42,6 +42,8 @@ public:
     [[nodiscard]] VKTab::LineId selectedSourceLine() const;
     /// Numbers of the selected lines of the source table, in display order.
     [[nodiscard]] QList<int> selectedSourceLines() const;
+    /// Gives the source table the keys.
+    void focusLines();
     /// Source path of the mapping; empty before the first one.
     [[nodiscard]] QString sourcePath() const;
 

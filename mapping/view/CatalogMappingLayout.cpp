@@ -6,6 +6,7 @@
 #include "CatalogMappingWidget.h"
 #include "CatalogStructureDelegate.h"
 #include "CatalogStructureModel.h"
+#include "TableRoom.h"
 
 #include <mapping/data/CatalogMappingHandlerI.h>
 #include <mapping/project/MappingConflictWidget.h>
@@ -122,6 +123,7 @@ QWidget *CatalogMappingWidgetPrivate::makeEditorPane(QWidget *parent)
     conflictSplitter->setStretchFactor(1, 1);
     editorSplitter->setStretchFactor(1, 1);
     editorSplitter->setSizes({230, 670});
+    new TableRoom(editorSplitter);
     return pane;
 }
 

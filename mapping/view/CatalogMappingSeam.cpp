@@ -56,7 +56,7 @@ bool CatalogMappingWidget::selectLine(int line)
 
 void CatalogMappingWidget::focusLines()
 {
-    d->tableWidget->sourceView()->grid()->setFocus(Qt::OtherFocusReason);
+    d->tableWidget->focusLines();
 }
 
 void CatalogMappingWidget::focusOtherTable()
@@ -135,6 +135,9 @@ void CatalogMappingWidget::setProjectFilter(
 {
     d->filterModel->hostFilter = accepts;
     d->filterModel->invalidate();
+    const PrjMappingC shown = currentProject();
+    if (shown.isValid() && (!accepts || accepts(shown)))
+        d->revealShown();
 }
 
 void CatalogMappingWidget::showOnlyLines(const std::vector<int> &lines)

@@ -22,6 +22,7 @@
 #include <QMenu>
 #include <QPersistentModelIndex>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QTreeView>
 
 namespace {
@@ -122,6 +123,14 @@ EditorPlace CatalogMappingWidgetPrivate::place() const
     return {treeView, checkToCheck, tableWidget};
 }
 
+/// The tree forgets a project while a filter hides it.
+void CatalogMappingWidgetPrivate::revealShown()
+{
+    const QScopedValueRollback revealing(isRevealing, true);
+    const PrjMappingC mapping = shownNode->getMapping();
+    (void)place().revealProject(mapping.getSourcePath(), mapping.getSourceVersion());
+}
+
 void CatalogMappingWidgetPrivate::reloadProject()
 {
     const int line = place().currentLine();
@@ -162,7 +171,7 @@ void CatalogMappingWidgetPrivate::onTreeSelectionChanged(const QItemSelection &s
                                                          const QItemSelection & /*deselected*/)
 {
     const QModelIndexList indexes = selected.indexes();
-    if (indexes.size() != 1)
+    if (isRevealing || indexes.size() != 1)
         return;
     if (const Node node = nodeAt(indexes.first()))
         openNode(node);

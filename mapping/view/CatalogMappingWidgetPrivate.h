@@ -54,6 +54,7 @@ public:
     /// True if the mapping's project is the one that the columns show.
     [[nodiscard]] bool shows(const PrjMappingC &mapping) const;
     [[nodiscard]] EditorPlace place() const;
+    void revealShown();
 
     CatalogMappingHandlerI *handler;
     PPathName basePath;
@@ -72,7 +73,8 @@ public:
     QCheckBox *checkNoTarget = nullptr;
     bool allowVerifyAllOnDir;
     CatalogMappingNotifier *notifier;
-    Node shownNode; ///< opened last; null before the first one
+    Node shownNode;           ///< opened last; null before the first one
+    bool isRevealing = false; ///< the tree shows what is open anyway
 
 public Q_SLOTS:
     void onTreeSelectionChanged(const QItemSelection &selected, const QItemSelection &deselected);

@@ -28,6 +28,17 @@ bool EditorPlace::selectProject(const QString &sourcePath, const QString &source
         m_openProjects->setChecked(false);
         index = find();
     }
+    return reveal(index);
+}
+
+bool EditorPlace::revealProject(const QString &sourcePath, const QString &sourceVersion) const
+{
+    const QModelIndex index = TreePath::find(m_tree->model(), sourcePath, sourceVersion);
+    return m_tree->selectionModel()->isSelected(index) || reveal(index);
+}
+
+bool EditorPlace::reveal(const QModelIndex &index) const
+{
     if (!index.isValid())
         return false;
     for (QModelIndex above = index.parent(); above.isValid(); above = above.parent())

@@ -7,6 +7,7 @@
 
 QT_BEGIN_NAMESPACE
 class QCheckBox;
+class QModelIndex;
 class QTreeView;
 QT_END_NAMESPACE
 
@@ -23,6 +24,9 @@ public:
     /// False if the tree does not have it. An empty version stands for any.
     bool selectProject(const QString &sourcePath, const QString &sourceVersion) const;
 
+    /// The same, but leaves filters and what is selected already as they are.
+    bool revealProject(const QString &sourcePath, const QString &sourceVersion) const;
+
     /// Numbers of the selected source lines in display order.
     [[nodiscard]] QList<int> selectedLines() const;
     /// -1 if none or several are selected.
@@ -33,6 +37,8 @@ public:
     [[nodiscard]] VKTab::ContentRef sourceTable() const;
 
 private:
+    bool reveal(const QModelIndex &index) const;
+
     QTreeView *m_tree;
     QCheckBox *m_openProjects;
     TableMappingWidget *m_tables;

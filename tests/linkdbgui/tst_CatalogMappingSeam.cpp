@@ -78,6 +78,7 @@ private Q_SLOTS:
     void tellsCopiedConditions();
     void filtersOpenProjects();
     void filtersProjectsForAHost();
+    void treeShowsWhatIsOpen();
     void showsOnlyLinesForAHost();
     void preferredRangesOfBothTables();
     void opensDirectories();
@@ -417,6 +418,29 @@ void tst_CatalogMappingSeam::filtersProjectsForAHost()
     editor.widget->setOnlyOpenProjects(false);
     editor.widget->setProjectFilter({});
     QCOMPARE(editor.shownProjects(), all);
+}
+
+/// The project that is open is selected in the tree again as soon as no filter hides it, and is not
+/// opened a second time.
+void tst_CatalogMappingSeam::treeShowsWhatIsOpen()
+{
+    const Editor editor;
+    editor.show();
+    QVERIFY(editor.widget->selectProject(a));
+    QVERIFY(editor.widget->selectLine(2));
+    const auto *const tree = editor.widget->findChild<QTreeView *>();
+    const QString row = tree->currentIndex().data().toString();
+    const QSignalSpy opened(editor.widget->notifier(), SIGNAL(currentProjectChanged()));
+    editor.widget->setProjectFilter(
+        [](const PrjMappingC &mapping) { return mapping.getSourcePath() == b; });
+    QVERIFY(tree->selectionModel()->selectedIndexes().isEmpty());
+    editor.widget->setProjectFilter({});
+    const QModelIndexList selected = tree->selectionModel()->selectedIndexes();
+    QCOMPARE(selected.size(), 1);
+    QCOMPARE(selected.first().data().toString(), row);
+    QVERIFY(!tree->visualRect(selected.first()).isEmpty());
+    QCOMPARE(opened.size(), 0);
+    QCOMPARE(editor.widget->currentLine(), 2);
 }
 
 void tst_CatalogMappingSeam::showsOnlyLinesForAHost()

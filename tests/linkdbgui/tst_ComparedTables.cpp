@@ -40,6 +40,7 @@ private Q_SLOTS:
     void init();
     void offAtFirst();
     void oneHeight();
+    void linesStayInSight();
     void endOfTheTable();
     void firstDifferenceInSight();
     void marks();
@@ -114,6 +115,21 @@ void tst_ComparedTables::oneHeight()
     for (const int line : {5, 30, 29, 60}) {
         select(line);
         QCOMPARE(heightOf(m_editor->target, line + 40), heightOf(m_editor->source, line));
+    }
+}
+
+/// The target moves to show its line, and the source with it: by as many lines as the target had to
+/// go. Nothing differs, so no difference is brought into sight.
+void tst_ComparedTables::linesStayInSight()
+{
+    m_editor->catalog.write("new/a.prj", wideTable(160, "St37", "A,B,C,E,F,G,H"));
+    m_editor->load();
+    m_editor->widget->resize(600, m_editor->widget->minimumSizeHint().height());
+    for (const int line : {3, 90, 12, 60, 100, 40}) {
+        select(line);
+        QVERIFY2(isInSight(m_editor->source, line, "D"), qPrintable(QString::number(line)));
+        QVERIFY2(isInSight(m_editor->target, line == 100 ? 160 : line + 40, "D"),
+                 qPrintable(QString::number(line)));
     }
 }
 

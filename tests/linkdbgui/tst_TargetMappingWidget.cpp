@@ -260,6 +260,9 @@ void tst_TargetMappingWidget::assignByKeyboard()
     QTest::keyClick(panel.widget()->assignButton, Qt::Key_Space);
     QCOMPARE(panel.updates.count(), 1);
     QVERIFY(panel.announced().startsWith("0:3>"));
+    // From there one key confirms it.
+    QVERIFY(panel.table.focusWidget() ==
+            panel.table.findChild<VkTableView *>("sourceView")->grid());
 }
 
 void tst_TargetMappingWidget::assignCancelled()
