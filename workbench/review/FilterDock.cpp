@@ -161,6 +161,12 @@ void FilterDock::fillGroup(LineTrait trait)
                                            ? m_work->traits().counts(trait, m_work->filter())
                                            : QHash<QString, int>();
     QStringList values = standingValues(trait);
+    // A row that was there stays at its place, with 0, as long as the same release is looked at.
+    if (m_work->isKnown()) {
+        for (int i = 1; i < group->childCount(); ++i)
+            values += group->child(i)->data(0, ValueRole).toString();
+        values.removeDuplicates();
+    }
     QStringList more = counts.keys() + choice.values;
     more.removeDuplicates();
     more.removeIf([&values](const QString &value) { return values.contains(value); });
@@ -198,6 +204,7 @@ void FilterDock::take(QTreeWidgetItem *item)
     QTreeWidgetItem *const group = item->parent();
     if (m_isFilling || !group)
         return;
+    m_list->setCurrentItem(item); // keys go on where the mouse was
     LineFilter filter = m_work->filter();
     LineFilter::Choice &choice = filter.of(LineTrait(group->data(0, TraitRole).toInt()));
     const bool on = item->checkState(0) == Qt::Checked;

@@ -36,12 +36,15 @@ PatternDock::PatternDock(ReviewWork *work, QWidget *parent)
     m_list->setAllColumnsShowFocus(true);
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_list->header()->setSectionResizeMode(PatternModel::Changes, QHeaderView::Stretch);
+    m_list->header()->setSectionResizeMode(PatternModel::Changes, QHeaderView::Fixed);
     m_list->header()->setMinimumSectionSize(40);
     m_list->setTextElideMode(Qt::ElideMiddle);
     // Else nothing of the differences is seen.
     content->setMinimumWidth(30 * fontMetrics().averageCharWidth());
+    m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->installEventFilter(this);
+    m_list->viewport()->installEventFilter(this);
+    connect(m_list->header(), &QHeaderView::sectionResized, this, &PatternDock::fitColumns);
     layout->addWidget(m_sum);
     layout->addWidget(m_list);
     setWidget(content);
@@ -54,6 +57,20 @@ PatternDock::PatternDock(ReviewWork *work, QWidget *parent)
 }
 
 PatternDock::~PatternDock() = default;
+
+/// The differences have what the numbers leave, and in a narrow dock enough to be read: the numbers
+/// then are scrolled to.
+void PatternDock::fitColumns()
+{
+    constexpr int LeastLetters = 24;
+    QHeaderView *const header = m_list->header();
+    const int former = header->sectionSize(PatternModel::Changes);
+    const int numbers = header->length() - former;
+    const int wide = std::max(LeastLetters * m_list->fontMetrics().averageCharWidth(),
+                              m_list->viewport()->width() - numbers);
+    if (wide != former)
+        header->resizeSection(PatternModel::Changes, wide);
+}
 
 void PatternDock::takePatterns()
 {
@@ -147,6 +164,8 @@ void PatternDock::writeSum()
 
 bool PatternDock::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_list->viewport() && event->type() == QEvent::Resize)
+        QMetaObject::invokeMethod(this, &PatternDock::fitColumns, Qt::QueuedConnection);
     if (watched != m_list || event->type() != QEvent::KeyPress)
         return QDockWidget::eventFilter(watched, event);
     const auto *const key = static_cast<QKeyEvent *>(event);

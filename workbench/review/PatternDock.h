@@ -43,6 +43,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void fitColumns();
     void takePatterns();
     void takeChanges();
     void writeSum();

@@ -25,7 +25,6 @@ NeighbourWork::NeighbourWork(MappingDocument *document, QObject *parent)
     , m_document(document)
 {
     connect(document, &MappingDocument::mappingChanged, this, &NeighbourWork::onMappingChanged);
-    connect(document, &MappingDocument::opened, this, &NeighbourWork::restart);
     connect(document, &MappingDocument::releaseReplaced, this, &NeighbourWork::restart);
     connect(document, &MappingDocument::aboutToClose, this, &NeighbourWork::stop);
 }

@@ -29,6 +29,8 @@ public:
 
     /// Works only while it is wanted, and looks at everything when it begins to be.
     void setWanted(bool wanted);
+    /// Catalogs and tables may be others.
+    void restart();
 
     /// Some projects are still to be looked at.
     [[nodiscard]] bool isReading() const { return m_job != nullptr; }
@@ -57,7 +59,6 @@ private:
         std::jthread thread;
     };
 
-    void restart();
     void stop();
     void onMappingChanged(const ProjectId &project);
     void readPending();

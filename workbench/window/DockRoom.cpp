@@ -45,6 +45,15 @@ void DockRoom::giveRoom(QDockWidget *shown)
     m_window->resizeDocks({shown}, {int(m_window->height() * part)}, Qt::Vertical);
     if (others.isEmpty())
         return;
+    constexpr int LeastLetters = 55;
+    int room = shown->width();
+    for (const QDockWidget *const other : std::as_const(others))
+        room += other->width();
+    if (room < 2 * LeastLetters * m_window->fontMetrics().averageCharWidth()) {
+        m_window->tabifyDockWidget(others.last(), shown);
+        shown->raise();
+        return;
+    }
     const int half = m_window->width() / 2;
     QList<int> widths(others.size(), half / int(others.size()));
     m_window->resizeDocks(others << shown, widths << half, Qt::Horizontal);

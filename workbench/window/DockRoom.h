@@ -10,7 +10,8 @@ QT_END_NAMESPACE
 
 /// How much room of its window a dock at the lower edge takes when it comes into sight for the
 /// first time. Left alone it takes half the height, and the tables keep two lines; beside another
-/// dock it gets what that leaves. From then on its size is the user's.
+/// dock it gets what that leaves, and where that would be too narrow for either it lies over it.
+/// From then on its size is the user's.
 class DockRoom : public QObject
 {
 public:

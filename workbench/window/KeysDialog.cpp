@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QKeySequenceEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,6 +26,12 @@ namespace {
 enum Column { NameColumn, PlaceColumn, KeyColumn, ColumnCount };
 
 constexpr int idRole = Qt::UserRole;
+
+bool isModifier(int key)
+{
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
+           key == Qt::Key_AltGr || key == Qt::Key_Meta;
+}
 
 } // namespace
 
@@ -65,8 +72,6 @@ KeysDialog::KeysDialog(const PCommandKeys::Choice &choice, const Names &nameOf, 
     }
     m_standard->setObjectName("standardKey");
     m_none->setObjectName("noKey");
-    m_standard->setAutoDefault(false);
-    m_none->setAutoDefault(false);
     m_problem->setObjectName("keysProblem");
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
@@ -78,6 +83,7 @@ KeysDialog::KeysDialog(const PCommandKeys::Choice &choice, const Names &nameOf, 
     auto *const buttons = new QDialogButtonBox(this);
     m_ok = buttons->addButton(Question::okText(), QDialogButtonBox::AcceptRole);
     m_ok->setObjectName("ok");
+    m_ok->setDefault(true);
     buttons->addButton(Question::cancelText(), QDialogButtonBox::RejectRole);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_filter);
@@ -116,6 +122,8 @@ void KeysDialog::fill()
     }
     m_list->sortItems(NameColumn, Qt::AscendingOrder);
     m_list->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    m_list->header()->setSectionResizeMode(PlaceColumn, QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(KeyColumn, QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(false);
 }
 
@@ -166,9 +174,13 @@ void KeysDialog::showCommand()
     check();
 }
 
-/// The field waits for more strokes before it tells the first one.
+/// The field waits for more strokes before it tells the first one, and forgets its key as soon as
+/// Shift goes down, with which one leaves it backwards.
 bool KeysDialog::eventFilter(QObject *object, QEvent *event)
 {
+    if (object == m_key && event->type() == QEvent::KeyPress &&
+        isModifier(static_cast<const QKeyEvent *>(event)->key()))
+        return true;
     if (object == m_key && event->type() == QEvent::KeyRelease)
         QMetaObject::invokeMethod(this, &KeysDialog::onKeyEntered, Qt::QueuedConnection);
     return QDialog::eventFilter(object, event);

@@ -4,6 +4,7 @@
 #include "StatusArea.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QSignalBlocker>
 #include <QToolBar>
@@ -131,7 +132,9 @@ void LineStateFilter::writeTexts()
         const QString name = tr(stateRows[size_t(i)].text);
         m_actions[i]->setText(
             m_isOpen ? QStringLiteral("%1: %2").arg(name, StatusArea::grouped(m_counts[i])) : name);
-        KeyedActions::setName(m_actions[i], name);
+        // Among other commands a state alone says nothing.
+        KeyedActions::setName(m_actions[i], QCoreApplication::translate("FilterDock", "Zustand") +
+                                                QStringLiteral(": ") + name);
         m_actions[i]->setToolTip(tr(stateRows[size_t(i)].tip));
         m_actions[i]->setStatusTip(m_actions[i]->toolTip());
     }

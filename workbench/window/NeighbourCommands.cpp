@@ -13,6 +13,7 @@ NeighbourCommands::NeighbourCommands(MappingDocument *document, EditorArea *edit
     , m_work(new NeighbourWork(document, this))
     , m_dock(new NeighbourDock(m_work, window))
 {
+    connect(editor, &EditorArea::editorMade, m_work, &NeighbourWork::restart);
     connect(m_dock, &NeighbourDock::chosen, this, &NeighbourCommands::goToCurrent);
 }
 

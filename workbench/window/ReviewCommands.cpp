@@ -47,10 +47,9 @@ ReviewCommands::ReviewCommands(MappingDocument *document, EditorArea *editor, Li
         m_explained = LineRef();
         explainCurrent();
     });
-    connect(document, &MappingDocument::opened, this, [this] {
-        if (m_work->isWanted())
-            m_work->readAnew();
-    });
+    // Not when the document is opened: where its catalogs lie is known a little later, and they may
+    // be others once more.
+    connect(editor, &EditorArea::editorMade, m_work, &ReviewWork::readAnew);
     connect(document, &MappingDocument::aboutToClose, this, [this] {
         m_sample.reset();
         m_dock->choose(-1);

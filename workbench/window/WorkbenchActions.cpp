@@ -1,5 +1,7 @@
 #include "WorkbenchActions.h"
 
+#include "KeyedActions.h"
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QIcon>
@@ -367,6 +369,17 @@ void WorkbenchActions::retranslate()
         action->setStatusTip(tip);
         const QString key = action->shortcut().toString(QKeySequence::NativeText);
         action->setToolTip(key.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, key));
+        KeyedActions::setName(action, nameOf(Command(i)));
     }
     writeUndoTexts();
+}
+
+/// Among all other commands, where no menu says what it is about.
+QString WorkbenchActions::nameOf(Command command)
+{
+    const auto plain = [](Command each) {
+        return KeyedActions::plain(translated(commandRows[each].text));
+    };
+    const bool isOfShare = command > ShareFile && command <= ShareWho;
+    return isOfShare ? plain(ShareFile) + QStringLiteral(": ") + plain(command) : plain(command);
 }

@@ -98,6 +98,7 @@ public Q_SLOTS:
     void retranslate();
 
 private:
+    [[nodiscard]] static QString nameOf(Command command);
     void writeUndoTexts();
 
     QList<QAction *> m_actions;

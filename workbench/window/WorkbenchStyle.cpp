@@ -142,6 +142,14 @@ void WorkbenchStyle::drawComplexControl(ComplexControl control, const QStyleOpti
         drawEdge(painter, option->rect, option->palette.color(QPalette::Highlight), edgeWidth);
 }
 
+int WorkbenchStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                              QStyleHintReturn *data) const
+{
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons
+               ? 0
+               : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 /// Room for the edge round what scrolls.
 int WorkbenchStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                                 const QWidget *widget) const

@@ -25,6 +25,9 @@ public:
                      const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
+    /// No icons in the buttons of dialogs: only those of Qt's own would have some.
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override;
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option,
                                   const QWidget *widget) const override;
 

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 
 using VelkRelease::LineFilter;
 using VelkRelease::LineTrait;
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void reasonsWithNumbers();
     void treeTableAndCounterFollow();
     void combinedAndNot();
+    void rowsKeepTheirPlaces();
     void statesAreTheSwitches();
     void nothingFits();
     void givesWay();
@@ -236,6 +238,29 @@ void tst_FilterDock::byWhom()
 }
 
 /// One choice in two places.
+/// A tick leaves all rows where they are, those too that have no line any more, and the keys go on
+/// from where the mouse was.
+void tst_FilterDock::rowsKeepTheirPlaces()
+{
+    WindowFixture &fixture = untouched();
+    const auto texts = [&] {
+        QStringList rows;
+        for (QTreeWidgetItemIterator row(list(fixture)); *row; ++row)
+            rows << (*row)->text(0);
+        return rows;
+    };
+    const QStringList before = texts();
+    QTreeWidgetItem *const notFound = item(fixture, LineTrait::State, "Ohne Ziel");
+    const QRect place = list(fixture)->visualItemRect(notFound);
+    QTest::mouseClick(list(fixture)->viewport(), Qt::LeftButton, {},
+                      QPoint(place.left() + 10, place.center().y()));
+    QTRY_VERIFY(hits(fixture) > 0);
+    QCOMPARE(notFound->checkState(0), Qt::Checked);
+    QCOMPARE(texts(), before);
+    QCOMPARE(number(fixture, LineTrait::Difference, "(nichts davon)"), hits(fixture));
+    QVERIFY(list(fixture)->currentItem() == notFound);
+}
+
 void tst_FilterDock::statesAreTheSwitches()
 {
     WindowFixture &fixture = anew();

@@ -78,6 +78,8 @@ private Q_SLOTS:
     void keysOfTables();
     void keysByTheDialog();
     void clashesAreTold();
+    void keyFieldIsLeftBackwards();
+    void keyNamesAreDifferent();
     void keysAreFiltered();
 
 private:
@@ -585,6 +587,54 @@ void tst_Locator::clashesAreTold()
     QVERIFY(ok->isEnabled());
     const PCommandKeys::Choice chosen{{"goLine", QKeySequence("V")}};
     QCOMPARE(dialog.choice(), chosen);
+}
+
+/// Shift goes down before Tab does; the key that stands there is not forgotten for that.
+void tst_Locator::keyFieldIsLeftBackwards()
+{
+    start();
+    KeysDialog dialog(
+        {}, [this](const QString &id) { return m_fixture->window->keyedActions()->nameOf(id); },
+        nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *const list = dialog.findChild<QTreeWidget *>("keysList");
+    auto *const edit = dialog.findChild<QKeySequenceEdit *>("key");
+    list->setCurrentItem(list->findItems("Gehe zu Zeile", Qt::MatchExactly).value(0));
+    edit->setFocus();
+    QTest::keyPress(edit, Qt::Key_Shift, Qt::ShiftModifier);
+    QTest::keyClick(edit, Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyRelease(list, Qt::Key_Shift);
+    QApplication::processEvents();
+    QVERIFY(!edit->hasFocus());
+    QCOMPARE(edit->keySequence(), QKeySequence("Ctrl+G"));
+    QVERIFY(dialog.choice().isEmpty());
+    // Enter on a button presses that one.
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_F12);
+    QApplication::processEvents();
+    QCOMPARE(dialog.choice().value("goLine"), QKeySequence("F12"));
+    auto *const standard = dialog.findChild<QPushButton *>("standardKey");
+    standard->setFocus();
+    QTest::keyClick(standard, Qt::Key_Return);
+    QVERIFY(dialog.isVisible());
+    QVERIFY(dialog.choice().isEmpty());
+}
+
+/// Each name says by itself what the command does.
+void tst_Locator::keyNamesAreDifferent()
+{
+    start();
+    QStringList names;
+    const QList<PCommandKeys::Command> &commands = PCommandKeys::instance().commands();
+    for (const PCommandKeys::Command &command : commands)
+        names << m_fixture->window->keyedActions()->nameOf(command.id);
+    const qsizetype all = names.size();
+    QVERIFY(names.contains("Zustand: Ausgelaufen"));
+    QVERIFY(names.contains("Gemeinsame Kopie: Aktualisieren"));
+    QVERIFY(names.contains("Rückgängig"));
+    names.removeDuplicates();
+    QCOMPARE(names.size(), all);
 }
 
 void tst_Locator::keysAreFiltered()

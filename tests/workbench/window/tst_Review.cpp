@@ -9,6 +9,8 @@
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
+#include <QDockWidget>
+#include <QHeaderView>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTableView>
@@ -19,6 +21,8 @@ class tst_Review : public QObject
 
 private Q_SLOTS:
     void numbersAddUp();
+    void readsTheCatalogsOfTheFile();
+    void differencesCanBeRead();
     void choosingFiltersTreeAndTable();
     void confirmsAllInOneStep();
     void confirmsLinesWithoutSuccessor();
@@ -59,6 +63,37 @@ void tst_Review::numbersAddUp()
     QCOMPARE(QApplication::focusWidget(), fixture.list());
     fixture.press(Qt::Key_Down);
     QCOMPARE(fixture.list()->currentIndex().row(), 1);
+}
+
+/// The list was open at the last end of the program; the file is opened for the first time, so
+/// where its catalogs lie is not known as soon as the file is read.
+void tst_Review::readsTheCatalogsOfTheFile()
+{
+    WindowFixture fixture;
+    fixture.window->findChild<QDockWidget *>("PatternDock")->show();
+    QApplication::processEvents();
+    fixture.open(fixture.mappingFile());
+    const ReviewWork *const work = fixture.window->review()->work();
+    QVERIFY(work->isWanted());
+    QTRY_VERIFY_WITH_TIMEOUT(work->hasPatterns() && !work->isReading(), 20'000);
+    QVERIFY(work->patterns().ranked().size() > 5);
+    QVERIFY(work->patterns().rankedGone().size() > 5);
+}
+
+/// In a narrow dock too.
+void tst_Review::differencesCanBeRead()
+{
+    ReviewFixture fixture;
+    auto *const dock = fixture.window->findChild<QDockWidget *>("PatternDock");
+    const QTreeView *const list = fixture.list();
+    const QHeaderView *const header = list->header();
+    const int letters = list->fontMetrics().averageCharWidth();
+    fixture.window->resizeDocks({dock}, {10}, Qt::Horizontal);
+    QTRY_VERIFY(list->viewport()->width() < 60 * letters);
+    QTRY_VERIFY(header->sectionSize(PatternModel::Changes) >= 24 * letters);
+    dock->setFloating(true);
+    dock->resize(120 * letters, 400);
+    QTRY_COMPARE(header->length(), list->viewport()->width());
 }
 
 void tst_Review::choosingFiltersTreeAndTable()

@@ -130,6 +130,30 @@ private Q_SLOTS:
         QTRY_COMPARE(log->height(), 400);
     }
 
+    /// Two of them side by side would have no room for their columns.
+    void docksOfANarrowWindowLieOverEachOther()
+    {
+        QMainWindow window;
+        window.resize(80 * window.fontMetrics().averageCharWidth(), 700);
+        window.setCentralWidget(new QPlainTextEdit);
+        QList<QDockWidget *> docks;
+        DockRoom room(&window);
+        for (int i = 0; i < 2; ++i) {
+            docks << new QDockWidget(&window);
+            docks.last()->setWidget(new QPlainTextEdit);
+            window.addDockWidget(Qt::BottomDockWidgetArea, docks.last());
+            docks.last()->hide();
+            room.add(docks.last(), 1.0 / 4);
+        }
+        window.show();
+        docks[0]->show();
+        QTest::qWait(20);
+        docks[1]->show();
+        QTRY_COMPARE(window.tabifiedDockWidgets(docks[1]), QList<QDockWidget *>{docks[0]});
+        QTRY_VERIFY(!docks[1]->visibleRegion().isEmpty());
+        QVERIFY(docks[1]->width() > window.width() * 3 / 4);
+    }
+
     void messagesComeFromOtherThreads()
     {
         QMainWindow window;
