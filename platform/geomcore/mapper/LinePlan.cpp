@@ -269,7 +269,7 @@ void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled)
         [&](size_t row, CellTexts &texts) { add(filled.openRows[row], texts); },
         [&](size_t row, size_t place, int number) { filled.rows.set(row, place, number); });
     filled.chances.resize(count);
-    const size_t step = size_t(filled.rowCount / MaxSampled + 1);
+    const size_t step = size_t(filled.rowCount) / MaxSampled + 1;
     numbering.run((size_t(filled.rowCount) + step - 1) / step,
                   [&](size_t i, CellTexts &texts) { add(int(i * step), texts); },
                   [&](size_t, size_t place, int number) { filled.chances[place].add(number); });
