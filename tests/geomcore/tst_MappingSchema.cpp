@@ -1,8 +1,12 @@
 #include "RecordSamples.h"
 
 #include <geomcore/records/MappingFile.h>
+#include <geomcore/records/ReleaseLayout.h>
 
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTest>
 
 #include <rapidjson/document.h>
@@ -50,6 +54,47 @@ private Q_SLOTS:
         document.Parse(fileBytes("schema/mapping.schema.json").constData());
         QVERIFY(!document.HasParseError());
         m_schema = std::make_unique<rapidjson::SchemaDocument>(document);
+    }
+
+    void membersAreThoseOfTheReader_data()
+    {
+        QTest::addColumn<int>("place");
+        QTest::addColumn<QString>("definition");
+        QTest::newRow("release") << int(ReleaseLayout::Release) << "release";
+        QTest::newRow("replacement") << int(ReleaseLayout::Replacement) << "replacement";
+        QTest::newRow("mapping") << int(ReleaseLayout::Mapping) << "mapping";
+        QTest::newRow("target") << int(ReleaseLayout::Target) << "target";
+    }
+
+    void membersAreThoseOfTheReader()
+    {
+        QFETCH(const int, place);
+        QFETCH(const QString, definition);
+        const QJsonObject schema = QJsonDocument::fromJson(fileBytes("schema/mapping.schema.json"))
+                                       .object()["definitions"][definition]
+                                       .toObject();
+        QStringList names;
+        QStringList required;
+        QStringList arrays;
+        for (const ReleaseLayout::Member &member : ReleaseLayout::Members) {
+            const QString name = QString::fromLatin1(member.name.data(), int(member.name.size()));
+            if (member.place != place)
+                continue;
+            names << name;
+            if (member.required)
+                required << name;
+            if (member.kind == ReleaseLayout::ArrayKind)
+                arrays << name;
+        }
+        const QJsonObject properties = schema["properties"].toObject();
+        names.sort();
+        QCOMPARE(properties.keys(), names);
+        QStringList wanted;
+        for (const QJsonValue &name : schema["required"].toArray())
+            wanted << name.toString();
+        QCOMPARE(wanted, required);
+        for (const QString &name : std::as_const(names))
+            QCOMPARE(properties[name]["type"].toString() == "array", arrays.contains(name));
     }
 
     void whatIsWrittenFits()

@@ -1,14 +1,12 @@
 #include "LineTable.h"
 
+#include "LinePages.h"
+
 #include <algorithm>
 #include <limits>
 
 namespace {
 
-constexpr std::size_t PageRows = 256;
-constexpr std::size_t ChunkPages = 64;
-/// Room that a new page begins with, enough for most of the many small tables.
-constexpr std::size_t FirstRows = 16;
 /// A page that shrinks below this is merged with the next one if both together stay below
 /// MergedRows.
 constexpr std::size_t SmallPageRows = 64;
@@ -54,13 +52,6 @@ void LineTable::setExtended(Page &page, std::size_t row, const ExtendedTextPtr &
         page.extended.resize(page.rows.size());
     if (!page.extended.empty())
         page.extended[row] = extended;
-}
-
-LineTable::PageRef LineTable::newPage(int firstLine)
-{
-    PageRef ref{firstLine, QExplicitlySharedDataPointer<Page>(new Page)};
-    ref.page->rows.reserve(FirstRows);
-    return ref;
 }
 
 LineTable::Iterator LineTable::at(const Place &place) const
@@ -189,46 +180,6 @@ void LineTable::setAllStates(PRJMAPPING::CheckState state)
     m_counts = counts;
 }
 
-LineTable LineTable::joined(const std::vector<Slice> &slices)
-{
-    LineTable table;
-    qint64 after = std::numeric_limits<qint64>::min();
-    for (const Slice &slice : slices) {
-        table.appendRows(*slice.table, after, slice.last);
-        after = slice.last;
-    }
-    return table;
-}
-
-void LineTable::appendRows(const LineTable &from, qint64 after, int last)
-{
-    for (const ChunkRef &chunk : from.m_chunks) {
-        for (const PageRef &ref : chunk.chunk->pages) {
-            const Page &page = *ref.page;
-            if (page.rows.back().sourceLine <= after || page.rows.front().sourceLine > last)
-                continue;
-            if (page.rows.front().sourceLine > after && page.rows.back().sourceLine <= last) {
-                appendPage(ref);
-                continue;
-            }
-            for (std::size_t i = 0; i < page.rows.size(); ++i) {
-                const Row &row = page.rows[i];
-                if (row.sourceLine > after && row.sourceLine <= last)
-                    append(row, page.extended.empty() ? ExtendedTextPtr() : page.extended[i]);
-            }
-        }
-    }
-}
-
-void LineTable::appendPage(const PageRef &page)
-{
-    if (isEmpty() || m_chunks.back().chunk->pages.size() == ChunkPages)
-        m_chunks.push_back({page.firstLine, QExplicitlySharedDataPointer<Chunk>(new Chunk)});
-    writableChunk(m_chunks.size() - 1).pages.push_back(page);
-    for (const Row &row : page.page->rows)
-        count(m_counts, row, 1);
-}
-
 bool LineTable::isBeyondLast(int sourceLine) const
 {
     return isEmpty() ||
@@ -260,77 +211,9 @@ LineTable::Page &LineTable::writablePage(const Place &place)
     return *ref.page;
 }
 
-bool LineTable::lastPageIsFull() const
-{
-    return m_chunks.back().chunk->pages.back().page->rows.size() == PageRows;
-}
-
-LineTable::Page &LineTable::lastPageWithRoom(int firstLine)
-{
-    if (isEmpty() || (m_chunks.back().chunk->pages.size() == ChunkPages && lastPageIsFull()))
-        m_chunks.push_back({firstLine, QExplicitlySharedDataPointer<Chunk>(new Chunk)});
-    Chunk &chunk = writableChunk(m_chunks.size() - 1);
-    if (chunk.pages.empty() || chunk.pages.back().page->rows.size() == PageRows)
-        chunk.pages.push_back(newPage(firstLine));
-    PageRef &ref = chunk.pages.back();
-    ref.page.detach();
-    return *ref.page;
-}
-
-void LineTable::append(const Row &row, const ExtendedTextPtr &extended)
-{
-    Page &page = lastPageWithRoom(row.sourceLine);
-    page.rows.push_back(row);
-    if (!page.extended.empty())
-        page.extended.emplace_back();
-    setExtended(page, page.rows.size() - 1, extended);
-    count(m_counts, row, 1);
-}
-
-void LineTable::append(Iterator &from, int count)
-{
-    Q_ASSERT(count == 0 || isBeyondLast(from.sourceLine()));
-    while (count > 0) {
-        const PageRef &source = (*from.m_chunks)[from.m_chunk].chunk->pages[from.m_page];
-        const std::vector<Row> &rows = source.page->rows;
-        if (from.m_row == rows.data() && count >= int(rows.size()) &&
-            (isEmpty() || lastPageIsFull())) {
-            appendPage(source);
-            count -= int(rows.size());
-            from.goToNextPage();
-        } else {
-            count -= appendPart(from, count);
-        }
-    }
-}
-
-int LineTable::appendPart(Iterator &from, int most)
-{
-    Page &page = lastPageWithRoom(from.sourceLine());
-    const std::size_t size = std::min(
-        {std::size_t(most), std::size_t(from.m_pageEnd - from.m_row), PageRows - page.rows.size()});
-    const std::size_t before = page.rows.size();
-    const Row *const end = from.m_row + size;
-    page.rows.reserve(PageRows);
-    page.rows.insert(page.rows.end(), from.m_row, end);
-    if (!page.extended.empty())
-        page.extended.resize(page.rows.size());
-    for (std::size_t i = 0; from.m_extended && i < size; ++i) {
-        if (from.m_extended[i])
-            setExtended(page, before + i, from.m_extended[i]);
-    }
-    for (const Row *row = from.m_row; row != end; ++row)
-        count(m_counts, *row, 1);
-    if (end == from.m_pageEnd)
-        from.goToNextPage();
-    else
-        from.goTo(size);
-    return int(size);
-}
-
 void LineTable::insert(Place place, const Row &row, const ExtendedTextPtr &extended)
 {
-    if (m_chunks[place.chunk].chunk->pages[place.page].page->rows.size() == PageRows)
+    if (m_chunks[place.chunk].chunk->pages[place.page].page->rows.size() == LinePages::PageRows)
         place = splitPage(place);
     Page &page = writablePage(place);
     page.rows.insert(page.rows.begin() + std::ptrdiff_t(place.row), row);
@@ -369,7 +252,7 @@ LineTable::Place LineTable::splitPage(const Place &place)
     }
     std::vector<PageRef> &pages = m_chunks[place.chunk].chunk->pages;
     pages.insert(pages.begin() + std::ptrdiff_t(place.page) + 1, ref);
-    if (pages.size() > ChunkPages) {
+    if (pages.size() > LinePages::ChunkPages) {
         const std::size_t lowerPages = splitChunk(place.chunk);
         if (result.page >= lowerPages) {
             ++result.chunk;

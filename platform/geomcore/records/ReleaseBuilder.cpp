@@ -1,75 +1,10 @@
 #include "ReleaseBuilder.h"
 
 #include <geomcore/binding/VarsetConditionC.h>
-#include <geomcore/binding/VarsetValueMappingC.h>
-#include <geomcore/binding/VarsetVarMappingC.h>
 
-#include <algorithm>
-#include <bit>
-#include <cmath>
 #include <iterator>
 
-/// Indexes into Members.
-enum ReleaseBuilder::Key : int {
-    NoKey = -1,
-    SourceDate,
-    TargetDate,
-    ReplacementsKey,
-    ReplacementFolder,
-    ReplacementVariable,
-    ReplacementBefore,
-    ReplacementAfter,
-    ReplacementFactor,
-    ReplacementOffset,
-    MappingsKey,
-    SourcePath,
-    SourceVersion,
-    MappingTabVersion,
-    State,
-    TargetsKey,
-    Path,
-    Version,
-    TabVersion,
-    Valid,
-    ProposedRules,
-    ConditionsKey,
-    ModifiersKey,
-    LinesKey,
-    ModifierKind,
-    ModifierSource,
-    ModifierTarget,
-    ModifierFormula,
-};
-
-constexpr ReleaseBuilder::Member ReleaseBuilder::Members[] = {
-    {Release, "sourceDate", TextKind, true, Outside},
-    {Release, "targetDate", TextKind, true, Outside},
-    {Release, "replacements", ArrayKind, false, Replacements},
-    {Replacement, "folder", TextKind, true, Outside},
-    {Replacement, "variable", TextKind, true, Outside},
-    {Replacement, "before", TextKind, false, Outside},
-    {Replacement, "after", TextKind, false, Outside},
-    {Replacement, "factor", TextKind, false, Outside},
-    {Replacement, "offset", TextKind, false, Outside},
-    {Release, "mappings", ArrayKind, false, Mappings},
-    {Mapping, "sourcePath", TextKind, true, Outside},
-    {Mapping, "sourceVersion", TextKind, true, Outside},
-    {Mapping, "tabVersion", TextKind, true, Outside},
-    {Mapping, "state", IntegerKind, true, Outside},
-    {Mapping, "targets", ArrayKind, true, Targets},
-    {Target, "path", TextKind, true, Outside},
-    {Target, "version", TextKind, true, Outside},
-    {Target, "tabVersion", TextKind, true, Outside},
-    {Target, "valid", BooleanKind, true, Outside},
-    {Target, "proposed", BooleanKind, false, Outside},
-    {Target, "conditions", ArrayKind, true, Conditions},
-    {Target, "modifiers", ArrayKind, true, Modifiers},
-    {Target, "lines", ArrayKind, true, Lines},
-    {Modifier, "kind", TextKind, true, Outside},
-    {Modifier, "source", TextKind, false, Outside},
-    {Modifier, "target", TextKind, false, Outside},
-    {Modifier, "formula", TextKind, false, Outside},
-};
+using namespace ReleaseLayout;
 
 namespace {
 
@@ -78,13 +13,19 @@ QString fromUtf8(std::string_view text)
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
 
-template<class Members, class Condition>
-constexpr quint32 bitsOf(const Members &members, Condition condition)
+QString expectation(Kind kind)
 {
-    quint32 bits = 0;
-    for (std::size_t i = 0; i < std::size(members); ++i)
-        bits |= condition(members[i]) ? 1U << i : 0U;
-    return bits;
+    switch (kind) {
+    case TextKind:
+        return QStringLiteral("must be a text");
+    case IntegerKind:
+        return QStringLiteral("must be an integer from 0 to 2147483647");
+    case BooleanKind:
+        return QStringLiteral("must be true or false");
+    case ArrayKind:
+        break;
+    }
+    return QStringLiteral("must be an array");
 }
 
 QString rowLayout()
@@ -99,7 +40,6 @@ QString rowLayout()
 
 QString ReleaseBuilder::error() const
 {
-    static_assert(std::size(Members) == MemberCount && MemberCount <= 32, "a bit for each");
     QStringList path;
     if (m_place == Replacements || m_place == Replacement)
         path += QStringLiteral("replacements[%1]").arg(m_replacements.size());
@@ -173,40 +113,6 @@ bool ReleaseBuilder::endObject()
     return true;
 }
 
-bool ReleaseBuilder::endMapping()
-{
-    moveNotFoundTarget();
-    m_mapping.setTargets(m_targets);
-    m_targets.clear();
-    m_mapping.setMappingState(m_state);
-    m_release.appendMapping(m_mapping);
-    m_place = Mappings;
-    return true;
-}
-
-void ReleaseBuilder::moveNotFoundTarget()
-{
-    // Indexes of the others must not shift when the target of the lines without one goes.
-    const auto hasPath = [](const PrjMappingTargetC &target) {
-        return !target.isNotFoundTarget();
-    };
-    const bool inPlace = std::is_partitioned(m_targets.cbegin(), m_targets.cend(), hasPath);
-    const qsizetype first =
-        std::stable_partition(m_targets.begin(), m_targets.end(), hasPath) - m_targets.begin();
-    if (!inPlace || first + 1 < m_targets.size())
-        m_notes +=
-            QStringLiteral("mappings[%1]: the target with an empty \"path\" was moved to the "
-                           "end.")
-                .arg(m_release.countMappings());
-    for (; first + 1 < m_targets.size(); m_targets.removeLast()) {
-        // A line that several of them hold is where a look-up finds it: in the first.
-        for (const LineTable::Iterator &entry : std::as_const(m_targets).last().lines()) {
-            if (!std::as_const(m_targets)[first].containsLine(entry.sourceLine()))
-                m_targets[first].setMappedLine(entry.sourceLine(), entry.line());
-        }
-    }
-}
-
 bool ReleaseBuilder::startArray()
 {
     if (m_passNext || m_passedOver > 0)
@@ -255,12 +161,11 @@ bool ReleaseBuilder::key(std::string_view name)
 {
     if (m_passedOver > 0)
         return true;
-    for (int i = 0; i < int(std::size(Members)); ++i) {
-        if (Members[i].place == m_place && Members[i].name == name) {
-            m_key = i;
-            m_seen |= 1U << unsigned(i);
-            return true;
-        }
+    const int known = keyOf(m_place, name);
+    if (known != NoKey) {
+        m_key = known;
+        m_seen |= 1U << unsigned(known);
+        return true;
     }
     m_passNext = true;
     return true;
@@ -366,10 +271,7 @@ bool ReleaseBuilder::expect(Kind kind)
         return anythingElse();
     if (Members[m_key].kind == kind)
         return true;
-    static const QString Expected[] = {
-        QStringLiteral("must be a text"), QStringLiteral("must be an integer from 0 to 2147483647"),
-        QStringLiteral("must be true or false"), QStringLiteral("must be an array")};
-    return fail(Expected[Members[m_key].kind]);
+    return fail(expectation(Members[m_key].kind));
 }
 
 bool ReleaseBuilder::otherInteger(qint64 number)
@@ -389,7 +291,7 @@ bool ReleaseBuilder::otherInteger(qint64 number)
 void ReleaseBuilder::begin(Place place)
 {
     m_place = place;
-    m_seen &= ~bitsOf(Members, [place](const Member &member) { return member.place == place; });
+    m_seen &= ~membersOf(place);
 }
 
 void ReleaseBuilder::enterArray()
@@ -418,109 +320,6 @@ void ReleaseBuilder::enterArray()
         break;
     }
     m_key = NoKey;
-}
-
-void ReleaseBuilder::setText(const QString &text)
-{
-    switch (m_key) {
-    case SourceDate:
-        return m_release.setSourceDate(text);
-    case TargetDate:
-        return m_release.setTargetDate(text);
-    case ReplacementFolder:
-        m_replacement.folder = text;
-        return;
-    case ReplacementVariable:
-        m_replacement.variable = text;
-        return;
-    case ReplacementBefore:
-        m_replacement.before = text;
-        return;
-    case ReplacementAfter:
-        m_replacement.after = text;
-        return;
-    case ReplacementFactor:
-        m_replacement.factor = text;
-        return;
-    case ReplacementOffset:
-        m_replacement.offset = text;
-        return;
-    case SourcePath:
-        return m_mapping.setSourcePath(text);
-    case SourceVersion:
-        return m_mapping.setSourceVersion(text);
-    case MappingTabVersion:
-        return m_mapping.setTabVersion(text);
-    case Path:
-        return m_target.setTargetPath(text);
-    case Version:
-        return m_target.setTargetVersion(text);
-    case TabVersion:
-        return m_target.setTabVersion(text);
-    case ModifierKind:
-        m_modifierKind = text;
-        return;
-    case ModifierSource:
-        m_modifierSource = text;
-        return;
-    case ModifierTarget:
-        m_modifierTarget = text;
-        return;
-    default:
-        m_modifierFormula = text;
-        return;
-    }
-}
-
-bool ReleaseBuilder::checkComplete(Place place)
-{
-    const quint32 missing = ~m_seen & bitsOf(Members, [place](const Member &member) {
-        return member.place == place && member.required;
-    });
-    if (missing != 0) {
-        const Member &first = Members[std::countr_zero(missing)];
-        return fail(QStringLiteral("lacks the member \"%1\"").arg(fromUtf8(first.name)));
-    }
-    if (place == Mapping && !m_mapping.isValid())
-        return fail(QStringLiteral("has an empty \"sourcePath\""));
-    return true;
-}
-
-bool ReleaseBuilder::endModifier()
-{
-    constexpr quint32 Names = 1U << ModifierSource | 1U << ModifierTarget;
-    if (!checkComplete(Modifier))
-        return false;
-    if (m_modifierKind == QLatin1String("var") && (m_seen & Names) == Names)
-        m_target.addModifier(new VarsetVarMappingC(m_modifierSource, m_modifierTarget));
-    else if (m_modifierKind == QLatin1String("value") && m_seen & (1U << ModifierFormula))
-        m_target.addModifier(VarsetValueMappingC::fromText(m_modifierFormula));
-    else
-        return fail(QStringLiteral("must be of kind \"var\" with \"source\" and \"target\", or of "
-                                   "kind \"value\" with \"formula\""));
-    m_place = Modifiers;
-    return true;
-}
-
-bool ReleaseBuilder::endReplacement()
-{
-    constexpr quint32 Texts = 1U << ReplacementBefore | 1U << ReplacementAfter;
-    constexpr quint32 Numbers = 1U << ReplacementFactor | 1U << ReplacementOffset;
-    if (!checkComplete(Replacement))
-        return false;
-    const quint32 given = m_seen & (Texts | Numbers);
-    const auto isNumber = [](const QString &text) {
-        bool ok = false;
-        return std::isfinite(text.toDouble(&ok)) && ok;
-    };
-    const bool numbers =
-        given == Numbers && isNumber(m_replacement.factor) && isNumber(m_replacement.offset);
-    if (m_replacement.variable.isEmpty() || (given != Texts && !numbers))
-        return fail(QStringLiteral("must name a variable, and texts as \"before\" and \"after\" or "
-                                   "decimal numbers as \"factor\" and \"offset\""));
-    m_replacements.append(m_replacement);
-    m_place = Replacements;
-    return true;
 }
 
 bool ReleaseBuilder::row(int sourceLine, int targetLine, int state)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ReleaseLayout.h"
 #include "ReleaseMappingC.h"
 
 #include <QStringList>
@@ -20,7 +21,7 @@ public:
 
     [[nodiscard]] const ReleaseMappingC &release() const { return m_release; }
     /// Nothing is being read: either no event came yet, or the release's closing brace did.
-    [[nodiscard]] bool isIdle() const { return m_place == Outside; }
+    [[nodiscard]] bool isIdle() const { return m_place == ReleaseLayout::Outside; }
     /// The member and what is wrong with it.
     [[nodiscard]] QString error() const;
     /// What was put right.
@@ -33,7 +34,8 @@ public:
     bool key(std::string_view name);
     bool integer(qint64 number)
     {
-        if (m_place == Row && m_column < 3 && number >= std::numeric_limits<int>::min() &&
+        if (m_place == ReleaseLayout::Row && m_column < 3 &&
+            number >= std::numeric_limits<int>::min() &&
             number <= std::numeric_limits<int>::max()) {
             m_row[m_column++] = int(number);
             return true;
@@ -45,7 +47,10 @@ public:
     /// A null, a fraction, or a number that is too large.
     bool anythingElse();
     /// Whether rows of lines may come.
-    [[nodiscard]] bool isAmongLines() const { return m_place == Lines && m_passedOver == 0; }
+    [[nodiscard]] bool isAmongLines() const
+    {
+        return m_place == ReleaseLayout::Lines && m_passedOver == 0;
+    }
     /// A whole row of three numbers; only where isAmongLines().
     bool row(int sourceLine, int targetLine, int state);
     /// So many rows that stand behind all that were read, as they are in another release; \a from
@@ -59,37 +64,8 @@ public:
     [[nodiscard]] QString targetName() const;
 
 private:
-    enum Place {
-        Outside,
-        Release,
-        Replacements,
-        Replacement,
-        Mappings,
-        Mapping,
-        Targets,
-        Target,
-        Conditions,
-        Modifiers,
-        Modifier,
-        Lines,
-        Row,
-    };
-    enum Kind {
-        TextKind,
-        IntegerKind,
-        BooleanKind,
-        ArrayKind,
-    };
-    enum Key : int;
-    struct Member
-    {
-        Place place;
-        std::string_view name;
-        Kind kind;
-        bool required;
-        Place inside; ///< where an array leads to
-    };
-    static const Member Members[];
+    using Place = ReleaseLayout::Place;
+    using Kind = ReleaseLayout::Kind;
     struct LastText
     {
         std::string utf8;
@@ -125,8 +101,8 @@ private:
     QString m_modifierTarget;
     QString m_modifierFormula;
 
-    Place m_place = Outside;
-    int m_key = -1;          ///< of Members, whose value comes next
+    Place m_place = ReleaseLayout::Outside;
+    int m_key = -1;          ///< whose value comes next
     quint32 m_seen = 0;      ///< a bit for each of Members
     int m_passedOver = 0;    ///< depth inside a value that is passed over, from 1
     bool m_passNext = false; ///< the next value is passed over
@@ -139,8 +115,7 @@ private:
     QString m_extended;
     bool m_conflict = false;
 
-    static constexpr std::size_t MemberCount = 27;
-    std::array<LastText, MemberCount> m_last; ///< of each of Members
+    std::array<LastText, ReleaseLayout::MemberCount> m_last; ///< of each of Members
     QString m_message;
     QStringList m_notes;
 };
