@@ -5,7 +5,7 @@
 #include "InterruptGuard.h"
 #include "LinkDbOption.h"
 #include "ReleaseFile.h"
-#include "ReviewCommand.h"
+#include "ReviewReport.h"
 #include "TerminalProgress.h"
 
 #include <core/json/JsonWriter.h>

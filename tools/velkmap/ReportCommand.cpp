@@ -5,7 +5,7 @@
 #include "InterruptGuard.h"
 #include "OpenReasons.h"
 #include "ReleaseFile.h"
-#include "ReviewCommand.h"
+#include "ReviewReport.h"
 
 #include <core/files/DurableFile.h>
 #include <release/report/ReportHistory.h>

@@ -4,20 +4,10 @@
 #include <release/assign/ParallelSteps.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace VelkRelease {
 
 namespace {
-
-constexpr double ProbabilitySteps = 1e9;
-
-/// The number of a name; \a next if the name is new.
-int numberFor(QHash<QString, int> &numbers, const QString &name, int next)
-{
-    const auto known = numbers.constFind(name);
-    return known != numbers.cend() ? *known : *numbers.insert(name, next);
-}
 
 /// Nobody has to be sure that what is not there any more is gone.
 double probabilityOf(const OpenPair &pair)
@@ -28,11 +18,6 @@ double probabilityOf(const OpenPair &pair)
 bool isSure(const OpenPair &pair)
 {
     return pair.comparable && !pair.gone && pair.probability >= DifferencePatterns::SureFrom;
-}
-
-bool contains(const std::vector<int> &all, const std::vector<int> &some)
-{
-    return std::includes(all.begin(), all.end(), some.begin(), some.end());
 }
 
 /// Lines whose entry in any target may differ between two mappings; all if targets came or went.
@@ -124,82 +109,6 @@ std::optional<DifferencePatterns> DifferencePatterns::compute(
     return DifferencePatterns(release, pairs);
 }
 
-/// Ascending.
-std::vector<int> DifferencePatterns::changeIds(const QList<ValueChange> &changes)
-{
-    std::vector<int> ids;
-    ids.reserve(size_t(changes.size()));
-    for (const ValueChange &change : changes) {
-        const int id = numberFor(m_changeOf, change.lookUpName(), int(m_having.size()));
-        if (size_t(id) == m_having.size())
-            m_having.emplace_back();
-        ids.push_back(id);
-    }
-    std::sort(ids.begin(), ids.end());
-    return ids;
-}
-
-int DifferencePatterns::patternFor(const OpenPair &pair, const QList<ValueChange> &changes)
-{
-    const std::vector<int> ids = changeIds(changes);
-    const bool doubtful = pair.comparable && pair.probability < SureFrom;
-    QString name = !pair.comparable ? QStringLiteral("-")
-                   : doubtful       ? QStringLiteral("?")
-                                    : QString();
-    for (const int id : ids)
-        name += QString::number(id) + u' ';
-    const int next = count();
-    const int pattern = numberFor(m_patternOf, name, next);
-    if (pattern < next)
-        return pattern;
-    m_patterns.push_back({changes, pair.comparable, doubtful, {}, {}, 0, 0, {}});
-    m_changesOf.push_back(ids);
-    noteLarger(next);
-    for (const int id : ids)
-        m_having[size_t(id)].push_back(next);
-    return next;
-}
-
-int DifferencePatterns::goneFor(const OpenPair &pair, const PrjMappingC &mapping)
-{
-    const GoneGroup group = m_goneFamilies.groupOf(pair, mapping);
-    const bool doubtful = probabilityOf(pair) < SureFrom;
-    const QString name = QStringList{QStringLiteral("gone"),
-                                     doubtful ? QStringLiteral("?") : QString(),
-                                     group.key(),
-                                     group.place,
-                                     group.variable,
-                                     group.value}
-                             .join(QChar(0x1f));
-    const int next = count();
-    const int pattern = numberFor(m_patternOf, name, next);
-    if (pattern == next) {
-        m_patterns.push_back({{}, true, doubtful, group, {}, 0, 0, {}});
-        m_changesOf.emplace_back();
-    }
-    return pattern;
-}
-
-/// Finds the patterns that have all changes of a new one, and those all of whose changes it has.
-void DifferencePatterns::noteLarger(int pattern)
-{
-    const std::vector<int> &own = m_changesOf[size_t(pattern)];
-    std::vector<int> others;
-    for (const int id : own)
-        others.insert(others.end(), m_having[size_t(id)].begin(), m_having[size_t(id)].end());
-    std::sort(others.begin(), others.end());
-    others.erase(std::unique(others.begin(), others.end()), others.end());
-    for (const int other : others) {
-        const std::vector<int> &its = m_changesOf[size_t(other)];
-        if (its.size() == own.size())
-            continue;
-        if (contains(its, own))
-            m_patterns[size_t(pattern)].larger.push_back(other);
-        else if (contains(own, its))
-            m_patterns[size_t(other)].larger.push_back(pattern);
-    }
-}
-
 void DifferencePatterns::enter(Project &project, int position, const OpenPair &pair,
                                const QList<ValueChange> &own)
 {
@@ -207,12 +116,15 @@ void DifferencePatterns::enter(Project &project, int position, const OpenPair &p
     known.target = pair.target;
     known.targetLine = pair.targetLine;
     const QList<ValueChange> shown = isSure(pair) ? m_groups.shownFor(own, pair) : own;
-    known.pattern = pair.gone ? goneFor(pair, project.mapping) : patternFor(pair, shown);
+    known.probability = probabilityOf(pair);
+    const bool doubtful = known.probability < SureFrom;
+    known.pattern = pair.gone
+                        ? m_table.goneFor(m_goneFamilies.groupOf(pair, project.mapping), doubtful)
+                        : m_table.patternFor(shown, pair.comparable, doubtful);
     if (shown == own)
         m_own.erase({position, pair.line});
     else
         m_own[{position, pair.line}] = own;
-    known.probability = probabilityOf(pair);
     known.open = false;
     setOpen(project, position, pair.line, known, true);
 }
@@ -230,18 +142,11 @@ void DifferencePatterns::setOpen(Project &project, int position, int line, Known
         m_pendingGone += known.targetLine == -1 ? step : 0;
         return;
     }
-    (m_patterns[size_t(known.pattern)].gone ? m_goneLines : m_openLines) += step;
-    Pattern &pattern = m_patterns[size_t(known.pattern)];
-    pattern.lines += step;
-    pattern.sum += step * qint64(std::llround(known.probability * ProbabilitySteps));
-    if (open) {
-        pattern.open[position][line] = known.probability;
-        return;
-    }
-    const auto lines = pattern.open.find(position);
-    lines->second.erase(line);
-    if (lines->second.empty())
-        pattern.open.erase(lines);
+    (gone(known.pattern) ? m_goneLines : m_openLines) += step;
+    if (open)
+        m_table.add(known.pattern, {position, line}, known.probability);
+    else
+        m_table.remove(known.pattern, {position, line});
 }
 
 void DifferencePatterns::setMapping(int position, const PrjMappingC &mapping)
@@ -309,69 +214,6 @@ void DifferencePatterns::add(int position, const std::vector<OpenPair> &pairs)
     }
 }
 
-DifferencePatterns::Numbers DifferencePatterns::numbers(int index) const
-{
-    const Pattern &pattern = m_patterns[size_t(index)];
-    Numbers numbers{pattern.lines, int(pattern.open.size()), 0, 0};
-    if (pattern.lines > 0)
-        numbers.probability = double(pattern.sum) / (ProbabilitySteps * pattern.lines);
-    for (const int other : pattern.larger)
-        numbers.exceptions += m_patterns[size_t(other)].lines;
-    return numbers;
-}
-
-std::vector<int> DifferencePatterns::ranked(bool gone) const
-{
-    std::vector<int> ranked;
-    for (int i = 0; i < count(); ++i) {
-        if (m_patterns[size_t(i)].lines > 0 && m_patterns[size_t(i)].gone.has_value() == gone)
-            ranked.push_back(i);
-    }
-    std::stable_sort(ranked.begin(), ranked.end(), [this](int a, int b) {
-        return m_patterns[size_t(a)].lines > m_patterns[size_t(b)].lines;
-    });
-    return ranked;
-}
-
-std::vector<DifferencePatterns::Place> DifferencePatterns::places(int pattern, int most) const
-{
-    std::vector<Place> places;
-    for (const auto &[project, lines] : m_patterns[size_t(pattern)].open) {
-        for (const auto &[line, probability] : lines) {
-            if (most >= 0 && int(places.size()) == most)
-                return places;
-            places.push_back({project, line});
-        }
-    }
-    return places;
-}
-
-std::vector<int> DifferencePatterns::lines(int pattern, int project) const
-{
-    std::vector<int> lines;
-    const auto &open = m_patterns[size_t(pattern)].open;
-    const auto found = open.find(project);
-    if (found == open.end())
-        return lines;
-    lines.reserve(found->second.size());
-    for (const auto &[line, probability] : found->second)
-        lines.push_back(line);
-    return lines;
-}
-
-std::vector<DifferencePatterns::Place> DifferencePatterns::exceptions(int pattern, int most) const
-{
-    std::vector<Place> found;
-    for (const int other : m_patterns[size_t(pattern)].larger) {
-        const std::vector<Place> some = places(other, most);
-        found.insert(found.end(), some.begin(), some.end());
-    }
-    std::sort(found.begin(), found.end());
-    if (most >= 0 && int(found.size()) > most)
-        found.resize(size_t(most));
-    return found;
-}
-
 int DifferencePatterns::patternOf(const Place &place) const
 {
     if (place.project < 0 || size_t(place.project) >= m_projects.size())
@@ -395,26 +237,6 @@ std::optional<double> DifferencePatterns::probability(const Place &place) const
     if (patternOf(place) < 0)
         return std::nullopt;
     return m_projects[size_t(place.project)].lines.at(place.line).probability;
-}
-
-std::vector<DifferencePatterns::Place> DifferencePatterns::leastSure() const
-{
-    std::vector<std::pair<double, Place>> sorted;
-    sorted.reserve(size_t(m_openLines));
-    for (const Pattern &pattern : m_patterns) {
-        if (pattern.gone)
-            continue;
-        for (const auto &[project, lines] : pattern.open) {
-            for (const auto &[line, probability] : lines)
-                sorted.push_back({probability, {project, line}});
-        }
-    }
-    std::sort(sorted.begin(), sorted.end());
-    std::vector<Place> places;
-    places.reserve(sorted.size());
-    for (const auto &[probability, place] : sorted)
-        places.push_back(place);
-    return places;
 }
 
 } // namespace VelkRelease

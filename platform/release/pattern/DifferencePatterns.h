@@ -2,10 +2,10 @@
 
 #include "ChangeGroups.h"
 #include "GoneFamilies.h"
+#include "PatternTable.h"
 
 #include <geomcore/records/ReleaseMappingC.h>
 
-#include <QHash>
 #include <QStringList>
 
 #include <atomic>
@@ -28,24 +28,8 @@ namespace VelkRelease {
 class VELKRELEASE_EXPORT DifferencePatterns
 {
 public:
-    struct Place
-    {
-        int project = -1; ///< position of the mapping in the release
-        int line = -1;
-
-        friend bool operator==(const Place &, const Place &) = default;
-        // NOLINTNEXTLINE(modernize-use-nullptr): the comparison that is made has no pointer
-        friend auto operator<=>(const Place &, const Place &) = default;
-    };
-    struct Numbers
-    {
-        int lines = 0;
-        int projects = 0;
-        double probability = 0; ///< mean of the lines
-        int exceptions = 0;     ///< lines of patterns named by these changes and more besides
-
-        friend bool operator==(const Numbers &, const Numbers &) = default;
-    };
+    using Place = PatternTable::Place;
+    using Numbers = PatternTable::Numbers;
     /// The pairs of one project, as they were read.
     struct Read
     {
@@ -80,38 +64,41 @@ public:
     /// Enters what was read of pending lines. What is no longer proposed is passed over.
     void add(int project, const std::vector<OpenPair> &pairs);
 
-    [[nodiscard]] int count() const { return int(m_patterns.size()); }
+    [[nodiscard]] int count() const { return m_table.count(); }
     /// In the order of the variables; empty for lines that differ in nothing, and for those that
     /// cannot be compared.
     [[nodiscard]] const QList<ValueChange> &changes(int pattern) const
     {
-        return m_patterns[size_t(pattern)].changes;
+        return m_table.changes(pattern);
     }
-    [[nodiscard]] bool isComparable(int pattern) const
-    {
-        return m_patterns[size_t(pattern)].comparable;
-    }
+    [[nodiscard]] bool isComparable(int pattern) const { return m_table.isComparable(pattern); }
     /// Its lines are in doubt.
-    [[nodiscard]] bool isDoubtful(int pattern) const
-    {
-        return m_patterns[size_t(pattern)].doubtful;
-    }
+    [[nodiscard]] bool isDoubtful(int pattern) const { return m_table.isDoubtful(pattern); }
     /// What its lines, which have no successor, have in common; nothing of lines with a proposal.
     [[nodiscard]] const std::optional<GoneGroup> &gone(int pattern) const
     {
-        return m_patterns[size_t(pattern)].gone;
+        return m_table.gone(pattern);
     }
     /// The probability is that of the proposals, or that there is no successor.
-    [[nodiscard]] Numbers numbers(int pattern) const;
+    [[nodiscard]] Numbers numbers(int pattern) const { return m_table.numbers(pattern); }
     /// Patterns with a proposal that have lines, those of most lines first.
-    [[nodiscard]] std::vector<int> ranked() const { return ranked(false); }
+    [[nodiscard]] std::vector<int> ranked() const { return m_table.ranked(false); }
     /// The same of those without a successor.
-    [[nodiscard]] std::vector<int> rankedGone() const { return ranked(true); }
+    [[nodiscard]] std::vector<int> rankedGone() const { return m_table.ranked(true); }
     /// At most \a most open lines of a pattern, in the order of release and lines.
-    [[nodiscard]] std::vector<Place> places(int pattern, int most = -1) const;
+    [[nodiscard]] std::vector<Place> places(int pattern, int most = -1) const
+    {
+        return m_table.places(pattern, most);
+    }
     /// Those of one project.
-    [[nodiscard]] std::vector<int> lines(int pattern, int project) const;
-    [[nodiscard]] std::vector<Place> exceptions(int pattern, int most = -1) const;
+    [[nodiscard]] std::vector<int> lines(int pattern, int project) const
+    {
+        return m_table.lines(pattern, project);
+    }
+    [[nodiscard]] std::vector<Place> exceptions(int pattern, int most = -1) const
+    {
+        return m_table.exceptions(pattern, most);
+    }
     /// The pattern of an open line, -1 if it has none.
     [[nodiscard]] int patternOf(const Place &place) const;
     /// All changes of an open line that was compared, also those that its pattern does not name.
@@ -123,7 +110,7 @@ public:
     /// The same of those without a successor.
     [[nodiscard]] int goneLines() const { return m_goneLines + m_pendingGone; }
     /// All open lines with a proposal that were compared, the least probable first.
-    [[nodiscard]] std::vector<Place> leastSure() const;
+    [[nodiscard]] std::vector<Place> leastSure() const { return m_table.leastSure(); }
     /// What could not be read, in the order of the release.
     [[nodiscard]] const QStringList &errors() const { return m_errors; }
 
@@ -142,36 +129,13 @@ private:
         std::map<int, Known> lines;
         int pending = 0;
     };
-    struct Pattern
-    {
-        QList<ValueChange> changes;
-        bool comparable = true;
-        bool doubtful = false;
-        std::optional<GoneGroup> gone;
-        std::map<int, std::map<int, double>> open; ///< probability of lines, by project
-        int lines = 0;
-        /// Of the probabilities, in whole steps, so that it does not depend on the order in which
-        /// lines came and went.
-        qint64 sum = 0;
-        std::vector<int> larger; ///< patterns with all these changes and others
-    };
-
-    [[nodiscard]] std::vector<int> ranked(bool gone) const;
-    [[nodiscard]] int patternFor(const OpenPair &pair, const QList<ValueChange> &changes);
-    [[nodiscard]] int goneFor(const OpenPair &pair, const PrjMappingC &mapping);
-    [[nodiscard]] std::vector<int> changeIds(const QList<ValueChange> &changes);
-    void noteLarger(int pattern);
     void enter(Project &project, int position, const OpenPair &pair, const QList<ValueChange> &own);
     void setOpen(Project &project, int position, int line, Known &known, bool open);
 
     ChangeGroups m_groups;
     GoneFamilies m_goneFamilies;
     std::vector<Project> m_projects;
-    std::vector<Pattern> m_patterns;
-    QHash<QString, int> m_patternOf;           ///< by a name of all changes
-    QHash<QString, int> m_changeOf;            ///< by a name of one change
-    std::vector<std::vector<int>> m_changesOf; ///< of each pattern, ascending
-    std::vector<std::vector<int>> m_having;    ///< patterns that have a change
+    PatternTable m_table;
     /// Changes of lines that are shown by others, with all of theirs.
     std::map<Place, QList<ValueChange>> m_own;
     int m_openLines = 0;

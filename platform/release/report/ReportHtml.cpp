@@ -1,8 +1,7 @@
 #include "ReportHtml.h"
 
-#include <QTextStream>
+#include "HtmlPage.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace VelkRelease {
@@ -10,15 +9,6 @@ namespace VelkRelease {
 namespace {
 
 constexpr int ExampleCount = 3;
-
-// Dark text on white and grey, on paper too.
-constexpr const char *style =
-    "body { font-family: sans-serif; color: #1a1a1a; background: #ffffff; }\n"
-    "h1 { font-size: 150%; }\n"
-    "h2 { font-size: 120%; }\n"
-    "th { background-color: #e4e8ec; text-align: left; }\n"
-    "th, td { padding: 2px 6px; vertical-align: top; }\n"
-    "td.n, th.n { text-align: right; }\n";
 
 /// "cat/a.prj:3, 17; cat/b.prj:2" of places that are told one after the other.
 QString placesText(const QStringList &places)
@@ -44,7 +34,7 @@ public:
     HtmlWriter(const ReleaseReport &report, const ReportForm &form)
         : m_report(report)
         , m_form(form)
-        , m_out(&m_html)
+        , m_page({form.mostRows, form.text(ReportText::Nothing), form.text(ReportText::More)})
     {
     }
 
@@ -52,22 +42,10 @@ public:
 
 private:
     [[nodiscard]] QString text(ReportText text) const { return m_form.text(text); }
-    void heading(ReportText text)
-    {
-        m_out << "<h2>" << m_form.text(text).toHtmlEscaped() << "</h2>\n";
-    }
-    void beginTable() { m_out << "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\">\n"; }
-    void endTable() { m_out << "</table>\n"; }
-    void headCells(std::initializer_list<ReportText> texts, bool numbers = false);
-    void cell(const QString &text) { m_out << "<td>" << text.toHtmlEscaped() << "</td>"; }
-    void number(const QString &text)
-    {
-        m_out << "<td class=\"n\" align=\"right\">" << text.toHtmlEscaped() << "</td>";
-    }
-    void number(int value) { number(QString::number(value)); }
-    /// Calls \a row with each index; a section without entries says so.
-    template<class Row>
-    void rows(std::size_t count, int columns, Row row);
+    /// A heading and a table's row of heads: of texts first, then of numbers, then of texts again.
+    void beginSection(ReportText head, const QList<ReportText> &columns,
+                      const QList<ReportText> &numbers = {}, const QList<ReportText> &last = {});
+    [[nodiscard]] QStringList texts(const QList<ReportText> &texts) const;
 
     void writeHead();
     void writeTotal();
@@ -90,56 +68,47 @@ private:
 
     const ReleaseReport &m_report;
     const ReportForm &m_form;
-    QString m_html;
-    QTextStream m_out;
+    HtmlPage m_page;
 };
 
-void HtmlWriter::headCells(std::initializer_list<ReportText> texts, bool numbers)
+QStringList HtmlWriter::texts(const QList<ReportText> &texts) const
 {
-    const char *const begin = numbers ? "<th class=\"n\" align=\"right\">" : "<th align=\"left\">";
+    QStringList told;
     for (const ReportText each : texts)
-        m_out << begin << text(each).toHtmlEscaped() << "</th>";
+        told << text(each);
+    return told;
 }
 
-template<class Row>
-void HtmlWriter::rows(std::size_t count, int columns, Row row)
+void HtmlWriter::beginSection(ReportText head, const QList<ReportText> &columns,
+                              const QList<ReportText> &numbers, const QList<ReportText> &last)
 {
-    const std::size_t most = m_form.mostRows < 0 ? count : std::size_t(m_form.mostRows);
-    for (std::size_t i = 0; i < std::min(count, most); ++i) {
-        m_out << "<tr>";
-        row(i);
-        m_out << "</tr>\n";
-    }
-    const QString last = count == 0     ? text(ReportText::Nothing)
-                         : count > most ? text(ReportText::More).arg(count - most)
-                                        : QString();
-    if (!last.isEmpty())
-        m_out << "<tr><td colspan=\"" << columns << "\">" << last.toHtmlEscaped() << "</td></tr>\n";
+    m_page.heading(text(head));
+    m_page.beginTable();
+    m_page.beginRow();
+    m_page.heads(texts(columns));
+    m_page.numberHeads(texts(numbers));
+    m_page.heads(texts(last));
+    m_page.endRow();
 }
 
 void HtmlWriter::writeHead()
 {
-    const QString title = text(ReportText::Title).arg(m_report.name).toHtmlEscaped();
-    m_out
-        << "<!DOCTYPE html>\n<html lang=\"" << m_form.language.toHtmlEscaped()
-        << "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" << title << "</title>\n<style>\n"
-        << style << "</style>\n</head>\n<body>\n<h1>" << title << "</h1>\n<p>"
-        << text(ReportText::Releases).arg(m_report.sourceDate, m_report.targetDate).toHtmlEscaped();
+    m_page.begin(text(ReportText::Title).arg(m_report.name), m_form.language);
+    QStringList rows{text(ReportText::Releases).arg(m_report.sourceDate, m_report.targetDate)};
     if (m_report.made.isValid())
-        m_out << "<br>" << text(ReportText::Made).arg(m_form.time(m_report.made)).toHtmlEscaped();
+        rows << text(ReportText::Made).arg(m_form.time(m_report.made));
+    m_page.paragraph(rows);
     const ReportNumbers &numbers = m_report.total.numbers;
-    m_out << "</p>\n<p><b>"
-          << text(ReportText::Summary)
-                 .arg(QString::number(numbers.lines() - numbers.open()),
-                      QString::number(numbers.lines()), QString::number(numbers.open()))
-                 .toHtmlEscaped()
-          << "</b></p>\n";
+    m_page.strongParagraph(text(ReportText::Summary)
+                               .arg(QString::number(numbers.lines() - numbers.open()),
+                                    QString::number(numbers.lines()),
+                                    QString::number(numbers.open())));
 }
 
 void HtmlWriter::writeTotal()
 {
-    heading(ReportText::TotalHead);
-    beginTable();
+    m_page.heading(text(ReportText::TotalHead));
+    m_page.beginTable();
     const ReportNumbers &numbers = m_report.total.numbers;
     const std::pair<ReportText, int> all[] = {
         {ReportText::Confirmed, numbers.confirmed},
@@ -151,60 +120,50 @@ void HtmlWriter::writeTotal()
         {ReportText::Lines, numbers.lines()},
     };
     for (const auto &[name, count] : all) {
-        m_out << "<tr>";
-        cell(text(name));
-        number(count);
-        m_out << "</tr>\n";
+        m_page.beginRow();
+        m_page.cell(text(name));
+        m_page.number(count);
+        m_page.endRow();
     }
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeNumbers(const ReportNumbers &numbers)
 {
     for (const int count : {numbers.confirmed, numbers.gone, numbers.certain, numbers.toCheck,
                             numbers.withoutTarget, numbers.inConflict, numbers.lines()})
-        number(count);
+        m_page.number(count);
 }
 
 void HtmlWriter::writeParts(ReportText head, ReportText column,
                             const std::vector<ReleaseReport::Part> &parts)
 {
-    heading(head);
-    beginTable();
-    m_out << "<tr>";
-    headCells({column});
-    headCells({ReportText::Confirmed, ReportText::Gone, ReportText::Certain, ReportText::ToCheck,
-               ReportText::WithoutTarget, ReportText::InConflict, ReportText::Lines},
-              true);
-    m_out << "</tr>\n";
-    rows(parts.size(), 8, [&](std::size_t i) {
+    beginSection(head, {column},
+                 {ReportText::Confirmed, ReportText::Gone, ReportText::Certain, ReportText::ToCheck,
+                  ReportText::WithoutTarget, ReportText::InConflict, ReportText::Lines});
+    m_page.rows(parts.size(), 8, [&](std::size_t i) {
         const ReleaseReport::Part &part = parts[i];
-        cell(part.hasTableError && column == ReportText::Project
-                 ? part.path + QStringLiteral(" (") + text(ReportText::TableError) + u')'
-                 : part.path);
+        m_page.cell(part.hasTableError && column == ReportText::Project
+                        ? part.path + QStringLiteral(" (") + text(ReportText::TableError) + u')'
+                        : part.path);
         writeNumbers(part.numbers);
     });
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeReasons()
 {
-    heading(ReportText::ReasonHead);
-    beginTable();
-    m_out << "<tr>";
-    headCells({ReportText::Reason});
-    headCells({ReportText::Lines}, true);
-    m_out << "</tr>\n";
+    beginSection(ReportText::ReasonHead, {ReportText::Reason}, {ReportText::Lines});
     std::vector<int> shown;
     for (int i = 0; i < OpenReasonCount; ++i) {
         if (m_report.total.reasons[size_t(i)] > 0)
             shown.push_back(i);
     }
-    rows(shown.size(), 2, [&](std::size_t i) {
-        cell(m_form.reason(OpenReason(shown[i])));
-        number(m_report.total.reasons[size_t(shown[i])]);
+    m_page.rows(shown.size(), 2, [&](std::size_t i) {
+        m_page.cell(m_form.reason(OpenReason(shown[i])));
+        m_page.number(m_report.total.reasons[size_t(shown[i])]);
     });
-    endTable();
+    m_page.endTable();
 }
 
 QString HtmlWriter::patternText(int pattern) const
@@ -228,10 +187,10 @@ QString HtmlWriter::patternText(int pattern) const
 void HtmlWriter::writePattern(int pattern)
 {
     const DifferencePatterns::Numbers numbers = m_report.patterns.numbers(pattern);
-    cell(patternText(pattern));
-    number(numbers.lines);
-    number(numbers.projects);
-    number(QString::number(numbers.probability, 'f', 2));
+    m_page.cell(patternText(pattern));
+    m_page.number(numbers.lines);
+    m_page.number(numbers.projects);
+    m_page.number(QString::number(numbers.probability, 'f', 2));
 }
 
 void HtmlWriter::writeExamples(int pattern)
@@ -239,7 +198,7 @@ void HtmlWriter::writeExamples(int pattern)
     QStringList examples;
     for (const DifferencePatterns::Place &place : m_report.patterns.places(pattern, ExampleCount))
         examples << m_report.placeText(place.project, place.line);
-    cell(examples.join(QStringLiteral(", ")));
+    m_page.cell(examples.join(QStringLiteral(", ")));
 }
 
 /// Below rows whose second column says lines: of all rows, also of those that a long list leaves
@@ -248,154 +207,125 @@ void HtmlWriter::writeSum(int lines, int columns)
 {
     if (lines == 0)
         return;
-    m_out << "<tr>";
-    cell(text(ReportText::InAll));
-    number(lines);
-    m_out << "<td colspan=\"" << columns - 2 << "\"></td></tr>\n";
+    m_page.beginRow();
+    m_page.cell(text(ReportText::InAll));
+    m_page.number(lines);
+    m_page.emptyCells(columns - 2);
+    m_page.endRow();
 }
 
 void HtmlWriter::writePatterns()
 {
-    heading(ReportText::PatternHead);
-    beginTable();
-    m_out << "<tr>";
-    headCells({ReportText::Pattern});
-    headCells(
+    beginSection(
+        ReportText::PatternHead, {ReportText::Pattern},
         {ReportText::Lines, ReportText::Projects, ReportText::Probability, ReportText::Exceptions},
-        true);
-    headCells({ReportText::Examples});
-    m_out << "</tr>\n";
+        {ReportText::Examples});
     const std::vector<int> ranked = m_report.patterns.ranked();
-    rows(ranked.size(), 6, [&](std::size_t i) {
+    m_page.rows(ranked.size(), 6, [&](std::size_t i) {
         writePattern(ranked[i]);
-        number(m_report.patterns.numbers(ranked[i]).exceptions);
+        m_page.number(m_report.patterns.numbers(ranked[i]).exceptions);
         writeExamples(ranked[i]);
     });
     writeSum(m_report.patterns.openLines(), 6);
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeGoneGroups()
 {
-    heading(ReportText::GoneGroupHead);
-    beginTable();
-    m_out << "<tr>";
-    headCells({ReportText::GoneGroup});
-    headCells({ReportText::Lines, ReportText::Projects, ReportText::Probability}, true);
-    headCells({ReportText::Examples});
-    m_out << "</tr>\n";
+    beginSection(ReportText::GoneGroupHead, {ReportText::GoneGroup},
+                 {ReportText::Lines, ReportText::Projects, ReportText::Probability},
+                 {ReportText::Examples});
     const std::vector<int> ranked = m_report.patterns.rankedGone();
-    rows(ranked.size(), 5, [&](std::size_t i) {
+    m_page.rows(ranked.size(), 5, [&](std::size_t i) {
         writePattern(ranked[i]);
         writeExamples(ranked[i]);
     });
     writeSum(m_report.patterns.goneLines(), 5);
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeSamples()
 {
-    heading(ReportText::SampleHead);
-    beginTable();
-    m_out << "<tr>";
-    headCells({ReportText::Time, ReportText::Who});
-    headCells({ReportText::Lines, ReportText::Judged, ReportText::Right, ReportText::Bound}, true);
-    headCells({ReportText::Drawn});
-    m_out << "</tr>\n";
-    rows(m_report.samples.size(), 7, [&](std::size_t i) {
+    beginSection(ReportText::SampleHead, {ReportText::Time, ReportText::Who},
+                 {ReportText::Lines, ReportText::Judged, ReportText::Right, ReportText::Bound},
+                 {ReportText::Drawn});
+    m_page.rows(m_report.samples.size(), 7, [&](std::size_t i) {
         const ReleaseReport::Sample &sample = m_report.samples[i];
-        cell(m_form.time(sample.time));
-        cell(sample.judge);
-        number(sample.lines);
-        number(sample.judged);
-        number(sample.right);
+        m_page.cell(m_form.time(sample.time));
+        m_page.cell(sample.judge);
+        m_page.number(sample.lines);
+        m_page.number(sample.judged);
+        m_page.number(sample.right);
         // Rounded up, or it would promise too much.
-        number(sample.bound ? QString::number(std::ceil(*sample.bound * 1000) / 10, 'f', 1) +
-                                  QStringLiteral(" %")
-                            : text(ReportText::Refused));
-        cell(placesText(sample.drawn));
+        m_page.number(sample.bound ? QString::number(std::ceil(*sample.bound * 1000) / 10, 'f', 1) +
+                                         QStringLiteral(" %")
+                                   : text(ReportText::Refused));
+        m_page.cell(placesText(sample.drawn));
     });
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeCarried()
 {
-    heading(ReportText::CarriedHead);
-    beginTable();
-    m_out << "<tr>";
-    headCells({ReportText::Time, ReportText::Who, ReportText::Former});
-    headCells({ReportText::Lines, ReportText::Standing}, true);
-    m_out << "</tr>\n";
-    rows(m_report.carried.size(), 5, [&](std::size_t i) {
+    beginSection(ReportText::CarriedHead, {ReportText::Time, ReportText::Who, ReportText::Former},
+                 {ReportText::Lines, ReportText::Standing});
+    m_page.rows(m_report.carried.size(), 5, [&](std::size_t i) {
         const ReleaseReport::Carried &carried = m_report.carried[i];
-        cell(m_form.time(carried.time));
-        cell(carried.who);
-        cell(QStringLiteral("%1 (%2)").arg(carried.former, carried.formerTarget));
-        number(carried.lines);
-        number(carried.standing);
+        m_page.cell(m_form.time(carried.time));
+        m_page.cell(carried.who);
+        m_page.cell(QStringLiteral("%1 (%2)").arg(carried.former, carried.formerTarget));
+        m_page.number(carried.lines);
+        m_page.number(carried.standing);
     });
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeDecisions()
 {
-    heading(ReportText::DecisionHead);
-    beginTable();
-    m_out << "<tr>";
-    headCells({ReportText::Time, ReportText::Who, ReportText::What, ReportText::Reason});
-    headCells({ReportText::Lines}, true);
-    m_out << "</tr>\n";
-    rows(m_report.decisions.size(), 5, [&](std::size_t i) {
+    beginSection(ReportText::DecisionHead,
+                 {ReportText::Time, ReportText::Who, ReportText::What, ReportText::Reason},
+                 {ReportText::Lines});
+    m_page.rows(m_report.decisions.size(), 5, [&](std::size_t i) {
         const ReleaseReport::Decision &decision = m_report.decisions[i];
-        cell(m_form.time(decision.time));
-        cell(decision.who);
-        cell(decision.what);
-        cell(decision.reason);
-        number(decision.lines);
+        m_page.cell(m_form.time(decision.time));
+        m_page.cell(decision.who);
+        m_page.cell(decision.what);
+        m_page.cell(decision.reason);
+        m_page.number(decision.lines);
     });
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeOpenLines()
 {
-    heading(ReportText::OpenHead);
-    beginTable();
-    m_out << "<tr>";
-    headCells({ReportText::Line, ReportText::Designation, ReportText::Reason});
-    m_out << "</tr>\n";
-    rows(m_report.openLines.size(), 3, [&](std::size_t i) {
+    beginSection(ReportText::OpenHead,
+                 {ReportText::Line, ReportText::Designation, ReportText::Reason});
+    m_page.rows(m_report.openLines.size(), 3, [&](std::size_t i) {
         const ReleaseReport::OpenLine &line = m_report.openLines[i];
-        cell(m_report.placeText(line.project, line.line));
-        cell(line.designation);
-        cell(m_form.reason(line.reason));
+        m_page.cell(m_report.placeText(line.project, line.line));
+        m_page.cell(line.designation);
+        m_page.cell(m_form.reason(line.reason));
     });
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeGoneLines()
 {
-    heading(ReportText::GoneHead);
-    beginTable();
-    m_out << "<tr>";
-    headCells({ReportText::Line, ReportText::Designation});
-    m_out << "</tr>\n";
-    rows(m_report.goneLines.size(), 2, [&](std::size_t i) {
+    beginSection(ReportText::GoneHead, {ReportText::Line, ReportText::Designation});
+    m_page.rows(m_report.goneLines.size(), 2, [&](std::size_t i) {
         const ReleaseReport::GoneLine &line = m_report.goneLines[i];
-        cell(m_report.placeText(line.project, line.line));
-        cell(line.designation);
+        m_page.cell(m_report.placeText(line.project, line.line));
+        m_page.cell(line.designation);
     });
-    endTable();
+    m_page.endTable();
 }
 
 void HtmlWriter::writeErrors()
 {
     if (m_report.errors.isEmpty())
         return;
-    heading(ReportText::ErrorHead);
-    m_out << "<ul>\n";
-    for (const QString &error : m_report.errors)
-        m_out << "<li>" << error.toHtmlEscaped() << "</li>\n";
-    m_out << "</ul>\n";
+    m_page.heading(text(ReportText::ErrorHead));
+    m_page.list(m_report.errors);
 }
 
 QString HtmlWriter::write()
@@ -413,9 +343,7 @@ QString HtmlWriter::write()
     writeDecisions();
     writeOpenLines();
     writeGoneLines();
-    m_out << "</body>\n</html>\n";
-    m_out.flush();
-    return m_html;
+    return m_page.end();
 }
 
 } // namespace

@@ -1,15 +1,12 @@
 #pragma once
 
 #include "SharedPlace.h"
-
-#include <geomcore/repository/RepositoryClient.h>
+#include "SubversionStore.h"
 
 namespace VelkRelease {
 
 /// A file in a working copy of a Subversion repository, which nobody else changes. The revision is
-/// the one that last changed the file. The user's own Subversion settings and logins hold. What a
-/// client that was killed left is cleaned up; a store that it damaged is fetched anew, with all
-/// files as they are, and the former one stays beside it.
+/// the one that last changed the file.
 class SubversionPlace : public SharedPlace
 {
 public:
@@ -25,36 +22,6 @@ public:
     [[nodiscard]] ShareAnswer writeNote(const QString &name, const QByteArray &bytes) override;
 
 private:
-    /// What the client knows of a path in the working copy.
-    struct Entry
-    {
-        bool exists = false;
-        QString url;
-        QString root;     ///< of the working copy
-        QString checkout; ///< revision as it was brought up to date
-        QString revision; ///< that last changed it; empty if it was never committed
-        QString depth;
-    };
-    /// What the working copy is of, as far as a store has to be made anew from it.
-    struct Origin
-    {
-        QString root;
-        QString url;
-        QString depth;
-        QString oldest;   ///< revision of a file
-        QString checkout; ///< revision as the working copy was brought up to date
-    };
-
-    /// Runs the client, again after what could be put right.
-    [[nodiscard]] RepositoryAnswer svn(const QStringList &arguments);
-    [[nodiscard]] RepositoryAnswer withoutWaiting(const QStringList &arguments) const;
-    [[nodiscard]] RepositoryAnswer afterOthers(const QStringList &arguments);
-    [[nodiscard]] bool makeStoreAnew();
-    void noteOrigin();
-    [[nodiscard]] bool bringUpToDate(const QString &root, const QString &formerStore) const;
-    [[nodiscard]] bool originOf(const QString &root, Origin &origin);
-    [[nodiscard]] bool oldestRevision(const QString &root, QString &oldest) const;
-    [[nodiscard]] RepositoryAnswer entry(const QString &path, Entry &entry);
     [[nodiscard]] ShareAnswer revision(QString &revision);
     [[nodiscard]] ShareAnswer fetchAlone(SharedCopy &copy);
     [[nodiscard]] ShareAnswer fetchRevision(QString &found);
@@ -62,7 +29,7 @@ private:
     [[nodiscard]] ShareAnswer commit(const QStringList &files, const QString &message);
     [[nodiscard]] ShareAnswer putNote(const QString &note, const QByteArray &bytes);
 
-    RepositoryClient m_client;
+    SubversionStore m_store;
     bool m_isFetched = false;
 };
 

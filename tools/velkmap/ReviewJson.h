@@ -1,0 +1,14 @@
+#pragma once
+
+QT_BEGIN_NAMESPACE
+class QTextStream;
+QT_END_NAMESPACE
+
+namespace velkmap {
+
+struct ReviewReport;
+
+/// Tells a review as the JSON of docs/formats.md, for programs.
+void writeReviewJson(const ReviewReport &report, QTextStream &out);
+
+} // namespace velkmap
