@@ -1,5 +1,6 @@
 #include "ReleaseMappingDirectoryNode.h"
 
+#include "CatalogNodeType.h"
 #include "ReleaseMappingTree.h"
 
 ReleaseMappingDirectoryNode::ReleaseMappingDirectoryNode(
@@ -17,7 +18,7 @@ ReleaseMappingDirectoryNode::~ReleaseMappingDirectoryNode() = default;
 
 int ReleaseMappingDirectoryNode::getNodeType() const
 {
-    return 1;
+    return CatalogNodeType::Directory;
 }
 
 QString ReleaseMappingDirectoryNode::getName() const

@@ -1,5 +1,7 @@
 #include "ReleaseMappingProjectNode.h"
 
+#include "CatalogNodeType.h"
+
 ReleaseMappingProjectNode::ReleaseMappingProjectNode(
     int position, const boost::shared_ptr<WatchedRelease> &release)
     : m_position(position)
@@ -11,7 +13,7 @@ ReleaseMappingProjectNode::~ReleaseMappingProjectNode() = default;
 
 int ReleaseMappingProjectNode::getNodeType() const
 {
-    return 2;
+    return CatalogNodeType::Project;
 }
 
 QString ReleaseMappingProjectNode::getName() const

@@ -1,5 +1,6 @@
 #include "ReleaseMappingStructureNode.h"
 
+#include "CatalogNodeType.h"
 #include "ReleaseMappingTree.h"
 
 ReleaseMappingStructureNode::ReleaseMappingStructureNode(
@@ -13,7 +14,7 @@ ReleaseMappingStructureNode::~ReleaseMappingStructureNode() = default;
 
 int ReleaseMappingStructureNode::getNodeType() const
 {
-    return 0;
+    return CatalogNodeType::Root;
 }
 
 QString ReleaseMappingStructureNode::getName() const

@@ -5,6 +5,7 @@
 
 #include <core/text/PPathName.h>
 #include <core/text/PString.h>
+#include <geomcore/records/MappingChangeType.h>
 #include <geomcore/records/ReleaseMappingC.h>
 #include <geomcore/table/Line.h>
 #include <geomcore/table/readProjectTable.h>
@@ -142,7 +143,8 @@ QString MappingConflictWidgetPrivate::changeList(const QList<MappingChange> &cha
 {
     QString text;
     for (const MappingChange &change : changes) {
-        if (change.type == 11 || change.type == 12)
+        if (change.type == MappingChangeType::ExtendedText ||
+            change.type == MappingChangeType::ProjectVersions)
             continue;
         const QString line = describeChange(change, local);
         if (!line.isEmpty())
@@ -187,7 +189,7 @@ void MappingConflictWidgetPrivate::acceptLine(int lineId)
     const QList<MappingChange> changes = localChanges.values(key());
     const MappingChange *accepted = nullptr;
     for (const MappingChange &change : changes)
-        if (change.type == 0 && change.lineId == lineId)
+        if (change.type == MappingChangeType::LineChanged && change.lineId == lineId)
             accepted = &change;
     if (accepted)
         setChangeConflicted(*accepted, false);

@@ -1,6 +1,7 @@
 #include "describeMappingChange.h"
 
 #include <core/text/PString.h>
+#include <geomcore/records/MappingChangeType.h>
 #include <geomcore/table/Line.h>
 
 #include <QDateTime>
@@ -44,7 +45,7 @@ QString describeVersions(const MappingChange &change)
 
 bool isLineChange(const MappingChange &change)
 {
-    return change.type >= 0 && change.type <= 2;
+    return MappingChangeType::isOfLine(change.type);
 }
 
 QString lineDesignation(const VKTab::ContentRef &table, const VKTab::LineId &line)
@@ -57,33 +58,33 @@ QString describeProjectChange(const MappingChange &change)
 {
     const QString path = change.target.getTargetPath();
     switch (change.type) {
-    case 3:
+    case MappingChangeType::TargetRemoved:
         return PString::translate("Das Zielprojekt mit dem Pfad %1 wurde entfernt.",
                                   "VelkLinkDbGui")
             .arg(path);
-    case 4: // that the not-found target was added is not told
+    case MappingChangeType::TargetAdded: // that the not-found target was added is not told
         if (path.isEmpty())
             return QString();
         return PString::translate("Das Zielprojekt mit dem Pfad %1 wurde hinzugefügt.",
                                   "VelkLinkDbGui")
             .arg(path);
-    case 5:
+    case MappingChangeType::MappingRemoved:
         return PString::translate("Es wurde ein Mapping für das Projekt %1 entfernt.",
                                   "VelkLinkDbGui")
             .arg(change.removedMapping.getSourcePath());
-    case 6:
+    case MappingChangeType::MappingAdded:
         return PString::translate("Es wurde ein Mapping für das Projekt %1 hinzugefügt.",
                                   "VelkLinkDbGui")
             .arg(change.addedMapping.getSourcePath());
-    case 9:
+    case MappingChangeType::Conditions:
         return PString::translate("Die Bedingungen für das Projekt %1 wurden geändert.",
                                   "VelkLinkDbGui")
             .arg(path);
-    case 10:
+    case MappingChangeType::VariableMappings:
         return PString::translate("Die Variablenzuordnung für das Projekt %1 wurde geändert.",
                                   "VelkLinkDbGui")
             .arg(path);
-    case 13:
+    case MappingChangeType::TargetVersions:
         return describeVersions(change);
     default:
         return QString();

@@ -6,6 +6,7 @@
 #include "CatalogStructureModel.h"
 
 #include <mapping/data/CatalogMappingHandlerI.h>
+#include <mapping/data/CatalogNodeType.h>
 #include <mapping/project/MappingConflictWidget.h>
 #include <mapping/project/ProjectMappingWidget.h>
 #include <mapping/table/TableMappingWidget.h>
@@ -44,7 +45,7 @@ CatalogMappingWidgetPrivate::Node nodeAt(const QModelIndex &index)
 
 bool isProject(const CatalogMappingWidgetPrivate::Node &node)
 {
-    return node->getNodeType() == 2;
+    return node->getNodeType() == CatalogNodeType::Project;
 }
 
 } // namespace
@@ -266,7 +267,9 @@ void CatalogMappingWidgetPrivate::onTreeContextMenuRequested(const QPoint &pos)
     if (!node)
         return;
     const int type = node->getNodeType();
-    if ((type == 0 || type == 1) && !allowVerifyAllOnDir)
+    const bool isAboveProjects =
+        type == CatalogNodeType::Root || type == CatalogNodeType::Directory;
+    if (isAboveProjects && !allowVerifyAllOnDir)
         return;
     const QPointer<CatalogMappingWidgetPrivate> alive(this);
     QMenu menu;
@@ -274,7 +277,7 @@ void CatalogMappingWidgetPrivate::onTreeContextMenuRequested(const QPoint &pos)
         menu.addAction(PString::translate("Alle Zuordnungen bestätigen", "VelkLinkDbGui"));
     if (menu.exec(treeView->viewport()->mapToGlobal(pos)) != verify || !alive)
         return;
-    if (type == 2)
+    if (type == CatalogNodeType::Project)
         verifyProject(node);
     else
         verifyBelow(node);

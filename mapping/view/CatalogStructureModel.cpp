@@ -3,6 +3,7 @@
 #include "catalogNodeToolTip.h"
 #include "CatalogStructureModelPrivate.h"
 
+#include <mapping/data/CatalogNodeType.h>
 #include <mapping/data/StateTreeI.h>
 
 namespace {
@@ -22,7 +23,7 @@ QVariant nodeVariant(const Node &node)
 
 bool isProject(const CatalogStructureNodeI &node)
 {
-    return node.getNodeType() == 2 || node.getNodeType() == 3;
+    return CatalogNodeType::isProject(node.getNodeType());
 }
 
 } // namespace

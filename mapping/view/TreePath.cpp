@@ -2,6 +2,7 @@
 
 #include "CatalogStructureModel.h"
 
+#include <mapping/data/CatalogNodeType.h>
 #include <mapping/data/CatalogStructureNodeI.h>
 
 #include <QAbstractItemModel>
@@ -20,7 +21,8 @@ bool isProject(const QModelIndex &index, const Project &project)
 {
     const auto node =
         CatalogStructureModel::nodeFrom(index.data(CatalogStructureModel::StructureNodeRole));
-    return node && node->getNodeType() == 2 && node->getPath() == project.path &&
+    return node && node->getNodeType() == CatalogNodeType::Project &&
+           node->getPath() == project.path &&
            (project.version.isEmpty() || node->getMapping().getSourceVersion() == project.version);
 }
 

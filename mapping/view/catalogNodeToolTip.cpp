@@ -1,6 +1,7 @@
 #include "catalogNodeToolTip.h"
 
 #include <core/text/PString.h>
+#include <mapping/data/CatalogNodeType.h>
 #include <mapping/data/CatalogStructureNodeI.h>
 
 namespace {
@@ -16,7 +17,7 @@ void addLine(QString &text, const QString &sentence)
 
 QString tableErrorText(const CatalogStructureNodeI &node)
 {
-    return node.getNodeType() == 1
+    return node.getNodeType() == CatalogNodeType::Directory
                ? PString::translate("Die Tabelle von mindestens einem Quellprojekt konnte nicht "
                                     "geöffnet werden.",
                                     Context)

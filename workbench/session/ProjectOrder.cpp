@@ -1,5 +1,7 @@
 #include "ProjectOrder.h"
 
+#include <mapping/data/CatalogNodeType.h>
+
 ProjectOrder::ProjectOrder(const boost::shared_ptr<CatalogStructureNodeI> &root)
 {
     if (root)
@@ -8,7 +10,7 @@ ProjectOrder::ProjectOrder(const boost::shared_ptr<CatalogStructureNodeI> &root)
 
 void ProjectOrder::add(const boost::shared_ptr<CatalogStructureNodeI> &node)
 {
-    if (node->getNodeType() >= 2) {
+    if (CatalogNodeType::isProject(node->getNodeType())) {
         const PrjMappingC mapping = node->getMapping();
         const QPair<QString, QString> key(mapping.getSourcePath(), mapping.getSourceVersion());
         // A project that is there twice shows the same mapping twice.

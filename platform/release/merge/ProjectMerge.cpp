@@ -4,6 +4,7 @@
 #include "threeWay.h"
 
 #include <geomcore/binding/VarsetConditionI.h>
+#include <geomcore/records/MappingChangeType.h>
 #include <geomcore/records/sameTargetHead.h>
 
 #include <algorithm>
@@ -126,7 +127,7 @@ void ProjectMerge::mergeVersions()
     const auto merged = threeWay(base, versionsOf(mapping(Ours)), theirs);
     if (theirs != base && mapping(Base).isValid()) {
         MappingChange change;
-        change.type = 12;
+        change.type = MappingChangeType::ProjectVersions;
         change.oldProjectVersion = base.first;
         change.newProjectVersion = theirs.first;
         change.oldTableVersion = base.second;
@@ -135,7 +136,7 @@ void ProjectMerge::mergeVersions()
     }
     if (!merged) {
         MappingChange change;
-        change.type = 12;
+        change.type = MappingChangeType::ProjectVersions;
         change.newProjectVersion = mapping(Ours).getSourceVersion();
         change.newTableVersion = mapping(Ours).getTabVersion();
         tellLocal(change);
@@ -147,7 +148,7 @@ void ProjectMerge::mergeVersions()
     if (mapping(Base).isValid() &&
         ((before ^ mapping(Theirs).getMappingState()) & KeptState) != PRJMAPPING::MappingState()) {
         MappingChange change;
-        change.type = 8;
+        change.type = MappingChangeType::StateFlags;
         tellOnline(change);
     }
     m_merged.setMappingState(
@@ -161,9 +162,9 @@ void ProjectMerge::mergeHead(int slot)
     const PrjMappingTargetC *theirs = target(slot, Theirs);
     const bool isReal = !pathOf(slot).isEmpty(); // the other one comes and goes with its lines
     if (isReal && !base && theirs)
-        tellOnline(headChange(slot, Theirs, 4));
+        tellOnline(headChange(slot, Theirs, MappingChangeType::TargetAdded));
     if (isReal && base && !theirs)
-        tellOnline(headChange(slot, Base, 3));
+        tellOnline(headChange(slot, Base, MappingChangeType::TargetRemoved));
     PrjMappingTargetC &merged = m_targets[size_t(slot)];
     if (const PrjMappingTargetC *present = theirs ? theirs : ours ? ours : base)
         merged = *present;
@@ -189,10 +190,12 @@ void ProjectMerge::mergeRules(int slot, const PrjMappingTargetC *former,
         tellLocal(headChange(slot, Ours, type));
         addClash(kind, pathOf(slot));
     };
-    merge(sameConditions, 9, MergeClash::Conditions, [&] { merged.takeConditions(ours); });
-    merge(sameModifiers, 10, MergeClash::VariableMapping, [&] { merged.takeModifiers(ours); });
-    merge([](const auto &a, const auto &b) { return versionsOf(a) == versionsOf(b); }, 13,
-          MergeClash::TargetVersion,
+    merge(sameConditions, MappingChangeType::Conditions, MergeClash::Conditions,
+          [&] { merged.takeConditions(ours); });
+    merge(sameModifiers, MappingChangeType::VariableMappings, MergeClash::VariableMapping,
+          [&] { merged.takeModifiers(ours); });
+    merge([](const auto &a, const auto &b) { return versionsOf(a) == versionsOf(b); },
+          MappingChangeType::TargetVersions, MergeClash::TargetVersion,
           [&] {
               merged.setTargetVersion(ours.getTargetVersion());
               merged.setTabVersion(ours.getTabVersion());
@@ -230,7 +233,7 @@ void ProjectMerge::tellKept(int slot)
         !sameTargetHead(left, *target(slot, Base)))
         addClash(MergeClash::TargetRemoved, pathOf(slot), removedByOurs);
     if (removedByOurs)
-        tellLocal(headChange(slot, Base, 3));
+        tellLocal(headChange(slot, Base, MappingChangeType::TargetRemoved));
 }
 
 bool ProjectMerge::movedTargets(const OrderInput &input) const
@@ -266,12 +269,12 @@ PrjMappingC ProjectMerge::arranged()
     MergedOrder merged = mergeOrder(input, stays, [&](int slot) { return pathOf(slot); });
     if (movedTargets(input)) {
         MappingChange change;
-        change.type = 7;
+        change.type = MappingChangeType::TargetOrder;
         tellOnline(change);
     }
     if (merged.clashes) {
         MappingChange change;
-        change.type = 7;
+        change.type = MappingChangeType::TargetOrder;
         tellLocal(change);
         addClash(MergeClash::TargetOrder);
     }

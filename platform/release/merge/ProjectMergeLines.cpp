@@ -1,6 +1,8 @@
 #include "mergeEntries.h"
 #include "ProjectMerge.h"
 
+#include <geomcore/records/MappingChangeType.h>
+
 #include <algorithm>
 
 namespace VelkRelease {
@@ -39,7 +41,7 @@ void ProjectMerge::mergeLine(const LineGroup &group)
     const bool clashes = group.byOurs && group.byTheirs && !settle(group);
     if (group.byTheirs) {
         const int type = changeType(standing(line, Base), standing(line, Theirs));
-        tellOnline(lineChange(line, Theirs, clashes ? 0 : type));
+        tellOnline(lineChange(line, Theirs, clashes ? int(MappingChangeType::LineChanged) : type));
     }
     if (clashes)
         clashOf(group);
@@ -112,7 +114,7 @@ void ProjectMerge::clashOf(const LineGroup &group)
     clash.ours = standing(line, Ours);
     clash.theirs = standing(line, Theirs);
     m_result->clashes.append(clash);
-    tellLocal(lineChange(line, Ours, 0));
+    tellLocal(lineChange(line, Ours, MappingChangeType::LineChanged));
 }
 
 MappingChange ProjectMerge::lineChange(int line, Side side, int type) const
@@ -138,7 +140,7 @@ MappingChange ProjectMerge::lineChange(int line, Side side, int type) const
     change.otherTargetLine = change.targetLine;
     change.text3 = before.getExtended();
     change.text4 = change.targetLine.getExtended();
-    if (type == 0) {
+    if (type == MappingChangeType::LineChanged) {
         PrjMappingTargetLineC unused;
         change.otherTarget = targetOf(other, unused);
         change.otherMapping = mapping(other);
@@ -152,11 +154,11 @@ MappingChange ProjectMerge::headChange(int slot, Side side, int type) const
     change.type = type;
     change.target = *target(slot, side);
     const PrjMappingTargetC *before = target(slot, Base);
-    if (type == 13 && before) {
+    if (type == MappingChangeType::TargetVersions && before) {
         change.oldProjectVersion = before->getTargetVersion();
         change.oldTableVersion = before->getTabVersion();
     }
-    if (type == 13) {
+    if (type == MappingChangeType::TargetVersions) {
         change.newProjectVersion = change.target.getTargetVersion();
         change.newTableVersion = change.target.getTabVersion();
     }

@@ -2,6 +2,8 @@
 
 #include "threeWay.h"
 
+#include <geomcore/records/MappingChangeType.h>
+
 #include <algorithm>
 
 namespace VelkRelease {
@@ -68,13 +70,14 @@ int changeType(const LineStanding &before, const LineStanding &after)
             standing, [](const LineEntry &e) { return e.line.getTargetLineId() != -1; });
     };
     if (assigned(before) != assigned(after))
-        return assigned(after) ? 1 : 2;
+        return assigned(after) ? MappingChangeType::LineAssigned : MappingChangeType::LineRemoved;
     const auto bare = [](LineStanding standing) {
         for (LineEntry &entry : standing)
             entry.line.clearVarsetList();
         return standing;
     };
-    return before != after && bare(before) == bare(after) ? 11 : 0;
+    return before != after && bare(before) == bare(after) ? MappingChangeType::ExtendedText
+                                                          : MappingChangeType::LineChanged;
 }
 
 } // namespace VelkRelease

@@ -5,6 +5,7 @@
 #include "ProjectMerge.h"
 #include "threeWay.h"
 
+#include <geomcore/records/MappingChangeType.h>
 #include <geomcore/records/sameTargetHead.h>
 
 namespace VelkRelease {
@@ -104,11 +105,11 @@ PrjMappingC ReleaseMerge::left(const PrjMappingC &base, const PrjMappingC &side,
 {
     const QString path = side.getSourcePath();
     MappingChange removed;
-    removed.type = 5;
+    removed.type = MappingChangeType::MappingRemoved;
     removed.removedMapping = base;
     if (!base.isValid()) {
         MappingChange added;
-        added.type = 6;
+        added.type = MappingChangeType::MappingAdded;
         added.addedMapping = side;
         if (!isOurs)
             tell(m_result.online, path, added);

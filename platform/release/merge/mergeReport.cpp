@@ -3,6 +3,7 @@
 #include "mergeFiles.h"
 
 #include <core/json/JsonWriter.h>
+#include <geomcore/records/MappingChangeType.h>
 
 #include <algorithm>
 #include <array>
@@ -113,7 +114,8 @@ void writeChange(JsonWriter &json, const QString &project, const MappingChange &
     json.value(project);
     json.key("type");
     json.value(change.type);
-    if (change.type <= 2 || change.type == 11) {
+    if (MappingChangeType::isOfLine(change.type) ||
+        change.type == MappingChangeType::ExtendedText) {
         json.key("line");
         json.value(change.lineId);
         json.key("targetLine");
