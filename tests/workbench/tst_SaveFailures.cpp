@@ -1,6 +1,8 @@
 #include "../support/SizeLimit.h"
 #include "SaveFixture.h"
 
+#include <workbench/session/OwnFile.h>
+
 #include <QFile>
 
 #include <cerrno>

@@ -145,7 +145,7 @@ void tst_StepRecorder::oneStepOfOneProject()
     const StepRecorder::Finished done = m_steps->finish(releaseOf({after}));
     QCOMPARE(done.kind, Kind::Step);
     QCOMPARE(done.step.text, QStringLiteral("2 Zeilen bestätigt in a.prj"));
-    QCOMPARE(done.step.lines, 2);
+    QCOMPARE(done.step.lines, std::optional(2));
     QCOMPARE(done.step.changes.size(), 1);
     QVERIFY(!done.step.releaseBefore);
     QCOMPARE(pathsOf(done.changed), QStringList{"a.prj"});
@@ -168,7 +168,7 @@ void tst_StepRecorder::changesOfAProjectAreOne()
     QCOMPARE(SessionFixture::bytes(done.step.changes[0].before), SessionFixture::bytes(before));
     QCOMPARE(SessionFixture::bytes(done.step.changes[0].after),
              SessionFixture::bytes(project("a.prj", {1, 2})));
-    QCOMPARE(done.step.lines, 3);
+    QCOMPARE(done.step.lines, std::optional(3));
 }
 
 void tst_StepRecorder::projectsComeInTheOrderOfTheirChanges()
@@ -274,7 +274,7 @@ void tst_StepRecorder::aReleaseIsReplaced()
     const StepRecorder::Finished done = m_steps->finish(after);
     QCOMPARE(done.kind, Kind::Step);
     QVERIFY(done.step.changes.isEmpty());
-    QCOMPARE(done.step.lines, 1);
+    QCOMPARE(done.step.lines, std::optional(1));
     QCOMPARE(SessionFixture::bytes(*done.step.releaseBefore), SessionFixture::bytes(before));
     QCOMPARE(SessionFixture::bytes(*done.step.releaseAfter), SessionFixture::bytes(after));
 }
@@ -292,7 +292,7 @@ void tst_StepRecorder::singleChangesGoIntoTheReplacement()
     const StepRecorder::Finished done = m_steps->finish(releaseOf({project("a.prj", {1, 2, 3})}));
     QCOMPARE(SessionFixture::bytes(*done.step.releaseBefore),
              SessionFixture::bytes(releaseOf({project("a.prj")})));
-    QCOMPARE(done.step.lines, 3);
+    QCOMPARE(done.step.lines, std::optional(3));
 }
 
 void tst_StepRecorder::aNewProjectGoesOutOfTheReplacement()

@@ -1,6 +1,7 @@
 #include "DocumentFile.h"
 
 #include "BackgroundWork.h"
+#include "OwnFile.h"
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "FileContent.h"
 #include "GuardedSave.h"
 #include "MappingDocument.h"
-#include "OwnFile.h"
 #include "SessionRecovery.h"
 
 #include <core/files/EditLock.h>

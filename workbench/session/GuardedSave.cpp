@@ -1,5 +1,6 @@
 #include "GuardedSave.h"
 
+#include "OwnFile.h"
 #include "ReadBack.h"
 
 #include <geomcore/records/MappingFile.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OwnFile.h"
+#include "FileContent.h"
 #include "SaveOutcome.h"
 
 #include <core/json/PJsonValue.h>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "FileContent.h"
 #include "MergeState.h"
-#include "OwnFile.h"
 #include "RecoveryOffer.h"
 #include "SaveOutcome.h"
 #include "SessionTypes.h"

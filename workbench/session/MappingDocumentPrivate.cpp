@@ -1,6 +1,7 @@
 #include "MappingDocumentPrivate.h"
 
 #include "CatalogRootMemory.h"
+#include "OwnFile.h"
 #include "PastSteps.h"
 #include "ReleaseChanges.h"
 

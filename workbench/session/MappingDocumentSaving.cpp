@@ -1,5 +1,6 @@
 #include "CatalogRootMemory.h"
 #include "MappingDocumentPrivate.h"
+#include "OwnFile.h"
 
 #include <QScopeGuard>
 

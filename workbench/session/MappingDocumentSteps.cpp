@@ -3,6 +3,8 @@
 #include "ReleaseChanges.h"
 #include "StepPlaces.h"
 
+#include <mapping/data/CatalogNodeType.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -122,7 +124,7 @@ void MappingDocumentPrivate::tellStep(const UndoStep &step)
     Q_EMIT q->countsChanged();
     Q_EMIT q->undoChanged();
     tellModified();
-    Q_EMIT q->stepDone(step.text, step.lines);
+    Q_EMIT q->stepDone(step.text, step.lines.value_or(0));
 }
 
 void MappingDocumentPrivate::move(Origin direction)
@@ -163,7 +165,7 @@ bool MappingDocumentPrivate::moveStep(int index)
     told.text =
         (back ? MappingDocument::tr("Rückgängig: %1") : MappingDocument::tr("Wiederholt: %1"))
             .arg(step.text);
-    told.lines = qMax(step.lines, 0);
+    told.lines = step.lines.value_or(0);
     steps.journalStep(told.text, back ? Origin::Undo : Origin::Redo, step.key);
     tellStep(told);
     for (const MappingChangePair &change : std::as_const(told.changes))
@@ -255,7 +257,7 @@ void MappingDocumentPrivate::invalidateNodes(const QString &sourcePath) const
         node->invalidateState();
         boost::shared_ptr<CatalogStructureNodeI> next;
         for (const boost::shared_ptr<CatalogStructureNodeI> &child : node->getChildren()) {
-            if (child->getNodeType() == 1 && child->getName() == part)
+            if (child->getNodeType() == CatalogNodeType::Directory && child->getName() == part)
                 next = child;
             else if (child->getPath() == sourcePath)
                 child->invalidateState();

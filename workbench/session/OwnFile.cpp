@@ -1,6 +1,6 @@
 #include "OwnFile.h"
 
-#include <core/files/ContentHash.h>
+#include <core/files/DurableFile.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -9,7 +9,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -96,18 +95,6 @@ QByteArray stampOf(const struct stat &found)
     const qint64 parts[] = {qint64(found.st_dev), qint64(found.st_ino), qint64(found.st_size),
                             qint64(found.st_mtim.tv_sec), qint64(found.st_mtim.tv_nsec)};
     return QByteArray(reinterpret_cast<const char *>(parts), sizeof parts);
-}
-
-/// What is to be known before reading: what changes meanwhile is a change.
-FileContent begun(const QString &path)
-{
-    FileContent content;
-    content.state.exists = OwnFile::place(path) != OwnFile::Place::Free;
-    if (!content.state.exists)
-        return content;
-    content.stamp = OwnFile::stamp(path);
-    content.state.time = QFileInfo(path).lastModified().toUTC();
-    return content;
 }
 
 } // namespace
@@ -361,49 +348,4 @@ QString OwnFile::folderFault(const QString &path)
     if (create(probe, QByteArray(512, ' '), QString(), &error))
         remove(probe, &error);
     return error;
-}
-
-FileContent FileContent::of(const QString &path)
-{
-    FileContent content = begun(path);
-    if (!content.state.exists)
-        return content;
-    content.identity = OwnFile::identity(path);
-    const std::optional<QByteArray> bytes = OwnFile::read(path, &content.error);
-    if (!bytes)
-        return content;
-    if (OwnFile::identity(path) != content.identity)
-        content.identity.clear();
-    content.bytes = *bytes;
-    content.state.size = bytes->size();
-    content.state.hash = FileState::hashOf(*bytes);
-    return content;
-}
-
-FileContent FileContent::withoutBytes(const QString &path, const FileState &known,
-                                      const QByteArray &identity)
-{
-    FileContent content = begun(path);
-    QFile file;
-    if (!content.state.exists ||
-        !OwnFile::open(file, path, QIODevice::ReadOnly | QIODevice::Unbuffered, &content.error))
-        return content;
-    content.identity = OwnFile::identity(file);
-    if (!identity.isEmpty() && content.identity == identity) {
-        content.state.size = known.size;
-        content.state.hash = known.hash;
-        return content;
-    }
-    std::vector<char> piece(std::size_t(256) * 1024);
-    ContentHash hash;
-    qint64 size = 0;
-    while ((size = file.read(piece.data(), qint64(piece.size()))) > 0) {
-        hash.add(QByteArrayView(piece.data(), size));
-        content.state.size += size;
-    }
-    if (file.error() != QFileDevice::NoError)
-        content.error = file.errorString();
-    else
-        content.state.hash = hash.result();
-    return content;
 }

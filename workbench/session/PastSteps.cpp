@@ -127,7 +127,7 @@ void StepReader::takeStep(const PJsonValue &record)
         return;
     UndoStep step;
     step.text = text(record, "text");
-    step.lines = -1;
+    step.lines.reset();
     step.key =
         HistorySessions::stepKey(m_opening, int(record.value(QStringLiteral("step")).toInt()));
     step.time = stampOf(record);

@@ -1,21 +1,16 @@
 #include "ReviewWork.h"
 
-#include "assignmentOf.h"
 #include "MappingDocument.h"
+#include "ProjectComparer.h"
 #include "TargetHead.h"
-
-#include <geomcore/records/LineTable.h>
-#include <release/pattern/CommonChanges.h>
 
 #include <QElapsedTimer>
 #include <QTimer>
 
 #include <algorithm>
-#include <mutex>
 #include <utility>
 
 using VelkRelease::DifferencePatterns;
-using VelkRelease::LineComparer;
 using VelkRelease::OpenPair;
 
 namespace {
@@ -36,112 +31,7 @@ bool haveSameRules(const PrjMappingC &a, const PrjMappingC &b)
     return true;
 }
 
-bool isConfirmed(const PrjMappingC &mapping, int line)
-{
-    for (int i = 0; i < mapping.countTargets(); ++i) {
-        const LineTable::Iterator entry = mapping.targetAt(i).lines().find(line);
-        if (entry && entry.state() == PRJMAPPING::Verified)
-            return true;
-    }
-    return false;
-}
-
 } // namespace
-
-/// Reads the tables of a project once for all lines that are asked for.
-struct ReviewWork::Comparer
-{
-    ProjectId project;
-    PrjMappingC mapping; ///< that candidates and probabilities are of
-    ReleaseMappingC head;
-    QString sourceRoot;
-    std::mutex mutex;
-    std::atomic<bool> ended = false; ///< nobody waits for an answer
-    std::unique_ptr<LineComparer> comparer;
-
-    /// \a current: the mapping as it is now, with other lines perhaps.
-    [[nodiscard]] LineExplanation explain(int line, const PrjMappingC &current)
-    {
-        const std::lock_guard lock(mutex);
-        if (!comparer)
-            comparer = std::make_unique<LineComparer>(sourceRoot, mapping, head, &ended);
-        LineExplanation explanation;
-        explanation.line = {project, line};
-        explanation.isConfirmed = isConfirmed(current, line);
-        explanation.errors = comparer->errors();
-        explanation.isRead = comparer->hasLine(line);
-        if (!explanation.isRead)
-            return explanation;
-        explanation.designation = comparer->designation(line);
-        explanation.candidates = comparer->candidates(line);
-        const auto [target, targetLine] = assignmentOf(current, line);
-        explanation.assigned = assignmentOf(mapping, line) == std::pair(target, targetLine)
-                                   ? comparer->assigned(line)
-                                   : pairOf(explanation.candidates, line, target, targetLine);
-        return explanation;
-    }
-
-    [[nodiscard]] LinePairs pair(const QList<int> &lines, const PrjMappingC &current,
-                                 const std::atomic<bool> &cancelled)
-    {
-        const std::lock_guard lock(mutex);
-        if (!comparer)
-            comparer = std::make_unique<LineComparer>(sourceRoot, mapping, head, &ended);
-        LinePairs pairs;
-        pairs.project = project;
-        pairs.lines = lines;
-        std::vector<OpenPair> compared;
-        for (const int line : lines.first(std::min(lines.size(), qsizetype(LinePairs::MaxLines)))) {
-            if (cancelled)
-                break;
-            const auto [target, targetLine] = assignmentOf(current, line);
-            OpenPair pair{line, target, targetLine, 0, {}, false, {}};
-            if (targetLine != -1) {
-                for (const ComparedVariableC &variable :
-                     comparer->compared(line, target, targetLine)) {
-                    pair.comparable = true;
-                    if (variable.outcome != ComparedVariableC::Equal)
-                        pair.values.push_back(
-                            {variable.name, variable.oldValue, variable.newValue});
-                }
-            }
-            LinePairs::Row row{line, comparer->designation(line), {}, -1, {}};
-            if (pair.comparable) {
-                row.targetPath = current.targetAt(target).getTargetPath();
-                row.targetLine = targetLine;
-                compared.push_back(std::move(pair));
-            }
-            pairs.rows.push_back(std::move(row));
-        }
-        const auto changes =
-            VelkRelease::CommonChanges::of(compared, project.path, head.getReplacements());
-        auto next = changes.ofPairs.begin();
-        for (LinePairs::Row &row : pairs.rows) {
-            if (row.targetLine != -1)
-                row.changes = *next++;
-        }
-        pairs.common = changes.common;
-        return pairs;
-    }
-
-private:
-    /// Of a line that has gone elsewhere since.
-    [[nodiscard]] std::optional<LineComparer::Pair> pairOf(const LineCandidatesC &candidates,
-                                                           int line, int target, int targetLine)
-    {
-        if (targetLine == -1)
-            return std::nullopt;
-        LineComparer::Pair pair{
-            target, targetLine, 0, {}, comparer->compared(line, target, targetLine, true)};
-        for (const LineCandidateC &candidate : candidates.candidates) {
-            if (candidate.targetIndex == target && candidate.lineId.value(0) == targetLine) {
-                pair.probability = candidate.probability;
-                pair.reason = candidate.explanation;
-            }
-        }
-        return pair;
-    }
-};
 
 ReviewWork::ReviewWork(MappingDocument *document, QObject *parent)
     : QObject(parent)
@@ -249,8 +139,8 @@ void ReviewWork::takePatterns(DifferencePatterns &&patterns)
 
 void ReviewWork::onMappingChanged(const ProjectId &project)
 {
-    if (m_comparer && m_comparer->project == project) {
-        if (haveSameRules(m_comparer->mapping, m_document->mapping(project)))
+    if (m_comparer && m_comparer->project() == project) {
+        if (haveSameRules(m_comparer->mapping(), m_document->mapping(project)))
             m_refresh->start();
         else
             dropComparer();
@@ -271,35 +161,32 @@ void ReviewWork::dropComparer()
     if (m_refreshing)
         m_refreshing->cancelled = true;
     m_refreshing.reset();
-    for (std::shared_ptr<Comparer> *comparer : {&m_comparer, &m_fresh}) {
+    for (std::shared_ptr<ProjectComparer> *comparer : {&m_comparer, &m_fresh}) {
         if (*comparer)
-            (*comparer)->ended = true;
+            (*comparer)->end();
         comparer->reset();
     }
 }
 
-std::shared_ptr<ReviewWork::Comparer> ReviewWork::makeComparer(const ProjectId &project) const
+std::shared_ptr<ProjectComparer> ReviewWork::makeComparer(const ProjectId &project) const
 {
-    auto comparer = std::make_shared<Comparer>();
-    comparer->project = project;
-    comparer->mapping = m_document->mapping(project);
-    comparer->head = m_document->release().head();
-    comparer->sourceRoot = m_document->catalogRoots().source;
-    return comparer;
+    return std::make_shared<ProjectComparer>(project, m_document->mapping(project),
+                                             m_document->release().head(),
+                                             m_document->catalogRoots().source);
 }
 
 /// Works out anew what the decisions changed, while the former answers still serve.
 void ReviewWork::refreshComparer()
 {
-    if (!m_comparer || m_asked.project != m_comparer->project)
+    if (!m_comparer || m_asked.project != m_comparer->project())
         return;
     if (m_fresh)
-        m_fresh->ended = true;
+        m_fresh->end();
     if (m_refreshing)
         m_refreshing->cancelled = true;
     m_fresh = makeComparer(m_asked.project);
     m_refreshing = run([this, fresh = m_fresh, asked = m_asked](Job &job) {
-        const LineExplanation explanation = fresh->explain(asked.line, fresh->mapping);
+        const LineExplanation explanation = fresh->explain(asked.line, fresh->mapping());
         post(job, [this, fresh, explanation] {
             m_refreshing.reset();
             m_fresh.reset();
@@ -378,7 +265,7 @@ void ReviewWork::explain(const LineRef &line)
     m_asked = line;
     if (!line.isValid() || !m_document->isOpen())
         return;
-    if (!m_comparer || m_comparer->project != line.project) {
+    if (!m_comparer || m_comparer->project() != line.project) {
         dropComparer();
         m_comparer = makeComparer(line.project);
     }
@@ -402,7 +289,7 @@ void ReviewWork::pair(const ProjectId &project, const QList<int> &lines)
     m_asked = LineRef();
     if (!project.isValid() || lines.isEmpty() || !m_document->isOpen())
         return;
-    if (!m_comparer || m_comparer->project != project) {
+    if (!m_comparer || m_comparer->project() != project) {
         dropComparer();
         m_comparer = makeComparer(project);
     }

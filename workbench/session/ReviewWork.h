@@ -1,9 +1,8 @@
 #pragma once
 
-#include "SessionTypes.h"
+#include "LineExplanations.h"
 
 #include <release/pattern/DifferencePatterns.h>
-#include <release/pattern/LineComparer.h>
 
 #include <QObject>
 
@@ -13,42 +12,11 @@
 #include <thread>
 
 class MappingDocument;
+class ProjectComparer;
 
 QT_BEGIN_NAMESPACE
 class QTimer;
 QT_END_NAMESPACE
-
-/// What is known of one line of the open document.
-struct LineExplanation
-{
-    LineRef line;
-    bool isConfirmed = false;
-    bool isRead = false; ///< the tables could be read and have the line
-    QString designation;
-    std::optional<VelkRelease::LineComparer::Pair> assigned; ///< nothing if it is not assigned
-    LineCandidatesC candidates;
-    QStringList errors;
-};
-
-/// What several lines of a project differ in from the lines that they are assigned to.
-struct LinePairs
-{
-    struct Row
-    {
-        int line = -1;
-        QString designation;
-        QString targetPath;
-        int targetLine = -1; ///< -1: without target, or it cannot be read
-        QList<VelkRelease::ValueChange> changes;
-    };
-    /// More lines are not compared.
-    static constexpr int MaxLines = 1000;
-
-    ProjectId project;
-    QList<int> lines; ///< that were asked for
-    std::vector<Row> rows;
-    QList<VelkRelease::ValueChange> common; ///< of all lines with a target
-};
 
 /// Keeps the difference patterns of the open document up to date, and explains single lines. Tables
 /// are read on other threads; what is known at the moment can be asked for at any time. Decisions
@@ -108,12 +76,10 @@ private:
         quint64 number = 0; ///< tells jobs apart that are gone
         std::jthread thread;
     };
-    struct Comparer;
-
     void start();
     void stop();
     void dropComparer();
-    [[nodiscard]] std::shared_ptr<Comparer> makeComparer(const ProjectId &project) const;
+    [[nodiscard]] std::shared_ptr<ProjectComparer> makeComparer(const ProjectId &project) const;
     void refreshComparer();
     void onMappingChanged(const ProjectId &project);
     void readPending();
@@ -136,9 +102,9 @@ private:
     std::shared_ptr<Job> m_pending;
     std::shared_ptr<Job> m_explaining;
     std::shared_ptr<Job> m_refreshing;
-    std::shared_ptr<Comparer> m_comparer; ///< of the project that was explained last
-    std::shared_ptr<Comparer> m_fresh;    ///< the same after what was decided, being read
-    LineRef m_asked;                      ///< that was to be explained last
+    std::shared_ptr<ProjectComparer> m_comparer; ///< of the project that was explained last
+    std::shared_ptr<ProjectComparer> m_fresh;    ///< the same after what was decided, being read
+    LineRef m_asked;                             ///< that was to be explained last
     QTimer *const m_refresh;
     quint64 m_lastJob = 0;
     std::list<std::shared_ptr<Job>> m_jobs; ///< those that have not ended

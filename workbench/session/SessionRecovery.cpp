@@ -1,6 +1,7 @@
 #include "SessionRecovery.h"
 
 #include "GuardedSave.h"
+#include "OwnFile.h"
 #include "ReleaseChanges.h"
 #include "StepSummary.h"
 

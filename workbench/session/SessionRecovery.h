@@ -1,8 +1,8 @@
 #pragma once
 
+#include "FileContent.h"
 #include "JournalReader.h"
 #include "JournalReplay.h"
-#include "OwnFile.h"
 #include "RecoveryOffer.h"
 
 #include <geomcore/records/ReleaseMappingC.h>

@@ -56,8 +56,8 @@ struct UndoStep
     };
 
     QString text;
-    int lines = 0; ///< -1: not counted yet
-    QString key;   ///< names it in the journal: its session and its number there
+    std::optional<int> lines = 0; ///< nothing: not counted yet
+    QString key;                  ///< names it in the journal: its session and its number there
     QDateTime time;
     QString author;
     bool isOwn = true; ///< by this user, and in this file itself
