@@ -135,6 +135,8 @@ private Q_SLOTS:
             << QByteArray("\n[abc\n") << "x.ini:2: section heading without end";
         QTest::newRow("quoted heading without end")
             << QByteArray("[\"abc]\n") << "x.ini:1: section heading without end";
+        QTest::newRow("text between quoted name and end")
+            << QByteArray("[\"abc\" d]\n") << "x.ini:1: section heading without end";
         QTest::newRow("behind heading")
             << QByteArray("[a] b\n") << "x.ini:1: text behind the section heading is ignored";
         QTest::newRow("quote without end")
@@ -158,6 +160,12 @@ private Q_SLOTS:
         const PIniFile file = parsed(content);
         QCOMPARE(file.diagnosticTexts(), QStringList{expected});
         QCOMPARE(file.toByteArray(), content);
+    }
+    void commentsBehindHeadingsAreInOrder()
+    {
+        const PIniFile file = parsed("[ a ] ; comment\nk=1\n");
+        QCOMPARE(file.diagnosticTexts(), QStringList());
+        QCOMPARE(file.value("a", "k"), QString("1"));
     }
     void utf16IsNamed_data()
     {

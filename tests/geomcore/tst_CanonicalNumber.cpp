@@ -174,6 +174,8 @@ void tst_CanonicalNumber::toText_data()
                              << "12.83160973";
     QTest::newRow("all behind the point") << ".5"
                                           << "0.5";
+    QTest::newRow("one digit before the point") << "2.5"
+                                                << "2.5";
     QTest::newRow("first with an exponent") << "1e16"
                                             << "1e16";
     QTest::newRow("smallest in plain notation") << "1e-15"

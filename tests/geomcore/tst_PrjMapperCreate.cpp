@@ -62,6 +62,7 @@ private Q_SLOTS:
     void lineOutsideTheTable();
     void withoutSourceTable();
     void unreadableTarget();
+    void lineIdOfTheProposal();
     void hiddenLinesOfAProject();
 };
 
@@ -607,6 +608,16 @@ void tst_PrjMapperCreate::unreadableTarget()
     MapperFixture fixture(catalog, {"new/gone/a.prj", "new/broken/a.prj", "new/x/a.prj"});
     fixture.start();
     QCOMPARE(fixture.proposal(1), "2:1");
+}
+
+void tst_PrjMapperCreate::lineIdOfTheProposal()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n\nM8,5\n");
+    catalog.write("new/a.prj", "D,k:n\nM9,6\nM8,5\n");
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    QCOMPARE(fixture.create(1).getLineId(), VKTab::LineId(2));
 }
 
 void tst_PrjMapperCreate::hiddenLinesOfAProject()

@@ -162,6 +162,25 @@ private Q_SLOTS:
         QVERIFY(shown.pixelColor(cell.left() + 10, first.center().y()) != QColor(Qt::red));
     }
 
+    void barButtonsAreForTheLeftMouseButton()
+    {
+        QTableView view;
+        QStandardItemModel model(1, 1);
+        auto *const delegate = new ButtonBarDelegate(&view);
+        delegate->addButton("remove", "Entfernen", someIcon());
+        view.setItemDelegateForColumn(0, delegate);
+        view.setModel(&model);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        const QPoint at = delegate->buttonRect(view.visualRect(model.index(0, 0)), 0).center();
+        const QSignalSpy clicked(delegate, &ButtonBarDelegate::buttonClicked);
+        QTest::mouseClick(view.viewport(), Qt::RightButton, {}, at);
+        QTest::mouseClick(view.viewport(), Qt::MiddleButton, {}, at);
+        QCOMPARE(clicked.size(), 0);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at);
+        QCOMPARE(clicked.size(), 1);
+    }
+
     void barButtonsByKeyboard()
     {
         QTableView view;
@@ -206,6 +225,9 @@ private Q_SLOTS:
         const QRect cell = view.visualRect(model.index(0, 0));
         const QPoint at = delegate->buttonRect(cell, 0).center();
         const QPoint global = view.viewport()->mapToGlobal(at);
+        QHelpEvent other(QEvent::WhatsThis, at, global);
+        QCoreApplication::sendEvent(view.viewport(), &other);
+        QVERIFY(!QToolTip::isVisible());
         QHelpEvent help(QEvent::ToolTip, at, global);
         QCoreApplication::sendEvent(view.viewport(), &help);
         QCOMPARE(QToolTip::text(), QString("Entfernen"));

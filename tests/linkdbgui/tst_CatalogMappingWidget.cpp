@@ -177,6 +177,14 @@ void tst_CatalogMappingWidget::layoutOfTheEditors()
     QCOMPARE(lower->count(), 2);
     QCOMPARE(lower->widget(0), editor.project);
     QCOMPARE(lower->widget(1), editor.table);
+    // What stands last in each gets the room.
+    for (const QSplitter *const each : {splitter, upper, lower}) {
+        const QSizePolicy first = each->widget(0)->sizePolicy();
+        const QSizePolicy last = each->widget(1)->sizePolicy();
+        const bool isVertical = each->orientation() == Qt::Vertical;
+        QCOMPARE(isVertical ? first.verticalStretch() : first.horizontalStretch(), 0);
+        QCOMPARE(isVertical ? last.verticalStretch() : last.horizontalStretch(), 1);
+    }
 }
 
 void tst_CatalogMappingWidget::editorsAreDisabledAtFirst()

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void nothing_data();
     void nothing();
     void theHistorysMappingIsChanged();
+    void theHistorysLastPairIsChanged();
     void changeText();
     void sameText();
 
@@ -158,6 +159,21 @@ void tst_LineDecisions::theHistorysMappingIsChanged()
     line.addMapping(newer.findLine(1, QHash<QString, MapVarValueC>()), newer);
     QCOMPARE(entriesOf(LineDecisions::confirm(line, {})->mapping), QString("0:1>5/2 0:8>6/1"));
     QCOMPARE(entriesOf(LineDecisions::remove(line, 1)->mapping), QString("0:8>6/1 -:1>-1/1"));
+}
+
+/// Of a line that went on by a second mapping that one is decided on.
+void tst_LineDecisions::theHistorysLastPairIsChanged()
+{
+    PrjMappingC next = mappingOf("new/a.prj", {"newer/a.prj", "newer/b.prj"});
+    enter(next, 1, 1, 5, ToCheck);
+    PrjMapperLineC line = lineIn(m_mapping);
+    line.addMapping(next.findLine(1, QHash<QString, MapVarValueC>()), next);
+    const auto confirmed = LineDecisions::confirm(line, std::nullopt);
+    QVERIFY(confirmed);
+    QCOMPARE(entriesOf(confirmed->mapping), "1:1>5/2");
+    const auto removed = LineDecisions::remove(line, VKTab::LineId(1));
+    QVERIFY(removed);
+    QCOMPARE(entriesOf(removed->mapping), "-:1>-1/1");
 }
 
 void tst_LineDecisions::changeText()

@@ -1,6 +1,9 @@
 // What the lists of a target show and what they store.
 #include "TargetLists.h"
 
+#include <gui/views/ButtonBarDelegate.h>
+
+#include <QPainter>
 #include <QScopeGuard>
 
 namespace {
@@ -9,6 +12,27 @@ QTableView *listOf(const Editor &editor, const char *name)
 {
     return editor.panel(0)->findChild<QTableView *>(QLatin1String(name));
 }
+
+/// Counts events of an object.
+class EventCounter : public QObject
+{
+public:
+    EventCounter(QObject *watched, QEvent::Type type)
+        : m_type(type)
+    {
+        watched->installEventFilter(this);
+    }
+    [[nodiscard]] int count() const { return m_count; }
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        m_count += event->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+private:
+    const QEvent::Type m_type;
+    int m_count = 0;
+};
 
 } // namespace
 
@@ -24,6 +48,7 @@ private Q_SLOTS:
     void hiddenFormulaIsGone();
     void emptyListsTakeNoRoom();
     void removeButtonHasAnIcon();
+    void deleteButtonsShowTheirState();
     void proposedRulesAreMarked();
 };
 
@@ -133,6 +158,44 @@ void tst_TargetMappingLists::removeButtonHasAnIcon()
     Editor editor;
     editor.load(mappingOf("old/a.prj", {"new/a.prj"}));
     QVERIFY(!editor.button(0, "removeButton")->icon().pixmap(16, 16).isNull());
+}
+
+void tst_TargetMappingLists::deleteButtonsShowTheirState()
+{
+    const QStringList before = QDir::searchPaths("bitmaps");
+    QDir::addSearchPath("bitmaps", ":/hostbitmaps");
+    const auto restore = qScopeGuard([&] { QDir::setSearchPaths("bitmaps", before); });
+    TargetLists editor;
+    PrjMappingC mapping = mappingOf("old/a.prj", {"new/a.prj"});
+    addCondition(mapping, 0, "k .GT. 1");
+    addRename(mapping, 0, "D", "k");
+    editor.load(mapping);
+    for (QTableView *const list : {editor.conditions(), editor.variables()}) {
+        auto *const bar = qobject_cast<ButtonBarDelegate *>(list->itemDelegateForColumn(0));
+        QVERIFY(bar);
+        const QModelIndex cell = list->model()->index(0, 0);
+        const auto drawn = [&](const ButtonBarDelegate &delegate) {
+            QStyleOptionViewItem option;
+            option.rect = QRect(0, 0, 32, 32);
+            QImage image(option.rect.size(), QImage::Format_ARGB32);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            delegate.paint(&painter, option, cell);
+            return image;
+        };
+        ButtonBarDelegate expected(nullptr);
+        expected.addButton({}, {}, QIcon("bitmaps:indextree/state_deleted.png"));
+        ButtonBarDelegate empty(nullptr);
+        empty.addButton({}, {}, QIcon());
+        QVERIFY(drawn(expected) != drawn(empty));
+        QCOMPARE(drawn(*bar), drawn(expected));
+        // What the delegate asks for is painted.
+        QTRY_VERIFY(list->isVisible());
+        QTest::qWait(0);
+        EventCounter paints(list->viewport(), QEvent::Paint);
+        Q_EMIT bar->indexNeedsUpdate(cell);
+        QTRY_VERIFY(paints.count() > 0);
+    }
 }
 
 void tst_TargetMappingLists::proposedRulesAreMarked()

@@ -117,6 +117,7 @@ private Q_SLOTS:
     void assignEqualLine();
     void assignOtherLine();
     void assignByKeyboard();
+    void assignBesideAHiddenEqualLine();
     void assignCancelled();
     void assignWithoutSourceLine();
     void assignWithoutRelease();
@@ -210,6 +211,9 @@ void tst_TargetMappingWidget::withoutCallback()
         button->click();
     // The records are exchanged all the same.
     QCOMPARE(targetPaths(params.projectMapping), QStringLiteral("new/b.prj new/a.prj"));
+    TargetMappingWidget first(0, VKTab::ContentRef(), {}, &params, false, nullptr);
+    QVERIFY(QMetaObject::invokeMethod(&first, "onMoveTargetDown"));
+    QCOMPARE(targetPaths(params.projectMapping), QStringLiteral("new/a.prj new/b.prj"));
     // Nobody is told of lists that were stored, either.
     for (const char *slot : {"onDeleteVarMapping", "onDeleteConditionClicked"}) {
         const char *const list = slot[8] == 'V' ? "variableView" : "conditionView";
@@ -263,6 +267,23 @@ void tst_TargetMappingWidget::assignByKeyboard()
     // From there one key confirms it.
     QVERIFY(panel.table.focusWidget() ==
             panel.table.findChild<VkTableView *>("sourceView")->grid());
+}
+
+/// What the project hides in its table counts for the check all the same.
+void tst_TargetMappingWidget::assignBesideAHiddenEqualLine()
+{
+    Panel panel;
+    panel.catalog.write("new/a.prj", "D,k:n,g:n\nM8,5,1\nM8,5,2\n",
+                        [](VKTab::TableDescriptor &table) {
+                            table.filterConditions.append({"PRJLINECOND", "g .EQ. 1", {}});
+                        });
+    panel.project.loadSourceProject(panel.mapping,
+                                    panel.table.findChild<VkTableView *>("sourceView")->getTable(),
+                                    catalogOf(panel.mapping));
+    panel.project.setAssignEnabled(true);
+    panel.selectSourceLine(1);
+    QVERIFY(panel.assign(1));
+    QCOMPARE(panel.announced(), QStringLiteral("0:1>1/0 -:2>-1/0 -:3>-1/0"));
 }
 
 void tst_TargetMappingWidget::assignCancelled()

@@ -7,6 +7,8 @@
 #include <geomcore/table/LayerType.h>
 #include <geomcore/table/Line.h>
 #include <geomcore/table/TableData.h>
+#include <gui/progress/DefaultObserverDelegate.h>
+#include <gui/progress/ProgressDisplayI.h>
 
 #include <QTest>
 
@@ -88,6 +90,7 @@ private Q_SLOTS:
     void unreadableTarget();
     void stateIsRefreshed();
     void progress();
+    void progressIsShown();
     void severalThreads();
 
 private:
@@ -429,6 +432,24 @@ void tst_remapProjectLines::progress()
     QCOMPARE(recorder.last.count, 3);
     QCOMPARE(recorder.ended, 1);
     QVERIFY(!recorder.cancellable);
+}
+
+void tst_remapProjectLines::progressIsShown()
+{
+    struct Display : ProgressDisplayI
+    {
+        void showProgress(const QList<PProgressInfo> &running) override { shown += running; }
+        bool acceptsInput(const QWidget *) const override { return false; }
+        QList<PProgressInfo> shown;
+    };
+    const auto display = std::make_shared<Display>();
+    DefaultObserverDelegate::setDisplay(display);
+    DefaultObserverDelegate::setTimes(0, 0);
+    remap();
+    DefaultObserverDelegate::setTimes(500, 100);
+    DefaultObserverDelegate::setDisplay(nullptr);
+    QVERIFY(!display->shown.isEmpty());
+    QCOMPARE(display->shown.last().text, "Zeilen werden neu zugewiesen");
 }
 
 void tst_remapProjectLines::severalThreads()
