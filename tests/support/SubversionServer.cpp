@@ -51,8 +51,13 @@ SubversionServer::SubversionServer()
         return;
     (void)write(repository + "/conf/svnserve.conf", "[general]\nanon-access = write\n");
     const QString files = "file://" + repository;
-    if (run("svn", {"mkdir", "--parents", "-m", "begin", files + "/trunk/catalog"}))
-        run("svn", {"checkout", "-q", files + "/trunk/catalog", m_directory.filePath("copy")});
+    run("svn", {"mkdir", "--parents", "-m", "begin", files + "/trunk/catalog"});
+}
+
+bool SubversionServer::checkOut(const QString &copy)
+{
+    return QDir(copy).exists() ||
+           run("svn", {"checkout", "-q", "file://" + repository() + "/trunk/catalog", copy});
 }
 
 SubversionServer::~SubversionServer()
@@ -68,6 +73,8 @@ QString SubversionServer::url() const
 bool SubversionServer::commit(const QString &directory)
 {
     const QString copy = m_directory.filePath("copy");
+    if (!checkOut(copy))
+        return false;
     QDirIterator files(directory, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString from = files.next();
@@ -86,7 +93,7 @@ bool SubversionServer::commit(const QString &directory)
 bool SubversionServer::commitLink(const QString &name, const QString &target)
 {
     const QString copy = m_directory.filePath("copy");
-    return QFile::link(target, copy + u'/' + name) &&
+    return checkOut(copy) && QFile::link(target, copy + u'/' + name) &&
            run("svn", {"add", "-q", copy + u'/' + name}) &&
            run("svn", {"commit", "-q", "-m", "link", copy});
 }
@@ -94,7 +101,7 @@ bool SubversionServer::commitLink(const QString &name, const QString &target)
 bool SubversionServer::remove(const QString &name)
 {
     const QString copy = m_directory.filePath("copy");
-    return run("svn", {"update", "-q", copy}) &&
+    return checkOut(copy) && run("svn", {"update", "-q", copy}) &&
            run("svn", {"remove", "-q", copy + u'/' + name + u'@'}) &&
            run("svn", {"commit", "-q", "-m", "gone", copy});
 }

@@ -33,6 +33,8 @@ public:
     void stop();
 
 private:
+    /// Only for those who work on it.
+    bool checkOut(const QString &copy);
     bool run(const QString &program, const QStringList &arguments);
     bool write(const QString &file, const QByteArray &content);
 
