@@ -191,11 +191,15 @@ void tst_TableChoices::hitsAreTold()
 {
     QVERIFY(hits()->isHidden());
     m_view->showFilterBar(true);
+    const int narrow = m_view->minimumSizeHint().width();
     edit("Note")->setText("=blank");
     QVERIFY(!hits()->isHidden());
     QCOMPARE(hits()->text(), QString("2 von 4 Zeilen"));
     edit("Note")->setText("zzz");
     QCOMPARE(hits()->text(), QString("Keine Zeile passt zu den Spaltenfiltern"));
+    // It makes nothing wider.
+    QCOMPARE(m_view->minimumSizeHint().width(), narrow);
+    QCOMPARE(hits()->toolTip(), hits()->text());
     m_view->showFilterBar(false);
     QVERIFY(hits()->isHidden());
 }

@@ -75,6 +75,7 @@ VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
     widths->setOrder(columnOrder);
     hits->setObjectName(QStringLiteral("filterHits"));
     hits->setTextFormat(Qt::PlainText);
+    hits->setMinimumWidth(1); // a sentence must not make the table wider
     hits->hide();
     grid->installEventFilter(this);
     q->setFocusProxy(grid);
@@ -227,6 +228,7 @@ void VkTableViewPrivate::showHits()
                       ? tableText("Keine Zeile passt zu den Spaltenfiltern")
                       : tableText("%1 von %2 Zeilen")
                             .arg(QString::number(model->rowCount()), QString::number(all)));
+    hits->setToolTip(hits->text());
 }
 
 void VkTableViewPrivate::setActive(bool following)
