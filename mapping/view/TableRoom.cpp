@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int MoreLines = 4; ///< than the tables keep in any case
+constexpr int MoreLines = 8; ///< than the tables keep in any case
 
 }
 

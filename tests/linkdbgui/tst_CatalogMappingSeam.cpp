@@ -79,6 +79,7 @@ private Q_SLOTS:
     void filtersOpenProjects();
     void filtersProjectsForAHost();
     void treeShowsWhatIsOpen();
+    void tablesKeepLines();
     void showsOnlyLinesForAHost();
     void preferredRangesOfBothTables();
     void opensDirectories();
@@ -441,6 +442,34 @@ void tst_CatalogMappingSeam::treeShowsWhatIsOpen()
     QVERIFY(!tree->visualRect(selected.first()).isEmpty());
     QCOMPARE(opened.size(), 0);
     QCOMPARE(editor.widget->currentLine(), 2);
+}
+
+/// In a low window the panel of the targets gives way, and comes back with the room.
+void tst_CatalogMappingSeam::tablesKeepLines()
+{
+    const Editor editor;
+    editor.widget->resize(900, 800);
+    editor.show();
+    QVERIFY(editor.widget->selectProject(a));
+    auto *const splitter = editor.widget->findChild<QSplitter *>("editorSplitter");
+    QVERIFY(QTest::qWaitForWindowExposed(editor.widget.get()));
+    QTest::qWait(20); // what the splitter has to tell
+    const int above = splitter->sizes().value(0);
+    const auto *const tables = splitter->widget(1);
+    const int enough = tables->minimumSizeHint().height() + 3 * tables->fontMetrics().height();
+    editor.widget->resize(900, enough + 160);
+    QTRY_VERIFY(splitter->sizes().value(1) >= enough);
+    QVERIFY(splitter->sizes().value(0) > 0 && splitter->sizes().value(0) < above);
+    const QByteArray low = editor.widget->saveState();
+    editor.widget->resize(900, 800);
+    QTRY_COMPARE(splitter->sizes().value(0), above);
+    // The same after a restart.
+    const Editor next;
+    next.widget->resize(900, 800);
+    next.show();
+    QVERIFY(next.widget->restoreState(low));
+    const auto *const other = next.widget->findChild<QSplitter *>("editorSplitter");
+    QTRY_VERIFY(other->sizes().value(0) > above - 40);
 }
 
 void tst_CatalogMappingSeam::showsOnlyLinesForAHost()

@@ -12,8 +12,8 @@ using Outcome = StartOptions::Outcome;
 
 QStringList dialogs()
 {
-    return {"formula", "search", "links",  "proof",  "documents", "script",
-            "locator", "keys",   "manual", "review", "sample",    "neighbours"};
+    return {"formula", "search", "links",  "proof",  "documents",  "script", "locator",
+            "keys",    "manual", "review", "sample", "neighbours", "carried"};
 }
 
 void addOptions(QCommandLineParser &parser)

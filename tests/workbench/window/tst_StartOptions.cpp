@@ -90,7 +90,7 @@ private Q_SLOTS:
         QTest::newRow("dialog") << QStringList{"--dialog", "x"}
                                 << "--dialog is not formula or search or links or proof or "
                                    "documents or script or locator or keys or manual or "
-                                   "review or sample or neighbours: x";
+                                   "review or sample or neighbours or carried: x";
         QTest::newRow("scale") << QStringList{"--scale", "3"} << "--scale is not 1 or 2: 3";
         QTest::newRow("theme") << QStringList{"--theme", "red"}
                                << "--theme is not light, dark or contrast: red";
