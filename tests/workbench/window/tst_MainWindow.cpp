@@ -133,15 +133,15 @@ private Q_SLOTS:
         const QString project = QStringLiteral("standardparts/screws/din933.prj");
         fixture.settings->setPlace(file, {{}, project, 5});
         bool turned = false;
-        bool turnedBefore = false;
-        QObject::connect(fixture.window->desk(), &DocumentDesk::ready,
+        std::optional<bool> turnedBefore;
+        QObject::connect(fixture.window->desk()->document(), &MappingDocument::opened,
                          [&] { QTimer::singleShot(0, [&turned] { turned = true; }); });
         QObject::connect(fixture.window->editor(), &EditorArea::projectSelected,
-                         [&] { turnedBefore = turned; });
+                         [&] { turnedBefore = turnedBefore.value_or(turned); });
         fixture.open(file);
         QCOMPARE(fixture.window->editor()->currentPath(), project);
         QCOMPARE(fixture.window->editor()->currentLine(), 5);
-        QVERIFY(turnedBefore);
+        QCOMPARE(turnedBefore, std::optional(true));
         QVERIFY(fixture.window->editor()->updatesEnabled());
     }
 
