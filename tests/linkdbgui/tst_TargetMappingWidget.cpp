@@ -118,6 +118,7 @@ private Q_SLOTS:
     void assignOtherLine();
     void assignByKeyboard();
     void assignBesideAHiddenEqualLine();
+    void assignWithoutCallback();
     void assignCancelled();
     void assignWithoutSourceLine();
     void assignWithoutRelease();
@@ -284,6 +285,33 @@ void tst_TargetMappingWidget::assignBesideAHiddenEqualLine()
     panel.selectSourceLine(1);
     QVERIFY(panel.assign(1));
     QCOMPARE(panel.announced(), QStringLiteral("0:1>1/0 -:2>-1/0 -:3>-1/0"));
+}
+
+void tst_TargetMappingWidget::assignWithoutCallback()
+{
+    Panel panel;
+    panel.selectSourceLine(1);
+    TargetMappingParamSet params;
+    params.projectMapping = panel.mapping;
+    params.catalogMapping = catalogOf(panel.mapping);
+    params.tableMappingWidget = &panel.table;
+    params.selectedSourceLine = [] {
+        return VKTab::LineId(1);
+    };
+    const VKTab::ContentRef source = panel.table.findChild<VkTableView *>("sourceView")->getTable();
+    TargetMappingWidget widget(0, source, {}, &params, false, nullptr);
+    bool came = false;
+    QTimer::singleShot(0, &widget, [&came] {
+        auto *const dialog =
+            qobject_cast<TableLineSelectionDialog *>(QApplication::activeModalWidget());
+        came = dialog != nullptr;
+        if (came)
+            Panel::answer(dialog, 1, QDialogButtonBox::Ok);
+    });
+    QVERIFY(QMetaObject::invokeMethod(&widget, "onAssignTarget"));
+    QVERIFY(came);
+    // The line has left the not-found target.
+    QCOMPARE(entriesOf(params.projectMapping), QStringLiteral("-:2>-1/0 -:3>-1/0"));
 }
 
 void tst_TargetMappingWidget::assignCancelled()

@@ -63,6 +63,9 @@ private Q_SLOTS:
     void laterVariableOfOneName();
     void decimalComma();
     void translatedTexts();
+    void confirmedEntriesStay();
+    void checkOfEntries_data();
+    void checkOfEntries();
     void invalidIdIsPassedOver();
     void firstCombinationSettles();
     void stepComesBeforeItsWork();
@@ -164,6 +167,39 @@ void tst_LineRun::translatedTexts()
     settings.setLanguage("en");
     const QString entries = assignUnder(ConstantLayer("x", VKTab::VarTypePlain, "1"));
     QCOMPARE(entries.section(u'/', 0, 0), "0:1>2");
+}
+
+void tst_LineRun::confirmedEntriesStay()
+{
+    write("cat/a.prj", "D,L:n\nM8,20\n");
+    write("new/a.prj", "D,L:n\nM8,20\n");
+    enter(m_mapping, 0, 1, 1, PRJMAPPING::Verified);
+    const VKTab::Content table = m_catalog->read("cat/a.prj");
+    QCOMPARE(assign(table, {VKTab::LineId(1)}), "0:1>1/2");
+    QCOMPARE(assign(table, {VKTab::LineId(1)}, true), "0:1>1/2");
+}
+
+void tst_LineRun::checkOfEntries_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<QString>("entries");
+
+    QTest::newRow("passes") << QByteArray("M8,20,1") << QByteArray("M8,20,1") << "0:1>1/1";
+    QTest::newRow("other values") << QByteArray("M8,20,1") << QByteArray("M8,20,2") << "0:1>1/0";
+    QTest::newRow("condition fails") << QByteArray("M8,10,1") << QByteArray("M8,10,1") << "0:1>1/0";
+}
+
+/// An entry stays even if its condition does not hold any more, but is certain only if it does and
+/// the values are equal.
+void tst_LineRun::checkOfEntries()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(QByteArray, target);
+    write("cat/a.prj", "D,L:n,k:n\n" + source + '\n');
+    write("new/a.prj", "D,L:n,k:n\n" + target + '\n');
+    enter(m_mapping, 0, 1, 1, PRJMAPPING::ToCheck);
+    QTEST(assign(m_catalog->read("cat/a.prj"), {VKTab::LineId(1)}), "entries");
 }
 
 void tst_LineRun::invalidIdIsPassedOver()
