@@ -7,6 +7,10 @@
 #include <gui/views/Inks.h>
 #include <workbench/window/ApplicationTheme.h>
 #include <workbench/window/MainWindow.h>
+#include <workbench/window/WorkbenchStyle.h>
+
+#include <QDialogButtonBox>
+#include <QPushButton>
 
 class tst_WindowLooks : public QObject
 {
@@ -17,8 +21,20 @@ private Q_SLOTS:
     void textsAreLegible();
     void marksAreLegible_data();
     void marksAreLegible();
+    void buttonsLookAlike();
     void cleanup() { ApplicationTheme::setColours("light"); }
 };
+
+/// Those of Qt's own dialogs too: a cross on one that goes on says the wrong thing.
+void tst_WindowLooks::buttonsLookAlike()
+{
+    WorkbenchStyle style(WorkbenchStyle::Own);
+    QDialogButtonBox box;
+    box.setStyle(&style);
+    const QPushButton *const cancel = box.addButton(QDialogButtonBox::Cancel);
+    QVERIFY(!cancel->text().isEmpty());
+    QVERIFY(cancel->icon().isNull());
+}
 
 void tst_WindowLooks::textsAreLegible()
 {
