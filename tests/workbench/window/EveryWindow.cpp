@@ -13,6 +13,7 @@
 #include <workbench/script/ScriptEditor.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/RecoveryOffer.h>
+#include <workbench/window/CarryCommands.h>
 #include <workbench/window/CatalogRootsDialog.h>
 #include <workbench/window/DocumentDesk.h>
 #include <workbench/window/EditorArea.h>
@@ -134,6 +135,19 @@ void showSharing(WindowFixture &fixture, const std::function<void(QWidget *)> &l
     show("shareWho");
 }
 
+/// That nothing can be taken over from the open mapping itself; the questions before are Qt's.
+void showCarrying(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    openMapping(fixture);
+    const QString open = fixture.window->desk()->document()->mappingFile();
+    showInTurn([&] { (void)fixture.window->carry()->carry(open, WindowFixture::roots().target); },
+               1,
+               [&](QWidget *dialog, int) {
+                   look(dialog);
+                   dialog->close();
+               });
+}
+
 RecoveryOffer fullOffer()
 {
     RecoveryOffer offer;
@@ -236,5 +250,6 @@ QList<EveryWindow::Window> EveryWindow::all()
         }));
     row("sample", showSample);
     row("sharing", showSharing);
+    row("carrying", showCarrying);
     return windows;
 }
