@@ -2,6 +2,8 @@
 
 #include <mapping/project/ProjectMappingWidget.h>
 
+#include <geomcore/mapper/TargetTable.h>
+#include <geomcore/mapper/TargetTables.h>
 #include <geomcore/table/BaseLayer.h>
 #include <geomcore/table/Line.h>
 #include <geomcore/table/SignalConnect.h>
@@ -69,6 +71,9 @@ private Q_SLOTS:
     void labelsFollowTheTargetSelection();
 
 private:
+    /// The mappers of the process keep the target tables that were used last: others take their
+    /// place.
+    void useOtherTargets();
     [[nodiscard]] QString visible(VkTableView *view) const
     {
         return TableEditorFixture::visibleLines(view->getTable());
@@ -76,6 +81,15 @@ private:
 
     std::unique_ptr<TableEditorFixture> f;
 };
+
+void tst_TableMappingSelection::useOtherTargets()
+{
+    for (int i = 0; i < 8; ++i) {
+        const QString path = QStringLiteral("other/%1.prj").arg(i);
+        f->catalog.write(path, "D\nM8\n");
+        QVERIFY(Mapper::TargetTables::instance().open(f->catalog.file(path)));
+    }
+}
 
 void tst_TableMappingSelection::init()
 {
@@ -326,6 +340,7 @@ void tst_TableMappingSelection::formerTablesAreLetGo()
     const std::weak_ptr<const VKTab::TableData> target = f->targetTable().getTableData();
     f->tick("chkFilterTarget");
     f->select(4);
+    useOtherTargets();
     QVERIFY(target.expired());
     const std::weak_ptr<const VKTab::TableData> source = f->sourceTable().getTableData();
     f->load(VKTab::ContentRef());

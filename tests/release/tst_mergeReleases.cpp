@@ -25,6 +25,8 @@ private Q_SLOTS:
     void settledLines();
     void stateFlags();
     void dates();
+    void replacements_data();
+    void replacements();
     void groups();
     void mirrored();
 };
@@ -233,6 +235,61 @@ void tst_mergeReleases::dates()
     const MergeResult result = mergeReleases(dated("1"), dated("2"), dated("3"));
     QCOMPARE(result.release.getTargetDate(), "3");
     QCOMPARE(texts(result.clashes), QStringList({" date"}));
+}
+
+void tst_mergeReleases::replacements_data()
+{
+    QTest::addColumn<QString>("base");
+    QTest::addColumn<QString>("ours");
+    QTest::addColumn<QString>("theirs");
+    QTest::addColumn<QString>("merged");
+    QTest::newRow("nobody changed them") << "ab"
+                                         << "ab"
+                                         << "ab"
+                                         << "ab";
+    QTest::newRow("we agreed") << "a"
+                               << "ab"
+                               << "a"
+                               << "ab";
+    QTest::newRow("they agreed") << "a"
+                                 << "a"
+                                 << "ab"
+                                 << "ab";
+    QTest::newRow("both agreed") << "a"
+                                 << "abc"
+                                 << "adc"
+                                 << "adcb";
+    QTest::newRow("we withdrew") << "ab"
+                                 << "b"
+                                 << "ab"
+                                 << "b";
+    QTest::newRow("they withdrew") << "ab"
+                                   << "ab"
+                                   << "b"
+                                   << "b";
+    QTest::newRow("another order") << "ab"
+                                   << "ab"
+                                   << "ba"
+                                   << "ba";
+}
+
+void tst_mergeReleases::replacements()
+{
+    const auto agreed = [](const QString &values) {
+        QList<AgreedReplacement> replacements;
+        for (const QChar value : values)
+            replacements.append({"f", "D", value, value.toUpper(), {}, {}});
+        ReleaseMappingC changed = release("p: a()");
+        changed.setReplacements(replacements);
+        return changed;
+    };
+    QFETCH(QString, base);
+    QFETCH(QString, ours);
+    QFETCH(QString, theirs);
+    QFETCH(QString, merged);
+    const MergeResult result = mergeReleases(agreed(base), agreed(ours), agreed(theirs));
+    QCOMPARE(result.release.getReplacements(), agreed(merged).getReplacements());
+    QVERIFY(result.clashes.isEmpty());
 }
 
 void tst_mergeReleases::groups()

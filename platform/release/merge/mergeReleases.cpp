@@ -45,6 +45,7 @@ public:
 
 private:
     void mergeDates();
+    void mergeReplacements();
     [[nodiscard]] PrjMappingC merged(const ThreePlaces &at);
     [[nodiscard]] PrjMappingC left(const PrjMappingC &base, const PrjMappingC &side, bool isOurs);
     [[nodiscard]] MergedOrder order(const std::vector<PrjMappingC> &mappings) const;
@@ -61,6 +62,7 @@ private:
 MergeResult ReleaseMerge::run()
 {
     mergeDates();
+    mergeReplacements();
     std::vector<PrjMappingC> mappings(m_slots.size());
     for (size_t slot = 0; slot < m_slots.size(); ++slot)
         mappings[slot] = merged(m_slots[slot]);
@@ -80,6 +82,25 @@ void ReleaseMerge::mergeDates()
     MergeClash clash;
     clash.kind = MergeClash::TargetDate;
     m_result.clashes.append(clash);
+}
+
+/// What either side agreed to or withdrew, theirs first. That both agreed to different new values
+/// for one old value is no clash: it makes proposals only, and either can be withdrawn.
+void ReleaseMerge::mergeReplacements()
+{
+    const QList<AgreedReplacement> base = m_base.getReplacements();
+    const QList<AgreedReplacement> ours = m_ours.getReplacements();
+    const QList<AgreedReplacement> theirs = m_theirs.getReplacements();
+    QList<AgreedReplacement> merged;
+    for (const AgreedReplacement &replacement : theirs) {
+        if (ours.contains(replacement) || !base.contains(replacement))
+            merged.append(replacement);
+    }
+    for (const AgreedReplacement &replacement : ours) {
+        if (!theirs.contains(replacement) && !base.contains(replacement))
+            merged.append(replacement);
+    }
+    m_result.release.setReplacements(merged);
 }
 
 PrjMappingC ReleaseMerge::merged(const ThreePlaces &at)
