@@ -311,6 +311,7 @@ bool isBeyond(const QWidget &widget)
 void addCuts(const QWidget &window, QStringList *faults)
 {
     QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // of what these changed
     for (const QWidget *const widget : shownWidgets(window)) {
         if (!widget->isVisible())
             continue;

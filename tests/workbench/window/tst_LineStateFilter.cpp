@@ -164,7 +164,8 @@ void tst_LineStateFilter::numbersAreThoseOfTheRelease()
              counted(fixture, "Ohne Ziel", OpenLines::NotFound));
     QCOMPARE(fixture.action("stateConfirmed")->text(), QStringLiteral("Bestätigt: 0"));
     // Where commands are listed, numbers are no part of a name.
-    QCOMPARE(fixture.window->keyedActions()->nameOf("stateConfirmed"), QStringLiteral("Bestätigt"));
+    QCOMPARE(fixture.window->keyedActions()->nameOf("stateConfirmed"),
+             QStringLiteral("Zustand: Bestätigt"));
     QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
     fixture.press(Qt::Key_V);
     QTRY_COMPARE(fixture.action("stateToCheck")->text(), oneLess);
