@@ -77,8 +77,9 @@ private:
         m_catalog->write(project, table, edit);
     }
     /// Assigns the lines of "cat/a.prj" as \a table has them, walking the range "L".
-    QString assign(const VKTab::Content &table, const QList<VKTab::LineId> &lines,
-                   bool force = false);
+    QString assign(
+        const VKTab::Content &table, const QList<VKTab::LineId> &lines, bool force = false,
+        LineRunOptions::Combinations combinations = LineRunOptions::Combinations::UntilOneIsFound);
     /// The same for its first line, with a layer over the table.
     QString assignUnder(const ConstantLayer &layer);
 
@@ -95,14 +96,18 @@ void tst_LineRun::init()
 }
 
 QString tst_LineRun::assign(const VKTab::Content &table, const QList<VKTab::LineId> &lines,
-                            bool force)
+                            bool force, LineRunOptions::Combinations combinations)
 {
     PrjMapperC mapper(IndexTreeC::instance());
     mapper.setCreatorMode(true);
     mapper.setSourceProject(PPathName("cat/a.prj"));
     mapper.setSourceTable(table);
     (void)mapper.findMapping("cat/a.prj", "v1", catalogOf(m_mapping));
-    LineRun run(mapper, table, {.conditionVariables = {"L"}, .force = force, .isCanceled = {}});
+    LineRun run(mapper, table,
+                {.conditionVariables = {"L"},
+                 .force = force,
+                 .combinations = combinations,
+                 .isCanceled = {}});
     for (const VKTab::LineId &line : lines)
         run.assign(line);
     m_mapping = mapper.getMappingNode().getMapping();
@@ -183,11 +188,20 @@ void tst_LineRun::checkOfEntries_data()
 {
     QTest::addColumn<QByteArray>("source");
     QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<bool>("byVarset");
     QTest::addColumn<QString>("entries");
 
-    QTest::newRow("passes") << QByteArray("M8,20,1") << QByteArray("M8,20,1") << "0:1>1/1";
-    QTest::newRow("other values") << QByteArray("M8,20,1") << QByteArray("M8,20,2") << "0:1>1/0";
-    QTest::newRow("condition fails") << QByteArray("M8,10,1") << QByteArray("M8,10,1") << "0:1>1/0";
+    for (const bool byVarset : {false, true}) {
+        const char *form = byVarset ? "varset" : "line";
+        const QByteArray holds = byVarset ? "M8,20;30," : "M8,20,";
+        const QByteArray fails = byVarset ? "M8,10;12," : "M8,10,";
+        QTest::addRow("%s that passes", form)
+            << holds + '1' << holds + '1' << byVarset << "0:1>1/1";
+        QTest::addRow("%s with other values", form)
+            << holds + '1' << holds + '2' << byVarset << "0:1>1/0";
+        QTest::addRow("%s whose condition fails", form)
+            << fails + '1' << fails + '1' << byVarset << "0:1>1/0";
+    }
 }
 
 /// An entry stays even if its condition does not hold any more, but is certain only if it does and
@@ -196,10 +210,16 @@ void tst_LineRun::checkOfEntries()
 {
     QFETCH(QByteArray, source);
     QFETCH(QByteArray, target);
-    write("cat/a.prj", "D,L:n,k:n\n" + source + '\n');
-    write("new/a.prj", "D,L:n,k:n\n" + target + '\n');
+    QFETCH(bool, byVarset);
+    // Only combinations of ranges, as the line shows them, come as a varset.
+    const QByteArray head = byVarset ? "D,L:r,k:n\n" : "D,L:n,k:n\n";
+    write("cat/a.prj", head + source + '\n');
+    write("new/a.prj", head + target + '\n');
     enter(m_mapping, 0, 1, 1, PRJMAPPING::ToCheck);
-    QTEST(assign(m_catalog->read("cat/a.prj"), {VKTab::LineId(1)}), "entries");
+    QTEST(assign(m_catalog->read("cat/a.prj"), {VKTab::LineId(1)}, false,
+                 byVarset ? LineRunOptions::Combinations::All
+                          : LineRunOptions::Combinations::UntilOneIsFound),
+          "entries");
 }
 
 void tst_LineRun::invalidIdIsPassedOver()
