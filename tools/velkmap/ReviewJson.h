@@ -1,8 +1,6 @@
 #pragma once
 
-QT_BEGIN_NAMESPACE
 class QTextStream;
-QT_END_NAMESPACE
 
 namespace velkmap {
 

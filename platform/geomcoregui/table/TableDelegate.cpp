@@ -139,7 +139,7 @@ void TableDelegate::drawText(QPainter &painter, const QStyleOptionViewItem &opti
         option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) +
         1;
     const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
-    const QStaticText &text = laidOut(option, std::max(0, room.width()));
+    const QStaticText text = laidOut(option, std::max(0, room.width()));
     const QSizeF size = text.size();
     const bool isRight = option.displayAlignment.testFlag(Qt::AlignRight);
     const int top = QStyle::alignedRect(option.direction, option.displayAlignment,
@@ -153,7 +153,7 @@ void TableDelegate::drawText(QPainter &painter, const QStyleOptionViewItem &opti
                            text);
 }
 
-const QStaticText &TableDelegate::laidOut(const QStyleOptionViewItem &option, int room) const
+QStaticText TableDelegate::laidOut(const QStyleOptionViewItem &option, int room) const
 {
     QFont plain = option.font;
     plain.setItalic(false);
@@ -169,17 +169,17 @@ const QStaticText &TableDelegate::laidOut(const QStyleOptionViewItem &option, in
         known && (known->room < 0 ? known->text.size().width() <= room : known->room == room);
     if (fits)
         return known->text;
-    auto *const made = new LaidOut;
+    LaidOut made;
     const auto layOut = [&](const QString &text) {
-        made->text.setText(text);
-        made->text.setTextFormat(Qt::PlainText);
-        made->text.prepare(QTransform(), option.font);
+        made.text.setText(text);
+        made.text.setTextFormat(Qt::PlainText);
+        made.text.prepare(QTransform(), option.font);
     };
     layOut(option.text);
-    if (made->text.size().width() > room) {
+    if (made.text.size().width() > room) {
         layOut(QFontMetricsF(option.font).elidedText(option.text, Qt::ElideRight, room));
-        made->room = room;
+        made.room = room;
     }
-    m_texts.insert(key, made);
-    return made->text;
+    m_texts.insert(key, new LaidOut(made));
+    return made.text;
 }

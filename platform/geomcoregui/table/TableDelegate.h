@@ -40,7 +40,7 @@ private:
 
     [[nodiscard]] bool isMarkedCell(const QModelIndex &index) const;
     void drawText(QPainter &painter, const QStyleOptionViewItem &option) const;
-    [[nodiscard]] const QStaticText &laidOut(const QStyleOptionViewItem &option, int room) const;
+    [[nodiscard]] QStaticText laidOut(const QStyleOptionViewItem &option, int room) const;
 
     TextSearch m_marked;
     VKTab::LineId m_markedLine;
