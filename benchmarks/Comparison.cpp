@@ -55,7 +55,7 @@ void Comparison::addReference(const std::string &name, std::function<void()> wor
 void Comparison::run(benchmark::State &state, const std::function<void()> &product,
                      const std::function<void()> &prepare)
 {
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         for (Reference &reference : m_references)
             keepBest(reference.best, measure(reference.work));
         if (prepare)

@@ -111,7 +111,7 @@ void assignMemory(benchmark::State &state)
 {
     AssignRun run(shapeOf(state));
     double peak = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         run.forget();
         const PeakMemory memory;
         run.assign();

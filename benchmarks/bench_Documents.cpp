@@ -118,7 +118,7 @@ const Documents &documents()
 void selectAlone(benchmark::State &state)
 {
     const QString sql = documents().select();
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(documents().linkDb->executeSelectStatement(sql)->rowCount());
 }
 
@@ -126,7 +126,7 @@ void selectAndFill(benchmark::State &state)
 {
     const auto dialog = documents().dialog();
     const auto *const list = dialog->findChild<QTreeWidget *>("tvDocuments");
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         dialog->initDialog(documents().path(), 1, 0);
         QApplication::processEvents();
     }
@@ -142,7 +142,7 @@ void scrollAPage(benchmark::State &state)
     QApplication::processEvents();
     QScrollBar *const bar = list->verticalScrollBar();
     int place = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         place = (place + bar->pageStep()) % bar->maximum();
         bar->setValue(place);
         list->viewport()->repaint();

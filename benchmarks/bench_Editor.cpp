@@ -107,7 +107,7 @@ void confirmLines(benchmark::State &state)
     int line = 0;
     Seconds selecting;
     Seconds confirming;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         Seconds round;
         for (int i = 0; i < LinesPerRound; ++i) {
             line = (line + 7920) / 10 * 10 + 1; // one that the program assigned

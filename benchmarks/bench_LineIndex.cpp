@@ -55,7 +55,7 @@ void buildIndex(benchmark::State &state)
     const auto files = CatalogGenerator(shapeOf(state)).write(folder.path()).front();
     const Table table = read(files.newCsv);
     double bytes = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const PeakMemory memory;
         const VKTab::LineIndex index(table, keysOf(table, modeOf(state)));
         benchmark::DoNotOptimize(index.distinctCount());

@@ -171,7 +171,7 @@ void write(benchmark::State &state)
 void writeAgain(benchmark::State &state)
 {
     links->link(1);
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         links->link(1);
 }
 

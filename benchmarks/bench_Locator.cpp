@@ -70,7 +70,7 @@ BENCHMARK(findAtEachKey)->DenseRange(0, int(std::size(Queries)) - 1)->Unit(bench
 void takeARelease(benchmark::State &state)
 {
     const QStringList all = paths();
-    for ([[maybe_unused]] auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(finderOf(all).count());
 }
 BENCHMARK(takeARelease)->Unit(benchmark::kMillisecond);

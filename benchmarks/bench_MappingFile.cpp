@@ -73,7 +73,7 @@ void readFile(benchmark::State &state)
 void memoryOfRecords(benchmark::State &state)
 {
     double peak = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const PeakMemory memory;
         const ReleaseMappingC release = bigRelease(int(state.range(0)));
         benchmark::DoNotOptimize(release.countMappings());

@@ -24,7 +24,7 @@ void lineCount(benchmark::State &state)
 {
     const TemporaryFolder folder;
     const GeneratedProject files = generated(state, folder);
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(countLines(MappedFile(files.oldCsv).bytes()));
 }
 
@@ -32,7 +32,7 @@ void inPlaceParse(benchmark::State &state)
 {
     const TemporaryFolder folder;
     const GeneratedProject files = generated(state, folder);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const MappedFile file(files.oldCsv);
         CsvCursor cursor(file.bytes());
         std::vector<std::string_view> cells;
@@ -49,7 +49,7 @@ void handWrittenJoin(benchmark::State &state)
 {
     const TemporaryFolder folder;
     const GeneratedProject files = generated(state, folder);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const JoinResult result = referenceJoin(files.oldCsv, files.newCsv);
         state.counters["hits"] = double(result.hits);
     }
@@ -59,7 +59,7 @@ void handWrittenJoinAndFile(benchmark::State &state)
 {
     const TemporaryFolder folder;
     const GeneratedProject files = generated(state, folder);
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         writeMinimalMapping(referenceJoin(files.oldCsv, files.newCsv), folder.path() / "out.json");
 }
 
@@ -67,7 +67,7 @@ void sqliteJoin(benchmark::State &state)
 {
     const TemporaryFolder folder;
     const GeneratedProject files = generated(state, folder);
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         state.counters["hits"] = double(SqliteJoin().join(files.oldCsv, files.newCsv));
 }
 

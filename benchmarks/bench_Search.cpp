@@ -136,7 +136,7 @@ void makeIndex(benchmark::State &state)
     double making = 0;
     double reading = 0;
     double processor = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         for (const char *ending : {"", "-wal", "-shm"})
             QFile::remove(catalogs.index + QLatin1String(ending));
         QElapsedTimer clock;
@@ -167,7 +167,7 @@ void updateIndex(benchmark::State &state)
     double worst = 0;
     double processor = 0;
     int round = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         state.PauseTiming();
         const QString file = catalogs.base(catalogs.count / 2) + QStringLiteral(".prj");
         const QByteArray content = "[PROJECT]\nNAME=changed" + QByteArray::number(++round) + '\n';
@@ -207,7 +207,7 @@ void type(benchmark::State &state, const QString &text, const QString &where, in
     const CatalogSearch search(catalogs.index, catalogs.root);
     double worst = 0;
     qsizetype hits = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         for (qsizetype size = text.isEmpty() ? 0 : 1; size <= text.size(); ++size) {
             CatalogSearchQuery query;
             query.text = text.left(size);
@@ -249,7 +249,7 @@ void openFolder(benchmark::State &state)
     for (int i = 0; i < count; ++i)
         write(folder + QStringLiteral("/p%1.prj").arg(i), {});
     const PRefPtr<IndexTreeC> tree(new IndexTreeC(PPathName(dir.path())));
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         IndexTreeModelC model(IndexTreeDisplayItemC::createFromNode(tree->getRoot()));
         const PRefPtr<IndexTreeModelColumnC> column(
             new IndexTreeModelColumnC("", "Name", DisplayIndexC(DisplayIndexC::FileName)));

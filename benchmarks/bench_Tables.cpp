@@ -170,7 +170,7 @@ void confirmOne(benchmark::State &state)
     if (state.range(0) == 1)
         editor.tick("chkFilterTarget");
     int line = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         state.PauseTiming();
         line = (line + 7919) % MappedLines;
         editor.select(line + 1);
@@ -188,7 +188,7 @@ void selectOne(benchmark::State &state)
     if (state.range(0) == 1)
         editor.tick("chkFilterTarget");
     int line = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         line = (line + 7919) % MappedLines;
         editor.select(line + 1);
     }
@@ -201,7 +201,7 @@ void confirmMany(benchmark::State &state)
 {
     OpenEditor editor;
     editor.selectLines(int(state.range(0)), int(state.range(1)));
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         editor.confirm();
     state.counters["verified"] = editor.verified();
 }
@@ -224,7 +224,7 @@ const Catalog &largeCatalog()
 /// Goal: 300 ms after reading. The argument says how the lines stand.
 void openEditor(benchmark::State &state)
 {
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         state.PauseTiming();
         {
             Editor editor(largeCatalog(), LargeLines, Lines(state.range(0)));
@@ -247,7 +247,7 @@ void showUnassigned(benchmark::State &state)
 {
     Editor editor(largeCatalog(), LargeLines, Lines(state.range(0)));
     editor.open();
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         editor.tick("chkFilterSource");
         state.PauseTiming();
         state.counters["rows"] = editor.source()->model()->rowCount();
@@ -269,7 +269,7 @@ void showUnused(benchmark::State &state)
     Editor editor(largeCatalog(), LargeLines, AllAssigned);
     editor.open();
     editor.select(1);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         editor.tick("chkFilterTarget");
         state.PauseTiming();
         editor.tick("chkFilterTarget");
@@ -286,7 +286,7 @@ void scrollView(benchmark::State &state)
     const VkTableView &view = *editor.source();
     QScrollBar *const bar = view.grid()->verticalScrollBar();
     int position = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         position = int((qint64(position) + 7919 * 20) % bar->maximum());
         bar->setValue(position);
         view.grid()->viewport()->repaint();
@@ -308,7 +308,7 @@ void filterView(benchmark::State &state)
     model->setQuickFilter(variable, "x");
     model->clearQuickFilters();
     int step = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         model->setQuickFilter(variable, QStringLiteral("12345").left(++step % 6));
         view.grid()->viewport()->repaint();
     }

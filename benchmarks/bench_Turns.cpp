@@ -170,7 +170,7 @@ void report(benchmark::State &state, const LoopTurns &turns)
 void measureTurns(benchmark::State &state, const std::function<void()> &work)
 {
     LoopTurns turns;
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         turns.run(work);
     report(state, turns);
 }
@@ -182,7 +182,7 @@ void measureAnew(benchmark::State &state, const std::function<std::unique_ptr<Wo
 {
     double wall = 0;
     double cpu = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const std::unique_ptr<Workbench> workbench = make();
         LoopTurns turns;
         turns.run([&] { work(*workbench); }, [&] { return !isDone || isDone(*workbench); });
@@ -337,7 +337,7 @@ void readPatterns(benchmark::State &state)
 {
     const std::unique_ptr<Workbench> workbench = Workbench::opened();
     LoopTurns turns;
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         turns.run([&] { workbench->action("reviewPatterns")->trigger(); },
                   [&] { return workbench->hasPatterns(); });
     report(state, turns);

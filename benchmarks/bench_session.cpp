@@ -70,7 +70,7 @@ void bulkConfirm(benchmark::State &state)
     QList<int> lines(BulkLines);
     std::iota(lines.begin(), lines.end(), 1);
     int changed = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         changed = BulkOperation(session.document, session.project, lines)
                       .run(BulkOperation::Confirm)
                       .lines;
@@ -86,7 +86,7 @@ void publishEach(benchmark::State &state)
 {
     Session session(int(state.range(0)));
     const std::unique_ptr<CatalogMappingHandlerI> handler(session.document.createHandler());
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         for (int line = 1; line <= BulkLines; ++line)
             handler->updateMapping(confirmed(session.document.mapping(session.project), line));
         QCoreApplication::processEvents();
