@@ -19,6 +19,7 @@ private Q_SLOTS:
     void isText();
     void toText_data();
     void toText();
+    void textsAreReadAgain();
     void toDouble();
     void randomForms();
     void keys_data();
@@ -176,8 +177,18 @@ void tst_CanonicalNumber::toText_data()
                                           << "0.5";
     QTest::newRow("one digit before the point") << "2.5"
                                                 << "2.5";
-    QTest::newRow("first with an exponent") << "1e16"
-                                            << "1e16";
+    QTest::newRow("longest integer") << "1e13"
+                                     << "10000000000000";
+    QTest::newRow("first with an exponent") << "1e14"
+                                            << "1e14";
+    QTest::newRow("rounded up to one more digit") << "99999999999999.5"
+                                                  << "1e14";
+    QTest::newRow("integer with all digits") << "-12345678901234"
+                                             << "-12345678901234";
+    QTest::newRow("all digits with an exponent") << "12345678901234e6"
+                                                 << "12345678901234e6";
+    QTest::newRow("all digits of a fraction") << "12345678901234e-3"
+                                              << "12345678901234e-3";
     QTest::newRow("smallest in plain notation") << "1e-15"
                                                 << "0.000000000000001";
     QTest::newRow("first with a negative exponent") << "1e-16"
@@ -190,6 +201,22 @@ void tst_CanonicalNumber::toText()
     QFETCH(QString, expected);
     QCOMPARE(QString::fromStdString(parse(text)->toText()), expected);
     QCOMPARE(parse(expected)->packed(), parse(text)->packed());
+}
+
+/// Of any number that can be read.
+void tst_CanonicalNumber::textsAreReadAgain()
+{
+    QRandomGenerator random(11);
+    for (int round = 0; round < 20000; ++round) {
+        const qint64 digits = random.bounded(quint64(1) << random.bounded(1, 46));
+        const QString text = QStringLiteral("%1e%2").arg(digits).arg(random.bounded(-40, 40));
+        const auto number = parse(text);
+        if (!number) // more digits than it may have
+            continue;
+        const QString again = QString::fromStdString(number->toText());
+        QVERIFY2(parse(again) && parse(again)->packed() == number->packed(),
+                 qPrintable(text + " as " + again));
+    }
 }
 
 void tst_CanonicalNumber::toDouble()

@@ -157,7 +157,10 @@ std::string CanonicalNumber::toText() const
     std::string digits = std::to_string(m_packed & DigitsMask);
     const int exponent = int(m_packed >> 48 & 0x7FFF) - ExponentBias;
     const int point = int(digits.size()) + exponent; // digits before the decimal point
-    if (point > 16 || point < -14) {
+    const bool isLong = point > MaxIntegerDigits;    // as an integer it would be a text
+    if (int(digits.size()) > Digits && (isLong || exponent < 0)) {
+        digits += "e" + std::to_string(exponent); // digits behind a point would be rounded
+    } else if (isLong || point < -14) {
         const int power = point - 1;
         if (digits.size() > 1)
             digits.insert(1, 1, '.');

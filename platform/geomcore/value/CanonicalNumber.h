@@ -44,7 +44,8 @@ public:
     [[nodiscard]] bool isNegative() const { return (m_packed >> 63) != 0; }
     /// The nearest double.
     [[nodiscard]] double toDouble() const;
-    /// Shortest plain notation with '.', or with an exponent beyond 1e±15.
+    /// Plain notation with '.', or with an exponent above MaxIntegerDigits digits and below 1e-15:
+    /// parse() gives the same number for it.
     [[nodiscard]] std::string toText() const;
 
     friend bool operator==(CanonicalNumber, CanonicalNumber) = default;
