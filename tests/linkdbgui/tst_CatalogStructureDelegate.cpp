@@ -4,9 +4,11 @@
 #include <mapping/view/CatalogStructureModel.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
@@ -98,6 +100,17 @@ QIcon iconOf(const QModelIndex &index)
 }
 
 } // namespace
+
+// The macros are not for namespaces.
+static void releaseBitmaps()
+{
+    Q_CLEANUP_RESOURCE(VelkLinkDbGui);
+}
+
+static void registerBitmaps()
+{
+    Q_INIT_RESOURCE(VelkLinkDbGui);
+}
 
 class tst_CatalogStructureDelegate : public QObject
 {
@@ -304,6 +317,57 @@ private Q_SLOTS:
         QTest::failOnWarning(QRegularExpression(".*"));
         const QStyleOptionViewItem item = painted(model.index(0, 0), rowOption());
         QVERIFY(item.decorationSize.isEmpty());
+    }
+
+    /// The same delegate, a row whose icon and state change: nothing is kept from one to the next.
+    void nothingIsKeptBetweenPaints()
+    {
+        QStandardItemModel model;
+        auto *row = new QStandardItem("text");
+        row->setData(0x100, CatalogStructureModel::MappingStateRole);
+        model.appendRow(row);
+        const CatalogStructureDelegate delegate(nullptr);
+        const auto drawn = [&] {
+            QImage image(200, 40, QImage::Format_ARGB32);
+            QPainter painter(&image);
+            m_style->forget();
+            delegate.paint(&painter, rowOption(), model.index(0, 0));
+            return imageOf(m_style->items.value(0));
+        };
+        QCOMPARE(drawn(), Picture(QSize(16, 16)).draw(0, stateIcon("state_deleted")).image);
+        row->setData(0x200, CatalogStructureModel::MappingStateRole);
+        QCOMPARE(drawn(), Picture(QSize(16, 16)).draw(0, stateIcon("state_confirmed")).image);
+        row->setData(stateIcon("error"), Qt::DecorationRole);
+        QCOMPARE(drawn(), Picture(QSize(32, 16))
+                              .draw(0, stateIcon("state_confirmed"))
+                              .draw(16, stateIcon("error"))
+                              .image);
+        row->setData(stateIcon("state_check"), Qt::DecorationRole);
+        QCOMPARE(drawn(), Picture(QSize(32, 16))
+                              .draw(0, stateIcon("state_confirmed"))
+                              .draw(16, stateIcon("state_check"))
+                              .image);
+    }
+
+    /// A plug-in without its pictures: the row is drawn with an empty place for its state.
+    void missingBitmapsLeaveTheirPlaceEmpty()
+    {
+        QStandardItemModel model;
+        auto *row = new QStandardItem("text");
+        row->setData(0x100, CatalogStructureModel::MappingStateRole);
+        model.appendRow(row);
+        int registrations = 0;
+        for (; QFile::exists(":/bitmaps/state_deleted.png") && registrations < 5; ++registrations)
+            releaseBitmaps();
+        const auto restored = qScopeGuard([&] {
+            for (; registrations > 0; --registrations)
+                registerBitmaps();
+        });
+        QVERIFY(!QFile::exists(":/bitmaps/state_deleted.png"));
+        QTest::failOnWarning(QRegularExpression(".*"));
+        const QStyleOptionViewItem item = painted(model.index(0, 0), rowOption());
+        QCOMPARE(item.decorationSize, QSize(16, 16));
+        QCOMPARE(imageOf(item), Picture(QSize(16, 16)).image);
     }
 
     void theRestOfTheOptionIsKept()
